@@ -1,0 +1,41 @@
+#include "base/File.h"
+
+#include "base/FormatError.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <system_error>
+
+namespace {
+
+FormatError systemError(int code)
+{
+    return FormatError("cannot be read (" + std::generic_category().message(code) + ")");
+}
+
+} // namespace
+
+std::vector<std::byte> readFile(const std::filesystem::path& path)
+{
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error))
+        throw systemError(EISDIR);
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
+                                                               std::fclose);
+    if (!file)
+        throw systemError(errno);
+
+    // Read by blocks rather than by the file's size: pipes and the like have none.
+    std::vector<std::byte> bytes;
+    constexpr std::size_t kBlock = 1 << 16;
+    std::size_t length = 0;
+    do {
+        bytes.resize(bytes.size() + kBlock);
+        length = std::fread(bytes.data() + bytes.size() - kBlock, 1, kBlock, file.get());
+        bytes.resize(bytes.size() - kBlock + length);
+    } while (length == kBlock);
+    if (std::ferror(file.get()) != 0)
+        throw systemError(errno);
+    return bytes;
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <vector>
+
+/// Every byte of the file. Throws FormatError with the system's reason when it cannot be read.
+std::vector<std::byte> readFile(const std::filesystem::path& path);

@@ -1,0 +1,24 @@
+#include "base/Log.h"
+
+#include <spdlog/cfg/env.h>
+#include <spdlog/sinks/stdout_color_sinks.h>
+#include <spdlog/spdlog.h>
+
+#include <mutex>
+
+spdlog::logger& logger(const std::string& folder)
+{
+    static std::mutex mutex;
+    const std::lock_guard lock(mutex);
+    if (const auto known = spdlog::get(folder))
+        return *known;
+    const auto made = spdlog::stderr_color_mt(folder);
+    made->set_pattern("%n: %v");
+    return *made;
+}
+
+void setLogLevel(spdlog::level::level_enum level)
+{
+    spdlog::set_level(level);
+    spdlog::cfg::load_env_levels();
+}

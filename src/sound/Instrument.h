@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+class Temperament;
+
+/// A sound source that plays MIDI keys 0…127 at the pitches of a temperament. Not safe for use from
+/// several threads at once: the application's lock guards it.
+class Instrument {
+public:
+    virtual ~Instrument() = default;
+
+    /// Whether it offers a choice of General MIDI programs.
+    virtual bool hasSubMenu() const { return false; }
+
+    /// Gain of a stop, numbered from 0; 0 for one that does not exist.
+    virtual float getVolume(std::size_t stop) const = 0;
+
+    /// Sets the gain of a stop, numbered from 0; one that does not exist is ignored.
+    virtual void setVolume(std::size_t stop, float volume) = 0;
+
+    /// How many stops have a volume of their own.
+    virtual std::size_t numStops() const = 0;
+
+    /// Starts a key; velocity from 0 to 1.
+    virtual void play(int key, float velocity) = 0;
+
+    /// Releases a key. One that does not sound is ignored.
+    virtual void stop(int key) = 0;
+
+    /// Retunes the keys `lo` to `hi` inclusive, sounding ones too.
+    virtual void tune(const Temperament& temperament, int lo, int hi) = 0;
+
+    /// One step, 60 in a second, in the decay of released keys.
+    virtual void fade(double /*factor*/) {}
+
+    /// Selects a General MIDI program, 0…127.
+    virtual void setInstrument(std::uint8_t /*program*/) {}
+
+    /// Bytes of sample memory held.
+    std::int64_t usage = 0;
+};

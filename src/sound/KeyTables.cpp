@@ -1,0 +1,4 @@
+#include "sound/KeyTables.h"
+
+std::array<std::atomic<int>, kKeys> noteStates{};
+std::array<std::atomic<float>, kKeys> noteVelocities{};

@@ -1,0 +1,77 @@
+#include "sound/MIDIInstrument.h"
+
+#include "tuning/Temperament.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr int kChannels = 16;
+constexpr std::uint8_t kStartUpProgram = 2;
+
+/// The channel of a pitch class. Channel 9 is General MIDI's percussion, so A moves to channel 12.
+int channelOf(int key)
+{
+    const int pitchClass = key % 12;
+    return pitchClass == 9 ? 12 : pitchClass;
+}
+
+} // namespace
+
+MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device) : device_(std::move(device))
+{
+    for (int channel = 0; channel < kChannels; ++channel)
+        device_->midiEvent(0xB0 | channel, 0, 0);
+    setInstrument(kStartUpProgram);
+}
+
+bool MIDIInstrument::hasSubMenu() const
+{
+    return true;
+}
+
+float MIDIInstrument::getVolume(std::size_t stop) const
+{
+    return stop == 0 ? volume_ : 0.0F;
+}
+
+void MIDIInstrument::setVolume(std::size_t stop, float volume)
+{
+    if (stop == 0)
+        volume_ = volume;
+}
+
+std::size_t MIDIInstrument::numStops() const
+{
+    return 1;
+}
+
+void MIDIInstrument::play(int key, float velocity)
+{
+    const int value = static_cast<int>(velocity * 127.0F * volume_);
+    device_->midiEvent(0x90 | channelOf(key), key, value);
+}
+
+void MIDIInstrument::stop(int key)
+{
+    device_->midiEvent(0x80 | channelOf(key), key, 0);
+}
+
+void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/)
+{
+    for (int pitchClass = 1; pitchClass < 12; ++pitchClass) {
+        const double cents = temperament.getTuning(static_cast<unsigned>(pitchClass)).cent();
+        // The default bend range, ±200 cents over ±64 steps of the most significant byte.
+        const double bend = (cents - 100.0 * pitchClass) * 64.0 / 200.0;
+        const double steps = std::floor(bend);
+        const int leastSignificant = static_cast<int>((bend - steps) * 128.0);
+        const int mostSignificant = static_cast<int>(steps) + 64;
+        device_->midiEvent(0xE0 | channelOf(pitchClass), leastSignificant, mostSignificant);
+    }
+}
+
+void MIDIInstrument::setInstrument(std::uint8_t program)
+{
+    for (int channel = 0; channel < kChannels; ++channel)
+        device_->midiEvent(0xC0 | channel, program, 0);
+}

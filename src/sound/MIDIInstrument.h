@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/MusicDevice.h"
+#include "sound/Instrument.h"
+
+#include <memory>
+
+/// Plays a General MIDI synthesizer in any temperament: each pitch class has a MIDI channel of its
+/// own, bent to its pitch. Pitch class 0 is the reference and is never bent.
+class MIDIInstrument : public Instrument {
+public:
+    /// Takes the device over and selects its start-up program.
+    explicit MIDIInstrument(std::unique_ptr<MusicDevice> device);
+
+    bool hasSubMenu() const override;
+    float getVolume(std::size_t stop) const override;
+    void setVolume(std::size_t stop, float volume) override;
+    std::size_t numStops() const override;
+    void play(int key, float velocity) override;
+    void stop(int key) override;
+    void tune(const Temperament& temperament, int lo, int hi) override;
+    void setInstrument(std::uint8_t program) override;
+
+private:
+    std::unique_ptr<MusicDevice> device_;
+    float volume_ = 1.0F;
+};

@@ -1,0 +1,121 @@
+#include "tuning/DynamicTemperament.h"
+
+#include "base/Log.h"
+#include "sound/Instrument.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace {
+
+/// The index of each pitch class's normal spelling. Its neighbours are its two others.
+constexpr std::array<std::uint8_t, 12> kHome = {1, 3, 6, 9, 11, 14, 16, 19, 21, 24, 27, 29};
+
+/// The score of a spelling that is still sounding.
+constexpr float kHold = 12.0F;
+
+/// Below this weight a pitch class has faded.
+constexpr double kFaded = 0.02;
+
+} // namespace
+
+DynamicTemperament::DynamicTemperament()
+{
+    const auto cents = [this](double value) { append(std::make_unique<Cent>(value)); };
+    const auto ratio = [this](double numerator, double denominator) {
+        append(std::make_unique<Ratio>(numerator, denominator));
+    };
+    ratio(125, 128);
+    cents(0);
+    ratio(128, 125);
+    cents(76.049);
+    cents(117.10786);
+    cents(152.098);
+    cents(193.15686);
+    cents(234.21572);
+    cents(269.20586);
+    cents(310.26471);
+    cents(351.32357);
+    ratio(5, 4);
+    ratio(32, 25);
+    cents(462.36271);
+    cents(503.42157);
+    cents(544.48043);
+    cents(579.47057);
+    cents(620.52943);
+    cents(655.51957);
+    cents(696.57843);
+    cents(737.63729);
+    ratio(25, 16);
+    ratio(8, 5);
+    cents(848.67643);
+    cents(889.73529);
+    cents(930.79414);
+    cents(965.78428);
+    cents(1006.84314);
+    cents(1047.902);
+    cents(1082.89214);
+    cents(1123.951);
+
+    for (std::size_t pitchClass = 0; pitchClass < voices_.size(); ++pitchClass)
+        voices_[pitchClass] = {kHome[pitchClass], 0.0F};
+}
+
+const Tuning& DynamicTemperament::getTuning(unsigned long key) const
+{
+    return *tunings()[voices_[key % 12].current];
+}
+
+float DynamicTemperament::score(const Voice& struck, std::size_t candidate) const
+{
+    float sum = struck.current == candidate && struck.weight != 0.0F ? kHold : 0.0F;
+    for (const Voice& sounding : voices_) {
+        const float pull = sounding.weight * affinity_[sounding.current][candidate];
+        if (pull > 0.0F)
+            sum += pull;
+    }
+    return sum;
+}
+
+void DynamicTemperament::setup(Instrument& instrument, unsigned char key, float velocity)
+{
+    const std::size_t pitchClass = key % 12U;
+    const std::size_t home = kHome[pitchClass];
+    Voice& struck = voices_[pitchClass];
+
+    float best = 0.0F;
+    std::size_t chosen = home;
+    for (std::size_t candidate = home - 1; candidate <= home + 1; ++candidate) {
+        const float candidateScore = score(struck, candidate);
+        if (candidateScore > best) {
+            best = candidateScore;
+            chosen = candidate;
+        }
+    }
+    struck = {chosen, velocity};
+    instrument.tune(*this, 0, 127);
+}
+
+void DynamicTemperament::isomorph(Instrument& instrument, int n)
+{
+    assert(n >= -1);
+    const int k = (n + 1) / 3;
+    const int neighbour = n - 3 * k;
+    const auto pitchClass = static_cast<std::size_t>(k % 12);
+    const int spelling = kHome[pitchClass] + neighbour;
+    logger("tuning").info("ISOMORPH {}", spelling);
+    voices_[pitchClass] = {static_cast<std::size_t>(spelling), 0.0F};
+    instrument.tune(*this, 0, 127);
+    instrument.play(48 + k, 1.0F);
+}
+
+void DynamicTemperament::fade(double factor)
+{
+    for (Voice& voice : voices_) {
+        voice.weight = static_cast<float>(voice.weight * factor);
+        if (voice.weight < kFaded)
+            voice.weight = 0.0F;
+    }
+    if (std::ranges::all_of(voices_, [](const Voice& voice) { return voice.weight == 0.0F; }))
+        voices_[0] = {kHome[0], static_cast<float>(kFaded)};
+}

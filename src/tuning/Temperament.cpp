@@ -1,0 +1,54 @@
+#include "tuning/Temperament.h"
+
+const Temperament equal = Temperament::Equal();
+
+Temperament Temperament::Equal()
+{
+    Temperament temperament;
+    for (int i = 0; i < 12; ++i)
+        temperament.append(std::make_unique<Cent>(100.0 * i));
+    return temperament;
+}
+
+Temperament Temperament::Meantone()
+{
+    Temperament temperament;
+    const auto cents = [&](double value) { temperament.append(std::make_unique<Cent>(value)); };
+    const auto ratio = [&](double numerator, double denominator) {
+        temperament.append(std::make_unique<Ratio>(numerator, denominator));
+    };
+    cents(0);
+    cents(76.049);
+    cents(193.15686);
+    cents(310.26471);
+    ratio(5, 4);
+    cents(503.42157);
+    cents(579.47057);
+    cents(696.57843);
+    ratio(25, 16);
+    cents(889.73529);
+    cents(1006.84314);
+    cents(1082.89214);
+    return temperament;
+}
+
+const Tuning& Temperament::getTuning(unsigned long key) const
+{
+    return *tunings_[key % 12];
+}
+
+void Temperament::setup(Instrument& /*instrument*/, unsigned char /*key*/, float /*velocity*/) {}
+
+void Temperament::isomorph(Instrument& /*instrument*/, int /*n*/) {}
+
+void Temperament::fade(double /*factor*/) {}
+
+double Temperament::getPitch(unsigned long key) const
+{
+    return getTuning(key).tune(baseFrequency_, static_cast<int>(key / 12) - 4);
+}
+
+void Temperament::append(std::unique_ptr<Tuning> tuning)
+{
+    tunings_.push_back(std::move(tuning));
+}
