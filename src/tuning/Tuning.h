@@ -28,7 +28,7 @@ private:
     double cents_;
 };
 
-/// A pitch class given as a frequency ratio. Numerator and denominator are finite and above zero.
+/// A pitch class given as a frequency ratio above zero.
 class Ratio : public Tuning {
 public:
     Ratio(double numerator, double denominator) : numerator_(numerator), denominator_(denominator)
