@@ -1,0 +1,30 @@
+// The first byte chooses the format, the rest is the tuning file. What is accepted sounds on every
+// key.
+
+#include "base/FormatError.h"
+#include "base/Log.h"
+#include "tuning/TuningFile.h"
+
+#include <cmath>
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const bool quiet = (setLogLevel(spdlog::level::off), true);
+    if (!quiet || size == 0)
+        return 0;
+    const auto format = data[0] == 'm' ? TuningFormat::Frequencies : TuningFormat::Scale;
+    try {
+        const auto bytes = std::as_bytes(std::span(data, size)).subspan(1);
+        const Temperament temperament = readTuning(bytes, format);
+        for (unsigned long key = 0; key < 128; ++key) {
+            const double hertz = temperament.getPitch(key);
+            if (!std::isfinite(hertz) || hertz <= 0.0 ||
+                !std::isfinite(temperament.getTuning(key).cent()))
+                std::abort();
+        }
+    } catch (const FormatError&) {
+        return 0;
+    }
+    return 0;
+}
