@@ -1,0 +1,47 @@
+// Any bytes: either a FormatError or notes with sound times, which make a sequence.
+
+#include "base/FormatError.h"
+#include "platform/StandardMidiFile.h"
+#include "sequencer/SequenceFile.h"
+
+#include <cmath>
+#include <cstdlib>
+
+namespace {
+
+void require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+void checkTimes(const StandardMidiFile& file)
+{
+    for (const auto& track : file.tracks) {
+        double before = 0.0;
+        for (const MidiEvent& event : track) {
+            require(event.beats >= before && event.duration >= 0.0F);
+            require(event.channel < 16 && event.key < 128 && event.velocity < 128);
+            before = event.beats;
+            const double seconds = file.secondsForBeats(event.beats);
+            require(std::isfinite(seconds) && seconds >= 0.0);
+        }
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    try {
+        const auto file = readStandardMidiFile(std::as_bytes(std::span(data, size)));
+        checkTimes(file);
+        Sequence sequence;
+        const double mx = readSequence(file, 21, 108, sequence).mx;
+        for (const Note& note : sequence.notes())
+            require(sequence.find(note.id) == &note && note.start + note.length < mx);
+    } catch (const FormatError&) {
+        return 0;
+    }
+    return 0;
+}
