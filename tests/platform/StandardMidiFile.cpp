@@ -102,7 +102,7 @@ TEST(StandardMidiFile, StepsOverWhatIsNoAnnouncedTrack)
              {"long header", chunk("MThd", bytes({0, 2, 0, 1, 0, 96, 1, 2, 3})) + one},
              {"no end-of-track mark", header(0, 1) + chunk("MTrk", on(0, 60) + off(96, 60))},
              {"junk behind", header(0, 1) + one + "junk"},
-             {"one track more", header(1, 1) + one + one},
+             {"one track more", header(1, 1) + one + track(kController)},
              {"RIFF wrapping", "RIFF" + number(0, 4) + "RMIDdata" + number(0, 4) + header(0, 1) +
                                    one + chunk("LIST", "")}})
         EXPECT_THAT(shown(read(file).tracks.at(0)), ElementsAre("60@0+1")) << name;
@@ -112,9 +112,8 @@ TEST(StandardMidiFile, TurnsBeatsIntoSecondsByTheTempoOfAllTracks)
 {
     EXPECT_DOUBLE_EQ(read(file("")).secondsForBeats(3.0), 1.5) << "120 beats a minute";
 
-    const StandardMidiFile two =
-        read(header(1, 2) + track(tempo(96 * 6, 250'000)) +
-             track(tempo(96 * 2, 9) + tempo(0, 1'000'000) + tempo(96 * 2, 0)));
+    const StandardMidiFile two = read(header(1, 2) + track(tempo(576, 250'000)) +
+                                      track(tempo(192, 9) + tempo(0, 1'000'000) + tempo(192, 0)));
     EXPECT_DOUBLE_EQ(two.secondsForBeats(2.0), 1.0);
     EXPECT_DOUBLE_EQ(two.secondsForBeats(4.0), 3.0) << "of two tempos at once the last holds";
     EXPECT_DOUBLE_EQ(two.secondsForBeats(6.0), 5.0) << "a tempo of 0 is none";
