@@ -1,0 +1,40 @@
+#include "platform/DisplayWake.h"
+
+#include "base/Log.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+
+namespace {
+
+constexpr std::chrono::seconds kInterval(5);
+
+} // namespace
+
+DisplayWake::DisplayWake()
+{
+    if (QCoreApplication::instance() == nullptr)
+        return;
+    auto bus = std::make_unique<QDBusConnection>(QDBusConnection::sessionBus());
+    if (bus->isConnected())
+        bus_ = std::move(bus);
+    else
+        logger("platform").debug("no session bus: the display may go to sleep");
+}
+
+DisplayWake::~DisplayWake() = default;
+
+void DisplayWake::userActivity()
+{
+    const auto now = std::chrono::steady_clock::now();
+    if (!bus_ || (told_ && now - *told_ < kInterval))
+        return;
+    told_ = now;
+    auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.ScreenSaver"),
+                                                  QStringLiteral("/org/freedesktop/ScreenSaver"),
+                                                  QStringLiteral("org.freedesktop.ScreenSaver"),
+                                                  QStringLiteral("SimulateUserActivity"));
+    message.setAutoStartService(false);
+    bus_->send(message);
+}

@@ -1,0 +1,45 @@
+#include "platform/quiet.h"
+
+#include "base/Log.h"
+
+#include <alsa/asoundlib.h>
+#include <jack/jack.h>
+
+#include <array>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+void logAlsa(const char* /*file*/, int /*line*/, const char* function, int /*error*/,
+             const char* format, ...)
+{
+    std::array<char, 512> text{};
+    va_list arguments;
+    va_start(arguments, format);
+    std::vsnprintf(text.data(), text.size(), format, arguments);
+    va_end(arguments);
+    logger("platform").debug("ALSA: {}: {}", function, text.data());
+}
+
+void logJack(const char* text)
+{
+    logger("platform").debug("JACK: {}", text);
+}
+
+bool redirect()
+{
+    setenv("JACK_NO_START_SERVER", "1", 0);
+    snd_lib_error_set_handler(logAlsa);
+    jack_set_error_function(logJack);
+    jack_set_info_function(logJack);
+    return true;
+}
+
+} // namespace
+
+void quietSoundLibraries()
+{
+    [[maybe_unused]] static const bool done = redirect();
+}

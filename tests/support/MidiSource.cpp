@@ -1,0 +1,39 @@
+#include "support/MidiSource.h"
+
+#include <jack/midiport.h>
+
+#include <stdexcept>
+#include <utility>
+
+MidiSource::MidiSource(const std::string& client, const std::vector<std::string>& ports)
+    : client_(jack_client_open(client.c_str(), JackNoStartServer, nullptr), jack_client_close)
+{
+    if (!client_)
+        throw std::runtime_error("no JACK server");
+    for (const std::string& port : ports)
+        ports_.push_back(jack_port_register(client_.get(), port.c_str(), JACK_DEFAULT_MIDI_TYPE,
+                                            JackPortIsOutput, 0));
+    jack_set_process_callback(client_.get(), process, this);
+    jack_activate(client_.get());
+}
+
+void MidiSource::send(std::size_t port, std::vector<std::uint8_t> message)
+{
+    const std::lock_guard lock(mutex_);
+    messages_.push_back({port, std::move(message)});
+}
+
+int MidiSource::process(jack_nframes_t frames, void* self)
+{
+    auto& source = *static_cast<MidiSource*>(self);
+    for (jack_port_t* port : source.ports_)
+        jack_midi_clear_buffer(jack_port_get_buffer(port, frames));
+    const std::unique_lock lock(source.mutex_, std::try_to_lock);
+    if (!lock)
+        return 0;
+    for (const auto& [port, bytes] : source.messages_)
+        jack_midi_event_write(jack_port_get_buffer(source.ports_.at(port), frames), 0, bytes.data(),
+                              bytes.size());
+    source.messages_.clear();
+    return 0;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <jack/jack.h>
+
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+/// A JACK client with MIDI outputs, as a keyboard would have, on the default server.
+class MidiSource {
+public:
+    /// Makes the ports "CLIENT:PORT". Throws std::runtime_error where there is no server.
+    MidiSource(const std::string& client, const std::vector<std::string>& ports);
+
+    MidiSource(const MidiSource&) = delete;
+    MidiSource& operator=(const MidiSource&) = delete;
+
+    /// Sends one message from the port of that index in one of the next periods.
+    void send(std::size_t port, std::vector<std::uint8_t> message);
+
+private:
+    struct Message {
+        std::size_t port;
+        std::vector<std::uint8_t> bytes;
+    };
+
+    static int process(jack_nframes_t frames, void* self);
+
+    std::mutex mutex_;
+    std::vector<Message> messages_; // to be sent
+    std::vector<jack_port_t*> ports_;
+    std::unique_ptr<jack_client_t, int (*)(jack_client_t*)> client_; // last: stops the thread
+};
