@@ -105,11 +105,10 @@ void Sequence::deselect()
 
 void Sequence::deselect(Note& note)
 {
-    const auto entry = std::find(selection_.begin(), selection_.end(), note.id);
-    if (entry == selection_.end())
-        return;
     note.selected = false;
-    selection_.erase(entry);
+    const auto entry = std::find(selection_.begin(), selection_.end(), note.id);
+    if (entry != selection_.end())
+        selection_.erase(entry);
 }
 
 std::vector<Note> Sequence::getSelection() const

@@ -68,7 +68,7 @@ public:
 
     void deselect();
 
-    /// Takes a stored note out of the selection, where it is named first.
+    /// Clears the flag of a stored note and its first mention in the selection, if there is one.
     void deselect(Note& note);
 
     /// Copies in the order of the selection.

@@ -52,7 +52,10 @@ TEST(Sequence, HandsOutEveryIdentityOnce)
     EXPECT_EQ(sequence.addNote(noteAt(6.0)).id, 4);
     Note chosen = noteAt(7.0);
     chosen.selected = true;
-    EXPECT_TRUE(sequence.addNote(chosen).selected);
+    Note& stored = sequence.addNote(chosen);
+    EXPECT_TRUE(stored.selected);
+    sequence.deselect(stored);
+    EXPECT_FALSE(stored.selected) << "although the selection does not name it";
 }
 
 TEST(Sequence, SortsByStartAndFindsEveryNoteAgain)
