@@ -217,6 +217,9 @@ TEST_F(TuningDocumentTest, KeepsItsTemperamentWhenAFileCannotBeRead)
     EXPECT_FALSE(document.readFromURL(testing::TempDir(), "scale"));
     EXPECT_THAT(document.errorString(), HasSubstr("cannot be read (Is a directory)"));
     EXPECT_EQ(cents(1), 90.0);
+    ASSERT_TRUE(read(scale("80.0")));
+    EXPECT_EQ(document.errorString(), "");
+    EXPECT_EQ(cents(1), 80.0);
 }
 
 TEST(TuningDocument, HoldsTheBuiltInTunings)
