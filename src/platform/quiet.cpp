@@ -18,6 +18,7 @@ void logAlsa(const char* /*file*/, int /*line*/, const char* function, int /*err
     std::array<char, 512> text{};
     va_list arguments;
     va_start(arguments, format);
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): clang 14 overlooks va_start at times
     std::vsnprintf(text.data(), text.size(), format, arguments);
     va_end(arguments);
     logger("platform").debug("ALSA: {}: {}", function, text.data());
