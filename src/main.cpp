@@ -1,4 +1,6 @@
-int main()
+#include "cli/commandLine.h"
+
+int main(int argc, char** argv)
 {
-    return 0;
+    return runCommandLine(argc, argv);
 }

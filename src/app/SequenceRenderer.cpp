@@ -1,0 +1,64 @@
+#include "app/SequenceRenderer.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr double kTicksPerSecond = 1024.0;
+constexpr double kFadeSeconds = 0.016666;
+constexpr std::size_t kTicksPerReport = 64;
+
+} // namespace
+
+SequenceRenderer::SequenceRenderer(AppDelegate& application, AudioSource& source,
+                                   const std::filesystem::path& path)
+    : application_(application), source_(source), document_(application, [this] { return now_; })
+{
+    document_.readFromURL(path);
+}
+
+bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sink,
+                              const RenderProgress& progress)
+{
+    const double begin = options.loop ? options.loop->start : 0.0;
+    const double end = options.loop ? options.loop->end : document_.extent();
+    const int times = options.loop ? options.loop->times : 1;
+    if (options.loop)
+        document_.selectInterval(begin, end);
+    document_.setLoop(times > 1);
+
+    int played = 0;
+    document_.play();
+    while (document_.mode() == SequenceDocument::Mode::Playing) {
+        if (ticks_ % kTicksPerReport == 0 &&
+            !progress((played + (document_.getOffset() - begin) / (end - begin)) / times))
+            return false;
+        soundUntil(static_cast<double>(++ticks_) / kTicksPerSecond, options.rate, sink);
+        const double before = document_.getOffset();
+        document_.loop();
+        if (document_.getOffset() < before)
+            document_.setLoop(++played < times - 1);
+    }
+    soundUntil(now_ + options.tailSeconds, options.rate, sink);
+    return progress(1.0);
+}
+
+void SequenceRenderer::soundUntil(double seconds, double rate, const AudioSink& sink)
+{
+    const auto sound = [&](double moment) {
+        const std::size_t count = static_cast<std::size_t>(moment * rate) - frames_;
+        left_.resize(std::max(left_.size(), count));
+        right_.resize(left_.size());
+        source_.render(left_.data(), right_.data(), count);
+        sink(left_.data(), right_.data(), count);
+        frames_ += count;
+    };
+    for (double fade = static_cast<double>(fades_ + 1) * kFadeSeconds; fade <= seconds;
+         fade = static_cast<double>(fades_ + 1) * kFadeSeconds) {
+        sound(fade);
+        application_.loop();
+        ++fades_;
+    }
+    sound(seconds);
+    now_ = seconds;
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/AppDelegate.h"
+#include "platform/AudioSource.h"
+#include "sequencer/SequenceDocument.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+/// A stretch of a sequence to be played several times over.
+struct RenderLoop {
+    double start; ///< In steps, before `end`.
+    double end;
+    int times; ///< At least 1.
+};
+
+struct RenderOptions {
+    double rate = 48000.0; ///< Frames in a second; that of the audio source.
+    double tailSeconds = 1.0;
+    std::optional<RenderLoop> loop;
+};
+
+/// Takes the sound as it is made, block by block.
+using AudioSink = std::function<void(const float* left, const float* right, std::size_t frames)>;
+
+/// Told between the blocks how much is done, from 0 to 1; false gives the rendering up.
+using RenderProgress = std::function<bool(double done)>;
+
+/// Plays a sequence file as the program plays it, on the application's current instrument and
+/// temperament, on a clock of its own: without a device, faster than it sounds, the same at every
+/// run. `source` is what the instrument sounds through.
+class SequenceRenderer {
+public:
+    /// Reads the file; `errorString` says so when it cannot be read.
+    SequenceRenderer(AppDelegate& application, AudioSource& source,
+                     const std::filesystem::path& path);
+
+    const std::string& errorString() const { return document_.errorString(); }
+
+    /// Plays from the beginning to the end and for the tail. False when `progress` gave it up.
+    bool render(const RenderOptions& options, const AudioSink& sink,
+                const RenderProgress& progress);
+
+private:
+    /// Sounds up to a moment of the clock, fading on the way.
+    void soundUntil(double seconds, double rate, const AudioSink& sink);
+
+    AppDelegate& application_;
+    AudioSource& source_;
+    double now_ = 0.0;
+    SequenceDocument document_;
+    std::size_t ticks_ = 0, fades_ = 0, frames_ = 0;
+    std::vector<float> left_, right_;
+};

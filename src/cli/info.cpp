@@ -1,0 +1,131 @@
+#include "cli/commands.h"
+
+#include <nlohmann/json.hpp>
+#include <spdlog/fmt/fmt.h>
+
+using Json = nlohmann::ordered_json;
+
+namespace {
+
+constexpr unsigned long kShownKey = 60;
+constexpr unsigned long kPitchClasses = 12;
+constexpr const char* kPitchClassNames[kPitchClasses] = {"C",  "C♯", "D",  "E♭", "E",  "F",
+                                                         "F♯", "G",  "G♯", "A",  "B♭", "B"};
+
+/// The kind of a tuning and the value that it was given by.
+void describeKind(const Tuning& tuning, double base, Json& result)
+{
+    if (const auto* ratio = dynamic_cast<const Ratio*>(&tuning)) {
+        result["kind"] = "ratio";
+        result["value"] = fmt::format("{}/{}", ratio->numerator(), ratio->denominator());
+    } else if (dynamic_cast<const Freq*>(&tuning) != nullptr) {
+        result["kind"] = "frequency";
+        result["value"] = tuning.tune(base, 0);
+    } else {
+        result["kind"] = "cents";
+        result["value"] = tuning.cent();
+    }
+}
+
+Json describe(const TuningDocument& document)
+{
+    const Temperament& temperament = document.getTemperament();
+    Json result = {{"name", document.getName()},
+                   {"baseFrequency", temperament.baseFrequency()},
+                   {"pitchClasses", Json::array()}};
+    for (unsigned long pitchClass = 0; pitchClass < kPitchClasses; ++pitchClass) {
+        const Tuning& tuning = temperament.getTuning(pitchClass);
+        Json& entry =
+            result["pitchClasses"].emplace_back(Json{{"pitchClass", kPitchClassNames[pitchClass]}});
+        describeKind(tuning, temperament.baseFrequency(), entry);
+        entry["cents"] = tuning.cent();
+        entry["hertz"] = temperament.getPitch(kShownKey + pitchClass);
+    }
+    return result;
+}
+
+Json describe(const SequenceDocument& document, const std::string& name)
+{
+    Json result = {{"name", name},
+                   {"isImported", document.isImported()},
+                   {"extent", document.extent()},
+                   {"notes", Json::array()}};
+    for (const Note& note : document.getSequence().notes())
+        result["notes"].push_back({{"key", note.key},
+                                   {"channel", note.channel},
+                                   {"velocity", note.velocity},
+                                   {"start", note.start},
+                                   {"length", note.length}});
+    return result;
+}
+
+void printTuning(const Json& tuning)
+{
+    fmt::print("{}: tuning, base frequency {:.6f} Hz\n", tuning["name"].get<std::string>(),
+               tuning["baseFrequency"].get<double>());
+    for (const Json& entry : tuning["pitchClasses"])
+        fmt::print("  {:<2}  {:<9} {:>18}  {:>11.5f} cents  {:>12.6f} Hz\n",
+                   entry["pitchClass"].get<std::string>(), entry["kind"].get<std::string>(),
+                   entry["value"].is_string() ? entry["value"].get<std::string>()
+                                              : fmt::format("{}", entry["value"].get<double>()),
+                   entry["cents"].get<double>(), entry["hertz"].get<double>());
+}
+
+void printSequence(const Json& sequence)
+{
+    fmt::print("{}: sequence of {} notes, {:.3f} steps long{}\n",
+               sequence["name"].get<std::string>(), sequence["notes"].size(),
+               sequence["extent"].get<double>(),
+               sequence["isImported"].get<bool>() ? ", the file holds more than the notes" : "");
+    for (const Json& note : sequence["notes"])
+        fmt::print("  start {:>11.4f}  length {:>10.4f}  key {:>3}  velocity {:.3f}  channel {}\n",
+                   note["start"].get<double>(), note["length"].get<double>(),
+                   note["key"].get<int>(), note["velocity"].get<double>(),
+                   note["channel"].get<int>());
+}
+
+/// Reads and prints one file. Throws std::runtime_error with a sentence when it cannot be read.
+void printFile(const std::filesystem::path& path, bool json)
+{
+    Json result;
+    const auto type = tuningType(path);
+    if (type) {
+        TuningDocument document;
+        if (!document.readFromURL(path, *type))
+            throw std::runtime_error(document.errorString());
+        result = describe(document);
+    } else if (isSequenceFile(path)) {
+        AppDelegate application;
+        SequenceDocument document(application);
+        document.readFromURL(path);
+        if (!document.errorString().empty())
+            throw std::runtime_error(document.errorString());
+        result = describe(document, path.filename().string());
+    } else {
+        throw std::runtime_error(path.filename().string() +
+                                 ": is no kind of file that Velmora knows by its name");
+    }
+    if (json)
+        // Names need not be UTF-8.
+        fmt::print("{}\n", result.dump(2, ' ', false, Json::error_handler_t::replace));
+    else if (type)
+        printTuning(result);
+    else
+        printSequence(result);
+}
+
+} // namespace
+
+bool info(const std::vector<std::filesystem::path>& files, bool json)
+{
+    bool allRead = true;
+    for (const auto& path : files) {
+        try {
+            printFile(path, json);
+        } catch (const std::runtime_error& error) {
+            fmt::print(stderr, "velmora: {}\n", error.what());
+            allRead = false;
+        }
+    }
+    return allRead;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "app/AppDelegate.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// What the command line chooses to play with.
+struct Selection {
+    std::string tuning = "Equal";        ///< "Equal", "Quartercomma Meantone", "Dynamic" or a file.
+    std::optional<std::uint8_t> program; ///< General MIDI program, 0…127.
+    std::vector<std::pair<std::size_t, float>> stops; ///< Number of a stop and its gain.
+};
+
+/// The document type of a tuning file by its extension; nothing for other files.
+std::optional<std::string> tuningType(const std::filesystem::path& path);
+
+/// Whether the extension is that of a Standard MIDI File.
+bool isSequenceFile(const std::filesystem::path& path);
+
+/// Makes the selection current. Throws UsageError when it names what does not exist;
+/// std::runtime_error with a sentence when its tuning file cannot be read.
+void select(const Selection& selection, AppDelegate& application);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstddef>
+
+/// Something that makes stereo sound, block by block.
+class AudioSource {
+public:
+    virtual ~AudioSource() = default;
+
+    /// Writes the next `frames` frames, from −1 to 1. Called on the audio thread: never waits,
+    /// allocates or logs.
+    virtual void render(float* left, float* right, std::size_t frames) = 0;
+};
