@@ -1,6 +1,7 @@
 #include "platform/Synthesizer.h"
 
 #include "base/Log.h"
+#include "platform/quiet.h"
 
 #include <algorithm>
 
@@ -23,24 +24,12 @@ int bendOf(int data1, int data2)
     return std::clamp(data1 + 128 * data2, 0, 2 * kCentreBend - 1);
 }
 
-/// FluidSynth's messages go where ours go. What it says while rendering is about single notes.
-void routeFluidSynthLog()
-{
-    static spdlog::logger& platform = logger("platform");
-    const auto log = [](int level, const char* message, void*) {
-        platform.log(level <= FLUID_ERR ? spdlog::level::warn : spdlog::level::debug,
-                     "FluidSynth: {}", message);
-    };
-    for (const int level : {FLUID_PANIC, FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG})
-        fluid_set_log_function(level, log, nullptr);
-}
-
 } // namespace
 
 Synthesizer::Synthesizer(double rate, const std::vector<std::filesystem::path>& banks)
     : reverb_(rate), limiter_(rate), queue_(kQueue)
 {
-    routeFluidSynthLog();
+    quietSoundLibraries();
     lastBend_.fill(kCentreBend);
     auto first = std::make_unique<SynthesizerLane>(rate);
     const auto loaded = std::ranges::find_if(banks, [&](const std::filesystem::path& path) {

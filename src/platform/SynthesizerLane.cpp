@@ -12,8 +12,8 @@ constexpr int kChannel = 0;
 /// Enough for eleven keys of one pitch class struck over and over into their releases.
 constexpr int kPolyphony = 128;
 
-/// One note of a usual bank then peaks near −18 dBFS, and the limiter takes care of the rest.
-constexpr double kGain = 0.6;
+/// Four usual notes then peak near −6 dBFS, and the limiter takes care of what is louder.
+constexpr double kGain = 1.5;
 
 /// Loudness below which nothing is heard: −120 dBFS.
 constexpr float kSilence = 1e-6F;

@@ -3,6 +3,7 @@
 #include "base/Log.h"
 
 #include <alsa/asoundlib.h>
+#include <fluidsynth.h>
 #include <jack/jack.h>
 
 #include <array>
@@ -29,12 +30,21 @@ void logJack(const char* text)
     logger("platform").debug("JACK: {}", text);
 }
 
+void logFluidSynth(int /*level*/, const char* message, void* /*data*/)
+{
+    // It speaks on the audio thread too, where the look-up has no place.
+    static spdlog::logger& platform = logger("platform");
+    platform.debug("FluidSynth: {}", message);
+}
+
 bool redirect()
 {
     setenv("JACK_NO_START_SERVER", "1", 0);
     snd_lib_error_set_handler(logAlsa);
     jack_set_error_function(logJack);
     jack_set_info_function(logJack);
+    for (const int level : {FLUID_PANIC, FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG})
+        fluid_set_log_function(level, logFluidSynth, nullptr);
     return true;
 }
 
