@@ -9,6 +9,8 @@
 #include <limits>
 #include <string>
 
+#include <unistd.h>
+
 TEST(Numbers, ReadALeadingNumberAsAtofDoes)
 {
     const double infinity = std::numeric_limits<double>::infinity();
@@ -81,7 +83,7 @@ TEST(Numbers, ReadALeadingIntegerAsAtoiDoes)
 TEST(Numbers, DoNotFollowTheLocale)
 {
     // German writes 3,5. Its locale is seldom installed, so it is made here.
-    const std::string folder = testing::TempDir() + "velmora-locales";
+    const std::string folder = testing::TempDir() + "velmora-locales-" + std::to_string(getpid());
     std::filesystem::create_directories(folder);
     const std::string make = "localedef -i de_DE -f UTF-8 " + folder + "/de_DE.UTF-8 2>/dev/null";
     if (std::system(make.c_str()) != 0)

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include <unistd.h>
+
 using testing::HasSubstr;
 
 namespace {
@@ -38,8 +40,7 @@ protected:
     TuningDocument document;
 
 private:
-    const std::string folder_ = testing::TempDir() + "velmora-" +
-                                testing::UnitTest::GetInstance()->current_test_info()->name();
+    const std::string folder_ = testing::TempDir() + "velmora-tuning-" + std::to_string(getpid());
 };
 
 /// A scale of equal semitones, but for C sharp.
