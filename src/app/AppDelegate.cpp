@@ -75,7 +75,7 @@ void AppDelegate::makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
 
 void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
 {
-    setInstrument(document->getInstrument());
+    setInstrument(*document->getInstrument());
     instruments_.push_back(std::move(document));
 }
 

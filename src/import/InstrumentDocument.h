@@ -1,24 +1,56 @@
 #pragma once
 
+#include "import/ImportReport.h"
+#include "import/InstrumentHost.h"
 #include "platform/MusicDevice.h"
 #include "sound/Instrument.h"
 
+#include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
 
-/// An instrument and its display name.
+/// An instrument and its display name: the General MIDI player, or what was read from a file.
 class InstrumentDocument {
 public:
+    /// A document without an instrument, to be read into.
+    InstrumentDocument() = default;
+
     /// The built-in General MIDI player on a synthesizer, which it takes over.
     static std::unique_ptr<InstrumentDocument>
     initWithMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer);
 
-    Instrument& getInstrument() const { return *instrument_; }
+    /// The type of file that the extension stands for, in any letter case: "SoundFont" (.sf2),
+    /// "Gigasampler" (.gig), "XML" (.organ_hauptwerk_xml, .xml), "Organ" (.organ), "EXS" (.exs).
+    /// Empty for any other extension.
+    static std::string typeOf(const std::filesystem::path& path);
+
+    /// Reads an instrument from a file of a type; any type that is not named above is read as
+    /// "Organ". False where it cannot be read, with the reason in `errorString()`, and where the
+    /// host cancelled, with no reason: the document stays as it was. "EXS" succeeds without an
+    /// instrument. Needs a current OpenAL context.
+    bool readFromURL(const std::filesystem::path& path, const std::string& type,
+                     InstrumentHost& host);
+
+    /// Why the last reading failed: a sentence that names the file. Empty where it did not.
+    const std::string& errorString() const { return errorString_; }
+
+    /// What the last successful reading brought in and left out.
+    const ImportReport& report() const { return report_; }
+
+    /// Null until one was read.
+    Instrument* getInstrument() const { return instrument_.get(); }
+
     const std::string& getName() const { return name_; }
+
+    /// Bytes of sample memory; 0 without an instrument.
+    std::int64_t getSize() const { return instrument_ ? instrument_->usage : 0; }
 
 private:
     InstrumentDocument(std::unique_ptr<Instrument> instrument, std::string name);
 
     std::unique_ptr<Instrument> instrument_;
     std::string name_;
+    std::string errorString_;
+    ImportReport report_;
 };
