@@ -9,7 +9,7 @@ constexpr double kLookAheadSeconds = 0.0015;
 constexpr double kReleaseSeconds = 0.050;
 
 /// From here on a recovering gain is 1 again: 0.00001 dB cannot be heard.
-constexpr float kRecovered = 0.999999F;
+constexpr double kRecovered = 0.999999;
 
 } // namespace
 
@@ -42,14 +42,11 @@ float PeakLimiter::windowMinimum(float peak)
 
 float PeakLimiter::nextGain(float peak)
 {
-    const float wanted = windowMinimum(peak);
-    const float last = released_[index_];
-    float gain = wanted;
-    if (wanted > last) {
-        gain = last + static_cast<float>(release_) * (wanted - last);
-        if (gain > kRecovered)
-            gain = wanted;
-    }
+    const double wanted = windowMinimum(peak);
+    recovering_ = wanted > recovering_ ? recovering_ + release_ * (wanted - recovering_) : wanted;
+    if (recovering_ > kRecovered)
+        recovering_ = wanted;
+    const auto gain = static_cast<float>(recovering_);
 
     // Every gain of the last `lookAhead_` frames lets the oldest sample pass, so their mean does
     // too; and a mean has no steps. The sum of so few floats is exact in a double: it cannot drift.

@@ -34,6 +34,9 @@ private:
     std::size_t lookAhead_;
     double release_; ///< Share of the way back to the wanted gain made in one frame.
 
+    double recovering_ =
+        1.0; ///< The newest gain; steps as small as its last ones vanish in a float.
+
     std::vector<float> left_, right_; ///< The last `lookAhead_` samples, a ring.
     std::vector<float> released_;     ///< The gains behind them, a ring.
     double releasedSum_;

@@ -55,7 +55,8 @@ SynthesizerLane::~SynthesizerLane()
 
 bool SynthesizerLane::loadBank(const char* path)
 {
-    return fluid_synth_sfload(synth_.get(), path, 1) != FLUID_FAILED;
+    return fluid_is_soundfont(path) != 0 &&
+           fluid_synth_sfload(synth_.get(), path, 1) != FLUID_FAILED;
 }
 
 void SynthesizerLane::noteOn(int key, int velocity)
