@@ -1,0 +1,47 @@
+#pragma once
+
+#include "sound/Instrument.h"
+#include "sound/InstrumentStop.h"
+#include "sound/Sound.h"
+
+#include <array>
+#include <bitset>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// Plays recorded samples through OpenAL: a key sounds in every stop whose volume is above zero.
+/// The velocity of a key is ignored. Needs a current OpenAL context from its making to its end.
+class ALInstrument : public Instrument {
+public:
+    ALInstrument();
+
+    /// Adds a silent stop without samples. References to the stops before it do not hold on.
+    InstrumentStop& appendStop(std::string name);
+
+    std::vector<InstrumentStop>& stops() { return stops_; }
+    const std::vector<InstrumentStop>& stops() const { return stops_; }
+
+    /// The decoded sounds under the names that the importer gives them, so that one used by several
+    /// keys is decoded once. They outlive the samples of the stops.
+    std::map<std::string, std::unique_ptr<Sound>> sounds;
+
+    /// Twice the stop's gain: a slider at full shows a gain of 0.5.
+    float getVolume(std::size_t stop) const override;
+
+    /// Sets the stop's gain as it is, not half of it.
+    void setVolume(std::size_t stop, float volume) override;
+
+    std::size_t numStops() const override;
+    void play(int key, float velocity) override;
+    void stop(int key) override;
+    void tune(const Temperament& temperament, int lo, int hi) override;
+    void fade(double factor) override;
+
+private:
+    std::vector<InstrumentStop> stops_; // after the sounds: gone before them
+    std::bitset<kKeys> fading_;         ///< Keys with a sample that is released.
+    std::array<double, kKeys> pitches_; ///< Hertz to which every stop's key was last tuned.
+    unsigned replacements_ = 0;         ///< What `Sample::replacements` was then.
+};
