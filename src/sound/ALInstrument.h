@@ -15,8 +15,6 @@
 /// The velocity of a key is ignored. Needs a current OpenAL context from its making to its end.
 class ALInstrument : public Instrument {
 public:
-    ALInstrument();
-
     /// Adds a silent stop without samples. References to the stops before it do not hold on.
     InstrumentStop& appendStop(std::string name);
 
@@ -40,8 +38,10 @@ public:
     void fade(double factor) override;
 
 private:
-    std::vector<InstrumentStop> stops_; // after the sounds: gone before them
-    std::bitset<kKeys> fading_;         ///< Keys with a sample that is released.
-    std::array<double, kKeys> pitches_; ///< Hertz to which every stop's key was last tuned.
-    unsigned replacements_ = 0;         ///< What `Sample::replacements` was then.
+    std::vector<InstrumentStop> stops_; ///< After the sounds, and so gone before them.
+    std::bitset<kKeys> released_;       ///< The keys with samples that may be fading.
+
+    /// The hertz that each key of every stop was last tuned to; 0 for not yet.
+    std::array<double, kKeys> pitches_{};
+    unsigned pitchesSet_ = 0; ///< `Sample::pitchesSet` at that time.
 };

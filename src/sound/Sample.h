@@ -34,8 +34,8 @@ public:
     double gain() const { return gain_; }
     bool released() const { return released_; }
 
-    /// How often a sample was given a sound, any sample: a pitch that was set before no longer is.
-    static unsigned replacements();
+    /// How often any sample whatever was given a pitch, by `setBuffer` or `tune`.
+    static unsigned pitchesSet();
 
 private:
     unsigned source_ = 0;

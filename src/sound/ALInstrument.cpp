@@ -1,0 +1,128 @@
+#include "sound/ALInstrument.h"
+
+#include "tuning/Temperament.h"
+
+#include <al.h>
+#include <alc.h>
+#include <alext.h>
+
+#include <utility>
+
+namespace {
+
+/// While it lives, OpenAL gathers what it is told, to apply it all at once.
+class OneUpdate {
+public:
+    OneUpdate()
+    {
+        if (functions().defer != nullptr)
+            functions().defer();
+        else
+            alcSuspendContext(alcGetCurrentContext());
+    }
+
+    ~OneUpdate()
+    {
+        if (functions().process != nullptr)
+            functions().process();
+        else
+            alcProcessContext(alcGetCurrentContext());
+    }
+
+    OneUpdate(const OneUpdate&) = delete;
+    OneUpdate& operator=(const OneUpdate&) = delete;
+
+private:
+    struct Functions {
+        LPALDEFERUPDATESSOFT defer = nullptr;
+        LPALPROCESSUPDATESSOFT process = nullptr;
+    };
+
+    static const Functions& functions()
+    {
+        static const Functions found = [] {
+            Functions result;
+            if (alIsExtensionPresent("AL_SOFT_deferred_updates") == AL_TRUE) {
+                result.defer =
+                    reinterpret_cast<LPALDEFERUPDATESSOFT>(alGetProcAddress("alDeferUpdatesSOFT"));
+                result.process = reinterpret_cast<LPALPROCESSUPDATESSOFT>(
+                    alGetProcAddress("alProcessUpdatesSOFT"));
+            }
+            return result;
+        }();
+        return found;
+    }
+};
+
+} // namespace
+
+InstrumentStop& ALInstrument::appendStop(std::string name)
+{
+    InstrumentStop& stop = stops_.emplace_back();
+    stop.name = std::move(name);
+    return stop;
+}
+
+float ALInstrument::getVolume(std::size_t stop) const
+{
+    return stop < stops_.size() ? 2.0F * stops_[stop].volume : 0.0F;
+}
+
+void ALInstrument::setVolume(std::size_t stop, float volume)
+{
+    if (stop < stops_.size())
+        stops_[stop].volume = volume;
+}
+
+std::size_t ALInstrument::numStops() const
+{
+    return stops_.size();
+}
+
+void ALInstrument::play(int key, float /*velocity*/)
+{
+    const OneUpdate together;
+    for (InstrumentStop& stop : stops_) {
+        if (stop.volume > 0.0F)
+            stop.samples[static_cast<std::size_t>(key)].play(stop.volume);
+    }
+}
+
+void ALInstrument::stop(int key)
+{
+    const auto slot = static_cast<std::size_t>(key);
+    for (InstrumentStop& stop : stops_)
+        stop.samples[slot].stop();
+    released_.set(slot);
+}
+
+void ALInstrument::fade(double factor)
+{
+    for (std::size_t key = 0; key < kKeys && released_.any(); ++key) {
+        if (!released_[key])
+            continue;
+        bool fading = false;
+        for (InstrumentStop& stop : stops_) {
+            stop.samples[key].fade(factor);
+            fading = fading || stop.samples[key].released();
+        }
+        released_.set(key, fading);
+    }
+}
+
+void ALInstrument::tune(const Temperament& temperament, int lo, int hi)
+{
+    // Someone else has tuned a sample since, or exchanged it.
+    if (Sample::pitchesSet() != pitchesSet_)
+        pitches_.fill(0.0);
+    for (int key = lo; key <= hi; ++key) {
+        const auto slot = static_cast<std::size_t>(key);
+        const double pitch = temperament.getPitch(slot);
+        if (pitch == pitches_[slot])
+            continue;
+        pitches_[slot] = pitch;
+        for (InstrumentStop& stop : stops_)
+            stop.samples[slot].tune(pitch);
+    }
+    pitchesSet_ = Sample::pitchesSet();
+}

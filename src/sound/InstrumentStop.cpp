@@ -1,0 +1,18 @@
+#include "sound/InstrumentStop.h"
+
+#include "tuning/Temperament.h"
+
+void InstrumentStop::extend(int key, const Sound& sound, double rootPitch)
+{
+    const auto slot = static_cast<std::size_t>(key);
+    samples.at(slot).setBuffer(sound, rootPitch);
+    extended.set(slot);
+}
+
+void InstrumentStop::tune(const Temperament& temperament, int lo, int hi)
+{
+    for (int key = lo; key <= hi; ++key) {
+        const auto slot = static_cast<std::size_t>(key);
+        samples[slot].tune(temperament.getPitch(slot));
+    }
+}

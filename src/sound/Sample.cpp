@@ -1,0 +1,102 @@
+#include "sound/Sample.h"
+
+#include "base/FormatError.h"
+
+#include <al.h>
+
+#include <atomic>
+#include <utility>
+
+namespace {
+
+constexpr float kFirstGain = 0.4F;
+
+/// A released sample that is softer is silent.
+constexpr double kSilentGain = 0.02;
+
+/// An import may run beside the playing of another instrument.
+std::atomic<unsigned> pitchesGiven{0};
+
+} // namespace
+
+Sample::Sample(Sample&& other) noexcept
+{
+    *this = std::move(other);
+}
+
+Sample& Sample::operator=(Sample&& other) noexcept
+{
+    std::swap(source_, other.source_);
+    std::swap(released_, other.released_);
+    std::swap(factor_, other.factor_);
+    std::swap(rootPitch_, other.rootPitch_);
+    std::swap(gain_, other.gain_);
+    return *this;
+}
+
+Sample::~Sample()
+{
+    if (source_ != 0)
+        alDeleteSources(1, &source_);
+}
+
+unsigned Sample::pitchesSet()
+{
+    return pitchesGiven;
+}
+
+void Sample::setBuffer(const Sound& sound, double rootPitch)
+{
+    rootPitch_ = rootPitch;
+    factor_ = 1.0F;
+    ++pitchesGiven;
+    if (source_ != 0)
+        alDeleteSources(1, &source_);
+    source_ = 0;
+    alGenSources(1, &source_);
+    if (source_ == 0)
+        throw FormatError("OpenAL offers too few sources for it: raise \"sources\" in alsoft.conf");
+    alSourcef(source_, AL_GAIN, kFirstGain);
+    alSource3f(source_, AL_POSITION, 0.0F, 0.0F, 0.0F);
+    alSourcef(source_, AL_PITCH, factor_);
+    alSourcei(source_, AL_BUFFER, static_cast<ALint>(sound.buffer()));
+}
+
+void Sample::play(float volume)
+{
+    if (source_ == 0)
+        return;
+    released_ = false;
+    alSourcef(source_, AL_GAIN, volume);
+    alSourcePlay(source_);
+    gain_ = volume;
+}
+
+void Sample::stop()
+{
+    if (source_ != 0)
+        released_ = true;
+}
+
+void Sample::fade(double factor)
+{
+    if (!released_)
+        return;
+    gain_ *= factor;
+    if (gain_ < kSilentGain) {
+        alSourceStop(source_);
+        released_ = false;
+    } else {
+        alSourcef(source_, AL_GAIN, static_cast<float>(gain_));
+    }
+}
+
+void Sample::tune(double pitch)
+{
+    const auto factor = static_cast<float>(pitch / rootPitch_);
+    if (source_ == 0 || factor == factor_)
+        return;
+    factor_ = factor;
+    ++pitchesGiven;
+    alSourcef(source_, AL_PITCH, factor);
+}
