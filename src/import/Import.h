@@ -2,18 +2,19 @@
 
 #include "import/ImportReport.h"
 #include "import/InstrumentHost.h"
+#include "sound/ALInstrument.h"
 
 #include <memory>
 #include <string>
-
-class ALInstrument;
 
 /// One import in the making: what every importer fills. Importers throw FormatError where the file
 /// cannot be used and Cancelled where the host gives up; what they made so far goes with the
 /// import.
 struct Import {
-    explicit Import(InstrumentHost& importHost);
-    ~Import();
+    explicit Import(InstrumentHost& importHost)
+        : instrument(std::make_unique<ALInstrument>()), host(importHost)
+    {
+    }
 
     std::unique_ptr<ALInstrument> instrument; ///< begins without stops, never null
     std::string name;                         ///< for display; empty where the file gives none
