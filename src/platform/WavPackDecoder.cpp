@@ -1,7 +1,6 @@
 #include "platform/WavPackDecoder.h"
 
 #include "base/FormatError.h"
-#include "base/Log.h"
 #include "platform/FileImage.h"
 #include "platform/PcmBuilder.h"
 

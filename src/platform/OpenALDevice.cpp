@@ -1,0 +1,84 @@
+#include "platform/OpenALDevice.h"
+
+#include "base/Log.h"
+#include "platform/openALSettings.h"
+#include "platform/quiet.h"
+
+#include <al.h>
+#include <alc.h>
+#include <alext.h>
+
+#include <array>
+
+namespace {
+
+void setListener()
+{
+    constexpr std::array kAtAndUp = {0.0F, 0.0F, -1.0F, 0.0F, 1.0F, 0.0F};
+    alListenerfv(AL_ORIENTATION, kAtAndUp.data());
+    alListener3f(AL_POSITION, 0.0F, 0.0F, 0.0F);
+    alListener3f(AL_VELOCITY, 0.0F, 0.0F, 0.0F);
+    alListenerf(AL_GAIN, 1.0F);
+}
+
+} // namespace
+
+std::unique_ptr<OpenALDevice> OpenALDevice::open()
+{
+    quietSoundLibraries();
+    setUpOpenAL();
+    ALCdevice* device = alcOpenDevice(nullptr);
+    if (device == nullptr) {
+        logger("platform").error("ERROR alcOpenDevice = {}", alGetError());
+        return nullptr;
+    }
+    return withContext(device, nullptr);
+}
+
+std::unique_ptr<OpenALDevice> OpenALDevice::openLoopback(int rate)
+{
+    setUpOpenAL();
+    const auto openDevice = reinterpret_cast<LPALCLOOPBACKOPENDEVICESOFT>(
+        alcGetProcAddress(nullptr, "alcLoopbackOpenDeviceSOFT"));
+    ALCdevice* device = openDevice == nullptr ? nullptr : openDevice(nullptr);
+    if (device == nullptr)
+        return nullptr;
+    // The same sound on every machine, and nothing in the way of our own limiter.
+    const std::array attributes = {ALC_FREQUENCY,
+                                   rate,
+                                   ALC_FORMAT_CHANNELS_SOFT,
+                                   ALC_STEREO_SOFT,
+                                   ALC_FORMAT_TYPE_SOFT,
+                                   ALC_FLOAT_SOFT,
+                                   ALC_HRTF_SOFT,
+                                   ALC_FALSE,
+                                   ALC_OUTPUT_LIMITER_SOFT,
+                                   ALC_FALSE,
+                                   0};
+    return withContext(device, attributes.data());
+}
+
+std::unique_ptr<OpenALDevice> OpenALDevice::withContext(ALCdevice* device, const int* attributes)
+{
+    ALCcontext* context = alcCreateContext(device, attributes);
+    if (context == nullptr) {
+        alcCloseDevice(device);
+        return nullptr;
+    }
+    alcMakeContextCurrent(context);
+    setListener();
+    return std::unique_ptr<OpenALDevice>(new OpenALDevice(device, context));
+}
+
+OpenALDevice::OpenALDevice(ALCdevice* device, ALCcontext* context)
+    : device_(device), context_(context)
+{
+}
+
+OpenALDevice::~OpenALDevice()
+{
+    if (alcGetCurrentContext() == context_)
+        alcMakeContextCurrent(nullptr);
+    alcDestroyContext(context_);
+    alcCloseDevice(device_);
+}
