@@ -1,5 +1,7 @@
 #include "platform/AudioFileWriter.h"
 
+#include "platform/oggSerial.h"
+
 #include <sndfile.h>
 
 #include <cmath>
@@ -8,6 +10,9 @@
 namespace {
 
 constexpr int kChannels = 2;
+
+/// Any will do, as long as the same sound gives the same file.
+constexpr std::uint32_t kOggSerial = 1;
 
 int formatOf(const std::filesystem::path& path)
 {
@@ -30,6 +35,7 @@ AudioFileWriter::AudioFileWriter(const std::filesystem::path& path, double rate)
     info.samplerate = static_cast<int>(std::lround(rate));
     info.channels = kChannels;
     info.format = formatOf(path);
+    isOgg_ = (info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_OGG;
     if (sf_format_check(&info) == 0)
         throw std::runtime_error(name_ + ": this kind of file has no rate of " +
                                  std::to_string(info.samplerate) + " Hz");
@@ -59,6 +65,8 @@ void AudioFileWriter::commit()
     const int error = sf_close(sound_.release());
     if (error != 0)
         throw std::runtime_error(name_ + ": " + sf_error_number(error));
+    if (isOgg_)
+        setOggSerial(file_.handle(), kOggSerial);
     if (!file_.commit())
         throw std::runtime_error(name_ + ": " + file_.errorString().toStdString());
 }

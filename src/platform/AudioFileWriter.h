@@ -30,6 +30,7 @@ public:
 private:
     std::string name_;
     QSaveFile file_;
+    bool isOgg_ = false;
     std::unique_ptr<sf_private_tag, int (*)(sf_private_tag*)> sound_;
     std::vector<float> interleaved_;
 };
