@@ -141,8 +141,9 @@ void AppDelegate::keyOff(int key)
 
 void AppDelegate::setVolume(float volume, std::size_t slider)
 {
-    queue_.post({InputEvent::Kind::Volume, slider, volume});
+    // Of two devices that move the same slider, the one that moves it last does so in both places.
     const std::lock_guard lock(soundLock_);
+    queue_.post({InputEvent::Kind::Volume, slider, volume});
     if (instrument_ != nullptr)
         instrument_->setVolume(slider, volume);
 }
