@@ -56,7 +56,7 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
         errorString_ = name + ": is too large to be read into memory";
     }
     if (!errorString_.empty())
-        logger("sequencer").warn("{}", errorString_);
+        logger("sequencer").info("{}", errorString_);
 }
 
 void SequenceDocument::play()
