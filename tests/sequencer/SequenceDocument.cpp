@@ -1,7 +1,8 @@
 #include "sequencer/SequenceDocument.h"
 
 #include "platform/MidiBytes.h"
-#include "support/RecordingTemperament.h"
+#include "support/RecordingInstrument.h"
+#include "tuning/Temperament.h"
 
 #include <gmock/gmock.h>
 
@@ -14,6 +15,20 @@ using testing::IsEmpty;
 namespace {
 
 constexpr double kStepsPerSecond = 15.0; // at tempo 120
+
+/// Writes down what it is asked to prepare.
+class RecordingTemperament : public Temperament {
+public:
+    explicit RecordingTemperament(Calls& calls) : calls_(calls) {}
+
+    void setup(Instrument& /*instrument*/, unsigned char key, float velocity) override
+    {
+        calls_.push_back(fmt::format("setup {} {:.2f}", key, velocity));
+    }
+
+private:
+    Calls& calls_;
+};
 
 class SequenceDocumentTest : public testing::Test, public SequenceHost {
 protected:

@@ -1,0 +1,11 @@
+// Runs the tests of what needs an event loop.
+
+#include <QCoreApplication>
+#include <gmock/gmock.h>
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleMock(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
