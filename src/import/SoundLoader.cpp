@@ -1,0 +1,91 @@
+#include "import/SoundLoader.h"
+
+#include "base/FormatError.h"
+#include "platform/AudioFileDecoder.h"
+
+#include <algorithm>
+#include <new>
+
+namespace {
+
+/// How much may be decoded and not yet taken: enough for every core to be busy.
+constexpr std::uintmax_t kMaximumAhead = std::uintmax_t{24} << 20;
+
+std::uintmax_t sizeOf(const std::filesystem::path& file)
+{
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(file, error);
+    return error ? 0 : size;
+}
+
+} // namespace
+
+SoundLoader::SoundLoader(std::vector<std::filesystem::path> files, unsigned threads)
+    : files_(std::move(files)), slots_(files_.size())
+{
+    const std::size_t useful = std::min<std::size_t>(std::max(threads, 1U), files_.size());
+    for (std::size_t i = 0; i < useful; ++i)
+        threads_.emplace_back([this](const std::stop_token& stop) { work(stop); });
+}
+
+SoundLoader::~SoundLoader()
+{
+    for (std::jthread& thread : threads_)
+        thread.request_stop();
+}
+
+Pcm SoundLoader::next()
+{
+    Slot slot;
+    {
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [this] { return slots_[taken_].done; });
+        slot = std::move(slots_[taken_]);
+        ahead_ -= slot.bytes;
+        ++taken_;
+    }
+    changed_.notify_all();
+    if (slot.reason)
+        throw FormatError(*slot.reason);
+    if (!slot.pcm)
+        throw std::bad_alloc();
+    return std::move(*slot.pcm);
+}
+
+void SoundLoader::work(const std::stop_token& stop)
+{
+    std::unique_lock lock(mutex_);
+    while (begun_ < files_.size() && !stop.stop_requested()) {
+        const std::size_t index = begun_++;
+        lock.unlock();
+        const std::uintmax_t guess = sizeOf(files_[index]);
+        lock.lock();
+        // The file that is wanted next is never held up.
+        const auto mayBegin = [&] { return index == taken_ || ahead_ + guess <= kMaximumAhead; };
+        if (!changed_.wait(lock, stop, mayBegin))
+            return;
+        ahead_ += guess;
+        lock.unlock();
+        Slot slot = decode(files_[index]);
+        lock.lock();
+        ahead_ += slot.bytes;
+        ahead_ -= guess;
+        slots_[index] = std::move(slot);
+        changed_.notify_all();
+    }
+}
+
+SoundLoader::Slot SoundLoader::decode(const std::filesystem::path& file)
+{
+    Slot slot;
+    slot.done = true;
+    try {
+        slot.pcm = decodeAudioFile(file);
+        slot.bytes = slot.pcm->samples.size() * sizeof(std::int16_t);
+    } catch (const std::bad_alloc&) {
+        slot.pcm.reset();
+    } catch (const std::exception& error) {
+        slot.reason = error.what();
+    }
+    return slot;
+}

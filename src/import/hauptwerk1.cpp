@@ -1,0 +1,207 @@
+#include "import/hauptwerk1.h"
+
+#include "base/File.h"
+#include "base/FormatError.h"
+#include "base/Log.h"
+#include "base/Numbers.h"
+#include "import/Organ.h"
+#include "import/SampleFiles.h"
+#include "tuning/Temperament.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace hauptwerk1 {
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// The text without its last characters; empty where it has no more than those.
+std::string_view withoutLast(std::string_view text, std::size_t count)
+{
+    return text.substr(0, text.size() - std::min(count, text.size()));
+}
+
+} // namespace
+
+Sections readSections(std::string_view bytes, LineEnd lineEnd)
+{
+    if (bytes.starts_with(kByteOrderMark))
+        bytes.remove_prefix(kByteOrderMark.size());
+    const std::size_t returns = lineEnd == LineEnd::CarriageReturnLineFeed ? 1 : 0;
+
+    Sections sections;
+    Section* section = nullptr;
+    while (!bytes.empty()) {
+        const std::size_t end = bytes.find('\n');
+        if (end == std::string_view::npos && lineEnd == LineEnd::CarriageReturnLineFeed)
+            break;
+        const std::string_view line = bytes.substr(0, end);
+        bytes.remove_prefix(std::min(line.size() + 1, bytes.size()));
+
+        const std::size_t equals = line.find('=');
+        if (line.starts_with('[')) {
+            section = &sections[std::string(withoutLast(line.substr(1), 1 + returns))];
+            section->clear();
+        } else if (!line.starts_with(';') && equals != std::string_view::npos &&
+                   section != nullptr) {
+            (*section)[std::string(line.substr(0, equals))] =
+                withoutLast(line.substr(equals + 1), returns);
+        }
+    }
+    return sections;
+}
+
+} // namespace hauptwerk1
+
+namespace {
+
+using hauptwerk1::Section;
+using hauptwerk1::Sections;
+
+/// How often progress is shown.
+constexpr long kUpdates = 100;
+
+/// The text of a key; empty without it.
+std::string valueOf(const Section& section, const std::string& key)
+{
+    const auto found = section.find(key);
+    return found == section.end() ? "" : found->second;
+}
+
+std::string valueOf(const Sections& sections, const std::string& name, const std::string& key)
+{
+    const auto found = sections.find(name);
+    return found == sections.end() ? "" : valueOf(found->second, key);
+}
+
+int integer(const std::string& text)
+{
+    return leadingInteger(text).value_or(0);
+}
+
+/// The number in the three characters after "Stop" or "Pipe".
+int numberOf(const std::string& name)
+{
+    return integer(name.substr(4, 3));
+}
+
+/// Whether a pipe's value is there in place of a file: "DUMMY", or "REF:" and another pipe.
+bool isPlaceholder(const std::string& value)
+{
+    return value == "DUMMY" || value.starts_with("REF:");
+}
+
+/// Finds the files of the pipes in the sections and makes a stop of each "Stop" section.
+class Assembly {
+public:
+    Assembly(const std::filesystem::path& path, const Sections& sections)
+        : sections_(sections), folder_(std::filesystem::absolute(path).parent_path()),
+          firstKey_(integer(valueOf(sections, "Manual001", "FirstAccessibleKeyMIDINoteNumber")))
+    {
+        organ_.updates = kUpdates;
+        organ_.doneText = "DONE";
+    }
+
+    Organ assemble()
+    {
+        for (const auto& [name, section] : sections_) {
+            if (name.starts_with("Stop"))
+                addStop(name, section);
+        }
+        return std::move(organ_);
+    }
+
+private:
+    /// The pipes go to the stop of the section's number, which need not be the one that is added.
+    void addStop(const std::string& name, const Section& section)
+    {
+        if (organ_.stops.size() == kMaximumStops)
+            throw FormatError("has more than " + std::to_string(kMaximumStops) + " stops");
+        organ_.stops.emplace_back();
+        const auto stop = static_cast<std::size_t>(numberOf(name)) - 1; // huge for 0 and below
+        if (stop < organ_.stops.size())
+            organ_.stops[stop] = valueOf(section, "Name");
+        ++rank_;
+        for (const auto& [key, value] : section) {
+            if (key.starts_with("Pipe"))
+                addPipe(stop, numberOf(key), value, name + ' ' + key);
+        }
+    }
+
+    void addPipe(std::size_t stop, int number, const std::string& value, const std::string& place)
+    {
+        Organ::Pipe& pipe = organ_.pipes.emplace_back();
+        pipe.rank = rank_;
+        pipe.text = value;
+        const long key = long{firstKey_} + number - 1;
+        if (isPlaceholder(value)) {
+            organ_.skipped.emplace_back(place, "names no file but " + value);
+        } else if (stop >= organ_.stops.size()) {
+            organ_.skipped.emplace_back(place, "its stop does not follow the one before");
+        } else if (key < 0 || key >= static_cast<long>(kKeys)) {
+            organ_.skipped.emplace_back(place, "is for MIDI note " + std::to_string(key) +
+                                                   ", which does not exist");
+        } else {
+            pipe.stop = stop;
+            pipe.key = static_cast<int>(key);
+            pipe.file = fileIndex(value);
+        }
+    }
+
+    std::size_t fileIndex(const std::string& value)
+    {
+        const auto path = files_.find(folder_, value);
+        const auto [index, isNew] = indices_.try_emplace(path.native(), organ_.files.size());
+        if (isNew)
+            organ_.files.push_back({path.native(), path});
+        return index->second;
+    }
+
+    const Sections& sections_;
+    SampleFiles files_;
+    std::filesystem::path folder_;
+    int firstKey_; ///< the key of each stop's pipe 1
+    Organ organ_;
+    std::size_t rank_ = 0;
+    std::unordered_map<std::string, std::size_t> indices_; ///< of files, by their paths
+};
+
+bool anyExists(const std::vector<Organ::File>& files)
+{
+    return std::any_of(files.begin(), files.end(), [](const Organ::File& file) {
+        std::error_code error;
+        return std::filesystem::is_regular_file(file.path, error);
+    });
+}
+
+std::string bytesOf(const std::filesystem::path& path)
+{
+    try {
+        const auto bytes = readFile(path);
+        return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+    } catch (const FormatError&) {
+        logger("import").error("Couldn't open File '{}'", path.string());
+        throw;
+    }
+}
+
+} // namespace
+
+void readHauptwerk1(const std::filesystem::path& path, Import& import)
+{
+    using enum hauptwerk1::LineEnd;
+    const std::string bytes = bytesOf(path);
+    Sections sections = hauptwerk1::readSections(bytes, CarriageReturnLineFeed);
+    Organ organ = Assembly(path, sections).assemble();
+    if (!anyExists(organ.files) && bytes.find('\r') == std::string::npos) {
+        sections = hauptwerk1::readSections(bytes, LineFeed);
+        organ = Assembly(path, sections).assemble();
+    }
+    import.name = valueOf(sections, "Organ", "ChurchName");
+    loadOrgan(organ, import);
+    // The keys beyond the pipes sound at their own pitches from the beginning.
+    for (InstrumentStop& stop : import.instrument->stops())
+        stop.tune(equal, 0, static_cast<int>(kKeys) - 1);
+}
