@@ -1,0 +1,77 @@
+// What the sound costs, in seconds of sound a second: a whole piece on the way that `velmora
+// render` takes, the lanes alone, and a synthesizer that nothing plays.
+
+#include "app/SequenceRenderer.h"
+#include "platform/Synthesizer.h"
+
+#include <QCoreApplication>
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr double kRate = 48000.0;
+constexpr std::size_t kBlock = 128;
+
+void countSeconds(benchmark::State& state, double seconds)
+{
+    state.counters["x real time"] = benchmark::Counter(seconds, benchmark::Counter::kIsRate);
+}
+
+/// The demonstration in a tuning. In Equal no lane resamples: that is the floor for the others.
+void renderPiece(benchmark::State& state, const char* tuning)
+{
+    std::size_t frames = 0;
+    for ([[maybe_unused]] auto iteration : state) {
+        state.PauseTiming(); // to load the bank
+        auto synthesizer = std::make_unique<Synthesizer>(kRate, generalMidiBanks());
+        Synthesizer& source = *synthesizer;
+        AppDelegate application;
+        application.makeBuiltinTunings();
+        application.putTuning(TuningDocument::initBuiltin("Dynamic"));
+        application.makeMIDIPlayer(std::move(synthesizer));
+        application.selectTuning(tuning);
+        state.ResumeTiming();
+
+        SequenceRenderer renderer(application, source, VELMORA_EXAMPLES "/wolf-fantasia.mid");
+        renderer.render(
+            {},
+            [&](const float* left, const float* right, std::size_t count) {
+                benchmark::DoNotOptimize(left);
+                benchmark::DoNotOptimize(right);
+                frames += count;
+            },
+            [](double) { return true; });
+    }
+    countSeconds(state, static_cast<double>(frames) / kRate);
+}
+BENCHMARK_CAPTURE(renderPiece, Equal, "Equal")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(renderPiece, Meantone, "Quartercomma Meantone")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(renderPiece, Dynamic, "Dynamic")->Unit(benchmark::kMillisecond);
+
+/// A second of so many keys held, each on a lane of its own, with the room and the limiter.
+void holdKeys(benchmark::State& state)
+{
+    Synthesizer synthesizer(kRate, generalMidiBanks());
+    const auto keys = static_cast<int>(state.range(0));
+    for (int channel = 0; channel < keys; ++channel) {
+        synthesizer.midiEvent(0xC0 | channel, 19, 0);
+        synthesizer.midiEvent(0xE0 | channel, 17, 60); // resampled
+        synthesizer.midiEvent(0x90 | channel, 60 + channel, 80);
+    }
+    std::array<float, kBlock> left{}, right{};
+    for ([[maybe_unused]] auto iteration : state) {
+        for (std::size_t block = 0; block < static_cast<std::size_t>(kRate) / kBlock; ++block)
+            synthesizer.render(left.data(), right.data(), kBlock);
+    }
+    countSeconds(state, static_cast<double>(state.iterations()));
+}
+BENCHMARK(holdKeys)->Arg(0)->Arg(1)->Arg(4)->Arg(9)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
