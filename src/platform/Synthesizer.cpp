@@ -71,7 +71,7 @@ void Synthesizer::midiEvent(int status, int data1, int data2)
 
     const std::size_t written = written_.load(std::memory_order_relaxed);
     if (written - read_.load(std::memory_order_acquire) == kQueue) {
-        overflowed_.store(true, std::memory_order_relaxed);
+        overflowed_.store(true, std::memory_order_release);
         return;
     }
     queue_[written % kQueue] = {status, data1, data2};
@@ -82,6 +82,8 @@ void Synthesizer::midiEvent(int status, int data1, int data2)
 
 void Synthesizer::takeEvents()
 {
+    // Asked before the queue is, so that all that came before the lost message is silenced.
+    const bool overflowed = overflowed_.exchange(false, std::memory_order_acquire);
     const std::size_t written = written_.load(std::memory_order_acquire);
     std::size_t read = read_.load(std::memory_order_relaxed);
     for (; read != written; ++read)
@@ -89,7 +91,7 @@ void Synthesizer::takeEvents()
     read_.store(read, std::memory_order_release);
 
     // A lost message may have been the end of a note.
-    if (overflowed_.exchange(false, std::memory_order_relaxed)) {
+    if (overflowed) {
         for (const auto& lane : lanes_)
             lane->allSoundsOff();
     }
