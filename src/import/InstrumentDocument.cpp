@@ -4,8 +4,10 @@
 #include "base/Log.h"
 #include "base/Text.h"
 #include "import/Import.h"
+#include "import/gig.h"
 #include "import/hauptwerk1.h"
 #include "import/organXml.h"
+#include "import/sf2.h"
 #include "sound/MIDIInstrument.h"
 
 #include <fstream>
@@ -20,8 +22,10 @@ void read(const std::filesystem::path& path, const std::string& type, Import& im
 {
     if (type == "XML")
         readXML(path, import);
-    else if (type == "Gigasampler" || type == "SoundFont")
-        throw FormatError("is of the type " + type + ", which cannot be read");
+    else if (type == "Gigasampler")
+        readGigaSampler(path, import);
+    else if (type == "SoundFont")
+        readSoundFont(path, import);
     else
         readHauptwerk1(path, import);
 }
