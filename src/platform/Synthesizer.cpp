@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::size_t kLanes = 12;
 constexpr int kCentreBend = 8192;
+constexpr int kNoBend = -1;
 
 /// Which lane sounds a channel: none for the percussion channel and those that never carry notes.
 int laneIndex(int channel)
@@ -86,14 +87,26 @@ void Synthesizer::takeEvents()
     const bool overflowed = overflowed_.exchange(false, std::memory_order_acquire);
     const std::size_t written = written_.load(std::memory_order_acquire);
     std::size_t read = read_.load(std::memory_order_relaxed);
-    for (; read != written; ++read)
-        apply(queue_[read % kQueue]);
+    std::array<int, 16> bends{};
+    bends.fill(kNoBend);
+    for (; read != written; ++read) {
+        const Event& event = queue_[read % kQueue];
+        // Of the bends that come together the last one counts: FluidSynth has room for so many
+        // changes between two blocks and would lose the end of a note under more.
+        if ((event.status & 0xF0) == 0xE0)
+            bends[static_cast<std::size_t>(event.status & 0x0F)] = bendOf(event.data1, event.data2);
+        else if (!overflowed || (event.status & 0xE0) != 0x80)
+            apply(event);
+    }
     read_.store(read, std::memory_order_release);
 
     // A lost message may have been the end of a note.
-    if (overflowed) {
-        for (const auto& lane : lanes_)
+    for (std::size_t channel = 0; channel < bends.size(); ++channel) {
+        SynthesizerLane* lane = laneOf(static_cast<int>(channel));
+        if (lane != nullptr && overflowed)
             lane->allSoundsOff();
+        if (lane != nullptr && bends[channel] != kNoBend)
+            lane->setCents(200.0 * (bends[channel] - kCentreBend) / kCentreBend);
     }
 }
 
@@ -114,9 +127,6 @@ void Synthesizer::apply(const Event& event)
         break;
     case 0xC0:
         lane->programChange(event.data1);
-        break;
-    case 0xE0:
-        lane->setCents(200.0 * (bendOf(event.data1, event.data2) - kCentreBend) / kCentreBend);
         break;
     default:
         break;

@@ -41,6 +41,7 @@ private:
 
     SynthesizerLane* laneOf(int channel);
     void takeEvents();
+    /// Any message but a pitch bend.
     void apply(const Event& event);
 
     std::vector<std::unique_ptr<SynthesizerLane>> lanes_;
