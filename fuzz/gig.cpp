@@ -1,0 +1,11 @@
+// A bank that is imported from memory.
+
+#include "import/gig.h"
+
+#include "importedBank.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    importBank(readGigaSampler, {data, size});
+    return 0;
+}

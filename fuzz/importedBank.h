@@ -1,0 +1,55 @@
+#pragma once
+
+#include "base/FormatError.h"
+#include "base/Log.h"
+#include "import/Import.h"
+#include "import/RIFF.h"
+#include "platform/OpenALDevice.h"
+#include "tuning/Temperament.h"
+
+#include <cstdlib>
+#include <span>
+
+/// Checks that the progress of an import comes to what it announced.
+class CheckingHost : public InstrumentHost {
+public:
+    void startProgress(long steps) override { steps_ = steps; }
+
+    void updateProgress(unsigned steps, const std::string& /*text*/) override { done_ += steps; }
+
+    bool isCancelled() const override { return false; }
+
+    bool isDone() const { return done_ == steps_; }
+
+private:
+    long steps_ = -1;
+    long done_ = 0;
+};
+
+/// Lets an importer read a bank in memory: what it accepts must be fit to sound.
+inline void importBank(void (*reader)(const RIFF::File&, Import&),
+                       std::span<const std::uint8_t> bytes)
+{
+    // Huge copies of the same data would only cost time.
+    constexpr std::size_t kMost = 1 << 14;
+    if (bytes.size() > kMost)
+        return;
+    setLogLevel(spdlog::level::off);
+    static const auto device = OpenALDevice::openLoopback(48'000);
+    CheckingHost host;
+    Import import(host);
+    try {
+        reader(RIFF::File(std::as_bytes(bytes)), import);
+    } catch (const FormatError&) {
+        return;
+    }
+    const auto& stops = import.instrument->stops();
+    bool sounds = false;
+    for (const InstrumentStop& stop : stops) {
+        for (const Sample& sample : stop.samples)
+            sounds = sounds || (sample.source() != 0 && sample.rootPitch() > 0.0);
+    }
+    if (!sounds || !host.isDone() || stops.front().volume != 0.5F || import.instrument->usage <= 0)
+        std::abort();
+    import.instrument->tune(equal, 0, 127);
+}

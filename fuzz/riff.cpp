@@ -1,0 +1,50 @@
+// A RIFF file, of which every element is read.
+
+#include "import/RIFF.h"
+#include "base/FormatError.h"
+
+#include <array>
+#include <cstdlib>
+
+namespace {
+
+void require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+/// `end` is that of the bytes that an element may show; returns the number of elements.
+std::size_t check(const RIFF::List& list, std::size_t end, int depth)
+{
+    require(depth <= 32);
+    std::size_t count = 0;
+    for (const auto& child : list.children) {
+        ++count;
+        const auto bytes = child->read<char>();
+        require(bytes.size() == child->length() && bytes.size() <= child->size);
+        require(bytes.empty() || child->offset + bytes.size() <= end);
+        require(child->read<std::array<char, 46>>().size() == bytes.size() / 46);
+        require(list.get<RIFF::Chunk>(child->getType()) != nullptr);
+        const auto* inner = dynamic_cast<const RIFF::List*>(child.get());
+        const auto* found = list.get<RIFF::List>(child->getType());
+        require(list.all<RIFF::List>(child->getType()).front() == found);
+        if (inner != nullptr)
+            count += check(*inner, child->offset + child->length(), depth + 1);
+    }
+    return count;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    try {
+        const RIFF::File file(std::as_bytes(std::span(data, size)));
+        require(check(file, size, 0) <= size / 8);
+        RIFF::readText(file.get<RIFF::Chunk>(RIFF::code("INAM")));
+    } catch (const FormatError&) {
+        return 0;
+    }
+    return 0;
+}

@@ -1,0 +1,11 @@
+// A bank that is imported from memory.
+
+#include "import/sf2.h"
+
+#include "importedBank.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    importBank(readSoundFont, {data, size});
+    return 0;
+}
