@@ -44,6 +44,7 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching()
 {
+    openAL_ = OpenALDevice::open();
     output_ = AudioOutput::open();
     auto synthesizer =
         std::make_unique<Synthesizer>(output_ ? output_->rate() : kUsualRate, generalMidiBanks());
@@ -75,6 +76,8 @@ void AppDelegate::makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
 
 void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
 {
+    if (document->getInstrument() == nullptr)
+        return;
     setInstrument(*document->getInstrument());
     instruments_.push_back(std::move(document));
 }
@@ -85,6 +88,18 @@ void AppDelegate::setInstrument(Instrument& instrument)
     assert(temperament_ != nullptr);
     instrument_ = &instrument;
     instrument_->tune(*temperament_, 0, static_cast<int>(kKeys) - 1);
+}
+
+void AppDelegate::startProgress(long steps)
+{
+    isCancelled_ = false;
+    emit progressStarted(steps);
+}
+
+void AppDelegate::updateProgress(unsigned steps, const std::string& text)
+{
+    if (steps > 0)
+        emit progressed(steps, text);
 }
 
 void AppDelegate::putTuning(std::unique_ptr<TuningDocument> document)

@@ -3,10 +3,12 @@
 #include "app/InputQueue.h"
 #include "app/midiRead.h"
 #include "import/InstrumentDocument.h"
+#include "import/InstrumentHost.h"
 #include "platform/AudioOutput.h"
 #include "platform/DisplayWake.h"
 #include "platform/IntervalTimer.h"
 #include "platform/MidiInputs.h"
+#include "platform/OpenALDevice.h"
 #include "sequencer/SequenceHost.h"
 #include "tuning/TuningDocument.h"
 
@@ -27,14 +29,14 @@ std::vector<std::filesystem::path> generalMidiBanks();
 /// are chosen from, the sound output, the MIDI inputs, and the way of a key from one to the other.
 ///
 /// Keys, volumes and `midiInput` come on any thread; everything else is called on the main thread.
-class AppDelegate : public QObject, public LiveInput, public SequenceHost {
+class AppDelegate : public QObject, public LiveInput, public SequenceHost, public InstrumentHost {
     Q_OBJECT
 
 public:
     AppDelegate();
     ~AppDelegate() override;
 
-    /// Starts live playing: opens the sound output, connects the MIDI inputs, makes the built-in
+    /// Starts live playing: opens the sound outputs, connects the MIDI inputs, makes the built-in
     /// tunings and the General MIDI player, starts the fade timer. What the machine does not have
     /// is logged and done without. Needs a QCoreApplication.
     void applicationDidFinishLaunching();
@@ -46,7 +48,7 @@ public:
     /// Makes the General MIDI player on a synthesizer; it becomes the current instrument.
     void makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer);
 
-    /// Lists an instrument and makes it the current one.
+    /// Lists an instrument and makes it the current one. A document without one is left out.
     void addInstrument(std::unique_ptr<InstrumentDocument> document);
 
     /// Makes an instrument the current one and tunes it. It must live as long as the application.
@@ -73,7 +75,14 @@ public:
     void setVolume(float volume, std::size_t slider) override;
     void midiInput() override;
 
-    /// The sound output; null when there is none, or before launching.
+    void startProgress(long steps) override;
+    void updateProgress(unsigned steps, const std::string& text) override;
+    bool isCancelled() const override { return isCancelled_; }
+
+    /// Gives the import that is under way up, at its next step.
+    void cancelImport() { isCancelled_ = true; }
+
+    /// The synthesizer's sound output; null when there is none, or before launching.
     const AudioOutput* audioOutput() const { return output_.get(); }
 
     /// The MIDI inputs; null before launching.
@@ -86,6 +95,12 @@ signals:
     /// A MIDI controller has moved the slider of a stop. On the main thread.
     void volumeMoved(std::size_t slider, float volume);
 
+    /// An import of that many steps begins.
+    void progressStarted(long steps);
+
+    /// So many more of its steps, at least one, are done; the text says what the last one was.
+    void progressed(unsigned steps, const std::string& text);
+
 private:
     void received(MidiPacket packet);
     void take(const InputEvent& event);
@@ -95,6 +110,10 @@ private:
     Instrument* instrument_ = nullptr;
     Temperament* temperament_ = nullptr;
 
+    bool isCancelled_ = false;
+
+    /// Before the instruments, which play through it: gone after them.
+    std::unique_ptr<OpenALDevice> openAL_;
     std::vector<std::unique_ptr<InstrumentDocument>> instruments_;
     /// Every tuning ever listed: one whose name was taken over may still be the current one.
     std::vector<std::unique_ptr<TuningDocument>> tuningDocuments_;

@@ -14,7 +14,7 @@ constexpr int kWrongUsage = 2;
 
 /// The words of the command line.
 struct Words {
-    std::string sequence, output;
+    std::string sequence, output, instrument;
     Selection selection;
     std::vector<std::string> stops;
     RenderOptions options;
@@ -43,8 +43,13 @@ void addSelection(CLI::App& command, Words& words)
         .add_option("--tuning", words.selection.tuning,
                     "Equal, \"Quartercomma Meantone\", Dynamic, or a .scl or .mtx file")
         ->capture_default_str();
-    command.add_option("--program", words.selection.program, "General MIDI program, 0 to 127")
-        ->check(CLI::Range(0, 127));
+    CLI::Option* program =
+        command.add_option("--program", words.selection.program, "General MIDI program, 0 to 127")
+            ->check(CLI::Range(0, 127));
+    command
+        .add_option("--instrument", words.instrument,
+                    "A .sf2, .gig, .organ_hauptwerk_xml or .organ file to play")
+        ->excludes(program);
     command
         .add_option("--stop", words.stops, "Gain of a stop: its number from 0, =, 0 to 1; repeat")
         ->take_all()
@@ -97,8 +102,10 @@ int run(CLI::App& program, int argc, char** argv)
     program.set_version_flag("--version", "velmora " VELMORA_VERSION);
     program.require_subcommand(1);
     CLI::App* renderCommand = addRender(program, words);
-    CLI::App* infoCommand = addJson(
-        program.add_subcommand("info", "Print what Velmora makes of tuning and MIDI files"), words);
+    CLI::App* infoCommand =
+        addJson(program.add_subcommand(
+                    "info", "Print what Velmora makes of tuning, instrument and MIDI files"),
+                words);
     infoCommand->add_option("files", words.files, "The files")->required();
     CLI::App* liveCommand = program.add_subcommand("live", "Play from the MIDI inputs");
     addSelection(*liveCommand, words);
@@ -107,6 +114,7 @@ int run(CLI::App& program, int argc, char** argv)
     program.parse(argc, argv);
 
     const QCoreApplication application(argc, argv);
+    words.selection.instrument = words.instrument;
     for (const std::string& stop : words.stops)
         words.selection.stops.push_back(parseStop(stop));
     if (*renderCommand)

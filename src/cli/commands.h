@@ -19,8 +19,9 @@ public:
 void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
             const Selection& selection, const RenderOptions& options);
 
-/// Prints what the program makes of tuning and sequence files, as text or as one JSON document a
-/// file. Prints the sentence of each that cannot be read on standard error; whether all could.
+/// Prints what the program makes of tuning, instrument and sequence files, as text or as one JSON
+/// document a file. Prints the sentence of each that cannot be read on standard error; whether all
+/// could.
 bool info(const std::vector<std::filesystem::path>& files, bool json);
 
 /// Plays from the MIDI inputs until it is interrupted. Needs a QCoreApplication.

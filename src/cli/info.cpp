@@ -1,4 +1,6 @@
 #include "cli/commands.h"
+#include "cli/instrumentInfo.h"
+#include "platform/OpenALLoopback.h"
 
 #include <nlohmann/json.hpp>
 #include <spdlog/fmt/fmt.h>
@@ -8,6 +10,9 @@ using Json = nlohmann::ordered_json;
 namespace {
 
 constexpr unsigned long kShownKey = 60;
+
+/// Nothing sounds: any rate will do.
+constexpr double kRate = 48000.0;
 constexpr unsigned long kPitchClasses = 12;
 constexpr const char* kPitchClassNames[kPitchClasses] = {"C",  "C♯", "D",  "E♭", "E",  "F",
                                                          "F♯", "G",  "G♯", "A",  "B♭", "B"};
@@ -84,34 +89,45 @@ void printSequence(const Json& sequence)
                    note["channel"].get<int>());
 }
 
-/// Reads and prints one file. Throws std::runtime_error with a sentence when it cannot be read.
-void printFile(const std::filesystem::path& path, bool json)
+Json describeInstrument(const std::filesystem::path& path)
 {
-    Json result;
-    const auto type = tuningType(path);
-    if (type) {
+    const OpenALLoopback loopback(kRate);
+    AppDelegate application;
+    return describe(*readInstrument(path, application), InstrumentDocument::typeOf(path));
+}
+
+/// A description of a file, and what prints it as text. Throws std::runtime_error with a sentence
+/// when it cannot be read.
+std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path& path)
+{
+    if (const auto type = tuningType(path)) {
         TuningDocument document;
         if (!document.readFromURL(path, *type))
             throw std::runtime_error(document.errorString());
-        result = describe(document);
-    } else if (isSequenceFile(path)) {
+        return {describe(document), printTuning};
+    }
+    if (isSequenceFile(path)) {
         AppDelegate application;
         SequenceDocument document(application);
         document.readFromURL(path);
         if (!document.errorString().empty())
             throw std::runtime_error(document.errorString());
-        result = describe(document, path.filename().string());
-    } else {
-        throw std::runtime_error(path.filename().string() +
-                                 ": is no kind of file that Velmora knows by its name");
+        return {describe(document, path.filename().string()), printSequence};
     }
+    if (!InstrumentDocument::typeOf(path).empty())
+        return {describeInstrument(path), printInstrument};
+    throw std::runtime_error(path.filename().string() +
+                             ": is no kind of file that Velmora knows by its name");
+}
+
+void printFile(const std::filesystem::path& path, bool json)
+{
+    const auto [description, print] = describeFile(path);
     if (json)
         // Names need not be UTF-8.
-        fmt::print("{}\n", result.dump(2, ' ', false, Json::error_handler_t::replace));
-    else if (type)
-        printTuning(result);
+        fmt::print("{}\n", description.dump(2, ' ', false, Json::error_handler_t::replace));
     else
-        printSequence(result);
+        print(description);
 }
 
 } // namespace

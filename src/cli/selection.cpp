@@ -1,10 +1,12 @@
 #include "cli/selection.h"
 
+#include "cli/ProgressLine.h"
 #include "cli/commands.h"
 
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <csignal>
 
 namespace {
 
@@ -33,6 +35,14 @@ std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
     return document;
 }
 
+/// Whether SIGINT or SIGTERM waits, where they are not let through.
+bool isInterrupted()
+{
+    sigset_t waiting;
+    sigpending(&waiting);
+    return sigismember(&waiting, SIGINT) == 1 || sigismember(&waiting, SIGTERM) == 1;
+}
+
 } // namespace
 
 std::optional<std::string> tuningType(const std::filesystem::path& path)
@@ -49,9 +59,40 @@ bool isSequenceFile(const std::filesystem::path& path)
     return std::ranges::find(kExtensions, lowerExtension(path)) != kExtensions.end();
 }
 
+std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path,
+                                                   AppDelegate& application)
+{
+    const std::string type = InstrumentDocument::typeOf(path);
+    if (type.empty())
+        throw UsageError("there is no instrument \"" + path.string() +
+                         "\": give a file that ends in .sf2, .gig, .organ_hauptwerk_xml, .xml or "
+                         ".organ");
+    ProgressLine progress("Loading");
+    double steps = 1.0;
+    double done = 0.0;
+    QObject listener;
+    QObject::connect(&application, &AppDelegate::progressStarted, &listener,
+                     [&](long count) { steps = std::max(1.0, static_cast<double>(count)); });
+    QObject::connect(&application, &AppDelegate::progressed, &listener, [&](unsigned count) {
+        progress.show((done += count) / steps);
+        if (isInterrupted())
+            application.cancelImport();
+    });
+    auto document = std::make_unique<InstrumentDocument>();
+    if (!document->readFromURL(path, type, application))
+        throw std::runtime_error(document->errorString().empty() ? "interrupted"
+                                                                 : document->errorString());
+    if (document->getInstrument() == nullptr)
+        throw std::runtime_error(path.filename().string() +
+                                 ": holds no instrument that Velmora can play");
+    return document;
+}
+
 void select(const Selection& selection, AppDelegate& application)
 {
     auto tuning = tuningNamed(selection.tuning);
+    if (!selection.instrument.empty())
+        application.addInstrument(readInstrument(selection.instrument, application));
     const std::string name = tuning->getName();
     application.putTuning(std::move(tuning));
     application.selectTuning(name);

@@ -11,6 +11,7 @@
 /// What the command line chooses to play with.
 struct Selection {
     std::string tuning = "Equal";        ///< "Equal", "Quartercomma Meantone", "Dynamic" or a file.
+    std::filesystem::path instrument;    ///< A file; empty for the General MIDI player.
     std::optional<std::uint8_t> program; ///< General MIDI program, 0…127.
     std::vector<std::pair<std::size_t, float>> stops; ///< Number of a stop and its gain.
 };
@@ -21,6 +22,12 @@ std::optional<std::string> tuningType(const std::filesystem::path& path);
 /// Whether the extension is that of a Standard MIDI File.
 bool isSequenceFile(const std::filesystem::path& path);
 
+/// Reads an instrument file, with the application as its host. Needs a current OpenAL context.
+/// Throws UsageError when it has no name of an instrument file; std::runtime_error with a sentence
+/// when it cannot be read.
+std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path,
+                                                   AppDelegate& application);
+
 /// Makes the selection current. Throws UsageError when it names what does not exist;
-/// std::runtime_error with a sentence when its tuning file cannot be read.
+/// std::runtime_error with a sentence when one of its files cannot be read.
 void select(const Selection& selection, AppDelegate& application);

@@ -50,6 +50,9 @@ Pcm decode(SNDFILE* file, const SF_INFO& info, std::size_t size)
     case SF_FORMAT_DOUBLE:
     case SF_FORMAT_VORBIS:
     case SF_FORMAT_OPUS:
+    case SF_FORMAT_MPEG_LAYER_I:
+    case SF_FORMAT_MPEG_LAYER_II:
+    case SF_FORMAT_MPEG_LAYER_III:
         decodeWith(sf_readf_float, file, info.channels, builder);
         break;
     default:

@@ -26,6 +26,7 @@ Sample::Sample(Sample&& other) noexcept
 
 Sample& Sample::operator=(Sample&& other) noexcept
 {
+    std::swap(sound_, other.sound_);
     std::swap(source_, other.source_);
     std::swap(released_, other.released_);
     std::swap(factor_, other.factor_);
@@ -52,6 +53,7 @@ void Sample::setBuffer(const Sound& sound, double rootPitch)
     ++pitchesGiven;
     if (source_ != 0)
         alDeleteSources(1, &source_);
+    sound_ = nullptr;
     source_ = 0;
     alGenSources(1, &source_);
     if (source_ == 0)
@@ -60,6 +62,7 @@ void Sample::setBuffer(const Sound& sound, double rootPitch)
     alSource3f(source_, AL_POSITION, 0.0F, 0.0F, 0.0F);
     alSourcef(source_, AL_PITCH, factor_);
     alSourcei(source_, AL_BUFFER, static_cast<ALint>(sound.buffer()));
+    sound_ = &sound;
 }
 
 void Sample::play(float volume)

@@ -30,6 +30,10 @@ public:
 
     /// The OpenAL name of the source; 0 without one.
     unsigned source() const { return source_; }
+
+    /// What the source plays; null without one.
+    const Sound* sound() const { return sound_; }
+
     double rootPitch() const { return rootPitch_; }
     double gain() const { return gain_; }
     bool released() const { return released_; }
@@ -38,6 +42,7 @@ public:
     static unsigned pitchesSet();
 
 private:
+    const Sound* sound_ = nullptr;
     unsigned source_ = 0;
     bool released_ = false;
     float factor_ = 1.0F; ///< The pitch of the source: that of the key by the root pitch.

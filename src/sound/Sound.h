@@ -28,7 +28,15 @@ public:
     /// Bytes of sound given to the buffer.
     std::uint32_t size() const { return size_; }
 
+    std::uint32_t frames() const { return size_ / (2U * static_cast<unsigned>(channels_)); }
+    int channels() const { return channels_; }
+
+    /// Frames in a second.
+    int rate() const { return rate_; }
+
 private:
     unsigned buffer_ = 0;
     std::uint32_t size_;
+    int channels_;
+    int rate_;
 };

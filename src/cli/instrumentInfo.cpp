@@ -1,0 +1,98 @@
+#include "cli/instrumentInfo.h"
+
+#include "sound/ALInstrument.h"
+
+#include <nlohmann/json.hpp>
+#include <spdlog/fmt/fmt.h>
+
+#include <map>
+
+using Json = nlohmann::ordered_json;
+
+namespace {
+
+/// How many keys of the instrument sound each of its sounds.
+using Uses = std::map<const Sound*, int>;
+
+Uses countUses(const ALInstrument& instrument)
+{
+    Uses uses;
+    for (const InstrumentStop& stop : instrument.stops()) {
+        for (const Sample& sample : stop.samples)
+            ++uses[sample.sound()];
+    }
+    return uses;
+}
+
+Json describe(const InstrumentStop& stop, const Uses& uses)
+{
+    Json result = {{"name", stop.name}, {"volume", stop.volume}, {"keys", Json::array()}};
+    for (std::size_t key = 0; key < kKeys; ++key) {
+        const Sample& sample = stop.samples[key];
+        const Sound* sound = sample.sound();
+        if (sound == nullptr)
+            continue;
+        result["keys"].push_back({{"key", key},
+                                  {"rootPitch", sample.rootPitch()},
+                                  {"frames", sound->frames()},
+                                  {"rate", sound->rate()},
+                                  {"channels", sound->channels()},
+                                  {"shared", uses.at(sound) > 1},
+                                  {"extended", stop.extended[key]}});
+    }
+    return result;
+}
+
+Json describe(const ImportReport& report)
+{
+    Json result = {{"ranks", report.ranks},
+                   {"pipes", report.pipes},
+                   {"samples", report.samples},
+                   {"skipped", Json::array()}};
+    for (const auto& [file, why] : report.skipped)
+        result["skipped"].push_back({{"file", file}, {"why", why}});
+    return result;
+}
+
+void printStop(std::size_t index, const Json& stop)
+{
+    const Json& keys = stop["keys"];
+    std::size_t extended = 0;
+    for (const Json& key : keys)
+        extended += key["extended"].get<bool>() ? 1U : 0U;
+    fmt::print("  stop {:>3}  volume {:.3f}  {:>3} keys of its own, {:>3} extended  {}\n", index,
+               stop["volume"].get<double>(), keys.size() - extended, extended,
+               stop["name"].get<std::string>());
+}
+
+} // namespace
+
+Json describe(const InstrumentDocument& document, const std::string& kind)
+{
+    const auto& instrument = dynamic_cast<const ALInstrument&>(*document.getInstrument());
+    Json result = {{"name", document.getName()},
+                   {"kind", kind},
+                   {"usage", document.getSize()},
+                   {"stops", Json::array()}};
+    const Uses uses = countUses(instrument);
+    for (const InstrumentStop& stop : instrument.stops())
+        result["stops"].push_back(describe(stop, uses));
+    result["report"] = describe(document.report());
+    return result;
+}
+
+void printInstrument(const Json& instrument)
+{
+    const Json& report = instrument["report"];
+    fmt::print("{}: {} instrument of {} stops, {} bytes of sound\n",
+               instrument["name"].get<std::string>(), instrument["kind"].get<std::string>(),
+               instrument["stops"].size(), instrument["usage"].get<std::int64_t>());
+    for (std::size_t i = 0; i < instrument["stops"].size(); ++i)
+        printStop(i, instrument["stops"][i]);
+    fmt::print("Loaded {} ranks, {} pipes, {} samples; skipped {}\n",
+               report["ranks"].get<std::size_t>(), report["pipes"].get<std::size_t>(),
+               report["samples"].get<std::size_t>(), report["skipped"].size());
+    for (const Json& skipped : report["skipped"])
+        fmt::print("  {}: {}\n", skipped["file"].get<std::string>(),
+                   skipped["why"].get<std::string>());
+}
