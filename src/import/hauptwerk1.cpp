@@ -4,7 +4,6 @@
 #include "base/FormatError.h"
 #include "base/Log.h"
 #include "base/Numbers.h"
-#include "import/Organ.h"
 #include "import/SampleFiles.h"
 #include "tuning/Temperament.h"
 
@@ -96,8 +95,8 @@ bool isPlaceholder(const std::string& value)
 /// Finds the files of the pipes in the sections and makes a stop of each "Stop" section.
 class Assembly {
 public:
-    Assembly(const std::filesystem::path& path, const Sections& sections)
-        : sections_(sections), folder_(std::filesystem::absolute(path).parent_path()),
+    Assembly(const Sections& sections, const std::filesystem::path& folder)
+        : sections_(sections), folder_(folder),
           firstKey_(integer(valueOf(sections, "Manual001", "FirstAccessibleKeyMIDINoteNumber")))
     {
         organ_.updates = kUpdates;
@@ -189,15 +188,21 @@ std::string bytesOf(const std::filesystem::path& path)
 
 } // namespace
 
+Organ hauptwerk1::findPipes(const Sections& sections, const std::filesystem::path& folder)
+{
+    return Assembly(sections, folder).assemble();
+}
+
 void readHauptwerk1(const std::filesystem::path& path, Import& import)
 {
     using enum hauptwerk1::LineEnd;
     const std::string bytes = bytesOf(path);
+    const auto folder = std::filesystem::absolute(path).parent_path();
     Sections sections = hauptwerk1::readSections(bytes, CarriageReturnLineFeed);
-    Organ organ = Assembly(path, sections).assemble();
+    Organ organ = hauptwerk1::findPipes(sections, folder);
     if (!anyExists(organ.files) && bytes.find('\r') == std::string::npos) {
         sections = hauptwerk1::readSections(bytes, LineFeed);
-        organ = Assembly(path, sections).assemble();
+        organ = hauptwerk1::findPipes(sections, folder);
     }
     import.name = valueOf(sections, "Organ", "ChurchName");
     loadOrgan(organ, import);

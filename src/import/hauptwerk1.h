@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/Import.h"
+#include "import/Organ.h"
 
 #include <filesystem>
 #include <map>
@@ -21,6 +22,10 @@ enum class LineEnd { CarriageReturnLineFeed, LineFeed };
 /// again begins anew. With the wrong line end, a line loses its last character or keeps one too
 /// many; with the first, a last line without a line feed is not read.
 Sections readSections(std::string_view bytes, LineEnd lineEnd);
+
+/// The stops and pipes of the sections, with sample files relative to a folder. A pipe whose stop
+/// or key does not exist is skipped. Throws FormatError where there are too many stops.
+Organ findPipes(const Sections& sections, const std::filesystem::path& folder);
 
 } // namespace hauptwerk1
 

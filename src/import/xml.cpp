@@ -21,8 +21,8 @@ constexpr std::array<unsigned char, 256> classes()
 {
     std::array<unsigned char, 256> result{};
     result[0] = kZero;
-    for (const unsigned char white : {'\t', '\n', '\r', ' '})
-        result[white] = kWhite;
+    for (const char white : {'\t', '\n', '\r', ' '})
+        result[static_cast<unsigned char>(white)] = kWhite;
     result['>'] = kGreater;
     result['<'] = kLess;
     result['"'] = kQuote;

@@ -71,8 +71,8 @@ public:
 
     private:
         friend class Children;
-        Iterator(const Tree& tree, std::uint32_t index, std::uint32_t depth)
-            : tree_(&tree), index_(index), depth_(depth)
+        Iterator(const Tree* tree, std::uint32_t index, std::uint32_t depth)
+            : tree_(tree), index_(index), depth_(depth)
         {
         }
 
@@ -81,8 +81,8 @@ public:
         std::uint32_t depth_;
     };
 
-    Iterator begin() const { return {*tree_, first_, depth_}; }
-    Iterator end() const { return {*tree_, end_, depth_}; }
+    Iterator begin() const { return {tree_, first_, depth_}; }
+    Iterator end() const { return {tree_, end_, depth_}; }
 
 private:
     friend class Node;

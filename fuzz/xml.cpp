@@ -1,0 +1,47 @@
+// Any bytes: a tree whose every node can be asked everything, and perhaps an organ.
+
+#include "import/xml.h"
+#include "base/FormatError.h"
+#include "import/OrganDefinition.h"
+
+#include <cstdlib>
+
+namespace {
+
+void require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+/// Characters of names, texts and values in the tree below a node.
+std::size_t lengthOf(const xml::Node& node)
+{
+    std::size_t length = node.name().size() + node.text().size();
+    for (const auto& [name, value] : node.attributes())
+        length += name.size() + value.size();
+    for (const xml::Node child : node.children()) {
+        require(child.depth() == node.depth() + 1);
+        length += lengthOf(child);
+    }
+    return length;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    try {
+        require(lengthOf(xml::parseXML(xml::Buffer(bytes)).root()) <= size);
+    } catch (const FormatError&) {
+        return 0;
+    }
+    try {
+        const OrganDefinition organ = readOrganDefinition(bytes);
+        require(organ.pipes.size() <= size && organ.files.size() <= size);
+    } catch (const FormatError&) {
+        return 0;
+    }
+    return 0;
+}
