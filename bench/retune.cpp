@@ -1,0 +1,81 @@
+// What a key-down costs on a sampled organ of 60 stops: the dynamic temperament looks at every key
+// each time, and tells OpenAL of those that have another pitch; then the key speaks in every stop.
+
+#include "base/Log.h"
+#include "platform/OpenALLoopback.h"
+#include "sineOrgan.h"
+#include "tuning/DynamicTemperament.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr int kStops = 60;
+
+class Retune : public benchmark::Fixture {
+public:
+    void SetUp(benchmark::State& /*state*/) override
+    {
+        setLogLevel(spdlog::level::warn);
+        loopback_ = std::make_unique<OpenALLoopback>(48000.0);
+        organ_ = std::make_unique<ALInstrument>();
+        fillWithSines(*organ_, kStops, 0.1);
+        organ_->tune(temperament_, 0, 127);
+    }
+
+    void TearDown(benchmark::State& /*state*/) override
+    {
+        organ_.reset();
+        loopback_.reset();
+    }
+
+protected:
+    DynamicTemperament temperament_;
+    std::unique_ptr<OpenALLoopback> loopback_;
+    std::unique_ptr<ALInstrument> organ_;
+};
+
+/// The next key, through all pitch classes by fifths.
+unsigned char nextKey(unsigned char key)
+{
+    return static_cast<unsigned char>(36 + (key - 36 + 7) % 61);
+}
+
+BENCHMARK_F(Retune, noPitchChanges)(benchmark::State& state)
+{
+    unsigned char key = 36;
+    for ([[maybe_unused]] auto iteration : state) {
+        key = nextKey(key);
+        temperament_.setup(*organ_, key, 0.8F);
+    }
+}
+
+BENCHMARK_F(Retune, onePitchClassChanges)(benchmark::State& state)
+{
+    int n = 0;
+    for ([[maybe_unused]] auto iteration : state) {
+        // Forced to its lower and its upper spelling by turns.
+        n = n == 2 ? 4 : 2;
+        temperament_.isomorph(*organ_, n);
+    }
+}
+
+BENCHMARK_F(Retune, keyDownAndUp)(benchmark::State& state)
+{
+    unsigned char key = 36;
+    for ([[maybe_unused]] auto iteration : state) {
+        key = nextKey(key);
+        temperament_.setup(*organ_, key, 0.8F);
+        organ_->play(key, 0.8F);
+        organ_->stop(key);
+        organ_->fade(0.0);
+    }
+}
+
+BENCHMARK_F(Retune, fadeOfSilence)(benchmark::State& state)
+{
+    for ([[maybe_unused]] auto iteration : state)
+        organ_->fade(0.9);
+}
+
+} // namespace
