@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 
+#include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
 #include "platform/AudioFileWriter.h"
 #include "platform/OpenALLoopback.h"
@@ -40,14 +41,17 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
         throw std::runtime_error(renderer.errorString());
     AudioFileWriter file(output, options.rate);
     ProgressLine progress("Rendering");
-    renderer.render(
+    const Interruption interruption;
+    const bool rendered = renderer.render(
         options,
         [&](const float* left, const float* right, std::size_t frames) {
             file.write(left, right, frames);
         },
         [&](double done) {
             progress.show(done);
-            return true;
+            return !interruption.requested();
         });
+    if (!rendered)
+        throw std::runtime_error("interrupted: " + output.string() + " was not written");
     file.commit();
 }
