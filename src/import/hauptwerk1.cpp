@@ -7,6 +7,8 @@
 #include "import/SampleFiles.h"
 #include "tuning/Temperament.h"
 
+#include <spdlog/fmt/fmt.h>
+
 #include <algorithm>
 #include <unordered_map>
 
@@ -125,7 +127,7 @@ private:
         ++rank_;
         for (const auto& [key, value] : section) {
             if (key.starts_with("Pipe"))
-                addPipe(stop, numberOf(key), value, name + ' ' + key);
+                addPipe(stop, numberOf(key), value, fmt::format("{} {}", name, key));
         }
     }
 
