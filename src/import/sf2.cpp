@@ -91,7 +91,7 @@ private:
             throw FormatError("is empty");
         return std::make_unique<Sound>(std::span(buffer_).first(count),
                                        stereo ? AL_FORMAT_STEREO16 : AL_FORMAT_MONO16,
-                                       sample.dwSampleRate);
+                                       static_cast<double>(sample.dwSampleRate));
     }
 
     const RIFF::Chunk& pool_;

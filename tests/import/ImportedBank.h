@@ -76,7 +76,7 @@ public:
     {
         std::vector<std::string> result;
         for (const auto& [name, why] : import.report.skipped)
-            result.push_back(name + ": " + why);
+            result.push_back(fmt::format("{}: {}", name, why));
         return result;
     }
 
