@@ -16,7 +16,7 @@ constexpr std::size_t kSerial = 14;
 constexpr std::size_t kChecksum = 22;
 constexpr std::size_t kSegmentCount = 26;
 constexpr std::size_t kHeader = 27;
-constexpr std::size_t kLongestPage = kHeader + 255 + 255 * 255;
+constexpr std::size_t kLongestPage = kHeader + 255 + std::size_t{255} * 255;
 
 constexpr std::array<std::uint32_t, 256> makeChecksums()
 {

@@ -73,16 +73,21 @@ public:
 private:
     static int process(jack_nframes_t frames, void* self)
     {
-        auto& listener = *static_cast<Listener*>(self);
-        const auto* in = static_cast<const float*>(jack_port_get_buffer(listener.port_, frames));
-        if (!listener.listening_)
-            return 0;
-        const std::size_t left = listener.sound_.size() - listener.heard_;
-        const std::size_t count = std::min<std::size_t>(frames, left);
-        std::copy_n(in, count, listener.sound_.data() + listener.heard_);
-        listener.heard_ += count;
-        listener.listening_ = count < left;
+        static_cast<Listener*>(self)->copyFromJack(frames);
         return 0;
+    }
+
+    void copyFromJack(std::size_t frames)
+    {
+        if (!listening_)
+            return;
+        const auto* in = static_cast<const float*>(
+            jack_port_get_buffer(port_, static_cast<jack_nframes_t>(frames)));
+        const std::size_t left = sound_.size() - heard_;
+        const std::size_t count = std::min(frames, left);
+        std::copy_n(in, count, sound_.data() + heard_);
+        heard_ += count;
+        listening_ = count < left;
     }
 
     std::vector<float> sound_;
@@ -197,7 +202,7 @@ TEST(LivePath, SoundsWithinTwoPeriodsOfTheArrivalOfTheBytes)
     std::array<int, 4> periods{};
     for (std::uint8_t i = 0; i < kRepetitions; ++i) {
         // Without the output the last note dies away at once.
-        const Stereo silence = rendered(sounding, 10 * kRate + 17U * i);
+        const Stereo silence = rendered(sounding, 4 * kRate + std::size_t{17} * i);
         ASSERT_EQ(silence.left.back(), 0.0F);
         probe.reset();
         output->play(&probe);

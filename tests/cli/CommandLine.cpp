@@ -32,7 +32,7 @@ protected:
         // The third C-E and the fifth C-G, half a second long.
         write("chord.mid", midi::file(midi::on(0, 60) + midi::on(0, 64) + midi::on(0, 67) +
                                       midi::off(96, 60) + midi::off(0, 64) + midi::off(0, 67)));
-        write("broken.mid", "MThd\0\0\0\6");
+        write("broken.mid", "MThd");
         write("pure.scl",
               "Pure\n12\n16/15\n9/8\n6/5\n5/4\n4/3\n45/32\n3/2\n8/5\n5/3\n9/5\n15/8\n2/1\n");
         write("broken.scl", "Broken\n12\n16/15\nabc\n");

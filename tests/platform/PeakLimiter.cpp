@@ -23,7 +23,7 @@ Signal noise(float amplitude)
 }
 
 /// `left` on one side, the probe on the other.
-Stereo signal(std::size_t frames, Signal left)
+Stereo signal(std::size_t frames, const Signal& left)
 {
     Stereo sound(frames);
     for (std::size_t i = 0; i < frames; ++i)

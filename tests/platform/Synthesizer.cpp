@@ -86,7 +86,7 @@ TEST_F(SynthesizerTest, FallsSilentAndWakesUpAsItWas)
 {
     const auto strike = [&] {
         synthesizer.midiEvent(0x94, 64, 100);
-        const Stereo sound = rendered(synthesizer, kRate / 10);
+        Stereo sound = rendered(synthesizer, kRate / 10);
         synthesizer.midiEvent(0x84, 64, 0);
         rendered(synthesizer, 3 * kRate);
         EXPECT_EQ(peakOf(kRate), 0.0F) << "all of it";
