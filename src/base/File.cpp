@@ -14,9 +14,7 @@ FormatError systemError(int code)
     return FormatError("cannot be read (" + std::generic_category().message(code) + ")");
 }
 
-} // namespace
-
-std::vector<std::byte> readFile(const std::filesystem::path& path)
+template <class Bytes> Bytes readBytes(const std::filesystem::path& path)
 {
     std::error_code error;
     if (std::filesystem::is_directory(path, error))
@@ -26,9 +24,12 @@ std::vector<std::byte> readFile(const std::filesystem::path& path)
     if (!file)
         throw systemError(errno);
 
-    // Read by blocks rather than by the file's size: pipes and the like have none.
-    std::vector<std::byte> bytes;
+    // Read by blocks rather than by the file's size, which is but a hint: pipes and the like have
+    // none.
+    Bytes bytes;
     constexpr std::size_t kBlock = 1 << 16;
+    if (const std::uintmax_t size = std::filesystem::file_size(path, error); !error)
+        bytes.reserve(size + 2 * kBlock);
     std::size_t length = 0;
     do {
         bytes.resize(bytes.size() + kBlock);
@@ -38,4 +39,16 @@ std::vector<std::byte> readFile(const std::filesystem::path& path)
     if (std::ferror(file.get()) != 0)
         throw systemError(errno);
     return bytes;
+}
+
+} // namespace
+
+std::vector<std::byte> readFile(const std::filesystem::path& path)
+{
+    return readBytes<std::vector<std::byte>>(path);
+}
+
+std::string readTextFile(const std::filesystem::path& path)
+{
+    return readBytes<std::string>(path);
 }

@@ -180,8 +180,7 @@ bool anyExists(const std::vector<Organ::File>& files)
 std::string bytesOf(const std::filesystem::path& path)
 {
     try {
-        const auto bytes = readFile(path);
-        return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+        return readTextFile(path);
     } catch (const FormatError&) {
         logger("import").error("Couldn't open File '{}'", path.string());
         throw;

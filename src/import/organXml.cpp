@@ -13,12 +13,6 @@ namespace {
 /// How often progress is shown.
 constexpr long kUpdates = 200;
 
-std::string bytesOf(const std::filesystem::path& path)
-{
-    const auto bytes = readFile(path);
-    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-}
-
 /// Where the sample files of an organ are.
 class Packages {
 public:
@@ -137,7 +131,7 @@ private:
 
 void readXML(const std::filesystem::path& path, Import& import)
 {
-    const OrganDefinition definition = readOrganDefinition(bytesOf(path));
+    const OrganDefinition definition = readOrganDefinition(readTextFile(path));
     import.name = definition.name;
     loadOrgan(Assembly(path, definition).assemble(), import);
 }

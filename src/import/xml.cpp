@@ -14,6 +14,9 @@ namespace {
 /// Deeper nesting is a mistake or an attack: organ definitions use four levels.
 constexpr std::size_t kMaximumDepth = 1000;
 
+/// About as many bytes as an element takes in a file: memory is not touched before it is needed.
+constexpr std::size_t kBytesOfElement = 16;
+
 /// What ends a run of characters. The end of the bytes is a 0 like any other.
 enum Class : unsigned char { kZero = 1, kWhite = 2, kGreater = 4, kLess = 8, kQuote = 16 };
 
@@ -233,6 +236,7 @@ void Tree::parseNode(std::uint32_t& pos)
 Tree parseXML(Buffer buffer)
 {
     Tree tree(std::move(buffer.data));
+    tree.elements_.reserve(tree.bytes_.size() / kBytesOfElement);
     std::uint32_t pos = buffer.pos;
     tree.parseNode(pos);
     tree.elements_.clear();
