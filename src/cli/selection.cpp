@@ -1,22 +1,14 @@
 #include "cli/selection.h"
 
+#include "base/Text.h"
 #include "cli/ProgressLine.h"
 #include "cli/commands.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <csignal>
 
 namespace {
-
-std::string lowerExtension(const std::filesystem::path& path)
-{
-    std::string extension = path.extension().string();
-    std::ranges::transform(extension, extension.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return extension;
-}
 
 std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
 {
@@ -47,7 +39,7 @@ bool isInterrupted()
 
 std::optional<std::string> tuningType(const std::filesystem::path& path)
 {
-    const std::string extension = lowerExtension(path);
+    const std::string extension = lowerCase(path.extension().string());
     if (extension == ".mtx")
         return std::string(TuningDocument::kFrequencyType);
     return extension == ".scl" ? std::optional<std::string>("Scale") : std::nullopt;
@@ -56,7 +48,8 @@ std::optional<std::string> tuningType(const std::filesystem::path& path)
 bool isSequenceFile(const std::filesystem::path& path)
 {
     constexpr std::array kExtensions = {".mid", ".midi", ".smf", ".kar"};
-    return std::ranges::find(kExtensions, lowerExtension(path)) != kExtensions.end();
+    return std::ranges::find(kExtensions, lowerCase(path.extension().string())) !=
+           kExtensions.end();
 }
 
 std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path,

@@ -53,7 +53,7 @@ protected:
     template <class Sample>
     std::filesystem::path write(int format, int channels, const std::vector<Sample>& samples)
     {
-        const auto path = folder_ / "sound";
+        auto path = folder_ / "sound";
         SF_INFO info{};
         info.samplerate = 44100;
         info.channels = channels;
