@@ -15,17 +15,14 @@
 #include <spdlog/fmt/fmt.h>
 
 #include <cmath>
-#include <stdexcept>
 
 /// What a reader of sample banks makes of a file in memory, in an OpenAL of its own.
-class ImportedBank {
+template <void (*reader)(const RIFF::File&, Import&)> class ImportedBank {
     static constexpr double kRate = 48'000.0;
     OpenALLoopback loopback_{kRate}; // first, and so gone last
 
 public:
-    using Reader = void (*)(const RIFF::File&, Import&);
-
-    ImportedBank(Reader reader, const std::string& bytes, std::size_t cancelAfter = SIZE_MAX)
+    explicit ImportedBank(const std::string& bytes, std::size_t cancelAfter = SIZE_MAX)
         : host(cancelAfter)
     {
         try {
@@ -46,13 +43,10 @@ public:
         const auto& samples = import.instrument->stops().at(stop).samples;
         for (std::size_t key = 0; key < samples.size(); ++key) {
             const std::string sound = shown(samples[key]);
-            if (sound.empty() || sound != last)
-                first = key;
-            else
-                result.pop_back();
-            if (!sound.empty())
-                result.push_back((first == key ? "" : std::to_string(first) + "-") +
-                                 std::to_string(key) + sound);
+            if (sound == last && !sound.empty())
+                result.back() = fmt::format("{}-{}{}", first, key, sound);
+            else if (first = key; !sound.empty())
+                result.push_back(std::to_string(key) + sound);
             last = sound;
         }
         return result;
@@ -96,15 +90,14 @@ public:
 private:
     std::string shown(const Sample& sample) const
     {
-        if (sample.source() == 0)
-            return "";
         ALint buffer = 0;
-        alGetSourcei(sample.source(), AL_BUFFER, &buffer);
+        if (sample.source() != 0)
+            alGetSourcei(sample.source(), AL_BUFFER, &buffer);
+        const double root = 12 * std::log2(sample.rootPitch() / equal.getPitch(0));
         for (const auto& [name, sound] : import.instrument->sounds) {
             if (sound->buffer() == static_cast<unsigned>(buffer))
-                return fmt::format(" {} {:.6g}", name,
-                                   12 * std::log2(sample.rootPitch() / equal.getPitch(0)));
+                return fmt::format(" {} {:.6g}", name, root);
         }
-        return " ?";
+        return "";
     }
 };
