@@ -102,6 +102,7 @@ TEST(RIFF, EndsDataWhereTheParentAndTheFileEnd)
              {bytes.substr(0, 45), "bank(deep(data=12345678))"},
              {resized(4, 0), "bank()"},
              {resized(4, 0x7FFFFFFF), "bank(deep(data=12345678) next=n)"},
+             {resized(4, bytes.size() - 4) + "left12345678", "bank(deep(data=12345678) next=n)"},
              {resized(28, 12), "bank(deep(data=12345678))"},
              {resized(28, 0xFFFFFFFF), "bank(deep(data=12345678))"},
              {resized(16, 0x7FFFFFFF), "bank(deep(data=12345678 next=n))"},

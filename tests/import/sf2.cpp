@@ -161,6 +161,7 @@ TEST(SoundFont, RefusesWhatCannotSound)
              {"f: has nothing to sound", broken([](Bank& b) { b.ibag.clear(); })},
              {"f: has nothing to sound (a: its data is not in the file)",
               broken([](Bank& b) { b.smpl.clear(); })},
+             {"none", broken([](Bank& b) { b.inst[2 * 22 + 20] = 99; })},
              {"f, byte 282: the indices of \"inst\" go back",
               broken([](Bank& b) { b.inst[20] = 9; })},
              {"f, byte 356: the indices of \"ibag\" go back",
