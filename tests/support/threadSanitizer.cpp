@@ -11,11 +11,4 @@ extern "C" const char* __tsan_default_suppressions()
            "race:copyFromJack\n" // its server's shared memory
            "deadlock:libdbus-1.so\n";
 }
-
-// QProcess forks a process that has threads, but only to start another program.
-// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's own hook
-extern "C" const char* __tsan_default_options()
-{
-    return "die_after_fork=0";
-}
 #endif
