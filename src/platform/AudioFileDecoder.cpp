@@ -97,7 +97,7 @@ Pcm decodeAudioFile(const std::filesystem::path& path)
     if (descriptor.get() < 0 || fstat(descriptor.get(), &status) != 0 ||
         pread(descriptor.get(), magic.data(), magic.size(), 0) < 0) {
         const int error = errno;
-        logger("platform").error("ERROR : ExtAudioFileOpenURL, {}", error);
+        logger("platform").info("ERROR : ExtAudioFileOpenURL, {}", error);
         throw FormatError("cannot be read (" + std::generic_category().message(error) + ")");
     }
     if (isWavPack(magic))
@@ -106,7 +106,7 @@ Pcm decodeAudioFile(const std::filesystem::path& path)
     SF_INFO info{};
     const SoundFile file(sf_open_fd(descriptor.get(), SFM_READ, &info, SF_FALSE), sf_close);
     if (!file) {
-        logger("platform").error("ERROR : ExtAudioFileOpenURL, {}", sf_error(nullptr));
+        logger("platform").info("ERROR : ExtAudioFileOpenURL, {}", sf_error(nullptr));
         throw notSound();
     }
     return decode(file.get(), info, static_cast<std::size_t>(status.st_size));
@@ -135,7 +135,7 @@ Pcm decodeAudio(std::span<const std::byte> image)
     SF_INFO info{};
     const SoundFile file(sf_open_virtual(&callbacks, SFM_READ, &info, &reader), sf_close);
     if (!file) {
-        logger("platform").error("ERROR : ExtAudioFileWrapAudioFileID, {}", sf_error(nullptr));
+        logger("platform").info("ERROR : ExtAudioFileWrapAudioFileID, {}", sf_error(nullptr));
         throw notSound();
     }
     return decode(file.get(), info, image.size());

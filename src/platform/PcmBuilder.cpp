@@ -36,8 +36,8 @@ PcmBuilder::PcmBuilder(int channels, double rate, std::int64_t frames, std::size
 {
     if (channels > 2) {
         logger("platform")
-            .error("MyGetOpenALAudioData - Unsupported Format, channel count is greater than "
-                   "stereo");
+            .info("MyGetOpenALAudioData - Unsupported Format, channel count is greater than "
+                  "stereo");
         throw FormatError("has " + std::to_string(channels) + " channels, where two are the most");
     }
     if (channels < 1 || !(rate > 0.0))
