@@ -82,7 +82,7 @@ private:
         const auto destination = std::as_writable_bytes(std::span(buffer_).first(count));
         count = pool_.read(sample.dwStart * kPoint, destination) / kPoint;
 
-        // One half of a linked pair is marked as stereo, as it always was played here.
+        // Linked and ROM samples are played as two interleaved channels, whatever they hold.
         constexpr unsigned kLinkedOrRom = 0x8008;
         const bool stereo = (sample.sfSampleType & kLinkedOrRom) != 0;
         if (stereo)
