@@ -4,6 +4,7 @@
 #include "base/FormatError.h"
 #include "base/Log.h"
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "import/SampleFiles.h"
 #include "tuning/Temperament.h"
 
@@ -88,10 +89,12 @@ int numberOf(const std::string& name)
     return integer(name.substr(4, 3));
 }
 
-/// Whether a pipe's value is there in place of a file: "DUMMY", or "REF:" and another pipe.
+/// Whether a pipe's value is there in place of a file: nothing, "DUMMY", or "REF:" and another
+/// pipe.
 bool isPlaceholder(const std::string& value)
 {
-    return value == "DUMMY" || value.starts_with("REF:");
+    const std::string lower = lowerCase(value);
+    return lower.empty() || lower == "dummy" || lower.starts_with("ref:");
 }
 
 /// Finds the files of the pipes in the sections and makes a stop of each "Stop" section.
@@ -138,7 +141,7 @@ private:
         pipe.text = value;
         const long key = long{firstKey_} + number - 1;
         if (isPlaceholder(value)) {
-            organ_.skipped.emplace_back(place, "names no file but " + value);
+            organ_.skipped.emplace_back(place, "names no file: \"" + value + '"');
         } else if (stop >= organ_.stops.size()) {
             organ_.skipped.emplace_back(place, "its stop does not follow the one before");
         } else if (key < 0 || key >= static_cast<long>(kKeys)) {

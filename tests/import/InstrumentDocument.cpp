@@ -182,8 +182,8 @@ TEST_F(InstrumentDocumentTest, LoadsAnOrganOfVersion1WithAnyLineEnds)
         EXPECT_EQ(document_.report().samples, 2U);
         EXPECT_EQ(document_.report().ranks, 1U);
         EXPECT_THAT(document_.report().skipped,
-                    ElementsAre(Pair("Stop001 Pipe011", "names no file but DUMMY"),
-                                Pair("Stop001 Pipe013", "names no file but REF:1:1:1"),
+                    ElementsAre(Pair("Stop001 Pipe011", "names no file: \"DUMMY\""),
+                                Pair("Stop001 Pipe013", "names no file: \"REF:1:1:1\""),
                                 Pair("Stop001 Pipe099", HasSubstr("MIDI note 134")),
                                 Pair("Stop003 Pipe001", HasSubstr("does not follow"))));
         EXPECT_EQ(bufferOf(0, 0), bufferOf(0, 45));
