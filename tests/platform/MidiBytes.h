@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <initializer_list>
-#include <span>
 #include <string>
 
 /// Builders of Standard MIDI Files for tests. Bytes are kept in strings.
@@ -10,10 +9,7 @@ namespace midi {
 
 inline std::string bytes(std::initializer_list<int> values)
 {
-    std::string result;
-    for (const int value : values)
-        result += static_cast<char>(value);
-    return result;
+    return {values.begin(), values.end()};
 }
 
 inline std::string number(std::size_t value, int size)
@@ -57,26 +53,16 @@ inline std::string tempo(std::size_t delta, std::size_t microseconds)
     return quantity(delta) + bytes({0xFF, 0x51, 3}) + number(microseconds, 3);
 }
 
-inline std::string endOfTrack(std::size_t delta = 0)
-{
-    return quantity(delta) + bytes({0xFF, 0x2F, 0});
-}
-
 /// A chunk with the events and an end-of-track mark.
 inline std::string track(const std::string& events)
 {
-    return chunk("MTrk", events + endOfTrack());
+    return chunk("MTrk", events + bytes({0, 0xFF, 0x2F, 0}));
 }
 
 /// A file of format 0.
 inline std::string file(const std::string& events, std::size_t division = 96)
 {
     return header(0, 1, division) + track(events);
-}
-
-inline std::span<const std::byte> view(const std::string& bytes)
-{
-    return std::as_bytes(std::span(bytes));
 }
 
 } // namespace midi
