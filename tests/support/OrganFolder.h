@@ -27,7 +27,7 @@ public:
     /// The path of a new file, in new folders where its name says so.
     std::filesystem::path write(const std::string& name, const std::string& bytes) const
     {
-        const auto path = path_ / name;
+        auto path = path_ / name;
         std::filesystem::create_directories(path.parent_path());
         std::ofstream(path, std::ios::binary) << bytes;
         return path;
