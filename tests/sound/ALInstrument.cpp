@@ -170,40 +170,30 @@ TEST_F(ALInstrumentTest, SoundsInTune)
     }
 }
 
-TEST_F(ALInstrumentTest, HasASourceForEveryKeyOfALargeOrgan)
+TEST_F(ALInstrumentTest, HasASourceForEveryKeyOfALargeOrganAndFreesThem)
 {
-    const Sound& a = sound(440.0);
     std::set<unsigned> sources;
-    for (std::size_t stop = 0; stop < 60; ++stop) {
-        instrument_.appendStop("").volume = 0.5F;
-        for (std::size_t key = 0; key < kKeys; ++key) {
-            sample(stop, key).setBuffer(a, 440.0);
-            sources.insert(sample(stop, key).source());
+    unsigned buffer = 0;
+    {
+        ALInstrument organ;
+        auto& sound = organ.sounds["a"] = std::make_unique<Sound>(sine(440.0, 1.0));
+        buffer = sound->buffer();
+        for (std::size_t i = 0; i < 60; ++i) {
+            organ.appendStop("").volume = 0.5F;
+            for (Sample& key : organ.stops().back().samples) {
+                key.setBuffer(*sound, 440.0);
+                sources.insert(key.source());
+            }
         }
+        organ.play(60, 1.0F);
+        for (const InstrumentStop& stop : organ.stops())
+            EXPECT_TRUE(isPlaying(stop.samples[60].source()));
+        rendered(loopback_, 1024);
     }
     EXPECT_EQ(sources.size(), 60 * kKeys);
     EXPECT_EQ(sources.count(0), 0U);
-    instrument_.play(60, 1.0F);
-    for (std::size_t stop = 0; stop < 60; ++stop)
-        EXPECT_TRUE(isPlaying(sample(stop, 60).source())) << "stop " << stop;
-}
-
-TEST_F(ALInstrumentTest, FreesItsSourcesAndSounds)
-{
-    unsigned source = 0;
-    unsigned buffer = 0;
-    {
-        ALInstrument instrument;
-        auto& a = instrument.sounds["a"] = std::make_unique<Sound>(sine(440.0, 0.1));
-        instrument.appendStop("").volume = 1.0F;
-        instrument.stops()[0].samples[60].setBuffer(*a, 440.0);
-        instrument.play(60, 1.0F);
-        rendered(loopback_, 1024);
-        source = instrument.stops()[0].samples[60].source();
-        buffer = a->buffer();
-        EXPECT_TRUE(alIsSource(source) && alIsBuffer(buffer));
-    }
-    EXPECT_FALSE(alIsSource(source) || alIsBuffer(buffer));
+    EXPECT_TRUE(std::ranges::none_of(sources, [](unsigned source) { return alIsSource(source); }));
+    EXPECT_FALSE(alIsBuffer(buffer));
     EXPECT_EQ(alGetError(), AL_NO_ERROR);
 }
 
