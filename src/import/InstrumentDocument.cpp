@@ -92,6 +92,6 @@ bool InstrumentDocument::readFromURL(const std::filesystem::path& path, const st
         errorString_ =
             FormatError("is too large to be read into memory").inFile(path.filename().string());
     }
-    logger("import").error(errorString_);
+    logger("import").info("{}", errorString_);
     return false;
 }

@@ -185,7 +185,7 @@ std::string bytesOf(const std::filesystem::path& path)
     try {
         return readTextFile(path);
     } catch (const FormatError&) {
-        logger("import").error("Couldn't open File '{}'", path.string());
+        logger("import").info("Couldn't open File '{}'", path.string());
         throw;
     }
 }
