@@ -8,7 +8,10 @@
 
 namespace {
 
-/// How much may be decoded and not yet taken: enough for every core to be busy.
+/// How many files each thread may be ahead: more than keep it busy only spread over memory.
+constexpr std::size_t kFilesAhead = 4;
+
+/// How many bytes may be decoded and not yet taken.
 constexpr std::uintmax_t kMaximumAhead = std::uintmax_t{24} << 20;
 
 std::uintmax_t sizeOf(const std::filesystem::path& file)
@@ -21,7 +24,7 @@ std::uintmax_t sizeOf(const std::filesystem::path& file)
 } // namespace
 
 SoundLoader::SoundLoader(std::vector<std::filesystem::path> files, unsigned threads)
-    : files_(std::move(files)), slots_(files_.size())
+    : files_(std::move(files)), window_(kFilesAhead * std::max(threads, 1U)), slots_(files_.size())
 {
     const std::size_t useful = std::min<std::size_t>(std::max(threads, 1U), files_.size());
     for (std::size_t i = 0; i < useful; ++i)
@@ -61,7 +64,9 @@ void SoundLoader::work(const std::stop_token& stop)
         const std::uintmax_t guess = sizeOf(files_[index]);
         lock.lock();
         // The file that is wanted next is never held up.
-        const auto mayBegin = [&] { return index == taken_ || ahead_ + guess <= kMaximumAhead; };
+        const auto mayBegin = [&] {
+            return index == taken_ || (index < taken_ + window_ && ahead_ + guess <= kMaximumAhead);
+        };
         if (!changed_.wait(lock, stop, mayBegin))
             return;
         ahead_ += guess;

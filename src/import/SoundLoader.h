@@ -40,6 +40,7 @@ private:
     static Slot decode(const std::filesystem::path& file);
 
     const std::vector<std::filesystem::path> files_;
+    const std::size_t window_; ///< files that may be begun and not handed out
 
     std::mutex mutex_; ///< guards what follows
     std::condition_variable_any changed_;
