@@ -3,41 +3,25 @@
 #include "sound/Pcm.h"
 
 #include <cstddef>
-#include <span>
 #include <string>
 #include <vector>
 
-/// Builders of RIFF files and sample banks for tests. Bytes are kept in strings.
+/// Builders of RIFF files for tests. Bytes are kept in strings.
 namespace riff {
 
-/// Little-endian.
-inline std::string number(std::size_t value, int size)
+/// Of `size` bytes each, little-endian as our machines are.
+inline std::string numbers(const std::vector<std::size_t>& values, std::size_t size)
 {
     std::string result;
-    for (int i = 0; i < size; ++i)
-        result += static_cast<char>(value >> 8 * i & 0xFF);
+    for (const std::size_t& value : values)
+        result.append(reinterpret_cast<const char*>(&value), size);
     return result;
-}
-
-inline std::string numbers(const std::vector<std::size_t>& values, int size)
-{
-    std::string result;
-    for (const std::size_t value : values)
-        result += number(value, size);
-    return result;
-}
-
-/// Text in a field of that width.
-inline std::string field(std::string text, std::size_t width)
-{
-    text.resize(width);
-    return text;
 }
 
 /// With the pad byte of an odd one.
 inline std::string chunk(const std::string& id, const std::string& body)
 {
-    return id + number(body.size(), 4) + body + std::string(body.size() % 2, '\0');
+    return id + numbers({body.size()}, 4) + body + std::string(body.size() % 2, '\0');
 }
 
 inline std::string list(const std::string& type, const std::string& body)
@@ -48,11 +32,6 @@ inline std::string list(const std::string& type, const std::string& body)
 inline std::string file(const std::string& type, const std::string& body)
 {
     return chunk("RIFF", type + body);
-}
-
-inline std::string name(const std::string& text)
-{
-    return list("INFO", chunk("INAM", text + '\0'));
 }
 
 /// 16-bit points of a sound.
@@ -66,11 +45,6 @@ inline std::string wave(const std::string& data, std::size_t rate)
 {
     return chunk("fmt ", numbers({1, 1}, 2) + numbers({rate, 2 * rate}, 4) + numbers({2, 16}, 2)) +
            chunk("data", data);
-}
-
-inline std::span<const std::byte> view(const std::string& bytes)
-{
-    return std::as_bytes(std::span(bytes));
 }
 
 } // namespace riff
