@@ -33,6 +33,10 @@ class Listener {
 public:
     Listener()
     {
+        const auto process = [](jack_nframes_t frames, void* self) {
+            static_cast<Listener*>(self)->copyFromJack(frames);
+            return 0;
+        };
         jack_set_process_callback(client_.get(), process, this);
         jack_activate(client_.get());
         EXPECT_TRUE(waitUntil(
@@ -49,16 +53,13 @@ public:
     }
 
 private:
-    static int process(jack_nframes_t frames, void* self)
+    void copyFromJack(jack_nframes_t frames)
     {
-        auto& listener = *static_cast<Listener*>(self);
-        if (const std::size_t missing = listener.missing_) {
-            const std::size_t count = std::min<std::size_t>(frames, missing);
-            std::copy_n(static_cast<const float*>(jack_port_get_buffer(listener.port_, frames)),
-                        count, listener.sound_.end() - static_cast<std::ptrdiff_t>(missing));
-            listener.missing_ = missing - count;
-        }
-        return 0;
+        const std::size_t missing = missing_, count = std::min<std::size_t>(frames, missing);
+        const auto* heard = static_cast<const float*>(jack_port_get_buffer(port_, frames));
+        if (count > 0)
+            std::copy_n(heard, count, &sound_[sound_.size() - missing]);
+        missing_ -= count;
     }
 
     std::vector<float> sound_; ///< The callback's while some of it is missing.
