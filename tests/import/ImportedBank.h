@@ -37,15 +37,13 @@ public:
                 fmt::format("{}: {} {} {}. ", name, one->channels(), one->rate(), one->size());
     }
 
-    /// The keys of a stop from which on another sound is played: "36 Flute 60, 38 -,", where 60 is
-    /// the root key.
+    /// The keys from which on a stop plays another sound, with its root key: "0 -, 36 Flute 60,".
     std::string keys(std::size_t stop) const
     {
         std::map<ALint, std::string> names;
         for (const auto& [name, sound] : import.instrument->sounds)
             names[static_cast<ALint>(sound->buffer())] = name;
         std::string result;
-        std::string last = " -,";
         for (std::size_t key = 0; const Sample& sample : import.instrument->stops()[stop].samples) {
             ALint buffer = 0;
             if (sample.source() != 0)
@@ -53,9 +51,8 @@ public:
             const double root = 12 * std::log2(sample.rootPitch() / equal.getPitch(0));
             const std::string sound =
                 buffer == 0 ? " -," : fmt::format(" {} {:.6g},", names.at(buffer), root);
-            if (sound != last)
+            if (!result.ends_with(sound))
                 result += (result.empty() ? "" : " ") + std::to_string(key) + sound;
-            last = sound;
             ++key;
         }
         return result;

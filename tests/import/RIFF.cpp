@@ -30,28 +30,24 @@ std::string shown(const RIFF::Chunk& element)
 
 TEST(RIFF, ReadsTheTreeAsFarAsParentAndFileReach)
 {
-    const std::string bytes =
-        file("bank", list("deep", chunk("data", "12345678")) + chunk("next", "n"));
-    const auto resized = [&bytes](std::size_t at, std::size_t size) {
-        return std::string(bytes).replace(at, 4, numbers({size}, 4));
+    const std::string good = file("bank", list("deep", chunk("data", "1234")) + chunk("next", "n"));
+    const auto resized = [&good](std::size_t at, std::size_t size) {
+        return std::string(good).replace(at, 4, numbers({size}, 4));
     };
     const std::string uncounted = "LIST\x0D" + std::string(3, '\0') + "deep" + chunk("odd ", "1");
-    for (const auto& [what, broken, expected] : {
-             std::tuple{"odd and empty",
-                        file("bank", chunk("odd ", "abc") + chunk("zero", "") + list("void", "")),
-                        "bank(odd (abc)zero()void())"},
+    for (const auto& [what, bytes, expected] : {
+             std::tuple{"file of no size", resized(4, 0), "bank()"},
+             {"odd", file("bank", chunk("odd ", "abc") + chunk("zero", "") + list("void", "")),
+              "bank(odd (abc)zero()void())"},
              {"pad byte beyond its list", file("bank", uncounted + chunk("next", "n")),
               "bank(deep(odd (1))next(n))"},
-             {"cut in data", bytes.substr(0, 35), "bank(deep(data(123)))"},
-             {"file of no size", resized(4, 0), "bank()"},
-             {"file too long", resized(4, 0x7FFFFFFF), "bank(deep(data(12345678))next(n))"},
-             {"bytes behind", bytes + "left12345678", "bank(deep(data(12345678))next(n))"},
-             {"chunk longer than its list", resized(28, 12), "bank(deep(data(12345678)))"},
-             {"chunk far too long", resized(28, 0xFFFFFFFF), "bank(deep(data(12345678)))"},
-             {"list too long", resized(16, 0x7FFFFFFF), "bank(deep(data(12345678)next(n)))"},
+             {"cut in data", good.substr(0, 35), "bank(deep(data(123)))"},
+             {"file too long", resized(4, 0x7FFFFFFF), "bank(deep(data(1234))next(n))"},
+             {"bytes behind", good + "left12345678", "bank(deep(data(1234))next(n))"},
+             {"chunk longer than its list", resized(28, 12), "bank(deep(data(1234)))"},
+             {"list too long", resized(16, 0x7FFFFFFF), "bank(deep(data(1234)next(n)))"},
          })
-        EXPECT_EQ(shown(RIFF::File(view(broken))), expected) << what;
-
+        EXPECT_EQ(shown(RIFF::File(view(bytes))), expected) << what;
     std::string nested;
     for (int i = 0; i < 33; ++i)
         nested = list("deep", nested);
@@ -60,20 +56,16 @@ TEST(RIFF, ReadsTheTreeAsFarAsParentAndFileReach)
 
 TEST(RIFF, FindsByIdAndListTypeAndReadsRecords)
 {
-    const std::string bytes =
-        file("bank", chunk("both", "12345") + list("both", "") + list("list", chunk("in  ", "")));
+    const std::string bytes = file("bank", chunk("both", "12345") + list("both", ""));
     const RIFF::File root(view(bytes));
     const auto* data = root.get<RIFF::Chunk>(code("both"));
     EXPECT_EQ(data, root.children[0].get());
     EXPECT_EQ(root.get<RIFF::List>(code("both")), nullptr) << "the first is no list";
     EXPECT_THAT(root.all<RIFF::List>(code("both")), ElementsAre(nullptr, root.children[1].get()));
-    EXPECT_EQ(root.get<RIFF::Chunk>(code("list")), root.children[2].get()) << "a list is a chunk";
-    EXPECT_EQ(root.get<RIFF::Chunk>(code("in  ")), nullptr) << "no grandchild";
     EXPECT_TRUE(root.all<RIFF::List>(code("none")).empty());
 
     EXPECT_THAT(data->read<std::uint16_t>(), ElementsAre(0x3231, 0x3433)) << "whole records only";
     EXPECT_TRUE(data->read<std::uint64_t>().empty());
-
     const RIFF::File none("no such file");
     EXPECT_EQ(none.get<RIFF::Chunk>(code("both")), nullptr);
     EXPECT_THROW(none.check(), FormatError);
