@@ -54,14 +54,16 @@ TEST_F(AppDelegateTest, KeysSoundOnceTheSelectedTemperamentHasTunedThem)
     EXPECT_NE(app_.getTemperament(), before);
 }
 
-TEST_F(AppDelegateTest, FadesTheTemperament)
+TEST_F(AppDelegateTest, FadesTheInstrumentAndTheTemperament)
 {
     app_.loop(); // without an instrument
     app_.setInstrument(instrument_);
     app_.selectTuning("Dynamic");
     app_.getTemperament()->isomorph(instrument_, -1);
     EXPECT_NEAR(app_.getTemperament()->getTuning(0).cent(), -41.06, 0.01);
+    calls_.clear();
     app_.loop();
+    expectCalls({"fade 0.9"});
     EXPECT_EQ(app_.getTemperament()->getTuning(0).cent(), 0.0) << "comes home once all has faded";
 }
 

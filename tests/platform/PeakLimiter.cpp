@@ -44,9 +44,6 @@ TEST(PeakLimiter, BringsEveryPeakToTheCeilingByAGainWithoutSteps)
         {"impulses", [](std::size_t i) { return i % 997 == 500 ? -30.0F : 0.3F; }},
         {"crowding ones",
          [](std::size_t i) { return i % 23 == 0 ? static_cast<float>(1 + i % 7) : 0.0F; }},
-        {"bursts", [](std::size_t i) { return i / 700 % 2 == 0 ? 0.0F
-                                              : i % 2 == 0     ? 4.F
-                                                               : -4.F; }},
         {"noise", [](std::size_t i) { return 10.0F * kNoise(i); }}};
     for (const double rate : {8000.0, 48000.0, 192000.0}) {
         const std::size_t delay = PeakLimiter(rate).delay();

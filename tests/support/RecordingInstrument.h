@@ -29,6 +29,7 @@ public:
     {
         calls_.push_back(fmt::format("tune {} {}", lo, hi));
     }
+    void fade(double factor) override { calls_.push_back(fmt::format("fade {}", factor)); }
 
 private:
     Calls& calls_;
