@@ -53,9 +53,9 @@ void SequenceRenderer::soundUntil(double seconds, double rate, const AudioSink& 
         sink(left_.data(), right_.data(), count);
         frames_ += count;
     };
-    for (double fade = static_cast<double>(fades_ + 1) * kFadeSeconds; fade <= seconds;
-         fade = static_cast<double>(fades_ + 1) * kFadeSeconds) {
-        sound(fade);
+    const auto nextFade = [this] { return static_cast<double>(fades_ + 1) * kFadeSeconds; };
+    while (nextFade() <= seconds) {
+        sound(nextFade());
         application_.loop();
         ++fades_;
     }
