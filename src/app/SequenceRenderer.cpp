@@ -22,6 +22,7 @@ bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sin
 {
     const double begin = options.loop ? options.loop->start : 0.0;
     const double end = options.loop ? options.loop->end : document_.extent();
+    const double length = end > begin ? end - begin : 1.0; // an empty sequence has none
     const int times = options.loop ? options.loop->times : 1;
     if (options.loop)
         document_.selectInterval(begin, end);
@@ -31,7 +32,7 @@ bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sin
     document_.play();
     while (document_.mode() == SequenceDocument::Mode::Playing) {
         if (ticks_ % kTicksPerReport == 0 &&
-            !progress((played + (document_.getOffset() - begin) / (end - begin)) / times))
+            !progress((played + (document_.getOffset() - begin) / length) / times))
             return false;
         soundUntil(static_cast<double>(++ticks_) / kTicksPerSecond, options.rate, sink);
         const double before = document_.getOffset();
