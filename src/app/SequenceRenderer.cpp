@@ -37,7 +37,8 @@ bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sin
         soundUntil(static_cast<double>(++ticks_) / kTicksPerSecond, options.rate, sink);
         const double before = document_.getOffset();
         document_.loop();
-        if (document_.getOffset() < before)
+        // Each tick goes on, but for the one that has come to the end.
+        if (document_.getOffset() <= before)
             document_.setLoop(++played < times - 1);
     }
     soundUntil(now_ + options.tailSeconds, options.rate, sink);
