@@ -44,11 +44,11 @@ public:
         for (const auto& [name, sound] : import.instrument->sounds)
             names[static_cast<ALint>(sound->buffer())] = name;
         std::string result;
-        for (std::size_t key = 0; const Sample& sample : import.instrument->stops()[stop].samples) {
+        for (std::size_t key = 0; const Sample& one : import.instrument->stops().at(stop).samples) {
             ALint buffer = 0;
-            if (sample.source() != 0)
-                alGetSourcei(sample.source(), AL_BUFFER, &buffer);
-            const double root = 12 * std::log2(sample.rootPitch() / equal.getPitch(0));
+            if (one.source() != 0)
+                alGetSourcei(one.source(), AL_BUFFER, &buffer);
+            const double root = 12 * std::log2(one.rootPitch() / equal.getPitch(0));
             const std::string sound =
                 buffer == 0 ? " -," : fmt::format(" {} {:.6g},", names.at(buffer), root);
             if (!result.ends_with(sound))
