@@ -4,89 +4,54 @@
 #include "support/OrganFolder.h"
 
 #include <gtest/gtest.h>
+#include <spdlog/fmt/fmt.h>
 
 namespace {
 
-using organ::list;
-using organ::row;
+const ObjectList kGeneral{"_GENERAL", {"Identification_Name=St. Anne"}};
 
-const std::string kGeneral =
-    list("_GENERAL", row("_General", {{"Identification_UniqueOrganID", "123"},
-                                      {"Identification_Name", "St. Anne"}}));
-
-std::string pipesOf(const OrganDefinition& definition)
-{
+/// Of each pipe the rank, key, file and package; or why the organ is refused.
+std::string pipesOf(const std::vector<ObjectList>& lists)
+try {
+    OrganDefinition organ = readOrganDefinition(xmlOrganDefinition(lists));
     std::string result;
-    for (const auto& pipe : definition.pipes) {
-        result += std::to_string(pipe.rank) + ":" + std::to_string(pipe.note);
-        if (const auto file = definition.files.find(pipe.id); file != definition.files.end())
-            result += "=" + file->second.name + "@" + std::to_string(file->second.package) +
-                      (file->second.licensed ? "!" : "");
-        result += " ";
+    for (const auto& pipe : organ.pipes) {
+        const auto& [name, package, licensed] = organ.files[pipe.id];
+        result +=
+            fmt::format("{}:{}={}@{}{} ", pipe.rank, pipe.note, name, package, licensed ? "!" : "");
     }
     return result;
+} catch (const FormatError& error) {
+    return error.what();
 }
 
-TEST(OrganDefinition, KeepsTheValueOfTheRowBeforeWhereAFullNameIsMissing)
+TEST(OrganDefinition, ReadsRowsOfFullNamesAndOfLetters)
 {
-    const auto definition = readOrganDefinition(organ::file(
-        kGeneral +
-        list("PIPE_SoundEngine01",
-             row("Pipe", {{"PipeID", "1"}, {"RankID", "7"}, {"NormalMIDINoteNumber", "36"}}) +
-                 row("Pipe", {{"PipeID", "2"}})) +
-        list("Pipe_SoundEngine01_Layer",
-             row("L", {{"LayerID", "11"}, {"PipeID", "1"}}) + row("L", {{"LayerID", "12"}})) +
-        list("Pipe_SoundEngine01_AttackSample",
-             row("A", {{"LayerID", "12"}, {"SampleID", "21"}}) + row("A", {{"LayerID", "99"}})) +
-        list("Sample", row("S", {{"SampleID", "21"},
-                                 {"SampleFilename", "a\\b.wav"},
-                                 {"InstallationPackageID", "5"},
-                                 {"LicenceSerialNumRequiredForSampleFile", "0"}}))));
-    EXPECT_EQ(definition.name, "St. Anne");
-    EXPECT_EQ(definition.number, 123);
-    EXPECT_EQ(pipesOf(definition), "7:36=a\\b.wav@5 7:36 ");
-}
-
-TEST(OrganDefinition, ReadsTheLettersOfCompactedRowsWithTheirDefaults)
-{
-    const auto definition = readOrganDefinition(organ::file(
-        list("Rank", row("o", {{"b", "Flute"}, {"a", "7"}}) + row("o", {{"a", "8"}})) + kGeneral +
-        list("Pipe_SoundEngine01",
-             row("o", {{"d", "36"}, {"b", "7"}, {"a", "1"}}) +
-                 row("Pipe_SoundEngine01", {{"a", "2"}, {"c", "x"}, {"b", "8"}})) +
-        list("Pipe_SoundEngine01_Layer",
-             row("o", {{"a", "11"}, {"b", "1"}}) + row("o", {{"a", "12"}, {"b", "2"}})) +
-        list("Pipe_SoundEngine01_AttackSample", row("o", {{"c", "21"}, {"b", "11"}, {"a", "3"}}) +
-                                                    row("o", {{"b", "12"}, {"c", "22"}})) +
-        list("Sample", row("o", {{"a", "21"}, {"b", "5"}, {"c", "a.wav"}, {"h", "9"}}) +
-                           row("o", {{"a", "22"}, {"c", "b.wav"}}))));
-    EXPECT_EQ(pipesOf(definition), "7:36=a.wav@5! 8:60=b.wav@0 ");
-    EXPECT_EQ(definition.rankNames.at(7), "Flute");
-    EXPECT_EQ(definition.rankNames.at(8), "");
+    const std::string file = "SampleFilename=a\\b.wav,InstallationPackageID=5";
+    EXPECT_EQ(
+        pipesOf({kGeneral,
+                 {"PIPE_SoundEngine01", {"PipeID=1,RankID=7,NormalMIDINoteNumber=36", "PipeID=2"}},
+                 {"Pipe_SoundEngine01_Layer", {"LayerID=11,PipeID=1", "LayerID=12"}},
+                 {"Pipe_SoundEngine01_AttackSample", {"LayerID=12,SampleID=21", "LayerID=99"}},
+                 {"Sample", {"SampleID=21,LicenceSerialNumRequiredForSampleFile=9," + file}}}),
+        "7:36=a\\b.wav@5! 7:36=@0 ")
+        << "a missing field keeps the value of the row before";
+    EXPECT_EQ(pipesOf({kGeneral,
+                       {"Pipe_SoundEngine01", {"d=36,b=7,a=1", "a=2,c=x,b=8"}},
+                       {"Pipe_SoundEngine01_Layer", {"a=11,b=1", "a=12,b=2"}},
+                       {"Pipe_SoundEngine01_AttackSample", {"c=21,b=11,a=3", "b=12,c=22"}},
+                       {"Sample", {"a=21,b=5,c=a.wav,h=9", "a=22,c=b.wav"}}}),
+              "7:36=a.wav@5! 8:60=b.wav@0 ")
+        << "a missing letter has its default";
 }
 
 TEST(OrganDefinition, RefusesWhatIsNoOrgan)
 {
-    const struct {
-        std::string text, sentence;
-    } rows[] = {
-        {"", "is no organ definition: its root element is not \"Hauptwerk\""},
-        {"<Hauptwerk></Hauptwerk>",
-         "is no organ definition: its root element is not \"Hauptwerk\""},
-        {organ::file(""), "has no list of objects of the type _General"},
-        {organ::file(kGeneral), "has no list of objects of the type Pipe_SoundEngine01_Layer"},
-        {organ::file(list("_General", "") + list("Pipe_SoundEngine01_layer", "") +
-                     list("Sample", "") + list("Pipe_SoundEngine01_AttackSample", "")),
-         "has no list of objects of the type Pipe_SoundEngine01"},
-    };
-    for (const auto& row : rows) {
-        try {
-            readOrganDefinition(row.text);
-            ADD_FAILURE() << row.sentence;
-        } catch (const FormatError& error) {
-            EXPECT_EQ(error.what(), row.sentence);
-        }
-    }
+    const std::string missing = "has no list of objects of the type ";
+    EXPECT_EQ(pipesOf({}), missing + "_General");
+    EXPECT_EQ(pipesOf({kGeneral}), missing + "Pipe_SoundEngine01_Layer");
+    EXPECT_THROW(readOrganDefinition("<?xml?><organ></organ>"), FormatError);
+    EXPECT_THROW(readOrganDefinition(""), FormatError);
 }
 
 } // namespace

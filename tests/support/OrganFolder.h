@@ -3,34 +3,25 @@
 #include "support/RiffBytes.h"
 #include "support/Sine.h"
 
+#include <QTemporaryDir>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <string>
-#include <unistd.h>
-#include <utility>
 #include <vector>
 
 /// A temporary folder for an organ and its samples, gone with the object.
 class OrganFolder {
 public:
-    OrganFolder()
-    {
-        std::string name = (std::filesystem::temp_directory_path() / "organXXXXXX").string();
-        path_ = mkdtemp(name.data());
-    }
-    ~OrganFolder() { std::filesystem::remove_all(path_); }
-    OrganFolder(const OrganFolder&) = delete;
-    OrganFolder& operator=(const OrganFolder&) = delete;
-
-    const std::filesystem::path& path() const { return path_; }
+    std::filesystem::path path() const { return folder_.path().toStdString(); }
 
     /// The path of a new file, in new folders where its name says so.
     std::filesystem::path write(const std::string& name, const std::string& bytes) const
     {
-        auto path = path_ / name;
-        std::filesystem::create_directories(path.parent_path());
-        std::ofstream(path, std::ios::binary) << bytes;
-        return path;
+        auto file = path() / name;
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file, std::ios::binary) << bytes;
+        return file;
     }
 
     /// A mono WAV file of two seconds, at 48,000 Hz.
@@ -40,31 +31,24 @@ public:
     }
 
 private:
-    std::filesystem::path path_;
+    QTemporaryDir folder_;
 };
 
-/// Builders of XML organ definitions.
-namespace organ {
+/// A list of an XML organ definition; each row is "field=value,field=value".
+struct ObjectList {
+    std::string type;
+    std::vector<std::string> rows;
+};
 
-inline std::string row(const std::string& name,
-                       const std::vector<std::pair<std::string, std::string>>& fields)
+inline std::string xmlOrganDefinition(const std::vector<ObjectList>& lists)
 {
-    std::string result = "<" + name + ">";
-    for (const auto& [field, value] : fields)
-        result.append("<").append(field).append(">").append(value).append("</").append(field) +=
-            ">";
-    return result + "</" + name + ">\r\n";
+    std::string result = "<?xml version=\"1.0\"?>\r\n<Hauptwerk FileFormat=\"Organ\">\r\n";
+    for (const auto& [type, rows] : lists) {
+        result += "<ObjectList ObjectType=\"" + type + "\">\r\n";
+        const std::regex field("([^=]+)=([^,]*),?");
+        for (const std::string& row : rows)
+            result += "<o>" + std::regex_replace(row, field, "<$1>$2</$1>") + "</o>\r\n";
+        result += "</ObjectList>\r\n";
+    }
+    return result + "</Hauptwerk>";
 }
-
-inline std::string list(const std::string& type, const std::string& rows)
-{
-    return "<ObjectList ObjectType=\"" + type + "\">\r\n" + rows + "</ObjectList>\r\n";
-}
-
-inline std::string file(const std::string& lists)
-{
-    return "<?xml version=\"1.0\"?>\r\n<Hauptwerk FileFormat=\"Organ\">\r\n" + lists +
-           "</Hauptwerk>";
-}
-
-} // namespace organ
