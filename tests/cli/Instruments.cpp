@@ -68,7 +68,6 @@ TEST_F(Instruments, AreDescribed)
     const std::string text = velmora({"info", "test.organ"});
     EXPECT_THAT(text, HasSubstr("Test: Organ instrument of 2 stops, 384000 bytes of sound\n"));
     EXPECT_THAT(text, HasSubstr("Loaded 2 ranks, 2 pipes, 2 samples; skipped 1\n"));
-
     const Json organ = Json::parse(velmora({"info", "test.organ", "--json"}));
     EXPECT_EQ(organ["stops"][0]["keys"][48], Json::parse(R"({"key": 48, "frames": 96000,
         "rootPitch": 261.6255653006, "rate": 48000, "channels": 1, "shared": true,

@@ -77,10 +77,8 @@ protected:
         SF_INFO info{0, 44100, channels, format, 0, 0};
         const auto count = static_cast<sf_count_t>(samples.size());
         SNDFILE* file = sf_open(path.c_str(), SFM_WRITE, &info);
-        if (bits == kFloats)
-            sf_write_raw(file, samples.data(), 4 * count);
-        else
-            sf_write_int(file, samples.data(), count);
+        bits == kFloats ? sf_write_raw(file, samples.data(), 4 * count)
+                        : sf_write_int(file, samples.data(), count);
         sf_close(file);
         return path;
     }
@@ -92,19 +90,17 @@ TEST_F(AudioFileDecoderTest, RoundsAndClipsTo16Bits)
 {
     const std::pair<int, int> rows[] = {{SF_FORMAT_WAV | SF_FORMAT_PCM_U8, 8},
                                         {kWav, 16},
-                                        {SF_FORMAT_WAV | SF_FORMAT_PCM_24, 24},
                                         {SF_FORMAT_WAV | SF_FORMAT_FLOAT, kFloats},
                                         {SF_FORMAT_AIFF | SF_FORMAT_PCM_32, 32},
                                         {SF_FORMAT_FLAC | SF_FORMAT_PCM_24, 24},
-                                        {kWavPack, 8},
                                         {kWavPack, 24},
                                         {kWavPack, 32},
                                         {kWavPack, kFloats}};
     for (const auto& [format, bits] : rows) {
         SCOPED_TRACE(fmt::format("format {:x} of {} bits", format, bits));
         for (const int channels : {1, 2}) {
-            const auto path =
-                write(format, bits, channels, bits == kFloats ? kFloatBits : kSamples);
+            const Words& samples = bits == kFloats ? kFloatBits : kSamples;
+            const auto path = write(format, bits, channels, samples);
             for (const Pcm& pcm : {decodeAudioFile(path), decodeAudio(readFile(path))}) {
                 EXPECT_EQ(pcm.samples, expected(bits));
                 EXPECT_EQ(pcm.channels, channels);

@@ -132,15 +132,15 @@ TEST(Sound, AndItsSourcesAreFreedWithALargeOrgan)
         ALInstrument organ;
         auto& sound = organ.sounds["a"] = std::make_unique<Sound>(Pcm{{1, 2, 3, 4}, 2, 44100.5});
         buffer = sound->buffer();
-        for (std::size_t i = 0; i < 60; ++i) {
+        for (int i = 0; i < 60; ++i) {
             for (Sample& key : organ.appendStop("").samples) {
                 key.setBuffer(*sound, 440.0);
                 sources.push_back(key.source());
-                EXPECT_TRUE(alIsSource(key.source()));
             }
         }
+        EXPECT_TRUE(std::ranges::all_of(sources, alIsSource));
     }
-    EXPECT_TRUE(std::ranges::none_of(sources, [](unsigned source) { return alIsSource(source); }));
+    EXPECT_TRUE(std::ranges::none_of(sources, alIsSource));
     EXPECT_FALSE(alIsBuffer(buffer));
 }
 
