@@ -17,6 +17,40 @@
 #include <cmath>
 #include <map>
 
+/// The keys from which on a stop plays another sound, with its root key: "0 -, 36 Flute 60,".
+inline std::string keysOf(const ALInstrument& instrument, std::size_t stop)
+{
+    std::map<ALint, std::string> names;
+    for (const auto& [name, sound] : instrument.sounds)
+        names[static_cast<ALint>(sound->buffer())] = std::filesystem::path(name).filename();
+    std::string result;
+    for (std::size_t key = 0; const Sample& one : instrument.stops().at(stop).samples) {
+        ALint buffer = 0;
+        if (one.source() != 0)
+            alGetSourcei(one.source(), AL_BUFFER, &buffer);
+        const double root = 12 * std::log2(one.rootPitch() / equal.getPitch(0));
+        const std::string sound =
+            buffer == 0 ? " -," : fmt::format(" {} {:.6g},", names.at(buffer), root);
+        if (!result.ends_with(sound))
+            result += (result.empty() ? "" : " ") + std::to_string(key) + sound;
+        ++key;
+    }
+    return result;
+}
+
+/// The cents by which a key of the first stop is off in meantone, when equal A is `hertzOfA`.
+inline double centsOff(ALInstrument& instrument, OpenALLoopback& loopback, std::size_t key,
+                       double hertzOfA)
+{
+    const Temperament meantone = Temperament::Meantone();
+    const double hertz = hertzOfA * meantone.getPitch(key) / equal.getPitch(69);
+    instrument.tune(meantone, 0, 127);
+    instrument.play(static_cast<int>(key), 1.0F);
+    const Stereo sound = rendered(loopback, 24'000);
+    instrument.fade(0.0);
+    return cents(measuredHertz(std::span(sound.left).subspan(4'000), 48'000, hertz), hertz);
+}
+
 /// What a reader of sample banks makes of a file in memory, in an OpenAL of its own.
 template <void (*reader)(const RIFF::File&, Import&)> class ImportedBank {
     OpenALLoopback loopback_{48'000}; // first, and so gone last
@@ -37,36 +71,11 @@ public:
                 fmt::format("{}: {} {} {}. ", name, one->channels(), one->rate(), one->size());
     }
 
-    /// The keys from which on a stop plays another sound, with its root key: "0 -, 36 Flute 60,".
-    std::string keys(std::size_t stop) const
-    {
-        std::map<ALint, std::string> names;
-        for (const auto& [name, sound] : import.instrument->sounds)
-            names[static_cast<ALint>(sound->buffer())] = name;
-        std::string result;
-        for (std::size_t key = 0; const Sample& one : import.instrument->stops().at(stop).samples) {
-            ALint buffer = 0;
-            if (one.source() != 0)
-                alGetSourcei(one.source(), AL_BUFFER, &buffer);
-            const double root = 12 * std::log2(one.rootPitch() / equal.getPitch(0));
-            const std::string sound =
-                buffer == 0 ? " -," : fmt::format(" {} {:.6g},", names.at(buffer), root);
-            if (!result.ends_with(sound))
-                result += (result.empty() ? "" : " ") + std::to_string(key) + sound;
-            ++key;
-        }
-        return result;
-    }
+    std::string keys(std::size_t stop) const { return keysOf(*import.instrument, stop); }
 
-    /// The cents by which a key of the first stop is off in meantone, when equal A is `hertzOfA`.
-    double centsOff(unsigned long key, double hertzOfA)
+    double centsOff(std::size_t key, double hertzOfA)
     {
-        const Temperament meantone = Temperament::Meantone();
-        const double hertz = hertzOfA * meantone.getPitch(key) / equal.getPitch(69);
-        import.instrument->tune(meantone, 0, 127);
-        import.instrument->play(static_cast<int>(key), 1.0F);
-        const Stereo sound = rendered(loopback_, 24'000);
-        return cents(measuredHertz(std::span(sound.left).subspan(4'000), 48'000, hertz), hertz);
+        return ::centsOff(*import.instrument, loopback_, key, hertzOfA);
     }
 
     RecordingHost host;
