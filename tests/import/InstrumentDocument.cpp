@@ -34,27 +34,29 @@ protected:
         folder_.writeSine(folder + "a.wav", 880.0);
     }
 
-    /// An organ whose rank 7 has pipes on keys 60, 62 and 64, the last without its file; rank 8 has
-    /// two on key 69, and one without a key.
+    /// An organ whose rank 7 has pipes on keys 62, 60 by default, and 64, without its file; rank 8
+    /// has two on key 69, and one without a key.
     std::filesystem::path writeXml(const std::string& number, const std::string& licence) const
     {
         for (const std::string package : {"000123", "5 other"})
             writeFlute("OrganInstallationPackages/" + package + "/flute/");
-        std::vector<std::string> links;
-        for (int i = 1; i <= 6; ++i)
-            links.push_back(fmt::format("a={0},b={0},c={0}", i));
+        std::vector<std::string> layers, attacks;
+        for (int pipe = 1; pipe <= 6; ++pipe) {
+            layers.push_back(fmt::format("a=1{0},b={0}", pipe));
+            attacks.push_back(fmt::format("b=1{0},c=2{0}", pipe));
+        }
         const std::string c = ",b=5,c=Flute\\C.wav,h=" + licence;
         const auto lists = xmlOrganDefinition(
             {{"_General", {"Identification_Name=St. Anne,Identification_UniqueOrganID=" + number}},
              {"Rank", {"a=7,b=Flute"}},
              {"Pipe_SoundEngine01",
-              {"a=1,b=7,d=60", "a=2,b=7,d=62", "a=3,b=7,d=64", "a=4,b=8,d=69", "a=5,b=8,d=200",
+              {"a=1,b=7,d=62", "a=2,b=7", "a=3,b=7,d=64", "a=4,b=8,d=69", "a=5,b=8,d=200",
                "a=6,b=8,d=69"}},
-             {"Pipe_SoundEngine01_Layer", links},
-             {"Pipe_SoundEngine01_AttackSample", links},
+             {"Pipe_SoundEngine01_Layer", layers},
+             {"Pipe_SoundEngine01_AttackSample", attacks},
              {"Sample",
-              {"a=1" + c, "a=2" + c, "a=3,c=Flute\\none.wav", "a=4,b=5,c=flute/A.WAV",
-               "a=5,c=x.wav", "a=6" + c}}});
+              {"a=21" + c, "a=22" + c, "a=23,c=Flute\\none.wav", "a=24,b=5,c=flute/A.WAV",
+               "a=25,c=x.wav", "a=26" + c}}});
         return folder_.write("OrganDefinitions/anne.Organ_Hauptwerk_xml", lists);
     }
 
@@ -138,6 +140,10 @@ TEST_F(InstrumentDocumentTest, RefusesWhatCannotSoundAndStaysAsItWas)
         {folder_.write("b/lost.organ", kTextOrgan),
          "lost.organ: has nothing to sound: of 2 sample files none can be decoded, such as /"},
         {folder_.write("b/broken.xml", "<?xml?>\n<a x=1>"), "broken.xml, line 2: the value"},
+        {folder_.write("b/other.xml", "<?xml?><organ></organ>"),
+         "other.xml: is no organ definition"},
+        {folder_.write("b/bare.xml", xmlOrganDefinition({{"_General", {}}})),
+         "bare.xml: has no list of objects of the type Pipe_SoundEngine01_Layer"},
         {writeXml("123", "1"), "anne.Organ_Hauptwerk_xml: cannot be loaded: its samples are "
                                "encrypted and need a licence"},
     };
