@@ -4,6 +4,9 @@
 #include "platform/AudioFileDecoder.h"
 #include "platform/MidiBytes.h"
 #include "support/OrganFolder.h"
+#include "support/Pitch.h"
+#include "support/Stereo.h"
+#include "tuning/Temperament.h"
 
 #include <QProcess>
 #include <gmock/gmock.h>
@@ -16,6 +19,8 @@ using testing::HasSubstr;
 
 namespace {
 
+constexpr double kRoot = 261.6255653006; // of key 48 of the organ
+
 struct Result {
     int code;
     std::string out, error;
@@ -25,29 +30,23 @@ class CommandLine : public testing::Test {
 protected:
     CommandLine()
     {
-        // The third C-E and the fifth C-G, half a second long.
-        folder_.write("chord.mid",
-                      midi::file(midi::on(0, 60) + midi::on(0, 64) + midi::on(0, 67) +
-                                 midi::off(96, 60) + midi::off(0, 64) + midi::off(0, 67)));
+        folder_.write("song.mid", midi::file(midi::on(0, 52) + midi::off(288, 52)));
         folder_.write("broken.mid", "MThd");
-        folder_.write(
-            "pure.scl",
-            "Pure\n12\n16/15\n9/8\n6/5\n5/4\n4/3\n45/32\n3/2\n8/5\n5/3\n9/5\n15/8\n2/1\n");
+        folder_.write("pure.scl",
+                      "Pure\n12\n16/15\n9/8\n6/5\n5/4\n4/3\n7/5\n3/2\n8/5\n5/3\n9/5\n15/8\n2/1\n");
         folder_.write("broken.scl", "Broken\n12\n16/15\nabc\n");
+        folder_.writeSine("a.wav", kRoot);
+        folder_.writeSine("b.wav", 3.0 * kRoot); // a twelfth
+        folder_.write("test.organ",
+                      "[Organ]\nChurchName=Test\n[Manual001]\nFirstAccessibleKeyMIDINoteNumber=48\n"
+                      "[Stop001]\nPipe001=a.wav\nPipe002=missing.wav\n[Stop002]\nPipe001=b.wav\n");
     }
 
-    auto content(const QString& name) const
-    {
-        return readFile(folder_.path() / name.toStdString());
-    }
+    auto content(const QString& name) { return readFile(folder_.path() / name.toStdString()); }
+    auto files() { return std::distance(std::filesystem::directory_iterator(folder_.path()), {}); }
 
-    auto files() const
-    {
-        return std::distance(std::filesystem::directory_iterator(folder_.path()), {});
-    }
-
-    /// Runs a program in the folder.
-    Result run(const QString& program, const QStringList& words)
+    /// Runs Velmora, or another program, in the folder.
+    Result run(const QStringList& words, const QString& program = VELMORA_PROGRAM)
     {
         QProcess process;
         process.setWorkingDirectory(QString::fromStdString(folder_.path().string()));
@@ -60,9 +59,10 @@ protected:
 
     Result render(const QString& output, const QStringList& options)
     {
-        return run(VELMORA_PROGRAM,
-                   QStringList{"render", "chord.mid", "--output", output} + options);
+        return run(QStringList{"render", "song.mid", "--output", output} + options);
     }
+
+    Json info(const QString& name) { return Json::parse(run({"info", name, "--json"}).out); }
 
     OrganFolder folder_;
 };
@@ -75,11 +75,10 @@ TEST_F(CommandLine, RendersTheSameBytesEveryTimeAndEverySelectionToItsOwn)
         {"out.wav", {}},
         {"out.flac", {}},
         {"out.ogg", {}},
-        {"out.wav", {"--tuning", "Quartercomma Meantone"}},
         {"out.wav", {"--tuning", "pure.scl"}},
         {"out.wav", {"--program", "19"}},
         {"out.wav", {"--rate", "44100", "--stop", "0=0.5"}},
-        {"out.wav", {"--loop-start", "0", "--loop-end", "4", "--loops", "10"}}};
+        {"out.wav", {"--loop-start", "0", "--loop-end", "8", "--loops", "7"}}};
     std::set<decltype(content({}))> sounds;
     for (const auto& [name, options] : rows) {
         SCOPED_TRACE(name.toStdString() + options.join(' ').toStdString());
@@ -91,9 +90,9 @@ TEST_F(CommandLine, RendersTheSameBytesEveryTimeAndEverySelectionToItsOwn)
         render(name, options);
         EXPECT_EQ(content(name), bytes);
         const Pcm sound = decodeAudio(bytes);
-        // 8 steps of the notes and 32 more or 4 ten times, 15 a second; then the tail.
+        // 24 steps of the note and 32 more or 8 seven times, 15 a second; then the tail.
         const double seconds = static_cast<double>(sound.samples.size()) / 2.0 / sound.rate;
-        EXPECT_NEAR(seconds, 40.0 / 15.0 + 1.0, 0.01);
+        EXPECT_NEAR(seconds, 56.0 / 15.0 + 1.0, 0.01);
         EXPECT_GT(std::ranges::max(sound.samples), 800);
     }
 }
@@ -101,31 +100,28 @@ TEST_F(CommandLine, RendersTheSameBytesEveryTimeAndEverySelectionToItsOwn)
 TEST_F(CommandLine, FailsWithASentence)
 {
     const struct {
-        QStringList words; // alone or, where they are options, of rendering the chord
+        QStringList words; // alone or, where they are options, of rendering the song
         int code;
         std::string sentence;
     } rows[] = {
-        {{}, 2, "subcommand"},
-        {{"render", "chord.mid"}, 2, "--output"},
-        {{"render", "missing.mid", "-o", "out.wav"}, 1, "missing.mid: "},
         {{"render", "broken.mid", "-o", "out.wav"}, 1, "velmora: broken.mid, byte 4: "},
-        {{"render", "chord.mid", "-o", "out.mp3"}, 1, "must end in .wav, .flac or .ogg"},
-        {{"render", "chord.mid", "-o", "nowhere/out.wav"}, 1, "nowhere/out.wav: "},
+        {{"render", "song.mid", "-o", "out.mp3"}, 1, "must end in .wav, .flac or .ogg"},
+        {{"render", "song.mid", "-o", "nowhere/out.wav"}, 1, "nowhere/out.wav: "},
         {{"--tuning", "Pythagorean"}, 2, "no tuning \"Pythagorean\""},
-        {{"--tuning", "missing.scl"}, 1, "missing.scl: "},
         {{"--tuning", "broken.scl"}, 1, "broken.scl, line 4: "},
         {{"--program", "128"}, 2, "--program"},
-        {{"--stop", "1=0.5"}, 2, "no stop 1"},
         {{"--stop", "0=loud"}, 2, "\"0=loud\""},
-        {{"--rate", "1"}, 2, "--rate"},
+        {{"--instrument", "missing.sf2"}, 1, "velmora: missing.sf2: cannot be read"},
+        {{"--instrument", "song.mid"}, 2, "there is no instrument \"song.mid\""},
+        {{"--instrument", "test.organ", "--program", "3"}, 2, "--program"},
+        {{"--instrument", "test.organ", "--stop", "2=1"}, 2, "numbered from 0 to 1"},
         {{"--loop-start", "4", "--loop-end", "4"}, 2, "--loop-end"},
-        {{"info", "chord.txt"}, 1, "chord.txt: is no kind of file"},
+        {{"info", "song.txt"}, 1, "song.txt: is no kind of file"},
         {{"info", "broken.mid", "--json"}, 1, "velmora: broken.mid, byte 4: "},
     };
     const auto before = files();
     for (const auto& [words, code, sentence] : rows) {
-        const bool areOptions = words.value(0).startsWith("--");
-        const Result result = areOptions ? render("out.wav", words) : run(VELMORA_PROGRAM, words);
+        const Result result = words.at(0).startsWith("--") ? render("out.wav", words) : run(words);
         EXPECT_EQ(result.code, code) << sentence;
         EXPECT_THAT(result.error, HasSubstr(sentence));
         EXPECT_EQ(result.out, "") << sentence;
@@ -138,29 +134,42 @@ TEST_F(CommandLine, KeepsTheFileThatIsThereWhenRenderingFails)
 {
     folder_.write("out.wav", "precious");
     const auto before = files();
-    const auto precious = content("out.wav");
     // Files may grow to 8 kB here.
-    const Result result = run("sh", {"-c", "trap '' XFSZ; ulimit -f 8; exec \"$0\" \"$@\"",
-                                     VELMORA_PROGRAM, "render", "chord.mid", "-o", "out.wav"});
+    const Result result =
+        run({"-c", "trap '' XFSZ; ulimit -f 8; '" VELMORA_PROGRAM "' render song.mid -o out.wav"},
+            "sh");
     EXPECT_EQ(result.code, 1);
     EXPECT_THAT(result.error, HasSubstr("velmora: out.wav: "));
-    EXPECT_EQ(content("out.wav"), precious);
+    EXPECT_EQ(readTextFile(folder_.path() / "out.wav"), "precious");
     EXPECT_EQ(files(), before);
 }
 
-TEST_F(CommandLine, TellsWhatItMakesOfFiles)
+TEST_F(CommandLine, RendersAnInstrumentInTune)
 {
-    const Json tuning = Json::parse(run(VELMORA_PROGRAM, {"info", "pure.scl", "--json"}).out);
-    const Json& third = tuning["pitchClasses"].at(4);
-    EXPECT_EQ(third["value"], "5/4");
-    EXPECT_NEAR(third["cents"].get<double>(), 386.3137, 1e-4);
-    EXPECT_NEAR(third["hertz"].get<double>(), 2.0 * 261.6256 * 1.25, 1e-3) << "of key 64";
-    const Json sequence = Json::parse(run(VELMORA_PROGRAM, {"info", "chord.mid", "--json"}).out);
-    EXPECT_EQ(sequence["extent"], 40.0);
-    EXPECT_EQ(sequence["notes"].at(0).dump(),
-              R"({"channel":0,"key":60,"length":8.0,"start":0.0,"velocity":1.0})");
+    render("out.wav",
+           {"--instrument", "test.organ", "--tuning", "Quartercomma Meantone", "--stop", "1=0.25"});
+    const Pcm heard = decodeAudio(content("out.wav"));
+    std::vector<float> left;
+    for (std::size_t i = 4800; i < 52800; ++i)
+        left.push_back(heard.samples.at(2 * i));
+    const double wanted = 3.0 * Temperament::Meantone().getPitch(52); // of the second stop
+    EXPECT_NEAR(cents(measuredHertz(left, 48000.0, wanted), wanted), 0.0, 0.25);
+}
 
-    const Result both = run(VELMORA_PROGRAM, {"info", "broken.mid", "chord.mid"});
-    EXPECT_EQ(both.code, 1);
-    EXPECT_THAT(both.out, HasSubstr("chord.mid: sequence of 3 notes")) << "goes on with the next";
+TEST_F(CommandLine, DescribesFiles)
+{
+    const Json third = info("pure.scl")["pitchClasses"].at(4);
+    EXPECT_EQ(third["value"], "5/4");
+    EXPECT_NEAR(third["hertz"].get<double>(), 2.0 * kRoot * 1.25, 1e-3) << "of key 64";
+    EXPECT_EQ(info("song.mid")["notes"].at(0).dump(),
+              R"({"channel":0,"key":52,"length":24.0,"start":0.0,"velocity":1.0})");
+    const Json organ = info("test.organ");
+    EXPECT_EQ(organ["stops"].at(0)["keys"].at(48)["rootPitch"], kRoot);
+    EXPECT_THAT(organ["report"]["skipped"].at(0)["file"], HasSubstr("missing.wav"));
+
+    const Result text = run({"info", "broken.mid", "song.mid", "test.organ"});
+    EXPECT_EQ(text.code, 1);
+    EXPECT_THAT(text.out, HasSubstr("song.mid: sequence of 1 note")) << "goes on with the next";
+    EXPECT_THAT(text.out, HasSubstr("Test: Organ instrument of 2 stops, 384000 bytes of sound\n"));
+    EXPECT_THAT(text.out, HasSubstr("Loaded 2 ranks, 2 pipes, 2 samples; skipped 1\n"));
 }
