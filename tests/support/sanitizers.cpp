@@ -21,4 +21,10 @@ extern "C" const char* __lsan_default_suppressions()
 {
     return "leak:libopenal.so\n";
 }
+
+// NOLINTNEXTLINE(bugprone-reserved-identifier): likewise
+extern "C" const char* __lsan_default_options()
+{
+    return "print_suppressions=0";
+}
 #endif
