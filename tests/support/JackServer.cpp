@@ -2,22 +2,55 @@
 
 #include "platform/quiet.h"
 
+#include <fcntl.h>
 #include <jack/jack.h>
 #include <sys/prctl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
+#include <string>
+#include <system_error>
 #include <thread>
 
 namespace {
 
+pid_t start(const std::string& name)
+{
+    const pid_t process = fork();
+    if (process != 0)
+        return process;
+    prctl(PR_SET_PDEATHSIG, SIGTERM); // a test that crashes leaves no server behind
+    const int null = open("/dev/null", O_RDWR | O_CLOEXEC);
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        dup2(null, stream);
+    // Synchronous: on a busy machine periods come late, but nothing that is in them gets lost.
+    execlp("jackd", "jackd", "-S", "-r", "--no-mlock", "-n", name.c_str(), "-d", "dummy", "-r",
+           "48000", "-p", "128", static_cast<char*>(nullptr));
+    _exit(127);
+}
+
+/// A server that is stopped under its clients leaves their semaphores behind.
+void removeSemaphores(const std::string& name)
+{
+    std::error_code ignored;
+    for (const auto& file : std::filesystem::directory_iterator("/dev/shm", ignored)) {
+        if (file.path().filename().string().find(name + "_") != std::string::npos)
+            std::filesystem::remove(file, ignored);
+    }
+}
+
 bool answers()
 {
     jack_client_t* client = jack_client_open("velmora-test", JackNoStartServer, nullptr);
-    return client != nullptr && jack_client_close(client) == 0;
+    if (client == nullptr)
+        return false;
+    jack_client_close(client);
+    return true;
 }
 
 } // namespace
@@ -26,31 +59,33 @@ JackServer::JackServer() : name_("velmora-test-" + std::to_string(getpid()))
 {
     quietSoundLibraries();
     setenv("JACK_DEFAULT_SERVER", name_.c_str(), 1);
-    process_.setStandardOutputFile(QProcess::nullDevice());
-    process_.setStandardErrorFile(QProcess::nullDevice());
-    // A test that crashes leaves no server behind.
-    process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
-    // Synchronous: on a busy machine periods come late, but nothing that is in them gets lost.
-    process_.start("jackd", {"-S", "-r", "--no-mlock", "-n", QString::fromStdString(name_), "-d",
-                             "dummy", "-r", "48000", "-p", "128"});
-    for (int i = 0; !process_.waitForStarted() || !answers(); ++i) {
-        if (i == 400 || process_.state() == QProcess::NotRunning)
-            throw std::runtime_error("jackd does not answer");
+    process_ = start(name_);
+    for (int i = 0; process_ > 0 && i < 400; ++i) {
+        if (answers())
+            return;
+        if (waitpid(process_, nullptr, WNOHANG) == process_)
+            process_ = -1;
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
+    stop();
+    throw std::runtime_error("jackd does not answer");
 }
 
 JackServer::~JackServer()
 {
-    process_.terminate();
-    if (!process_.waitForFinished(3000))
-        process_.kill();
-    process_.waitForFinished();
-    // A server that is stopped under its clients leaves their semaphores behind.
-    std::error_code ignored;
-    for (const auto& file : std::filesystem::directory_iterator("/dev/shm", ignored)) {
-        if (file.path().filename().string().find(name_ + "_") != std::string::npos)
-            std::filesystem::remove(file, ignored);
+    stop();
+}
+
+void JackServer::stop()
+{
+    if (process_ > 0) {
+        kill(process_, SIGTERM);
+        for (int i = 0; i < 100 && waitpid(process_, nullptr, WNOHANG) == 0; ++i) {
+            if (i == 60)
+                kill(process_, SIGKILL);
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        }
     }
+    removeSemaphores(name_);
     unsetenv("JACK_DEFAULT_SERVER");
 }

@@ -1,20 +1,23 @@
 #pragma once
 
-#include <QProcess>
+#include <sys/types.h>
 
 #include <string>
 
-/// A JACK server of this process's own on the dummy driver, at 48 kHz in periods of 128 frames: as
-/// long as it lives, JACK's clients in this process find it and no other.
+/// A JACK server with the dummy driver (48 kHz, periods of 128 frames), which this process and its
+/// children use for as long as this lives. Made before the first use of libjack and of threads.
 class JackServer {
 public:
-    /// Returns once the server answers. Throws std::runtime_error when it does not.
+    /// Returns once the server answers. Throws std::runtime_error where it does not within 20 s.
     JackServer();
     ~JackServer();
+
     JackServer(const JackServer&) = delete;
     JackServer& operator=(const JackServer&) = delete;
 
 private:
+    void stop();
+
     std::string name_;
-    QProcess process_;
+    pid_t process_ = -1;
 };
