@@ -1,0 +1,18 @@
+// Runs the tests of views and windows, on a display and with preferences of their own.
+
+#include "desktop/graphics.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleMock(&argc, argv);
+    const QTemporaryDir home;
+    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
+        qputenv(variable, home.path().toUtf8());
+    chooseGraphics();
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
