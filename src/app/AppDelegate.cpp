@@ -4,6 +4,7 @@
 #include "platform/Synthesizer.h"
 #include "preferences/Preferences.h"
 #include "sound/KeyTables.h"
+#include "sound/MIDIInstrument.h"
 
 #include <cassert>
 #include <chrono>
@@ -12,9 +13,16 @@ namespace {
 
 constexpr std::chrono::nanoseconds kFadeInterval{16'666'000};
 constexpr double kFadeFactor = 0.9;
+constexpr int kLastKey = static_cast<int>(kKeys) - 1;
 
 /// The rate of a synthesizer that nothing plays.
 constexpr double kUsualRate = 48000.0;
+
+/// In the place of the synthesizer until its bank is loaded.
+class SilentDevice : public MusicDevice {
+public:
+    void midiEvent(int /*status*/, int /*data1*/, int /*data2*/) override {}
+};
 
 bool isKey(int key)
 {
@@ -46,14 +54,10 @@ void AppDelegate::applicationDidFinishLaunching()
 {
     openAL_ = OpenALDevice::open();
     output_ = AudioOutput::open();
-    auto synthesizer =
-        std::make_unique<Synthesizer>(output_ ? output_->rate() : kUsualRate, generalMidiBanks());
-    Synthesizer* sounding = synthesizer.get();
     inputs_ = std::make_unique<MidiInputs>([this](MidiPacket packet) { received(packet); });
     makeBuiltinTunings();
-    makeMIDIPlayer(std::move(synthesizer));
-    if (output_)
-        output_->play(sounding);
+    makeMIDIPlayer(std::make_unique<SilentDevice>());
+    loadBank();
     fadeTimer_ = std::make_unique<IntervalTimer>(kFadeInterval, [this] {
         loop();
         if (userIsActive_.exchange(false))
@@ -65,6 +69,7 @@ void AppDelegate::makeBuiltinTunings()
 {
     auto equalTuning = TuningDocument::initBuiltin("Equal");
     temperament_ = &equalTuning->getTemperament();
+    tuningName_ = equalTuning->getName();
     putTuning(std::move(equalTuning));
     putTuning(TuningDocument::initBuiltin("Quartercomma Meantone"));
 }
@@ -74,20 +79,118 @@ void AppDelegate::makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
     addInstrument(InstrumentDocument::initWithMIDIPlayer(std::move(synthesizer)));
 }
 
+void AppDelegate::loadBank()
+{
+    loadsAgain_ = loading_.valid();
+    if (loadsAgain_)
+        return;
+    const double rate = output_ ? output_->rate() : kUsualRate;
+    loading_ = std::async(std::launch::async, [this, rate, banks = generalMidiBanks()] {
+        auto synthesizer = std::make_unique<Synthesizer>(rate, banks);
+        QMetaObject::invokeMethod(this, &AppDelegate::takeSynthesizer, Qt::QueuedConnection);
+        return synthesizer;
+    });
+}
+
+void AppDelegate::waitForBank()
+{
+    while (loading_.valid())
+        takeSynthesizer();
+}
+
+void AppDelegate::takeSynthesizer()
+{
+    if (!loading_.valid())
+        return;
+    auto synthesizer = loading_.get();
+    Synthesizer* sounding = synthesizer.get();
+    bank_ = sounding->bank();
+    auto& player = dynamic_cast<MIDIInstrument&>(*instruments_.front()->getInstrument());
+    std::unique_ptr<MusicDevice> before;
+    {
+        const std::lock_guard lock(soundLock_);
+        before = player.exchangeDevice(std::move(synthesizer));
+        player.tune(*temperament_, 0, kLastKey);
+    }
+    if (output_)
+        output_->play(sounding);
+    emit bankLoaded();
+    if (loadsAgain_)
+        loadBank();
+}
+
 void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
 {
     if (document->getInstrument() == nullptr)
         return;
-    setInstrument(*document->getInstrument());
     instruments_.push_back(std::move(document));
+    InstrumentDocument& added = *instruments_.back();
+    setInstrument(*added.getInstrument(), added.getName());
+    emit instrumentsChanged();
 }
 
-void AppDelegate::setInstrument(Instrument& instrument)
+void AppDelegate::setInstrument(Instrument& instrument, const std::string& name)
+{
+    {
+        const std::lock_guard lock(soundLock_);
+        assert(temperament_ != nullptr);
+        instrument_ = &instrument;
+        instrument_->tune(*temperament_, 0, kLastKey);
+    }
+    instrumentName_ = name;
+    emit instrumentChanged();
+}
+
+bool AppDelegate::selectInstrument(std::size_t position)
+{
+    InstrumentDocument& document = *instruments_.at(position);
+    if (document.getInstrument() == nullptr) {
+        if (!document.reload(*this))
+            return false;
+        emit instrumentsChanged();
+    }
+    setInstrument(*document.getInstrument(), document.getName());
+    return true;
+}
+
+bool AppDelegate::unloadInstrument(std::size_t position)
+{
+    InstrumentDocument& document = *instruments_.at(position);
+    Instrument* const unloaded = document.getInstrument();
+    if (unloaded == nullptr || !document.canUnload())
+        return false;
+    if (unloaded == instrument_)
+        selectInstrument(0);
+    document.unload();
+    emit instrumentsChanged();
+    return true;
+}
+
+void AppDelegate::setMIDIProgram(std::uint8_t program)
 {
     const std::lock_guard lock(soundLock_);
-    assert(temperament_ != nullptr);
-    instrument_ = &instrument;
-    instrument_->tune(*temperament_, 0, static_cast<int>(kKeys) - 1);
+    if (instrument_ != nullptr)
+        instrument_->setInstrument(program);
+}
+
+void AppDelegate::setVolumeOfStop(std::size_t stop, float volume)
+{
+    const std::lock_guard lock(soundLock_);
+    if (instrument_ != nullptr)
+        instrument_->setVolume(stop, volume);
+}
+
+void AppDelegate::silenceAll()
+{
+    {
+        const std::lock_guard lock(soundLock_);
+        for (auto& state : noteStates)
+            state = 0;
+        for (const auto& document : instruments_)
+            if (Instrument* instrument = document->getInstrument())
+                instrument->silence();
+    }
+    midiInput();
 }
 
 void AppDelegate::startProgress(long steps)
@@ -106,6 +209,7 @@ void AppDelegate::putTuning(std::unique_ptr<TuningDocument> document)
 {
     tunings_[document->getName()] = document.get();
     tuningDocuments_.push_back(std::move(document));
+    emit tuningPut(tuningDocuments_.back()->getName());
 }
 
 bool AppDelegate::selectTuning(const std::string& name)
@@ -115,11 +219,15 @@ bool AppDelegate::selectTuning(const std::string& name)
         const std::lock_guard lock(soundLock_);
         temperament_ = &found->second->getTemperament();
         if (instrument_ != nullptr)
-            instrument_->tune(*temperament_, 0, static_cast<int>(kKeys) - 1);
+            instrument_->tune(*temperament_, 0, kLastKey);
     }
     if (found == tunings_.end() || instrument_ == nullptr)
         logger("app").warn("Tuning or instrument not found '{}'", name);
-    return found != tunings_.end();
+    if (found == tunings_.end())
+        return false;
+    tuningName_ = name;
+    emit tuningChanged();
+    return true;
 }
 
 void AppDelegate::loop()

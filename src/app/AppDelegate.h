@@ -16,11 +16,14 @@
 
 #include <atomic>
 #include <filesystem>
+#include <future>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
+
+class Synthesizer;
 
 /// The SoundFonts to try for the General MIDI synthesizer, the one that the user prefers first.
 std::vector<std::filesystem::path> generalMidiBanks();
@@ -48,15 +51,55 @@ public:
     /// Makes the General MIDI player on a synthesizer; it becomes the current instrument.
     void makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer);
 
+    /// Loads the bank of the General MIDI player anew, in the background, as the preferences name
+    /// it: `bankLoaded` tells when it sounds.
+    void loadBank();
+
+    /// Waits until the bank sounds that is being loaded.
+    void waitForBank();
+
+    /// The SoundFont of the General MIDI player; empty while there is none.
+    const std::filesystem::path& bank() const { return bank_; }
+
     /// Lists an instrument and makes it the current one. A document without one is left out.
     void addInstrument(std::unique_ptr<InstrumentDocument> document);
 
-    /// Makes an instrument the current one and tunes it. It must live as long as the application.
-    /// Keys that sound on the one before go on.
-    void setInstrument(Instrument& instrument);
+    /// The listed instruments, in the order in which they came. One without an instrument has been
+    /// unloaded.
+    const std::vector<std::unique_ptr<InstrumentDocument>>& instruments() const
+    {
+        return instruments_;
+    }
+
+    /// Makes a listed instrument the current one, reading it anew where it was unloaded. False when
+    /// that fails or is cancelled, as its document tells: the current one then stays.
+    bool selectInstrument(std::size_t position);
+
+    /// Unloads a listed instrument that was read from a file and does not sound; where it is the
+    /// current one, the first of the list takes its place. False when nothing was unloaded.
+    bool unloadInstrument(std::size_t position);
+
+    /// Makes an instrument the current one, under a name for display, and tunes it. It must live as
+    /// long as it is the current one. Keys that sound on the one before go on.
+    void setInstrument(Instrument& instrument, const std::string& name);
+
+    /// The name of the current instrument; empty when there is none.
+    const std::string& instrumentName() const { return instrumentName_; }
+
+    /// Selects a General MIDI program, 0…127, on the current instrument.
+    void setMIDIProgram(std::uint8_t program);
+
+    /// Sets the volume of a stop of the current instrument, as its slider does.
+    void setVolumeOfStop(std::size_t stop, float volume);
+
+    /// Ends every sound at once and lets go of every key.
+    void silenceAll();
 
     /// Lists a tuning under its name, in place of one of that name.
     void putTuning(std::unique_ptr<TuningDocument> document);
+
+    /// The name under which the current tuning was selected.
+    const std::string& tuningName() const { return tuningName_; }
 
     /// Makes the tuning of that name the current one and retunes the instrument, sounding keys too.
     /// False when there is none: the current one then stays.
@@ -88,9 +131,27 @@ public:
     /// The MIDI inputs; null before launching.
     const MidiInputs* midiInputs() const { return inputs_.get(); }
 
+    /// Whether there is an output for sampled instruments.
+    bool canPlaySamples() const { return openAL_ != nullptr; }
+
 signals:
     /// The held keys have changed. On the main thread, after the keys have sounded.
     void midiInputReceived();
+
+    /// Another bank sounds, or none where none could be loaded.
+    void bankLoaded();
+
+    /// An instrument was listed, unloaded or read anew.
+    void instrumentsChanged();
+
+    /// Another instrument, or the same one with other stops, is the current one.
+    void instrumentChanged();
+
+    /// A tuning was listed under that name, once for each time.
+    void tuningPut(const std::string& name);
+
+    /// Another tuning is the current one.
+    void tuningChanged();
 
     /// A MIDI controller has moved the slider of a stop. On the main thread.
     void volumeMoved(std::size_t slider, float volume);
@@ -103,6 +164,7 @@ signals:
 
 private:
     void received(MidiPacket packet);
+    void takeSynthesizer();
     void take(const InputEvent& event);
 
     /// Guards `instrument_` and `temperament_` and every call on them.
@@ -110,6 +172,7 @@ private:
     Instrument* instrument_ = nullptr;
     Temperament* temperament_ = nullptr;
 
+    std::string instrumentName_, tuningName_;
     bool isCancelled_ = false;
 
     /// Before the instruments, which play through it: gone after them.
@@ -118,6 +181,7 @@ private:
     /// Every tuning ever listed: one whose name was taken over may still be the current one.
     std::vector<std::unique_ptr<TuningDocument>> tuningDocuments_;
     std::map<std::string, TuningDocument*> tunings_;
+    std::filesystem::path bank_;
 
     InputQueue queue_;
     DisplayWake displayWake_;
@@ -127,4 +191,6 @@ private:
     std::unique_ptr<AudioOutput> output_;
     std::unique_ptr<MidiInputs> inputs_;
     std::unique_ptr<IntervalTimer> fadeTimer_;
+    std::future<std::unique_ptr<Synthesizer>> loading_;
+    bool loadsAgain_ = false; ///< The preference has changed meanwhile.
 };

@@ -49,6 +49,7 @@ void live(const Selection& selection)
     const QuitOnSignal quitOnSignal;
     AppDelegate application;
     application.applicationDidFinishLaunching();
+    application.waitForBank();
     select(selection, application);
 
     const MidiInputs& inputs = *application.midiInputs();

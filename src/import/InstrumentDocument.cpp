@@ -8,6 +8,7 @@
 #include "import/hauptwerk1.h"
 #include "import/organXml.h"
 #include "import/sf2.h"
+#include "sound/ALInstrument.h"
 #include "sound/MIDIInstrument.h"
 
 #include <fstream>
@@ -66,6 +67,12 @@ std::string InstrumentDocument::typeOf(const std::filesystem::path& path)
     return type == types.end() ? "" : type->second;
 }
 
+bool InstrumentDocument::canUnload() const
+{
+    const auto* sampled = dynamic_cast<const ALInstrument*>(instrument_.get());
+    return sampled != nullptr && !sampled->isSounding();
+}
+
 bool InstrumentDocument::readFromURL(const std::filesystem::path& path, const std::string& type,
                                      InstrumentHost& host)
 {
@@ -83,6 +90,8 @@ bool InstrumentDocument::readFromURL(const std::filesystem::path& path, const st
         instrument_ = std::move(import.instrument);
         name_ = std::move(import.name);
         report_ = std::move(import.report);
+        path_ = path;
+        type_ = type;
         return true;
     } catch (const Cancelled&) {
         return false;

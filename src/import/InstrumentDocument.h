@@ -32,13 +32,22 @@ public:
     bool readFromURL(const std::filesystem::path& path, const std::string& type,
                      InstrumentHost& host);
 
+    /// Reads the file anew that was last read; for the rest as `readFromURL`.
+    bool reload(InstrumentHost& host) { return readFromURL(path_, type_, host); }
+
+    /// Whether the instrument can be spared: it was read from a file and does not sound.
+    bool canUnload() const;
+
+    /// Frees the instrument with its samples, until it is reloaded.
+    void unload() { instrument_.reset(); }
+
     /// Why the last reading failed: a sentence that names the file. Empty where it did not.
     const std::string& errorString() const { return errorString_; }
 
     /// What the last successful reading brought in and left out.
     const ImportReport& report() const { return report_; }
 
-    /// Null until one was read.
+    /// Null until one was read, and once it is unloaded.
     Instrument* getInstrument() const { return instrument_.get(); }
 
     const std::string& getName() const { return name_; }
@@ -51,6 +60,8 @@ private:
 
     std::unique_ptr<Instrument> instrument_;
     std::string name_;
+    std::filesystem::path path_; ///< Empty for the General MIDI player.
+    std::string type_;
     std::string errorString_;
     ImportReport report_;
 };

@@ -32,6 +32,14 @@ Reverb::Reverb(double rate)
 
 Reverb::~Reverb() = default;
 
+void Reverb::silence()
+{
+    if (silentFrames_ >= silentFramesToSleep_)
+        return;
+    freeVerb_->clear();
+    silentFrames_ = silentFramesToSleep_;
+}
+
 void Reverb::process(float* left, float* right, std::size_t frames)
 {
     const auto isLoud = [](float sample) { return std::fabs(sample) > kSilence; };

@@ -17,6 +17,9 @@ public:
     /// Adds the room's answer to what stands in `left` and `right`. Costs nothing in a silence.
     void process(float* left, float* right, std::size_t frames);
 
+    /// Ends the echoes at once.
+    void silence();
+
 private:
     std::unique_ptr<stk::FreeVerb> freeVerb_;
     std::size_t silentFramesToSleep_;

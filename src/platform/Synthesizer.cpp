@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::size_t kLanes = 12;
 constexpr int kCentreBend = 8192;
+constexpr int kAllSoundOff = 120;
 constexpr int kNoBend = -1;
 
 /// Which lane sounds a channel: none for the percussion channel and those that never carry notes.
@@ -104,10 +105,16 @@ void Synthesizer::takeEvents()
     for (std::size_t channel = 0; channel < bends.size(); ++channel) {
         SynthesizerLane* lane = laneOf(static_cast<int>(channel));
         if (lane != nullptr && overflowed)
-            lane->allSoundsOff();
+            silence(*lane);
         if (lane != nullptr && bends[channel] != kNoBend)
             lane->setCents(200.0 * (bends[channel] - kCentreBend) / kCentreBend);
     }
+}
+
+void Synthesizer::silence(SynthesizerLane& lane)
+{
+    lane.allSoundsOff();
+    reverb_.silence();
 }
 
 void Synthesizer::apply(const Event& event)
@@ -123,7 +130,10 @@ void Synthesizer::apply(const Event& event)
         lane->noteOn(event.data1, event.data2);
         break;
     case 0xB0:
-        lane->controlChange(event.data1, event.data2);
+        if (event.data1 == kAllSoundOff)
+            silence(*lane);
+        else
+            lane->controlChange(event.data1, event.data2);
         break;
     case 0xC0:
         lane->programChange(event.data1);

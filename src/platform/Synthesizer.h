@@ -43,6 +43,8 @@ private:
     void takeEvents();
     /// Any message but a pitch bend.
     void apply(const Event& event);
+    /// Ends what a channel sounds, echoes too.
+    void silence(SynthesizerLane& lane);
 
     std::vector<std::unique_ptr<SynthesizerLane>> lanes_;
     Reverb reverb_;

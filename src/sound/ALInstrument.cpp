@@ -6,6 +6,7 @@
 #include <alc.h>
 #include <alext.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -94,6 +95,22 @@ void ALInstrument::stop(int key)
     for (InstrumentStop& stop : stops_)
         stop.samples[slot].stop();
     released_.set(slot);
+}
+
+void ALInstrument::silence()
+{
+    const OneUpdate together;
+    for (InstrumentStop& stop : stops_)
+        for (Sample& sample : stop.samples)
+            sample.silence();
+    released_.reset();
+}
+
+bool ALInstrument::isSounding() const
+{
+    return std::ranges::any_of(stops_, [](const InstrumentStop& stop) {
+        return std::ranges::any_of(stop.samples, &Sample::isPlaying);
+    });
 }
 
 void ALInstrument::fade(double factor)

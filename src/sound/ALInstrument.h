@@ -34,8 +34,12 @@ public:
     std::size_t numStops() const override;
     void play(int key, float velocity) override;
     void stop(int key) override;
+    void silence() override;
     void tune(const Temperament& temperament, int lo, int hi) override;
     void fade(double factor) override;
+
+    /// Whether a key is held or still dies away.
+    bool isSounding() const;
 
 private:
     std::vector<InstrumentStop> stops_; ///< After the sounds, and so gone before them.

@@ -29,6 +29,9 @@ public:
     /// Releases a key. One that does not sound is ignored.
     virtual void stop(int key) = 0;
 
+    /// Ends every sound at once.
+    virtual void silence() = 0;
+
     /// Retunes the keys `lo` to `hi` inclusive, sounding ones too.
     virtual void tune(const Temperament& temperament, int lo, int hi) = 0;
 

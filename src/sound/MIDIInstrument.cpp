@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int kChannels = 16;
-constexpr std::uint8_t kStartUpProgram = 2;
+constexpr int kAllSoundOff = 120;
 
 /// The channel of a pitch class. Channel 9 is General MIDI's percussion, so A moves to channel 12.
 int channelOf(int key)
@@ -18,11 +18,18 @@ int channelOf(int key)
 
 } // namespace
 
-MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device) : device_(std::move(device))
+MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device)
 {
+    exchangeDevice(std::move(device));
+}
+
+std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<MusicDevice> device)
+{
+    device_.swap(device);
     for (int channel = 0; channel < kChannels; ++channel)
         device_->midiEvent(0xB0 | channel, 0, 0);
-    setInstrument(kStartUpProgram);
+    setInstrument(program_);
+    return device;
 }
 
 bool MIDIInstrument::hasSubMenu() const
@@ -57,6 +64,12 @@ void MIDIInstrument::stop(int key)
     device_->midiEvent(0x80 | channelOf(key), key, 0);
 }
 
+void MIDIInstrument::silence()
+{
+    for (int channel = 0; channel < kChannels; ++channel)
+        device_->midiEvent(0xB0 | channel, kAllSoundOff, 0);
+}
+
 void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/)
 {
     for (int pitchClass = 1; pitchClass < 12; ++pitchClass) {
@@ -72,6 +85,7 @@ void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/
 
 void MIDIInstrument::setInstrument(std::uint8_t program)
 {
+    program_ = program;
     for (int channel = 0; channel < kChannels; ++channel)
         device_->midiEvent(0xC0 | channel, program, 0);
 }

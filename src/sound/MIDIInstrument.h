@@ -18,10 +18,21 @@ public:
     std::size_t numStops() const override;
     void play(int key, float velocity) override;
     void stop(int key) override;
+    void silence() override;
     void tune(const Temperament& temperament, int lo, int hi) override;
     void setInstrument(std::uint8_t program) override;
 
+    /// The General MIDI program that sounds, 0…127.
+    std::uint8_t program() const { return program_; }
+
+    /// Goes on with another device, which takes the program over; it has to be tuned. Gives the one
+    /// before back, with what sounds on it.
+    std::unique_ptr<MusicDevice> exchangeDevice(std::unique_ptr<MusicDevice> device);
+
 private:
+    static constexpr std::uint8_t kStartUpProgram = 2;
+
     std::unique_ptr<MusicDevice> device_;
+    std::uint8_t program_ = kStartUpProgram;
     float volume_ = 1.0F;
 };

@@ -81,14 +81,29 @@ void Sample::stop()
         released_ = true;
 }
 
+void Sample::silence()
+{
+    if (source_ == 0)
+        return;
+    alSourceStop(source_);
+    released_ = false;
+}
+
+bool Sample::isPlaying() const
+{
+    ALint state = AL_STOPPED;
+    if (source_ != 0)
+        alGetSourcei(source_, AL_SOURCE_STATE, &state);
+    return state == AL_PLAYING;
+}
+
 void Sample::fade(double factor)
 {
     if (!released_)
         return;
     gain_ *= factor;
     if (gain_ < kSilentGain) {
-        alSourceStop(source_);
-        released_ = false;
+        silence();
     } else {
         alSourcef(source_, AL_GAIN, static_cast<float>(gain_));
     }

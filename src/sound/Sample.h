@@ -22,6 +22,11 @@ public:
     /// Releases the key: `fade` lets the sound die away.
     void stop();
 
+    /// Ends the sound at once.
+    void silence();
+
+    bool isPlaying() const;
+
     /// One step in the decay of a released key, which ends below a gain of 0.02.
     void fade(double factor);
 

@@ -34,7 +34,7 @@ TEST_F(AppDelegateTest, KeysSoundOnceTheSelectedTemperamentHasTunedThem)
     EXPECT_EQ(noteStates[60], 1) << "also without an instrument";
     app_.keyOff(60);
     EXPECT_EQ(noteStates[60], 0);
-    app_.setInstrument(instrument_);
+    app_.setInstrument(instrument_, "Recorder");
     app_.keyOn(127, 0.5F);
     app_.keyOff(127);
     expectCalls({"tune 0 127", "play 127 0.50", "stop 127"});
@@ -57,7 +57,7 @@ TEST_F(AppDelegateTest, KeysSoundOnceTheSelectedTemperamentHasTunedThem)
 TEST_F(AppDelegateTest, FadesTheInstrumentAndTheTemperament)
 {
     app_.loop(); // without an instrument
-    app_.setInstrument(instrument_);
+    app_.setInstrument(instrument_, "Recorder");
     app_.selectTuning("Dynamic");
     app_.getTemperament()->isomorph(instrument_, -1);
     EXPECT_NEAR(app_.getTemperament()->getTuning(0).cent(), -41.06, 0.01);
@@ -70,7 +70,7 @@ TEST_F(AppDelegateTest, FadesTheInstrumentAndTheTemperament)
 TEST_F(AppDelegateTest, WhatWasReceivedReachesTheMainThreadInOrder)
 {
     Calls seen, told, sounded;
-    app_.setInstrument(instrument_);
+    app_.setInstrument(instrument_, "Recorder");
     expectCalls({"tune 0 127"});
     QObject::connect(&app_, &AppDelegate::midiInputReceived, [&] { seen.push_back("keys"); });
     QObject::connect(&app_, &AppDelegate::volumeMoved, [&](std::size_t slider, float volume) {

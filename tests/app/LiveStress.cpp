@@ -65,7 +65,7 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
     for (std::size_t i = 0; playing > 0; ++i) {
         app.loop();
         app.selectTuning(kTunings[i % kTunings.size()]);
-        app.setInstrument(*players[i / 7 % 2].first);
+        app.setInstrument(*players[i / 7 % 2].first, "");
         QCoreApplication::processEvents();
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
@@ -74,7 +74,7 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
 
     // A key stays on the instrument that it was pressed on, so it is released on each.
     for (const auto& [instrument, synthesizer] : players) {
-        app.setInstrument(*instrument);
+        app.setInstrument(*instrument, "");
         app.setVolume(1.0F, 0);
         EXPECT_GT(peak(rendered(*synthesizer, 4800).left), 0.0F) << "some are held";
         for (int key = 0; key < 128; ++key)

@@ -25,6 +25,7 @@ public:
         calls_.push_back(fmt::format("play {} {:.2f}", key, velocity));
     }
     void stop(int key) override { calls_.push_back(fmt::format("stop {}", key)); }
+    void silence() override { calls_.push_back("silence"); }
     void tune(const Temperament& /*temperament*/, int lo, int hi) override
     {
         calls_.push_back(fmt::format("tune {} {}", lo, hi));
