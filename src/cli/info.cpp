@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 #include "cli/instrumentInfo.h"
 #include "platform/OpenALLoopback.h"
+#include "sequencer/SequenceFile.h"
 
 #include <nlohmann/json.hpp>
 #include <spdlog/fmt/fmt.h>
@@ -106,7 +107,7 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
             throw std::runtime_error(document.errorString());
         return {describe(document), printTuning};
     }
-    if (isSequenceFile(path)) {
+    if (!sequenceTypeOf(path).empty()) {
         AppDelegate application;
         SequenceDocument document(application);
         document.readFromURL(path);

@@ -5,7 +5,6 @@
 #include "cli/commands.h"
 
 #include <algorithm>
-#include <array>
 #include <csignal>
 
 namespace {
@@ -43,13 +42,6 @@ std::optional<std::string> tuningType(const std::filesystem::path& path)
     if (extension == ".mtx")
         return std::string(TuningDocument::kFrequencyType);
     return extension == ".scl" ? std::optional<std::string>("Scale") : std::nullopt;
-}
-
-bool isSequenceFile(const std::filesystem::path& path)
-{
-    constexpr std::array kExtensions = {".mid", ".midi", ".smf", ".kar"};
-    return std::ranges::find(kExtensions, lowerCase(path.extension().string())) !=
-           kExtensions.end();
 }
 
 std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path,

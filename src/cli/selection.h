@@ -19,9 +19,6 @@ struct Selection {
 /// The document type of a tuning file by its extension; nothing for other files.
 std::optional<std::string> tuningType(const std::filesystem::path& path);
 
-/// Whether the extension is that of a Standard MIDI File.
-bool isSequenceFile(const std::filesystem::path& path);
-
 /// Reads an instrument file, with the application as its host. Needs a current OpenAL context.
 /// Throws UsageError when it has no name of an instrument file; std::runtime_error with a sentence
 /// when it cannot be read.

@@ -1,13 +1,23 @@
 #include "sequencer/SequenceFile.h"
 
+#include "base/Text.h"
+#include "platform/IMelody.h"
+#include "platform/StandardMidiFileWriter.h"
+
 #include <algorithm>
+#include <array>
+#include <cassert>
 #include <cstddef>
 #include <optional>
+#include <stdexcept>
 
 namespace {
 
 constexpr double kRoomBehindLastNote = 32.0;
 constexpr float kFullVelocity = 127.0F;
+
+/// Of files that are written, at 120 beats a minute.
+constexpr double kBeatsPerStep = 2.0 / kStepsPerSecond;
 
 std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& event, int keyRangeLo,
                              int keyRangeHi)
@@ -29,7 +39,36 @@ std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& even
     return note;
 }
 
+std::uint8_t midiVelocity(float velocity)
+{
+    // In floats, as it was divided: in doubles every other velocity would come back one lower.
+    const float scaled = velocity * kFullVelocity;
+    return static_cast<std::uint8_t>(scaled >= 1.0F ? std::min(scaled, kFullVelocity) : 1.0F);
+}
+
+MidiEvent midiNote(const Note& note)
+{
+    const double start = std::max(note.start * kBeatsPerStep, 0.0);
+    const double length = std::max(note.length * kBeatsPerStep, 1.0 / kTicksPerBeat);
+    if (!(start + length <= kLastBeat))
+        throw std::length_error("a note lies beyond the times that a file can hold");
+    // The low byte of a channel has four bits too many for a MIDI message, that of a key one.
+    const auto channel = static_cast<std::uint8_t>(note.channel & 0x0F);
+    const auto key = static_cast<std::uint8_t>(note.key & 0x7F);
+    return {start, static_cast<float>(length), MidiEvent::Kind::Note, channel,
+            key,   midiVelocity(note.velocity)};
+}
+
 } // namespace
+
+std::string sequenceTypeOf(const std::filesystem::path& path)
+{
+    constexpr std::array kMidiExtensions = {".mid", ".midi", ".smf", ".kar"};
+    const std::string extension = lowerCase(path.extension().string());
+    if (std::ranges::find(kMidiExtensions, extension) != kMidiExtensions.end())
+        return kMidiFileType;
+    return extension == ".imy" ? kIMelodyType : "";
+}
 
 SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyRangeHi,
                           Sequence& sequence)
@@ -54,4 +93,12 @@ SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyR
     }
     sequence.sort();
     return result;
+}
+
+std::string writeSequence(const Sequence& sequence, const std::string& type)
+{
+    assert(type == kMidiFileType || type == kIMelodyType);
+    std::vector<MidiEvent> notes(sequence.notes().size());
+    std::ranges::transform(sequence.notes(), notes.begin(), midiNote);
+    return type == kIMelodyType ? writeIMelody(notes) : writeStandardMidiFile(notes);
 }
