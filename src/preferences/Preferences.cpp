@@ -1,36 +1,75 @@
 #include "preferences/Preferences.h"
 
-#include <QSettings>
-#include <QVariantMap>
+#include "base/Log.h"
+#include "preferences/settings.h"
+
+#include <algorithm>
+#include <limits>
+#include <set>
 
 namespace {
 
-/// What holds until the user sets something else; never written.
-const QVariantMap& defaults()
+/// Says of each key once that what is stored for it is of no use.
+void reportOnce(const std::string& key, const char* expected)
 {
-    static const QVariantMap values = {
-        {"KeyRangeLo", 21},  // A0
-        {"KeyRangeHi", 108}, // C8
-        {"GMBank", ""},
-    };
-    return values;
-}
-
-QVariant preference(const std::string& key)
-{
-    const QSettings settings("velmora", "velmora");
-    const QString name = QString::fromStdString(key);
-    return settings.value(name, defaults().value(name));
+    static std::set<std::string> reported;
+    if (reported.insert(key).second)
+        logger("preferences").warn("The preference {} is not {}; its default holds", key, expected);
 }
 
 } // namespace
 
+PrefRange prefRange(const std::string& key)
+{
+    if (key == "KeyWidth")
+        return {4, 64};
+    if (key == "KeyHeight")
+        return {1, 64};
+    if (key == "KeyRangeLo")
+        return {0, 126};
+    if (key == "KeyRangeHi")
+        return {getPrefInt("KeyRangeLo") + 1, 127};
+    return {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()};
+}
+
 int getPrefInt(const std::string& key)
 {
-    return preference(key).toInt();
+    bool isNumber = false;
+    int value = preference(key).toInt(&isNumber);
+    const QVariant standard = defaultPreference(key);
+    if (!isNumber && standard.isValid()) {
+        reportOnce(key, "a whole number");
+        value = standard.toInt();
+    }
+    const PrefRange range = prefRange(key);
+    return std::clamp(value, range.least, range.greatest);
+}
+
+void setPrefInt(const std::string& key, int value)
+{
+    setPreference(key, value);
+}
+
+bool getPrefBool(const std::string& key)
+{
+    const QString text = preference(key).toString();
+    if (text == "true" || text == "false")
+        return text == "true";
+    reportOnce(key, "true or false");
+    return defaultPreference(key).toBool();
+}
+
+void setPrefBool(const std::string& key, bool value)
+{
+    setPreference(key, value);
 }
 
 std::string getPrefString(const std::string& key)
 {
     return preference(key).toString().toStdString();
+}
+
+void setPrefString(const std::string& key, const std::string& value)
+{
+    setPreference(key, QString::fromStdString(value));
 }

@@ -1,0 +1,78 @@
+#include "preferences/settings.h"
+
+#include "base/Log.h"
+#include "preferences/Preferences.h"
+
+#include <QSettings>
+#include <QVariantMap>
+
+namespace {
+
+QVariantList color(double red, double green, double blue)
+{
+    return {red, green, blue, 1.0};
+}
+
+/// What holds until the user sets something else; never written.
+const QVariantMap& defaults()
+{
+    static const QVariantMap values = {
+        {"NoteColor", color(1, 0, 0)},
+        {"NoteColorPlaying", color(0, 1, 0)},
+        {"KeyColor", color(0, 1, 0)},
+        {"KeyColorCorrect", color(1, 0.7, 0)},
+        {"KeyColorSustain", color(0.7, 1, 0.5)},
+        {"KeyColorWrong", color(1, 0, 0)},
+        {"KeyWidth", 14},
+        {"KeyHeight", 8},
+        {"KeyRangeLo", 21},  // A0
+        {"KeyRangeHi", 108}, // C8
+        {"KeyNames", true},
+        {"GMBank", ""},
+    };
+    return values;
+}
+
+/// One for the whole run: making one looks for its files again, which takes longer than a read.
+QSettings& settings()
+{
+    static QSettings values("velmora", "velmora");
+    return values;
+}
+
+void reportDamageOnce()
+{
+    static bool isReported = false;
+    if (isReported || settings().status() == QSettings::NoError)
+        return;
+    isReported = true;
+    logger("preferences")
+        .warn("{} {}; defaults stand in for what is missing", settings().fileName().toStdString(),
+              settings().status() == QSettings::FormatError ? "is damaged"
+                                                            : "cannot be read or written");
+}
+
+} // namespace
+
+QVariant preference(const std::string& key)
+{
+    const QString name = QString::fromStdString(key);
+    const QVariant value = settings().value(name);
+    reportDamageOnce();
+    return value.isValid() ? value : defaults().value(name);
+}
+
+QVariant defaultPreference(const std::string& key)
+{
+    return defaults().value(QString::fromStdString(key));
+}
+
+void setPreference(const std::string& key, const QVariant& value)
+{
+    settings().setValue(QString::fromStdString(key), value);
+}
+
+void resetPref(const std::string& key)
+{
+    settings().remove(QString::fromStdString(key));
+}

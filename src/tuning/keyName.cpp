@@ -1,0 +1,15 @@
+#include "tuning/keyName.h"
+
+#include <array>
+
+std::string keyName(unsigned pitchClass)
+{
+    static constexpr std::array kNames{"C",  "C#", "D",  "D#", "E",  "F",
+                                       "F#", "G",  "G#", "A",  "Bb", "B"};
+    return pitchClass < kNames.size() ? kNames[pitchClass] : "";
+}
+
+std::string noteName(unsigned key)
+{
+    return keyName(key % 12) + std::to_string(static_cast<int>(key / 12) - 1);
+}
