@@ -4,7 +4,6 @@
 #include "platform/Synthesizer.h"
 #include "preferences/Preferences.h"
 #include "sound/KeyTables.h"
-#include "sound/MIDIInstrument.h"
 
 #include <cassert>
 #include <chrono>
@@ -13,6 +12,7 @@ namespace {
 
 constexpr std::chrono::nanoseconds kFadeInterval{16'666'000};
 constexpr double kFadeFactor = 0.9;
+constexpr const char* kDynamic = "Dynamic";
 constexpr int kLastKey = static_cast<int>(kKeys) - 1;
 
 /// The rate of a synthesizer that nothing plays.
@@ -76,7 +76,9 @@ void AppDelegate::makeBuiltinTunings()
 
 void AppDelegate::makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
 {
-    addInstrument(InstrumentDocument::initWithMIDIPlayer(std::move(synthesizer)));
+    auto document = InstrumentDocument::initWithMIDIPlayer(std::move(synthesizer));
+    midiPlayer_ = &dynamic_cast<MIDIInstrument&>(*document->getInstrument());
+    addInstrument(std::move(document));
 }
 
 void AppDelegate::loadBank()
@@ -105,12 +107,11 @@ void AppDelegate::takeSynthesizer()
     auto synthesizer = loading_.get();
     Synthesizer* sounding = synthesizer.get();
     bank_ = sounding->bank();
-    auto& player = dynamic_cast<MIDIInstrument&>(*instruments_.front()->getInstrument());
     std::unique_ptr<MusicDevice> before;
     {
         const std::lock_guard lock(soundLock_);
-        before = player.exchangeDevice(std::move(synthesizer));
-        player.tune(*temperament_, 0, kLastKey);
+        before = midiPlayer_->exchangeDevice(std::move(synthesizer));
+        midiPlayer_->tune(*temperament_, 0, kLastKey);
     }
     if (output_)
         output_->play(sounding);
@@ -209,11 +210,23 @@ void AppDelegate::putTuning(std::unique_ptr<TuningDocument> document)
 {
     tunings_[document->getName()] = document.get();
     tuningDocuments_.push_back(std::move(document));
-    emit tuningPut(tuningDocuments_.back()->getName());
+    emit tuningsChanged();
+}
+
+std::vector<std::string> AppDelegate::tuningNames() const
+{
+    std::vector<std::string> names;
+    for (const auto& document : tuningDocuments_)
+        names.push_back(document->getName());
+    if (!tunings_.contains(kDynamic))
+        names.emplace_back(kDynamic);
+    return names;
 }
 
 bool AppDelegate::selectTuning(const std::string& name)
 {
+    if (name == kDynamic && !tunings_.contains(name))
+        putTuning(TuningDocument::initBuiltin(name));
     const auto found = tunings_.find(name);
     if (found != tunings_.end()) {
         const std::lock_guard lock(soundLock_);

@@ -10,6 +10,7 @@
 #include "platform/MidiInputs.h"
 #include "platform/OpenALDevice.h"
 #include "sequencer/SequenceHost.h"
+#include "sound/MIDIInstrument.h"
 #include "tuning/TuningDocument.h"
 
 #include <QObject>
@@ -89,6 +90,9 @@ public:
     /// Selects a General MIDI program, 0…127, on the current instrument.
     void setMIDIProgram(std::uint8_t program);
 
+    /// The program of the General MIDI player, 0…127.
+    std::uint8_t midiProgram() const { return midiPlayer_->program(); }
+
     /// Sets the volume of a stop of the current instrument, as its slider does.
     void setVolumeOfStop(std::size_t stop, float volume);
 
@@ -101,8 +105,13 @@ public:
     /// The name under which the current tuning was selected.
     const std::string& tuningName() const { return tuningName_; }
 
+    /// The names to choose a tuning by: once for each tuning that was listed, in the order in which
+    /// they were, and "Dynamic".
+    std::vector<std::string> tuningNames() const;
+
     /// Makes the tuning of that name the current one and retunes the instrument, sounding keys too.
-    /// False when there is none: the current one then stays.
+    /// "Dynamic" is made and listed when it is first selected. False when there is none of that
+    /// name: the current one then stays.
     bool selectTuning(const std::string& name);
 
     /// The tick of the fade timer, 60 in a second.
@@ -134,6 +143,9 @@ public:
     /// Whether there is an output for sampled instruments.
     bool canPlaySamples() const { return openAL_ != nullptr; }
 
+    /// Whether the display is kept awake while music is played.
+    bool keepsDisplayAwake() const { return displayWake_.isConnected(); }
+
 signals:
     /// The held keys have changed. On the main thread, after the keys have sounded.
     void midiInputReceived();
@@ -147,8 +159,8 @@ signals:
     /// Another instrument, or the same one with other stops, is the current one.
     void instrumentChanged();
 
-    /// A tuning was listed under that name, once for each time.
-    void tuningPut(const std::string& name);
+    /// A tuning was listed.
+    void tuningsChanged();
 
     /// Another tuning is the current one.
     void tuningChanged();
@@ -181,6 +193,7 @@ private:
     /// Every tuning ever listed: one whose name was taken over may still be the current one.
     std::vector<std::unique_ptr<TuningDocument>> tuningDocuments_;
     std::map<std::string, TuningDocument*> tunings_;
+    MIDIInstrument* midiPlayer_ = nullptr; ///< In the first of the instruments.
     std::filesystem::path bank_;
 
     InputQueue queue_;

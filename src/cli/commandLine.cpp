@@ -2,10 +2,13 @@
 
 #include "base/Log.h"
 #include "cli/commands.h"
+#include "desktop/runDesktop.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 #include <spdlog/fmt/fmt.h>
+
+#include <filesystem>
 
 namespace {
 
@@ -96,11 +99,22 @@ void runRender(const CLI::App& command, Words& words)
     render(words.sequence, words.output, words.selection, words.options);
 }
 
+int runWindows(int argc, char** argv, const std::vector<std::string>& files)
+{
+    for (const std::string& file : files) {
+        if (!std::filesystem::exists(file))
+            throw UsageError("\"" + file + "\" is neither a file nor a command");
+    }
+    return runDesktop(argc, argv, files);
+}
+
 int run(CLI::App& program, int argc, char** argv)
 {
     Words words;
     program.set_version_flag("--version", "velmora " VELMORA_VERSION);
-    program.require_subcommand(1);
+    program.require_subcommand(0, 1);
+    program.add_option("files", words.files,
+                       "Sequences, instruments and tunings to open in the windows");
     CLI::App* renderCommand = addRender(program, words);
     CLI::App* infoCommand =
         addJson(program.add_subcommand(
@@ -112,6 +126,8 @@ int run(CLI::App& program, int argc, char** argv)
     CLI::App* devicesCommand = addJson(
         program.add_subcommand("devices", "List MIDI inputs, sound output and bank"), words);
     program.parse(argc, argv);
+    if (program.get_subcommands().empty())
+        return runWindows(argc, argv, words.files);
 
     const QCoreApplication application(argc, argv);
     words.selection.instrument = words.instrument;

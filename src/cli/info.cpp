@@ -101,9 +101,9 @@ Json describeInstrument(const std::filesystem::path& path)
 /// when it cannot be read.
 std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path& path)
 {
-    if (const auto type = tuningType(path)) {
+    if (const std::string type = TuningDocument::typeOf(path); !type.empty()) {
         TuningDocument document;
-        if (!document.readFromURL(path, *type))
+        if (!document.readFromURL(path, type))
             throw std::runtime_error(document.errorString());
         return {describe(document), printTuning};
     }

@@ -15,13 +15,13 @@ std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
         if (name == builtin)
             return TuningDocument::initBuiltin(name);
     }
-    const auto type = tuningType(name);
-    if (!type)
+    const std::string type = TuningDocument::typeOf(name);
+    if (type.empty())
         throw UsageError("there is no tuning \"" + name +
                          "\": give Equal, \"Quartercomma Meantone\", Dynamic or a file that ends "
                          "in .scl or .mtx");
     auto document = std::make_unique<TuningDocument>();
-    if (!document->readFromURL(name, *type))
+    if (!document->readFromURL(name, type))
         throw std::runtime_error(document->errorString());
     return document;
 }
@@ -35,14 +35,6 @@ bool isInterrupted()
 }
 
 } // namespace
-
-std::optional<std::string> tuningType(const std::filesystem::path& path)
-{
-    const std::string extension = lowerCase(path.extension().string());
-    if (extension == ".mtx")
-        return std::string(TuningDocument::kFrequencyType);
-    return extension == ".scl" ? std::optional<std::string>("Scale") : std::nullopt;
-}
 
 std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path,
                                                    AppDelegate& application)

@@ -16,9 +16,6 @@ struct Selection {
     std::vector<std::pair<std::size_t, float>> stops; ///< Number of a stop and its gain.
 };
 
-/// The document type of a tuning file by its extension; nothing for other files.
-std::optional<std::string> tuningType(const std::filesystem::path& path);
-
 /// Reads an instrument file, with the application as its host. Needs a current OpenAL context.
 /// Throws UsageError when it has no name of an instrument file; std::runtime_error with a sentence
 /// when it cannot be read.

@@ -35,6 +35,9 @@ public:
     /// Reads the file anew that was last read; for the rest as `readFromURL`.
     bool reload(InstrumentHost& host) { return readFromURL(path_, type_, host); }
 
+    /// Whether the instrument was read from a file.
+    bool isFromFile() const { return !path_.empty(); }
+
     /// Whether the instrument can be spared: it was read from a file and does not sound.
     bool canUnload() const;
 

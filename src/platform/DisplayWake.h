@@ -17,6 +17,9 @@ public:
     DisplayWake(const DisplayWake&) = delete;
     DisplayWake& operator=(const DisplayWake&) = delete;
 
+    /// Whether there is a session bus.
+    bool isConnected() const { return bus_ != nullptr; }
+
     /// The user is playing. Told at most once in five seconds, without waiting for an answer.
     void userActivity();
 

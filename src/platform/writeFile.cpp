@@ -16,6 +16,6 @@ void writeFile(const std::filesystem::path& path, std::string_view bytes)
     const std::string reason = std::filesystem::is_directory(folder, error)
                                    ? file.errorString().toStdString()
                                    : "there is no such folder";
-    throw std::runtime_error(path.filename().string() + " cannot be written in " +
-                             folder.string() + ": " + reason);
+    throw std::runtime_error(path.filename().string() + " cannot be written in " + folder.string() +
+                             ": " + reason);
 }

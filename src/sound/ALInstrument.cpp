@@ -80,6 +80,11 @@ std::size_t ALInstrument::numStops() const
     return stops_.size();
 }
 
+std::string ALInstrument::stopName(std::size_t stop) const
+{
+    return stop < stops_.size() ? stops_[stop].name : "";
+}
+
 void ALInstrument::play(int key, float /*velocity*/)
 {
     const OneUpdate together;

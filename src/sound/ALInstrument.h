@@ -32,6 +32,7 @@ public:
     void setVolume(std::size_t stop, float volume) override;
 
     std::size_t numStops() const override;
+    std::string stopName(std::size_t stop) const override;
     void play(int key, float velocity) override;
     void stop(int key) override;
     void silence() override;

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 class Temperament;
 
@@ -22,6 +23,9 @@ public:
 
     /// How many stops have a volume of their own.
     virtual std::size_t numStops() const = 0;
+
+    /// What a stop is called; empty where it has no name.
+    virtual std::string stopName(std::size_t /*stop*/) const { return {}; }
 
     /// Starts a key; velocity from 0 to 1.
     virtual void play(int key, float velocity) = 0;

@@ -3,6 +3,7 @@
 #include "base/File.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
+#include "base/Text.h"
 #include "tuning/DynamicTemperament.h"
 #include "tuning/TuningFile.h"
 
@@ -21,6 +22,14 @@ std::unique_ptr<TuningDocument> TuningDocument::initBuiltin(const std::string& n
     else
         *document->temperament_ = Temperament::Meantone();
     return document;
+}
+
+std::string TuningDocument::typeOf(const std::filesystem::path& path)
+{
+    const std::string extension = lowerCase(path.extension().string());
+    if (extension == ".mtx")
+        return std::string(kFrequencyType);
+    return extension == ".scl" ? "Scale" : "";
 }
 
 bool TuningDocument::readFromURL(const std::filesystem::path& path, std::string_view type)

@@ -13,6 +13,10 @@ public:
     /// The document type of the frequency format; every other type is read as a scale.
     static constexpr std::string_view kFrequencyType = "MTX";
 
+    /// The type of file that the extension stands for, in any letter case: "Scale" (.scl) or
+    /// `kFrequencyType` (.mtx). Empty for any other extension.
+    static std::string typeOf(const std::filesystem::path& path);
+
     /// A document without tunings, to be read from a file.
     TuningDocument();
 

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <array>
+
+/// The General MIDI programs 0…127, each with its number as musicians count it, from 1.
+extern const std::array<const char*, 128> kMIDIInstrumentNames;

@@ -1,0 +1,230 @@
+#include "desktop/Desktop.h"
+
+#include "desktop/KeyboardView.h"
+#include "desktop/StatusLine.h"
+#include "desktop/aboutBox.h"
+#include "desktop/windowPlace.h"
+#include "preferences/Preferences.h"
+#include "sequencer/KeyboardDocument.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QSettings>
+
+namespace {
+
+constexpr const char* kFolderKey = "openFolder";
+constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ";
+constexpr const char* kTunings = "*.scl *.mtx";
+constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
+
+/// Brings a window to the front, from wherever it is.
+void present(QWidget& window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+Desktop::Desktop()
+    : commands_(application_), keyboardWindow_(application_, commands_),
+      instrumentPanel_(application_), instrumentsWindow_(application_)
+{
+    connectCommands();
+    connectProgress();
+    for (QWidget* window : std::initializer_list<QWidget*>{
+             &keyboardWindow_, &instrumentPanel_, &instrumentsWindow_, &preferencesWindow_}) {
+        fileDrop_.watch(*window);
+        window->addAction(commands_.silence);
+    }
+    connect(&fileDrop_, &FileDrop::dropped, this, &Desktop::open, Qt::QueuedConnection);
+    connect(&application_, &AppDelegate::bankLoaded, this, &Desktop::showBank);
+    connect(&application_, &AppDelegate::midiInputReceived, this, [this] {
+        if (KeyboardDocument* document = keyboardWindow_.keyboard().getDocument())
+            document->midiInput();
+    });
+    connect(&preferencesWindow_, &PreferencesWindow::changed, this, &Desktop::updateAllViews);
+    connect(&preferencesWindow_, &PreferencesWindow::bankChanged, &application_,
+            &AppDelegate::loadBank);
+
+    rememberPlace(instrumentPanel_, "instrumentPanel");
+    rememberPlace(instrumentsWindow_, "instruments");
+    keyboardWindow_.show();
+    if (wasOpen("instrumentPanel"))
+        instrumentPanel_.show();
+    if (wasOpen("instruments"))
+        instrumentsWindow_.show();
+}
+
+Desktop::~Desktop() = default;
+
+void Desktop::launch()
+{
+    application_.applicationDidFinishLaunching();
+    keyboardWindow_.status().showDevices();
+}
+
+void Desktop::connectCommands()
+{
+    const auto presents = [this](QAction* action, QWidget& window) {
+        connect(action, &QAction::triggered, this, [&window] { present(window); });
+    };
+    presents(commands_.keyboardWindow, keyboardWindow_);
+    presents(commands_.instrumentPanel, instrumentPanel_);
+    presents(commands_.instrumentsWindow, instrumentsWindow_);
+    presents(commands_.preferences, preferencesWindow_);
+    connect(commands_.open, &QAction::triggered, this, &Desktop::askForFiles);
+    // Not through the windows' closing: what stands open is to stand open again.
+    connect(commands_.quit, &QAction::triggered, qApp, [] { QApplication::exit(); });
+    connect(&commands_, &Commands::openRecent, this, [this](const QString& path) { open({path}); });
+    connect(&commands_, &Commands::selectInstrument, this, &Desktop::selectInstrument);
+    connect(&commands_, &Commands::guideWanted, this, [this] { present(guideWindow_); });
+    connect(&commands_, &Commands::aboutWanted, this, [this] { showAbout(keyboardWindow_); });
+    connect(&instrumentsWindow_, &InstrumentsWindow::openWanted, this, &Desktop::askForFiles);
+    connect(&instrumentsWindow_, &InstrumentsWindow::selectWanted, this,
+            &Desktop::selectInstrument);
+    connect(&instrumentsWindow_, &InstrumentsWindow::refused, this, &Desktop::complain);
+    commands_.noteNames->setChecked(getPrefBool("KeyNames"));
+    connect(commands_.noteNames, &QAction::toggled, this, [this](bool on) {
+        setPrefBool("KeyNames", on);
+        updateAllViews();
+    });
+}
+
+void Desktop::connectProgress()
+{
+    connect(&application_, &AppDelegate::progressStarted, &progressWindow_,
+            &ProgressWindow::startProgress);
+    connect(&application_, &AppDelegate::progressed, &progressWindow_,
+            &ProgressWindow::updateProgress);
+    connect(&progressWindow_, &ProgressWindow::cancelled, &application_,
+            &AppDelegate::cancelImport);
+}
+
+void Desktop::open(const QStringList& paths)
+{
+    if (paths.isEmpty())
+        present(keyboardWindow_);
+    waiting_ += paths;
+    if (isOpening_)
+        return;
+    isOpening_ = true;
+    while (!waiting_.isEmpty())
+        openFile(QDir().absoluteFilePath(waiting_.takeFirst()));
+    isOpening_ = false;
+}
+
+void Desktop::openFile(const QString& path)
+{
+    const std::filesystem::path file(path.toStdString());
+    const std::string tuning = TuningDocument::typeOf(file);
+    const std::string instrument = InstrumentDocument::typeOf(file);
+    if (!tuning.empty())
+        openTuning(path, tuning);
+    else if (!instrument.empty())
+        openInstrument(path, instrument);
+    else
+        complain(tr("%1: is no kind of file that Velmora knows by its name")
+                     .arg(QFileInfo(path).fileName()));
+}
+
+void Desktop::openTuning(const QString& path, const std::string& type)
+{
+    auto tuning = std::make_unique<TuningDocument>();
+    if (!tuning->readFromURL(path.toStdString(), type)) {
+        complain(QString::fromStdString(tuning->errorString()));
+        return;
+    }
+    const std::string name = tuning->getName();
+    application_.putTuning(std::move(tuning));
+    application_.selectTuning(name);
+    commands_.addRecent(path);
+}
+
+void Desktop::openInstrument(const QString& path, const std::string& type)
+{
+    const QString name = QFileInfo(path).fileName();
+    if (!application_.canPlaySamples()) {
+        complain(tr("%1: cannot be opened, for OpenAL has no sound output").arg(name));
+        return;
+    }
+    auto document = std::make_unique<InstrumentDocument>();
+    const bool isRead = document->readFromURL(path.toStdString(), type, application_);
+    progressWindow_.endProgress();
+    if (!isRead) {
+        if (!document->errorString().empty())
+            complain(QString::fromStdString(document->errorString()));
+        return;
+    }
+    if (document->getInstrument() == nullptr) {
+        complain(tr("%1: holds no instrument that Velmora can play").arg(name));
+        return;
+    }
+    const std::size_t skipped = document->report().skipped.size();
+    application_.addInstrument(std::move(document));
+    commands_.addRecent(path);
+    if (skipped > 0)
+        keyboardWindow_.status().showMessage(
+            tr("%1: %2 files or samples were left out; Instruments › Import Report says which")
+                .arg(name)
+                .arg(skipped));
+}
+
+void Desktop::selectInstrument(std::size_t position)
+{
+    const bool isSelected = application_.selectInstrument(position);
+    progressWindow_.endProgress();
+    if (isSelected)
+        return;
+    instrumentsWindow_.showCurrent();
+    const std::string& why = application_.instruments().at(position)->errorString();
+    if (!why.empty())
+        complain(QString::fromStdString(why));
+}
+
+void Desktop::askForFiles()
+{
+    QSettings settings("velmora", "velmora");
+    const QStringList paths = QFileDialog::getOpenFileNames(
+        QApplication::activeWindow(), tr("Open"), settings.value(kFolderKey).toString(),
+        tr("All that Velmora opens (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;All files "
+           "(*)")
+            .arg(QString(kInstruments) + " " + kTunings + " " + kSequences)
+            .arg(kInstruments)
+            .arg(kTunings)
+            .arg(kSequences));
+    if (paths.isEmpty())
+        return;
+    settings.setValue(kFolderKey, QFileInfo(paths.front()).absolutePath());
+    open(paths);
+}
+
+void Desktop::updateAllViews()
+{
+    keyboardWindow_.keyboard().updateWindowSize();
+    keyboardWindow_.keyboard().update();
+    commands_.noteNames->setChecked(getPrefBool("KeyNames"));
+}
+
+void Desktop::showBank()
+{
+    const QString wanted = QString::fromStdString(getPrefString("GMBank"));
+    const QString bank = QString::fromStdString(application_.bank().string());
+    StatusLine& status = keyboardWindow_.status();
+    if (bank.isEmpty())
+        status.addNotice(tr("There is no SoundFont for the General MIDI player: it is silent. "
+                            "Choose one in the preferences."));
+    else if (!wanted.isEmpty() && wanted != bank)
+        status.addNotice(
+            tr("%1 cannot be used as the General MIDI bank: %2 is.").arg(wanted, bank));
+}
+
+void Desktop::complain(const QString& sentence)
+{
+    QMessageBox::warning(QApplication::activeWindow(), tr("Velmora"), sentence);
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QTextBrowser>
+
+/// Shows the user guide.
+class GuideWindow : public QTextBrowser {
+public:
+    GuideWindow();
+};

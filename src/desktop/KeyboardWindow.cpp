@@ -1,0 +1,71 @@
+#include "desktop/KeyboardWindow.h"
+
+#include "app/AppDelegate.h"
+#include "desktop/Commands.h"
+#include "desktop/KeyboardView.h"
+#include "desktop/StatusLine.h"
+#include "desktop/windowPlace.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QToolBar>
+
+namespace {
+
+constexpr int kKeyboardHeight = 140;
+
+} // namespace
+
+KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
+    : commands_(commands), keyboard_(new KeyboardView(application)),
+      status_(new StatusLine(application))
+{
+    setWindowTitle(tr("Velmora"));
+    setCentralWidget(keyboard_);
+    setStatusBar(status_);
+
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    commands.addOpening(*file);
+    commands.addClosing(*file);
+    commands.addSound(*menuBar());
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    view->addAction(commands.noteNames);
+    view->addSeparator();
+    commands.addWindows(*view);
+    commands.addHelp(*menuBar());
+
+    QToolBar* tools = addToolBar(tr("Tools"));
+    tools->setObjectName("tools");
+    tools->setMovable(false);
+    tools->setContextMenuPolicy(Qt::PreventContextMenu);
+    tools->addActions({commands.newSequence, commands.open});
+    tools->addSeparator();
+    tools->addAction(commands.instrumentPanel);
+    tools->addSeparator();
+    tools->addAction(commands.silence);
+
+    // The height is the user's, the width that of the keys.
+    resize(width(), kKeyboardHeight + menuBar()->sizeHint().height() + tools->sizeHint().height() +
+                        status_->sizeHint().height());
+    rememberPlace(*this, "keyboard");
+    keyboard_->updateWindowSize();
+}
+
+void KeyboardWindow::closeEvent(QCloseEvent* event)
+{
+    // The home of the program: without it there is no more to do. Unless the user changes his mind.
+    event->ignore();
+    commands_.quit->trigger();
+}
+
+void KeyboardWindow::keyPressEvent(QKeyEvent* event)
+{
+    event->ignore();
+    emit keyEvent(event);
+}
+
+void KeyboardWindow::keyReleaseEvent(QKeyEvent* event)
+{
+    event->ignore();
+    emit keyEvent(event);
+}

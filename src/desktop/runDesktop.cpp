@@ -1,0 +1,68 @@
+#include "desktop/runDesktop.h"
+
+#include "base/Log.h"
+#include "desktop/Desktop.h"
+#include "desktop/SingleInstance.h"
+#include "desktop/graphics.h"
+#include "platform/QuitOnSignal.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+/// Leads what Qt has to say to the log. What it cannot go on after ends the program with a sentence
+/// instead of a core dump: as a rule, that there is no display.
+void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+{
+    const std::string message = text.toStdString();
+    switch (type) {
+    case QtFatalMsg:
+        std::fprintf(stderr, "velmora: %s\n", message.c_str());
+        std::_Exit(1);
+    case QtWarningMsg:
+    case QtCriticalMsg:
+        logger("desktop").warn("{}", message);
+        break;
+    default:
+        logger("desktop").debug("{}", message);
+    }
+}
+
+} // namespace
+
+int runDesktop(int argc, char** argv, const std::vector<std::string>& files)
+{
+    QuitOnSignal quitOnSignal;
+    qInstallMessageHandler(logMessage);
+    chooseGraphics();
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("velmora");
+    QApplication::setApplicationDisplayName("Velmora");
+    QApplication::setApplicationVersion(VELMORA_VERSION);
+    QApplication::setDesktopFileName("velmora");
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QStringList paths;
+    for (const std::string& file : files)
+        paths += QFileInfo(QString::fromStdString(file)).absoluteFilePath();
+    SingleInstance instance;
+    if (instance.handOver(paths))
+        return 0;
+
+    Desktop desktop;
+    quitOnSignal.watch([] { QApplication::exit(); });
+    QObject::connect(&instance, &SingleInstance::opened, &desktop, &Desktop::open,
+                     Qt::QueuedConnection);
+    // The window first, then what may take its time.
+    QTimer::singleShot(0, &desktop, [&] {
+        desktop.launch();
+        if (!paths.isEmpty())
+            desktop.open(paths);
+    });
+    return QApplication::exec();
+}
