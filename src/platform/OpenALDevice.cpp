@@ -21,6 +21,13 @@ void setListener()
     alListenerf(AL_GAIN, 1.0F);
 }
 
+bool setThreadContext(ALCcontext* context)
+{
+    const auto set = reinterpret_cast<PFNALCSETTHREADCONTEXTPROC>(
+        alcGetProcAddress(nullptr, "alcSetThreadContext"));
+    return set != nullptr && set(context) == ALC_TRUE;
+}
+
 } // namespace
 
 std::unique_ptr<OpenALDevice> OpenALDevice::open()
@@ -32,7 +39,7 @@ std::unique_ptr<OpenALDevice> OpenALDevice::open()
         logger("platform").error("ERROR alcOpenDevice = {}", alGetError());
         return nullptr;
     }
-    return withContext(device, nullptr);
+    return withContext(device, nullptr, Reach::Program);
 }
 
 std::unique_ptr<OpenALDevice> OpenALDevice::openLoopback(int rate)
@@ -55,29 +62,36 @@ std::unique_ptr<OpenALDevice> OpenALDevice::openLoopback(int rate)
                                    ALC_OUTPUT_LIMITER_SOFT,
                                    ALC_FALSE,
                                    0};
-    return withContext(device, attributes.data());
+    return withContext(device, attributes.data(), Reach::Thread);
 }
 
-std::unique_ptr<OpenALDevice> OpenALDevice::withContext(ALCdevice* device, const int* attributes)
+std::unique_ptr<OpenALDevice> OpenALDevice::withContext(ALCdevice* device, const int* attributes,
+                                                        Reach reach)
 {
     ALCcontext* context = alcCreateContext(device, attributes);
     if (context == nullptr) {
         alcCloseDevice(device);
         return nullptr;
     }
-    alcMakeContextCurrent(context);
+    auto made = std::unique_ptr<OpenALDevice>(new OpenALDevice(device, context, reach));
+    if (reach == Reach::Program)
+        alcMakeContextCurrent(context);
+    else if (!setThreadContext(context))
+        return nullptr;
     setListener();
-    return std::unique_ptr<OpenALDevice>(new OpenALDevice(device, context));
+    return made;
 }
 
-OpenALDevice::OpenALDevice(ALCdevice* device, ALCcontext* context)
-    : device_(device), context_(context)
+OpenALDevice::OpenALDevice(ALCdevice* device, ALCcontext* context, Reach reach)
+    : device_(device), context_(context), reach_(reach)
 {
 }
 
 OpenALDevice::~OpenALDevice()
 {
-    if (alcGetCurrentContext() == context_)
+    if (reach_ == Reach::Thread)
+        setThreadContext(nullptr);
+    else if (alcGetCurrentContext() == context_)
         alcMakeContextCurrent(nullptr);
     alcDestroyContext(context_);
     alcCloseDevice(device_);

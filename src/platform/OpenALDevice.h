@@ -5,16 +5,17 @@
 struct ALCcontext_struct;
 struct ALCdevice_struct;
 
-/// An OpenAL device with the context that is current for the whole program. Every source and buffer
-/// must be gone before it is. To be made on the main thread while no other reads the environment.
+/// An OpenAL device with a context that is current. Every source and buffer must be gone before it
+/// is. The first one is to be made on the main thread while no other reads the environment.
 class OpenALDevice {
 public:
-    /// Opens the default device, at the shortest period it offers. Null when there is none: that is
-    /// logged.
+    /// Opens the default device, at the shortest period it offers, for the whole program. Null when
+    /// there is none: that is logged.
     static std::unique_ptr<OpenALDevice> open();
 
     /// Makes a device that gives its sound out block by block, as floats of two channels: see
-    /// OpenALLoopback. Null when OpenAL has none.
+    /// OpenALLoopback. It is current on the calling thread alone, which goes on to use it and ends
+    /// it; the others keep the device that they have. Null when OpenAL has none.
     static std::unique_ptr<OpenALDevice> openLoopback(int rate);
 
     ~OpenALDevice();
@@ -24,12 +25,15 @@ public:
     ALCdevice_struct* device() const { return device_; }
 
 private:
+    enum class Reach { Program, Thread };
+
     /// Takes the device over. `attributes` are those of alcCreateContext, null for none.
     static std::unique_ptr<OpenALDevice> withContext(ALCdevice_struct* device,
-                                                     const int* attributes);
+                                                     const int* attributes, Reach reach);
 
-    OpenALDevice(ALCdevice_struct* device, ALCcontext_struct* context);
+    OpenALDevice(ALCdevice_struct* device, ALCcontext_struct* context, Reach reach);
 
     ALCdevice_struct* device_;
     ALCcontext_struct* context_;
+    Reach reach_;
 };

@@ -7,8 +7,9 @@
 #include <memory>
 #include <vector>
 
-/// OpenAL without a sound output: what its current context plays comes out block by block, through
-/// the same limiter as the synthesizer's sound. Every source and buffer must be gone before it is.
+/// OpenAL without a sound output: what the thread that made it plays comes out block by block,
+/// through the same limiter as the synthesizer's sound. Every source and buffer must be gone before
+/// it is.
 class OpenALLoopback : public AudioSource {
 public:
     /// `rate` is in whole hertz. Throws std::runtime_error when OpenAL has no loopback device of
