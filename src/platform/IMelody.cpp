@@ -1,5 +1,7 @@
 #include "platform/IMelody.h"
 
+#include <spdlog/fmt/fmt.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -140,8 +142,8 @@ std::string nameOf(int key)
     constexpr int kDefaultOctave = 4;
     // *3 is the octave of A = 440 Hz, MIDI key 69.
     const int octave = std::max(key / 12 - 2, 0);
-    const std::string prefix = octave == kDefaultOctave ? "" : "*" + std::to_string(octave);
-    return prefix + kNames[static_cast<std::size_t>(key % 12)];
+    const char* name = kNames[static_cast<std::size_t>(key % 12)];
+    return octave == kDefaultOctave ? name : fmt::format("*{}{}", octave, name);
 }
 
 /// Notes and rests, one text each.
