@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "base/Clock.h"
 #include "base/Log.h"
 #include "platform/Synthesizer.h"
 #include "preferences/Preferences.h"
@@ -256,9 +257,11 @@ void AppDelegate::keyOn(int key, float velocity)
 {
     if (!isKey(key))
         return;
+    const double arrived = getTime();
     const std::lock_guard lock(soundLock_);
-    noteStates[static_cast<std::size_t>(key)] = 1;
+    notePressTimes[static_cast<std::size_t>(key)] = arrived;
     noteVelocities[static_cast<std::size_t>(key)] = velocity;
+    noteStates[static_cast<std::size_t>(key)] = 1;
     if (instrument_ == nullptr)
         return;
     temperament_->setup(*instrument_, static_cast<unsigned char>(key), velocity);

@@ -8,10 +8,15 @@
 #include "sound/Instrument.h"
 #include "tuning/Temperament.h"
 
-#include <chrono>
+#include <algorithm>
+#include <cmath>
 #include <new>
+#include <utility>
 
 namespace {
+
+constexpr double kTick = 1.0 / 1024.0;
+constexpr unsigned kTicksPerFrame = 16;
 
 /// Steps in a second for each beat a minute of the tempo.
 constexpr double kStepsPerTempoSecond = 0.125;
@@ -19,13 +24,18 @@ constexpr double kStepsPerTempoSecond = 0.125;
 /// The state of a key that the sequence plays.
 constexpr int kPlayed = 2;
 
-} // namespace
+/// The states of a key of live input.
+constexpr int kPressed = 1, kHeld = 4;
 
-double getTime()
-{
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration<double>(now).count();
-}
+/// How far a recording runs on after the last key, in steps.
+constexpr double kRecordingRoom = 8.0;
+
+constexpr double kRoomBehindLastNote = 32.0;
+
+/// How far above the bottom edge of the view the position stands.
+constexpr double kRoomBelowPosition = 8.0;
+
+} // namespace
 
 SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> clock)
     : host_(host), clock_(std::move(clock)), dTime_(clock_())
@@ -38,7 +48,10 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
     errorString_.clear();
-    sequence_.select();
+    stop();
+    undoStack_.clear();
+    taken_.clear();
+    edit().select();
     sequence_.erase();
     mx_ = 0.0;
     isImported_ = false;
@@ -57,18 +70,42 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
     }
     if (!errorString_.empty())
         logger("sequencer").info("{}", errorString_);
+    emit sizeChanged();
+    emit changed();
+    emit frame();
 }
 
 void SequenceDocument::play()
 {
     if (mode_ == Mode::Playing) {
-        mode_ = Mode::Stopped;
+        setMode(Mode::Stopped);
         stop();
-        return;
+    } else if (mode_ == Mode::Stopped) {
+        dTime_ = clock_();
+        setMode(Mode::Playing);
+        if (intervalSelected() && (offset_ >= selectionEnd_ || offset_ < selectionStart_))
+            doScroll(selectionStart_);
     }
-    mode_ = Mode::Playing;
-    if (intervalSelected() && (offset_ >= selectionEnd_ || offset_ < selectionStart_))
-        doScroll(selectionStart_);
+    emit frame();
+}
+
+void SequenceDocument::record()
+{
+    if (mode_ == Mode::Recording) {
+        setMode(Mode::Stopped);
+        registerTake();
+    } else if (mode_ == Mode::Stopped) {
+        dTime_ = clock_();
+        scrollMax_ = offset_;
+        setMode(Mode::Recording);
+    }
+    emit frame();
+}
+
+void SequenceDocument::setMode(Mode mode)
+{
+    mode_ = mode;
+    emit modeChanged();
 }
 
 void SequenceDocument::loop()
@@ -76,7 +113,15 @@ void SequenceDocument::loop()
     const double now = clock_();
     if (mode_ == Mode::Playing)
         doPlay(now - dTime_);
+    // A tick that comes late makes up for those before it, so that each key is taken where the
+    // position was when it arrived.
+    for (; mode_ == Mode::Recording && now - dTime_ >= 2.0 * kTick; dTime_ += kTick)
+        doRecord(kTick);
+    if (mode_ == Mode::Recording)
+        doRecord(now - dTime_);
     dTime_ = now;
+    if (frameCount_++ % kTicksPerFrame == 0)
+        emit frame();
 }
 
 void SequenceDocument::doPlay(double seconds)
@@ -103,6 +148,55 @@ void SequenceDocument::doPlay(double seconds)
             play();
     }
     doScroll(next);
+}
+
+void SequenceDocument::doRecord(double seconds)
+{
+    bool activity = false;
+    for (std::size_t key = 0; key < kKeys; ++key)
+        activity = recordKey(key, dTime_ + seconds) || activity;
+    if (activity)
+        scrollMax_ = offset_ + kRecordingRoom;
+    if (activity || (!snapToGrid_ && offset_ <= scrollMax_)) {
+        offset_ += tempo_ * seconds * kStepsPerTempoSecond;
+        emit scrolled(offset_ - kRoomBelowPosition);
+    }
+    mx_ = offset_ + kRoomBehindLastNote;
+    if (activity)
+        emit sizeChanged();
+}
+
+bool SequenceDocument::recordKey(std::size_t key, double until)
+{
+    int state = kPressed;
+    if (notePressTimes[key] <= until && noteStates[key].compare_exchange_strong(state, kHeld)) {
+        Note note{.start = offset_,
+                  .length = 1.0,
+                  .oldLength = 1.0,
+                  .velocity = noteVelocities[key],
+                  .channel = channel_,
+                  .key = static_cast<std::uint32_t>(key),
+                  .oldStart = offset_,
+                  .oldKey = static_cast<std::uint32_t>(key)};
+        if (snapToGrid_)
+            note.start = std::floor(note.start);
+        taken_.emplace(edit().addNote(note).id, std::nullopt);
+        return true;
+    }
+    if (state != kHeld)
+        return false;
+
+    const auto& notes = sequence_.notes();
+    const auto last = std::find_if(notes.rbegin(), notes.rend(),
+                                   [=](const Note& note) { return note.key == key; });
+    if (last != notes.rend()) {
+        taken_.emplace(last->id, last->length);
+        Note& held = *edit().find(last->id);
+        held.length = offset_ - held.start;
+        if (snapToGrid_)
+            held.length = std::floor(held.length);
+    }
+    return true;
 }
 
 void SequenceDocument::start(Note& note)
@@ -145,10 +239,51 @@ void SequenceDocument::stop()
 void SequenceDocument::doScroll(double step)
 {
     offset_ = step;
+    if (!intervalSelected())
+        emit scrolled(offset_ - kRoomBelowPosition);
+}
+
+void SequenceDocument::putPosition(double step)
+{
+    offset_ = scrollMax_ = step;
+    emit changed();
 }
 
 void SequenceDocument::selectInterval(double start, double end)
 {
     selectionStart_ = start;
     selectionEnd_ = end;
+    emit changed();
+}
+
+void SequenceDocument::measure()
+{
+    mx_ = 0.0;
+    for (const Note& note : sequence_.notes())
+        mx_ = std::max(mx_, note.start + note.length + kRoomBehindLastNote);
+    emit sizeChanged();
+}
+
+void SequenceDocument::setTempo(double tempo)
+{
+    tempo_ = tempo;
+    emit optionsChanged();
+}
+
+void SequenceDocument::setChannel(unsigned char channel)
+{
+    channel_ = channel;
+    emit optionsChanged();
+}
+
+void SequenceDocument::setSnapToGrid(bool snap)
+{
+    snapToGrid_ = snap;
+    emit optionsChanged();
+}
+
+void SequenceDocument::setLoop(bool loop)
+{
+    loop_ = loop;
+    emit optionsChanged();
 }

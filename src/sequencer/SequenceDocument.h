@@ -1,29 +1,37 @@
 #pragma once
 
+#include "base/Clock.h"
+#include "sequencer/KeyboardDocument.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
+#include "sequencer/UndoAction.h"
 #include "sound/KeyTables.h"
+
+#include <QObject>
+#include <QUndoStack>
 
 #include <array>
 #include <filesystem>
 #include <functional>
+#include <map>
+#include <optional>
 #include <string>
 
-/// Seconds of a clock that runs evenly, from an arbitrary beginning.
-double getTime();
-
 /// A sequence and its transport: plays the notes on the application's current instrument, through
-/// its current temperament. Main thread only. Times are in steps; at tempo 120 a second is 15.
-class SequenceDocument {
+/// its current temperament, records live keys, and lets them be practised. Main thread only. Times
+/// are in steps; at tempo 120 a second is 15.
+class SequenceDocument : public QObject, public KeyboardDocument {
+    Q_OBJECT
+
 public:
-    enum class Mode { Stopped, Playing };
+    enum class Mode { Stopped, Playing, Recording };
 
     /// A document with an empty sequence; clears the table of held keys. `clock` gives the seconds
     /// that pass between the calls of `loop`.
     explicit SequenceDocument(SequenceHost& host, std::function<double()> clock = getTime);
 
     /// Reads a Standard MIDI File, keeping the keys of the keyboard's range. A file that cannot be
-    /// read leaves the sequence empty, and `errorString` says why.
+    /// read leaves the sequence empty, and `errorString` says why. Forgets what could be undone.
     void readFromURL(const std::filesystem::path& path);
 
     /// What is wrong with the file that could not be read, in one sentence; empty when nothing is.
@@ -32,54 +40,161 @@ public:
     /// Starts playing, from the selected interval when the position lies outside it; or stops.
     void play();
 
-    /// The tick of the document's timer, 1024 in a second.
+    /// Starts or ends a recording.
+    void record();
+
+    /// The tick of the document's timer, 1024 in a second while it plays or records.
     void loop();
 
     /// Silences every note that playing has started.
     void stop();
 
-    /// Puts the play position.
+    /// Puts the play position; the view follows when no interval is selected.
     void doScroll(double step);
+
+    /// Puts the play position where the user points; a recording runs on from there.
+    void putPosition(double step);
+
+    /// Go to the chord before or after the position, or put the cursor on the one at it.
+    void prevNote();
+    void currentNote();
+    void nextNote();
+
+    /// Looks anew which keys are wanted at the position and which are held. With `advance` the
+    /// position goes on to the next chord once every wanted key, and no other, has been struck.
+    void getCurrentNotes(bool advance);
+
+    void midiInput() override;
+    int stateOfNote(unsigned key) const override { return currentNotes_[key]; }
 
     /// Selects a time interval; equal steps select none.
     void selectInterval(double start, double end);
-
-    /// Whether playing goes on from the beginning of the interval, or of the sequence, at its end.
-    void setLoop(bool loop) { loop_ = loop; }
+    bool intervalSelected() const { return selectionStart_ != selectionEnd_; }
+    double getSelectionStart() const { return selectionStart_; }
+    double getSelectionEnd() const { return selectionEnd_; }
 
     const Sequence& getSequence() const { return sequence_; }
     Mode mode() const { return mode_; }
     double getOffset() const { return offset_; }
 
+    /// Cursor of the navigation by notes. Playing leaves a key in it; -1 before the first note.
+    int getNote() const { return note_; }
+
     /// The extent in steps: the end of the last note and 32 more.
     double extent() const { return mx_; }
+
+    /// Sets the extent by the notes; it is 0 without any.
+    void measure();
 
     /// Whether the file that was read held more than the sequence keeps.
     bool isImported() const { return isImported_; }
 
-    /// How the on-screen keyboard shows a key: 0 for one at rest, 2 for one that is played.
-    int stateOfNote(unsigned key) const { return currentNotes_[key]; }
+    /// Beats a minute, above 0.
+    double tempo() const { return tempo_; }
+    void setTempo(double tempo);
+
+    /// Given to notes that are recorded or drawn.
+    unsigned char channel() const { return channel_; }
+    void setChannel(unsigned char channel);
+
+    bool snapToGrid() const { return snapToGrid_; }
+    void setSnapToGrid(bool snap);
+
+    /// Whether playing goes on from the beginning of the interval, or of the sequence, at its end.
+    bool loops() const { return loop_; }
+    void setLoop(bool loop);
+
+    /// The sequence, for a gesture that changes its notes.
+    Sequence& edit();
+
+    /// The document's actions: each one is the inverse of its neighbour. They register nothing.
+    void addNotes(const UndoAction& action);
+    void removeNotes(const UndoAction& action);
+    void moveNotes(const UndoAction& action);
+    void unmoveNotes(const UndoAction& action);
+    void sizeNotes(const UndoAction& action);
+    void unsizeNotes(const UndoAction& action);
+
+    /// An action and its inverse.
+    struct Edit {
+        using Action = void (SequenceDocument::*)(const UndoAction&);
+        Action redo, undo;
+    };
+    static constexpr Edit kAdd{&SequenceDocument::addNotes, &SequenceDocument::removeNotes};
+    static constexpr Edit kRemove{&SequenceDocument::removeNotes, &SequenceDocument::addNotes};
+    static constexpr Edit kMove{&SequenceDocument::moveNotes, &SequenceDocument::unmoveNotes};
+    static constexpr Edit kSize{&SequenceDocument::sizeNotes, &SequenceDocument::unsizeNotes};
+
+    /// The name of an edit in the menu, as in "Move 3 Notes".
+    static QString editText(const QString& verb, std::size_t notes);
+
+    /// Does an edit that can be undone. `text` names it in the menu.
+    void perform(Edit edit, UndoAction action, const QString& text);
+
+    /// Makes an edit that a gesture has already done one that can be undone.
+    void registerDone(Edit edit, UndoAction action, const QString& text);
+
+    /// Also says, by its clean state, whether the document is modified.
+    QUndoStack& undoStack() { return undoStack_; }
+
+    /// Makes what has been recorded so far an edit that can be undone.
+    void registerTake();
+
+    /// Whether there are edits or recorded notes that are not saved.
+    bool isModified() const { return !undoStack_.isClean() || !taken_.empty(); }
+
+signals:
+    /// Notes, the selection or the position have changed: the piano roll is to be drawn anew.
+    void changed();
+
+    /// The keyboard is to be drawn anew, and the roll of the document that it shows. On every 16th
+    /// tick, and whenever the keys' states have changed while no clock runs.
+    void frame();
+
+    void modeChanged();
+
+    /// The extent has changed.
+    void sizeChanged();
+
+    /// That step is to come to the bottom edge of the roll, as far as it can; it may be negative.
+    void scrolled(double step);
+
+    /// Tempo, channel, grid or looping have changed.
+    void optionsChanged();
 
 private:
     void doPlay(double seconds);
-    bool intervalSelected() const { return selectionStart_ != selectionEnd_; }
+    void doRecord(double seconds);
+    bool recordKey(std::size_t key, double until);
+    bool atPosition(const Note& note) const;
     void start(Note& note);
     void silence(Note& note);
     void stopOnInstrument(const Note& note);
+    void setMode(Mode mode);
+    void apply(void (UndoAction::*change)(Sequence&) const, const UndoAction& action);
 
     SequenceHost& host_;
     std::function<double()> clock_;
     Sequence sequence_;
+    QUndoStack undoStack_;
     std::string errorString_;
 
     double tempo_ = 120.0;
     double mx_ = 0.0;
     Mode mode_ = Mode::Stopped;
-    double dTime_; ///< When the last tick was.
+    unsigned frameCount_ = 0; ///< Ticks.
+    double scrollMax_ = 0.0;  ///< How far a recording runs on without keys.
+    double dTime_;            ///< When the last tick was.
     double selectionStart_ = 0.0, selectionEnd_ = 0.0;
     double offset_ = 0.0; ///< The play position.
-    unsigned note_ = 0;   ///< Cursor of the navigation by notes; playing leaves a key in it.
+    int note_ = 0;
+    unsigned char channel_ = 0;
+    bool snapToGrid_ = false;
     bool loop_ = false;
     bool isImported_ = false;
     std::array<int, kKeys> currentNotes_{};
+
+    /// What the recording has done since it was last registered: the notes that it has changed,
+    /// with the length before, or none for a new one.
+    std::map<std::uint64_t, std::optional<double>> taken_;
 };

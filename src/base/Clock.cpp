@@ -1,0 +1,9 @@
+#include "base/Clock.h"
+
+#include <chrono>
+
+double getTime()
+{
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(now).count();
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+/// Seconds of a clock that runs evenly, from an arbitrary beginning. On any thread.
+double getTime();

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/IntervalTimer.h"
+
+#include <QObject>
+
+#include <memory>
+
+class SequenceDocument;
+
+/// Drives a document 1024 times in a second while it plays or records. While it stands still
+/// nothing that it shows or sounds depends on time, and no clock runs.
+class SequenceClock : public QObject {
+public:
+    /// Runs as long as it lives, which ends before the document does.
+    explicit SequenceClock(SequenceDocument& document);
+
+private:
+    void adjust();
+
+    SequenceDocument& document_;
+    std::unique_ptr<IntervalTimer> playTimer_;
+};

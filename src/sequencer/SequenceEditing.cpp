@@ -1,0 +1,118 @@
+// What can be undone in a sequence document.
+
+#include "sequencer/SequenceDocument.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/// One entry of the undo menu. A gesture has done its edit before it is registered: the stack does
+/// it again only after it was undone.
+class SequenceCommand : public QUndoCommand {
+public:
+    SequenceCommand(SequenceDocument& document, SequenceDocument::Edit edit, UndoAction action,
+                    bool isDone, const QString& text)
+        : QUndoCommand(text), document_(document), edit_(edit), action_(std::move(action)),
+          isDone_(isDone)
+    {
+    }
+
+    void redo() override
+    {
+        if (!std::exchange(isDone_, false))
+            (document_.*edit_.redo)(action_);
+    }
+
+    void undo() override { (document_.*edit_.undo)(action_); }
+
+private:
+    SequenceDocument& document_;
+    SequenceDocument::Edit edit_;
+    UndoAction action_;
+    bool isDone_;
+};
+
+} // namespace
+
+Sequence& SequenceDocument::edit()
+{
+    return sequence_;
+}
+
+void SequenceDocument::apply(void (UndoAction::*change)(Sequence&) const, const UndoAction& action)
+{
+    // A note that sounds where it no longer is would never end.
+    for (const Note& note : action.notes())
+        if (Note* stored = sequence_.find(note.id); stored != nullptr && stored->playing)
+            silence(*stored);
+    (action.*change)(edit());
+    emit changed();
+}
+
+void SequenceDocument::addNotes(const UndoAction& action)
+{
+    apply(&UndoAction::add, action);
+}
+
+void SequenceDocument::removeNotes(const UndoAction& action)
+{
+    apply(&UndoAction::remove, action);
+}
+
+void SequenceDocument::moveNotes(const UndoAction& action)
+{
+    apply(&UndoAction::move, action);
+}
+
+void SequenceDocument::unmoveNotes(const UndoAction& action)
+{
+    apply(&UndoAction::unmove, action);
+}
+
+void SequenceDocument::sizeNotes(const UndoAction& action)
+{
+    apply(&UndoAction::size, action);
+}
+
+void SequenceDocument::unsizeNotes(const UndoAction& action)
+{
+    apply(&UndoAction::unsize, action);
+}
+
+void SequenceDocument::perform(Edit edit, UndoAction action, const QString& text)
+{
+    registerTake();
+    undoStack_.push(new SequenceCommand(*this, edit, std::move(action), false, text));
+}
+
+void SequenceDocument::registerDone(Edit edit, UndoAction action, const QString& text)
+{
+    undoStack_.push(new SequenceCommand(*this, edit, std::move(action), true, text));
+}
+
+void SequenceDocument::registerTake()
+{
+    std::vector<Note> added, lengthened;
+    for (const auto& [id, lengthBefore] : std::exchange(taken_, {})) {
+        const Note* stored = sequence_.find(id);
+        if (stored == nullptr)
+            continue;
+        Note& note = (lengthBefore ? lengthened : added).emplace_back(*stored);
+        note.oldLength = lengthBefore.value_or(note.oldLength);
+    }
+    if (added.empty() && lengthened.empty())
+        return;
+    undoStack_.beginMacro(editText(tr("Record"), added.size()));
+    if (!lengthened.empty())
+        registerDone(kSize, UndoAction::withNotes(std::move(lengthened)), {});
+    if (!added.empty())
+        registerDone(kAdd, UndoAction::withNotes(std::move(added)), {});
+    undoStack_.endMacro();
+}
+
+QString SequenceDocument::editText(const QString& verb, std::size_t notes)
+{
+    return verb + ' ' + (notes == 1 ? tr("1 Note") : tr("%1 Notes").arg(notes));
+}

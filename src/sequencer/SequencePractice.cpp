@@ -1,0 +1,117 @@
+// Going from chord to chord, with the arrows or by playing them.
+
+#include "sequencer/SequenceDocument.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Notes as close as this to the position, in steps, stand at it.
+constexpr double kTolerance = 0.1;
+
+/// The states of a key: pressed but not wanted, wanted but not pressed, wanted but held from
+/// before.
+constexpr int kPressed = 1, kWanted = 2, kHeld = 4;
+
+/// How far above the bottom edge of the view the position stands.
+constexpr double kRoomBelowPosition = 8.0;
+
+bool isUnanswered(int state)
+{
+    return state == kPressed || state == kWanted || state == (kWanted | kHeld);
+}
+
+} // namespace
+
+bool SequenceDocument::atPosition(const Note& note) const
+{
+    const double distance = note.start - offset_;
+    return !(distance > kTolerance) && !(distance < -kTolerance);
+}
+
+void SequenceDocument::currentNote()
+{
+    const auto& notes = sequence_.notes();
+    const auto found = std::find_if(notes.begin(), notes.end(), [this](const Note& note) {
+        return note.start >= offset_ - kTolerance;
+    });
+    note_ = static_cast<int>(found - notes.begin());
+}
+
+void SequenceDocument::nextNote()
+{
+    const auto& notes = sequence_.notes();
+    if (notes.empty())
+        return;
+    const auto found = std::find_if(notes.begin(), notes.end(), [this](const Note& note) {
+        return note.start - offset_ > kTolerance;
+    });
+    if (found != notes.end()) {
+        note_ = static_cast<int>(found - notes.begin());
+        offset_ = found->start;
+        return;
+    }
+    note_ = static_cast<int>(notes.size()) - 1;
+    if (loop_ && intervalSelected()) {
+        offset_ = selectionStart_;
+        currentNote();
+    } else if (loop_) {
+        note_ = 0;
+        offset_ = notes.front().start;
+    }
+}
+
+void SequenceDocument::prevNote()
+{
+    const auto& notes = sequence_.notes();
+    if (notes.empty())
+        return;
+    const auto walkDown = [&] {
+        while (note_ >= 0 && offset_ - notes[static_cast<std::size_t>(note_)].start <= kTolerance)
+            --note_;
+    };
+    note_ = static_cast<int>(notes.size()) - 1;
+    walkDown();
+    if (note_ < 0)
+        return;
+    // On to the first note of that chord.
+    offset_ = notes[static_cast<std::size_t>(note_)].start;
+    walkDown();
+    if (note_ >= 0)
+        offset_ = notes[static_cast<std::size_t>(++note_)].start;
+}
+
+void SequenceDocument::getCurrentNotes(bool advance)
+{
+    std::copy(noteStates.begin(), noteStates.end(), currentNotes_.begin());
+    for (std::size_t i = 0; i < sequence_.notes().size(); ++i) {
+        Note& note = sequence_.at(i);
+        note.active = atPosition(note);
+        if (note.active)
+            currentNotes_[note.key] |= kWanted;
+    }
+    if (!advance || std::any_of(currentNotes_.begin(), currentNotes_.end(), isUnanswered))
+        return;
+
+    for (std::size_t key = 0; key < kKeys; ++key) {
+        int state = kPressed;
+        currentNotes_[key] = noteStates[key].compare_exchange_strong(state, kHeld) ? kHeld : state;
+    }
+    nextNote();
+    if (loop_ && selectionStart_ < selectionEnd_ && selectionEnd_ <= offset_) {
+        offset_ = selectionStart_;
+        currentNote();
+    }
+    emit scrolled(std::max(0.0, offset_ - kRoomBelowPosition));
+    const auto& notes = sequence_.notes();
+    for (auto i = static_cast<std::size_t>(std::max(note_, 0));
+         i < notes.size() && notes[i].start - offset_ <= kTolerance; ++i)
+        currentNotes_[notes[i].key] |= kWanted;
+}
+
+void SequenceDocument::midiInput()
+{
+    getCurrentNotes(true);
+    emit frame();
+}
