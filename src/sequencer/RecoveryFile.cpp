@@ -1,0 +1,111 @@
+#include "sequencer/RecoveryFile.h"
+
+#include "base/File.h"
+#include "base/FormatError.h"
+#include "base/Log.h"
+#include "platform/writeFile.h"
+
+#include <QStandardPaths>
+#include <QUuid>
+
+#include <sys/file.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <new>
+#include <system_error>
+#include <utility>
+
+namespace {
+
+constexpr const char* kExtension = ".unsaved";
+
+std::string newName()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() + kExtension;
+}
+
+std::vector<std::string> namesIn(const std::filesystem::path& folder)
+{
+    std::vector<std::string> names;
+    std::error_code error;
+    auto entry = std::filesystem::directory_iterator(folder, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        if (entry->path().extension() == kExtension)
+            names.push_back(entry->path().filename().string());
+    }
+    return names;
+}
+
+} // namespace
+
+std::filesystem::path RecoveryFile::usualFolder()
+{
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return std::filesystem::path(data.toStdString()) / "velmora" / "recovery";
+}
+
+RecoveryFile::RecoveryFile(std::filesystem::path folder)
+    : RecoveryFile(std::move(folder), newName())
+{
+}
+
+RecoveryFile::RecoveryFile(std::filesystem::path folder, std::string name)
+    : folder_(std::move(folder)), name_(std::move(name)), lock_(nullptr, std::fclose)
+{
+}
+
+std::vector<Abandoned> RecoveryFile::abandoned(const std::filesystem::path& folder)
+{
+    std::vector<Abandoned> found;
+    for (const std::string& name : namesIn(folder)) {
+        RecoveryFile file(folder, name);
+        if (!file.claim())
+            continue;
+        std::error_code error;
+        if (!std::filesystem::exists(file.path(), error)) {
+            file.discard(); // another program has been done with it in between
+            continue;
+        }
+        try {
+            UnsavedSequence sequence = decodeUnsaved(readFile(file.path()));
+            found.push_back({std::move(file), std::move(sequence)});
+        } catch (const FormatError& wrong) {
+            logger("sequencer").warn("{}", wrong.inFile(file.path().string()));
+        } catch (const std::bad_alloc&) {
+            logger("sequencer").warn("{}: is too large to be read into memory", name);
+        }
+    }
+    std::sort(found.begin(), found.end(), [](const Abandoned& a, const Abandoned& b) {
+        return a.sequence.time < b.sequence.time;
+    });
+    return found;
+}
+
+bool RecoveryFile::claim()
+{
+    lock_.reset(std::fopen(lockPath().c_str(), "ae"));
+    // Where the file system knows no locks, two programs at once are less likely than a crash.
+    return lock_ && (flock(fileno(lock_.get()), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK);
+}
+
+void RecoveryFile::write(const UnsavedSequence& sequence)
+{
+    if (!lock_) {
+        std::error_code error;
+        std::filesystem::create_directories(folder_, error);
+        claim();
+    }
+    writeFile(path(), encodeUnsaved(sequence));
+}
+
+void RecoveryFile::discard()
+{
+    if (!lock_)
+        return;
+    std::error_code error;
+    std::filesystem::remove(path(), error);
+    std::filesystem::remove(lockPath(), error);
+    lock_.reset();
+    name_ = newName();
+}

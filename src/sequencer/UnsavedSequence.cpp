@@ -1,0 +1,113 @@
+#include "sequencer/UnsavedSequence.h"
+
+#include "base/FormatError.h"
+
+#include <QByteArray>
+#include <QDataStream>
+#include <QIODevice>
+
+#include <cmath>
+
+namespace {
+
+constexpr quint32 kMagic = 0x56524543; // "VREC"
+constexpr quint32 kVersion = 1;
+
+/// What a note takes.
+constexpr qint64 kNoteBytes = 5 * 8 + 3 * 4;
+
+/// In steps; far beyond any music.
+constexpr double kFarthest = 0x1p30;
+
+void setUp(QDataStream& stream)
+{
+    stream.setVersion(QDataStream::Qt_6_4);
+}
+
+/// Reads on, and knows where it is.
+class Reader {
+public:
+    explicit Reader(std::span<const std::byte> bytes)
+        : bytes_(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
+                                         static_cast<qsizetype>(bytes.size()))),
+          stream_(bytes_)
+    {
+        setUp(stream_);
+    }
+
+    qint64 offset() const { return stream_.device()->pos(); }
+    qint64 left() const { return bytes_.size() - offset(); }
+
+    template <class Value> Value read()
+    {
+        Value value{};
+        stream_ >> value;
+        require(stream_.status() == QDataStream::Ok, "the file ends too early");
+        return value;
+    }
+
+    void require(bool holds, const char* otherwise) const
+    {
+        if (!holds)
+            throw FormatError::atByte(static_cast<std::size_t>(offset()), otherwise);
+    }
+
+private:
+    QByteArray bytes_;
+    QDataStream stream_;
+};
+
+Note readNote(Reader& reader)
+{
+    Note note;
+    for (double* time : {&note.start, &note.length, &note.oldStart, &note.oldLength}) {
+        *time = reader.read<double>();
+        reader.require(std::abs(*time) <= kFarthest, "a note lies beyond all music");
+    }
+    const double velocity = reader.read<double>();
+    reader.require(velocity >= 0.0 && velocity <= 1.0, "the velocity of a note is not 0 to 1");
+    note.velocity = static_cast<float>(velocity);
+    note.channel = reader.read<quint32>();
+    note.key = reader.read<quint32>();
+    note.oldKey = reader.read<quint32>();
+    reader.require(note.channel < 256 && note.key < 128 && note.oldKey < 128,
+                   "a note has a key above 127 or a channel above 255");
+    return note;
+}
+
+} // namespace
+
+std::string encodeUnsaved(const UnsavedSequence& sequence)
+{
+    QByteArray bytes;
+    bytes.reserve(static_cast<qsizetype>(sequence.notes.size()) * kNoteBytes + 4096);
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    setUp(stream);
+    stream << kMagic << kVersion << QByteArray::fromStdString(sequence.path.string())
+           << static_cast<qint64>(sequence.time.time_since_epoch().count()) << sequence.isImported
+           << static_cast<quint64>(sequence.notes.size());
+    for (const Note& note : sequence.notes)
+        stream << note.start << note.length << note.oldStart << note.oldLength
+               << static_cast<double>(note.velocity) << note.channel << note.key << note.oldKey;
+    return bytes.toStdString();
+}
+
+UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes)
+{
+    Reader reader(bytes);
+    reader.require(reader.read<quint32>() == kMagic, "this is not a recovery file");
+    reader.require(reader.read<quint32>() == kVersion, "another version of Velmora wrote this");
+    UnsavedSequence sequence;
+    sequence.path = reader.read<QByteArray>().toStdString();
+    sequence.time = decltype(sequence.time)(std::chrono::milliseconds(reader.read<qint64>()));
+    sequence.isImported = reader.read<bool>();
+
+    const auto count = reader.read<quint64>();
+    reader.require(count == static_cast<quint64>(reader.left()) / kNoteBytes &&
+                       reader.left() % kNoteBytes == 0,
+                   "the number of notes is not that of the file");
+    sequence.notes.reserve(count);
+    for (quint64 i = 0; i < count; ++i)
+        sequence.notes.push_back(readNote(reader));
+    return sequence;
+}
