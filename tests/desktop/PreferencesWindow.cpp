@@ -1,0 +1,84 @@
+#include "desktop/PreferencesWindow.h"
+
+#include "preferences/Color.h"
+#include "preferences/Preferences.h"
+
+#include <QAbstractButton>
+#include <QColorDialog>
+#include <QSpinBox>
+#include <QtTest>
+#include <gmock/gmock.h>
+
+namespace {
+
+class PreferencesWindowTest : public testing::Test {
+protected:
+    PreferencesWindowTest()
+    {
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    ~PreferencesWindowTest() override
+    {
+        for (const char* key : {"KeyWidth", "KeyRangeLo", "KeyRangeHi", "KeyColor", "KeyNames"})
+            resetPref(key);
+    }
+
+    /// Types over what a box shows, and leaves it.
+    void type(const char* key, const char* text)
+    {
+        auto* box = window.findChild<QSpinBox*>(key);
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, text);
+        box->clearFocus();
+    }
+
+    PreferencesWindow window;
+    QSignalSpy changed{&window, &PreferencesWindow::changed};
+};
+
+} // namespace
+
+TEST_F(PreferencesWindowTest, CorrectsNumbersAsTheyAreTyped)
+{
+    const struct {
+        const char* key;
+        const char* typed;
+        int stored;
+        const char* shown;
+    } rows[] = {
+        {"KeyWidth", "20", 20, "20 px"},         {"KeyWidth", "1", 4, "4 px"},
+        {"KeyRangeLo", "36", 36, "C2 (36)"},     {"KeyRangeLo", "c#3", 49, "C#3 (49)"},
+        {"KeyRangeHi", "60", 60, "C4 (60)"},     {"KeyRangeHi", "40", 50, "D3 (50)"},
+        {"KeyRangeHi", "200", 127, "G9 (127)"},  {"KeyRangeHi", "H9", 127, "G9 (127)"},
+        {"KeyRangeLo", "127", 126, "F#9 (126)"},
+    };
+    for (const auto& row : rows) {
+        changed.clear();
+        type(row.key, row.typed);
+        EXPECT_EQ(getPrefInt(row.key), row.stored) << row.typed;
+        EXPECT_EQ(window.findChild<QSpinBox*>(row.key)->text(), row.shown) << row.typed;
+        EXPECT_EQ(changed.isEmpty(), QString("H9") == row.typed) << row.typed;
+    }
+}
+
+TEST_F(PreferencesWindowTest, StoresColorsAndChoicesAtOnce)
+{
+    QTest::keyClick(&window, Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !getPrefBool("KeyNames"); }));
+    QTest::keyClick(&window, Qt::Key_O, Qt::AltModifier);
+    auto* button = window.findChild<QAbstractButton*>("KeyColor");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return button->isVisible(); }));
+    QTest::mouseClick(button, Qt::LeftButton);
+    auto* dialog = button->findChild<QColorDialog*>();
+    dialog->setCurrentColor(Qt::blue);
+    dialog->accept();
+    EXPECT_EQ(changed.size(), 2);
+    EXPECT_EQ(Color("KeyColor").toQColor(), QColor(Qt::blue));
+    QTest::mouseClick(window.findChild<QAbstractButton*>("ResetColors"), Qt::LeftButton);
+    EXPECT_EQ(changed.size(), 3);
+    EXPECT_EQ(Color("KeyColor").toQColor(), QColor(Qt::green));
+}
