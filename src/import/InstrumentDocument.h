@@ -55,6 +55,10 @@ public:
 
     const std::string& getName() const { return name_; }
 
+    /// The file that was last read, and its type; empty for the General MIDI player.
+    const std::filesystem::path& path() const { return path_; }
+    const std::string& type() const { return type_; }
+
     /// Bytes of sample memory; 0 without an instrument.
     std::int64_t getSize() const { return instrument_ ? instrument_->usage : 0; }
 
@@ -63,7 +67,7 @@ private:
 
     std::unique_ptr<Instrument> instrument_;
     std::string name_;
-    std::filesystem::path path_; ///< Empty for the General MIDI player.
+    std::filesystem::path path_;
     std::string type_;
     std::string errorString_;
     ImportReport report_;

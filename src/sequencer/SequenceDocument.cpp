@@ -48,6 +48,7 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
     errorString_.clear();
+    path_.clear();
     stop();
     undoStack_.clear();
     taken_.clear();
@@ -63,6 +64,7 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
         sequence_ = std::move(read);
         mx_ = file.mx;
         isImported_ = file.isImported;
+        path_ = path;
     } catch (const FormatError& error) {
         errorString_ = error.inFile(name);
     } catch (const std::bad_alloc&) {

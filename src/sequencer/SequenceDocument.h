@@ -17,6 +17,8 @@
 #include <optional>
 #include <string>
 
+struct UnsavedSequence;
+
 /// A sequence and its transport: plays the notes on the application's current instrument, through
 /// its current temperament, records live keys, and lets them be practised. Main thread only. Times
 /// are in steps; at tempo 120 a second is 15.
@@ -25,6 +27,7 @@ class SequenceDocument : public QObject, public KeyboardDocument {
 
 public:
     enum class Mode { Stopped, Playing, Recording };
+    enum class SaveOperation { Save, SaveAs };
 
     /// A document with an empty sequence; clears the table of held keys. `clock` gives the seconds
     /// that pass between the calls of `loop`.
@@ -34,8 +37,22 @@ public:
     /// read leaves the sequence empty, and `errorString` says why. Forgets what could be undone.
     void readFromURL(const std::filesystem::path& path);
 
-    /// What is wrong with the file that could not be read, in one sentence; empty when nothing is.
+    /// What is wrong with the file that could not be read or written, in one sentence; empty when
+    /// nothing is.
     const std::string& errorString() const { return errorString_; }
+
+    /// Writes the notes to a file of a type, "MIDI File" or "iMelody", and marks the document as
+    /// not modified. "Save As" makes the file the document's own; "Save" refuses to replace one
+    /// that holds more than the sequence keeps. False when nothing was written: `errorString` says
+    /// why, but for any other type.
+    bool saveToURL(const std::filesystem::path& path, const std::string& type,
+                   SaveOperation operation);
+
+    /// Takes over what was kept of a document that was never saved, as a modified document.
+    void recover(const UnsavedSequence& unsaved);
+
+    /// The document's file; empty before it has one, and where it could not be read.
+    const std::filesystem::path& path() const { return path_; }
 
     /// Starts playing, from the selected interval when the position lies outside it; or stops.
     void play();
@@ -177,6 +194,7 @@ private:
     std::function<double()> clock_;
     Sequence sequence_;
     QUndoStack undoStack_;
+    std::filesystem::path path_;
     std::string errorString_;
 
     double tempo_ = 120.0;

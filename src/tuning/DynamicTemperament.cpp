@@ -61,6 +61,13 @@ DynamicTemperament::DynamicTemperament()
         voices_[pitchClass] = {kHome[pitchClass], 0.0F};
 }
 
+std::unique_ptr<Temperament> DynamicTemperament::fresh() const
+{
+    auto same = std::make_unique<DynamicTemperament>();
+    same->setBaseFrequency(baseFrequency());
+    return same;
+}
+
 const Tuning& DynamicTemperament::getTuning(unsigned long key) const
 {
     return *tunings()[voices_[key % 12].current];

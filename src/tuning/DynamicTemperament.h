@@ -12,6 +12,7 @@ class DynamicTemperament : public Temperament {
 public:
     DynamicTemperament();
 
+    std::unique_ptr<Temperament> fresh() const override;
     const Tuning& getTuning(unsigned long key) const override;
 
     /// Chooses the spelling of the struck pitch class, then retunes the instrument.

@@ -32,6 +32,14 @@ Temperament Temperament::Meantone()
     return temperament;
 }
 
+std::unique_ptr<Temperament> Temperament::fresh() const
+{
+    auto same = std::make_unique<Temperament>();
+    same->tunings_ = tunings_;
+    same->baseFrequency_ = baseFrequency_;
+    return same;
+}
+
 const Tuning& Temperament::getTuning(unsigned long key) const
 {
     return *tunings_[key % 12];

@@ -23,6 +23,9 @@ public:
     /// Quarter-comma meantone: pure thirds C–E–G♯, fifths a quarter of the syntonic comma narrow.
     static Temperament Meantone();
 
+    /// The same temperament as it is before any key is struck.
+    virtual std::unique_ptr<Temperament> fresh() const;
+
     /// The tuning of a MIDI key's pitch class.
     virtual const Tuning& getTuning(unsigned long key) const;
 
@@ -47,10 +50,10 @@ public:
 protected:
     /// Every pitch of the gamut, in order: twelve pitch classes unless a temperament offers several
     /// spellings of them.
-    const std::vector<std::unique_ptr<Tuning>>& tunings() const { return tunings_; }
+    const std::vector<std::shared_ptr<const Tuning>>& tunings() const { return tunings_; }
 
 private:
-    std::vector<std::unique_ptr<Tuning>> tunings_;
+    std::vector<std::shared_ptr<const Tuning>> tunings_; ///< Shared with what `fresh` gave.
     double baseFrequency_ = 261.6255653006;
 };
 
