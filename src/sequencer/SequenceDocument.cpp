@@ -30,8 +30,6 @@ constexpr int kPressed = 1, kHeld = 4;
 /// How far a recording runs on after the last key, in steps.
 constexpr double kRecordingRoom = 8.0;
 
-constexpr double kRoomBehindLastNote = 32.0;
-
 /// How far above the bottom edge of the view the position stands.
 constexpr double kRoomBelowPosition = 8.0;
 
@@ -245,10 +243,16 @@ void SequenceDocument::doScroll(double step)
         emit scrolled(offset_ - kRoomBelowPosition);
 }
 
+void SequenceDocument::setOffset(double step)
+{
+    offset_ = step;
+    emit changed();
+}
+
 void SequenceDocument::putPosition(double step)
 {
-    offset_ = scrollMax_ = step;
-    emit changed();
+    scrollMax_ = step;
+    setOffset(step);
 }
 
 void SequenceDocument::selectInterval(double start, double end)

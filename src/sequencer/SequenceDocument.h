@@ -15,6 +15,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 
 struct UnsavedSequence;
@@ -69,7 +70,10 @@ public:
     /// Puts the play position; the view follows when no interval is selected.
     void doScroll(double step);
 
-    /// Puts the play position where the user points; a recording runs on from there.
+    /// Puts the play position and leaves the view where it is.
+    void setOffset(double step);
+
+    /// Puts it where the user points: a recording without keys does not run on.
     void putPosition(double step);
 
     /// Go to the chord before or after the position, or put the cursor on the one at it.
@@ -121,8 +125,11 @@ public:
     bool loops() const { return loop_; }
     void setLoop(bool loop);
 
-    /// The sequence, for a gesture that changes its notes.
-    Sequence& edit();
+    SequenceHost& host() const { return host_; }
+
+    /// The sequence, to be changed by a gesture. Those of the notes to be changed that sound are
+    /// silenced: where they go they would not end.
+    Sequence& edit(std::span<const std::uint64_t> notes = {});
 
     /// The document's actions: each one is the inverse of its neighbour. They register nothing.
     void addNotes(const UndoAction& action);
@@ -143,12 +150,12 @@ public:
     static constexpr Edit kSize{&SequenceDocument::sizeNotes, &SequenceDocument::unsizeNotes};
 
     /// The name of an edit in the menu, as in "Move 3 Notes".
-    static QString editText(const QString& verb, std::size_t notes);
+    static QString editText(const char* verb, std::size_t notes);
 
     /// Does an edit that can be undone. `text` names it in the menu.
     void perform(Edit edit, UndoAction action, const QString& text);
 
-    /// Makes an edit that a gesture has already done one that can be undone.
+    /// Makes an edit that a gesture has done already one that can be undone.
     void registerDone(Edit edit, UndoAction action, const QString& text);
 
     /// Also says, by its clean state, whether the document is modified.

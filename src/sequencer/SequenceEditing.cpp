@@ -1,6 +1,7 @@
 // What can be undone in a sequence document.
 
 #include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceFile.h"
 
 #include <algorithm>
 #include <utility>
@@ -36,18 +37,29 @@ private:
 
 } // namespace
 
-Sequence& SequenceDocument::edit()
+Sequence& SequenceDocument::edit(std::span<const std::uint64_t> notes)
 {
+    for (const std::uint64_t id : notes)
+        if (Note* note = sequence_.find(id); note != nullptr && note->playing)
+            silence(*note);
     return sequence_;
 }
 
 void SequenceDocument::apply(void (UndoAction::*change)(Sequence&) const, const UndoAction& action)
 {
-    // A note that sounds where it no longer is would never end.
+    std::vector<std::uint64_t> ids;
+    ids.reserve(action.notes().size());
     for (const Note& note : action.notes())
-        if (Note* stored = sequence_.find(note.id); stored != nullptr && stored->playing)
-            silence(*stored);
-    (action.*change)(edit());
+        ids.push_back(note.id);
+    (action.*change)(edit(ids));
+
+    // What an undone deletion brings back can lie beyond the end.
+    const double before = mx_;
+    for (const std::uint64_t id : ids)
+        if (const Note* note = sequence_.find(id))
+            mx_ = std::max(mx_, note->start + note->length + kRoomBehindLastNote);
+    if (mx_ != before)
+        emit sizeChanged();
     emit changed();
 }
 
@@ -104,7 +116,7 @@ void SequenceDocument::registerTake()
     }
     if (added.empty() && lengthened.empty())
         return;
-    undoStack_.beginMacro(editText(tr("Record"), added.size()));
+    undoStack_.beginMacro(editText("Record", added.size()));
     if (!lengthened.empty())
         registerDone(kSize, UndoAction::withNotes(std::move(lengthened)), {});
     if (!added.empty())
@@ -112,7 +124,7 @@ void SequenceDocument::registerTake()
     undoStack_.endMacro();
 }
 
-QString SequenceDocument::editText(const QString& verb, std::size_t notes)
+QString SequenceDocument::editText(const char* verb, std::size_t notes)
 {
-    return verb + ' ' + (notes == 1 ? tr("1 Note") : tr("%1 Notes").arg(notes));
+    return tr(verb) + ' ' + (notes == 1 ? tr("1 Note") : tr("%1 Notes").arg(notes));
 }

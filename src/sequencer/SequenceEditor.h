@@ -16,17 +16,20 @@ struct RollPoint {
 };
 
 /// What mouse and keyboard do to a sequence document, in the coordinates of the sequence. Command,
-/// in the menus' words, is the control key. Everything that changes notes can be undone.
+/// the modifier, is the control key. Everything that changes notes can be undone.
 class SequenceEditor {
 public:
+    /// The document must outlive it.
     explicit SequenceEditor(SequenceDocument& document) : document_(document) {}
 
-    /// Selects or resizes the note under the mouse, or puts the position and begins an interval.
+    /// Selects a note to be moved, or resized by its last pixels. Beside the notes, puts the
+    /// position and begins an interval; with Shift extends the interval. With Command, draws.
     void mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers);
 
     /// Draws a new note.
     void rightMouseDown(RollPoint point);
 
+    /// These two go on with the gesture of either button.
     void mouseDragged(RollPoint point);
     void mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers);
 
@@ -37,17 +40,28 @@ public:
     void selectAll();
     void deleteSelection();
 
-    /// The selected notes, in order of their start.
+    /// The selected notes in order of their start.
     std::vector<Note> copy() const;
     std::vector<Note> cut();
 
-    /// Adds the notes, the first of them at the play position, and selects them.
+    /// Adds copies of the notes, the first of them at the play position, and selects them.
     void paste(std::vector<Note> notes);
 
 private:
+    void hit(Note& note, double step, Qt::KeyboardModifiers modifiers);
+    void finishLength();
+    void finishMove();
+    void selectUpTo(double end);
+    double snapped(double step) const;
+
+    bool transport(int key, bool command);
+    void isomorph(int number);
+    void setChannel(unsigned char channel, bool ofSelection);
+    std::vector<Note> remove(const char* verb);
+
     SequenceDocument& document_;
-    RollPoint click_{};
-    bool hitNote_ = false;
-    bool isNewNote_ = false;
+    RollPoint click_{};         ///< Where the last press was.
+    bool hitNote_ = false;      ///< It hit a note, or made one.
+    bool isNewNote_ = false;    ///< The drag draws a new note.
     std::uint64_t newNote_ = 0; ///< Being resized or drawn; 0 for none.
 };

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr double kRoomBehindLastNote = 32.0;
 constexpr float kFullVelocity = 127.0F;
 
 /// Of files that are written, at 120 beats a minute.

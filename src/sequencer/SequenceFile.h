@@ -15,6 +15,9 @@ std::string sequenceTypeOf(const std::filesystem::path& path);
 /// The notes of a file in steps: sixteenths of the file's seconds.
 constexpr double kStepsPerSecond = 16.0;
 
+/// How far the extent of a sequence goes beyond the end of its last note, in steps.
+constexpr double kRoomBehindLastNote = 32.0;
+
 /// What a document keeps of a file that was read, besides its notes.
 struct SequenceFile {
     double mx = 0.0;         ///< Extent in steps: the end of the last note and 32 more.

@@ -1,0 +1,65 @@
+#include "sequencer/KeyPosition.h"
+
+#include <array>
+#include <string_view>
+
+namespace {
+
+/// Keys with successive scan codes.
+struct Row {
+    unsigned firstScanCode; ///< Of X11 and Wayland: that of evdev and 8 more.
+    std::string_view plain, shifted;
+};
+
+constexpr std::array<Row, 4> kRows = {{
+    {10, "1234567890", "!@#$%^&*()"},
+    {24, "qwertyuiop[]", "QWERTYUIOP{}"},
+    {38, "asdfghjkl;'`", "ASDFGHJKL:\"~"},
+    {51, "\\zxcvbnm,./", "|ZXCVBNM<>?"},
+}};
+
+/// From -1. No key has the number 32, where the space stands.
+constexpr std::string_view kIsomorph = "`awzsexdrcftvgybhunjimko,lp.;[/'] \\q";
+
+constexpr std::string_view kChannels = "1234567890";
+
+std::optional<int> placeIn(std::string_view characters, char character)
+{
+    const auto place = characters.find(character);
+    return place == std::string_view::npos ? std::nullopt : std::optional(static_cast<int>(place));
+}
+
+/// The place of the key in a row.
+std::optional<int> placeIn(const Row& row, const QKeyEvent& event)
+{
+    if (const unsigned scanCode = event.nativeScanCode(); scanCode != 0)
+        return scanCode >= row.firstScanCode && scanCode - row.firstScanCode < row.plain.size()
+                   ? std::optional(static_cast<int>(scanCode - row.firstScanCode))
+                   : std::nullopt;
+    if (event.key() <= Qt::Key_Space || event.key() > Qt::Key_AsciiTilde)
+        return std::nullopt;
+    const auto typed = static_cast<char>(event.key());
+    const auto plain = placeIn(row.plain, typed);
+    return plain ? plain : placeIn(row.shifted, typed);
+}
+
+} // namespace
+
+char usCharacter(const QKeyEvent& event)
+{
+    for (const Row& row : kRows)
+        if (const auto place = placeIn(row, event))
+            return row.plain[static_cast<std::size_t>(*place)];
+    return 0;
+}
+
+std::optional<int> isomorphNumber(char usCharacter)
+{
+    const auto place = placeIn(kIsomorph, usCharacter);
+    return place ? std::optional(*place - 1) : std::nullopt;
+}
+
+std::optional<int> channelNumber(char usCharacter)
+{
+    return placeIn(kChannels, usCharacter);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "sequencer/Sequence.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+/// The type of notes on a clipboard.
+constexpr auto kNotesMimeType = "application/x-velmora-notes";
+
+/// Notes as bytes, without their identities and flags.
+QByteArray encodeNotes(const std::vector<Note>& notes);
+
+/// The notes of such bytes; none where anything in them is not as `encodeNotes` writes it.
+std::vector<Note> decodeNotes(const QByteArray& bytes);

@@ -1,0 +1,199 @@
+#include "sequencer/SequenceEditor.h"
+
+#include "preferences/Preferences.h"
+#include "sequencer/SequenceDocument.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// The pixels at the end of a note by which it is resized.
+constexpr double kResizePixels = 8.0;
+
+/// A note of less is dragged to nothing, in steps.
+constexpr double kShortestLength = 0.0002;
+
+constexpr double kLastKey = 127.0;
+
+bool isAt(const Note& note, RollPoint point)
+{
+    return note.key == std::trunc(point.key) && note.start <= point.step &&
+           point.step <= note.start + note.length;
+}
+
+bool hasMoved(const Note& note)
+{
+    return note.start != note.oldStart || note.key != note.oldKey;
+}
+
+} // namespace
+
+void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
+{
+    document_.stop();
+    document_.registerTake();
+    click_ = point;
+    hitNote_ = isNewNote_ = false;
+    newNote_ = 0;
+
+    Sequence& sequence = document_.edit();
+    sequence.update();
+    for (std::size_t i = sequence.notes().size(); i-- > 0;) {
+        if (!isAt(sequence.notes()[i], point))
+            continue;
+        hit(sequence.at(i), point.step, modifiers);
+        if (!modifiers.testFlag(Qt::ShiftModifier) || modifiers.testFlag(Qt::ControlModifier))
+            break;
+    }
+    if (modifiers.testFlag(Qt::ControlModifier)) {
+        rightMouseDown(point);
+        return;
+    }
+    emit document_.changed();
+    if (hitNote_)
+        return;
+
+    const double step = snapped(point.step);
+    double start =
+        document_.intervalSelected() ? document_.getSelectionStart() : document_.getOffset();
+    if (!modifiers.testFlag(Qt::ShiftModifier)) {
+        document_.putPosition(step);
+        start = step;
+    }
+    document_.selectInterval(start, step);
+    document_.stop();
+}
+
+void SequenceEditor::hit(Note& note, double step, Qt::KeyboardModifiers modifiers)
+{
+    Sequence& sequence = document_.edit();
+    hitNote_ = true;
+    if (step > note.start + note.length - kResizePixels / getPrefInt("KeyHeight"))
+        newNote_ = note.id;
+    // Recording and undoing leave the old values as they were.
+    note.oldStart = note.start;
+    note.oldKey = note.key;
+    note.oldLength = note.length;
+
+    if (modifiers.testFlag(Qt::ControlModifier)) {
+        if (!note.selected)
+            sequence.select(note);
+    } else if (!modifiers.testFlag(Qt::ShiftModifier)) {
+        sequence.deselect();
+        sequence.select(note);
+    } else if (note.selected) {
+        sequence.deselect(note);
+    } else {
+        sequence.select(note);
+    }
+}
+
+void SequenceEditor::rightMouseDown(RollPoint point)
+{
+    document_.stop();
+    document_.registerTake();
+    click_ = point;
+    hitNote_ = isNewNote_ = true;
+
+    Note note{.start = snapped(point.step),
+              .length = 1.0,
+              .oldLength = 1.0,
+              .velocity = 1.0F,
+              .channel = document_.channel(),
+              .key = static_cast<std::uint32_t>(std::clamp(point.key, 0.0, kLastKey))};
+    note.oldStart = note.start;
+    note.oldKey = note.key;
+    Sequence& sequence = document_.edit();
+    sequence.deselect();
+    Note& stored = sequence.addNote(note);
+    sequence.select(stored);
+    newNote_ = stored.id;
+    emit document_.changed();
+}
+
+void SequenceEditor::mouseDragged(RollPoint point)
+{
+    const bool snap = document_.snapToGrid();
+    if (newNote_ != 0) {
+        Sequence& sequence = document_.edit({&newNote_, 1});
+        if (Note* note = sequence.find(newNote_)) {
+            const double end = snap ? std::ceil(point.step) : point.step;
+            note->length = std::max(end - note->start, 0.0);
+        }
+    } else if (!hitNote_) {
+        document_.selectInterval(document_.getSelectionStart(), snapped(point.step));
+    } else {
+        const double steps =
+            snap ? std::floor(point.step) - std::floor(click_.step) : point.step - click_.step;
+        document_.edit(document_.getSequence().selection())
+            .move(point.key - click_.key, steps, snap);
+    }
+    emit document_.changed();
+}
+
+void SequenceEditor::mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers)
+{
+    if (newNote_ != 0)
+        finishLength();
+    else if (hitNote_)
+        finishMove();
+    else if (modifiers.testFlag(Qt::ShiftModifier))
+        selectUpTo(snapped(point.step));
+
+    document_.edit().sort();
+    document_.measure();
+    const double start = document_.getSelectionStart(), end = document_.getSelectionEnd();
+    document_.selectInterval(std::min(start, end), std::max(start, end));
+    document_.getCurrentNotes(false);
+    emit document_.frame();
+}
+
+void SequenceEditor::finishLength()
+{
+    const std::uint64_t id = std::exchange(newNote_, 0);
+    Sequence& sequence = document_.edit();
+    Note* note = sequence.find(id);
+    if (note == nullptr) // undone in the middle of the drag
+        return;
+    const bool isLong = note->length >= kShortestLength;
+    if (isNewNote_ && isLong) {
+        note->oldLength = note->length;
+        document_.registerDone(SequenceDocument::kAdd, UndoAction::withNotes({*note}),
+                               SequenceDocument::tr("Draw Note"));
+    } else if (isNewNote_) {
+        sequence.deselect(*note);
+        sequence.erase(id);
+    } else if (isLong) {
+        if (note->length != note->oldLength)
+            document_.registerDone(SequenceDocument::kSize, UndoAction::withNotes({*note}),
+                                   SequenceDocument::editText("Resize", 1));
+    } else {
+        note->length = note->oldLength;
+        document_.perform(SequenceDocument::kRemove, UndoAction::withNotes({*note}),
+                          SequenceDocument::editText("Delete", 1));
+    }
+}
+
+void SequenceEditor::finishMove()
+{
+    const std::vector<Note> notes = copy();
+    if (std::any_of(notes.begin(), notes.end(), hasMoved))
+        document_.registerDone(SequenceDocument::kMove, UndoAction::withNotes(notes),
+                               SequenceDocument::editText("Move", notes.size()));
+    document_.edit().update();
+}
+
+void SequenceEditor::selectUpTo(double end)
+{
+    document_.selectInterval(document_.getSelectionStart(), end);
+    Sequence& sequence = document_.edit();
+    for (std::size_t i = sequence.notes().size(); i-- > 0;)
+        if (Note& note = sequence.at(i); document_.getOffset() <= note.start && note.start <= end)
+            sequence.select(note);
+}
+
+double SequenceEditor::snapped(double step) const
+{
+    return document_.snapToGrid() ? std::floor(step) : step;
+}

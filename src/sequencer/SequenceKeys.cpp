@@ -1,0 +1,197 @@
+// The editor's keys, and the commands of the Edit menu.
+
+#include "preferences/Preferences.h"
+#include "sequencer/KeyPosition.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
+#include "sound/Instrument.h"
+#include "tuning/Temperament.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+/// What Shift adds to the number of a channel and of an isomorphic key.
+constexpr int kShiftedChannel = 10, kShiftedOctave = 36;
+
+/// The key of the lowest isomorphic number.
+constexpr int kLowestIsomorph = 48;
+
+bool isModifier(int key)
+{
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr ||
+           (key >= Qt::Key_Super_L && key <= Qt::Key_Hyper_R);
+}
+
+} // namespace
+
+void SequenceEditor::keyDown(const QKeyEvent& event)
+{
+    if (event.isAutoRepeat() || isModifier(event.key()))
+        return;
+    const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
+    const bool command = event.modifiers().testFlag(Qt::ControlModifier);
+    const char character = usCharacter(event);
+    if (const auto number = isomorphNumber(character))
+        isomorph(*number + (shift ? kShiftedOctave : 0));
+    else if (const auto channel = channelNumber(character))
+        setChannel(static_cast<unsigned char>(*channel + (shift ? kShiftedChannel : 0)), command);
+    else if (!transport(event.key(), command))
+        std::printf("case %d:\n", event.nativeScanCode() != 0
+                                      ? static_cast<int>(event.nativeScanCode())
+                                      : event.key());
+    emit document_.changed();
+    emit document_.frame();
+}
+
+bool SequenceEditor::transport(int key, bool command)
+{
+    switch (key) {
+    case Qt::Key_Return:
+        document_.record();
+        return true;
+    case Qt::Key_Space:
+        document_.play();
+        return true;
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete:
+        deleteSelection();
+        return true;
+    case Qt::Key_Escape:
+        document_.edit().deselect();
+        return true;
+    case Qt::Key_Down:
+        document_.stop();
+        if (command)
+            document_.setOffset(0.0);
+        else
+            document_.prevNote();
+        document_.getCurrentNotes(true);
+        return true;
+    case Qt::Key_Up:
+        document_.stop();
+        if (command) // beyond the end: as many steps as the roll has pixels
+            document_.setOffset(getPrefInt("KeyHeight") * document_.extent());
+        else
+            document_.nextNote();
+        document_.getCurrentNotes(true);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void SequenceEditor::keyUp(const QKeyEvent& event)
+{
+    const auto number = isomorphNumber(usCharacter(event));
+    if (!number || event.isAutoRepeat())
+        return;
+    const int fromLowest =
+        *number + 1 + (event.modifiers().testFlag(Qt::ShiftModifier) ? kShiftedOctave : 0);
+    SequenceHost& host = document_.host();
+    {
+        const std::lock_guard lock(host.soundLock());
+        if (Instrument* instrument = host.getInstrument())
+            instrument->stop(kLowestIsomorph + fromLowest / 3);
+    }
+    emit document_.frame();
+}
+
+void SequenceEditor::isomorph(int number)
+{
+    SequenceHost& host = document_.host();
+    const std::lock_guard lock(host.soundLock());
+    if (Instrument* instrument = host.getInstrument())
+        host.getTemperament()->isomorph(*instrument, number);
+}
+
+void SequenceEditor::setChannel(unsigned char channel, bool ofSelection)
+{
+    document_.setChannel(channel);
+    if (!ofSelection) {
+        document_.edit().select(channel);
+        return;
+    }
+    std::vector<Note> notes = copy();
+    std::erase_if(notes, [=](const Note& note) { return note.channel == channel; });
+    if (notes.empty())
+        return;
+    document_.registerTake();
+    document_.edit().channel(channel);
+    // The notes of one channel go, those of the other come.
+    std::vector<Note> changed = notes;
+    for (Note& note : changed)
+        note.channel = channel;
+    QUndoStack& undo = document_.undoStack();
+    undo.beginMacro(SequenceDocument::editText("Set Channel of", notes.size()));
+    document_.registerDone(SequenceDocument::kRemove, UndoAction::withNotes(std::move(notes)), {});
+    document_.registerDone(SequenceDocument::kAdd, UndoAction::withNotes(std::move(changed)), {});
+    undo.endMacro();
+}
+
+void SequenceEditor::selectAll()
+{
+    document_.edit().select();
+    emit document_.changed();
+}
+
+std::vector<Note> SequenceEditor::copy() const
+{
+    std::vector<Note> notes = document_.getSequence().getSelection();
+    // A note can be selected twice.
+    const auto before = [](const Note& a, const Note& b) {
+        return std::pair(a.start, a.id) < std::pair(b.start, b.id);
+    };
+    const auto same = [](const Note& a, const Note& b) { return a.id == b.id; };
+    std::sort(notes.begin(), notes.end(), before);
+    notes.erase(std::unique(notes.begin(), notes.end(), same), notes.end());
+    return notes;
+}
+
+void SequenceEditor::deleteSelection()
+{
+    remove("Delete");
+}
+
+std::vector<Note> SequenceEditor::cut()
+{
+    return remove("Cut");
+}
+
+std::vector<Note> SequenceEditor::remove(const char* verb)
+{
+    std::vector<Note> notes = copy();
+    if (!notes.empty())
+        document_.perform(SequenceDocument::kRemove, UndoAction::withNotes(notes),
+                          SequenceDocument::editText(verb, notes.size()));
+    return notes;
+}
+
+void SequenceEditor::paste(std::vector<Note> notes)
+{
+    if (notes.empty())
+        return;
+    document_.registerTake();
+    const auto startsBefore = [](const Note& a, const Note& b) { return a.start < b.start; };
+    const double first = std::min_element(notes.begin(), notes.end(), startsBefore)->start;
+    const double begin = snapped(document_.getOffset());
+    Sequence& sequence = document_.edit();
+    sequence.deselect();
+    for (Note& note : notes) {
+        note.id = 0;
+        note.start = note.oldStart = begin + (note.start - first);
+        note.oldLength = note.length;
+        note.oldKey = note.key;
+        note.active = note.playing = note.selected = false;
+        sequence.select(sequence.addNote(note));
+    }
+    sequence.sort();
+    document_.measure();
+    document_.registerDone(SequenceDocument::kAdd, UndoAction::withNotes(copy()),
+                           SequenceDocument::editText("Paste", notes.size()));
+    document_.getCurrentNotes(false);
+    emit document_.changed();
+    emit document_.frame();
+}
