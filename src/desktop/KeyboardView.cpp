@@ -167,9 +167,11 @@ void KeyboardView::drawNames(const Picture& picture)
     font.setPixelSize(letter);
     painter.setFont(font);
     const int below = letter / 2;
-    painter.translate(origin(picture.geometry), 0);
+    const int left = origin(picture.geometry);
+    painter.translate(left, 0);
     for (const KeyQuad& quad : picture.geometry.keys(static_cast<float>(height()))) {
-        if (quad.key % 12 != 0)
+        const bool isCut = static_cast<float>(left) + quad.right > static_cast<float>(width());
+        if (quad.key % 12 != 0 || isCut)
             continue;
         const Color* color = picture.color(picture.states[static_cast<std::size_t>(quad.key)]);
         const bool isDark = color != nullptr && qGray(color->toQColor().rgb()) < 96;

@@ -9,6 +9,7 @@
 
 #include <QActionGroup>
 #include <QCheckBox>
+#include <QEvent>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -227,8 +228,10 @@ void PreferencesWindow::read() const
         reader();
 }
 
-void PreferencesWindow::showEvent(QShowEvent* event)
+bool PreferencesWindow::event(QEvent* event)
 {
-    read();
-    QMainWindow::showEvent(event);
+    // Some can also be changed elsewhere.
+    if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate)
+        read();
+    return QMainWindow::event(event);
 }

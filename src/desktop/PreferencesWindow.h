@@ -25,7 +25,7 @@ signals:
     void bankChanged();
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     QWidget* makeGeneralPane();
