@@ -16,13 +16,15 @@
 namespace {
 
 /// Leads what Qt has to say to the log. What it cannot go on after ends the program with a sentence
-/// instead of a core dump: as a rule, that there is no display.
+/// instead of a core dump: that there is no display, of which it has warned then.
 void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
 {
     const std::string message = text.toStdString();
     switch (type) {
     case QtFatalMsg:
-        std::fprintf(stderr, "velmora: %s\n", message.c_str());
+        logger("desktop").debug("{}", message);
+        std::fputs("velmora: the windows cannot be shown; --help tells what works without\n",
+                   stderr);
         std::_Exit(1);
     case QtWarningMsg:
     case QtCriticalMsg:

@@ -1,4 +1,5 @@
-// Runs the tests of views and windows, on a display and with preferences of their own.
+// Runs the tests of views and windows, on a display, with preferences of their own and
+// a sound output that nobody hears.
 
 #include "desktop/graphics.h"
 
@@ -12,6 +13,7 @@ int main(int argc, char** argv)
     const QTemporaryDir home;
     for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
         qputenv(variable, home.path().toUtf8());
+    qputenv("ALSOFT_DRIVERS", "null");
     chooseGraphics();
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
