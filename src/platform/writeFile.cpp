@@ -2,20 +2,44 @@
 
 #include <QSaveFile>
 
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
 #include <stdexcept>
+#include <system_error>
+
+namespace {
+
+/// Empty where it was written.
+std::string reasonForFailure(const std::filesystem::path& path, std::string_view bytes)
+{
+    std::error_code error;
+    if (!std::filesystem::is_directory(path.parent_path(), error))
+        return "there is no such folder";
+    QSaveFile file(QString::fromStdString(path.string()));
+    if (!file.open(QIODevice::WriteOnly))
+        return file.errorString().toStdString();
+    // Through the descriptor: Qt loses the reason when only a part can be written, as on a full
+    // disk, and may then commit that part.
+    while (!bytes.empty()) {
+        const ssize_t written = write(file.handle(), bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR)
+            return std::generic_category().message(errno);
+        bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
+    }
+    if (fsync(file.handle()) != 0)
+        return std::generic_category().message(errno);
+    return file.commit() ? "" : file.errorString().toStdString();
+}
+
+} // namespace
 
 void writeFile(const std::filesystem::path& path, std::string_view bytes)
 {
-    QSaveFile file(QString::fromStdString(path.string()));
-    const auto size = static_cast<qint64>(bytes.size());
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.commit())
-        return;
-
-    const std::filesystem::path folder = std::filesystem::absolute(path).parent_path();
-    std::error_code error;
-    const std::string reason = std::filesystem::is_directory(folder, error)
-                                   ? file.errorString().toStdString()
-                                   : "there is no such folder";
-    throw std::runtime_error(path.filename().string() + " cannot be written in " + folder.string() +
-                             ": " + reason);
+    const std::filesystem::path whole = std::filesystem::absolute(path);
+    const std::string reason = reasonForFailure(whole, bytes);
+    if (!reason.empty())
+        throw std::runtime_error(whole.filename().string() + " cannot be written in " +
+                                 whole.parent_path().string() + ": " + reason);
 }

@@ -2,12 +2,9 @@
 
 #include "base/FormatError.h"
 
-#include <gtest/gtest.h>
-#include <unistd.h>
+#include "support/ChildProcess.h"
 
-#include <csignal>
 #include <fstream>
-#include <sys/wait.h>
 
 namespace {
 
@@ -41,34 +38,6 @@ std::filesystem::path emptyFolder()
     std::filesystem::remove_all(folder);
     return folder;
 }
-
-/// Has another program write to the folder, and kills it when asked to.
-class OtherProgram {
-public:
-    explicit OtherProgram(const std::filesystem::path& folder)
-    {
-        std::array<int, 2> ends{};
-        EXPECT_EQ(pipe(ends.data()), 0);
-        child_ = fork();
-        if (child_ == 0) {
-            RecoveryFile file(folder);
-            file.write(unsaved());
-            [[maybe_unused]] const auto told = ::write(ends[1], "x", 1);
-            pause();
-        }
-        char byte = 0;
-        EXPECT_EQ(::read(ends[0], &byte, 1), 1);
-    }
-
-    void kill() const
-    {
-        ::kill(child_, SIGKILL);
-        waitpid(child_, nullptr, 0);
-    }
-
-private:
-    pid_t child_;
-};
 
 } // namespace
 
@@ -110,7 +79,12 @@ TEST(UnsavedSequence, IsReadWithinItsBounds)
 TEST(RecoveryFile, IsOfferedOnceItsProgramIsGone)
 {
     const auto folder = emptyFolder();
-    const OtherProgram other(folder);
+    ChildProcess other([&](const auto& ready) {
+        RecoveryFile file(folder);
+        file.write(unsaved());
+        ready();
+        pause();
+    });
     std::ofstream(folder / "garbled.unsaved") << "garbled";
     RecoveryFile own(folder);
     own.write(unsaved());

@@ -1,0 +1,180 @@
+#include "base/File.h"
+#include "platform/MidiBytes.h"
+#include "sequencer/RecoveryKeeper.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceFile.h"
+#include "support/ChildProcess.h"
+
+#include <QCoreApplication>
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+
+#include <fstream>
+#include <random>
+#include <thread>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kSave = SequenceDocument::SaveOperation::Save;
+constexpr auto kSaveAs = SequenceDocument::SaveOperation::SaveAs;
+
+class SequenceSaving : public testing::Test, public SequenceHost {
+protected:
+    SequenceSaving() { std::filesystem::create_directories(folder_); }
+    ~SequenceSaving() override { std::filesystem::remove_all(folder_); }
+
+    Instrument* getInstrument() override { return nullptr; }
+    Temperament* getTemperament() override { return nullptr; }
+    std::mutex& soundLock() override { return lock_; }
+
+    void draw(std::size_t notes)
+    {
+        std::vector<Note> drawn;
+        for (std::size_t i = 0; i < notes; ++i)
+            drawn.push_back(document_.edit().addNote(
+                {.start = static_cast<double>(i), .length = 1.0, .velocity = 1.0F, .key = 60}));
+        document_.registerDone(SequenceDocument::kAdd, UndoAction::withNotes(drawn), "Draw");
+    }
+
+    bool save() { return document_.saveToURL(path_, kMidiFileType, kSave); }
+
+    std::size_t savedNotes() const
+    {
+        Sequence sequence;
+        readSequence(readStandardMidiFile(readFile(path_)), 0, 127, sequence);
+        return sequence.notes().size();
+    }
+
+    std::size_t filesKept() const
+    {
+        std::error_code none;
+        const std::filesystem::directory_iterator files(folder_ / "recovery", none);
+        return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+    }
+
+    std::mutex lock_;
+    const std::filesystem::path folder_ =
+        std::filesystem::path(testing::TempDir()) / ("saving" + std::to_string(getpid()));
+    const std::filesystem::path path_ = folder_ / "a.mid";
+    SequenceDocument document_{*this};
+};
+
+} // namespace
+
+TEST_F(SequenceSaving, RefusesToReplaceAFileThatHoldsMore)
+{
+    const std::string bytes = midi::header(1, 2, 128) + midi::track("") +
+                              midi::track(midi::on(0, 60) + midi::off(64, 60));
+    std::ofstream(path_, std::ios::binary) << bytes;
+    document_.readFromURL(path_);
+    EXPECT_FALSE(save());
+    EXPECT_EQ(document_.errorString(),
+              "The source file contains unprocessed MIDI information which cannot be overwriten "
+              "(multichannel, meta events,…). Use the 'Save As…' option instead.");
+    EXPECT_EQ(readTextFile(path_), bytes);
+    EXPECT_FALSE(document_.saveToURL(path_, "Scale", kSaveAs));
+    EXPECT_EQ(document_.errorString(), "");
+
+    const auto other = folder_ / "b.imy";
+    EXPECT_TRUE(document_.saveToURL(other, kIMelodyType, kSaveAs));
+    EXPECT_EQ(document_.path(), other);
+    EXPECT_THAT(readTextFile(other), testing::HasSubstr("MELODY:*3c3\r\n"));
+    EXPECT_TRUE(save()) << "now it holds no more";
+    EXPECT_EQ(document_.path(), other);
+}
+
+TEST_F(SequenceSaving, MarksWhatIsSaved)
+{
+    draw(1);
+    EXPECT_TRUE(document_.isModified());
+    EXPECT_TRUE(save());
+    EXPECT_FALSE(document_.isModified());
+    document_.undoStack().undo();
+    EXPECT_TRUE(document_.isModified());
+    document_.undoStack().redo();
+    EXPECT_FALSE(document_.isModified());
+}
+
+TEST_F(SequenceSaving, LeavesTheFileWhereItCannotBeWritten)
+{
+    draw(1);
+    EXPECT_TRUE(save());
+    draw(1000);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit small{100, limit.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_FALSE(save());
+    setrlimit(RLIMIT_FSIZE, &limit);
+    EXPECT_EQ(document_.errorString(),
+              "a.mid cannot be written in " + folder_.string() + ": File too large");
+    EXPECT_EQ(savedNotes(), 1U);
+    EXPECT_TRUE(document_.isModified());
+
+    EXPECT_FALSE(document_.saveToURL(folder_ / "gone" / "a.mid", kMidiFileType, kSaveAs));
+    EXPECT_EQ(document_.errorString(), "a.mid cannot be written in " + (folder_ / "gone").string() +
+                                           ": there is no such folder");
+    EXPECT_EQ(document_.path(), "");
+}
+
+TEST_F(SequenceSaving, IsTheOldOrTheNewFileWhenTheProgramIsKilled)
+{
+    draw(2000);
+    draw(1000);
+    std::mt19937 random(std::random_device{}());
+    std::map<std::size_t, int> seen;
+    for (int i = 0; i < 20; ++i) {
+        ChildProcess child([&](const auto& ready) {
+            for (int round = 0;; ++round) {
+                document_.undoStack().setIndex(1 + round % 2);
+                if (!save())
+                    return;
+                if (round == 0)
+                    ready();
+            }
+        });
+        std::this_thread::sleep_for(std::chrono::microseconds(random() % 20'000));
+        child.kill();
+        ++seen[savedNotes()];
+    }
+    EXPECT_EQ(seen[2000] + seen[3000], 20);
+}
+
+TEST_F(SequenceSaving, KeepsWhatIsNotSavedUntilItIsSavedOrClosed)
+{
+    const auto keep = [&] {
+        return std::make_unique<RecoveryKeeper>(document_, RecoveryFile(folder_ / "recovery"), 1ms);
+    };
+    const auto waitFor = [&](std::size_t files) {
+        for (int i = 0; i < 5000 && filesKept() != files; ++i) {
+            QCoreApplication::processEvents();
+            std::this_thread::sleep_for(1ms);
+        }
+        return filesKept() == files;
+    };
+    ChildProcess crash([&](const auto& ready) {
+        const auto keeper = keep();
+        draw(3);
+        if (waitFor(2)) // and its lock
+            ready();
+        pause();
+    });
+    crash.kill();
+    auto left = RecoveryFile::abandoned(folder_ / "recovery");
+    ASSERT_EQ(left.size(), 1U);
+    document_.recover(left[0].sequence);
+    EXPECT_EQ(document_.getSequence().notes().size(), 3U);
+    EXPECT_EQ(document_.extent(), 35.0);
+    EXPECT_TRUE(document_.isModified());
+
+    auto keeper = std::make_unique<RecoveryKeeper>(document_, std::move(left[0].file), 1ms);
+    EXPECT_TRUE(save());
+    EXPECT_TRUE(waitFor(0)) << "saved";
+    draw(1);
+    EXPECT_TRUE(waitFor(2));
+    keeper.reset();
+    EXPECT_TRUE(waitFor(0)) << "closed";
+}
