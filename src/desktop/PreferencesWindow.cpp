@@ -131,9 +131,11 @@ QLayout* PreferencesWindow::makeBankRow()
     path->setAccessibleName(tr("General MIDI bank"));
     path->setMinimumWidth(kPathWidth);
     auto* choose = new QPushButton(tr("&Choose…"));
+    choose->setObjectName("ChooseBank");
     choose->setToolTip(tr("Choose the SoundFont that the General MIDI instrument plays"));
     connect(choose, &QPushButton::clicked, this, &PreferencesWindow::chooseBank);
     auto* standard = new QPushButton(tr("Use &Default"));
+    standard->setObjectName("DefaultBank");
     standard->setToolTip(tr("Play the General MIDI bank of the system again"));
     connect(standard, &QPushButton::clicked, this, [this] { setBank({}); });
     readers_.emplace_back([path, standard] {

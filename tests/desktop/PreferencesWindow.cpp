@@ -5,7 +5,9 @@
 
 #include <QAbstractButton>
 #include <QColorDialog>
+#include <QFileDialog>
 #include <QSpinBox>
+#include <QTemporaryFile>
 #include <QtTest>
 #include <gmock/gmock.h>
 
@@ -22,7 +24,8 @@ protected:
 
     ~PreferencesWindowTest() override
     {
-        for (const char* key : {"KeyWidth", "KeyRangeLo", "KeyRangeHi", "KeyColor", "KeyNames"})
+        for (const char* key :
+             {"KeyWidth", "KeyRangeLo", "KeyRangeHi", "KeyColor", "KeyNames", "GMBank"})
             resetPref(key);
     }
 
@@ -34,6 +37,11 @@ protected:
         box->selectAll();
         QTest::keyClicks(box, text);
         box->clearFocus();
+    }
+
+    void click(const char* button)
+    {
+        QTest::mouseClick(window.findChild<QAbstractButton*>(button), Qt::LeftButton);
     }
 
     PreferencesWindow window;
@@ -78,7 +86,22 @@ TEST_F(PreferencesWindowTest, StoresColorsAndChoicesAtOnce)
     dialog->accept();
     EXPECT_EQ(changed.size(), 2);
     EXPECT_EQ(Color("KeyColor").toQColor(), QColor(Qt::blue));
-    QTest::mouseClick(window.findChild<QAbstractButton*>("ResetColors"), Qt::LeftButton);
+    click("ResetColors");
     EXPECT_EQ(changed.size(), 3);
     EXPECT_EQ(Color("KeyColor").toQColor(), QColor(Qt::green));
+}
+
+TEST_F(PreferencesWindowTest, ChoosesTheBank)
+{
+    QTemporaryFile bank;
+    ASSERT_TRUE(bank.open());
+    QSignalSpy bankChanged(&window, &PreferencesWindow::bankChanged);
+    click("ChooseBank");
+    auto* dialog = window.findChild<QFileDialog*>();
+    dialog->selectFile(bank.fileName());
+    static_cast<QDialog*>(dialog)->accept();
+    EXPECT_EQ(getPrefString("GMBank"), bank.fileName().toStdString());
+    click("DefaultBank");
+    EXPECT_EQ(getPrefString("GMBank"), "");
+    EXPECT_EQ(bankChanged.size(), 2);
 }
