@@ -1,6 +1,5 @@
 #include "desktop/GuideWindow.h"
 
-#include "desktop/icons.h"
 #include "desktop/windowPlace.h"
 
 #include <QCoreApplication>
@@ -15,7 +14,6 @@ constexpr double kMargin = 18.0;
 GuideWindow::GuideWindow()
 {
     setWindowTitle(QCoreApplication::translate("GuideWindow", "Velmora User Guide"));
-    setWindowIcon(icon("help"));
     setOpenExternalLinks(true);
     setSearchPaths({":/guide"});
     setSource(QUrl("qrc:/guide/guide.md"), QTextDocument::MarkdownResource);

@@ -3,7 +3,6 @@
 #include "app/AppDelegate.h"
 #include "app/programNames.h"
 #include "app/sizeString.h"
-#include "desktop/icons.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -44,7 +43,6 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
       usage_(new QLabel), tunings_(new QComboBox), stops_(new QScrollArea)
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setWindowIcon(icon("instrument"));
 
     for (const char* name : kMIDIInstrumentNames)
         programs_->addItem(name);
@@ -84,6 +82,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     row->setSpacing(0);
     row->addWidget(choices);
     row->addWidget(stops_);
+    setFixedHeight(sizeHint().height());
 
     connect(&application_, &AppDelegate::tuningsChanged, this, &InstrumentPanel::showTunings);
     connect(&application_, &AppDelegate::tuningChanged, this, &InstrumentPanel::showTunings);

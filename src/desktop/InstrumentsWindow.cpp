@@ -20,7 +20,6 @@ InstrumentsWindow::InstrumentsWindow(AppDelegate& application, QWidget* parent)
       reportButton_(new QPushButton(tr("Import &Report…")))
 {
     setWindowTitle(tr("Instruments"));
-    setWindowIcon(icon("instrument"));
 
     table_->setModel(model_);
     table_->setRootIsDecorated(false);

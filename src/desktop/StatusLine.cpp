@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int kMillisecondsBetweenLooks = 500;
+constexpr int kMargin = 6;
 
 QString describe(const AudioOutput& output)
 {
@@ -38,6 +39,7 @@ StatusLine::StatusLine(AppDelegate& application)
     output_->setToolTip(tr("The sound output: its rate and the time between two of its periods"));
     for (QLabel* label : {instrument_, tuning_, output_, inputs_}) {
         label->setTextFormat(Qt::PlainText);
+        label->setContentsMargins(kMargin, 0, kMargin, 0);
         addPermanentWidget(label);
     }
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);

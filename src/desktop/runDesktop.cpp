@@ -47,6 +47,7 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files)
     QApplication::setApplicationDisplayName("Velmora");
     QApplication::setApplicationVersion(VELMORA_VERSION);
     QApplication::setDesktopFileName("velmora");
+    QApplication::setWindowIcon(QIcon(":/velmora.svg"));
     QApplication::setQuitOnLastWindowClosed(false);
 
     QStringList paths;

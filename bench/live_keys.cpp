@@ -1,0 +1,85 @@
+// How long a received key takes until the instrument has it, while the keyboard repaints: real MIDI
+// through a JACK server with the dummy driver. Needs a display.
+
+#include "app/midiRead.h"
+#include "desktop/Desktop.h"
+#include "desktop/KeyboardView.h"
+#include "desktop/graphics.h"
+#include "platform/Synthesizer.h"
+#include "support/JackServer.h"
+#include "support/MidiSource.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <spdlog/fmt/fmt.h>
+
+#include <algorithm>
+#include <chrono>
+
+namespace {
+
+constexpr std::size_t kMessages = 4000;
+constexpr int kMillisecondsBetweenMessages = 5;
+constexpr int kMillisecondsBetweenFrames = 16;
+constexpr double kMicroseconds = 1e6;
+
+double now()
+{
+    const auto time = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(time).count();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const JackServer server;
+    MidiSource piano("piano", {"keys"});
+    chooseGraphics();
+    const QApplication application(argc, argv);
+    Desktop desktop;
+    AppDelegate& live = desktop.application();
+    live.makeBuiltinTunings();
+    auto output = AudioOutput::open();
+    auto synthesizer = std::make_unique<Synthesizer>(output->rate(), generalMidiBanks());
+    output->play(synthesizer.get());
+    live.makeMIDIPlayer(std::move(synthesizer));
+    live.selectTuning("Dynamic");
+
+    std::vector<double> times;
+    times.reserve(kMessages);
+    const MidiInputs inputs([&](MidiPacket packet) {
+        const double received = now();
+        midiRead({&packet, 1}, live);
+        times.push_back((now() - received) * kMicroseconds);
+    });
+
+    std::size_t frames = 0;
+    QTimer repainting, sending;
+    repainting.setTimerType(Qt::PreciseTimer);
+    KeyboardView& keyboard = desktop.keyboardWindow().keyboard();
+    QObject::connect(&keyboard, &QOpenGLWidget::frameSwapped, [&] { ++frames; });
+    QObject::connect(&repainting, &QTimer::timeout, &keyboard, qOverload<>(&QWidget::update));
+    std::size_t sent = 0;
+    QObject::connect(&sending, &QTimer::timeout, [&] {
+        const auto key = static_cast<std::uint8_t>(36 + sent / 2 % 48);
+        piano.send(0, {static_cast<std::uint8_t>(sent % 2 == 0 ? 0x90 : 0x80), key, 100});
+        if (++sent == kMessages)
+            QApplication::exit();
+    });
+    repainting.start(kMillisecondsBetweenFrames);
+    sending.start(kMillisecondsBetweenMessages);
+    const double started = now();
+    QApplication::exec();
+
+    std::sort(times.begin(), times.end());
+    const auto at = [&](double part) {
+        return times[static_cast<std::size_t>(part * static_cast<double>(times.size() - 1))];
+    };
+    fmt::print("{} messages, {:.1f} frames in a second\n", times.size(),
+               static_cast<double>(frames) / (now() - started));
+    fmt::print("microseconds from the bytes to the end of `play`: median {:.1f}, p99 {:.1f}, "
+               "longest {:.1f}\n",
+               at(0.5), at(0.99), at(1.0));
+    output->play(nullptr);
+}
