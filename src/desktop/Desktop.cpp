@@ -1,11 +1,13 @@
 #include "desktop/Desktop.h"
 
 #include "desktop/KeyboardView.h"
+#include "desktop/SequenceWindow.h"
 #include "desktop/StatusLine.h"
 #include "desktop/aboutBox.h"
 #include "desktop/windowPlace.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyboardDocument.h"
+#include "sequencer/SequenceFile.h"
 
 #include <QApplication>
 #include <QDir>
@@ -33,10 +35,12 @@ void present(QWidget& window)
 
 Desktop::Desktop()
     : commands_(application_), keyboardWindow_(application_, commands_),
-      instrumentPanel_(application_), instrumentsWindow_(application_)
+      instrumentPanel_(application_), instrumentsWindow_(application_),
+      sequenceWindows_(application_, commands_, keyboardWindow_.keyboard())
 {
     connectCommands();
     connectProgress();
+    connectSequences();
     for (QWidget* window : std::initializer_list<QWidget*>{
              &keyboardWindow_, &instrumentPanel_, &instrumentsWindow_, &preferencesWindow_}) {
         fileDrop_.watch(*window);
@@ -67,6 +71,7 @@ void Desktop::launch()
 {
     application_.applicationDidFinishLaunching();
     keyboardWindow_.status().showDevices();
+    sequenceWindows_.offerAbandoned();
 }
 
 void Desktop::connectCommands()
@@ -80,7 +85,10 @@ void Desktop::connectCommands()
     presents(commands_.preferences, preferencesWindow_);
     connect(commands_.open, &QAction::triggered, this, &Desktop::askForFiles);
     // Not through the windows' closing: what stands open is to stand open again.
-    connect(commands_.quit, &QAction::triggered, qApp, [] { QApplication::exit(); });
+    connect(commands_.quit, &QAction::triggered, this, [this] {
+        if (sequenceWindows_.closeAll())
+            QApplication::exit();
+    });
     connect(&commands_, &Commands::openRecent, this, [this](const QString& path) { open({path}); });
     connect(&commands_, &Commands::selectInstrument, this, &Desktop::selectInstrument);
     connect(&commands_, &Commands::guideWanted, this, [this] { present(guideWindow_); });
@@ -106,6 +114,19 @@ void Desktop::connectProgress()
             &AppDelegate::cancelImport);
 }
 
+void Desktop::connectSequences()
+{
+    connect(commands_.newSequence, &QAction::triggered, &sequenceWindows_,
+            &SequenceWindows::create);
+    connect(&sequenceWindows_, &SequenceWindows::opened, this, [this](SequenceWindow& window) {
+        fileDrop_.watch(window);
+        window.addAction(commands_.silence);
+    });
+    connect(&sequenceWindows_, &SequenceWindows::zoomed, this, &Desktop::updateAllViews);
+    connect(&keyboardWindow_, &KeyboardWindow::keyEvent, &sequenceWindows_,
+            [this](const QKeyEvent* event) { sequenceWindows_.handleKey(*event); });
+}
+
 void Desktop::open(const QStringList& paths)
 {
     if (paths.isEmpty())
@@ -128,6 +149,8 @@ void Desktop::openFile(const QString& path)
         openTuning(path, tuning);
     else if (!instrument.empty())
         openInstrument(path, instrument);
+    else if (!sequenceTypeOf(file).empty())
+        openSequence(path);
     else
         complain(tr("%1: is no kind of file that Velmora knows by its name")
                      .arg(QFileInfo(path).fileName()));
@@ -175,6 +198,15 @@ void Desktop::openInstrument(const QString& path, const std::string& type)
                 .arg(skipped));
 }
 
+void Desktop::openSequence(const QString& path)
+{
+    const std::string error = sequenceWindows_.open(path);
+    if (error.empty())
+        commands_.addRecent(path);
+    else
+        complain(QString::fromStdString(error));
+}
+
 void Desktop::selectInstrument(std::size_t position)
 {
     const bool isSelected = application_.selectInstrument(position);
@@ -208,6 +240,7 @@ void Desktop::updateAllViews()
 {
     keyboardWindow_.keyboard().updateWindowSize();
     keyboardWindow_.keyboard().update();
+    sequenceWindows_.updateDocumentSizes();
     commands_.noteNames->setChecked(getPrefBool("KeyNames"));
 }
 

@@ -9,6 +9,7 @@
 #include "desktop/KeyboardWindow.h"
 #include "desktop/PreferencesWindow.h"
 #include "desktop/ProgressWindow.h"
+#include "desktop/SequenceWindows.h"
 
 #include <QObject>
 #include <QStringList>
@@ -36,13 +37,16 @@ public:
     InstrumentPanel& instrumentPanel() { return instrumentPanel_; }
     InstrumentsWindow& instrumentsWindow() { return instrumentsWindow_; }
     PreferencesWindow& preferencesWindow() { return preferencesWindow_; }
+    SequenceWindows& sequenceWindows() { return sequenceWindows_; }
 
 private:
     void connectCommands();
     void connectProgress();
+    void connectSequences();
     void openFile(const QString& path);
     void openTuning(const QString& path, const std::string& type);
     void openInstrument(const QString& path, const std::string& type);
+    void openSequence(const QString& path);
     void selectInstrument(std::size_t position);
     void askForFiles();
     void updateAllViews();
@@ -58,6 +62,7 @@ private:
     PreferencesWindow preferencesWindow_;
     ProgressWindow progressWindow_;
     GuideWindow guideWindow_;
+    SequenceWindows sequenceWindows_;
     QStringList waiting_; ///< Files that came while others were being opened.
     bool isOpening_ = false;
 };

@@ -8,13 +8,6 @@ namespace {
 /// Black keys end at this part of the height; below, there are only white ones.
 constexpr double kBlackEnd = 0.4;
 
-bool isBlackKey(int key)
-{
-    const int pitchClass = key % 12;
-    return pitchClass == 1 || pitchClass == 3 || pitchClass == 6 || pitchClass == 8 ||
-           pitchClass == 10;
-}
-
 /// From the left end of the white key after a black one to the left end of the black one.
 float blackOffset(int key, float semitone, float white)
 {
@@ -30,6 +23,13 @@ float blackOffset(int key, float semitone, float white)
 }
 
 } // namespace
+
+bool isBlackKey(int key)
+{
+    const int pitchClass = key % 12;
+    return pitchClass == 1 || pitchClass == 3 || pitchClass == 6 || pitchClass == 8 ||
+           pitchClass == 10;
+}
 
 KeyQuad KeyQuad::inner() const
 {

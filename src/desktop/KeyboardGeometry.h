@@ -2,6 +2,9 @@
 
 #include <vector>
 
+/// Whether a MIDI key is a black one.
+bool isBlackKey(int key);
+
 /// Where one key of the keyboard is drawn, in pixels from its lower left corner.
 struct KeyQuad {
     int key;

@@ -44,7 +44,7 @@ bool SequenceDocument::saveToURL(const std::filesystem::path& path, const std::s
 void SequenceDocument::recover(const UnsavedSequence& unsaved)
 {
     stop();
-    edit() = {};
+    sequence_ = {};
     sequence_.reserve(unsaved.notes.size());
     for (const Note& note : unsaved.notes)
         sequence_.addNote(note);

@@ -41,8 +41,7 @@ Sequence& SequenceDocument::edit(std::span<const std::uint64_t> notes)
 {
     for (const std::uint64_t id : notes)
         if (Note* note = sequence_.find(id); note != nullptr && note->playing)
-            playback_.silence(*note);
-    playback_.sequenceChanged();
+            silence(*note);
     return sequence_;
 }
 

@@ -1,5 +1,8 @@
+#include "sequencer/SequenceDocument.h"
+
 #include "platform/MidiBytes.h"
-#include "support/SequenceTest.h"
+#include "support/RecordingInstrument.h"
+#include "tuning/Temperament.h"
 
 #include <gmock/gmock.h>
 
@@ -7,11 +10,19 @@
 
 namespace {
 
-class SequenceDocumentTest : public SequenceTest {
+class SequenceDocumentTest : public testing::Test, public SequenceHost, public Temperament {
 protected:
     SequenceDocumentTest() { read(twoNotes()); }
 
-    /// Key 60 from step 2 to 6, key 64 from 4 to 12; the extent is 44.
+    Instrument* getInstrument() override { return &instrument_; }
+    Temperament* getTemperament() override { return this; }
+    std::mutex& soundLock() override { return lock_; }
+    void setup(Instrument& /*instrument*/, unsigned char key, float /*velocity*/) override
+    {
+        calls_.push_back(fmt::format("setup {}", key));
+    }
+
+    /// Key 60 from step 2 to 6, key 64 from 4 to 12; the extent is 44. 16 ticks are a step.
     static std::string twoNotes()
     {
         return midi::file(
@@ -28,9 +39,18 @@ protected:
     /// One tick of the timer after so many steps calls this.
     void expectTick(double steps, const Calls& calls)
     {
-        tick(steps);
+        now_ += steps / 15.0;
+        document_.loop();
         EXPECT_EQ(std::exchange(calls_, {}), calls) << "at step " << document_.getOffset();
     }
+
+    static constexpr auto kStopped = SequenceDocument::Mode::Stopped;
+
+    Calls calls_;
+    RecordingInstrument instrument_{calls_};
+    std::mutex lock_;
+    double now_ = 1000.0;
+    SequenceDocument document_{*this, [this] { return now_; }};
 };
 
 } // namespace

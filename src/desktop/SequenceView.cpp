@@ -1,0 +1,173 @@
+#include "desktop/SequenceView.h"
+
+#include "preferences/Preferences.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+SequenceView::SequenceView(QWidget* parent) : QOpenGLWidget(parent)
+{
+    setAccessibleName(tr("Piano roll"));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+}
+
+void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor* editor)
+{
+    if (document_ != nullptr)
+        disconnect(document_, nullptr, this, nullptr);
+    document_ = document;
+    editor_ = editor;
+    button_ = Qt::NoButton;
+    if (document_ != nullptr)
+        connect(document_, &SequenceDocument::changed, this, &SequenceView::redraw);
+    redraw();
+}
+
+void SequenceView::scrollToPoint(QPoint point)
+{
+    offset_ = point;
+    update();
+}
+
+RollGeometry SequenceView::rollGeometry() const
+{
+    return {getPrefInt("KeyWidth"),           getPrefInt("KeyHeight"),
+            static_cast<double>(offset_.x()), static_cast<double>(offset_.y()),
+            static_cast<double>(width()),     static_cast<double>(height())};
+}
+
+void SequenceView::redraw()
+{
+    isIndexed_ = false;
+    update();
+}
+
+void SequenceView::gather()
+{
+    // While a recording goes on it changes its notes at every tick.
+    if (!std::exchange(isIndexed_, document_->mode() != SequenceDocument::Mode::Recording))
+        index_.rebuild(document_->getSequence().notes());
+}
+
+void SequenceView::paintGL()
+{
+    glClearColor(1, 1, 1, 1);
+    glClear(GL_COLOR_BUFFER_BIT);
+    if (document_ == nullptr)
+        return;
+
+    const double ratio = devicePixelRatioF();
+    glViewport(0, 0, qRound(width() * ratio), qRound(height() * ratio));
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
+    glMatrixMode(GL_PROJECTION);
+    glLoadIdentity();
+    glOrtho(0, width(), 0, height(), -1, 1);
+    glEnable(GL_BLEND);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+
+    gather();
+    const double line = std::max(1.0, std::floor(ratio)) / ratio;
+    picture_.draw(rollGeometry(), RollColors(palette()), line, *document_, index_);
+    const auto& vertices = picture_.vertices();
+    glEnableClientState(GL_VERTEX_ARRAY);
+    glEnableClientState(GL_COLOR_ARRAY);
+    glVertexPointer(2, GL_FLOAT, sizeof(RollVertex), &vertices.front().x);
+    glColorPointer(4, GL_UNSIGNED_BYTE, sizeof(RollVertex), vertices.front().color.data());
+    glDrawArrays(GL_QUADS, 0, static_cast<GLsizei>(vertices.size()));
+    glDisableClientState(GL_COLOR_ARRAY);
+    glDisableClientState(GL_VERTEX_ARRAY);
+    glDisable(GL_BLEND);
+}
+
+RollPoint SequenceView::localPoint(const QPointF& point) const
+{
+    return rollGeometry().pointAt(point.x(), point.y());
+}
+
+RollHit SequenceView::hitAt(const QPointF& point)
+{
+    gather();
+    const RollGeometry geometry = rollGeometry();
+    const RollPoint place = localPoint(point);
+    RollHit hit = RollHit::Nothing;
+    index_.visit(document_->getSequence().notes(), place.step, place.step, [&](const Note& note) {
+        if (const RollHit here = geometry.hit(note, place); here != RollHit::Nothing)
+            hit = here; // the last one lies on top
+    });
+    return hit;
+}
+
+void SequenceView::showCursor(Qt::KeyboardModifiers modifiers)
+{
+    if (button_ != Qt::NoButton || document_ == nullptr)
+        return;
+    if (modifiers.testFlag(Qt::ControlModifier)) {
+        setCursor(Qt::CrossCursor);
+        return;
+    }
+    switch (hitAt(mapFromGlobal(QPointF(QCursor::pos())))) {
+    case RollHit::Note:
+        setCursor(Qt::SizeAllCursor);
+        break;
+    case RollHit::NoteEnd:
+        setCursor(Qt::SizeVerCursor);
+        break;
+    case RollHit::Nothing:
+        unsetCursor();
+        break;
+    }
+}
+
+void SequenceView::mousePressEvent(QMouseEvent* event)
+{
+    if (editor_ == nullptr || button_ != Qt::NoButton)
+        return;
+    if (event->button() == Qt::LeftButton)
+        editor_->mouseDown(localPoint(event->position()), event->modifiers());
+    else if (event->button() == Qt::RightButton)
+        editor_->rightMouseDown(localPoint(event->position()));
+    else
+        return;
+    button_ = event->button();
+    redraw();
+}
+
+void SequenceView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (button_ == Qt::NoButton || editor_ == nullptr) {
+        showCursor(event->modifiers());
+        return;
+    }
+    editor_->mouseDragged(localPoint(event->position()));
+    redraw();
+}
+
+void SequenceView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (editor_ == nullptr || event->button() != button_)
+        return;
+    button_ = Qt::NoButton;
+    editor_->mouseUp(localPoint(event->position()), event->modifiers());
+    redraw();
+    showCursor(event->modifiers());
+}
+
+void SequenceView::handleKey(const QKeyEvent& event)
+{
+    if (editor_ == nullptr)
+        return;
+    if (event.type() == QEvent::KeyPress)
+        editor_->keyDown(event);
+    else
+        editor_->keyUp(event);
+    redraw();
+    showCursor(QGuiApplication::queryKeyboardModifiers());
+}

@@ -1,0 +1,194 @@
+#include "desktop/SequenceWindow.h"
+
+#include "desktop/Commands.h"
+#include "desktop/SequenceActions.h"
+#include "desktop/SequenceScrollView.h"
+#include "desktop/SequenceStatus.h"
+#include "desktop/SequenceView.h"
+#include "desktop/TransportBar.h"
+#include "desktop/icons.h"
+#include "desktop/windowPlace.h"
+#include "preferences/Preferences.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kUsualHeight = 640;
+
+/// How much of the screen a window may fill when it is first opened.
+constexpr double kPartOfScreen = 0.9;
+
+} // namespace
+
+SequenceWindow::SequenceWindow(SequenceHost& host, Commands& commands, const QString& name,
+                               RecoveryFile recovery)
+    : commands_(commands), name_(name), document_(host), editor_(document_), clock_(document_),
+      keeper_(document_, std::move(recovery)),
+      actions_(std::make_unique<SequenceActions>(document_, editor_)),
+      scrollView_(new SequenceScrollView)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    makeView();
+    makeMenus();
+    setStatusBar(new SequenceStatus(document_));
+    connect(&document_, &SequenceDocument::changed, this, &SequenceWindow::showTitle);
+    connect(&document_, &SequenceDocument::frame, this, &SequenceWindow::showTitle);
+    connect(&document_.undoStack(), &QUndoStack::cleanChanged, this, &SequenceWindow::showTitle);
+    showTitle();
+    fitToScreen();
+    rememberPlace(*this, "sequence");
+}
+
+SequenceWindow::~SequenceWindow()
+{
+    // The widgets go after the document.
+    scrollView_->view().setDocument(nullptr, nullptr);
+    disconnect(&document_, nullptr, nullptr, nullptr);
+}
+
+void SequenceWindow::makeView()
+{
+    setCentralWidget(scrollView_);
+    scrollView_->view().setDocument(&document_, &editor_);
+    auto* transport = new TransportBar(document_, *actions_);
+    addToolBar(transport);
+    connect(transport, &TransportBar::done, this, [this] { scrollView_->setFocus(); });
+    connect(scrollView_, &SequenceScrollView::zoomed, this, &SequenceWindow::zoomed);
+    connect(scrollView_, &SequenceScrollView::scrolledByUser, this,
+            [this] { isScrolledAway_ = document_.mode() != SequenceDocument::Mode::Stopped; });
+    connect(&document_, &SequenceDocument::scrolled, this, &SequenceWindow::scrollTo);
+    connect(&document_, &SequenceDocument::sizeChanged, this, &SequenceWindow::updateDocumentSizes);
+    // Later than what the document does at the end of playing, which is not to be followed either.
+    connect(
+        &document_, &SequenceDocument::modeChanged, this, [this] { isScrolledAway_ = false; },
+        Qt::QueuedConnection);
+    scrollView_->setFocus();
+}
+
+void SequenceWindow::makeMenus()
+{
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    commands_.addOpening(*file);
+    file->addSeparator();
+    file->addAction(icon("save"), tr("&Save"), QKeySequence::Save, this, [this] { save(); });
+    file->addAction(tr("Save &As…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this,
+                    [this] { saveAs(); });
+    file->addSeparator();
+    file->addAction(tr("&Close"), QKeySequence(Qt::CTRL | Qt::Key_W), this, &QWidget::close);
+    commands_.addClosing(*file);
+
+    actions_->addEditing(*menuBar()->addMenu(tr("&Edit")));
+    actions_->addTransport(*menuBar()->addMenu(tr("&Sequence")));
+    commands_.addSound(*menuBar());
+
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    const auto addZoom = [&](const char* picture, const QString& text, const QKeySequence& shortcut,
+                             void (SequenceScrollView::*zoom)(int), int notches) {
+        view->addAction(icon(picture), text, shortcut, this,
+                        [this, zoom, notches] { (scrollView_->*zoom)(notches); });
+    };
+    addZoom("zoom-in", tr("Zoom &In"), QKeySequence::ZoomIn, &SequenceScrollView::zoomSteps, 1);
+    addZoom("zoom-out", tr("Zoom &Out"), QKeySequence::ZoomOut, &SequenceScrollView::zoomSteps, -1);
+    addZoom("zoom-in", tr("&Wider Keys"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Plus),
+            &SequenceScrollView::zoomKeys, 1);
+    addZoom("zoom-out", tr("&Narrower Keys"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Minus),
+            &SequenceScrollView::zoomKeys, -1);
+    view->addSeparator();
+    view->addAction(commands_.noteNames);
+    view->addSeparator();
+    commands_.addWindows(*view);
+    commands_.addHelp(*menuBar());
+}
+
+void SequenceWindow::fitToScreen()
+{
+    const QSize room = screen()->availableSize() * kPartOfScreen;
+    const int keys = getPrefInt("KeyRangeHi") - getPrefInt("KeyRangeLo") + 1;
+    const int width = keys * getPrefInt("KeyWidth") +
+                      style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    resize(std::min(width, room.width()), std::min(kUsualHeight, room.height()));
+}
+
+void SequenceWindow::showDocument()
+{
+    document_.getCurrentNotes(true);
+    updateDocumentSizes();
+    showTitle();
+}
+
+void SequenceWindow::redraw()
+{
+    scrollView_->view().redraw();
+}
+
+void SequenceWindow::updateDocumentSizes()
+{
+    scrollView_->updateDocumentSizes(document_.extent());
+}
+
+void SequenceWindow::handleKey(const QKeyEvent& event)
+{
+    scrollView_->view().handleKey(event);
+}
+
+void SequenceWindow::scrollTo(double step)
+{
+    if (!isScrolledAway_)
+        scrollView_->scrollVertically(step * getPrefInt("KeyHeight"));
+}
+
+QString SequenceWindow::displayName() const
+{
+    return document_.path().empty() ? name_
+                                    : QString::fromStdString(document_.path().filename().string());
+}
+
+void SequenceWindow::showTitle()
+{
+    // A file name may have the placeholder of the mark in it.
+    setWindowTitle(displayName().replace("[*]", "[*][*]") + "[*]");
+    setWindowModified(document_.isModified());
+}
+
+void SequenceWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (std::exchange(isPlaced_, true))
+        return;
+    updateDocumentSizes();
+    scrollView_->scrollClipView({getPrefInt("KeyRangeLo") * getPrefInt("KeyWidth"), 0});
+}
+
+void SequenceWindow::closeAsIs()
+{
+    isSettled_ = true;
+    close();
+}
+
+void SequenceWindow::closeEvent(QCloseEvent* event)
+{
+    if (!isSettled_ && !askToSave()) {
+        event->ignore();
+        return;
+    }
+    scrollView_->view().setDocument(nullptr, nullptr);
+    document_.stop();
+    emit closing();
+}
+
+void SequenceWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        emit becameMain();
+    if (event->type() == QEvent::WindowStateChange && isMinimized())
+        emit resignedMain();
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "sequencer/RecoveryKeeper.h"
+#include "sequencer/SequenceClock.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
+
+#include <QMainWindow>
+
+class Commands;
+class SequenceActions;
+class SequenceScrollView;
+
+/// The window of one sequence document, which it owns.
+class SequenceWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// A new sequence under a name that stands in the title until it is saved. `recovery` is what
+    /// the document is kept in against a crash.
+    SequenceWindow(SequenceHost& host, Commands& commands, const QString& name,
+                   RecoveryFile recovery = RecoveryFile());
+    ~SequenceWindow() override;
+
+    SequenceDocument& document() { return document_; }
+
+    /// Shows the document that has just been read or recovered, from its beginning.
+    void showDocument();
+
+    /// Draws the roll again soon.
+    void redraw();
+
+    /// Fits the roll to the preferences.
+    void updateDocumentSizes();
+
+    /// Takes a key that was pressed or released while the keyboard was in front.
+    void handleKey(const QKeyEvent& event);
+
+    /// Asks what is to become of unsaved changes. False when the window is to stay.
+    bool askToSave();
+
+    /// Closes without asking.
+    void closeAsIs();
+
+    /// Writes the document to its file, or to one that the user names. False when it was not
+    /// written, as the user has been told.
+    bool save();
+    bool saveAs();
+
+signals:
+    /// It has come to the front, or is no longer to be seen.
+    void becameMain();
+    void resignedMain();
+
+    /// It closes for good: the document is about to end.
+    void closing();
+
+    /// The preferences scale the roll anew: everything that shows keys is to fit itself to them.
+    void zoomed();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void makeMenus();
+    void makeView();
+    void fitToScreen();
+    void showTitle();
+    void scrollTo(double step);
+    bool write(const QString& path, const std::string& type,
+               SequenceDocument::SaveOperation operation);
+    QString displayName() const;
+
+    Commands& commands_;
+    QString name_;
+    SequenceDocument document_;
+    SequenceEditor editor_;
+    SequenceClock clock_;
+    RecoveryKeeper keeper_;
+    std::unique_ptr<SequenceActions> actions_;
+    SequenceScrollView* scrollView_;
+    bool isScrolledAway_ = false; ///< By the user, from a position that runs.
+    bool isPlaced_ = false;       ///< It has been shown before.
+    bool isSettled_ = false;      ///< There is nothing more to ask before it closes.
+};

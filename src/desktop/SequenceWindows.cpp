@@ -1,0 +1,180 @@
+#include "desktop/SequenceWindows.h"
+
+#include "desktop/Commands.h"
+#include "desktop/KeyboardView.h"
+#include "desktop/SequenceWindow.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+/// How far a window that opens beside others lies from the place of the last one.
+constexpr QPoint kCascade(24, 24);
+
+/// One line for each.
+QString listed(const std::vector<Abandoned>& found)
+{
+    QStringList lines;
+    for (const Abandoned& one : found) {
+        const auto& path = one.sequence.path;
+        const QDateTime time =
+            QDateTime::fromMSecsSinceEpoch(one.sequence.time.time_since_epoch().count());
+        lines += SequenceWindows::tr("%1, %2 notes, %3")
+                     .arg(path.empty() ? SequenceWindows::tr("Untitled")
+                                       : QString::fromStdString(path.filename().string()))
+                     .arg(one.sequence.notes.size())
+                     .arg(QLocale().toString(time, QLocale::ShortFormat));
+    }
+    return lines.join('\n');
+}
+
+} // namespace
+
+SequenceWindows::SequenceWindows(SequenceHost& host, Commands& commands, KeyboardView& keyboard)
+    : host_(host), commands_(commands), keyboard_(keyboard)
+{
+}
+
+SequenceWindows::~SequenceWindows()
+{
+    keyboard_.setDocument(nullptr);
+    for (SequenceWindow* window : windows_) {
+        window->disconnect(this);
+        delete window;
+    }
+}
+
+SequenceWindow& SequenceWindows::make(RecoveryFile recovery)
+{
+    auto* window = new SequenceWindow(host_, commands_, unusedName(), std::move(recovery));
+    if (!windows_.empty())
+        window->move(windows_.back()->pos() + kCascade);
+    windows_.push_back(window);
+    connect(window, &SequenceWindow::becameMain, this, [this, window] { setMain(window); });
+    connect(window, &SequenceWindow::resignedMain, this, [this, window] {
+        if (main_ == window)
+            setMain(nullptr);
+    });
+    connect(window, &SequenceWindow::closing, this, [this, window] { remove(*window); });
+    connect(window, &SequenceWindow::zoomed, this, &SequenceWindows::zoomed);
+    connect(&window->document(), &SequenceDocument::frame, window, [this, window] {
+        if (keyboard_.doDraw() == &window->document())
+            window->redraw();
+    });
+    emit opened(*window);
+    return *window;
+}
+
+void SequenceWindows::show(SequenceWindow& window)
+{
+    window.showDocument();
+    bringToFront(window);
+}
+
+void SequenceWindows::bringToFront(SequenceWindow& window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+    setMain(&window); // where the desktop does not let it come to the front, too
+}
+
+void SequenceWindows::create()
+{
+    show(make());
+}
+
+std::string SequenceWindows::open(const QString& path)
+{
+    for (SequenceWindow* window : windows_) {
+        if (window->document().path() == path.toStdString()) {
+            bringToFront(*window);
+            return {};
+        }
+    }
+    SequenceWindow& window = make();
+    window.document().readFromURL(path.toStdString());
+    const std::string error = window.document().errorString();
+    if (error.empty())
+        show(window);
+    else
+        window.closeAsIs();
+    return error;
+}
+
+void SequenceWindows::offerAbandoned()
+{
+    std::vector<Abandoned> found = RecoveryFile::abandoned();
+    if (found.empty())
+        return;
+    QMessageBox box(QMessageBox::Question, tr("Velmora"),
+                    tr("Velmora was not closed properly: recover what was not saved?"),
+                    QMessageBox::NoButton, QApplication::activeWindow());
+    box.setInformativeText(listed(found));
+    const QPushButton* recover = box.addButton(tr("Recover"), QMessageBox::AcceptRole);
+    const QPushButton* discard = box.addButton(tr("Discard"), QMessageBox::DestructiveRole);
+    box.setEscapeButton(box.addButton(tr("Ask Later"), QMessageBox::RejectRole));
+    box.exec();
+    for (Abandoned& one : found) {
+        if (box.clickedButton() == discard)
+            one.file.discard();
+        if (box.clickedButton() != recover)
+            continue;
+        SequenceWindow& window = make(std::move(one.file));
+        window.document().recover(one.sequence);
+        show(window);
+    }
+}
+
+bool SequenceWindows::closeAll()
+{
+    for (SequenceWindow* window : windows_) {
+        if (!window->document().isModified())
+            continue;
+        bringToFront(*window);
+        if (!window->askToSave())
+            return false;
+    }
+    while (!windows_.empty())
+        windows_.back()->closeAsIs();
+    return true;
+}
+
+void SequenceWindows::updateDocumentSizes()
+{
+    for (SequenceWindow* window : windows_)
+        window->updateDocumentSizes();
+}
+
+void SequenceWindows::handleKey(const QKeyEvent& event)
+{
+    if (main_ != nullptr)
+        main_->handleKey(event);
+}
+
+void SequenceWindows::setMain(SequenceWindow* window)
+{
+    main_ = window;
+    keyboard_.setDocument(window == nullptr ? nullptr : &window->document());
+}
+
+void SequenceWindows::remove(SequenceWindow& window)
+{
+    windows_.erase(std::find(windows_.begin(), windows_.end(), &window));
+    if (main_ == &window)
+        setMain(nullptr);
+}
+
+QString SequenceWindows::unusedName()
+{
+    ++names_;
+    return names_ == 1 ? tr("Untitled") : tr("Untitled %1").arg(names_);
+}
