@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "app/fading.h"
 #include "base/Clock.h"
 #include "base/Log.h"
 #include "platform/Synthesizer.h"
@@ -11,8 +12,6 @@
 
 namespace {
 
-constexpr std::chrono::nanoseconds kFadeInterval{16'666'000};
-constexpr double kFadeFactor = 0.9;
 constexpr const char* kDynamic = "Dynamic";
 constexpr int kLastKey = static_cast<int>(kKeys) - 1;
 
@@ -246,11 +245,7 @@ bool AppDelegate::selectTuning(const std::string& name)
 
 void AppDelegate::loop()
 {
-    const std::lock_guard lock(soundLock_);
-    if (instrument_ != nullptr)
-        instrument_->fade(kFadeFactor);
-    if (temperament_ != nullptr)
-        temperament_->fade(kFadeFactor);
+    fadeOnce(*this);
 }
 
 void AppDelegate::keyOn(int key, float velocity)

@@ -1,20 +1,22 @@
 #include "app/SequenceRenderer.h"
 
+#include "app/fading.h"
+
 #include <algorithm>
 
 namespace {
 
 constexpr double kTicksPerSecond = 1024.0;
-constexpr double kFadeSeconds = 0.016666;
+constexpr double kFadeSeconds = std::chrono::duration<double>(kFadeInterval).count();
 constexpr std::size_t kTicksPerReport = 64;
 
 } // namespace
 
-SequenceRenderer::SequenceRenderer(AppDelegate& application, AudioSource& source,
-                                   const std::filesystem::path& path)
-    : application_(application), source_(source), document_(application, [this] { return now_; })
+SequenceRenderer::SequenceRenderer(SequenceHost& host, AudioSource& source)
+    : host_(host), source_(source),
+      document_(
+          host, [this] { return now_; }, SequenceDocument::HeldKeys::LeftAlone)
 {
-    document_.readFromURL(path);
 }
 
 bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sink,
@@ -26,6 +28,7 @@ bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sin
     const int times = options.loop ? options.loop->times : 1;
     if (options.loop)
         document_.selectInterval(begin, end);
+    document_.setTempo(options.tempo);
     document_.setLoop(times > 1);
 
     int played = 0;
@@ -58,7 +61,7 @@ void SequenceRenderer::soundUntil(double seconds, double rate, const AudioSink& 
     const auto nextFade = [this] { return static_cast<double>(fades_ + 1) * kFadeSeconds; };
     while (nextFade() <= seconds) {
         sound(nextFade());
-        application_.loop();
+        fadeOnce(host_);
         ++fades_;
     }
     sound(seconds);

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "app/AppDelegate.h"
 #include "platform/AudioSource.h"
 #include "sequencer/SequenceDocument.h"
 
 #include <cstddef>
-#include <filesystem>
 #include <functional>
 #include <optional>
+#include <vector>
 
 /// A stretch of a sequence to be played several times over.
 struct RenderLoop {
@@ -19,6 +18,7 @@ struct RenderLoop {
 struct RenderOptions {
     double rate = 48000.0; ///< Frames in a second; that of the audio source.
     double tailSeconds = 1.0;
+    double tempo = 120.0; ///< In beats a minute.
     std::optional<RenderLoop> loop;
 };
 
@@ -28,16 +28,15 @@ using AudioSink = std::function<void(const float* left, const float* right, std:
 /// Told between the blocks how much is done, from 0 to 1; false gives the rendering up.
 using RenderProgress = std::function<bool(double done)>;
 
-/// Plays a sequence file as the program plays it, on the application's current instrument and
-/// temperament, on a clock of its own: without a device, faster than it sounds, the same at every
-/// run. `source` is what the instrument sounds through.
+/// Plays a sequence as the program plays it, on the instrument and temperament of a host, on a
+/// clock of its own: without a device, faster than it sounds, the same at every run. `source` is
+/// what the instrument sounds through. On one thread, whichever it is.
 class SequenceRenderer {
 public:
-    /// Reads the file; `errorString` says so when it cannot be read.
-    SequenceRenderer(AppDelegate& application, AudioSource& source,
-                     const std::filesystem::path& path);
+    SequenceRenderer(SequenceHost& host, AudioSource& source);
 
-    const std::string& errorString() const { return document_.errorString(); }
+    /// What is rendered: to be filled before.
+    SequenceDocument& document() { return document_; }
 
     /// Plays from the beginning to the end and for the tail. False when `progress` gave it up.
     bool render(const RenderOptions& options, const AudioSink& sink,
@@ -47,7 +46,7 @@ private:
     /// Sounds up to a moment of the clock, fading on the way.
     void soundUntil(double seconds, double rate, const AudioSink& sink);
 
-    AppDelegate& application_;
+    SequenceHost& host_;
     AudioSource& source_;
     double now_ = 0.0;
     SequenceDocument document_;

@@ -1,10 +1,10 @@
 #include "cli/commands.h"
 
+#include "app/OfflineSound.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
 #include "platform/AudioFileWriter.h"
 #include "platform/OpenALLoopback.h"
-#include "platform/Synthesizer.h"
 
 #include <optional>
 
@@ -13,11 +13,8 @@ namespace {
 /// Makes the General MIDI player, to be rendered.
 AudioSource& addSynthesizer(double rate, AppDelegate& application)
 {
-    auto synthesizer = std::make_unique<Synthesizer>(rate, generalMidiBanks());
-    Synthesizer& source = *synthesizer;
-    if (source.bank().empty())
-        throw std::runtime_error("there is no SoundFont for the General MIDI synthesizer: install "
-                                 "the package timgm6mb-soundfont");
+    auto synthesizer = makeOfflineSynthesizer(rate, generalMidiBanks());
+    AudioSource& source = *synthesizer;
     application.makeMIDIPlayer(std::move(synthesizer));
     return source;
 }
@@ -36,9 +33,10 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
     AudioSource& source = loopback ? *loopback : addSynthesizer(options.rate, application);
     select(selection, application);
 
-    SequenceRenderer renderer(application, source, sequence);
-    if (!renderer.errorString().empty())
-        throw std::runtime_error(renderer.errorString());
+    SequenceRenderer renderer(application, source);
+    renderer.document().readFromURL(sequence);
+    if (!renderer.document().errorString().empty())
+        throw std::runtime_error(renderer.document().errorString());
     AudioFileWriter file(output, options.rate);
     ProgressLine progress("Rendering");
     const Interruption interruption;

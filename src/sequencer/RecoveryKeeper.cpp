@@ -42,11 +42,7 @@ void RecoveryKeeper::write()
         timer_.start();
     if (!document_.isModified() || writer_.activeThreadCount() > 0)
         return;
-    const auto now = std::chrono::system_clock::now();
-    writer_.start(
-        [this, sequence = UnsavedSequence{
-                   document_.path(), std::chrono::floor<std::chrono::milliseconds>(now),
-                   document_.isImported(), document_.getSequence().notes()}] { keep(sequence); });
+    writer_.start([this, sequence = document_.snapshot()] { keep(sequence); });
 }
 
 void RecoveryKeeper::keep(const UnsavedSequence& sequence)

@@ -35,9 +35,12 @@ constexpr double kRoomBelowPosition = 8.0;
 
 } // namespace
 
-SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> clock)
+SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> clock,
+                                   HeldKeys heldKeys)
     : host_(host), clock_(std::move(clock)), dTime_(clock_())
 {
+    if (heldKeys == HeldKeys::LeftAlone)
+        return;
     for (auto& state : noteStates)
         state = 0;
 }

@@ -30,9 +30,14 @@ public:
     enum class Mode { Stopped, Playing, Recording };
     enum class SaveOperation { Save, SaveAs };
 
-    /// A document with an empty sequence; clears the table of held keys. `clock` gives the seconds
-    /// that pass between the calls of `loop`.
-    explicit SequenceDocument(SequenceHost& host, std::function<double()> clock = getTime);
+    /// What making a document does to the table of held keys.
+    enum class HeldKeys { Cleared, LeftAlone };
+
+    /// A document with an empty sequence. `clock` gives the seconds that pass between the calls of
+    /// `loop`. One that is only played to be rendered leaves the held keys alone, and may be made
+    /// and played on a thread of its own.
+    explicit SequenceDocument(SequenceHost& host, std::function<double()> clock = getTime,
+                              HeldKeys heldKeys = HeldKeys::Cleared);
 
     /// Reads a Standard MIDI File, keeping the keys of the keyboard's range. A file that cannot be
     /// read leaves the sequence empty, and `errorString` says why. Forgets what could be undone.
@@ -48,6 +53,9 @@ public:
     /// why, but for any other type.
     bool saveToURL(const std::filesystem::path& path, const std::string& type,
                    SaveOperation operation);
+
+    /// What there is to keep of the document now.
+    UnsavedSequence snapshot() const;
 
     /// Takes over what was kept of a document that was never saved, as a modified document.
     void recover(const UnsavedSequence& unsaved);

@@ -41,6 +41,13 @@ bool SequenceDocument::saveToURL(const std::filesystem::path& path, const std::s
     return true;
 }
 
+UnsavedSequence SequenceDocument::snapshot() const
+{
+    const auto now = std::chrono::system_clock::now();
+    return {path_, std::chrono::floor<std::chrono::milliseconds>(now), isImported_,
+            sequence_.notes()};
+}
+
 void SequenceDocument::recover(const UnsavedSequence& unsaved)
 {
     stop();

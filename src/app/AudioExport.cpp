@@ -1,0 +1,108 @@
+#include "app/AudioExport.h"
+
+#include "app/SequenceRenderer.h"
+#include "platform/AudioFileWriter.h"
+
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <exception>
+#include <new>
+#include <utility>
+
+namespace {
+
+/// Of an export, so that what sounds live goes before it.
+constexpr int kNiceness = 10;
+
+/// Tells of progress, in steps that can be seen.
+class Progress : public InstrumentHost {
+public:
+    Progress(AudioExport& audioExport, std::stop_token stop)
+        : export_(audioExport), stop_(std::move(stop))
+    {
+    }
+
+    void startProgress(long steps) override { steps_ = std::max(steps, 1L); }
+
+    void updateProgress(unsigned steps, const std::string& /*text*/) override
+    {
+        done_ += steps;
+        tell(AudioExport::tr("Loading the instrument"),
+             std::min(static_cast<double>(done_) / static_cast<double>(steps_), 1.0));
+    }
+
+    bool isCancelled() const override { return stop_.stop_requested(); }
+
+    /// False when the export is given up.
+    bool rendered(double done)
+    {
+        tell(AudioExport::tr("Rendering"), done);
+        return !isCancelled();
+    }
+
+private:
+    void tell(const QString& what, double done)
+    {
+        const int percent = static_cast<int>(done * 100.0);
+        if (what == what_ && percent == percent_)
+            return;
+        what_ = what;
+        percent_ = percent;
+        emit export_.progressed(what, done);
+    }
+
+    AudioExport& export_;
+    std::stop_token stop_;
+    long steps_ = 1, done_ = 0;
+    QString what_;
+    int percent_ = -1;
+};
+
+} // namespace
+
+AudioExport::~AudioExport() = default;
+
+void AudioExport::start(SoundSettings sound, UnsavedSequence sequence, double tempo,
+                        std::filesystem::path file)
+{
+    Job job{std::move(sound), std::move(sequence), tempo, std::move(file)};
+    thread_ = std::jthread([this, job = std::move(job)](const std::stop_token& stop) mutable {
+        run(stop, std::move(job));
+    });
+}
+
+void AudioExport::run(const std::stop_token& stop, Job job)
+{
+    setpriority(PRIO_PROCESS, 0, kNiceness); // of this thread alone, and of those it starts
+    bool isWritten = false;
+    QString error;
+    try {
+        isWritten = write(stop, std::move(job));
+    } catch (const std::bad_alloc&) {
+        error = tr("There is not enough memory to load the instrument a second time.");
+    } catch (const std::exception& failure) {
+        error = QString::fromUtf8(failure.what());
+    }
+    emit finished(isWritten, stop.stop_requested() ? QString() : error);
+}
+
+bool AudioExport::write(const std::stop_token& stop, Job job)
+{
+    RenderOptions options;
+    options.tempo = job.tempo;
+    AudioFileWriter file(job.file, options.rate); // first: it tells at once where it cannot be
+    Progress progress(*this, stop);
+    OfflineSound sound(std::move(job.sound), options.rate, progress);
+    SequenceRenderer renderer(sound, sound.source());
+    renderer.document().recover(job.sequence);
+    const bool rendered = renderer.render(
+        options,
+        [&](const float* left, const float* right, std::size_t frames) {
+            file.write(left, right, frames);
+        },
+        [&](double done) { return progress.rendered(done); });
+    if (rendered)
+        file.commit();
+    return rendered;
+}

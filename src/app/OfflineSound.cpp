@@ -1,0 +1,70 @@
+#include "app/OfflineSound.h"
+
+#include "app/AppDelegate.h"
+#include "sound/ALInstrument.h"
+#include "sound/MIDIInstrument.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace {
+
+/// As `setVolume` takes it: a sampled instrument shows the double of it.
+float gainOf(const Instrument& instrument, std::size_t stop)
+{
+    const auto* sampled = dynamic_cast<const ALInstrument*>(&instrument);
+    return sampled != nullptr ? sampled->stops()[stop].volume : instrument.getVolume(stop);
+}
+
+} // namespace
+
+SoundSettings currentSettings(AppDelegate& application)
+{
+    SoundSettings settings;
+    const std::lock_guard lock(application.soundLock());
+    const Instrument& instrument = *application.getInstrument();
+    settings.temperament = application.getTemperament()->fresh();
+    for (std::size_t stop = 0; stop < instrument.numStops(); ++stop)
+        settings.gains.push_back(gainOf(instrument, stop));
+    if (const auto* player = dynamic_cast<const MIDIInstrument*>(&instrument)) {
+        settings.program = player->program();
+        settings.banks = generalMidiBanks();
+    }
+    for (const auto& document : application.instruments()) {
+        if (document->getInstrument() == &instrument) {
+            settings.instrument = document->path();
+            settings.type = document->type();
+        }
+    }
+    return settings;
+}
+
+std::unique_ptr<Synthesizer> makeOfflineSynthesizer(double rate,
+                                                    const std::vector<std::filesystem::path>& banks)
+{
+    auto synthesizer = std::make_unique<Synthesizer>(rate, banks);
+    if (synthesizer->bank().empty())
+        throw std::runtime_error("there is no SoundFont for the General MIDI synthesizer: install "
+                                 "the package timgm6mb-soundfont");
+    return synthesizer;
+}
+
+OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& host)
+    : temperament_(std::move(settings.temperament))
+{
+    if (settings.instrument.empty()) {
+        auto synthesizer = makeOfflineSynthesizer(rate, settings.banks);
+        source_ = synthesizer.get();
+        document_ = InstrumentDocument::initWithMIDIPlayer(std::move(synthesizer));
+        getInstrument()->setInstrument(settings.program);
+    } else {
+        source_ = &loopback_.emplace(rate);
+        document_ = std::make_unique<InstrumentDocument>();
+        if (!document_->readFromURL(settings.instrument, settings.type, host))
+            throw std::runtime_error(document_->errorString());
+    }
+    Instrument& instrument = *getInstrument();
+    for (std::size_t stop = 0; stop < settings.gains.size(); ++stop)
+        instrument.setVolume(stop, settings.gains[stop]);
+    instrument.tune(*temperament_, 0, static_cast<int>(kKeys) - 1);
+}

@@ -1,0 +1,19 @@
+#include "app/fading.h"
+
+#include "sound/Instrument.h"
+#include "tuning/Temperament.h"
+
+namespace {
+
+constexpr double kFadeFactor = 0.9;
+
+} // namespace
+
+void fadeOnce(SequenceHost& host)
+{
+    const std::lock_guard lock(host.soundLock());
+    if (Instrument* instrument = host.getInstrument())
+        instrument->fade(kFadeFactor);
+    if (Temperament* temperament = host.getTemperament())
+        temperament->fade(kFadeFactor);
+}
