@@ -5,8 +5,6 @@
 #include "base/Log.h"
 #include "preferences/Preferences.h"
 #include "sequencer/SequenceFile.h"
-#include "sound/Instrument.h"
-#include "tuning/Temperament.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,9 +19,6 @@ constexpr unsigned kTicksPerFrame = 16;
 /// Steps in a second for each beat a minute of the tempo.
 constexpr double kStepsPerTempoSecond = 0.125;
 
-/// The state of a key that the sequence plays.
-constexpr int kPlayed = 2;
-
 /// The states of a key of live input.
 constexpr int kPressed = 1, kHeld = 4;
 
@@ -37,7 +32,7 @@ constexpr double kRoomBelowPosition = 8.0;
 
 SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> clock,
                                    HeldKeys heldKeys)
-    : host_(host), clock_(std::move(clock)), dTime_(clock_())
+    : host_(host), clock_(std::move(clock)), playback_(host, sequence_), dTime_(clock_())
 {
     if (heldKeys == HeldKeys::LeftAlone)
         return;
@@ -123,7 +118,8 @@ void SequenceDocument::loop()
     if (mode_ == Mode::Recording)
         doRecord(now - dTime_);
     dTime_ = now;
-    if (frameCount_++ % kTicksPerFrame == 0)
+    // The tick that ends the playing is the last for a while.
+    if (frameCount_++ % kTicksPerFrame == 0 || mode_ == Mode::Stopped)
         emit frame();
 }
 
@@ -132,20 +128,11 @@ void SequenceDocument::doPlay(double seconds)
     double next = offset_ + tempo_ * seconds * kStepsPerTempoSecond;
     const bool atEnd = (intervalSelected() && selectionEnd_ < next) || mx_ < next;
 
-    for (std::size_t i = 0; i < sequence_.notes().size(); ++i) {
-        Note& note = sequence_.at(i);
-        if (atEnd) {
-            silence(note);
-            continue;
-        }
-        if (offset_ <= note.start && note.start < next)
-            start(note);
-        const double end = note.start + note.length;
-        if (offset_ < end && end <= next)
-            silence(note);
-    }
-
-    if (atEnd) {
+    if (!atEnd) {
+        if (const auto lastKey = playback_.playBetween(offset_, next))
+            note_ = static_cast<int>(*lastKey);
+    } else {
+        playback_.silenceAll();
         next = intervalSelected() ? selectionStart_ : 0.0;
         if (!loop_)
             play();
@@ -195,48 +182,11 @@ bool SequenceDocument::recordKey(std::size_t key, double until)
     if (last != notes.rend()) {
         taken_.emplace(last->id, last->length);
         Note& held = *edit().find(last->id);
-        held.length = offset_ - held.start;
+        held.length = std::max(offset_ - held.start, 0.0);
         if (snapToGrid_)
             held.length = std::floor(held.length);
     }
     return true;
-}
-
-void SequenceDocument::start(Note& note)
-{
-    currentNotes_[note.key] = kPlayed;
-    note.playing = note.active = true;
-    note_ = note.key;
-    const std::lock_guard lock(host_.soundLock());
-    if (Instrument* instrument = host_.getInstrument()) {
-        host_.getTemperament()->setup(*instrument, static_cast<unsigned char>(note.key),
-                                      note.velocity);
-        instrument->play(static_cast<int>(note.key), note.velocity);
-    }
-}
-
-void SequenceDocument::silence(Note& note)
-{
-    currentNotes_[note.key] = 0;
-    note.playing = note.active = false;
-    stopOnInstrument(note);
-}
-
-void SequenceDocument::stopOnInstrument(const Note& note)
-{
-    const std::lock_guard lock(host_.soundLock());
-    if (Instrument* instrument = host_.getInstrument())
-        instrument->stop(static_cast<int>(note.key));
-}
-
-void SequenceDocument::stop()
-{
-    for (std::size_t i = 0; i < sequence_.notes().size(); ++i) {
-        Note& note = sequence_.at(i);
-        if (note.playing)
-            stopOnInstrument(note);
-        note.playing = false;
-    }
 }
 
 void SequenceDocument::doScroll(double step)

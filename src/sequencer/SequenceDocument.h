@@ -4,13 +4,12 @@
 #include "sequencer/KeyboardDocument.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
+#include "sequencer/SequencePlayback.h"
 #include "sequencer/UndoAction.h"
-#include "sound/KeyTables.h"
 
 #include <QObject>
 #include <QUndoStack>
 
-#include <array>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -73,7 +72,7 @@ public:
     void loop();
 
     /// Silences every note that playing has started.
-    void stop();
+    void stop() { playback_.stop(); }
 
     /// Puts the play position; the view follows when no interval is selected.
     void doScroll(double step);
@@ -94,7 +93,7 @@ public:
     void getCurrentNotes(bool advance);
 
     void midiInput() override;
-    int stateOfNote(unsigned key) const override { return currentNotes_[key]; }
+    int stateOfNote(unsigned key) const override { return playback_.states[key]; }
 
     /// Selects a time interval; equal steps select none.
     void selectInterval(double start, double end);
@@ -198,16 +197,13 @@ private:
     void doPlay(double seconds);
     void doRecord(double seconds);
     bool recordKey(std::size_t key, double until);
-    bool atPosition(const Note& note) const;
-    void start(Note& note);
-    void silence(Note& note);
-    void stopOnInstrument(const Note& note);
     void setMode(Mode mode);
     void apply(void (UndoAction::*change)(Sequence&) const, const UndoAction& action);
 
     SequenceHost& host_;
     std::function<double()> clock_;
     Sequence sequence_;
+    SequencePlayback playback_;
     QUndoStack undoStack_;
     std::filesystem::path path_;
     std::string errorString_;
@@ -225,7 +221,6 @@ private:
     bool snapToGrid_ = false;
     bool loop_ = false;
     bool isImported_ = false;
-    std::array<int, kKeys> currentNotes_{};
 
     /// What the recording has done since it was last registered: the notes that it has changed,
     /// with the length before, or none for a new one.

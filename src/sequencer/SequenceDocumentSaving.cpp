@@ -51,7 +51,7 @@ UnsavedSequence SequenceDocument::snapshot() const
 void SequenceDocument::recover(const UnsavedSequence& unsaved)
 {
     stop();
-    sequence_ = {};
+    edit() = {};
     sequence_.reserve(unsaved.notes.size());
     for (const Note& note : unsaved.notes)
         sequence_.addNote(note);

@@ -41,7 +41,8 @@ Sequence& SequenceDocument::edit(std::span<const std::uint64_t> notes)
 {
     for (const std::uint64_t id : notes)
         if (Note* note = sequence_.find(id); note != nullptr && note->playing)
-            silence(*note);
+            playback_.silence(*note);
+    playback_.sequenceChanged();
     return sequence_;
 }
 

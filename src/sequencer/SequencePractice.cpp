@@ -24,12 +24,6 @@ bool isUnanswered(int state)
 
 } // namespace
 
-bool SequenceDocument::atPosition(const Note& note) const
-{
-    const double distance = note.start - offset_;
-    return !(distance > kTolerance) && !(distance < -kTolerance);
-}
-
 void SequenceDocument::currentNote()
 {
     const auto& notes = sequence_.notes();
@@ -84,19 +78,15 @@ void SequenceDocument::prevNote()
 
 void SequenceDocument::getCurrentNotes(bool advance)
 {
-    std::copy(noteStates.begin(), noteStates.end(), currentNotes_.begin());
-    for (std::size_t i = 0; i < sequence_.notes().size(); ++i) {
-        Note& note = sequence_.at(i);
-        note.active = atPosition(note);
-        if (note.active)
-            currentNotes_[note.key] |= kWanted;
-    }
-    if (!advance || std::any_of(currentNotes_.begin(), currentNotes_.end(), isUnanswered))
+    auto& states = playback_.states;
+    std::copy(noteStates.begin(), noteStates.end(), states.begin());
+    playback_.markAt(offset_, kTolerance, kWanted);
+    if (!advance || std::any_of(states.begin(), states.end(), isUnanswered))
         return;
 
     for (std::size_t key = 0; key < kKeys; ++key) {
         int state = kPressed;
-        currentNotes_[key] = noteStates[key].compare_exchange_strong(state, kHeld) ? kHeld : state;
+        states[key] = noteStates[key].compare_exchange_strong(state, kHeld) ? kHeld : state;
     }
     nextNote();
     if (loop_ && selectionStart_ < selectionEnd_ && selectionEnd_ <= offset_) {
@@ -107,7 +97,7 @@ void SequenceDocument::getCurrentNotes(bool advance)
     const auto& notes = sequence_.notes();
     for (auto i = static_cast<std::size_t>(std::max(note_, 0));
          i < notes.size() && notes[i].start - offset_ <= kTolerance; ++i)
-        currentNotes_[notes[i].key] |= kWanted;
+        states[notes[i].key] |= kWanted;
 }
 
 void SequenceDocument::midiInput()

@@ -1,8 +1,5 @@
-#include "sequencer/SequenceDocument.h"
-
 #include "platform/MidiBytes.h"
-#include "support/RecordingInstrument.h"
-#include "tuning/Temperament.h"
+#include "support/SequenceTest.h"
 
 #include <gmock/gmock.h>
 
@@ -10,19 +7,11 @@
 
 namespace {
 
-class SequenceDocumentTest : public testing::Test, public SequenceHost, public Temperament {
+class SequenceDocumentTest : public SequenceTest {
 protected:
     SequenceDocumentTest() { read(twoNotes()); }
 
-    Instrument* getInstrument() override { return &instrument_; }
-    Temperament* getTemperament() override { return this; }
-    std::mutex& soundLock() override { return lock_; }
-    void setup(Instrument& /*instrument*/, unsigned char key, float /*velocity*/) override
-    {
-        calls_.push_back(fmt::format("setup {}", key));
-    }
-
-    /// Key 60 from step 2 to 6, key 64 from 4 to 12; the extent is 44. 16 ticks are a step.
+    /// Key 60 from step 2 to 6, key 64 from 4 to 12; the extent is 44.
     static std::string twoNotes()
     {
         return midi::file(
@@ -39,18 +28,9 @@ protected:
     /// One tick of the timer after so many steps calls this.
     void expectTick(double steps, const Calls& calls)
     {
-        now_ += steps / 15.0;
-        document_.loop();
+        tick(steps);
         EXPECT_EQ(std::exchange(calls_, {}), calls) << "at step " << document_.getOffset();
     }
-
-    static constexpr auto kStopped = SequenceDocument::Mode::Stopped;
-
-    Calls calls_;
-    RecordingInstrument instrument_{calls_};
-    std::mutex lock_;
-    double now_ = 1000.0;
-    SequenceDocument document_{*this, [this] { return now_; }};
 };
 
 } // namespace

@@ -1,0 +1,92 @@
+// What a tick costs while 100,000 notes are played, ten of them at a time, and what it would cost
+// to walk through all of them.
+
+#include "sequencer/SequencePlayback.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr int kNotes = 100'000;
+constexpr double kTick = 120.0 * 0.125 / 1024.0; // in steps
+
+/// No instrument: the cost is that of finding the notes.
+class Silence : public SequenceHost {
+public:
+    Instrument* getInstrument() override { return nullptr; }
+    Temperament* getTemperament() override { return nullptr; }
+    std::mutex& soundLock() override { return lock_; }
+
+private:
+    std::mutex lock_;
+};
+
+Sequence manyNotes()
+{
+    Sequence sequence;
+    for (int i = 0; i < kNotes; ++i)
+        sequence.addNote({.start = 0.2 * i, .length = 2.0, .key = static_cast<unsigned>(i % 128)});
+    return sequence;
+}
+
+/// The position, going round.
+double after(double position)
+{
+    return position + kTick < 0.2 * kNotes ? position + kTick : 0.0;
+}
+
+void playByIndex(benchmark::State& state)
+{
+    Silence host;
+    Sequence sequence = manyNotes();
+    SequencePlayback playback(host, sequence);
+    double position = 0.0;
+    for ([[maybe_unused]] auto iteration : state) {
+        benchmark::DoNotOptimize(playback.playBetween(position, position + kTick));
+        position = after(position);
+    }
+}
+
+void playByPlainWalk(benchmark::State& state)
+{
+    Sequence sequence = manyNotes();
+    double position = 0.0;
+    for ([[maybe_unused]] auto iteration : state) {
+        for (std::size_t i = 0; i < sequence.notes().size(); ++i) {
+            Note& note = sequence.at(i);
+            const double end = note.start + note.length, next = position + kTick;
+            if (position <= note.start && note.start < next)
+                note.playing = note.active = true;
+            if (position < end && end <= next)
+                note.playing = note.active = false;
+        }
+        position = after(position);
+    }
+}
+
+void lookByIndex(benchmark::State& state)
+{
+    Silence host;
+    Sequence sequence = manyNotes();
+    SequencePlayback playback(host, sequence);
+    double position = 0.0;
+    for ([[maybe_unused]] auto iteration : state) {
+        playback.markAt(position, 0.1, 2);
+        position = after(position);
+    }
+}
+
+/// What the first tick after an edit costs besides.
+void makeIndex(benchmark::State& state)
+{
+    const Sequence sequence = manyNotes();
+    for ([[maybe_unused]] auto iteration : state)
+        benchmark::DoNotOptimize(SequenceIndex(sequence.notes()));
+}
+
+BENCHMARK(playByIndex);
+BENCHMARK(playByPlainWalk);
+BENCHMARK(lookByIndex);
+BENCHMARK(makeIndex);
+
+} // namespace

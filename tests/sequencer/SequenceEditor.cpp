@@ -1,0 +1,293 @@
+#include "sequencer/SequenceEditor.h"
+
+#include "sequencer/NoteClipboard.h"
+#include "support/SequenceTest.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+using testing::ElementsAre;
+using testing::FieldsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+namespace {
+
+constexpr auto kNone = Qt::NoModifier;
+constexpr auto kShift = Qt::ShiftModifier;
+constexpr auto kCommand = Qt::ControlModifier;
+
+class SequenceEditorTest : public SequenceTest {
+protected:
+    using Notes = std::map<std::uint64_t, std::tuple<unsigned, double, double, unsigned>>;
+
+    /// By identity: key, start, length and channel.
+    Notes notes() const
+    {
+        Notes result;
+        for (const Note& note : document_.getSequence().notes())
+            result[note.id] = {note.key, note.start, note.length, note.channel};
+        return result;
+    }
+
+    const std::vector<std::uint64_t>& selection() const
+    {
+        return document_.getSequence().selection();
+    }
+
+    void drag(RollPoint from, RollPoint to, Qt::KeyboardModifiers modifiers = kNone)
+    {
+        editor_.mouseDown(from, modifiers);
+        if (from.key != to.key || from.step != to.step)
+            editor_.mouseDragged(to);
+        editor_.mouseUp(to, modifiers);
+    }
+    void click(RollPoint at, Qt::KeyboardModifiers modifiers = kNone) { drag(at, at, modifiers); }
+
+    void rightDrag(RollPoint from, double to)
+    {
+        editor_.rightMouseDown(from);
+        if (from.step != to)
+            editor_.mouseDragged({from.key, to});
+        editor_.mouseUp({from.key, to}, kNone);
+    }
+
+    void type(int key, Qt::KeyboardModifiers modifiers = kNone, unsigned scanCode = 0)
+    {
+        editor_.keyDown({QEvent::KeyPress, key, modifiers, scanCode, 0, 0});
+        editor_.keyUp({QEvent::KeyRelease, key, modifiers, scanCode, 0, 0});
+    }
+
+    QString undoText() { return document_.undoStack().undoText(); }
+    void undo() { document_.undoStack().undo(); }
+    void redo() { document_.undoStack().redo(); }
+
+    SequenceEditor editor_{document_};
+};
+
+} // namespace
+
+TEST_F(SequenceEditorTest, MovesANoteOrResizesItByItsEnd)
+{
+    add(60, 4.0, 4.0); // its last step, eight pixels, is for resizing
+    click({60.0, 5.0});
+    EXPECT_EQ(undoText(), "") << "nothing has moved";
+    drag({60.0, 6.9}, {62.0, 7.4});
+    EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 4.0, 0));
+    EXPECT_EQ(undoText(), "Move 1 Note");
+    drag({62.0, 7.6}, {99.0, 6.0});
+    EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 1.5, 0));
+    EXPECT_EQ(document_.extent(), 38.0);
+    EXPECT_EQ(undoText(), "Resize 1 Note");
+    drag({62.0, 6.0}, {62.0, 1.0});
+    EXPECT_THAT(notes(), IsEmpty()) << "to nothing";
+    EXPECT_EQ(undoText(), "Delete 1 Note");
+    undo();
+    EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 1.5, 0));
+    undo();
+    undo();
+    EXPECT_THAT(notes()[1], FieldsAre(60, 4.0, 4.0, 0));
+    redo();
+    EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 4.0, 0));
+
+    undo();
+    type(Qt::Key_Escape); // the note's committed place is still the one that was undone
+    drag({60.0, 5.0}, {60.0, 6.0});
+    EXPECT_THAT(notes()[1], FieldsAre(60, 5.0, 4.0, 0));
+    document_.setSnapToGrid(true);
+    drag({60.0, 5.9}, {60.0, 7.1});
+    EXPECT_THAT(notes()[1], FieldsAre(60, 7.0, 4.0, 0));
+    drag({60.0, 10.5}, {60.0, 12.1});
+    EXPECT_THAT(notes()[1], FieldsAre(60, 7.0, 6.0, 0)) << "up to the whole step";
+}
+
+TEST_F(SequenceEditorTest, DrawsWithTheRightButtonOrCommand)
+{
+    document_.setChannel(2);
+    rightDrag({60.0, 4.5}, 4.5);
+    rightDrag({61.0, 5.0}, 7.0);
+    rightDrag({62.0, 5.0}, 4.0);
+    editor_.mouseDown({500.0, 1.0}, kCommand);
+    editor_.mouseUp({500.0, 1.0}, kCommand);
+    EXPECT_THAT(notes(), ElementsAre(FieldsAre(1, FieldsAre(60, 4.5, 1.0, 2)),
+                                     FieldsAre(2, FieldsAre(61, 5.0, 2.0, 2)),
+                                     FieldsAre(4, FieldsAre(127, 1.0, 1.0, 2))));
+    EXPECT_THAT(selection(), ElementsAre(4));
+    EXPECT_EQ(undoText(), "Draw Note");
+    undo();
+    undo();
+    EXPECT_EQ(notes().size(), 1U);
+
+    // A note that goes while it is drawn is not missed.
+    editor_.rightMouseDown({64.0, 1.0});
+    document_.edit().erase(5);
+    editor_.mouseDragged({64.0, 3.0});
+    editor_.mouseUp({64.0, 3.0}, kNone);
+    EXPECT_EQ(notes().size(), 1U);
+}
+
+TEST_F(SequenceEditorTest, SelectsNotesAndTheInterval)
+{
+    for (const double start : {2.0, 3.0, 20.0})
+        add(60, start, 8.0);
+    click({60.0, 4.0});
+    EXPECT_THAT(selection(), ElementsAre(2)) << "the one on top";
+    click({60.0, 4.0}, kShift);
+    EXPECT_THAT(selection(), ElementsAre(1)) << "all under the mouse change";
+
+    drag({0.0, 9.0}, {0.0, 1.0});
+    EXPECT_EQ(document_.getSelectionStart(), 1.0);
+    EXPECT_EQ(document_.getSelectionEnd(), 9.0);
+    EXPECT_EQ(document_.getOffset(), 9.0) << "where the press was";
+    click({0.0, 2.0});
+    click({0.0, 5.0}, kShift);
+    EXPECT_EQ(document_.getSelectionEnd(), 5.0);
+    EXPECT_THAT(selection(), ElementsAre(1, 2, 1)) << "once more";
+    editor_.deleteSelection();
+    EXPECT_EQ(undoText(), "Delete 2 Notes");
+    EXPECT_EQ(notes().size(), 1U);
+    undo();
+    EXPECT_EQ(notes().size(), 3U) << "each once";
+    editor_.deleteSelection();
+    EXPECT_EQ(document_.undoStack().count(), 1) << "nothing is selected";
+}
+
+TEST_F(SequenceEditorTest, TakesKeysByTheirPosition)
+{
+    add(60, 1.0, 1.0);
+    calls_.clear();
+    type(Qt::Key_A, kNone, 24); // where the US layout has q, whatever is typed
+    type(Qt::Key_Q, kShift);
+    type(Qt::Key_A);
+    type(Qt::Key_AsciiTilde, kShift);
+    type(Qt::Key_Backslash);
+    EXPECT_EQ(std::exchange(calls_, {}),
+              (Calls{"isomorph 34", "stop 59", "isomorph 70", "stop 71", "isomorph 0", "stop 48",
+                     "isomorph 35", "stop 60", "isomorph 33", "stop 59"}));
+
+    type(Qt::Key_Eacute, kNone, 11); // where it has 2
+    EXPECT_EQ(document_.channel(), 1);
+    type(Qt::Key_0, kShift);
+    EXPECT_EQ(document_.channel(), 19);
+    type(Qt::Key_1);
+    EXPECT_THAT(selection(), ElementsAre(1)) << "all of channel 0";
+    type(Qt::Key_3, kCommand);
+    EXPECT_THAT(notes()[1], FieldsAre(60, 1.0, 1.0, 2));
+    undo();
+    EXPECT_THAT(notes()[1], FieldsAre(60, 1.0, 1.0, 0));
+
+    type(Qt::Key_Up);
+    EXPECT_EQ(document_.getOffset(), 1.0);
+    type(Qt::Key_Up, kCommand);
+    EXPECT_EQ(document_.getOffset(), 8 * 34.0) << "the height of the roll";
+    type(Qt::Key_Space);
+    EXPECT_EQ(document_.mode(), SequenceDocument::Mode::Playing);
+    type(Qt::Key_Space);
+    type(Qt::Key_Return);
+    EXPECT_EQ(document_.mode(), SequenceDocument::Mode::Recording);
+
+    testing::internal::CaptureStdout();
+    type(Qt::Key_F5, kNone, 71);
+    type(Qt::Key_Shift, kShift, 50);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "case 71:\n");
+}
+
+TEST_F(SequenceEditorTest, LeavesNothingSoundingThatIsEdited)
+{
+    add(60, 0.5, 8.0);
+    document_.play();
+    const auto edited = [&](auto edit) {
+        document_.setOffset(0.0);
+        tick(1.0);
+        calls_.clear();
+        edit();
+        return calls_;
+    };
+    const Calls once{"stop 60"};
+    EXPECT_EQ(edited([&] { drag({60.0, 2.0}, {60.0, 2.5}); }), once);
+    EXPECT_EQ(edited([&] { undo(); }), once);
+    editor_.selectAll();
+    EXPECT_EQ(edited([&] { editor_.cut(); }), once);
+}
+
+TEST_F(SequenceEditorTest, PastesAtThePosition)
+{
+    add(60, 3.0, 1.0);
+    add(64, 4.5, 2.0);
+    editor_.selectAll();
+    const QByteArray bytes = encodeNotes(editor_.cut());
+    EXPECT_EQ(undoText(), "Cut 2 Notes");
+    document_.setOffset(10.0);
+    editor_.paste(decodeNotes(bytes));
+    EXPECT_THAT(notes(), ElementsAre(FieldsAre(3, FieldsAre(60, 10.0, 1.0, 0)),
+                                     FieldsAre(4, FieldsAre(64, 11.5, 2.0, 0))));
+    EXPECT_THAT(selection(), ElementsAre(3, 4));
+    EXPECT_EQ(document_.extent(), 45.5);
+    EXPECT_EQ(undoText(), "Paste 2 Notes");
+
+    EXPECT_THAT(decodeNotes(bytes.chopped(1)), IsEmpty());
+    QByteArray wrong = bytes;
+    wrong.back() = '\x80';
+    EXPECT_THAT(decodeNotes(wrong), IsEmpty()) << "no such key";
+}
+
+TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
+{
+    std::mt19937 random(3);
+    const auto any = [&](unsigned count) { return static_cast<int>(random() % count); };
+    const auto place = [&] { return RollPoint{60.0 + any(6), any(80) * 0.25}; };
+    QUndoStack& stack = document_.undoStack();
+    std::map<int, Notes> states{{0, {}}}; // by the number of edits
+    for (int i = 0; i < 1500; ++i) {
+        const int before = stack.index();
+        document_.setSnapToGrid(any(4) == 0);
+        switch (any(9)) {
+        case 0:
+            rightDrag(place(), any(80) * 0.25);
+            break;
+        case 1:
+        case 2:
+            drag(place(), place(), any(3) == 0 ? kShift : kNone);
+            break;
+        case 3:
+            type(Qt::Key_1 + any(4), any(2) == 0 ? kCommand : kNone);
+            break;
+        case 4:
+            type(any(3) == 0 ? Qt::Key_Delete : Qt::Key_Escape);
+            break;
+        case 5:
+            editor_.paste(any(2) == 0 ? editor_.copy() : std::vector<Note>{});
+            break;
+        case 6: // recording, with another gesture in between
+            document_.setOffset(any(80) * 0.25);
+            document_.record();
+            noteStates[60 + unsigned(any(6))] = 1;
+            tick(any(8) * 0.25);
+            drag(place(), place());
+            tick(any(8) * 0.25);
+            document_.record();
+            std::ranges::fill(noteStates, 0);
+            break;
+        case 7:
+            undo();
+            break;
+        default:
+            redo();
+        }
+        const int index = stack.index();
+        if (stack.count() == index) { // of several edits at once, only the last state is seen
+            states.erase(states.upper_bound(std::min(before, index - 1)), states.end());
+            states[index] = notes();
+        }
+        ASSERT_TRUE(!states.contains(index) || notes() == states[index]) << i;
+    }
+
+    const Notes last = (stack.setIndex(stack.count()), notes());
+    for (auto state = states.rbegin(); state != states.rend(); ++state) {
+        stack.setIndex(state->first);
+        ASSERT_EQ(notes(), state->second) << "after edit " << state->first;
+    }
+    stack.setIndex(stack.count());
+    EXPECT_EQ(notes(), last);
+}

@@ -1,0 +1,180 @@
+// Live keys: recorded, and practised.
+
+#include "support/SequenceTest.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::FieldsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class SequenceRecordingTest : public SequenceTest {
+protected:
+    void press(unsigned key)
+    {
+        notePressTimes[key] = now_;
+        noteVelocities[key] = 0.5F;
+        noteStates[key] = 1;
+    }
+    void release(unsigned key) { noteStates[key] = 0; }
+
+    /// So many steps, in ticks of 1/64 of one.
+    void run(double steps)
+    {
+        for (double done = 0.0; done < steps; done += 1.0 / 64.0)
+            tick(1.0 / 64.0);
+    }
+
+    /// Key, start and length of the notes, rounded to tenths.
+    std::vector<std::tuple<unsigned, double, double>> recorded() const
+    {
+        std::vector<std::tuple<unsigned, double, double>> result;
+        for (const Note& note : document_.getSequence().notes())
+            result.emplace_back(note.key, std::round(note.start * 10.0) / 10.0,
+                                std::round(note.length * 10.0) / 10.0);
+        return result;
+    }
+
+    int keyAfterInput(unsigned key)
+    {
+        document_.midiInput();
+        return document_.stateOfNote(key);
+    }
+};
+
+} // namespace
+
+TEST_F(SequenceRecordingTest, RunsOnForEightStepsBehindTheLastKey)
+{
+    document_.setChannel(3);
+    document_.record();
+    document_.play();
+    EXPECT_EQ(document_.mode(), SequenceDocument::Mode::Recording) << "no playing meanwhile";
+    run(1.0);
+    EXPECT_LT(document_.getOffset(), 0.1) << "waits for the first key";
+    press(60);
+    run(2.0);
+    release(60);
+    run(1.0);
+    press(60);
+    run(1.0);
+    press(64); // the first stays as long as it was
+    run(1.0);
+    release(60);
+    release(64);
+    run(20.0);
+    EXPECT_THAT(recorded(), ElementsAre(FieldsAre(60, 0.0, 2.0), FieldsAre(60, 3.0, 2.0),
+                                        FieldsAre(64, 4.0, 1.0)));
+    EXPECT_EQ(document_.getSequence().notes()[0].channel, 3U);
+    EXPECT_EQ(document_.getSequence().notes()[0].velocity, 0.5F);
+    EXPECT_NEAR(document_.getOffset(), 13.0, 0.1);
+    EXPECT_NEAR(document_.extent(), 45.0, 0.1);
+
+    EXPECT_TRUE(document_.isModified());
+    EXPECT_EQ(document_.undoStack().undoText(), "");
+    document_.record();
+    EXPECT_EQ(document_.undoStack().undoText(), "Record 3 Notes");
+    document_.undoStack().undo();
+    EXPECT_THAT(recorded(), IsEmpty());
+    EXPECT_FALSE(document_.isModified());
+    document_.undoStack().redo();
+    EXPECT_EQ(recorded().size(), 3U);
+}
+
+TEST_F(SequenceRecordingTest, RunsOnGridOnlyWhileAKeyIsHeld)
+{
+    add(64, 0.0, 1.0);
+    document_.setOffset(2.0);
+    document_.setSnapToGrid(true);
+    document_.record();
+    run(5.0);
+    EXPECT_EQ(document_.getOffset(), 2.0);
+    press(60);
+    run(0.5);
+    release(60);
+    noteStates[64] = 4; // held from before: lengthens what is there
+    run(3.0);
+    EXPECT_NEAR(document_.getOffset(), 5.5, 0.1);
+    document_.record();
+    EXPECT_THAT(recorded(), ElementsAre(FieldsAre(64, 0.0, 5.0), FieldsAre(60, 2.0, 0.0)));
+    document_.undoStack().undo();
+    EXPECT_THAT(recorded(), ElementsAre(FieldsAre(64, 0.0, 1.0)));
+}
+
+TEST_F(SequenceRecordingTest, TakesAKeyWhereItArrivedWhenTheTickIsLate)
+{
+    document_.record();
+    press(60);
+    run(1.0);
+    now_ += 1.0 / 15.0;
+    press(64);
+    tick(2.0);
+    // A last one comes after the tick has read the clock.
+    notePressTimes[67] = now_ + 1.0;
+    noteStates[67] = 1;
+    tick(0.01);
+    EXPECT_THAT(recorded(), ElementsAre(FieldsAre(60, 0.0, 4.0), FieldsAre(64, 2.0, 2.0)));
+}
+
+TEST_F(SequenceRecordingTest, GoesOnWhenTheWantedChordIsStruck)
+{
+    for (const unsigned key : {60U, 64U})
+        add(key, 2.0, 1.0);
+    add(60, 4.0, 1.0);
+    document_.edit().sort();
+    document_.getCurrentNotes(true);
+    EXPECT_EQ(document_.getOffset(), 2.0) << "nothing is wanted at 0";
+    EXPECT_EQ(document_.stateOfNote(60), 2) << "wanted";
+
+    press(61);
+    EXPECT_EQ(keyAfterInput(61), 1) << "wrong";
+    press(60);
+    EXPECT_EQ(keyAfterInput(60), 3) << "right";
+    press(64);
+    EXPECT_EQ(keyAfterInput(64), 3);
+    EXPECT_EQ(document_.getOffset(), 2.0) << "the wrong key is still down";
+    release(61);
+    EXPECT_EQ(keyAfterInput(64), 4) << "held and taken into account";
+    EXPECT_EQ(document_.getOffset(), 4.0);
+    EXPECT_EQ(document_.stateOfNote(60), 6) << "held from before: to be struck again";
+    release(60);
+    EXPECT_EQ(keyAfterInput(60), 2);
+    press(60);
+    EXPECT_EQ(keyAfterInput(60), 6) << "once more: nothing comes behind";
+    EXPECT_EQ(document_.getOffset(), 4.0);
+
+    document_.selectInterval(2.0, 4.0);
+    document_.setOffset(2.0);
+    document_.setLoop(true);
+    for (const unsigned key : {60U, 64U})
+        press(key);
+    EXPECT_EQ(keyAfterInput(60), 6);
+    EXPECT_EQ(document_.getOffset(), 2.0) << "from the end of the interval to its beginning";
+}
+
+TEST_F(SequenceRecordingTest, WalksFromChordToChord)
+{
+    for (const double start : {1.0, 1.05, 3.0, 3.08, 5.0})
+        add(60, start, 0.5);
+    const auto reached = [&](void (SequenceDocument::*step)()) {
+        (document_.*step)();
+        return std::pair(document_.getOffset(), document_.getNote());
+    };
+    const auto next = &SequenceDocument::nextNote, previous = &SequenceDocument::prevNote;
+    EXPECT_EQ(reached(next), std::pair(1.0, 0));
+    EXPECT_EQ(reached(next), std::pair(3.0, 2));
+    EXPECT_EQ(reached(next), std::pair(5.0, 4));
+    EXPECT_EQ(reached(next), std::pair(5.0, 4)) << "nothing behind";
+    EXPECT_EQ(reached(previous), std::pair(3.0, 2)) << "the first of the chord";
+    EXPECT_EQ(reached(previous), std::pair(1.05, -1)) << "the last one that was found";
+    document_.setOffset(0.5);
+    EXPECT_EQ(reached(previous), std::pair(0.5, -1)) << "nothing before";
+    document_.setLoop(true);
+    document_.setOffset(5.0);
+    EXPECT_EQ(reached(next), std::pair(1.0, 0)) << "round";
+    document_.selectInterval(2.0, 5.0);
+    document_.setOffset(5.0);
+    EXPECT_EQ(reached(next), std::pair(2.0, 2)) << "to the beginning of the interval";
+}
