@@ -74,6 +74,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     stops_->setFrameShape(QFrame::NoFrame);
     stops_->setFocusPolicy(Qt::NoFocus);
     stops_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    stops_->setMinimumWidth(kStopWidth);
     stops_->setMinimumHeight(kSliderTop + kSliderHeight +
                              stops_->horizontalScrollBar()->sizeHint().height());
 

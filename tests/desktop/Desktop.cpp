@@ -163,6 +163,7 @@ TEST_F(DesktopTest, ThePanelHasASliderForEachStop)
     application.setVolume(0.5F, 4);
     QApplication::processEvents();
     application.selectInstrument(0);
+    QTRY_COMPARE(panel.width(), 261);
 }
 
 TEST_F(DesktopTest, TheTuningMenuKeepsTheOrderAndBothOfAName)
