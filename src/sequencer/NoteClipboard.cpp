@@ -11,9 +11,12 @@ namespace {
 
 constexpr std::uint32_t kLastChannel = 255;
 
+/// Steps that no sequence comes near, and from which no sum runs out of the numbers.
+constexpr double kFar = 1e12;
+
 bool isValid(const Note& note)
 {
-    return std::isfinite(note.start) && std::isfinite(note.length) && note.length >= 0.0 &&
+    return std::abs(note.start) < kFar && note.length >= 0.0 && note.length < kFar &&
            note.velocity >= 0.0F && note.velocity <= 1.0F && note.channel <= kLastChannel &&
            note.key < kKeys;
 }

@@ -54,7 +54,7 @@ private:
     void selectUpTo(double end);
     double snapped(double step) const;
 
-    bool transport(int key, bool command);
+    bool takeNamedKey(int key, bool command);
     void isomorph(int number);
     void setChannel(unsigned char channel, bool ofSelection);
     std::vector<Note> remove(const char* verb);

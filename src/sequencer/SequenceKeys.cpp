@@ -38,7 +38,7 @@ void SequenceEditor::keyDown(const QKeyEvent& event)
         isomorph(*number + (shift ? kShiftedOctave : 0));
     else if (const auto channel = channelNumber(character))
         setChannel(static_cast<unsigned char>(*channel + (shift ? kShiftedChannel : 0)), command);
-    else if (!transport(event.key(), command))
+    else if (!takeNamedKey(event.key(), command))
         std::printf("case %d:\n", event.nativeScanCode() != 0
                                       ? static_cast<int>(event.nativeScanCode())
                                       : event.key());
@@ -46,7 +46,7 @@ void SequenceEditor::keyDown(const QKeyEvent& event)
     emit document_.frame();
 }
 
-bool SequenceEditor::transport(int key, bool command)
+bool SequenceEditor::takeNamedKey(int key, bool command)
 {
     switch (key) {
     case Qt::Key_Return:

@@ -1,11 +1,16 @@
 #include "platform/MidiBytes.h"
+#include "sequencer/SequenceClock.h"
 #include "support/SequenceTest.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <gmock/gmock.h>
 
 #include <fstream>
 
 namespace {
+
+using namespace std::chrono_literals;
 
 class SequenceDocumentTest : public SequenceTest {
 protected:
@@ -37,6 +42,8 @@ protected:
 
 TEST_F(SequenceDocumentTest, PlaysToTheEndAndGoesBackToTheBeginning)
 {
+    double shown = -1.0;
+    QObject::connect(&document_, &SequenceDocument::frame, [&] { shown = document_.getOffset(); });
     expectTick(100.0, {}); // before it plays
     document_.play();
     expectTick(1.5, {});
@@ -51,6 +58,7 @@ TEST_F(SequenceDocumentTest, PlaysToTheEndAndGoesBackToTheBeginning)
     expectTick(1.0, {"stop 60", "stop 64"});
     EXPECT_EQ(document_.mode(), kStopped);
     EXPECT_EQ(document_.getOffset(), 0.0);
+    EXPECT_EQ(shown, 0.0) << "no further tick shows it";
 
     document_.setLoop(true);
     document_.play();
@@ -85,6 +93,25 @@ TEST_F(SequenceDocumentTest, PlaysTheSelectedInterval)
         EXPECT_EQ(document_.mode() == kStopped, !loop);
         EXPECT_EQ(document_.getOffset(), 3.0);
     }
+}
+
+TEST_F(SequenceDocumentTest, TicksByItselfOnlyWhileItPlays)
+{
+    SequenceClock clock(document_);
+    int frames = 0;
+    QObject::connect(&document_, &SequenceDocument::frame, [&] { ++frames; });
+    const auto framesWithin = [&](auto time) {
+        frames = 0;
+        for (QDeadlineTimer end(time); !end.hasExpired();)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        return frames;
+    };
+    EXPECT_EQ(framesWithin(50ms), 0);
+    document_.play();
+    const int inTime = framesWithin(200ms);
+    EXPECT_TRUE(inTime > 2 && inTime < 15) << inTime;
+    document_.play();
+    EXPECT_EQ(framesWithin(50ms), 0);
 }
 
 TEST_F(SequenceDocumentTest, IsEmptyWithASentenceAfterABrokenFile)

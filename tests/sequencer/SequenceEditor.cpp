@@ -83,8 +83,10 @@ TEST_F(SequenceEditorTest, MovesANoteOrResizesItByItsEnd)
     drag({62.0, 6.0}, {62.0, 1.0});
     EXPECT_THAT(notes(), IsEmpty()) << "to nothing";
     EXPECT_EQ(undoText(), "Delete 1 Note");
+    EXPECT_EQ(document_.extent(), 0.0);
     undo();
     EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 1.5, 0));
+    EXPECT_EQ(document_.extent(), 38.0);
     undo();
     undo();
     EXPECT_THAT(notes()[1], FieldsAre(60, 4.0, 4.0, 0));
@@ -209,6 +211,21 @@ TEST_F(SequenceEditorTest, LeavesNothingSoundingThatIsEdited)
     EXPECT_EQ(edited([&] { undo(); }), once);
     editor_.selectAll();
     EXPECT_EQ(edited([&] { editor_.cut(); }), once);
+}
+
+TEST_F(SequenceEditorTest, KeepsTheOrderOfATakeAndTheEditsWithin)
+{
+    document_.record();
+    noteStates[60] = 1;
+    tick(2.0);
+    noteStates[60] = 0;
+    drag({60.0, 0.5}, {62.0, 0.5});
+    document_.record();
+    EXPECT_EQ(undoText(), "Move 1 Note");
+    undo();
+    EXPECT_EQ(undoText(), "Record 1 Note");
+    undo();
+    EXPECT_THAT(notes(), IsEmpty());
 }
 
 TEST_F(SequenceEditorTest, PastesAtThePosition)
