@@ -56,14 +56,14 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
         auto synthesizer = makeOfflineSynthesizer(rate, settings.banks);
         source_ = synthesizer.get();
         document_ = InstrumentDocument::initWithMIDIPlayer(std::move(synthesizer));
-        getInstrument()->setInstrument(settings.program);
+        document_->getInstrument()->setInstrument(settings.program);
     } else {
         source_ = &loopback_.emplace(rate);
         document_ = std::make_unique<InstrumentDocument>();
         if (!document_->readFromURL(settings.instrument, settings.type, host))
             throw std::runtime_error(document_->errorString());
     }
-    Instrument& instrument = *getInstrument();
+    Instrument& instrument = *document_->getInstrument();
     for (std::size_t stop = 0; stop < settings.gains.size(); ++stop)
         instrument.setVolume(stop, settings.gains[stop]);
     instrument.tune(*temperament_, 0, static_cast<int>(kKeys) - 1);

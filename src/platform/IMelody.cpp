@@ -154,8 +154,8 @@ std::vector<std::string> melodyOf(const std::vector<Stretch>& stretches)
     for (auto stretch = stretches.begin(); stretch != stretches.end(); ++stretch) {
         if (written >= stretch->end)
             continue; // the notes before it were shorter than what can be written
-        for (double rest = stretch->begin - written; rest > kHalfShortest;
-             rest = stretch->begin - written) {
+        while (stretch->begin - written > kHalfShortest) {
+            const double rest = stretch->begin - written;
             const Length& length = nearestLength(rest, rest);
             melody.push_back("r" + length.text);
             written += length.units;
