@@ -1,11 +1,13 @@
 #include "desktop/SequenceWindow.h"
 
+#include "app/AppDelegate.h"
 #include "desktop/Commands.h"
 #include "desktop/SequenceActions.h"
 #include "desktop/SequenceScrollView.h"
 #include "desktop/SequenceStatus.h"
 #include "desktop/SequenceView.h"
 #include "desktop/TransportBar.h"
+#include "desktop/exportAudio.h"
 #include "desktop/icons.h"
 #include "desktop/windowPlace.h"
 #include "preferences/Preferences.h"
@@ -28,10 +30,10 @@ constexpr double kPartOfScreen = 0.9;
 
 } // namespace
 
-SequenceWindow::SequenceWindow(SequenceHost& host, Commands& commands, const QString& name,
+SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, const QString& name,
                                RecoveryFile recovery)
-    : commands_(commands), name_(name), document_(host), editor_(document_), clock_(document_),
-      keeper_(document_, std::move(recovery)),
+    : application_(application), commands_(commands), name_(name), document_(application),
+      editor_(document_), clock_(document_), keeper_(document_, std::move(recovery)),
       actions_(std::make_unique<SequenceActions>(document_, editor_)),
       scrollView_(new SequenceScrollView)
 {
@@ -49,6 +51,8 @@ SequenceWindow::SequenceWindow(SequenceHost& host, Commands& commands, const QSt
 
 SequenceWindow::~SequenceWindow()
 {
+    if (!isSettled_)
+        keeper_.leave();
     // The widgets go after the document.
     scrollView_->view().setDocument(nullptr, nullptr);
     disconnect(&document_, nullptr, nullptr, nullptr);
@@ -81,6 +85,8 @@ void SequenceWindow::makeMenus()
     file->addAction(icon("save"), tr("&Save"), QKeySequence::Save, this, [this] { save(); });
     file->addAction(tr("Save &As…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this,
                     [this] { saveAs(); });
+    file->addAction(icon("export"), tr("&Export Audio…"), QKeySequence(Qt::CTRL | Qt::Key_E), this,
+                    [this] { exportAudio(*this, document_, application_); });
     file->addSeparator();
     file->addAction(tr("&Close"), QKeySequence(Qt::CTRL | Qt::Key_W), this, &QWidget::close);
     commands_.addClosing(*file);
@@ -119,7 +125,7 @@ void SequenceWindow::fitToScreen()
 
 void SequenceWindow::showDocument()
 {
-    document_.getCurrentNotes(true);
+    document_.midiInput(); // what is wanted at the beginning
     updateDocumentSizes();
     showTitle();
 }
@@ -179,6 +185,7 @@ void SequenceWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    isSettled_ = true;
     scrollView_->view().setDocument(nullptr, nullptr);
     document_.stop();
     emit closing();

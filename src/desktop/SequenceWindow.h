@@ -7,6 +7,7 @@
 
 #include <QMainWindow>
 
+class AppDelegate;
 class Commands;
 class SequenceActions;
 class SequenceScrollView;
@@ -18,8 +19,10 @@ class SequenceWindow : public QMainWindow {
 public:
     /// A new sequence under a name that stands in the title until it is saved. `recovery` is what
     /// the document is kept in against a crash.
-    SequenceWindow(SequenceHost& host, Commands& commands, const QString& name,
+    SequenceWindow(AppDelegate& application, Commands& commands, const QString& name,
                    RecoveryFile recovery = RecoveryFile());
+
+    /// Where the user was not asked, what is not saved is left to be recovered.
     ~SequenceWindow() override;
 
     SequenceDocument& document() { return document_; }
@@ -73,6 +76,7 @@ private:
                SequenceDocument::SaveOperation operation);
     QString displayName() const;
 
+    AppDelegate& application_;
     Commands& commands_;
     QString name_;
     SequenceDocument document_;

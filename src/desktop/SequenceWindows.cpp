@@ -37,8 +37,9 @@ QString listed(const std::vector<Abandoned>& found)
 
 } // namespace
 
-SequenceWindows::SequenceWindows(SequenceHost& host, Commands& commands, KeyboardView& keyboard)
-    : host_(host), commands_(commands), keyboard_(keyboard)
+SequenceWindows::SequenceWindows(AppDelegate& application, Commands& commands,
+                                 KeyboardView& keyboard)
+    : application_(application), commands_(commands), keyboard_(keyboard)
 {
 }
 
@@ -53,7 +54,7 @@ SequenceWindows::~SequenceWindows()
 
 SequenceWindow& SequenceWindows::make(RecoveryFile recovery)
 {
-    auto* window = new SequenceWindow(host_, commands_, unusedName(), std::move(recovery));
+    auto* window = new SequenceWindow(application_, commands_, unusedName(), std::move(recovery));
     if (!windows_.empty())
         window->move(windows_.back()->pos() + kCascade);
     windows_.push_back(window);

@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
+class AppDelegate;
 class Commands;
 class KeyboardView;
 class QKeyEvent;
-class SequenceHost;
 class SequenceWindow;
 
 /// The sequence windows that are open. The main one is that which was last in front, also while the
@@ -20,7 +20,7 @@ class SequenceWindows : public QObject {
 
 public:
     /// All of them must outlive it.
-    SequenceWindows(SequenceHost& host, Commands& commands, KeyboardView& keyboard);
+    SequenceWindows(AppDelegate& application, Commands& commands, KeyboardView& keyboard);
     ~SequenceWindows() override;
 
     /// Opens a window with an empty sequence.
@@ -58,7 +58,7 @@ private:
     void remove(SequenceWindow& window);
     QString unusedName();
 
-    SequenceHost& host_;
+    AppDelegate& application_;
     Commands& commands_;
     KeyboardView& keyboard_;
     std::vector<SequenceWindow*> windows_; ///< Each of them owns itself.

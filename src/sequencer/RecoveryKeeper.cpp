@@ -22,7 +22,16 @@ RecoveryKeeper::RecoveryKeeper(SequenceDocument& document, RecoveryFile file,
 RecoveryKeeper::~RecoveryKeeper()
 {
     writer_.waitForDone();
-    file_.discard();
+    if (!isLeft_)
+        file_.discard();
+}
+
+void RecoveryKeeper::leave()
+{
+    writer_.waitForDone();
+    isLeft_ = document_.isModified();
+    if (isLeft_)
+        keep(document_.snapshot());
 }
 
 void RecoveryKeeper::edited()

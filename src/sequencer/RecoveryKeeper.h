@@ -26,6 +26,10 @@ public:
                             std::chrono::milliseconds interval = kUsualInterval);
     ~RecoveryKeeper() override;
 
+    /// Keeps what is not saved now, and beyond the end of the keeper: the program ends without
+    /// having asked what is wanted.
+    void leave();
+
 private:
     void edited();
     void write();
@@ -34,6 +38,7 @@ private:
     SequenceDocument& document_;
     RecoveryFile file_;   ///< Belongs to the writer while that is busy.
     bool failed_ = false; ///< Likewise: whether it could not be written last time.
+    bool isLeft_ = false;
     QTimer timer_;
     QThreadPool writer_;
 };

@@ -1,0 +1,274 @@
+#include "desktop/SequenceWindow.h"
+
+#include "desktop/Desktop.h"
+#include "desktop/KeyboardView.h"
+#include "desktop/SequenceScrollView.h"
+#include "desktop/SequenceView.h"
+#include "preferences/Preferences.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolBar>
+#include <QtTest>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+/// The program without devices, with a sequence window.
+class SequenceWindowTest : public testing::Test {
+protected:
+    SequenceWindowTest()
+    {
+        QObject::connect(&desktop.sequenceWindows(), &SequenceWindows::opened,
+                         [this](SequenceWindow& window) { last = &window; });
+    }
+
+    SequenceWindow& open(const char* file = nullptr)
+    {
+        if (file != nullptr)
+            desktop.open({QString(VELMORA_EXAMPLES "/") + file});
+        else
+            desktop.sequenceWindows().create();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(last));
+        return *last;
+    }
+
+    static SequenceView& view(SequenceWindow& window) { return *window.findChild<SequenceView*>(); }
+
+    static QAction& action(SequenceWindow& window, const QString& text)
+    {
+        QList<QAction*> actions = window.menuBar()->actions();
+        for (qsizetype i = 0; i < actions.size(); ++i) {
+            if (actions[i]->iconText() == text)
+                return *actions[i];
+            if (actions[i]->menu() != nullptr)
+                actions += actions[i]->menu()->actions();
+        }
+        throw std::runtime_error(text.toStdString());
+    }
+
+    /// What the status line and the position say, without what is empty.
+    static std::vector<std::string> said(SequenceWindow& window)
+    {
+        std::vector<std::string> texts;
+        for (const QLabel* label : window.statusBar()->findChildren<QLabel*>())
+            if (!label->text().isEmpty())
+                texts.push_back(label->text().toStdString());
+        return texts;
+    }
+
+    /// Answers the message boxes that open while `act` is done, by the text of a button each.
+    template <class Act>
+    std::vector<std::string> answering(const std::vector<QString>& answers, const Act& act)
+    {
+        std::vector<std::string> texts;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr || texts.size() >= answers.size())
+                return;
+            texts.push_back(box->informativeText().toStdString());
+            for (QAbstractButton* button : box->buttons())
+                if (button->text().remove('&') == answers[texts.size() - 1])
+                    button->click();
+        });
+        timer.start(5);
+        act();
+        EXPECT_EQ(texts.size(), answers.size());
+        return texts;
+    }
+
+    void draw(SequenceWindow& window, QPoint place = {200, 200})
+    {
+        QTest::mouseClick(&view(window), Qt::RightButton, {}, place);
+    }
+
+    bool closes(SequenceWindow& window)
+    {
+        const QPointer<SequenceWindow> watched(&window);
+        window.close();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return watched.isNull();
+    }
+
+    Desktop desktop;
+    SequenceWindow* last = nullptr;
+    KeyboardView& keyboard = desktop.keyboardWindow().keyboard();
+};
+
+} // namespace
+
+TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
+{
+    SequenceWindow& window = open();
+    QAction& play = action(window, "Play");
+    QAction& record = action(window, "Record");
+    SequenceDocument& document = window.document();
+    draw(window);
+    QTest::keyClick(&view(window), Qt::Key_Space);
+    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Playing) << "the key counts once";
+    EXPECT_EQ(play.iconText(), "Stop");
+    EXPECT_FALSE(record.isEnabled());
+    QTest::keyClick(&desktop.keyboardWindow(), Qt::Key_Space);
+    EXPECT_EQ(play.iconText(), "Play");
+    record.trigger();
+    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Recording);
+    EXPECT_EQ(record.iconText(), "Stop");
+    EXPECT_FALSE(play.isEnabled());
+    QTest::keyClick(&view(window), Qt::Key_Return);
+    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Stopped);
+    EXPECT_TRUE(play.isEnabled());
+
+    auto& tempo = *window.findChild<QSpinBox*>();
+    tempo.setFocus();
+    tempo.selectAll();
+    QTest::keyClicks(&tempo, "90");
+    QTest::keyClick(&tempo, Qt::Key_Return);
+    EXPECT_EQ(document.tempo(), 90);
+    EXPECT_EQ(window.focusWidget(), &view(window)) << "the keys are for the roll again";
+    action(window, "Snap to Grid").trigger();
+    action(window, "Loop").trigger();
+    action(window, "5").trigger();
+    EXPECT_TRUE(document.snapToGrid() && document.loops());
+    EXPECT_EQ(document.channel(), 4);
+    answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
+}
+
+TEST_F(SequenceWindowTest, EditsFromTheMenusAndBetweenWindows)
+{
+    SequenceWindow& window = open();
+    SequenceWindow& other = open();
+    draw(window);
+    draw(window, {300, 100});
+    action(window, "Select All").trigger();
+    EXPECT_THAT(said(window), ElementsAre("2 notes selected", "2 notes in all"));
+    action(window, "Cut").trigger();
+    EXPECT_THAT(said(window), ElementsAre("0 notes in all"));
+    EXPECT_EQ(window.menuBar()->actions()[1]->menu()->actions()[0]->text(), "&Undo Cut 2 Notes");
+    action(other, "Paste").trigger();
+    EXPECT_EQ(other.document().getSequence().notes().size(), 2);
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(window.document().getSequence().notes().size(), 2);
+    answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
+}
+
+TEST_F(SequenceWindowTest, TheKeyboardShowsTheSequenceThatWasLastInFront)
+{
+    SequenceWindow& first = open();
+    EXPECT_EQ(keyboard.getDocument(), &first.document());
+    SequenceWindow& second = open();
+    EXPECT_EQ(keyboard.getDocument(), &second.document());
+    desktop.keyboardWindow().activateWindow();
+    QTest::qWait(50);
+    EXPECT_EQ(keyboard.getDocument(), &second.document());
+    first.activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return keyboard.getDocument() == &first.document(); }));
+    EXPECT_TRUE(closes(second));
+    EXPECT_EQ(keyboard.getDocument(), &first.document());
+    EXPECT_TRUE(closes(first));
+    EXPECT_EQ(keyboard.getDocument(), nullptr);
+}
+
+TEST_F(SequenceWindowTest, SaysWhatItWaitsFor)
+{
+    SequenceWindow& window = open("wolf-fantasia.mid");
+    EXPECT_THAT(said(window), ElementsAre("Waiting for C3, G3", "156 notes in all"));
+    desktop.application().keyOn(48, 1.0F);
+    desktop.application().keyOn(50, 1.0F);
+    window.document().midiInput();
+    EXPECT_EQ(said(window).front(), "Waiting for G3, not D3");
+    desktop.application().silenceAll();
+    EXPECT_TRUE(closes(window));
+}
+
+TEST_F(SequenceWindowTest, FollowsThePositionUnlessTheUserScrollsAway)
+{
+    SequenceWindow& window = open("wolf-fantasia.mid");
+    auto& scrollView = *window.findChild<SequenceScrollView*>();
+    EXPECT_EQ(scrollView.location().x(), getPrefInt("KeyRangeLo") * getPrefInt("KeyWidth"));
+    const auto bottomAfter = [&](double step) {
+        window.document().doScroll(step);
+        return scrollView.location().y() / getPrefInt("KeyHeight");
+    };
+    EXPECT_EQ(bottomAfter(100), 92);
+    window.document().play();
+    QApplication::processEvents();
+    EXPECT_EQ(bottomAfter(200), 192);
+    QWheelEvent wheel({100, 100}, scrollView.mapToGlobal(QPoint(100, 100)), {}, {0, -120},
+                      Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&scrollView, &wheel);
+    EXPECT_EQ(bottomAfter(300), 184) << "scrolled away";
+    window.document().play();
+    window.document().play();
+    QApplication::processEvents();
+    EXPECT_EQ(bottomAfter(300), 292) << "started anew";
+    EXPECT_TRUE(closes(window));
+}
+
+TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
+{
+    SequenceWindow& window = open();
+    EXPECT_FALSE(window.isWindowModified());
+    draw(window);
+    EXPECT_TRUE(window.isWindowModified());
+    answering({"Cancel"}, [&] { EXPECT_FALSE(closes(window)); });
+    answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.sequenceWindows().closeAll()); });
+
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("one.mid").toStdString();
+    EXPECT_TRUE(
+        window.document().saveToURL(path, "MIDI File", SequenceDocument::SaveOperation::SaveAs));
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_EQ(window.windowTitle(), "one.mid[*]");
+    draw(window, {300, 100});
+    answering({"Save"}, [&] { EXPECT_TRUE(closes(window)); });
+    SequenceDocument reread(desktop.application());
+    reread.readFromURL(path);
+    EXPECT_EQ(reread.getSequence().notes().size(), 2);
+
+    SequenceWindow& imported = open("wolf-fantasia.mid");
+    EXPECT_THAT(answering({"Cancel"}, [&] { EXPECT_FALSE(imported.save()); }),
+                ElementsAre("The source file contains unprocessed MIDI information which cannot be "
+                            "overwriten (multichannel, meta events,…). Use the 'Save As…' option "
+                            "instead."));
+    EXPECT_EQ(&open("wolf-fantasia.mid"), &imported) << "it is not opened twice";
+    EXPECT_TRUE(closes(imported));
+}
+
+TEST_F(SequenceWindowTest, OffersWhatWasLeftWithoutAsking)
+{
+    Commands commands(desktop.application());
+    const auto run = [&](const auto& act) {
+        SequenceWindows program(desktop.application(), commands, keyboard);
+        QObject::connect(&program, &SequenceWindows::opened,
+                         [this](SequenceWindow& window) { last = &window; });
+        act(program);
+    };
+    run([&](SequenceWindows& program) {
+        program.create();
+        draw(*last);
+    });
+    run([&](SequenceWindows& program) {
+        answering({"Ask Later"}, [&] { program.offerAbandoned(); });
+        EXPECT_TRUE(program.closeAll());
+    });
+    run([&](SequenceWindows& program) {
+        answering({"Recover"}, [&] { program.offerAbandoned(); });
+        EXPECT_TRUE(last->isWindowModified());
+        EXPECT_EQ(last->document().getSequence().notes().size(), 1);
+        answering({"Discard"}, [&] { EXPECT_TRUE(program.closeAll()); });
+        answering({}, [&] { program.offerAbandoned(); });
+    });
+}
