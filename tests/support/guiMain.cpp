@@ -14,6 +14,8 @@ int main(int argc, char** argv)
     for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
         qputenv(variable, home.path().toUtf8());
     qputenv("ALSOFT_DRIVERS", "null");
+    // Nothing that a test does is to reach the user's session.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     chooseGraphics();
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
