@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "platform/Synthesizer.h"
+#include "sequencer/SequenceDocument.h"
 #include "support/Bank.h"
 #include "support/Stereo.h"
 
@@ -61,14 +62,24 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
                 rendered(*synthesizer, 128);
         }
     });
+    SequenceDocument document(app);
+    QObject::connect(&app, &AppDelegate::midiInputReceived, [&] { document.midiInput(); });
     constexpr std::array kTunings = {"Equal", "Quartercomma Meantone", "Dynamic"};
     for (std::size_t i = 0; playing > 0; ++i) {
         app.loop();
         app.selectTuning(kTunings[i % kTunings.size()]);
         app.setInstrument(*players[i / 7 % 2].first, "");
         QCoreApplication::processEvents();
+        // By turns it records, plays what was recorded, and has it practised.
+        if (i % 100 == 0)
+            document.record();
+        else if (i % 100 == 50)
+            document.play();
+        document.loop();
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
+    EXPECT_GT(document.getSequence().notes().size(), 100U) << "of keys that were played";
+    document.stop();
     for (std::thread* thread : {&mouse, &device, &audio})
         thread->join();
 
