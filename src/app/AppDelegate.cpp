@@ -267,7 +267,9 @@ void AppDelegate::keyOff(int key)
 {
     if (!isKey(key))
         return;
+    const double arrived = getTime();
     const std::lock_guard lock(soundLock_);
+    noteReleaseTimes[static_cast<std::size_t>(key)] = arrived;
     noteStates[static_cast<std::size_t>(key)] = 0;
     if (instrument_ != nullptr)
         instrument_->stop(key);

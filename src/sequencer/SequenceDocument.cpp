@@ -95,6 +95,7 @@ void SequenceDocument::record()
     } else if (mode_ == Mode::Stopped) {
         dTime_ = clock_();
         scrollMax_ = offset_;
+        heldKeys_.reset();
         setMode(Mode::Recording);
     }
     emit frame();
@@ -156,10 +157,25 @@ void SequenceDocument::doRecord(double seconds)
         emit sizeChanged();
 }
 
-bool SequenceDocument::recordKey(std::size_t key, double until)
+int SequenceDocument::takeKey(std::size_t key, double until)
 {
     int state = kPressed;
-    if (notePressTimes[key] <= until && noteStates[key].compare_exchange_strong(state, kHeld)) {
+    const double pressed = notePressTimes[key];
+    if (pressed <= until && noteStates[key].compare_exchange_strong(state, kHeld))
+        return kPressed;
+    if (state == kHeld || !(until < noteReleaseTimes[key]))
+        return state == kHeld ? kHeld : 0;
+    // It has been released since then.
+    if (heldKeys_[key])
+        return kHeld;
+    return dTime_ < pressed && pressed <= until ? kPressed : 0;
+}
+
+bool SequenceDocument::recordKey(std::size_t key, double until)
+{
+    const int state = takeKey(key, until);
+    heldKeys_[key] = state != 0;
+    if (state == kPressed) {
         Note note{.start = offset_,
                   .length = 1.0,
                   .oldLength = 1.0,

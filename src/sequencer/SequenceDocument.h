@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QUndoStack>
 
+#include <bitset>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -196,6 +197,9 @@ signals:
 private:
     void doPlay(double seconds);
     void doRecord(double seconds);
+
+    /// How a key stood at a moment since the last tick; takes it into account.
+    int takeKey(std::size_t key, double until);
     bool recordKey(std::size_t key, double until);
     void setMode(Mode mode);
     void apply(void (UndoAction::*change)(Sequence&) const, const UndoAction& action);
@@ -221,6 +225,8 @@ private:
     bool snapToGrid_ = false;
     bool loop_ = false;
     bool isImported_ = false;
+
+    std::bitset<kKeys> heldKeys_; ///< At the last tick of the recording.
 
     /// What the recording has done since it was last registered: the notes that it has changed,
     /// with the length before, or none for a new one.

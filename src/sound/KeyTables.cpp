@@ -2,4 +2,4 @@
 
 std::array<std::atomic<int>, kKeys> noteStates{};
 std::array<std::atomic<float>, kKeys> noteVelocities{};
-std::array<std::atomic<double>, kKeys> notePressTimes{};
+std::array<std::atomic<double>, kKeys> notePressTimes{}, noteReleaseTimes{};

@@ -13,5 +13,6 @@ extern std::array<std::atomic<int>, kKeys> noteStates;
 /// The velocity, 0 to 1, with which each key was last pressed.
 extern std::array<std::atomic<float>, kKeys> noteVelocities;
 
-/// When each key was last pressed, in the seconds of `getTime`. Written before its state.
-extern std::array<std::atomic<double>, kKeys> notePressTimes;
+/// When each key was last pressed and released, in the seconds of `getTime`. Written before its
+/// state.
+extern std::array<std::atomic<double>, kKeys> notePressTimes, noteReleaseTimes;

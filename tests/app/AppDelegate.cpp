@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "base/Clock.h"
 #include "sound/KeyTables.h"
 #include "support/RecordingInstrument.h"
 
@@ -30,10 +31,12 @@ protected:
 
 TEST_F(AppDelegateTest, KeysSoundOnceTheSelectedTemperamentHasTunedThem)
 {
+    const double began = getTime();
     app_.keyOn(60, 0.5F);
     EXPECT_EQ(noteStates[60], 1) << "also without an instrument";
     app_.keyOff(60);
     EXPECT_EQ(noteStates[60], 0);
+    EXPECT_TRUE(began <= notePressTimes[60] && notePressTimes[60] <= noteReleaseTimes[60]);
     app_.setInstrument(instrument_, "Recorder");
     app_.keyOn(127, 0.5F);
     app_.keyOff(127);

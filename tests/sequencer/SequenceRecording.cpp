@@ -18,7 +18,11 @@ protected:
         noteVelocities[key] = 0.5F;
         noteStates[key] = 1;
     }
-    void release(unsigned key) { noteStates[key] = 0; }
+    void release(unsigned key)
+    {
+        noteReleaseTimes[key] = now_;
+        noteStates[key] = 0;
+    }
 
     /// So many steps, in ticks of 1/64 of one.
     void run(double steps)
@@ -105,17 +109,24 @@ TEST_F(SequenceRecordingTest, RunsOnGridOnlyWhileAKeyIsHeld)
 
 TEST_F(SequenceRecordingTest, TakesAKeyWhereItArrivedWhenTheTickIsLate)
 {
+    const double step = 1.0 / 15.0;
     document_.record();
     press(60);
     run(1.0);
-    now_ += 1.0 / 15.0;
+    now_ += step;
+    release(60);
     press(64);
-    tick(2.0);
+    now_ += step;
+    press(65); // comes and goes unseen
+    now_ += step;
+    release(65);
+    tick(1.0);
     // A last one comes after the tick has read the clock.
     notePressTimes[67] = now_ + 1.0;
     noteStates[67] = 1;
     tick(0.01);
-    EXPECT_THAT(recorded(), ElementsAre(FieldsAre(60, 0.0, 4.0), FieldsAre(64, 2.0, 2.0)));
+    EXPECT_THAT(recorded(), ElementsAre(FieldsAre(60, 0.0, 2.0), FieldsAre(64, 2.0, 3.0),
+                                        FieldsAre(65, 3.0, 1.0)));
 }
 
 TEST_F(SequenceRecordingTest, GoesOnWhenTheWantedChordIsStruck)

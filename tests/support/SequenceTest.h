@@ -6,10 +6,18 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 /// A document on a clock that is moved by hand, whose instrument and temperament write down what
 /// they are called with. 16 steps of a file are a second, 15 of the document's.
 class SequenceTest : public testing::Test, public SequenceHost, public Temperament {
 protected:
+    SequenceTest()
+    {
+        for (auto* times : {&notePressTimes, &noteReleaseTimes})
+            std::fill(times->begin(), times->end(), 0.0);
+    }
+
     Instrument* getInstrument() override { return &instrument_; }
     Temperament* getTemperament() override { return this; }
     std::mutex& soundLock() override { return lock_; }
