@@ -24,13 +24,13 @@ TEST(IMelody, WritesTheWholeText)
     EXPECT_EQ(writeIMelody({}), "BEGIN:IMELODY\r\nVERSION:1.2\r\nFORMAT:CLASS1.0\r\nBEAT:120\r\n"
                                 "STYLE:S0\r\nVOLUME:V7\r\nMELODY:r2\r\nEND:IMELODY\r\n");
     // 34 notes of two characters fill a line of 75; behind the space that goes on with it, 37.
-    std::vector<MidiEvent> scale;
-    for (int i = 0; i < 72; ++i)
-        scale.push_back(note(72, i, 1.0F));
+    std::vector<MidiEvent> repeated;
     std::string expected;
-    for (int i = 0; i < 72; ++i)
-        expected += std::string(i == 34 || i == 71 ? "\r\n " : "") + "c2";
-    EXPECT_EQ(melody(scale), expected);
+    for (int i = 0; i < 72; ++i) {
+        repeated.push_back(note(72, i, 1.0F));
+        expected += i == 34 || i == 71 ? "\r\n c2" : "c2";
+    }
+    EXPECT_EQ(melody(repeated), expected);
 }
 
 TEST(IMelody, NamesKeysAndLengths)

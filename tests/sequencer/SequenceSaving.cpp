@@ -12,7 +12,6 @@
 
 #include <fstream>
 #include <random>
-#include <thread>
 
 namespace {
 
@@ -45,16 +44,24 @@ protected:
         return sequence.notes().size();
     }
 
-    std::size_t filesKept() const
+    /// Runs the event loop until so many files are in the folder of recovery files.
+    bool waitFor(int files) const
     {
         std::error_code none;
-        const std::filesystem::directory_iterator files(folder_ / "recovery", none);
-        return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+        const auto count = [&] {
+            return std::distance(std::filesystem::directory_iterator(kept_, none), {});
+        };
+        for (int i = 0; i < 5000 && count() != files; ++i) {
+            QCoreApplication::processEvents();
+            usleep(1000);
+        }
+        return count() == files;
     }
 
     std::mutex lock_;
     const QTemporaryDir temporary_;
     const std::filesystem::path folder_ = temporary_.path().toStdString();
+    const std::filesystem::path kept_ = folder_ / "recovery";
     const std::filesystem::path path_ = folder_ / "a.mid";
     SequenceDocument document_{*this};
 };
@@ -129,21 +136,14 @@ TEST_F(SequenceSaving, IsTheOldOrTheNewFileWhenTheProgramIsKilled)
 
 TEST_F(SequenceSaving, KeepsWhatIsNotSavedUntilItIsSavedOrClosed)
 {
-    const auto waitFor = [&](std::size_t files) {
-        for (int i = 0; i < 5000 && filesKept() != files; ++i) {
-            QCoreApplication::processEvents();
-            std::this_thread::sleep_for(1ms);
-        }
-        return filesKept() == files;
-    };
     killWhileWorking([&](const auto& ready) {
-        const RecoveryKeeper keeper(document_, RecoveryFile(folder_ / "recovery"), 1ms);
+        const RecoveryKeeper keeper(document_, RecoveryFile(kept_), 1ms);
         draw(3);
         if (waitFor(2)) // and its lock
             ready();
         pause();
     });
-    auto left = RecoveryFile::abandoned(folder_ / "recovery");
+    auto left = RecoveryFile::abandoned(kept_);
     ASSERT_EQ(left.size(), 1U);
     document_.recover(left[0].sequence);
     EXPECT_EQ(document_.getSequence().notes().size(), 3U);
