@@ -1,9 +1,9 @@
 #include "base/File.h"
 #include "platform/MidiBytes.h"
 #include "sequencer/RecoveryKeeper.h"
-#include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceFile.h"
 #include "support/ChildProcess.h"
+#include "support/SequenceTest.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -20,18 +20,14 @@ using namespace std::chrono_literals;
 constexpr auto kSave = SequenceDocument::SaveOperation::Save;
 constexpr auto kSaveAs = SequenceDocument::SaveOperation::SaveAs;
 
-class SequenceSaving : public testing::Test, public SequenceHost {
+class SequenceSaving : public SequenceTest {
 protected:
-    Instrument* getInstrument() override { return nullptr; }
-    Temperament* getTemperament() override { return nullptr; }
-    std::mutex& soundLock() override { return lock_; }
-
     void draw(std::size_t notes)
     {
+        const Note note{.length = 1.0, .velocity = 1.0F, .key = 60};
         std::vector<Note> drawn;
-        for (std::size_t i = 0; i < notes; ++i)
-            drawn.push_back(document_.edit().addNote(
-                {.start = static_cast<double>(i), .length = 1.0, .velocity = 1.0F, .key = 60}));
+        while (drawn.size() < notes)
+            drawn.push_back(document_.edit().addNote(note));
         document_.registerDone(SequenceDocument::kAdd, UndoAction::withNotes(drawn), "Draw");
     }
 
@@ -58,12 +54,10 @@ protected:
         return count() == files;
     }
 
-    std::mutex lock_;
     const QTemporaryDir temporary_;
     const std::filesystem::path folder_ = temporary_.path().toStdString();
     const std::filesystem::path kept_ = folder_ / "recovery";
     const std::filesystem::path path_ = folder_ / "a.mid";
-    SequenceDocument document_{*this};
 };
 
 } // namespace
@@ -147,7 +141,7 @@ TEST_F(SequenceSaving, KeepsWhatIsNotSavedUntilItIsSavedOrClosed)
     ASSERT_EQ(left.size(), 1U);
     document_.recover(left[0].sequence);
     EXPECT_EQ(document_.getSequence().notes().size(), 3U);
-    EXPECT_EQ(document_.extent(), 35.0);
+    EXPECT_EQ(document_.extent(), 33.0);
     EXPECT_TRUE(document_.isModified());
 
     auto keeper = std::make_unique<RecoveryKeeper>(document_, std::move(left[0].file), 1ms);
