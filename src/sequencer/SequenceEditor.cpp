@@ -152,7 +152,7 @@ void SequenceEditor::mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers)
 void SequenceEditor::finishLength()
 {
     const std::uint64_t id = std::exchange(newNote_, 0);
-    Sequence& sequence = document_.edit();
+    Sequence& sequence = document_.edit({&id, 1});
     Note* note = sequence.find(id);
     if (note == nullptr) // undone in the middle of the drag
         return;

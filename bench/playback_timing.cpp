@@ -1,0 +1,133 @@
+// How exactly a sequence is played while its window and the keyboard repaint: a minute of notes at
+// irregular times, through the General MIDI synthesizer on a JACK server with the dummy driver.
+// Needs a display.
+
+#include "base/Clock.h"
+#include "desktop/Desktop.h"
+#include "desktop/SequenceWindow.h"
+#include "desktop/graphics.h"
+#include "platform/Synthesizer.h"
+#include "support/JackServer.h"
+
+#include <QApplication>
+#include <QOpenGLWidget>
+#include <QTimer>
+#include <spdlog/fmt/fmt.h>
+
+#include <algorithm>
+#include <random>
+
+namespace {
+
+constexpr std::size_t kNotes = 900;
+constexpr double kStepsPerSecond = 15.0;
+constexpr double kMilliseconds = 1e3;
+
+/// Notes down when each note is played.
+class TimedInstrument : public Instrument {
+public:
+    explicit TimedInstrument(Instrument& instrument) : instrument_(instrument)
+    {
+        times.reserve(2 * kNotes);
+    }
+
+    void play(int key, float velocity) override
+    {
+        times.push_back(getTime());
+        instrument_.play(key, velocity);
+    }
+    void stop(int key) override { instrument_.stop(key); }
+    void silence() override { instrument_.silence(); }
+    float getVolume(std::size_t stop) const override { return instrument_.getVolume(stop); }
+    std::size_t numStops() const override { return instrument_.numStops(); }
+    void setVolume(std::size_t stop, float volume) override { instrument_.setVolume(stop, volume); }
+    void tune(const Temperament& temperament, int lo, int hi) override
+    {
+        instrument_.tune(temperament, lo, hi);
+    }
+    void fade(double factor) override { instrument_.fade(factor); }
+
+    std::vector<double> times;
+
+private:
+    Instrument& instrument_;
+};
+
+/// The steps at which they start, a fifteenth of a second apart on average.
+std::vector<double> fillAtRandom(SequenceDocument& document)
+{
+    std::mt19937 random(1);
+    std::uniform_real_distribution<double> gap(0.2, 1.8);
+    std::vector<double> starts;
+    for (double start = 4.0; starts.size() < kNotes; start += gap(random)) {
+        Note note{.start = start, .length = 2.0 * gap(random), .velocity = 0.5F};
+        note.key = static_cast<std::uint32_t>(36 + random() % 48);
+        document.edit().addNote(note);
+        starts.push_back(start);
+    }
+    document.measure();
+    return starts;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const JackServer server;
+    chooseGraphics();
+    const QApplication qt(argc, argv);
+    Desktop desktop;
+    AppDelegate& application = desktop.application();
+    application.makeBuiltinTunings();
+    const auto output = AudioOutput::open();
+    auto synthesizer = std::make_unique<Synthesizer>(output->rate(), generalMidiBanks());
+    output->play(synthesizer.get());
+    application.makeMIDIPlayer(std::move(synthesizer));
+    TimedInstrument instrument(*application.getInstrument());
+    application.setInstrument(instrument, "timed");
+    application.selectTuning("Dynamic");
+
+    SequenceWindow* window = nullptr;
+    QObject::connect(&desktop.sequenceWindows(), &SequenceWindows::opened, &qt,
+                     [&](SequenceWindow& opened) { window = &opened; });
+    desktop.sequenceWindows().create();
+    SequenceDocument& document = window->document();
+    const std::vector<double> starts = fillAtRandom(document);
+    std::size_t frames = 0;
+    QObject::connect(window->findChild<QOpenGLWidget*>(), &QOpenGLWidget::frameSwapped, &qt,
+                     [&] { ++frames; });
+    QObject::connect(
+        &document, &SequenceDocument::modeChanged, &qt,
+        [&] {
+            if (document.mode() == SequenceDocument::Mode::Stopped)
+                QApplication::exit();
+        },
+        Qt::QueuedConnection);
+    QTimer::singleShot(1000, &qt, [&] {
+        frames = 0;
+        document.play();
+    });
+    double started = 0.0;
+    QObject::connect(&document, &SequenceDocument::modeChanged, &qt, [&] {
+        if (started == 0.0)
+            started = getTime();
+    });
+    QApplication::exec();
+    const double seconds = getTime() - started;
+
+    std::vector<double> errors;
+    for (std::size_t i = 0; i < std::min(starts.size(), instrument.times.size()); ++i)
+        errors.push_back((instrument.times[i] - started - starts[i] / kStepsPerSecond) *
+                         kMilliseconds);
+    std::sort(errors.begin(), errors.end());
+    const auto at = [&](double part) {
+        return errors[static_cast<std::size_t>(part * static_cast<double>(errors.size() - 1))];
+    };
+    fmt::print("{} of {} notes in {:.0f} s, {:.1f} frames in a second\n", errors.size(),
+               starts.size(), seconds, static_cast<double>(frames) / seconds);
+    fmt::print("milliseconds from when a note is due until it is played: least {:.2f}, median "
+               "{:.2f}, p99 {:.2f}, most {:.2f}\n",
+               at(0.0), at(0.5), at(0.99), at(1.0));
+    output->play(nullptr);
+    application.setInstrument(*application.instruments().front()->getInstrument(), "");
+}

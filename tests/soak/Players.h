@@ -1,0 +1,112 @@
+#pragma once
+
+#include "app/AppDelegate.h"
+#include "platform/Synthesizer.h"
+#include "support/Stereo.h"
+
+#include <chrono>
+#include <mutex>
+#include <random>
+#include <set>
+#include <thread>
+
+constexpr double kRate = 48000.0;
+
+/// Plays a synthesizer, which has to outlive it, as an audio driver does: blocks of 128 frames, in
+/// time.
+class AudioThread {
+public:
+    explicit AudioThread(AudioSource& source) : source_(source) {}
+
+    /// Whether it does so, to below -120 dB, within forty seconds of sound, which pass at once:
+    /// some programs die away slowly.
+    bool fallsSilent()
+    {
+        const std::lock_guard lock(mutex_);
+        for (int i = 0; i < 400; ++i)
+            if (peak(rendered(source_, kRate / 10).left) < 1e-6F)
+                return true;
+        return false;
+    }
+
+private:
+    void run(const std::stop_token& stop)
+    {
+        constexpr std::chrono::nanoseconds kBlock{2'666'667};
+        for (auto next = std::chrono::steady_clock::now(); !stop.stop_requested();) {
+            {
+                const std::lock_guard lock(mutex_);
+                rendered(source_, 128);
+            }
+            next = std::max(next + kBlock, std::chrono::steady_clock::now());
+            std::this_thread::sleep_until(next);
+        }
+    }
+
+    AudioSource& source_;
+    std::mutex mutex_;
+    std::jthread thread_{[this](const std::stop_token& stop) { run(stop); }};
+};
+
+/// A MIDI device: keys and controllers at random, which arrive on a thread of its own.
+class DeviceThread {
+public:
+    /// It rests at first.
+    DeviceThread(LiveInput& input, unsigned seed) : input_(input), random_(seed) {}
+
+    void play() { setPlaying(true); }
+
+    /// Lets go of every key.
+    void rest() { setPlaying(false); }
+
+private:
+    void setPlaying(bool plays)
+    {
+        const std::lock_guard lock(mutex_);
+        plays_ = plays;
+        while (!held_.empty())
+            send({0x80, *held_.begin(), 0});
+    }
+
+    void send(std::vector<std::uint8_t> message)
+    {
+        if ((message[0] & 0xF0) == 0x90)
+            held_.insert(message[1]);
+        else if ((message[0] & 0xF0) == 0x80)
+            held_.erase(message[1]);
+        const MidiPacket packet = message;
+        midiRead({&packet, 1}, input_);
+    }
+
+    void sendAny()
+    {
+        constexpr std::array<std::uint8_t, 6> kControllers = {7, 11, 64, 76, 77, 78};
+        const auto key = static_cast<std::uint8_t>(36 + random_() % 60);
+        const auto value = static_cast<std::uint8_t>(1 + random_() % 127);
+        if (random_() % 8 == 0)
+            send({0xB0, kControllers[random_() % kControllers.size()], value});
+        else if (held_.size() < 6 && random_() % 2 == 0)
+            send({0x90, key, value});
+        else
+            send({0x80, held_.empty() ? key : *held_.begin(), value});
+    }
+
+    void run(const std::stop_token& stop)
+    {
+        while (!stop.stop_requested()) {
+            {
+                const std::lock_guard lock(mutex_);
+                for (unsigned i = random_() % 4; plays_ && i > 0; --i)
+                    sendAny();
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        }
+    }
+
+    LiveInput& input_;
+    std::mt19937 random_;
+    std::mutex mutex_;
+    bool plays_ = false;
+    std::set<std::uint8_t> held_;
+    std::jthread thread_{[this](const std::stop_token& stop) { run(stop); }};
+};

@@ -1,0 +1,428 @@
+// Everything at once and at random, for as long as it is told to: keys and controllers from a
+// device, an audio thread, sequences that play, record and are edited, instruments and tunings that
+// come and go. After every round all keys are let go of and all is closed: then nothing may sound,
+// and the memory in use may not have grown.
+//
+//     test_soak [SECONDS [SEED]]
+
+#include "soak/Players.h"
+
+#include "app/AudioExport.h"
+#include "base/Clock.h"
+#include "base/Log.h"
+#include "platform/OpenALDevice.h"
+#include "sequencer/RecoveryKeeper.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
+#include "sequencer/SequenceFile.h"
+#include "sound/KeyTables.h"
+#include "support/Bank.h"
+#include "support/OrganFolder.h"
+
+#include <QCoreApplication>
+#include <al.h>
+#include <malloc.h>
+#include <spdlog/fmt/fmt.h>
+
+#include <cstdio>
+#include <deque>
+#include <stdexcept>
+
+namespace {
+
+constexpr double kTick = 1.0 / 1024.0;
+constexpr std::size_t kTicksPerFade = 17;
+constexpr std::size_t kStepsPerRound = 1500;
+constexpr std::size_t kWarmUpRounds = 8;
+constexpr std::size_t kMostNotes = 500;
+constexpr std::ptrdiff_t kMostGrowth = 1 << 20;
+
+/// A document as a window has it, on a clock that is moved by hand: ahead of the time.
+struct OpenSequence {
+    explicit OpenSequence(AppDelegate& app) : document(app, [this] { return now; }) {}
+    ~OpenSequence() { document.stop(); }
+    OpenSequence(const OpenSequence&) = delete;
+    OpenSequence& operator=(const OpenSequence&) = delete;
+
+    void tick()
+    {
+        now = std::max(now + kTick, getTime());
+        document.loop();
+    }
+
+    double now = getTime();
+    SequenceDocument document;
+    SequenceEditor editor{document};
+    RecoveryKeeper keeper{document, RecoveryFile(), std::chrono::milliseconds(100)};
+};
+
+/// Bytes that are allocated, in all threads. AddressSanitizer keeps what is freed for a while, and
+/// tells itself of what is lost.
+std::size_t memoryInUse()
+{
+#ifdef __SANITIZE_ADDRESS__
+    return 0;
+#else
+    const auto heap = mallinfo2();
+    return heap.uordblks + heap.hblkhd;
+#endif
+}
+
+void require(bool condition, const std::string& message)
+{
+    if (!condition)
+        throw std::runtime_error(message);
+}
+
+class Soak : public QObject {
+public:
+    explicit Soak(unsigned seed) : random_(seed)
+    {
+        app_.makeBuiltinTunings();
+        auto synthesizer = std::make_unique<Synthesizer>(kRate, std::vector{kBank});
+        audio_ = std::make_unique<AudioThread>(*synthesizer);
+        app_.makeMIDIPlayer(std::move(synthesizer));
+        folder_.writeSine("a.wav", 220.0);
+        folder_.writeSine("b.wav", 523.25);
+        for (const char* name : {"Small", "Large"})
+            addOrgan(name);
+        for (int i = 0; i < 4; ++i)
+            openTuning(true);
+        app_.selectTuning("Dynamic");
+        connect(&app_, &AppDelegate::midiInputReceived, this, [this] {
+            if (!sequences_.empty())
+                sequences_.front()->document.midiInput();
+        });
+        device_ = std::make_unique<DeviceThread>(app_, seed);
+    }
+
+    /// In every other round the instrument stays as it is: each key then ends on the one that it
+    /// has begun on.
+    void round(bool changesInstruments)
+    {
+        changesInstruments_ = changesInstruments;
+        app_.selectInstrument(pick(app_.instruments().size()));
+        device_->play();
+        exported_ = false;
+        for (step = 0; step < kStepsPerRound; ++step, ++steps)
+            act();
+    }
+
+    /// Ends all that a round has begun and returns the memory that is in use then.
+    std::size_t finish()
+    {
+        device_->rest();
+        pressMouse(-1);
+        sequences_.clear();
+        QCoreApplication::processEvents();
+        for (const auto& state : noteStates)
+            require(state == 0, "a key is held");
+        for (std::size_t i = 0; changesInstruments_ && i < app_.instruments().size(); ++i)
+            if (app_.instruments()[i]->getInstrument() != nullptr) {
+                app_.selectInstrument(i);
+                for (int key = 0; key < static_cast<int>(kKeys); ++key)
+                    app_.keyOff(key);
+                fade();
+            }
+        fade();
+        require(audio_->fallsSilent(), "the synthesizer sounds on");
+        for (ALuint source = 1; source <= 4096; ++source)
+            if (ALint state = 0; alIsSource(source) == AL_TRUE) {
+                alGetSourcei(source, AL_SOURCE_STATE, &state);
+                require(state != AL_PLAYING, fmt::format("source {} plays on", source));
+            }
+        app_.selectTuning("Equal");
+        for (std::size_t i = 1; i < app_.instruments().size(); ++i)
+            require(app_.instruments()[i]->getInstrument() == nullptr || app_.unloadInstrument(i),
+                    "an organ cannot be unloaded");
+        app_.selectInstrument(0);
+        QCoreApplication::processEvents();
+        return memoryInUse();
+    }
+
+    std::size_t step = 0; ///< Of the round.
+    std::size_t steps = 0;
+
+private:
+    std::size_t pick(std::size_t count) { return random_() % count; }
+    bool chance(std::size_t oneIn) { return pick(oneIn) == 0; }
+
+    void act()
+    {
+        while (sequences_.size() < 3)
+            sequences_.push_back(std::make_unique<OpenSequence>(app_));
+        OpenSequence& open = *sequences_[pick(sequences_.size())];
+        if (open.document.getSequence().notes().size() > kMostNotes) {
+            open.editor.selectAll();
+            open.editor.deleteSelection();
+        }
+        if (const std::size_t kind = pick(16); kind < 5)
+            drag(open);
+        else if (kind < 9)
+            pressKey(open);
+        else if (kind < 14)
+            command(open);
+        else
+            changeSound();
+        advance(pick(96));
+        QCoreApplication::processEvents();
+        std::this_thread::sleep_for(std::chrono::microseconds(500));
+    }
+
+    void advance(std::size_t ticks)
+    {
+        for (; ticks > 0; --ticks) {
+            for (const auto& open : sequences_)
+                open->tick();
+            if (++ticks_ % kTicksPerFade == 0)
+                app_.loop();
+        }
+    }
+
+    /// As long as a musician would wait.
+    void fade()
+    {
+        for (int i = 0; i < 300; ++i)
+            app_.loop();
+    }
+
+    /// Mostly on a note.
+    RollPoint somewhere(const OpenSequence& open)
+    {
+        const auto& notes = open.document.getSequence().notes();
+        if (notes.empty() || chance(4))
+            return {static_cast<double>(36 + pick(60)), static_cast<double>(pick(640)) / 10.0};
+        const Note& note = notes[pick(notes.size())];
+        return {static_cast<double>(note.key),
+                note.start + note.length * static_cast<double>(pick(11)) / 10.0};
+    }
+
+    Qt::KeyboardModifiers modifiers()
+    {
+        constexpr std::array kAll = {Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
+                                     Qt::ControlModifier};
+        return kAll[pick(kAll.size())];
+    }
+
+    void drag(OpenSequence& open)
+    {
+        const auto held = modifiers();
+        if (chance(3))
+            open.editor.rightMouseDown(somewhere(open));
+        else
+            open.editor.mouseDown(somewhere(open), held);
+        for (std::size_t i = pick(4); i > 0; --i) {
+            open.editor.mouseDragged(somewhere(open));
+            if (chance(20))
+                open.document.undoStack().undo();
+            advance(pick(8));
+        }
+        open.editor.mouseUp(somewhere(open), held);
+    }
+
+    void pressKey(OpenSequence& open)
+    {
+        static const std::string kTyped = "1234567890QWERTYUIOP[]ASDFGHJKL;'`\\ZXCVBNM,./";
+        constexpr std::array kOthers = {Qt::Key_Space, Qt::Key_Return, Qt::Key_Up,
+                                        Qt::Key_Down,  Qt::Key_Escape, Qt::Key_Delete};
+        const int key =
+            chance(2) ? int{kTyped[pick(kTyped.size())]} : int{kOthers[pick(kOthers.size())]};
+        const auto held = modifiers();
+        open.editor.keyDown(QKeyEvent(QEvent::KeyPress, key, held));
+        advance(pick(64));
+        open.editor.keyUp(QKeyEvent(QEvent::KeyRelease, key, held));
+    }
+
+    void command(OpenSequence& open)
+    {
+        SequenceDocument& document = open.document;
+        const double place = static_cast<double>(pick(64));
+        switch (pick(12)) {
+        case 0:
+            return document.setLoop(chance(2));
+        case 1:
+            return document.setSnapToGrid(chance(2));
+        case 2:
+            return document.setTempo(static_cast<double>(40 + pick(400)));
+        case 3:
+            return document.selectInterval(place, place + static_cast<double>(pick(16)));
+        case 4:
+            return document.putPosition(place);
+        case 5:
+            for (std::size_t i = pick(12); i > 0; --i)
+                document.undoStack().undo();
+            return;
+        case 6:
+            for (std::size_t i = pick(12); i > 0; --i)
+                document.undoStack().redo();
+            return;
+        case 7:
+            clipboard_ = chance(2) ? open.editor.copy() : open.editor.cut();
+            return;
+        case 8:
+            return open.editor.paste(clipboard_);
+        case 9:
+            return pressMouse(static_cast<int>(pick(kKeys)));
+        case 10:
+            return chance(4) ? saveAndRead(open) : document.play();
+        default:
+            return chance(8) ? exportAudio(open) : document.record();
+        }
+    }
+
+    /// A key of the keyboard on the screen, in place of the one before; -1 for none.
+    void pressMouse(int key)
+    {
+        app_.keyOff(std::exchange(mouse_, key));
+        app_.keyOn(key, 0.7F);
+        app_.midiInput();
+    }
+
+    /// Puts another document in the place of one, with what that has written.
+    void saveAndRead(OpenSequence& open)
+    {
+        const auto path = folder_.path() / "saved.mid";
+        const auto write = [&](const char* type) {
+            require(open.document.saveToURL(path, type, SequenceDocument::SaveOperation::SaveAs),
+                    open.document.errorString());
+        };
+        write(kIMelodyType);
+        write(kMidiFileType);
+        auto read = std::make_unique<OpenSequence>(app_);
+        read->document.readFromURL(path);
+        require(read->document.errorString().empty(), read->document.errorString());
+        for (auto& sequence : sequences_)
+            if (sequence.get() == &open)
+                sequence = std::move(read);
+    }
+
+    /// Once in a round: it takes a while.
+    void exportAudio(OpenSequence& open)
+    {
+        if (std::exchange(exported_, true) || open.document.extent() > 200.0)
+            return;
+        bool isDone = false;
+        std::string reason;
+        AudioExport job;
+        connect(&job, &AudioExport::finished, this, [&](bool /*isWritten*/, const QString& error) {
+            isDone = true;
+            reason = error.toStdString();
+        });
+        job.start(currentSettings(app_), open.document.snapshot(), 240.0,
+                  folder_.path() / "export.wav");
+        for (std::size_t left = chance(2) ? 100 : SIZE_MAX; !isDone; --left) {
+            if (left == 0)
+                job.cancel();
+            advance(8);
+            QCoreApplication::processEvents();
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+        require(reason.empty(), reason);
+    }
+
+    void changeSound()
+    {
+        const std::size_t instrument = pick(app_.instruments().size());
+        const auto names = app_.tuningNames();
+        switch (pick(changesInstruments_ ? 7 : 5)) {
+        case 0:
+            app_.setMIDIProgram(static_cast<std::uint8_t>(pick(128)));
+            break;
+        case 1:
+            app_.setVolumeOfStop(pick(3), static_cast<float>(pick(11)) / 10.0F);
+            break;
+        case 2:
+            openTuning(false);
+            break;
+        case 5:
+            require(app_.selectInstrument(instrument), "an organ cannot be read anew");
+            break;
+        case 6:
+            if (chance(4))
+                app_.silenceAll();
+            app_.unloadInstrument(instrument);
+            break;
+        default:
+            app_.selectTuning(names[pick(names.size())]);
+        }
+    }
+
+    /// A tuning that is listed is never given up, so that most are only read.
+    void openTuning(bool isListed)
+    {
+        constexpr std::array kFiles = {"kirnberger-3.scl", "pythagorean.scl", "werckmeister-3.scl"};
+        const auto path = std::filesystem::path(VELMORA_EXAMPLES) / kFiles[pick(kFiles.size())];
+        auto tuning = std::make_unique<TuningDocument>();
+        require(tuning->readFromURL(path, TuningDocument::typeOf(path)), tuning->errorString());
+        if (isListed)
+            app_.putTuning(std::move(tuning));
+    }
+
+    void addOrgan(const std::string& name)
+    {
+        const auto path = folder_.write(name + ".organ",
+                                        "[Organ]\nChurchName=" + name +
+                                            "\n[Manual001]\nFirstAccessibleKeyMIDINoteNumber=48\n"
+                                            "[Stop001]\nName=Flute\nPipe001=a.wav\nPipe013=b.wav\n"
+                                            "[Stop002]\nName=Principal\nPipe007=b.wav\n");
+        auto document = std::make_unique<InstrumentDocument>();
+        require(document->readFromURL(path, "Organ", app_), document->errorString());
+        app_.addInstrument(std::move(document));
+    }
+
+    std::mt19937 random_;
+    OrganFolder folder_;
+    std::unique_ptr<OpenALDevice> openAL_ = OpenALDevice::open();
+    AppDelegate app_;
+    std::unique_ptr<AudioThread> audio_;
+    std::unique_ptr<DeviceThread> device_;
+    std::deque<std::unique_ptr<OpenSequence>> sequences_;
+    std::vector<Note> clipboard_;
+    int mouse_ = -1;
+    std::size_t ticks_ = 0;
+    bool changesInstruments_ = false, exported_ = false;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QTemporaryDir home;
+    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
+        qputenv(variable, home.path().toUtf8());
+    qputenv("ALSOFT_DRIVERS", "null");
+    setLogLevel(spdlog::level::err);
+    const QCoreApplication application(argc, argv);
+    const double seconds = argc > 1 ? std::stod(argv[1]) : 120.0;
+    const unsigned seed = argc > 2 ? static_cast<unsigned>(std::stoul(argv[2])) : 1;
+
+    Soak soak(seed);
+    const double started = getTime();
+    std::size_t rounds = 0, warm = 0;
+    std::ptrdiff_t growth = 0, greatest = 0;
+    double told = started;
+    try {
+        for (; getTime() - started < seconds || rounds <= kWarmUpRounds; ++rounds) {
+            soak.round(rounds % 2 == 1);
+            const std::size_t memory = soak.finish();
+            if (rounds < kWarmUpRounds)
+                warm = std::max(warm, memory);
+            growth = static_cast<std::ptrdiff_t>(memory - warm);
+            greatest = std::max(greatest, growth);
+            require(growth <= kMostGrowth, fmt::format("{} bytes more are in use", growth));
+            if (getTime() - told >= 60.0) {
+                told = getTime();
+                fmt::print("{:.0f} s: {} steps, {} bytes in use, {:+} since the warm-up\n",
+                           told - started, soak.steps, memory, growth);
+                std::fflush(stdout);
+            }
+        }
+    } catch (const std::exception& error) {
+        fmt::print("FAILED in round {}, step {}, seed {}: {}\n", rounds, soak.step, seed,
+                   error.what());
+        return 1;
+    }
+    fmt::print("{:.0f} s, {} rounds of {} steps, seed {}: {} bytes after the warm-up, {:+} at the "
+               "end, {:+} at most\n",
+               getTime() - started, rounds, kStepsPerRound, seed, warm, growth, greatest);
+}
