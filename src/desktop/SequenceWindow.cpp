@@ -196,6 +196,8 @@ void SequenceWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         emit becameMain();
+    else if (event->type() == QEvent::ActivationChange)
+        editor_.releaseKeys();
     if (event->type() == QEvent::WindowStateChange && isMinimized())
         emit resignedMain();
 }

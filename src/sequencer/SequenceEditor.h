@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 
 #include <cstdint>
+#include <map>
 #include <vector>
 
 class SequenceDocument;
@@ -37,6 +38,9 @@ public:
     void keyDown(const QKeyEvent& event);
     void keyUp(const QKeyEvent& event);
 
+    /// Lets go of the keys that are pressed, whose release another window will get.
+    void releaseKeys();
+
     void selectAll();
     void deleteSelection();
 
@@ -56,12 +60,14 @@ private:
 
     bool takeNamedKey(int key, bool command);
     void isomorph(int number);
+    void release(int number);
     void setChannel(unsigned char channel, bool ofSelection);
     std::vector<Note> remove(const char* verb);
 
     SequenceDocument& document_;
-    RollPoint click_{};         ///< Where the last press was.
-    bool hitNote_ = false;      ///< It hit a note, or made one.
-    bool isNewNote_ = false;    ///< The drag draws a new note.
-    std::uint64_t newNote_ = 0; ///< Being resized or drawn; 0 for none.
+    RollPoint click_{};             ///< Where the last press was.
+    bool hitNote_ = false;          ///< It hit a note, or made one.
+    bool isNewNote_ = false;        ///< The drag draws a new note.
+    std::uint64_t newNote_ = 0;     ///< Being resized or drawn; 0 for none.
+    std::map<char, int> isomorphs_; ///< The numbers of the pressed keys of the isomorphic layout.
 };

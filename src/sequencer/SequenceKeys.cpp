@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -35,7 +36,7 @@ void SequenceEditor::keyDown(const QKeyEvent& event)
     const bool command = event.modifiers().testFlag(Qt::ControlModifier);
     const char character = usCharacter(event);
     if (const auto number = isomorphNumber(character))
-        isomorph(*number + (shift ? kShiftedOctave : 0));
+        isomorph(isomorphs_[character] = *number + (shift ? kShiftedOctave : 0));
     else if (const auto channel = channelNumber(character))
         setChannel(static_cast<unsigned char>(*channel + (shift ? kShiftedChannel : 0)), command);
     else if (!takeNamedKey(event.key(), command))
@@ -85,18 +86,30 @@ bool SequenceEditor::takeNamedKey(int key, bool command)
 
 void SequenceEditor::keyUp(const QKeyEvent& event)
 {
-    const auto number = isomorphNumber(usCharacter(event));
+    const char character = usCharacter(event);
+    const auto number = isomorphNumber(character);
     if (!number || event.isAutoRepeat())
         return;
-    const int fromLowest =
-        *number + 1 + (event.modifiers().testFlag(Qt::ShiftModifier) ? kShiftedOctave : 0);
-    SequenceHost& host = document_.host();
-    {
-        const std::lock_guard lock(host.soundLock());
-        if (Instrument* instrument = host.getInstrument())
-            instrument->stop(kLowestIsomorph + fromLowest / 3);
-    }
+    // The key that was pressed goes, even if Shift has changed since.
+    if (auto pressed = isomorphs_.extract(character))
+        release(pressed.mapped());
+    else
+        release(*number + (event.modifiers().testFlag(Qt::ShiftModifier) ? kShiftedOctave : 0));
     emit document_.frame();
+}
+
+void SequenceEditor::releaseKeys()
+{
+    for (const auto& [character, number] : std::exchange(isomorphs_, {}))
+        release(number);
+}
+
+void SequenceEditor::release(int number)
+{
+    SequenceHost& host = document_.host();
+    const std::lock_guard lock(host.soundLock());
+    if (Instrument* instrument = host.getInstrument())
+        instrument->stop(kLowestIsomorph + (number + 1) / 3);
 }
 
 void SequenceEditor::isomorph(int number)

@@ -168,6 +168,14 @@ TEST_F(SequenceEditorTest, TakesKeysByTheirPosition)
               (Calls{"isomorph 34", "stop 59", "isomorph 70", "stop 71", "isomorph 0", "stop 48",
                      "isomorph 35", "stop 60", "isomorph 33", "stop 59"}));
 
+    editor_.keyDown({QEvent::KeyPress, Qt::Key_A, kShift});
+    editor_.keyUp({QEvent::KeyRelease, Qt::Key_A, kNone});
+    editor_.keyDown({QEvent::KeyPress, Qt::Key_W, kNone});
+    editor_.releaseKeys();
+    editor_.releaseKeys();
+    EXPECT_EQ(std::exchange(calls_, {}),
+              (Calls{"isomorph 36", "stop 60", "isomorph 1", "stop 48"}));
+
     type(Qt::Key_Eacute, kNone, 11); // where it has 2
     EXPECT_EQ(document_.channel(), 1);
     type(Qt::Key_0, kShift);
