@@ -51,6 +51,10 @@ SequenceScrollView::SequenceScrollView(QWidget* parent)
         bar->installEventFilter(this);
     }
     view_->installEventFilter(this);
+    connect(view_, &SequenceView::pulled, this, [this](QPoint pixels) {
+        scrollClipView(location() + pixels);
+        emit scrolledByUser();
+    });
 }
 
 void SequenceScrollView::updateDocumentSizes(double steps)

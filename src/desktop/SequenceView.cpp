@@ -11,11 +11,22 @@
 #include <cmath>
 #include <utility>
 
+namespace {
+
+constexpr int kMillisecondsOfPull = 16;
+
+/// A pull is the faster the farther it is from the edge: by that part of the way each time.
+constexpr double kPartOfPull = 0.25;
+
+} // namespace
+
 SequenceView::SequenceView(QWidget* parent) : QOpenGLWidget(parent)
 {
     setAccessibleName(tr("Piano roll"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    pulling_.setInterval(kMillisecondsOfPull);
+    connect(&pulling_, &QTimer::timeout, this, &SequenceView::pull);
 }
 
 void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor* editor)
@@ -25,6 +36,7 @@ void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor*
     document_ = document;
     editor_ = editor;
     button_ = Qt::NoButton;
+    pulling_.stop();
     if (document_ != nullptr)
         connect(document_, &SequenceDocument::changed, this, &SequenceView::redraw);
     redraw();
@@ -146,8 +158,27 @@ void SequenceView::mouseMoveEvent(QMouseEvent* event)
         showCursor(event->modifiers());
         return;
     }
-    editor_->mouseDragged(localPoint(event->position()));
+    drag(event->position());
+}
+
+void SequenceView::drag(const QPointF& point)
+{
+    dragged_ = point;
+    if (QRectF(rect()).contains(point))
+        pulling_.stop();
+    else if (!pulling_.isActive())
+        pulling_.start();
+    editor_->mouseDragged(localPoint(point));
     redraw();
+}
+
+void SequenceView::pull()
+{
+    const double x = dragged_.x() - std::clamp(dragged_.x(), 0.0, width() - 1.0);
+    const double y = dragged_.y() - std::clamp(dragged_.y(), 0.0, height() - 1.0);
+    emit pulled(QPoint(static_cast<int>(std::round(x * kPartOfPull)),
+                       static_cast<int>(std::round(-y * kPartOfPull))));
+    drag(dragged_);
 }
 
 void SequenceView::mouseReleaseEvent(QMouseEvent* event)
@@ -155,6 +186,7 @@ void SequenceView::mouseReleaseEvent(QMouseEvent* event)
     if (editor_ == nullptr || event->button() != button_)
         return;
     button_ = Qt::NoButton;
+    pulling_.stop();
     editor_->mouseUp(localPoint(event->position()), event->modifiers());
     redraw();
     showCursor(event->modifiers());

@@ -3,6 +3,7 @@
 #include "desktop/RollPicture.h"
 
 #include <QOpenGLWidget>
+#include <QTimer>
 
 class SequenceDocument;
 class SequenceEditor;
@@ -31,6 +32,11 @@ public:
     /// Hands on a key that was pressed or released, here or in another window.
     void handleKey(const QKeyEvent& event);
 
+signals:
+    /// A drag goes on beyond the edge, so many pixels to the right and up: what lies there is to
+    /// be shown.
+    void pulled(QPoint pixels);
+
 protected:
     void paintGL() override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -44,6 +50,10 @@ private:
     RollPoint localPoint(const QPointF& point) const;
     RollHit hitAt(const QPointF& point);
 
+    /// Goes on with the drag under way, and shows more of the roll while it is beyond the edge.
+    void drag(const QPointF& point);
+    void pull();
+
     /// Shows what a press would do where the mouse is.
     void showCursor(Qt::KeyboardModifiers modifiers);
 
@@ -51,6 +61,8 @@ private:
     SequenceEditor* editor_ = nullptr;
     QPoint offset_;
     Qt::MouseButton button_ = Qt::NoButton; ///< That of the gesture under way.
+    QPointF dragged_;                       ///< Where its drag is.
+    QTimer pulling_;
     RollIndex index_;
     bool isIndexed_ = false; ///< The index knows the notes as they are.
     RollPicture picture_;

@@ -7,6 +7,7 @@
 #include "desktop/SequenceStatus.h"
 #include "desktop/SequenceView.h"
 #include "desktop/TransportBar.h"
+#include "desktop/TuningStrip.h"
 #include "desktop/exportAudio.h"
 #include "desktop/icons.h"
 #include "desktop/windowPlace.h"
@@ -17,13 +18,18 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QScreen>
+#include <QSettings>
 #include <QStyle>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace {
 
 constexpr int kUsualHeight = 640;
+
+/// Whether there is the tuning strip.
+constexpr const char* kStripKey = "tuningStrip";
 
 /// How much of the screen a window may fill when it is first opened.
 constexpr double kPartOfScreen = 0.9;
@@ -35,7 +41,7 @@ SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, con
     : application_(application), commands_(commands), name_(name), document_(application),
       editor_(document_), clock_(document_), keeper_(document_, std::move(recovery)),
       actions_(std::make_unique<SequenceActions>(document_, editor_)),
-      scrollView_(new SequenceScrollView)
+      scrollView_(new SequenceScrollView), tuningStrip_(new TuningStrip(application))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     makeView();
@@ -60,7 +66,13 @@ SequenceWindow::~SequenceWindow()
 
 void SequenceWindow::makeView()
 {
-    setCentralWidget(scrollView_);
+    auto* centre = new QWidget;
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(scrollView_);
+    layout->addWidget(tuningStrip_);
+    setCentralWidget(centre);
     scrollView_->view().setDocument(&document_, &editor_);
     auto* transport = new TransportBar(document_, *actions_);
     addToolBar(transport);
@@ -95,6 +107,12 @@ void SequenceWindow::makeMenus()
     actions_->addTransport(*menuBar()->addMenu(tr("&Sequence")));
     commands_.addSound(*menuBar());
 
+    makeViewMenu();
+    commands_.addHelp(*menuBar());
+}
+
+void SequenceWindow::makeViewMenu()
+{
     QMenu* view = menuBar()->addMenu(tr("&View"));
     const auto addZoom = [&](const char* picture, const QString& text, const QKeySequence& shortcut,
                              void (SequenceScrollView::*zoom)(int), int notches) {
@@ -108,10 +126,17 @@ void SequenceWindow::makeMenus()
     addZoom("zoom-out", tr("&Narrower Keys"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Minus),
             &SequenceScrollView::zoomKeys, -1);
     view->addSeparator();
+    QAction* strip = view->addAction(icon("tuning"), tr("&Tuning Strip"), this, [this](bool on) {
+        QSettings("velmora", "velmora").setValue(kStripKey, on);
+        tuningStrip_->setVisible(on);
+    });
+    strip->setCheckable(true);
+    strip->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    strip->setChecked(QSettings("velmora", "velmora").value(kStripKey).toBool());
+    tuningStrip_->setVisible(strip->isChecked());
     view->addAction(commands_.noteNames);
     view->addSeparator();
     commands_.addWindows(*view);
-    commands_.addHelp(*menuBar());
 }
 
 void SequenceWindow::fitToScreen()
@@ -132,7 +157,7 @@ void SequenceWindow::showDocument()
 
 void SequenceWindow::redraw()
 {
-    scrollView_->view().redraw();
+    scrollView_->view().update();
 }
 
 void SequenceWindow::updateDocumentSizes()

@@ -11,6 +11,7 @@ class AppDelegate;
 class Commands;
 class SequenceActions;
 class SequenceScrollView;
+class TuningStrip;
 
 /// The window of one sequence document, which it owns.
 class SequenceWindow : public QMainWindow {
@@ -67,8 +68,9 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void makeMenus();
     void makeView();
+    void makeMenus();
+    void makeViewMenu();
     void fitToScreen();
     void showTitle();
     void scrollTo(double step);
@@ -85,6 +87,7 @@ private:
     RecoveryKeeper keeper_;
     std::unique_ptr<SequenceActions> actions_;
     SequenceScrollView* scrollView_;
+    TuningStrip* tuningStrip_;
     bool isScrolledAway_ = false; ///< By the user, from a position that runs.
     bool isPlaced_ = false;       ///< It has been shown before.
     bool isSettled_ = false;      ///< There is nothing more to ask before it closes.

@@ -260,6 +260,21 @@ TEST_F(SequenceViewTest, SelectsTimeAndLoopsInIt)
     EXPECT_THAT(notes(), IsEmpty());
 }
 
+TEST_F(SequenceViewTest, PullsTheRollAlongWithADragBeyondItsEdge)
+{
+    QTest::mousePress(&view, Qt::LeftButton, {}, place(70.5, 4));
+    const QPoint above(200, -40);
+    QMouseEvent move(QEvent::MouseMove, above, view.mapToGlobal(above), Qt::NoButton,
+                     Qt::LeftButton, {});
+    QApplication::sendEvent(&view, &move);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scrollView.location().y() > 100; }));
+    EXPECT_GT(document_.getSelectionEnd(), (view.height() + 100) / 8);
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, above);
+    const int y = scrollView.location().y();
+    QTest::qWait(60);
+    EXPECT_EQ(scrollView.location().y(), y);
+}
+
 TEST_F(SequenceViewTest, ShowsWithTheCursorWhatAPressWouldDo)
 {
     put(60, 4, 4);

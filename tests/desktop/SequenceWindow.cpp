@@ -4,7 +4,9 @@
 #include "desktop/KeyboardView.h"
 #include "desktop/SequenceScrollView.h"
 #include "desktop/SequenceView.h"
+#include "desktop/TuningStrip.h"
 #include "preferences/Preferences.h"
+#include "support/RecordingInstrument.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -214,6 +216,33 @@ TEST_F(SequenceWindowTest, FollowsThePositionUnlessTheUserScrollsAway)
     window.document().play();
     QApplication::processEvents();
     EXPECT_EQ(bottomAfter(300), 292) << "started anew";
+    EXPECT_TRUE(closes(window));
+}
+
+TEST_F(SequenceWindowTest, TheStripShowsTheTuningOfTheMoment)
+{
+    SequenceWindow& window = open();
+    AppDelegate& application = desktop.application();
+    application.makeBuiltinTunings();
+    auto& strip = *window.findChild<TuningStrip*>();
+    EXPECT_FALSE(strip.isVisible());
+    action(window, "Tuning Strip").trigger();
+    EXPECT_EQ(strip.tones()[3], (TuningStrip::Tone{"D#", 0.0}));
+    EXPECT_TRUE(application.selectTuning("Quartercomma Meantone"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[4].cents < -13; }));
+    EXPECT_NEAR(strip.tones()[4].cents, -13.69, 0.01);
+    EXPECT_EQ(strip.tones()[10].name, "Bb");
+
+    Calls calls;
+    RecordingInstrument instrument(calls);
+    EXPECT_TRUE(application.selectTuning("Dynamic"));
+    EXPECT_EQ(action(window, "Tuning Strip").isChecked(), true);
+    application.getTemperament()->isomorph(instrument, 3 * 3 - 1); // the lower spelling of D sharp
+    EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[3].name == "D#"; }));
+    application.getTemperament()->isomorph(instrument, 3 * 3 + 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[3].name == "Fbb"; }));
+    EXPECT_NEAR(strip.tones()[3].cents, 51.32, 0.01);
+    action(window, "Tuning Strip").trigger();
     EXPECT_TRUE(closes(window));
 }
 

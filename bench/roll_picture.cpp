@@ -1,0 +1,73 @@
+// What a repaint of the piano roll costs before OpenGL draws it: finding the visible notes among
+// 100,000 and gathering their vertices.
+
+#include "desktop/RollPicture.h"
+#include "sequencer/SequenceDocument.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <benchmark/benchmark.h>
+
+#include <random>
+
+namespace {
+
+constexpr unsigned kNotes = 100'000;
+
+/// Ten notes begin with every step.
+constexpr double kSteps = kNotes / 10.0;
+
+class SilentHost : public SequenceHost {
+public:
+    Instrument* getInstrument() override { return nullptr; }
+    Temperament* getTemperament() override { return nullptr; }
+    std::mutex& soundLock() override { return lock_; }
+
+private:
+    std::mutex lock_;
+};
+
+void fill(SequenceDocument& document)
+{
+    std::mt19937 random(1);
+    for (unsigned i = 0; i < kNotes; ++i)
+        document.edit().addNote({.start = kSteps * i / kNotes,
+                                 .length = 1.0 + static_cast<double>(random() % 16),
+                                 .velocity = 0.7F,
+                                 .key = 21 + static_cast<std::uint32_t>(random() % 88)});
+}
+
+/// By the height of a step: 8 pixels are usual, with 1 a tenth of the piece is seen. With `edited`
+/// the notes have just changed, so that they are indexed anew.
+void repaint(benchmark::State& state, bool edited)
+{
+    SilentHost host;
+    SequenceDocument document(host);
+    fill(document);
+    RollIndex index;
+    index.rebuild(document.getSequence().notes());
+    const RollGeometry geometry{14,     static_cast<int>(state.range(0)),
+                                294.0,  kSteps / 2 * static_cast<double>(state.range(0)),
+                                1232.0, 1000.0};
+    RollPicture picture;
+    for (auto _ : state) {
+        if (edited)
+            index.rebuild(document.getSequence().notes());
+        picture.draw(geometry, RollColors(QPalette()), 1.0, document, index);
+        benchmark::DoNotOptimize(picture.vertices().data());
+    }
+    state.counters["quads"] = static_cast<double>(picture.vertices().size()) / 4;
+}
+
+} // namespace
+
+BENCHMARK_CAPTURE(repaint, still, false)->Arg(8)->Arg(1)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(repaint, edited, true)->Arg(8)->Arg(1)->Unit(benchmark::kMicrosecond);
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
