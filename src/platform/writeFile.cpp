@@ -17,6 +17,8 @@ std::string reasonForFailure(const std::filesystem::path& path, std::string_view
     std::error_code error;
     if (!std::filesystem::is_directory(path.parent_path(), error))
         return "there is no such folder";
+    if (std::filesystem::exists(path, error) && !std::filesystem::is_regular_file(path, error))
+        return "what has this name is no file";
     QSaveFile file(QString::fromStdString(path.string()));
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString().toStdString();

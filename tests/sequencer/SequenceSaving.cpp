@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <random>
@@ -106,6 +107,8 @@ TEST_F(SequenceSaving, LeavesTheFileWhereItCannotBeWritten)
     EXPECT_FALSE(document_.saveToURL(folder_ / "gone" / "a.mid", kMidiFileType, kSaveAs));
     EXPECT_EQ(document_.errorString(), "a.mid cannot be written in " + (folder_ / "gone").string() +
                                            ": there is no such folder");
+    mkfifo((folder_ / "pipe.mid").c_str(), 0600);
+    EXPECT_FALSE(document_.saveToURL(folder_ / "pipe.mid", kMidiFileType, kSaveAs));
     EXPECT_EQ(document_.path(), "");
 }
 
