@@ -14,6 +14,7 @@
 #include "preferences/Preferences.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMenuBar>
@@ -50,6 +51,8 @@ SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, con
     connect(&document_, &SequenceDocument::changed, this, &SequenceWindow::showTitle);
     connect(&document_, &SequenceDocument::frame, this, &SequenceWindow::showTitle);
     connect(&document_.undoStack(), &QUndoStack::cleanChanged, this, &SequenceWindow::showTitle);
+    // The release of a key that is held may go elsewhere now.
+    connect(qApp, &QApplication::focusChanged, this, [this] { editor_.releaseKeys(); });
     showTitle();
     fitToScreen();
     rememberPlace(*this, "sequence");
@@ -221,8 +224,6 @@ void SequenceWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         emit becameMain();
-    else if (event->type() == QEvent::ActivationChange)
-        editor_.releaseKeys();
     if (event->type() == QEvent::WindowStateChange && isMinimized())
         emit resignedMain();
 }

@@ -103,7 +103,7 @@ std::string SequenceWindows::open(const QString& path)
     }
     SequenceWindow& window = make();
     window.document().readFromURL(path.toStdString());
-    const std::string error = window.document().errorString();
+    std::string error = window.document().errorString();
     if (error.empty())
         show(window);
     else

@@ -120,6 +120,8 @@ void TransportBar::showOptions()
 void TransportBar::showPosition()
 {
     const double offset = document_.getOffset();
+    // While it runs, more could not be read, only painted.
+    const int decimals = document_.mode() == SequenceDocument::Mode::Stopped ? 1 : 0;
     position_->setText(
-        tr("%1  ·  step %2").arg(shown(offset, document_.tempo())).arg(offset, 0, 'f', 1));
+        tr("%1  ·  step %2").arg(shown(offset, document_.tempo())).arg(offset, 0, 'f', decimals));
 }

@@ -17,6 +17,8 @@ constexpr int kHeight = 40;
 /// A departure of so many cents fills the strip.
 constexpr double kFullCents = 50.0;
 
+constexpr float kLineOpacity = 0.3F;
+
 constexpr unsigned kMiddleC = 60;
 
 double cents(double pitch, double reference)
@@ -80,7 +82,8 @@ void TuningStrip::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
-    const QColor line = palette().color(QPalette::Mid);
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(kLineOpacity);
     const double cell = width() / 12.0;
     for (unsigned tone = 0; tone < tones_.size(); ++tone) {
         const QRectF place(tone * cell, 0, cell, height());
