@@ -94,6 +94,7 @@ int main(int argc, char** argv)
     SequenceDocument& document = window->document();
     const std::vector<double> starts = fillAtRandom(document);
     std::size_t frames = 0;
+    double started = 0.0;
     QObject::connect(window->findChild<QOpenGLWidget*>(), &QOpenGLWidget::frameSwapped, &qt,
                      [&] { ++frames; });
     QObject::connect(
@@ -105,12 +106,8 @@ int main(int argc, char** argv)
         Qt::QueuedConnection);
     QTimer::singleShot(1000, &qt, [&] {
         frames = 0;
+        started = getTime();
         document.play();
-    });
-    double started = 0.0;
-    QObject::connect(&document, &SequenceDocument::modeChanged, &qt, [&] {
-        if (started == 0.0)
-            started = getTime();
     });
     QApplication::exec();
     const double seconds = getTime() - started;

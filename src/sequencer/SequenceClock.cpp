@@ -17,10 +17,26 @@ SequenceClock::SequenceClock(SequenceDocument& document) : document_(document)
     adjust();
 }
 
+SequenceClock::~SequenceClock()
+{
+    end();
+}
+
+void SequenceClock::end()
+{
+    playTimer_.reset();
+    document_.stop();
+    document_.playAhead(nullptr);
+    player_.reset();
+}
+
 void SequenceClock::adjust()
 {
-    if (document_.mode() == SequenceDocument::Mode::Stopped)
-        playTimer_.reset();
-    else if (!playTimer_)
+    if (document_.mode() == SequenceDocument::Mode::Stopped) {
+        end();
+    } else if (!playTimer_) {
+        player_ = std::make_unique<AheadPlayer>(document_.host());
+        document_.playAhead(player_.get());
         playTimer_ = std::make_unique<IntervalTimer>(kTick, [this] { document_.loop(); });
+    }
 }

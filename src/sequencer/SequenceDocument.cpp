@@ -109,9 +109,12 @@ void SequenceDocument::setMode(Mode mode)
 
 void SequenceDocument::loop()
 {
+    // Before the time is asked for: so the position is behind nothing that has sounded.
+    if (playback_.isPlanShort(clock_()))
+        playback_.takeBack();
     const double now = clock_();
     if (mode_ == Mode::Playing)
-        doPlay(now - dTime_);
+        doPlay(now);
     // A tick that comes late makes up for those before it, so that each key is taken where the
     // position was when it arrived.
     for (; mode_ == Mode::Recording && now - dTime_ >= 2.0 * kTick; dTime_ += kTick)
@@ -124,12 +127,20 @@ void SequenceDocument::loop()
         emit frame();
 }
 
-void SequenceDocument::doPlay(double seconds)
+double SequenceDocument::positionAt(double time) const
 {
-    double next = offset_ + tempo_ * seconds * kStepsPerTempoSecond;
-    const bool atEnd = (intervalSelected() && selectionEnd_ < next) || mx_ < next;
+    return offset_ + tempo_ * (time - dTime_) * kStepsPerTempoSecond;
+}
 
-    if (!atEnd) {
+double SequenceDocument::endOfPlaying() const
+{
+    return intervalSelected() ? std::min(selectionEnd_, mx_) : mx_;
+}
+
+void SequenceDocument::doPlay(double now)
+{
+    double next = positionAt(now);
+    if (next <= endOfPlaying()) {
         if (const auto lastKey = playback_.playBetween(offset_, next))
             note_ = static_cast<int>(*lastKey);
     } else {
@@ -139,6 +150,26 @@ void SequenceDocument::doPlay(double seconds)
             play();
     }
     doScroll(next);
+    if (mode_ == Mode::Playing)
+        playback_.planAhead(next, now, tempo_ * kStepsPerTempoSecond, endOfPlaying());
+}
+
+/// Before anything changes that a plan rests on: catches up with what has sounded.
+void SequenceDocument::settle()
+{
+    if (!playback_.takeBack())
+        return;
+    const double now = clock_();
+    const double next = std::max(offset_, std::min(positionAt(now), endOfPlaying()));
+    playback_.playBetween(offset_, next);
+    offset_ = next;
+    dTime_ = now;
+}
+
+void SequenceDocument::stop()
+{
+    settle();
+    playback_.stop();
 }
 
 void SequenceDocument::doRecord(double seconds)
@@ -214,6 +245,7 @@ void SequenceDocument::doScroll(double step)
 
 void SequenceDocument::setOffset(double step)
 {
+    settle();
     offset_ = step;
     emit changed();
 }
@@ -226,6 +258,7 @@ void SequenceDocument::putPosition(double step)
 
 void SequenceDocument::selectInterval(double start, double end)
 {
+    settle();
     selectionStart_ = start;
     selectionEnd_ = end;
     emit changed();
@@ -241,6 +274,7 @@ void SequenceDocument::measure()
 
 void SequenceDocument::setTempo(double tempo)
 {
+    settle();
     tempo_ = tempo;
     emit optionsChanged();
 }

@@ -73,7 +73,11 @@ public:
     void loop();
 
     /// Silences every note that playing has started.
-    void stop() { playback_.stop(); }
+    void stop();
+
+    /// Lets another thread sound the notes of a document that plays, on the clock of `getTime`;
+    /// null for none. It must outlive its use here.
+    void playAhead(AheadPlayer* player) { playback_.playAhead(player); }
 
     /// Puts the play position; the view follows when no interval is selected.
     void doScroll(double step);
@@ -195,7 +199,10 @@ signals:
     void optionsChanged();
 
 private:
-    void doPlay(double seconds);
+    double positionAt(double time) const;
+    double endOfPlaying() const;
+    void doPlay(double now);
+    void settle();
     void doRecord(double seconds);
 
     /// How a key stood at a moment since the last tick; takes it into account.

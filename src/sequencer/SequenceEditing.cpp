@@ -39,6 +39,7 @@ private:
 
 Sequence& SequenceDocument::edit(std::span<const std::uint64_t> notes)
 {
+    settle();
     for (const std::uint64_t id : notes)
         if (Note* note = sequence_.find(id); note != nullptr && note->playing)
             playback_.silence(*note);

@@ -1,31 +1,63 @@
 #include "sequencer/SequencePlayback.h"
 
-#include "sound/Instrument.h"
-#include "tuning/Temperament.h"
-
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace {
 
 /// The state of a key that the sequence plays.
 constexpr int kPlayed = 2;
 
+/// What is planned: the ticks of a quarter of a second, which is longer than anything is painted.
+constexpr double kTick = 1.0 / 1024.0;
+constexpr int kTicksPlanned = 256;
+
+/// By how much planned sounds come after the position is there, in seconds: whatever has sounded is
+/// behind it, however it is rounded.
+constexpr double kBehindPosition = 1e-6;
+
+bool startsBetween(const Note& note, double from, double to)
+{
+    return from <= note.start && note.start < to;
+}
+
+bool endsBetween(const Note& note, double from, double to)
+{
+    const double end = note.start + note.length;
+    return from < end && end <= to;
+}
+
 } // namespace
 
 std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double to)
 {
+    const auto soundedTo = std::exchange(soundedTo_, std::nullopt);
+    const bool sounds = !isPlanned_ && !soundedTo;
+    if (soundedTo) {
+        collect(*soundedTo, to, 0.0);
+        for (const KeySound& keySound : sounds_)
+            sound(host_, keySound);
+        sounds_.clear();
+    }
     std::optional<std::uint32_t> lastKey;
     bool silenced = false;
     for (const std::uint32_t position : index().concernedBy(from, to)) {
         Note& note = sequence_.at(position);
-        if (from <= note.start && note.start < to) {
-            start(position);
+        if (startsBetween(note, from, to)) {
+            mark(position);
+            note.playing = note.active = true;
+            states[note.key] = kPlayed;
             lastKey = note.key;
+            if (sounds)
+                sound(host_, {true, note.key, note.velocity, 0.0, 0.0});
         }
-        const double end = note.start + note.length;
-        if (from < end && end <= to) {
-            silence(note);
+        if (endsBetween(note, from, to)) {
+            states[note.key] = 0;
+            note.playing = note.active = false;
             silenced = true;
+            if (sounds)
+                stopOnInstrument(note.key);
         }
     }
     if (silenced)
@@ -33,18 +65,50 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
     return lastKey;
 }
 
-void SequencePlayback::start(std::uint32_t position)
+void SequencePlayback::collect(double from, double to, double time)
 {
-    mark(position);
-    Note& note = sequence_.at(position);
-    states[note.key] = kPlayed;
-    note.playing = note.active = true;
-    const std::lock_guard lock(host_.soundLock());
-    if (Instrument* instrument = host_.getInstrument()) {
-        host_.getTemperament()->setup(*instrument, static_cast<unsigned char>(note.key),
-                                      note.velocity);
-        instrument->play(static_cast<int>(note.key), note.velocity);
+    for (const std::uint32_t position : index().concernedBy(from, to)) {
+        const Note& note = sequence_.at(position);
+        if (startsBetween(note, from, to))
+            sounds_.push_back({true, note.key, note.velocity, time, to});
+        if (endsBetween(note, from, to))
+            sounds_.push_back({false, note.key, 0.0F, time, to});
     }
+}
+
+void SequencePlayback::playAhead(AheadPlayer* player)
+{
+    takeBack();
+    soundedTo_.reset();
+    player_ = player;
+}
+
+void SequencePlayback::planAhead(double step, double time, double stepsPerSecond, double end)
+{
+    if (player_ == nullptr || isPlanned_)
+        return;
+    isPlanned_ = true;
+    planStart_ = step;
+    plannedUntil_ = time + kTick * kTicksPlanned / 2;
+    sounds_.clear();
+    for (int tick = 0; tick < kTicksPlanned; ++tick) {
+        const double from = step + stepsPerSecond * kTick * tick;
+        const double to = step + stepsPerSecond * kTick * (tick + 1);
+        if (to > end) {
+            plannedUntil_ = std::numeric_limits<double>::infinity();
+            break;
+        }
+        collect(from, to, time + kTick * (tick + 1) + kBehindPosition);
+    }
+    player_->plan(sounds_);
+}
+
+bool SequencePlayback::takeBack()
+{
+    if (!std::exchange(isPlanned_, false))
+        return false;
+    soundedTo_ = player_->takeBack().value_or(planStart_);
+    return true;
 }
 
 void SequencePlayback::silence(Note& note)
@@ -56,6 +120,8 @@ void SequencePlayback::silence(Note& note)
 
 void SequencePlayback::silenceAll()
 {
+    takeBack();
+    soundedTo_.reset();
     for (const std::uint32_t key : index().keys()) {
         states[key] = 0;
         stopOnInstrument(key);
@@ -94,9 +160,7 @@ void SequencePlayback::markAt(double step, double tolerance, int state)
 
 void SequencePlayback::stopOnInstrument(std::uint32_t key)
 {
-    const std::lock_guard lock(host_.soundLock());
-    if (Instrument* instrument = host_.getInstrument())
-        instrument->stop(static_cast<int>(key));
+    sound(host_, {false, key, 0.0F, 0.0, 0.0});
 }
 
 SequenceIndex& SequencePlayback::index()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sequencer/AheadPlayer.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/SequenceIndex.h"
@@ -23,6 +24,20 @@ public:
     /// Starts and ends what does so from one step to another. The last key that has been started.
     std::optional<std::uint32_t> playBetween(double from, double to);
 
+    /// Who sounds what is planned; null for none. It must outlive its use here.
+    void playAhead(AheadPlayer* player);
+
+    /// Plans what is to sound from `step` at `time` on, tick by tick, as far as `end`. Until it is
+    /// taken back, `playBetween` flags notes and does not sound them.
+    void planAhead(double step, double time, double stepsPerSecond, double end);
+
+    /// Whether a plan has to be made anew soon.
+    bool isPlanShort(double time) const { return isPlanned_ && time > plannedUntil_; }
+
+    /// Gives the plan up; false when there is none. To be followed by `playBetween` up to where the
+    /// position is now, which catches up with what has sounded and sounds the rest.
+    bool takeBack();
+
     void silence(Note& note);
 
     /// Silences the key of every note, whether it sounds or not.
@@ -39,8 +54,8 @@ public:
     std::array<int, kKeys> states{};
 
 private:
-    void start(std::uint32_t position);
     void stopOnInstrument(std::uint32_t key);
+    void collect(double from, double to, double time);
     SequenceIndex& index();
     bool isMarked(std::uint32_t position) const;
     void mark(std::uint32_t position);
@@ -51,4 +66,11 @@ private:
     std::optional<SequenceIndex> index_; ///< Made when it is needed.
     /// Where the notes are that play or are active; it may name others besides.
     std::vector<std::uint32_t> marked_;
+
+    AheadPlayer* player_ = nullptr;
+    bool isPlanned_ = false;
+    double planStart_ = 0.0;          ///< In steps.
+    double plannedUntil_ = 0.0;       ///< Until then, in seconds, no other plan is needed.
+    std::optional<double> soundedTo_; ///< By a plan that was taken back.
+    std::vector<KeySound> sounds_;    ///< Being planned.
 };

@@ -78,6 +78,7 @@ void SequenceDocument::prevNote()
 
 void SequenceDocument::getCurrentNotes(bool advance)
 {
+    settle();
     auto& states = playback_.states;
     std::copy(noteStates.begin(), noteStates.end(), states.begin());
     playback_.markAt(offset_, kTolerance, kWanted);

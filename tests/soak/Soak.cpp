@@ -12,6 +12,7 @@
 #include "base/Log.h"
 #include "platform/OpenALDevice.h"
 #include "sequencer/RecoveryKeeper.h"
+#include "sequencer/SequenceClock.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
 #include "sequencer/SequenceFile.h"
@@ -37,9 +38,18 @@ constexpr std::size_t kWarmUpRounds = 8;
 constexpr std::size_t kMostNotes = 500;
 constexpr std::ptrdiff_t kMostGrowth = 1 << 20;
 
-/// A document as a window has it, on a clock that is moved by hand: ahead of the time.
+/// A document as a window has it.
 struct OpenSequence {
-    explicit OpenSequence(AppDelegate& app) : document(app, [this] { return now; }) {}
+    enum class Time { Real, Fast };
+
+    /// One that is fast runs on a clock that is moved by hand, ahead of the time.
+    OpenSequence(AppDelegate& app, Time time)
+        : document(
+              app, time == Time::Real ? std::function(getTime) : [this] { return now; })
+    {
+        if (time == Time::Real)
+            clock.emplace(document);
+    }
     ~OpenSequence() { document.stop(); }
     OpenSequence(const OpenSequence&) = delete;
     OpenSequence& operator=(const OpenSequence&) = delete;
@@ -47,13 +57,15 @@ struct OpenSequence {
     void tick()
     {
         now = std::max(now + kTick, getTime());
-        document.loop();
+        if (!clock)
+            document.loop();
     }
 
     double now = getTime();
     SequenceDocument document;
     SequenceEditor editor{document};
     RecoveryKeeper keeper{document, RecoveryFile(), std::chrono::milliseconds(100)};
+    std::optional<SequenceClock> clock;
 };
 
 /// Bytes that are allocated, in all threads. AddressSanitizer keeps what is freed for a while, and
@@ -149,8 +161,8 @@ private:
 
     void act()
     {
-        while (sequences_.size() < 3)
-            sequences_.push_back(std::make_unique<OpenSequence>(app_));
+        while (sequences_.size() < 4)
+            sequences_.push_back(makeSequence());
         OpenSequence& open = *sequences_[pick(sequences_.size())];
         if (open.document.getSequence().notes().size() > kMostNotes) {
             open.editor.selectAll();
@@ -167,6 +179,12 @@ private:
         advance(pick(96));
         QCoreApplication::processEvents();
         std::this_thread::sleep_for(std::chrono::microseconds(500));
+    }
+
+    std::unique_ptr<OpenSequence> makeSequence()
+    {
+        return std::make_unique<OpenSequence>(app_, chance(2) ? OpenSequence::Time::Real
+                                                              : OpenSequence::Time::Fast);
     }
 
     void advance(std::size_t ticks)
@@ -288,7 +306,7 @@ private:
         };
         write(kIMelodyType);
         write(kMidiFileType);
-        auto read = std::make_unique<OpenSequence>(app_);
+        auto read = makeSequence();
         read->document.readFromURL(path);
         require(read->document.errorString().empty(), read->document.errorString());
         for (auto& sequence : sequences_)

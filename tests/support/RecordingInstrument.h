@@ -4,6 +4,7 @@
 
 #include <spdlog/fmt/fmt.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,8 @@ public:
     void play(int key, float velocity) override
     {
         calls_.push_back(fmt::format("play {} {:.2f}", key, velocity));
+        if (onPlay)
+            onPlay();
     }
     void stop(int key) override { calls_.push_back(fmt::format("stop {}", key)); }
     void silence() override { calls_.push_back("silence"); }
@@ -31,6 +34,8 @@ public:
         calls_.push_back(fmt::format("tune {} {}", lo, hi));
     }
     void fade(double factor) override { calls_.push_back(fmt::format("fade {}", factor)); }
+
+    std::function<void()> onPlay;
 
 private:
     Calls& calls_;

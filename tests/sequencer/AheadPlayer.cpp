@@ -1,0 +1,88 @@
+#include "sequencer/AheadPlayer.h"
+
+#include "sequencer/SequenceClock.h"
+#include "sequencer/SequenceEditor.h"
+#include "support/SequenceTest.h"
+
+#include <QCoreApplication>
+#include <gmock/gmock.h>
+
+#include <thread>
+
+namespace {
+
+class AheadPlayerTest : public SequenceTest {
+protected:
+    /// A scale of two octaves in 1.6 seconds.
+    AheadPlayerTest()
+    {
+        for (unsigned i = 0; i < 24; ++i) {
+            add(48 + i, i, 0.75);
+            live_.edit().addNote(document_.getSequence().notes().back());
+        }
+        live_.measure();
+    }
+
+    /// Lets the main thread be late again and again.
+    void runFor(std::chrono::milliseconds time)
+    {
+        const auto end = std::chrono::steady_clock::now() + time;
+        while (std::chrono::steady_clock::now() < end) {
+            QCoreApplication::processEvents();
+            std::this_thread::sleep_for(std::chrono::milliseconds(60));
+        }
+    }
+
+    SequenceDocument live_{*this, getTime};
+    SequenceClock clock_{live_};
+};
+
+TEST_F(AheadPlayerTest, SoundsEachNoteOnceWhenItIsDue)
+{
+    std::vector<double> late;
+    instrument_.onPlay = [&] { late.push_back(getTime()); };
+    live_.play();
+    const double started = getTime();
+    runFor(std::chrono::milliseconds(1000));
+    live_.setTempo(240.0); // settles what was planned for the slower one
+    runFor(std::chrono::milliseconds(600));
+    const Calls calls = std::exchange(calls_, {});
+    instrument_.onPlay = nullptr;
+
+    document_.play();
+    for (int i = 0; i < 25 * 64; ++i)
+        tick(1.0 / 64.0);
+    EXPECT_EQ(calls, calls_);
+    ASSERT_EQ(late.size(), 24);
+    for (std::size_t i = 0; i < 14; ++i)
+        late[i] -= started + static_cast<double>(i) / 15.0;
+    std::sort(late.begin(), late.begin() + 14);
+    EXPECT_LT(late[7], 0.015) << "as a rule: the machine may be busy";
+}
+
+TEST_F(AheadPlayerTest, EndsWhatHasSoundedWhenThePlayingIsStoppedOrEdited)
+{
+    for (int i = 0; i < 20; ++i) {
+        calls_.clear();
+        live_.setOffset(0.0);
+        live_.play();
+        runFor(std::chrono::milliseconds(100));
+        std::this_thread::sleep_for(std::chrono::milliseconds(7 * i));
+        if (i % 2 == 0)
+            SequenceEditor(live_).mouseDown({20.0, 30.0}, Qt::NoModifier);
+        else
+            live_.play();
+        std::map<std::string, bool> sounding;
+        for (const std::string& call : calls_)
+            if (call.starts_with("play") || call.starts_with("stop"))
+                sounding[call.substr(5, 2)] = call.starts_with("play");
+        EXPECT_FALSE(sounding.empty());
+        for (const auto& [key, sounds] : sounding)
+            EXPECT_FALSE(sounds) << key << " after round " << i;
+        if (live_.mode() != kStopped)
+            live_.play();
+        QCoreApplication::processEvents();
+    }
+}
+
+} // namespace
