@@ -3,6 +3,7 @@
 
 #include "desktop/RollPicture.h"
 #include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -59,10 +60,36 @@ void repaint(benchmark::State& state, bool edited)
     state.counters["quads"] = static_cast<double>(picture.vertices().size()) / 4;
 }
 
+/// One movement of a drag that takes every tenth note along, and its repaint.
+void dragSelection(benchmark::State& state)
+{
+    SilentHost host;
+    SequenceDocument document(host);
+    fill(document);
+    SequenceEditor editor(document);
+    Sequence& sequence = document.edit();
+    for (std::size_t i = 0; i < kNotes; i += 10)
+        sequence.select(sequence.at(i));
+    const Note& grip = document.getSequence().notes()[0];
+    const auto key = static_cast<double>(grip.key);
+    editor.mouseDown({key, 0.5}, Qt::ShiftModifier); // leaves the others selected
+    RollIndex index;
+    RollPicture picture;
+    double step = 0.5;
+    for (auto _ : state) {
+        editor.mouseDragged({key, step += 0.125});
+        index.rebuild(document.getSequence().notes());
+        picture.draw({14, 8, 294.0, 40'000.0, 1232.0, 1000.0}, RollColors(QPalette()), 1.0,
+                     document, index);
+    }
+    state.counters["selected"] = static_cast<double>(document.getSequence().selection().size());
+}
+
 } // namespace
 
 BENCHMARK_CAPTURE(repaint, still, false)->Arg(8)->Arg(1)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(repaint, edited, true)->Arg(8)->Arg(1)->Unit(benchmark::kMicrosecond);
+BENCHMARK(dragSelection)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char** argv)
 {
