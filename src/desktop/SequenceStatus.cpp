@@ -35,12 +35,12 @@ SequenceStatus::SequenceStatus(const SequenceDocument& document)
     for (QLabel* label : {selection_, interval_, notes_})
         addPermanentWidget(label);
     connect(&document_, &SequenceDocument::changed, this, &SequenceStatus::showNotes);
-    connect(&document_, &SequenceDocument::changed, this, &SequenceStatus::showPractice);
-    connect(&document_, &SequenceDocument::frame, this, &SequenceStatus::showPractice);
-    connect(&document_, &SequenceDocument::modeChanged, this, &SequenceStatus::showPractice);
+    connect(&document_, &SequenceDocument::changed, this, &SequenceStatus::showMode);
+    connect(&document_, &SequenceDocument::frame, this, &SequenceStatus::showMode);
+    connect(&document_, &SequenceDocument::modeChanged, this, &SequenceStatus::showMode);
     connect(&document_, &SequenceDocument::modeChanged, this, &SequenceStatus::showNotes);
     showNotes();
-    showPractice();
+    showMode();
 }
 
 void SequenceStatus::showNotes()
@@ -56,7 +56,7 @@ void SequenceStatus::showNotes()
     notes_->setText(tr("%1 in all").arg(numberOf(notes.size())));
 }
 
-void SequenceStatus::showPractice()
+void SequenceStatus::showMode()
 {
     switch (document_.mode()) {
     case SequenceDocument::Mode::Playing:
@@ -64,6 +64,7 @@ void SequenceStatus::showPractice()
         break;
     case SequenceDocument::Mode::Recording:
         practice_->setText(tr("Recording"));
+        showNotes(); // they come with the frames
         break;
     case SequenceDocument::Mode::Stopped:
         practice_->setText(practice());

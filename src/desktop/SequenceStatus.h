@@ -16,7 +16,7 @@ public:
 
 private:
     void showNotes();
-    void showPractice();
+    void showMode();
     QString practice() const;
 
     const SequenceDocument& document_;
