@@ -5,16 +5,13 @@
 //
 //     test_soak [SECONDS [SEED]]
 
+#include "soak/OpenSequence.h"
 #include "soak/Players.h"
+#include "soak/memoryInUse.h"
 
 #include "app/AudioExport.h"
-#include "base/Clock.h"
 #include "base/Log.h"
 #include "platform/OpenALDevice.h"
-#include "sequencer/RecoveryKeeper.h"
-#include "sequencer/SequenceClock.h"
-#include "sequencer/SequenceDocument.h"
-#include "sequencer/SequenceEditor.h"
 #include "sequencer/SequenceFile.h"
 #include "sound/KeyTables.h"
 #include "support/Bank.h"
@@ -22,7 +19,6 @@
 
 #include <QCoreApplication>
 #include <al.h>
-#include <malloc.h>
 #include <spdlog/fmt/fmt.h>
 
 #include <cstdio>
@@ -31,54 +27,11 @@
 
 namespace {
 
-constexpr double kTick = 1.0 / 1024.0;
 constexpr std::size_t kTicksPerFade = 17;
 constexpr std::size_t kStepsPerRound = 1500;
 constexpr std::size_t kWarmUpRounds = 8;
 constexpr std::size_t kMostNotes = 500;
 constexpr std::ptrdiff_t kMostGrowth = 1 << 20;
-
-/// A document as a window has it.
-struct OpenSequence {
-    enum class Time { Real, Fast };
-
-    /// One that is fast runs on a clock that is moved by hand, ahead of the time.
-    OpenSequence(AppDelegate& app, Time time)
-        : document(
-              app, time == Time::Real ? std::function(getTime) : [this] { return now; })
-    {
-        if (time == Time::Real)
-            clock.emplace(document);
-    }
-    ~OpenSequence() { document.stop(); }
-    OpenSequence(const OpenSequence&) = delete;
-    OpenSequence& operator=(const OpenSequence&) = delete;
-
-    void tick()
-    {
-        now = std::max(now + kTick, getTime());
-        if (!clock)
-            document.loop();
-    }
-
-    double now = getTime();
-    SequenceDocument document;
-    SequenceEditor editor{document};
-    RecoveryKeeper keeper{document, RecoveryFile(), std::chrono::milliseconds(100)};
-    std::optional<SequenceClock> clock;
-};
-
-/// Bytes that are allocated, in all threads. AddressSanitizer keeps what is freed for a while, and
-/// tells itself of what is lost.
-std::size_t memoryInUse()
-{
-#ifdef __SANITIZE_ADDRESS__
-    return 0;
-#else
-    const auto heap = mallinfo2();
-    return heap.uordblks + heap.hblkhd;
-#endif
-}
 
 void require(bool condition, const std::string& message)
 {
