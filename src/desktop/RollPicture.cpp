@@ -16,6 +16,9 @@ constexpr float kIntervalOpacity = 0.5F;
 /// Every so many steps there is a darker grid line.
 constexpr int kStepsOfABar = 8;
 
+/// Steps of less pixels would be nothing but grid: then only the darker lines are drawn.
+constexpr int kLeastStepOfGrid = 3;
+
 using Shade = decltype(RollVertex::color);
 
 Shade shade(const Color& color, float alpha)
@@ -102,7 +105,9 @@ void RollPicture::addGrid(const RollGeometry& geometry, double line)
         const double left = geometry.xOf(key);
         add({left, left + line, 0.0, geometry.height}, kColumnLine);
     }
-    for (int step = geometry.firstStep(); step < geometry.endStep(); ++step) {
+    const int stride = geometry.keyHeight < kLeastStepOfGrid ? kStepsOfABar : 1;
+    for (int step = geometry.firstStep() / stride * stride; step < geometry.endStep();
+         step += stride) {
         const double bottom = geometry.yOf(step);
         add({0.0, geometry.width, bottom, bottom + line},
             step % kStepsOfABar == 0 ? kBarLine : kStepLine);

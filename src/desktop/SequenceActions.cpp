@@ -64,6 +64,7 @@ SequenceActions::SequenceActions(SequenceDocument& document, SequenceEditor& edi
     showMode();
     showOptions();
     showSelection();
+    showClipboard();
 }
 
 SequenceActions::~SequenceActions() = default;
@@ -98,7 +99,7 @@ void SequenceActions::connectEditing()
     connect(selectAll_, &QAction::triggered, this, [this] { editor_.selectAll(); });
     connect(&document_, &SequenceDocument::changed, this, &SequenceActions::showSelection);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
-            &SequenceActions::showSelection);
+            &SequenceActions::showClipboard);
 }
 
 void SequenceActions::connectTransport()
@@ -161,6 +162,11 @@ void SequenceActions::showSelection()
     const bool isAny = !document_.getSequence().selection().empty();
     for (QAction* action : {cut, copy, delete_, deselect_})
         action->setEnabled(isAny);
+}
+
+void SequenceActions::showClipboard()
+{
+    // Asks the program that has filled it: only when that has changed.
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     paste->setEnabled(data != nullptr && data->hasFormat(kNotesMimeType));
 }

@@ -35,6 +35,7 @@ private:
     void showMode();
     void showOptions();
     void showSelection();
+    void showClipboard();
     void copyNotes(const std::vector<Note>& notes);
     void pasteNotes();
 

@@ -190,6 +190,10 @@ TEST_F(SequenceViewTest, DrawsNotesByVelocityStateAndTime)
     scrollView.updateDocumentSizes(1000);
     scrollView.scrollClipView({54 * 6, 0});
     EXPECT_EQ(extent(67, 7, 11, kWhite), "7-9");
+    setPrefInt("KeyHeight", 2);
+    scrollView.updateDocumentSizes(1000);
+    EXPECT_EQ(at(9, 160), 0x999999);
+    EXPECT_EQ(at(9, 162), kWhite) << "the grid does not cover all";
 }
 
 TEST_F(SequenceViewTest, SelectsMovesAndResizesNotesWithTheMouse)
