@@ -16,7 +16,7 @@ struct OpenSequence {
     /// One that is fast runs on a clock that is moved by hand, ahead of the time.
     OpenSequence(SequenceHost& host, Time time)
         : document(
-              app, time == Time::Real ? std::function(getTime) : [this] { return now; })
+              host, time == Time::Real ? std::function(getTime) : [this] { return now; })
     {
         if (time == Time::Real)
             clock.emplace(document);
