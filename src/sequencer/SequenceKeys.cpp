@@ -69,6 +69,7 @@ bool SequenceEditor::takeNamedKey(int key, bool command)
             document_.setOffset(0.0);
         else
             document_.prevNote();
+        document_.doScroll(document_.getOffset());
         document_.getCurrentNotes(true);
         return true;
     case Qt::Key_Up:
@@ -77,6 +78,7 @@ bool SequenceEditor::takeNamedKey(int key, bool command)
             document_.setOffset(getPrefInt("KeyHeight") * document_.extent());
         else
             document_.nextNote();
+        document_.doScroll(document_.getOffset());
         document_.getCurrentNotes(true);
         return true;
     default:
