@@ -117,7 +117,7 @@ void SequenceDocument::loop()
         doPlay(now);
     // A tick that comes late makes up for those before it, so that each key is taken where the
     // position was when it arrived.
-    for (; mode_ == Mode::Recording && now - dTime_ >= 2.0 * kTick; dTime_ += kTick)
+    for (; mode_ == Mode::Recording && now - dTime_ > kTick; dTime_ += kTick)
         doRecord(kTick);
     if (mode_ == Mode::Recording)
         doRecord(now - dTime_);

@@ -22,10 +22,18 @@ namespace {
 constexpr double kStepsPerRecordedSecond = 15.0;
 constexpr double kTick = kStepsPerRecordedSecond / 1024.0;
 
+/// A message, and the times before and after it was taken in: on a busy machine they differ.
 struct Arrival {
-    double time;
+    double before, after;
     std::vector<std::uint8_t> message;
 };
+
+/// Whether a number of steps is what lies between two arrivals, but for some ticks.
+void expectBetween(const Arrival& first, const Arrival& second, double steps, double ticks)
+{
+    EXPECT_GE(steps, (second.before - first.after) * kStepsPerRecordedSecond - ticks * kTick);
+    EXPECT_LE(steps, (second.after - first.before) * kStepsPerRecordedSecond + ticks * kTick);
+}
 
 /// Keeps the event loop going, as late as a window makes it.
 void runFor(double seconds)
@@ -47,8 +55,9 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
     std::vector<Arrival> arrivals;
     MidiInputs inputs([&](MidiPacket packet) {
         const std::lock_guard lock(mutex);
+        const double before = getTime();
         midiRead({&packet, 1}, app);
-        arrivals.push_back({getTime(), {packet.begin(), packet.end()}});
+        arrivals.push_back({before, getTime(), {packet.begin(), packet.end()}});
     });
     if (inputs.api() == "ALSA")
         GTEST_SKIP() << "this machine has an ALSA sequencer, which goes before JACK";
@@ -63,7 +72,13 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
         runFor(0.030);
     }
     piano.send(0, {0x80, 71, 0});
-    runFor(0.2);
+    const auto haveAllArrived = [&] {
+        const std::lock_guard lock(mutex);
+        return arrivals.size() == 48;
+    };
+    for (int i = 0; i < 100 && !haveAllArrived(); ++i)
+        runFor(0.1);
+    runFor(0.1);
     document.record();
 
     const QTemporaryDir folder;
@@ -80,18 +95,17 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
 
     const std::lock_guard lock(mutex);
     const auto arrival = [&](std::uint8_t status, std::uint32_t key) {
-        const auto found = std::find_if(arrivals.begin(), arrivals.end(), [&](const auto& each) {
+        return *std::find_if(arrivals.begin(), arrivals.end(), [&](const auto& each) {
             return each.message[0] == status && each.message[1] == key;
         });
-        return (found->time - arrivals.front().time) * kStepsPerRecordedSecond;
     };
     for (std::size_t i = 0; i < notes.size(); ++i) {
         const Note& note = notes[i];
-        const double start = arrival(0x90, note.key), end = arrival(0x80, note.key);
+        const Arrival start = arrival(0x90, note.key);
         EXPECT_EQ(note.key, 48 + i);
         EXPECT_NEAR(note.velocity, (20.0 + static_cast<double>(i)) / 127.0, 1e-6);
-        EXPECT_NEAR(note.start - notes.front().start, start, 1.1 * kTick) << i;
-        EXPECT_NEAR(note.length, end - start, 2.1 * kTick) << i;
+        expectBetween(arrivals.front(), start, note.start - notes.front().start, 1.01);
+        expectBetween(start, arrival(0x80, note.key), note.length, 2.01);
         EXPECT_EQ(kept[i]["key"], note.key);
         EXPECT_NEAR(kept[i]["start"].get<double>(), note.start, 1.0 / 512.0);
         EXPECT_NEAR(kept[i]["length"].get<double>(), note.length, 1.0 / 512.0);
