@@ -62,9 +62,10 @@ SequenceWindow::~SequenceWindow()
 {
     if (!isSettled_)
         keeper_.leave();
-    // The widgets go after the document.
+    // The widgets go after the document, which has something to say to the end.
     scrollView_->view().setDocument(nullptr, nullptr);
-    disconnect(&document_, nullptr, nullptr, nullptr);
+    document_.disconnect();
+    document_.undoStack().disconnect();
 }
 
 void SequenceWindow::makeView()

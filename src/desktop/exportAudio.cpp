@@ -5,25 +5,27 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QSettings>
+#include <QStatusBar>
 
 namespace {
 
 constexpr const char* kFolderKey = "exportFolder";
 constexpr int kParts = 1000;
+constexpr int kMessageMilliseconds = 8000;
 
 /// One export, and how far it is.
 class ExportProgress : public QProgressDialog {
 public:
-    ExportProgress(QWidget& window, const QString& path)
+    ExportProgress(QMainWindow& window, const QString& path)
         : QProgressDialog(tr("Loading the instrument"), tr("Cancel"), 0, kParts, &window),
-          path_(path)
+          window_(window), path_(path)
     {
         setWindowTitle(tr("Export Audio"));
         setWindowModality(Qt::WindowModal);
-        setAttribute(Qt::WA_DeleteOnClose, false);
         setAutoClose(false);
         setAutoReset(false);
         setMinimumDuration(0);
@@ -58,13 +60,14 @@ private:
                 tr("%1 was not written. %2").arg(QFileInfo(path_).fileName(), error));
     }
 
+    QMainWindow& window_;
     QString path_;
     AudioExport export_;
 };
 
 } // namespace
 
-void exportAudio(QWidget& window, const SequenceDocument& document, AppDelegate& application)
+void exportAudio(QMainWindow& window, const SequenceDocument& document, AppDelegate& application)
 {
     QSettings settings("velmora", "velmora");
     QFileDialog dialog(&window, QObject::tr("Export Audio"), settings.value(kFolderKey).toString());

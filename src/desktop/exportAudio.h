@@ -1,9 +1,9 @@
 #pragma once
 
 class AppDelegate;
-class QWidget;
+class QMainWindow;
 class SequenceDocument;
 
 /// Asks for a sound file and renders a sequence into it as it would sound now, with progress over
-/// its window. Everything else goes on meanwhile.
-void exportAudio(QWidget& window, const SequenceDocument& document, AppDelegate& application);
+/// its window, whose status bar says when it is done. Everything else goes on meanwhile.
+void exportAudio(QMainWindow& window, const SequenceDocument& document, AppDelegate& application);

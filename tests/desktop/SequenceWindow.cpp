@@ -9,7 +9,9 @@
 #include "support/RecordingInstrument.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -88,6 +90,24 @@ protected:
         act();
         EXPECT_EQ(texts.size(), answers.size());
         return texts;
+    }
+
+    /// Names a file in the dialog that opens while `act` is done.
+    template <class Act> void naming(const QString& path, const Act& act)
+    {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeWindow());
+            if (dialog != nullptr) {
+                timer.stop();
+                auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+                name->setFocus();
+                name->setText(path);
+                QTest::keyClick(name, Qt::Key_Return);
+            }
+        });
+        timer.start(5);
+        act();
     }
 
     void draw(SequenceWindow& window, QPoint place = {200, 200})
@@ -274,6 +294,21 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
                             "instead."));
     EXPECT_EQ(&open("wolf-fantasia.mid"), &imported) << "it is not opened twice";
     EXPECT_TRUE(closes(imported));
+}
+
+TEST_F(SequenceWindowTest, WritesNotesUnderTheNamesThatAreGiven)
+{
+    SequenceWindow& window = open("wolf-fantasia.mid");
+    const QTemporaryDir folder;
+    naming(folder.filePath("tune"), [&] { EXPECT_TRUE(window.saveAs()); });
+    EXPECT_EQ(window.document().path(), folder.filePath("tune.mid").toStdString());
+    EXPECT_TRUE(window.save()) << "it is imported no more";
+    naming(folder.filePath("tune.imy"), [&] { EXPECT_TRUE(window.saveAs()); });
+    QFile melody(folder.filePath("tune.imy"));
+    EXPECT_TRUE(melody.open(QIODevice::ReadOnly) && melody.readLine() == "BEGIN:IMELODY\r\n");
+
+    draw(window);
+    answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
 }
 
 TEST_F(SequenceWindowTest, OffersWhatWasLeftWithoutAsking)
