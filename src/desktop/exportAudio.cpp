@@ -54,10 +54,12 @@ private:
     {
         deleteLater();
         hide();
-        if (!isWritten && !error.isEmpty())
-            QMessageBox::warning(
-                parentWidget(), tr("Velmora"),
-                tr("%1 was not written. %2").arg(QFileInfo(path_).fileName(), error));
+        const QString name = QFileInfo(path_).fileName();
+        if (isWritten)
+            window_.statusBar()->showMessage(tr("%1 is written").arg(name), kMessageMilliseconds);
+        else if (!error.isEmpty())
+            QMessageBox::warning(&window_, tr("Velmora"),
+                                 tr("%1 was not written. %2").arg(name, error));
     }
 
     QMainWindow& window_;

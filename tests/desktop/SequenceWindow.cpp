@@ -296,8 +296,10 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
     EXPECT_TRUE(closes(imported));
 }
 
-TEST_F(SequenceWindowTest, WritesNotesUnderTheNamesThatAreGiven)
+TEST_F(SequenceWindowTest, WritesNotesAndSoundUnderTheNamesThatAreGiven)
 {
+    desktop.launch();
+    desktop.application().waitForBank();
     SequenceWindow& window = open("wolf-fantasia.mid");
     const QTemporaryDir folder;
     naming(folder.filePath("tune"), [&] { EXPECT_TRUE(window.saveAs()); });
@@ -307,7 +309,14 @@ TEST_F(SequenceWindowTest, WritesNotesUnderTheNamesThatAreGiven)
     QFile melody(folder.filePath("tune.imy"));
     EXPECT_TRUE(melody.open(QIODevice::ReadOnly) && melody.readLine() == "BEGIN:IMELODY\r\n");
 
+    window.document().edit().select();
+    window.document().edit().erase();
+    window.document().setTempo(400);
     draw(window);
+    naming(folder.filePath("tune.ogg"), [&] { action(window, "Export Audio…").trigger(); });
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return window.statusBar()->currentMessage() == "tune.ogg is written"; }, 20'000));
+    EXPECT_GT(QFileInfo(folder.filePath("tune.ogg")).size(), 1000);
     answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
 }
 
