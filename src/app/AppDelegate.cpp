@@ -46,7 +46,11 @@ std::vector<std::filesystem::path> generalMidiBanks()
     return banks;
 }
 
-AppDelegate::AppDelegate() : queue_([this](const InputEvent& event) { take(event); }) {}
+AppDelegate::AppDelegate() : queue_([this](const InputEvent& event) { take(event); })
+{
+    connect(this, &AppDelegate::synthesizerMade, this, &AppDelegate::takeSynthesizer,
+            Qt::QueuedConnection);
+}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -89,7 +93,7 @@ void AppDelegate::loadBank()
     const double rate = output_ ? output_->rate() : kUsualRate;
     loading_ = std::async(std::launch::async, [this, rate, banks = generalMidiBanks()] {
         auto synthesizer = std::make_unique<Synthesizer>(rate, banks);
-        QMetaObject::invokeMethod(this, &AppDelegate::takeSynthesizer, Qt::QueuedConnection);
+        emit synthesizerMade();
         return synthesizer;
     });
 }

@@ -153,6 +153,9 @@ signals:
     /// Another bank sounds, or none where none could be loaded.
     void bankLoaded();
 
+    /// The thread that loads a bank has done so.
+    void synthesizerMade();
+
     /// An instrument was listed, unloaded or read anew.
     void instrumentsChanged();
 

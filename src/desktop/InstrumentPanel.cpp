@@ -15,6 +15,8 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace {
 
 constexpr int kStopsLeft = 226;
@@ -29,7 +31,7 @@ constexpr int kFullVolume = 1000;
 
 QString stopTitle(const Instrument& instrument, std::size_t stop)
 {
-    const QString name = QString::fromStdString(instrument.stopName(stop));
+    QString name = QString::fromStdString(instrument.stopName(stop));
     if (!name.isEmpty())
         return name;
     return instrument.numStops() > 1 ? InstrumentPanel::tr("Stop %1").arg(stop + 1)
@@ -169,7 +171,7 @@ void InstrumentPanel::showVolume(std::size_t stop, float volume)
     if (stop >= sliders_.size())
         return;
     const QSignalBlocker isToldAlready(sliders_[stop]);
-    sliders_[stop]->setValue(static_cast<int>(volume * kFullVolume + 0.5F));
+    sliders_[stop]->setValue(static_cast<int>(std::lround(volume * kFullVolume)));
 }
 
 void InstrumentPanel::tellVolume(std::size_t stop) const

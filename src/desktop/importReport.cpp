@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <spdlog/fmt/fmt.h>
 
 namespace {
 
@@ -29,7 +30,7 @@ void showImportReport(QWidget& parent, const InstrumentDocument& document)
 
     QString details;
     for (const auto& [file, why] : report.skipped)
-        details += QString::fromStdString(file + ": " + why + "\n");
+        details += QString::fromStdString(fmt::format("{}: {}\n", file, why));
     box.setDetailedText(details);
     box.exec();
 }

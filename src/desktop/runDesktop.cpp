@@ -62,10 +62,13 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files)
     QObject::connect(&instance, &SingleInstance::opened, &desktop, &Desktop::open,
                      Qt::QueuedConnection);
     // The window first, then what may take its time.
-    QTimer::singleShot(0, &desktop, [&] {
+    QTimer launching;
+    launching.setSingleShot(true);
+    QObject::connect(&launching, &QTimer::timeout, [&] {
         desktop.launch();
         if (!paths.isEmpty())
             desktop.open(paths);
     });
+    launching.start(0);
     return QApplication::exec();
 }
