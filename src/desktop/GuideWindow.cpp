@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr QSize kUsualSize(760, 820);
+constexpr QSize kUsualSize(1000, 820);
 constexpr double kMargin = 18.0;
 
 } // namespace
