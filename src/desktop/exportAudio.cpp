@@ -72,14 +72,16 @@ private:
 void exportAudio(QMainWindow& window, const SequenceDocument& document, AppDelegate& application)
 {
     QSettings settings("velmora", "velmora");
-    QFileDialog dialog(&window, QObject::tr("Export Audio"), settings.value(kFolderKey).toString());
+    const auto& path = document.path();
+    const QString folder = path.empty() ? settings.value(kFolderKey).toString()
+                                        : QString::fromStdString(path.parent_path().string());
+    QFileDialog dialog(&window, QObject::tr("Export Audio"), folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters({"WAV (*.wav)", "FLAC (*.flac)", "Ogg Vorbis (*.ogg)"});
     dialog.setDefaultSuffix("wav");
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
         dialog.setDefaultSuffix(filter.section("*.", 1).chopped(1));
     });
-    const auto& path = document.path();
     if (!path.empty())
         dialog.selectFile(QString::fromStdString(path.stem().string()) + ".wav");
     if (dialog.exec() != QDialog::Accepted)
