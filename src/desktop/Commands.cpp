@@ -67,7 +67,6 @@ Commands::Commands(AppDelegate& application)
     help_->addAction(tr("&About Velmora"), this, &Commands::aboutWanted)
         ->setMenuRole(QAction::AboutRole);
 
-    connect(silence, &QAction::triggered, &application_, &AppDelegate::silenceAll);
     connect(recent_.get(), &QMenu::aboutToShow, this, &Commands::showRecent);
     connect(instruments_.get(), &QMenu::aboutToShow, this, &Commands::showInstruments);
     connect(tunings_.get(), &QMenu::aboutToShow, this, &Commands::showTunings);

@@ -85,6 +85,10 @@ void Desktop::connectCommands()
     presents(commands_.preferences, preferencesWindow_);
     connect(commands_.open, &QAction::triggered, this, &Desktop::askForFiles);
     // Not through the windows' closing: what stands open is to stand open again.
+    connect(commands_.silence, &QAction::triggered, this, [this] {
+        sequenceWindows_.stopPlaying(); // or its next note would sound
+        application_.silenceAll();
+    });
     connect(commands_.quit, &QAction::triggered, this, [this] {
         if (sequenceWindows_.closeAll())
             QApplication::exit();

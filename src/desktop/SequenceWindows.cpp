@@ -155,6 +155,14 @@ void SequenceWindows::updateDocumentSizes()
         window->updateDocumentSizes();
 }
 
+void SequenceWindows::stopPlaying()
+{
+    for (SequenceWindow* window : windows_) {
+        if (window->document().mode() == SequenceDocument::Mode::Playing)
+            window->document().play();
+    }
+}
+
 void SequenceWindows::handleKey(const QKeyEvent& event)
 {
     if (main_ != nullptr)

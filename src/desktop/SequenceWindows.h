@@ -40,6 +40,9 @@ public:
     /// Fits the rolls to the preferences.
     void updateDocumentSizes();
 
+    /// Ends what plays.
+    void stopPlaying();
+
     /// Gives a key that was pressed or released elsewhere to the main window.
     void handleKey(const QKeyEvent& event);
 

@@ -143,6 +143,9 @@ TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
     EXPECT_FALSE(record.isEnabled());
     QTest::keyClick(&desktop.keyboardWindow(), Qt::Key_Space);
     EXPECT_EQ(play.iconText(), "Play");
+    play.trigger();
+    action(window, "Silence Everything").trigger();
+    EXPECT_EQ(play.iconText(), "Play");
     record.trigger();
     EXPECT_EQ(document.mode(), SequenceDocument::Mode::Recording);
     EXPECT_EQ(record.iconText(), "Stop");
