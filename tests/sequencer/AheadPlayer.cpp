@@ -37,7 +37,7 @@ protected:
     SequenceClock clock_{live_};
 };
 
-TEST_F(AheadPlayerTest, SoundsEachNoteOnceWhenItIsDue)
+TEST_F(AheadPlayerTest, SoundsEachNoteOnceWhenItIsDueAndRestsThen)
 {
     std::vector<double> late;
     instrument_.onPlay = [&] { late.push_back(getTime()); };
@@ -58,6 +58,12 @@ TEST_F(AheadPlayerTest, SoundsEachNoteOnceWhenItIsDue)
         late[i] -= started + static_cast<double>(i) / 15.0;
     std::sort(late.begin(), late.begin() + 14);
     EXPECT_LT(late[7], 0.015) << "as a rule: the machine may be busy";
+
+    live_.play();
+    int frames = 0;
+    QObject::connect(&live_, &SequenceDocument::frame, [&] { ++frames; });
+    runFor(std::chrono::milliseconds(100));
+    EXPECT_EQ(frames, 0) << "nothing ticks any longer";
 }
 
 TEST_F(AheadPlayerTest, EndsWhatHasSoundedWhenThePlayingIsStoppedOrEdited)

@@ -5,12 +5,12 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <random>
 
 using testing::ElementsAre;
 using testing::FieldsAre;
 using testing::IsEmpty;
-using testing::UnorderedElementsAre;
 
 namespace {
 
@@ -22,12 +22,16 @@ class SequenceEditorTest : public SequenceTest {
 protected:
     using Notes = std::map<std::uint64_t, std::tuple<unsigned, double, double, unsigned>>;
 
-    /// By identity: key, start, length and channel.
-    Notes notes() const
+    /// By identity, by which each is found: key, start, length and channel.
+    Notes notes()
     {
         Notes result;
-        for (const Note& note : document_.getSequence().notes())
+        for (const Note& note : document_.getSequence().notes()) {
             result[note.id] = {note.key, note.start, note.length, note.channel};
+            EXPECT_EQ(document_.edit().find(note.id), &note);
+            EXPECT_EQ(note.selected, std::ranges::count(selection(), note.id) > 0);
+        }
+        EXPECT_EQ(result.size(), document_.getSequence().notes().size()) << "each has its own";
         return result;
     }
 
@@ -61,7 +65,6 @@ protected:
 
     QString undoText() { return document_.undoStack().undoText(); }
     void undo() { document_.undoStack().undo(); }
-    void redo() { document_.undoStack().redo(); }
 
     SequenceEditor editor_{document_};
 };
@@ -85,23 +88,17 @@ TEST_F(SequenceEditorTest, MovesANoteOrResizesItByItsEnd)
     EXPECT_EQ(undoText(), "Delete 1 Note");
     EXPECT_EQ(document_.extent(), 0.0);
     undo();
-    EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 1.5, 0));
     EXPECT_EQ(document_.extent(), 38.0);
     undo();
-    undo();
-    EXPECT_THAT(notes()[1], FieldsAre(60, 4.0, 4.0, 0));
-    redo();
-    EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 4.0, 0));
-
-    undo();
-    type(Qt::Key_Escape); // the note's committed place is still the one that was undone
-    drag({60.0, 5.0}, {60.0, 6.0});
-    EXPECT_THAT(notes()[1], FieldsAre(60, 5.0, 4.0, 0));
+    undo(); // the note's committed place is still the one that was undone
+    type(Qt::Key_Escape);
+    drag({60.0, 5.0}, {60.0, 6.5});
+    EXPECT_THAT(notes()[1], FieldsAre(60, 5.5, 4.0, 0));
     document_.setSnapToGrid(true);
-    drag({60.0, 5.9}, {60.0, 7.1});
-    EXPECT_THAT(notes()[1], FieldsAre(60, 7.0, 4.0, 0));
-    drag({60.0, 10.5}, {60.0, 12.1});
-    EXPECT_THAT(notes()[1], FieldsAre(60, 7.0, 6.0, 0)) << "up to the whole step";
+    drag({60.0, 5.9}, {-9.0, -0.3});
+    EXPECT_THAT(notes()[1], FieldsAre(0, -1.0, 4.0, 0)) << "down to the whole step";
+    drag({0.0, 2.5}, {0.0, 4.1});
+    EXPECT_THAT(notes()[1], FieldsAre(0, -1.0, 6.0, 0)) << "up to the whole step";
 }
 
 TEST_F(SequenceEditorTest, DrawsWithTheRightButtonOrCommand)
@@ -117,16 +114,6 @@ TEST_F(SequenceEditorTest, DrawsWithTheRightButtonOrCommand)
                                      FieldsAre(4, FieldsAre(127, 1.0, 1.0, 2))));
     EXPECT_THAT(selection(), ElementsAre(4));
     EXPECT_EQ(undoText(), "Draw Note");
-    undo();
-    undo();
-    EXPECT_EQ(notes().size(), 1U);
-
-    // A note that goes while it is drawn is not missed.
-    editor_.rightMouseDown({64.0, 1.0});
-    document_.edit().erase(5);
-    editor_.mouseDragged({64.0, 3.0});
-    editor_.mouseUp({64.0, 3.0}, kNone);
-    EXPECT_EQ(notes().size(), 1U);
 }
 
 TEST_F(SequenceEditorTest, SelectsNotesAndTheInterval)
@@ -151,8 +138,6 @@ TEST_F(SequenceEditorTest, SelectsNotesAndTheInterval)
     EXPECT_EQ(notes().size(), 1U);
     undo();
     EXPECT_EQ(notes().size(), 3U) << "each once";
-    editor_.deleteSelection();
-    EXPECT_EQ(document_.undoStack().count(), 1) << "nothing is selected";
 }
 
 TEST_F(SequenceEditorTest, TakesKeysByTheirPosition)
@@ -229,10 +214,10 @@ TEST_F(SequenceEditorTest, KeepsTheOrderOfATakeAndTheEditsWithin)
     noteStates[60] = 0;
     drag({60.0, 0.5}, {62.0, 0.5});
     document_.record();
-    EXPECT_EQ(undoText(), "Move 1 Note");
-    undo();
-    EXPECT_EQ(undoText(), "Record 1 Note");
-    undo();
+    for (const char* done : {"Move 1 Note", "Record 1 Note", ""}) {
+        EXPECT_EQ(undoText(), done);
+        undo();
+    }
     EXPECT_THAT(notes(), IsEmpty());
 }
 
@@ -294,6 +279,7 @@ TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
             states[index] = notes();
         }
         ASSERT_TRUE(!states.contains(index) || notes() == states[index]) << i;
+        ASSERT_TRUE(std::ranges::is_sorted(document_.getSequence().notes(), {}, &Note::start)) << i;
     }
     for (const bool undone : {true, false}) {
         for (int index = 0; index <= stack.count(); ++index) {

@@ -1,6 +1,3 @@
-// The plain walk through all notes, as the measure of the one that skips what a tick does not
-// concern.
-
 #include "support/SequenceTest.h"
 
 #include <algorithm>
@@ -18,30 +15,35 @@ struct State {
 
     std::string text() const
     {
-        std::string result = fmt::format("{} {}\n{}\n{}\n", offset, cursor, fmt::join(keys, " "),
-                                         fmt::join(calls, ", "));
+        std::string flags;
         for (const Note& note : notes)
-            result +=
-                fmt::format("{}:{}{} ", note.id, note.playing ? "p" : "", note.active ? "a" : "");
-        return result;
+            flags += fmt::format("{}:{:d}{:d} ", note.id, note.playing, note.active);
+        return fmt::format("{} {}\n{}\n{}\n{}", offset, cursor, fmt::join(keys, " "),
+                           fmt::join(calls, ", "), flags);
     }
 };
 
 class SequencePlaybackTest : public SequenceTest {
 protected:
-    State state() const
+    /// The extent is 44.
+    void addTwoNotes()
     {
-        State result{document_.getSequence().notes(),
-                     {},
-                     calls_,
-                     document_.getOffset(),
-                     document_.getNote()};
-        for (unsigned key = 0; key < 128; ++key)
-            result.keys.push_back(document_.stateOfNote(key));
-        return result;
+        add(60, 2.0, 4.0);
+        add(64, 4.0, 8.0);
+        document_.edit().at(1).velocity = 0.5F;
     }
 
-    /// What a tick of so many steps comes to, by walking through all notes.
+    State state() const
+    {
+        std::vector<int> keys;
+        for (unsigned key = 0; key < 128; ++key)
+            keys.push_back(document_.stateOfNote(key));
+        return {document_.getSequence().notes(), keys, calls_, document_.getOffset(),
+                document_.getNote()};
+    }
+
+    /// What a tick of so many steps comes to, by a plain walk through all notes: the measure of the
+    /// one that skips what the tick does not concern.
     State walkThrough(double steps) const
     {
         State result = state();
@@ -109,6 +111,54 @@ protected:
 };
 
 } // namespace
+
+TEST_F(SequencePlaybackTest, PlaysToTheEndAndGoesBackToTheBeginning)
+{
+    addTwoNotes();
+    double shown = -1.0;
+    QObject::connect(&document_, &SequenceDocument::frame, [&] { shown = document_.getOffset(); });
+    tick(100.0); // before it plays
+    document_.play();
+    for (const auto& [steps, calls] : {std::pair(1.5, Calls{}),
+                                       {1.0, {"setup 60", "play 60 1.00"}},
+                                       {2.0, {"setup 64", "play 64 0.50"}},
+                                       {2.0, {"stop 60"}},
+                                       {6.0, {"stop 64"}},
+                                       {31.0, {}},
+                                       {1.0, {"stop 60", "stop 64"}}}) {
+        calls_.clear();
+        EXPECT_EQ(document_.mode(), SequenceDocument::Mode::Playing);
+        tick(steps);
+        EXPECT_EQ(calls_, calls) << "at step " << document_.getOffset();
+    }
+    EXPECT_EQ(document_.mode(), kStopped);
+    EXPECT_EQ(document_.getOffset(), 0.0);
+    EXPECT_EQ(shown, 0.0) << "no further tick shows it";
+
+    document_.play();
+    tick(2.5);
+    calls_.clear();
+    document_.play();
+    document_.stop();
+    EXPECT_EQ(calls_, Calls{"stop 60"}) << "once";
+    EXPECT_EQ(document_.stateOfNote(60), 2) << "the keyboard keeps its colours";
+    EXPECT_NEAR(document_.getOffset(), 2.5, 1e-6);
+}
+
+TEST_F(SequencePlaybackTest, PlaysTheSelectedInterval)
+{
+    addTwoNotes();
+    document_.selectInterval(3.0, 8.0);
+    for (const auto& [position, begin] :
+         {std::pair(0.0, 3.0), {3.0, 3.0}, {5.0, 5.0}, {8.0, 3.0}}) {
+        document_.doScroll(position);
+        document_.play();
+        EXPECT_EQ(document_.getOffset(), begin) << "played from " << position;
+        tick(5.5);
+        EXPECT_EQ(document_.mode(), kStopped);
+        EXPECT_EQ(document_.getOffset(), 3.0);
+    }
+}
 
 TEST_F(SequencePlaybackTest, DoesWhatAWalkThroughAllNotesDoes)
 {

@@ -1,4 +1,5 @@
 #include "base/File.h"
+#include "base/FormatError.h"
 #include "platform/MidiBytes.h"
 #include "sequencer/RecoveryKeeper.h"
 #include "sequencer/SequenceFile.h"
@@ -63,6 +64,39 @@ protected:
 
 } // namespace
 
+TEST(UnsavedSequence, ComesBackExactlyOrNotAtAll)
+{
+    const Note before{.start = 1.0 / 3.0,
+                      .length = 1e-9,
+                      .oldLength = 7.25,
+                      .velocity = 0.7F,
+                      .channel = 19,
+                      .key = 127,
+                      .oldStart = -0.1,
+                      .oldKey = 126};
+    const decltype(UnsavedSequence::time) time(1234567890123ms);
+    const std::string bytes = encodeUnsaved({"/tmp/Fug\xFF.mid", time, true, {before, Note{}}});
+    const auto decode = [](const std::string& kept) {
+        return decodeUnsaved(std::as_bytes(std::span(kept)));
+    };
+    const UnsavedSequence after = decode(bytes);
+    EXPECT_EQ(std::tie(after.time, after.isImported), std::tuple(time, true));
+    EXPECT_EQ(after.path, "/tmp/Fug\xFF.mid");
+    ASSERT_EQ(after.notes.size(), 2U);
+    const auto all = [](const Note& n) {
+        return std::tie(n.start, n.length, n.oldStart, n.oldLength, n.velocity, n.channel, n.key,
+                        n.oldKey);
+    };
+    EXPECT_EQ(all(after.notes[0]), all(before));
+
+    for (std::size_t size = 0; size < bytes.size(); ++size)
+        EXPECT_THROW(decode(bytes.substr(0, size)), FormatError) << size;
+    EXPECT_THROW(decode(bytes + "x"), FormatError);
+    std::string endless = bytes; // the first byte of the last note's start, as of a NaN
+    endless[bytes.size() - 52] = endless[bytes.size() - 51] = '\x7F';
+    EXPECT_THROW(decode(endless), FormatError);
+}
+
 TEST_F(SequenceSaving, RefusesToReplaceAFileThatHoldsMore)
 {
     const std::string bytes = midi::header(1, 2, 128) + midi::track("") +
@@ -74,15 +108,18 @@ TEST_F(SequenceSaving, RefusesToReplaceAFileThatHoldsMore)
               "The source file contains unprocessed MIDI information which cannot be overwriten "
               "(multichannel, meta events,…). Use the 'Save As…' option instead.");
     EXPECT_EQ(readTextFile(path_), bytes);
-    EXPECT_FALSE(document_.saveToURL(path_, "Scale", kSaveAs));
-    EXPECT_EQ(document_.errorString(), "");
 
     const auto other = folder_ / "b.imy";
     EXPECT_TRUE(document_.saveToURL(other, kIMelodyType, kSaveAs));
     EXPECT_EQ(document_.path(), other);
     EXPECT_THAT(readTextFile(other), testing::HasSubstr("MELODY:*3c3\r\n"));
     EXPECT_TRUE(save()) << "now it holds no more";
-    EXPECT_EQ(document_.path(), other);
+
+    std::ofstream(path_, std::ios::binary) << bytes.substr(0, 40);
+    document_.readFromURL(path_);
+    EXPECT_TRUE(document_.getSequence().notes().empty()) << "a broken file";
+    EXPECT_EQ(document_.extent(), 0.0);
+    EXPECT_THAT(document_.errorString(), testing::HasSubstr("a.mid"));
 }
 
 TEST_F(SequenceSaving, LeavesTheFileWhereItCannotBeWritten)
@@ -133,25 +170,31 @@ TEST_F(SequenceSaving, IsTheOldOrTheNewFileWhenTheProgramIsKilled)
 
 TEST_F(SequenceSaving, KeepsWhatIsNotSavedUntilItIsSavedOrClosed)
 {
+    RecoveryFile running(kept_);
+    running.write(document_.snapshot());
+    std::ofstream(kept_ / "garbled.unsaved") << "garbled";
     killWhileWorking([&](const auto& ready) {
         const RecoveryKeeper keeper(document_, RecoveryFile(kept_), 1ms);
         draw(3);
-        if (waitFor(2)) // and its lock
+        if (waitFor(5) && RecoveryFile::abandoned(kept_).empty()) // each with its lock
             ready();
         pause();
     });
+    EXPECT_EQ(RecoveryFile::abandoned(kept_).size(), 1U);
     auto left = RecoveryFile::abandoned(kept_);
-    ASSERT_EQ(left.size(), 1U);
+    ASSERT_EQ(left.size(), 1U) << "nobody has wanted it yet";
+    EXPECT_TRUE(RecoveryFile::abandoned(kept_).empty()) << "it is taken over";
     document_.recover(left[0].sequence);
     EXPECT_EQ(document_.getSequence().notes().size(), 3U);
     EXPECT_EQ(document_.extent(), 33.0);
     EXPECT_TRUE(document_.isModified());
 
+    constexpr int kOthers = 4; // the two of above, and their locks
     auto keeper = std::make_unique<RecoveryKeeper>(document_, std::move(left[0].file), 1ms);
     EXPECT_TRUE(save());
-    EXPECT_TRUE(waitFor(0)) << "saved";
+    EXPECT_TRUE(waitFor(kOthers)) << "saved";
     draw(1);
-    EXPECT_TRUE(waitFor(2));
+    EXPECT_TRUE(waitFor(kOthers + 2));
     keeper.reset();
-    EXPECT_TRUE(waitFor(0)) << "closed";
+    EXPECT_TRUE(waitFor(kOthers)) << "closed";
 }

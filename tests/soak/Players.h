@@ -1,7 +1,12 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "base/Clock.h"
 #include "platform/Synthesizer.h"
+#include "sequencer/RecoveryKeeper.h"
+#include "sequencer/SequenceClock.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
 #include "support/Stereo.h"
 
 #include <chrono>
@@ -30,8 +35,9 @@ public:
     }
 
 private:
-    void run(const std::stop_token& stop)
-    {
+    AudioSource& source_;
+    std::mutex mutex_;
+    std::jthread thread_{[this](const std::stop_token& stop) {
         constexpr std::chrono::nanoseconds kBlock{2'666'667};
         for (auto next = std::chrono::steady_clock::now(); !stop.stop_requested();) {
             {
@@ -41,11 +47,7 @@ private:
             next = std::max(next + kBlock, std::chrono::steady_clock::now());
             std::this_thread::sleep_until(next);
         }
-    }
-
-    AudioSource& source_;
-    std::mutex mutex_;
-    std::jthread thread_{[this](const std::stop_token& stop) { run(stop); }};
+    }};
 };
 
 /// A MIDI device: keys and controllers at random, which arrive on a thread of its own.
@@ -54,12 +56,7 @@ public:
     /// It rests at first.
     DeviceThread(LiveInput& input, unsigned seed) : input_(input), random_(seed) {}
 
-    void play() { setPlaying(true); }
-
-    /// Lets go of every key.
-    void rest() { setPlaying(false); }
-
-private:
+    /// Begins or ends; either lets go of every key.
     void setPlaying(bool plays)
     {
         const std::lock_guard lock(mutex_);
@@ -68,6 +65,7 @@ private:
             send({0x80, *held_.begin(), 0});
     }
 
+private:
     void send(std::vector<std::uint8_t> message)
     {
         if ((message[0] & 0xF0) == 0x90)
@@ -91,8 +89,12 @@ private:
             send({0x80, held_.empty() ? key : *held_.begin(), value});
     }
 
-    void run(const std::stop_token& stop)
-    {
+    LiveInput& input_;
+    std::mt19937 random_;
+    std::mutex mutex_;
+    bool plays_ = false;
+    std::set<std::uint8_t> held_;
+    std::jthread thread_{[this](const std::stop_token& stop) {
         while (!stop.stop_requested()) {
             {
                 const std::lock_guard lock(mutex_);
@@ -101,12 +103,33 @@ private:
             }
             std::this_thread::sleep_for(std::chrono::milliseconds(2));
         }
+    }};
+};
+
+/// A document as a window has it.
+struct OpenSequence {
+    /// On the time, or on a clock that is moved by hand, ahead of it.
+    OpenSequence(SequenceHost& host, bool isRealTime)
+        : document(
+              host, isRealTime ? std::function(getTime) : [this] { return now; })
+    {
+        if (isRealTime)
+            clock.emplace(document);
+    }
+    ~OpenSequence() { document.stop(); }
+    OpenSequence(const OpenSequence&) = delete;
+    OpenSequence& operator=(const OpenSequence&) = delete;
+
+    void tick()
+    {
+        now = std::max(now + 1.0 / 1024.0, getTime());
+        if (!clock)
+            document.loop();
     }
 
-    LiveInput& input_;
-    std::mt19937 random_;
-    std::mutex mutex_;
-    bool plays_ = false;
-    std::set<std::uint8_t> held_;
-    std::jthread thread_{[this](const std::stop_token& stop) { run(stop); }};
+    double now = getTime();
+    SequenceDocument document;
+    SequenceEditor editor{document};
+    RecoveryKeeper keeper{document, RecoveryFile(), std::chrono::milliseconds(100)};
+    std::optional<SequenceClock> clock;
 };
