@@ -4,7 +4,6 @@
 #include "base/Log.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyboardDocument.h"
-#include "tuning/keyName.h"
 
 #include <QMainWindow>
 #include <QtTest>
@@ -95,12 +94,6 @@ TEST(KeyboardGeometry, FindsTheKeyThatIsDrawnThere)
                 << "from key " << lo;
         }
     }
-}
-
-TEST(KeyName, KeepsItsOneFlat)
-{
-    EXPECT_EQ(noteName(60) + noteName(21) + noteName(127), "C4A0G9");
-    EXPECT_EQ(keyName(6) + keyName(10) + keyName(12), "F#Bb");
 }
 
 TEST_F(KeyboardViewTest, ColorsKeysByTheirState)

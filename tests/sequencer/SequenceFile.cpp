@@ -135,11 +135,3 @@ TEST(SequenceFile, KnowsWhetherTheFileHoldsMore)
         EXPECT_EQ(sequence.notes().size(), notes) << name;
     }
 }
-
-TEST(SequenceFile, HasTheTypeOfItsName)
-{
-    EXPECT_EQ(sequenceTypeOf("a.MIDI"), kMidiFileType);
-    EXPECT_EQ(sequenceTypeOf("b.kar"), kMidiFileType);
-    EXPECT_EQ(sequenceTypeOf("c.Imy"), kIMelodyType);
-    EXPECT_EQ(sequenceTypeOf("mid"), "");
-}
