@@ -7,14 +7,9 @@
 #include <utility>
 #include <vector>
 
-/// A note that has begun: where it stands among the events of its track, and its tick.
-struct Begun {
-    std::uint64_t tick;
-    std::uint32_t event; ///< A track has below 2³² bytes, hence below 2³² events.
-};
-
-/// The notes of a track that have begun and not ended, first in, first out per channel and key.
-class OpenNotes {
+/// The notes of a track that have begun and not ended, in the order of their beginning per channel
+/// and key. A track has below 2³² of them.
+template <class Begun> class OpenNotes {
 public:
     void begin(std::size_t channel, std::size_t key, Begun note)
     {
@@ -32,15 +27,25 @@ public:
         ++count_;
     }
 
+    /// So far `end` looks for one that is wanted.
+    static constexpr std::size_t kMostPassedOver = 255;
+
+    /// Takes out the first one of a channel and key that is `wanted`, or none.
+    template <class Wanted>
+    std::optional<Begun> end(std::size_t channel, std::size_t key, Wanted wanted)
+    {
+        return end(queues_[channel * kKeysPerChannel + key], wanted);
+    }
+
     std::optional<Begun> end(std::size_t channel, std::size_t key)
     {
-        return end(queues_[channel * kKeysPerChannel + key]);
+        return end(channel, key, any);
     }
 
     template <class Visit> void endAll(Visit visit)
     {
         for (std::size_t i = 0; count_ > 0; ++i)
-            while (const auto note = end(queues_[i]))
+            while (const auto note = end(queues_[i], any))
                 visit(*note);
     }
 
@@ -57,12 +62,19 @@ private:
         std::uint32_t last = kNone;
     };
 
-    std::optional<Begun> end(Queue& queue)
+    static bool any(const Begun& /*note*/) { return true; }
+
+    template <class Wanted> std::optional<Begun> end(Queue& queue, Wanted wanted)
     {
-        if (queue.first == kNone)
+        std::uint32_t before = kNone, link = queue.first;
+        for (std::size_t i = 0; link != kNone && !wanted(links_[link].note); ++i)
+            before = std::exchange(link, i < kMostPassedOver ? links_[link].next : kNone);
+        if (link == kNone)
             return std::nullopt;
-        const std::uint32_t link = queue.first;
-        queue.first = std::exchange(links_[link].next, free_);
+        const std::uint32_t next = std::exchange(links_[link].next, free_);
+        (before == kNone ? queue.first : links_[before].next) = next;
+        if (queue.last == link)
+            queue.last = before;
         free_ = link;
         --count_;
         return links_[link].note;

@@ -11,6 +11,12 @@
 
 namespace {
 
+/// A note that has begun: where it stands among the events of its track, and its tick.
+struct Begun {
+    std::uint64_t tick;
+    std::uint32_t event; ///< A track has below 2³² bytes, hence below 2³² events.
+};
+
 /// Reads one track after the other and gathers their tempo events.
 class TrackReader {
 public:
@@ -22,6 +28,7 @@ public:
         events_.reserve(track.left() / 8);
         tick_ = 0;
         status_ = 0;
+        passedOver_ = 0;
         bool ended = false;
         while (!ended && track.left() > 0) {
             tick_ += track.quantity();
@@ -93,7 +100,11 @@ private:
 
     void readNoteOff(std::uint8_t channel, std::uint8_t key)
     {
-        if (const auto note = open_.end(channel, key))
+        auto note = open_.end(channel, key, [this](const Begun&) { return passedOver_-- == 0; });
+        if (!note) // more are passed over than there are
+            note = open_.end(channel, key);
+        passedOver_ = 0;
+        if (note)
             endNote(*note);
     }
 
@@ -116,12 +127,19 @@ private:
     {
         constexpr std::uint8_t kEndOfTrack = 0x2F;
         constexpr std::uint8_t kTempo = 0x51;
+        constexpr std::uint8_t kSequencerSpecific = 0x7F;
 
         const std::uint8_t type = track.byte();
         const std::uint32_t length = track.quantity();
         MidiFileCursor body = track.part(length, "");
         if (type == kEndOfTrack)
             return true;
+        if (type == kSequencerSpecific && length == kPassedOver.size() + 1 &&
+            body.text(kPassedOver.size()) == kPassedOver) {
+            body.skip(kPassedOver.size());
+            passedOver_ = body.byte();
+            return false;
+        }
         if (type == kTempo) {
             if (length != 3)
                 throw FormatError::atByte(
@@ -135,9 +153,10 @@ private:
     double ticksPerBeat_;
     std::vector<TempoChange> tempoChanges_;
     std::vector<MidiEvent> events_;
-    OpenNotes open_;
+    OpenNotes<Begun> open_;
     std::uint64_t tick_ = 0;
     std::uint8_t status_ = 0; ///< The running status, 0 for none.
+    unsigned passedOver_ = 0; ///< By the next note-off.
 };
 
 struct Chunk {

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string_view>
 #include <vector>
 
 /// One event of a track. Of an event that is no note only the time stamp is kept.
@@ -32,10 +33,16 @@ struct StandardMidiFile {
     double secondsForBeats(double beats) const { return tempoMap.secondsForBeats(beats); }
 };
 
+/// Begins a sequencer-specific event (FF 7F) of Velmora's, under the manufacturer's number of those
+/// who have none. A byte follows: the next note-off ends not the first note of its channel and key
+/// that goes on, but the one behind so many.
+constexpr std::string_view kPassedOver = "\x7DVelmora";
+
 /// Reads a file of format 0, 1 or 2, bare or in a RIFF wrapping ("RMID"). As many tracks are read
 /// as the header announces; chunks of other kinds are stepped over and what follows the last track
 /// is not looked at. A note ends at the first note-off of its channel and key in its track that no
-/// earlier note has taken, at the latest at the end of the track. Throws FormatError with the byte
-/// where the file breaks the format: nothing is half read.
+/// earlier note has taken, at the latest at the end of the track, unless `kPassedOver` says
+/// otherwise. Throws FormatError with the byte where the file breaks the format: nothing is half
+/// read.
 /// The format: "Standard MIDI Files 1.0" (MIDI Manufacturers Association, RP-001).
 StandardMidiFile readStandardMidiFile(std::span<const std::byte> bytes);

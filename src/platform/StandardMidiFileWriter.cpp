@@ -1,5 +1,7 @@
 #include "platform/StandardMidiFileWriter.h"
 
+#include "platform/OpenNotes.h"
+
 #include <algorithm>
 #include <cassert>
 #include <cmath>
@@ -80,6 +82,16 @@ void addDelta(std::string& bytes, std::uint64_t delta)
     addQuantity(bytes, delta);
 }
 
+/// Adds what goes before a note-off that passes notes over, and the time between them: none.
+void addPassedOver(std::string& bytes, std::size_t notes)
+{
+    bytes.append("\xFF\x7F", 2);
+    addQuantity(bytes, kPassedOver.size() + 1);
+    bytes += kPassedOver;
+    addNumber(bytes, notes, 1);
+    addDelta(bytes, 0);
+}
+
 void addChunk(std::string& file, const char* id, const std::string& body)
 {
     if (body.size() > 0xFFFFFFFF)
@@ -100,9 +112,24 @@ std::string writeStandardMidiFile(std::span<const MidiEvent> notes)
 
     std::string track;
     std::uint64_t tick = 0;
+    OpenNotes<std::uint64_t> ends;
     for (const Message& message : messagesOf(notes)) {
         addDelta(track, message.tick - tick);
         tick = message.tick;
+        const unsigned channel = message.status & 0x0FU;
+        if (message.until > 0) {
+            ends.begin(channel, message.key, message.until);
+        } else {
+            std::size_t passedOver = 0;
+            const auto ended = ends.end(channel, message.key, [&](std::uint64_t end) {
+                passedOver += end == tick ? 0 : 1;
+                return end == tick;
+            });
+            if (!ended) // as readers will
+                ends.end(channel, message.key);
+            else if (passedOver > 0)
+                addPassedOver(track, passedOver);
+        }
         addNumber(track, message.status, 1);
         addNumber(track, message.key, 1);
         addNumber(track, message.velocity, 1);

@@ -15,8 +15,9 @@ constexpr double kLastBeat = 0x1p27;
 /// no tempo event: the beats pass at 120 a minute. Times go to the nearest tick, and every note
 /// lasts at least one.
 ///
-/// Of notes of one key and channel that overlap, the one that begins first ends first, as readers
-/// take them: a note within another one exchanges its end with it. Throws std::length_error for
-/// more notes than a file can hold.
-/// The format: "Standard MIDI Files 1.0" (MIDI Manufacturers Association, RP-001).
+/// Of notes of one key and channel that overlap, readers take the one that begins first for the one
+/// that ends first. Where it is not, `kPassedOver` tells which one ends; for readers that do not
+/// know it, and behind more than 255, a note within another one exchanges its end with it. Throws
+/// std::length_error for more notes than a file can hold. The format: "Standard MIDI Files 1.0"
+/// (MIDI Manufacturers Association, RP-001).
 std::string writeStandardMidiFile(std::span<const MidiEvent> notes);

@@ -10,6 +10,11 @@ using namespace midi;
 
 namespace {
 
+std::string passedOver(std::size_t notes)
+{
+    return bytes({0, 0xFF, 0x7F, 9, 0x7D}) + "Velmora" + number(notes, 1);
+}
+
 StandardMidiFile read(const std::string& file)
 {
     return readStandardMidiFile(std::as_bytes(std::span(file)));
@@ -45,6 +50,10 @@ TEST(StandardMidiFile, ReadsEveryKindOfEvent)
     for (const auto& [name, events, shown] : std::vector<std::array<std::string, 3>>{
              {"velocity 0", first + on(48, 60, 0), "60@0+0.5 "},
              {"queue", first + on(96, 60) + off(96, 60) + off(96, 60), "60@0+2 60@1+2 "},
+             {"passed over", first + on(0, 60) + passedOver(1) + off(96, 60) + off(96, 60),
+              "60@0+2 60@0+1 "},
+             {"too many passed over", first + passedOver(1) + off(96, 60) + off(9, 9), "60@0+1 "},
+             {"another maker's", first + bytes({0, 0xFF, 0x7F, 1, 0x7D, 96, 60, 0}), "60@0+1 -@0 "},
              {"channels", first + on(0, 60, 9, 1) + off(96, 60, 1) + off(96, 60), "60@0+2 60@0+1 "},
              {"stray", off(0, 60) + first + off(96, 62), "60@0+1 "},
              {"running status", first + bytes({96, 60, 0, 96, 62, 1, 96, 62, 0}), "60@0+1 62@2+1 "},
