@@ -13,7 +13,10 @@
 
 namespace {
 
-constexpr double kTick = 1.0 / 1024.0;
+/// A recording looks at the keys twice in a tick of the clock: so a note is as long, within a tick,
+/// as its key was held.
+constexpr double kRecordingTick = 1.0 / 2048.0;
+
 constexpr unsigned kTicksPerFrame = 16;
 
 /// Steps in a second for each beat a minute of the tempo.
@@ -117,8 +120,8 @@ void SequenceDocument::loop()
         doPlay(now);
     // A tick that comes late makes up for those before it, so that each key is taken where the
     // position was when it arrived.
-    for (; mode_ == Mode::Recording && now - dTime_ > kTick; dTime_ += kTick)
-        doRecord(kTick);
+    for (; mode_ == Mode::Recording && now - dTime_ > kRecordingTick; dTime_ += kRecordingTick)
+        doRecord(kRecordingTick);
     if (mode_ == Mode::Recording)
         doRecord(now - dTime_);
     dTime_ = now;

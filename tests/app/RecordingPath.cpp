@@ -69,6 +69,6 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
         EXPECT_NEAR(note.start - notes[0].start,
                     (pressed - notePressTimes[48]) * kStepsPerRecordedSecond, kTick + kTickOfFile);
         EXPECT_NEAR(note.length, (released - pressed) * kStepsPerRecordedSecond,
-                    2.0 * kTick + kTickOfFile);
+                    kTick + kTickOfFile);
     }
 }
