@@ -12,7 +12,6 @@ RecoveryKeeper::RecoveryKeeper(SequenceDocument& document, RecoveryFile file,
 {
     timer_.setSingleShot(true);
     timer_.setInterval(interval);
-    writer_.setMaxThreadCount(1);
     connect(&timer_, &QTimer::timeout, this, &RecoveryKeeper::write);
     connect(&document.undoStack(), &QUndoStack::indexChanged, this, &RecoveryKeeper::edited);
     connect(&document.undoStack(), &QUndoStack::cleanChanged, this, &RecoveryKeeper::edited);
@@ -21,14 +20,14 @@ RecoveryKeeper::RecoveryKeeper(SequenceDocument& document, RecoveryFile file,
 
 RecoveryKeeper::~RecoveryKeeper()
 {
-    writer_.waitForDone();
+    waitForWriter();
     if (!isLeft_)
         file_.discard();
 }
 
 void RecoveryKeeper::leave()
 {
-    writer_.waitForDone();
+    waitForWriter();
     isLeft_ = document_.isModified();
     if (isLeft_)
         keep(document_.snapshot());
@@ -38,7 +37,8 @@ void RecoveryKeeper::edited()
 {
     if (!document_.isModified() && document_.mode() != SequenceDocument::Mode::Recording) {
         timer_.stop();
-        writer_.start([this] { file_.discard(); });
+        waitForWriter();
+        file_.discard();
     } else if (!timer_.isActive()) {
         timer_.start();
     }
@@ -47,11 +47,12 @@ void RecoveryKeeper::edited()
 void RecoveryKeeper::write()
 {
     // A recording goes on by itself, and a disk that is too slow is given time.
-    if (document_.mode() == SequenceDocument::Mode::Recording || writer_.activeThreadCount() > 0)
+    if (document_.mode() == SequenceDocument::Mode::Recording || isBusy())
         timer_.start();
-    if (!document_.isModified() || writer_.activeThreadCount() > 0)
+    if (!document_.isModified() || isBusy())
         return;
-    writer_.start([this, sequence = document_.snapshot()] { keep(sequence); });
+    writer_ =
+        std::async(std::launch::async, [this, sequence = document_.snapshot()] { keep(sequence); });
 }
 
 void RecoveryKeeper::keep(const UnsavedSequence& sequence)
@@ -64,4 +65,16 @@ void RecoveryKeeper::keep(const UnsavedSequence& sequence)
             logger("sequencer")
                 .warn("What is not saved is not kept against a crash: {}", error.what());
     }
+}
+
+bool RecoveryKeeper::isBusy() const
+{
+    return writer_.valid() &&
+           writer_.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+}
+
+void RecoveryKeeper::waitForWriter()
+{
+    if (writer_.valid())
+        writer_.wait();
 }

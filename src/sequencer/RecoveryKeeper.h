@@ -3,10 +3,10 @@
 #include "sequencer/RecoveryFile.h"
 
 #include <QObject>
-#include <QThreadPool>
 #include <QTimer>
 
 #include <chrono>
+#include <future>
 
 class SequenceDocument;
 
@@ -35,10 +35,13 @@ private:
     void write();
     void keep(const UnsavedSequence& sequence);
 
+    bool isBusy() const;
+    void waitForWriter();
+
     SequenceDocument& document_;
     RecoveryFile file_;   ///< Belongs to the writer while that is busy.
     bool failed_ = false; ///< Likewise: whether it could not be written last time.
     bool isLeft_ = false;
     QTimer timer_;
-    QThreadPool writer_;
+    std::future<void> writer_;
 };
