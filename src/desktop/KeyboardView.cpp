@@ -2,6 +2,7 @@
 
 #include "app/midiRead.h"
 #include "base/Log.h"
+#include "desktop/graphics.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyboardDocument.h"
 #include "tuning/keyName.h"
@@ -110,16 +111,7 @@ int KeyboardView::origin(const KeyboardGeometry& geometry) const
 void KeyboardView::paintGL()
 {
     painted_ = picture();
-    const int left = -origin(painted_->geometry);
-
-    const double ratio = devicePixelRatioF();
-    glViewport(0, 0, qRound(width() * ratio), qRound(height() * ratio));
-    glMatrixMode(GL_MODELVIEW);
-    glLoadIdentity();
-    glMatrixMode(GL_PROJECTION);
-    glLoadIdentity();
-    glOrtho(left, left + width(), 0, height(), -1, 1);
-
+    setPixelCoordinates(*this, -origin(painted_->geometry));
     glEnable(GL_DEPTH_TEST);
     glClearColor(0, 0, 0, 1);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);

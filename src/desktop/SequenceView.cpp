@@ -1,5 +1,6 @@
 #include "desktop/SequenceView.h"
 
+#include "desktop/graphics.h"
 #include "preferences/Preferences.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
@@ -75,17 +76,12 @@ void SequenceView::paintGL()
     if (document_ == nullptr)
         return;
 
-    const double ratio = devicePixelRatioF();
-    glViewport(0, 0, qRound(width() * ratio), qRound(height() * ratio));
-    glMatrixMode(GL_MODELVIEW);
-    glLoadIdentity();
-    glMatrixMode(GL_PROJECTION);
-    glLoadIdentity();
-    glOrtho(0, width(), 0, height(), -1, 1);
+    setPixelCoordinates(*this, 0);
     glEnable(GL_BLEND);
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
 
     gather();
+    const double ratio = devicePixelRatioF();
     const double line = std::max(1.0, std::floor(ratio)) / ratio;
     picture_.draw(rollGeometry(), RollColors(palette()), line, *document_, index_);
     const auto& vertices = picture_.vertices();

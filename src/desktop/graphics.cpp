@@ -1,5 +1,6 @@
 #include "desktop/graphics.h"
 
+#include <QOpenGLWidget>
 #include <QSurfaceFormat>
 
 void chooseGraphics()
@@ -10,4 +11,15 @@ void chooseGraphics()
     format.setProfile(QSurfaceFormat::CompatibilityProfile);
     format.setDepthBufferSize(24);
     QSurfaceFormat::setDefaultFormat(format);
+}
+
+void setPixelCoordinates(const QOpenGLWidget& view, int left)
+{
+    const double ratio = view.devicePixelRatioF();
+    glViewport(0, 0, qRound(view.width() * ratio), qRound(view.height() * ratio));
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
+    glMatrixMode(GL_PROJECTION);
+    glLoadIdentity();
+    glOrtho(left, left + view.width(), 0, view.height(), -1, 1);
 }
