@@ -2,6 +2,7 @@
 // 100,000 and gathering their vertices.
 
 #include "desktop/RollPicture.h"
+#include "manyNotes.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
 
@@ -9,34 +10,7 @@
 #include <QPalette>
 #include <benchmark/benchmark.h>
 
-#include <random>
-
 namespace {
-
-constexpr unsigned kNotes = 100'000;
-
-/// Ten notes begin with every step.
-constexpr double kSteps = kNotes / 10.0;
-
-class SilentHost : public SequenceHost {
-public:
-    Instrument* getInstrument() override { return nullptr; }
-    Temperament* getTemperament() override { return nullptr; }
-    std::mutex& soundLock() override { return lock_; }
-
-private:
-    std::mutex lock_;
-};
-
-void fill(SequenceDocument& document)
-{
-    std::mt19937 random(1);
-    for (unsigned i = 0; i < kNotes; ++i)
-        document.edit().addNote({.start = kSteps * i / kNotes,
-                                 .length = 1.0 + static_cast<double>(random() % 16),
-                                 .velocity = 0.7F,
-                                 .key = 21 + static_cast<std::uint32_t>(random() % 88)});
-}
 
 /// By the height of a step: 8 pixels are usual, with 1 a tenth of the piece is seen. With `edited`
 /// the notes have just changed, so that they are indexed anew.
@@ -44,11 +18,11 @@ void repaint(benchmark::State& state, bool edited)
 {
     SilentHost host;
     SequenceDocument document(host);
-    fill(document);
+    addManyNotes(document.edit());
     RollIndex index;
     index.rebuild(document.getSequence().notes());
     const RollGeometry geometry{14,     static_cast<int>(state.range(0)),
-                                294.0,  kSteps / 2 * static_cast<double>(state.range(0)),
+                                294.0,  kManySteps / 2 * static_cast<double>(state.range(0)),
                                 1232.0, 1000.0};
     RollPicture picture;
     for (auto _ : state) {
@@ -65,11 +39,9 @@ void dragSelection(benchmark::State& state)
 {
     SilentHost host;
     SequenceDocument document(host);
-    fill(document);
+    addManyNotes(document.edit());
     SequenceEditor editor(document);
-    Sequence& sequence = document.edit();
-    for (std::size_t i = 0; i < kNotes; i += 10)
-        sequence.select(sequence.at(i));
+    selectTenth(document.edit());
     const Note& grip = document.getSequence().notes()[0];
     const auto key = static_cast<double>(grip.key);
     editor.mouseDown({key, 0.5}, Qt::ShiftModifier); // leaves the others selected

@@ -1,43 +1,31 @@
-// What a tick costs while 100,000 notes are played, ten of them at a time, and what it would cost
+// What a tick costs while 100,000 notes are played, some eighty at a time, and what it would cost
 // to walk through all of them.
 
+#include "manyNotes.h"
 #include "sequencer/SequencePlayback.h"
 
 #include <benchmark/benchmark.h>
 
 namespace {
 
-constexpr int kNotes = 100'000;
 constexpr double kTick = 120.0 * 0.125 / 1024.0; // in steps
-
-/// No instrument: the cost is that of finding the notes.
-class Silence : public SequenceHost {
-public:
-    Instrument* getInstrument() override { return nullptr; }
-    Temperament* getTemperament() override { return nullptr; }
-    std::mutex& soundLock() override { return lock_; }
-
-private:
-    std::mutex lock_;
-};
 
 Sequence manyNotes()
 {
     Sequence sequence;
-    for (int i = 0; i < kNotes; ++i)
-        sequence.addNote({.start = 0.2 * i, .length = 2.0, .key = static_cast<unsigned>(i % 128)});
+    addManyNotes(sequence);
     return sequence;
 }
 
 /// The position, going round.
 double after(double position)
 {
-    return position + kTick < 0.2 * kNotes ? position + kTick : 0.0;
+    return position + kTick < kManySteps ? position + kTick : 0.0;
 }
 
 void playByIndex(benchmark::State& state)
 {
-    Silence host;
+    SilentHost host;
     Sequence sequence = manyNotes();
     SequencePlayback playback(host, sequence);
     double position = 0.0;
@@ -66,7 +54,7 @@ void playByPlainWalk(benchmark::State& state)
 
 void lookByIndex(benchmark::State& state)
 {
-    Silence host;
+    SilentHost host;
     Sequence sequence = manyNotes();
     SequencePlayback playback(host, sequence);
     double position = 0.0;

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "sequencer/Sequence.h"
+#include "sequencer/SequenceHost.h"
+
+#include <random>
+
+constexpr unsigned kManyNotes = 100'000;
+
+/// Ten of them begin with every step.
+constexpr double kManySteps = kManyNotes / 10.0;
+
+/// Adds them, on the keys of a piano.
+inline void addManyNotes(Sequence& sequence)
+{
+    std::mt19937 random(1);
+    for (unsigned i = 0; i < kManyNotes; ++i)
+        sequence.addNote({.start = kManySteps * i / kManyNotes,
+                          .length = 1.0 + static_cast<double>(random() % 16),
+                          .velocity = 0.7F,
+                          .key = 21 + static_cast<std::uint32_t>(random() % 88)});
+}
+
+/// Selects every tenth.
+inline void selectTenth(Sequence& sequence)
+{
+    for (std::size_t i = 0; i < kManyNotes; i += 10)
+        sequence.select(sequence.at(i));
+}
+
+/// No instrument: the cost is that of finding the notes.
+class SilentHost : public SequenceHost {
+public:
+    Instrument* getInstrument() override { return nullptr; }
+    Temperament* getTemperament() override { return nullptr; }
+    std::mutex& soundLock() override { return lock_; }
+
+private:
+    std::mutex lock_;
+};

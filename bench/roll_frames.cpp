@@ -1,0 +1,93 @@
+// How many frames a second the window of 100,000 notes comes to, from the event to the picture on
+// the screen: scrolled by the wheel, and while 10,000 notes are dragged. Needs a display.
+
+#include "desktop/Desktop.h"
+#include "desktop/SequenceView.h"
+#include "desktop/SequenceWindow.h"
+#include "desktop/graphics.h"
+#include "manyNotes.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QTimer>
+#include <QWheelEvent>
+#include <spdlog/fmt/fmt.h>
+
+#include <functional>
+
+namespace {
+
+constexpr int kMilliseconds = 10'000;
+
+/// Sends an event whenever the one before it is to be seen.
+void measure(const char* name, QWidget& view, const std::function<void(std::size_t)>& sendEvent)
+{
+    std::size_t frames = 0;
+    QElapsedTimer timer;
+    const auto shown = QObject::connect(
+        static_cast<QOpenGLWidget*>(&view), &QOpenGLWidget::frameSwapped, &view,
+        [&] {
+            if (timer.elapsed() < kMilliseconds)
+                sendEvent(++frames);
+            else
+                QApplication::exit();
+        },
+        Qt::QueuedConnection);
+    timer.start();
+    sendEvent(0);
+    QApplication::exec();
+    QObject::disconnect(shown);
+    fmt::print("{}: {:.1f} frames in a second\n", name,
+               static_cast<double>(frames) * 1e3 / static_cast<double>(timer.elapsed()));
+}
+
+void scroll(SequenceView& view, std::size_t frame)
+{
+    const int notch = frame / 100 % 2 == 0 ? 120 : -120;
+    QWheelEvent event({}, view.mapToGlobal(QPointF()), {}, {0, notch}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&view, &event);
+}
+
+void sendMouse(SequenceView& view, QEvent::Type type, QPointF place, Qt::MouseButtons buttons)
+{
+    // With Shift the other notes stay selected.
+    QMouseEvent event(type, place, view.mapToGlobal(place), Qt::LeftButton, buttons,
+                      Qt::ShiftModifier);
+    QApplication::sendEvent(&view, &event);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    chooseGraphics();
+    const QApplication qt(argc, argv);
+    Desktop desktop;
+    SequenceWindow* window = nullptr;
+    QObject::connect(&desktop.sequenceWindows(), &SequenceWindows::opened, &qt,
+                     [&](SequenceWindow& opened) { window = &opened; });
+    desktop.sequenceWindows().create();
+    addManyNotes(window->document().edit());
+    window->document().measure();
+    window->showDocument();
+    auto& view = *window->findChild<SequenceView*>();
+
+    QTimer::singleShot(1000, &qt, &QApplication::quit);
+    QApplication::exec();
+    selectTenth(window->document().edit());
+    const RollGeometry geometry = view.rollGeometry();
+    const RollQuad grip = geometry.note(window->document().getSequence().notes()[0]);
+    const QPointF place((grip.left + grip.right) / 2, view.height() - 1 - geometry.yOf(0.5));
+    sendMouse(view, QEvent::MouseButtonPress, place, Qt::LeftButton);
+    fmt::print("{} notes selected, a roll of {} x {} pixels\n",
+               window->document().getSequence().selection().size(), view.width(), view.height());
+    measure("dragging", view, [&](std::size_t frame) {
+        const auto way = static_cast<double>(frame % 200);
+        sendMouse(view, QEvent::MouseMove, place - QPointF(0, way), Qt::LeftButton);
+    });
+    sendMouse(view, QEvent::MouseButtonRelease, place, Qt::NoButton);
+    measure("scrolling", view, [&](std::size_t frame) { scroll(view, frame); });
+    window->closeAsIs();
+}
