@@ -78,7 +78,7 @@ QWidget* PreferencesWindow::makeGeneralPane()
     addNumber(*form, tr("Key &width:"), "KeyWidth", makePixelBox(),
               tr("The width of a semitone on the keyboard and in the piano roll"));
     addNumber(*form, tr("&Step height:"), "KeyHeight", makePixelBox(),
-              tr("The height of a step, a sixteenth of a second, in the piano roll"));
+              tr("The height of a step, a line of the grid, in the piano roll"));
     addNumber(*form, tr("&Lowest key:"), "KeyRangeLo", new NoteSpinBox,
               tr("The first key of the keyboard: a name, such as A0, or a MIDI number"));
     addNumber(*form, tr("&Highest key:"), "KeyRangeHi", new NoteSpinBox,
