@@ -9,9 +9,6 @@ namespace {
 constexpr double kLeastHalfWidth = 2.0;
 constexpr double kColumnMargin = 4.0;
 
-/// At its end a note is resized, not moved.
-constexpr double kEndPixels = 8.0;
-
 } // namespace
 
 int RollGeometry::firstKey() const
@@ -52,12 +49,4 @@ RollPoint RollGeometry::pointAt(double mouseX, double mouseY) const
     // A pixel shows what lies above its lower edge.
     const double key = std::trunc((mouseX + x) / keyWidth);
     return {std::clamp(key, 0.0, kKeys - 1.0), (height - 1.0 - mouseY + y) / keyHeight};
-}
-
-RollHit RollGeometry::hit(const Note& note, const RollPoint& point) const
-{
-    const double end = note.start + note.length;
-    if (note.key != static_cast<unsigned>(point.key) || point.step < note.start || point.step > end)
-        return RollHit::Nothing;
-    return point.step > end - kEndPixels / keyHeight ? RollHit::NoteEnd : RollHit::Note;
 }

@@ -11,9 +11,6 @@ struct RollQuad {
     double top;
 };
 
-/// What a press on a point of the piano roll would take hold of.
-enum class RollHit { Nothing, Note, NoteEnd };
-
 /// The part of the piano roll that a view shows: keys run from left to right, time runs upwards.
 /// Lengths are in pixels. What is drawn is measured from the view's lower left corner.
 struct RollGeometry {
@@ -58,9 +55,6 @@ struct RollGeometry {
     /// The key, from 0 to 127, and the step that are drawn in the pixel at a mouse position, which
     /// is counted from the view's upper left corner.
     RollPoint pointAt(double mouseX, double mouseY) const;
-
-    /// Whether a press there takes hold of the note, and whether of its last eight pixels.
-    RollHit hit(const Note& note, const RollPoint& point) const;
 
     bool operator==(const RollGeometry&) const = default;
 };

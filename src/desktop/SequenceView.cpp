@@ -103,11 +103,11 @@ RollPoint SequenceView::localPoint(const QPointF& point) const
 RollHit SequenceView::hitAt(const QPointF& point)
 {
     gather();
-    const RollGeometry geometry = rollGeometry();
     const RollPoint place = localPoint(point);
+    const int keyHeight = getPrefInt("KeyHeight");
     RollHit hit = RollHit::Nothing;
     index_.visit(document_->getSequence().notes(), place.step, place.step, [&](const Note& note) {
-        if (const RollHit here = geometry.hit(note, place); here != RollHit::Nothing)
+        if (const RollHit here = rollHit(note, place, keyHeight); here != RollHit::Nothing)
             hit = here; // the last one lies on top
     });
     return hit;

@@ -16,18 +16,20 @@ constexpr double kShortestLength = 0.0002;
 
 constexpr double kLastKey = 127.0;
 
-bool isAt(const Note& note, RollPoint point)
-{
-    return note.key == std::trunc(point.key) && note.start <= point.step &&
-           point.step <= note.start + note.length;
-}
-
 bool hasMoved(const Note& note)
 {
     return note.start != note.oldStart || note.key != note.oldKey;
 }
 
 } // namespace
+
+RollHit rollHit(const Note& note, RollPoint point, int keyHeight)
+{
+    const double end = note.start + note.length;
+    if (note.key != std::trunc(point.key) || point.step < note.start || point.step > end)
+        return RollHit::Nothing;
+    return point.step > end - kResizePixels / keyHeight ? RollHit::NoteEnd : RollHit::Note;
+}
 
 void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
 {
@@ -37,12 +39,14 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
     hitNote_ = isNewNote_ = false;
     newNote_ = 0;
 
+    const int keyHeight = getPrefInt("KeyHeight");
     Sequence& sequence = document_.edit();
     sequence.update();
     for (std::size_t i = sequence.notes().size(); i-- > 0;) {
-        if (!isAt(sequence.notes()[i], point))
+        const RollHit place = rollHit(sequence.notes()[i], point, keyHeight);
+        if (place == RollHit::Nothing)
             continue;
-        hit(sequence.at(i), point.step, modifiers);
+        hit(sequence.at(i), place, modifiers);
         if (!modifiers.testFlag(Qt::ShiftModifier) || modifiers.testFlag(Qt::ControlModifier))
             break;
     }
@@ -65,11 +69,11 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
     document_.stop();
 }
 
-void SequenceEditor::hit(Note& note, double step, Qt::KeyboardModifiers modifiers)
+void SequenceEditor::hit(Note& note, RollHit place, Qt::KeyboardModifiers modifiers)
 {
     Sequence& sequence = document_.edit();
     hitNote_ = true;
-    if (step > note.start + note.length - kResizePixels / getPrefInt("KeyHeight"))
+    if (place == RollHit::NoteEnd)
         newNote_ = note.id;
     // Recording and undoing leave the old values as they were.
     note.oldStart = note.start;

@@ -16,6 +16,13 @@ struct RollPoint {
     double step;
 };
 
+/// What a press on a point of the piano roll takes hold of.
+enum class RollHit { Nothing, Note, NoteEnd };
+
+/// Whether a press there takes hold of the note, and whether of its last eight pixels, by which it
+/// is resized, where a step is so many pixels high.
+RollHit rollHit(const Note& note, RollPoint point, int keyHeight);
+
 /// What mouse and keyboard do to a sequence document, in the coordinates of the sequence. Command,
 /// the modifier, is the control key. Everything that changes notes can be undone.
 class SequenceEditor {
@@ -52,7 +59,7 @@ public:
     void paste(std::vector<Note> notes);
 
 private:
-    void hit(Note& note, double step, Qt::KeyboardModifiers modifiers);
+    void hit(Note& note, RollHit place, Qt::KeyboardModifiers modifiers);
     void finishLength();
     void finishMove();
     void selectUpTo(double end);

@@ -124,8 +124,8 @@ TEST(RollGeometry, FindsTheStepAndTheKeyThatAPixelShows)
         {2.9, RollHit::Nothing},  {3.0, RollHit::Note},    {4.0, RollHit::Note},
         {4.01, RollHit::NoteEnd}, {5.0, RollHit::NoteEnd}, {5.1, RollHit::Nothing}};
     for (const auto& [step, hit] : rows)
-        EXPECT_EQ(geometry.hit(note, {60, step}), hit) << step;
-    EXPECT_EQ(geometry.hit(note, {61, 4}), RollHit::Nothing);
+        EXPECT_EQ(rollHit(note, {60, step}, 8), hit) << step;
+    EXPECT_EQ(rollHit(note, {61, 4}, 8), RollHit::Nothing);
 }
 
 TEST(RollIndex, VisitsWhatTouchesTheTimeInTheOrderOfTheList)
