@@ -188,11 +188,22 @@ void SequenceView::mouseReleaseEvent(QMouseEvent* event)
     showCursor(event->modifiers());
 }
 
+bool SequenceView::event(QEvent* event)
+{
+    // A shortcut waits for the end of a drag as any other key does.
+    if (event->type() == QEvent::ShortcutOverride && button_ != Qt::NoButton) {
+        event->accept();
+        return true;
+    }
+    return QOpenGLWidget::event(event);
+}
+
 void SequenceView::handleKey(const QKeyEvent& event)
 {
-    if (editor_ == nullptr)
+    const bool isPress = event.type() == QEvent::KeyPress;
+    if (editor_ == nullptr || (isPress && button_ != Qt::NoButton))
         return;
-    if (event.type() == QEvent::KeyPress)
+    if (isPress)
         editor_->keyDown(event);
     else
         editor_->keyUp(event);

@@ -29,7 +29,8 @@ public:
     /// Draws again soon.
     void redraw();
 
-    /// Hands on a key that was pressed or released, here or in another window.
+    /// Hands on a key that was pressed or released, here or in another window. Presses do not count
+    /// while the mouse drags: they would change what it is dragging.
     void handleKey(const QKeyEvent& event);
 
 signals:
@@ -38,6 +39,7 @@ signals:
     void pulled(QPoint pixels);
 
 protected:
+    bool event(QEvent* event) override;
     void paintGL() override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -80,6 +80,7 @@ protected:
         QMouseEvent move(QEvent::MouseMove, to, view.mapToGlobal(to), Qt::NoButton, button,
                          modifiers);
         QApplication::sendEvent(&view, &move);
+        QTest::keyClick(&view, Qt::Key_Escape); // does not take away what is dragged
         QTest::mouseRelease(&view, button, modifiers, to);
     }
 

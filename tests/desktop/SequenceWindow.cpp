@@ -184,6 +184,10 @@ TEST_F(SequenceWindowTest, EditsFromTheMenusAndBetweenWindows)
     EXPECT_EQ(other.document().getSequence().notes().size(), 2);
     window.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::mousePress(&view(window), Qt::LeftButton, {}, {200, 200});
+    QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
+    QTest::mouseRelease(&view(window), Qt::LeftButton, {}, {200, 200});
+    EXPECT_THAT(window.document().getSequence().notes(), IsEmpty()) << "not while the mouse drags";
     QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(window.document().getSequence().notes().size(), 2);
     answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
