@@ -57,7 +57,7 @@ KeyboardView::KeyboardView(LiveInput& player, QWidget* parent)
     : QOpenGLWidget(parent), player_(player)
 {
     setAccessibleName(tr("Piano keyboard"));
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::StrongFocus);
     setMinimumHeight(kLeastHeight);
 }
 

@@ -22,6 +22,7 @@ KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
 {
     setWindowTitle(tr("Velmora"));
     setCentralWidget(keyboard_);
+    keyboard_->setFocus(); // keys are for the sequence, not for a button
     setStatusBar(status_);
 
     QMenu* file = menuBar()->addMenu(tr("&File"));

@@ -4,6 +4,7 @@
 #include "desktop/KeyboardView.h"
 #include "desktop/SequenceScrollView.h"
 #include "desktop/SequenceView.h"
+#include "desktop/StatusLine.h"
 #include "desktop/TuningStrip.h"
 #include "preferences/Preferences.h"
 #include "support/RecordingInstrument.h"
@@ -136,13 +137,17 @@ TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
     QAction& play = action(window, "Play");
     QAction& record = action(window, "Record");
     SequenceDocument& document = window.document();
+    KeyboardWindow& keyboardWindow = desktop.keyboardWindow();
     draw(window);
     QTest::keyClick(&view(window), Qt::Key_Space);
     EXPECT_EQ(document.mode(), SequenceDocument::Mode::Playing) << "the key counts once";
     EXPECT_EQ(play.iconText(), "Stop");
     EXPECT_FALSE(record.isEnabled());
-    QTest::keyClick(&desktop.keyboardWindow(), Qt::Key_Space);
-    EXPECT_EQ(play.iconText(), "Play");
+    keyboardWindow.status().addNotice("There is none");
+    keyboardWindow.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&keyboardWindow));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(play.iconText(), "Play") << "the key is not for the button of the notices";
     play.trigger();
     action(window, "Silence Everything").trigger();
     EXPECT_EQ(play.iconText(), "Play");
