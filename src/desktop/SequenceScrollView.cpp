@@ -20,10 +20,18 @@ constexpr int kPixelsOfNotch = 64;
 /// A notch changes a scale by an eighth of it, at the least by one pixel.
 constexpr int kZoomPart = 8;
 
+/// How far a bar goes at the most, in pixels: a sequence may be longer than an int can tell.
+constexpr double kLongest = 1e9;
+
+int barValue(double pixels)
+{
+    return static_cast<int>(std::lround(std::clamp(pixels, 0.0, kLongest)));
+}
+
 /// The value of a bar after its scale has changed, such that `anchor` stays.
 int rescaled(int value, double anchor, int before, int after)
 {
-    return static_cast<int>(std::lround((value + anchor) * after / before - anchor));
+    return barValue((value + anchor) * after / before - anchor);
 }
 
 } // namespace
@@ -78,9 +86,8 @@ void SequenceScrollView::updateDocumentSizes(double steps)
 void SequenceScrollView::fitBars()
 {
     const RollGeometry geometry = view_->rollGeometry();
-    horizontal_->setRange(0, static_cast<int>(geometry.rollWidth() - geometry.width));
-    vertical_->setRange(0,
-                        static_cast<int>(std::ceil(geometry.rollHeight(steps_)) - geometry.height));
+    horizontal_->setRange(0, barValue(geometry.rollWidth() - geometry.width));
+    vertical_->setRange(0, barValue(std::ceil(geometry.rollHeight(steps_)) - geometry.height));
     horizontal_->setPageStep(view_->width());
     vertical_->setPageStep(view_->height());
     horizontal_->setSingleStep(keyWidth_);
@@ -102,7 +109,7 @@ void SequenceScrollView::scrollClipView(QPoint point)
 
 void SequenceScrollView::scrollVertically(double y)
 {
-    vertical_->setValue(static_cast<int>(std::lround(std::clamp(y, 0.0, 1e9))));
+    vertical_->setValue(barValue(y));
 }
 
 QPoint SequenceScrollView::location() const
@@ -159,6 +166,32 @@ void SequenceScrollView::wheelEvent(QWheelEvent* event)
     emit scrolledByUser();
 }
 
+bool SequenceScrollView::scrollByKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        horizontal_->triggerAction(QAbstractSlider::SliderSingleStepSub);
+        return true;
+    case Qt::Key_Right:
+        horizontal_->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        return true;
+    case Qt::Key_PageDown:
+        vertical_->triggerAction(QAbstractSlider::SliderPageStepSub);
+        return true;
+    case Qt::Key_PageUp:
+        vertical_->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        return true;
+    case Qt::Key_Home:
+        vertical_->triggerAction(QAbstractSlider::SliderToMinimum);
+        return true;
+    case Qt::Key_End:
+        vertical_->triggerAction(QAbstractSlider::SliderToMaximum);
+        return true;
+    default:
+        return false;
+    }
+}
+
 void SequenceScrollView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
@@ -174,5 +207,7 @@ bool SequenceScrollView::eventFilter(QObject* watched, QEvent* event)
         event->ignore();
         return true;
     }
+    if (watched == view_ && event->type() == QEvent::KeyPress)
+        return scrollByKey(static_cast<QKeyEvent*>(event)->key());
     return QWidget::eventFilter(watched, event);
 }

@@ -46,6 +46,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool scrollByKey(int key);
     void zoom(const char* preference, int notches);
     void fitBars();
     void follow();

@@ -296,6 +296,23 @@ TEST_F(SequenceViewTest, ShowsWithTheCursorWhatAPressWouldDo)
     EXPECT_EQ(shapeAt(60.5, 9, Qt::ControlModifier), Qt::CrossCursor);
 }
 
+TEST_F(SequenceViewTest, ScrollsByKeysToTheEndOfTheLongestSequence)
+{
+    QSignalSpy scrolls(&scrollView, &SequenceScrollView::scrolledByUser);
+    const int x = scrollView.location().x(), page = view.height();
+    const std::pair<Qt::Key, QPoint> rows[] = {
+        {Qt::Key_Right, {x + 14, 0}},     {Qt::Key_Left, {x, 0}},
+        {Qt::Key_PageUp, {x, page}},      {Qt::Key_PageUp, {x, 2 * page}},
+        {Qt::Key_PageDown, {x, page}},    {Qt::Key_End, {x, 1'000'000'000}},
+        {Qt::Key_Up, {x, 1'000'000'000}}, {Qt::Key_Home, {x, 0}}};
+    scrollView.updateDocumentSizes(1e300);
+    for (const auto& [key, place] : rows) {
+        QTest::keyClick(&view, key);
+        EXPECT_EQ(scrollView.location(), place) << key;
+    }
+    EXPECT_EQ(scrolls.count(), 7) << "but for the key that goes on to the next note";
+}
+
 TEST_F(SequenceViewTest, ScrollsAndZoomsWithTheWheelAroundTheMouse)
 {
     QSignalSpy zooms(&scrollView, &SequenceScrollView::zoomed);
