@@ -18,6 +18,7 @@
 namespace {
 
 constexpr const char* kFolderKey = "openFolder";
+constexpr int kMessageMilliseconds = 15000;
 constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ";
 constexpr const char* kTunings = "*.scl *.mtx";
 constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
@@ -199,7 +200,8 @@ void Desktop::openInstrument(const QString& path, const std::string& type)
         keyboardWindow_.status().showMessage(
             tr("%1: %2 files or samples were left out; Instruments › Import Report says which")
                 .arg(name)
-                .arg(skipped));
+                .arg(skipped),
+            kMessageMilliseconds);
 }
 
 void Desktop::openSequence(const QString& path)

@@ -6,6 +6,7 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -20,7 +21,7 @@ QString numberOf(std::size_t notes)
 
 QString step(double step)
 {
-    return QString::number(step, 'f', step == static_cast<int>(step) ? 0 : 1);
+    return QString::number(step, 'f', step == std::trunc(step) ? 0 : 1);
 }
 
 } // namespace
@@ -31,6 +32,8 @@ SequenceStatus::SequenceStatus(const SequenceDocument& document)
 {
     practice_->setAccessibleName(tr("What is waited for"));
     practice_->setToolTip(tr("The notes at the position: play them, all at once, to go on"));
+    // A long chord does not widen the window.
+    practice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     addWidget(practice_, 1);
     for (QLabel* label : {selection_, interval_, notes_})
         addPermanentWidget(label);

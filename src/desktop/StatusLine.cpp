@@ -33,14 +33,16 @@ StatusLine::StatusLine(AppDelegate& application)
     noticesButton_->setAutoRaise(true);
     noticesButton_->hide();
     connect(noticesButton_, &QToolButton::clicked, this, &StatusLine::showNotices);
-    addPermanentWidget(noticesButton_);
+    // A message takes the place of all this for its time; in between it stands at the right.
+    addWidget(new QWidget, 1);
+    addWidget(noticesButton_);
     instrument_->setToolTip(tr("The instrument that sounds"));
     tuning_->setToolTip(tr("The temperament in which it sounds"));
     output_->setToolTip(tr("The sound output: its rate and the time between two of its periods"));
     for (QLabel* label : {instrument_, tuning_, output_, inputs_}) {
         label->setTextFormat(Qt::PlainText);
         label->setContentsMargins(kMargin, 0, kMargin, 0);
-        addPermanentWidget(label);
+        addWidget(label);
     }
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::tuningChanged, this, &StatusLine::showSound);
