@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/programNames.h"
 #include "app/sizeString.h"
+#include "desktop/closeByKeys.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -45,6 +46,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
       usage_(new QLabel), tunings_(new QComboBox), stops_(new QScrollArea)
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
+    closeByKeys(*this);
 
     for (const char* name : kMIDIInstrumentNames)
         programs_->addItem(name);

@@ -2,13 +2,13 @@
 
 #include "app/AppDelegate.h"
 #include "desktop/InstrumentsModel.h"
+#include "desktop/closeByKeys.h"
 #include "desktop/icons.h"
 #include "desktop/importReport.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QTreeView>
 
 #include <algorithm>
@@ -20,6 +20,7 @@ InstrumentsWindow::InstrumentsWindow(AppDelegate& application, QWidget* parent)
       reportButton_(new QPushButton(tr("Import &Report…")))
 {
     setWindowTitle(tr("Instruments"));
+    closeByKeys(*this);
 
     table_->setModel(model_);
     table_->setRootIsDecorated(false);
@@ -50,7 +51,7 @@ InstrumentsWindow::InstrumentsWindow(AppDelegate& application, QWidget* parent)
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& index) {
                 updateButtons();
-                if (index.isValid())
+                if (index.isValid() && index.row() != currentRow())
                     emit selectWanted(static_cast<std::size_t>(index.row()));
             });
     connect(&application_, &AppDelegate::instrumentsChanged, this, &InstrumentsWindow::showCurrent);
@@ -65,15 +66,17 @@ std::size_t InstrumentsWindow::selected() const
 
 void InstrumentsWindow::showCurrent()
 {
+    if (const int row = currentRow(); row != kNone)
+        table_->setCurrentIndex(model_->index(row, 0));
+    updateButtons();
+}
+
+int InstrumentsWindow::currentRow() const
+{
     const auto& instruments = application_.instruments();
     const auto current = std::ranges::find(instruments, application_.getInstrument(),
                                            &InstrumentDocument::getInstrument);
-    if (current != instruments.end()) {
-        const QSignalBlocker isCurrentAlready(table_->selectionModel());
-        table_->setCurrentIndex(model_->index(static_cast<int>(current - instruments.begin()), 0));
-        table_->viewport()->update();
-    }
-    updateButtons();
+    return current == instruments.end() ? kNone : static_cast<int>(current - instruments.begin());
 }
 
 void InstrumentsWindow::updateButtons()

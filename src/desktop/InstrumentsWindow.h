@@ -30,6 +30,10 @@ signals:
     void refused(const QString& why);
 
 private:
+    static constexpr int kNone = -1;
+
+    /// The row of the instrument that sounds, `kNone` if it is not listed.
+    int currentRow() const;
     std::size_t selected() const;
     void updateButtons();
     void unload();

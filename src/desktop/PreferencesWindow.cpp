@@ -2,6 +2,7 @@
 
 #include "desktop/ColorButton.h"
 #include "desktop/NoteSpinBox.h"
+#include "desktop/closeByKeys.h"
 #include "desktop/icons.h"
 #include "desktop/windowPlace.h"
 #include "preferences/Color.h"
@@ -15,7 +16,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QToolBar>
@@ -55,9 +55,7 @@ PreferencesWindow::PreferencesWindow()
     toolBar->addActions(paneActions_->actions());
     for (QAction* action : paneActions_->actions())
         toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
-    for (const QKeySequence& keys :
-         {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)})
-        new QShortcut(keys, this, [this] { close(); });
+    closeByKeys(*this);
     rememberPlace(*this, "preferences");
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/Desktop.h"
 
+#include "desktop/GuideWindow.h"
 #include "desktop/KeyboardView.h"
 #include "desktop/StatusLine.h"
 #include "preferences/Preferences.h"
@@ -13,7 +14,9 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSlider>
+#include <QTextBlock>
 #include <QTimer>
 #include <QTreeView>
 #include <QtTest>
@@ -231,6 +234,36 @@ TEST_F(DesktopTest, PreferencesAreSeenAtOnce)
     resetPref("KeyWidth");
     emit desktop.preferencesWindow().changed();
     QTRY_COMPARE(window.width(), width);
+}
+
+TEST_F(DesktopTest, EscapeClosesTheWindowsBesideTheMainOnes)
+{
+    GuideWindow guide;
+    for (QWidget* window : std::initializer_list<QWidget*>{&panel, &desktop.instrumentsWindow(),
+                                                           &desktop.preferencesWindow(), &guide}) {
+        window->show();
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        EXPECT_FALSE(window->isVisible()) << window->windowTitle().toStdString();
+    }
+}
+
+TEST(GuideWindow, LeadsFromItsContentsToTheirHeadings)
+{
+    GuideWindow guide;
+    guide.resize(500, 300);
+    guide.show();
+    int place = 0;
+    for (QTextBlock block = guide.document()->begin(); block.isValid(); block = block.next()) {
+        const QString link = block.begin().fragment().charFormat().anchorHref();
+        if (!link.startsWith('#'))
+            continue;
+        guide.setSource(QUrl(link));
+        EXPECT_GT(guide.verticalScrollBar()->value(), place) << link.toStdString();
+        place = guide.verticalScrollBar()->value();
+    }
+    EXPECT_GT(place, 0);
 }
 
 TEST(ProgressWindow, EndsWithTheStepThatReachesTheMaximumExactly)
