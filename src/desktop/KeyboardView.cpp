@@ -9,6 +9,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -76,9 +77,13 @@ KeyboardDocument* KeyboardView::doDraw()
 
 void KeyboardView::updateWindowSize()
 {
+    const KeyboardGeometry geometry = preferredGeometry();
+    if (fitted_ == geometry || window()->isMaximized() || window()->isFullScreen())
+        return;
+    fitted_ = geometry;
     updateGeometry();
-    if (!window()->isMaximized() && !window()->isFullScreen())
-        window()->resize(preferredGeometry().width(), window()->height());
+    window()->resize(std::min(geometry.width(), screen()->availableSize().width()),
+                     window()->height());
 }
 
 QSize KeyboardView::sizeHint() const

@@ -28,8 +28,8 @@ public:
     /// Draws again soon if that would show anything new. Returns the document.
     KeyboardDocument* doDraw();
 
-    /// Makes the window as wide as the preferences want it, unless it fills its screen. The view
-    /// is to be as wide as its window.
+    /// Makes the window as wide as the preferences want it, as far as the screen goes, unless it
+    /// fills its screen or they have not changed since. The view is to be as wide as its window.
     void updateWindowSize();
 
     QSize sizeHint() const override;
@@ -74,4 +74,5 @@ private:
     KeyboardDocument* document_ = nullptr;
     int pressedKey_ = kNoKey;
     std::optional<Picture> painted_;
+    std::optional<KeyboardGeometry> fitted_; ///< What the window was last made as wide as.
 };

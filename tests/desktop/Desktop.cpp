@@ -14,6 +14,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSlider>
 #include <QTextBlock>
@@ -228,9 +229,15 @@ TEST_F(DesktopTest, PreferencesAreSeenAtOnce)
 {
     auto& window = desktop.keyboardWindow();
     const int width = window.width();
-    setPrefInt("KeyWidth", 16);
+    setPrefInt("KeyWidth", 12);
     emit desktop.preferencesWindow().changed();
-    QTRY_COMPARE(window.width(), width / 14 * 16);
+    QTRY_COMPARE(window.width(), width / 14 * 12);
+    window.resize(700, window.height());
+    emit desktop.preferencesWindow().changed();
+    EXPECT_EQ(window.width(), 700) << "nothing new for the keys";
+    setPrefInt("KeyWidth", 64);
+    emit desktop.preferencesWindow().changed();
+    QTRY_COMPARE(window.width(), window.screen()->availableSize().width());
     resetPref("KeyWidth");
     emit desktop.preferencesWindow().changed();
     QTRY_COMPARE(window.width(), width);
