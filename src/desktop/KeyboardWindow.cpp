@@ -21,6 +21,7 @@ KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
       status_(new StatusLine(application))
 {
     setWindowTitle(tr("Velmora"));
+    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
     setCentralWidget(keyboard_);
     keyboard_->setFocus(); // keys are for the sequence, not for a button
     setStatusBar(status_);
@@ -38,7 +39,6 @@ KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
     QToolBar* tools = addToolBar(tr("Tools"));
     tools->setObjectName("tools");
     tools->setMovable(false);
-    tools->setContextMenuPolicy(Qt::PreventContextMenu);
     tools->addActions({commands.newSequence, commands.open});
     tools->addSeparator();
     tools->addAction(commands.instrumentPanel);

@@ -104,6 +104,7 @@ void PreferencesWindow::addNumber(QFormLayout& form, const QString& label, const
     box->setAccessibleName(spoken(label));
     box->setToolTip(help);
     box->setMinimumWidth(kNumberWidth);
+    box->setKeyboardTracking(false); // half of a number is none
     box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     form.addRow(label, box);
     connect(box, &QSpinBox::valueChanged, this, [this, key](int value) {

@@ -45,6 +45,7 @@ SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, con
       scrollView_(new SequenceScrollView), tuningStrip_(new TuningStrip(application))
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
     makeView();
     makeMenus();
     setStatusBar(new SequenceStatus(document_));

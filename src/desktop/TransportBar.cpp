@@ -39,7 +39,6 @@ TransportBar::TransportBar(SequenceDocument& document, SequenceActions& actions)
     setObjectName("transport");
     setWindowTitle(tr("Transport"));
     setMovable(false);
-    setContextMenuPolicy(Qt::PreventContextMenu);
     addButton(*actions.record, tr("Stop"));
     addButton(*actions.play, tr("Stop"));
     addSeparator();
