@@ -2,12 +2,12 @@
 
 #include "app/AppDelegate.h"
 #include "desktop/icons.h"
+#include "preferences/settings.h"
 
 #include <QAction>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
-#include <QSettings>
 
 namespace {
 
@@ -16,12 +16,12 @@ constexpr const char* kRecentKey = "recentFiles";
 
 QStringList recentFiles()
 {
-    return QSettings("velmora", "velmora").value(kRecentKey).toStringList();
+    return preference(kRecentKey).toStringList();
 }
 
 void setRecentFiles(const QStringList& files)
 {
-    QSettings("velmora", "velmora").setValue(kRecentKey, files);
+    setPreference(kRecentKey, files);
 }
 
 /// A text in which no letter is taken for the mnemonic of a menu.

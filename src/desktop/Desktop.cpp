@@ -6,6 +6,7 @@
 #include "desktop/aboutBox.h"
 #include "desktop/windowPlace.h"
 #include "preferences/Preferences.h"
+#include "preferences/settings.h"
 #include "sequencer/KeyboardDocument.h"
 #include "sequencer/SequenceFile.h"
 
@@ -13,7 +14,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QSettings>
+
+#include <utility>
 
 namespace {
 
@@ -22,15 +24,6 @@ constexpr int kMessageMilliseconds = 15000;
 constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ";
 constexpr const char* kTunings = "*.scl *.mtx";
 constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
-
-/// Brings a window to the front, from wherever it is.
-void present(QWidget& window)
-{
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.show();
-    window.raise();
-    window.activateWindow();
-}
 
 } // namespace
 
@@ -60,10 +53,8 @@ Desktop::Desktop()
     rememberPlace(instrumentPanel_, "instrumentPanel");
     rememberPlace(instrumentsWindow_, "instruments");
     keyboardWindow_.show();
-    if (wasOpen("instrumentPanel"))
-        instrumentPanel_.show();
-    if (wasOpen("instruments"))
-        instrumentsWindow_.show();
+    reopen(instrumentPanel_, "instrumentPanel");
+    reopen(instrumentsWindow_, "instruments");
 }
 
 Desktop::~Desktop() = default;
@@ -227,9 +218,8 @@ void Desktop::selectInstrument(std::size_t position)
 
 void Desktop::askForFiles()
 {
-    QSettings settings("velmora", "velmora");
     const QStringList paths = QFileDialog::getOpenFileNames(
-        QApplication::activeWindow(), tr("Open"), settings.value(kFolderKey).toString(),
+        QApplication::activeWindow(), tr("Open"), preference(kFolderKey).toString(),
         tr("All that Velmora opens (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;All files "
            "(*)")
             .arg(QString(kInstruments) + " " + kTunings + " " + kSequences)
@@ -238,7 +228,7 @@ void Desktop::askForFiles()
             .arg(kSequences));
     if (paths.isEmpty())
         return;
-    settings.setValue(kFolderKey, QFileInfo(paths.front()).absolutePath());
+    setPreference(kFolderKey, QFileInfo(paths.front()).absolutePath());
     open(paths);
 }
 

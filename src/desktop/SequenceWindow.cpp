@@ -12,6 +12,7 @@
 #include "desktop/icons.h"
 #include "desktop/windowPlace.h"
 #include "preferences/Preferences.h"
+#include "preferences/settings.h"
 
 #include <QAction>
 #include <QApplication>
@@ -19,7 +20,6 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QScreen>
-#include <QSettings>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -132,12 +132,12 @@ void SequenceWindow::makeViewMenu()
             &SequenceScrollView::zoomKeys, -1);
     view->addSeparator();
     QAction* strip = view->addAction(icon("tuning"), tr("&Tuning Strip"), this, [this](bool on) {
-        QSettings("velmora", "velmora").setValue(kStripKey, on);
+        setPreference(kStripKey, on);
         tuningStrip_->setVisible(on);
     });
     strip->setCheckable(true);
     strip->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
-    strip->setChecked(QSettings("velmora", "velmora").value(kStripKey).toBool());
+    strip->setChecked(preference(kStripKey).toBool());
     tuningStrip_->setVisible(strip->isChecked());
     view->addAction(commands_.noteNames);
     view->addSeparator();

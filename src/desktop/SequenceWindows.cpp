@@ -3,6 +3,7 @@
 #include "desktop/Commands.h"
 #include "desktop/KeyboardView.h"
 #include "desktop/SequenceWindow.h"
+#include "desktop/windowPlace.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -81,10 +82,7 @@ void SequenceWindows::show(SequenceWindow& window)
 
 void SequenceWindows::bringToFront(SequenceWindow& window)
 {
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.show();
-    window.raise();
-    window.activateWindow();
+    present(window);
     setMain(&window); // where the desktop does not let it come to the front, too
 }
 

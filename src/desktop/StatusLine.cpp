@@ -2,10 +2,10 @@
 
 #include "app/AppDelegate.h"
 #include "desktop/icons.h"
+#include "preferences/settings.h"
 
 #include <QLabel>
 #include <QMessageBox>
-#include <QSettings>
 #include <QToolButton>
 
 namespace {
@@ -77,7 +77,7 @@ void StatusLine::showDevices()
                      "or play with the mouse."));
     if (!application_.keepsDisplayAwake())
         addNotice(tr("There is no session bus: the display may go to sleep while you play."));
-    if (!QSettings("velmora", "velmora").isWritable())
+    if (!arePreferencesWritable())
         addNotice(tr("The preferences cannot be written: they are kept until the end only."));
 }
 

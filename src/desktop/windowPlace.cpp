@@ -1,32 +1,20 @@
 #include "desktop/windowPlace.h"
 
+#include "preferences/settings.h"
+
 #include <QApplication>
 #include <QEvent>
-#include <QSettings>
 #include <QWidget>
 
 namespace {
 
-QString placeKey(const QString& name)
-{
-    return "windows/" + name;
-}
-
-QString openKey(const QString& name)
-{
-    return placeKey(name) + "Open";
-}
-
 class PlaceKeeper : public QObject {
 public:
-    PlaceKeeper(QWidget& window, QString name)
-        : QObject(&window), window_(window), name_(std::move(name))
+    PlaceKeeper(QWidget& window, std::string key)
+        : QObject(&window), window_(window), key_(std::move(key))
     {
         window.installEventFilter(this);
-        connect(qApp, &QApplication::aboutToQuit, this, [this] {
-            save();
-            QSettings("velmora", "velmora").setValue(openKey(name_), window_.isVisible());
-        });
+        connect(qApp, &QApplication::aboutToQuit, this, &PlaceKeeper::save);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override
@@ -41,22 +29,35 @@ private:
     {
         // A window that was never shown has no place yet.
         if (window_.testAttribute(Qt::WA_WState_Created))
-            QSettings("velmora", "velmora").setValue(placeKey(name_), window_.saveGeometry());
+            setPreference(key_, window_.saveGeometry());
     }
 
     QWidget& window_;
-    QString name_;
+    std::string key_;
 };
 
 } // namespace
 
-void rememberPlace(QWidget& window, const QString& name)
+void rememberPlace(QWidget& window, const std::string& name)
 {
-    window.restoreGeometry(QSettings("velmora", "velmora").value(placeKey(name)).toByteArray());
-    new PlaceKeeper(window, name); // goes with the window
+    const std::string key = "windows/" + name;
+    window.restoreGeometry(preference(key).toByteArray());
+    new PlaceKeeper(window, key); // goes with the window
 }
 
-bool wasOpen(const QString& name)
+void reopen(QWidget& window, const std::string& name)
 {
-    return QSettings("velmora", "velmora").value(openKey(name)).toBool();
+    const std::string key = "windows/" + name + "Open";
+    QObject::connect(qApp, &QApplication::aboutToQuit, &window,
+                     [&window, key] { setPreference(key, window.isVisible()); });
+    if (preference(key).toBool())
+        window.show();
+}
+
+void present(QWidget& window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
 }

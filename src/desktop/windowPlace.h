@@ -1,12 +1,16 @@
 #pragma once
 
-#include <QString>
+#include <string>
 
 class QWidget;
 
 /// Puts a window where it was when the program last ran, and remembers under the name where it is
 /// when it is hidden or the program ends. To be called once, before the window is shown.
-void rememberPlace(QWidget& window, const QString& name);
+void rememberPlace(QWidget& window, const std::string& name);
 
-/// Whether the window of that name stood open when the program last ended.
-bool wasOpen(const QString& name);
+/// Shows a window if it stood open when the program last ended, and remembers under the name
+/// whether it does when the program ends.
+void reopen(QWidget& window, const std::string& name);
+
+/// Brings a window to the front, from wherever it is.
+void present(QWidget& window);

@@ -72,6 +72,11 @@ void setPreference(const std::string& key, const QVariant& value)
     settings().setValue(QString::fromStdString(key), value);
 }
 
+bool arePreferencesWritable()
+{
+    return settings().isWritable();
+}
+
 void resetPref(const std::string& key)
 {
     settings().remove(QString::fromStdString(key));
