@@ -17,7 +17,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileInfo>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStyle>
@@ -63,6 +62,7 @@ SequenceWindow::~SequenceWindow()
 {
     if (!isSettled_)
         keeper_.leave();
+    qApp->disconnect(this);
     // The widgets go after the document, which has something to say to the end.
     scrollView_->view().setDocument(nullptr, nullptr);
     document_.disconnect();
@@ -211,11 +211,12 @@ void SequenceWindow::closeAsIs()
 
 void SequenceWindow::closeEvent(QCloseEvent* event)
 {
-    if (!isSettled_ && !askToSave()) {
+    if (!isSettled_ && !askToClose()) {
         event->ignore();
         return;
     }
     isSettled_ = true;
+    editor_.releaseKeys();
     scrollView_->view().setDocument(nullptr, nullptr);
     document_.stop();
     emit closing();

@@ -40,8 +40,11 @@ public:
     /// Takes a key that was pressed or released while the keyboard was in front.
     void handleKey(const QKeyEvent& event);
 
-    /// Asks what is to become of unsaved changes. False when the window is to stay.
-    bool askToSave();
+    /// There are unsaved changes, or an export that goes on.
+    bool isBusyOrModified() const;
+
+    /// Asks what is to become of them. False when the window is to stay.
+    bool askToClose();
 
     /// Closes without asking.
     void closeAsIs();
@@ -76,6 +79,9 @@ private:
     void scrollTo(double step);
     bool write(const QString& path, const std::string& type,
                SequenceDocument::SaveOperation operation);
+    bool askToGiveUpExport();
+    bool askToSave();
+    bool askToLoseVoices();
     QString displayName() const;
 
     AppDelegate& application_;

@@ -2,34 +2,38 @@
 
 #include "desktop/Commands.h"
 #include "desktop/SequenceWindow.h"
+#include "desktop/askWhereToSave.h"
+#include "desktop/exportAudio.h"
 #include "sequencer/SequenceFile.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSettings>
 
-namespace {
-
-constexpr const char* kFolderKey = "saveFolder";
-
-QString midiFilter()
+bool SequenceWindow::isBusyOrModified() const
 {
-    return SequenceWindow::tr("MIDI File (*.mid *.midi *.smf *.kar)");
+    return document_.isModified() || isExportingAudio(*this);
 }
 
-QString iMelodyFilter()
+bool SequenceWindow::askToClose()
 {
-    return SequenceWindow::tr("iMelody (*.imy)");
+    return (!isExportingAudio(*this) || askToGiveUpExport()) &&
+           (!document_.isModified() || askToSave());
 }
 
-} // namespace
+bool SequenceWindow::askToGiveUpExport()
+{
+    QMessageBox box(QMessageBox::Warning, tr("Velmora"),
+                    tr("%1 is being exported. Give that up?").arg(displayName()),
+                    QMessageBox::Cancel, this);
+    box.setInformativeText(tr("There will be no sound file if you do."));
+    const QPushButton* giveUp = box.addButton(tr("Give Up"), QMessageBox::DestructiveRole);
+    box.exec();
+    return box.clickedButton() == giveUp;
+}
 
 bool SequenceWindow::askToSave()
 {
-    if (!document_.isModified())
-        return true;
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
                     tr("Save the changes to %1?").arg(displayName()),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
@@ -55,31 +59,28 @@ bool SequenceWindow::save()
 
 bool SequenceWindow::saveAs()
 {
-    QSettings settings("velmora", "velmora");
-    QFileDialog dialog(this, tr("Save As"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({midiFilter(), iMelodyFilter()});
-    dialog.setDefaultSuffix("mid");
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
-        dialog.setDefaultSuffix(filter == iMelodyFilter() ? "imy" : "mid");
-    });
-    if (document_.path().empty()) {
-        dialog.setDirectory(settings.value(kFolderKey).toString());
-        dialog.selectFile(name_ + ".mid");
-    } else {
-        const QFileInfo file(QString::fromStdString(document_.path().string()));
-        dialog.setDirectory(file.absolutePath());
-        dialog.selectFile(file.fileName());
-    }
-    if (dialog.exec() != QDialog::Accepted)
+    const QString saved = QString::fromStdString(document_.path().string());
+    const QString path = askWhereToSave(
+        *this, {.title = tr("Save As"),
+                .kinds = {{tr("MIDI File"), {"mid", "midi", "smf", "kar"}}, {"iMelody", {"imy"}}},
+                .proposal = saved.isEmpty() ? name_ + ".mid" : saved,
+                .folderKey = "saveFolder"});
+    if (path.isEmpty())
         return false;
+    const std::string type = sequenceTypeOf(path.toStdString());
+    return (type != kIMelodyType || askToLoseVoices()) &&
+           write(path, type, SequenceDocument::SaveOperation::SaveAs);
+}
 
-    const QString path = dialog.selectedFiles().front();
-    settings.setValue(kFolderKey, QFileInfo(path).absolutePath());
-    std::string type = sequenceTypeOf(path.toStdString());
-    if (type.empty())
-        type = dialog.selectedNameFilter() == iMelodyFilter() ? kIMelodyType : kMidiFileType;
-    return write(path, type, SequenceDocument::SaveOperation::SaveAs);
+bool SequenceWindow::askToLoseVoices()
+{
+    QMessageBox box(QMessageBox::Question, tr("Velmora"),
+                    tr("An iMelody file holds one voice and no dynamics. Save it all the same?"),
+                    QMessageBox::Save | QMessageBox::Cancel, this);
+    box.setInformativeText(
+        tr("Velmora cannot open it again. A MIDI file keeps everything that you see."));
+    box.setDefaultButton(QMessageBox::Cancel);
+    return box.exec() == QMessageBox::Save;
 }
 
 bool SequenceWindow::write(const QString& path, const std::string& type,
@@ -88,7 +89,8 @@ bool SequenceWindow::write(const QString& path, const std::string& type,
     const bool isWritten = document_.saveToURL(path.toStdString(), type, operation);
     showTitle();
     if (isWritten) {
-        commands_.addRecent(path);
+        if (type == kMidiFileType)
+            commands_.addRecent(path); // the other kind cannot be opened
         return true;
     }
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),

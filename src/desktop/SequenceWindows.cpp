@@ -6,13 +6,13 @@
 #include "desktop/windowPlace.h"
 
 #include <QApplication>
-#include <QFileInfo>
+#include <QDateTime>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -53,9 +53,9 @@ SequenceWindows::~SequenceWindows()
     }
 }
 
-SequenceWindow& SequenceWindows::make(RecoveryFile recovery)
+SequenceWindow& SequenceWindows::make(const QString& name, RecoveryFile recovery)
 {
-    auto* window = new SequenceWindow(application_, commands_, unusedName(), std::move(recovery));
+    auto* window = new SequenceWindow(application_, commands_, name, std::move(recovery));
     if (!windows_.empty())
         window->move(windows_.back()->pos() + kCascade);
     windows_.push_back(window);
@@ -88,7 +88,7 @@ void SequenceWindows::bringToFront(SequenceWindow& window)
 
 void SequenceWindows::create()
 {
-    show(make());
+    show(make(unusedName()));
 }
 
 std::string SequenceWindows::open(const QString& path)
@@ -99,7 +99,7 @@ std::string SequenceWindows::open(const QString& path)
             return {};
         }
     }
-    SequenceWindow& window = make();
+    SequenceWindow& window = make({});
     window.document().readFromURL(path.toStdString());
     std::string error = window.document().errorString();
     if (error.empty())
@@ -127,7 +127,8 @@ void SequenceWindows::offerAbandoned()
             one.file.discard();
         if (box.clickedButton() != recover)
             continue;
-        SequenceWindow& window = make(std::move(one.file));
+        const QString name = one.sequence.path.empty() ? unusedName() : QString();
+        SequenceWindow& window = make(name, std::move(one.file));
         window.document().recover(one.sequence);
         show(window);
     }
@@ -135,11 +136,13 @@ void SequenceWindows::offerAbandoned()
 
 bool SequenceWindows::closeAll()
 {
-    for (SequenceWindow* window : windows_) {
-        if (!window->document().isModified())
+    // While the user makes up his mind, others may be opened from without.
+    const std::vector<QPointer<SequenceWindow>> asked(windows_.begin(), windows_.end());
+    for (const auto& window : asked) {
+        if (window == nullptr || !window->isBusyOrModified())
             continue;
         bringToFront(*window);
-        if (!window->askToSave())
+        if (!window->askToClose())
             return false;
     }
     while (!windows_.empty())
@@ -175,6 +178,7 @@ void SequenceWindows::setMain(SequenceWindow* window)
 
 void SequenceWindows::remove(SequenceWindow& window)
 {
+    window.disconnect(this); // it may still come to the front on its way out
     windows_.erase(std::find(windows_.begin(), windows_.end(), &window));
     if (main_ == &window)
         setMain(nullptr);

@@ -33,7 +33,7 @@ public:
     /// Offers what a program that ended without closing has left of its sequences.
     void offerAbandoned();
 
-    /// Asks each what is to become of its unsaved changes, then closes them. False when the user
+    /// Asks each what is to become of what it would lose, then closes them. False when the user
     /// wants to stay: all of them do, then.
     bool closeAll();
 
@@ -54,7 +54,7 @@ signals:
     void zoomed();
 
 private:
-    SequenceWindow& make(RecoveryFile recovery = RecoveryFile());
+    SequenceWindow& make(const QString& name, RecoveryFile recovery = RecoveryFile());
     void show(SequenceWindow& window);
     void bringToFront(SequenceWindow& window);
     void setMain(SequenceWindow* window);

@@ -1,19 +1,20 @@
 #include "desktop/exportAudio.h"
 
 #include "app/AudioExport.h"
+#include "desktop/askWhereToSave.h"
 #include "sequencer/SequenceDocument.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QProgressDialog>
-#include <QSettings>
 #include <QStatusBar>
+
+#include <algorithm>
+#include <filesystem>
 
 namespace {
 
-constexpr const char* kFolderKey = "exportFolder";
 constexpr int kParts = 1000;
 constexpr int kMessageMilliseconds = 8000;
 
@@ -71,22 +72,20 @@ private:
 
 void exportAudio(QMainWindow& window, const SequenceDocument& document, AppDelegate& application)
 {
-    QSettings settings("velmora", "velmora");
-    const auto& path = document.path();
-    const QString folder = path.empty() ? settings.value(kFolderKey).toString()
-                                        : QString::fromStdString(path.parent_path().string());
-    QFileDialog dialog(&window, QObject::tr("Export Audio"), folder);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({"WAV (*.wav)", "FLAC (*.flac)", "Ogg Vorbis (*.ogg)"});
-    dialog.setDefaultSuffix("wav");
-    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
-        dialog.setDefaultSuffix(filter.section("*.", 1).chopped(1));
-    });
-    if (!path.empty())
-        dialog.selectFile(QString::fromStdString(path.stem().string()) + ".wav");
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    const QString chosen = dialog.selectedFiles().front();
-    settings.setValue(kFolderKey, QFileInfo(chosen).absolutePath());
-    (new ExportProgress(window, chosen))->start(document, application); // goes when it is done
+    const auto& saved = document.path();
+    const QString proposal = QString::fromStdString(
+        saved.empty() ? "" : std::filesystem::path(saved).replace_extension("wav").string());
+    const QString path = askWhereToSave(
+        window, {.title = ExportProgress::tr("Export Audio"),
+                 .kinds = {{"WAV", {"wav"}}, {"FLAC", {"flac"}}, {"Ogg Vorbis", {"ogg"}}},
+                 .proposal = proposal,
+                 .folderKey = "exportFolder"});
+    if (!path.isEmpty())
+        (new ExportProgress(window, path))->start(document, application); // goes when it is done
+}
+
+bool isExportingAudio(const QMainWindow& window)
+{
+    const auto exports = window.findChildren<QProgressDialog*>();
+    return std::ranges::any_of(exports, &QWidget::isVisible);
 }

@@ -1,5 +1,6 @@
 #include "platform/AudioFileWriter.h"
 
+#include "base/Text.h"
 #include "platform/oggSerial.h"
 
 #include <sndfile.h>
@@ -16,7 +17,7 @@ constexpr std::uint32_t kOggSerial = 1;
 
 int formatOf(const std::filesystem::path& path)
 {
-    const std::filesystem::path extension = path.extension();
+    const std::string extension = lowerCase(path.extension().string());
     if (extension == ".wav")
         return SF_FORMAT_WAV | SF_FORMAT_PCM_24;
     if (extension == ".flac")

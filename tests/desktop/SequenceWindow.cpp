@@ -10,11 +10,13 @@
 #include "support/RecordingInstrument.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -25,7 +27,7 @@
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
-using testing::IsEmpty;
+using testing::StartsWith;
 
 namespace {
 
@@ -93,8 +95,9 @@ protected:
         return texts;
     }
 
-    /// Names a file in the dialog that opens while `act` is done.
-    template <class Act> void naming(const QString& path, const Act& act)
+    /// Names a file in the dialog that opens while `act` is done, then chooses a kind from the
+    /// list.
+    template <class Act> void naming(const QString& path, const Act& act, int kind = 0)
     {
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, [&] {
@@ -104,6 +107,8 @@ protected:
                 auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
                 name->setFocus();
                 name->setText(path);
+                for (int i = 0; i < kind; ++i)
+                    QTest::keyClick(dialog->findChild<QComboBox*>("fileTypeCombo"), Qt::Key_Down);
                 QTest::keyClick(name, Qt::Key_Return);
             }
         });
@@ -306,6 +311,13 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
                             "instead."));
     EXPECT_EQ(&open("wolf-fantasia.mid"), &imported) << "it is not opened twice";
     EXPECT_TRUE(closes(imported));
+
+    draw(open());
+    draw(open());
+    QTimer::singleShot(0, [&] { open("wolf-fantasia.mid"); });
+    answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
+    EXPECT_EQ(keyboard.getDocument(), nullptr) << "what came meanwhile is closed too";
+    EXPECT_EQ(open().windowTitle(), "Untitled 4[*]") << "files take no name from new sequences";
 }
 
 TEST_F(SequenceWindowTest, WritesNotesAndSoundUnderTheNamesThatAreGiven)
@@ -317,9 +329,26 @@ TEST_F(SequenceWindowTest, WritesNotesAndSoundUnderTheNamesThatAreGiven)
     naming(folder.filePath("tune"), [&] { EXPECT_TRUE(window.saveAs()); });
     EXPECT_EQ(window.document().path(), folder.filePath("tune.mid").toStdString());
     EXPECT_TRUE(window.save()) << "it is imported no more";
-    naming(folder.filePath("tune.imy"), [&] { EXPECT_TRUE(window.saveAs()); });
+    for (const std::vector<QString>& answers : {std::vector<QString>{}, {"Yes"}})
+        answering(answers,
+                  [&] { naming(folder.filePath("No.1"), [&] { EXPECT_TRUE(window.saveAs()); }); });
+    EXPECT_EQ(window.document().path(), folder.filePath("No.1.mid").toStdString());
+    answering({"Cancel"}, [&] {
+        naming(
+            folder.filePath("tune.mid"), [&] { EXPECT_FALSE(window.saveAs()); }, 1);
+    });
+    answering({"Save"},
+              [&] { naming(folder.filePath("tune.imy"), [&] { EXPECT_TRUE(window.saveAs()); }); });
     QFile melody(folder.filePath("tune.imy"));
     EXPECT_TRUE(melody.open(QIODevice::ReadOnly) && melody.readLine() == "BEGIN:IMELODY\r\n");
+
+    naming(
+        folder.filePath("x.wav"), [&] { action(window, "Export Audio…").trigger(); }, 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.isBusyOrModified(); }));
+    answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.sequenceWindows().closeAll()); });
+    auto& progress = *window.findChild<QProgressDialog*>();
+    EXPECT_THAT(progress.labelText().toStdString(), StartsWith("x.flac"));
+    progress.cancel();
 
     window.document().edit().select();
     window.document().edit().erase();
