@@ -70,9 +70,7 @@ Commands::Commands(AppDelegate& application)
     connect(recent_.get(), &QMenu::aboutToShow, this, &Commands::showRecent);
     connect(instruments_.get(), &QMenu::aboutToShow, this, &Commands::showInstruments);
     connect(tunings_.get(), &QMenu::aboutToShow, this, &Commands::showTunings);
-    // Also for the shortcuts, before a menu is first shown.
-    showRecent();
-    showInstruments();
+    showRecent(); // and so whether there are any
 }
 
 Commands::~Commands() = default;

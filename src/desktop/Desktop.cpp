@@ -36,10 +36,9 @@ Desktop::Desktop()
     connectProgress();
     connectSequences();
     for (QWidget* window : std::initializer_list<QWidget*>{
-             &keyboardWindow_, &instrumentPanel_, &instrumentsWindow_, &preferencesWindow_}) {
+             &keyboardWindow_, &instrumentPanel_, &instrumentsWindow_, &preferencesWindow_})
         fileDrop_.watch(*window);
-        window->addAction(commands_.silence);
-    }
+    progressWindow_.addAction(commands_.silence); // which keeps the keys from all other windows
     connect(&fileDrop_, &FileDrop::dropped, this, &Desktop::open, Qt::QueuedConnection);
     connect(&application_, &AppDelegate::bankLoaded, this, &Desktop::showBank);
     connect(&application_, &AppDelegate::midiInputReceived, this, [this] {
@@ -76,11 +75,11 @@ void Desktop::connectCommands()
     presents(commands_.instrumentsWindow, instrumentsWindow_);
     presents(commands_.preferences, preferencesWindow_);
     connect(commands_.open, &QAction::triggered, this, &Desktop::askForFiles);
-    // Not through the windows' closing: what stands open is to stand open again.
     connect(commands_.silence, &QAction::triggered, this, [this] {
         sequenceWindows_.stopPlaying(); // or its next note would sound
         application_.silenceAll();
     });
+    // Not through the windows' closing: what stands open is to stand open again.
     connect(commands_.quit, &QAction::triggered, this, [this] {
         if (sequenceWindows_.closeAll())
             QApplication::exit();
@@ -114,10 +113,8 @@ void Desktop::connectSequences()
 {
     connect(commands_.newSequence, &QAction::triggered, &sequenceWindows_,
             &SequenceWindows::create);
-    connect(&sequenceWindows_, &SequenceWindows::opened, this, [this](SequenceWindow& window) {
-        fileDrop_.watch(window);
-        window.addAction(commands_.silence);
-    });
+    connect(&sequenceWindows_, &SequenceWindows::opened, this,
+            [this](SequenceWindow& window) { fileDrop_.watch(window); });
     connect(&sequenceWindows_, &SequenceWindows::zoomed, this, &Desktop::updateAllViews);
     connect(&keyboardWindow_, &KeyboardWindow::keyEvent, &sequenceWindows_,
             [this](const QKeyEvent* event) { sequenceWindows_.handleKey(*event); });
@@ -128,6 +125,11 @@ void Desktop::open(const QStringList& paths)
     if (paths.isEmpty())
         present(keyboardWindow_);
     waiting_ += paths;
+    openWaiting();
+}
+
+void Desktop::openWaiting()
+{
     if (isOpening_)
         return;
     isOpening_ = true;
@@ -206,14 +208,18 @@ void Desktop::openSequence(const QString& path)
 
 void Desktop::selectInstrument(std::size_t position)
 {
+    // One that was unloaded is read again, and lets events through while it is.
+    const bool wasOpening = std::exchange(isOpening_, true);
     const bool isSelected = application_.selectInstrument(position);
     progressWindow_.endProgress();
-    if (isSelected)
-        return;
-    instrumentsWindow_.showCurrent();
-    const std::string& why = application_.instruments().at(position)->errorString();
-    if (!why.empty())
-        complain(QString::fromStdString(why));
+    if (!isSelected) {
+        instrumentsWindow_.showCurrent();
+        const std::string& why = application_.instruments().at(position)->errorString();
+        if (!why.empty())
+            complain(QString::fromStdString(why));
+    }
+    isOpening_ = wasOpening;
+    openWaiting();
 }
 
 void Desktop::askForFiles()
@@ -245,12 +251,16 @@ void Desktop::showBank()
     const QString wanted = QString::fromStdString(getPrefString("GMBank"));
     const QString bank = QString::fromStdString(application_.bank().string());
     StatusLine& status = keyboardWindow_.status();
+    status.removeNotice(bankNotice_);
     if (bank.isEmpty())
-        status.addNotice(tr("There is no SoundFont for the General MIDI player: it is silent. "
-                            "Choose one in the preferences."));
+        bankNotice_ = tr("There is no SoundFont for the General MIDI player: it is silent. "
+                         "Choose one in the preferences.");
     else if (!wanted.isEmpty() && wanted != bank)
-        status.addNotice(
-            tr("%1 cannot be used as the General MIDI bank: %2 is.").arg(wanted, bank));
+        bankNotice_ = tr("%1 cannot be used as the General MIDI bank: %2 is.").arg(wanted, bank);
+    else
+        bankNotice_.clear();
+    if (!bankNotice_.isEmpty())
+        status.addNotice(bankNotice_);
 }
 
 void Desktop::complain(const QString& sentence)

@@ -43,6 +43,7 @@ private:
     void connectCommands();
     void connectProgress();
     void connectSequences();
+    void openWaiting();
     void openFile(const QString& path);
     void openTuning(const QString& path, const std::string& type);
     void openInstrument(const QString& path, const std::string& type);
@@ -63,6 +64,7 @@ private:
     ProgressWindow progressWindow_;
     GuideWindow guideWindow_;
     SequenceWindows sequenceWindows_;
+    QString bankNotice_;  ///< What stands in the status line about the General MIDI bank.
     QStringList waiting_; ///< Files that came while others were being opened.
     bool isOpening_ = false;
 };

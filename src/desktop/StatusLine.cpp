@@ -97,11 +97,22 @@ void StatusLine::addNotice(const QString& notice)
     if (notices_.contains(notice))
         return;
     notices_ += notice;
+    updateNotices();
+}
+
+void StatusLine::removeNotice(const QString& notice)
+{
+    notices_.removeAll(notice);
+    updateNotices();
+}
+
+void StatusLine::updateNotices()
+{
     noticesButton_->setText(QString::number(notices_.size()));
     noticesButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     noticesButton_->setToolTip(notices_.join("\n"));
     noticesButton_->setAccessibleName(tr("%1 notices").arg(notices_.size()));
-    noticesButton_->show();
+    noticesButton_->setVisible(!notices_.isEmpty());
 }
 
 void StatusLine::showNotices()

@@ -21,9 +21,13 @@ public:
     /// Adds to what is wanting: a sentence that says what cannot be done for it.
     void addNotice(const QString& notice);
 
+    /// It can be done again.
+    void removeNotice(const QString& notice);
+
 private:
     void showSound();
     void showOutput();
+    void updateNotices();
     void showNotices();
 
     AppDelegate& application_;

@@ -19,6 +19,7 @@
 #include <QSlider>
 #include <QTextBlock>
 #include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
 #include <QtTest>
 #include <gmock/gmock.h>
@@ -220,7 +221,13 @@ TEST_F(DesktopTest, FilesAreOpenedByTheirKindsWhereverTheyAreDropped)
     unload->click();
     EXPECT_EQ(application.instrumentName(), "MIDI Player");
     EXPECT_FALSE(unload->isEnabled()) << "the player stays";
+    application.selectTuning("Equal");
+    QTimer::singleShot(0, [&] {
+        desktop.open({QString::fromStdString(scale.string())});
+        EXPECT_EQ(application.tuningName(), "Equal") << "a file that comes meanwhile waits";
+    });
     table.setCurrentIndex(table.model()->index(1, 0));
+    EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
     EXPECT_EQ(application.instrumentName(), "Small");
     EXPECT_GT(application.instruments()[1]->getSize(), 0);
 }
@@ -241,6 +248,16 @@ TEST_F(DesktopTest, PreferencesAreSeenAtOnce)
     resetPref("KeyWidth");
     emit desktop.preferencesWindow().changed();
     QTRY_COMPARE(window.width(), width);
+
+    auto& notices = *window.status().findChild<QToolButton*>();
+    const int others = notices.text().toInt();
+    for (const auto& [bank, more] : {std::pair{"/no/such", 1}, {"/no/other", 1}, {"", 0}}) {
+        setPrefString("GMBank", bank);
+        emit desktop.preferencesWindow().bankChanged();
+        application.waitForBank();
+        QTRY_COMPARE(std::pair(notices.text().toInt(), notices.toolTip().contains(bank)),
+                     std::pair(others + more, true));
+    }
 }
 
 TEST_F(DesktopTest, EscapeClosesTheWindowsBesideTheMainOnes)

@@ -154,7 +154,7 @@ TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     EXPECT_EQ(play.iconText(), "Play") << "the key is not for the button of the notices";
     play.trigger();
-    action(window, "Silence Everything").trigger();
+    QTest::keyClick(&window, Qt::Key_Period, Qt::ControlModifier);
     EXPECT_EQ(play.iconText(), "Play");
     record.trigger();
     EXPECT_EQ(document.mode(), SequenceDocument::Mode::Recording);
