@@ -124,11 +124,11 @@ void SequenceWindow::makeViewMenu()
         view->addAction(icon(picture), text, shortcut, this,
                         [this, zoom, notches] { (scrollView_->*zoom)(notches); });
     };
-    addZoom("zoom-in", tr("Zoom &In"), QKeySequence::ZoomIn, &SequenceScrollView::zoomSteps, 1);
+    addZoom("zoom-in", tr("Zoo&m In"), QKeySequence::ZoomIn, &SequenceScrollView::zoomSteps, 1);
     addZoom("zoom-out", tr("Zoom &Out"), QKeySequence::ZoomOut, &SequenceScrollView::zoomSteps, -1);
     addZoom("zoom-in", tr("&Wider Keys"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Plus),
             &SequenceScrollView::zoomKeys, 1);
-    addZoom("zoom-out", tr("&Narrower Keys"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Minus),
+    addZoom("zoom-out", tr("Narrowe&r Keys"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Minus),
             &SequenceScrollView::zoomKeys, -1);
     view->addSeparator();
     QAction* strip = view->addAction(icon("tuning"), tr("&Tuning Strip"), this, [this](bool on) {

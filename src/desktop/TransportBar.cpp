@@ -72,17 +72,20 @@ void TransportBar::addButton(QAction& action, const QString& otherTitle)
 
 void TransportBar::addTempo()
 {
-    auto* label = new QLabel(tr("&Tempo"));
+    auto* label = new QLabel(tr("Te&mpo"));
     label->setMargin(4);
     label->setBuddy(tempo_);
     addWidget(label);
     tempo_->setRange(kSlowest, kFastest);
     tempo_->setKeyboardTracking(false);
     tempo_->setAccessibleName(tr("Tempo"));
-    tempo_->setToolTip(tr("Beats a minute of playing and recording (Alt+T)"));
+    tempo_->setToolTip(tr("Beats a minute of playing and recording (Alt+M)"));
     connect(tempo_, &QSpinBox::valueChanged, this,
             [this](int tempo) { document_.setTempo(tempo); });
-    connect(tempo_, &QSpinBox::editingFinished, this, &TransportBar::done);
+    connect(tempo_, &QSpinBox::editingFinished, this, [this] {
+        if (tempo_->hasFocus()) // else the user has gone on, and is where he wants to be
+            emit done();
+    });
     addWidget(tempo_);
 }
 

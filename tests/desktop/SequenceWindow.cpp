@@ -27,6 +27,7 @@
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 using testing::StartsWith;
 
 namespace {
@@ -164,6 +165,8 @@ TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
     EXPECT_EQ(document.mode(), SequenceDocument::Mode::Stopped);
     EXPECT_TRUE(play.isEnabled());
 
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     auto& tempo = *window.findChild<QSpinBox*>();
     tempo.setFocus();
     tempo.selectAll();
@@ -171,6 +174,9 @@ TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
     QTest::keyClick(&tempo, Qt::Key_Return);
     EXPECT_EQ(document.tempo(), 90);
     EXPECT_EQ(window.focusWidget(), &view(window)) << "the keys are for the roll again";
+    tempo.setFocus();
+    QTest::keyClick(&tempo, Qt::Key_Tab);
+    EXPECT_NE(window.focusWidget(), &view(window)) << "on to the next field";
     action(window, "Snap to Grid").trigger();
     action(window, "Loop").trigger();
     action(window, "5").trigger();
