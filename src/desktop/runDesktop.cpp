@@ -16,15 +16,16 @@
 namespace {
 
 /// Leads what Qt has to say to the log. What it cannot go on after ends the program with a sentence
-/// instead of a core dump: that there is no display, of which it has warned then.
+/// instead of a core dump: mostly that there is no display.
 void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
 {
     const std::string message = text.toStdString();
     switch (type) {
     case QtFatalMsg:
-        logger("desktop").debug("{}", message);
-        std::fputs("velmora: the windows cannot be shown; --help tells what works without\n",
-                   stderr);
+        std::fputs(("velmora: " + message + '\n').c_str(), stderr);
+        if (QGuiApplication::primaryScreen() == nullptr)
+            std::fputs("velmora: the windows cannot be shown; --help tells what works without\n",
+                       stderr);
         std::_Exit(1);
     case QtWarningMsg:
     case QtCriticalMsg:
