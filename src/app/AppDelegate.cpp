@@ -92,7 +92,12 @@ void AppDelegate::loadBank()
         return;
     const double rate = output_ ? output_->rate() : kUsualRate;
     loading_ = std::async(std::launch::async, [this, rate, banks = generalMidiBanks()] {
-        auto synthesizer = std::make_unique<Synthesizer>(rate, banks);
+        std::unique_ptr<Synthesizer> synthesizer;
+        try {
+            synthesizer = std::make_unique<Synthesizer>(rate, banks);
+        } catch (const std::exception& error) {
+            logger("app").error("the General MIDI synthesizer cannot be made: {}", error.what());
+        }
         emit synthesizerMade();
         return synthesizer;
     });
@@ -108,7 +113,15 @@ void AppDelegate::takeSynthesizer()
 {
     if (!loading_.valid())
         return;
-    auto synthesizer = loading_.get();
+    if (auto synthesizer = loading_.get())
+        playThrough(std::move(synthesizer));
+    emit bankLoaded();
+    if (loadsAgain_)
+        loadBank();
+}
+
+void AppDelegate::playThrough(std::unique_ptr<Synthesizer> synthesizer)
+{
     Synthesizer* sounding = synthesizer.get();
     bank_ = sounding->bank();
     std::unique_ptr<MusicDevice> before;
@@ -119,9 +132,6 @@ void AppDelegate::takeSynthesizer()
     }
     if (output_)
         output_->play(sounding);
-    emit bankLoaded();
-    if (loadsAgain_)
-        loadBank();
 }
 
 void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)

@@ -150,10 +150,11 @@ signals:
     /// The held keys have changed. On the main thread, after the keys have sounded.
     void midiInputReceived();
 
-    /// Another bank sounds, or none where none could be loaded.
+    /// Another bank sounds, or none where none could be loaded; the one before where no synthesizer
+    /// could be made.
     void bankLoaded();
 
-    /// The thread that loads a bank has done so.
+    /// The thread that loads a bank has done so, or failed.
     void synthesizerMade();
 
     /// An instrument was listed, unloaded or read anew.
@@ -180,6 +181,7 @@ signals:
 private:
     void received(MidiPacket packet);
     void takeSynthesizer();
+    void playThrough(std::unique_ptr<Synthesizer> synthesizer);
     void take(const InputEvent& event);
 
     /// Guards `instrument_` and `temperament_` and every call on them.

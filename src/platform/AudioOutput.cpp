@@ -42,8 +42,11 @@ public:
         fluid_settings_setint(settings_.get(), "audio.jack.autoconnect", 1);
         fluid_settings_setint(settings_.get(), "audio.period-size", kPeriodFrames);
         fluid_settings_setint(settings_.get(), "audio.periods", kPeriods);
-        fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate);
-        opened_.reset(new_fluid_audio_driver2(settings_.get(), callBack, this));
+        // A JACK server may run at a rate that FluidSynth does not know.
+        if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate) != FLUID_OK)
+            logger("platform").warn("FluidSynth does not play at the {:g} Hz of {}", rate, driver);
+        else
+            opened_.reset(new_fluid_audio_driver2(settings_.get(), callBack, this));
     }
 
     bool isOpen() const { return opened_ != nullptr; }

@@ -1,5 +1,7 @@
 #include "platform/SynthesizerLane.h"
 
+#include <spdlog/fmt/fmt.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -29,7 +31,8 @@ SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
           static_cast<std::size_t>(kSilentSecondsToSleep * rate / FractionalResampler::kBlock)),
       silentBlocks_(silentBlocksToSleep_)
 {
-    fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate);
+    if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate) != FLUID_OK)
+        throw std::runtime_error(fmt::format("FluidSynth does not play at {:g} Hz", rate));
     fluid_settings_setint(settings_.get(), "synth.polyphony", kPolyphony);
     fluid_settings_setnum(settings_.get(), "synth.gain", kGain);
     // Both waver in pitch. The lanes have a still room in common instead.

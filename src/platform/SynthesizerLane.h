@@ -14,7 +14,8 @@
 /// sounds. Everything but the construction belongs to the thread that renders.
 class SynthesizerLane {
 public:
-    /// A lane of its own, or one that shares the bank of another, which must outlive it.
+    /// A lane of its own, or one that shares the bank of another, which must outlive it. Throws
+    /// std::runtime_error at rates beyond those of FluidSynth, 8000 to 96000 frames in a second.
     SynthesizerLane(double rate, SynthesizerLane* bankOwner = nullptr);
     ~SynthesizerLane();
     SynthesizerLane(const SynthesizerLane&) = delete;

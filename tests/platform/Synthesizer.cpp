@@ -65,6 +65,8 @@ TEST(Synthesizer, PassesOverABankThatCannotBeLoaded)
     std::ofstream(broken) << "RIFF\x10sfbk";
     EXPECT_EQ(Synthesizer(kRate, {"/nowhere/bank.sf2", broken, kBank}).bank(), kBank);
 
+    EXPECT_THROW(Synthesizer(192000.0, {kBank}), std::runtime_error) << "out of tune";
+
     Synthesizer silent(kRate, {broken});
     for (int status = 0x80; status < 0x100; ++status)
         silent.midiEvent(status, 60, 100);
