@@ -260,6 +260,11 @@ bool AppDelegate::selectTuning(const std::string& name)
 void AppDelegate::loop()
 {
     fadeOnce(*this);
+    // Keys that were released before another instrument was chosen die away like the others.
+    const std::lock_guard lock(soundLock_);
+    for (const auto& document : instruments_)
+        if (Instrument* other = document->getInstrument(); other != nullptr && other != instrument_)
+            other->fade(kFadeFactor);
 }
 
 void AppDelegate::keyOn(int key, float velocity)

@@ -81,7 +81,8 @@ public:
     bool unloadInstrument(std::size_t position);
 
     /// Makes an instrument the current one, under a name for display, and tunes it. It must live as
-    /// long as it is the current one. Keys that sound on the one before go on.
+    /// long as it is the current one. Keys that sound on the one before go on, and die away where
+    /// they were released.
     void setInstrument(Instrument& instrument, const std::string& name);
 
     /// The name of the current instrument; empty when there is none.

@@ -3,12 +3,6 @@
 #include "sound/Instrument.h"
 #include "tuning/Temperament.h"
 
-namespace {
-
-constexpr double kFadeFactor = 0.9;
-
-} // namespace
-
 void fadeOnce(SequenceHost& host)
 {
     const std::lock_guard lock(host.soundLock());

@@ -7,5 +7,8 @@
 /// Released keys and the spellings of a temperament fade 60 times a second.
 constexpr std::chrono::nanoseconds kFadeInterval{16'666'000};
 
-/// One step of it, under the host's lock.
+/// By how much in one step.
+constexpr double kFadeFactor = 0.9;
+
+/// One step of the current instrument and temperament, under the host's lock.
 void fadeOnce(SequenceHost& host);

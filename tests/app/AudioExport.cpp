@@ -98,6 +98,12 @@ TEST_F(AudioExportTest, SoundsAsItDoesLiveAndLeavesThatAlone)
     const Stereo live = rendered(live_, 48'000);
     EXPECT_NEAR(centsOff(live.left, kRoot), 0.0, 0.5) << "still at its beginning";
     EXPECT_NEAR(peak(sound), peak(live.left), 0.01);
+
+    app_.keyOff(48);
+    app_.selectInstrument(1);
+    for (int i = 0; i < 40; ++i)
+        app_.loop();
+    EXPECT_TRUE(app_.unloadInstrument(0)) << "what it sounded has died away";
 }
 
 TEST_F(AudioExportTest, LeavesNoFileUnlessItIsWhole)

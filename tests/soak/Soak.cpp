@@ -98,7 +98,6 @@ public:
                 app_.selectInstrument(i);
                 for (int key = 0; key < static_cast<int>(kKeys); ++key)
                     app_.keyOff(key);
-                fade();
             }
         fade();
         require(audio_->fallsSilent(), "the synthesizer sounds on");
