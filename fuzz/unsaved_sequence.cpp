@@ -1,4 +1,4 @@
-// Any bytes: either a FormatError or notes that a document can hold, which make the same bytes.
+// Any bytes: either a FormatError or notes that a document can hold, which make as many bytes.
 
 #include "base/FormatError.h"
 #include "sequencer/UnsavedSequence.h"
@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     try {
         const auto sequence = decodeUnsaved(std::as_bytes(std::span(data, size)));
         for (const Note& note : sequence.notes) {
-            if (note.key > 127 || !(note.velocity <= 1.0F) || !(note.start <= 0x1p30))
+            if (note.key > 127 || !(note.velocity <= 1.0F) || !(note.start <= 1e12))
                 std::abort();
         }
         if (encodeUnsaved(sequence).size() != size)

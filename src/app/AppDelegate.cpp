@@ -7,6 +7,7 @@
 #include "preferences/Preferences.h"
 #include "sound/KeyTables.h"
 
+#include <algorithm>
 #include <cassert>
 #include <chrono>
 
@@ -274,6 +275,7 @@ void AppDelegate::keyOn(int key, float velocity)
     const double arrived = getTime();
     const std::lock_guard lock(soundLock_);
     notePressTimes[static_cast<std::size_t>(key)] = arrived;
+    velocity = std::clamp(velocity, 0.0F, 1.0F);
     noteVelocities[static_cast<std::size_t>(key)] = velocity;
     noteStates[static_cast<std::size_t>(key)] = 1;
     if (instrument_ == nullptr)

@@ -122,7 +122,8 @@ public:
     Temperament* getTemperament() override { return temperament_; }
     std::mutex& soundLock() override { return soundLock_; }
 
-    /// Sounds a key at once, on the calling thread. Keys beyond 0…127 are ignored.
+    /// Sounds a key at once, on the calling thread. Keys beyond 0…127 are ignored, and velocities
+    /// beyond 0…1 become the nearest of them.
     void keyOn(int key, float velocity) override;
     void keyOff(int key) override;
     void setVolume(float volume, std::size_t slider) override;

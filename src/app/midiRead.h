@@ -10,7 +10,8 @@ public:
     virtual ~LiveInput() = default;
 
     /// A key was pressed; velocity from 0 to 1. A malformed message can bring a key up to 255 and
-    /// a velocity up to 255/127: keys beyond 127 are to be ignored.
+    /// a velocity up to 255/127: keys beyond 127 are to be ignored, and velocities above 1 to be
+    /// taken for 1.
     virtual void keyOn(int key, float velocity) = 0;
 
     /// A key was released. As for `keyOn`, keys beyond 127 are to be ignored.

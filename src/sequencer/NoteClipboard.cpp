@@ -1,27 +1,9 @@
 #include "sequencer/NoteClipboard.h"
 
-#include "sound/KeyTables.h"
+#include "sequencer/makeValid.h"
 
 #include <QDataStream>
 #include <QIODevice>
-
-#include <cmath>
-
-namespace {
-
-constexpr std::uint32_t kLastChannel = 255;
-
-/// Steps that no sequence comes near, and from which no sum runs out of the numbers.
-constexpr double kFar = 1e12;
-
-bool isValid(const Note& note)
-{
-    return std::abs(note.start) < kFar && note.length >= 0.0 && note.length < kFar &&
-           note.velocity >= 0.0F && note.velocity <= 1.0F && note.channel <= kLastChannel &&
-           note.key < kKeys;
-}
-
-} // namespace
 
 QByteArray encodeNotes(const std::vector<Note>& notes)
 {
@@ -42,7 +24,7 @@ std::vector<Note> decodeNotes(const QByteArray& bytes)
         double velocity = 0.0;
         stream >> note.start >> note.length >> velocity >> note.channel >> note.key;
         note.velocity = static_cast<float>(velocity);
-        if (stream.status() != QDataStream::Ok || !isValid(note))
+        if (stream.status() != QDataStream::Ok || !makeValid(note))
             return {};
         notes.push_back(note);
     }

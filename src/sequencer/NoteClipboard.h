@@ -12,5 +12,5 @@ constexpr auto kNotesMimeType = "application/x-velmora-notes";
 /// Notes as bytes, without their identities and flags.
 QByteArray encodeNotes(const std::vector<Note>& notes);
 
-/// The notes of such bytes; none where anything in them is not as `encodeNotes` writes it.
+/// The notes of such bytes, as `makeValid` makes them; none where there is anything else in them.
 std::vector<Note> decodeNotes(const QByteArray& bytes);

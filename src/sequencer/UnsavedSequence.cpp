@@ -1,12 +1,11 @@
 #include "sequencer/UnsavedSequence.h"
 
 #include "base/FormatError.h"
+#include "sequencer/makeValid.h"
 
 #include <QByteArray>
 #include <QDataStream>
 #include <QIODevice>
-
-#include <cmath>
 
 namespace {
 
@@ -15,9 +14,6 @@ constexpr quint32 kVersion = 1;
 
 /// What a note takes.
 constexpr qint64 kNoteBytes = 5 * 8 + 3 * 4;
-
-/// In steps; far beyond any music.
-constexpr double kFarthest = 0x1p30;
 
 void setUp(QDataStream& stream)
 {
@@ -60,18 +56,13 @@ private:
 Note readNote(Reader& reader)
 {
     Note note;
-    for (double* time : {&note.start, &note.length, &note.oldStart, &note.oldLength}) {
+    for (double* time : {&note.start, &note.length, &note.oldStart, &note.oldLength})
         *time = reader.read<double>();
-        reader.require(std::abs(*time) <= kFarthest, "a note lies beyond all music");
-    }
-    const double velocity = reader.read<double>();
-    reader.require(velocity >= 0.0 && velocity <= 1.0, "the velocity of a note is not 0 to 1");
-    note.velocity = static_cast<float>(velocity);
+    note.velocity = static_cast<float>(reader.read<double>());
     note.channel = reader.read<quint32>();
     note.key = reader.read<quint32>();
     note.oldKey = reader.read<quint32>();
-    reader.require(note.channel < 256 && note.key < 128 && note.oldKey < 128,
-                   "a note has a key above 127 or a channel above 255");
+    reader.require(makeValid(note), "a note has no time, a key above 127 or a channel above 255");
     return note;
 }
 

@@ -26,5 +26,5 @@ struct UnsavedSequence {
 std::string encodeUnsaved(const UnsavedSequence& sequence);
 
 /// Throws FormatError with the byte where they are not the bytes of a recovery file of this version
-/// or hold notes that no document holds.
+/// or hold what is no note. The notes are as `makeValid` makes them.
 UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes);

@@ -38,9 +38,10 @@ TEST_F(AppDelegateTest, KeysSoundOnceTheSelectedTemperamentHasTunedThem)
     EXPECT_EQ(noteStates[60], 0);
     EXPECT_TRUE(began <= notePressTimes[60] && notePressTimes[60] <= noteReleaseTimes[60]);
     app_.setInstrument(instrument_, "Recorder");
-    app_.keyOn(127, 0.5F);
+    app_.keyOn(127, 2.0F);
     app_.keyOff(127);
-    expectCalls({"tune 0 127", "play 127 0.50", "stop 127"});
+    expectCalls({"tune 0 127", "play 127 1.00", "stop 127"});
+    EXPECT_EQ(noteVelocities[127], 1.0F);
     EXPECT_TRUE(app_.selectTuning("Dynamic"));
     const Temperament* before = app_.getTemperament();
     EXPECT_FALSE(app_.selectTuning("dynamic"));

@@ -240,6 +240,7 @@ TEST_F(SequenceEditorTest, PastesAtThePosition)
     QByteArray wrong = bytes;
     wrong.back() = '\x80';
     EXPECT_THAT(decodeNotes(wrong), IsEmpty()) << "no such key";
+    EXPECT_EQ(decodeNotes(encodeNotes({{.velocity = 2.0F}})).at(0).velocity, 1.0F);
 }
 
 TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)

@@ -92,9 +92,12 @@ TEST(UnsavedSequence, ComesBackExactlyOrNotAtAll)
     for (std::size_t size = 0; size < bytes.size(); ++size)
         EXPECT_THROW(decode(bytes.substr(0, size)), FormatError) << size;
     EXPECT_THROW(decode(bytes + "x"), FormatError);
-    std::string endless = bytes; // the first byte of the last note's start, as of a NaN
-    endless[bytes.size() - 52] = endless[bytes.size() - 51] = '\x7F';
-    EXPECT_THROW(decode(endless), FormatError);
+    std::string wrong = bytes; // the first bytes of the last note's start, as of a NaN
+    wrong.replace(bytes.size() - 52, 2, "\x7F\xF8");
+    EXPECT_THROW(decode(wrong), FormatError);
+    const Note far{.start = -1e300, .length = 1e300, .oldLength = -1.0, .velocity = 2.0F};
+    const Note near = decode(encodeUnsaved({"", time, true, {far}})).notes.at(0);
+    EXPECT_EQ(all(near), all({.start = -1e12, .length = 1e12, .velocity = 1.0F}));
 }
 
 TEST_F(SequenceSaving, RefusesToReplaceAFileThatHoldsMore)
