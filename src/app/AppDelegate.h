@@ -32,7 +32,8 @@ std::vector<std::filesystem::path> generalMidiBanks();
 /// The application without its windows: the current instrument and temperament, the lists that they
 /// are chosen from, the sound output, the MIDI inputs, and the way of a key from one to the other.
 ///
-/// Keys, volumes and `midiInput` come on any thread; everything else is called on the main thread.
+/// Keys, volumes, `midiInput` and `soundLock` come on any thread, and under that lock
+/// `getInstrument` and `getTemperament`; everything else is called on the main thread.
 class AppDelegate : public QObject, public LiveInput, public SequenceHost, public InstrumentHost {
     Q_OBJECT
 

@@ -8,10 +8,11 @@
 
 class QSocketNotifier;
 
-/// Something that the receive threads leave to the main thread.
+/// Something that the receive threads leave to the main thread. By then the keys may have changed
+/// again: practice may miss a short tap, pressed and released within one turn of the event loop.
 struct InputEvent {
     enum class Kind {
-        MidiInput, ///< The held keys have changed.
+        MidiInput, ///< The held keys have changed: for the display, and for practice to go on.
         Volume     ///< A controller has moved a slider.
     };
 
@@ -22,7 +23,7 @@ struct InputEvent {
 
 /// Carries events from any thread to the event loop of the thread that made it, in the order in
 /// which they came. Posting allocates nothing. What is posted while a great many events wait, as
-/// they do only when that thread has stalled, is lost: it concerns the display alone.
+/// they do only when that thread has stalled, is lost: what sounds does not come this way.
 class InputQueue {
 public:
     /// `take` is called in the event loop, once for each event.
