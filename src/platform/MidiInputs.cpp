@@ -8,6 +8,7 @@
 #include <jack/jack.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <charconv>
 #include <map>
 #include <optional>
@@ -25,6 +26,15 @@ std::vector<std::string> portNames(RtMidiIn& midi)
     for (unsigned i = 0; i < names.size(); ++i)
         names[i] = midi.getPortName(i);
     return names;
+}
+
+/// Whether there is more than what the kernel always has: a port through which programs can send
+/// to each other, which JACK's bridge to ALSA shows as well.
+bool haveDevice(const Devices& devices)
+{
+    return std::ranges::any_of(devices, [](const auto& device) {
+        return device.first.find("Midi Through") == std::string::npos;
+    });
 }
 
 /// All source ports of an API that is known to answer.
@@ -160,9 +170,12 @@ MidiInputs::MidiInputs(MidiReceiver receiver) : receiver_(std::move(receiver))
     quietSoundLibraries();
     RtMidi::Api api = RtMidi::LINUX_ALSA;
     Devices devices = alsaDevices();
-    if (devices.empty()) {
-        api = RtMidi::UNIX_JACK;
-        devices = jackDevices();
+    if (!haveDevice(devices)) {
+        Devices ofJack = jackDevices();
+        if (devices.empty() || haveDevice(ofJack)) {
+            api = RtMidi::UNIX_JACK;
+            devices = std::move(ofJack);
+        }
     }
     if (devices.empty()) {
         logger("platform").warn("no MIDI input: neither the ALSA sequencer nor JACK has a device");

@@ -18,6 +18,7 @@ using MidiReceiver = std::function<void(std::span<const std::uint8_t> message)>;
 class MidiInputs {
 public:
     /// Connects the devices of the ALSA sequencer or, where it has none, of a running JACK server.
+    /// The kernel's "Midi Through" counts only where neither has another: programs may send there.
     /// Failures are logged: a device that cannot be connected gives no input.
     explicit MidiInputs(MidiReceiver receiver);
 
