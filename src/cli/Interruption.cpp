@@ -1,28 +1,38 @@
 #include "cli/Interruption.h"
 
-#include <csignal>
-#include <initializer_list>
+#include <ctime>
 
 namespace {
 
-volatile std::sig_atomic_t noted = 0;
+sigset_t requests()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGINT);
+    sigaddset(&signals, SIGTERM);
+    return signals;
+}
 
 } // namespace
 
 Interruption::Interruption()
 {
-    noted = 0;
-    for (const int signal : {SIGINT, SIGTERM})
-        std::signal(signal, [](int) { noted = 1; });
+    const sigset_t signals = requests();
+    pthread_sigmask(SIG_BLOCK, &signals, &before_);
 }
 
 Interruption::~Interruption()
 {
-    for (const int signal : {SIGINT, SIGTERM})
-        std::signal(signal, SIG_DFL);
+    const sigset_t signals = requests();
+    const timespec atOnce{};
+    while (sigtimedwait(&signals, nullptr, &atOnce) > 0) {
+    }
+    pthread_sigmask(SIG_SETMASK, &before_, nullptr);
 }
 
-bool Interruption::requested() const
+bool Interruption::requested()
 {
-    return noted != 0;
+    sigset_t waiting;
+    sigpending(&waiting);
+    return sigismember(&waiting, SIGINT) == 1 || sigismember(&waiting, SIGTERM) == 1;
 }

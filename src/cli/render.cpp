@@ -24,6 +24,8 @@ AudioSource& addSynthesizer(double rate, AppDelegate& application)
 void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
             const Selection& selection, const RenderOptions& options)
 {
+    const Interruption interruption;
+    AudioFileWriter file(output, options.rate); // first: it tells at once where it cannot be
     // Before the application: its sources and buffers go before their device.
     std::optional<OpenALLoopback> loopback;
     if (!selection.instrument.empty())
@@ -37,9 +39,7 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
     renderer.document().readFromURL(sequence);
     if (!renderer.document().errorString().empty())
         throw std::runtime_error(renderer.document().errorString());
-    AudioFileWriter file(output, options.rate);
     ProgressLine progress("Rendering");
-    const Interruption interruption;
     const bool rendered = renderer.render(
         options,
         [&](const float* left, const float* right, std::size_t frames) {
@@ -47,7 +47,7 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
         },
         [&](double done) {
             progress.show(done);
-            return !interruption.requested();
+            return !Interruption::requested();
         });
     if (!rendered)
         throw std::runtime_error("interrupted: " + output.string() + " was not written");

@@ -1,11 +1,11 @@
 #include "cli/selection.h"
 
 #include "base/Text.h"
+#include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
 #include "cli/commands.h"
 
 #include <algorithm>
-#include <csignal>
 
 namespace {
 
@@ -26,14 +26,6 @@ std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
     return document;
 }
 
-/// Whether SIGINT or SIGTERM waits, where they are not let through.
-bool isInterrupted()
-{
-    sigset_t waiting;
-    sigpending(&waiting);
-    return sigismember(&waiting, SIGINT) == 1 || sigismember(&waiting, SIGTERM) == 1;
-}
-
 } // namespace
 
 std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path,
@@ -52,7 +44,7 @@ std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& 
                      [&](long count) { steps = std::max(1.0, static_cast<double>(count)); });
     QObject::connect(&application, &AppDelegate::progressed, &listener, [&](unsigned count) {
         progress.show((done += count) / steps);
-        if (isInterrupted())
+        if (Interruption::requested())
             application.cancelImport();
     });
     auto document = std::make_unique<InstrumentDocument>();

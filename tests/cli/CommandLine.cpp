@@ -105,7 +105,9 @@ TEST_F(CommandLine, FailsWithASentence)
         std::string sentence;
     } rows[] = {
         {{"render", "broken.mid", "-o", "out.wav"}, 1, "velmora: broken.mid, byte 4: "},
-        {{"render", "song.mid", "-o", "out.mp3"}, 1, "must end in .wav, .flac or .ogg"},
+        {{"render", "song.mid", "-o", "out.mp3", "--instrument", "missing.sf2"},
+         1,
+         "must end in .wav, .flac or .ogg"},
         {{"render", "song.mid", "-o", "nowhere/out.wav"}, 1, "nowhere/out.wav: "},
         {{"--tuning", "Pythagorean"}, 2, "no tuning \"Pythagorean\""},
         {{"--tuning", "broken.scl"}, 1, "broken.scl, line 4: "},
