@@ -15,6 +15,9 @@ namespace {
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 
+/// A week of music.
+constexpr double kLastStep = 1e7;
+
 /// The words of the command line.
 struct Words {
     std::string sequence, output, instrument;
@@ -25,6 +28,18 @@ struct Words {
     std::vector<std::string> files;
     bool json = false;
 };
+
+/// As CLI::Range, which lets NaN through.
+CLI::Validator range(double low, double high)
+{
+    const auto check = [low, high](const std::string& text) -> std::string {
+        double value = 0.0;
+        if (CLI::detail::lexical_cast(text, value) && value >= low && value <= high)
+            return {};
+        return fmt::format("Value {} not in range {:g} to {:g}", text, low, high);
+    };
+    return {check, fmt::format("FLOAT in [{:g} - {:g}]", low, high)};
+}
 
 /// Reads "I=GAIN".
 std::pair<std::size_t, float> parseStop(const std::string& text)
@@ -69,16 +84,16 @@ CLI::App* addRender(CLI::App& program, Words& words)
     addSelection(*command, words);
     command->add_option("--rate", words.options.rate, "Frames in a second")
         ->capture_default_str()
-        ->check(CLI::Range(8000.0, 96000.0));
+        ->check(range(8000.0, 96000.0));
     command->add_option("--tail", words.options.tailSeconds, "Seconds to go on after the end")
         ->capture_default_str()
-        ->check(CLI::Range(0.0, 3600.0));
+        ->check(range(0.0, 3600.0));
     CLI::Option* start = command->add_option("--loop-start", words.loop.start,
                                              "First step of a stretch to be played alone");
     CLI::Option* end = command->add_option("--loop-end", words.loop.end, "Its last step");
     CLI::Option* times = command->add_option("--loops", words.loop.times, "How often to play it");
-    start->needs(end)->check(CLI::NonNegativeNumber);
-    end->needs(start);
+    start->needs(end)->check(range(0.0, kLastStep));
+    end->needs(start)->check(range(0.0, kLastStep));
     times->needs(start)->capture_default_str()->check(CLI::Range(1, 10000));
     return command;
 }

@@ -118,6 +118,9 @@ TEST_F(CommandLine, FailsWithASentence)
         {{"--instrument", "test.organ", "--program", "3"}, 2, "--program"},
         {{"--instrument", "test.organ", "--stop", "2=1"}, 2, "numbered from 0 to 1"},
         {{"--loop-start", "4", "--loop-end", "4"}, 2, "--loop-end"},
+        {{"--loop-start", "4", "--loop-end", "inf"}, 2, "--loop-end"},
+        {{"--rate", "nan"}, 2, "--rate"},
+        {{"--tail", "nan"}, 2, "--tail"},
         {{"info", "song.txt"}, 1, "song.txt: is no kind of file"},
         {{"info", "broken.mid", "--json"}, 1, "velmora: broken.mid, byte 4: "},
     };
