@@ -12,6 +12,9 @@ namespace {
 
 constexpr int kChannels = 2;
 
+/// The size of a WAV file has 32 bits, header and all; a sample has three bytes.
+constexpr std::uint64_t kMostWavFrames = (0xFFFFFFFFU - 4096U) / (3U * kChannels);
+
 /// Any will do, as long as the same sound gives the same file.
 constexpr std::uint32_t kOggSerial = 1;
 
@@ -36,7 +39,10 @@ AudioFileWriter::AudioFileWriter(const std::filesystem::path& path, double rate)
     info.samplerate = static_cast<int>(std::lround(rate));
     info.channels = kChannels;
     info.format = formatOf(path);
-    isOgg_ = (info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_OGG;
+    const int type = info.format & SF_FORMAT_TYPEMASK;
+    isOgg_ = type == SF_FORMAT_OGG;
+    if (type == SF_FORMAT_WAV)
+        framesLeft_ = kMostWavFrames;
     if (sf_format_check(&info) == 0)
         throw std::runtime_error(name_ + ": this kind of file has no rate of " +
                                  std::to_string(info.samplerate) + " Hz");
@@ -51,6 +57,10 @@ AudioFileWriter::~AudioFileWriter() = default;
 
 void AudioFileWriter::write(const float* left, const float* right, std::size_t frames)
 {
+    if (frames > framesLeft_)
+        throw std::runtime_error(name_ +
+                                 ": a WAV file holds no more than 4 GB; write .flac instead");
+    framesLeft_ -= frames;
     interleaved_.resize(frames * kChannels);
     for (std::size_t i = 0; i < frames; ++i) {
         interleaved_[kChannels * i] = left[i];

@@ -73,7 +73,7 @@ TEST_F(CommandLine, RendersTheSameBytesEveryTimeAndEverySelectionToItsOwn)
 {
     const std::pair<QString, QStringList> rows[] = {
         {"out.wav", {}},
-        {"out.flac", {}},
+        {"Out.FLAC", {}},
         {"out.ogg", {}},
         {"out.wav", {"--tuning", "pure.scl"}},
         {"out.wav", {"--program", "19"}},
