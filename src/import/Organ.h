@@ -33,9 +33,6 @@ struct Organ {
     std::string doneText;                                     ///< shown at the end
 };
 
-/// The greatest number of stops that an organ may have.
-inline constexpr std::size_t kMaximumStops = 4096;
-
 /// Adds the stops of an organ to the import's instrument, decodes its files and lays them on their
 /// keys. A file that cannot be decoded is skipped. The first stop is drawn, the others are
 /// silent. Throws FormatError when nothing sounds, and Cancelled.

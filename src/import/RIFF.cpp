@@ -14,6 +14,9 @@ namespace {
 
 constexpr int kDeepest = 32;
 
+/// Far beyond any bank. An element takes eight bytes of a file, but more than fifty of memory.
+constexpr std::size_t kMostElements = std::size_t{1} << 21;
+
 /// Reads headers through a small window, so that neighbouring ones cost one system call together.
 class HeaderReader {
 public:
@@ -81,6 +84,8 @@ private:
         const std::uint32_t id = word(at);
         const std::uint32_t size = word(at + 4);
         const std::uint64_t data = at + kHeader;
+        if (++elements_ > kMostElements)
+            throw FormatError::atByte(static_cast<std::size_t>(at), "there are too many chunks");
         if (id == code("LIST"))
             return readList(parent, size, data, end, depth);
 
@@ -116,6 +121,7 @@ private:
     const ByteSource& source_;
     HeaderReader headers_;
     std::uint64_t end_;
+    std::size_t elements_ = 0;
 };
 
 OpenedSource openOrExplain(const std::filesystem::path& path)

@@ -93,7 +93,8 @@ struct OpenedSource {
 /// no children.
 class File : public List {
 public:
-    /// Throws FormatError where lists are nested deeper than 32 levels.
+    /// Throws FormatError where lists are nested deeper than 32 levels, and where there are more
+    /// than two million elements.
     explicit File(const std::filesystem::path& path);
 
     /// A file in memory, which must outlive this one.

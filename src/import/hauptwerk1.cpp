@@ -121,8 +121,6 @@ private:
     /// The pipes go to the stop of the section's number, which need not be the one that is added.
     void addStop(const std::string& name, const Section& section)
     {
-        if (organ_.stops.size() == kMaximumStops)
-            throw FormatError("has more than " + std::to_string(kMaximumStops) + " stops");
         organ_.stops.emplace_back();
         const auto stop = static_cast<std::size_t>(numberOf(name)) - 1; // huge for 0 and below
         if (stop < organ_.stops.size())

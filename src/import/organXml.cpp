@@ -97,8 +97,6 @@ private:
     {
         const auto [stop, isNew] = stops_.try_emplace(rank, stops_.size());
         if (isNew) {
-            if (stops_.size() > kMaximumStops)
-                throw FormatError("has more than " + std::to_string(kMaximumStops) + " ranks");
             const auto name = definition_.rankNames.find(rank);
             organ_.stops.push_back(name == definition_.rankNames.end() ? "" : name->second);
         }

@@ -1,15 +1,20 @@
 #include "sound/ALInstrument.h"
 
+#include "base/FormatError.h"
 #include "tuning/Temperament.h"
 
 #include <al.h>
 #include <alc.h>
 #include <alext.h>
+#include <spdlog/fmt/fmt.h>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
+
+/// An empty one takes some kilobytes.
+constexpr std::size_t kMaximumStops = 4096;
 
 /// While it lives, OpenAL gathers what it is told, to apply it all at once.
 class OneUpdate {
@@ -59,6 +64,8 @@ private:
 
 InstrumentStop& ALInstrument::appendStop(std::string name)
 {
+    if (stops_.size() == kMaximumStops)
+        throw FormatError(fmt::format("has more than {} stops", kMaximumStops));
     InstrumentStop& stop = stops_.emplace_back();
     stop.name = std::move(name);
     return stop;

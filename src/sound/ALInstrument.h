@@ -15,7 +15,8 @@
 /// The velocity of a key is ignored. Needs a current OpenAL context from its making to its end.
 class ALInstrument : public Instrument {
 public:
-    /// Adds a silent stop without samples. References to the stops before it do not hold on.
+    /// Adds a silent stop without samples. References to the stops before it do not hold on. Throws
+    /// FormatError beyond 4096 stops.
     InstrumentStop& appendStop(std::string name);
 
     std::vector<InstrumentStop>& stops() { return stops_; }

@@ -52,6 +52,8 @@ TEST(RIFF, ReadsTheTreeAsFarAsParentAndFileReach)
     for (int i = 0; i < 33; ++i)
         nested = list("deep", nested);
     EXPECT_THROW(RIFF::File(view(file("bank", nested))), FormatError) << "too deep";
+    const std::string zeroes((std::size_t{8} << 21) + 16, '\0');
+    EXPECT_THROW(RIFF::File(view(file("bank", zeroes))), FormatError) << "too many";
 }
 
 TEST(RIFF, FindsByIdAndListTypeAndReadsRecords)

@@ -74,6 +74,10 @@ TEST_F(ALInstrumentTest, SoundsAKeyInEveryStopThatIsDrawnUntilItHasFaded)
     instrument_.tune(equal, 62, 62);
     EXPECT_FALSE(instrument_.stops()[0].samples[62].released());
     EXPECT_EQ(alGetError(), AL_NO_ERROR);
+
+    while (instrument_.numStops() < 4096)
+        instrument_.appendStop("");
+    EXPECT_THROW(instrument_.appendStop(""), FormatError) << "more than any organ has";
 }
 
 TEST_F(ALInstrumentTest, TunesWhatHasAnotherPitchAndNothingElse)
