@@ -16,6 +16,9 @@ struct Import {
     {
     }
 
+    /// Ends it: counts the stops that sound as ranks and draws the first stop, which there must be.
+    void finish();
+
     std::unique_ptr<ALInstrument> instrument; ///< begins without stops, never null
     std::string name;                         ///< for display; empty where the file gives none
     ImportReport report;

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr float kDrawn = 0.5F;
-
 /// The lowest and the highest pipe of a rank that sound.
 struct Compass {
     int lowest = static_cast<int>(kKeys);
@@ -118,15 +116,6 @@ private:
     std::map<std::size_t, Compass> compasses_;
 };
 
-std::size_t soundingStops(const ALInstrument& instrument)
-{
-    const auto sounds = [](const Sample& sample) { return sample.source() != 0; };
-    return static_cast<std::size_t>(std::count_if(
-        instrument.stops().begin(), instrument.stops().end(), [&](const InstrumentStop& stop) {
-            return std::any_of(stop.samples.begin(), stop.samples.end(), sounds);
-        }));
-}
-
 } // namespace
 
 void loadOrgan(const Organ& organ, Import& import)
@@ -160,6 +149,5 @@ void loadOrgan(const Organ& organ, Import& import)
         throw FormatError("has nothing to sound: of " + std::to_string(organ.files.size()) +
                           " sample files none can be decoded, such as " + file + ": " + reason);
     }
-    import.report.ranks = soundingStops(*import.instrument);
-    import.instrument->setVolume(0, kDrawn);
+    import.finish();
 }

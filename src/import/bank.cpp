@@ -7,13 +7,8 @@ namespace bank {
 void finish(Import& import)
 {
     ImportReport& report = import.report;
-    for (const InstrumentStop& stop : import.instrument->stops()) {
-        std::size_t pipes = 0;
-        for (const Sample& sample : stop.samples)
-            pipes += sample.source() != 0 ? 1 : 0;
-        report.pipes += pipes;
-        report.ranks += pipes > 0 ? 1 : 0;
-    }
+    for (const InstrumentStop& stop : import.instrument->stops())
+        report.pipes += stop.soundingKeys();
     report.samples = import.instrument->sounds.size();
     if (report.pipes == 0) {
         std::string message = "has nothing to sound";
@@ -23,7 +18,7 @@ void finish(Import& import)
         }
         throw FormatError(message);
     }
-    import.instrument->stops().front().volume = 0.5F;
+    import.finish();
 }
 
 } // namespace bank

@@ -18,6 +18,9 @@ struct InstrumentStop {
     /// Retunes the keys `lo` to `hi` inclusive.
     void tune(const Temperament& temperament, int lo, int hi);
 
+    /// How many keys have a sound.
+    std::size_t soundingKeys() const;
+
     std::string name;    ///< As the file gives it; empty where it gives none.
     float volume = 0.0F; ///< The gain; 0 keeps the stop silent.
     std::array<Sample, kKeys> samples;

@@ -1,0 +1,12 @@
+#include "import/Import.h"
+
+#include <algorithm>
+
+void Import::finish()
+{
+    constexpr float kDrawn = 0.5F;
+    auto& stops = instrument->stops();
+    report.ranks = static_cast<std::size_t>(std::ranges::count_if(
+        stops, [](const InstrumentStop& stop) { return stop.soundingKeys() > 0; }));
+    stops.front().volume = kDrawn;
+}
