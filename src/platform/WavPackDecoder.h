@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sound/Pcm.h"
+#include "platform/Pcm.h"
 
 #include <cstddef>
 #include <span>
