@@ -70,6 +70,7 @@ std::unique_ptr<OpenALDevice> OpenALDevice::withContext(ALCdevice* device, const
 {
     ALCcontext* context = alcCreateContext(device, attributes);
     if (context == nullptr) {
+        logger("platform").error("ERROR alcCreateContext = {}", alcGetError(device));
         alcCloseDevice(device);
         return nullptr;
     }

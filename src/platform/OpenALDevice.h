@@ -10,7 +10,7 @@ struct ALCdevice_struct;
 class OpenALDevice {
 public:
     /// Opens the default device, at the shortest period it offers, for the whole program. Null when
-    /// there is none: that is logged.
+    /// there is none or it gives no context: that is logged.
     static std::unique_ptr<OpenALDevice> open();
 
     /// Makes a device that gives its sound out block by block, as floats of two channels: see

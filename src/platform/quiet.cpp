@@ -30,11 +30,9 @@ void logJack(const char* text)
     logger("platform").debug("JACK: {}", text);
 }
 
-void logFluidSynth(int /*level*/, const char* message, void* /*data*/)
+void logFluidSynth(int /*level*/, const char* message, void* platform)
 {
-    // It speaks on the audio thread too, where the look-up has no place.
-    static spdlog::logger& platform = logger("platform");
-    platform.debug("FluidSynth: {}", message);
+    static_cast<spdlog::logger*>(platform)->debug("FluidSynth: {}", message);
 }
 
 bool redirect()
@@ -44,7 +42,8 @@ bool redirect()
     jack_set_error_function(logJack);
     jack_set_info_function(logJack);
     for (const int level : {FLUID_PANIC, FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG})
-        fluid_set_log_function(level, logFluidSynth, nullptr);
+        // It speaks on the audio thread too, where a look-up of the logger has no place.
+        fluid_set_log_function(level, logFluidSynth, &logger("platform"));
     return true;
 }
 
