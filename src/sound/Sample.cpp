@@ -57,7 +57,7 @@ void Sample::setBuffer(const Sound& sound, double rootPitch)
     source_ = 0;
     alGenSources(1, &source_);
     if (source_ == 0)
-        throw FormatError("OpenAL offers too few sources for it: raise \"sources\" in alsoft.conf");
+        throw FormatError("OpenAL has no source left for it: unload another instrument first");
     alSourcef(source_, AL_GAIN, kFirstGain);
     alSource3f(source_, AL_POSITION, 0.0F, 0.0F, 0.0F);
     alSourcef(source_, AL_PITCH, factor_);

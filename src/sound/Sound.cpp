@@ -3,10 +3,10 @@
 #include "base/FormatError.h"
 
 #include <al.h>
+#include <spdlog/fmt/fmt.h>
 
 #include <limits>
 #include <new>
-#include <string>
 
 namespace {
 
@@ -40,7 +40,7 @@ Sound::Sound(std::span<const std::int16_t> data, int format, double rate)
     alDeleteBuffers(1, &buffer_);
     if (error == AL_OUT_OF_MEMORY)
         throw std::bad_alloc();
-    throw FormatError("a sound of " + std::to_string(rate) + " Hz cannot be played");
+    throw FormatError(fmt::format("a sound of {:g} Hz cannot be played", rate));
 }
 
 Sound::~Sound()
