@@ -1,12 +1,12 @@
 #include "app/SequenceRenderer.h"
 
 #include "app/fading.h"
+#include "sequencer/SequenceTime.h"
 
 #include <algorithm>
 
 namespace {
 
-constexpr double kTicksPerSecond = 1024.0;
 constexpr double kFadeSeconds = std::chrono::duration<double>(kFadeInterval).count();
 constexpr std::size_t kTicksPerReport = 64;
 
@@ -37,7 +37,7 @@ bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sin
         if (ticks_ % kTicksPerReport == 0 &&
             !progress((played + (document_.getOffset() - begin) / length) / times))
             return false;
-        soundUntil(static_cast<double>(++ticks_) / kTicksPerSecond, options.rate, sink);
+        soundUntil(static_cast<double>(++ticks_) * kTick.count(), options.rate, sink);
         const double before = document_.getOffset();
         document_.loop();
         // Each tick goes on, but for the one that has come to the end.

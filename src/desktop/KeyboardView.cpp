@@ -5,6 +5,7 @@
 #include "desktop/graphics.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyboardDocument.h"
+#include "sound/KeyTables.h"
 #include "tuning/keyName.h"
 
 #include <QMouseEvent>
@@ -40,14 +41,14 @@ void drawQuad(const KeyQuad& quad, float depth)
 const Color* KeyboardView::Picture::color(int state) const
 {
     switch (state) {
-    case 1:
+    case kPressed:
         return &wrong;
-    case 2:
-    case 6:
+    case kWanted:
+    case kWanted | kHeld:
         return &played;
-    case 3:
+    case kWanted | kPressed:
         return &correct;
-    case 4:
+    case kHeld:
         return &sustained;
     default:
         return nullptr;

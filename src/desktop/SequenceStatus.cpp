@@ -1,6 +1,7 @@
 #include "desktop/SequenceStatus.h"
 
 #include "sequencer/SequenceDocument.h"
+#include "sound/KeyTables.h"
 #include "tuning/keyName.h"
 
 #include <QLabel>
@@ -9,10 +10,6 @@
 #include <cmath>
 
 namespace {
-
-/// What a state of a key in practice is made of.
-constexpr int kPressed = 1, kWanted = 2;
-constexpr int kMissing = kWanted, kMissingAgain = kWanted | 4;
 
 QString numberOf(std::size_t notes)
 {
@@ -80,7 +77,7 @@ QString SequenceStatus::practice() const
     QStringList missing, wrong;
     for (unsigned key = 0; key < kKeys; ++key) {
         const int state = document_.stateOfNote(key);
-        if (state == kMissing || state == kMissingAgain)
+        if (state == kWanted || state == (kWanted | kHeld))
             missing += QString::fromStdString(noteName(key));
         else if (state == kPressed)
             wrong += QString::fromStdString(noteName(key));

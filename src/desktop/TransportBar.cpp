@@ -2,6 +2,7 @@
 
 #include "desktop/SequenceActions.h"
 #include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceTime.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -18,12 +19,9 @@ constexpr int kSlowest = 20;
 constexpr int kFastest = 400;
 constexpr int kChannels = 16;
 
-/// Steps in a second for each beat a minute of the tempo.
-constexpr double kStepsPerTempoSecond = 0.125;
-
 QString shown(double step, double tempo)
 {
-    const double seconds = std::max(0.0, step / (tempo * kStepsPerTempoSecond));
+    const double seconds = std::max(0.0, step / stepsPerSecond(tempo));
     const auto tenths = static_cast<qlonglong>(seconds * 10);
     return QString("%1:%2.%3")
         .arg(tenths / 600)

@@ -5,8 +5,8 @@ class KeyboardDocument {
 public:
     virtual ~KeyboardDocument() = default;
 
-    /// How a key is shown: 0 at rest, 1 pressed but not wanted, 2 wanted or played, 3 wanted and
-    /// freshly pressed, 4 held and taken into account, 6 wanted but held from before.
+    /// How a key is shown, as a sum of `kPressed`, `kWanted` and `kHeld`: pressed alone it is
+    /// wrong, wanted and held it is to be struck again.
     virtual int stateOfNote(unsigned key) const = 0;
 
     /// The keys that are held have changed.

@@ -1,12 +1,7 @@
 #include "sequencer/SequenceClock.h"
 
 #include "sequencer/SequenceDocument.h"
-
-namespace {
-
-constexpr std::chrono::nanoseconds kTick{976'562};
-
-} // namespace
+#include "sequencer/SequenceTime.h"
 
 SequenceClock::SequenceClock(SequenceDocument& document) : document_(document)
 {
@@ -37,6 +32,8 @@ void SequenceClock::adjust()
     } else if (!playTimer_) {
         player_ = std::make_unique<AheadPlayer>(document_.host());
         document_.playAhead(player_.get());
-        playTimer_ = std::make_unique<IntervalTimer>(kTick, [this] { document_.loop(); });
+        playTimer_ = std::make_unique<IntervalTimer>(
+            std::chrono::duration_cast<std::chrono::nanoseconds>(kTick),
+            [this] { document_.loop(); });
     }
 }

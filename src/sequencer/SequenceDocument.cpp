@@ -5,6 +5,8 @@
 #include "base/Log.h"
 #include "preferences/Preferences.h"
 #include "sequencer/SequenceFile.h"
+#include "sequencer/SequenceTime.h"
+#include "sound/KeyTables.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,21 +17,12 @@ namespace {
 
 /// A recording looks at the keys twice in a tick of the clock: so a note is as long, within a tick,
 /// as its key was held.
-constexpr double kRecordingTick = 1.0 / 2048.0;
+constexpr double kRecordingTick = kTick.count() / 2;
 
 constexpr unsigned kTicksPerFrame = 16;
 
-/// Steps in a second for each beat a minute of the tempo.
-constexpr double kStepsPerTempoSecond = 0.125;
-
-/// The states of a key of live input.
-constexpr int kPressed = 1, kHeld = 4;
-
 /// How far a recording runs on after the last key, in steps.
 constexpr double kRecordingRoom = 8.0;
-
-/// How far above the bottom edge of the view the position stands.
-constexpr double kRoomBelowPosition = 8.0;
 
 } // namespace
 
@@ -93,7 +86,9 @@ void SequenceDocument::play()
 void SequenceDocument::record()
 {
     if (mode_ == Mode::Recording) {
+        loop(); // what has come since the last tick
         setMode(Mode::Stopped);
+        edit().sort();
         registerTake();
     } else if (mode_ == Mode::Stopped) {
         dTime_ = clock_();
@@ -118,12 +113,8 @@ void SequenceDocument::loop()
     const double now = clock_();
     if (mode_ == Mode::Playing)
         doPlay(now);
-    // A tick that comes late makes up for those before it, so that each key is taken where the
-    // position was when it arrived.
-    for (; mode_ == Mode::Recording && now - dTime_ > kRecordingTick; dTime_ += kRecordingTick)
-        doRecord(kRecordingTick);
     if (mode_ == Mode::Recording)
-        doRecord(now - dTime_);
+        recordUntil(now);
     dTime_ = now;
     // The tick that ends the playing is the last for a while.
     if (frameCount_++ % kTicksPerFrame == 0 || mode_ == Mode::Stopped)
@@ -132,7 +123,7 @@ void SequenceDocument::loop()
 
 double SequenceDocument::positionAt(double time) const
 {
-    return offset_ + tempo_ * (time - dTime_) * kStepsPerTempoSecond;
+    return offset_ + stepsPerSecond(tempo_) * (time - dTime_);
 }
 
 double SequenceDocument::endOfPlaying() const
@@ -154,7 +145,7 @@ void SequenceDocument::doPlay(double now)
     }
     doScroll(next);
     if (mode_ == Mode::Playing)
-        playback_.planAhead(next, now, tempo_ * kStepsPerTempoSecond, endOfPlaying());
+        playback_.planAhead(next, now, stepsPerSecond(tempo_), endOfPlaying());
 }
 
 /// Before anything changes that a plan rests on: catches up with what has sounded.
@@ -175,20 +166,32 @@ void SequenceDocument::stop()
     playback_.stop();
 }
 
-void SequenceDocument::doRecord(double seconds)
+void SequenceDocument::recordUntil(double now)
+{
+    const double before = offset_;
+    bool activity = false;
+    // A tick that comes late makes up for those before it, so that each key is taken where the
+    // position was when it arrived.
+    for (; now - dTime_ > kRecordingTick; dTime_ += kRecordingTick)
+        activity = doRecord(kRecordingTick) || activity;
+    activity = doRecord(now - dTime_) || activity;
+    if (offset_ != before)
+        emit scrolled(offset_ - kRoomBelowPosition);
+    if (activity)
+        emit sizeChanged();
+}
+
+bool SequenceDocument::doRecord(double seconds)
 {
     bool activity = false;
     for (std::size_t key = 0; key < kKeys; ++key)
         activity = recordKey(key, dTime_ + seconds) || activity;
     if (activity)
         scrollMax_ = offset_ + kRecordingRoom;
-    if (activity || (!snapToGrid_ && offset_ <= scrollMax_)) {
-        offset_ += tempo_ * seconds * kStepsPerTempoSecond;
-        emit scrolled(offset_ - kRoomBelowPosition);
-    }
+    if (activity || (!snapToGrid_ && offset_ <= scrollMax_))
+        offset_ += stepsPerSecond(tempo_) * seconds;
     mx_ = offset_ + kRoomBehindLastNote;
-    if (activity)
-        emit sizeChanged();
+    return activity;
 }
 
 int SequenceDocument::takeKey(std::size_t key, double until)
@@ -227,12 +230,13 @@ bool SequenceDocument::recordKey(std::size_t key, double until)
         return false;
 
     const auto& notes = sequence_.notes();
-    const auto last = std::find_if(notes.rbegin(), notes.rend(),
-                                   [=](const Note& note) { return note.key == key; });
+    const auto last = std::find_if(notes.rbegin(), notes.rend(), [=, this](const Note& note) {
+        return note.key == key && note.start <= offset_; // not one that is still to come
+    });
     if (last != notes.rend()) {
         taken_.emplace(last->id, last->length);
         Note& held = *edit().find(last->id);
-        held.length = std::max(offset_ - held.start, 0.0);
+        held.length = offset_ - held.start;
         if (snapToGrid_)
             held.length = std::floor(held.length);
     }

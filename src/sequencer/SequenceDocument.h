@@ -199,11 +199,17 @@ signals:
     void optionsChanged();
 
 private:
+    /// How far above the bottom edge of the view the position stands, in steps.
+    static constexpr double kRoomBelowPosition = 8.0;
+
     double positionAt(double time) const;
     double endOfPlaying() const;
     void doPlay(double now);
     void settle();
-    void doRecord(double seconds);
+    void recordUntil(double now);
+
+    /// True when there are keys that it has taken.
+    bool doRecord(double seconds);
 
     /// How a key stood at a moment since the last tick; takes it into account.
     int takeKey(std::size_t key, double until);

@@ -53,8 +53,11 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
     stop();
     edit() = {};
     sequence_.reserve(unsaved.notes.size());
-    for (const Note& note : unsaved.notes)
+    for (Note note : unsaved.notes) {
+        note.id = 0;
+        note.active = note.playing = note.selected = false;
         sequence_.addNote(note);
+    }
     path_ = unsaved.path;
     isImported_ = unsaved.isImported;
     errorString_.clear();

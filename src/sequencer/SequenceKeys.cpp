@@ -34,8 +34,11 @@ void SequenceEditor::keyDown(const QKeyEvent& event)
         return;
     const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
     const bool command = event.modifiers().testFlag(Qt::ControlModifier);
+    // With one of these it is a shortcut that is not at hand now.
+    const bool isShortcut =
+        event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     const char character = usCharacter(event);
-    if (const auto number = isomorphNumber(character))
+    if (const auto number = isomorphNumber(character); number && !isShortcut)
         isomorph(isomorphs_[character] = *number + (shift ? kShiftedOctave : 0));
     else if (const auto channel = channelNumber(character))
         setChannel(static_cast<unsigned char>(*channel + (shift ? kShiftedChannel : 0)), command);

@@ -1,16 +1,15 @@
 #include "sequencer/SequencePlayback.h"
 
+#include "sequencer/SequenceTime.h"
+#include "sound/KeyTables.h"
+
 #include <algorithm>
 #include <limits>
 #include <utility>
 
 namespace {
 
-/// The state of a key that the sequence plays.
-constexpr int kPlayed = 2;
-
 /// What is planned: the ticks of a quarter of a second, which is longer than anything is painted.
-constexpr double kTick = 1.0 / 1024.0;
 constexpr int kTicksPlanned = 256;
 
 /// By how much planned sounds come after the position is there, in seconds: whatever has sounded is
@@ -25,7 +24,7 @@ bool startsBetween(const Note& note, double from, double to)
 bool endsBetween(const Note& note, double from, double to)
 {
     const double end = note.start + note.length;
-    return from < end && end <= to;
+    return end <= to && (from < end || startsBetween(note, from, to)); // one of no length as well
 }
 
 } // namespace
@@ -47,7 +46,7 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
         if (startsBetween(note, from, to)) {
             mark(position);
             note.playing = note.active = true;
-            states[note.key] = kPlayed;
+            states[note.key] = kWanted;
             lastKey = note.key;
             if (sounds)
                 sound(host_, {true, note.key, note.velocity, 0.0, 0.0});
@@ -89,16 +88,16 @@ void SequencePlayback::planAhead(double step, double time, double stepsPerSecond
         return;
     isPlanned_ = true;
     planStart_ = step;
-    plannedUntil_ = time + kTick * kTicksPlanned / 2;
+    plannedUntil_ = time + kTick.count() * kTicksPlanned / 2;
     sounds_.clear();
     for (int tick = 0; tick < kTicksPlanned; ++tick) {
-        const double from = step + stepsPerSecond * kTick * tick;
-        const double to = step + stepsPerSecond * kTick * (tick + 1);
+        const double from = step + stepsPerSecond * kTick.count() * tick;
+        const double to = step + stepsPerSecond * kTick.count() * (tick + 1);
         if (to > end) {
             plannedUntil_ = std::numeric_limits<double>::infinity();
             break;
         }
-        collect(from, to, time + kTick * (tick + 1) + kBehindPosition);
+        collect(from, to, time + kTick.count() * (tick + 1) + kBehindPosition);
     }
     player_->plan(sounds_);
 }

@@ -1,6 +1,7 @@
 // Going from chord to chord, with the arrows or by playing them.
 
 #include "sequencer/SequenceDocument.h"
+#include "sound/KeyTables.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,13 +10,6 @@ namespace {
 
 /// Notes as close as this to the position, in steps, stand at it.
 constexpr double kTolerance = 0.1;
-
-/// The states of a key: pressed but not wanted, wanted but not pressed, wanted but held from
-/// before.
-constexpr int kPressed = 1, kWanted = 2, kHeld = 4;
-
-/// How far above the bottom edge of the view the position stands.
-constexpr double kRoomBelowPosition = 8.0;
 
 bool isUnanswered(int state)
 {
@@ -103,6 +97,7 @@ void SequenceDocument::getCurrentNotes(bool advance)
 
 void SequenceDocument::midiInput()
 {
-    getCurrentNotes(true);
+    // What plays or is recorded goes its own way.
+    getCurrentNotes(mode_ == Mode::Stopped);
     emit frame();
 }

@@ -15,8 +15,8 @@ struct UnsavedSequence {
     std::chrono::sys_time<std::chrono::milliseconds> time; ///< When it was kept.
     bool isImported = false;
 
-    /// In the document's order. Kept are the times, keys, channels and velocities, all exactly, but
-    /// no identities and no flags.
+    /// In the document's order. Kept are the times, keys, channels and velocities, all exactly;
+    /// identities and flags mean nothing here.
     std::vector<Note> notes;
 };
 

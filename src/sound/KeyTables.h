@@ -6,8 +6,13 @@
 
 constexpr std::size_t kKeys = 128;
 
-/// How each key of live input stands: 0 up, 1 pressed since the last look, 4 held and already taken
-/// into account by a sequence document. Written by the receive threads and the main thread.
+/// How a key stands, in sums: 0 is at rest.
+constexpr int kPressed = 1; ///< Since the last look.
+constexpr int kWanted = 2;  ///< By a sequence, which plays it or waits for it.
+constexpr int kHeld = 4;    ///< And already taken into account by a sequence.
+
+/// How each key of live input stands: up, pressed or held. Written by the receive threads and the
+/// main thread.
 extern std::array<std::atomic<int>, kKeys> noteStates;
 
 /// The velocity, 0 to 1, with which each key was last pressed.

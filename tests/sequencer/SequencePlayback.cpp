@@ -53,7 +53,8 @@ protected:
         const bool interval = document_.intervalSelected();
         const bool atEnd = (interval && document_.getSelectionEnd() < t) || document_.extent() < t;
         for (Note& note : notes) {
-            if (t0 <= note.start && note.start < t && !atEnd) {
+            const bool starts = t0 <= note.start && note.start < t;
+            if (starts && !atEnd) {
                 keys[note.key] = 2;
                 note.playing = note.active = true;
                 calls.push_back(fmt::format("setup {}", note.key));
@@ -61,7 +62,7 @@ protected:
                 cursor = static_cast<int>(note.key);
             }
             const double end = note.start + note.length;
-            if ((t0 < end && end <= t) || atEnd) {
+            if (((t0 < end || starts) && end <= t) || atEnd) {
                 keys[note.key] = 0;
                 note.playing = note.active = false;
                 const std::string stop = fmt::format("stop {}", note.key);
