@@ -143,15 +143,14 @@ TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
     QAction& play = action(window, "Play");
     QAction& record = action(window, "Record");
     SequenceDocument& document = window.document();
-    KeyboardWindow& keyboardWindow = desktop.keyboardWindow();
     draw(window);
     QTest::keyClick(&view(window), Qt::Key_Space);
     EXPECT_EQ(document.mode(), SequenceDocument::Mode::Playing) << "the key counts once";
     EXPECT_EQ(play.iconText(), "Stop");
     EXPECT_FALSE(record.isEnabled());
-    keyboardWindow.status().addNotice("There is none");
-    keyboardWindow.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&keyboardWindow));
+    desktop.keyboardWindow().status().addNotice("There is none");
+    desktop.keyboardWindow().activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     EXPECT_EQ(play.iconText(), "Play") << "the key is not for the button of the notices";
     play.trigger();
