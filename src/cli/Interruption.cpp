@@ -6,26 +6,26 @@ namespace {
 
 sigset_t requests()
 {
-    sigset_t signals;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGINT);
-    sigaddset(&signals, SIGTERM);
-    return signals;
+    sigset_t numbers;
+    sigemptyset(&numbers);
+    sigaddset(&numbers, SIGINT);
+    sigaddset(&numbers, SIGTERM);
+    return numbers;
 }
 
 } // namespace
 
 Interruption::Interruption()
 {
-    const sigset_t signals = requests();
-    pthread_sigmask(SIG_BLOCK, &signals, &before_);
+    const sigset_t numbers = requests();
+    pthread_sigmask(SIG_BLOCK, &numbers, &before_);
 }
 
 Interruption::~Interruption()
 {
-    const sigset_t signals = requests();
+    const sigset_t numbers = requests();
     const timespec atOnce{};
-    while (sigtimedwait(&signals, nullptr, &atOnce) > 0) {
+    while (sigtimedwait(&numbers, nullptr, &atOnce) > 0) {
     }
     pthread_sigmask(SIG_SETMASK, &before_, nullptr);
 }
