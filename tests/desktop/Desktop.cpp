@@ -147,7 +147,7 @@ TEST_F(DesktopTest, ThePanelHasASliderForEachStop)
     InstrumentOf three(3, calls);
     application.setInstrument(seven, "Seven");
     application.setInstrument(three, "Three");
-    QTRY_COMPARE(panel.width(), 303);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.width() == 303; }));
     const auto sliders = panel.findChildren<QSlider*>();
     ASSERT_EQ(sliders.size(), 7);
     for (int i = 0; i < 7; ++i) {
@@ -161,13 +161,13 @@ TEST_F(DesktopTest, ThePanelHasASliderForEachStop)
     sliders[1]->setFocus();
     QTest::keyClick(sliders[1], Qt::Key_End);
     std::thread([&] { application.setVolume(0.5F, 0); }).join();
-    QTRY_COMPARE(sliders[0]->value(), 500);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sliders[0]->value() == 500; }));
     std::erase(calls, "fade 0.9");
     EXPECT_THAT(calls, ElementsAre("volume 1 1.00", "volume 0 0.50")) << "told once";
     application.setVolume(0.5F, 4);
     QApplication::processEvents();
     application.selectInstrument(0);
-    QTRY_COMPARE(panel.width(), 261);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.width() == 261; }));
 }
 
 TEST_F(DesktopTest, TheTuningMenuKeepsTheOrderAndBothOfAName)
@@ -237,13 +237,14 @@ TEST_F(DesktopTest, PreferencesAreSeenAtOnce)
     const int width = window.width();
     setPrefInt("KeyWidth", 64);
     emit desktop.preferencesWindow().changed();
-    QTRY_COMPARE(window.width(), window.screen()->availableSize().width());
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return window.width() == window.screen()->availableSize().width(); }));
     window.resize(700, window.height());
     emit desktop.preferencesWindow().changed();
     EXPECT_EQ(window.width(), 700) << "nothing new for the keys";
     resetPref("KeyWidth");
     emit desktop.preferencesWindow().changed();
-    QTRY_COMPARE(window.width(), width);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.width() == width; }));
 
     auto& notices = *window.status().findChild<QToolButton*>();
     const int others = notices.text().toInt();
@@ -251,8 +252,9 @@ TEST_F(DesktopTest, PreferencesAreSeenAtOnce)
         setPrefString("GMBank", bank);
         emit desktop.preferencesWindow().bankChanged();
         application.waitForBank();
-        QTRY_COMPARE(std::pair(notices.text().toInt(), notices.toolTip().contains(bank)),
-                     std::pair(others + more, true));
+        EXPECT_TRUE(QTest::qWaitFor([&, wanted = QString(bank), count = others + more] {
+            return notices.text().toInt() == count && notices.toolTip().contains(wanted);
+        })) << bank;
     }
 }
 
