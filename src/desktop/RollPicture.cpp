@@ -69,11 +69,15 @@ void RollPicture::draw(const RollGeometry& geometry, const RollColors& colors, d
 {
     vertices_.clear();
     for (int key = geometry.firstKey(); key < geometry.endKey(); ++key)
-        add(geometry.column(key), columnShade(key));
-    add({0.0, geometry.width, geometry.yOf(document.getSelectionStart()),
-         geometry.yOf(document.getSelectionEnd())},
-        shade(colors.interval, kIntervalOpacity));
+        if (const Shade color = columnShade(key); color != kWhiteKey)
+            add(geometry.column(key), color);
+    blendedBegin_ = vertices_.size();
+    if (document.intervalSelected())
+        add({0.0, geometry.width, geometry.yOf(document.getSelectionStart()),
+             geometry.yOf(document.getSelectionEnd())},
+            shade(colors.interval, kIntervalOpacity));
     addNotes(geometry, colors, document, index);
+    blendedEnd_ = vertices_.size();
     addGrid(geometry, line);
     const double position = geometry.yOf(document.getOffset());
     add({0.0, geometry.width, position, position + line}, shade(colors.selected, 1.0F));

@@ -77,7 +77,6 @@ void SequenceView::paintGL()
         return;
 
     setPixelCoordinates(*this, 0);
-    glEnable(GL_BLEND);
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
 
     gather();
@@ -89,10 +88,16 @@ void SequenceView::paintGL()
     glEnableClientState(GL_COLOR_ARRAY);
     glVertexPointer(2, GL_FLOAT, sizeof(RollVertex), &vertices.front().x);
     glColorPointer(4, GL_UNSIGNED_BYTE, sizeof(RollVertex), vertices.front().color.data());
-    glDrawArrays(GL_QUADS, 0, static_cast<GLsizei>(vertices.size()));
+    const auto drawQuads = [](std::size_t begin, std::size_t end) {
+        glDrawArrays(GL_QUADS, static_cast<GLint>(begin), static_cast<GLsizei>(end - begin));
+    };
+    drawQuads(0, picture_.blendedBegin());
+    glEnable(GL_BLEND);
+    drawQuads(picture_.blendedBegin(), picture_.blendedEnd());
+    glDisable(GL_BLEND);
+    drawQuads(picture_.blendedEnd(), vertices.size());
     glDisableClientState(GL_COLOR_ARRAY);
     glDisableClientState(GL_VERTEX_ARRAY);
-    glDisable(GL_BLEND);
 }
 
 RollPoint SequenceView::localPoint(const QPointF& point) const
