@@ -19,6 +19,10 @@ namespace {
 /// as its key was held.
 constexpr double kRecordingTick = kTick.count() / 2;
 
+/// What is longer ago than a second is caught up with in longer ones: on a machine that is too slow
+/// it would come to ever more.
+constexpr double kMostTicks = 2048.0;
+
 constexpr unsigned kTicksPerFrame = 16;
 
 /// How far a recording runs on after the last key, in steps.
@@ -172,8 +176,9 @@ void SequenceDocument::recordUntil(double now)
     bool activity = false;
     // A tick that comes late makes up for those before it, so that each key is taken where the
     // position was when it arrived.
-    for (; now - dTime_ > kRecordingTick; dTime_ += kRecordingTick)
-        activity = doRecord(kRecordingTick) || activity;
+    const double tick = std::max(kRecordingTick, (now - dTime_) / kMostTicks);
+    for (; now - dTime_ > tick; dTime_ += tick)
+        activity = doRecord(tick) || activity;
     activity = doRecord(now - dTime_) || activity;
     if (offset_ != before)
         emit scrolled(offset_ - kRoomBelowPosition);
@@ -235,7 +240,7 @@ bool SequenceDocument::recordKey(std::size_t key, double until)
     });
     if (last != notes.rend()) {
         taken_.emplace(last->id, last->length);
-        Note& held = *edit().find(last->id);
+        Note& held = edit().at(static_cast<std::size_t>(notes.rend() - last) - 1);
         held.length = offset_ - held.start;
         if (snapToGrid_)
             held.length = std::floor(held.length);
