@@ -177,8 +177,10 @@ void SequenceDocument::recordUntil(double now)
     // A tick that comes late makes up for those before it, so that each key is taken where the
     // position was when it arrived.
     const double tick = std::max(kRecordingTick, (now - dTime_) / kMostTicks);
-    for (; now - dTime_ > tick; dTime_ += tick)
+    while (now - dTime_ > tick) {
         activity = doRecord(tick) || activity;
+        dTime_ += tick;
+    }
     activity = doRecord(now - dTime_) || activity;
     if (offset_ != before)
         emit scrolled(offset_ - kRoomBelowPosition);
