@@ -25,7 +25,7 @@ extern "C" const char* __lsan_default_suppressions()
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    logger("platform").set_level(spdlog::level::off);
+    setLogLevel(spdlog::level::off);
     try {
         const Pcm pcm = decodeAudio(std::as_bytes(std::span(data, size)));
         require(pcm.channels == 1 || pcm.channels == 2);

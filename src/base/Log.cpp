@@ -6,15 +6,22 @@
 
 #include <mutex>
 
-spdlog::logger& logger(const std::string& folder)
+void Logger::log(spdlog::level::level_enum level, fmt::string_view text,
+                 fmt::format_args args) const
+{
+    if (logger_->should_log(level))
+        logger_->log(level, fmt::vformat(text, args));
+}
+
+Logger logger(const std::string& folder)
 {
     static std::mutex mutex;
     const std::lock_guard lock(mutex);
     if (const auto known = spdlog::get(folder))
-        return *known;
+        return Logger(*known);
     const auto made = spdlog::stderr_color_mt(folder);
     made->set_pattern("%n: %v");
-    return *made;
+    return Logger(*made);
 }
 
 void setLogLevel(spdlog::level::level_enum level)

@@ -10,7 +10,6 @@
 #include "tuning/Temperament.h"
 
 #include <spdlog/fmt/fmt.h>
-#include <spdlog/spdlog.h>
 
 #include <optional>
 #include <type_traits>
@@ -29,7 +28,7 @@ template <class Integer> std::optional<Integer> numberAt(const RIFF::Chunk& chun
 /// Nothing of an articulation is applied; the log tells what there is.
 void logArticulation(const RIFF::List& instrument)
 {
-    auto& log = logger("import");
+    const Logger log = logger("import");
     const auto* articulations = instrument.get<RIFF::List>(RIFF::code("lart"));
     log.info("lart {}", fmt::ptr(articulations));
     if (articulations == nullptr)
@@ -157,7 +156,7 @@ void readGigaSampler(const std::filesystem::path& path, Import& import)
 void readGigaSampler(const RIFF::File& file, Import& import)
 {
     file.check();
-    auto& log = logger("import");
+    const Logger log = logger("import");
     const auto* vers = file.get<RIFF::Chunk>(RIFF::code("vers"));
     log.info("vers {}", fmt::ptr(vers));
     const gig::version version = vers ? gig::version(*vers) : gig::version();

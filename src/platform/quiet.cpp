@@ -32,18 +32,19 @@ void logJack(const char* text)
 
 void logFluidSynth(int /*level*/, const char* message, void* platform)
 {
-    static_cast<spdlog::logger*>(platform)->debug("FluidSynth: {}", message);
+    static_cast<const Logger*>(platform)->debug("FluidSynth: {}", message);
 }
 
 bool redirect()
 {
+    // FluidSynth speaks on the audio thread too, where a look-up of the logger has no place.
+    static Logger platform = logger("platform");
     setenv("JACK_NO_START_SERVER", "1", 0);
     snd_lib_error_set_handler(logAlsa);
     jack_set_error_function(logJack);
     jack_set_info_function(logJack);
     for (const int level : {FLUID_PANIC, FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG})
-        // It speaks on the audio thread too, where a look-up of the logger has no place.
-        fluid_set_log_function(level, logFluidSynth, &logger("platform"));
+        fluid_set_log_function(level, logFluidSynth, &platform);
     return true;
 }
 

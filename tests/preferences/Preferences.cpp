@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 #include <spdlog/sinks/ostream_sink.h>
+#include <spdlog/spdlog.h>
 
 #include <sstream>
 
@@ -29,8 +30,9 @@ TEST(Preferences, LivesWithADamagedFile)
                "KeyColorWrong=0.25, 0.5, 0.75, 1\nGMBank=/bank.sf2\n");
     file.close();
     std::ostringstream log;
-    logger("preferences").sinks() = {std::make_shared<spdlog::sinks::ostream_sink_st>(log)};
-    logger("preferences").set_pattern("%v");
+    logger("preferences"); // so that spdlog has it
+    spdlog::get("preferences")->sinks() = {std::make_shared<spdlog::sinks::ostream_sink_st>(log)};
+    spdlog::get("preferences")->set_pattern("%v");
 
     for (int reading = 0; reading < 2; ++reading) {
         EXPECT_EQ(getPrefInt("KeyWidth"), 14);
