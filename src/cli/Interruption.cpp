@@ -1,29 +1,18 @@
 #include "cli/Interruption.h"
 
+#include "platform/endSignals.h"
+
 #include <ctime>
-
-namespace {
-
-sigset_t requests()
-{
-    sigset_t numbers;
-    sigemptyset(&numbers);
-    sigaddset(&numbers, SIGINT);
-    sigaddset(&numbers, SIGTERM);
-    return numbers;
-}
-
-} // namespace
 
 Interruption::Interruption()
 {
-    const sigset_t numbers = requests();
+    const sigset_t numbers = endSignals();
     pthread_sigmask(SIG_BLOCK, &numbers, &before_);
 }
 
 Interruption::~Interruption()
 {
-    const sigset_t numbers = requests();
+    const sigset_t numbers = endSignals();
     const timespec atOnce{};
     while (sigtimedwait(&numbers, nullptr, &atOnce) > 0) {
     }

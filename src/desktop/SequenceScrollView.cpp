@@ -168,28 +168,23 @@ void SequenceScrollView::wheelEvent(QWheelEvent* event)
 
 bool SequenceScrollView::scrollByKey(int key)
 {
-    switch (key) {
-    case Qt::Key_Left:
-        horizontal_->triggerAction(QAbstractSlider::SliderSingleStepSub);
-        return true;
-    case Qt::Key_Right:
-        horizontal_->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-        return true;
-    case Qt::Key_PageDown:
-        vertical_->triggerAction(QAbstractSlider::SliderPageStepSub);
-        return true;
-    case Qt::Key_PageUp:
-        vertical_->triggerAction(QAbstractSlider::SliderPageStepAdd);
-        return true;
-    case Qt::Key_Home:
-        vertical_->triggerAction(QAbstractSlider::SliderToMinimum);
-        return true;
-    case Qt::Key_End:
-        vertical_->triggerAction(QAbstractSlider::SliderToMaximum);
-        return true;
-    default:
-        return false;
+    struct Scroll {
+        Qt::Key key;
+        QScrollBar* bar;
+        QAbstractSlider::SliderAction action;
+    };
+    for (const Scroll& scroll : {Scroll{Qt::Key_Left, horizontal_, QScrollBar::SliderSingleStepSub},
+                                 {Qt::Key_Right, horizontal_, QScrollBar::SliderSingleStepAdd},
+                                 {Qt::Key_PageDown, vertical_, QScrollBar::SliderPageStepSub},
+                                 {Qt::Key_PageUp, vertical_, QScrollBar::SliderPageStepAdd},
+                                 {Qt::Key_Home, vertical_, QScrollBar::SliderToMinimum},
+                                 {Qt::Key_End, vertical_, QScrollBar::SliderToMaximum}}) {
+        if (scroll.key == key) {
+            scroll.bar->triggerAction(scroll.action);
+            return true;
+        }
     }
+    return false;
 }
 
 void SequenceScrollView::resizeEvent(QResizeEvent* event)

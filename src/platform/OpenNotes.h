@@ -30,22 +30,22 @@ public:
     /// So far `end` looks for one that is wanted.
     static constexpr std::size_t kMostPassedOver = 255;
 
-    /// Takes out the first one of a channel and key that is `wanted`, or none.
+    /// Takes out the first one of a channel and key that is `wanted`, or else the first one; none
+    /// where none is open.
     template <class Wanted>
     std::optional<Begun> end(std::size_t channel, std::size_t key, Wanted wanted)
     {
-        return end(queues_[channel * kKeysPerChannel + key], wanted);
-    }
-
-    std::optional<Begun> end(std::size_t channel, std::size_t key)
-    {
-        return end(channel, key, any);
+        Queue& queue = queues_[channel * kKeysPerChannel + key];
+        std::uint32_t before = kNone, link = queue.first;
+        for (std::size_t i = 0; link != kNone && !wanted(links_[link].note); ++i)
+            before = std::exchange(link, i < kMostPassedOver ? links_[link].next : kNone);
+        return link == kNone ? takeOut(queue, kNone) : takeOut(queue, before);
     }
 
     template <class Visit> void endAll(Visit visit)
     {
         for (std::size_t i = 0; count_ > 0; ++i)
-            while (const auto note = end(queues_[i], any))
+            while (const auto note = takeOut(queues_[i], kNone))
                 visit(*note);
     }
 
@@ -62,17 +62,14 @@ private:
         std::uint32_t last = kNone;
     };
 
-    static bool any(const Begun& /*note*/) { return true; }
-
-    template <class Wanted> std::optional<Begun> end(Queue& queue, Wanted wanted)
+    /// The one behind `before`, a link of the queue, or its first.
+    std::optional<Begun> takeOut(Queue& queue, std::uint32_t before)
     {
-        std::uint32_t before = kNone, link = queue.first;
-        for (std::size_t i = 0; link != kNone && !wanted(links_[link].note); ++i)
-            before = std::exchange(link, i < kMostPassedOver ? links_[link].next : kNone);
+        std::uint32_t& behind = before == kNone ? queue.first : links_[before].next;
+        const std::uint32_t link = behind;
         if (link == kNone)
             return std::nullopt;
-        const std::uint32_t next = std::exchange(links_[link].next, free_);
-        (before == kNone ? queue.first : links_[before].next) = next;
+        behind = std::exchange(links_[link].next, free_);
         if (queue.last == link)
             queue.last = before;
         free_ = link;

@@ -1,8 +1,9 @@
 #include "platform/QuitOnSignal.h"
 
+#include "platform/endSignals.h"
+
 #include <QSocketNotifier>
 
-#include <csignal>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -10,10 +11,7 @@ namespace {
 
 int openSignals()
 {
-    sigset_t ends;
-    sigemptyset(&ends);
-    sigaddset(&ends, SIGINT);
-    sigaddset(&ends, SIGTERM);
+    const sigset_t ends = endSignals();
     pthread_sigmask(SIG_BLOCK, &ends, nullptr);
     return signalfd(-1, &ends, SFD_CLOEXEC);
 }

@@ -100,9 +100,8 @@ private:
 
     void readNoteOff(std::uint8_t channel, std::uint8_t key)
     {
-        auto note = open_.end(channel, key, [this](const Begun&) { return passedOver_-- == 0; });
-        if (!note) // more are passed over than there are
-            note = open_.end(channel, key);
+        const auto note =
+            open_.end(channel, key, [this](const Begun&) { return passedOver_-- == 0; });
         passedOver_ = 0;
         if (note)
             endNote(*note);

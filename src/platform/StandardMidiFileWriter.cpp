@@ -125,9 +125,7 @@ std::string writeStandardMidiFile(std::span<const MidiEvent> notes)
                 passedOver += end == tick ? 0 : 1;
                 return end == tick;
             });
-            if (!ended) // as readers will
-                ends.end(channel, message.key);
-            else if (passedOver > 0)
+            if (ended == tick && passedOver > 0)
                 addPassedOver(track, passedOver);
         }
         addNumber(track, message.status, 1);
