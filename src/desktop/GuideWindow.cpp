@@ -5,17 +5,13 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QScreen>
 #include <QTextBlock>
 #include <QTextCursor>
 
 namespace {
 
 constexpr QSize kUsualSize(1000, 820);
-constexpr double kMargin = 18.0;
-
-/// How much of the screen the guide may fill when it is first opened.
-constexpr double kPartOfScreen = 0.9;
+constexpr double kTextMargin = 18.0;
 
 /// Gives the headings the names by which the contents refer to them, which Markdown does not have.
 void nameHeadings(QTextDocument& document)
@@ -43,8 +39,8 @@ GuideWindow::GuideWindow()
     setMarkdown(QString::fromUtf8(guide.readAll()));
     setSource(QUrl("#")); // to go back to
     nameHeadings(*document());
-    document()->setDocumentMargin(kMargin);
-    resize(kUsualSize.boundedTo(screen()->availableSize() * kPartOfScreen));
+    document()->setDocumentMargin(kTextMargin);
+    resize(kUsualSize.boundedTo(roomFor(*this)));
     closeByKeys(*this);
     rememberPlace(*this, "guide");
 }

@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int kUsualHeight = 120;
+constexpr int kUsualKeyHeight = 120;
 constexpr int kLeastHeight = 48;
 
 /// Names are left out of keys that are too narrow for letters of this height in pixels.
@@ -89,7 +89,7 @@ void KeyboardView::updateWindowSize()
 
 QSize KeyboardView::sizeHint() const
 {
-    return {preferredGeometry().width(), kUsualHeight};
+    return {preferredGeometry().width(), kUsualKeyHeight};
 }
 
 KeyboardView::Picture KeyboardView::picture() const

@@ -2,6 +2,7 @@
 
 #include "desktop/KeyboardGeometry.h"
 #include "sequencer/SequenceDocument.h"
+#include "sound/KeyTables.h"
 
 #include <QPalette>
 
@@ -9,7 +10,6 @@
 
 namespace {
 
-constexpr int kMiddleC = 60;
 constexpr float kEndOpacity = 0.05F;
 constexpr float kIntervalOpacity = 0.5F;
 

@@ -4,6 +4,7 @@
 #include "sequencer/NoteClipboard.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
+#include "sound/KeyTables.h"
 
 #include <QActionGroup>
 #include <QClipboard>
@@ -12,8 +13,6 @@
 #include <QMimeData>
 
 namespace {
-
-constexpr int kChannels = 16;
 
 QAction* checkable(const char* picture, const QString& text, const QKeySequence& shortcut,
                    const QString& tip, QObject* parent)

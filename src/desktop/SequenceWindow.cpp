@@ -18,21 +18,17 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
-#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include <algorithm>
+#include <utility>
 
 namespace {
 
-constexpr int kUsualHeight = 640;
+constexpr int kUsualWindowHeight = 640;
 
 /// Whether there is the tuning strip.
 constexpr const char* kStripKey = "tuningStrip";
-
-/// How much of the screen a window may fill when it is first opened.
-constexpr double kPartOfScreen = 0.9;
 
 } // namespace
 
@@ -146,11 +142,10 @@ void SequenceWindow::makeViewMenu()
 
 void SequenceWindow::fitToScreen()
 {
-    const QSize room = screen()->availableSize() * kPartOfScreen;
     const int keys = getPrefInt("KeyRangeHi") - getPrefInt("KeyRangeLo") + 1;
     const int width = keys * getPrefInt("KeyWidth") +
                       style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    resize(std::min(width, room.width()), std::min(kUsualHeight, room.height()));
+    resize(QSize(width, kUsualWindowHeight).boundedTo(roomFor(*this)));
 }
 
 void SequenceWindow::showDocument()

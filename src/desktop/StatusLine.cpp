@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr int kMillisecondsBetweenLooks = 500;
-constexpr int kMargin = 6;
+constexpr int kMillisecondsToPeriod = 500;
+constexpr int kPartMargin = 6;
 
 QString describe(const AudioOutput& output)
 {
@@ -41,7 +41,7 @@ StatusLine::StatusLine(AppDelegate& application)
     output_->setToolTip(tr("The sound output: its rate and the time between two of its periods"));
     for (QLabel* label : {instrument_, tuning_, output_, inputs_}) {
         label->setTextFormat(Qt::PlainText);
-        label->setContentsMargins(kMargin, 0, kMargin, 0);
+        label->setContentsMargins(kPartMargin, 0, kPartMargin, 0);
         addWidget(label);
     }
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
@@ -85,7 +85,7 @@ void StatusLine::showOutput()
 {
     const AudioOutput* output = application_.audioOutput();
     if (output != nullptr && output->period() == 0) {
-        untilPeriodIsKnown_.start(kMillisecondsBetweenLooks);
+        untilPeriodIsKnown_.start(kMillisecondsToPeriod);
         return;
     }
     untilPeriodIsKnown_.stop();

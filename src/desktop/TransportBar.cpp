@@ -3,6 +3,7 @@
 #include "desktop/SequenceActions.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceTime.h"
+#include "sound/KeyTables.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -17,7 +18,6 @@ namespace {
 
 constexpr int kSlowest = 20;
 constexpr int kFastest = 400;
-constexpr int kChannels = 16;
 
 QString shown(double step, double tempo)
 {

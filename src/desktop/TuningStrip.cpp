@@ -1,6 +1,7 @@
 #include "desktop/TuningStrip.h"
 
 #include "app/AppDelegate.h"
+#include "sound/KeyTables.h"
 #include "tuning/keyName.h"
 #include "tuning/spelling.h"
 
@@ -12,14 +13,12 @@
 namespace {
 
 constexpr int kLooksInSecond = 30;
-constexpr int kHeight = 40;
+constexpr int kStripHeight = 40;
 
 /// A departure of so many cents fills the strip.
 constexpr double kFullCents = 50.0;
 
 constexpr float kLineOpacity = 0.3F;
-
-constexpr unsigned kMiddleC = 60;
 
 double cents(double pitch, double reference)
 {
@@ -31,7 +30,7 @@ double cents(double pitch, double reference)
 TuningStrip::TuningStrip(AppDelegate& application, QWidget* parent)
     : QWidget(parent), application_(application)
 {
-    setFixedHeight(kHeight);
+    setFixedHeight(kStripHeight);
     setAccessibleName(tr("Tuning strip"));
     setToolTip(tr("The cents by which each note of the tuning lies above or below equal "
                   "temperament"));

@@ -2,7 +2,6 @@
 
 #include "preferences/settings.h"
 
-#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -10,11 +9,6 @@
 #include <algorithm>
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("askWhereToSave", text);
-}
 
 QString filterOf(const FileKind& kind)
 {
@@ -44,8 +38,8 @@ void chooseKind(QFileDialog& dialog, const std::vector<FileKind>& kinds, const F
 bool mayReplace(QWidget& parent, const QString& path)
 {
     return !QFileInfo::exists(path) ||
-           QMessageBox::question(&parent, tr("Velmora"),
-                                 tr("%1 is there already. Do you want to replace it?")
+           QMessageBox::question(&parent, QObject::tr("Velmora"),
+                                 QObject::tr("%1 is there already. Do you want to replace it?")
                                      .arg(QFileInfo(path).fileName())) == QMessageBox::Yes;
 }
 

@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int kParts = 1000;
-constexpr int kMessageMilliseconds = 8000;
+constexpr int kWrittenMilliseconds = 8000;
 
 /// One export, and how far it is.
 class ExportProgress : public QProgressDialog {
@@ -57,7 +57,7 @@ private:
         hide();
         const QString name = QFileInfo(path_).fileName();
         if (isWritten)
-            window_.statusBar()->showMessage(tr("%1 is written").arg(name), kMessageMilliseconds);
+            window_.statusBar()->showMessage(tr("%1 is written").arg(name), kWrittenMilliseconds);
         else if (!error.isEmpty())
             QMessageBox::warning(&window_, tr("Velmora"),
                                  tr("%1 was not written. %2").arg(name, error));

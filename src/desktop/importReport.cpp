@@ -2,30 +2,21 @@
 
 #include "import/InstrumentDocument.h"
 
-#include <QCoreApplication>
 #include <QMessageBox>
 #include <spdlog/fmt/fmt.h>
-
-namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("importReport", text);
-}
-
-} // namespace
 
 void showImportReport(QWidget& parent, const InstrumentDocument& document)
 {
     const ImportReport& report = document.report();
-    QMessageBox box(QMessageBox::Information, tr("Import Report"),
+    QMessageBox box(QMessageBox::Information, QObject::tr("Import Report"),
                     QString::fromStdString(document.getName()), QMessageBox::Close, &parent);
-    QString summary = tr("%1 stops, %2 keys, %3 samples.")
+    QString summary = QObject::tr("%1 stops, %2 keys, %3 samples.")
                           .arg(report.ranks)
                           .arg(report.pipes)
                           .arg(report.samples);
     if (!report.skipped.empty())
-        summary += "\n" + tr("%1 files or samples were left out.").arg(report.skipped.size());
+        summary +=
+            "\n" + QObject::tr("%1 files or samples were left out.").arg(report.skipped.size());
     box.setInformativeText(summary);
 
     QString details;

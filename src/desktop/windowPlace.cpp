@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QScreen>
 #include <QWidget>
 
 namespace {
@@ -37,6 +38,11 @@ private:
 };
 
 } // namespace
+
+QSize roomFor(const QWidget& window)
+{
+    return window.screen()->availableSize() * 0.9;
+}
 
 void rememberPlace(QWidget& window, const std::string& name)
 {

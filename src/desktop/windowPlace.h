@@ -1,8 +1,13 @@
 #pragma once
 
+#include <QSize>
+
 #include <string>
 
 class QWidget;
+
+/// How large a window may be when it is first opened, so that it leaves something of its screen.
+QSize roomFor(const QWidget& window);
 
 /// Puts a window where it was when the program last ran, and remembers under the name where it is
 /// when it is hidden or the program ends. To be called once, before the window is shown.

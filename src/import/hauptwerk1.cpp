@@ -63,7 +63,7 @@ using hauptwerk1::Section;
 using hauptwerk1::Sections;
 
 /// How often progress is shown.
-constexpr long kUpdates = 100;
+constexpr long kUpdatesOfSections = 100;
 
 /// The text of a key; empty without it.
 std::string valueOf(const Section& section, const std::string& key)
@@ -98,13 +98,13 @@ bool isPlaceholder(const std::string& value)
 }
 
 /// Finds the files of the pipes in the sections and makes a stop of each "Stop" section.
-class Assembly {
+class SectionsAssembly {
 public:
-    Assembly(const Sections& sections, const std::filesystem::path& folder)
+    SectionsAssembly(const Sections& sections, const std::filesystem::path& folder)
         : sections_(sections), folder_(folder),
           firstKey_(integer(valueOf(sections, "Manual001", "FirstAccessibleKeyMIDINoteNumber")))
     {
-        organ_.updates = kUpdates;
+        organ_.updates = kUpdatesOfSections;
         organ_.doneText = "DONE";
     }
 
@@ -192,7 +192,7 @@ std::string bytesOf(const std::filesystem::path& path)
 
 Organ hauptwerk1::findPipes(const Sections& sections, const std::filesystem::path& folder)
 {
-    return Assembly(sections, folder).assemble();
+    return SectionsAssembly(sections, folder).assemble();
 }
 
 void readHauptwerk1(const std::filesystem::path& path, Import& import)

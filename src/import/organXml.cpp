@@ -11,7 +11,7 @@
 namespace {
 
 /// How often progress is shown.
-constexpr long kUpdates = 200;
+constexpr long kUpdatesOfXml = 200;
 
 /// Where the sample files of an organ are.
 class Packages {
@@ -55,12 +55,12 @@ private:
 };
 
 /// Finds the files of a definition's pipes and makes a stop of each rank.
-class Assembly {
+class XmlAssembly {
 public:
-    Assembly(const std::filesystem::path& path, const OrganDefinition& definition)
+    XmlAssembly(const std::filesystem::path& path, const OrganDefinition& definition)
         : definition_(definition), packages_(path, definition.number)
     {
-        organ_.updates = kUpdates;
+        organ_.updates = kUpdatesOfXml;
         organ_.doneText = "Done " + std::to_string(definition.pipes.size());
     }
 
@@ -131,5 +131,5 @@ void readXML(const std::filesystem::path& path, Import& import)
 {
     const OrganDefinition definition = readOrganDefinition(readTextFile(path));
     import.name = definition.name;
-    loadOrgan(Assembly(path, definition).assemble(), import);
+    loadOrgan(XmlAssembly(path, definition).assemble(), import);
 }

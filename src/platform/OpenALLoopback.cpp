@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::size_t kBlockFrames = 1024;
+constexpr std::size_t kMixedFrames = 1024;
 
 } // namespace
 
@@ -17,7 +17,7 @@ OpenALLoopback::OpenALLoopback(double rate)
     : device_(OpenALDevice::openLoopback(static_cast<int>(std::lround(rate)))),
       renderSamples_(reinterpret_cast<LPALCRENDERSAMPLESSOFT>(
           alcGetProcAddress(nullptr, "alcRenderSamplesSOFT"))),
-      interleaved_(2 * kBlockFrames), limiter_(rate)
+      interleaved_(2 * kMixedFrames), limiter_(rate)
 {
     if (!device_ || renderSamples_ == nullptr)
         throw std::runtime_error("OpenAL cannot render at " + std::to_string(std::lround(rate)) +
@@ -27,7 +27,7 @@ OpenALLoopback::OpenALLoopback(double rate)
 void OpenALLoopback::render(float* left, float* right, std::size_t frames)
 {
     for (std::size_t done = 0; done < frames;) {
-        const std::size_t length = std::min(kBlockFrames, frames - done);
+        const std::size_t length = std::min(kMixedFrames, frames - done);
         renderSamples_(device_->device(), interleaved_.data(), static_cast<int>(length));
         for (std::size_t i = 0; i < length; ++i) {
             left[done + i] = interleaved_[2 * i];

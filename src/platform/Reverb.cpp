@@ -1,9 +1,10 @@
 #include "platform/Reverb.h"
 
+#include "platform/silence.h"
+
 #include <stk/FreeVerb.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -12,8 +13,7 @@ constexpr double kRoomSize = 0.0;
 constexpr double kDamping = 0.4;
 constexpr float kLevel = 0.12F;
 
-/// Below −120 dBFS nothing is heard; no echo is later than this.
-constexpr float kSilence = 1e-6F;
+/// No echo is later than this.
 constexpr double kLongestEchoSeconds = 0.5;
 
 } // namespace
@@ -42,15 +42,14 @@ void Reverb::silence()
 
 void Reverb::process(float* left, float* right, std::size_t frames)
 {
-    const auto isLoud = [](float sample) { return std::fabs(sample) > kSilence; };
-    if (silentFrames_ >= silentFramesToSleep_ && std::none_of(left, left + frames, isLoud) &&
-        std::none_of(right, right + frames, isLoud))
+    if (silentFrames_ >= silentFramesToSleep_ && std::none_of(left, left + frames, isHeard) &&
+        std::none_of(right, right + frames, isHeard))
         return;
 
     for (std::size_t i = 0; i < frames; ++i) {
         freeVerb_->tick(left[i], right[i]);
         left[i] += kLevel * static_cast<float>(freeVerb_->lastOut(0));
         right[i] += kLevel * static_cast<float>(freeVerb_->lastOut(1));
-        silentFrames_ = isLoud(left[i]) || isLoud(right[i]) ? 0 : silentFrames_ + 1;
+        silentFrames_ = isHeard(left[i]) || isHeard(right[i]) ? 0 : silentFrames_ + 1;
     }
 }

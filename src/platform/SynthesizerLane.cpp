@@ -1,5 +1,7 @@
 #include "platform/SynthesizerLane.h"
 
+#include "platform/silence.h"
+
 #include <spdlog/fmt/fmt.h>
 
 #include <algorithm>
@@ -16,9 +18,6 @@ constexpr int kPolyphony = 128;
 
 /// Four usual notes then peak near −6 dBFS, and the limiter takes care of what is louder.
 constexpr double kGain = 1.5;
-
-/// Loudness below which nothing is heard: −120 dBFS.
-constexpr float kSilence = 1e-6F;
 
 /// A voice may fall silent between its strokes, but not for as long as this.
 constexpr double kSilentSecondsToSleep = 0.5;
@@ -115,8 +114,7 @@ void SynthesizerLane::renderBlock(float* left, float* right)
     fluid_synth_process(synth_.get(), static_cast<int>(kBlock), 0, nullptr,
                         static_cast<int>(outputs.size()), outputs.data());
 
-    const auto loud = [](float sample) { return std::fabs(sample) > kSilence; };
     const bool silent =
-        std::none_of(left, left + kBlock, loud) && std::none_of(right, right + kBlock, loud);
+        std::none_of(left, left + kBlock, isHeard) && std::none_of(right, right + kBlock, isHeard);
     silentBlocks_ = silent ? silentBlocks_ + 1 : 0;
 }

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr std::uint32_t kBlockFrames = 16384;
+constexpr std::uint32_t kUnpackedFrames = 16384;
 
 FileImage& image(void* id)
 {
@@ -84,9 +84,9 @@ Pcm decodeWavPack(std::span<const std::byte> bytes)
                        WavpackGetNumSamples64(context.get()), bytes.size());
     const int mode = WavpackGetMode(context.get());
     const int bytesPerSample = WavpackGetBytesPerSample(context.get());
-    std::vector<std::int32_t> block(kBlockFrames * static_cast<std::size_t>(channels));
+    std::vector<std::int32_t> block(kUnpackedFrames * static_cast<std::size_t>(channels));
     while (const std::uint32_t frames =
-               WavpackUnpackSamples(context.get(), block.data(), kBlockFrames))
+               WavpackUnpackSamples(context.get(), block.data(), kUnpackedFrames))
         add(builder, std::span(block).first(frames * static_cast<std::size_t>(channels)), mode,
             bytesPerSample);
     return builder.take();

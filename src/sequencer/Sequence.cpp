@@ -9,17 +9,17 @@ namespace {
 
 constexpr double kLastKey = 127.0;
 
-std::uint32_t wholeKey(double key)
-{
-    return static_cast<std::uint32_t>(std::clamp(key, 0.0, kLastKey));
-}
-
 bool startsBefore(const Note& a, const Note& b)
 {
     return a.start < b.start;
 }
 
 } // namespace
+
+std::uint32_t wholeKey(double key)
+{
+    return static_cast<std::uint32_t>(std::clamp(key, 0.0, kLastKey));
+}
 
 Note* Sequence::find(std::uint64_t id)
 {

@@ -25,6 +25,9 @@ struct Note {
     std::uint32_t oldKey = 0;
 };
 
+/// The key that a position across the roll lies in; the first or the last one where it lies beyond.
+std::uint32_t wholeKey(double key);
+
 /// The notes of a document, each with an identity for life, and which of them are selected.
 /// Operations that take a record (`const Note&`) change the stored note of the same identity;
 /// identities that the sequence does not hold are passed over.

@@ -14,8 +14,6 @@ constexpr double kResizePixels = 8.0;
 /// A note of less is dragged to nothing, in steps.
 constexpr double kShortestLength = 0.0002;
 
-constexpr double kLastKey = 127.0;
-
 bool hasMoved(const Note& note)
 {
     return note.start != note.oldStart || note.key != note.oldKey;
@@ -105,7 +103,7 @@ void SequenceEditor::rightMouseDown(RollPoint point)
               .oldLength = 1.0,
               .velocity = 1.0F,
               .channel = document_.channel(),
-              .key = static_cast<std::uint32_t>(std::clamp(point.key, 0.0, kLastKey))};
+              .key = wholeKey(point.key)};
     note.oldStart = note.start;
     note.oldKey = note.key;
     Sequence& sequence = document_.edit();

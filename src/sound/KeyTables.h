@@ -5,6 +5,10 @@
 #include <cstddef>
 
 constexpr std::size_t kKeys = 128;
+constexpr int kMiddleC = 60;
+
+/// Those of MIDI.
+constexpr int kChannels = 16;
 
 /// How a key stands, in sums: 0 is at rest.
 constexpr int kPressed = 1; ///< Since the last look.

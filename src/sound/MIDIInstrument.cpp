@@ -1,12 +1,12 @@
 #include "sound/MIDIInstrument.h"
 
+#include "sound/KeyTables.h"
 #include "tuning/Temperament.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr int kChannels = 16;
 constexpr int kAllSoundOff = 120;
 
 /// The channel of a pitch class. Channel 9 is General MIDI's percussion, so A moves to channel 12.

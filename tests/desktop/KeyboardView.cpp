@@ -9,6 +9,7 @@
 #include <QtTest>
 #include <gmock/gmock.h>
 #include <spdlog/sinks/ostream_sink.h>
+#include <spdlog/spdlog.h>
 
 #include <sstream>
 
@@ -74,7 +75,7 @@ protected:
     KeyboardView* view = new KeyboardView(player);
 };
 
-constexpr QRgb kWhite = 0xffffff;
+constexpr QRgb kWhiteKey = 0xffffff;
 constexpr QRgb kBlack = 0x000000;
 constexpr QRgb kBlue = 0x0000ff;
 constexpr QRgb kGreen = 0x00ff00;
@@ -101,14 +102,15 @@ TEST_F(KeyboardViewTest, ColorsKeysByTheirState)
     std::ostringstream log;
     const auto sink = std::make_shared<spdlog::sinks::ostream_sink_st>(log);
     sink->set_pattern("%v");
-    logger("desktop").sinks().push_back(sink);
+    logger("desktop"); // so that spdlog has it
+    spdlog::get("desktop")->sinks().push_back(sink);
     const struct {
         int state;
         QRgb white;
         QRgb black;
-    } rows[] = {{0, kWhite, kBlack},     {1, kRed, kRed},         {2, kGreen, kGreen},
-                {3, 0xffff00, 0xffff00}, {4, 0x00ffff, 0x00ffff}, {5, kWhite, kBlue},
-                {6, kGreen, kGreen},     {7, kWhite, kBlue}};
+    } rows[] = {{0, kWhiteKey, kBlack},  {1, kRed, kRed},         {2, kGreen, kGreen},
+                {3, 0xffff00, 0xffff00}, {4, 0x00ffff, 0x00ffff}, {5, kWhiteKey, kBlue},
+                {6, kGreen, kGreen},     {7, kWhiteKey, kBlue}};
     for (const auto& row : rows) {
         player.states[21] = player.states[22] = row.state;
         EXPECT_EQ(colorAt(3, 3), row.white) << row.state;
@@ -123,7 +125,7 @@ TEST_F(KeyboardViewTest, ColorsKeysByTheirState)
         EXPECT_THAT((std::array{at(0, 119), at(23, 119), at(24, 119)}), Each(kBlack))
             << row.state << ": between white keys";
     }
-    logger("desktop").sinks().pop_back();
+    spdlog::get("desktop")->sinks().pop_back();
 }
 
 TEST_F(KeyboardViewTest, GlidesOverTheKeysWithTheLeftButton)
@@ -152,8 +154,8 @@ TEST_F(KeyboardViewTest, StandsInTheMiddleOfAWiderWindow)
     window.resize(1448, 120); // the white keys, up to C8's right end, need 1248
     EXPECT_TRUE(QTest::qWaitFor([&] { return view->width() == 1448; }));
     EXPECT_EQ(colorAt(99, 100), kBlack);
-    EXPECT_EQ(colorAt(102, 100), kWhite);
-    EXPECT_EQ(colorAt(1346, 100), kWhite);
+    EXPECT_EQ(colorAt(102, 100), kWhiteKey);
+    EXPECT_EQ(colorAt(1346, 100), kWhiteKey);
     QTest::mouseClick(view, Qt::LeftButton, {}, {99, 100});
     QTest::mouseClick(view, Qt::LeftButton, {}, {1349, 100});
     QTest::mouseClick(view, Qt::LeftButton, {}, {1346, 100});

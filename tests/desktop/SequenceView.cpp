@@ -17,7 +17,7 @@ namespace {
 
 constexpr QRgb kWhite = 0xffffff;
 constexpr QRgb kBlackColumn = 0xb3b3b3;
-constexpr QRgb kMiddleC = 0xffffb3;
+constexpr QRgb kMiddleCColumn = 0xffffb3;
 
 /// A roll that shows the keys from 54 on, 14 pixels each, and the steps from 0 on, 8 pixels each.
 class SequenceViewTest : public SequenceTest {
@@ -150,9 +150,10 @@ TEST_F(SequenceViewTest, DrawsColumnsGridIntervalAndPosition)
 {
     EXPECT_EQ(at(7, 12), kBlackColumn);
     EXPECT_EQ(at(14 + 7, 12), kWhite);
-    EXPECT_EQ(at(6 * 14 + 7, 12), kMiddleC);
+    EXPECT_EQ(at(6 * 14 + 7, 12), kMiddleCColumn);
     EXPECT_EQ(at(18 * 14 + 7, 12), kWhite) << "only one C";
-    EXPECT_EQ(extent(12, 6 * 14 - 7, 7 * 14 - 1, kMiddleC), "77-84") << "a line, then the column";
+    EXPECT_EQ(extent(12, 6 * 14 - 7, 7 * 14 - 1, kMiddleCColumn), "77-84")
+        << "a line, then the column";
     EXPECT_EQ(at(6 * 14, 12), 0x4d4d4d);
     EXPECT_EQ(at(21, 8), 0xcccccc);
     EXPECT_EQ(at(21, 64), 0x999999);

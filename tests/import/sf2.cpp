@@ -21,8 +21,8 @@ std::string sample(const std::string& name, std::size_t start, std::size_t end,
     return field(name) + numbers({start, end, 0, 0, rate}, 4) + numbers({pitch, 0, type}, 2);
 }
 
-std::string bank(const std::string& headers, const std::string& pool = std::string(200, 'p'),
-                 Instruments instruments = {{"i", {{kRange, range(0, 127)}}}})
+std::string soundFont(const std::string& headers, const std::string& pool = std::string(200, 'p'),
+                      Instruments instruments = {{"i", {{kRange, range(0, 127)}}}})
 {
     instruments.push_back({"EOI", {{}}});
     std::string inst, ibag, igen;
@@ -51,7 +51,7 @@ TEST(SoundFont, LaysZonesOnKeys)
         {"Global", {{8, 1}, {kRange, range(5, 5), kSample, 1, kSample, 0}}},
         {"Lost \xE9", {{kRange, range(1, 9), kSample, 2}}}};
     const std::string headers = sample("a", 0, 10, 61) + sample("b", 10, 20, 62);
-    const SoundFont font(bank(headers, std::string(40, 'p'), instruments));
+    const SoundFont font(soundFont(headers, std::string(40, 'p'), instruments));
     EXPECT_EQ(font.import.name, "The Bank");
     EXPECT_EQ(font.keys(0), "0 -, 40 a 61, 45 b 48, 61 -, 120 b 62,") << "a root of 0 is none";
     EXPECT_EQ(font.keys(1), "0 a 61, 1 -, 5 a 61, 6 -,") << "without a range: key 0";
@@ -62,7 +62,7 @@ TEST(SoundFont, LaysZonesOnKeys)
 
 TEST(SoundFont, ReadsSamples)
 {
-    const SoundFont font(bank(
+    const SoundFont font(soundFont(
         sample("left", 0, 10, 60, 4, 44100) + sample("linked", 0, 21, 60, 8, 22050) +
         sample("ROM", 30, 40, 60, 0x8001) + sample("twice", 0, 2) + sample("beyond", 100, 110) +
         sample("twice", 0, 30) + sample("cut", 95, 110) + sample("backwards", 9, 8)));
@@ -78,18 +78,18 @@ TEST(SoundFont, ReportsProgress)
         std::string headers;
         for (unsigned i = 1; i <= samples; ++i)
             headers += sample(std::to_string(i), 0, 1);
-        const auto calls = SoundFont(bank(headers)).host.calls;
+        const auto calls = SoundFont(soundFont(headers)).host.calls;
         ASSERT_EQ(calls.size(), 2 + samples / step);
         EXPECT_EQ(calls[0], fmt::format("start {}", samples));
         EXPECT_EQ(calls[1], fmt::format("{} {}", step, step));
         EXPECT_EQ(calls.back(), fmt::format("{} Done %k", samples % step));
-        EXPECT_THROW(SoundFont(bank(headers), 0), Cancelled);
+        EXPECT_THROW(SoundFont(soundFont(headers), 0), Cancelled);
     }
 }
 
 TEST(SoundFont, RefusesWhatCannotSound)
 {
-    const std::string good = bank(sample("a", 0, 9));
+    const std::string good = soundFont(sample("a", 0, 9));
     const auto broken = [&good](const std::string& at, std::size_t skip, const std::string& with) {
         return SoundFont(std::string(good).replace(good.find(at) + skip, with.size(), with)).error;
     };
@@ -104,7 +104,7 @@ TEST(SoundFont, RefusesWhatCannotSound)
 
 TEST(SoundFont, SoundsInTune)
 {
-    SoundFont font(bank(sample("A", 100, 48'100, 69, 1, 44'100),
-                        std::string(200, '\0') + points(sine(440, 1.1, 44'100))));
+    SoundFont font(soundFont(sample("A", 100, 48'100, 69, 1, 44'100),
+                             std::string(200, '\0') + points(sine(440, 1.1, 44'100))));
     EXPECT_NEAR(font.centsOff(76, 440), 0.0, 0.25);
 }

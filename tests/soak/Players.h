@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "base/Clock.h"
 #include "platform/Synthesizer.h"
+#include "platform/silence.h"
 #include "sequencer/RecoveryKeeper.h"
 #include "sequencer/SequenceClock.h"
 #include "sequencer/SequenceDocument.h"
@@ -23,13 +24,13 @@ class AudioThread {
 public:
     explicit AudioThread(AudioSource& source) : source_(source) {}
 
-    /// Whether it does so, to below -120 dB, within forty seconds of sound, which pass at once:
+    /// Whether it does so within forty seconds of sound, which pass at once:
     /// some programs die away slowly.
     bool fallsSilent()
     {
         const std::lock_guard lock(mutex_);
         for (int i = 0; i < 400; ++i)
-            if (peak(rendered(source_, kRate / 10).left) < 1e-6F)
+            if (!isHeard(peak(rendered(source_, kRate / 10).left)))
                 return true;
         return false;
     }

@@ -25,7 +25,7 @@ struct MIDIInstrumentTest : public testing::Test {
     MIDIInstrument instrument{std::make_unique<RecordingMusicDevice>(messages)};
 };
 
-constexpr int kChannels[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 12, 10, 11};
+constexpr int kChannelOf[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 12, 10, 11};
 
 } // namespace
 
@@ -45,7 +45,7 @@ TEST_F(MIDIInstrumentTest, PlaysEachPitchClassOnAChannelOfItsOwnAndSparesPercuss
         messages.clear();
         instrument.play(key, static_cast<float>(key / 127.0));
         instrument.stop(key);
-        const int channel = kChannels[key % 12];
+        const int channel = kChannelOf[key % 12];
         EXPECT_THAT(messages, ElementsAre(Message{0x90 | channel, key, key},
                                           Message{0x80 | channel, key, 0}));
     }
@@ -66,7 +66,7 @@ TEST_F(MIDIInstrumentTest, BendsToTheCentsOfTheTemperamentFlooredToAStep)
         for (int i = 0; i < 12; ++i) {
             temperament.append(std::make_unique<Cent>(100.0 * i + deviation));
             if (i > 0)
-                expected.push_back({0xE0 | kChannels[i], low, high});
+                expected.push_back({0xE0 | kChannelOf[i], low, high});
         }
         messages.clear();
         instrument.tune(temperament, 0, 127);
