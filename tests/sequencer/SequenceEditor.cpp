@@ -182,10 +182,13 @@ TEST_F(SequenceEditorTest, TakesKeysByTheirPosition)
     type(Qt::Key_Return);
     EXPECT_EQ(document_.mode(), SequenceDocument::Mode::Recording);
 
+    calls_.clear();
     testing::internal::CaptureStdout();
     type(Qt::Key_F5, kNone, 71);
     type(Qt::Key_Shift, kShift, 50);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "case 71:\n");
+    editor_.keyDown({QEvent::KeyPress, Qt::Key_S, kCommand, 39, 0, 0});
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "case 71:\ncase 39:\n");
+    EXPECT_EQ(calls_, Calls{}) << "a shortcut that is not at hand sounds nothing";
 }
 
 TEST_F(SequenceEditorTest, LeavesNothingSoundingThatIsEdited)

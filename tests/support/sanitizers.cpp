@@ -9,6 +9,8 @@ extern "C" const char* __tsan_default_suppressions()
            "called_from_lib:libQt6DBus.so\n"
            "called_from_lib:libdbus-1.so\n"
            "called_from_lib:libgomp.so\n"
+           "called_from_lib:libopenal.so\n"
+           "race:closedir\n"     // a file's number is used again
            "race:copyFromJack\n" // its server's shared memory
            "deadlock:libdbus-1.so\n";
 }
