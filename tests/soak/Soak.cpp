@@ -28,7 +28,6 @@ namespace {
 
 constexpr std::size_t kTicksPerFade = 17;
 constexpr std::size_t kStepsPerRound = 1500;
-constexpr std::size_t kWarmUpRounds = 8;
 constexpr std::size_t kMostNotes = 500;
 constexpr std::ptrdiff_t kMostGrowth = 1 << 20;
 
@@ -38,17 +37,22 @@ void require(bool condition, const std::string& message)
         throw std::runtime_error(message);
 }
 
-/// Bytes that are allocated, in all threads. AddressSanitizer keeps what is freed for a while, and
-/// tells itself of what is lost.
+/// Bytes that are allocated, in all threads.
+#ifdef __SANITIZE_ADDRESS__
+// It keeps what is freed for a while, and tells itself of what is lost.
+constexpr std::size_t kWarmUpRounds = 0;
 std::size_t memoryInUse()
 {
-#ifdef __SANITIZE_ADDRESS__
     return 0;
+}
 #else
+constexpr std::size_t kWarmUpRounds = 8;
+std::size_t memoryInUse()
+{
     const auto heap = mallinfo2();
     return heap.uordblks + heap.hblkhd;
-#endif
 }
+#endif
 
 class Soak : public QObject {
 public:
