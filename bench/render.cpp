@@ -1,8 +1,10 @@
 // What the sound costs, in seconds of sound a second: a whole piece on the way that `velmora
 // render` takes, the lanes alone, and a synthesizer that nothing plays.
 
+#include "app/AppDelegate.h"
 #include "app/SequenceRenderer.h"
 #include "platform/Synthesizer.h"
+#include "tuning/TuningDocument.h"
 
 #include <QCoreApplication>
 #include <benchmark/benchmark.h>
