@@ -34,7 +34,8 @@ void renderPiece(benchmark::State& state, const char* tuning)
         application.selectTuning(tuning);
         state.ResumeTiming();
 
-        SequenceRenderer renderer(application, source, VELMORA_EXAMPLES "/wolf-fantasia.mid");
+        SequenceRenderer renderer(application, source);
+        renderer.document().readFromURL(VELMORA_EXAMPLES "/wolf-fantasia.mid");
         renderer.render(
             {},
             [&](const float* left, const float* right, std::size_t count) {
