@@ -1,14 +1,16 @@
 // Decoding 500 WAV files of 24 bits, on all cores, on one thread ahead of the one that takes them,
 // and one after the other.
 
+#include "audio/AudioFileDecoder.h"
 #include "import/SoundLoader.h"
-#include "platform/AudioFileDecoder.h"
 
 #include <benchmark/benchmark.h>
 
 #include <fstream>
 #include <string>
 #include <unistd.h>
+
+namespace velmora {
 
 namespace {
 
@@ -102,3 +104,5 @@ BENCHMARK(oneThread)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(allCores)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace
+
+} // namespace velmora

@@ -6,6 +6,8 @@
 
 #include <benchmark/benchmark.h>
 
+namespace velmora {
+
 namespace {
 
 class CountingMusicDevice : public MusicDevice {
@@ -53,3 +55,5 @@ void keyDownDynamic(benchmark::State& state)
 BENCHMARK(keyDownDynamic);
 
 } // namespace
+
+} // namespace velmora

@@ -3,10 +3,10 @@
 // another has touched; `peak_MB` is the most memory that the process held. The bank is the
 // environment variable VELMORA_SOUNDFONT or that of the package fluid-soundfont-gm.
 
+#include "audio/OpenALDevice.h"
 #include "import/Import.h"
 #include "import/RIFF.h"
 #include "import/sf2.h"
-#include "platform/OpenALDevice.h"
 
 #include <benchmark/benchmark.h>
 #include <fluidsynth.h>
@@ -18,6 +18,8 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+
+namespace velmora {
 
 namespace {
 
@@ -123,3 +125,5 @@ BENCHMARK_CAPTURE(measure, fluidSynth, loadByFluidSynth)
     ->Unit(benchmark::kMillisecond);
 
 } // namespace
+
+} // namespace velmora

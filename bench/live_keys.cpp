@@ -1,11 +1,11 @@
 // How long a received key takes until the instrument has it, while the keyboard repaints: real MIDI
 // through a JACK server with the dummy driver. Needs a display.
 
-#include "app/midiRead.h"
-#include "desktop/Desktop.h"
-#include "desktop/KeyboardView.h"
-#include "desktop/graphics.h"
-#include "platform/Synthesizer.h"
+#include "audio/Synthesizer.h"
+#include "desktop/keyboard/KeyboardView.h"
+#include "desktop/shell/Desktop.h"
+#include "desktop/widgets/graphics.h"
+#include "midi/midiRead.h"
 #include "support/JackServer.h"
 #include "support/MidiSource.h"
 
@@ -15,6 +15,8 @@
 
 #include <algorithm>
 #include <chrono>
+
+using namespace velmora;
 
 namespace {
 

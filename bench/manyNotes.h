@@ -5,6 +5,8 @@
 
 #include <random>
 
+namespace velmora {
+
 constexpr unsigned kManyNotes = 100'000;
 
 /// Ten of them begin with every step.
@@ -38,3 +40,5 @@ public:
 private:
     std::mutex lock_;
 };
+
+} // namespace velmora

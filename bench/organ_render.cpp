@@ -1,13 +1,15 @@
 // A sampled organ through OpenAL's loopback, in seconds of sound a second of one core: chords of
 // ten notes on 4, 40 and 60 stops, that is of 40, 400 and 600 voices.
 
-#include "platform/OpenALLoopback.h"
+#include "audio/OpenALLoopback.h"
 #include "sineOrgan.h"
 
 #include <al.h>
 #include <benchmark/benchmark.h>
 
 #include <array>
+
+namespace velmora {
 
 namespace {
 
@@ -51,3 +53,5 @@ void renderChord(benchmark::State& state)
 BENCHMARK(renderChord)->Arg(4)->Arg(40)->Arg(60)->Unit(benchmark::kMillisecond);
 
 } // namespace
+
+} // namespace velmora

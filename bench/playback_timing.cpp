@@ -2,11 +2,11 @@
 // irregular times, through the General MIDI synthesizer on a JACK server with the dummy driver.
 // Needs a display.
 
+#include "audio/Synthesizer.h"
 #include "base/Clock.h"
-#include "desktop/Desktop.h"
-#include "desktop/SequenceWindow.h"
-#include "desktop/graphics.h"
-#include "platform/Synthesizer.h"
+#include "desktop/shell/Desktop.h"
+#include "desktop/shell/SequenceWindow.h"
+#include "desktop/widgets/graphics.h"
 #include "support/JackServer.h"
 
 #include <QApplication>
@@ -16,6 +16,8 @@
 
 #include <algorithm>
 #include <random>
+
+using namespace velmora;
 
 namespace {
 

@@ -3,11 +3,13 @@
 
 #include "app/AppDelegate.h"
 #include "app/SequenceRenderer.h"
-#include "platform/Synthesizer.h"
+#include "audio/Synthesizer.h"
 #include "tuning/TuningDocument.h"
 
 #include <QCoreApplication>
 #include <benchmark/benchmark.h>
+
+using namespace velmora;
 
 namespace {
 

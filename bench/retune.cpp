@@ -1,12 +1,14 @@
 // What a key-down costs on a sampled organ of 60 stops: the dynamic temperament looks at every key
 // each time, and tells OpenAL of those that have another pitch; then the key speaks in every stop.
 
+#include "audio/OpenALLoopback.h"
 #include "base/Log.h"
-#include "platform/OpenALLoopback.h"
 #include "sineOrgan.h"
 #include "tuning/DynamicTemperament.h"
 
 #include <benchmark/benchmark.h>
+
+namespace velmora {
 
 namespace {
 
@@ -79,3 +81,5 @@ BENCHMARK_F(Retune, fadeOfSilence)(benchmark::State& state)
 }
 
 } // namespace
+
+} // namespace velmora

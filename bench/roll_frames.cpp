@@ -1,11 +1,11 @@
 // How many frames a second the window of 100,000 notes comes to, from the event to the picture on
 // the screen: while 10,000 notes are dragged, and scrolled. Needs a display.
 
-#include "desktop/Desktop.h"
-#include "desktop/SequenceScrollView.h"
-#include "desktop/SequenceView.h"
-#include "desktop/SequenceWindow.h"
-#include "desktop/graphics.h"
+#include "desktop/roll/SequenceScrollView.h"
+#include "desktop/roll/SequenceView.h"
+#include "desktop/shell/Desktop.h"
+#include "desktop/shell/SequenceWindow.h"
+#include "desktop/widgets/graphics.h"
 #include "manyNotes.h"
 
 #include <QApplication>
@@ -15,6 +15,8 @@
 #include <spdlog/fmt/fmt.h>
 
 #include <functional>
+
+using namespace velmora;
 
 namespace {
 

@@ -1,7 +1,7 @@
 // What a repaint of the piano roll costs before OpenGL draws it: finding the visible notes among
 // 100,000 and gathering their vertices.
 
-#include "desktop/RollPicture.h"
+#include "desktop/roll/RollPicture.h"
 #include "manyNotes.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
@@ -9,6 +9,8 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <benchmark/benchmark.h>
+
+using namespace velmora;
 
 namespace {
 

@@ -6,6 +6,8 @@
 
 #include <benchmark/benchmark.h>
 
+namespace velmora {
+
 namespace {
 
 constexpr double kTick = 120.0 * 0.125 / 1024.0; // in steps
@@ -78,3 +80,5 @@ BENCHMARK(lookByIndex);
 BENCHMARK(makeIndex);
 
 } // namespace
+
+} // namespace velmora

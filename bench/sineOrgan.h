@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <string>
 
+namespace velmora {
+
 /// An organ of so many stops, all drawn, with 61 pipes each, from key 36 on; its other keys are
 /// extended. The pipes of an octave share a sine of 44,100 Hz. Needs a current OpenAL context.
 inline void fillWithSines(ALInstrument& organ, int stops, double seconds)
@@ -29,3 +31,5 @@ inline void fillWithSines(ALInstrument& organ, int stops, double seconds)
         }
     }
 }
+
+} // namespace velmora

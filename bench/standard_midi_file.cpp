@@ -1,12 +1,14 @@
 // Reading a Standard MIDI File of 100,000 notes, beside a mere sum over its bytes.
 
-#include "platform/StandardMidiFile.h"
+#include "midi/StandardMidiFile.h"
 #include "sequencer/SequenceFile.h"
 
 #include <benchmark/benchmark.h>
 
 #include <numeric>
 #include <string>
+
+namespace velmora {
 
 namespace {
 
@@ -96,3 +98,5 @@ BENCHMARK(readFile)->Arg(100'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(readFileIntoSequence)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 
 } // namespace
+
+} // namespace velmora

@@ -7,6 +7,8 @@
 
 #include <string>
 
+namespace velmora {
+
 namespace {
 
 std::string field(const std::string& name, const std::string& value)
@@ -61,3 +63,5 @@ BENCHMARK(tree)->Unit(benchmark::kMillisecond);
 BENCHMARK(pugixml)->Unit(benchmark::kMillisecond);
 
 } // namespace
+
+} // namespace velmora

@@ -1,10 +1,12 @@
 // Any bytes: either a FormatError or a sound of one or two channels.
 
+#include "audio/AudioFileDecoder.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
-#include "platform/AudioFileDecoder.h"
 
 #include <cstdlib>
+
+namespace velmora {
 
 namespace {
 
@@ -36,3 +38,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     return 0;
 }
+
+} // namespace velmora

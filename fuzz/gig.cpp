@@ -4,8 +4,12 @@
 
 #include "importedBank.h"
 
+namespace velmora {
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     importBank(readGigaSampler, {data, size});
     return 0;
 }
+
+} // namespace velmora

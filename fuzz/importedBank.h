@@ -1,14 +1,16 @@
 #pragma once
 
+#include "audio/OpenALDevice.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
 #include "import/Import.h"
 #include "import/RIFF.h"
-#include "platform/OpenALDevice.h"
 #include "tuning/Temperament.h"
 
 #include <cstdlib>
 #include <span>
+
+namespace velmora {
 
 /// Checks that the progress of an import comes to what it announced.
 class CheckingHost : public InstrumentHost {
@@ -53,3 +55,5 @@ inline void importBank(void (*reader)(const RIFF::File&, Import&),
         std::abort();
     import.instrument->tune(equal, 0, 127);
 }
+
+} // namespace velmora

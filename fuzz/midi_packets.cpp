@@ -1,10 +1,12 @@
 // Packets of MIDI bytes, each led by its length.
 
-#include "app/midiRead.h"
+#include "midi/midiRead.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <vector>
+
+namespace velmora {
 
 namespace {
 
@@ -70,3 +72,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(input.notes <= bytes && 3 * input.volumes <= bytes);
     return 0;
 }
+
+} // namespace velmora

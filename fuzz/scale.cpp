@@ -8,6 +8,8 @@
 #include <cmath>
 #include <cstdlib>
 
+namespace velmora {
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const bool quiet = (setLogLevel(spdlog::level::off), true);
@@ -28,3 +30,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     return 0;
 }
+
+} // namespace velmora

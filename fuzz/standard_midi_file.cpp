@@ -1,11 +1,13 @@
 // Any bytes: either a FormatError or notes with sound times, which make a sequence.
 
 #include "base/FormatError.h"
-#include "platform/StandardMidiFile.h"
+#include "midi/StandardMidiFile.h"
 #include "sequencer/SequenceFile.h"
 
 #include <cmath>
 #include <cstdlib>
+
+namespace velmora {
 
 namespace {
 
@@ -45,3 +47,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     return 0;
 }
+
+} // namespace velmora

@@ -6,6 +6,8 @@
 
 #include <cstdlib>
 
+namespace velmora {
+
 namespace {
 
 void require(bool holds)
@@ -45,3 +47,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     return 0;
 }
+
+} // namespace velmora

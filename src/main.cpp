@@ -2,5 +2,5 @@
 
 int main(int argc, char** argv)
 {
-    return runCommandLine(argc, argv);
+    return velmora::runCommandLine(argc, argv);
 }

@@ -1,15 +1,17 @@
 #include "app/AppDelegate.h"
 
 #include "app/fading.h"
+#include "audio/Synthesizer.h"
 #include "base/Clock.h"
 #include "base/Log.h"
-#include "platform/Synthesizer.h"
 #include "preferences/Preferences.h"
 #include "sound/KeyTables.h"
 
 #include <algorithm>
 #include <cassert>
 #include <chrono>
+
+namespace velmora {
 
 namespace {
 
@@ -327,3 +329,5 @@ void AppDelegate::take(const InputEvent& event)
         break;
     }
 }
+
+} // namespace velmora

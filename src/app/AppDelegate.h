@@ -1,14 +1,14 @@
 #pragma once
 
 #include "app/InputQueue.h"
-#include "app/midiRead.h"
+#include "audio/AudioOutput.h"
+#include "audio/OpenALDevice.h"
 #include "import/InstrumentDocument.h"
 #include "import/InstrumentHost.h"
-#include "platform/AudioOutput.h"
+#include "midi/MidiInputs.h"
+#include "midi/midiRead.h"
 #include "platform/DisplayWake.h"
 #include "platform/IntervalTimer.h"
-#include "platform/MidiInputs.h"
-#include "platform/OpenALDevice.h"
 #include "sequencer/SequenceHost.h"
 #include "sound/MIDIInstrument.h"
 #include "tuning/TuningDocument.h"
@@ -23,6 +23,8 @@
 #include <mutex>
 #include <string>
 #include <vector>
+
+namespace velmora {
 
 class Synthesizer;
 
@@ -215,3 +217,5 @@ private:
     std::future<std::unique_ptr<Synthesizer>> loading_;
     bool loadsAgain_ = false; ///< The preference has changed meanwhile.
 };
+
+} // namespace velmora

@@ -1,7 +1,7 @@
 #include "app/AudioExport.h"
 
 #include "app/SequenceRenderer.h"
-#include "platform/AudioFileWriter.h"
+#include "audio/AudioFileWriter.h"
 
 #include <sys/resource.h>
 
@@ -9,6 +9,8 @@
 #include <exception>
 #include <new>
 #include <utility>
+
+namespace velmora {
 
 namespace {
 
@@ -106,3 +108,5 @@ bool AudioExport::write(const std::stop_token& stop, Job job)
         file.commit();
     return rendered;
 }
+
+} // namespace velmora

@@ -9,6 +9,8 @@
 #include <filesystem>
 #include <thread>
 
+namespace velmora {
+
 /// Renders a sequence to a sound file on a thread of its own, while live playing goes on. The file
 /// appears when it is whole; one that was there stays until then.
 class AudioExport : public QObject {
@@ -50,3 +52,5 @@ private:
 
     std::jthread thread_;
 };
+
+} // namespace velmora

@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <system_error>
 
+namespace velmora {
+
 InputQueue::InputQueue(std::function<void(const InputEvent&)> take)
     : take_(std::move(take)), descriptor_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))
 {
@@ -57,3 +59,5 @@ void InputQueue::drain()
     while (pop(event))
         take_(event);
 }
+
+} // namespace velmora

@@ -8,6 +8,8 @@
 
 class QSocketNotifier;
 
+namespace velmora {
+
 /// Something that the receive threads leave to the main thread. By then the keys may have changed
 /// again: practice may miss a short tap, pressed and released within one turn of the event loop.
 struct InputEvent {
@@ -49,3 +51,5 @@ private:
     std::array<InputEvent, kCapacity> events_{};
     std::size_t first_ = 0, count_ = 0;
 };
+
+} // namespace velmora

@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <utility>
 
+namespace velmora {
+
 namespace {
 
 /// As `setVolume` takes it: a sampled instrument shows the double of it.
@@ -68,3 +70,5 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
         instrument.setVolume(stop, settings.gains[stop]);
     instrument.tune(*temperament_, 0, static_cast<int>(kKeys) - 1);
 }
+
+} // namespace velmora

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "audio/OpenALLoopback.h"
+#include "audio/Synthesizer.h"
 #include "import/InstrumentDocument.h"
-#include "platform/OpenALLoopback.h"
-#include "platform/Synthesizer.h"
 #include "sequencer/SequenceHost.h"
 #include "tuning/Temperament.h"
 
@@ -12,6 +12,8 @@
 #include <optional>
 #include <string>
 #include <vector>
+
+namespace velmora {
 
 class AppDelegate;
 
@@ -54,3 +56,5 @@ private:
     std::unique_ptr<InstrumentDocument> document_;
     AudioSource* source_ = nullptr;
 };
+
+} // namespace velmora

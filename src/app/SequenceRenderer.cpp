@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace velmora {
+
 namespace {
 
 constexpr double kFadeSeconds = std::chrono::duration<double>(kFadeInterval).count();
@@ -67,3 +69,5 @@ void SequenceRenderer::soundUntil(double seconds, double rate, const AudioSink& 
     sound(seconds);
     now_ = seconds;
 }
+
+} // namespace velmora

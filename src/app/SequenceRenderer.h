@@ -1,12 +1,14 @@
 #pragma once
 
-#include "platform/AudioSource.h"
+#include "audio/AudioSource.h"
 #include "sequencer/SequenceDocument.h"
 
 #include <cstddef>
 #include <functional>
 #include <optional>
 #include <vector>
+
+namespace velmora {
 
 /// A stretch of a sequence to be played several times over.
 struct RenderLoop {
@@ -53,3 +55,5 @@ private:
     std::size_t ticks_ = 0, fades_ = 0, frames_ = 0;
     std::vector<float> left_, right_;
 };
+
+} // namespace velmora

@@ -3,6 +3,8 @@
 #include "sound/Instrument.h"
 #include "tuning/Temperament.h"
 
+namespace velmora {
+
 void fadeOnce(SequenceHost& host)
 {
     const std::lock_guard lock(host.soundLock());
@@ -11,3 +13,5 @@ void fadeOnce(SequenceHost& host)
     if (Temperament* temperament = host.getTemperament())
         temperament->fade(kFadeFactor);
 }
+
+} // namespace velmora

@@ -1,5 +1,7 @@
 #include "app/programNames.h"
 
+namespace velmora {
+
 const std::array<const char*, 128> kMIDIInstrumentNames = {
     "1 Acoustic Grand Piano",
     "2 Bright Acoustic Piano",
@@ -130,3 +132,5 @@ const std::array<const char*, 128> kMIDIInstrumentNames = {
     "127 Applause",
     "128 Gun Shot",
 };
+
+} // namespace velmora

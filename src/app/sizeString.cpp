@@ -2,6 +2,8 @@
 
 #include <spdlog/fmt/fmt.h>
 
+namespace velmora {
+
 std::string sizeString(std::uint64_t bytes)
 {
     constexpr std::uint64_t kKilo = 1U << 10U, kMega = 1U << 20U, kGiga = 1U << 30U;
@@ -16,3 +18,5 @@ std::string sizeString(std::uint64_t bytes)
         return fmt::format("{:.1f}KB", in(kKilo));
     return bytes > 0 ? fmt::format("{} bytes", bytes) : "";
 }
+
+} // namespace velmora

@@ -7,6 +7,8 @@
 #include <memory>
 #include <system_error>
 
+namespace velmora {
+
 namespace {
 
 FormatError systemError(int code)
@@ -52,3 +54,5 @@ std::string readTextFile(const std::filesystem::path& path)
 {
     return readBytes<std::string>(path);
 }
+
+} // namespace velmora

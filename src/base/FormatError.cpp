@@ -1,5 +1,7 @@
 #include "base/FormatError.h"
 
+namespace velmora {
+
 FormatError::FormatError(const std::string& message) : std::runtime_error(message) {}
 
 FormatError::FormatError(const std::string& place, const std::string& message)
@@ -21,3 +23,5 @@ std::string FormatError::inFile(const std::string& fileName) const
 {
     return fileName + (place_.empty() ? "" : ", " + place_) + ": " + what();
 }
+
+} // namespace velmora

@@ -4,6 +4,8 @@
 #include <stdexcept>
 #include <string>
 
+namespace velmora {
+
 /// A file that cannot be read as what it claims to be: a sentence, and where in the file it holds.
 class FormatError : public std::runtime_error {
 public:
@@ -24,3 +26,5 @@ private:
 
     std::string place_;
 };
+
+} // namespace velmora

@@ -6,6 +6,8 @@
 
 #include <mutex>
 
+namespace velmora {
+
 void Logger::log(spdlog::level::level_enum level, fmt::string_view text,
                  fmt::format_args args) const
 {
@@ -29,3 +31,5 @@ void setLogLevel(spdlog::level::level_enum level)
     spdlog::set_level(level);
     spdlog::cfg::load_env_levels();
 }
+
+} // namespace velmora

@@ -8,6 +8,8 @@ namespace spdlog {
 class logger;
 }
 
+namespace velmora {
+
 /// Writes for one folder of the program to standard error. Never called on the live path.
 ///
 /// It stands between its callers and spdlog, whose templates would bring nearly all of fmt into
@@ -44,3 +46,5 @@ Logger logger(const std::string& folder);
 
 /// Shows messages from `level` upwards. The environment variable SPDLOG_LEVEL goes before it.
 void setLogLevel(spdlog::level::level_enum level);
+
+} // namespace velmora

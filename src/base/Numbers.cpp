@@ -6,6 +6,8 @@
 #include <limits>
 #include <string>
 
+namespace velmora {
+
 std::optional<double> leadingNumber(std::string_view text)
 {
     static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
@@ -33,3 +35,5 @@ std::optional<int> leadingInteger(std::string_view text)
                                      : std::numeric_limits<int>::max();
     return value;
 }
+
+} // namespace velmora

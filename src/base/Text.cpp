@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <iterator>
 
+namespace velmora {
+
 namespace {
 
 /// The smallest and greatest code points that take so many bytes.
@@ -68,3 +70,5 @@ std::string lowerCase(std::string text)
     }
     return text;
 }
+
+} // namespace velmora

@@ -4,6 +4,8 @@
 
 #include <ctime>
 
+namespace velmora {
+
 Interruption::Interruption()
 {
     const sigset_t numbers = endSignals();
@@ -25,3 +27,5 @@ bool Interruption::requested()
     sigpending(&waiting);
     return sigismember(&waiting, SIGINT) == 1 || sigismember(&waiting, SIGTERM) == 1;
 }
+
+} // namespace velmora

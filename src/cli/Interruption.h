@@ -2,6 +2,8 @@
 
 #include <csignal>
 
+namespace velmora {
+
 /// As long as it lives, Ctrl-C and a request to terminate wait instead of ending the program, so
 /// that it can tidy up. It is made before any other thread is.
 class Interruption {
@@ -20,3 +22,5 @@ public:
 private:
     sigset_t before_{};
 };
+
+} // namespace velmora

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <utility>
 
+namespace velmora {
+
 ProgressLine::ProgressLine(std::string what)
     : what_(std::move(what)), isTerminal_(isatty(STDERR_FILENO) == 1)
 {
@@ -26,3 +28,5 @@ void ProgressLine::show(double done)
     fmt::print(stderr, "\r{} {:3} %", what_, percent);
     std::fflush(stderr);
 }
+
+} // namespace velmora

@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace velmora {
+
 /// Shows how much is done on standard error, where that is a terminal.
 class ProgressLine {
 public:
@@ -18,3 +20,5 @@ private:
     bool isTerminal_;
     int shown_ = -1;
 };
+
+} // namespace velmora

@@ -2,13 +2,15 @@
 
 #include "base/Log.h"
 #include "cli/commands.h"
-#include "desktop/runDesktop.h"
+#include "desktop/shell/runDesktop.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 #include <spdlog/fmt/fmt.h>
 
 #include <filesystem>
+
+namespace velmora {
 
 namespace {
 
@@ -177,3 +179,5 @@ int runCommandLine(int argc, char** argv)
         return kFailed;
     }
 }
+
+} // namespace velmora

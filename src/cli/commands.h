@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace velmora {
+
 /// A command line that is well formed but asks for something that does not exist.
 class UsageError : public std::runtime_error {
 public:
@@ -29,3 +31,5 @@ void live(const Selection& selection);
 
 /// Prints the MIDI inputs, the sound output and the General MIDI bank in use.
 void devices(bool json);
+
+} // namespace velmora

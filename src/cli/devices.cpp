@@ -1,12 +1,14 @@
 #include "cli/commands.h"
 
-#include "platform/Synthesizer.h"
+#include "audio/Synthesizer.h"
 
 #include <nlohmann/json.hpp>
 #include <spdlog/fmt/fmt.h>
 
 #include <chrono>
 #include <thread>
+
+namespace velmora {
 
 using Json = nlohmann::ordered_json;
 
@@ -68,3 +70,5 @@ void devices(bool json)
                    audio["periodMilliseconds"].get<double>());
     fmt::print("General MIDI bank: {}\n", bank.empty() ? "none" : bank);
 }
+
+} // namespace velmora

@@ -1,10 +1,12 @@
+#include "audio/OpenALLoopback.h"
 #include "cli/commands.h"
 #include "cli/instrumentInfo.h"
-#include "platform/OpenALLoopback.h"
 #include "sequencer/SequenceFile.h"
 
 #include <nlohmann/json.hpp>
 #include <spdlog/fmt/fmt.h>
+
+namespace velmora {
 
 using Json = nlohmann::ordered_json;
 
@@ -146,3 +148,5 @@ bool info(const std::vector<std::filesystem::path>& files, bool json)
     }
     return allRead;
 }
+
+} // namespace velmora

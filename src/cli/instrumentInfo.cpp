@@ -7,6 +7,8 @@
 
 #include <map>
 
+namespace velmora {
+
 using Json = nlohmann::ordered_json;
 
 namespace {
@@ -96,3 +98,5 @@ void printInstrument(const Json& instrument)
         fmt::print("  {}: {}\n", skipped["file"].get<std::string>(),
                    skipped["why"].get<std::string>());
 }
+
+} // namespace velmora

@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+namespace velmora {
+
 void live(const Selection& selection)
 {
     QuitOnSignal quitOnSignal;
@@ -25,3 +27,5 @@ void live(const Selection& selection)
     std::fflush(stdout);
     QCoreApplication::exec();
 }
+
+} // namespace velmora

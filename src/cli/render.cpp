@@ -1,12 +1,14 @@
 #include "cli/commands.h"
 
 #include "app/OfflineSound.h"
+#include "audio/AudioFileWriter.h"
+#include "audio/OpenALLoopback.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
-#include "platform/AudioFileWriter.h"
-#include "platform/OpenALLoopback.h"
 
 #include <optional>
+
+namespace velmora {
 
 namespace {
 
@@ -53,3 +55,5 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
         throw std::runtime_error("interrupted: " + output.string() + " was not written");
     file.commit();
 }
+
+} // namespace velmora

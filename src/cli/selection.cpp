@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace velmora {
+
 namespace {
 
 std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
@@ -78,3 +80,5 @@ void select(const Selection& selection, AppDelegate& application)
         instrument.setVolume(stop, gain);
     }
 }
+
+} // namespace velmora

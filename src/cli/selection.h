@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+namespace velmora {
+
 /// What the command line chooses to play with.
 struct Selection {
     std::string tuning = "Equal";        ///< "Equal", "Quartercomma Meantone", "Dynamic" or a file.
@@ -25,3 +27,5 @@ std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& 
 /// Makes the selection current. Throws UsageError when it names what does not exist;
 /// std::runtime_error with a sentence when one of its files cannot be read.
 void select(const Selection& selection, AppDelegate& application);
+
+} // namespace velmora

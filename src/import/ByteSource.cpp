@@ -8,6 +8,8 @@
 #include <cerrno>
 #include <system_error>
 
+namespace velmora {
+
 namespace {
 
 class FileSource : public ByteSource {
@@ -88,3 +90,5 @@ std::unique_ptr<ByteSource> openMemory(std::span<const std::byte> bytes)
 {
     return std::make_unique<MemorySource>(bytes);
 }
+
+} // namespace velmora

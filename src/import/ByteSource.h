@@ -6,6 +6,8 @@
 #include <memory>
 #include <span>
 
+namespace velmora {
+
 /// Bytes that can be read from any place, as often as wanted and by several threads.
 class ByteSource {
 public:
@@ -25,3 +27,5 @@ std::unique_ptr<ByteSource> openFile(const std::filesystem::path& path);
 
 /// Bytes in memory, which must outlive the source.
 std::unique_ptr<ByteSource> openMemory(std::span<const std::byte> bytes);
+
+} // namespace velmora

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace velmora {
+
 void Import::finish()
 {
     constexpr float kDrawn = 0.5F;
@@ -10,3 +12,5 @@ void Import::finish()
         stops, [](const InstrumentStop& stop) { return stop.soundingKeys() > 0; }));
     stops.front().volume = kDrawn;
 }
+
+} // namespace velmora

@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 
+namespace velmora {
+
 /// One import in the making: what every importer fills. Importers throw FormatError where the file
 /// cannot be used and Cancelled where the host gives up; what they made so far goes with the
 /// import.
@@ -27,3 +29,5 @@ struct Import {
 
 /// Thrown between two steps of an import that the host has cancelled.
 struct Cancelled {};
+
+} // namespace velmora

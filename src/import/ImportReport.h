@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+namespace velmora {
+
 /// What an import brought in and what it had to leave out.
 struct ImportReport {
     std::size_t ranks = 0;   ///< stops that sound
@@ -14,3 +16,5 @@ struct ImportReport {
     /// Each file or sample left out, and why.
     std::vector<std::pair<std::string, std::string>> skipped;
 };
+
+} // namespace velmora

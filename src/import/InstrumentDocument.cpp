@@ -16,6 +16,8 @@
 #include <new>
 #include <string>
 
+namespace velmora {
+
 namespace {
 
 /// Fills the import from a file of that type.
@@ -104,3 +106,5 @@ bool InstrumentDocument::readFromURL(const std::filesystem::path& path, const st
     logger("import").info("{}", errorString_);
     return false;
 }
+
+} // namespace velmora

@@ -1,14 +1,16 @@
 #pragma once
 
+#include "audio/MusicDevice.h"
 #include "import/ImportReport.h"
 #include "import/InstrumentHost.h"
-#include "platform/MusicDevice.h"
 #include "sound/Instrument.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
+
+namespace velmora {
 
 /// An instrument and its display name: the General MIDI player, or what was read from a file.
 class InstrumentDocument {
@@ -72,3 +74,5 @@ private:
     std::string errorString_;
     ImportReport report_;
 };
+
+} // namespace velmora

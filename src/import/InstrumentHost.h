@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace velmora {
+
 /// What importing asks of the application: to show how far it is, and whether the user has had
 /// enough. Called on the thread that imports.
 class InstrumentHost {
@@ -17,3 +19,5 @@ public:
     /// Whether the import is to be given up. Asked between one file or sample and the next.
     virtual bool isCancelled() const = 0;
 };
+
+} // namespace velmora

@@ -8,6 +8,8 @@
 #include <map>
 #include <memory>
 
+namespace velmora {
+
 namespace {
 
 /// The lowest and the highest pipe of a rank that sound.
@@ -151,3 +153,5 @@ void loadOrgan(const Organ& organ, Import& import)
     }
     import.finish();
 }
+
+} // namespace velmora

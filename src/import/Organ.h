@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace velmora {
+
 /// What an organ definition of any format comes to: stops, and the files that their keys sound.
 struct Organ {
     struct File {
@@ -37,3 +39,5 @@ struct Organ {
 /// keys. A file that cannot be decoded is skipped. The first stop is drawn, the others are
 /// silent. Throws FormatError when nothing sounds, and Cancelled.
 void loadOrgan(const Organ& organ, Import& import);
+
+} // namespace velmora

@@ -9,6 +9,8 @@
 #include <array>
 #include <map>
 
+namespace velmora {
+
 namespace {
 
 constexpr auto kGeneral = "_General";
@@ -82,7 +84,7 @@ public:
     }
 
     const std::string& text(std::size_t column) const { return values_[column]; }
-    int number(std::size_t column) const { return ::number(values_[column]); }
+    int number(std::size_t column) const { return velmora::number(values_[column]); }
 
 private:
     static bool isCompacted(const xml::Node& object)
@@ -175,3 +177,5 @@ OrganDefinition readOrganDefinition(std::string bytes)
     }
     return organ;
 }
+
+} // namespace velmora

@@ -4,6 +4,8 @@
 #include <unordered_map>
 #include <vector>
 
+namespace velmora {
+
 /// What an XML organ definition says of pipes and their sample files. Its tables are lists of
 /// objects, whose fields have full names ("PipeID"), or the letters of a compacted row ("a").
 struct OrganDefinition {
@@ -29,3 +31,5 @@ struct OrganDefinition {
 /// Reads the bytes of an XML organ definition. Throws FormatError where they are not XML of that
 /// kind or one of the tables that make an organ is missing.
 OrganDefinition readOrganDefinition(std::string bytes);
+
+} // namespace velmora

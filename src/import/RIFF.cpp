@@ -8,6 +8,8 @@
 #include <limits>
 #include <system_error>
 
+namespace velmora {
+
 namespace RIFF {
 
 namespace {
@@ -207,3 +209,5 @@ std::string readText(const Chunk* chunk)
 }
 
 } // namespace RIFF
+
+} // namespace velmora

@@ -11,6 +11,8 @@
 #include <type_traits>
 #include <vector>
 
+namespace velmora {
+
 /// RIFF, the container of nested chunks in which WAVE files and sample banks are kept ("Multimedia
 /// Programming Interface and Data Specifications 1.0", IBM and Microsoft, 1991). Opening a file
 /// reads the headers of its whole tree; the data stays in the file until it is asked for.
@@ -117,3 +119,5 @@ template <> const List* List::get<List>(std::uint32_t wanted) const;
 template <> std::vector<const List*> List::all<List>(std::uint32_t wanted) const;
 
 } // namespace RIFF
+
+} // namespace velmora

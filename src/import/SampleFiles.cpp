@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace velmora {
+
 std::filesystem::path SampleFiles::find(const std::filesystem::path& folder,
                                         std::string_view relative)
 {
@@ -59,3 +61,5 @@ std::string SampleFiles::spelling(const std::filesystem::path& folder, const std
     }
     return name;
 }
+
+} // namespace velmora

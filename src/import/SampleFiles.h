@@ -6,6 +6,8 @@
 #include <string_view>
 #include <unordered_map>
 
+namespace velmora {
+
 /// Finds the files that organ definitions name, which were made where letter case and the kind of
 /// slash do not matter. Reads each folder once.
 class SampleFiles {
@@ -29,3 +31,5 @@ private:
 
     std::unordered_map<std::string, Names> folders_;
 };
+
+} // namespace velmora

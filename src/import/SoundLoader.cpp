@@ -1,10 +1,12 @@
 #include "import/SoundLoader.h"
 
+#include "audio/AudioFileDecoder.h"
 #include "base/FormatError.h"
-#include "platform/AudioFileDecoder.h"
 
 #include <algorithm>
 #include <new>
+
+namespace velmora {
 
 namespace {
 
@@ -94,3 +96,5 @@ SoundLoader::Slot SoundLoader::decode(const std::filesystem::path& file)
     }
     return slot;
 }
+
+} // namespace velmora

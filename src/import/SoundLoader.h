@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Pcm.h"
+#include "audio/Pcm.h"
 
 #include <condition_variable>
 #include <cstddef>
@@ -11,6 +11,8 @@
 #include <string>
 #include <thread>
 #include <vector>
+
+namespace velmora {
 
 /// Decodes sound files on several threads ahead of the one that takes them, in their order. No more
 /// is decoded ahead than a few megabytes, or one file where that is larger.
@@ -51,3 +53,5 @@ private:
 
     std::vector<std::jthread> threads_; ///< last, and so ended first
 };
+
+} // namespace velmora

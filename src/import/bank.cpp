@@ -2,6 +2,8 @@
 
 #include "import/Import.h"
 
+namespace velmora {
+
 namespace bank {
 
 void finish(Import& import)
@@ -22,3 +24,5 @@ void finish(Import& import)
 }
 
 } // namespace bank
+
+} // namespace velmora

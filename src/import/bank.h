@@ -5,6 +5,8 @@
 
 #include <string>
 
+namespace velmora {
+
 struct Import;
 
 /// What the importers of sample banks have in common.
@@ -23,3 +25,5 @@ template <class Element> const Element& require(const RIFF::List& list, const ch
 void finish(Import& import);
 
 } // namespace bank
+
+} // namespace velmora

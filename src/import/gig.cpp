@@ -1,11 +1,11 @@
 #include "import/gig.h"
 
+#include "audio/AudioFileDecoder.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
 #include "import/Import.h"
 #include "import/RIFF.h"
 #include "import/bank.h"
-#include "platform/AudioFileDecoder.h"
 #include "sound/ALInstrument.h"
 #include "tuning/Temperament.h"
 
@@ -13,6 +13,8 @@
 
 #include <optional>
 #include <type_traits>
+
+namespace velmora {
 
 namespace {
 
@@ -183,3 +185,5 @@ void readGigaSampler(const RIFF::File& file, Import& import)
     bank::finish(import);
     log.info("DONE {}", waves.size());
 }
+
+} // namespace velmora

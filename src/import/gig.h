@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <filesystem>
 
+namespace velmora {
+
 struct Import;
 
 namespace RIFF {
@@ -36,3 +38,5 @@ void readGigaSampler(const std::filesystem::path& path, Import& import);
 
 /// The same of an opened bank.
 void readGigaSampler(const RIFF::File& file, Import& import);
+
+} // namespace velmora

@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <unordered_map>
 
+namespace velmora {
+
 namespace hauptwerk1 {
 
 namespace {
@@ -212,3 +214,5 @@ void readHauptwerk1(const std::filesystem::path& path, Import& import)
     for (InstrumentStop& stop : import.instrument->stops())
         stop.tune(equal, 0, static_cast<int>(kKeys) - 1);
 }
+
+} // namespace velmora

@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+namespace velmora {
+
 namespace hauptwerk1 {
 
 /// A section's values by their keys.
@@ -32,3 +34,5 @@ Organ findPipes(const Sections& sections, const std::filesystem::path& folder);
 /// Imports a Hauptwerk organ definition of version 1 with its samples: a stop for each section
 /// whose name begins with "Stop". Throws FormatError and Cancelled.
 void readHauptwerk1(const std::filesystem::path& path, Import& import);
+
+} // namespace velmora

@@ -8,6 +8,8 @@
 
 #include <unordered_map>
 
+namespace velmora {
+
 namespace {
 
 /// How often progress is shown.
@@ -133,3 +135,5 @@ void readXML(const std::filesystem::path& path, Import& import)
     import.name = definition.name;
     loadOrgan(XmlAssembly(path, definition).assemble(), import);
 }
+
+} // namespace velmora

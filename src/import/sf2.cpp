@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <array>
 
+namespace velmora {
+
 namespace {
 
 using sf2::sfInst;
@@ -221,3 +223,5 @@ void readSoundFont(const RIFF::File& file, Import& import)
     import.name = RIFF::readText(info.get<RIFF::Chunk>(RIFF::code("INAM")));
     bank::finish(import);
 }
+
+} // namespace velmora

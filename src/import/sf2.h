@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <filesystem>
 
+namespace velmora {
+
 struct Import;
 
 namespace RIFF {
@@ -64,3 +66,5 @@ void readSoundFont(const std::filesystem::path& path, Import& import);
 
 /// The same of an opened bank.
 void readSoundFont(const RIFF::File& file, Import& import);
+
+} // namespace velmora

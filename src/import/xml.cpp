@@ -7,6 +7,8 @@
 #include <iostream>
 #include <limits>
 
+namespace velmora {
+
 namespace xml {
 
 namespace {
@@ -255,3 +257,5 @@ bool nws(const char& character)
 }
 
 } // namespace xml
+
+} // namespace velmora

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+namespace velmora {
+
 /// A small, forgiving reader of XML: elements, attributes in double quotes, and text. Entities,
 /// comments, CDATA sections and document types are not recognised; a comment is read as an element.
 namespace xml {
@@ -140,3 +142,5 @@ void tabs(std::uint32_t count);
 bool nws(const char& character);
 
 } // namespace xml
+
+} // namespace velmora

@@ -6,6 +6,8 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 
+namespace velmora {
+
 namespace {
 
 constexpr std::chrono::seconds kInterval(5);
@@ -38,3 +40,5 @@ void DisplayWake::userActivity()
     message.setAutoStartService(false);
     bus_->send(message);
 }
+
+} // namespace velmora

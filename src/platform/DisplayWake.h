@@ -6,6 +6,8 @@
 
 class QDBusConnection;
 
+namespace velmora {
+
 /// Keeps the display from going to sleep while music is played, by telling the desktop's screen
 /// saver of the user's activity (org.freedesktop.ScreenSaver). Main thread only.
 class DisplayWake {
@@ -27,3 +29,5 @@ private:
     std::unique_ptr<QDBusConnection> bus_; // null where there is none
     std::optional<std::chrono::steady_clock::time_point> told_;
 };
+
+} // namespace velmora

@@ -12,6 +12,8 @@
 #include <system_error>
 #include <utility>
 
+namespace velmora {
+
 namespace {
 
 constexpr long kNanosecondsPerSecond = 1'000'000'000;
@@ -65,3 +67,5 @@ void IntervalTimer::expired() const
     if (read(descriptor_, &due, sizeof due) == sizeof due)
         tick_();
 }
+
+} // namespace velmora

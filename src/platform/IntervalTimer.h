@@ -6,6 +6,8 @@
 
 class QSocketNotifier;
 
+namespace velmora {
+
 /// Calls back at a steady interval in the event loop of the thread that made it, during menus and
 /// dialogs too. The ticks stand on the interval's multiples of CLOCK_MONOTONIC and do not drift.
 ///
@@ -28,3 +30,5 @@ private:
     std::function<void()> tick_;
     std::unique_ptr<QSocketNotifier> notifier_;
 };
+
+} // namespace velmora

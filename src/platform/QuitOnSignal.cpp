@@ -7,6 +7,8 @@
 #include <sys/signalfd.h>
 #include <unistd.h>
 
+namespace velmora {
+
 namespace {
 
 int openSignals()
@@ -31,3 +33,5 @@ void QuitOnSignal::watch(std::function<void()> quit)
     notifier_ = std::make_unique<QSocketNotifier>(descriptor_, QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, std::move(quit));
 }
+
+} // namespace velmora

@@ -5,6 +5,8 @@
 
 class QSocketNotifier;
 
+namespace velmora {
+
 /// Calls back in the event loop, once the program is asked by SIGINT or SIGTERM to end. To be made
 /// before any other thread is: threads inherit that these signals wait to be read here.
 class QuitOnSignal {
@@ -21,3 +23,5 @@ private:
     int descriptor_;
     std::unique_ptr<QSocketNotifier> notifier_;
 };
+
+} // namespace velmora

@@ -2,6 +2,8 @@
 
 #include <csignal>
 
+namespace velmora {
+
 /// The signals that ask the program to end: Ctrl-C and the request to terminate.
 inline sigset_t endSignals()
 {
@@ -11,3 +13,5 @@ inline sigset_t endSignals()
     sigaddset(&numbers, SIGTERM);
     return numbers;
 }
+
+} // namespace velmora

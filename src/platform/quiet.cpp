@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+namespace velmora {
+
 namespace {
 
 void logAlsa(const char* /*file*/, int /*line*/, const char* function, int /*error*/,
@@ -54,3 +56,5 @@ void quietSoundLibraries()
 {
     [[maybe_unused]] static const bool done = redirect();
 }
+
+} // namespace velmora

@@ -9,6 +9,8 @@
 #include <stdexcept>
 #include <system_error>
 
+namespace velmora {
+
 namespace {
 
 /// Empty where it was written.
@@ -45,3 +47,5 @@ void writeFile(const std::filesystem::path& path, std::string_view bytes)
         throw std::runtime_error(whole.filename().string() + " cannot be written in " +
                                  whole.parent_path().string() + ": " + reason);
 }
+
+} // namespace velmora

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace velmora {
+
 namespace {
 
 bool isShare(float value)
@@ -41,3 +43,5 @@ void setPrefColor(const std::string& key, const Color& color)
 {
     setPreference(key, QVariantList{color.red, color.green, color.blue, color.alpha});
 }
+
+} // namespace velmora

@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace velmora {
+
 /// A colour as it is drawn: red, green, blue and opacity, each from 0 to 1.
 struct Color {
     float red = 0;
@@ -25,3 +27,5 @@ struct Color {
 
 /// Stored as four numbers.
 void setPrefColor(const std::string& key, const Color& color);
+
+} // namespace velmora

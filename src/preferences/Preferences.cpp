@@ -7,6 +7,8 @@
 #include <limits>
 #include <set>
 
+namespace velmora {
+
 namespace {
 
 /// Says of each key once that what is stored for it is of no use.
@@ -73,3 +75,5 @@ void setPrefString(const std::string& key, const std::string& value)
 {
     setPreference(key, QString::fromStdString(value));
 }
+
+} // namespace velmora

@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace velmora {
+
 // What the user has set. Every call reads afresh and is cheap enough for drawing. Defaults are only
 // kept in memory. On the main thread.
 
@@ -30,3 +32,5 @@ void setPrefString(const std::string& key, const std::string& value);
 
 /// Forgets what the user has set for a key: its default holds again.
 void resetPref(const std::string& key);
+
+} // namespace velmora

@@ -6,6 +6,8 @@
 #include <QSettings>
 #include <QVariantMap>
 
+namespace velmora {
+
 namespace {
 
 QVariantList color(double red, double green, double blue)
@@ -81,3 +83,5 @@ void resetPref(const std::string& key)
 {
     settings().remove(QString::fromStdString(key));
 }
+
+} // namespace velmora

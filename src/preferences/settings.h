@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace velmora {
+
 /// What is kept for a key: what the user has set, or its default, or what the windows remember from
 /// run to run. Invalid where there is neither.
 QVariant preference(const std::string& key);
@@ -15,3 +17,5 @@ void setPreference(const std::string& key, const QVariant& value);
 
 /// Whether what is set outlives the program.
 bool arePreferencesWritable();
+
+} // namespace velmora

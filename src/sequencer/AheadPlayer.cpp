@@ -9,6 +9,8 @@
 
 #include <chrono>
 
+namespace velmora {
+
 namespace {
 
 /// Goes before what is not in a hurry, where the user may do so.
@@ -86,3 +88,5 @@ void AheadPlayer::run()
             sound(host_, sounds_[next_]);
     }
 }
+
+} // namespace velmora

@@ -9,6 +9,8 @@
 #include <thread>
 #include <vector>
 
+namespace velmora {
+
 /// The beginning or the end of a note on the instrument.
 struct KeySound {
     bool starts;
@@ -51,3 +53,5 @@ private:
     bool ends_ = false;
     std::thread thread_;
 };
+
+} // namespace velmora

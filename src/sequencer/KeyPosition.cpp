@@ -3,6 +3,8 @@
 #include <array>
 #include <string_view>
 
+namespace velmora {
+
 namespace {
 
 /// Keys with successive scan codes.
@@ -63,3 +65,5 @@ std::optional<int> channelNumber(char usCharacter)
 {
     return placeIn(kChannels, usCharacter);
 }
+
+} // namespace velmora

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace velmora {
+
 /// What the on-screen keyboard asks of the document that it shows. On the main thread.
 class KeyboardDocument {
 public:
@@ -12,3 +14,5 @@ public:
     /// The keys that are held have changed.
     virtual void midiInput() = 0;
 };
+
+} // namespace velmora

@@ -5,6 +5,8 @@
 #include <QDataStream>
 #include <QIODevice>
 
+namespace velmora {
+
 QByteArray encodeNotes(const std::vector<Note>& notes)
 {
     QByteArray bytes;
@@ -30,3 +32,5 @@ std::vector<Note> decodeNotes(const QByteArray& bytes)
     }
     return notes;
 }
+
+} // namespace velmora

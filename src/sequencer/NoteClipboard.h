@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace velmora {
+
 /// The type of notes on a clipboard.
 constexpr auto kNotesMimeType = "application/x-velmora-notes";
 
@@ -14,3 +16,5 @@ QByteArray encodeNotes(const std::vector<Note>& notes);
 
 /// The notes of such bytes, as `makeValid` makes them; none where there is anything else in them.
 std::vector<Note> decodeNotes(const QByteArray& bytes);
+
+} // namespace velmora

@@ -16,6 +16,8 @@
 #include <system_error>
 #include <utility>
 
+namespace velmora {
+
 namespace {
 
 constexpr const char* kExtension = ".unsaved";
@@ -109,3 +111,5 @@ void RecoveryFile::discard()
     lock_.reset();
     name_ = newName();
 }
+
+} // namespace velmora

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace velmora {
+
 struct Abandoned;
 
 /// Where one open document is kept while it is not saved, for the next start of the program if this
@@ -52,3 +54,5 @@ struct Abandoned {
     RecoveryFile file;
     UnsavedSequence sequence;
 };
+
+} // namespace velmora

@@ -6,6 +6,8 @@
 #include <exception>
 #include <utility>
 
+namespace velmora {
+
 RecoveryKeeper::RecoveryKeeper(SequenceDocument& document, RecoveryFile file,
                                std::chrono::milliseconds interval)
     : document_(document), file_(std::move(file))
@@ -78,3 +80,5 @@ void RecoveryKeeper::waitForWriter()
     if (writer_.valid())
         writer_.wait();
 }
+
+} // namespace velmora

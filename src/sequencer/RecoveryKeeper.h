@@ -8,6 +8,8 @@
 #include <chrono>
 #include <future>
 
+namespace velmora {
+
 class SequenceDocument;
 
 /// Keeps what is not saved of a document in a recovery file, on a thread of its own, and discards
@@ -45,3 +47,5 @@ private:
     QTimer timer_;
     std::future<void> writer_;
 };
+
+} // namespace velmora

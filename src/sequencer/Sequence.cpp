@@ -5,6 +5,8 @@
 #include <iterator>
 #include <utility>
 
+namespace velmora {
+
 namespace {
 
 constexpr double kLastKey = 127.0;
@@ -195,3 +197,5 @@ template <class Change> void Sequence::forSelected(Change change)
         if (Note* note = find(id))
             change(*note);
 }
+
+} // namespace velmora

@@ -5,6 +5,8 @@
 #include <map>
 #include <vector>
 
+namespace velmora {
+
 class Sound;
 
 /// One note. `oldStart`, `oldKey` and `oldLength` are its committed position and size, from which
@@ -104,3 +106,5 @@ private:
     std::map<std::uint64_t, std::uint64_t> index_; ///< Identity to position in `notes_`.
     std::vector<Note> notes_;
 };
+
+} // namespace velmora

@@ -3,6 +3,8 @@
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceTime.h"
 
+namespace velmora {
+
 SequenceClock::SequenceClock(SequenceDocument& document) : document_(document)
 {
     // Queued: the tick that ends the playing does not end its own timer.
@@ -37,3 +39,5 @@ void SequenceClock::adjust()
             [this] { document_.loop(); });
     }
 }
+
+} // namespace velmora

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+namespace velmora {
+
 class SequenceDocument;
 
 /// Drives a document 1024 times in a second while it plays or records; what it plays keeps its time
@@ -26,3 +28,5 @@ private:
     std::unique_ptr<AheadPlayer> player_;
     std::unique_ptr<IntervalTimer> playTimer_;
 };
+
+} // namespace velmora

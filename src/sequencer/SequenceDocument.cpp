@@ -13,6 +13,8 @@
 #include <new>
 #include <utility>
 
+namespace velmora {
+
 namespace {
 
 /// A recording looks at the keys twice in a tick of the clock: so a note is as long, within a tick,
@@ -310,3 +312,5 @@ void SequenceDocument::setLoop(bool loop)
     loop_ = loop;
     emit optionsChanged();
 }
+
+} // namespace velmora

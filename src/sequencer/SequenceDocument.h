@@ -18,6 +18,8 @@
 #include <span>
 #include <string>
 
+namespace velmora {
+
 struct UnsavedSequence;
 
 /// A sequence and its transport: plays the notes on the application's current instrument, through
@@ -245,3 +247,5 @@ private:
     /// with the length before, or none for a new one.
     std::map<std::uint64_t, std::optional<double>> taken_;
 };
+
+} // namespace velmora

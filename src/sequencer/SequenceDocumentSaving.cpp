@@ -7,6 +7,8 @@
 #include <new>
 #include <stdexcept>
 
+namespace velmora {
+
 bool SequenceDocument::saveToURL(const std::filesystem::path& path, const std::string& type,
                                  SaveOperation operation)
 {
@@ -67,3 +69,5 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
     measure();
     emit changed();
 }
+
+} // namespace velmora

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+namespace velmora {
+
 namespace {
 
 /// One entry of the undo menu. A gesture has done its edit before it is registered: the stack does
@@ -130,3 +132,5 @@ QString SequenceDocument::editText(const char* verb, std::size_t notes)
 {
     return tr(verb) + ' ' + (notes == 1 ? tr("1 Note") : tr("%1 Notes").arg(notes));
 }
+
+} // namespace velmora

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace velmora {
+
 namespace {
 
 /// The pixels at the end of a note by which it is resized.
@@ -199,3 +201,5 @@ double SequenceEditor::snapped(double step) const
 {
     return document_.snapToGrid() ? std::floor(step) : step;
 }
+
+} // namespace velmora

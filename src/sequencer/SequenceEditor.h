@@ -8,6 +8,8 @@
 #include <map>
 #include <vector>
 
+namespace velmora {
+
 class SequenceDocument;
 
 /// A place in the piano roll: a whole key, and a step.
@@ -78,3 +80,5 @@ private:
     std::uint64_t newNote_ = 0;     ///< Being resized or drawn; 0 for none.
     std::map<char, int> isomorphs_; ///< The numbers of the pressed keys of the isomorphic layout.
 };
+
+} // namespace velmora

@@ -1,8 +1,8 @@
 #include "sequencer/SequenceFile.h"
 
 #include "base/Text.h"
-#include "platform/IMelody.h"
-#include "platform/StandardMidiFileWriter.h"
+#include "midi/IMelody.h"
+#include "midi/StandardMidiFileWriter.h"
 
 #include <algorithm>
 #include <array>
@@ -10,6 +10,8 @@
 #include <cstddef>
 #include <optional>
 #include <stdexcept>
+
+namespace velmora {
 
 namespace {
 
@@ -101,3 +103,5 @@ std::string writeSequence(const Sequence& sequence, const std::string& type)
     std::ranges::transform(sequence.notes(), notes.begin(), midiNote);
     return type == kIMelodyType ? writeIMelody(notes) : writeStandardMidiFile(notes);
 }
+
+} // namespace velmora

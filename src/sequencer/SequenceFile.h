@@ -1,10 +1,12 @@
 #pragma once
 
-#include "platform/StandardMidiFile.h"
+#include "midi/StandardMidiFile.h"
 #include "sequencer/Sequence.h"
 
 #include <filesystem>
 #include <string>
+
+namespace velmora {
 
 constexpr const char* kMidiFileType = "MIDI File";
 constexpr const char* kIMelodyType = "iMelody";
@@ -36,3 +38,5 @@ SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyR
 /// four bits remain, and a velocity that would be 0 and so end a note is 1. Throws
 /// std::length_error where a note lies beyond all music.
 std::string writeSequence(const Sequence& sequence, const std::string& type);
+
+} // namespace velmora

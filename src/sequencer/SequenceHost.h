@@ -2,6 +2,8 @@
 
 #include <mutex>
 
+namespace velmora {
+
 class Instrument;
 class Temperament;
 
@@ -20,3 +22,5 @@ public:
     /// Guards the instrument and the temperament.
     virtual std::mutex& soundLock() = 0;
 };
+
+} // namespace velmora

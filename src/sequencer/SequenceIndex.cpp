@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <bitset>
 
+namespace velmora {
+
 namespace {
 
 using Moments = std::vector<SequenceIndex::Moment>;
@@ -62,3 +64,5 @@ const std::vector<std::uint32_t>& SequenceIndex::concernedBy(double from, double
     concerned_.erase(std::unique(concerned_.begin(), concerned_.end()), concerned_.end());
     return concerned_;
 }
+
+} // namespace velmora

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace velmora {
+
 /// The notes of a sequence by the moments at which they start and end, so that a tick need not walk
 /// through all of them. Names notes by their position in the list, and holds until notes change.
 class SequenceIndex {
@@ -31,3 +33,5 @@ private:
     std::vector<std::uint32_t> keys_;
     std::vector<std::uint32_t> concerned_;
 };
+
+} // namespace velmora

@@ -12,6 +12,8 @@
 #include <cstdio>
 #include <utility>
 
+namespace velmora {
+
 namespace {
 
 /// What Shift adds to the number of a channel and of an isomorphic key.
@@ -213,3 +215,5 @@ void SequenceEditor::paste(std::vector<Note> notes)
     emit document_.changed();
     emit document_.frame();
 }
+
+} // namespace velmora

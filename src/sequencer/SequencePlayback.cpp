@@ -7,6 +7,8 @@
 #include <limits>
 #include <utility>
 
+namespace velmora {
+
 namespace {
 
 /// What is planned: the ticks of a quarter of a second, which is longer than anything is painted.
@@ -190,3 +192,5 @@ void SequencePlayback::forgetUnmarked()
 {
     std::erase_if(marked_, [this](std::uint32_t position) { return !isMarked(position); });
 }
+
+} // namespace velmora

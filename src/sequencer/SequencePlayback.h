@@ -11,6 +11,8 @@
 #include <optional>
 #include <vector>
 
+namespace velmora {
+
 /// Sounds the notes of a sequence on the application's current instrument, flags those that play or
 /// are at the play position, and keeps the state of each key for the on-screen keyboard. The work
 /// of a tick follows what starts, sounds or ends in it, not the length of the sequence.
@@ -74,3 +76,5 @@ private:
     std::optional<double> soundedTo_; ///< By a plan that was taken back.
     std::vector<KeySound> sounds_;    ///< Being planned.
 };
+
+} // namespace velmora

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace velmora {
+
 namespace {
 
 /// Notes as close as this to the position, in steps, stand at it.
@@ -101,3 +103,5 @@ void SequenceDocument::midiInput()
     getCurrentNotes(mode_ == Mode::Stopped);
     emit frame();
 }
+
+} // namespace velmora

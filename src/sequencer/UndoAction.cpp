@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace velmora {
+
 UndoAction UndoAction::withNotes(std::vector<Note> notes)
 {
     UndoAction action;
@@ -52,3 +54,5 @@ void UndoAction::unsize(Sequence& sequence) const
     for (const Note& note : notes_)
         sequence.unsize(note);
 }
+
+} // namespace velmora

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace velmora {
+
 /// Whole copies of the notes that an edit concerns, to do it to a sequence again or to undo it.
 class UndoAction {
 public:
@@ -27,3 +29,5 @@ public:
 private:
     std::vector<Note> notes_;
 };
+
+} // namespace velmora

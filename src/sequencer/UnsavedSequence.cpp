@@ -7,6 +7,8 @@
 #include <QDataStream>
 #include <QIODevice>
 
+namespace velmora {
+
 namespace {
 
 constexpr quint32 kMagic = 0x56524543; // "VREC"
@@ -102,3 +104,5 @@ UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes)
         sequence.notes.push_back(readNote(reader));
     return sequence;
 }
+
+} // namespace velmora

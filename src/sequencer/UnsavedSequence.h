@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+namespace velmora {
+
 /// A document that is not saved yet, as it is kept against a crash.
 struct UnsavedSequence {
     std::filesystem::path path; ///< Of the document's file; empty where it has none.
@@ -28,3 +30,5 @@ std::string encodeUnsaved(const UnsavedSequence& sequence);
 /// Throws FormatError with the byte where they are not the bytes of a recovery file of this version
 /// or hold what is no note. The notes are as `makeValid` makes them.
 UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes);
+
+} // namespace velmora

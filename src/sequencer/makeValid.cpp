@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace velmora {
+
 namespace {
 
 constexpr std::uint32_t kLastChannel = 255;
@@ -25,3 +27,5 @@ bool makeValid(Note& note)
     return !std::isnan(all) && note.channel <= kLastChannel && note.key < kKeys &&
            note.oldKey < kKeys;
 }
+
+} // namespace velmora

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace velmora {
+
 namespace {
 
 /// An empty one takes some kilobytes.
@@ -155,3 +157,5 @@ void ALInstrument::tune(const Temperament& temperament, int lo, int hi)
     }
     pitchesSet_ = Sample::pitchesSet();
 }
+
+} // namespace velmora

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+namespace velmora {
+
 /// Plays recorded samples through OpenAL: a key sounds in every stop whose volume is above zero.
 /// The velocity of a key is ignored. Needs a current OpenAL context from its making to its end.
 class ALInstrument : public Instrument {
@@ -51,3 +53,5 @@ private:
     std::array<double, kKeys> pitches_{};
     unsigned pitchesSet_ = 0; ///< `Sample::pitchesSet` at that time.
 };
+
+} // namespace velmora

@@ -1,17 +1,17 @@
 #pragma once
 
+#include "tuning/Tunable.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
-class Temperament;
+namespace velmora {
 
 /// A sound source that plays MIDI keys 0…127 at the pitches of a temperament. Not safe for use from
 /// several threads at once: the application's lock guards it.
-class Instrument {
+class Instrument : public Tunable {
 public:
-    virtual ~Instrument() = default;
-
     /// Whether it offers a choice of General MIDI programs.
     virtual bool hasSubMenu() const { return false; }
 
@@ -27,17 +27,11 @@ public:
     /// What a stop is called; empty where it has no name.
     virtual std::string stopName(std::size_t /*stop*/) const { return {}; }
 
-    /// Starts a key; velocity from 0 to 1.
-    virtual void play(int key, float velocity) = 0;
-
     /// Releases a key. One that does not sound is ignored.
     virtual void stop(int key) = 0;
 
     /// Ends every sound at once.
     virtual void silence() = 0;
-
-    /// Retunes the keys `lo` to `hi` inclusive, sounding ones too.
-    virtual void tune(const Temperament& temperament, int lo, int hi) = 0;
 
     /// One step, 60 in a second, in the decay of released keys.
     virtual void fade(double /*factor*/) {}
@@ -48,3 +42,5 @@ public:
     /// Bytes of sample memory held.
     std::int64_t usage = 0;
 };
+
+} // namespace velmora

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace velmora {
+
 void InstrumentStop::extend(int key, const Sound& sound, double rootPitch)
 {
     const auto slot = static_cast<std::size_t>(key);
@@ -24,3 +26,5 @@ void InstrumentStop::tune(const Temperament& temperament, int lo, int hi)
         samples[slot].tune(temperament.getPitch(slot));
     }
 }
+
+} // namespace velmora

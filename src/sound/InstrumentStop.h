@@ -7,6 +7,8 @@
 #include <bitset>
 #include <string>
 
+namespace velmora {
+
 class Temperament;
 
 /// A rank of up to 128 samples, one for each MIDI key, with a volume of its own.
@@ -26,3 +28,5 @@ struct InstrumentStop {
     std::array<Sample, kKeys> samples;
     std::bitset<kKeys> extended; ///< The keys that were given a sound by `extend`.
 };
+
+} // namespace velmora

@@ -4,6 +4,8 @@
 #include <atomic>
 #include <cstddef>
 
+namespace velmora {
+
 constexpr std::size_t kKeys = 128;
 constexpr int kMiddleC = 60;
 
@@ -25,3 +27,5 @@ extern std::array<std::atomic<float>, kKeys> noteVelocities;
 /// When each key was last pressed and released, in the seconds of `getTime`. Written before its
 /// state.
 extern std::array<std::atomic<double>, kKeys> notePressTimes, noteReleaseTimes;
+
+} // namespace velmora

@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+namespace velmora {
+
 namespace {
 
 constexpr int kAllSoundOff = 120;
@@ -89,3 +91,5 @@ void MIDIInstrument::setInstrument(std::uint8_t program)
     for (int channel = 0; channel < kChannels; ++channel)
         device_->midiEvent(0xC0 | channel, program, 0);
 }
+
+} // namespace velmora

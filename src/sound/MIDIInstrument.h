@@ -1,9 +1,11 @@
 #pragma once
 
-#include "platform/MusicDevice.h"
+#include "audio/MusicDevice.h"
 #include "sound/Instrument.h"
 
 #include <memory>
+
+namespace velmora {
 
 /// Plays a General MIDI synthesizer in any temperament: each pitch class has a MIDI channel of its
 /// own, bent to its pitch. Pitch class 0 is the reference and is never bent.
@@ -36,3 +38,5 @@ private:
     std::uint8_t program_ = kStartUpProgram;
     float volume_ = 1.0F;
 };
+
+} // namespace velmora

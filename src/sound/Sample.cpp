@@ -7,6 +7,8 @@
 #include <atomic>
 #include <utility>
 
+namespace velmora {
+
 namespace {
 
 constexpr float kFirstGain = 0.4F;
@@ -118,3 +120,5 @@ void Sample::tune(double pitch)
     ++pitchesGiven;
     alSourcef(source_, AL_PITCH, factor);
 }
+
+} // namespace velmora

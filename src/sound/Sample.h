@@ -2,6 +2,8 @@
 
 #include "sound/Sound.h"
 
+namespace velmora {
+
 /// What one key of one stop sounds: an OpenAL source that plays the buffer of a sound, at the pitch
 /// of the key. Without a source until `setBuffer`: then nothing else has an effect.
 class Sample {
@@ -54,3 +56,5 @@ private:
     double rootPitch_ = 0.0;
     double gain_ = 0.0;
 };
+
+} // namespace velmora

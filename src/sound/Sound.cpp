@@ -8,6 +8,8 @@
 #include <limits>
 #include <new>
 
+namespace velmora {
+
 namespace {
 
 /// 0, which OpenAL refuses, for what is no rate.
@@ -47,3 +49,5 @@ Sound::~Sound()
 {
     alDeleteBuffers(1, &buffer_);
 }
+
+} // namespace velmora

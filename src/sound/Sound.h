@@ -1,10 +1,12 @@
 #pragma once
 
-#include "platform/Pcm.h"
+#include "audio/Pcm.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <span>
+
+namespace velmora {
 
 /// One sound in an OpenAL buffer, which goes with it. Needs a current OpenAL context; the sources
 /// that play it must go first.
@@ -40,3 +42,5 @@ private:
     int channels_;
     int rate_;
 };
+
+} // namespace velmora

@@ -1,10 +1,12 @@
 #include "tuning/DynamicTemperament.h"
 
 #include "base/Log.h"
-#include "sound/Instrument.h"
+#include "tuning/Tunable.h"
 
 #include <algorithm>
 #include <cassert>
+
+namespace velmora {
 
 namespace {
 
@@ -84,7 +86,7 @@ float DynamicTemperament::score(const Voice& struck, std::size_t candidate) cons
     return sum;
 }
 
-void DynamicTemperament::setup(Instrument& instrument, unsigned char key, float velocity)
+void DynamicTemperament::setup(Tunable& instrument, unsigned char key, float velocity)
 {
     const std::size_t pitchClass = key % 12U;
     const std::size_t home = kHome[pitchClass];
@@ -103,7 +105,7 @@ void DynamicTemperament::setup(Instrument& instrument, unsigned char key, float 
     instrument.tune(*this, 0, 127);
 }
 
-void DynamicTemperament::isomorph(Instrument& instrument, int n)
+void DynamicTemperament::isomorph(Tunable& instrument, int n)
 {
     assert(n >= -1);
     const int k = (n + 1) / 3;
@@ -126,3 +128,5 @@ void DynamicTemperament::fade(double factor)
     if (std::ranges::all_of(voices_, [](const Voice& voice) { return voice.weight == 0.0F; }))
         voices_[0] = {kHome[0], static_cast<float>(kFaded)};
 }
+
+} // namespace velmora

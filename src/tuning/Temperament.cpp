@@ -1,5 +1,7 @@
 #include "tuning/Temperament.h"
 
+namespace velmora {
+
 const Temperament equal = Temperament::Equal();
 
 Temperament Temperament::Equal()
@@ -45,9 +47,9 @@ const Tuning& Temperament::getTuning(unsigned long key) const
     return *tunings_[key % 12];
 }
 
-void Temperament::setup(Instrument& /*instrument*/, unsigned char /*key*/, float /*velocity*/) {}
+void Temperament::setup(Tunable& /*instrument*/, unsigned char /*key*/, float /*velocity*/) {}
 
-void Temperament::isomorph(Instrument& /*instrument*/, int /*n*/) {}
+void Temperament::isomorph(Tunable& /*instrument*/, int /*n*/) {}
 
 void Temperament::fade(double /*factor*/) {}
 
@@ -60,3 +62,5 @@ void Temperament::append(std::unique_ptr<Tuning> tuning)
 {
     tunings_.push_back(std::move(tuning));
 }
+
+} // namespace velmora

@@ -5,7 +5,9 @@
 #include <memory>
 #include <vector>
 
-class Instrument;
+namespace velmora {
+
+class Tunable;
 
 /// The pitch classes of the keyboard and the frequency they start from; turns a MIDI key into
 /// hertz.
@@ -30,10 +32,10 @@ public:
     virtual const Tuning& getTuning(unsigned long key) const;
 
     /// Called before `key` is played on the instrument: a temperament that adapts retunes it here.
-    virtual void setup(Instrument& instrument, unsigned char key, float velocity);
+    virtual void setup(Tunable& instrument, unsigned char key, float velocity);
 
     /// Gives a pitch class another spelling and plays it; does nothing where there is only one.
-    virtual void isomorph(Instrument& instrument, int n);
+    virtual void isomorph(Tunable& instrument, int n);
 
     /// Called 60 times a second with the factor by which the influence of struck keys decays.
     virtual void fade(double factor);
@@ -59,3 +61,5 @@ private:
 
 /// The reference temperament: every sample's root pitch is given in it.
 extern const Temperament equal;
+
+} // namespace velmora

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+namespace velmora {
+
 double Cent::tune(double base, int octave) const
 {
     return base * std::exp2(cents_ / 1200.0 + octave);
@@ -46,3 +48,5 @@ double Freq::ratio() const
 {
     return 0.0;
 }
+
+} // namespace velmora

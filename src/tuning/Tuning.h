@@ -1,5 +1,7 @@
 #pragma once
 
+namespace velmora {
+
 /// Where one pitch class lies above the tonic.
 class Tuning {
 public:
@@ -60,3 +62,5 @@ public:
 private:
     double frequency_;
 };
+
+} // namespace velmora

@@ -9,6 +9,8 @@
 
 #include <new>
 
+namespace velmora {
+
 TuningDocument::TuningDocument() : temperament_(std::make_unique<Temperament>()) {}
 
 std::unique_ptr<TuningDocument> TuningDocument::initBuiltin(const std::string& name)
@@ -49,3 +51,5 @@ bool TuningDocument::readFromURL(const std::filesystem::path& path, std::string_
     }
     return false;
 }
+
+} // namespace velmora

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+namespace velmora {
+
 /// A temperament and its display name: built in, or read from a tuning file.
 class TuningDocument {
 public:
@@ -40,3 +42,5 @@ private:
     std::unique_ptr<Temperament> temperament_;
     std::string errorString_;
 };
+
+} // namespace velmora

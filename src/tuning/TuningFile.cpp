@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+namespace velmora {
+
 namespace {
 
 constexpr std::size_t kPitchClasses = 12;
@@ -169,3 +171,5 @@ Temperament readTuning(std::span<const std::byte> bytes, TuningFormat format)
     const Lines lines = splitLines({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
     return format == TuningFormat::Frequencies ? readFrequencies(lines) : readScale(lines);
 }
+
+} // namespace velmora

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <span>
 
+namespace velmora {
+
 enum class TuningFormat {
     Scale,      ///< A Scala scale: a description, the count 12, eleven pitches, the octave.
     Frequencies ///< The base frequency and eleven more in hertz, then one line without meaning.
@@ -18,3 +20,5 @@ enum class TuningFormat {
 ///
 /// Throws FormatError with the line, unless every key has a pitch: finite and above 0 Hz.
 Temperament readTuning(std::span<const std::byte> bytes, TuningFormat format);
+
+} // namespace velmora

@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace velmora {
+
 std::string keyName(unsigned pitchClass)
 {
     static constexpr std::array kNames{"C",  "C#", "D",  "D#", "E",  "F",
@@ -13,3 +15,5 @@ std::string noteName(unsigned key)
 {
     return keyName(key % 12) + std::to_string(static_cast<int>(key / 12) - 1);
 }
+
+} // namespace velmora

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+namespace velmora {
+
 namespace {
 
 /// The fifth in cents: four of them make a pure third and two octaves.
@@ -31,3 +33,5 @@ std::string spelling(double cents)
             return nameOf(fifths);
     return {};
 }
+
+} // namespace velmora

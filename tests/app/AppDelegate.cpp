@@ -9,6 +9,8 @@
 
 #include <thread>
 
+namespace velmora {
+
 namespace {
 
 class AppDelegateTest : public testing::Test {
@@ -95,3 +97,5 @@ TEST_F(AppDelegateTest, WhatWasReceivedReachesTheMainThreadInOrder)
     QCoreApplication::processEvents();
     EXPECT_EQ(seen, told);
 }
+
+} // namespace velmora

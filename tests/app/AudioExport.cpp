@@ -1,8 +1,8 @@
 #include "app/AudioExport.h"
 
 #include "app/AppDelegate.h"
+#include "audio/AudioFileDecoder.h"
 #include "base/File.h"
-#include "platform/AudioFileDecoder.h"
 #include "sound/KeyTables.h"
 #include "support/Bank.h"
 #include "support/OrganFolder.h"
@@ -11,6 +11,8 @@
 
 #include <QEventLoop>
 #include <gmock/gmock.h>
+
+namespace velmora {
 
 namespace {
 
@@ -117,3 +119,5 @@ TEST_F(AudioExportTest, LeavesNoFileUnlessItIsWhole)
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 2)
         << "the sample and the file that was there";
 }
+
+} // namespace velmora

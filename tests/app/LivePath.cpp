@@ -1,7 +1,7 @@
 // Live playing as a musician has it: a MIDI port in, JACK out.
 
 #include "app/AppDelegate.h"
-#include "platform/Synthesizer.h"
+#include "audio/Synthesizer.h"
 #include "support/Bank.h"
 #include "support/JackServer.h"
 #include "support/MidiSource.h"
@@ -13,6 +13,8 @@
 
 #include <csignal>
 #include <thread>
+
+namespace velmora {
 
 namespace {
 
@@ -156,3 +158,5 @@ TEST(LivePath, TheProgramPlaysInTuneUntilItIsInterrupted)
     EXPECT_EQ(velmora.exitCode(), 0);
     EXPECT_EQ(velmora.readAllStandardError().toStdString(), "");
 }
+
+} // namespace velmora

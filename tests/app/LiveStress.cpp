@@ -1,7 +1,7 @@
 // All threads of live playing at once.
 
 #include "app/AppDelegate.h"
-#include "platform/Synthesizer.h"
+#include "audio/Synthesizer.h"
 #include "sequencer/SequenceDocument.h"
 #include "support/Bank.h"
 #include "support/Stereo.h"
@@ -11,6 +11,8 @@
 
 #include <random>
 #include <thread>
+
+namespace velmora {
 
 TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
 {
@@ -94,3 +96,5 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
         EXPECT_EQ(peak(rendered(*synthesizer, 4800).left), 0.0F);
     }
 }
+
+} // namespace velmora

@@ -14,6 +14,8 @@
 
 #include <thread>
 
+namespace velmora {
+
 namespace {
 
 /// Keeps the event loop going, as late as a window makes it.
@@ -72,3 +74,5 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
                     kTick + kTickOfFile);
     }
 }
+
+} // namespace velmora

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <vector>
 
+namespace velmora {
+
 TEST(Numbers, ReadWhatAtofAndAtoiRead)
 {
     for (const auto& [text, number, integer] : std::vector<std::tuple<const char*, double, int>>{
@@ -35,3 +37,5 @@ TEST(Numbers, DoNotFollowTheLocale)
     EXPECT_EQ(leadingNumber("3.5"), 3.5);
     std::filesystem::remove_all(folder);
 }
+
+} // namespace velmora

@@ -1,8 +1,8 @@
 // The program as it is called from a shell.
 
+#include "audio/AudioFileDecoder.h"
 #include "base/File.h"
-#include "platform/AudioFileDecoder.h"
-#include "platform/MidiBytes.h"
+#include "support/MidiBytes.h"
 #include "support/OrganFolder.h"
 #include "support/Pitch.h"
 #include "support/Stereo.h"
@@ -13,6 +13,8 @@
 #include <nlohmann/json.hpp>
 
 #include <set>
+
+namespace velmora {
 
 using Json = nlohmann::json;
 using testing::HasSubstr;
@@ -178,3 +180,5 @@ TEST_F(CommandLine, DescribesFiles)
     EXPECT_THAT(text.out, HasSubstr("Test: Organ instrument of 2 stops, 384000 bytes of sound\n"));
     EXPECT_THAT(text.out, HasSubstr("Loaded 2 ranks, 2 pipes, 2 samples; skipped 1\n"));
 }
+
+} // namespace velmora

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "audio/OpenALLoopback.h"
 #include "base/FormatError.h"
 #include "import/Import.h"
 #include "import/RIFF.h"
-#include "platform/OpenALLoopback.h"
 #include "support/Pitch.h"
 #include "support/RecordingHost.h"
 #include "support/RiffBytes.h"
@@ -16,6 +16,8 @@
 
 #include <cmath>
 #include <map>
+
+namespace velmora {
 
 /// The keys from which on a stop plays another sound, with its root key: "0 -, 36 Flute 60,".
 inline std::string keysOf(const ALInstrument& instrument, std::size_t stop)
@@ -75,7 +77,7 @@ public:
 
     double centsOff(std::size_t key, double hertzOfA)
     {
-        return ::centsOff(*import.instrument, loopback_, key, hertzOfA);
+        return velmora::centsOff(*import.instrument, loopback_, key, hertzOfA);
     }
 
     RecordingHost host;
@@ -84,3 +86,5 @@ public:
     std::string skipped; ///< names of what was left out, and why
     Import import{host};
 };
+
+} // namespace velmora

@@ -5,6 +5,8 @@
 
 #include <regex>
 
+namespace velmora {
+
 namespace {
 
 using testing::ElementsAre;
@@ -166,3 +168,5 @@ TEST_F(InstrumentDocumentTest, LeavesNothingBehindWhenCancelled)
 }
 
 } // namespace
+
+} // namespace velmora

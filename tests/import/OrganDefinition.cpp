@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <spdlog/fmt/fmt.h>
 
+namespace velmora {
+
 namespace {
 
 TEST(OrganDefinition, KeepsTheValueOfTheRowBeforeForAMissingFullName)
@@ -25,3 +27,5 @@ TEST(OrganDefinition, KeepsTheValueOfTheRowBeforeForAMissingFullName)
 }
 
 } // namespace
+
+} // namespace velmora

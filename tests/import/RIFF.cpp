@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+namespace velmora {
+
 using namespace riff;
 using RIFF::code;
 using testing::ElementsAre;
@@ -72,3 +74,5 @@ TEST(RIFF, FindsByIdAndListTypeAndReadsRecords)
     EXPECT_EQ(none.get<RIFF::Chunk>(code("both")), nullptr);
     EXPECT_THROW(none.check(), FormatError);
 }
+
+} // namespace velmora

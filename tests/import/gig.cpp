@@ -3,6 +3,8 @@
 #include "import/ImportedBank.h"
 #include "support/Sine.h"
 
+namespace velmora {
+
 using namespace riff;
 
 namespace {
@@ -89,3 +91,5 @@ TEST(GigaSampler, SoundsInTune)
     Giga giga(bank(list("wave", tone), instrument("i", region(0) + region(0))));
     EXPECT_NEAR(giga.centsOff(22, 440 * equal.getPitch(69) / equal.getPitch(22)), 0.0, 0.25);
 }
+
+} // namespace velmora

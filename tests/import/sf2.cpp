@@ -3,6 +3,8 @@
 #include "import/ImportedBank.h"
 #include "support/Sine.h"
 
+namespace velmora {
+
 using namespace riff;
 
 namespace {
@@ -108,3 +110,5 @@ TEST(SoundFont, SoundsInTune)
                              std::string(200, '\0') + points(sine(440, 1.1, 44'100))));
     EXPECT_NEAR(font.centsOff(76, 440), 0.0, 0.25);
 }
+
+} // namespace velmora

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace velmora {
+
 namespace {
 
 using namespace std::string_literals;
@@ -56,3 +58,5 @@ TEST(Xml, RefusesDeepNesting)
 }
 
 } // namespace
+
+} // namespace velmora

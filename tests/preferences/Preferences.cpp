@@ -12,6 +12,8 @@
 
 #include <sstream>
 
+namespace velmora {
+
 using testing::AllOf;
 using testing::FieldsAre;
 using testing::HasSubstr;
@@ -62,3 +64,5 @@ TEST(Preferences, LivesWithADamagedFile)
                 AllOf(HasSubstr("\nKeyWidth=20\n"), HasSubstr("\nKeyColorWrong=0, 1, 0, 1\n"),
                       Not(HasSubstr("KeyHeight")), Not(HasSubstr("KeyColorCorrect"))));
 }
+
+} // namespace velmora

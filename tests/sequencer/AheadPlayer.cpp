@@ -9,6 +9,8 @@
 
 #include <thread>
 
+namespace velmora {
+
 namespace {
 
 class AheadPlayerTest : public SequenceTest {
@@ -94,3 +96,5 @@ TEST_F(AheadPlayerTest, EndsWhatHasSoundedWhenThePlayingIsStoppedOrEdited)
 }
 
 } // namespace
+
+} // namespace velmora

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <random>
 
+namespace velmora {
+
 using testing::ElementsAre;
 using testing::FieldsAre;
 using testing::IsEmpty;
@@ -292,3 +294,5 @@ TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
         }
     }
 }
+
+} // namespace velmora

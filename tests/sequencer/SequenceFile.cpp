@@ -1,6 +1,6 @@
 #include "sequencer/SequenceFile.h"
 
-#include "platform/MidiBytes.h"
+#include "support/MidiBytes.h"
 
 #include <gtest/gtest.h>
 #include <spdlog/fmt/fmt.h>
@@ -8,6 +8,8 @@
 #include <cmath>
 #include <random>
 #include <set>
+
+namespace velmora {
 
 using namespace midi;
 
@@ -135,3 +137,5 @@ TEST(SequenceFile, KnowsWhetherTheFileHoldsMore)
         EXPECT_EQ(sequence.notes().size(), notes) << name;
     }
 }
+
+} // namespace velmora

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <random>
 
+namespace velmora {
+
 namespace {
 
 /// All that a tick changes.
@@ -191,3 +193,5 @@ TEST_F(SequencePlaybackTest, DoesWhatAWalkThroughAllNotesDoes)
         EXPECT_EQ(state().text(), walked.text());
     }
 }
+
+} // namespace velmora

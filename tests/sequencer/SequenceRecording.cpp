@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+namespace velmora {
+
 using testing::ElementsAre;
 using testing::FieldsAre;
 using testing::IsEmpty;
@@ -197,3 +199,5 @@ TEST_F(SequenceRecordingTest, WalksFromChordToChord)
     document_.setOffset(5.0);
     EXPECT_EQ(reached(next), std::pair(2.0, 2)) << "to the beginning of the interval";
 }
+
+} // namespace velmora

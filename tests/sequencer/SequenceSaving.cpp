@@ -1,9 +1,9 @@
 #include "base/File.h"
 #include "base/FormatError.h"
-#include "platform/MidiBytes.h"
 #include "sequencer/RecoveryKeeper.h"
 #include "sequencer/SequenceFile.h"
 #include "support/ChildProcess.h"
+#include "support/MidiBytes.h"
 #include "support/SequenceTest.h"
 
 #include <QCoreApplication>
@@ -14,6 +14,8 @@
 
 #include <fstream>
 #include <random>
+
+namespace velmora {
 
 namespace {
 
@@ -201,3 +203,5 @@ TEST_F(SequenceSaving, KeepsWhatIsNotSavedUntilItIsSavedOrClosed)
     keeper.reset();
     EXPECT_TRUE(waitFor(kOthers)) << "closed";
 }
+
+} // namespace velmora

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "audio/Synthesizer.h"
+#include "audio/silence.h"
 #include "base/Clock.h"
-#include "platform/Synthesizer.h"
-#include "platform/silence.h"
 #include "sequencer/RecoveryKeeper.h"
 #include "sequencer/SequenceClock.h"
 #include "sequencer/SequenceDocument.h"
@@ -15,6 +15,8 @@
 #include <random>
 #include <set>
 #include <thread>
+
+namespace velmora {
 
 constexpr double kRate = 48000.0;
 
@@ -134,3 +136,5 @@ struct OpenSequence {
     RecoveryKeeper keeper{document, RecoveryFile(), std::chrono::milliseconds(100)};
     std::optional<SequenceClock> clock;
 };
+
+} // namespace velmora

@@ -8,8 +8,8 @@
 #include "soak/Players.h"
 
 #include "app/AudioExport.h"
+#include "audio/OpenALDevice.h"
 #include "base/Log.h"
-#include "platform/OpenALDevice.h"
 #include "sequencer/SequenceFile.h"
 #include "sound/KeyTables.h"
 #include "support/Bank.h"
@@ -23,6 +23,8 @@
 #include <deque>
 #include <functional>
 #include <stdexcept>
+
+using namespace velmora;
 
 namespace {
 

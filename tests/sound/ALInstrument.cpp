@@ -1,7 +1,7 @@
 #include "sound/ALInstrument.h"
 
+#include "audio/OpenALLoopback.h"
 #include "base/FormatError.h"
-#include "platform/OpenALLoopback.h"
 #include "support/Pitch.h"
 #include "support/Sine.h"
 #include "support/Stereo.h"
@@ -9,6 +9,8 @@
 
 #include <al.h>
 #include <gtest/gtest.h>
+
+namespace velmora {
 
 namespace {
 
@@ -149,3 +151,5 @@ TEST(Sound, AndItsSourcesAreFreedWithALargeOrgan)
 }
 
 } // namespace
+
+} // namespace velmora

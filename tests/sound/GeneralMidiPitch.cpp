@@ -1,6 +1,6 @@
 // The General MIDI instrument as it is heard: its real synthesizer, rendered and measured.
 
-#include "platform/Synthesizer.h"
+#include "audio/Synthesizer.h"
 #include "sound/MIDIInstrument.h"
 #include "support/Bank.h"
 #include "support/Pitch.h"
@@ -9,6 +9,8 @@
 #include "tuning/TuningDocument.h"
 
 #include <gtest/gtest.h>
+
+namespace velmora {
 
 class GeneralMidiPitch : public testing::TestWithParam<int> {};
 
@@ -69,3 +71,5 @@ TEST_P(GeneralMidiPitch, LiesWithinATwentiethOfACentOfTheTemperament)
 }
 
 INSTANTIATE_TEST_SUITE_P(Programs, GeneralMidiPitch, testing::Values(kSteadyProgram, 16, 19));
+
+} // namespace velmora

@@ -1,9 +1,11 @@
 #include "sound/MIDIInstrument.h"
 
-#include "platform/MusicDevice.h"
+#include "audio/MusicDevice.h"
 #include "tuning/Temperament.h"
 
 #include <gmock/gmock.h>
+
+namespace velmora {
 
 using testing::ElementsAre;
 using Message = std::array<int, 3>;
@@ -73,3 +75,5 @@ TEST_F(MIDIInstrumentTest, BendsToTheCentsOfTheTemperamentFlooredToAStep)
         EXPECT_EQ(messages, expected) << deviation << " cents";
     }
 }
+
+} // namespace velmora

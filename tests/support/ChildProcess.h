@@ -7,6 +7,8 @@
 #include <array>
 #include <csignal>
 
+namespace velmora {
+
 /// Copies the test, has the copy `work(ready)`, and kills it some time after it has called `ready`.
 template <class Work> void killWhileWorking(Work work, unsigned microseconds = 0)
 {
@@ -27,3 +29,5 @@ template <class Work> void killWhileWorking(Work work, unsigned microseconds = 0
     waitpid(child, &status, 0);
     EXPECT_TRUE(WIFSIGNALED(status)) << "it ended by itself";
 }
+
+} // namespace velmora

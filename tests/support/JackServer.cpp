@@ -17,6 +17,8 @@
 #include <system_error>
 #include <thread>
 
+namespace velmora {
+
 namespace {
 
 pid_t start(const std::string& name)
@@ -89,3 +91,5 @@ void JackServer::stop()
     removeSemaphores(name_);
     unsetenv("JACK_DEFAULT_SERVER");
 }
+
+} // namespace velmora

@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace velmora {
+
 /// A JACK server with the dummy driver (48 kHz, periods of 128 frames), which this process and its
 /// children use for as long as this lives. Made before the first use of libjack and of threads.
 class JackServer {
@@ -21,3 +23,5 @@ private:
     std::string name_;
     pid_t process_ = -1;
 };
+
+} // namespace velmora

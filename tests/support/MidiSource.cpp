@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <utility>
 
+namespace velmora {
+
 MidiSource::MidiSource(const std::string& client, const std::vector<std::string>& ports)
     : client_(jack_client_open(client.c_str(), JackNoStartServer, nullptr), jack_client_close)
 {
@@ -37,3 +39,5 @@ int MidiSource::process(jack_nframes_t frames, void* self)
     source.messages_.clear();
     return 0;
 }
+
+} // namespace velmora

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace velmora {
+
 /// A JACK client with MIDI outputs, as a keyboard would have, on the default server.
 class MidiSource {
 public:
@@ -33,3 +35,5 @@ private:
     std::vector<jack_port_t*> ports_;
     std::unique_ptr<jack_client_t, int (*)(jack_client_t*)> client_; // last: stops the thread
 };
+
+} // namespace velmora

@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+namespace velmora {
+
 /// A temporary folder for an organ and its samples, gone with the object.
 class OrganFolder {
 public:
@@ -52,3 +54,5 @@ inline std::string xmlOrganDefinition(const std::vector<ObjectList>& lists)
     }
     return result + "</Hauptwerk>";
 }
+
+} // namespace velmora

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <numbers>
 
+namespace velmora {
+
 namespace {
 
 /// The sound at `hertz` in `length` frames from `first` on, under a Hann window: its phase is that
@@ -42,3 +44,5 @@ double measuredHertz(std::span<const float> sound, double rate, double nearHertz
     }
     return hertz;
 }
+
+} // namespace velmora

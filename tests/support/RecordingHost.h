@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace velmora {
+
 /// Writes down the progress of an import and cancels it after so many updates, if any.
 class RecordingHost : public InstrumentHost {
 public:
@@ -24,3 +26,5 @@ public:
 private:
     std::size_t cancelAfter_;
 };
+
+} // namespace velmora

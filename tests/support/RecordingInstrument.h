@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace velmora {
+
 using Calls = std::vector<std::string>;
 
 /// Writes down what it is called with.
@@ -40,3 +42,5 @@ public:
 private:
     Calls& calls_;
 };
+
+} // namespace velmora

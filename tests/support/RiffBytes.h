@@ -1,10 +1,12 @@
 #pragma once
 
-#include "platform/Pcm.h"
+#include "audio/Pcm.h"
 
 #include <cstddef>
 #include <string>
 #include <vector>
+
+namespace velmora {
 
 /// Builders of RIFF files for tests. Bytes are kept in strings.
 namespace riff {
@@ -48,3 +50,5 @@ inline std::string wave(const std::string& data, std::size_t rate)
 }
 
 } // namespace riff
+
+} // namespace velmora

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace velmora {
+
 /// A document on a clock that is moved by hand, whose instrument and temperament write down what
 /// they are called with. 16 steps of a file are a second, 15 of the document's.
 class SequenceTest : public testing::Test, public SequenceHost, public Temperament {
@@ -21,11 +23,11 @@ protected:
     Instrument* getInstrument() override { return &instrument_; }
     Temperament* getTemperament() override { return this; }
     std::mutex& soundLock() override { return lock_; }
-    void setup(Instrument& /*instrument*/, unsigned char key, float /*velocity*/) override
+    void setup(Tunable& /*instrument*/, unsigned char key, float /*velocity*/) override
     {
         calls_.push_back(fmt::format("setup {}", key));
     }
-    void isomorph(Instrument& /*instrument*/, int n) override
+    void isomorph(Tunable& /*instrument*/, int n) override
     {
         calls_.push_back(fmt::format("isomorph {}", n));
     }
@@ -58,3 +60,5 @@ protected:
     double now_ = 1000.0;
     SequenceDocument document_{*this, [this] { return now_; }};
 };
+
+} // namespace velmora

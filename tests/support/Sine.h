@@ -1,10 +1,12 @@
 #pragma once
 
-#include "platform/Pcm.h"
+#include "audio/Pcm.h"
 
 #include <cmath>
 #include <cstddef>
 #include <numbers>
+
+namespace velmora {
 
 /// A mono sine of so many hertz, at a peak of 0.375.
 inline Pcm sine(double hertz, double seconds, double rate = 48000.0)
@@ -16,3 +18,5 @@ inline Pcm sine(double hertz, double seconds, double rate = 48000.0)
             12288.0 * std::sin(2.0 * std::numbers::pi * hertz * static_cast<double>(i) / rate)));
     return pcm;
 }
+
+} // namespace velmora

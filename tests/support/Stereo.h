@@ -7,6 +7,8 @@
 #include <span>
 #include <vector>
 
+namespace velmora {
+
 /// A stereo sound, as tests handle it.
 struct Stereo {
     explicit Stereo(std::size_t frames = 0) : left(frames), right(frames) {}
@@ -51,3 +53,5 @@ inline double cents(double hertz, double reference)
 {
     return 1200.0 * std::log2(hertz / reference);
 }
+
+} // namespace velmora

@@ -1,7 +1,7 @@
 // Runs the tests of views and windows, on a display, with preferences of their own and
 // a sound output that nobody hears.
 
-#include "desktop/graphics.h"
+#include "desktop/widgets/graphics.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -16,7 +16,7 @@ int main(int argc, char** argv)
     qputenv("ALSOFT_DRIVERS", "null");
     // Nothing that a test does is to reach the user's session.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    chooseGraphics();
+    velmora::chooseGraphics();
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

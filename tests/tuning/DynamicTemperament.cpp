@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+namespace velmora {
+
 struct DynamicTemperamentTest : public testing::Test {
     double cents(std::size_t key) const { return dynamic.getTuning(key).cent(); }
     DynamicTemperament dynamic;
@@ -44,3 +46,5 @@ TEST_F(DynamicTemperamentTest, StrikingAKeyTakesItHomeAndSilenceTakesC)
     dynamic.fade(0.9);
     EXPECT_EQ(cents(60), 0.0);
 }
+
+} // namespace velmora

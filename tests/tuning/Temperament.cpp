@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+namespace velmora {
+
 TEST(Temperament, GivesEveryKeyItsPitch)
 {
     EXPECT_NEAR(equal.getPitch(57), 440.0, 1e-6);
@@ -28,3 +30,5 @@ TEST(Temperament, MeantoneHasFifthsAQuarterCommaNarrow)
             << "fifth above key " << key;
     EXPECT_EQ(meantone.getTuning(8).ratio(), 25.0 / 16.0);
 }
+
+} // namespace velmora

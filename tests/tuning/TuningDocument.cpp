@@ -9,6 +9,8 @@
 #include <fstream>
 #include <regex>
 
+namespace velmora {
+
 using namespace testing;
 
 namespace {
@@ -115,3 +117,5 @@ TEST(TuningDocument, KeepsItsTemperamentWhenAFileCannotBeRead)
     const auto dynamic = TuningDocument::initBuiltin("Dynamic");
     EXPECT_NE(dynamic_cast<DynamicTemperament*>(&dynamic->getTemperament()), nullptr);
 }
+
+} // namespace velmora

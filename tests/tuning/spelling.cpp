@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+namespace velmora {
+
 TEST(Spelling, NamesThePitchesOfMeantone)
 {
     const std::vector<std::pair<double, const char*>> rows = {
@@ -15,3 +17,5 @@ TEST(Spelling, NamesThePitchesOfMeantone)
     for (const auto& [cents, name] : rows)
         EXPECT_EQ(spelling(cents), name) << cents;
 }
+
+} // namespace velmora

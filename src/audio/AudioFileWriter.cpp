@@ -1,0 +1,87 @@
+#include "audio/AudioFileWriter.h"
+
+#include "audio/oggSerial.h"
+#include "base/Text.h"
+
+#include <sndfile.h>
+
+#include <cmath>
+#include <stdexcept>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kChannels = 2;
+
+/// The size of a WAV file has 32 bits, header and all; a sample has three bytes.
+constexpr std::uint64_t kMostWavFrames = (0xFFFFFFFFU - 4096U) / (3U * kChannels);
+
+/// Any will do, as long as the same sound gives the same file.
+constexpr std::uint32_t kOggSerial = 1;
+
+int formatOf(const std::filesystem::path& path)
+{
+    const std::string extension = lowerCase(path.extension().string());
+    if (extension == ".wav")
+        return SF_FORMAT_WAV | SF_FORMAT_PCM_24;
+    if (extension == ".flac")
+        return SF_FORMAT_FLAC | SF_FORMAT_PCM_24;
+    if (extension == ".ogg")
+        return SF_FORMAT_OGG | SF_FORMAT_VORBIS;
+    throw std::runtime_error(path.string() + ": the name must end in .wav, .flac or .ogg");
+}
+
+} // namespace
+
+AudioFileWriter::AudioFileWriter(const std::filesystem::path& path, double rate)
+    : name_(path.string()), file_(QString::fromStdString(path.string())), sound_(nullptr, sf_close)
+{
+    SF_INFO info{};
+    info.samplerate = static_cast<int>(std::lround(rate));
+    info.channels = kChannels;
+    info.format = formatOf(path);
+    const int type = info.format & SF_FORMAT_TYPEMASK;
+    isOgg_ = type == SF_FORMAT_OGG;
+    if (type == SF_FORMAT_WAV)
+        framesLeft_ = kMostWavFrames;
+    if (sf_format_check(&info) == 0)
+        throw std::runtime_error(name_ + ": this kind of file has no rate of " +
+                                 std::to_string(info.samplerate) + " Hz");
+    if (!file_.open(QIODevice::WriteOnly))
+        throw std::runtime_error(name_ + ": " + file_.errorString().toStdString());
+    sound_.reset(sf_open_fd(file_.handle(), SFM_WRITE, &info, SF_FALSE));
+    if (!sound_)
+        throw std::runtime_error(name_ + ": " + sf_strerror(nullptr));
+}
+
+AudioFileWriter::~AudioFileWriter() = default;
+
+void AudioFileWriter::write(const float* left, const float* right, std::size_t frames)
+{
+    if (frames > framesLeft_)
+        throw std::runtime_error(name_ +
+                                 ": a WAV file holds no more than 4 GB; write .flac instead");
+    framesLeft_ -= frames;
+    interleaved_.resize(frames * kChannels);
+    for (std::size_t i = 0; i < frames; ++i) {
+        interleaved_[kChannels * i] = left[i];
+        interleaved_[kChannels * i + 1] = right[i];
+    }
+    const auto count = static_cast<sf_count_t>(frames);
+    if (sf_writef_float(sound_.get(), interleaved_.data(), count) != count)
+        throw std::runtime_error(name_ + ": " + sf_strerror(sound_.get()));
+}
+
+void AudioFileWriter::commit()
+{
+    const int error = sf_close(sound_.release());
+    if (error != 0)
+        throw std::runtime_error(name_ + ": " + sf_error_number(error));
+    if (isOgg_)
+        setOggSerial(file_.handle(), kOggSerial);
+    if (!file_.commit())
+        throw std::runtime_error(name_ + ": " + file_.errorString().toStdString());
+}
+
+} // namespace velmora

@@ -1,0 +1,159 @@
+#include "audio/Synthesizer.h"
+
+#include "base/Log.h"
+#include "platform/quiet.h"
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::size_t kLanes = 12;
+constexpr int kCentreBend = 8192;
+constexpr int kAllSoundOff = 120;
+constexpr int kNoBend = -1;
+
+/// Which lane sounds a channel: none for the percussion channel and those that never carry notes.
+int laneIndex(int channel)
+{
+    if (channel < 9)
+        return channel;
+    return channel >= 10 && channel <= 12 ? channel - 1 : -1;
+}
+
+/// The 14 bits of a pitch bend, as far as they go.
+int bendOf(int data1, int data2)
+{
+    return std::clamp(data1 + 128 * data2, 0, 2 * kCentreBend - 1);
+}
+
+} // namespace
+
+Synthesizer::Synthesizer(double rate, const std::vector<std::filesystem::path>& banks)
+    : reverb_(rate), limiter_(rate), queue_(kQueue)
+{
+    quietSoundLibraries();
+    lastBend_.fill(kCentreBend);
+    auto first = std::make_unique<SynthesizerLane>(rate);
+    const auto loaded = std::ranges::find_if(banks, [&](const std::filesystem::path& path) {
+        if (first->loadBank(path.c_str()))
+            return true;
+        logger("platform").warn("the SoundFont {} cannot be loaded", path.string());
+        return false;
+    });
+    if (loaded == banks.end()) {
+        logger("platform").warn("no SoundFont for the General MIDI synthesizer: it is silent");
+        return;
+    }
+    bank_ = *loaded;
+    lanes_.push_back(std::move(first));
+    while (lanes_.size() < kLanes)
+        lanes_.push_back(std::make_unique<SynthesizerLane>(rate, lanes_.front().get()));
+}
+
+Synthesizer::~Synthesizer()
+{
+    // The first lane owns the bank that the others borrow.
+    while (!lanes_.empty())
+        lanes_.pop_back();
+}
+
+SynthesizerLane* Synthesizer::laneOf(int channel)
+{
+    const int index = laneIndex(channel);
+    return index < 0 || lanes_.empty() ? nullptr : lanes_[static_cast<std::size_t>(index)].get();
+}
+
+void Synthesizer::midiEvent(int status, int data1, int data2)
+{
+    // Retuning sends every channel's bend, most of them unchanged.
+    const bool isBend = (status & 0xF0) == 0xE0;
+    int& lastBend = lastBend_[static_cast<std::size_t>(status & 0x0F)];
+    if (isBend && bendOf(data1, data2) == lastBend)
+        return;
+
+    const std::size_t written = written_.load(std::memory_order_relaxed);
+    if (written - read_.load(std::memory_order_acquire) == kQueue) {
+        overflowed_.store(true, std::memory_order_release);
+        return;
+    }
+    queue_[written % kQueue] = {status, data1, data2};
+    written_.store(written + 1, std::memory_order_release);
+    if (isBend)
+        lastBend = bendOf(data1, data2);
+}
+
+void Synthesizer::takeEvents()
+{
+    // Asked before the queue is, so that all that came before the lost message is silenced.
+    const bool overflowed = overflowed_.exchange(false, std::memory_order_acquire);
+    const std::size_t written = written_.load(std::memory_order_acquire);
+    std::size_t read = read_.load(std::memory_order_relaxed);
+    std::array<int, 16> bends{};
+    bends.fill(kNoBend);
+    for (; read != written; ++read) {
+        const Event& event = queue_[read % kQueue];
+        // Of the bends that come together the last one counts: FluidSynth has room for so many
+        // changes between two blocks and would lose the end of a note under more.
+        if ((event.status & 0xF0) == 0xE0)
+            bends[static_cast<std::size_t>(event.status & 0x0F)] = bendOf(event.data1, event.data2);
+        else if (!overflowed || (event.status & 0xE0) != 0x80)
+            apply(event);
+    }
+    read_.store(read, std::memory_order_release);
+
+    // A lost message may have been the end of a note.
+    for (std::size_t channel = 0; channel < bends.size(); ++channel) {
+        SynthesizerLane* lane = laneOf(static_cast<int>(channel));
+        if (lane != nullptr && overflowed)
+            silence(*lane);
+        if (lane != nullptr && bends[channel] != kNoBend)
+            lane->setCents(200.0 * (bends[channel] - kCentreBend) / kCentreBend);
+    }
+}
+
+void Synthesizer::silence(SynthesizerLane& lane)
+{
+    lane.allSoundsOff();
+    reverb_.silence();
+}
+
+void Synthesizer::apply(const Event& event)
+{
+    SynthesizerLane* lane = laneOf(event.status & 0x0F);
+    if (lane == nullptr)
+        return;
+    switch (event.status & 0xF0) {
+    case 0x80:
+        lane->noteOff(event.data1);
+        break;
+    case 0x90:
+        lane->noteOn(event.data1, event.data2);
+        break;
+    case 0xB0:
+        if (event.data1 == kAllSoundOff)
+            silence(*lane);
+        else
+            lane->controlChange(event.data1, event.data2);
+        break;
+    case 0xC0:
+        lane->programChange(event.data1);
+        break;
+    default:
+        break;
+    }
+}
+
+void Synthesizer::render(float* left, float* right, std::size_t frames)
+{
+    takeEvents();
+    std::fill_n(left, frames, 0.0F);
+    std::fill_n(right, frames, 0.0F);
+    for (const auto& lane : lanes_)
+        lane->mix(left, right, frames);
+    reverb_.process(left, right, frames);
+    limiter_.process(left, right, frames);
+}
+
+} // namespace velmora

@@ -1,0 +1,124 @@
+#include "audio/SynthesizerLane.h"
+
+#include "audio/silence.h"
+
+#include <spdlog/fmt/fmt.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <stdexcept>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kChannel = 0;
+
+/// Enough for eleven keys of one pitch class struck over and over into their releases.
+constexpr int kPolyphony = 128;
+
+/// Four usual notes then peak near −6 dBFS, and the limiter takes care of what is louder.
+constexpr double kGain = 1.5;
+
+/// A voice may fall silent between its strokes, but not for as long as this.
+constexpr double kSilentSecondsToSleep = 0.5;
+
+} // namespace
+
+SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
+    : settings_(new_fluid_settings(), delete_fluid_settings), synth_(nullptr, delete_fluid_synth),
+      silentBlocksToSleep_(
+          static_cast<std::size_t>(kSilentSecondsToSleep * rate / FractionalResampler::kBlock)),
+      silentBlocks_(silentBlocksToSleep_)
+{
+    if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate) != FLUID_OK)
+        throw std::runtime_error(fmt::format("FluidSynth does not play at {:g} Hz", rate));
+    fluid_settings_setint(settings_.get(), "synth.polyphony", kPolyphony);
+    fluid_settings_setnum(settings_.get(), "synth.gain", kGain);
+    // Both waver in pitch. The lanes have a still room in common instead.
+    fluid_settings_setint(settings_.get(), "synth.chorus.active", 0);
+    fluid_settings_setint(settings_.get(), "synth.reverb.active", 0);
+    synth_.reset(new_fluid_synth(settings_.get()));
+    if (!synth_)
+        throw std::runtime_error("FluidSynth cannot make a synthesizer");
+    if (bankOwner != nullptr) {
+        borrowedBank_ = fluid_synth_get_sfont(bankOwner->synth_.get(), 0);
+        if (borrowedBank_ != nullptr)
+            fluid_synth_add_sfont(synth_.get(), borrowedBank_);
+    }
+    setCents(0.0);
+}
+
+SynthesizerLane::~SynthesizerLane()
+{
+    // A synthesizer deletes the banks it holds.
+    if (borrowedBank_ != nullptr)
+        fluid_synth_remove_sfont(synth_.get(), borrowedBank_);
+}
+
+bool SynthesizerLane::loadBank(const char* path)
+{
+    return fluid_is_soundfont(path) != 0 &&
+           fluid_synth_sfload(synth_.get(), path, 1) != FLUID_FAILED;
+}
+
+void SynthesizerLane::noteOn(int key, int velocity)
+{
+    fluid_synth_noteon(synth_.get(), kChannel, key, velocity);
+    silentBlocks_ = 0;
+}
+
+void SynthesizerLane::noteOff(int key)
+{
+    fluid_synth_noteoff(synth_.get(), kChannel, key);
+    silentBlocks_ = 0;
+}
+
+void SynthesizerLane::controlChange(int number, int value)
+{
+    fluid_synth_cc(synth_.get(), kChannel, number, value);
+}
+
+void SynthesizerLane::programChange(int program)
+{
+    fluid_synth_program_change(synth_.get(), kChannel, program);
+}
+
+void SynthesizerLane::allSoundsOff()
+{
+    fluid_synth_all_sounds_off(synth_.get(), kChannel);
+}
+
+void SynthesizerLane::setCents(double cents)
+{
+    const double whole = std::round(cents);
+    // The middle of a cent, so that no rounding inside FluidSynth flips the step.
+    fluid_synth_set_gen(synth_.get(), kChannel, GEN_FINETUNE, static_cast<float>(whole + 0.5));
+    resampler_.setStep(std::exp2((cents - whole) / 1200.0));
+}
+
+void SynthesizerLane::mix(float* left, float* right, std::size_t frames)
+{
+    // A held note may be silent before it speaks, so the voices decide, not the loudness alone.
+    if (silentBlocks_ >= silentBlocksToSleep_ &&
+        fluid_synth_get_active_voice_count(synth_.get()) == 0)
+        return;
+    resampler_.mix(left, right, frames, [this](float* l, float* r) { renderBlock(l, r); });
+}
+
+void SynthesizerLane::renderBlock(float* left, float* right)
+{
+    constexpr std::size_t kBlock = FractionalResampler::kBlock;
+    std::fill_n(left, kBlock, 0.0F);
+    std::fill_n(right, kBlock, 0.0F);
+    std::array<float*, 2> outputs = {left, right};
+    fluid_synth_process(synth_.get(), static_cast<int>(kBlock), 0, nullptr,
+                        static_cast<int>(outputs.size()), outputs.data());
+
+    const bool silent =
+        std::none_of(left, left + kBlock, isHeard) && std::none_of(right, right + kBlock, isHeard);
+    silentBlocks_ = silent ? silentBlocks_ + 1 : 0;
+}
+
+} // namespace velmora

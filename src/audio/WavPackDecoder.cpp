@@ -1,0 +1,97 @@
+#include "audio/WavPackDecoder.h"
+
+#include "audio/FileImage.h"
+#include "audio/PcmBuilder.h"
+#include "base/FormatError.h"
+
+#include <wavpack/wavpack.h>
+
+#include <array>
+#include <bit>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::uint32_t kUnpackedFrames = 16384;
+
+FileImage& image(void* id)
+{
+    return *static_cast<FileImage*>(id);
+}
+
+/// Frames of a file in memory, as libwavpack reads it.
+WavpackStreamReader64 memoryReader()
+{
+    WavpackStreamReader64 reader{};
+    reader.read_bytes = [](void* id, void* data, std::int32_t count) {
+        return static_cast<std::int32_t>(image(id).read(data, count));
+    };
+    reader.get_pos = [](void* id) { return image(id).position(); };
+    reader.set_pos_abs = [](void* id, std::int64_t position) {
+        return image(id).seek(position, SEEK_SET) ? 0 : -1;
+    };
+    reader.set_pos_rel = [](void* id, std::int64_t delta, int whence) {
+        return image(id).seek(delta, whence) ? 0 : -1;
+    };
+    reader.push_back_byte = [](void* id, int byte) {
+        return image(id).seek(-1, SEEK_CUR) ? byte : EOF;
+    };
+    reader.get_length = [](void* id) { return image(id).length(); };
+    reader.can_seek = [](void* /*id*/) { return 1; };
+    return reader;
+}
+
+/// libwavpack's samples fill the lowest bytes of 32 bits, or are floats of full scale 1.
+void add(PcmBuilder& builder, std::span<std::int32_t> samples, int mode, int bytesPerSample)
+{
+    if ((mode & MODE_FLOAT) != 0) {
+        std::vector<float> floats(samples.size());
+        std::ranges::transform(samples, floats.begin(),
+                               [](std::int32_t sample) { return std::bit_cast<float>(sample); });
+        builder.add(floats);
+        return;
+    }
+    const int shift = 32 - 8 * bytesPerSample;
+    for (std::int32_t& sample : samples)
+        sample = static_cast<std::int32_t>(static_cast<std::uint32_t>(sample) << shift);
+    builder.add(std::span<const std::int32_t>(samples));
+}
+
+} // namespace
+
+bool isWavPack(std::span<const std::byte> beginning)
+{
+    constexpr std::string_view kMagic = "wvpk";
+    return beginning.size() >= kMagic.size() &&
+           std::memcmp(beginning.data(), kMagic.data(), kMagic.size()) == 0;
+}
+
+Pcm decodeWavPack(std::span<const std::byte> bytes)
+{
+    FileImage file(bytes);
+    WavpackStreamReader64 reader = memoryReader();
+    std::array<char, 128> error{}; // libwavpack asks for 80
+    const std::unique_ptr<WavpackContext, decltype(&WavpackCloseFile)> context(
+        WavpackOpenFileInputEx64(&reader, &file, nullptr, error.data(), OPEN_NORMALIZE, 0),
+        WavpackCloseFile);
+    if (!context)
+        throw FormatError(std::string("is a damaged WavPack file (") + error.data() + ")");
+
+    const int channels = WavpackGetNumChannels(context.get());
+    PcmBuilder builder(channels, WavpackGetSampleRate(context.get()),
+                       WavpackGetNumSamples64(context.get()), bytes.size());
+    const int mode = WavpackGetMode(context.get());
+    const int bytesPerSample = WavpackGetBytesPerSample(context.get());
+    std::vector<std::int32_t> block(kUnpackedFrames * static_cast<std::size_t>(channels));
+    while (const std::uint32_t frames =
+               WavpackUnpackSamples(context.get(), block.data(), kUnpackedFrames))
+        add(builder, std::span(block).first(frames * static_cast<std::size_t>(channels)), mode,
+            bytesPerSample);
+    return builder.take();
+}
+
+} // namespace velmora

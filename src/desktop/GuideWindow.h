@@ -1,9 +1,0 @@
-#pragma once
-
-#include <QTextBrowser>
-
-/// Shows the user guide.
-class GuideWindow : public QTextBrowser {
-public:
-    GuideWindow();
-};

@@ -1,6 +1,0 @@
-#pragma once
-
-class QWidget;
-
-/// Closes a window by Esc and by the desktop's key for it, from now until the window ends.
-void closeByKeys(QWidget& window);

@@ -1,6 +1,0 @@
-#pragma once
-
-#include <QIcon>
-
-/// One of the program's own pictures, such as "record", in the text colour of the desktop's theme.
-QIcon icon(const char* name);

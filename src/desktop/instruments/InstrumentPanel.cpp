@@ -1,0 +1,188 @@
+#include "desktop/instruments/InstrumentPanel.h"
+
+#include "app/AppDelegate.h"
+#include "app/programNames.h"
+#include "app/sizeString.h"
+#include "desktop/widgets/closeByKeys.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPropertyAnimation>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kStopsLeft = 226;
+constexpr int kStopWidth = 21;
+constexpr int kSliderHeight = 50;
+constexpr int kSliderTop = 5;
+constexpr int kWidthWithoutStops = 240;
+constexpr int kGrowMilliseconds = 120;
+
+/// The ends of a slider, whose values are whole numbers.
+constexpr int kFullVolume = 1000;
+
+QString stopTitle(const Instrument& instrument, std::size_t stop)
+{
+    QString name = QString::fromStdString(instrument.stopName(stop));
+    if (!name.isEmpty())
+        return name;
+    return instrument.numStops() > 1 ? InstrumentPanel::tr("Stop %1").arg(stop + 1)
+                                     : InstrumentPanel::tr("Volume");
+}
+
+} // namespace
+
+InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
+    : QWidget(parent, Qt::Tool), application_(application), programs_(new QComboBox),
+      usage_(new QLabel), tunings_(new QComboBox), stops_(new QScrollArea)
+{
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    closeByKeys(*this);
+
+    for (const char* name : kMIDIInstrumentNames)
+        programs_->addItem(name);
+    programs_->setAccessibleName(tr("Program"));
+    programs_->setToolTip(tr("The General MIDI program that sounds"));
+    programs_->setMaxVisibleItems(24);
+    connect(programs_, &QComboBox::activated, this,
+            [this](int index) { application_.setMIDIProgram(static_cast<std::uint8_t>(index)); });
+
+    usage_->setAccessibleName(tr("Memory use"));
+    usage_->setToolTip(tr("The memory that the samples of this instrument take"));
+
+    tunings_->setAccessibleName(tr("Tuning"));
+    tunings_->setToolTip(tr("The temperament in which keys sound"));
+    connect(tunings_, &QComboBox::activated, this,
+            [this] { application_.selectTuning(tunings_->currentText().toStdString()); });
+
+    // The menus stand to the left of the stops; the frame and the margins take the rest.
+    auto* choices = new QWidget;
+    choices->setFixedWidth(kStopsLeft);
+    auto* column = new QVBoxLayout(choices);
+    column->addWidget(programs_);
+    column->addWidget(usage_);
+    column->addWidget(tunings_);
+    for (QComboBox* menu : {programs_, tunings_})
+        menu->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+
+    stops_->setWidget(new QWidget);
+    stops_->setFrameShape(QFrame::NoFrame);
+    stops_->setFocusPolicy(Qt::NoFocus);
+    stops_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    stops_->setMinimumWidth(kStopWidth);
+    stops_->setMinimumHeight(kSliderTop + kSliderHeight +
+                             stops_->horizontalScrollBar()->sizeHint().height());
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(choices);
+    row->addWidget(stops_);
+    setFixedHeight(sizeHint().height());
+
+    connect(&application_, &AppDelegate::tuningsChanged, this, &InstrumentPanel::showTunings);
+    connect(&application_, &AppDelegate::tuningChanged, this, &InstrumentPanel::showTunings);
+    connect(&application_, &AppDelegate::instrumentChanged, this, &InstrumentPanel::showInstrument);
+    connect(&application_, &AppDelegate::volumeMoved, this, &InstrumentPanel::showVolume);
+}
+
+void InstrumentPanel::showTunings()
+{
+    // Of two entries of one name the one stays marked that was chosen.
+    int marked = tunings_->currentIndex();
+    tunings_->clear();
+    for (const std::string& name : application_.tuningNames())
+        tunings_->addItem(QString::fromStdString(name));
+    const QString current = QString::fromStdString(application_.tuningName());
+    if (tunings_->itemText(marked) != current)
+        marked = tunings_->findText(current);
+    tunings_->setCurrentIndex(marked);
+}
+
+void InstrumentPanel::showInstrument()
+{
+    const Instrument& instrument = *application_.getInstrument();
+    const std::size_t stops = instrument.numStops();
+    setWindowTitle(QString::fromStdString(application_.instrumentName()));
+    programs_->setVisible(instrument.hasSubMenu());
+    programs_->setCurrentIndex(application_.midiProgram());
+    usage_->setVisible(!instrument.hasSubMenu());
+    usage_->setText(
+        tr("Usage:  %1")
+            .arg(QString::fromStdString(sizeString(static_cast<std::uint64_t>(instrument.usage)))));
+
+    fitWidth(stops);
+    makeSliders(stops);
+    for (std::size_t i = 0; i < sliders_.size(); ++i) {
+        sliders_[i]->setVisible(i < stops);
+        if (i >= stops)
+            continue;
+        const QString title = stopTitle(instrument, i);
+        sliders_[i]->setToolTip(title);
+        sliders_[i]->setAccessibleName(title);
+        showVolume(i, instrument.getVolume(i));
+    }
+}
+
+void InstrumentPanel::fitWidth(std::size_t stops)
+{
+    const int stopsWidth = kStopWidth * static_cast<int>(stops);
+    stops_->widget()->resize(stopsWidth, kSliderTop + kSliderHeight);
+    // What the screen has no room for is scrolled to.
+    const QSize fitting(
+        std::min(kWidthWithoutStops + stopsWidth, screen()->availableSize().width()), height());
+    if (!isVisible()) {
+        resize(fitting);
+        return;
+    }
+    auto* growing = new QPropertyAnimation(this, "size", this);
+    growing->setDuration(kGrowMilliseconds);
+    growing->setEndValue(fitting);
+    growing->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void InstrumentPanel::makeSliders(std::size_t count)
+{
+    while (sliders_.size() < count) {
+        const std::size_t stop = sliders_.size();
+        auto* slider = new QSlider(Qt::Vertical, stops_->widget());
+        slider->setGeometry(kStopWidth * static_cast<int>(stop), kSliderTop, kStopWidth,
+                            kSliderHeight);
+        slider->setRange(0, kFullVolume);
+        slider->setPageStep(kFullVolume / 10);
+        slider->setSingleStep(kFullVolume / 50);
+        connect(slider, &QSlider::valueChanged, this, [this, stop](int value) {
+            application_.setVolumeOfStop(stop, static_cast<float>(value) / kFullVolume);
+            tellVolume(stop);
+        });
+        sliders_.push_back(slider);
+    }
+}
+
+void InstrumentPanel::showVolume(std::size_t stop, float volume)
+{
+    if (stop >= sliders_.size())
+        return;
+    const QSignalBlocker isToldAlready(sliders_[stop]);
+    sliders_[stop]->setValue(static_cast<int>(std::lround(volume * kFullVolume)));
+}
+
+void InstrumentPanel::tellVolume(std::size_t stop) const
+{
+    QSlider& slider = *sliders_[stop];
+    const QString text = tr("%1: %2 %").arg(slider.accessibleName()).arg(slider.value() / 10);
+    QToolTip::showText(slider.mapToGlobal(slider.rect().bottomLeft()), text, &slider);
+}
+
+} // namespace velmora

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+namespace velmora {
+
+class AppDelegate;
+
+/// The application's list of instruments as a table: a row for each, its name and its size.
+class InstrumentsModel : public QAbstractTableModel {
+public:
+    InstrumentsModel(AppDelegate& application, QObject* parent);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    AppDelegate& application_;
+};
+
+} // namespace velmora

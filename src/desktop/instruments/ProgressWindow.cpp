@@ -1,0 +1,77 @@
+#include "desktop/instruments/ProgressWindow.h"
+
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <limits>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kWidth = 420;
+
+/// Often enough for the eye, and no burden for an import of ten thousands of steps.
+constexpr qint64 kMillisecondsBetweenLooks = 30;
+
+} // namespace
+
+ProgressWindow::ProgressWindow() : bar_(new QProgressBar), label_(new QLabel)
+{
+    setWindowTitle(tr("Loading"));
+    setWindowModality(Qt::ApplicationModal);
+    setMinimumWidth(kWidth);
+    bar_->setAccessibleName(tr("Progress"));
+    label_->setTextFormat(Qt::PlainText);
+    // A long name does not widen the window.
+    label_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    connect(buttons, &QDialogButtonBox::rejected, this, &ProgressWindow::reject);
+
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(label_);
+    column->addWidget(bar_);
+    column->addWidget(buttons);
+}
+
+void ProgressWindow::startProgress(long steps)
+{
+    bar_->setRange(0, static_cast<int>(std::min<long>(steps, std::numeric_limits<int>::max())));
+    bar_->setValue(0);
+    label_->clear();
+    sinceShown_.start();
+    show();
+    QCoreApplication::processEvents();
+}
+
+void ProgressWindow::updateProgress(unsigned steps, const std::string& text)
+{
+    if (steps == 0)
+        return;
+    const long long done = static_cast<long long>(bar_->value()) + steps;
+    bar_->setValue(static_cast<int>(std::min<long long>(done, bar_->maximum())));
+    label_->setText(QString::fromStdString(text));
+    if (done == bar_->maximum())
+        endProgress();
+    if (sinceShown_.elapsed() < kMillisecondsBetweenLooks)
+        return;
+    QCoreApplication::processEvents();
+    sinceShown_.start();
+}
+
+void ProgressWindow::endProgress()
+{
+    hide();
+}
+
+void ProgressWindow::reject()
+{
+    label_->setText(tr("Giving up …"));
+    emit cancelled();
+}
+
+} // namespace velmora

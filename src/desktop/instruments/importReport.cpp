@@ -1,0 +1,31 @@
+#include "desktop/instruments/importReport.h"
+
+#include "import/InstrumentDocument.h"
+
+#include <QMessageBox>
+#include <spdlog/fmt/fmt.h>
+
+namespace velmora {
+
+void showImportReport(QWidget& parent, const InstrumentDocument& document)
+{
+    const ImportReport& report = document.report();
+    QMessageBox box(QMessageBox::Information, QObject::tr("Import Report"),
+                    QString::fromStdString(document.getName()), QMessageBox::Close, &parent);
+    QString summary = QObject::tr("%1 stops, %2 keys, %3 samples.")
+                          .arg(report.ranks)
+                          .arg(report.pipes)
+                          .arg(report.samples);
+    if (!report.skipped.empty())
+        summary +=
+            "\n" + QObject::tr("%1 files or samples were left out.").arg(report.skipped.size());
+    box.setInformativeText(summary);
+
+    QString details;
+    for (const auto& [file, why] : report.skipped)
+        details += QString::fromStdString(fmt::format("{}: {}\n", file, why));
+    box.setDetailedText(details);
+    box.exec();
+}
+
+} // namespace velmora

@@ -1,0 +1,85 @@
+#include "desktop/keyboard/KeyboardGeometry.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velmora {
+
+namespace {
+
+/// Black keys end at this part of the height; below, there are only white ones.
+constexpr double kBlackEnd = 0.4;
+
+/// From the left end of the white key after a black one to the left end of the black one.
+float blackOffset(int key, float semitone, float white)
+{
+    switch (key % 12) {
+    case 1:
+    case 6:
+        return semitone - white;
+    case 8:
+        return -semitone / 2;
+    default: // 3 and 10
+        return white - 2 * semitone;
+    }
+}
+
+} // namespace
+
+bool isBlackKey(int key)
+{
+    const int pitchClass = key % 12;
+    return pitchClass == 1 || pitchClass == 3 || pitchClass == 6 || pitchClass == 8 ||
+           pitchClass == 10;
+}
+
+KeyQuad KeyQuad::inner() const
+{
+    return {key, isBlack, left + 2, right - 2, bottom + 2, top};
+}
+
+float KeyboardGeometry::extent() const
+{
+    int whites = 0;
+    for (int key = lo; key <= hi; ++key)
+        whites += isBlackKey(key) ? 0 : 1;
+    return std::max(static_cast<float>(width()), static_cast<float>(whites) * whiteWidth());
+}
+
+std::vector<KeyQuad> KeyboardGeometry::keys(float height) const
+{
+    const auto semitone = static_cast<float>(keyWidth);
+    const float white = whiteWidth();
+    std::vector<KeyQuad> quads;
+    int whites = 0;
+    for (int key = lo; key <= hi; ++key) {
+        float left = static_cast<float>(whites) * white;
+        if (isBlackKey(key)) {
+            left += blackOffset(key, semitone, white);
+            const float bottom = static_cast<float>(kBlackEnd) * height;
+            quads.push_back({key, true, left, left + semitone, bottom, height});
+        } else {
+            quads.push_back({key, false, left + 1, left + white - 1, 0, height});
+            ++whites;
+        }
+    }
+    return quads;
+}
+
+int KeyboardGeometry::keyAt(double x, double y, double height) const
+{
+    // In semitones: how far the keyboard's first key lies from where an octave would have it.
+    static constexpr std::array kShifts{0.0,    0.625,   -0.375, 0.375,  -0.625, 0.1875,
+                                        0.8125, -0.1875, 0.625,  -0.375, 0.1875, -0.8125};
+    const double semitone = keyWidth;
+    const double shifted = x + kShifts[static_cast<std::size_t>(lo % 12)] * semitone;
+    if (y > kBlackEnd * height)
+        return static_cast<int>(lo + shifted / semitone);
+
+    const double place = lo * semitone + shifted;
+    const int octave = std::max(0, static_cast<int>(place / (12 * semitone)));
+    const int white = static_cast<int>((place - 12 * semitone * octave) * (7.0 / 12) / semitone);
+    return 12 * octave + 2 * white - (white >= 3 ? 1 : 0);
+}
+
+} // namespace velmora

@@ -1,0 +1,56 @@
+#include "desktop/roll/RollGeometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+/// Half of the narrowest note, and how much of a column the widest leaves free on each side.
+constexpr double kLeastHalfWidth = 2.0;
+constexpr double kColumnMargin = 4.0;
+
+} // namespace
+
+int RollGeometry::firstKey() const
+{
+    return std::clamp(static_cast<int>(x / keyWidth), 0, kKeys);
+}
+
+int RollGeometry::endKey() const
+{
+    return std::min(firstKey() + static_cast<int>(std::ceil(width / keyWidth)) + 1, kKeys);
+}
+
+RollQuad RollGeometry::column(int key) const
+{
+    return {xOf(key), xOf(key + 1), 0.0, height};
+}
+
+int RollGeometry::firstStep() const
+{
+    return static_cast<int>(bottomStep());
+}
+
+int RollGeometry::endStep() const
+{
+    return firstStep() + static_cast<int>(std::ceil(height / keyHeight)) + 1;
+}
+
+RollQuad RollGeometry::note(const Note& note) const
+{
+    const double half =
+        note.velocity * std::max(0.0, keyWidth * 0.5 - kColumnMargin) + kLeastHalfWidth;
+    const double centre = xOf(note.key + 0.5);
+    return {centre - half, centre + half - 1.0, yOf(note.start), yOf(note.start + note.length)};
+}
+
+RollPoint RollGeometry::pointAt(double mouseX, double mouseY) const
+{
+    // A pixel shows what lies above its lower edge.
+    const double key = std::trunc((mouseX + x) / keyWidth);
+    return {std::clamp(key, 0.0, kKeys - 1.0), (height - 1.0 - mouseY + y) / keyHeight};
+}
+
+} // namespace velmora

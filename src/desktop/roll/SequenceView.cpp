@@ -1,0 +1,221 @@
+#include "desktop/roll/SequenceView.h"
+
+#include "desktop/widgets/graphics.h"
+#include "preferences/Preferences.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kMillisecondsOfPull = 16;
+
+/// A pull is the faster the farther it is from the edge: by that part of the way each time.
+constexpr double kPartOfPull = 0.25;
+
+} // namespace
+
+SequenceView::SequenceView(QWidget* parent) : QOpenGLWidget(parent)
+{
+    setAccessibleName(tr("Piano roll"));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    pulling_.setInterval(kMillisecondsOfPull);
+    connect(&pulling_, &QTimer::timeout, this, &SequenceView::pull);
+}
+
+void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor* editor)
+{
+    if (document_ != nullptr)
+        disconnect(document_, nullptr, this, nullptr);
+    document_ = document;
+    editor_ = editor;
+    button_ = Qt::NoButton;
+    pulling_.stop();
+    if (document_ != nullptr)
+        connect(document_, &SequenceDocument::changed, this, &SequenceView::redraw);
+    redraw();
+}
+
+void SequenceView::scrollToPoint(QPoint point)
+{
+    offset_ = point;
+    update();
+}
+
+RollGeometry SequenceView::rollGeometry() const
+{
+    return {getPrefInt("KeyWidth"),           getPrefInt("KeyHeight"),
+            static_cast<double>(offset_.x()), static_cast<double>(offset_.y()),
+            static_cast<double>(width()),     static_cast<double>(height())};
+}
+
+void SequenceView::redraw()
+{
+    isIndexed_ = false;
+    update();
+}
+
+void SequenceView::gather()
+{
+    // While a recording goes on it changes its notes at every tick.
+    if (!std::exchange(isIndexed_, document_->mode() != SequenceDocument::Mode::Recording))
+        index_.rebuild(document_->getSequence().notes());
+}
+
+void SequenceView::paintGL()
+{
+    glClearColor(1, 1, 1, 1);
+    glClear(GL_COLOR_BUFFER_BIT);
+    if (document_ == nullptr)
+        return;
+
+    setPixelCoordinates(*this, 0);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+
+    gather();
+    const double ratio = devicePixelRatioF();
+    const double line = std::max(1.0, std::floor(ratio)) / ratio;
+    picture_.draw(rollGeometry(), RollColors(palette()), line, *document_, index_);
+    const auto& vertices = picture_.vertices();
+    glEnableClientState(GL_VERTEX_ARRAY);
+    glEnableClientState(GL_COLOR_ARRAY);
+    glVertexPointer(2, GL_FLOAT, sizeof(RollVertex), &vertices.front().x);
+    glColorPointer(4, GL_UNSIGNED_BYTE, sizeof(RollVertex), vertices.front().color.data());
+    const auto drawQuads = [](std::size_t begin, std::size_t end) {
+        glDrawArrays(GL_QUADS, static_cast<GLint>(begin), static_cast<GLsizei>(end - begin));
+    };
+    drawQuads(0, picture_.blendedBegin());
+    glEnable(GL_BLEND);
+    drawQuads(picture_.blendedBegin(), picture_.blendedEnd());
+    glDisable(GL_BLEND);
+    drawQuads(picture_.blendedEnd(), vertices.size());
+    glDisableClientState(GL_COLOR_ARRAY);
+    glDisableClientState(GL_VERTEX_ARRAY);
+}
+
+RollPoint SequenceView::localPoint(const QPointF& point) const
+{
+    return rollGeometry().pointAt(point.x(), point.y());
+}
+
+RollHit SequenceView::hitAt(const QPointF& point)
+{
+    gather();
+    const RollPoint place = localPoint(point);
+    const int keyHeight = getPrefInt("KeyHeight");
+    RollHit hit = RollHit::Nothing;
+    index_.visit(document_->getSequence().notes(), place.step, place.step, [&](const Note& note) {
+        if (const RollHit here = rollHit(note, place, keyHeight); here != RollHit::Nothing)
+            hit = here; // the last one lies on top
+    });
+    return hit;
+}
+
+void SequenceView::showCursor(Qt::KeyboardModifiers modifiers)
+{
+    if (button_ != Qt::NoButton || document_ == nullptr)
+        return;
+    if (modifiers.testFlag(Qt::ControlModifier)) {
+        setCursor(Qt::CrossCursor);
+        return;
+    }
+    switch (hitAt(mapFromGlobal(QPointF(QCursor::pos())))) {
+    case RollHit::Note:
+        setCursor(Qt::SizeAllCursor);
+        break;
+    case RollHit::NoteEnd:
+        setCursor(Qt::SizeVerCursor);
+        break;
+    case RollHit::Nothing:
+        unsetCursor();
+        break;
+    }
+}
+
+void SequenceView::mousePressEvent(QMouseEvent* event)
+{
+    if (editor_ == nullptr || button_ != Qt::NoButton)
+        return;
+    if (event->button() == Qt::LeftButton)
+        editor_->mouseDown(localPoint(event->position()), event->modifiers());
+    else if (event->button() == Qt::RightButton)
+        editor_->rightMouseDown(localPoint(event->position()));
+    else
+        return;
+    button_ = event->button();
+    redraw();
+}
+
+void SequenceView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (button_ == Qt::NoButton || editor_ == nullptr) {
+        showCursor(event->modifiers());
+        return;
+    }
+    drag(event->position());
+}
+
+void SequenceView::drag(const QPointF& point)
+{
+    dragged_ = point;
+    if (QRectF(rect()).contains(point))
+        pulling_.stop();
+    else if (!pulling_.isActive())
+        pulling_.start();
+    editor_->mouseDragged(localPoint(point));
+    redraw();
+}
+
+void SequenceView::pull()
+{
+    const double x = dragged_.x() - std::clamp(dragged_.x(), 0.0, width() - 1.0);
+    const double y = dragged_.y() - std::clamp(dragged_.y(), 0.0, height() - 1.0);
+    emit pulled(QPoint(static_cast<int>(std::round(x * kPartOfPull)),
+                       static_cast<int>(std::round(-y * kPartOfPull))));
+    drag(dragged_);
+}
+
+void SequenceView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (editor_ == nullptr || event->button() != button_)
+        return;
+    button_ = Qt::NoButton;
+    pulling_.stop();
+    editor_->mouseUp(localPoint(event->position()), event->modifiers());
+    redraw();
+    showCursor(event->modifiers());
+}
+
+bool SequenceView::event(QEvent* event)
+{
+    // A shortcut waits for the end of a drag as any other key does.
+    if (event->type() == QEvent::ShortcutOverride && button_ != Qt::NoButton) {
+        event->accept();
+        return true;
+    }
+    return QOpenGLWidget::event(event);
+}
+
+void SequenceView::handleKey(const QKeyEvent& event)
+{
+    const bool isPress = event.type() == QEvent::KeyPress;
+    if (editor_ == nullptr || (isPress && button_ != Qt::NoButton))
+        return;
+    if (isPress)
+        editor_->keyDown(event);
+    else
+        editor_->keyUp(event);
+    redraw();
+    showCursor(QGuiApplication::queryKeyboardModifiers());
+}
+
+} // namespace velmora

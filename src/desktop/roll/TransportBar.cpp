@@ -1,0 +1,131 @@
+#include "desktop/roll/TransportBar.h"
+
+#include "desktop/roll/SequenceActions.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceTime.h"
+#include "sound/KeyTables.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QSpinBox>
+#include <QToolButton>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kSlowest = 20;
+constexpr int kFastest = 400;
+
+QString shown(double step, double tempo)
+{
+    const double seconds = std::max(0.0, step / stepsPerSecond(tempo));
+    const auto tenths = static_cast<qlonglong>(seconds * 10);
+    return QString("%1:%2.%3")
+        .arg(tenths / 600)
+        .arg(tenths / 10 % 60, 2, 10, QChar('0'))
+        .arg(tenths % 10);
+}
+
+} // namespace
+
+TransportBar::TransportBar(SequenceDocument& document, SequenceActions& actions)
+    : document_(document), tempo_(new QSpinBox), channel_(new QComboBox), position_(new QLabel)
+{
+    setObjectName("transport");
+    setWindowTitle(tr("Transport"));
+    setMovable(false);
+    addButton(*actions.record, tr("Stop"));
+    addButton(*actions.play, tr("Stop"));
+    addSeparator();
+    addAction(actions.loop);
+    addAction(actions.snap);
+    addSeparator();
+    addTempo();
+    addChannel();
+    addSeparator();
+    position_->setAccessibleName(tr("Position"));
+    position_->setToolTip(tr("The position: minutes and seconds at this tempo, and the step"));
+    position_->setMargin(6);
+    addWidget(position_);
+
+    connect(&document_, &SequenceDocument::optionsChanged, this, &TransportBar::showOptions);
+    connect(&document_, &SequenceDocument::changed, this, &TransportBar::showPosition);
+    connect(&document_, &SequenceDocument::frame, this, &TransportBar::showPosition);
+    showOptions();
+}
+
+void TransportBar::addButton(QAction& action, const QString& otherTitle)
+{
+    addAction(&action);
+    auto* button = qobject_cast<QToolButton*>(widgetForAction(&action));
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    // Wide enough for either title, so that nothing moves when it changes.
+    const int spread = fontMetrics().horizontalAdvance(otherTitle) -
+                       fontMetrics().horizontalAdvance(action.iconText());
+    button->setMinimumWidth(button->sizeHint().width() + std::max(0, spread));
+}
+
+void TransportBar::addTempo()
+{
+    auto* label = new QLabel(tr("Te&mpo"));
+    label->setMargin(4);
+    label->setBuddy(tempo_);
+    addWidget(label);
+    tempo_->setRange(kSlowest, kFastest);
+    tempo_->setKeyboardTracking(false);
+    tempo_->setAccessibleName(tr("Tempo"));
+    tempo_->setToolTip(tr("Beats a minute of playing and recording (Alt+M)"));
+    connect(tempo_, &QSpinBox::valueChanged, this,
+            [this](int tempo) { document_.setTempo(tempo); });
+    connect(tempo_, &QSpinBox::editingFinished, this, [this] {
+        if (tempo_->hasFocus()) // else the user has gone on, and is where he wants to be
+            emit done();
+    });
+    addWidget(tempo_);
+}
+
+void TransportBar::addChannel()
+{
+    auto* label = new QLabel(tr("&Channel"));
+    label->setMargin(4);
+    label->setBuddy(channel_);
+    addWidget(label);
+    for (int channel = 1; channel <= kChannels; ++channel)
+        channel_->addItem(QString::number(channel));
+    channel_->setAccessibleName(tr("Channel"));
+    channel_->setToolTip(
+        tr("The channel of notes that are recorded or drawn. A digit key chooses it "
+           "and selects its notes; with Ctrl it puts the selected ones on it."));
+    connect(channel_, &QComboBox::activated, this, [this](int channel) {
+        document_.setChannel(static_cast<unsigned char>(channel));
+        emit done();
+    });
+    addWidget(channel_);
+}
+
+void TransportBar::showOptions()
+{
+    if (const auto tempo = static_cast<int>(std::lround(document_.tempo()));
+        tempo != tempo_->value()) {
+        const QSignalBlocker isShown(tempo_);
+        tempo_->setValue(tempo);
+    }
+    channel_->setCurrentIndex(document_.channel() < kChannels ? document_.channel() : -1);
+    showPosition();
+}
+
+void TransportBar::showPosition()
+{
+    const double offset = document_.getOffset();
+    // While it runs, more could not be read, only painted.
+    const int decimals = document_.mode() == SequenceDocument::Mode::Stopped ? 1 : 0;
+    position_->setText(
+        tr("%1  ·  step %2").arg(shown(offset, document_.tempo())).arg(offset, 0, 'f', decimals));
+}
+
+} // namespace velmora

@@ -1,0 +1,43 @@
+#include "desktop/shell/FileDrop.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+#include <QWidget>
+
+namespace velmora {
+
+namespace {
+
+QStringList localFiles(const QMimeData& data)
+{
+    QStringList paths;
+    for (const QUrl& url : data.urls())
+        if (url.isLocalFile())
+            paths += url.toLocalFile();
+    return paths;
+}
+
+} // namespace
+
+void FileDrop::watch(QWidget& window)
+{
+    window.setAcceptDrops(true);
+    window.installEventFilter(this);
+}
+
+bool FileDrop::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop)
+        return QObject::eventFilter(watched, event);
+    auto& drop = static_cast<QDropEvent&>(*event); // which a drag's entering is, too
+    const QStringList paths = localFiles(*drop.mimeData());
+    if (paths.isEmpty())
+        return false;
+    drop.acceptProposedAction();
+    if (event->type() == QEvent::Drop)
+        emit dropped(paths);
+    return true;
+}
+
+} // namespace velmora

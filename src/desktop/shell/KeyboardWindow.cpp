@@ -1,0 +1,76 @@
+#include "desktop/shell/KeyboardWindow.h"
+
+#include "app/AppDelegate.h"
+#include "desktop/keyboard/KeyboardView.h"
+#include "desktop/shell/Commands.h"
+#include "desktop/shell/StatusLine.h"
+#include "desktop/widgets/windowPlace.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QToolBar>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kKeyboardHeight = 140;
+
+} // namespace
+
+KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
+    : commands_(commands), keyboard_(new KeyboardView(application)),
+      status_(new StatusLine(application))
+{
+    setWindowTitle(tr("Velmora"));
+    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
+    setCentralWidget(keyboard_);
+    keyboard_->setFocus(); // keys are for the sequence, not for a button
+    setStatusBar(status_);
+
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    commands.addOpening(*file);
+    commands.addClosing(*file);
+    commands.addSound(*menuBar());
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    view->addAction(commands.noteNames);
+    view->addSeparator();
+    commands.addWindows(*view);
+    commands.addHelp(*menuBar());
+
+    QToolBar* tools = addToolBar(tr("Tools"));
+    tools->setObjectName("tools");
+    tools->setMovable(false);
+    tools->addActions({commands.newSequence, commands.open});
+    tools->addSeparator();
+    tools->addAction(commands.instrumentPanel);
+    tools->addSeparator();
+    tools->addAction(commands.silence);
+
+    // The height is the user's, the width that of the keys.
+    resize(width(), kKeyboardHeight + menuBar()->sizeHint().height() + tools->sizeHint().height() +
+                        status_->sizeHint().height());
+    rememberPlace(*this, "keyboard");
+    keyboard_->updateWindowSize();
+}
+
+void KeyboardWindow::closeEvent(QCloseEvent* event)
+{
+    // The home of the program: without it there is no more to do. Unless the user changes his mind.
+    event->ignore();
+    commands_.quit->trigger();
+}
+
+void KeyboardWindow::keyPressEvent(QKeyEvent* event)
+{
+    event->ignore();
+    emit keyEvent(event);
+}
+
+void KeyboardWindow::keyReleaseEvent(QKeyEvent* event)
+{
+    event->ignore();
+    emit keyEvent(event);
+}
+
+} // namespace velmora

@@ -1,0 +1,242 @@
+#include "desktop/shell/PreferencesWindow.h"
+
+#include "desktop/widgets/ColorButton.h"
+#include "desktop/widgets/NoteSpinBox.h"
+#include "desktop/widgets/closeByKeys.h"
+#include "desktop/widgets/icons.h"
+#include "desktop/widgets/windowPlace.h"
+#include "preferences/Color.h"
+#include "preferences/Preferences.h"
+
+#include <QActionGroup>
+#include <QCheckBox>
+#include <QEvent>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QStackedWidget>
+#include <QToolBar>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kNumberWidth = 120;
+constexpr int kPathWidth = 220;
+
+/// What a screen reader says of a widget with that label.
+QString spoken(QString label)
+{
+    return label.remove('&').remove(':');
+}
+
+QSpinBox* makePixelBox()
+{
+    auto* box = new QSpinBox;
+    box->setSuffix(PreferencesWindow::tr(" px"));
+    box->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+    return box;
+}
+
+} // namespace
+
+PreferencesWindow::PreferencesWindow()
+    : paneActions_(new QActionGroup(this)), panes_(new QStackedWidget(this))
+{
+    setWindowTitle(tr("Preferences"));
+    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
+    setCentralWidget(panes_);
+    auto* toolBar = addToolBar(tr("Panes"));
+    toolBar->setMovable(false);
+    toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    addPane(tr("&General"), "preferences-general", makeGeneralPane());
+    addPane(tr("C&olors"), "preferences-colors", makeColorsPane());
+    toolBar->addActions(paneActions_->actions());
+    for (QAction* action : paneActions_->actions())
+        toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+    closeByKeys(*this);
+    rememberPlace(*this, "preferences");
+}
+
+void PreferencesWindow::addPane(const QString& name, const char* iconName, QWidget* pane)
+{
+    panes_->addWidget(pane);
+    auto* action = paneActions_->addAction(icon(iconName), spoken(name));
+    action->setCheckable(true);
+    action->setChecked(panes_->currentWidget() == pane);
+    action->setShortcut(QKeySequence::mnemonic(name));
+    connect(action, &QAction::triggered, panes_, [this, pane] { panes_->setCurrentWidget(pane); });
+}
+
+QWidget* PreferencesWindow::makeGeneralPane()
+{
+    auto* pane = new QWidget;
+    auto* form = new QFormLayout(pane);
+    addNumber(*form, tr("Key &width:"), "KeyWidth", makePixelBox(),
+              tr("The width of a semitone on the keyboard and in the piano roll"));
+    addNumber(*form, tr("&Step height:"), "KeyHeight", makePixelBox(),
+              tr("The height of a step, a line of the grid, in the piano roll"));
+    addNumber(*form, tr("&Lowest key:"), "KeyRangeLo", new NoteSpinBox,
+              tr("The first key of the keyboard: a name, such as A0, or a MIDI number"));
+    addNumber(*form, tr("&Highest key:"), "KeyRangeHi", new NoteSpinBox,
+              tr("The last key of the keyboard: a name, such as C8, or a MIDI number"));
+
+    auto* names = new QCheckBox(tr("Show note &names on the C keys"));
+    names->setObjectName("KeyNames");
+    connect(names, &QCheckBox::toggled, this, [this](bool isOn) {
+        setPrefBool("KeyNames", isOn);
+        emit changed();
+    });
+    readers_.emplace_back([names] {
+        const QSignalBlocker blocker(names);
+        names->setChecked(getPrefBool("KeyNames"));
+    });
+    form->addRow(QString(), names);
+    form->addRow(tr("General MIDI bank:"), makeBankRow());
+    return pane;
+}
+
+void PreferencesWindow::addNumber(QFormLayout& form, const QString& label, const char* key,
+                                  QSpinBox* box, const QString& help)
+{
+    box->setObjectName(key);
+    box->setAccessibleName(spoken(label));
+    box->setToolTip(help);
+    box->setMinimumWidth(kNumberWidth);
+    box->setKeyboardTracking(false); // half of a number is none
+    box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    form.addRow(label, box);
+    connect(box, &QSpinBox::valueChanged, this, [this, key](int value) {
+        setPrefInt(key, value);
+        read(); // the ends of the keyboard limit each other
+        emit changed();
+    });
+    readers_.emplace_back([box, key] {
+        const QSignalBlocker blocker(box);
+        const PrefRange range = prefRange(key);
+        box->setRange(range.least, range.greatest);
+        if (box->value() != getPrefInt(key)) // else it would change what is being typed
+            box->setValue(getPrefInt(key));
+    });
+}
+
+QLayout* PreferencesWindow::makeBankRow()
+{
+    auto* path = new QLineEdit;
+    path->setObjectName("GMBank");
+    path->setReadOnly(true);
+    path->setPlaceholderText(tr("System default"));
+    path->setAccessibleName(tr("General MIDI bank"));
+    path->setMinimumWidth(kPathWidth);
+    auto* choose = new QPushButton(tr("&Choose…"));
+    choose->setObjectName("ChooseBank");
+    choose->setToolTip(tr("Choose the SoundFont that the General MIDI instrument plays"));
+    connect(choose, &QPushButton::clicked, this, &PreferencesWindow::chooseBank);
+    auto* standard = new QPushButton(tr("Use &Default"));
+    standard->setObjectName("DefaultBank");
+    standard->setToolTip(tr("Play the General MIDI bank of the system again"));
+    connect(standard, &QPushButton::clicked, this, [this] { setBank({}); });
+    readers_.emplace_back([path, standard] {
+        path->setText(QString::fromStdString(getPrefString("GMBank")));
+        path->setToolTip(path->text());
+        standard->setEnabled(!path->text().isEmpty());
+    });
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(path, 1);
+    row->addWidget(choose);
+    row->addWidget(standard);
+    return row;
+}
+
+void PreferencesWindow::chooseBank()
+{
+    auto* dialog = new QFileDialog(this, tr("Choose a General MIDI Bank"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters({tr("SoundFont banks (*.sf2 *.sf3)"), tr("All files (*)")});
+    const QString bank = QString::fromStdString(getPrefString("GMBank"));
+    if (bank.isEmpty())
+        dialog->setDirectory("/usr/share/sounds/sf2");
+    else
+        dialog->selectFile(bank);
+    connect(dialog, &QFileDialog::fileSelected, this, &PreferencesWindow::setBank);
+    dialog->open();
+}
+
+void PreferencesWindow::setBank(const QString& path)
+{
+    if (path.isEmpty())
+        resetPref("GMBank");
+    else
+        setPrefString("GMBank", path.toStdString());
+    read();
+    emit bankChanged();
+}
+
+QWidget* PreferencesWindow::makeColorsPane()
+{
+    auto* keyboard = new QGroupBox(tr("Keys of the keyboard"));
+    auto* keys = new QFormLayout(keyboard);
+    addColor(*keys, tr("&Played:"), "KeyColor",
+             tr("Keys that the sequence plays, or waits for in practice"));
+    addColor(*keys, tr("&Right:"), "KeyColorCorrect",
+             tr("Keys that you strike as they are wanted"));
+    addColor(*keys, tr("&Held:"), "KeyColorSustain", tr("Keys that you hold on"));
+    addColor(*keys, tr("&Wrong:"), "KeyColorWrong", tr("Keys that you strike unwanted"));
+    auto* roll = new QGroupBox(tr("Notes of the piano roll"));
+    auto* notes = new QFormLayout(roll);
+    addColor(*notes, tr("&At rest:"), "NoteColor", tr("Notes that are not sounding"));
+    addColor(*notes, tr("&Sounding:"), "NoteColorPlaying", tr("Notes at the play position"));
+
+    auto* reset = new QPushButton(tr("Reset to &Defaults"));
+    reset->setObjectName("ResetColors");
+    connect(reset, &QPushButton::clicked, this, [this] {
+        for (const auto* button : findChildren<ColorButton*>())
+            resetPref(button->objectName().toStdString());
+        read();
+        emit changed();
+    });
+
+    auto* pane = new QWidget;
+    auto* layout = new QGridLayout(pane);
+    layout->addWidget(keyboard, 0, 0);
+    layout->addWidget(roll, 0, 1);
+    layout->addWidget(reset, 1, 1, Qt::AlignRight);
+    layout->setRowStretch(2, 1);
+    return pane;
+}
+
+void PreferencesWindow::addColor(QFormLayout& form, const QString& label, const char* key,
+                                 const QString& help)
+{
+    auto* button = new ColorButton(help);
+    button->setObjectName(key);
+    button->setToolTip(help);
+    form.addRow(label, button);
+    connect(button, &ColorButton::chosen, this, [this, key](const QColor& color) {
+        setPrefColor(key, Color(color));
+        read();
+        emit changed();
+    });
+    readers_.emplace_back([button, key] { button->setColor(Color(key).toQColor()); });
+}
+
+void PreferencesWindow::read() const
+{
+    for (const auto& reader : readers_)
+        reader();
+}
+
+bool PreferencesWindow::event(QEvent* event)
+{
+    // Some can also be changed elsewhere.
+    if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate)
+        read();
+    return QMainWindow::event(event);
+}
+
+} // namespace velmora

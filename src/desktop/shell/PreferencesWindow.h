@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <functional>
+#include <vector>
+
+class QActionGroup;
+class QFormLayout;
+class QSpinBox;
+class QStackedWidget;
+
+namespace velmora {
+
+/// Edits the preferences, in the panes "General" and "Colors". Each change is stored at once.
+class PreferencesWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    PreferencesWindow();
+
+signals:
+    /// What the views show is to be drawn, and measured, afresh.
+    void changed();
+
+    /// Another bank is to be loaded into the General MIDI synthesizer.
+    void bankChanged();
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    QWidget* makeGeneralPane();
+    QWidget* makeColorsPane();
+    void addPane(const QString& name, const char* iconName, QWidget* pane);
+    void addNumber(QFormLayout& form, const QString& label, const char* key, QSpinBox* box,
+                   const QString& help);
+    void addColor(QFormLayout& form, const QString& label, const char* key, const QString& help);
+    QLayout* makeBankRow();
+    void chooseBank();
+    void setBank(const QString& path);
+
+    /// Shows what the preferences are.
+    void read() const;
+
+    QActionGroup* paneActions_;
+    QStackedWidget* panes_;
+    std::vector<std::function<void()>> readers_; // one for each widget
+};
+
+} // namespace velmora

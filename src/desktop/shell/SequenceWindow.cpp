@@ -1,0 +1,231 @@
+#include "desktop/shell/SequenceWindow.h"
+
+#include "app/AppDelegate.h"
+#include "desktop/roll/SequenceActions.h"
+#include "desktop/roll/SequenceScrollView.h"
+#include "desktop/roll/SequenceStatus.h"
+#include "desktop/roll/SequenceView.h"
+#include "desktop/roll/TransportBar.h"
+#include "desktop/shell/Commands.h"
+#include "desktop/shell/exportAudio.h"
+#include "desktop/tuning/TuningStrip.h"
+#include "desktop/widgets/icons.h"
+#include "desktop/widgets/windowPlace.h"
+#include "preferences/Preferences.h"
+#include "preferences/settings.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kUsualWindowHeight = 640;
+
+/// Whether there is the tuning strip.
+constexpr const char* kStripKey = "tuningStrip";
+
+} // namespace
+
+SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, const QString& name,
+                               RecoveryFile recovery)
+    : application_(application), commands_(commands), name_(name), document_(application),
+      editor_(document_), clock_(document_), keeper_(document_, std::move(recovery)),
+      actions_(std::make_unique<SequenceActions>(document_, editor_)),
+      scrollView_(new SequenceScrollView), tuningStrip_(new TuningStrip(application))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
+    makeView();
+    makeMenus();
+    setStatusBar(new SequenceStatus(document_));
+    connect(&document_, &SequenceDocument::changed, this, &SequenceWindow::showTitle);
+    connect(&document_, &SequenceDocument::frame, this, &SequenceWindow::showTitle);
+    connect(&document_.undoStack(), &QUndoStack::cleanChanged, this, &SequenceWindow::showTitle);
+    // The release of a key that is held may go elsewhere now.
+    connect(qApp, &QApplication::focusChanged, this, [this] { editor_.releaseKeys(); });
+    showTitle();
+    fitToScreen();
+    rememberPlace(*this, "sequence");
+}
+
+SequenceWindow::~SequenceWindow()
+{
+    if (!isSettled_)
+        keeper_.leave();
+    qApp->disconnect(this);
+    // The widgets go after the document, which has something to say to the end.
+    scrollView_->view().setDocument(nullptr, nullptr);
+    document_.disconnect();
+    document_.undoStack().disconnect();
+}
+
+void SequenceWindow::makeView()
+{
+    auto* centre = new QWidget;
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(scrollView_);
+    layout->addWidget(tuningStrip_);
+    setCentralWidget(centre);
+    scrollView_->view().setDocument(&document_, &editor_);
+    auto* transport = new TransportBar(document_, *actions_);
+    addToolBar(transport);
+    connect(transport, &TransportBar::done, this, [this] { scrollView_->setFocus(); });
+    connect(scrollView_, &SequenceScrollView::zoomed, this, &SequenceWindow::zoomed);
+    connect(scrollView_, &SequenceScrollView::scrolledByUser, this,
+            [this] { isScrolledAway_ = document_.mode() != SequenceDocument::Mode::Stopped; });
+    connect(&document_, &SequenceDocument::scrolled, this, &SequenceWindow::scrollTo);
+    connect(&document_, &SequenceDocument::sizeChanged, this, &SequenceWindow::updateDocumentSizes);
+    // Later than what the document does at the end of playing, which is not to be followed either.
+    connect(
+        &document_, &SequenceDocument::modeChanged, this, [this] { isScrolledAway_ = false; },
+        Qt::QueuedConnection);
+    scrollView_->setFocus();
+}
+
+void SequenceWindow::makeMenus()
+{
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    commands_.addOpening(*file);
+    file->addSeparator();
+    file->addAction(icon("save"), tr("&Save"), QKeySequence::Save, this, [this] { save(); });
+    file->addAction(tr("Save &As…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this,
+                    [this] { saveAs(); });
+    file->addAction(icon("export"), tr("&Export Audio…"), QKeySequence(Qt::CTRL | Qt::Key_E), this,
+                    [this] { exportAudio(*this, document_, application_); });
+    file->addSeparator();
+    file->addAction(tr("&Close"), QKeySequence(Qt::CTRL | Qt::Key_W), this, &QWidget::close);
+    commands_.addClosing(*file);
+
+    actions_->addEditing(*menuBar()->addMenu(tr("&Edit")));
+    actions_->addTransport(*menuBar()->addMenu(tr("&Sequence")));
+    commands_.addSound(*menuBar());
+
+    makeViewMenu();
+    commands_.addHelp(*menuBar());
+}
+
+void SequenceWindow::makeViewMenu()
+{
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    const auto addZoom = [&](const char* picture, const QString& text, const QKeySequence& shortcut,
+                             void (SequenceScrollView::*zoom)(int), int notches) {
+        view->addAction(icon(picture), text, shortcut, this,
+                        [this, zoom, notches] { (scrollView_->*zoom)(notches); });
+    };
+    addZoom("zoom-in", tr("Zoo&m In"), QKeySequence::ZoomIn, &SequenceScrollView::zoomSteps, 1);
+    addZoom("zoom-out", tr("Zoom &Out"), QKeySequence::ZoomOut, &SequenceScrollView::zoomSteps, -1);
+    addZoom("zoom-in", tr("&Wider Keys"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Plus),
+            &SequenceScrollView::zoomKeys, 1);
+    addZoom("zoom-out", tr("Narrowe&r Keys"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Minus),
+            &SequenceScrollView::zoomKeys, -1);
+    view->addSeparator();
+    QAction* strip = view->addAction(icon("tuning"), tr("&Tuning Strip"), this, [this](bool on) {
+        setPreference(kStripKey, on);
+        tuningStrip_->setVisible(on);
+    });
+    strip->setCheckable(true);
+    strip->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+    strip->setChecked(preference(kStripKey).toBool());
+    tuningStrip_->setVisible(strip->isChecked());
+    view->addAction(commands_.noteNames);
+    view->addSeparator();
+    commands_.addWindows(*view);
+}
+
+void SequenceWindow::fitToScreen()
+{
+    const int keys = getPrefInt("KeyRangeHi") - getPrefInt("KeyRangeLo") + 1;
+    const int width = keys * getPrefInt("KeyWidth") +
+                      style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    resize(QSize(width, kUsualWindowHeight).boundedTo(roomFor(*this)));
+}
+
+void SequenceWindow::showDocument()
+{
+    document_.midiInput(); // what is wanted at the beginning
+    updateDocumentSizes();
+    showTitle();
+}
+
+void SequenceWindow::redraw()
+{
+    scrollView_->view().update();
+}
+
+void SequenceWindow::updateDocumentSizes()
+{
+    scrollView_->updateDocumentSizes(document_.extent());
+}
+
+void SequenceWindow::handleKey(const QKeyEvent& event)
+{
+    scrollView_->view().handleKey(event);
+}
+
+void SequenceWindow::scrollTo(double step)
+{
+    if (!isScrolledAway_)
+        scrollView_->scrollVertically(step * getPrefInt("KeyHeight"));
+}
+
+QString SequenceWindow::displayName() const
+{
+    return document_.path().empty() ? name_
+                                    : QString::fromStdString(document_.path().filename().string());
+}
+
+void SequenceWindow::showTitle()
+{
+    // A file name may have the placeholder of the mark in it.
+    setWindowTitle(displayName().replace("[*]", "[*][*]") + "[*]");
+    setWindowModified(document_.isModified());
+}
+
+void SequenceWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (std::exchange(isPlaced_, true))
+        return;
+    updateDocumentSizes();
+    scrollView_->scrollClipView({getPrefInt("KeyRangeLo") * getPrefInt("KeyWidth"), 0});
+}
+
+void SequenceWindow::closeAsIs()
+{
+    isSettled_ = true;
+    close();
+}
+
+void SequenceWindow::closeEvent(QCloseEvent* event)
+{
+    if (!isSettled_ && !askToClose()) {
+        event->ignore();
+        return;
+    }
+    isSettled_ = true;
+    editor_.releaseKeys();
+    scrollView_->view().setDocument(nullptr, nullptr);
+    document_.stop();
+    emit closing();
+}
+
+void SequenceWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        emit becameMain();
+    if (event->type() == QEvent::WindowStateChange && isMinimized())
+        emit resignedMain();
+}
+
+} // namespace velmora

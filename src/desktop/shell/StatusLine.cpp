@@ -1,0 +1,125 @@
+#include "desktop/shell/StatusLine.h"
+
+#include "app/AppDelegate.h"
+#include "desktop/widgets/icons.h"
+#include "preferences/settings.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QToolButton>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kMillisecondsToPeriod = 500;
+constexpr int kPartMargin = 6;
+
+QString describe(const AudioOutput& output)
+{
+    const double rate = output.rate();
+    const auto period = static_cast<double>(output.period());
+    return StatusLine::tr("%1, %2 kHz, %3 ms")
+        .arg(QString::fromStdString(output.driver()).toUpper())
+        .arg(rate / 1000.0, 0, 'g', 4)
+        .arg(1000.0 * period / rate, 0, 'f', 1);
+}
+
+} // namespace
+
+StatusLine::StatusLine(AppDelegate& application)
+    : application_(application), instrument_(new QLabel), tuning_(new QLabel), output_(new QLabel),
+      inputs_(new QLabel), noticesButton_(new QToolButton)
+{
+    noticesButton_->setIcon(icon("warning"));
+    noticesButton_->setAutoRaise(true);
+    noticesButton_->hide();
+    connect(noticesButton_, &QToolButton::clicked, this, &StatusLine::showNotices);
+    // A message takes the place of all this for its time; in between it stands at the right.
+    addWidget(new QWidget, 1);
+    addWidget(noticesButton_);
+    instrument_->setToolTip(tr("The instrument that sounds"));
+    tuning_->setToolTip(tr("The temperament in which it sounds"));
+    output_->setToolTip(tr("The sound output: its rate and the time between two of its periods"));
+    for (QLabel* label : {instrument_, tuning_, output_, inputs_}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setContentsMargins(kPartMargin, 0, kPartMargin, 0);
+        addWidget(label);
+    }
+    connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
+    connect(&application_, &AppDelegate::tuningChanged, this, &StatusLine::showSound);
+    connect(&untilPeriodIsKnown_, &QTimer::timeout, this, &StatusLine::showOutput);
+}
+
+void StatusLine::showSound()
+{
+    instrument_->setText(QString::fromStdString(application_.instrumentName()));
+    tuning_->setText(QString::fromStdString(application_.tuningName()));
+}
+
+void StatusLine::showDevices()
+{
+    showSound();
+    showOutput();
+    QStringList names;
+    for (const std::string& name : application_.midiInputs()->names())
+        names += QString::fromStdString(name);
+    inputs_->setText(names.isEmpty()     ? tr("No MIDI input")
+                     : names.size() == 1 ? names.front()
+                                         : tr("%1 MIDI inputs").arg(names.size()));
+    inputs_->setToolTip(names.isEmpty() ? tr("No MIDI device was there at the start")
+                                        : names.join("\n"));
+
+    if (application_.audioOutput() == nullptr)
+        addNotice(tr("There is no sound output: the General MIDI player is silent."));
+    if (!application_.canPlaySamples())
+        addNotice(tr("OpenAL has no sound output: sampled instruments cannot be opened."));
+    if (names.isEmpty())
+        addNotice(tr("No MIDI device was there at the start: connect one and start Velmora again, "
+                     "or play with the mouse."));
+    if (!application_.keepsDisplayAwake())
+        addNotice(tr("There is no session bus: the display may go to sleep while you play."));
+    if (!arePreferencesWritable())
+        addNotice(tr("The preferences cannot be written: they are kept until the end only."));
+}
+
+void StatusLine::showOutput()
+{
+    const AudioOutput* output = application_.audioOutput();
+    if (output != nullptr && output->period() == 0) {
+        untilPeriodIsKnown_.start(kMillisecondsToPeriod);
+        return;
+    }
+    untilPeriodIsKnown_.stop();
+    output_->setText(output == nullptr ? tr("No sound output") : describe(*output));
+}
+
+void StatusLine::addNotice(const QString& notice)
+{
+    if (notices_.contains(notice))
+        return;
+    notices_ += notice;
+    updateNotices();
+}
+
+void StatusLine::removeNotice(const QString& notice)
+{
+    notices_.removeAll(notice);
+    updateNotices();
+}
+
+void StatusLine::updateNotices()
+{
+    noticesButton_->setText(QString::number(notices_.size()));
+    noticesButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    noticesButton_->setToolTip(notices_.join("\n"));
+    noticesButton_->setAccessibleName(tr("%1 notices").arg(notices_.size()));
+    noticesButton_->setVisible(!notices_.isEmpty());
+}
+
+void StatusLine::showNotices()
+{
+    QMessageBox::information(window(), tr("Notices"), notices_.join("\n\n"));
+}
+
+} // namespace velmora

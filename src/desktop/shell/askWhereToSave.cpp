@@ -1,0 +1,91 @@
+#include "desktop/shell/askWhereToSave.h"
+
+#include "preferences/settings.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+QString filterOf(const FileKind& kind)
+{
+    return QString("%1 (*.%2)").arg(kind.name, kind.extensions.join(" *."));
+}
+
+bool isOf(const FileKind& kind, const QString& path)
+{
+    return kind.extensions.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+}
+
+bool isOfAny(const std::vector<FileKind>& kinds, const QString& path)
+{
+    return std::ranges::any_of(kinds, [&](const FileKind& kind) { return isOf(kind, path); });
+}
+
+/// Gives the name in the dialog the extension of a kind, in place of that of another.
+void chooseKind(QFileDialog& dialog, const std::vector<FileKind>& kinds, const FileKind& kind)
+{
+    dialog.setDefaultSuffix(kind.extensions.front());
+    const QString path = dialog.selectedFiles().value(0);
+    if (isOf(kind, path) || !isOfAny(kinds, path))
+        return;
+    dialog.selectFile(path.chopped(QFileInfo(path).suffix().size()) + kind.extensions.front());
+}
+
+bool mayReplace(QWidget& parent, const QString& path)
+{
+    return !QFileInfo::exists(path) ||
+           QMessageBox::question(&parent, QObject::tr("Velmora"),
+                                 QObject::tr("%1 is there already. Do you want to replace it?")
+                                     .arg(QFileInfo(path).fileName())) == QMessageBox::Yes;
+}
+
+} // namespace
+
+QString askWhereToSave(QWidget& parent, const SaveQuestion& question)
+{
+    const std::vector<FileKind>& kinds = question.kinds;
+    QFileDialog dialog(&parent, question.title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    QStringList filters;
+    for (const FileKind& kind : kinds)
+        filters += filterOf(kind);
+    dialog.setNameFilters(filters);
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
+        if (const qsizetype index = filters.indexOf(filter); index >= 0)
+            chooseKind(dialog, kinds, kinds[static_cast<std::size_t>(index)]);
+    });
+
+    const QFileInfo proposal(question.proposal);
+    dialog.setDirectory(proposal.isAbsolute() ? proposal.absolutePath()
+                                              : preference(question.folderKey).toString());
+    dialog.setDefaultSuffix(kinds.front().extensions.front());
+    for (const FileKind& kind : kinds) {
+        if (!isOf(kind, question.proposal))
+            continue;
+        dialog.selectNameFilter(filterOf(kind));
+        dialog.setDefaultSuffix(kind.extensions.front());
+    }
+    if (!proposal.fileName().isEmpty())
+        dialog.selectFile(proposal.fileName());
+
+    while (dialog.exec() == QDialog::Accepted) {
+        QString path = dialog.selectedFiles().front();
+        if (!isOfAny(kinds, path)) {
+            // The dialog takes what follows any point for an extension, and asks for that name.
+            path += '.' + dialog.defaultSuffix();
+            if (!mayReplace(parent, path))
+                continue;
+        }
+        setPreference(question.folderKey, QFileInfo(path).absolutePath());
+        return path;
+    }
+    return {};
+}
+
+} // namespace velmora

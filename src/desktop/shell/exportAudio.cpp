@@ -1,0 +1,95 @@
+#include "desktop/shell/exportAudio.h"
+
+#include "app/AudioExport.h"
+#include "desktop/shell/askWhereToSave.h"
+#include "sequencer/SequenceDocument.h"
+
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QStatusBar>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kParts = 1000;
+constexpr int kWrittenMilliseconds = 8000;
+
+/// One export, and how far it is.
+class ExportProgress : public QProgressDialog {
+public:
+    ExportProgress(QMainWindow& window, const QString& path)
+        : QProgressDialog(tr("Loading the instrument"), tr("Cancel"), 0, kParts, &window),
+          window_(window), path_(path)
+    {
+        setWindowTitle(tr("Export Audio"));
+        setWindowModality(Qt::WindowModal);
+        setAutoClose(false);
+        setAutoReset(false);
+        setMinimumDuration(0);
+        setMinimumWidth(360);
+        connect(this, &QProgressDialog::canceled, &export_, &AudioExport::cancel);
+        connect(&export_, &AudioExport::progressed, this, &ExportProgress::showProgress);
+        connect(&export_, &AudioExport::finished, this, &ExportProgress::finish);
+    }
+
+    void start(const SequenceDocument& document, AppDelegate& application)
+    {
+        export_.start(currentSettings(application), document.snapshot(), document.tempo(),
+                      path_.toStdString());
+    }
+
+private:
+    void showProgress(const QString& what, double done)
+    {
+        if (wasCanceled())
+            return;
+        setLabelText(tr("%1: %2").arg(QFileInfo(path_).fileName(), what));
+        setValue(static_cast<int>(done * kParts));
+    }
+
+    void finish(bool isWritten, const QString& error)
+    {
+        deleteLater();
+        hide();
+        const QString name = QFileInfo(path_).fileName();
+        if (isWritten)
+            window_.statusBar()->showMessage(tr("%1 is written").arg(name), kWrittenMilliseconds);
+        else if (!error.isEmpty())
+            QMessageBox::warning(&window_, tr("Velmora"),
+                                 tr("%1 was not written. %2").arg(name, error));
+    }
+
+    QMainWindow& window_;
+    QString path_;
+    AudioExport export_;
+};
+
+} // namespace
+
+void exportAudio(QMainWindow& window, const SequenceDocument& document, AppDelegate& application)
+{
+    const auto& saved = document.path();
+    const QString proposal = QString::fromStdString(
+        saved.empty() ? "" : std::filesystem::path(saved).replace_extension("wav").string());
+    const QString path = askWhereToSave(
+        window, {.title = ExportProgress::tr("Export Audio"),
+                 .kinds = {{"WAV", {"wav"}}, {"FLAC", {"flac"}}, {"Ogg Vorbis", {"ogg"}}},
+                 .proposal = proposal,
+                 .folderKey = "exportFolder"});
+    if (!path.isEmpty())
+        (new ExportProgress(window, path))->start(document, application); // goes when it is done
+}
+
+bool isExportingAudio(const QMainWindow& window)
+{
+    const auto exports = window.findChildren<QProgressDialog*>();
+    return std::ranges::any_of(exports, &QWidget::isVisible);
+}
+
+} // namespace velmora

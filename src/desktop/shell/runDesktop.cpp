@@ -1,0 +1,79 @@
+#include "desktop/shell/runDesktop.h"
+
+#include "base/Log.h"
+#include "desktop/shell/Desktop.h"
+#include "desktop/shell/SingleInstance.h"
+#include "desktop/widgets/graphics.h"
+#include "platform/QuitOnSignal.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace velmora {
+
+namespace {
+
+/// Leads what Qt has to say to the log. What it cannot go on after ends the program with a sentence
+/// instead of a core dump: mostly that there is no display.
+void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+{
+    const std::string message = text.toStdString();
+    switch (type) {
+    case QtFatalMsg:
+        std::fputs(("velmora: " + message + '\n').c_str(), stderr);
+        if (QGuiApplication::primaryScreen() == nullptr)
+            std::fputs("velmora: the windows cannot be shown; --help tells what works without\n",
+                       stderr);
+        std::_Exit(1);
+    case QtWarningMsg:
+    case QtCriticalMsg:
+        logger("desktop").warn("{}", message);
+        break;
+    default:
+        logger("desktop").debug("{}", message);
+    }
+}
+
+} // namespace
+
+int runDesktop(int argc, char** argv, const std::vector<std::string>& files)
+{
+    QuitOnSignal quitOnSignal;
+    qInstallMessageHandler(logMessage);
+    chooseGraphics();
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("velmora");
+    QApplication::setApplicationDisplayName("Velmora");
+    QApplication::setApplicationVersion(VELMORA_VERSION);
+    QApplication::setDesktopFileName("velmora");
+    QApplication::setWindowIcon(QIcon(":/velmora.svg"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QStringList paths;
+    for (const std::string& file : files)
+        paths += QFileInfo(QString::fromStdString(file)).absoluteFilePath();
+    SingleInstance instance;
+    if (instance.handOver(paths))
+        return 0;
+
+    Desktop desktop;
+    quitOnSignal.watch([] { QApplication::exit(); });
+    QObject::connect(&instance, &SingleInstance::opened, &desktop, &Desktop::open,
+                     Qt::QueuedConnection);
+    // The window first, then what may take its time.
+    QTimer launching;
+    launching.setSingleShot(true);
+    QObject::connect(&launching, &QTimer::timeout, [&] {
+        desktop.launch();
+        if (!paths.isEmpty())
+            desktop.open(paths);
+    });
+    launching.start(0);
+    return QApplication::exec();
+}
+
+} // namespace velmora

@@ -1,0 +1,116 @@
+#include "desktop/tuning/TuningStrip.h"
+
+#include "app/AppDelegate.h"
+#include "sound/KeyTables.h"
+#include "tuning/keyName.h"
+#include "tuning/spelling.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kLooksInSecond = 30;
+constexpr int kStripHeight = 40;
+
+/// A departure of so many cents fills the strip.
+constexpr double kFullCents = 50.0;
+
+constexpr float kLineOpacity = 0.3F;
+
+double cents(double pitch, double reference)
+{
+    return 1200.0 * std::log2(pitch / reference);
+}
+
+} // namespace
+
+TuningStrip::TuningStrip(AppDelegate& application, QWidget* parent)
+    : QWidget(parent), application_(application)
+{
+    setFixedHeight(kStripHeight);
+    setAccessibleName(tr("Tuning strip"));
+    setToolTip(tr("The cents by which each note of the tuning lies above or below equal "
+                  "temperament"));
+    looking_.setInterval(1000 / kLooksInSecond);
+    connect(&looking_, &QTimer::timeout, this, &TuningStrip::look);
+}
+
+void TuningStrip::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    look();
+    looking_.start();
+}
+
+void TuningStrip::hideEvent(QHideEvent* event)
+{
+    looking_.stop();
+    QWidget::hideEvent(event);
+}
+
+void TuningStrip::look()
+{
+    std::array<double, 12> pitches{};
+    double base = 0.0;
+    {
+        const std::lock_guard lock(application_.soundLock());
+        const Temperament* temperament = application_.getTemperament();
+        if (temperament == nullptr)
+            return;
+        for (unsigned tone = 0; tone < pitches.size(); ++tone)
+            pitches[tone] = temperament->getPitch(kMiddleC + tone);
+        base = temperament->baseFrequency();
+    }
+    Tones tones;
+    for (unsigned tone = 0; tone < pitches.size(); ++tone) {
+        const std::string name = spelling(cents(pitches[tone], base));
+        tones[tone] = {name.empty() ? keyName(tone) : name,
+                       cents(pitches[tone], equal.getPitch(kMiddleC + tone))};
+    }
+    if (tones == tones_)
+        return;
+    tones_ = tones;
+    update();
+}
+
+void TuningStrip::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * 0.85);
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(kLineOpacity);
+    const double cell = width() / 12.0;
+    for (unsigned tone = 0; tone < tones_.size(); ++tone) {
+        const QRectF place(tone * cell, 0, cell, height());
+        const double middle = place.center().y();
+        painter.setPen(line);
+        painter.drawLine(place.topRight(), place.bottomRight());
+
+        // A bar from the middle, up for what is sharp.
+        const double departure = std::clamp(tones_[tone].cents / kFullCents, -1.0, 1.0);
+        const QRectF bar(place.left() + cell / 2 - 3, middle, 6, -departure * (height() / 2.0 - 2));
+        painter.fillRect(bar.normalized(), palette().color(QPalette::Highlight));
+        painter.drawLine(QPointF(bar.left() - 4, middle), QPointF(bar.right() + 4, middle));
+
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.setFont(font());
+        painter.drawText(QRectF(place.left(), 0, cell / 2 - 8, height()),
+                         Qt::AlignRight | Qt::AlignVCenter,
+                         QString::fromStdString(tones_[tone].name)
+                             .replace('#', QChar(0x266F))
+                             .replace('b', QChar(0x266D)));
+        painter.setFont(small);
+        const double shown = std::round(tones_[tone].cents * 10) / 10;
+        painter.drawText(QRectF(place.left() + cell / 2 + 8, 0, cell / 2 - 8, height()),
+                         Qt::AlignLeft | Qt::AlignVCenter,
+                         shown == 0 ? QString("0") : QString::asprintf("%+.1f", shown));
+    }
+}
+
+} // namespace velmora

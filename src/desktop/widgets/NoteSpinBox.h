@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QSpinBox>
+
+namespace velmora {
+
+/// Chooses a MIDI key; shows "A0 (21)" and takes a name or a number.
+class NoteSpinBox : public QSpinBox {
+    Q_OBJECT
+
+public:
+    explicit NoteSpinBox(QWidget* parent = nullptr);
+
+protected:
+    QString textFromValue(int key) const override;
+    int valueFromText(const QString& text) const override;
+    QValidator::State validate(QString& text, int& position) const override;
+    void fixup(QString& text) const override;
+};
+
+} // namespace velmora

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QIcon>
+
+namespace velmora {
+
+/// One of the program's own pictures, such as "record", in the text colour of the desktop's theme.
+QIcon icon(const char* name);
+
+} // namespace velmora

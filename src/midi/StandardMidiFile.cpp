@@ -1,0 +1,260 @@
+#include "midi/StandardMidiFile.h"
+
+#include "base/FormatError.h"
+#include "midi/MidiFileCursor.h"
+#include "midi/OpenNotes.h"
+
+#include <spdlog/fmt/fmt.h>
+
+#include <string_view>
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+/// A note that has begun: where it stands among the events of its track, and its tick.
+struct Begun {
+    std::uint64_t tick;
+    std::uint32_t event; ///< A track has below 2³² bytes, hence below 2³² events.
+};
+
+/// Reads one track after the other and gathers their tempo events.
+class TrackReader {
+public:
+    explicit TrackReader(double ticksPerBeat) : ticksPerBeat_(ticksPerBeat) {}
+
+    std::vector<MidiEvent> read(MidiFileCursor track)
+    {
+        // A note takes eight bytes or so; the chunk is known to be there.
+        events_.reserve(track.left() / 8);
+        tick_ = 0;
+        status_ = 0;
+        passedOver_ = 0;
+        bool ended = false;
+        while (!ended && track.left() > 0) {
+            tick_ += track.quantity();
+            const std::uint8_t first = track.peek();
+            if (first >= 0xF0)
+                ended = readSystemEvent(track);
+            else
+                readChannelEvent(track);
+        }
+        open_.endAll([this](const Begun& note) { endNote(note); });
+        return std::exchange(events_, {});
+    }
+
+    std::vector<TempoChange> takeTempoChanges() { return std::move(tempoChanges_); }
+
+private:
+    double beats() const { return static_cast<double>(tick_) / ticksPerBeat_; }
+
+    void addOther() { events_.push_back({beats(), 0.0F, MidiEvent::Kind::Other, 0, 0, 0}); }
+
+    void endNote(const Begun& note)
+    {
+        events_[note.event].duration =
+            static_cast<float>(static_cast<double>(tick_ - note.tick) / ticksPerBeat_);
+    }
+
+    static std::uint8_t dataByte(MidiFileCursor& track)
+    {
+        const std::uint8_t value = track.byte();
+        if (value >= 0x80)
+            throw FormatError::atByte(track.offset() - 1,
+                                      fmt::format("a data byte is wanted, not 0x{:02X}", value));
+        return value;
+    }
+
+    void readChannelEvent(MidiFileCursor& track)
+    {
+        // Meta and system exclusive events end the running status by the letter of the format, but
+        // there are files that go on with it behind them: it is kept.
+        if (track.peek() >= 0x80)
+            status_ = track.byte();
+        else if (status_ == 0)
+            throw FormatError::atByte(track.offset(),
+                                      "an event without a status, and none runs before it");
+        const std::uint8_t data = dataByte(track);
+        const auto channel = static_cast<std::uint8_t>(status_ & 0x0F);
+        switch (status_ & 0xF0) {
+        case 0x80:
+            dataByte(track);
+            readNoteOff(channel, data);
+            break;
+        case 0x90:
+            if (const std::uint8_t velocity = dataByte(track)) {
+                open_.begin(channel, data, {tick_, static_cast<std::uint32_t>(events_.size())});
+                events_.push_back({beats(), 0.0F, MidiEvent::Kind::Note, channel, data, velocity});
+            } else {
+                readNoteOff(channel, data);
+            }
+            break;
+        case 0xC0:
+        case 0xD0:
+            addOther();
+            break;
+        default:
+            dataByte(track);
+            addOther();
+        }
+    }
+
+    void readNoteOff(std::uint8_t channel, std::uint8_t key)
+    {
+        const auto note =
+            open_.end(channel, key, [this](const Begun&) { return passedOver_-- == 0; });
+        passedOver_ = 0;
+        if (note)
+            endNote(*note);
+    }
+
+    /// A meta or system exclusive event; true when it is the end-of-track mark.
+    bool readSystemEvent(MidiFileCursor& track)
+    {
+        const std::size_t at = track.offset();
+        const std::uint8_t status = track.byte();
+        if (status == 0xFF)
+            return readMetaEvent(track, at);
+        if (status != 0xF0 && status != 0xF7)
+            throw FormatError::atByte(
+                at, fmt::format("a file cannot hold an event of status 0x{:02X}", status));
+        track.skip(track.quantity());
+        addOther();
+        return false;
+    }
+
+    bool readMetaEvent(MidiFileCursor& track, std::size_t at)
+    {
+        constexpr std::uint8_t kEndOfTrack = 0x2F;
+        constexpr std::uint8_t kTempo = 0x51;
+        constexpr std::uint8_t kSequencerSpecific = 0x7F;
+
+        const std::uint8_t type = track.byte();
+        const std::uint32_t length = track.quantity();
+        MidiFileCursor body = track.part(length, "");
+        if (type == kEndOfTrack)
+            return true;
+        if (type == kSequencerSpecific && length == kPassedOver.size() + 1 &&
+            body.text(kPassedOver.size()) == kPassedOver) {
+            body.skip(kPassedOver.size());
+            passedOver_ = body.byte();
+            return false;
+        }
+        if (type == kTempo) {
+            if (length != 3)
+                throw FormatError::atByte(
+                    at, fmt::format("a tempo event of {} bytes instead of 3", length));
+            tempoChanges_.push_back({beats(), body.number(3)});
+        }
+        addOther();
+        return false;
+    }
+
+    double ticksPerBeat_;
+    std::vector<TempoChange> tempoChanges_;
+    std::vector<MidiEvent> events_;
+    OpenNotes<Begun> open_;
+    std::uint64_t tick_ = 0;
+    std::uint8_t status_ = 0; ///< The running status, 0 for none.
+    unsigned passedOver_ = 0; ///< By the next note-off.
+};
+
+struct Chunk {
+    std::string_view id;
+    MidiFileCursor body;
+};
+
+Chunk readChunk(MidiFileCursor& file)
+{
+    const std::size_t at = file.offset();
+    const std::string_view id = file.text(4);
+    file.skip(4);
+    const std::uint32_t length = file.number(4);
+    if (length > file.left())
+        throw FormatError::atByte(
+            at, fmt::format("a chunk of {} bytes is cut short: only {} are left in the file",
+                            length, file.left()));
+    return {id, file.part(length, id == "MTrk" ? "an event runs beyond the end of its track"
+                                               : "the header is too short")};
+}
+
+struct Header {
+    std::size_t tracks;
+    double ticksPerBeat;
+    bool hasFrames; ///< The file counts by SMPTE frames.
+};
+
+double ticksPerSecond(unsigned frames, unsigned ticksPerFrame, std::size_t at)
+{
+    // 29 stands for the drop-frame rate of 30 × 1000/1001 frames a second.
+    if (frames == 29)
+        return ticksPerFrame * 30000.0 / 1001.0;
+    if (frames != 24 && frames != 25 && frames != 30)
+        throw FormatError::atByte(at, fmt::format("a division of {} frames a second", frames));
+    return ticksPerFrame * static_cast<double>(frames);
+}
+
+Header readHeader(MidiFileCursor& file)
+{
+    const std::size_t at = file.offset();
+    if (file.text(4) != "MThd")
+        throw FormatError::atByte(at, "this is not a Standard MIDI File: it has no \"MThd\"");
+    MidiFileCursor body = readChunk(file).body;
+    const std::size_t begin = body.offset();
+    const std::uint32_t format = body.number(2);
+    const std::uint32_t tracks = body.number(2);
+    const std::uint32_t division = body.number(2);
+    if (format > 2)
+        throw FormatError::atByte(begin, fmt::format("the format is {}, not 0, 1 or 2", format));
+    if (tracks == 0)
+        throw FormatError::atByte(begin + 2, "the header announces no track");
+
+    const std::size_t divisionAt = begin + 4;
+    if ((division & 0x8000u) == 0) {
+        if (division == 0)
+            throw FormatError::atByte(divisionAt, "the division is 0 ticks a quarter note");
+        return {tracks, static_cast<double>(division), false};
+    }
+    const std::uint32_t ticksPerFrame = division & 0xFFu;
+    if (ticksPerFrame == 0)
+        throw FormatError::atByte(divisionAt, "the division is 0 ticks a frame");
+    // The tempo map is left at its 120 beats a minute: two beats a second.
+    const double ticks = ticksPerSecond(0x100u - (division >> 8), ticksPerFrame, divisionAt);
+    return {tracks, ticks / 2.0, true};
+}
+
+/// Where the MIDI file begins: 0, or behind the RIFF wrapping.
+std::size_t beginOfMidi(std::span<const std::byte> bytes)
+{
+    constexpr std::size_t kWrapping = 20;
+    if (bytes.size() < kWrapping)
+        return 0;
+    const std::string_view start(reinterpret_cast<const char*>(bytes.data()), kWrapping);
+    return start.starts_with("RIFF") && start.substr(8, 8) == "RMIDdata" ? kWrapping : 0;
+}
+
+} // namespace
+
+StandardMidiFile readStandardMidiFile(std::span<const std::byte> bytes)
+{
+    MidiFileCursor file(bytes, beginOfMidi(bytes), bytes.size(),
+                        "the file ends within a chunk's head");
+    const Header header = readHeader(file);
+    TrackReader reader(header.ticksPerBeat);
+    StandardMidiFile result;
+    while (result.tracks.size() < header.tracks) {
+        if (file.left() == 0)
+            throw FormatError::atByte(
+                file.offset(), fmt::format("the file ends after {} of the {} tracks it announces",
+                                           result.tracks.size(), header.tracks));
+        const Chunk chunk = readChunk(file);
+        if (chunk.id == "MTrk")
+            result.tracks.push_back(reader.read(chunk.body));
+    }
+    if (!header.hasFrames)
+        result.tempoMap = TempoMap(reader.takeTempoChanges());
+    return result;
+}
+
+} // namespace velmora

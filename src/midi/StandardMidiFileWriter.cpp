@@ -1,0 +1,145 @@
+#include "midi/StandardMidiFileWriter.h"
+
+#include "midi/OpenNotes.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cmath>
+#include <cstdint>
+#include <stdexcept>
+#include <tuple>
+#include <vector>
+
+namespace velmora {
+
+namespace {
+
+/// What four bytes of seven bits hold.
+constexpr std::uint64_t kLongestDelta = 0x0FFFFFFF;
+
+/// A note-on or a note-off.
+struct Message {
+    std::uint64_t tick;
+    std::uint64_t until; ///< Of a note-on, when the note ends; 0 in a note-off.
+    std::uint8_t status;
+    std::uint8_t key;
+    std::uint8_t velocity;
+};
+
+/// At one tick notes end before others begin, so that a note which goes over into the next one of
+/// its key is not taken for one that is begun twice; and of two that begin together the shorter one
+/// comes first, since it is the first to end.
+bool comesBefore(const Message& a, const Message& b)
+{
+    return std::tie(a.tick, a.until) < std::tie(b.tick, b.until);
+}
+
+std::uint64_t ticks(double beats)
+{
+    assert(beats >= 0.0 && beats <= kLastBeat);
+    return static_cast<std::uint64_t>(std::round(beats * kTicksPerBeat));
+}
+
+std::vector<Message> messagesOf(std::span<const MidiEvent> notes)
+{
+    std::vector<Message> messages;
+    messages.reserve(2 * notes.size());
+    for (const MidiEvent& note : notes) {
+        const std::uint64_t begin = ticks(note.beats);
+        const auto length = ticks(static_cast<double>(note.duration));
+        const std::uint64_t end = begin + std::max<std::uint64_t>(length, 1);
+        const auto status = [&](int kind) {
+            return static_cast<std::uint8_t>(kind | note.channel);
+        };
+        messages.push_back({begin, end, status(0x90), note.key, note.velocity});
+        messages.push_back({end, 0, status(0x80), note.key, 0});
+    }
+    std::stable_sort(messages.begin(), messages.end(), comesBefore);
+    return messages;
+}
+
+void addNumber(std::string& bytes, std::size_t value, int size)
+{
+    for (int shift = 8 * (size - 1); shift >= 0; shift -= 8)
+        bytes += static_cast<char>(value >> shift & 0xFF);
+}
+
+/// Adds a variable-length quantity of at most `kLongestDelta`.
+void addQuantity(std::string& bytes, std::uint64_t value)
+{
+    for (int shift = 21; shift > 0; shift -= 7) {
+        if (value >> shift > 0)
+            bytes += static_cast<char>((value >> shift & 0x7F) | 0x80);
+    }
+    bytes += static_cast<char>(value & 0x7F);
+}
+
+void addDelta(std::string& bytes, std::uint64_t delta)
+{
+    // An empty text stands where a pause of nine hours goes on.
+    for (; delta > kLongestDelta; delta -= kLongestDelta) {
+        addQuantity(bytes, kLongestDelta);
+        bytes.append("\xFF\x01\x00", 3);
+    }
+    addQuantity(bytes, delta);
+}
+
+/// Adds what goes before a note-off that passes notes over, and the time between them: none.
+void addPassedOver(std::string& bytes, std::size_t notes)
+{
+    bytes.append("\xFF\x7F", 2);
+    addQuantity(bytes, kPassedOver.size() + 1);
+    bytes += kPassedOver;
+    addNumber(bytes, notes, 1);
+    addDelta(bytes, 0);
+}
+
+void addChunk(std::string& file, const char* id, const std::string& body)
+{
+    if (body.size() > 0xFFFFFFFF)
+        throw std::length_error("there are more notes than a MIDI file can hold");
+    file += id;
+    addNumber(file, body.size(), 4);
+    file += body;
+}
+
+} // namespace
+
+std::string writeStandardMidiFile(std::span<const MidiEvent> notes)
+{
+    std::string header;
+    addNumber(header, 0, 2); // format
+    addNumber(header, 1, 2); // tracks
+    addNumber(header, static_cast<std::size_t>(kTicksPerBeat), 2);
+
+    std::string track;
+    std::uint64_t tick = 0;
+    OpenNotes<std::uint64_t> ends;
+    for (const Message& message : messagesOf(notes)) {
+        addDelta(track, message.tick - tick);
+        tick = message.tick;
+        const unsigned channel = message.status & 0x0FU;
+        if (message.until > 0) {
+            ends.begin(channel, message.key, message.until);
+        } else {
+            std::size_t passedOver = 0;
+            const auto ended = ends.end(channel, message.key, [&](std::uint64_t end) {
+                passedOver += end == tick ? 0 : 1;
+                return end == tick;
+            });
+            if (ended == tick && passedOver > 0)
+                addPassedOver(track, passedOver);
+        }
+        addNumber(track, message.status, 1);
+        addNumber(track, message.key, 1);
+        addNumber(track, message.velocity, 1);
+    }
+    track.append("\x00\xFF\x2F\x00", 4);
+
+    std::string file;
+    addChunk(file, "MThd", header);
+    addChunk(file, "MTrk", track);
+    return file;
+}
+
+} // namespace velmora

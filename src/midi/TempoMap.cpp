@@ -1,0 +1,40 @@
+#include "midi/TempoMap.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace velmora {
+
+namespace {
+
+constexpr double kDefaultSecondsPerBeat = 0.5;
+
+} // namespace
+
+TempoMap::TempoMap(std::vector<TempoChange> changes)
+{
+    std::stable_sort(changes.begin(), changes.end(),
+                     [](const auto& a, const auto& b) { return a.beats < b.beats; });
+    stretches_.reserve(changes.size() + 1);
+    stretches_.push_back({0.0, 0.0, kDefaultSecondsPerBeat});
+    for (const TempoChange& change : changes) {
+        if (change.microsecondsPerBeat == 0)
+            continue;
+        const double seconds = secondsForBeats(change.beats);
+        if (stretches_.back().beats == change.beats)
+            stretches_.pop_back();
+        stretches_.push_back({change.beats, seconds, change.microsecondsPerBeat * 1e-6});
+    }
+}
+
+double TempoMap::secondsForBeats(double beats) const
+{
+    // What lies before the beginning runs on at the first tempo.
+    const auto after =
+        std::upper_bound(std::next(stretches_.begin()), stretches_.end(), beats,
+                         [](double wanted, const Stretch& s) { return wanted < s.beats; });
+    const Stretch& stretch = *std::prev(after);
+    return stretch.seconds + (beats - stretch.beats) * stretch.secondsPerBeat;
+}
+
+} // namespace velmora

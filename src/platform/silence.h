@@ -1,9 +1,0 @@
-#pragma once
-
-#include <cmath>
-
-/// Whether a sample is heard: not below −120 dBFS.
-inline bool isHeard(float sample)
-{
-    return std::fabs(sample) > 1e-6F;
-}

@@ -1,0 +1,316 @@
+#include "desktop/shell/Desktop.h"
+
+#include "desktop/keyboard/KeyboardView.h"
+#include "desktop/shell/StatusLine.h"
+#include "preferences/Preferences.h"
+#include "support/OrganFolder.h"
+#include "support/RecordingInstrument.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSlider>
+#include <QTextBlock>
+#include <QTimer>
+#include <QToolButton>
+#include <QTreeView>
+#include <QtTest>
+#include <gmock/gmock.h>
+
+namespace velmora {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+class InstrumentOf : public RecordingInstrument {
+public:
+    InstrumentOf(std::size_t stops, Calls& calls) : RecordingInstrument(calls), stops_(stops) {}
+    std::size_t numStops() const override { return stops_; }
+    float getVolume(std::size_t stop) const override { return 0.25F * static_cast<float>(stop); }
+    std::string stopName(std::size_t stop) const override { return stop == 1 ? "Flute 4'" : ""; }
+
+private:
+    std::size_t stops_;
+};
+
+/// The program on a machine without devices but OpenAL's.
+class DesktopTest : public testing::Test {
+protected:
+    DesktopTest()
+    {
+        desktop.launch();
+        desktop.application().waitForBank();
+        panel.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&panel));
+    }
+
+    template <class Widget> Widget& named(QWidget& window, const char* accessibleName)
+    {
+        for (Widget* widget : window.findChildren<Widget*>())
+            if (widget->accessibleName() == accessibleName)
+                return *widget;
+        throw std::runtime_error(accessibleName);
+    }
+
+    std::vector<std::string> items(const QComboBox& menu)
+    {
+        std::vector<std::string> texts;
+        for (int i = 0; i < menu.count(); ++i)
+            texts.push_back(menu.itemText(i).toStdString());
+        return texts;
+    }
+
+    void choose(QComboBox& menu, int index)
+    {
+        menu.setCurrentIndex(index);
+        emit menu.activated(index);
+    }
+
+    /// The texts of the message boxes that open one after the other while `action` is done.
+    template <class Action> std::vector<std::string> messagesOf(const Action& action)
+    {
+        std::vector<std::string> texts;
+        QTimer closing;
+        QObject::connect(&closing, &QTimer::timeout, [&] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                texts.push_back(box->text().toStdString());
+                box->accept();
+            }
+        });
+        closing.start(5);
+        action();
+        return texts;
+    }
+
+    void drop(QWidget& window, const std::vector<std::filesystem::path>& paths)
+    {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const auto& path : paths)
+            urls += QUrl::fromLocalFile(QString::fromStdString(path.string()));
+        data.setUrls(urls);
+        QDragEnterEvent entering({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&window, &entering);
+        QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&window, &event);
+        EXPECT_TRUE(event.isAccepted());
+        QApplication::processEvents();
+    }
+
+    OrganFolder folder;
+    std::filesystem::path organ()
+    {
+        folder.writeSine("c.wav", 500.0);
+        return folder.write("small.organ", "[Organ]\nChurchName=Small\n[Manual001]\n"
+                                           "FirstAccessibleKeyMIDINoteNumber=36\n[Stop001]\n"
+                                           "Pipe001=c.wav\nPipe002=none.wav\n");
+    }
+
+    Calls calls;
+    Desktop desktop;
+    AppDelegate& application = desktop.application();
+    InstrumentPanel& panel = desktop.instrumentPanel();
+};
+
+} // namespace
+
+TEST_F(DesktopTest, ThePanelOffersProgramsOrTellsTheMemory)
+{
+    auto& programs = named<QComboBox>(panel, "Program");
+    auto& usage = named<QLabel>(panel, "Memory use");
+    EXPECT_EQ(programs.count(), 128);
+    EXPECT_EQ(programs.currentText(), "3 Electric Grand Piano") << "which sounds at first";
+    EXPECT_TRUE(programs.isVisible() && !usage.isVisible());
+    programs.setFocus();
+    QTest::keyClick(&programs, Qt::Key_Down);
+    EXPECT_EQ(application.midiProgram(), 3);
+
+    InstrumentOf sampled(2, calls);
+    sampled.usage = 1 << 20;
+    application.setInstrument(sampled, "Organ");
+    EXPECT_TRUE(!programs.isVisible() && usage.isVisible());
+    EXPECT_EQ(usage.text(), "Usage:  1.00MB");
+    EXPECT_EQ(panel.windowTitle(), "Organ");
+    application.selectInstrument(0);
+    EXPECT_EQ(programs.currentIndex(), 3);
+}
+
+TEST_F(DesktopTest, ThePanelHasASliderForEachStop)
+{
+    InstrumentOf seven(7, calls);
+    InstrumentOf three(3, calls);
+    application.setInstrument(seven, "Seven");
+    application.setInstrument(three, "Three");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.width() == 303; }));
+    const auto sliders = panel.findChildren<QSlider*>();
+    ASSERT_EQ(sliders.size(), 7);
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_EQ(sliders[i]->isVisible(), i < 3) << i;
+        EXPECT_EQ(sliders[i]->mapTo(&panel, QPoint()).x(), 226 + 21 * i);
+    }
+    EXPECT_EQ(sliders[2]->value(), 500);
+    EXPECT_EQ(sliders[1]->toolTip(), "Flute 4'");
+
+    calls.clear();
+    sliders[1]->setFocus();
+    QTest::keyClick(sliders[1], Qt::Key_End);
+    std::thread([&] { application.setVolume(0.5F, 0); }).join();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sliders[0]->value() == 500; }));
+    std::erase(calls, "fade 0.9");
+    EXPECT_THAT(calls, ElementsAre("volume 1 1.00", "volume 0 0.50")) << "told once";
+    application.setVolume(0.5F, 4);
+    QApplication::processEvents();
+    application.selectInstrument(0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.width() == 261; }));
+}
+
+TEST_F(DesktopTest, TheTuningMenuKeepsTheOrderAndBothOfAName)
+{
+    auto& menu = named<QComboBox>(panel, "Tuning");
+    EXPECT_THAT(items(menu), ElementsAre("Equal", "Quartercomma Meantone", "Dynamic"));
+    auto loaded = std::make_unique<TuningDocument>();
+    std::string scale = "bent\n12\n";
+    for (int i = 1; i <= 12; ++i)
+        scale += std::to_string(99 * i) + ".\n";
+    ASSERT_TRUE(loaded->readFromURL(folder.write("Equal", scale), "Scale"));
+    application.putTuning(std::move(loaded));
+    EXPECT_THAT(items(menu), ElementsAre("Equal", "Quartercomma Meantone", "Equal", "Dynamic"));
+    for (const int entry : {0, 2}) {
+        choose(menu, 1);
+        choose(menu, entry);
+        EXPECT_EQ(menu.currentIndex(), entry);
+        EXPECT_EQ(application.getTemperament()->getTuning(1).cent(), 99.0) << entry;
+    }
+    choose(menu, 3);
+    EXPECT_THAT(items(menu), ElementsAre("Equal", "Quartercomma Meantone", "Equal", "Dynamic"));
+    EXPECT_EQ(menu.currentText(), "Dynamic");
+    EXPECT_NEAR(application.getTemperament()->getTuning(1).cent(), 76.049, 1e-9);
+}
+
+TEST_F(DesktopTest, FilesAreOpenedByTheirKindsWhereverTheyAreDropped)
+{
+    const auto scale = std::filesystem::path(VELMORA_EXAMPLES) / "kirnberger-3.scl";
+    drop(desktop.keyboardWindow(), {organ(), scale});
+    EXPECT_EQ(application.instrumentName(), "Small");
+    EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
+    auto& table = named<QTreeView>(desktop.instrumentsWindow(), "Loaded instruments");
+    ASSERT_EQ(table.model()->rowCount(), 2);
+    EXPECT_EQ(table.currentIndex().row(), 1);
+    EXPECT_THAT(desktop.keyboardWindow().status().currentMessage().toStdString(),
+                HasSubstr("1 files or samples were left out"));
+
+    EXPECT_THAT(messagesOf([&] {
+                    desktop.open({"/no/such.scl", "/no/such.sf2", "/no/such.txt"});
+                }),
+                ElementsAre(HasSubstr("such.scl"), HasSubstr("such.sf2"), HasSubstr("no kind")));
+    EXPECT_EQ(application.instrumentName(), "Small") << "stays";
+    EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
+
+    // Away with the first, back by choosing it.
+    auto* unload = desktop.instrumentsWindow().findChildren<QPushButton*>().at(1);
+    application.keyOn(36, 1.0F);
+    EXPECT_THAT(messagesOf([&] { unload->click(); }), ElementsAre(HasSubstr("still sounds")));
+    application.silenceAll();
+    unload->click();
+    EXPECT_EQ(application.instrumentName(), "MIDI Player");
+    EXPECT_FALSE(unload->isEnabled()) << "the player stays";
+    application.selectTuning("Equal");
+    QTimer::singleShot(0, [&] {
+        desktop.open({QString::fromStdString(scale.string())});
+        EXPECT_EQ(application.tuningName(), "Equal") << "a file that comes meanwhile waits";
+    });
+    table.setCurrentIndex(table.model()->index(1, 0));
+    EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
+    EXPECT_EQ(application.instrumentName(), "Small");
+    EXPECT_GT(application.instruments()[1]->getSize(), 0);
+}
+
+TEST_F(DesktopTest, PreferencesAreSeenAtOnce)
+{
+    auto& window = desktop.keyboardWindow();
+    const int width = window.width();
+    setPrefInt("KeyWidth", 64);
+    emit desktop.preferencesWindow().changed();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return window.width() == window.screen()->availableSize().width(); }));
+    window.resize(700, window.height());
+    emit desktop.preferencesWindow().changed();
+    EXPECT_EQ(window.width(), 700) << "nothing new for the keys";
+    resetPref("KeyWidth");
+    emit desktop.preferencesWindow().changed();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.width() == width; }));
+
+    auto& notices = *window.status().findChild<QToolButton*>();
+    const int others = notices.text().toInt();
+    for (const auto& [bank, more] : {std::pair{"/no/such", 1}, {"/no/other", 1}, {"", 0}}) {
+        setPrefString("GMBank", bank);
+        emit desktop.preferencesWindow().bankChanged();
+        application.waitForBank();
+        EXPECT_TRUE(QTest::qWaitFor([&, wanted = QString(bank), count = others + more] {
+            return notices.text().toInt() == count && notices.toolTip().contains(wanted);
+        })) << bank;
+    }
+}
+
+TEST_F(DesktopTest, EscapeClosesTheWindowsBesideTheMainOnes)
+{
+    GuideWindow guide;
+    for (QWidget* window : std::initializer_list<QWidget*>{&panel, &desktop.instrumentsWindow(),
+                                                           &desktop.preferencesWindow(), &guide}) {
+        window->show();
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        EXPECT_FALSE(window->isVisible()) << window->windowTitle().toStdString();
+    }
+}
+
+TEST(GuideWindow, LeadsFromItsContentsToTheirHeadings)
+{
+    GuideWindow guide;
+    guide.resize(500, 300);
+    guide.show();
+    int place = 0;
+    for (QTextBlock block = guide.document()->begin(); block.isValid(); block = block.next()) {
+        const QString link = block.begin().fragment().charFormat().anchorHref();
+        if (!link.startsWith('#'))
+            continue;
+        guide.setSource(QUrl(link));
+        EXPECT_GT(guide.verticalScrollBar()->value(), place) << link.toStdString();
+        place = guide.verticalScrollBar()->value();
+    }
+    EXPECT_GT(place, 0);
+}
+
+TEST(ProgressWindow, EndsWithTheStepThatReachesTheMaximumExactly)
+{
+    ProgressWindow window;
+    window.startProgress(10);
+    EXPECT_TRUE(window.isVisible());
+    window.updateProgress(4, "four");
+    window.updateProgress(0, "none");
+    EXPECT_EQ(window.label()->text(), "four");
+    EXPECT_EQ(window.bar()->value(), 4);
+    window.updateProgress(6, "ten");
+    EXPECT_FALSE(window.isVisible());
+
+    bool isCancelled = false;
+    QObject::connect(&window, &ProgressWindow::cancelled, [&] { isCancelled = true; });
+    window.startProgress(10);
+    window.updateProgress(11, "too far");
+    EXPECT_TRUE(window.isVisible());
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_TRUE(isCancelled && window.isVisible()) << "until the import has noticed";
+    window.endProgress();
+    EXPECT_FALSE(window.isVisible());
+}
+
+} // namespace velmora

@@ -1,0 +1,111 @@
+#include "desktop/shell/PreferencesWindow.h"
+
+#include "preferences/Color.h"
+#include "preferences/Preferences.h"
+
+#include <QAbstractButton>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QSpinBox>
+#include <QTemporaryFile>
+#include <QtTest>
+#include <gmock/gmock.h>
+
+namespace velmora {
+
+namespace {
+
+class PreferencesWindowTest : public testing::Test {
+protected:
+    PreferencesWindowTest()
+    {
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    ~PreferencesWindowTest() override
+    {
+        for (const char* key :
+             {"KeyWidth", "KeyRangeLo", "KeyRangeHi", "KeyColor", "KeyNames", "GMBank"})
+            resetPref(key);
+    }
+
+    /// Types over what a box shows, and leaves it.
+    void type(const char* key, const char* text)
+    {
+        auto* box = window.findChild<QSpinBox*>(key);
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, text);
+        box->clearFocus();
+    }
+
+    void click(const char* button)
+    {
+        QTest::mouseClick(window.findChild<QAbstractButton*>(button), Qt::LeftButton);
+    }
+
+    PreferencesWindow window;
+    QSignalSpy changed{&window, &PreferencesWindow::changed};
+};
+
+} // namespace
+
+TEST_F(PreferencesWindowTest, CorrectsNumbersAsTheyAreTyped)
+{
+    const struct {
+        const char* key;
+        const char* typed;
+        int stored;
+        const char* shown;
+    } rows[] = {
+        {"KeyWidth", "20", 20, "20 px"},         {"KeyWidth", "1", 4, "4 px"},
+        {"KeyRangeLo", "36", 36, "C2 (36)"},     {"KeyRangeLo", "c#3", 49, "C#3 (49)"},
+        {"KeyRangeHi", "60", 60, "C4 (60)"},     {"KeyRangeHi", "40", 50, "D3 (50)"},
+        {"KeyRangeHi", "200", 127, "G9 (127)"},  {"KeyRangeHi", "H9", 127, "G9 (127)"},
+        {"KeyRangeLo", "127", 126, "F#9 (126)"},
+    };
+    for (const auto& row : rows) {
+        changed.clear();
+        type(row.key, row.typed);
+        EXPECT_EQ(getPrefInt(row.key), row.stored) << row.typed;
+        EXPECT_EQ(window.findChild<QSpinBox*>(row.key)->text(), row.shown) << row.typed;
+        EXPECT_EQ(changed.size(), QString("H9") == row.typed ? 0 : 1) << row.typed << ", whole";
+    }
+}
+
+TEST_F(PreferencesWindowTest, StoresColorsAndChoicesAtOnce)
+{
+    QTest::keyClick(&window, Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !getPrefBool("KeyNames"); }));
+    QTest::keyClick(&window, Qt::Key_O, Qt::AltModifier);
+    auto* button = window.findChild<QAbstractButton*>("KeyColor");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return button->isVisible(); }));
+    QTest::mouseClick(button, Qt::LeftButton);
+    auto* dialog = button->findChild<QColorDialog*>();
+    dialog->setCurrentColor(Qt::blue);
+    dialog->accept();
+    EXPECT_EQ(changed.size(), 2);
+    EXPECT_EQ(Color("KeyColor").toQColor(), QColor(Qt::blue));
+    click("ResetColors");
+    EXPECT_EQ(changed.size(), 3);
+    EXPECT_EQ(Color("KeyColor").toQColor(), QColor(Qt::green));
+}
+
+TEST_F(PreferencesWindowTest, ChoosesTheBank)
+{
+    QTemporaryFile bank;
+    ASSERT_TRUE(bank.open());
+    QSignalSpy bankChanged(&window, &PreferencesWindow::bankChanged);
+    click("ChooseBank");
+    auto* dialog = window.findChild<QFileDialog*>();
+    dialog->selectFile(bank.fileName());
+    static_cast<QDialog*>(dialog)->accept();
+    EXPECT_EQ(getPrefString("GMBank"), bank.fileName().toStdString());
+    click("DefaultBank");
+    EXPECT_EQ(getPrefString("GMBank"), "");
+    EXPECT_EQ(bankChanged.size(), 2);
+}
+
+} // namespace velmora

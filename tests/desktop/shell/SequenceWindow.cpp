@@ -1,0 +1,397 @@
+#include "desktop/shell/SequenceWindow.h"
+
+#include "desktop/keyboard/KeyboardView.h"
+#include "desktop/roll/SequenceScrollView.h"
+#include "desktop/roll/SequenceView.h"
+#include "desktop/shell/Desktop.h"
+#include "desktop/shell/StatusLine.h"
+#include "desktop/tuning/TuningStrip.h"
+#include "preferences/Preferences.h"
+#include "support/RecordingInstrument.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolBar>
+#include <QtTest>
+#include <gmock/gmock.h>
+
+namespace velmora {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+namespace {
+
+/// The program without devices, with a sequence window.
+class SequenceWindowTest : public testing::Test {
+protected:
+    SequenceWindowTest()
+    {
+        QObject::connect(&desktop.sequenceWindows(), &SequenceWindows::opened,
+                         [this](SequenceWindow& window) { last = &window; });
+    }
+
+    SequenceWindow& open(const char* file = nullptr)
+    {
+        if (file != nullptr)
+            desktop.open({QString(VELMORA_EXAMPLES "/") + file});
+        else
+            desktop.sequenceWindows().create();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(last));
+        return *last;
+    }
+
+    static SequenceView& view(SequenceWindow& window) { return *window.findChild<SequenceView*>(); }
+
+    static QAction& action(SequenceWindow& window, const QString& text)
+    {
+        QList<QAction*> actions = window.menuBar()->actions();
+        for (qsizetype i = 0; i < actions.size(); ++i) {
+            if (actions[i]->iconText() == text)
+                return *actions[i];
+            if (actions[i]->menu() != nullptr)
+                actions += actions[i]->menu()->actions();
+        }
+        throw std::runtime_error(text.toStdString());
+    }
+
+    /// What the status line and the position say, without what is empty.
+    static std::vector<std::string> said(SequenceWindow& window)
+    {
+        std::vector<std::string> texts;
+        for (const QLabel* label : window.statusBar()->findChildren<QLabel*>())
+            if (!label->text().isEmpty())
+                texts.push_back(label->text().toStdString());
+        return texts;
+    }
+
+    /// Answers the message boxes that open while `act` is done, by the text of a button each.
+    template <class Act>
+    std::vector<std::string> answering(const std::vector<QString>& answers, const Act& act)
+    {
+        std::vector<std::string> texts;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr || texts.size() >= answers.size())
+                return;
+            texts.push_back(box->informativeText().toStdString());
+            for (QAbstractButton* button : box->buttons())
+                if (button->text().remove('&') == answers[texts.size() - 1])
+                    button->click();
+        });
+        timer.start(5);
+        act();
+        EXPECT_EQ(texts.size(), answers.size());
+        return texts;
+    }
+
+    /// Names a file in the dialog that opens while `act` is done, then chooses a kind from the
+    /// list.
+    template <class Act> void naming(const QString& path, const Act& act, int kind = 0)
+    {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeWindow());
+            if (dialog != nullptr) {
+                timer.stop();
+                auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+                name->setFocus();
+                name->setText(path);
+                for (int i = 0; i < kind; ++i)
+                    QTest::keyClick(dialog->findChild<QComboBox*>("fileTypeCombo"), Qt::Key_Down);
+                QTest::keyClick(name, Qt::Key_Return);
+            }
+        });
+        timer.start(5);
+        act();
+    }
+
+    void draw(SequenceWindow& window, QPoint place = {200, 200})
+    {
+        QTest::mouseClick(&view(window), Qt::RightButton, {}, place);
+    }
+
+    bool closes(SequenceWindow& window)
+    {
+        const QPointer<SequenceWindow> watched(&window);
+        window.close();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return watched.isNull();
+    }
+
+    Desktop desktop;
+    SequenceWindow* last = nullptr;
+    KeyboardView& keyboard = desktop.keyboardWindow().keyboard();
+};
+
+} // namespace
+
+TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
+{
+    SequenceWindow& window = open();
+    QAction& play = action(window, "Play");
+    QAction& record = action(window, "Record");
+    SequenceDocument& document = window.document();
+    draw(window);
+    QTest::keyClick(&view(window), Qt::Key_Space);
+    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Playing) << "the key counts once";
+    EXPECT_EQ(play.iconText(), "Stop");
+    EXPECT_FALSE(record.isEnabled());
+    desktop.keyboardWindow().status().addNotice("There is none");
+    desktop.keyboardWindow().activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(play.iconText(), "Play") << "the key is not for the button of the notices";
+    play.trigger();
+    QTest::keyClick(&window, Qt::Key_Period, Qt::ControlModifier);
+    EXPECT_EQ(play.iconText(), "Play");
+    record.trigger();
+    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Recording);
+    EXPECT_EQ(record.iconText(), "Stop");
+    EXPECT_FALSE(play.isEnabled());
+    QTest::keyClick(&view(window), Qt::Key_Return);
+    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Stopped);
+    EXPECT_TRUE(play.isEnabled());
+
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    auto& tempo = *window.findChild<QSpinBox*>();
+    tempo.setFocus();
+    tempo.selectAll();
+    QTest::keyClicks(&tempo, "90");
+    QTest::keyClick(&tempo, Qt::Key_Return);
+    EXPECT_EQ(document.tempo(), 90);
+    EXPECT_EQ(window.focusWidget(), &view(window)) << "the keys are for the roll again";
+    tempo.setFocus();
+    QTest::keyClick(&tempo, Qt::Key_Tab);
+    EXPECT_NE(window.focusWidget(), &view(window)) << "on to the next field";
+    action(window, "Snap to Grid").trigger();
+    action(window, "Loop").trigger();
+    action(window, "5").trigger();
+    EXPECT_TRUE(document.snapToGrid() && document.loops());
+    EXPECT_EQ(document.channel(), 4);
+    answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
+}
+
+TEST_F(SequenceWindowTest, EditsFromTheMenusAndBetweenWindows)
+{
+    SequenceWindow& window = open();
+    SequenceWindow& other = open();
+    draw(window);
+    draw(window, {300, 100});
+    action(window, "Select All").trigger();
+    EXPECT_THAT(said(window), ElementsAre("2 notes selected", "2 notes in all"));
+    action(window, "Cut").trigger();
+    EXPECT_THAT(said(window), ElementsAre("0 notes in all"));
+    EXPECT_EQ(window.menuBar()->actions()[1]->menu()->actions()[0]->text(), "&Undo Cut 2 Notes");
+    action(other, "Paste").trigger();
+    EXPECT_EQ(other.document().getSequence().notes().size(), 2);
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::mousePress(&view(window), Qt::LeftButton, {}, {200, 200});
+    QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
+    QTest::mouseRelease(&view(window), Qt::LeftButton, {}, {200, 200});
+    EXPECT_THAT(window.document().getSequence().notes(), IsEmpty()) << "not while the mouse drags";
+    QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(window.document().getSequence().notes().size(), 2);
+    answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
+}
+
+TEST_F(SequenceWindowTest, TheKeyboardShowsTheSequenceThatWasLastInFront)
+{
+    SequenceWindow& first = open();
+    EXPECT_EQ(keyboard.getDocument(), &first.document());
+    SequenceWindow& second = open();
+    EXPECT_EQ(keyboard.getDocument(), &second.document());
+    desktop.keyboardWindow().activateWindow();
+    QTest::qWait(50);
+    EXPECT_EQ(keyboard.getDocument(), &second.document());
+    first.activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return keyboard.getDocument() == &first.document(); }));
+    EXPECT_TRUE(closes(second));
+    EXPECT_EQ(keyboard.getDocument(), &first.document());
+    EXPECT_TRUE(closes(first));
+    EXPECT_EQ(keyboard.getDocument(), nullptr);
+}
+
+TEST_F(SequenceWindowTest, SaysWhatItWaitsFor)
+{
+    SequenceWindow& window = open("wolf-fantasia.mid");
+    EXPECT_THAT(said(window), ElementsAre("Waiting for C3, G3", "156 notes in all"));
+    desktop.application().keyOn(48, 1.0F);
+    desktop.application().keyOn(50, 1.0F);
+    window.document().midiInput();
+    EXPECT_EQ(said(window).front(), "Waiting for G3, not D3");
+    desktop.application().silenceAll();
+    EXPECT_TRUE(closes(window));
+}
+
+TEST_F(SequenceWindowTest, FollowsThePositionUnlessTheUserScrollsAway)
+{
+    SequenceWindow& window = open("wolf-fantasia.mid");
+    auto& scrollView = *window.findChild<SequenceScrollView*>();
+    EXPECT_EQ(scrollView.location().x(), getPrefInt("KeyRangeLo") * getPrefInt("KeyWidth"));
+    const auto bottomAfter = [&](double step) {
+        window.document().doScroll(step);
+        return scrollView.location().y() / getPrefInt("KeyHeight");
+    };
+    EXPECT_EQ(bottomAfter(100), 92);
+    window.document().play();
+    QApplication::processEvents();
+    EXPECT_EQ(bottomAfter(200), 192);
+    QWheelEvent wheel({100, 100}, scrollView.mapToGlobal(QPoint(100, 100)), {}, {0, -120},
+                      Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&scrollView, &wheel);
+    EXPECT_EQ(bottomAfter(300), 184) << "scrolled away";
+    window.document().play();
+    window.document().play();
+    QApplication::processEvents();
+    EXPECT_EQ(bottomAfter(300), 292) << "started anew";
+    EXPECT_TRUE(closes(window));
+}
+
+TEST_F(SequenceWindowTest, TheStripShowsTheTuningOfTheMoment)
+{
+    SequenceWindow& window = open();
+    AppDelegate& application = desktop.application();
+    application.makeBuiltinTunings();
+    auto& strip = *window.findChild<TuningStrip*>();
+    EXPECT_FALSE(strip.isVisible());
+    action(window, "Tuning Strip").trigger();
+    EXPECT_EQ(strip.tones()[3], (TuningStrip::Tone{"D#", 0.0}));
+    EXPECT_TRUE(application.selectTuning("Quartercomma Meantone"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[4].cents < -13; }));
+    EXPECT_NEAR(strip.tones()[4].cents, -13.69, 0.01);
+    EXPECT_EQ(strip.tones()[10].name, "Bb");
+
+    Calls calls;
+    RecordingInstrument instrument(calls);
+    EXPECT_TRUE(application.selectTuning("Dynamic"));
+    EXPECT_EQ(action(window, "Tuning Strip").isChecked(), true);
+    application.getTemperament()->isomorph(instrument, 3 * 3 - 1); // the lower spelling of D sharp
+    EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[3].name == "D#"; }));
+    application.getTemperament()->isomorph(instrument, 3 * 3 + 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[3].name == "Fbb"; }));
+    EXPECT_NEAR(strip.tones()[3].cents, 51.32, 0.01);
+    action(window, "Tuning Strip").trigger();
+    EXPECT_TRUE(closes(window));
+}
+
+TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
+{
+    SequenceWindow& window = open();
+    EXPECT_FALSE(window.isWindowModified());
+    draw(window);
+    EXPECT_TRUE(window.isWindowModified());
+    answering({"Cancel"}, [&] { EXPECT_FALSE(closes(window)); });
+    answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.sequenceWindows().closeAll()); });
+
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("one.mid").toStdString();
+    EXPECT_TRUE(
+        window.document().saveToURL(path, "MIDI File", SequenceDocument::SaveOperation::SaveAs));
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_EQ(window.windowTitle(), "one.mid[*]");
+    draw(window, {300, 100});
+    answering({"Save"}, [&] { EXPECT_TRUE(closes(window)); });
+    SequenceDocument reread(desktop.application());
+    reread.readFromURL(path);
+    EXPECT_EQ(reread.getSequence().notes().size(), 2);
+
+    SequenceWindow& imported = open("wolf-fantasia.mid");
+    EXPECT_THAT(answering({"Cancel"}, [&] { EXPECT_FALSE(imported.save()); }),
+                ElementsAre("The source file contains unprocessed MIDI information which cannot be "
+                            "overwriten (multichannel, meta events,…). Use the 'Save As…' option "
+                            "instead."));
+    EXPECT_EQ(&open("wolf-fantasia.mid"), &imported) << "it is not opened twice";
+    EXPECT_TRUE(closes(imported));
+
+    draw(open());
+    draw(open());
+    QTimer::singleShot(0, [&] { open("wolf-fantasia.mid"); });
+    answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
+    EXPECT_EQ(keyboard.getDocument(), nullptr) << "what came meanwhile is closed too";
+    EXPECT_EQ(open().windowTitle(), "Untitled 4[*]") << "files take no name from new sequences";
+}
+
+TEST_F(SequenceWindowTest, WritesNotesAndSoundUnderTheNamesThatAreGiven)
+{
+    desktop.launch();
+    desktop.application().waitForBank();
+    SequenceWindow& window = open("wolf-fantasia.mid");
+    const QTemporaryDir folder;
+    naming(folder.filePath("tune"), [&] { EXPECT_TRUE(window.saveAs()); });
+    EXPECT_EQ(window.document().path(), folder.filePath("tune.mid").toStdString());
+    EXPECT_TRUE(window.save()) << "it is imported no more";
+    for (const std::vector<QString>& answers : {std::vector<QString>{}, {"Yes"}})
+        answering(answers,
+                  [&] { naming(folder.filePath("No.1"), [&] { EXPECT_TRUE(window.saveAs()); }); });
+    EXPECT_EQ(window.document().path(), folder.filePath("No.1.mid").toStdString());
+    answering({"Cancel"}, [&] {
+        naming(
+            folder.filePath("tune.mid"), [&] { EXPECT_FALSE(window.saveAs()); }, 1);
+    });
+    answering({"Save"},
+              [&] { naming(folder.filePath("tune.imy"), [&] { EXPECT_TRUE(window.saveAs()); }); });
+    QFile melody(folder.filePath("tune.imy"));
+    EXPECT_TRUE(melody.open(QIODevice::ReadOnly) && melody.readLine() == "BEGIN:IMELODY\r\n");
+
+    naming(
+        folder.filePath("x.wav"), [&] { action(window, "Export Audio…").trigger(); }, 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.isBusyOrModified(); }));
+    answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.sequenceWindows().closeAll()); });
+    auto& progress = *window.findChild<QProgressDialog*>();
+    EXPECT_THAT(progress.labelText().toStdString(), StartsWith("x.flac"));
+    progress.cancel();
+
+    window.document().edit().select();
+    window.document().edit().erase();
+    window.document().setTempo(400);
+    draw(window);
+    naming(folder.filePath("tune.ogg"), [&] { action(window, "Export Audio…").trigger(); });
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return window.statusBar()->currentMessage() == "tune.ogg is written"; }, 20'000));
+    EXPECT_GT(QFileInfo(folder.filePath("tune.ogg")).size(), 1000);
+    answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
+}
+
+TEST_F(SequenceWindowTest, OffersWhatWasLeftWithoutAsking)
+{
+    Commands commands(desktop.application());
+    const auto run = [&](const auto& act) {
+        SequenceWindows program(desktop.application(), commands, keyboard);
+        QObject::connect(&program, &SequenceWindows::opened,
+                         [this](SequenceWindow& window) { last = &window; });
+        act(program);
+    };
+    run([&](SequenceWindows& program) {
+        program.create();
+        draw(*last);
+    });
+    run([&](SequenceWindows& program) {
+        answering({"Ask Later"}, [&] { program.offerAbandoned(); });
+        EXPECT_TRUE(program.closeAll());
+    });
+    run([&](SequenceWindows& program) {
+        answering({"Recover"}, [&] { program.offerAbandoned(); });
+        EXPECT_TRUE(last->isWindowModified());
+        EXPECT_EQ(last->document().getSequence().notes().size(), 1);
+        answering({"Discard"}, [&] { EXPECT_TRUE(program.closeAll()); });
+        answering({}, [&] { program.offerAbandoned(); });
+    });
+}
+
+} // namespace velmora
