@@ -64,7 +64,7 @@ std::vector<double> fillAtRandom(SequenceDocument& document)
     for (double start = 4.0; starts.size() < kNotes; start += gap(random)) {
         Note note{.start = start, .length = 2.0 * gap(random), .velocity = 0.5F};
         note.key = static_cast<std::uint32_t>(36 + random() % 48);
-        document.edit().addNote(note);
+        document.edit()->addNote(note);
         starts.push_back(start);
     }
     document.measure();

@@ -63,14 +63,14 @@ int main(int argc, char** argv)
     QObject::connect(&desktop.sequenceWindows(), &SequenceWindows::opened, &qt,
                      [&](SequenceWindow& opened) { window = &opened; });
     desktop.sequenceWindows().create();
-    addManyNotes(window->document().edit());
+    addManyNotes(*window->document().edit());
     window->document().measure();
     window->showDocument();
     auto& view = *window->findChild<SequenceView*>();
 
     QTimer::singleShot(1000, &qt, [] { QApplication::exit(); });
     QApplication::exec();
-    selectTenth(window->document().edit());
+    selectTenth(*window->document().edit());
     const RollGeometry geometry = view.rollGeometry();
     const RollQuad grip = geometry.note(window->document().getSequence().notes()[0]);
     const QPointF place((grip.left + grip.right) / 2, view.height() - 1 - geometry.yOf(0.5));

@@ -20,7 +20,7 @@ void repaint(benchmark::State& state, bool edited)
 {
     SilentHost host;
     SequenceDocument document(host);
-    addManyNotes(document.edit());
+    addManyNotes(*document.edit());
     RollIndex index;
     index.rebuild(document.getSequence().notes());
     const RollGeometry geometry{14,     static_cast<int>(state.range(0)),
@@ -41,9 +41,9 @@ void dragSelection(benchmark::State& state)
 {
     SilentHost host;
     SequenceDocument document(host);
-    addManyNotes(document.edit());
+    addManyNotes(*document.edit());
     SequenceEditor editor(document);
-    selectTenth(document.edit());
+    selectTenth(*document.edit());
     const Note& grip = document.getSequence().notes()[0];
     const auto key = static_cast<double>(grip.key);
     editor.mouseDown({key, 0.5}, Qt::ShiftModifier); // leaves the others selected

@@ -39,9 +39,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const auto file = readStandardMidiFile(std::as_bytes(std::span(data, size)));
         checkTimes(file);
         Sequence sequence;
-        const double mx = readSequence(file, 21, 108, sequence).mx;
+        const double extent = readSequence(file, 21, 108, sequence).extent;
         for (const Note& note : sequence.notes())
-            require(sequence.find(note.id) == &note && note.start + note.length < mx);
+            require(sequence.find(note.id) == &note && note.start + note.length < extent);
     } catch (const FormatError&) {
         return 0;
     }

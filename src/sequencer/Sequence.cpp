@@ -18,6 +18,24 @@ bool startsBefore(const Note& a, const Note& b)
 
 } // namespace
 
+std::vector<NoteState> present(const std::vector<Note>& notes)
+{
+    std::vector<NoteState> states;
+    states.reserve(notes.size());
+    for (const Note& note : notes)
+        states.push_back({note.id, note});
+    return states;
+}
+
+std::vector<NoteState> absent(const std::vector<Note>& notes)
+{
+    std::vector<NoteState> states;
+    states.reserve(notes.size());
+    for (const Note& note : notes)
+        states.push_back({note.id, std::nullopt});
+    return states;
+}
+
 std::uint32_t wholeKey(double key)
 {
     return static_cast<std::uint32_t>(std::clamp(key, 0.0, kLastKey));
@@ -52,13 +70,6 @@ void Sequence::erase(std::uint64_t id)
     for (auto& [other, otherPosition] : index_)
         otherPosition -= otherPosition > position ? 1 : 0;
     notes_.erase(std::next(notes_.begin(), static_cast<std::ptrdiff_t>(position)));
-}
-
-void Sequence::erase(const std::vector<Note>& notes)
-{
-    std::vector<std::uint64_t> ids(notes.size());
-    std::transform(notes.begin(), notes.end(), ids.begin(), [](const Note& n) { return n.id; });
-    eraseAll(std::move(ids));
 }
 
 void Sequence::erase()
@@ -133,32 +144,31 @@ void Sequence::move(double keys, double steps, bool snap)
     });
 }
 
-void Sequence::move(const Note& note)
+void Sequence::swap(std::vector<NoteState>& states)
 {
-    if (Note* stored = find(note.id)) {
-        stored->key = note.key;
-        stored->start = note.start;
+    std::vector<Note> added;
+    std::vector<std::uint64_t> removed;
+    for (auto& [id, note] : states) {
+        Note* const stored = find(id);
+        if (stored != nullptr && note) {
+            note->active = stored->active;
+            note->playing = stored->playing;
+            note->selected = stored->selected;
+            std::swap(*stored, *note);
+        } else if (stored != nullptr) {
+            note = *stored;
+            removed.push_back(id);
+        } else if (note) {
+            note->active = note->playing = false;
+            added.push_back(*note);
+            note.reset();
+        }
     }
-}
-
-void Sequence::unmove(const Note& note)
-{
-    if (Note* stored = find(note.id)) {
-        stored->key = note.oldKey;
-        stored->start = note.oldStart;
-    }
-}
-
-void Sequence::size(const Note& note)
-{
-    if (Note* stored = find(note.id))
-        stored->length = note.length;
-}
-
-void Sequence::unsize(const Note& note)
-{
-    if (Note* stored = find(note.id))
-        stored->length = note.oldLength;
+    for (const Note& note : added)
+        addNote(note);
+    if (!added.empty() || !removed.empty())
+        deselect();
+    eraseAll(std::move(removed));
 }
 
 void Sequence::channel(unsigned char channel)

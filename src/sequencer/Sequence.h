@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace velmora {
@@ -27,12 +28,22 @@ struct Note {
     std::uint32_t oldKey = 0;
 };
 
+/// A note as it is in another state of its sequence; empty if that state does not have it.
+struct NoteState {
+    std::uint64_t id;
+    std::optional<Note> note;
+};
+
+/// The state in which these notes are as the copies show them.
+std::vector<NoteState> present(const std::vector<Note>& notes);
+
+/// The state in which none of these notes exists.
+std::vector<NoteState> absent(const std::vector<Note>& notes);
+
 /// The key that a position across the roll lies in; the first or the last one where it lies beyond.
 std::uint32_t wholeKey(double key);
 
 /// The notes of a document, each with an identity for life, and which of them are selected.
-/// Operations that take a record (`const Note&`) change the stored note of the same identity;
-/// identities that the sequence does not hold are passed over.
 class Sequence {
 public:
     /// In order of `start` after `sort`; notes added since then stand at the end.
@@ -57,9 +68,6 @@ public:
     /// Removes one note in O(notes). The selection still names it.
     void erase(std::uint64_t id);
 
-    /// Removes the notes of these identities at once, then sorts. The selection still names them.
-    void erase(const std::vector<Note>& notes);
-
     /// Removes the selected notes, then sorts.
     void erase();
 
@@ -83,10 +91,10 @@ public:
     /// stay within 0 to 127; with `snap` a start goes down to its whole step.
     void move(double keys, double steps, bool snap);
 
-    void move(const Note& note);
-    void unmove(const Note& note);
-    void size(const Note& note);
-    void unsize(const Note& note);
+    /// Exchanges these notes for the sequence's own, so that swapping again undoes it, then sorts.
+    /// Whether a note sounds or is selected stays with the sequence; if notes come or go, nothing
+    /// is selected afterwards.
+    void swap(std::vector<NoteState>& states);
 
     /// Puts the selected notes on a channel.
     void channel(unsigned char channel);

@@ -50,17 +50,17 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
     stop();
     undoStack_.clear();
     taken_.clear();
-    edit().select();
-    sequence_.erase();
-    mx_ = 0.0;
     isImported_ = false;
+    double extent = 0.0;
+    const Edit edit(*this, {});
+    *edit = {};
     try {
         Sequence read;
         const SequenceFile file =
             readSequence(readStandardMidiFile(readFile(path)), getPrefInt("KeyRangeLo"),
                          getPrefInt("KeyRangeHi"), read);
-        sequence_ = std::move(read);
-        mx_ = file.mx;
+        *edit = std::move(read);
+        extent = file.extent;
         isImported_ = file.isImported;
         path_ = path;
     } catch (const FormatError& error) {
@@ -70,8 +70,7 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
     }
     if (!errorString_.empty())
         logger("sequencer").info("{}", errorString_);
-    emit sizeChanged();
-    emit changed();
+    setExtent(extent);
     emit frame();
 }
 
@@ -94,7 +93,7 @@ void SequenceDocument::record()
     if (mode_ == Mode::Recording) {
         loop(); // what has come since the last tick
         setMode(Mode::Stopped);
-        edit().sort();
+        edit()->sort();
         registerTake();
     } else if (mode_ == Mode::Stopped) {
         dTime_ = clock_();
@@ -134,7 +133,7 @@ double SequenceDocument::positionAt(double time) const
 
 double SequenceDocument::endOfPlaying() const
 {
-    return intervalSelected() ? std::min(selectionEnd_, mx_) : mx_;
+    return intervalSelected() ? std::min(selectionEnd_, extent_) : extent_;
 }
 
 void SequenceDocument::doPlay(double now)
@@ -199,7 +198,7 @@ bool SequenceDocument::doRecord(double seconds)
         scrollMax_ = offset_ + kRecordingRoom;
     if (activity || (!snapToGrid_ && offset_ <= scrollMax_))
         offset_ += stepsPerSecond(tempo_) * seconds;
-    mx_ = offset_ + kRoomBehindLastNote;
+    extent_ = offset_ + kRoomBehindLastNote;
     return activity;
 }
 
@@ -232,7 +231,8 @@ bool SequenceDocument::recordKey(std::size_t key, double until)
                   .oldKey = static_cast<std::uint32_t>(key)};
         if (snapToGrid_)
             note.start = std::floor(note.start);
-        taken_.emplace(edit().addNote(note).id, std::nullopt);
+        playback_.sequenceChanged();
+        taken_.emplace(sequence_.addNote(note).id, std::nullopt);
         return true;
     }
     if (state != kHeld)
@@ -244,7 +244,8 @@ bool SequenceDocument::recordKey(std::size_t key, double until)
     });
     if (last != notes.rend()) {
         taken_.emplace(last->id, last->length);
-        Note& held = edit().at(static_cast<std::size_t>(notes.rend() - last) - 1);
+        playback_.sequenceChanged();
+        Note& held = sequence_.at(static_cast<std::size_t>(notes.rend() - last) - 1);
         held.length = offset_ - held.start;
         if (snapToGrid_)
             held.length = std::floor(held.length);
@@ -280,12 +281,18 @@ void SequenceDocument::selectInterval(double start, double end)
     emit changed();
 }
 
+void SequenceDocument::setExtent(double extent)
+{
+    if (std::exchange(extent_, extent) != extent)
+        emit sizeChanged();
+}
+
 void SequenceDocument::measure()
 {
-    mx_ = 0.0;
+    double extent = 0.0;
     for (const Note& note : sequence_.notes())
-        mx_ = std::max(mx_, note.start + note.length + kRoomBehindLastNote);
-    emit sizeChanged();
+        extent = std::max(extent, note.start + note.length + kRoomBehindLastNote);
+    setExtent(extent);
 }
 
 void SequenceDocument::setTempo(double tempo)

@@ -5,7 +5,6 @@
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/SequencePlayback.h"
-#include "sequencer/UndoAction.h"
 
 #include <QObject>
 #include <QUndoStack>
@@ -17,6 +16,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace velmora {
 
@@ -116,7 +116,7 @@ public:
     int getNote() const { return note_; }
 
     /// The extent in steps: the end of the last note and 32 more.
-    double extent() const { return mx_; }
+    double extent() const { return extent_; }
 
     /// Sets the extent by the notes; it is 0 without any.
     void measure();
@@ -141,36 +141,23 @@ public:
 
     SequenceHost& host() const { return host_; }
 
-    /// The sequence, to be changed by a gesture. Those of the notes to be changed that sound are
-    /// silenced: where they go they would not end.
-    Sequence& edit(std::span<const std::uint64_t> notes = {});
+    class Edit;
 
-    /// The document's actions: each one is the inverse of its neighbour. They register nothing.
-    void addNotes(const UndoAction& action);
-    void removeNotes(const UndoAction& action);
-    void moveNotes(const UndoAction& action);
-    void unmoveNotes(const UndoAction& action);
-    void sizeNotes(const UndoAction& action);
-    void unsizeNotes(const UndoAction& action);
-
-    /// An action and its inverse.
-    struct Edit {
-        using Action = void (SequenceDocument::*)(const UndoAction&);
-        Action redo, undo;
-    };
-    static constexpr Edit kAdd{&SequenceDocument::addNotes, &SequenceDocument::removeNotes};
-    static constexpr Edit kRemove{&SequenceDocument::removeNotes, &SequenceDocument::addNotes};
-    static constexpr Edit kMove{&SequenceDocument::moveNotes, &SequenceDocument::unmoveNotes};
-    static constexpr Edit kSize{&SequenceDocument::sizeNotes, &SequenceDocument::unsizeNotes};
+    /// Begins a change of the sequence. `notes` names those to be changed: the ones that sound are
+    /// silenced, because they would not end where they go.
+    [[nodiscard]] Edit edit(std::span<const std::uint64_t> notes = {});
 
     /// The name of an edit in the menu, as in "Move 3 Notes".
     static QString editText(const char* verb, std::size_t notes);
 
-    /// Does an edit that can be undone. `text` names it in the menu.
-    void perform(Edit edit, UndoAction action, const QString& text);
+    /// Swaps notes with the sequence's, which can be undone. `text` names the edit in the menu.
+    void perform(std::vector<NoteState> notes, const QString& text);
 
-    /// Makes an edit that a gesture has done already one that can be undone.
-    void registerDone(Edit edit, UndoAction action, const QString& text);
+    /// Lets an edit that a gesture has done already be undone. `before` are its notes as they were.
+    void registerDone(std::vector<NoteState> before, const QString& text);
+
+    /// Swaps notes with the sequence's. Registers nothing.
+    void swap(std::vector<NoteState>& notes);
 
     /// Also says, by its clean state, whether the document is modified.
     QUndoStack& undoStack() { return undoStack_; }
@@ -182,7 +169,7 @@ public:
     bool isModified() const { return !undoStack_.isClean() || !taken_.empty(); }
 
 signals:
-    /// Notes, the selection or the position have changed: the piano roll is to be drawn anew.
+    /// Notes, the selection, the position or the selected interval have changed.
     void changed();
 
     /// The keyboard is to be drawn anew, and the roll of the document that it shows. On every 16th
@@ -217,7 +204,7 @@ private:
     int takeKey(std::size_t key, double until);
     bool recordKey(std::size_t key, double until);
     void setMode(Mode mode);
-    void apply(void (UndoAction::*change)(Sequence&) const, const UndoAction& action);
+    void setExtent(double extent);
 
     SequenceHost& host_;
     std::function<double()> clock_;
@@ -228,7 +215,7 @@ private:
     std::string errorString_;
 
     double tempo_ = 120.0;
-    double mx_ = 0.0;
+    double extent_ = 0.0;
     Mode mode_ = Mode::Stopped;
     unsigned frameCount_ = 0; ///< Ticks.
     double scrollMax_ = 0.0;  ///< How far a recording runs on without keys.
@@ -240,12 +227,30 @@ private:
     bool snapToGrid_ = false;
     bool loop_ = false;
     bool isImported_ = false;
+    int edits_ = 0; ///< Under way, one within the other.
 
     std::bitset<kKeys> heldKeys_; ///< At the last tick of the recording.
 
     /// What the recording has done since it was last registered: the notes that it has changed,
     /// with the length before, or none for a new one.
     std::map<std::uint64_t, std::optional<double>> taken_;
+};
+
+/// Access to the sequence while it is changed: brings playing up to date when it begins, and
+/// announces the change when it ends, or when the edit that it is part of does.
+class SequenceDocument::Edit {
+public:
+    Edit(SequenceDocument& document, std::span<const std::uint64_t> notes);
+    ~Edit();
+
+    Edit(const Edit&) = delete;
+    Edit& operator=(const Edit&) = delete;
+
+    Sequence& operator*() const { return document_.sequence_; }
+    Sequence* operator->() const { return &document_.sequence_; }
+
+private:
+    SequenceDocument& document_;
 };
 
 } // namespace velmora

@@ -53,12 +53,13 @@ UnsavedSequence SequenceDocument::snapshot() const
 void SequenceDocument::recover(const UnsavedSequence& unsaved)
 {
     stop();
-    edit() = {};
-    sequence_.reserve(unsaved.notes.size());
+    const Edit edit(*this, {});
+    *edit = {};
+    edit->reserve(unsaved.notes.size());
     for (Note note : unsaved.notes) {
         note.id = 0;
         note.active = note.playing = note.selected = false;
-        sequence_.addNote(note);
+        edit->addNote(note);
     }
     path_ = unsaved.path;
     isImported_ = unsaved.isImported;
@@ -67,7 +68,6 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
     undoStack_.clear();
     undoStack_.resetClean();
     measure();
-    emit changed();
 }
 
 } // namespace velmora

@@ -11,121 +11,103 @@ namespace velmora {
 
 namespace {
 
-/// One entry of the undo menu. A gesture has done its edit before it is registered: the stack does
-/// it again only after it was undone.
-class SequenceCommand : public QUndoCommand {
+/// One entry of the undo menu. It holds the notes that the edit concerns in the state that the
+/// sequence does not have: undoing and redoing swap the two.
+class SwapNotes : public QUndoCommand {
 public:
-    SequenceCommand(SequenceDocument& document, SequenceDocument::Edit edit, UndoAction action,
-                    bool isDone, const QString& text)
-        : QUndoCommand(text), document_(document), edit_(edit), action_(std::move(action)),
-          isDone_(isDone)
+    /// The edit has been done.
+    SwapNotes(SequenceDocument& document, std::vector<NoteState> before, const QString& text)
+        : QUndoCommand(text), document_(document), notes_(std::move(before))
     {
     }
 
     void redo() override
     {
-        if (!std::exchange(isDone_, false))
-            (document_.*edit_.redo)(action_);
+        if (!std::exchange(isPushed_, true)) // the stack redoes what is pushed onto it
+            return;
+        document_.swap(notes_);
     }
 
-    void undo() override { (document_.*edit_.undo)(action_); }
+    void undo() override { document_.swap(notes_); }
 
 private:
     SequenceDocument& document_;
-    SequenceDocument::Edit edit_;
-    UndoAction action_;
-    bool isDone_;
+    std::vector<NoteState> notes_;
+    bool isPushed_ = false;
 };
 
 } // namespace
 
-Sequence& SequenceDocument::edit(std::span<const std::uint64_t> notes)
+SequenceDocument::Edit::Edit(SequenceDocument& document, std::span<const std::uint64_t> notes)
+    : document_(document)
 {
-    settle();
+    document.settle();
     for (const std::uint64_t id : notes)
-        if (Note* note = sequence_.find(id); note != nullptr && note->playing)
-            playback_.silence(*note);
-    playback_.sequenceChanged();
-    return sequence_;
+        if (Note* note = document.sequence_.find(id); note != nullptr && note->playing)
+            document.playback_.silence(*note);
+    document.playback_.sequenceChanged();
+    ++document.edits_;
 }
 
-void SequenceDocument::apply(void (UndoAction::*change)(Sequence&) const, const UndoAction& action)
+SequenceDocument::Edit::~Edit()
+{
+    document_.playback_.sequenceChanged();
+    if (--document_.edits_ == 0)
+        emit document_.changed();
+}
+
+SequenceDocument::Edit SequenceDocument::edit(std::span<const std::uint64_t> notes)
+{
+    return {*this, notes};
+}
+
+void SequenceDocument::swap(std::vector<NoteState>& notes)
 {
     std::vector<std::uint64_t> ids;
-    ids.reserve(action.notes().size());
-    for (const Note& note : action.notes())
-        ids.push_back(note.id);
-    (action.*change)(edit(ids));
+    ids.reserve(notes.size());
+    for (const NoteState& state : notes)
+        ids.push_back(state.id);
+    const Edit edit(*this, ids);
+    edit->swap(notes);
 
     // What an undone deletion brings back can lie beyond the end.
-    const double before = mx_;
+    double extent = extent_;
     for (const std::uint64_t id : ids)
-        if (const Note* note = sequence_.find(id))
-            mx_ = std::max(mx_, note->start + note->length + kRoomBehindLastNote);
-    if (mx_ != before)
-        emit sizeChanged();
-    emit changed();
+        if (const Note* note = edit->find(id))
+            extent = std::max(extent, note->start + note->length + kRoomBehindLastNote);
+    setExtent(extent);
 }
 
-void SequenceDocument::addNotes(const UndoAction& action)
-{
-    apply(&UndoAction::add, action);
-}
-
-void SequenceDocument::removeNotes(const UndoAction& action)
-{
-    apply(&UndoAction::remove, action);
-}
-
-void SequenceDocument::moveNotes(const UndoAction& action)
-{
-    apply(&UndoAction::move, action);
-}
-
-void SequenceDocument::unmoveNotes(const UndoAction& action)
-{
-    apply(&UndoAction::unmove, action);
-}
-
-void SequenceDocument::sizeNotes(const UndoAction& action)
-{
-    apply(&UndoAction::size, action);
-}
-
-void SequenceDocument::unsizeNotes(const UndoAction& action)
-{
-    apply(&UndoAction::unsize, action);
-}
-
-void SequenceDocument::perform(Edit edit, UndoAction action, const QString& text)
+void SequenceDocument::perform(std::vector<NoteState> notes, const QString& text)
 {
     registerTake();
-    undoStack_.push(new SequenceCommand(*this, edit, std::move(action), false, text));
+    swap(notes);
+    registerDone(std::move(notes), text);
 }
 
-void SequenceDocument::registerDone(Edit edit, UndoAction action, const QString& text)
+void SequenceDocument::registerDone(std::vector<NoteState> before, const QString& text)
 {
-    undoStack_.push(new SequenceCommand(*this, edit, std::move(action), true, text));
+    undoStack_.push(new SwapNotes(*this, std::move(before), text));
 }
 
 void SequenceDocument::registerTake()
 {
-    std::vector<Note> added, lengthened;
+    std::vector<NoteState> before;
+    std::size_t added = 0;
     for (const auto& [id, lengthBefore] : std::exchange(taken_, {})) {
         const Note* stored = sequence_.find(id);
         if (stored == nullptr)
             continue;
-        Note& note = (lengthBefore ? lengthened : added).emplace_back(*stored);
-        note.oldLength = lengthBefore.value_or(note.oldLength);
+        NoteState& state = before.emplace_back(NoteState{id, std::nullopt});
+        if (lengthBefore) {
+            state.note = *stored;
+            state.note->length = *lengthBefore;
+        } else {
+            ++added;
+        }
     }
-    if (added.empty() && lengthened.empty())
-        return;
-    undoStack_.beginMacro(editText("Record", added.size()));
-    if (!lengthened.empty())
-        registerDone(kSize, UndoAction::withNotes(std::move(lengthened)), {});
-    if (!added.empty())
-        registerDone(kAdd, UndoAction::withNotes(std::move(added)), {});
-    undoStack_.endMacro();
+    if (!before.empty())
+        registerDone(std::move(before), editText("Record", added));
 }
 
 QString SequenceDocument::editText(const char* verb, std::size_t notes)

@@ -40,21 +40,22 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
     newNote_ = 0;
 
     const int keyHeight = getPrefInt("KeyHeight");
-    Sequence& sequence = document_.edit();
-    sequence.update();
-    for (std::size_t i = sequence.notes().size(); i-- > 0;) {
-        const RollHit place = rollHit(sequence.notes()[i], point, keyHeight);
-        if (place == RollHit::Nothing)
-            continue;
-        hit(sequence.at(i), place, modifiers);
-        if (!modifiers.testFlag(Qt::ShiftModifier) || modifiers.testFlag(Qt::ControlModifier))
-            break;
+    {
+        const auto edit = document_.edit();
+        edit->update();
+        for (std::size_t i = edit->notes().size(); i-- > 0;) {
+            const RollHit place = rollHit(edit->notes()[i], point, keyHeight);
+            if (place == RollHit::Nothing)
+                continue;
+            hit(*edit, edit->at(i), place, modifiers);
+            if (!modifiers.testFlag(Qt::ShiftModifier) || modifiers.testFlag(Qt::ControlModifier))
+                break;
+        }
     }
     if (modifiers.testFlag(Qt::ControlModifier)) {
         rightMouseDown(point);
         return;
     }
-    emit document_.changed();
     if (hitNote_)
         return;
 
@@ -69,9 +70,9 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
     document_.stop();
 }
 
-void SequenceEditor::hit(Note& note, RollHit place, Qt::KeyboardModifiers modifiers)
+void SequenceEditor::hit(Sequence& sequence, Note& note, RollHit place,
+                         Qt::KeyboardModifiers modifiers)
 {
-    Sequence& sequence = document_.edit();
     hitNote_ = true;
     if (place == RollHit::NoteEnd)
         newNote_ = note.id;
@@ -108,20 +109,19 @@ void SequenceEditor::rightMouseDown(RollPoint point)
               .key = wholeKey(point.key)};
     note.oldStart = note.start;
     note.oldKey = note.key;
-    Sequence& sequence = document_.edit();
-    sequence.deselect();
-    Note& stored = sequence.addNote(note);
-    sequence.select(stored);
+    const auto edit = document_.edit();
+    edit->deselect();
+    Note& stored = edit->addNote(note);
+    edit->select(stored);
     newNote_ = stored.id;
-    emit document_.changed();
 }
 
 void SequenceEditor::mouseDragged(RollPoint point)
 {
     const bool snap = document_.snapToGrid();
     if (newNote_ != 0) {
-        Sequence& sequence = document_.edit({&newNote_, 1});
-        if (Note* note = sequence.find(newNote_)) {
+        const auto edit = document_.edit({&newNote_, 1});
+        if (Note* note = edit->find(newNote_)) {
             const double end = snap ? std::ceil(point.step) : point.step;
             note->length = std::max(end - note->start, 0.0);
         }
@@ -131,9 +131,8 @@ void SequenceEditor::mouseDragged(RollPoint point)
         const double steps =
             snap ? std::floor(point.step) - std::floor(click_.step) : point.step - click_.step;
         document_.edit(document_.getSequence().selection())
-            .move(point.key - click_.key, steps, snap);
+            ->move(point.key - click_.key, steps, snap);
     }
-    emit document_.changed();
 }
 
 void SequenceEditor::mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers)
@@ -145,7 +144,7 @@ void SequenceEditor::mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers)
     else if (modifiers.testFlag(Qt::ShiftModifier))
         selectUpTo(snapped(point.step));
 
-    document_.edit().sort();
+    document_.edit()->sort();
     document_.measure();
     const double start = document_.getSelectionStart(), end = document_.getSelectionEnd();
     document_.selectInterval(std::min(start, end), std::max(start, end));
@@ -156,45 +155,47 @@ void SequenceEditor::mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers)
 void SequenceEditor::finishLength()
 {
     const std::uint64_t id = std::exchange(newNote_, 0);
-    Sequence& sequence = document_.edit({&id, 1});
-    Note* note = sequence.find(id);
+    const auto edit = document_.edit({&id, 1});
+    Note* note = edit->find(id);
     if (note == nullptr) // undone in the middle of the drag
         return;
     const bool isLong = note->length >= kShortestLength;
     if (isNewNote_ && isLong) {
         note->oldLength = note->length;
-        document_.registerDone(SequenceDocument::kAdd, UndoAction::withNotes({*note}),
-                               SequenceDocument::tr("Draw Note"));
+        document_.registerDone(absent({*note}), SequenceDocument::tr("Draw Note"));
     } else if (isNewNote_) {
-        sequence.deselect(*note);
-        sequence.erase(id);
-    } else if (isLong) {
-        if (note->length != note->oldLength)
-            document_.registerDone(SequenceDocument::kSize, UndoAction::withNotes({*note}),
-                                   SequenceDocument::editText("Resize", 1));
-    } else {
+        edit->deselect(*note);
+        edit->erase(id);
+    } else if (!isLong) {
         note->length = note->oldLength;
-        document_.perform(SequenceDocument::kRemove, UndoAction::withNotes({*note}),
-                          SequenceDocument::editText("Delete", 1));
+        document_.perform(absent({*note}), SequenceDocument::editText("Delete", 1));
+    } else if (note->length != note->oldLength) {
+        Note before = *note;
+        before.length = note->oldLength;
+        document_.registerDone(present({before}), SequenceDocument::editText("Resize", 1));
     }
 }
 
 void SequenceEditor::finishMove()
 {
-    const std::vector<Note> notes = copy();
-    if (std::any_of(notes.begin(), notes.end(), hasMoved))
-        document_.registerDone(SequenceDocument::kMove, UndoAction::withNotes(notes),
-                               SequenceDocument::editText("Move", notes.size()));
-    document_.edit().update();
+    std::vector<Note> notes = copy();
+    if (std::any_of(notes.begin(), notes.end(), hasMoved)) {
+        for (Note& note : notes) {
+            note.start = note.oldStart;
+            note.key = note.oldKey;
+        }
+        document_.registerDone(present(notes), SequenceDocument::editText("Move", notes.size()));
+    }
+    document_.edit()->update();
 }
 
 void SequenceEditor::selectUpTo(double end)
 {
     document_.selectInterval(document_.getSelectionStart(), end);
-    Sequence& sequence = document_.edit();
-    for (std::size_t i = sequence.notes().size(); i-- > 0;)
-        if (Note& note = sequence.at(i); document_.getOffset() <= note.start && note.start <= end)
-            sequence.select(note);
+    const auto edit = document_.edit();
+    for (std::size_t i = edit->notes().size(); i-- > 0;)
+        if (Note& note = edit->at(i); document_.getOffset() <= note.start && note.start <= end)
+            edit->select(note);
 }
 
 double SequenceEditor::snapped(double step) const

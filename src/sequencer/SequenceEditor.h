@@ -61,7 +61,7 @@ public:
     void paste(std::vector<Note> notes);
 
 private:
-    void hit(Note& note, RollHit place, Qt::KeyboardModifiers modifiers);
+    void hit(Sequence& sequence, Note& note, RollHit place, Qt::KeyboardModifiers modifiers);
     void finishLength();
     void finishMove();
     void selectUpTo(double end);

@@ -86,7 +86,8 @@ SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyR
         for (const MidiEvent& event : track) {
             if (const auto note = keptNote(file, event, keyRangeLo, keyRangeHi)) {
                 sequence.addNote(*note);
-                result.mx = std::max(result.mx, note->start + note->length + kRoomBehindLastNote);
+                result.extent =
+                    std::max(result.extent, note->start + note->length + kRoomBehindLastNote);
             } else {
                 result.isImported = true;
             }

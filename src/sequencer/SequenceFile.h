@@ -22,7 +22,7 @@ constexpr double kRoomBehindLastNote = 32.0;
 
 /// What a document keeps of a file that was read, besides its notes.
 struct SequenceFile {
-    double mx = 0.0;         ///< Extent in steps: the end of the last note and 32 more.
+    double extent = 0.0;     ///< Extent in steps: the end of the last note and 32 more.
     bool isImported = false; ///< The file holds more than the sequence keeps.
 };
 

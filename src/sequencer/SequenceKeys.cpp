@@ -66,7 +66,7 @@ bool SequenceEditor::takeNamedKey(int key, bool command)
         deleteSelection();
         return true;
     case Qt::Key_Escape:
-        document_.edit().deselect();
+        document_.edit()->deselect();
         return true;
     case Qt::Key_Down:
         document_.stop();
@@ -131,7 +131,7 @@ void SequenceEditor::setChannel(unsigned char channel, bool ofSelection)
 {
     document_.setChannel(channel);
     if (!ofSelection) {
-        document_.edit().select(channel);
+        document_.edit()->select(channel);
         return;
     }
     std::vector<Note> notes = copy();
@@ -139,22 +139,14 @@ void SequenceEditor::setChannel(unsigned char channel, bool ofSelection)
     if (notes.empty())
         return;
     document_.registerTake();
-    document_.edit().channel(channel);
-    // The notes of one channel go, those of the other come.
-    std::vector<Note> changed = notes;
-    for (Note& note : changed)
-        note.channel = channel;
-    QUndoStack& undo = document_.undoStack();
-    undo.beginMacro(SequenceDocument::editText("Set Channel of", notes.size()));
-    document_.registerDone(SequenceDocument::kRemove, UndoAction::withNotes(std::move(notes)), {});
-    document_.registerDone(SequenceDocument::kAdd, UndoAction::withNotes(std::move(changed)), {});
-    undo.endMacro();
+    document_.edit()->channel(channel);
+    document_.registerDone(present(notes),
+                           SequenceDocument::editText("Set Channel of", notes.size()));
 }
 
 void SequenceEditor::selectAll()
 {
-    document_.edit().select();
-    emit document_.changed();
+    document_.edit()->select();
 }
 
 std::vector<Note> SequenceEditor::copy() const
@@ -184,8 +176,7 @@ std::vector<Note> SequenceEditor::remove(const char* verb)
 {
     std::vector<Note> notes = copy();
     if (!notes.empty())
-        document_.perform(SequenceDocument::kRemove, UndoAction::withNotes(notes),
-                          SequenceDocument::editText(verb, notes.size()));
+        document_.perform(absent(notes), SequenceDocument::editText(verb, notes.size()));
     return notes;
 }
 
@@ -197,22 +188,22 @@ void SequenceEditor::paste(std::vector<Note> notes)
     const auto startsBefore = [](const Note& a, const Note& b) { return a.start < b.start; };
     const double first = std::min_element(notes.begin(), notes.end(), startsBefore)->start;
     const double begin = snapped(document_.getOffset());
-    Sequence& sequence = document_.edit();
-    sequence.deselect();
-    for (Note& note : notes) {
-        note.id = 0;
-        note.start = note.oldStart = begin + (note.start - first);
-        note.oldLength = note.length;
-        note.oldKey = note.key;
-        note.active = note.playing = note.selected = false;
-        sequence.select(sequence.addNote(note));
+    {
+        const auto edit = document_.edit();
+        edit->deselect();
+        for (Note& note : notes) {
+            note.id = 0;
+            note.start = note.oldStart = begin + (note.start - first);
+            note.oldLength = note.length;
+            note.oldKey = note.key;
+            note.active = note.playing = note.selected = false;
+            edit->select(edit->addNote(note));
+        }
+        edit->sort();
+        document_.measure();
     }
-    sequence.sort();
-    document_.measure();
-    document_.registerDone(SequenceDocument::kAdd, UndoAction::withNotes(copy()),
-                           SequenceDocument::editText("Paste", notes.size()));
+    document_.registerDone(absent(copy()), SequenceDocument::editText("Paste", notes.size()));
     document_.getCurrentNotes(false);
-    emit document_.changed();
     emit document_.frame();
 }
 

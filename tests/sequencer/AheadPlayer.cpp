@@ -20,7 +20,7 @@ protected:
     {
         for (unsigned i = 0; i < 24; ++i) {
             add(48 + i, i, 0.75);
-            live_.edit().addNote(document_.getSequence().notes().back());
+            live_.edit()->addNote(document_.getSequence().notes().back());
         }
         live_.measure();
     }

@@ -30,7 +30,7 @@ protected:
         Notes result;
         for (const Note& note : document_.getSequence().notes()) {
             result[note.id] = {note.key, note.start, note.length, note.channel};
-            EXPECT_EQ(document_.edit().find(note.id), &note);
+            EXPECT_EQ(document_.edit()->find(note.id), &note);
             EXPECT_EQ(note.selected, std::ranges::count(selection(), note.id) > 0);
         }
         EXPECT_EQ(result.size(), document_.getSequence().notes().size()) << "each has its own";
@@ -246,6 +246,34 @@ TEST_F(SequenceEditorTest, PastesAtThePosition)
     wrong.back() = '\x80';
     EXPECT_THAT(decodeNotes(wrong), IsEmpty()) << "no such key";
     EXPECT_EQ(decodeNotes(encodeNotes({{.velocity = 2.0F}})).at(0).velocity, 1.0F);
+}
+
+TEST_F(SequenceEditorTest, AnnouncesAnEditOnce)
+{
+    add(60, 3.0, 1.0);
+    int announced = 0;
+    double seen = -1.0;
+    QObject::connect(&document_, &SequenceDocument::changed, [&] {
+        ++announced;
+        seen = document_.extent();
+    });
+    const auto times = [&](auto edit) {
+        announced = 0;
+        edit();
+        return announced;
+    };
+    EXPECT_EQ(times([&] { editor_.selectAll(); }), 1);
+    EXPECT_EQ(times([&] { editor_.paste(editor_.cut()); }), 2);
+    EXPECT_EQ(times([&] { undo(); }), 1);
+    const auto pasteInAnEdit = [&] {
+        const auto edit = document_.edit();
+        document_.setOffset(50.0);
+        announced = 0;
+        editor_.paste(editor_.copy());
+    };
+    editor_.selectAll();
+    EXPECT_EQ(times(pasteInAnEdit), 1);
+    EXPECT_EQ(seen, 83.0) << "when all of it is done";
 }
 
 TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)

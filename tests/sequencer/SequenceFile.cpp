@@ -111,7 +111,7 @@ TEST(SequenceFile, TakesOverNotesInSteps)
     EXPECT_EQ(note.velocity, 64.0F / 127.0F);
     EXPECT_EQ(note.channel, 9);
     EXPECT_EQ(note.oldKey, 62);
-    EXPECT_EQ(kept.mx, 16.0 + 8.0 + 32.0);
+    EXPECT_EQ(kept.extent, 16.0 + 8.0 + 32.0);
     // One second a beat from beat 1 on. The note at beat 2 lasts two seconds by the clock, but a
     // duration is looked up as a position.
     Sequence slowing;

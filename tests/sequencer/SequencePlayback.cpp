@@ -32,7 +32,7 @@ protected:
     {
         add(60, 2.0, 4.0);
         add(64, 4.0, 8.0);
-        document_.edit().at(1).velocity = 0.5F;
+        document_.edit()->at(1).velocity = 0.5F;
     }
 
     State state() const
@@ -96,14 +96,14 @@ protected:
     {
         const auto& notes = document_.getSequence().notes();
         const std::uint64_t id = notes.empty() ? 0 : notes[any(unsigned(notes.size()))].id;
-        Sequence& sequence = document_.edit({&id, 1});
+        const auto edit = document_.edit({&id, 1});
         const unsigned what = any(4);
         if (what == 0)
-            sequence.erase(id);
+            edit->erase(id);
         else if (what == 1)
-            sequence.sort();
+            edit->sort();
         else if (what == 2 && !notes.empty())
-            sequence.find(id)->start += 0.25;
+            edit->find(id)->start += 0.25;
         else
             addAny();
     }
@@ -169,8 +169,8 @@ TEST_F(SequencePlaybackTest, DoesWhatAWalkThroughAllNotesDoes)
     for (int i = 0; i < 4000 && !HasFailure(); ++i) {
         SCOPED_TRACE(i);
         if (i % 400 == 0) { // another sequence, unsorted, with many that start together
-            document_.edit().select();
-            document_.edit().erase();
+            document_.edit()->select();
+            document_.edit()->erase();
             for (unsigned notes = any(40); notes > 0; --notes)
                 addAny();
         }

@@ -31,8 +31,8 @@ protected:
         const Note note{.length = 1.0, .velocity = 1.0F, .key = 60};
         std::vector<Note> drawn;
         while (drawn.size() < notes)
-            drawn.push_back(document_.edit().addNote(note));
-        document_.registerDone(SequenceDocument::kAdd, UndoAction::withNotes(drawn), "Draw");
+            drawn.push_back(document_.edit()->addNote(note));
+        document_.registerDone(absent(drawn), "Draw");
     }
 
     bool save() { return document_.saveToURL(path_, kMidiFileType, kSave); }

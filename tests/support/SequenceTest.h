@@ -35,13 +35,13 @@ protected:
     /// Adds a committed note and measures the extent.
     void add(unsigned key, double start, double length)
     {
-        document_.edit().addNote({.start = start,
-                                  .length = length,
-                                  .oldLength = length,
-                                  .velocity = 1.0F,
-                                  .key = key,
-                                  .oldStart = start,
-                                  .oldKey = key});
+        document_.edit()->addNote({.start = start,
+                                   .length = length,
+                                   .oldLength = length,
+                                   .velocity = 1.0F,
+                                   .key = key,
+                                   .oldStart = start,
+                                   .oldKey = key});
         document_.measure();
     }
 

@@ -47,7 +47,7 @@ protected:
     Note& put(unsigned key, double start, double length, float velocity = 1.0F)
     {
         add(key, start, length);
-        Note& note = document_.edit().at(document_.getSequence().notes().size() - 1);
+        Note& note = document_.edit()->at(document_.getSequence().notes().size() - 1);
         note.velocity = velocity;
         view.redraw();
         return note;

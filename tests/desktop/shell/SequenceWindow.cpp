@@ -357,8 +357,8 @@ TEST_F(SequenceWindowTest, WritesNotesAndSoundUnderTheNamesThatAreGiven)
     EXPECT_THAT(progress.labelText().toStdString(), StartsWith("x.flac"));
     progress.cancel();
 
-    window.document().edit().select();
-    window.document().edit().erase();
+    window.document().edit()->select();
+    window.document().edit()->erase();
     window.document().setTempo(400);
     draw(window);
     naming(folder.filePath("tune.ogg"), [&] { action(window, "Export Audio…").trigger(); });
