@@ -265,6 +265,7 @@ TEST_F(SequenceEditorTest, AnnouncesAnEditOnce)
     EXPECT_EQ(times([&] { editor_.selectAll(); }), 1);
     EXPECT_EQ(times([&] { editor_.paste(editor_.cut()); }), 2);
     EXPECT_EQ(times([&] { undo(); }), 1);
+    EXPECT_EQ(times([&] { undo(); }), 1) << "the notes that were cut are back";
     const auto pasteInAnEdit = [&] {
         const auto edit = document_.edit();
         document_.setOffset(50.0);
