@@ -37,7 +37,7 @@ int main(int argc, char** argv)
 {
     const JackServer server;
     MidiSource piano("piano", {"keys"});
-    chooseGraphics();
+    requestOpenGL();
     const QApplication application(argc, argv);
     Desktop desktop;
     AppDelegate& live = desktop.application();

@@ -76,7 +76,7 @@ std::vector<double> fillAtRandom(SequenceDocument& document)
 int main(int argc, char** argv)
 {
     const JackServer server;
-    chooseGraphics();
+    requestOpenGL();
     const QApplication qt(argc, argv);
     Desktop desktop;
     AppDelegate& application = desktop.application();

@@ -56,7 +56,7 @@ void sendMouse(SequenceView& view, QEvent::Type type, QPointF place, Qt::MouseBu
 
 int main(int argc, char** argv)
 {
-    chooseGraphics();
+    requestOpenGL();
     const QApplication qt(argc, argv);
     Desktop desktop;
     SequenceWindow* window = nullptr;

@@ -16,7 +16,7 @@ int main(int argc, char** argv)
     qputenv("ALSOFT_DRIVERS", "null");
     // Nothing that a test does is to reach the user's session.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
-    velmora::chooseGraphics();
+    velmora::requestOpenGL();
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -29,7 +29,7 @@ constexpr int kSliderTop = 5;
 constexpr int kWidthWithoutStops = 240;
 constexpr int kGrowMilliseconds = 120;
 
-/// The ends of a slider, whose values are whole numbers.
+/// The value of a slider at volume 1.
 constexpr int kFullVolume = 1000;
 
 QString stopTitle(const Instrument& instrument, std::size_t stop)
@@ -53,20 +53,19 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     for (const char* name : kMIDIInstrumentNames)
         programs_->addItem(name);
     programs_->setAccessibleName(tr("Program"));
-    programs_->setToolTip(tr("The General MIDI program that sounds"));
+    programs_->setToolTip(tr("General MIDI program"));
     programs_->setMaxVisibleItems(24);
     connect(programs_, &QComboBox::activated, this,
             [this](int index) { application_.setMIDIProgram(static_cast<std::uint8_t>(index)); });
 
     usage_->setAccessibleName(tr("Memory use"));
-    usage_->setToolTip(tr("The memory that the samples of this instrument take"));
+    usage_->setToolTip(tr("Memory used by the samples of this instrument"));
 
     tunings_->setAccessibleName(tr("Tuning"));
-    tunings_->setToolTip(tr("The temperament in which keys sound"));
+    tunings_->setToolTip(tr("The tuning that you play in"));
     connect(tunings_, &QComboBox::activated, this,
             [this] { application_.selectTuning(tunings_->currentText().toStdString()); });
 
-    // The menus stand to the left of the stops; the frame and the margins take the rest.
     auto* choices = new QWidget;
     choices->setFixedWidth(kStopsLeft);
     auto* column = new QVBoxLayout(choices);
@@ -99,7 +98,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
 
 void InstrumentPanel::showTunings()
 {
-    // Of two entries of one name the one stays marked that was chosen.
+    // If two tunings have the same name, the one that was chosen stays marked.
     int marked = tunings_->currentIndex();
     tunings_->clear();
     for (const std::string& name : application_.tuningNames())
@@ -139,7 +138,7 @@ void InstrumentPanel::fitWidth(std::size_t stops)
 {
     const int stopsWidth = kStopWidth * static_cast<int>(stops);
     stops_->widget()->resize(stopsWidth, kSliderTop + kSliderHeight);
-    // What the screen has no room for is scrolled to.
+    // Stops that do not fit on the screen can be scrolled into view.
     const QSize fitting(
         std::min(kWidthWithoutStops + stopsWidth, screen()->availableSize().width()), height());
     if (!isVisible()) {
@@ -164,7 +163,7 @@ void InstrumentPanel::makeSliders(std::size_t count)
         slider->setSingleStep(kFullVolume / 50);
         connect(slider, &QSlider::valueChanged, this, [this, stop](int value) {
             application_.setVolumeOfStop(stop, static_cast<float>(value) / kFullVolume);
-            tellVolume(stop);
+            showVolumeTip(stop);
         });
         sliders_.push_back(slider);
     }
@@ -174,11 +173,11 @@ void InstrumentPanel::showVolume(std::size_t stop, float volume)
 {
     if (stop >= sliders_.size())
         return;
-    const QSignalBlocker isToldAlready(sliders_[stop]);
+    const QSignalBlocker blocker(sliders_[stop]);
     sliders_[stop]->setValue(static_cast<int>(std::lround(volume * kFullVolume)));
 }
 
-void InstrumentPanel::tellVolume(std::size_t stop) const
+void InstrumentPanel::showVolumeTip(std::size_t stop) const
 {
     QSlider& slider = *sliders_[stop];
     const QString text = tr("%1: %2 %").arg(slider.accessibleName()).arg(slider.value() / 10);

@@ -14,8 +14,8 @@ namespace velmora {
 
 class AppDelegate;
 
-/// The current instrument's controls: its General MIDI program or the memory that it uses, the
-/// tuning, and a volume slider for each of its stops.
+/// The controls of the current instrument: its General MIDI program or its memory use, the tuning,
+/// and a volume slider for each stop.
 class InstrumentPanel : public QWidget {
     Q_OBJECT
 
@@ -24,19 +24,21 @@ public:
 
 private:
     void showTunings();
+
     /// Fits the panel to the current instrument and shows its volumes.
     void showInstrument();
     void fitWidth(std::size_t stops);
     void makeSliders(std::size_t count);
     void showVolume(std::size_t stop, float volume);
-    void tellVolume(std::size_t stop) const;
+    void showVolumeTip(std::size_t stop) const;
 
     AppDelegate& application_;
     QComboBox* programs_;
     QLabel* usage_;
     QComboBox* tunings_;
     QScrollArea* stops_;
-    /// Slider i is that of stop i. Those that the current instrument has no stop for are hidden.
+
+    /// Slider i controls stop i. Sliders without a stop in the current instrument are hidden.
     std::vector<QSlider*> sliders_;
 };
 

@@ -6,7 +6,8 @@ namespace velmora {
 
 class AppDelegate;
 
-/// The application's list of instruments as a table: a row for each, its name and its size.
+/// The application's list of instruments as a table: one row each, with its name and its size in
+/// memory.
 class InstrumentsModel : public QAbstractTableModel {
 public:
     InstrumentsModel(AppDelegate& application, QObject* parent);

@@ -34,8 +34,8 @@ InstrumentsWindow::InstrumentsWindow(AppDelegate& application, QWidget* parent)
 
     auto* openButton = new QPushButton(icon("open"), tr("&Open…"));
     openButton->setToolTip(tr("Open a SoundFont, a GigaSampler bank or an organ"));
-    unloadButton_->setToolTip(tr("Free the samples of an instrument that does not sound"));
-    reportButton_->setToolTip(tr("What the import brought in and what it left out"));
+    unloadButton_->setToolTip(tr("Free the memory that the samples of this instrument use"));
+    reportButton_->setToolTip(tr("Show what was imported and what was left out"));
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(openButton);
@@ -47,21 +47,21 @@ InstrumentsWindow::InstrumentsWindow(AppDelegate& application, QWidget* parent)
     column->addLayout(buttons);
     resize(420, 260);
 
-    connect(openButton, &QPushButton::clicked, this, &InstrumentsWindow::openWanted);
+    connect(openButton, &QPushButton::clicked, this, &InstrumentsWindow::openRequested);
     connect(unloadButton_, &QPushButton::clicked, this, &InstrumentsWindow::unload);
     connect(reportButton_, &QPushButton::clicked, this, &InstrumentsWindow::showReport);
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& index) {
                 updateButtons();
                 if (index.isValid() && index.row() != currentRow())
-                    emit selectWanted(static_cast<std::size_t>(index.row()));
+                    emit instrumentChosen(static_cast<std::size_t>(index.row()));
             });
     connect(&application_, &AppDelegate::instrumentsChanged, this, &InstrumentsWindow::showCurrent);
     connect(&application_, &AppDelegate::instrumentChanged, this, &InstrumentsWindow::showCurrent);
     updateButtons();
 }
 
-std::size_t InstrumentsWindow::selected() const
+std::size_t InstrumentsWindow::selectedRow() const
 {
     return static_cast<std::size_t>(table_->currentIndex().row());
 }
@@ -85,7 +85,7 @@ void InstrumentsWindow::updateButtons()
 {
     const bool isSelected = table_->currentIndex().isValid();
     const InstrumentDocument* document =
-        isSelected ? application_.instruments().at(selected()).get() : nullptr;
+        isSelected ? application_.instruments().at(selectedRow()).get() : nullptr;
     const bool isFromFile = document != nullptr && document->isFromFile();
     unloadButton_->setEnabled(isFromFile && document->getInstrument() != nullptr);
     reportButton_->setEnabled(isFromFile);
@@ -93,15 +93,15 @@ void InstrumentsWindow::updateButtons()
 
 void InstrumentsWindow::unload()
 {
-    const std::string name = application_.instruments().at(selected())->getName();
-    if (!application_.unloadInstrument(selected()))
-        emit refused(tr("%1 still sounds: it can be unloaded once it is silent")
+    const std::string name = application_.instruments().at(selectedRow())->getName();
+    if (!application_.unloadInstrument(selectedRow()))
+        emit refused(tr("%1 is still sounding. Silence everything, then unload it.")
                          .arg(QString::fromStdString(name)));
 }
 
 void InstrumentsWindow::showReport()
 {
-    showImportReport(*this, *application_.instruments().at(selected()));
+    showImportReport(*this, *application_.instruments().at(selectedRow()));
 }
 
 } // namespace velmora

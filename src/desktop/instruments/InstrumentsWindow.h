@@ -12,7 +12,7 @@ namespace velmora {
 class AppDelegate;
 class InstrumentsModel;
 
-/// The loaded instruments with the memory that they take; the selected one is the current one.
+/// Lists the instruments and their memory use. Selecting one makes it the current instrument.
 class InstrumentsWindow : public QWidget {
     Q_OBJECT
 
@@ -23,21 +23,21 @@ public:
     void showCurrent();
 
 signals:
-    /// Another instrument is to be opened.
-    void openWanted();
+    /// The user wants to open an instrument.
+    void openRequested();
 
-    /// The listed instrument at that position is to be made the current one.
-    void selectWanted(std::size_t position);
+    /// The user wants the instrument at `position` of the list to be the current one.
+    void instrumentChosen(std::size_t position);
 
-    /// Something cannot be done now, for the reason told.
-    void refused(const QString& why);
+    /// The user's wish cannot be granted; `message` says why and what to do.
+    void refused(const QString& message);
 
 private:
     static constexpr int kNone = -1;
 
-    /// The row of the instrument that sounds, `kNone` if it is not listed.
+    /// The row of the current instrument; `kNone` if it is not listed.
     int currentRow() const;
-    std::size_t selected() const;
+    std::size_t selectedRow() const;
     void updateButtons();
     void unload();
     void showReport();

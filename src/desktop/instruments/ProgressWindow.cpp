@@ -15,8 +15,9 @@ namespace {
 
 constexpr int kWidth = 420;
 
-/// Often enough for the eye, and no burden for an import of ten thousands of steps.
-constexpr qint64 kMillisecondsBetweenLooks = 30;
+/// How often events are processed: often enough to look smooth, but not so often that it slows down
+/// an import of tens of thousands of steps.
+constexpr qint64 kEventMilliseconds = 30;
 
 } // namespace
 
@@ -27,7 +28,7 @@ ProgressWindow::ProgressWindow() : bar_(new QProgressBar), label_(new QLabel)
     setMinimumWidth(kWidth);
     bar_->setAccessibleName(tr("Progress"));
     label_->setTextFormat(Qt::PlainText);
-    // A long name does not widen the window.
+    // A long name must not widen the window.
     label_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::rejected, this, &ProgressWindow::reject);
@@ -43,7 +44,7 @@ void ProgressWindow::startProgress(long steps)
     bar_->setRange(0, static_cast<int>(std::min<long>(steps, std::numeric_limits<int>::max())));
     bar_->setValue(0);
     label_->clear();
-    sinceShown_.start();
+    sinceEvents_.start();
     show();
     QCoreApplication::processEvents();
 }
@@ -57,10 +58,10 @@ void ProgressWindow::updateProgress(unsigned steps, const std::string& text)
     label_->setText(QString::fromStdString(text));
     if (done == bar_->maximum())
         endProgress();
-    if (sinceShown_.elapsed() < kMillisecondsBetweenLooks)
+    if (sinceEvents_.elapsed() < kEventMilliseconds)
         return;
     QCoreApplication::processEvents();
-    sinceShown_.start();
+    sinceEvents_.start();
 }
 
 void ProgressWindow::endProgress()
@@ -70,7 +71,7 @@ void ProgressWindow::endProgress()
 
 void ProgressWindow::reject()
 {
-    label_->setText(tr("Giving up …"));
+    label_->setText(tr("Cancelling…"));
     emit cancelled();
 }
 

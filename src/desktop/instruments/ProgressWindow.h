@@ -10,28 +10,28 @@ class QProgressBar;
 
 namespace velmora {
 
-/// Shows how far an import is, and offers to give it up. Modal: until it ends, nothing else can be
-/// done but playing. The import calls it between its steps, and so lets the events be processed.
+/// Shows the progress of an import and lets the user cancel it. It is modal: meanwhile the user can
+/// only play. The import reports its steps to it, and each report processes pending events.
 class ProgressWindow : public QDialog {
     Q_OBJECT
 
 public:
     ProgressWindow();
 
-    /// An import of that many steps begins.
+    /// Opens the window for an import of `steps` steps.
     void startProgress(long steps);
 
-    /// So many more steps are done; 0 changes nothing. The window closes with the last one.
+    /// Advances by `steps` and shows `text`; 0 changes nothing. The last step closes the window.
     void updateProgress(unsigned steps, const std::string& text);
 
-    /// The import is over, with all of its steps or not.
+    /// Closes the window, whether or not all steps were done.
     void endProgress();
 
     QProgressBar* bar() const { return bar_; }
     QLabel* label() const { return label_; }
 
 signals:
-    /// The user has had enough.
+    /// The user wants the import to stop. The window stays open until it has.
     void cancelled();
 
 private:
@@ -39,7 +39,7 @@ private:
 
     QProgressBar* bar_;
     QLabel* label_;
-    QElapsedTimer sinceShown_;
+    QElapsedTimer sinceEvents_; ///< Runs since events were last processed.
 };
 
 } // namespace velmora

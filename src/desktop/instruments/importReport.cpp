@@ -7,6 +7,12 @@
 
 namespace velmora {
 
+QString leftOutText(std::size_t count)
+{
+    return count == 1 ? QObject::tr("1 file or sample was left out")
+                      : QObject::tr("%1 files or samples were left out").arg(count);
+}
+
 void showImportReport(QWidget& parent, const InstrumentDocument& document)
 {
     const ImportReport& report = document.report();
@@ -17,13 +23,12 @@ void showImportReport(QWidget& parent, const InstrumentDocument& document)
                           .arg(report.pipes)
                           .arg(report.samples);
     if (!report.skipped.empty())
-        summary +=
-            "\n" + QObject::tr("%1 files or samples were left out.").arg(report.skipped.size());
+        summary += "\n" + leftOutText(report.skipped.size()) + ".";
     box.setInformativeText(summary);
 
     QString details;
-    for (const auto& [file, why] : report.skipped)
-        details += QString::fromStdString(fmt::format("{}: {}\n", file, why));
+    for (const auto& [file, reason] : report.skipped)
+        details += QString::fromStdString(fmt::format("{}: {}\n", file, reason));
     box.setDetailedText(details);
     box.exec();
 }

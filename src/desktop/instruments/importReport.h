@@ -1,12 +1,20 @@
 #pragma once
 
+#include <QString>
+
+#include <cstddef>
+
 class QWidget;
 
 namespace velmora {
 
 class InstrumentDocument;
 
-/// Shows what an instrument's import brought in and what it left out, and waits to be closed.
+/// A clause such as "2 files or samples were left out", without a full stop.
+QString leftOutText(std::size_t count);
+
+/// Shows what was imported with an instrument and what was left out. Returns when the user closes
+/// the report.
 void showImportReport(QWidget& parent, const InstrumentDocument& document);
 
 } // namespace velmora

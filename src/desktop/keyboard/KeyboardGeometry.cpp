@@ -7,10 +7,10 @@ namespace velmora {
 
 namespace {
 
-/// Black keys end at this part of the height; below, there are only white ones.
+/// Black keys reach down to this fraction of the height.
 constexpr double kBlackEnd = 0.4;
 
-/// From the left end of the white key after a black one to the left end of the black one.
+/// The distance from the left edge of the next white key to the left edge of a black key.
 float blackOffset(int key, float semitone, float white)
 {
     switch (key % 12) {
@@ -68,7 +68,8 @@ std::vector<KeyQuad> KeyboardGeometry::keys(float height) const
 
 int KeyboardGeometry::keyAt(double x, double y, double height) const
 {
-    // In semitones: how far the keyboard's first key lies from where an octave would have it.
+    // Corrections in semitones, by the pitch class of the first key: only an octave that starts at
+    // a C is aligned with the grid of semitones.
     static constexpr std::array kShifts{0.0,    0.625,   -0.375, 0.375,  -0.625, 0.1875,
                                         0.8125, -0.1875, 0.625,  -0.375, 0.1875, -0.8125};
     const double semitone = keyWidth;

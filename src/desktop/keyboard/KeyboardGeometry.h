@@ -4,10 +4,10 @@
 
 namespace velmora {
 
-/// Whether a MIDI key is a black one.
+/// Returns whether a MIDI key is black.
 bool isBlackKey(int key);
 
-/// Where one key of the keyboard is drawn, in pixels from its lower left corner.
+/// The rectangle of one key, in pixels from the lower left corner of the keyboard.
 struct KeyQuad {
     int key;
     bool isBlack;
@@ -16,31 +16,33 @@ struct KeyQuad {
     float bottom;
     float top;
 
-    /// The part of a black key that its frame leaves to a colour.
+    /// The coloured part of a black key, inside its frame.
     KeyQuad inner() const;
 };
 
-/// The keys of an on-screen keyboard: seven white ones are as wide as twelve semitones, so that an
-/// octave is as wide as one of the piano roll. Lengths are in pixels, y grows upwards.
+/// The layout of an on-screen keyboard. Seven white keys are as wide as twelve semitones, so an
+/// octave is as wide as an octave of the piano roll. Lengths are in pixels; y grows upwards.
 struct KeyboardGeometry {
     /// The width of a semitone.
     int keyWidth;
 
-    /// The MIDI keys at both ends, lo < hi.
+    /// The first and the last MIDI key; lo < hi.
     int lo;
     int hi;
 
-    /// One semitone for each key.
+    /// One semitone per key.
     int width() const { return keyWidth * (hi - lo + 1); }
 
-    /// The right end of the last white key, or `width()`: keys are drawn, and played, up to there.
+    /// The right edge of the last white key or `width()`, whichever is greater. Keys are drawn and
+    /// can be played up to here.
     float extent() const;
 
-    /// From lo to hi. Black keys lie over the white ones beside them.
+    /// The keys from lo to hi. Black keys overlap the white keys beside them.
     std::vector<KeyQuad> keys(float height) const;
 
-    /// The key at a point. Above the white keys' free ends a key is as wide as a semitone, which
-    /// matches black keys only nearly; at the very ends that can give a key outside lo to hi.
+    /// The key at a point. In the upper part of the keyboard every key counts as one semitone wide,
+    /// which matches the drawn black keys only roughly. Near the ends, the result can lie outside
+    /// lo to hi.
     int keyAt(double x, double y, double height) const;
 
     bool operator==(const KeyboardGeometry&) const = default;

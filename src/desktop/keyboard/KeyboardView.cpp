@@ -18,12 +18,12 @@ namespace velmora {
 
 namespace {
 
-constexpr int kUsualKeyHeight = 120;
-constexpr int kLeastHeight = 48;
+constexpr int kDefaultHeight = 120;
+constexpr int kMinHeight = 48;
 
-/// Names are left out of keys that are too narrow for letters of this height in pixels.
-constexpr int kLeastLetter = 7;
-constexpr int kGreatestLetter = 13;
+/// The height of the letters in pixels. Keys too narrow for the smallest ones have no names.
+constexpr int kMinLetter = 7;
+constexpr int kMaxLetter = 13;
 
 KeyboardGeometry preferredGeometry()
 {
@@ -62,20 +62,19 @@ KeyboardView::KeyboardView(LiveInput& player, QWidget* parent)
 {
     setAccessibleName(tr("Piano keyboard"));
     setFocusPolicy(Qt::StrongFocus);
-    setMinimumHeight(kLeastHeight);
+    setMinimumHeight(kMinHeight);
 }
 
 void KeyboardView::setDocument(KeyboardDocument* document)
 {
     document_ = document;
-    doDraw();
+    refresh();
 }
 
-KeyboardDocument* KeyboardView::doDraw()
+void KeyboardView::refresh()
 {
     if (painted_ != picture())
         update();
-    return document_;
 }
 
 void KeyboardView::updateWindowSize()
@@ -91,7 +90,7 @@ void KeyboardView::updateWindowSize()
 
 QSize KeyboardView::sizeHint() const
 {
-    return {preferredGeometry().width(), kUsualKeyHeight};
+    return {preferredGeometry().width(), kDefaultHeight};
 }
 
 KeyboardView::Picture KeyboardView::picture() const
@@ -140,8 +139,8 @@ void KeyboardView::drawKeys(const Picture& picture) const
             drawQuad(quad, 0.5F);
             if (state == 0)
                 continue;
-            if (color == nullptr)
-                logger("desktop").warn("wrong {}", state);
+            if (color == nullptr) // no document has such a state: the log helps to find the mistake
+                logger("desktop").debug("wrong {}", state);
         }
         if (color != nullptr)
             glColor3f(color->red, color->green, color->blue);
@@ -159,8 +158,8 @@ void KeyboardView::drawKeys(const Picture& picture) const
 
 void KeyboardView::drawNames(const Picture& picture)
 {
-    const int letter = std::min(picture.geometry.keyWidth * 3 / 4, kGreatestLetter);
-    if (letter < kLeastLetter)
+    const int letter = std::min(picture.geometry.keyWidth * 3 / 4, kMaxLetter);
+    if (letter < kMinLetter)
         return;
     QPainter painter(this);
     QFont font = painter.font();
@@ -225,7 +224,7 @@ void KeyboardView::mouseReleaseEvent(QMouseEvent* event)
 
 void KeyboardView::hideEvent(QHideEvent* event)
 {
-    press(kNoKey); // the release will not come
+    press(kNoKey); // a hidden view receives no mouse release
     QOpenGLWidget::hideEvent(event);
 }
 

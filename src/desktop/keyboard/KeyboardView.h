@@ -13,25 +13,27 @@ namespace velmora {
 class KeyboardDocument;
 class LiveInput;
 
-/// The on-screen keyboard: shows the state of each key in the preference colours and plays a key
-/// while the mouse is held on it. In a window that is wider than its keys it stands in the middle.
+/// The on-screen keyboard. It shows the state of each key in the colours of the preferences, and
+/// plays a key while the left mouse button is held on it. If it is wider than its keys, they are
+/// centred.
 class KeyboardView : public QOpenGLWidget {
     Q_OBJECT
 
 public:
-    /// What the mouse plays goes to `player`, which must outlive the view.
+    /// `player` plays the keys that the mouse presses; it must outlive the view.
     explicit KeyboardView(LiveInput& player, QWidget* parent = nullptr);
 
-    /// The document whose key states are shown and which is told of keys played; null for none. It
-    /// must be taken away before it ends.
+    /// Sets the document whose key states are shown and which is told of keys that the mouse plays;
+    /// null for none. It must be replaced before it is destroyed.
     void setDocument(KeyboardDocument* document);
-    KeyboardDocument* getDocument() const { return document_; }
+    KeyboardDocument* document() const { return document_; }
 
-    /// Draws again soon if that would show anything new. Returns the document.
-    KeyboardDocument* doDraw();
+    /// Repaints soon if that would change the picture.
+    void refresh();
 
-    /// Makes the window as wide as the preferences want it, as far as the screen goes, unless it
-    /// fills its screen or they have not changed since. The view is to be as wide as its window.
+    /// Makes the window as wide as its keys, but no wider than the screen. Does nothing if the
+    /// window is maximised or full-screen, or if the preferences have not changed since the last
+    /// call. The view must be as wide as its window.
     void updateWindowSize();
 
     QSize sizeHint() const override;
@@ -44,7 +46,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    /// All that the picture depends on but the size.
+    /// Everything that the picture depends on, except the size.
     struct Picture {
         KeyboardGeometry geometry;
         Color played;
@@ -52,9 +54,9 @@ private:
         Color sustained;
         Color wrong;
         bool hasNames;
-        std::array<int, 128> states; // as the document answers
+        std::array<int, 128> states; ///< As `KeyboardDocument::stateOfNote` returns them.
 
-        /// The colour of a state, none for a key at rest or a state that is not known.
+        /// The colour of a state; null for a released key and for an unknown state.
         const Color* color(int state) const;
         bool operator==(const Picture&) const = default;
     };
@@ -63,11 +65,11 @@ private:
     void drawKeys(const Picture& picture) const;
     void drawNames(const Picture& picture);
 
-    /// The x at which the keys begin.
+    /// The x coordinate of the first key.
     int origin(const KeyboardGeometry& geometry) const;
     int keyAt(const QPointF& point) const;
 
-    /// Lets go of the key that the mouse holds and presses another one, or `kNoKey`.
+    /// Releases the key that the mouse holds and presses another one, if it is not `kNoKey`.
     void press(int key);
 
     static constexpr int kNoKey = -1;
@@ -76,7 +78,7 @@ private:
     KeyboardDocument* document_ = nullptr;
     int pressedKey_ = kNoKey;
     std::optional<Picture> painted_;
-    std::optional<KeyboardGeometry> fitted_; ///< What the window was last made as wide as.
+    std::optional<KeyboardGeometry> fitted_; ///< The keys that the window was last fitted to.
 };
 
 } // namespace velmora

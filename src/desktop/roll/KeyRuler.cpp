@@ -13,17 +13,17 @@ namespace velmora {
 namespace {
 
 constexpr int kRulerHeight = 30;
-constexpr int kGreatestRulerLetter = 11;
 
-/// Names are left out of keys that are too narrow for letters of this height in pixels.
-constexpr int kLeastRulerLetter = 6;
+/// The height of the letters in pixels. Keys too narrow for the smallest ones have no names.
+constexpr int kMinRulerLetter = 6;
+constexpr int kMaxRulerLetter = 11;
 
 } // namespace
 
 KeyRuler::KeyRuler(QWidget* parent) : QWidget(parent)
 {
     setFixedHeight(kRulerHeight);
-    setAccessibleName(tr("Names of the keys"));
+    setAccessibleName(tr("Key names"));
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -38,10 +38,10 @@ void KeyRuler::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.fillRect(rect(), Qt::black);
     painter.translate(-x_, 0);
-    // From a C on, the keys of an octave lie under its columns.
+    // A keyboard that starts at a C is aligned with the columns.
     const KeyboardGeometry geometry{getPrefInt("KeyWidth"), 0, 127};
     QFont font = painter.font();
-    const int letter = std::min(geometry.keyWidth * 2 / 3, kGreatestRulerLetter);
+    const int letter = std::min(geometry.keyWidth * 2 / 3, kMaxRulerLetter);
     font.setPixelSize(std::max(letter, 1));
     painter.setFont(font);
     painter.setPen(QColor(64, 64, 64));
@@ -51,7 +51,7 @@ void KeyRuler::paintEvent(QPaintEvent* /*event*/)
         const QRectF place(key.left, kRulerHeight - key.top, key.right - key.left,
                            key.top - key.bottom);
         painter.fillRect(place, key.isBlack ? Qt::black : Qt::white);
-        if (key.key % 12 == 0 && letter >= kLeastRulerLetter)
+        if (key.key % 12 == 0 && letter >= kMinRulerLetter)
             painter.drawText(place, Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip,
                              QString::fromStdString(noteName(static_cast<unsigned>(key.key))));
     }

@@ -4,12 +4,13 @@
 
 namespace velmora {
 
-/// A slim keyboard below a piano roll: its octaves and black keys lie under the roll's columns.
+/// A narrow keyboard below the piano roll. Its octaves and black keys are aligned with the columns
+/// of the roll.
 class KeyRuler : public QWidget {
 public:
     explicit KeyRuler(QWidget* parent = nullptr);
 
-    /// Shows the keys from that point of the roll on, in pixels.
+    /// Puts the point `x` of the roll, in pixels, at the left edge.
     void scrollTo(int x);
 
 private:

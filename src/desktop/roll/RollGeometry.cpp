@@ -7,8 +7,11 @@ namespace velmora {
 
 namespace {
 
-/// Half of the narrowest note, and how much of a column the widest leaves free on each side.
-constexpr double kLeastHalfWidth = 2.0;
+/// Half the width of a note of velocity 0.
+constexpr double kMinHalfWidth = 2.0;
+
+/// Taken off half a column before `kMinHalfWidth` is added: the loudest note leaves two pixels of
+/// its column free on each side.
 constexpr double kColumnMargin = 4.0;
 
 } // namespace
@@ -41,14 +44,14 @@ int RollGeometry::endStep() const
 RollQuad RollGeometry::note(const Note& note) const
 {
     const double half =
-        note.velocity * std::max(0.0, keyWidth * 0.5 - kColumnMargin) + kLeastHalfWidth;
+        note.velocity * std::max(0.0, keyWidth * 0.5 - kColumnMargin) + kMinHalfWidth;
     const double centre = xOf(note.key + 0.5);
     return {centre - half, centre + half - 1.0, yOf(note.start), yOf(note.start + note.length)};
 }
 
 RollPoint RollGeometry::pointAt(double mouseX, double mouseY) const
 {
-    // A pixel shows what lies above its lower edge.
+    // A pixel shows what is above its lower edge.
     const double key = std::trunc((mouseX + x) / keyWidth);
     return {std::clamp(key, 0.0, kKeys - 1.0), (height - 1.0 - mouseY + y) / keyHeight};
 }

@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-/// An area of the piano roll in pixels, y growing upwards.
+/// A rectangle in the piano roll, in pixels; y grows upwards.
 struct RollQuad {
     double left;
     double right;
@@ -13,14 +13,14 @@ struct RollQuad {
     double top;
 };
 
-/// The part of the piano roll that a view shows: keys run from left to right, time runs upwards.
-/// Lengths are in pixels. What is drawn is measured from the view's lower left corner.
+/// The visible part of a piano roll. Keys run from left to right, time runs upwards. Lengths are in
+/// pixels; coordinates for drawing start at the lower left corner of the view.
 struct RollGeometry {
     /// The width of a key and the height of a step.
     int keyWidth;
     int keyHeight;
 
-    /// The scroll position: the roll's lower left corner that shows.
+    /// The scroll position: the point of the roll at the lower left corner of the view.
     double x;
     double y;
 
@@ -30,32 +30,34 @@ struct RollGeometry {
 
     static constexpr int kKeys = 128;
 
-    /// Of the whole roll, for a sequence of so many steps.
+    /// The size of the whole roll of a sequence of `steps` steps.
     double rollWidth() const { return static_cast<double>(keyWidth) * kKeys; }
     double rollHeight(double steps) const { return keyHeight * steps; }
 
-    /// The columns that show: from the first to the one before the last.
+    /// The visible columns, from the first to one past the last.
     int firstKey() const;
     int endKey() const;
     RollQuad column(int key) const;
 
-    /// The steps whose grid lines may show: from the first to the one before the last.
+    /// The steps whose grid lines may be visible, from the first to one past the last.
     int firstStep() const;
     int endStep() const;
 
-    /// The edge of a column or a step, in whole pixels where the roll is scrolled by such.
+    /// The left edge of a column and the lower edge of a step. Both are whole pixels if the scroll
+    /// position is.
     double xOf(double key) const { return key * keyWidth - x; }
     double yOf(double step) const { return step * keyHeight - y; }
 
-    /// The time that shows, in steps.
+    /// The visible time, in steps.
     double bottomStep() const { return y / keyHeight; }
     double topStep() const { return (y + height) / keyHeight; }
 
-    /// The louder the wider. The onset lies at the bottom, the end at the top.
+    /// The rectangle of a note, from its onset at the bottom to its end at the top. Louder notes
+    /// are wider.
     RollQuad note(const Note& note) const;
 
-    /// The key, from 0 to 127, and the step that are drawn in the pixel at a mouse position, which
-    /// is counted from the view's upper left corner.
+    /// The key, 0…127, and the step under a mouse position, which is relative to the upper left
+    /// corner of the view.
     RollPoint pointAt(double mouseX, double mouseY) const;
 
     bool operator==(const RollGeometry&) const = default;

@@ -8,16 +8,16 @@
 
 namespace velmora {
 
-/// Finds the notes of a stretch of time without looking at each: for every few notes on end it
-/// knows the time that they span. The order of the notes does not matter; where they are sorted, or
-/// nearly so, it saves the most.
+/// Finds the notes in a range of time without looking at every note: it knows the time span of each
+/// block of consecutive notes. The notes may be in any order; the index is fastest if they are
+/// sorted, or nearly so.
 class RollIndex {
 public:
-    /// Forgets what it knew; for when notes have come, gone, moved or changed their length.
+    /// Indexes the notes. Must be called again after notes are added, removed, moved or resized.
     void rebuild(const std::vector<Note>& notes);
 
-    /// Calls `use` for the notes, in their order, that touch the steps from `from` to `to`. `notes`
-    /// are those of the last `rebuild`.
+    /// Calls `use` for each note that touches the steps from `from` to `to`, in list order. `notes`
+    /// must be the notes of the last `rebuild`.
     template <class Use>
     void visit(const std::vector<Note>& notes, double from, double to, Use use) const
     {

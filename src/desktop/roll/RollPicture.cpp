@@ -15,11 +15,12 @@ namespace {
 constexpr float kEndOpacity = 0.05F;
 constexpr float kIntervalOpacity = 0.5F;
 
-/// Every so many steps there is a darker grid line.
-constexpr int kStepsOfABar = 8;
+/// The distance between the darker grid lines.
+constexpr int kStepsPerBar = 8;
 
-/// Steps of less pixels would be nothing but grid: then only the darker lines are drawn.
-constexpr int kLeastStepOfGrid = 3;
+/// If steps are lower than this many pixels, only the darker grid lines are drawn: all of them
+/// would cover the roll.
+constexpr int kMinGridStep = 3;
 
 using Shade = decltype(RollVertex::color);
 
@@ -48,7 +49,7 @@ Shade columnShade(int key)
     return isBlackKey(key) ? kBlackKey : kWhiteKey;
 }
 
-/// Half-way to white.
+/// The colour half-way to white.
 QColor light(const QColor& color)
 {
     return QColor::fromRgbF((color.redF() + 1) / 2, (color.greenF() + 1) / 2,
@@ -57,8 +58,8 @@ QColor light(const QColor& color)
 
 } // namespace
 
-// The roll is white in every theme, so the selected time is a light tint of the selection's colour:
-// selected notes stand out in it.
+// The roll is white in every theme, so the selected time is a light tint of the selection colour,
+// in which selected notes stand out.
 RollColors::RollColors(const QPalette& palette)
     : note("NoteColor"), playing("NoteColorPlaying"),
       selected(palette.color(QPalette::Active, QPalette::Highlight)),
@@ -104,19 +105,19 @@ void RollPicture::addNotes(const RollGeometry& geometry, const RollColors& color
         });
 }
 
-// Lines are narrow quads: a pixel's width whatever the screen, and on the same pixels everywhere.
+// Lines are narrow quads, so that they cover the same pixels with every driver.
 void RollPicture::addGrid(const RollGeometry& geometry, double line)
 {
     for (int key = geometry.firstKey(); key <= geometry.endKey(); ++key) {
         const double left = geometry.xOf(key);
         add({left, left + line, 0.0, geometry.height}, kColumnLine);
     }
-    const int stride = geometry.keyHeight < kLeastStepOfGrid ? kStepsOfABar : 1;
+    const int stride = geometry.keyHeight < kMinGridStep ? kStepsPerBar : 1;
     for (int step = geometry.firstStep() / stride * stride; step < geometry.endStep();
          step += stride) {
         const double bottom = geometry.yOf(step);
         add({0.0, geometry.width, bottom, bottom + line},
-            step % kStepsOfABar == 0 ? kBarLine : kStepLine);
+            step % kStepsPerBar == 0 ? kBarLine : kStepLine);
     }
 }
 

@@ -15,37 +15,37 @@ namespace velmora {
 
 class SequenceDocument;
 
-/// The colours of the piano roll that can be chosen: in the preferences, or with the theme.
+/// The colours of the piano roll that the preferences and the theme determine.
 struct RollColors {
     Color note;
     Color playing;
     Color selected; ///< Selected notes and the play position.
     Color interval;
 
-    /// The preferences' and a palette's.
+    /// Takes the note colours from the preferences and the others from `palette`.
     explicit RollColors(const QPalette& palette);
 };
 
-/// One corner of a quad, as OpenGL takes it from an array.
+/// One corner of a quad, in the layout of an OpenGL vertex array.
 struct RollVertex {
     float x;
     float y;
     std::array<std::uint8_t, 4> color; ///< Red, green, blue and opacity.
 };
 
-/// The picture of a piano roll: quads, four vertices each, that are drawn one over the other on
-/// white. Only some in the middle are blended by their opacity: drivers without a graphics card
-/// draw the others in a fraction of the time.
+/// The picture of a piano roll: quads of four vertices each, drawn in order on white. Only a range
+/// in the middle is blended, because software renderers draw opaque quads in a fraction of the
+/// time.
 class RollPicture {
 public:
-    /// Draws the visible part of a document anew. `line` is the thickness of a line in pixels;
-    /// `index` is that of the document's notes.
+    /// Replaces the picture with the visible part of a document. `line` is the thickness of a line
+    /// in pixels; `index` must be up to date with the document's notes.
     void draw(const RollGeometry& geometry, const RollColors& colors, double line,
               const SequenceDocument& document, const RollIndex& index);
 
     const std::vector<RollVertex>& vertices() const { return vertices_; }
 
-    /// The vertices that are blended: from the first to the one before the last.
+    /// The vertices to be blended, from the first to one past the last.
     std::size_t blendedBegin() const { return blendedBegin_; }
     std::size_t blendedEnd() const { return blendedEnd_; }
 
@@ -58,7 +58,7 @@ private:
                   const SequenceDocument& document, const RollIndex& index);
     void addGrid(const RollGeometry& geometry, double line);
 
-    std::vector<RollVertex> vertices_; ///< Kept between pictures for its memory.
+    std::vector<RollVertex> vertices_; ///< Reused, so that pictures need no new memory.
     std::size_t blendedBegin_ = 0, blendedEnd_ = 0;
 };
 

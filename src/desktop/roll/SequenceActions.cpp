@@ -38,9 +38,9 @@ QAction* named(QAction* action, const char* picture, QKeySequence::StandardKey s
 SequenceActions::SequenceActions(SequenceDocument& document, SequenceEditor& editor)
     : record(new QAction(icon("record"), {}, this)), play(new QAction(icon("play"), {}, this)),
       loop(checkable("loop", tr("&Loop"), QKeySequence(Qt::CTRL | Qt::Key_L),
-                     tr("Play the selected time, or everything, again and again"), this)),
+                     tr("Repeat the selected time, or the whole sequence"), this)),
       snap(checkable("snap", tr("Snap to &Grid"), QKeySequence(Qt::CTRL | Qt::Key_G),
-                     tr("Put notes and times on whole steps"), this)),
+                     tr("Align notes and times with whole steps"), this)),
       undo(named(document.undoStack().createUndoAction(this, tr("&Undo")), "undo",
                  QKeySequence::Undo)),
       redo(named(document.undoStack().createRedoAction(this, tr("&Redo")), "redo",
@@ -51,7 +51,7 @@ SequenceActions::SequenceActions(SequenceDocument& document, SequenceEditor& edi
       document_(document), editor_(editor),
       delete_(keyAction(tr("&Delete") + "\tDel", Qt::Key_Delete)),
       selectAll_(new QAction(tr("Select &All"), this)),
-      deselect_(keyAction(tr("Select &Nothing") + "\tEsc", Qt::Key_Escape)),
+      deselect_(keyAction(tr("Select &None") + "\tEsc", Qt::Key_Escape)),
       start_(keyAction(tr("Go to &Start") + "\tCtrl+Down", Qt::Key_Down, Qt::ControlModifier)),
       previous_(keyAction(tr("Pre&vious Notes") + "\tDown", Qt::Key_Down)),
       next_(keyAction(tr("&Next Notes") + "\tUp", Qt::Key_Up)),
@@ -145,8 +145,8 @@ void SequenceActions::showMode()
         action.setEnabled(isOwn || document_.mode() == Mode::Stopped);
     };
     show(*record, Mode::Recording, "record", tr("Record"), tr("Return"),
-         tr("Record what is played from the position on"));
-    show(*play, Mode::Playing, "play", tr("Play"), tr("Space"), tr("Play from the position on"));
+         tr("Record what you play, starting at the position"));
+    show(*play, Mode::Playing, "play", tr("Play"), tr("Space"), tr("Play from the position"));
 }
 
 void SequenceActions::showOptions()
@@ -167,7 +167,7 @@ void SequenceActions::showSelection()
 
 void SequenceActions::showClipboard()
 {
-    // Asks the program that has filled it: only when that has changed.
+    // This asks the program that owns the clipboard, so it is only done when the content changes.
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     paste->setEnabled(data != nullptr && data->hasFormat(kNotesMimeType));
 }
@@ -176,7 +176,7 @@ void SequenceActions::copyNotes(const std::vector<Note>& notes)
 {
     if (notes.empty())
         return;
-    auto* data = new QMimeData; // goes to the clipboard
+    auto* data = new QMimeData; // the clipboard takes ownership
     data->setData(kNotesMimeType, encodeNotes(notes));
     QGuiApplication::clipboard()->setMimeData(data);
 }

@@ -15,13 +15,13 @@ class SequenceDocument;
 class SequenceEditor;
 struct Note;
 
-/// What can be done to a sequence from the menus and tools of its window. Keys that the piano roll
-/// takes itself stand in the menus, but are no shortcuts of theirs.
+/// The actions in the menus and the toolbar of a sequence window. The menus also show the keys that
+/// the piano roll handles itself; these are not shortcuts of the actions.
 class SequenceActions : public QObject {
     Q_OBJECT
 
 public:
-    /// Both must outlive it.
+    /// Both must outlive the actions.
     SequenceActions(SequenceDocument& document, SequenceEditor& editor);
     ~SequenceActions() override;
 
@@ -42,7 +42,7 @@ private:
     void copyNotes(const std::vector<Note>& notes);
     void pasteNotes();
 
-    /// An action that does what a key does in the piano roll.
+    /// Creates an action that does what a key does in the piano roll.
     QAction* keyAction(const QString& text, int key, Qt::KeyboardModifiers modifiers = {});
 
     SequenceDocument& document_;

@@ -15,22 +15,22 @@ namespace velmora {
 
 namespace {
 
-/// A notch of the wheel, in eighths of a degree, and how far it scrolls in pixels.
+/// A notch of the wheel in eighths of a degree, and the pixels that it scrolls.
 constexpr int kNotch = 120;
-constexpr int kPixelsOfNotch = 64;
+constexpr int kPixelsPerNotch = 64;
 
-/// A notch changes a scale by an eighth of it, at the least by one pixel.
-constexpr int kZoomPart = 8;
+/// A notch changes the scale by an eighth, but at least by one pixel.
+constexpr int kZoomDivisor = 8;
 
-/// How far a bar goes at the most, in pixels: a sequence may be longer than an int can tell.
-constexpr double kLongest = 1e9;
+/// The maximum of a scroll bar in pixels, because the height of a roll may not fit into an int.
+constexpr double kMaxBarValue = 1e9;
 
 int barValue(double pixels)
 {
-    return static_cast<int>(std::lround(std::clamp(pixels, 0.0, kLongest)));
+    return static_cast<int>(std::lround(std::clamp(pixels, 0.0, kMaxBarValue)));
 }
 
-/// The value of a bar after its scale has changed, such that `anchor` stays.
+/// The value of a scroll bar after a change of scale that keeps `anchor` in place.
 int rescaled(int value, double anchor, int before, int after)
 {
     return barValue((value + anchor) * after / before - anchor);
@@ -61,13 +61,13 @@ SequenceScrollView::SequenceScrollView(QWidget* parent)
         bar->installEventFilter(this);
     }
     view_->installEventFilter(this);
-    connect(view_, &SequenceView::pulled, this, [this](QPoint pixels) {
-        scrollClipView(location() + pixels);
+    connect(view_, &SequenceView::draggedBeyondEdge, this, [this](QPoint pixels) {
+        scrollTo(location() + pixels);
         emit scrolledByUser();
     });
 }
 
-void SequenceScrollView::updateDocumentSizes(double steps)
+void SequenceScrollView::updateSize(double steps)
 {
     steps_ = steps;
     const int keyWidth = getPrefInt("KeyWidth");
@@ -80,7 +80,7 @@ void SequenceScrollView::updateDocumentSizes(double steps)
     keyHeight_ = keyHeight;
     fitBars();
     if (isScaled)
-        scrollClipView(place);
+        scrollTo(place);
     view_->redraw();
     ruler_->update();
 }
@@ -99,11 +99,11 @@ void SequenceScrollView::fitBars()
 
 void SequenceScrollView::follow()
 {
-    view_->scrollToPoint(location());
+    view_->scrollTo(location());
     ruler_->scrollTo(location().x());
 }
 
-void SequenceScrollView::scrollClipView(QPoint point)
+void SequenceScrollView::scrollTo(QPoint point)
 {
     horizontal_->setValue(point.x());
     vertical_->setValue(point.y());
@@ -133,11 +133,11 @@ void SequenceScrollView::zoom(const char* preference, int notches)
 {
     const int value = getPrefInt(preference);
     const PrefRange range = prefRange(preference);
-    const int changed =
-        std::clamp(value + notches * std::max(1, value / kZoomPart), range.least, range.greatest);
-    if (changed == value)
+    const int zoomedValue = std::clamp(value + notches * std::max(1, value / kZoomDivisor),
+                                       range.least, range.greatest);
+    if (zoomedValue == value)
         return;
-    setPrefInt(preference, changed);
+    setPrefInt(preference, zoomedValue);
     emit zoomed();
 }
 
@@ -145,10 +145,10 @@ void SequenceScrollView::wheelEvent(QWheelEvent* event)
 {
     event->accept();
     const bool isZoom = event->modifiers().testFlag(Qt::ControlModifier);
-    wheelTurned_ += event->angleDelta();
+    wheelRemainder_ += event->angleDelta();
     if (isZoom) {
-        const int notches = wheelTurned_.y() / kNotch;
-        wheelTurned_.ry() %= kNotch;
+        const int notches = wheelRemainder_.y() / kNotch;
+        wheelRemainder_.ry() %= kNotch;
         const QPointF place = view_->mapFrom(this, event->position().toPoint());
         anchor_ = QPointF(place.x(), view_->height() - place.y());
         if (event->modifiers().testFlag(Qt::ShiftModifier))
@@ -160,11 +160,11 @@ void SequenceScrollView::wheelEvent(QWheelEvent* event)
     }
     QPoint pixels = event->pixelDelta();
     if (pixels.isNull())
-        pixels = event->angleDelta() * kPixelsOfNotch / kNotch;
-    wheelTurned_ = {};
+        pixels = event->angleDelta() * kPixelsPerNotch / kNotch;
+    wheelRemainder_ = {};
     if (event->modifiers().testFlag(Qt::ShiftModifier))
         pixels = pixels.transposed();
-    scrollClipView({horizontal_->value() - pixels.x(), vertical_->value() + pixels.y()});
+    scrollTo({horizontal_->value() - pixels.x(), vertical_->value() + pixels.y()});
     emit scrolledByUser();
 }
 
@@ -199,7 +199,7 @@ bool SequenceScrollView::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == view_ && event->type() == QEvent::Resize)
         fitBars();
-    // The wheel does over a bar what it does over the roll.
+    // Over a scroll bar the wheel does the same as over the roll.
     if (watched != view_ && event->type() == QEvent::Wheel) {
         event->ignore();
         return true;

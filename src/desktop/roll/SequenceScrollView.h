@@ -11,8 +11,8 @@ namespace velmora {
 class KeyRuler;
 class SequenceView;
 
-/// The piano roll with its scroll bars and the names of its keys. Points of the roll are in pixels
-/// from its lower left corner: step 0 is at the bottom.
+/// The piano roll with its scroll bars and a ruler of key names. Points of the roll are in pixels
+/// from its lower left corner; step 0 is at the bottom.
 class SequenceScrollView : public QWidget {
     Q_OBJECT
 
@@ -21,26 +21,27 @@ public:
 
     SequenceView& view() { return *view_; }
 
-    /// Fits the roll to a sequence of so many steps and to the preferences. Where they scale it
-    /// anew, what is in the middle stays there.
-    void updateDocumentSizes(double steps);
+    /// Fits the roll to a sequence of `steps` steps and to the preferences. If the scale changes,
+    /// the middle of the view stays in place.
+    void updateSize(double steps);
 
-    /// Puts a point of the roll at the lower left corner, as far as the roll goes.
-    void scrollClipView(QPoint point);
+    /// Scrolls until a point is at the lower left corner, within the bounds of the roll.
+    void scrollTo(QPoint point);
     void scrollVertically(double y);
 
     /// The point at the lower left corner.
     QPoint location() const;
 
-    /// Makes steps higher or keys wider, or the contrary, by so many notches of the wheel.
+    /// Makes steps higher or keys wider by some notches of the wheel; negative notches do the
+    /// opposite.
     void zoomSteps(int notches);
     void zoomKeys(int notches);
 
 signals:
-    /// The preferences scale the roll anew: everything that shows keys is to fit itself to them.
+    /// The scale in the preferences has changed: every view that shows keys must follow.
     void zoomed();
 
-    /// Not by the document.
+    /// The user, and not the document, has scrolled the roll.
     void scrolledByUser();
 
 protected:
@@ -59,13 +60,13 @@ private:
     QScrollBar *horizontal_, *vertical_;
     double steps_ = 0.0;
 
-    /// The scale that the location holds for.
+    /// The scale that the location refers to.
     int keyWidth_, keyHeight_;
 
-    /// The point of the view that stays when it is zoomed; its middle if there is none.
+    /// The point of the view that stays in place during a zoom; the middle if there is none.
     std::optional<QPointF> anchor_;
 
-    QPoint wheelTurned_; ///< Of a notch that is not yet complete, in eighths of a degree.
+    QPoint wheelRemainder_; ///< Rotation towards the next notch, in eighths of a degree.
 };
 
 } // namespace velmora

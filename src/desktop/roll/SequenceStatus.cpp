@@ -13,12 +13,12 @@ namespace velmora {
 
 namespace {
 
-QString numberOf(std::size_t notes)
+QString countText(std::size_t notes)
 {
     return notes == 1 ? SequenceStatus::tr("1 note") : SequenceStatus::tr("%1 notes").arg(notes);
 }
 
-QString step(double step)
+QString stepText(double step)
 {
     return QString::number(step, 'f', step == std::trunc(step) ? 0 : 1);
 }
@@ -26,14 +26,14 @@ QString step(double step)
 } // namespace
 
 SequenceStatus::SequenceStatus(const SequenceDocument& document)
-    : document_(document), practice_(new QLabel), selection_(new QLabel), interval_(new QLabel),
+    : document_(document), mode_(new QLabel), selection_(new QLabel), interval_(new QLabel),
       notes_(new QLabel)
 {
-    practice_->setAccessibleName(tr("What is waited for"));
-    practice_->setToolTip(tr("The notes at the position: play them, all at once, to go on"));
-    // A long chord does not widen the window.
-    practice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    addWidget(practice_, 1);
+    mode_->setAccessibleName(tr("Playing, recording or practising"));
+    mode_->setToolTip(tr("To practise, play the notes at the position: the next ones follow"));
+    // A long chord must not widen the window.
+    mode_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    addWidget(mode_, 1);
     for (QLabel* label : {selection_, interval_, notes_})
         addPermanentWidget(label);
     connect(&document_, &SequenceDocument::changed, this, &SequenceStatus::showNotes);
@@ -50,31 +50,32 @@ void SequenceStatus::showNotes()
     const auto& notes = document_.getSequence().notes();
     const auto selected = static_cast<std::size_t>(
         std::count_if(notes.begin(), notes.end(), [](const Note& note) { return note.selected; }));
-    selection_->setText(selected == 0 ? QString() : tr("%1 selected").arg(numberOf(selected)));
-    interval_->setText(document_.intervalSelected() ? tr("Steps %1 to %2")
-                                                          .arg(step(document_.getSelectionStart()),
-                                                               step(document_.getSelectionEnd()))
-                                                    : QString());
-    notes_->setText(tr("%1 in all").arg(numberOf(notes.size())));
+    selection_->setText(selected == 0 ? QString() : tr("%1 selected").arg(countText(selected)));
+    interval_->setText(document_.intervalSelected()
+                           ? tr("Steps %1 to %2")
+                                 .arg(stepText(document_.getSelectionStart()),
+                                      stepText(document_.getSelectionEnd()))
+                           : QString());
+    notes_->setText(tr("%1 in all").arg(countText(notes.size())));
 }
 
 void SequenceStatus::showMode()
 {
     switch (document_.mode()) {
     case SequenceDocument::Mode::Playing:
-        practice_->setText(tr("Playing"));
+        mode_->setText(tr("Playing"));
         break;
     case SequenceDocument::Mode::Recording:
-        practice_->setText(tr("Recording"));
-        showNotes(); // they come with the frames
+        mode_->setText(tr("Recording"));
+        showNotes(); // a recording announces its notes by `frame` alone
         break;
     case SequenceDocument::Mode::Stopped:
-        practice_->setText(practice());
+        mode_->setText(practiceText());
         break;
     }
 }
 
-QString SequenceStatus::practice() const
+QString SequenceStatus::practiceText() const
 {
     QStringList missing, wrong;
     for (unsigned key = 0; key < kKeys; ++key) {
@@ -86,7 +87,7 @@ QString SequenceStatus::practice() const
     }
     QString text = missing.isEmpty() ? QString() : tr("Waiting for %1").arg(missing.join(", "));
     if (!missing.isEmpty() && !wrong.isEmpty())
-        text += tr(", not %1").arg(wrong.join(", "));
+        text += tr("; release %1").arg(wrong.join(", "));
     return text;
 }
 

@@ -8,22 +8,22 @@ namespace velmora {
 
 class SequenceDocument;
 
-/// Tells how things stand in a sequence: what it waits for where it is practised, what is selected,
-/// how many notes there are.
+/// The status bar of a sequence window: whether it plays or records, which keys practice waits for,
+/// what is selected, and the number of notes.
 class SequenceStatus : public QStatusBar {
     Q_OBJECT
 
 public:
-    /// The document must outlive it.
+    /// The document must outlive the status bar.
     explicit SequenceStatus(const SequenceDocument& document);
 
 private:
     void showNotes();
     void showMode();
-    QString practice() const;
+    QString practiceText() const;
 
     const SequenceDocument& document_;
-    QLabel *practice_, *selection_, *interval_, *notes_;
+    QLabel *mode_, *selection_, *interval_, *notes_;
 };
 
 } // namespace velmora

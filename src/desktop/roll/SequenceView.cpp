@@ -16,10 +16,10 @@ namespace velmora {
 
 namespace {
 
-constexpr int kMillisecondsOfPull = 16;
+constexpr int kAutoScrollMilliseconds = 16;
 
-/// A pull is the faster the farther it is from the edge: by that part of the way each time.
-constexpr double kPartOfPull = 0.25;
+/// The fraction of the mouse's distance from the edge that is scrolled each time.
+constexpr double kAutoScrollFraction = 0.25;
 
 } // namespace
 
@@ -28,8 +28,8 @@ SequenceView::SequenceView(QWidget* parent) : QOpenGLWidget(parent)
     setAccessibleName(tr("Piano roll"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    pulling_.setInterval(kMillisecondsOfPull);
-    connect(&pulling_, &QTimer::timeout, this, &SequenceView::pull);
+    autoScrollTimer_.setInterval(kAutoScrollMilliseconds);
+    connect(&autoScrollTimer_, &QTimer::timeout, this, &SequenceView::autoScroll);
 }
 
 void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor* editor)
@@ -39,13 +39,13 @@ void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor*
     document_ = document;
     editor_ = editor;
     button_ = Qt::NoButton;
-    pulling_.stop();
+    autoScrollTimer_.stop();
     if (document_ != nullptr)
         connect(document_, &SequenceDocument::changed, this, &SequenceView::redraw);
     redraw();
 }
 
-void SequenceView::scrollToPoint(QPoint point)
+void SequenceView::scrollTo(QPoint point)
 {
     offset_ = point;
     update();
@@ -64,9 +64,9 @@ void SequenceView::redraw()
     update();
 }
 
-void SequenceView::gather()
+void SequenceView::updateIndex()
 {
-    // While a recording goes on it changes its notes at every tick.
+    // A recording changes its notes at every tick.
     if (!std::exchange(isIndexed_, document_->mode() != SequenceDocument::Mode::Recording))
         index_.rebuild(document_->getSequence().notes());
 }
@@ -81,7 +81,7 @@ void SequenceView::paintGL()
     setPixelCoordinates(*this, 0);
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
 
-    gather();
+    updateIndex();
     const double ratio = devicePixelRatioF();
     const double line = std::max(1.0, std::floor(ratio)) / ratio;
     picture_.draw(rollGeometry(), RollColors(palette()), line, *document_, index_);
@@ -102,25 +102,25 @@ void SequenceView::paintGL()
     glDisableClientState(GL_VERTEX_ARRAY);
 }
 
-RollPoint SequenceView::localPoint(const QPointF& point) const
+RollPoint SequenceView::rollPoint(const QPointF& point) const
 {
     return rollGeometry().pointAt(point.x(), point.y());
 }
 
 RollHit SequenceView::hitAt(const QPointF& point)
 {
-    gather();
-    const RollPoint place = localPoint(point);
+    updateIndex();
+    const RollPoint place = rollPoint(point);
     const int keyHeight = getPrefInt("KeyHeight");
     RollHit hit = RollHit::Nothing;
     index_.visit(document_->getSequence().notes(), place.step, place.step, [&](const Note& note) {
         if (const RollHit here = rollHit(note, place, keyHeight); here != RollHit::Nothing)
-            hit = here; // the last one lies on top
+            hit = here; // the last one is on top
     });
     return hit;
 }
 
-void SequenceView::showCursor(Qt::KeyboardModifiers modifiers)
+void SequenceView::updateCursor(Qt::KeyboardModifiers modifiers)
 {
     if (button_ != Qt::NoButton || document_ == nullptr)
         return;
@@ -146,9 +146,9 @@ void SequenceView::mousePressEvent(QMouseEvent* event)
     if (editor_ == nullptr || button_ != Qt::NoButton)
         return;
     if (event->button() == Qt::LeftButton)
-        editor_->mouseDown(localPoint(event->position()), event->modifiers());
+        editor_->mouseDown(rollPoint(event->position()), event->modifiers());
     else if (event->button() == Qt::RightButton)
-        editor_->rightMouseDown(localPoint(event->position()));
+        editor_->rightMouseDown(rollPoint(event->position()));
     else
         return;
     button_ = event->button();
@@ -158,7 +158,7 @@ void SequenceView::mousePressEvent(QMouseEvent* event)
 void SequenceView::mouseMoveEvent(QMouseEvent* event)
 {
     if (button_ == Qt::NoButton || editor_ == nullptr) {
-        showCursor(event->modifiers());
+        updateCursor(event->modifiers());
         return;
     }
     drag(event->position());
@@ -166,22 +166,22 @@ void SequenceView::mouseMoveEvent(QMouseEvent* event)
 
 void SequenceView::drag(const QPointF& point)
 {
-    dragged_ = point;
+    dragPosition_ = point;
     if (QRectF(rect()).contains(point))
-        pulling_.stop();
-    else if (!pulling_.isActive())
-        pulling_.start();
-    editor_->mouseDragged(localPoint(point));
+        autoScrollTimer_.stop();
+    else if (!autoScrollTimer_.isActive())
+        autoScrollTimer_.start();
+    editor_->mouseDragged(rollPoint(point));
     redraw();
 }
 
-void SequenceView::pull()
+void SequenceView::autoScroll()
 {
-    const double x = dragged_.x() - std::clamp(dragged_.x(), 0.0, width() - 1.0);
-    const double y = dragged_.y() - std::clamp(dragged_.y(), 0.0, height() - 1.0);
-    emit pulled(QPoint(static_cast<int>(std::round(x * kPartOfPull)),
-                       static_cast<int>(std::round(-y * kPartOfPull))));
-    drag(dragged_);
+    const double x = dragPosition_.x() - std::clamp(dragPosition_.x(), 0.0, width() - 1.0);
+    const double y = dragPosition_.y() - std::clamp(dragPosition_.y(), 0.0, height() - 1.0);
+    emit draggedBeyondEdge(QPoint(static_cast<int>(std::round(x * kAutoScrollFraction)),
+                                  static_cast<int>(std::round(-y * kAutoScrollFraction))));
+    drag(dragPosition_);
 }
 
 void SequenceView::mouseReleaseEvent(QMouseEvent* event)
@@ -189,15 +189,15 @@ void SequenceView::mouseReleaseEvent(QMouseEvent* event)
     if (editor_ == nullptr || event->button() != button_)
         return;
     button_ = Qt::NoButton;
-    pulling_.stop();
-    editor_->mouseUp(localPoint(event->position()), event->modifiers());
+    autoScrollTimer_.stop();
+    editor_->mouseUp(rollPoint(event->position()), event->modifiers());
     redraw();
-    showCursor(event->modifiers());
+    updateCursor(event->modifiers());
 }
 
 bool SequenceView::event(QEvent* event)
 {
-    // A shortcut waits for the end of a drag as any other key does.
+    // During a drag, shortcuts arrive as ordinary key presses, which are ignored.
     if (event->type() == QEvent::ShortcutOverride && button_ != Qt::NoButton) {
         event->accept();
         return true;
@@ -215,7 +215,7 @@ void SequenceView::handleKey(const QKeyEvent& event)
     else
         editor_->keyUp(event);
     redraw();
-    showCursor(QGuiApplication::queryKeyboardModifiers());
+    updateCursor(QGuiApplication::queryKeyboardModifiers());
 }
 
 } // namespace velmora

@@ -10,35 +10,34 @@ namespace velmora {
 class SequenceDocument;
 class SequenceEditor;
 
-/// The piano roll of a document: draws the part of it that shows, and hands mouse and keys on to
-/// its editor.
+/// The piano roll: draws the visible part of a document and forwards mouse and keys to its editor.
 class SequenceView : public QOpenGLWidget {
     Q_OBJECT
 
 public:
     explicit SequenceView(QWidget* parent = nullptr);
 
-    /// Shows a document and edits it, both of which must be taken away before they end: with null
-    /// the view is empty.
+    /// Sets the document to show and the editor for it; with null the view is empty. Both must be
+    /// replaced before they are destroyed.
     void setDocument(const SequenceDocument* document, SequenceEditor* editor);
 
-    /// Puts the roll's point at the lower left corner, in pixels.
-    void scrollToPoint(QPoint point);
+    /// Puts a point of the roll, in pixels, at the lower left corner of the view.
+    void scrollTo(QPoint point);
 
-    /// The part that shows, as the preferences scale it.
+    /// The visible part, at the scale of the preferences.
     RollGeometry rollGeometry() const;
 
-    /// Draws again soon.
+    /// Repaints soon; the notes may have changed.
     void redraw();
 
-    /// Hands on a key that was pressed or released, here or in another window. Presses do not count
-    /// while the mouse drags: they would change what it is dragging.
+    /// Forwards a key that was pressed or released here or in another window. Ignores presses
+    /// during a drag, because they could change what is being dragged.
     void handleKey(const QKeyEvent& event);
 
 signals:
-    /// A drag goes on beyond the edge, so many pixels to the right and up: what lies there is to
-    /// be shown.
-    void pulled(QPoint pixels);
+    /// The mouse drags beyond the edge of the view: the roll should scroll by `pixels` to the right
+    /// and up.
+    void draggedBeyondEdge(QPoint pixels);
 
 protected:
     bool event(QEvent* event) override;
@@ -50,25 +49,25 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override { handleKey(*event); }
 
 private:
-    void gather();
-    RollPoint localPoint(const QPointF& point) const;
+    void updateIndex();
+    RollPoint rollPoint(const QPointF& point) const;
     RollHit hitAt(const QPointF& point);
 
-    /// Goes on with the drag under way, and shows more of the roll while it is beyond the edge.
+    /// Continues the current drag, and scrolls the roll while the mouse is beyond the edge.
     void drag(const QPointF& point);
-    void pull();
+    void autoScroll();
 
-    /// Shows what a press would do where the mouse is.
-    void showCursor(Qt::KeyboardModifiers modifiers);
+    /// Shows by the shape of the cursor what a press would do.
+    void updateCursor(Qt::KeyboardModifiers modifiers);
 
     const SequenceDocument* document_ = nullptr;
     SequenceEditor* editor_ = nullptr;
     QPoint offset_;
-    Qt::MouseButton button_ = Qt::NoButton; ///< That of the gesture under way.
-    QPointF dragged_;                       ///< Where its drag is.
-    QTimer pulling_;
+    Qt::MouseButton button_ = Qt::NoButton; ///< The button of the current gesture.
+    QPointF dragPosition_;
+    QTimer autoScrollTimer_;
     RollIndex index_;
-    bool isIndexed_ = false; ///< The index knows the notes as they are.
+    bool isIndexed_ = false; ///< True if the index is up to date.
     RollPicture picture_;
 };
 

@@ -18,10 +18,11 @@ namespace velmora {
 
 namespace {
 
-constexpr int kSlowest = 20;
-constexpr int kFastest = 400;
+constexpr int kMinTempo = 20;
+constexpr int kMaxTempo = 400;
 
-QString shown(double step, double tempo)
+/// The time of a step in minutes, seconds and tenths, such as "1:05.3".
+QString timeText(double step, double tempo)
 {
     const double seconds = std::max(0.0, step / stepsPerSecond(tempo));
     const auto tenths = static_cast<qlonglong>(seconds * 10);
@@ -49,7 +50,7 @@ TransportBar::TransportBar(SequenceDocument& document, SequenceActions& actions)
     addChannel();
     addSeparator();
     position_->setAccessibleName(tr("Position"));
-    position_->setToolTip(tr("The position: minutes and seconds at this tempo, and the step"));
+    position_->setToolTip(tr("The position in minutes and seconds at this tempo, and in steps"));
     position_->setMargin(6);
     addWidget(position_);
 
@@ -76,14 +77,14 @@ void TransportBar::addTempo()
     label->setMargin(4);
     label->setBuddy(tempo_);
     addWidget(label);
-    tempo_->setRange(kSlowest, kFastest);
+    tempo_->setRange(kMinTempo, kMaxTempo);
     tempo_->setKeyboardTracking(false);
     tempo_->setAccessibleName(tr("Tempo"));
-    tempo_->setToolTip(tr("Beats a minute of playing and recording (Alt+M)"));
+    tempo_->setToolTip(tr("The tempo of playing and recording in beats per minute (Alt+M)"));
     connect(tempo_, &QSpinBox::valueChanged, this,
             [this](int tempo) { document_.setTempo(tempo); });
     connect(tempo_, &QSpinBox::editingFinished, this, [this] {
-        if (tempo_->hasFocus()) // else the user has gone on, and is where he wants to be
+        if (tempo_->hasFocus()) // otherwise the user has already moved on
             emit done();
     });
     addWidget(tempo_);
@@ -99,8 +100,8 @@ void TransportBar::addChannel()
         channel_->addItem(QString::number(channel));
     channel_->setAccessibleName(tr("Channel"));
     channel_->setToolTip(
-        tr("The channel of notes that are recorded or drawn. A digit key chooses it "
-           "and selects its notes; with Ctrl it puts the selected ones on it."));
+        tr("The channel of notes that you record or draw. A digit key chooses a channel and "
+           "selects its notes; with Ctrl it moves the selected notes to that channel."));
     connect(channel_, &QComboBox::activated, this, [this](int channel) {
         document_.setChannel(static_cast<unsigned char>(channel));
         emit done();
@@ -112,7 +113,7 @@ void TransportBar::showOptions()
 {
     if (const auto tempo = static_cast<int>(std::lround(document_.tempo()));
         tempo != tempo_->value()) {
-        const QSignalBlocker isShown(tempo_);
+        const QSignalBlocker blocker(tempo_);
         tempo_->setValue(tempo);
     }
     channel_->setCurrentIndex(document_.channel() < kChannels ? document_.channel() : -1);
@@ -122,10 +123,11 @@ void TransportBar::showOptions()
 void TransportBar::showPosition()
 {
     const double offset = document_.getOffset();
-    // While it runs, more could not be read, only painted.
+    // While the position moves, decimals would change too fast to be read.
     const int decimals = document_.mode() == SequenceDocument::Mode::Stopped ? 1 : 0;
-    position_->setText(
-        tr("%1  ·  step %2").arg(shown(offset, document_.tempo())).arg(offset, 0, 'f', decimals));
+    position_->setText(tr("%1  ·  step %2")
+                           .arg(timeText(offset, document_.tempo()))
+                           .arg(offset, 0, 'f', decimals));
 }
 
 } // namespace velmora

@@ -11,17 +11,17 @@ namespace velmora {
 class SequenceActions;
 class SequenceDocument;
 
-/// The tools of a sequence window: recording and playing, tempo, grid, loop, channel, and where the
-/// position is.
+/// The toolbar of a sequence window: recording, playing, loop, grid, tempo, channel and the
+/// position.
 class TransportBar : public QToolBar {
     Q_OBJECT
 
 public:
-    /// Both must outlive it.
+    /// Both must outlive the toolbar.
     TransportBar(SequenceDocument& document, SequenceActions& actions);
 
 signals:
-    /// The user is done with a field: the keys are for the piano roll again.
+    /// The user has finished with a field: the piano roll should get the keyboard focus back.
     void done();
 
 private:

@@ -26,10 +26,15 @@ void setRecentFiles(const QStringList& files)
     setPreference(kRecentKey, files);
 }
 
-/// A text in which no letter is taken for the mnemonic of a menu.
-QString plain(const std::string& text)
+/// Escapes a menu text so that an ampersand is shown and does not mark a mnemonic.
+QString escaped(QString text)
 {
-    return QString::fromStdString(text).replace("&", "&&");
+    return text.replace("&", "&&");
+}
+
+QString escaped(const std::string& text)
+{
+    return escaped(QString::fromStdString(text));
 }
 
 } // namespace
@@ -57,22 +62,22 @@ Commands::Commands(AppDelegate& application)
     quit->setMenuRole(QAction::QuitRole);
     silence->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Period));
     silence->setShortcutContext(Qt::ApplicationShortcut);
-    silence->setToolTip(tr("End every sound at once and let go of every key (Ctrl+.)"));
+    silence->setToolTip(tr("Stop every sound and release every key (Ctrl+.)"));
     keyboardWindow->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
     instrumentPanel->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
-    instrumentPanel->setToolTip(tr("Program, tuning and the volumes of the stops (Ctrl+I)"));
+    instrumentPanel->setToolTip(tr("Show the program, the tuning and the stops (Ctrl+I)"));
     instrumentsWindow->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_I));
     noteNames->setCheckable(true);
 
     help_->addAction(icon("help"), tr("User &Guide"), QKeySequence(Qt::Key_F1), this,
-                     &Commands::guideWanted);
-    help_->addAction(tr("&About Velmora"), this, &Commands::aboutWanted)
+                     &Commands::guideRequested);
+    help_->addAction(tr("&About Velmora"), this, &Commands::aboutRequested)
         ->setMenuRole(QAction::AboutRole);
 
     connect(recent_.get(), &QMenu::aboutToShow, this, &Commands::showRecent);
     connect(instruments_.get(), &QMenu::aboutToShow, this, &Commands::showInstruments);
     connect(tunings_.get(), &QMenu::aboutToShow, this, &Commands::showTunings);
-    showRecent(); // and so whether there are any
+    showRecent(); // disables the menu if there are none
 }
 
 Commands::~Commands() = default;
@@ -121,8 +126,8 @@ void Commands::showRecent()
 {
     recent_->clear();
     for (const QString& path : recentFiles()) {
-        QAction* action = recent_->addAction(QFileInfo(path).fileName().replace("&", "&&"), this,
-                                             [this, path] { emit openRecent(path); });
+        QAction* action = recent_->addAction(escaped(QFileInfo(path).fileName()), this,
+                                             [this, path] { emit recentFileChosen(path); });
         action->setToolTip(path);
         action->setEnabled(QFileInfo::exists(path));
     }
@@ -141,8 +146,8 @@ void Commands::showInstruments()
     std::size_t position = 0;
     for (const auto& document : application_.instruments()) {
         QAction* action =
-            instruments_->addAction(plain(document->getName()), this,
-                                    [this, position] { emit selectInstrument(position); });
+            instruments_->addAction(escaped(document->getName()), this,
+                                    [this, position] { emit instrumentChosen(position); });
         action->setCheckable(true);
         action->setChecked(document->getInstrument() == application_.getInstrument());
         ++position;
@@ -157,7 +162,7 @@ void Commands::showTunings()
 {
     tunings_->clear();
     for (const std::string& name : application_.tuningNames()) {
-        QAction* action = tunings_->addAction(plain(name), this,
+        QAction* action = tunings_->addAction(escaped(name), this,
                                               [this, name] { application_.selectTuning(name); });
         action->setCheckable(true);
         action->setChecked(name == application_.tuningName());

@@ -13,8 +13,7 @@ namespace velmora {
 
 class AppDelegate;
 
-/// What can be done from the menu bar of every window, whichever it is in front: the same actions
-/// and menus in each of them.
+/// The actions and menus that the menu bars of all windows share.
 class Commands : public QObject {
     Q_OBJECT
 
@@ -27,35 +26,38 @@ public:
     QAction* const open;
     QAction* const preferences;
     QAction* const quit;
-    QAction* const silence; ///< Ends every sound at once.
+    QAction* const silence; ///< Stops every sound at once.
     QAction* const keyboardWindow;
     QAction* const instrumentPanel;
     QAction* const instrumentsWindow;
-    QAction* const noteNames; ///< Checked while the keyboard shows them.
+    QAction* const noteNames; ///< Checked while the keyboard shows note names.
 
-    /// New, Open and the recent files, for the beginning of a File menu.
+    /// Adds New, Open and the recent files to the beginning of a File menu.
     void addOpening(QMenu& file) const;
 
-    /// Preferences and Quit, for its end.
+    /// Adds Preferences and Quit to the end of a File menu.
     void addClosing(QMenu& file) const;
 
-    /// The Instrument and Tuning menus.
+    /// Adds the Instrument and Tuning menus.
     void addSound(QMenuBar& bar) const;
 
-    /// The program's own windows, for a View menu.
+    /// Adds the program's own windows to a View menu.
     void addWindows(QMenu& view) const;
 
+    /// Adds the Help menu.
     void addHelp(QMenuBar& bar) const;
 
-    /// Puts a file on top of the recent ones.
+    /// Puts a file at the top of the recent files.
     void addRecent(const QString& path);
 
 signals:
-    void openRecent(const QString& path);
-    /// The listed instrument at that position is to be made the current one.
-    void selectInstrument(std::size_t position);
-    void guideWanted();
-    void aboutWanted();
+    void recentFileChosen(const QString& path);
+
+    /// The user wants the instrument at `position` of the list to be the current one.
+    void instrumentChosen(std::size_t position);
+
+    void guideRequested();
+    void aboutRequested();
 
 private:
     void showRecent();

@@ -1,5 +1,6 @@
 #include "desktop/shell/Desktop.h"
 
+#include "desktop/instruments/importReport.h"
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/SequenceWindow.h"
 #include "desktop/shell/StatusLine.h"
@@ -40,11 +41,11 @@ Desktop::Desktop()
     for (QWidget* window : std::initializer_list<QWidget*>{
              &keyboardWindow_, &instrumentPanel_, &instrumentsWindow_, &preferencesWindow_})
         fileDrop_.watch(*window);
-    progressWindow_.addAction(commands_.silence); // which keeps the keys from all other windows
+    progressWindow_.addAction(commands_.silence); // it is modal and blocks the other windows' keys
     connect(&fileDrop_, &FileDrop::dropped, this, &Desktop::open, Qt::QueuedConnection);
     connect(&application_, &AppDelegate::bankLoaded, this, &Desktop::showBank);
     connect(&application_, &AppDelegate::midiInputReceived, this, [this] {
-        if (KeyboardDocument* document = keyboardWindow_.keyboard().getDocument())
+        if (KeyboardDocument* document = keyboardWindow_.keyboard().document())
             document->midiInput();
     });
     connect(&preferencesWindow_, &PreferencesWindow::changed, this, &Desktop::updateAllViews);
@@ -78,22 +79,23 @@ void Desktop::connectCommands()
     presents(commands_.preferences, preferencesWindow_);
     connect(commands_.open, &QAction::triggered, this, &Desktop::askForFiles);
     connect(commands_.silence, &QAction::triggered, this, [this] {
-        sequenceWindows_.stopPlaying(); // or its next note would sound
+        sequenceWindows_.stopPlaying(); // otherwise the next note would sound
         application_.silenceAll();
     });
-    // Not through the windows' closing: what stands open is to stand open again.
+    // The windows are not closed one by one, so that the open ones are reopened next time.
     connect(commands_.quit, &QAction::triggered, this, [this] {
         if (sequenceWindows_.closeAll())
             QApplication::exit();
     });
-    connect(&commands_, &Commands::openRecent, this, [this](const QString& path) { open({path}); });
-    connect(&commands_, &Commands::selectInstrument, this, &Desktop::selectInstrument);
-    connect(&commands_, &Commands::guideWanted, this, [this] { present(guideWindow_); });
-    connect(&commands_, &Commands::aboutWanted, this, [this] { showAbout(keyboardWindow_); });
-    connect(&instrumentsWindow_, &InstrumentsWindow::openWanted, this, &Desktop::askForFiles);
-    connect(&instrumentsWindow_, &InstrumentsWindow::selectWanted, this,
+    connect(&commands_, &Commands::recentFileChosen, this,
+            [this](const QString& path) { open({path}); });
+    connect(&commands_, &Commands::instrumentChosen, this, &Desktop::selectInstrument);
+    connect(&commands_, &Commands::guideRequested, this, [this] { present(guideWindow_); });
+    connect(&commands_, &Commands::aboutRequested, this, [this] { showAbout(keyboardWindow_); });
+    connect(&instrumentsWindow_, &InstrumentsWindow::openRequested, this, &Desktop::askForFiles);
+    connect(&instrumentsWindow_, &InstrumentsWindow::instrumentChosen, this,
             &Desktop::selectInstrument);
-    connect(&instrumentsWindow_, &InstrumentsWindow::refused, this, &Desktop::complain);
+    connect(&instrumentsWindow_, &InstrumentsWindow::refused, this, &Desktop::showError);
     commands_.noteNames->setChecked(getPrefBool("KeyNames"));
     connect(commands_.noteNames, &QAction::toggled, this, [this](bool on) {
         setPrefBool("KeyNames", on);
@@ -118,7 +120,7 @@ void Desktop::connectSequences()
     connect(&sequenceWindows_, &SequenceWindows::opened, this,
             [this](SequenceWindow& window) { fileDrop_.watch(window); });
     connect(&sequenceWindows_, &SequenceWindows::zoomed, this, &Desktop::updateAllViews);
-    connect(&keyboardWindow_, &KeyboardWindow::keyEvent, &sequenceWindows_,
+    connect(&keyboardWindow_, &KeyboardWindow::keyForwarded, &sequenceWindows_,
             [this](const QKeyEvent* event) { sequenceWindows_.handleKey(*event); });
 }
 
@@ -152,15 +154,16 @@ void Desktop::openFile(const QString& path)
     else if (!sequenceTypeOf(file).empty())
         openSequence(path);
     else
-        complain(tr("%1: is no kind of file that Velmora knows by its name")
-                     .arg(QFileInfo(path).fileName()));
+        showError(tr("%1: unrecognised file type. Velmora knows a file by the end of its name, "
+                     "such as .mid, .scl or .sf2.")
+                      .arg(QFileInfo(path).fileName()));
 }
 
 void Desktop::openTuning(const QString& path, const std::string& type)
 {
     auto tuning = std::make_unique<TuningDocument>();
     if (!tuning->readFromURL(path.toStdString(), type)) {
-        complain(QString::fromStdString(tuning->errorString()));
+        showError(QString::fromStdString(tuning->errorString()));
         return;
     }
     const std::string name = tuning->getName();
@@ -173,7 +176,9 @@ void Desktop::openInstrument(const QString& path, const std::string& type)
 {
     const QString name = QFileInfo(path).fileName();
     if (!application_.canPlaySamples()) {
-        complain(tr("%1: cannot be opened, for OpenAL has no sound output").arg(name));
+        showError(tr("%1: cannot be opened because OpenAL has no sound output. Check the sound "
+                     "card, then start Velmora again.")
+                      .arg(name));
         return;
     }
     auto document = std::make_unique<InstrumentDocument>();
@@ -181,11 +186,11 @@ void Desktop::openInstrument(const QString& path, const std::string& type)
     progressWindow_.endProgress();
     if (!isRead) {
         if (!document->errorString().empty())
-            complain(QString::fromStdString(document->errorString()));
+            showError(QString::fromStdString(document->errorString()));
         return;
     }
     if (document->getInstrument() == nullptr) {
-        complain(tr("%1: holds no instrument that Velmora can play").arg(name));
+        showError(tr("%1: contains no instrument that Velmora can play").arg(name));
         return;
     }
     const std::size_t skipped = document->report().skipped.size();
@@ -193,9 +198,8 @@ void Desktop::openInstrument(const QString& path, const std::string& type)
     commands_.addRecent(path);
     if (skipped > 0)
         keyboardWindow_.status().showMessage(
-            tr("%1: %2 files or samples were left out; Instruments › Import Report says which")
-                .arg(name)
-                .arg(skipped),
+            tr("%1: %2; see Import Report in the Instruments window")
+                .arg(name, leftOutText(skipped)),
             kMessageMilliseconds);
 }
 
@@ -205,20 +209,20 @@ void Desktop::openSequence(const QString& path)
     if (error.empty())
         commands_.addRecent(path);
     else
-        complain(QString::fromStdString(error));
+        showError(QString::fromStdString(error));
 }
 
 void Desktop::selectInstrument(std::size_t position)
 {
-    // One that was unloaded is read again, and lets events through while it is.
+    // An unloaded instrument is read again, and events are processed meanwhile.
     const bool wasOpening = std::exchange(isOpening_, true);
     const bool isSelected = application_.selectInstrument(position);
     progressWindow_.endProgress();
     if (!isSelected) {
         instrumentsWindow_.showCurrent();
-        const std::string& why = application_.instruments().at(position)->errorString();
-        if (!why.empty())
-            complain(QString::fromStdString(why));
+        const std::string& error = application_.instruments().at(position)->errorString();
+        if (!error.empty())
+            showError(QString::fromStdString(error));
     }
     isOpening_ = wasOpening;
     openWaiting();
@@ -228,7 +232,7 @@ void Desktop::askForFiles()
 {
     const QStringList paths = QFileDialog::getOpenFileNames(
         QApplication::activeWindow(), tr("Open"), preference(kFolderKey).toString(),
-        tr("All that Velmora opens (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;All files "
+        tr("All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;All files "
            "(*)")
             .arg(QString(kInstruments) + " " + kTunings + " " + kSequences)
             .arg(kInstruments)
@@ -244,7 +248,7 @@ void Desktop::updateAllViews()
 {
     keyboardWindow_.keyboard().updateWindowSize();
     keyboardWindow_.keyboard().update();
-    sequenceWindows_.updateDocumentSizes();
+    sequenceWindows_.updateRollSizes();
     commands_.noteNames->setChecked(getPrefBool("KeyNames"));
 }
 
@@ -255,19 +259,20 @@ void Desktop::showBank()
     StatusLine& status = keyboardWindow_.status();
     status.removeNotice(bankNotice_);
     if (bank.isEmpty())
-        bankNotice_ = tr("There is no SoundFont for the General MIDI player: it is silent. "
+        bankNotice_ = tr("The General MIDI player is silent because there is no SoundFont for it. "
                          "Choose one in the preferences.");
     else if (!wanted.isEmpty() && wanted != bank)
-        bankNotice_ = tr("%1 cannot be used as the General MIDI bank: %2 is.").arg(wanted, bank);
+        bankNotice_ =
+            tr("%1 cannot be used as the General MIDI bank. %2 is used instead.").arg(wanted, bank);
     else
         bankNotice_.clear();
     if (!bankNotice_.isEmpty())
         status.addNotice(bankNotice_);
 }
 
-void Desktop::complain(const QString& sentence)
+void Desktop::showError(const QString& message)
 {
-    QMessageBox::warning(QApplication::activeWindow(), tr("Velmora"), sentence);
+    QMessageBox::warning(QApplication::activeWindow(), tr("Velmora"), message);
 }
 
 } // namespace velmora

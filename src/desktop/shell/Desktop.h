@@ -18,20 +18,20 @@
 
 namespace velmora {
 
-/// The program on a desktop: the application, its windows, and the files that are opened.
+/// The desktop program: the application with its windows. It opens files by their type.
 class Desktop : public QObject {
     Q_OBJECT
 
 public:
-    /// Makes the windows and shows the keyboard.
+    /// Creates the windows and shows the keyboard.
     Desktop();
     ~Desktop() override;
 
-    /// Starts sound and MIDI. What the machine does not have is noted in the status line.
+    /// Starts sound and MIDI. The status line lists what the machine does not have.
     void launch();
 
-    /// Opens files by their kinds, one after the other. A message says what is wrong with one that
-    /// cannot be opened. No files bring the keyboard to the front.
+    /// Opens files one after the other; a message box explains each failure. Brings the keyboard
+    /// to the front if there are no files.
     void open(const QStringList& paths);
 
     AppDelegate& application() { return application_; }
@@ -54,7 +54,7 @@ private:
     void askForFiles();
     void updateAllViews();
     void showBank();
-    void complain(const QString& sentence);
+    void showError(const QString& message);
 
     AppDelegate application_;
     Commands commands_;
@@ -66,8 +66,8 @@ private:
     ProgressWindow progressWindow_;
     GuideWindow guideWindow_;
     SequenceWindows sequenceWindows_;
-    QString bankNotice_;  ///< What stands in the status line about the General MIDI bank.
-    QStringList waiting_; ///< Files that came while others were being opened.
+    QString bankNotice_;  ///< The notice about the General MIDI bank; empty if it sounds.
+    QStringList waiting_; ///< Files to open after the current one.
     bool isOpening_ = false;
 };
 

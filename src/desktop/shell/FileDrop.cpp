@@ -30,7 +30,7 @@ bool FileDrop::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop)
         return QObject::eventFilter(watched, event);
-    auto& drop = static_cast<QDropEvent&>(*event); // which a drag's entering is, too
+    auto& drop = static_cast<QDropEvent&>(*event); // the base of QDragEnterEvent, too
     const QStringList paths = localFiles(*drop.mimeData());
     if (paths.isEmpty())
         return false;

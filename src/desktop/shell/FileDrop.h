@@ -7,16 +7,16 @@ class QWidget;
 
 namespace velmora {
 
-/// Takes the files that are dropped on windows.
+/// Accepts files that are dropped on windows.
 class FileDrop : public QObject {
     Q_OBJECT
 
 public:
-    /// Watches a window from now on.
+    /// Makes a window accept files.
     void watch(QWidget& window);
 
 signals:
-    /// Local files were dropped together.
+    /// One or more local files were dropped.
     void dropped(const QStringList& paths);
 
 private:

@@ -12,10 +12,11 @@ namespace velmora {
 
 namespace {
 
-constexpr QSize kUsualSize(1000, 820);
+constexpr QSize kDefaultSize(1000, 820);
 constexpr double kTextMargin = 18.0;
 
-/// Gives the headings the names by which the contents refer to them, which Markdown does not have.
+/// Adds the anchors that the links in the table of contents refer to: Qt's Markdown reader creates
+/// none for headings.
 void nameHeadings(QTextDocument& document)
 {
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
@@ -35,14 +36,14 @@ GuideWindow::GuideWindow()
     setWindowTitle(QCoreApplication::translate("GuideWindow", "User Guide"));
     setOpenExternalLinks(true);
     setSearchPaths({":/guide"});
-    // Not as a source, which a link would load again, without the names.
+    // The guide is not set as the source: following a link would load it again, without anchors.
     QFile guide(":/guide/guide.md");
     guide.open(QIODevice::ReadOnly);
     setMarkdown(QString::fromUtf8(guide.readAll()));
-    setSource(QUrl("#")); // to go back to
+    setSource(QUrl("#")); // the start of the history
     nameHeadings(*document());
     document()->setDocumentMargin(kTextMargin);
-    resize(kUsualSize.boundedTo(roomFor(*this)));
+    resize(kDefaultSize.boundedTo(roomFor(*this)));
     closeByKeys(*this);
     rememberPlace(*this, "guide");
 }

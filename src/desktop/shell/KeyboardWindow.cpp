@@ -25,7 +25,7 @@ KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
     setWindowTitle(tr("Velmora"));
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
     setCentralWidget(keyboard_);
-    keyboard_->setFocus(); // keys are for the sequence, not for a button
+    keyboard_->setFocus(); // so that no button takes the keys meant for the sequence
     setStatusBar(status_);
 
     QMenu* file = menuBar()->addMenu(tr("&File"));
@@ -47,7 +47,7 @@ KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
     tools->addSeparator();
     tools->addAction(commands.silence);
 
-    // The height is the user's, the width that of the keys.
+    // The user's height is restored; the width follows from the keys.
     resize(width(), kKeyboardHeight + menuBar()->sizeHint().height() + tools->sizeHint().height() +
                         status_->sizeHint().height());
     rememberPlace(*this, "keyboard");
@@ -56,7 +56,7 @@ KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
 
 void KeyboardWindow::closeEvent(QCloseEvent* event)
 {
-    // The home of the program: without it there is no more to do. Unless the user changes his mind.
+    // Closing this window quits the program, unless the user cancels.
     event->ignore();
     commands_.quit->trigger();
 }
@@ -64,13 +64,13 @@ void KeyboardWindow::closeEvent(QCloseEvent* event)
 void KeyboardWindow::keyPressEvent(QKeyEvent* event)
 {
     event->ignore();
-    emit keyEvent(event);
+    emit keyForwarded(event);
 }
 
 void KeyboardWindow::keyReleaseEvent(QKeyEvent* event)
 {
     event->ignore();
-    emit keyEvent(event);
+    emit keyForwarded(event);
 }
 
 } // namespace velmora

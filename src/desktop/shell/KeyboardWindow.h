@@ -9,7 +9,8 @@ class Commands;
 class KeyboardView;
 class StatusLine;
 
-/// The program's home: the keyboard, with the menus, the tools and the state of things around it.
+/// The main window: the keyboard with the menus, the toolbar and the status line. Closing it quits
+/// the program.
 class KeyboardWindow : public QMainWindow {
     Q_OBJECT
 
@@ -20,8 +21,8 @@ public:
     StatusLine& status() { return *status_; }
 
 signals:
-    /// A key of the computer keyboard that the window itself has no use for.
-    void keyEvent(QKeyEvent* event);
+    /// A key of the computer keyboard that the window does not handle itself.
+    void keyForwarded(QKeyEvent* event);
 
 private:
     void closeEvent(QCloseEvent* event) override;

@@ -27,8 +27,8 @@ namespace {
 constexpr int kNumberWidth = 120;
 constexpr int kPathWidth = 220;
 
-/// What a screen reader says of a widget with that label.
-QString spoken(QString label)
+/// A label without its mnemonic and colon, as an accessible name.
+QString plainText(QString label)
 {
     return label.remove('&').remove(':');
 }
@@ -64,7 +64,7 @@ PreferencesWindow::PreferencesWindow()
 void PreferencesWindow::addPane(const QString& name, const char* iconName, QWidget* pane)
 {
     panes_->addWidget(pane);
-    auto* action = paneActions_->addAction(icon(iconName), spoken(name));
+    auto* action = paneActions_->addAction(icon(iconName), plainText(name));
     action->setCheckable(true);
     action->setChecked(panes_->currentWidget() == pane);
     action->setShortcut(QKeySequence::mnemonic(name));
@@ -78,11 +78,11 @@ QWidget* PreferencesWindow::makeGeneralPane()
     addNumber(*form, tr("Key &width:"), "KeyWidth", makePixelBox(),
               tr("The width of a semitone on the keyboard and in the piano roll"));
     addNumber(*form, tr("&Step height:"), "KeyHeight", makePixelBox(),
-              tr("The height of a step, a line of the grid, in the piano roll"));
+              tr("The height of a step, the distance between grid lines, in the piano roll"));
     addNumber(*form, tr("&Lowest key:"), "KeyRangeLo", new NoteSpinBox,
-              tr("The first key of the keyboard: a name, such as A0, or a MIDI number"));
+              tr("The first key of the keyboard: a note name, such as A0, or a MIDI key number"));
     addNumber(*form, tr("&Highest key:"), "KeyRangeHi", new NoteSpinBox,
-              tr("The last key of the keyboard: a name, such as C8, or a MIDI number"));
+              tr("The last key of the keyboard: a note name, such as C8, or a MIDI key number"));
 
     auto* names = new QCheckBox(tr("Show note &names on the C keys"));
     names->setObjectName("KeyNames");
@@ -103,10 +103,10 @@ void PreferencesWindow::addNumber(QFormLayout& form, const QString& label, const
                                   QSpinBox* box, const QString& help)
 {
     box->setObjectName(key);
-    box->setAccessibleName(spoken(label));
+    box->setAccessibleName(plainText(label));
     box->setToolTip(help);
     box->setMinimumWidth(kNumberWidth);
-    box->setKeyboardTracking(false); // half of a number is none
+    box->setKeyboardTracking(false); // store only complete numbers
     box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     form.addRow(label, box);
     connect(box, &QSpinBox::valueChanged, this, [this, key](int value) {
@@ -118,7 +118,7 @@ void PreferencesWindow::addNumber(QFormLayout& form, const QString& label, const
         const QSignalBlocker blocker(box);
         const PrefRange range = prefRange(key);
         box->setRange(range.least, range.greatest);
-        if (box->value() != getPrefInt(key)) // else it would change what is being typed
+        if (box->value() != getPrefInt(key)) // otherwise it would change what is being typed
             box->setValue(getPrefInt(key));
     });
 }
@@ -133,11 +133,11 @@ QLayout* PreferencesWindow::makeBankRow()
     path->setMinimumWidth(kPathWidth);
     auto* choose = new QPushButton(tr("&Choose…"));
     choose->setObjectName("ChooseBank");
-    choose->setToolTip(tr("Choose the SoundFont that the General MIDI instrument plays"));
+    choose->setToolTip(tr("Choose a SoundFont for the General MIDI player"));
     connect(choose, &QPushButton::clicked, this, &PreferencesWindow::chooseBank);
     auto* standard = new QPushButton(tr("Use &Default"));
     standard->setObjectName("DefaultBank");
-    standard->setToolTip(tr("Play the General MIDI bank of the system again"));
+    standard->setToolTip(tr("Use the General MIDI bank of the system again"));
     connect(standard, &QPushButton::clicked, this, [this] { setBank({}); });
     readers_.emplace_back([path, standard] {
         path->setText(QString::fromStdString(getPrefString("GMBank")));
@@ -179,15 +179,14 @@ void PreferencesWindow::setBank(const QString& path)
 
 QWidget* PreferencesWindow::makeColorsPane()
 {
-    auto* keyboard = new QGroupBox(tr("Keys of the keyboard"));
+    auto* keyboard = new QGroupBox(tr("Keyboard keys"));
     auto* keys = new QFormLayout(keyboard);
     addColor(*keys, tr("&Played:"), "KeyColor",
              tr("Keys that the sequence plays, or waits for in practice"));
-    addColor(*keys, tr("&Right:"), "KeyColorCorrect",
-             tr("Keys that you strike as they are wanted"));
-    addColor(*keys, tr("&Held:"), "KeyColorSustain", tr("Keys that you hold on"));
-    addColor(*keys, tr("&Wrong:"), "KeyColorWrong", tr("Keys that you strike unwanted"));
-    auto* roll = new QGroupBox(tr("Notes of the piano roll"));
+    addColor(*keys, tr("&Right:"), "KeyColorCorrect", tr("Keys that you struck correctly"));
+    addColor(*keys, tr("&Held:"), "KeyColorSustain", tr("Keys that you keep holding"));
+    addColor(*keys, tr("&Wrong:"), "KeyColorWrong", tr("Keys that you struck by mistake"));
+    auto* roll = new QGroupBox(tr("Piano roll notes"));
     auto* notes = new QFormLayout(roll);
     addColor(*notes, tr("&At rest:"), "NoteColor", tr("Notes that are not sounding"));
     addColor(*notes, tr("&Sounding:"), "NoteColorPlaying", tr("Notes at the play position"));
@@ -233,7 +232,7 @@ void PreferencesWindow::read() const
 
 bool PreferencesWindow::event(QEvent* event)
 {
-    // Some can also be changed elsewhere.
+    // Some preferences can also be changed elsewhere.
     if (event->type() == QEvent::Show || event->type() == QEvent::WindowActivate)
         read();
     return QMainWindow::event(event);

@@ -12,7 +12,7 @@ class QStackedWidget;
 
 namespace velmora {
 
-/// Edits the preferences, in the panes "General" and "Colors". Each change is stored at once.
+/// Edits the preferences in the panes "General" and "Colors". Each change is stored immediately.
 class PreferencesWindow : public QMainWindow {
     Q_OBJECT
 
@@ -20,10 +20,10 @@ public:
     PreferencesWindow();
 
 signals:
-    /// What the views show is to be drawn, and measured, afresh.
+    /// A preference has changed that affects the size or the look of the views.
     void changed();
 
-    /// Another bank is to be loaded into the General MIDI synthesizer.
+    /// The user has chosen another General MIDI bank.
     void bankChanged();
 
 protected:
@@ -40,12 +40,12 @@ private:
     void chooseBank();
     void setBank(const QString& path);
 
-    /// Shows what the preferences are.
+    /// Shows the current preferences.
     void read() const;
 
     QActionGroup* paneActions_;
     QStackedWidget* panes_;
-    std::vector<std::function<void()>> readers_; // one for each widget
+    std::vector<std::function<void()>> readers_; ///< Each one updates a widget.
 };
 
 } // namespace velmora

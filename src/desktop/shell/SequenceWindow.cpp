@@ -27,9 +27,7 @@ namespace velmora {
 
 namespace {
 
-constexpr int kUsualWindowHeight = 640;
-
-/// Whether there is the tuning strip.
+constexpr int kDefaultWindowHeight = 640;
 constexpr const char* kStripKey = "tuningStrip";
 
 } // namespace
@@ -49,7 +47,7 @@ SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, con
     connect(&document_, &SequenceDocument::changed, this, &SequenceWindow::showTitle);
     connect(&document_, &SequenceDocument::frame, this, &SequenceWindow::showTitle);
     connect(&document_.undoStack(), &QUndoStack::cleanChanged, this, &SequenceWindow::showTitle);
-    // The release of a key that is held may go elsewhere now.
+    // The release of a held key may now go to another window.
     connect(qApp, &QApplication::focusChanged, this, [this] { editor_.releaseKeys(); });
     showTitle();
     fitToScreen();
@@ -61,7 +59,7 @@ SequenceWindow::~SequenceWindow()
     if (!isSettled_)
         keeper_.leave();
     qApp->disconnect(this);
-    // The widgets go after the document, which has something to say to the end.
+    // The widgets are destroyed after the document and must not receive its last signals.
     scrollView_->view().setDocument(nullptr, nullptr);
     document_.disconnect();
     document_.undoStack().disconnect();
@@ -84,8 +82,8 @@ void SequenceWindow::makeView()
     connect(scrollView_, &SequenceScrollView::scrolledByUser, this,
             [this] { isScrolledAway_ = document_.mode() != SequenceDocument::Mode::Stopped; });
     connect(&document_, &SequenceDocument::scrolled, this, &SequenceWindow::scrollTo);
-    connect(&document_, &SequenceDocument::sizeChanged, this, &SequenceWindow::updateDocumentSizes);
-    // Later than what the document does at the end of playing, which is not to be followed either.
+    connect(&document_, &SequenceDocument::sizeChanged, this, &SequenceWindow::updateRollSize);
+    // Queued, because the last scrolling at the end of playing must not be followed either.
     connect(
         &document_, &SequenceDocument::modeChanged, this, [this] { isScrolledAway_ = false; },
         Qt::QueuedConnection);
@@ -147,13 +145,13 @@ void SequenceWindow::fitToScreen()
     const int keys = getPrefInt("KeyRangeHi") - getPrefInt("KeyRangeLo") + 1;
     const int width = keys * getPrefInt("KeyWidth") +
                       style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    resize(QSize(width, kUsualWindowHeight).boundedTo(roomFor(*this)));
+    resize(QSize(width, kDefaultWindowHeight).boundedTo(roomFor(*this)));
 }
 
 void SequenceWindow::showDocument()
 {
-    document_.midiInput(); // what is wanted at the beginning
-    updateDocumentSizes();
+    document_.midiInput(); // finds the first notes to practise
+    updateRollSize();
     showTitle();
 }
 
@@ -162,9 +160,9 @@ void SequenceWindow::redraw()
     scrollView_->view().update();
 }
 
-void SequenceWindow::updateDocumentSizes()
+void SequenceWindow::updateRollSize()
 {
-    scrollView_->updateDocumentSizes(document_.extent());
+    scrollView_->updateSize(document_.extent());
 }
 
 void SequenceWindow::handleKey(const QKeyEvent& event)
@@ -186,7 +184,7 @@ QString SequenceWindow::displayName() const
 
 void SequenceWindow::showTitle()
 {
-    // A file name may have the placeholder of the mark in it.
+    // The file name itself may contain "[*]", Qt's placeholder for the mark of a modified window.
     setWindowTitle(displayName().replace("[*]", "[*][*]") + "[*]");
     setWindowModified(document_.isModified());
 }
@@ -194,13 +192,13 @@ void SequenceWindow::showTitle()
 void SequenceWindow::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
-    if (std::exchange(isPlaced_, true))
+    if (std::exchange(wasShown_, true))
         return;
-    updateDocumentSizes();
-    scrollView_->scrollClipView({getPrefInt("KeyRangeLo") * getPrefInt("KeyWidth"), 0});
+    updateRollSize();
+    scrollView_->scrollTo({getPrefInt("KeyRangeLo") * getPrefInt("KeyWidth"), 0});
 }
 
-void SequenceWindow::closeAsIs()
+void SequenceWindow::closeWithoutAsking()
 {
     isSettled_ = true;
     close();
@@ -223,9 +221,9 @@ void SequenceWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        emit becameMain();
+        emit activated();
     if (event->type() == QEvent::WindowStateChange && isMinimized())
-        emit resignedMain();
+        emit minimized();
 }
 
 } // namespace velmora

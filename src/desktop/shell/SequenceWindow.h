@@ -20,51 +20,51 @@ class SequenceWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// A new sequence under a name that stands in the title until it is saved. `recovery` is what
-    /// the document is kept in against a crash.
+    /// Creates an empty sequence. The title shows `name` until the sequence is saved; `recovery` is
+    /// the file that protects it against a crash.
     SequenceWindow(AppDelegate& application, Commands& commands, const QString& name,
                    RecoveryFile recovery = RecoveryFile());
 
-    /// Where the user was not asked, what is not saved is left to be recovered.
+    /// Keeps unsaved changes for recovery if the user was not asked what to do with them.
     ~SequenceWindow() override;
 
     SequenceDocument& document() { return document_; }
 
-    /// Shows the document that has just been read or recovered, from its beginning.
+    /// Shows the beginning of a document that has just been read or recovered.
     void showDocument();
 
-    /// Draws the roll again soon.
+    /// Repaints the roll soon.
     void redraw();
 
-    /// Fits the roll to the preferences.
-    void updateDocumentSizes();
+    /// Fits the roll to the sequence and the preferences.
+    void updateRollSize();
 
-    /// Takes a key that was pressed or released while the keyboard was in front.
+    /// Handles a key that was pressed or released while the keyboard window was active.
     void handleKey(const QKeyEvent& event);
 
-    /// There are unsaved changes, or an export that goes on.
+    /// Returns whether there are unsaved changes or an export is running.
     bool isBusyOrModified() const;
 
-    /// Asks what is to become of them. False when the window is to stay.
+    /// Asks the user about unsaved changes and a running export. Returns false if the window must
+    /// stay open.
     bool askToClose();
 
-    /// Closes without asking.
-    void closeAsIs();
+    /// Closes the window without asking.
+    void closeWithoutAsking();
 
-    /// Writes the document to its file, or to one that the user names. False when it was not
-    /// written, as the user has been told.
+    /// Writes the document to its file, or to a file that the user chooses. Returns false if it was
+    /// not written; the user has been told why.
     bool save();
     bool saveAs();
 
 signals:
-    /// It has come to the front, or is no longer to be seen.
-    void becameMain();
-    void resignedMain();
+    void activated();
+    void minimized();
 
-    /// It closes for good: the document is about to end.
+    /// The window is closing, and its document is about to be destroyed.
     void closing();
 
-    /// The preferences scale the roll anew: everything that shows keys is to fit itself to them.
+    /// The scale in the preferences has changed: every view that shows keys must follow.
     void zoomed();
 
 protected:
@@ -81,7 +81,7 @@ private:
     void scrollTo(double step);
     bool write(const QString& path, const std::string& type,
                SequenceDocument::SaveOperation operation);
-    bool askToGiveUpExport();
+    bool askToCancelExport();
     bool askToSave();
     bool askToLoseVoices();
     QString displayName() const;
@@ -96,9 +96,9 @@ private:
     std::unique_ptr<SequenceActions> actions_;
     SequenceScrollView* scrollView_;
     TuningStrip* tuningStrip_;
-    bool isScrolledAway_ = false; ///< By the user, from a position that runs.
-    bool isPlaced_ = false;       ///< It has been shown before.
-    bool isSettled_ = false;      ///< There is nothing more to ask before it closes.
+    bool isScrolledAway_ = false; ///< True if the user has scrolled away from a moving position.
+    bool wasShown_ = false;
+    bool isSettled_ = false; ///< True if the window can close without asking.
 };
 
 } // namespace velmora

@@ -1,4 +1,4 @@
-// How the document of a sequence window comes into a file.
+// The part of SequenceWindow that saves the document and asks before changes are lost.
 
 #include "desktop/shell/Commands.h"
 #include "desktop/shell/SequenceWindow.h"
@@ -19,19 +19,19 @@ bool SequenceWindow::isBusyOrModified() const
 
 bool SequenceWindow::askToClose()
 {
-    return (!isExportingAudio(*this) || askToGiveUpExport()) &&
+    return (!isExportingAudio(*this) || askToCancelExport()) &&
            (!document_.isModified() || askToSave());
 }
 
-bool SequenceWindow::askToGiveUpExport()
+bool SequenceWindow::askToCancelExport()
 {
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
-                    tr("%1 is being exported. Give that up?").arg(displayName()),
+                    tr("%1 is still being exported. Stop the export?").arg(displayName()),
                     QMessageBox::Cancel, this);
-    box.setInformativeText(tr("There will be no sound file if you do."));
-    const QPushButton* giveUp = box.addButton(tr("Give Up"), QMessageBox::DestructiveRole);
+    box.setInformativeText(tr("If you stop it, no sound file is written."));
+    const QPushButton* stop = box.addButton(tr("Stop Export"), QMessageBox::DestructiveRole);
     box.exec();
-    return box.clickedButton() == giveUp;
+    return box.clickedButton() == stop;
 }
 
 bool SequenceWindow::askToSave()
@@ -39,7 +39,7 @@ bool SequenceWindow::askToSave()
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
                     tr("Save the changes to %1?").arg(displayName()),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
-    box.setInformativeText(tr("They are lost if you do not."));
+    box.setInformativeText(tr("If you do not save them, they are lost."));
     box.setDefaultButton(QMessageBox::Save);
     switch (box.exec()) {
     case QMessageBox::Save:
@@ -77,10 +77,10 @@ bool SequenceWindow::saveAs()
 bool SequenceWindow::askToLoseVoices()
 {
     QMessageBox box(QMessageBox::Question, tr("Velmora"),
-                    tr("An iMelody file holds one voice and no dynamics. Save it all the same?"),
+                    tr("An iMelody file holds a single voice and no dynamics. Save it anyway?"),
                     QMessageBox::Save | QMessageBox::Cancel, this);
     box.setInformativeText(
-        tr("Velmora cannot open it again. A MIDI file keeps everything that you see."));
+        tr("Velmora cannot open iMelody files. A MIDI file keeps everything that you see."));
     box.setDefaultButton(QMessageBox::Cancel);
     return box.exec() == QMessageBox::Save;
 }
@@ -92,7 +92,7 @@ bool SequenceWindow::write(const QString& path, const std::string& type,
     showTitle();
     if (isWritten) {
         if (type == kMidiFileType)
-            commands_.addRecent(path); // the other kind cannot be opened
+            commands_.addRecent(path); // Velmora cannot open other types
         return true;
     }
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),

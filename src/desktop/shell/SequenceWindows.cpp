@@ -18,11 +18,11 @@ namespace velmora {
 
 namespace {
 
-/// How far a window that opens beside others lies from the place of the last one.
+/// The offset of a new window from the one opened before it.
 constexpr QPoint kCascade(24, 24);
 
-/// One line for each.
-QString listed(const std::vector<Abandoned>& found)
+/// Describes each sequence on a line of its own.
+QString listOf(const std::vector<Abandoned>& found)
 {
     QStringList lines;
     for (const Abandoned& one : found) {
@@ -55,21 +55,22 @@ SequenceWindows::~SequenceWindows()
     }
 }
 
-SequenceWindow& SequenceWindows::make(const QString& name, RecoveryFile recovery)
+SequenceWindow& SequenceWindows::makeWindow(const QString& name, RecoveryFile recovery)
 {
     auto* window = new SequenceWindow(application_, commands_, name, std::move(recovery));
     if (!windows_.empty())
         window->move(windows_.back()->pos() + kCascade);
     windows_.push_back(window);
-    connect(window, &SequenceWindow::becameMain, this, [this, window] { setMain(window); });
-    connect(window, &SequenceWindow::resignedMain, this, [this, window] {
-        if (main_ == window)
-            setMain(nullptr);
+    connect(window, &SequenceWindow::activated, this, [this, window] { setCurrent(window); });
+    connect(window, &SequenceWindow::minimized, this, [this, window] {
+        if (current_ == window)
+            setCurrent(nullptr);
     });
     connect(window, &SequenceWindow::closing, this, [this, window] { remove(*window); });
     connect(window, &SequenceWindow::zoomed, this, &SequenceWindows::zoomed);
     connect(&window->document(), &SequenceDocument::frame, window, [this, window] {
-        if (keyboard_.doDraw() == &window->document())
+        keyboard_.refresh();
+        if (keyboard_.document() == &window->document())
             window->redraw();
     });
     emit opened(*window);
@@ -85,12 +86,12 @@ void SequenceWindows::show(SequenceWindow& window)
 void SequenceWindows::bringToFront(SequenceWindow& window)
 {
     present(window);
-    setMain(&window); // where the desktop does not let it come to the front, too
+    setCurrent(&window); // even if the desktop does not let the window become active
 }
 
 void SequenceWindows::create()
 {
-    show(make(unusedName()));
+    show(makeWindow(unusedName()));
 }
 
 std::string SequenceWindows::open(const QString& path)
@@ -101,13 +102,13 @@ std::string SequenceWindows::open(const QString& path)
             return {};
         }
     }
-    SequenceWindow& window = make({});
+    SequenceWindow& window = makeWindow({});
     window.document().readFromURL(path.toStdString());
     std::string error = window.document().errorString();
     if (error.empty())
         show(window);
     else
-        window.closeAsIs();
+        window.closeWithoutAsking();
     return error;
 }
 
@@ -117,9 +118,9 @@ void SequenceWindows::offerAbandoned()
     if (found.empty())
         return;
     QMessageBox box(QMessageBox::Question, tr("Velmora"),
-                    tr("Velmora was not closed properly: recover what was not saved?"),
+                    tr("Velmora was not closed properly. Recover the unsaved sequences?"),
                     QMessageBox::NoButton, QApplication::activeWindow());
-    box.setInformativeText(listed(found));
+    box.setInformativeText(listOf(found));
     const QPushButton* recover = box.addButton(tr("Recover"), QMessageBox::AcceptRole);
     const QPushButton* discard = box.addButton(tr("Discard"), QMessageBox::DestructiveRole);
     box.setEscapeButton(box.addButton(tr("Ask Later"), QMessageBox::RejectRole));
@@ -130,7 +131,7 @@ void SequenceWindows::offerAbandoned()
         if (box.clickedButton() != recover)
             continue;
         const QString name = one.sequence.path.empty() ? unusedName() : QString();
-        SequenceWindow& window = make(name, std::move(one.file));
+        SequenceWindow& window = makeWindow(name, std::move(one.file));
         window.document().recover(one.sequence);
         show(window);
     }
@@ -138,7 +139,7 @@ void SequenceWindows::offerAbandoned()
 
 bool SequenceWindows::closeAll()
 {
-    // While the user makes up his mind, others may be opened from without.
+    // Other programs may open files, and thus windows, while a question is open.
     const std::vector<QPointer<SequenceWindow>> asked(windows_.begin(), windows_.end());
     for (const auto& window : asked) {
         if (window == nullptr || !window->isBusyOrModified())
@@ -148,14 +149,14 @@ bool SequenceWindows::closeAll()
             return false;
     }
     while (!windows_.empty())
-        windows_.back()->closeAsIs();
+        windows_.back()->closeWithoutAsking();
     return true;
 }
 
-void SequenceWindows::updateDocumentSizes()
+void SequenceWindows::updateRollSizes()
 {
     for (SequenceWindow* window : windows_)
-        window->updateDocumentSizes();
+        window->updateRollSize();
 }
 
 void SequenceWindows::stopPlaying()
@@ -168,22 +169,22 @@ void SequenceWindows::stopPlaying()
 
 void SequenceWindows::handleKey(const QKeyEvent& event)
 {
-    if (main_ != nullptr)
-        main_->handleKey(event);
+    if (current_ != nullptr)
+        current_->handleKey(event);
 }
 
-void SequenceWindows::setMain(SequenceWindow* window)
+void SequenceWindows::setCurrent(SequenceWindow* window)
 {
-    main_ = window;
+    current_ = window;
     keyboard_.setDocument(window == nullptr ? nullptr : &window->document());
 }
 
 void SequenceWindows::remove(SequenceWindow& window)
 {
-    window.disconnect(this); // it may still come to the front on its way out
+    window.disconnect(this); // it may still become active while it closes
     windows_.erase(std::find(windows_.begin(), windows_.end(), &window));
-    if (main_ == &window)
-        setMain(nullptr);
+    if (current_ == &window)
+        setCurrent(nullptr);
 }
 
 QString SequenceWindows::unusedName()

@@ -16,60 +16,60 @@ class Commands;
 class KeyboardView;
 class SequenceWindow;
 
-/// The sequence windows that are open. The main one is that which was last in front, also while the
-/// keyboard or a panel is: the keyboard shows what it plays and waits for.
+/// The open sequence windows. The current one is the one that was active last, even while the
+/// keyboard or a panel is active: the keyboard shows what it plays and waits for.
 class SequenceWindows : public QObject {
     Q_OBJECT
 
 public:
-    /// All of them must outlive it.
+    /// The arguments must outlive the windows.
     SequenceWindows(AppDelegate& application, Commands& commands, KeyboardView& keyboard);
     ~SequenceWindows() override;
 
     /// Opens a window with an empty sequence.
     void create();
 
-    /// Opens a sequence file, or brings the window to the front that has it. What is wrong with a
-    /// file that cannot be read, in one sentence; empty when nothing is.
+    /// Opens a sequence file, or brings its window to the front if it is already open. Returns a
+    /// sentence that says what is wrong with the file; empty on success.
     std::string open(const QString& path);
 
-    /// Offers what a program that ended without closing has left of its sequences.
+    /// Offers to recover the unsaved sequences of a program that did not end properly.
     void offerAbandoned();
 
-    /// Asks each what is to become of what it would lose, then closes them. False when the user
-    /// wants to stay: all of them do, then.
+    /// Asks for each window what to do with its unsaved changes, then closes all windows. Returns
+    /// false if the user cancels; then all of them stay open.
     bool closeAll();
 
     /// Fits the rolls to the preferences.
-    void updateDocumentSizes();
+    void updateRollSizes();
 
-    /// Ends what plays.
+    /// Stops every sequence that is playing.
     void stopPlaying();
 
-    /// Gives a key that was pressed or released elsewhere to the main window.
+    /// Forwards a key that was pressed or released elsewhere to the current window.
     void handleKey(const QKeyEvent& event);
 
 signals:
-    /// A window was made.
+    /// A window was created.
     void opened(SequenceWindow& window);
 
-    /// The preferences scale the rolls anew: everything that shows keys is to fit itself to them.
+    /// The scale in the preferences has changed: every view that shows keys must follow.
     void zoomed();
 
 private:
-    SequenceWindow& make(const QString& name, RecoveryFile recovery = RecoveryFile());
+    SequenceWindow& makeWindow(const QString& name, RecoveryFile recovery = RecoveryFile());
     void show(SequenceWindow& window);
     void bringToFront(SequenceWindow& window);
-    void setMain(SequenceWindow* window);
+    void setCurrent(SequenceWindow* window);
     void remove(SequenceWindow& window);
     QString unusedName();
 
     AppDelegate& application_;
     Commands& commands_;
     KeyboardView& keyboard_;
-    std::vector<SequenceWindow*> windows_; ///< Each of them owns itself.
-    SequenceWindow* main_ = nullptr;
-    int names_ = 0;
+    std::vector<SequenceWindow*> windows_; ///< Each one deletes itself when it is closed.
+    SequenceWindow* current_ = nullptr;
+    int names_ = 0; ///< How many names `unusedName` has returned.
 };
 
 } // namespace velmora

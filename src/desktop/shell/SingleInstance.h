@@ -5,19 +5,20 @@
 
 namespace velmora {
 
-/// Sees that a session has one running program, to which further starts hand their files over the
-/// session bus: two would sound every key twice. Without a bus each start stands for itself.
+/// Ensures that only one instance runs in a session, because two would sound every key twice. Later
+/// starts hand their files to the first instance over the D-Bus session bus. Without a bus, several
+/// instances can run.
 class SingleInstance : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.velmora.Velmora")
 
 public:
-    /// Hands absolute paths to the program that runs already. False when there is none: this is
-    /// the one from now on.
+    /// Hands absolute paths to the running instance. Returns false if there is none; this process
+    /// then becomes the running instance.
     bool handOver(const QStringList& paths);
 
 public slots:
-    /// What a further start calls over the bus.
+    /// Called over the bus by a later start.
     Q_SCRIPTABLE void open(const QStringList& paths) { emit opened(paths); }
 
 signals:

@@ -12,7 +12,7 @@ namespace velmora {
 
 namespace {
 
-constexpr int kMillisecondsToPeriod = 500;
+constexpr int kOutputMilliseconds = 500;
 constexpr int kPartMargin = 6;
 
 QString describe(const AudioOutput& output)
@@ -35,12 +35,12 @@ StatusLine::StatusLine(AppDelegate& application)
     noticesButton_->setAutoRaise(true);
     noticesButton_->hide();
     connect(noticesButton_, &QToolButton::clicked, this, &StatusLine::showNotices);
-    // A message takes the place of all this for its time; in between it stands at the right.
+    // A temporary message hides these widgets. The empty one pushes the others to the right.
     addWidget(new QWidget, 1);
     addWidget(noticesButton_);
-    instrument_->setToolTip(tr("The instrument that sounds"));
-    tuning_->setToolTip(tr("The temperament in which it sounds"));
-    output_->setToolTip(tr("The sound output: its rate and the time between two of its periods"));
+    instrument_->setToolTip(tr("The current instrument"));
+    tuning_->setToolTip(tr("The current tuning"));
+    output_->setToolTip(tr("The sound output: its driver, sample rate and period"));
     for (QLabel* label : {instrument_, tuning_, output_, inputs_}) {
         label->setTextFormat(Qt::PlainText);
         label->setContentsMargins(kPartMargin, 0, kPartMargin, 0);
@@ -48,7 +48,7 @@ StatusLine::StatusLine(AppDelegate& application)
     }
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::tuningChanged, this, &StatusLine::showSound);
-    connect(&untilPeriodIsKnown_, &QTimer::timeout, this, &StatusLine::showOutput);
+    connect(&outputTimer_, &QTimer::timeout, this, &StatusLine::showOutput);
 }
 
 void StatusLine::showSound()
@@ -67,30 +67,32 @@ void StatusLine::showDevices()
     inputs_->setText(names.isEmpty()     ? tr("No MIDI input")
                      : names.size() == 1 ? names.front()
                                          : tr("%1 MIDI inputs").arg(names.size()));
-    inputs_->setToolTip(names.isEmpty() ? tr("No MIDI device was there at the start")
+    inputs_->setToolTip(names.isEmpty() ? tr("No MIDI device was found when Velmora started")
                                         : names.join("\n"));
 
     if (application_.audioOutput() == nullptr)
-        addNotice(tr("There is no sound output: the General MIDI player is silent."));
+        addNotice(tr("The General MIDI player is silent because there is no sound output. Check "
+                     "the sound card, then start Velmora again."));
     if (!application_.canPlaySamples())
-        addNotice(tr("OpenAL has no sound output: sampled instruments cannot be opened."));
+        addNotice(tr("Sampled instruments cannot be opened because OpenAL has no sound output."));
     if (names.isEmpty())
-        addNotice(tr("No MIDI device was there at the start: connect one and start Velmora again, "
-                     "or play with the mouse."));
+        addNotice(tr("No MIDI device was found. Connect one and start Velmora again, or play with "
+                     "the mouse."));
     if (!application_.keepsDisplayAwake())
-        addNotice(tr("There is no session bus: the display may go to sleep while you play."));
+        addNotice(tr("The display may go to sleep while you play because there is no D-Bus session "
+                     "bus."));
     if (!arePreferencesWritable())
-        addNotice(tr("The preferences cannot be written: they are kept until the end only."));
+        addNotice(tr("Changed preferences are lost when you quit because they cannot be saved."));
 }
 
 void StatusLine::showOutput()
 {
     const AudioOutput* output = application_.audioOutput();
     if (output != nullptr && output->period() == 0) {
-        untilPeriodIsKnown_.start(kMillisecondsToPeriod);
+        outputTimer_.start(kOutputMilliseconds);
         return;
     }
-    untilPeriodIsKnown_.stop();
+    outputTimer_.stop();
     output_->setText(output == nullptr ? tr("No sound output") : describe(*output));
 }
 

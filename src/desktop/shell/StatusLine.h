@@ -10,21 +10,22 @@ namespace velmora {
 
 class AppDelegate;
 
-/// Tells how things stand: the instrument, the tuning, the sound output and the MIDI inputs, and
-/// what the machine does not have.
+/// Shows the instrument, the tuning, the sound output and the MIDI inputs, with notices about what
+/// the machine does not have.
 class StatusLine : public QStatusBar {
     Q_OBJECT
 
 public:
     explicit StatusLine(AppDelegate& application);
 
-    /// Shows which devices there are, once the application has launched.
+    /// Shows the devices. Call it once the application has started.
     void showDevices();
 
-    /// Adds to what is wanting: a sentence that says what cannot be done for it.
+    /// Adds a notice: a sentence that says what is missing, what does not work for that reason, and
+    /// what to do.
     void addNotice(const QString& notice);
 
-    /// It can be done again.
+    /// Removes a notice whose cause is gone.
     void removeNotice(const QString& notice);
 
 private:
@@ -37,7 +38,7 @@ private:
     QLabel *instrument_, *tuning_, *output_, *inputs_;
     QToolButton* noticesButton_;
     QStringList notices_;
-    QTimer untilPeriodIsKnown_;
+    QTimer outputTimer_; ///< Runs until the period of the output is known.
 };
 
 } // namespace velmora

@@ -4,7 +4,7 @@ class QWidget;
 
 namespace velmora {
 
-/// Tells which version this is and what it stands on, and waits to be closed.
+/// Shows the version and the libraries in use. Returns when the user closes the box.
 void showAbout(QWidget& parent);
 
 } // namespace velmora

@@ -27,7 +27,7 @@ bool isOfAny(const std::vector<FileKind>& kinds, const QString& path)
     return std::ranges::any_of(kinds, [&](const FileKind& kind) { return isOf(kind, path); });
 }
 
-/// Gives the name in the dialog the extension of a kind, in place of that of another.
+/// Replaces the extension of another kind in the dialog's file name by that of `kind`.
 void chooseKind(QFileDialog& dialog, const std::vector<FileKind>& kinds, const FileKind& kind)
 {
     dialog.setDefaultSuffix(kind.extensions.front());
@@ -41,7 +41,7 @@ bool mayReplace(QWidget& parent, const QString& path)
 {
     return !QFileInfo::exists(path) ||
            QMessageBox::question(&parent, QObject::tr("Velmora"),
-                                 QObject::tr("%1 is there already. Do you want to replace it?")
+                                 QObject::tr("%1 already exists. Do you want to replace it?")
                                      .arg(QFileInfo(path).fileName())) == QMessageBox::Yes;
 }
 
@@ -77,7 +77,8 @@ QString askWhereToSave(QWidget& parent, const SaveQuestion& question)
     while (dialog.exec() == QDialog::Accepted) {
         QString path = dialog.selectedFiles().front();
         if (!isOfAny(kinds, path)) {
-            // The dialog takes what follows any point for an extension, and asks for that name.
+            // The dialog takes whatever follows a dot for an extension, so it has not asked about
+            // the complete name.
             path += '.' + dialog.defaultSuffix();
             if (!mayReplace(parent, path))
                 continue;

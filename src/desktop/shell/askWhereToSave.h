@@ -9,7 +9,7 @@ class QWidget;
 
 namespace velmora {
 
-/// A kind of file and the extensions of its names, the usual one first, without points.
+/// A type of file and its extensions without dots, the most common one first.
 struct FileKind {
     QString name;
     QStringList extensions;
@@ -18,13 +18,13 @@ struct FileKind {
 struct SaveQuestion {
     QString title;
     std::vector<FileKind> kinds; ///< At least one.
-    QString proposal;            ///< A path; or a name, which may be empty, for the last folder.
-    std::string folderKey;       ///< What the last folder is kept for from run to run.
+    QString proposal;            ///< A path, or a name in the last folder; may be empty.
+    std::string folderKey;       ///< The preference that stores the last folder.
 };
 
-/// Asks the user for a file to be written. Its name ends in an extension of one of the kinds: that
-/// of the kind chosen last, where the user gave it no such one. A file that is there already is one
-/// that may be replaced. Empty when the user does not want to.
+/// Asks the user where to save a file. If the name does not end in an extension of one of the
+/// kinds, the extension of the chosen kind is added. The user has agreed to replace the file if it
+/// already exists. Returns an empty path if the user cancels.
 QString askWhereToSave(QWidget& parent, const SaveQuestion& question);
 
 } // namespace velmora

@@ -17,14 +17,14 @@ namespace velmora {
 
 namespace {
 
-constexpr int kParts = 1000;
-constexpr int kWrittenMilliseconds = 8000;
+constexpr int kProgressSteps = 1000;
+constexpr int kMessageMilliseconds = 8000;
 
-/// One export, and how far it is.
+/// An export with its progress dialog; deletes itself when it is done.
 class ExportProgress : public QProgressDialog {
 public:
     ExportProgress(QMainWindow& window, const QString& path)
-        : QProgressDialog(tr("Loading the instrument"), tr("Cancel"), 0, kParts, &window),
+        : QProgressDialog(tr("Loading the instrument"), tr("Cancel"), 0, kProgressSteps, &window),
           window_(window), path_(path)
     {
         setWindowTitle(tr("Export Audio"));
@@ -50,7 +50,7 @@ private:
         if (wasCanceled())
             return;
         setLabelText(tr("%1: %2").arg(QFileInfo(path_).fileName(), what));
-        setValue(static_cast<int>(done * kParts));
+        setValue(static_cast<int>(done * kProgressSteps));
     }
 
     void finish(bool isWritten, const QString& error)
@@ -59,10 +59,10 @@ private:
         hide();
         const QString name = QFileInfo(path_).fileName();
         if (isWritten)
-            window_.statusBar()->showMessage(tr("%1 is written").arg(name), kWrittenMilliseconds);
+            window_.statusBar()->showMessage(tr("Exported %1").arg(name), kMessageMilliseconds);
         else if (!error.isEmpty())
             QMessageBox::warning(&window_, tr("Velmora"),
-                                 tr("%1 was not written. %2").arg(name, error));
+                                 tr("%1 was not exported. %2").arg(name, error));
     }
 
     QMainWindow& window_;
@@ -83,7 +83,7 @@ void exportAudio(QMainWindow& window, const SequenceDocument& document, AppDeleg
                  .proposal = proposal,
                  .folderKey = "exportFolder"});
     if (!path.isEmpty())
-        (new ExportProgress(window, path))->start(document, application); // goes when it is done
+        (new ExportProgress(window, path))->start(document, application);
 }
 
 bool isExportingAudio(const QMainWindow& window)

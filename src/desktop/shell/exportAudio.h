@@ -7,11 +7,12 @@ namespace velmora {
 class AppDelegate;
 class SequenceDocument;
 
-/// Asks for a sound file and renders a sequence into it as it would sound now, with progress over
-/// its window, whose status bar says when it is done. Everything else goes on meanwhile.
+/// Asks where to save a sound file and renders a sequence as it would sound now. A dialog on
+/// `window` shows the progress, and its status bar says when the file is complete. The rest of the
+/// program can be used meanwhile.
 void exportAudio(QMainWindow& window, const SequenceDocument& document, AppDelegate& application);
 
-/// Whether one of its sequence goes on.
+/// Returns whether an export from this window is running.
 bool isExportingAudio(const QMainWindow& window);
 
 } // namespace velmora

@@ -17,8 +17,8 @@ namespace velmora {
 
 namespace {
 
-/// Leads what Qt has to say to the log. What it cannot go on after ends the program with a sentence
-/// instead of a core dump: mostly that there is no display.
+/// Writes Qt's messages to the log. A fatal one, usually a missing display, ends the program with a
+/// sentence instead of a core dump.
 void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
 {
     const std::string message = text.toStdString();
@@ -26,7 +26,8 @@ void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QSt
     case QtFatalMsg:
         std::fputs(("velmora: " + message + '\n').c_str(), stderr);
         if (QGuiApplication::primaryScreen() == nullptr)
-            std::fputs("velmora: the windows cannot be shown; --help tells what works without\n",
+            std::fputs("velmora: cannot open a window; --help lists the commands that work "
+                       "without a display\n",
                        stderr);
         std::_Exit(1);
     case QtWarningMsg:
@@ -44,7 +45,7 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files)
 {
     QuitOnSignal quitOnSignal;
     qInstallMessageHandler(logMessage);
-    chooseGraphics();
+    requestOpenGL();
     QApplication application(argc, argv);
     QApplication::setApplicationName("velmora");
     QApplication::setApplicationDisplayName("Velmora");
@@ -64,7 +65,7 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files)
     quitOnSignal.watch([] { QApplication::exit(); });
     QObject::connect(&instance, &SingleInstance::opened, &desktop, &Desktop::open,
                      Qt::QueuedConnection);
-    // The window first, then what may take its time.
+    // The window appears first; opening devices and files may take some time.
     QTimer launching;
     launching.setSingleShot(true);
     QObject::connect(&launching, &QTimer::timeout, [&] {

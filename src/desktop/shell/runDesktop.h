@@ -5,8 +5,8 @@
 
 namespace velmora {
 
-/// Runs the program with its windows until the user quits, opening files at the start. Where it
-/// runs already, they are opened there. Returns the exit code.
+/// Opens the files and runs the desktop program until the user quits. If it is already running, the
+/// files are opened there. Returns the exit code.
 int runDesktop(int argc, char** argv, const std::vector<std::string>& files);
 
 } // namespace velmora

@@ -14,10 +14,10 @@ namespace velmora {
 
 namespace {
 
-constexpr int kLooksInSecond = 30;
+constexpr int kReadsPerSecond = 30;
 constexpr int kStripHeight = 40;
 
-/// A departure of so many cents fills the strip.
+/// The deviation at which a bar reaches the edge of the strip.
 constexpr double kFullCents = 50.0;
 
 constexpr float kLineOpacity = 0.3F;
@@ -34,26 +34,25 @@ TuningStrip::TuningStrip(AppDelegate& application, QWidget* parent)
 {
     setFixedHeight(kStripHeight);
     setAccessibleName(tr("Tuning strip"));
-    setToolTip(tr("The cents by which each note of the tuning lies above or below equal "
-                  "temperament"));
-    looking_.setInterval(1000 / kLooksInSecond);
-    connect(&looking_, &QTimer::timeout, this, &TuningStrip::look);
+    setToolTip(tr("How many cents each note of the tuning lies above or below equal temperament"));
+    timer_.setInterval(1000 / kReadsPerSecond);
+    connect(&timer_, &QTimer::timeout, this, &TuningStrip::read);
 }
 
 void TuningStrip::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    look();
-    looking_.start();
+    read();
+    timer_.start();
 }
 
 void TuningStrip::hideEvent(QHideEvent* event)
 {
-    looking_.stop();
+    timer_.stop();
     QWidget::hideEvent(event);
 }
 
-void TuningStrip::look()
+void TuningStrip::read()
 {
     std::array<double, 12> pitches{};
     double base = 0.0;
@@ -92,9 +91,9 @@ void TuningStrip::paintEvent(QPaintEvent* /*event*/)
         painter.setPen(line);
         painter.drawLine(place.topRight(), place.bottomRight());
 
-        // A bar from the middle, up for what is sharp.
-        const double departure = std::clamp(tones_[tone].cents / kFullCents, -1.0, 1.0);
-        const QRectF bar(place.left() + cell / 2 - 3, middle, 6, -departure * (height() / 2.0 - 2));
+        // A bar from the middle; it points up if the note is sharp.
+        const double deviation = std::clamp(tones_[tone].cents / kFullCents, -1.0, 1.0);
+        const QRectF bar(place.left() + cell / 2 - 3, middle, 6, -deviation * (height() / 2.0 - 2));
         painter.fillRect(bar.normalized(), palette().color(QPalette::Highlight));
         painter.drawLine(QPointF(bar.left() - 4, middle), QPointF(bar.right() + 4, middle));
 

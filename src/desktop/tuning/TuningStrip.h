@@ -10,8 +10,8 @@ namespace velmora {
 
 class AppDelegate;
 
-/// Shows by how many cents each pitch class of the current temperament departs from equal
-/// temperament, as it is from moment to moment.
+/// Shows how many cents each pitch class of the current temperament deviates from equal
+/// temperament, and follows it while it changes.
 class TuningStrip : public QWidget {
     Q_OBJECT
 
@@ -19,14 +19,14 @@ public:
     explicit TuningStrip(AppDelegate& application, QWidget* parent = nullptr);
 
     struct Tone {
-        /// That of the pitch where it is one of quarter-comma meantone, or of the key.
+        /// The spelling of the pitch if it occurs in quarter-comma meantone; else the key's name.
         std::string name;
         double cents = 0.0; ///< Above equal temperament.
         bool operator==(const Tone&) const = default;
     };
     using Tones = std::array<Tone, 12>;
 
-    /// By pitch class, as they are shown.
+    /// What is shown, indexed by pitch class.
     const Tones& tones() const { return tones_; }
 
 protected:
@@ -35,11 +35,11 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void look();
+    void read();
 
     AppDelegate& application_;
     Tones tones_;
-    QTimer looking_;
+    QTimer timer_;
 };
 
 } // namespace velmora

@@ -4,12 +4,12 @@
 
 namespace velmora {
 
-/// Shows a colour and lets the user choose another one.
+/// A button that shows a colour and lets the user choose another one.
 class ColorButton : public QPushButton {
     Q_OBJECT
 
 public:
-    /// `name` says what has the colour.
+    /// `name` says what the colour is for: it is the dialog's title and the accessible name.
     explicit ColorButton(const QString& name, QWidget* parent = nullptr);
 
     void setColor(const QColor& color);

@@ -19,7 +19,7 @@ QString shown(int key)
     return QString("%1 (%2)").arg(nameOf(key)).arg(key);
 }
 
-/// The key that a text names; a number may lie beyond all keys.
+/// The key that a text names. A number is returned even if it is outside 0…127.
 std::optional<int> keyOf(const QString& text)
 {
     const QString typed = text.trimmed();

@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-/// Chooses a MIDI key; shows "A0 (21)" and takes a name or a number.
+/// Edits a MIDI key: shows it as "A0 (21)" and accepts a note name or a number.
 class NoteSpinBox : public QSpinBox {
     Q_OBJECT
 

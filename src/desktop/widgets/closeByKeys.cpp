@@ -8,9 +8,9 @@ namespace velmora {
 
 namespace {
 
-/// Closes its parent, a window, by an Esc that the widgets in it have no use for. A shortcut would
-/// come before the open list of a combo box, which Esc is to close alone.
-class EscapeWatch : public QObject {
+/// Closes the watched window on an Esc that no widget in it has handled. A shortcut would take
+/// precedence over the open list of a combo box, and close the window instead of the list.
+class EscapeFilter : public QObject {
 public:
     using QObject::QObject;
 
@@ -27,7 +27,7 @@ public:
 void closeByKeys(QWidget& window)
 {
     new QShortcut(QKeySequence(QKeySequence::Close), &window, [&window] { window.close(); });
-    window.installEventFilter(new EscapeWatch(&window));
+    window.installEventFilter(new EscapeFilter(&window));
 }
 
 } // namespace velmora

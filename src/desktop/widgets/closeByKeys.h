@@ -4,7 +4,7 @@ class QWidget;
 
 namespace velmora {
 
-/// Closes a window by Esc and by the desktop's key for it, from now until the window ends.
+/// Makes Esc and the desktop's standard shortcut close a window.
 void closeByKeys(QWidget& window);
 
 } // namespace velmora

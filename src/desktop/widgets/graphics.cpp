@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-void chooseGraphics()
+void requestOpenGL()
 {
     QSurfaceFormat format;
     format.setRenderableType(QSurfaceFormat::OpenGL);

@@ -4,12 +4,12 @@ class QOpenGLWidget;
 
 namespace velmora {
 
-/// Asks for what the views draw with: OpenGL 2.1 with its fixed functions. To be called before the
-/// QApplication is made.
-void chooseGraphics();
+/// Requests OpenGL 2.1 with the fixed-function pipeline, which the views draw with. Must be called
+/// before the QApplication is created.
+void requestOpenGL();
 
-/// Has what is drawn next measured in the view's pixels, upwards from its lower edge. `left` is the
-/// coordinate of its left edge.
+/// Makes OpenGL coordinates pixels of the view, with y growing upwards from its lower edge. `left`
+/// is the x coordinate of its left edge.
 void setPixelCoordinates(const QOpenGLWidget& view, int left);
 
 } // namespace velmora

@@ -11,21 +11,21 @@ namespace velmora {
 
 namespace {
 
-/// The one colour in which the pictures are drawn.
-constexpr const char* kDrawn = "#3b3b3b";
+/// The only colour in the SVG files.
+constexpr const char* kFileColor = "#3b3b3b";
 
-/// Draws a picture anew wherever it is shown, and so sharp, and in the colours of the moment.
-class PictureEngine : public QIconEngine {
+/// Renders an SVG file each time it is shown, so that it is sharp and follows the palette.
+class SvgIconEngine : public QIconEngine {
 public:
-    explicit PictureEngine(QByteArray picture) : picture_(std::move(picture)) {}
+    explicit SvgIconEngine(QByteArray svg) : svg_(std::move(svg)) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const auto role =
             mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
-        const QColor colour = QGuiApplication::palette().color(group, role);
-        QSvgRenderer(QByteArray(picture_).replace(kDrawn, colour.name().toLatin1()))
+        const QColor color = QGuiApplication::palette().color(group, role);
+        QSvgRenderer(QByteArray(svg_).replace(kFileColor, color.name().toLatin1()))
             .render(painter, rect);
     }
 
@@ -38,10 +38,10 @@ public:
         return result;
     }
 
-    QIconEngine* clone() const override { return new PictureEngine(picture_); }
+    QIconEngine* clone() const override { return new SvgIconEngine(svg_); }
 
 private:
-    QByteArray picture_;
+    QByteArray svg_;
 };
 
 } // namespace
@@ -49,9 +49,9 @@ private:
 QIcon icon(const char* name)
 {
     QFile file(QString(":/icons/%1.svg").arg(name));
-    const bool isThere = file.open(QIODevice::ReadOnly);
-    Q_ASSERT_X(isThere, "icon", name);
-    return isThere ? QIcon(new PictureEngine(file.readAll())) : QIcon();
+    const bool isOpen = file.open(QIODevice::ReadOnly);
+    Q_ASSERT_X(isOpen, "icon", name);
+    return isOpen ? QIcon(new SvgIconEngine(file.readAll())) : QIcon();
 }
 
 } // namespace velmora

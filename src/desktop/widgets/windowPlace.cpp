@@ -30,7 +30,7 @@ public:
 private:
     void save()
     {
-        // A window that was never shown has no place yet.
+        // A window that has never been shown has no position yet.
         if (window_.testAttribute(Qt::WA_WState_Created))
             setPreference(key_, window_.saveGeometry());
     }
@@ -50,7 +50,7 @@ void rememberPlace(QWidget& window, const std::string& name)
 {
     const std::string key = "windows/" + name;
     window.restoreGeometry(preference(key).toByteArray());
-    new PlaceKeeper(window, key); // goes with the window
+    new PlaceKeeper(window, key); // owned by the window
 }
 
 void reopen(QWidget& window, const std::string& name)

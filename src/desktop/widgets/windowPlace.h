@@ -8,18 +8,18 @@ class QWidget;
 
 namespace velmora {
 
-/// How large a window may be when it is first opened, so that it leaves something of its screen.
+/// The largest size for a window that opens for the first time: most of its screen, but not all.
 QSize roomFor(const QWidget& window);
 
-/// Puts a window where it was when the program last ran, and remembers under the name where it is
-/// when it is hidden or the program ends. To be called once, before the window is shown.
+/// Restores the size and position that a window had when the program last ran. Stores them under
+/// `name` when the window is hidden or the program ends. Call it once, before the window is shown.
 void rememberPlace(QWidget& window, const std::string& name);
 
-/// Shows a window if it stood open when the program last ended, and remembers under the name
-/// whether it does when the program ends.
+/// Shows a window if it was open when the program last ended. Stores under `name` whether it is
+/// open when the program ends.
 void reopen(QWidget& window, const std::string& name);
 
-/// Brings a window to the front, from wherever it is.
+/// Shows a window, restores it if it is minimised, and brings it to the front.
 void present(QWidget& window);
 
 } // namespace velmora

@@ -36,8 +36,8 @@ public:
     std::array<int, 128> states{};
 };
 
-/// A keyboard of the usual 1232 by 120 pixels in a window of its own: A0 at 1 to 23, Bb0 at 20 to
-/// 34, B0 at 25 to 47, C1 at 49 to 71; black keys end 72 pixels from the top.
+/// A keyboard of the default 1232 × 120 pixels in its own window: A0 spans x = 1 to 23, Bb0 20 to
+/// 34, B0 25 to 47, C1 49 to 71. Black keys end 72 pixels from the top.
 class KeyboardViewTest : public testing::Test {
 protected:
     KeyboardViewTest()
@@ -85,13 +85,13 @@ constexpr QRgb kRed = 0xff0000;
 
 } // namespace
 
-TEST(KeyboardGeometry, FindsTheKeyThatIsDrawnThere)
+TEST(KeyboardGeometry, FindsTheKeyDrawnAtAPoint)
 {
     for (int lo = 0; lo < 24; ++lo) {
         const KeyboardGeometry geometry{14, lo, lo + 40};
         EXPECT_EQ(geometry.width(), 14 * 41);
         for (const KeyQuad& quad : geometry.keys(100)) {
-            // The grid of the upper half and that of the white keys lie up to a semitone apart.
+            // The grids of the upper and the lower part lie up to a semitone apart.
             const double middle = (quad.left + quad.right) / 2;
             EXPECT_EQ(geometry.keyAt(middle, quad.isBlack ? 70 : 20, 100), quad.key)
                 << "from key " << lo;
@@ -104,8 +104,11 @@ TEST_F(KeyboardViewTest, ColorsKeysByTheirState)
     std::ostringstream log;
     const auto sink = std::make_shared<spdlog::sinks::ostream_sink_st>(log);
     sink->set_pattern("%v");
-    logger("desktop"); // so that spdlog has it
-    spdlog::get("desktop")->sinks().push_back(sink);
+    logger("desktop"); // registers it with spdlog
+    const auto desktopLog = spdlog::get("desktop");
+    const auto level = desktopLog->level();
+    desktopLog->sinks().push_back(sink);
+    desktopLog->set_level(spdlog::level::debug);
     const struct {
         int state;
         QRgb white;
@@ -120,17 +123,18 @@ TEST_F(KeyboardViewTest, ColorsKeysByTheirState)
         const QImage image = view->grabFramebuffer();
         EXPECT_EQ(log.str(), row.black == kBlue ? fmt::format("wrong {}\n", row.state) : "");
         const auto at = [&image](int x, int y) { return image.pixel(x, y) & RGB_MASK; };
-        EXPECT_EQ(at(22, 3), row.black) << row.state << ": black lies over white";
+        EXPECT_EQ(at(22, 3), row.black) << row.state << ": the black key is on top";
         EXPECT_EQ(at(22, 72), row.white) << row.state << ": below the black key";
         EXPECT_THAT((std::array{at(21, 3), at(27, 71), at(33, 3)}), Each(kBlack))
-            << row.state << ": a black key keeps its frame";
+            << row.state << ": the black key keeps its frame";
         EXPECT_THAT((std::array{at(0, 119), at(23, 119), at(24, 119)}), Each(kBlack))
             << row.state << ": between white keys";
     }
-    spdlog::get("desktop")->sinks().pop_back();
+    desktopLog->sinks().pop_back();
+    desktopLog->set_level(level);
 }
 
-TEST_F(KeyboardViewTest, GlidesOverTheKeysWithTheLeftButton)
+TEST_F(KeyboardViewTest, GlidesAcrossKeysWithTheLeftButton)
 {
     QTest::mousePress(view, Qt::RightButton, {}, {12, 100});
     EXPECT_THAT(player.calls, IsEmpty());
@@ -151,9 +155,9 @@ TEST_F(KeyboardViewTest, GlidesOverTheKeysWithTheLeftButton)
                                           "off 21", "input"));
 }
 
-TEST_F(KeyboardViewTest, StandsInTheMiddleOfAWiderWindow)
+TEST_F(KeyboardViewTest, CentresItsKeysInAWiderWindow)
 {
-    window.resize(1448, 120); // the white keys, up to C8's right end, need 1248
+    window.resize(1448, 120); // the white keys up to C8 are 1248 pixels wide
     EXPECT_TRUE(QTest::qWaitFor([&] { return view->width() == 1448; }));
     EXPECT_EQ(colorAt(99, 100), kBlack);
     EXPECT_EQ(colorAt(102, 100), kWhiteKey);
@@ -164,12 +168,12 @@ TEST_F(KeyboardViewTest, StandsInTheMiddleOfAWiderWindow)
     EXPECT_THAT(player.calls, ElementsAre("on 108", "input", "off 108", "input"));
 }
 
-TEST_F(KeyboardViewTest, PaintsWhenSomethingNewIsToBeSeen)
+TEST_F(KeyboardViewTest, PaintsOnlyIfThePictureChanges)
 {
     QSignalSpy paints(view, &QOpenGLWidget::aboutToCompose);
     const auto isPainted = [&] {
         paints.clear();
-        EXPECT_EQ(view->doDraw(), &player);
+        view->refresh();
         QTest::qWait(20);
         return !paints.isEmpty();
     };

@@ -21,7 +21,8 @@ constexpr QRgb kWhite = 0xffffff;
 constexpr QRgb kBlackColumn = 0xb3b3b3;
 constexpr QRgb kMiddleCColumn = 0xffffb3;
 
-/// A roll that shows the keys from 54 on, 14 pixels each, and the steps from 0 on, 8 pixels each.
+/// A roll that shows the keys from 54, each 14 pixels wide, and the steps from 0, each 8 pixels
+/// high.
 class SequenceViewTest : public SequenceTest {
 protected:
     SequenceViewTest()
@@ -33,8 +34,8 @@ protected:
         scrollView.resize(400, 400);
         scrollView.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&scrollView));
-        scrollView.updateDocumentSizes(1000);
-        scrollView.scrollClipView({54 * 14, 0});
+        scrollView.updateSize(1000);
+        scrollView.scrollTo({54 * 14, 0});
     }
 
     ~SequenceViewTest() override
@@ -56,7 +57,8 @@ protected:
     QImage drawn() { return view.grabFramebuffer(); }
     QRgb at(int x, int yUp) { return drawn().pixel(x, view.height() - 1 - yUp) & RGB_MASK; }
 
-    /// The pixels of a row from one x to another that are not of a colour, as "first-last".
+    /// The first and the last pixel of a row, between two x, that differ from a colour;
+    /// "first-last".
     std::string extent(int yUp, int from, int to, QRgb background)
     {
         const QImage image = drawn();
@@ -82,11 +84,11 @@ protected:
         QMouseEvent move(QEvent::MouseMove, to, view.mapToGlobal(to), Qt::NoButton, button,
                          modifiers);
         QApplication::sendEvent(&view, &move);
-        QTest::keyClick(&view, Qt::Key_Escape); // does not take away what is dragged
+        QTest::keyClick(&view, Qt::Key_Escape); // must not deselect what is dragged
         QTest::mouseRelease(&view, button, modifiers, to);
     }
 
-    /// "KEY@START+LENGTH", with a star where it is selected.
+    /// "KEY@START+LENGTH" for each note, with a star if it is selected.
     std::vector<std::string> notes() const
     {
         std::vector<std::string> shown;
@@ -109,7 +111,7 @@ bool isNear(QRgb color, QRgb other)
 
 } // namespace
 
-TEST(RollGeometry, FindsTheStepAndTheKeyThatAPixelShows)
+TEST(RollGeometry, FindsTheStepAndKeyAtAPixel)
 {
     const RollGeometry geometry{14, 8, 300, 8'000'000, 400, 300};
     for (int pixel = 0; pixel < 300; ++pixel) {
@@ -131,7 +133,7 @@ TEST(RollGeometry, FindsTheStepAndTheKeyThatAPixelShows)
     EXPECT_EQ(rollHit(note, {61, 4}, 8), RollHit::Nothing);
 }
 
-TEST(RollIndex, VisitsWhatTouchesTheTimeInTheOrderOfTheList)
+TEST(RollIndex, VisitsTheNotesInATimeRangeInListOrder)
 {
     std::vector<Note> notes;
     for (unsigned i = 0; i < 1000; ++i)
@@ -155,21 +157,21 @@ TEST_F(SequenceViewTest, DrawsColumnsGridIntervalAndPosition)
     EXPECT_EQ(at(6 * 14 + 7, 12), kMiddleCColumn);
     EXPECT_EQ(at(18 * 14 + 7, 12), kWhite) << "only one C";
     EXPECT_EQ(extent(12, 6 * 14 - 7, 7 * 14 - 1, kMiddleCColumn), "77-84")
-        << "a line, then the column";
+        << "the line, then the column";
     EXPECT_EQ(at(6 * 14, 12), 0x4d4d4d);
     EXPECT_EQ(at(21, 8), 0xcccccc);
     EXPECT_EQ(at(21, 64), 0x999999);
-    EXPECT_EQ(at(21, 0), 0x0000ff) << "the position";
+    EXPECT_EQ(at(21, 0), 0x0000ff) << "the play position";
     document_.selectInterval(2, 4);
     document_.setOffset(9.5);
     EXPECT_EQ(at(21, 0), 0x999999);
     EXPECT_EQ(at(21, 76), 0x0000ff);
-    EXPECT_TRUE(isNear(at(21, 17), 0xbfbfff)) << "half of a colour half-way to white";
+    EXPECT_TRUE(isNear(at(21, 17), 0xbfbfff)) << "a tint half-way to white, at half opacity";
     EXPECT_TRUE(isNear(at(21, 31), 0xbfbfff));
     EXPECT_EQ(at(21, 15), kWhite);
     EXPECT_EQ(at(21, 33), kWhite);
     scrollView.scrollVertically(8);
-    EXPECT_EQ(at(21, 68), 0x0000ff) << "all of it scrolls";
+    EXPECT_EQ(at(21, 68), 0x0000ff) << "the picture scrolls as a whole";
 }
 
 TEST_F(SequenceViewTest, DrawsNotesByVelocityStateAndTime)
@@ -189,15 +191,15 @@ TEST_F(SequenceViewTest, DrawsNotesByVelocityStateAndTime)
     note.selected = true;
     EXPECT_TRUE(isNear(at(77, 65), 0x0c0cff));
     put(55, 8, 4).active = true;
-    EXPECT_TRUE(isNear(at(21, 65), 0x0bf401)) << "the later one lies on top";
+    EXPECT_TRUE(isNear(at(21, 65), 0x0bf401)) << "the later note is on top";
     setPrefInt("KeyWidth", 6);
-    scrollView.updateDocumentSizes(1000);
-    scrollView.scrollClipView({54 * 6, 0});
+    scrollView.updateSize(1000);
+    scrollView.scrollTo({54 * 6, 0});
     EXPECT_EQ(extent(67, 7, 11, kWhite), "7-9");
     setPrefInt("KeyHeight", 2);
-    scrollView.updateDocumentSizes(1000);
+    scrollView.updateSize(1000);
     EXPECT_EQ(at(9, 160), 0x999999);
-    EXPECT_EQ(at(9, 162), kWhite) << "the grid does not cover all";
+    EXPECT_EQ(at(9, 162), kWhite) << "the grid leaves room";
 }
 
 TEST_F(SequenceViewTest, SelectsMovesAndResizesNotesWithTheMouse)
@@ -244,7 +246,7 @@ TEST_F(SequenceViewTest, DrawsNewNotesWithTheRightButtonOrControl)
     EXPECT_EQ(notes().size(), 2) << "one gesture at a time";
 }
 
-TEST_F(SequenceViewTest, SelectsTimeAndLoopsInIt)
+TEST_F(SequenceViewTest, SelectsAnIntervalAndLoopsInIt)
 {
     put(60, 2, 1);
     put(62, 6, 1);
@@ -268,7 +270,7 @@ TEST_F(SequenceViewTest, SelectsTimeAndLoopsInIt)
     EXPECT_THAT(notes(), IsEmpty());
 }
 
-TEST_F(SequenceViewTest, PullsTheRollAlongWithADragBeyondItsEdge)
+TEST_F(SequenceViewTest, ScrollsWhileTheMouseDragsBeyondTheEdge)
 {
     QTest::mousePress(&view, Qt::LeftButton, {}, place(70.5, 4));
     const QPoint above(200, -40);
@@ -283,7 +285,7 @@ TEST_F(SequenceViewTest, PullsTheRollAlongWithADragBeyondItsEdge)
     EXPECT_EQ(scrollView.location().y(), y);
 }
 
-TEST_F(SequenceViewTest, ShowsWithTheCursorWhatAPressWouldDo)
+TEST_F(SequenceViewTest, ShowsByTheCursorWhatAPressWouldDo)
 {
     put(60, 4, 4);
     const auto shapeAt = [&](double key, double step, Qt::KeyboardModifiers modifiers = {}) {
@@ -299,7 +301,7 @@ TEST_F(SequenceViewTest, ShowsWithTheCursorWhatAPressWouldDo)
     EXPECT_EQ(shapeAt(60.5, 9, Qt::ControlModifier), Qt::CrossCursor);
 }
 
-TEST_F(SequenceViewTest, ScrollsByKeysToTheEndOfTheLongestSequence)
+TEST_F(SequenceViewTest, ScrollsWithKeysToTheEndOfAVeryLongSequence)
 {
     QSignalSpy scrolls(&scrollView, &SequenceScrollView::scrolledByUser);
     const int x = scrollView.location().x();
@@ -307,7 +309,7 @@ TEST_F(SequenceViewTest, ScrollsByKeysToTheEndOfTheLongestSequence)
         {Qt::Key_Right, {x + 14, 0}},         {Qt::Key_Left, {x, 0}},
         {Qt::Key_PageUp, {x, view.height()}}, {Qt::Key_PageDown, {x, 0}},
         {Qt::Key_End, {x, 1'000'000'000}},    {Qt::Key_Home, {x, 0}}};
-    scrollView.updateDocumentSizes(1e300);
+    scrollView.updateSize(1e300);
     for (const auto& [key, place] : rows) {
         QTest::keyClick(&view, key);
         EXPECT_EQ(scrollView.location(), place) << key;
@@ -320,7 +322,7 @@ TEST_F(SequenceViewTest, ScrollsAndZoomsWithTheWheelAroundTheMouse)
     QSignalSpy zooms(&scrollView, &SequenceScrollView::zoomed);
     QSignalSpy scrolls(&scrollView, &SequenceScrollView::scrolledByUser);
     QObject::connect(&scrollView, &SequenceScrollView::zoomed,
-                     [&] { scrollView.updateDocumentSizes(1000); });
+                     [&] { scrollView.updateSize(1000); });
     const QPoint point(100, 150);
     const auto turn = [&](int y, Qt::KeyboardModifiers modifiers) {
         QWheelEvent event(point, scrollView.mapToGlobal(point), {}, {0, y}, Qt::NoButton, modifiers,

@@ -30,9 +30,11 @@ using testing::HasSubstr;
 
 namespace {
 
-class InstrumentOf : public RecordingInstrument {
+class InstrumentWithStops : public RecordingInstrument {
 public:
-    InstrumentOf(std::size_t stops, Calls& calls) : RecordingInstrument(calls), stops_(stops) {}
+    InstrumentWithStops(std::size_t stops, Calls& calls) : RecordingInstrument(calls), stops_(stops)
+    {
+    }
     std::size_t numStops() const override { return stops_; }
     float getVolume(std::size_t stop) const override { return 0.25F * static_cast<float>(stop); }
     std::string stopName(std::size_t stop) const override { return stop == 1 ? "Flute 4'" : ""; }
@@ -41,7 +43,7 @@ private:
     std::size_t stops_;
 };
 
-/// The program on a machine without devices but OpenAL's.
+/// The desktop program on a machine whose only device is OpenAL's.
 class DesktopTest : public testing::Test {
 protected:
     DesktopTest()
@@ -74,7 +76,7 @@ protected:
         emit menu.activated(index);
     }
 
-    /// The texts of the message boxes that open one after the other while `action` is done.
+    /// Returns the texts of the message boxes that open during `action`.
     template <class Action> std::vector<std::string> messagesOf(const Action& action)
     {
         std::vector<std::string> texts;
@@ -122,18 +124,18 @@ protected:
 
 } // namespace
 
-TEST_F(DesktopTest, ThePanelOffersProgramsOrTellsTheMemory)
+TEST_F(DesktopTest, ThePanelShowsProgramsOrMemoryUse)
 {
     auto& programs = named<QComboBox>(panel, "Program");
     auto& usage = named<QLabel>(panel, "Memory use");
     EXPECT_EQ(programs.count(), 128);
-    EXPECT_EQ(programs.currentText(), "3 Electric Grand Piano") << "which sounds at first";
+    EXPECT_EQ(programs.currentText(), "3 Electric Grand Piano") << "the default program";
     EXPECT_TRUE(programs.isVisible() && !usage.isVisible());
     programs.setFocus();
     QTest::keyClick(&programs, Qt::Key_Down);
     EXPECT_EQ(application.midiProgram(), 3);
 
-    InstrumentOf sampled(2, calls);
+    InstrumentWithStops sampled(2, calls);
     sampled.usage = 1 << 20;
     application.setInstrument(sampled, "Organ");
     EXPECT_TRUE(!programs.isVisible() && usage.isVisible());
@@ -145,8 +147,8 @@ TEST_F(DesktopTest, ThePanelOffersProgramsOrTellsTheMemory)
 
 TEST_F(DesktopTest, ThePanelHasASliderForEachStop)
 {
-    InstrumentOf seven(7, calls);
-    InstrumentOf three(3, calls);
+    InstrumentWithStops seven(7, calls);
+    InstrumentWithStops three(3, calls);
     application.setInstrument(seven, "Seven");
     application.setInstrument(three, "Three");
     EXPECT_TRUE(QTest::qWaitFor([&] { return panel.width() == 303; }));
@@ -165,14 +167,14 @@ TEST_F(DesktopTest, ThePanelHasASliderForEachStop)
     std::thread([&] { application.setVolume(0.5F, 0); }).join();
     EXPECT_TRUE(QTest::qWaitFor([&] { return sliders[0]->value() == 500; }));
     std::erase(calls, "fade 0.9");
-    EXPECT_THAT(calls, ElementsAre("volume 1 1.00", "volume 0 0.50")) << "told once";
+    EXPECT_THAT(calls, ElementsAre("volume 1 1.00", "volume 0 0.50")) << "each is set once";
     application.setVolume(0.5F, 4);
     QApplication::processEvents();
     application.selectInstrument(0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return panel.width() == 261; }));
 }
 
-TEST_F(DesktopTest, TheTuningMenuKeepsTheOrderAndBothOfAName)
+TEST_F(DesktopTest, TheTuningMenuKeepsItsOrderAndDuplicateNames)
 {
     auto& menu = named<QComboBox>(panel, "Tuning");
     EXPECT_THAT(items(menu), ElementsAre("Equal", "Quartercomma Meantone", "Dynamic"));
@@ -195,7 +197,7 @@ TEST_F(DesktopTest, TheTuningMenuKeepsTheOrderAndBothOfAName)
     EXPECT_NEAR(application.getTemperament()->getTuning(1).cent(), 76.049, 1e-9);
 }
 
-TEST_F(DesktopTest, FilesAreOpenedByTheirKindsWhereverTheyAreDropped)
+TEST_F(DesktopTest, OpensDroppedFilesByType)
 {
     const auto scale = std::filesystem::path(VELMORA_EXAMPLES) / "kirnberger-3.scl";
     drop(desktop.keyboardWindow(), {organ(), scale});
@@ -205,27 +207,28 @@ TEST_F(DesktopTest, FilesAreOpenedByTheirKindsWhereverTheyAreDropped)
     ASSERT_EQ(table.model()->rowCount(), 2);
     EXPECT_EQ(table.currentIndex().row(), 1);
     EXPECT_THAT(desktop.keyboardWindow().status().currentMessage().toStdString(),
-                HasSubstr("1 files or samples were left out"));
+                HasSubstr("1 file or sample was left out"));
 
     EXPECT_THAT(messagesOf([&] {
                     desktop.open({"/no/such.scl", "/no/such.sf2", "/no/such.txt"});
                 }),
-                ElementsAre(HasSubstr("such.scl"), HasSubstr("such.sf2"), HasSubstr("no kind")));
-    EXPECT_EQ(application.instrumentName(), "Small") << "stays";
+                ElementsAre(HasSubstr("such.scl"), HasSubstr("such.sf2"),
+                            HasSubstr("unrecognised file type")));
+    EXPECT_EQ(application.instrumentName(), "Small") << "unchanged";
     EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
 
-    // Away with the first, back by choosing it.
+    // Unload the organ, then select it again.
     auto* unload = desktop.instrumentsWindow().findChildren<QPushButton*>().at(1);
     application.keyOn(36, 1.0F);
-    EXPECT_THAT(messagesOf([&] { unload->click(); }), ElementsAre(HasSubstr("still sounds")));
+    EXPECT_THAT(messagesOf([&] { unload->click(); }), ElementsAre(HasSubstr("Silence everything")));
     application.silenceAll();
     unload->click();
     EXPECT_EQ(application.instrumentName(), "MIDI Player");
-    EXPECT_FALSE(unload->isEnabled()) << "the player stays";
+    EXPECT_FALSE(unload->isEnabled()) << "the General MIDI player stays";
     application.selectTuning("Equal");
     QTimer::singleShot(0, [&] {
         desktop.open({QString::fromStdString(scale.string())});
-        EXPECT_EQ(application.tuningName(), "Equal") << "a file that comes meanwhile waits";
+        EXPECT_EQ(application.tuningName(), "Equal") << "a file opened meanwhile waits";
     });
     table.setCurrentIndex(table.model()->index(1, 0));
     EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
@@ -233,7 +236,7 @@ TEST_F(DesktopTest, FilesAreOpenedByTheirKindsWhereverTheyAreDropped)
     EXPECT_GT(application.instruments()[1]->getSize(), 0);
 }
 
-TEST_F(DesktopTest, PreferencesAreSeenAtOnce)
+TEST_F(DesktopTest, AppliesPreferencesImmediately)
 {
     auto& window = desktop.keyboardWindow();
     const int width = window.width();
@@ -243,7 +246,7 @@ TEST_F(DesktopTest, PreferencesAreSeenAtOnce)
         [&] { return window.width() == window.screen()->availableSize().width(); }));
     window.resize(700, window.height());
     emit desktop.preferencesWindow().changed();
-    EXPECT_EQ(window.width(), 700) << "nothing new for the keys";
+    EXPECT_EQ(window.width(), 700) << "the keys have not changed";
     resetPref("KeyWidth");
     emit desktop.preferencesWindow().changed();
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.width() == width; }));
@@ -260,7 +263,7 @@ TEST_F(DesktopTest, PreferencesAreSeenAtOnce)
     }
 }
 
-TEST_F(DesktopTest, EscapeClosesTheWindowsBesideTheMainOnes)
+TEST_F(DesktopTest, EscapeClosesSecondaryWindows)
 {
     GuideWindow guide;
     for (QWidget* window : std::initializer_list<QWidget*>{&panel, &desktop.instrumentsWindow(),
@@ -273,7 +276,7 @@ TEST_F(DesktopTest, EscapeClosesTheWindowsBesideTheMainOnes)
     }
 }
 
-TEST(GuideWindow, LeadsFromItsContentsToTheirHeadings)
+TEST(GuideWindow, LinksItsContentsToTheHeadings)
 {
     GuideWindow guide;
     guide.resize(500, 300);
@@ -290,7 +293,7 @@ TEST(GuideWindow, LeadsFromItsContentsToTheirHeadings)
     EXPECT_GT(place, 0);
 }
 
-TEST(ProgressWindow, EndsWithTheStepThatReachesTheMaximumExactly)
+TEST(ProgressWindow, ClosesWithTheStepThatReachesTheMaximumExactly)
 {
     ProgressWindow window;
     window.startProgress(10);
@@ -308,7 +311,7 @@ TEST(ProgressWindow, EndsWithTheStepThatReachesTheMaximumExactly)
     window.updateProgress(11, "too far");
     EXPECT_TRUE(window.isVisible());
     QTest::keyClick(&window, Qt::Key_Escape);
-    EXPECT_TRUE(isCancelled && window.isVisible()) << "until the import has noticed";
+    EXPECT_TRUE(isCancelled && window.isVisible()) << "until the import stops";
     window.endProgress();
     EXPECT_FALSE(window.isVisible());
 }

@@ -31,7 +31,7 @@ protected:
             resetPref(key);
     }
 
-    /// Types over what a box shows, and leaves it.
+    /// Replaces the text of a spin box and leaves it.
     void type(const char* key, const char* text)
     {
         auto* box = window.findChild<QSpinBox*>(key);
@@ -52,7 +52,7 @@ protected:
 
 } // namespace
 
-TEST_F(PreferencesWindowTest, CorrectsNumbersAsTheyAreTyped)
+TEST_F(PreferencesWindowTest, CorrectsTypedNumbers)
 {
     const struct {
         const char* key;
@@ -71,11 +71,12 @@ TEST_F(PreferencesWindowTest, CorrectsNumbersAsTheyAreTyped)
         type(row.key, row.typed);
         EXPECT_EQ(getPrefInt(row.key), row.stored) << row.typed;
         EXPECT_EQ(window.findChild<QSpinBox*>(row.key)->text(), row.shown) << row.typed;
-        EXPECT_EQ(changed.size(), QString("H9") == row.typed ? 0 : 1) << row.typed << ", whole";
+        EXPECT_EQ(changed.size(), QString("H9") == row.typed ? 0 : 1)
+            << row.typed << ": one change at most";
     }
 }
 
-TEST_F(PreferencesWindowTest, StoresColorsAndChoicesAtOnce)
+TEST_F(PreferencesWindowTest, StoresColorsAndCheckBoxesImmediately)
 {
     QTest::keyClick(&window, Qt::Key_N, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([] { return !getPrefBool("KeyNames"); }));
@@ -93,7 +94,7 @@ TEST_F(PreferencesWindowTest, StoresColorsAndChoicesAtOnce)
     EXPECT_EQ(Color("KeyColor").toQColor(), QColor(Qt::green));
 }
 
-TEST_F(PreferencesWindowTest, ChoosesTheBank)
+TEST_F(PreferencesWindowTest, StoresTheChosenBank)
 {
     QTemporaryFile bank;
     ASSERT_TRUE(bank.open());

@@ -34,7 +34,7 @@ using testing::StartsWith;
 
 namespace {
 
-/// The program without devices, with a sequence window.
+/// The desktop program without devices, with sequence windows.
 class SequenceWindowTest : public testing::Test {
 protected:
     SequenceWindowTest()
@@ -67,8 +67,8 @@ protected:
         throw std::runtime_error(text.toStdString());
     }
 
-    /// What the status line and the position say, without what is empty.
-    static std::vector<std::string> said(SequenceWindow& window)
+    /// The texts of the status bar that are not empty.
+    static std::vector<std::string> statusTexts(SequenceWindow& window)
     {
         std::vector<std::string> texts;
         for (const QLabel* label : window.statusBar()->findChildren<QLabel*>())
@@ -77,7 +77,8 @@ protected:
         return texts;
     }
 
-    /// Answers the message boxes that open while `act` is done, by the text of a button each.
+    /// Answers the message boxes that open during `act` by clicking the buttons with these texts.
+    /// Returns the informative texts of the boxes.
     template <class Act>
     std::vector<std::string> answering(const std::vector<QString>& answers, const Act& act)
     {
@@ -98,8 +99,8 @@ protected:
         return texts;
     }
 
-    /// Names a file in the dialog that opens while `act` is done, then chooses a kind from the
-    /// list.
+    /// Enters a file name in the dialog that opens during `act`, then moves down the list of kinds
+    /// `kind` times.
     template <class Act> void naming(const QString& path, const Act& act, int kind = 0)
     {
         QTimer timer;
@@ -139,7 +140,7 @@ protected:
 
 } // namespace
 
-TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
+TEST_F(SequenceWindowTest, ControlsTheTransportByKeysAndToolbar)
 {
     SequenceWindow& window = open();
     QAction& play = action(window, "Play");
@@ -147,14 +148,14 @@ TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
     SequenceDocument& document = window.document();
     draw(window);
     QTest::keyClick(&view(window), Qt::Key_Space);
-    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Playing) << "the key counts once";
+    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Playing) << "one key, one action";
     EXPECT_EQ(play.iconText(), "Stop");
     EXPECT_FALSE(record.isEnabled());
-    desktop.keyboardWindow().status().addNotice("There is none");
+    desktop.keyboardWindow().status().addNotice("Something is missing");
     desktop.keyboardWindow().activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    EXPECT_EQ(play.iconText(), "Play") << "the key is not for the button of the notices";
+    EXPECT_EQ(play.iconText(), "Play") << "the notice button must not take the key";
     play.trigger();
     QTest::keyClick(&window, Qt::Key_Period, Qt::ControlModifier);
     EXPECT_EQ(play.iconText(), "Play");
@@ -174,10 +175,10 @@ TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
     QTest::keyClicks(&tempo, "90");
     QTest::keyClick(&tempo, Qt::Key_Return);
     EXPECT_EQ(document.tempo(), 90);
-    EXPECT_EQ(window.focusWidget(), &view(window)) << "the keys are for the roll again";
+    EXPECT_EQ(window.focusWidget(), &view(window)) << "the roll has the focus again";
     tempo.setFocus();
     QTest::keyClick(&tempo, Qt::Key_Tab);
-    EXPECT_NE(window.focusWidget(), &view(window)) << "on to the next field";
+    EXPECT_NE(window.focusWidget(), &view(window)) << "the focus moves to the next field";
     action(window, "Snap to Grid").trigger();
     action(window, "Loop").trigger();
     action(window, "5").trigger();
@@ -186,16 +187,16 @@ TEST_F(SequenceWindowTest, SwitchesTheTransportByKeysAndTools)
     answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
 }
 
-TEST_F(SequenceWindowTest, EditsFromTheMenusAndBetweenWindows)
+TEST_F(SequenceWindowTest, EditsFromMenusAndAcrossWindows)
 {
     SequenceWindow& window = open();
     SequenceWindow& other = open();
     draw(window);
     draw(window, {300, 100});
     action(window, "Select All").trigger();
-    EXPECT_THAT(said(window), ElementsAre("2 notes selected", "2 notes in all"));
+    EXPECT_THAT(statusTexts(window), ElementsAre("2 notes selected", "2 notes in all"));
     action(window, "Cut").trigger();
-    EXPECT_THAT(said(window), ElementsAre("0 notes in all"));
+    EXPECT_THAT(statusTexts(window), ElementsAre("0 notes in all"));
     EXPECT_EQ(window.menuBar()->actions()[1]->menu()->actions()[0]->text(), "&Undo Cut 2 Notes");
     action(other, "Paste").trigger();
     EXPECT_EQ(other.document().getSequence().notes().size(), 2);
@@ -204,37 +205,37 @@ TEST_F(SequenceWindowTest, EditsFromTheMenusAndBetweenWindows)
     QTest::mousePress(&view(window), Qt::LeftButton, {}, {200, 200});
     QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
     QTest::mouseRelease(&view(window), Qt::LeftButton, {}, {200, 200});
-    EXPECT_THAT(window.document().getSequence().notes(), IsEmpty()) << "not while the mouse drags";
+    EXPECT_THAT(window.document().getSequence().notes(), IsEmpty()) << "no undo during a drag";
     QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(window.document().getSequence().notes().size(), 2);
     answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
 }
 
-TEST_F(SequenceWindowTest, TheKeyboardShowsTheSequenceThatWasLastInFront)
+TEST_F(SequenceWindowTest, TheKeyboardShowsTheSequenceThatWasActiveLast)
 {
     SequenceWindow& first = open();
-    EXPECT_EQ(keyboard.getDocument(), &first.document());
+    EXPECT_EQ(keyboard.document(), &first.document());
     SequenceWindow& second = open();
-    EXPECT_EQ(keyboard.getDocument(), &second.document());
+    EXPECT_EQ(keyboard.document(), &second.document());
     desktop.keyboardWindow().activateWindow();
     QTest::qWait(50);
-    EXPECT_EQ(keyboard.getDocument(), &second.document());
+    EXPECT_EQ(keyboard.document(), &second.document());
     first.activateWindow();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return keyboard.getDocument() == &first.document(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return keyboard.document() == &first.document(); }));
     EXPECT_TRUE(closes(second));
-    EXPECT_EQ(keyboard.getDocument(), &first.document());
+    EXPECT_EQ(keyboard.document(), &first.document());
     EXPECT_TRUE(closes(first));
-    EXPECT_EQ(keyboard.getDocument(), nullptr);
+    EXPECT_EQ(keyboard.document(), nullptr);
 }
 
-TEST_F(SequenceWindowTest, SaysWhatItWaitsFor)
+TEST_F(SequenceWindowTest, ShowsWhichKeysPracticeWaitsFor)
 {
     SequenceWindow& window = open("wolf-fantasia.mid");
-    EXPECT_THAT(said(window), ElementsAre("Waiting for C3, G3", "156 notes in all"));
+    EXPECT_THAT(statusTexts(window), ElementsAre("Waiting for C3, G3", "156 notes in all"));
     desktop.application().keyOn(48, 1.0F);
     desktop.application().keyOn(50, 1.0F);
     window.document().midiInput();
-    EXPECT_EQ(said(window).front(), "Waiting for G3, not D3");
+    EXPECT_EQ(statusTexts(window).front(), "Waiting for G3; release D3");
     desktop.application().silenceAll();
     EXPECT_TRUE(closes(window));
 }
@@ -259,11 +260,11 @@ TEST_F(SequenceWindowTest, FollowsThePositionUnlessTheUserScrollsAway)
     window.document().play();
     window.document().play();
     QApplication::processEvents();
-    EXPECT_EQ(bottomAfter(300), 292) << "started anew";
+    EXPECT_EQ(bottomAfter(300), 292) << "playing has started again";
     EXPECT_TRUE(closes(window));
 }
 
-TEST_F(SequenceWindowTest, TheStripShowsTheTuningOfTheMoment)
+TEST_F(SequenceWindowTest, TheStripFollowsTheTuning)
 {
     SequenceWindow& window = open();
     AppDelegate& application = desktop.application();
@@ -316,18 +317,18 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
                 ElementsAre("The source file contains unprocessed MIDI information which cannot be "
                             "overwriten (multichannel, meta events,…). Use the 'Save As…' option "
                             "instead."));
-    EXPECT_EQ(&open("wolf-fantasia.mid"), &imported) << "it is not opened twice";
+    EXPECT_EQ(&open("wolf-fantasia.mid"), &imported) << "a file is opened only once";
     EXPECT_TRUE(closes(imported));
 
     draw(open());
     draw(open());
     QTimer::singleShot(0, [&] { open("wolf-fantasia.mid"); });
     answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
-    EXPECT_EQ(keyboard.getDocument(), nullptr) << "what came meanwhile is closed too";
-    EXPECT_EQ(open().windowTitle(), "Untitled 4[*]") << "files take no name from new sequences";
+    EXPECT_EQ(keyboard.document(), nullptr) << "a window opened meanwhile is closed too";
+    EXPECT_EQ(open().windowTitle(), "Untitled 4[*]") << "opened files use up no names";
 }
 
-TEST_F(SequenceWindowTest, WritesNotesAndSoundUnderTheNamesThatAreGiven)
+TEST_F(SequenceWindowTest, SavesAndExportsUnderTheChosenNames)
 {
     desktop.launch();
     desktop.application().waitForBank();
@@ -335,7 +336,7 @@ TEST_F(SequenceWindowTest, WritesNotesAndSoundUnderTheNamesThatAreGiven)
     const QTemporaryDir folder;
     naming(folder.filePath("tune"), [&] { EXPECT_TRUE(window.saveAs()); });
     EXPECT_EQ(window.document().path(), folder.filePath("tune.mid").toStdString());
-    EXPECT_TRUE(window.save()) << "it is imported no more";
+    EXPECT_TRUE(window.save()) << "no longer an imported file";
     for (const std::vector<QString>& answers : {std::vector<QString>{}, {"Yes"}})
         answering(answers,
                   [&] { naming(folder.filePath("No.1"), [&] { EXPECT_TRUE(window.saveAs()); }); });
@@ -363,12 +364,12 @@ TEST_F(SequenceWindowTest, WritesNotesAndSoundUnderTheNamesThatAreGiven)
     draw(window);
     naming(folder.filePath("tune.ogg"), [&] { action(window, "Export Audio…").trigger(); });
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return window.statusBar()->currentMessage() == "tune.ogg is written"; }, 20'000));
+        [&] { return window.statusBar()->currentMessage() == "Exported tune.ogg"; }, 20'000));
     EXPECT_GT(QFileInfo(folder.filePath("tune.ogg")).size(), 1000);
     answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
 }
 
-TEST_F(SequenceWindowTest, OffersWhatWasLeftWithoutAsking)
+TEST_F(SequenceWindowTest, OffersToRecoverUnsavedSequences)
 {
     Commands commands(desktop.application());
     const auto run = [&](const auto& act) {
