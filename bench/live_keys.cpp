@@ -5,6 +5,7 @@
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/Desktop.h"
 #include "desktop/widgets/graphics.h"
+#include "midi/messages.h"
 #include "midi/midiRead.h"
 #include "support/JackServer.h"
 #include "support/MidiSource.h"
@@ -65,7 +66,7 @@ int main(int argc, char** argv)
     std::size_t sent = 0;
     QObject::connect(&sending, &QTimer::timeout, [&] {
         const auto key = static_cast<std::uint8_t>(36 + sent / 2 % 48);
-        piano.send(0, {static_cast<std::uint8_t>(sent % 2 == 0 ? 0x90 : 0x80), key, 100});
+        piano.send(0, {sent % 2 == 0 ? midi::kNoteOn : midi::kNoteOff, key, 100});
         if (++sent == kMessages)
             QApplication::exit();
     });

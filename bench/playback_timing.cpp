@@ -128,5 +128,5 @@ int main(int argc, char** argv)
                "{:.2f}, p99 {:.2f}, most {:.2f}\n",
                at(0.0), at(0.5), at(0.99), at(1.0));
     output->play(nullptr);
-    application.setInstrument(*application.instruments().front()->getInstrument(), "");
+    application.setInstrument(*application.instruments().front()->instrument(), "");
 }

@@ -4,6 +4,7 @@
 #include "app/AppDelegate.h"
 #include "app/SequenceRenderer.h"
 #include "audio/Synthesizer.h"
+#include "midi/messages.h"
 #include "tuning/TuningDocument.h"
 
 #include <QCoreApplication>
@@ -59,9 +60,9 @@ void holdKeys(benchmark::State& state)
     Synthesizer synthesizer(kRate, generalMidiBanks());
     const auto keys = static_cast<int>(state.range(0));
     for (int channel = 0; channel < keys; ++channel) {
-        synthesizer.midiEvent(0xC0 | channel, 19, 0);
-        synthesizer.midiEvent(0xE0 | channel, 17, 60); // resampled
-        synthesizer.midiEvent(0x90 | channel, 60 + channel, 80);
+        synthesizer.midiEvent(midi::kProgramChange | channel, 19, 0);
+        synthesizer.midiEvent(midi::kPitchBend | channel, 17, 60); // resampled
+        synthesizer.midiEvent(midi::kNoteOn | channel, 60 + channel, 80);
     }
     std::array<float, kBlock> left{}, right{};
     for ([[maybe_unused]] auto iteration : state) {

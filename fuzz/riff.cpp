@@ -27,10 +27,10 @@ std::size_t check(const RIFF::List& list, std::size_t end, int depth)
         require(bytes.size() == child->length() && bytes.size() <= child->size);
         require(bytes.empty() || child->offset + bytes.size() <= end);
         require(child->read<std::array<char, 46>>().size() == bytes.size() / 46);
-        require(list.get<RIFF::Chunk>(child->getType()) != nullptr);
+        require(list.get<RIFF::Chunk>(child->type()) != nullptr);
         const auto* inner = dynamic_cast<const RIFF::List*>(child.get());
-        const auto* found = list.get<RIFF::List>(child->getType());
-        require(list.all<RIFF::List>(child->getType()).front() == found);
+        const auto* found = list.get<RIFF::List>(child->type());
+        require(list.all<RIFF::List>(child->type()).front() == found);
         if (inner != nullptr)
             count += check(*inner, child->offset + child->length(), depth + 1);
     }

@@ -83,8 +83,8 @@ void AppDelegate::makeBuiltinTunings()
 
 void AppDelegate::makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
 {
-    auto document = InstrumentDocument::initWithMIDIPlayer(std::move(synthesizer));
-    midiPlayer_ = &dynamic_cast<MIDIInstrument&>(*document->getInstrument());
+    auto document = InstrumentDocument::makeMIDIPlayer(std::move(synthesizer));
+    midiPlayer_ = &dynamic_cast<MIDIInstrument&>(*document->instrument());
     addInstrument(std::move(document));
 }
 
@@ -139,11 +139,11 @@ void AppDelegate::playThrough(std::unique_ptr<Synthesizer> synthesizer)
 
 void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
 {
-    if (document->getInstrument() == nullptr)
+    if (document->instrument() == nullptr)
         return;
     instruments_.push_back(std::move(document));
     InstrumentDocument& added = *instruments_.back();
-    setInstrument(*added.getInstrument(), added.getName());
+    setInstrument(*added.instrument(), added.name());
     emit instrumentsChanged();
 }
 
@@ -162,19 +162,19 @@ void AppDelegate::setInstrument(Instrument& instrument, const std::string& name)
 bool AppDelegate::selectInstrument(std::size_t position)
 {
     InstrumentDocument& document = *instruments_.at(position);
-    if (document.getInstrument() == nullptr) {
+    if (document.instrument() == nullptr) {
         if (!document.reload(*this))
             return false;
         emit instrumentsChanged();
     }
-    setInstrument(*document.getInstrument(), document.getName());
+    setInstrument(*document.instrument(), document.name());
     return true;
 }
 
 bool AppDelegate::unloadInstrument(std::size_t position)
 {
     InstrumentDocument& document = *instruments_.at(position);
-    Instrument* const unloaded = document.getInstrument();
+    Instrument* const unloaded = document.instrument();
     if (unloaded == nullptr || !document.canUnload())
         return false;
     if (unloaded == instrument_)
@@ -205,7 +205,7 @@ void AppDelegate::silenceAll()
         for (auto& state : noteStates)
             state = 0;
         for (const auto& document : instruments_)
-            if (Instrument* instrument = document->getInstrument())
+            if (Instrument* instrument = document->instrument())
                 instrument->silence();
     }
     midiInput();
@@ -266,7 +266,7 @@ void AppDelegate::loop()
     // Keys that were released before another instrument was chosen die away like the others.
     const std::lock_guard lock(soundLock_);
     for (const auto& document : instruments_)
-        if (Instrument* other = document->getInstrument(); other != nullptr && other != instrument_)
+        if (Instrument* other = document->instrument(); other != nullptr && other != instrument_)
             other->fade(kFadeFactor);
 }
 

@@ -33,9 +33,9 @@ SoundSettings currentSettings(AppDelegate& application)
         settings.banks = generalMidiBanks();
     }
     for (const auto& document : application.instruments()) {
-        if (document->getInstrument() == &instrument) {
+        if (document->instrument() == &instrument) {
             settings.instrument = document->path();
-            settings.type = document->type();
+            settings.format = document->format();
         }
     }
     return settings;
@@ -57,15 +57,15 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
     if (settings.instrument.empty()) {
         auto synthesizer = makeOfflineSynthesizer(rate, settings.banks);
         source_ = synthesizer.get();
-        document_ = InstrumentDocument::initWithMIDIPlayer(std::move(synthesizer));
-        document_->getInstrument()->setInstrument(settings.program);
+        document_ = InstrumentDocument::makeMIDIPlayer(std::move(synthesizer));
+        document_->instrument()->setInstrument(settings.program);
     } else {
         source_ = &loopback_.emplace(rate);
         document_ = std::make_unique<InstrumentDocument>();
-        if (!document_->readFromURL(settings.instrument, settings.type, host))
+        if (!document_->read(settings.instrument, settings.format, host))
             throw std::runtime_error(document_->errorString());
     }
-    Instrument& instrument = *document_->getInstrument();
+    Instrument& instrument = *document_->instrument();
     for (std::size_t stop = 0; stop < settings.gains.size(); ++stop)
         instrument.setVolume(stop, settings.gains[stop]);
     instrument.tune(*temperament_, 0, static_cast<int>(kKeys) - 1);

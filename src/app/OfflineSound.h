@@ -21,9 +21,9 @@ class AppDelegate;
 struct SoundSettings {
     std::unique_ptr<Temperament> temperament;
     std::filesystem::path instrument; ///< A file; empty for the General MIDI player.
-    std::string type;                 ///< Of that file.
-    std::vector<float> gains;         ///< Of the stops.
-    std::uint8_t program = 0;         ///< Of the General MIDI player.
+    InstrumentFormat format = InstrumentFormat::SoundFont; ///< The format of that file.
+    std::vector<float> gains;                              ///< Of the stops.
+    std::uint8_t program = 0;                              ///< Of the General MIDI player.
     std::vector<std::filesystem::path> banks;
 };
 
@@ -45,7 +45,7 @@ public:
     /// Gives the sound out.
     AudioSource& source() { return *source_; }
 
-    Instrument* getInstrument() override { return document_->getInstrument(); }
+    Instrument* getInstrument() override { return document_->instrument(); }
     Temperament* getTemperament() override { return temperament_.get(); }
     std::mutex& soundLock() override { return soundLock_; }
 

@@ -1,9 +1,11 @@
 #include "audio/Synthesizer.h"
 
 #include "base/Log.h"
+#include "midi/messages.h"
 #include "platform/quiet.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace velmora {
 
@@ -11,15 +13,20 @@ namespace {
 
 constexpr std::size_t kLanes = 12;
 constexpr int kCentreBend = 8192;
-constexpr int kAllSoundOff = 120;
 constexpr int kNoBend = -1;
 
-/// Which lane sounds a channel: none for the percussion channel and those that never carry notes.
-int laneIndex(int channel)
+std::size_t channelOf(int status)
+{
+    return static_cast<std::size_t>(status & midi::kChannelMask);
+}
+
+/// The index of the lane that sounds a channel. Channel 9 is General MIDI's percussion, and nothing
+/// is played on channels 13 to 15.
+std::optional<std::size_t> laneIndex(std::size_t channel)
 {
     if (channel < 9)
         return channel;
-    return channel >= 10 && channel <= 12 ? channel - 1 : -1;
+    return channel >= 10 && channel <= 12 ? std::optional(channel - 1) : std::nullopt;
 }
 
 /// The 14 bits of a pitch bend, as far as they go.
@@ -59,17 +66,17 @@ Synthesizer::~Synthesizer()
         lanes_.pop_back();
 }
 
-SynthesizerLane* Synthesizer::laneOf(int channel)
+SynthesizerLane* Synthesizer::laneOf(std::size_t channel)
 {
-    const int index = laneIndex(channel);
-    return index < 0 || lanes_.empty() ? nullptr : lanes_[static_cast<std::size_t>(index)].get();
+    const auto index = laneIndex(channel);
+    return !index || lanes_.empty() ? nullptr : lanes_[*index].get();
 }
 
 void Synthesizer::midiEvent(int status, int data1, int data2)
 {
     // Retuning sends every channel's bend, most of them unchanged.
-    const bool isBend = (status & 0xF0) == 0xE0;
-    int& lastBend = lastBend_[static_cast<std::size_t>(status & 0x0F)];
+    const bool isBend = (status & midi::kKindMask) == midi::kPitchBend;
+    int& lastBend = lastBend_[channelOf(status)];
     if (isBend && bendOf(data1, data2) == lastBend)
         return;
 
@@ -96,16 +103,18 @@ void Synthesizer::takeEvents()
         const Event& event = queue_[read % kQueue];
         // Of the bends that come together the last one counts: FluidSynth has room for so many
         // changes between two blocks and would lose the end of a note under more.
-        if ((event.status & 0xF0) == 0xE0)
-            bends[static_cast<std::size_t>(event.status & 0x0F)] = bendOf(event.data1, event.data2);
-        else if (!overflowed || (event.status & 0xE0) != 0x80)
+        const int kind = event.status & midi::kKindMask;
+        const bool isNote = kind == midi::kNoteOn || kind == midi::kNoteOff;
+        if (kind == midi::kPitchBend)
+            bends[channelOf(event.status)] = bendOf(event.data1, event.data2);
+        else if (!overflowed || !isNote)
             apply(event);
     }
     read_.store(read, std::memory_order_release);
 
     // A lost message may have been the end of a note.
     for (std::size_t channel = 0; channel < bends.size(); ++channel) {
-        SynthesizerLane* lane = laneOf(static_cast<int>(channel));
+        SynthesizerLane* lane = laneOf(channel);
         if (lane != nullptr && overflowed)
             silence(*lane);
         if (lane != nullptr && bends[channel] != kNoBend)
@@ -121,23 +130,23 @@ void Synthesizer::silence(SynthesizerLane& lane)
 
 void Synthesizer::apply(const Event& event)
 {
-    SynthesizerLane* lane = laneOf(event.status & 0x0F);
+    SynthesizerLane* lane = laneOf(channelOf(event.status));
     if (lane == nullptr)
         return;
-    switch (event.status & 0xF0) {
-    case 0x80:
+    switch (event.status & midi::kKindMask) {
+    case midi::kNoteOff:
         lane->noteOff(event.data1);
         break;
-    case 0x90:
+    case midi::kNoteOn:
         lane->noteOn(event.data1, event.data2);
         break;
-    case 0xB0:
-        if (event.data1 == kAllSoundOff)
+    case midi::kControlChange:
+        if (event.data1 == midi::kAllSoundOff)
             silence(*lane);
         else
             lane->controlChange(event.data1, event.data2);
         break;
-    case 0xC0:
+    case midi::kProgramChange:
         lane->programChange(event.data1);
         break;
     default:

@@ -41,7 +41,7 @@ private:
     /// One block of a busy chord is dozens of messages; this is for a renderer that has stalled.
     static constexpr std::size_t kQueue = 1 << 14;
 
-    SynthesizerLane* laneOf(int channel);
+    SynthesizerLane* laneOf(std::size_t channel);
     void takeEvents();
     /// Any message but a pitch bend.
     void apply(const Event& event);

@@ -96,7 +96,7 @@ Json describeInstrument(const std::filesystem::path& path)
 {
     const OpenALLoopback loopback(kRate);
     AppDelegate application;
-    return describe(*readInstrument(path, application), InstrumentDocument::typeOf(path));
+    return describe(*readInstrument(path, application));
 }
 
 /// A description of a file, and what prints it as text. Throws std::runtime_error with a sentence
@@ -117,10 +117,9 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
             throw std::runtime_error(document.errorString());
         return {describe(document, path.filename().string()), printSequence};
     }
-    if (!InstrumentDocument::typeOf(path).empty())
+    if (instrumentFormatOf(path))
         return {describeInstrument(path), printInstrument};
-    throw std::runtime_error(path.filename().string() +
-                             ": is no kind of file that Velmora knows by its name");
+    throw std::runtime_error(path.filename().string() + ": unrecognised file type");
 }
 
 void printFile(const std::filesystem::path& path, bool json)

@@ -69,12 +69,12 @@ void printStop(std::size_t index, const Json& stop)
 
 } // namespace
 
-Json describe(const InstrumentDocument& document, const std::string& kind)
+Json describe(const InstrumentDocument& document)
 {
-    const auto& instrument = dynamic_cast<const ALInstrument&>(*document.getInstrument());
-    Json result = {{"name", document.getName()},
-                   {"kind", kind},
-                   {"usage", document.getSize()},
+    const auto& instrument = dynamic_cast<const ALInstrument&>(*document.instrument());
+    Json result = {{"name", document.name()},
+                   {"kind", name(document.format())},
+                   {"usage", document.size()},
                    {"stops", Json::array()}};
     const Uses uses = countUses(instrument);
     for (const InstrumentStop& stop : instrument.stops())

@@ -8,7 +8,7 @@ namespace velmora {
 
 /// What the program makes of a sampled instrument: its stops with the sound of each key, and what
 /// the import brought in and left out.
-nlohmann::ordered_json describe(const InstrumentDocument& document, const std::string& kind);
+nlohmann::ordered_json describe(const InstrumentDocument& document);
 
 /// Prints such a description as text.
 void printInstrument(const nlohmann::ordered_json& instrument);

@@ -33,8 +33,8 @@ std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
 std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path,
                                                    AppDelegate& application)
 {
-    const std::string type = InstrumentDocument::typeOf(path);
-    if (type.empty())
+    const auto format = instrumentFormatOf(path);
+    if (!format)
         throw UsageError("there is no instrument \"" + path.string() +
                          "\": give a file that ends in .sf2, .gig, .organ_hauptwerk_xml, .xml or "
                          ".organ");
@@ -50,10 +50,10 @@ std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& 
             application.cancelImport();
     });
     auto document = std::make_unique<InstrumentDocument>();
-    if (!document->readFromURL(path, type, application))
+    if (!document->read(path, *format, application))
         throw std::runtime_error(document->errorString().empty() ? "interrupted"
                                                                  : document->errorString());
-    if (document->getInstrument() == nullptr)
+    if (document->instrument() == nullptr)
         throw std::runtime_error(path.filename().string() +
                                  ": holds no instrument that Velmora can play");
     return document;

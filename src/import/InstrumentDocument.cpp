@@ -12,28 +12,33 @@
 #include "sound/MIDIInstrument.h"
 
 #include <fstream>
-#include <map>
 #include <new>
-#include <string>
 
 namespace velmora {
 
 namespace {
 
-/// Fills the import from a file of that type.
-void read(const std::filesystem::path& path, const std::string& type, Import& import)
+void readInto(Import& import, const std::filesystem::path& path, InstrumentFormat format)
 {
-    if (type == "XML")
+    switch (format) {
+    case InstrumentFormat::HauptwerkXml:
         readXML(path, import);
-    else if (type == "Gigasampler")
-        readGigaSampler(path, import);
-    else if (type == "SoundFont")
-        readSoundFont(path, import);
-    else
+        break;
+    case InstrumentFormat::Hauptwerk1:
         readHauptwerk1(path, import);
+        break;
+    case InstrumentFormat::SoundFont:
+        readSoundFont(path, import);
+        break;
+    case InstrumentFormat::GigaSampler:
+        readGigaSampler(path, import);
+        break;
+    case InstrumentFormat::Exs:
+        break;
+    }
 }
 
-/// Names in any encoding become UTF-8.
+/// Converts all names to UTF-8.
 void cleanNames(Import& import)
 {
     import.name = toUtf8(import.name);
@@ -53,20 +58,11 @@ InstrumentDocument::InstrumentDocument(std::unique_ptr<Instrument> instrument, s
 }
 
 std::unique_ptr<InstrumentDocument>
-InstrumentDocument::initWithMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
+InstrumentDocument::makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
 {
     auto instrument = std::make_unique<MIDIInstrument>(std::move(synthesizer));
     return std::unique_ptr<InstrumentDocument>(
         new InstrumentDocument(std::move(instrument), "MIDI Player"));
-}
-
-std::string InstrumentDocument::typeOf(const std::filesystem::path& path)
-{
-    static const std::map<std::string, std::string> types = {
-        {".sf2", "SoundFont"}, {".gig", "Gigasampler"}, {".organ_hauptwerk_xml", "XML"},
-        {".xml", "XML"},       {".organ", "Organ"},     {".exs", "EXS"}};
-    const auto type = types.find(lowerCase(path.extension().string()));
-    return type == types.end() ? "" : type->second;
 }
 
 bool InstrumentDocument::canUnload() const
@@ -75,25 +71,24 @@ bool InstrumentDocument::canUnload() const
     return sampled != nullptr && !sampled->isSounding();
 }
 
-bool InstrumentDocument::readFromURL(const std::filesystem::path& path, const std::string& type,
-                                     InstrumentHost& host)
+bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentFormat format,
+                              InstrumentHost& host)
 {
     errorString_.clear();
     try {
-        if (type == "EXS") {
-            // Not imported: there is no public description of the format.
+        if (format == InstrumentFormat::Exs) {
             if (!std::ifstream(path, std::ios::binary))
                 throw FormatError("cannot be read");
             return true;
         }
         Import import(host);
-        read(path, type, import);
+        readInto(import, path, format);
         cleanNames(import);
         instrument_ = std::move(import.instrument);
         name_ = std::move(import.name);
         report_ = std::move(import.report);
         path_ = path;
-        type_ = type;
+        format_ = format;
         return true;
     } catch (const Cancelled&) {
         return false;

@@ -108,7 +108,7 @@ private:
         auto list =
             std::make_unique<List>(source_, code("LIST"), size, static_cast<std::uint32_t>(offset),
                                    lengthOf(offset, data + size, end));
-        list->type = word(data);
+        list->listType = word(data);
         const std::uint64_t stopped = readChildren(*list, std::min(end, data + size), depth + 1);
         parent.children.push_back(std::move(list));
         return stopped;
@@ -154,7 +154,7 @@ std::size_t Chunk::read(std::size_t at, std::span<std::byte> destination) const
 template <> const Chunk* List::get<Chunk>(std::uint32_t wanted) const
 {
     for (const auto& child : children) {
-        if (child->getType() == wanted)
+        if (child->type() == wanted)
             return child.get();
     }
     return nullptr;
@@ -169,7 +169,7 @@ template <> std::vector<const List*> List::all<List>(std::uint32_t wanted) const
 {
     std::vector<const List*> result;
     for (const auto& child : children) {
-        if (child->getType() == wanted)
+        if (child->type() == wanted)
             result.push_back(dynamic_cast<const List*>(child.get()));
     }
     return result;
@@ -181,7 +181,7 @@ File::File(OpenedSource opened) : List(*opened.source, 0, 0, 0, 0), opened_(std:
     TreeReader reader(*opened_.source);
     id = reader.word(0);
     size = reader.word(4);
-    type = reader.word(8);
+    listType = reader.word(8);
     offset = kHeader;
     const std::uint64_t end = std::min(reader.end(), std::uint64_t{size} + 8);
     length_ = static_cast<std::uint32_t>(end > kHeader ? end - kHeader : 0);

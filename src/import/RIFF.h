@@ -38,7 +38,7 @@ public:
     virtual ~Chunk() = default;
 
     /// What the lookups compare: the id of a chunk, the list type of a list.
-    virtual std::uint32_t getType() const { return id; }
+    virtual std::uint32_t type() const { return id; }
 
     /// Bytes of data that are there, at most `size`; of a list without its type.
     std::uint32_t length() const { return length_; }
@@ -72,7 +72,7 @@ class List : public Chunk {
 public:
     using Chunk::Chunk;
 
-    std::uint32_t getType() const override { return type; }
+    std::uint32_t type() const override { return listType; }
 
     /// The first child of that type: any child as a Chunk, but as a List null where that first
     /// child is a plain chunk. Null where there is none.
@@ -81,7 +81,7 @@ public:
     /// Every child of that type in the order of the file, null for plain chunks.
     template <class T> std::vector<const T*> all(std::uint32_t wanted) const;
 
-    std::uint32_t type = 0;
+    std::uint32_t listType = 0;
     std::vector<std::unique_ptr<Chunk>> children; ///< in the order of the file
 };
 

@@ -3,6 +3,7 @@
 #include "base/FormatError.h"
 #include "midi/MidiFileCursor.h"
 #include "midi/OpenNotes.h"
+#include "midi/messages.h"
 
 #include <spdlog/fmt/fmt.h>
 
@@ -35,7 +36,7 @@ public:
         while (!ended && track.left() > 0) {
             tick_ += track.quantity();
             const std::uint8_t first = track.peek();
-            if (first >= 0xF0)
+            if (first >= midi::kFirstSystemStatus)
                 ended = readSystemEvent(track);
             else
                 readChannelEvent(track);
@@ -60,7 +61,7 @@ private:
     static std::uint8_t dataByte(MidiFileCursor& track)
     {
         const std::uint8_t value = track.byte();
-        if (value >= 0x80)
+        if (value >= midi::kStatusBit)
             throw FormatError::atByte(track.offset() - 1,
                                       fmt::format("a data byte is wanted, not 0x{:02X}", value));
         return value;
@@ -70,19 +71,19 @@ private:
     {
         // Meta and system exclusive events end the running status by the letter of the format, but
         // there are files that go on with it behind them: it is kept.
-        if (track.peek() >= 0x80)
+        if (track.peek() >= midi::kStatusBit)
             status_ = track.byte();
         else if (status_ == 0)
             throw FormatError::atByte(track.offset(),
                                       "an event without a status, and none runs before it");
         const std::uint8_t data = dataByte(track);
-        const auto channel = static_cast<std::uint8_t>(status_ & 0x0F);
-        switch (status_ & 0xF0) {
-        case 0x80:
+        const auto channel = static_cast<std::uint8_t>(status_ & midi::kChannelMask);
+        switch (status_ & midi::kKindMask) {
+        case midi::kNoteOff:
             dataByte(track);
             readNoteOff(channel, data);
             break;
-        case 0x90:
+        case midi::kNoteOn:
             if (const std::uint8_t velocity = dataByte(track)) {
                 open_.begin(channel, data, {tick_, static_cast<std::uint32_t>(events_.size())});
                 events_.push_back({beats(), 0.0F, MidiEvent::Kind::Note, channel, data, velocity});
@@ -90,8 +91,8 @@ private:
                 readNoteOff(channel, data);
             }
             break;
-        case 0xC0:
-        case 0xD0:
+        case midi::kProgramChange:
+        case midi::kChannelPressure:
             addOther();
             break;
         default:
@@ -114,9 +115,9 @@ private:
     {
         const std::size_t at = track.offset();
         const std::uint8_t status = track.byte();
-        if (status == 0xFF)
+        if (status == midi::kMetaEvent)
             return readMetaEvent(track, at);
-        if (status != 0xF0 && status != 0xF7)
+        if (status != midi::kSystemExclusive && status != midi::kEscape)
             throw FormatError::atByte(
                 at, fmt::format("a file cannot hold an event of status 0x{:02X}", status));
         track.skip(track.quantity());
@@ -126,22 +127,18 @@ private:
 
     bool readMetaEvent(MidiFileCursor& track, std::size_t at)
     {
-        constexpr std::uint8_t kEndOfTrack = 0x2F;
-        constexpr std::uint8_t kTempo = 0x51;
-        constexpr std::uint8_t kSequencerSpecific = 0x7F;
-
         const std::uint8_t type = track.byte();
         const std::uint32_t length = track.quantity();
         MidiFileCursor body = track.part(length, "");
-        if (type == kEndOfTrack)
+        if (type == midi::kEndOfTrack)
             return true;
-        if (type == kSequencerSpecific && length == kPassedOver.size() + 1 &&
+        if (type == midi::kSequencerSpecific && length == kPassedOver.size() + 1 &&
             body.text(kPassedOver.size()) == kPassedOver) {
             body.skip(kPassedOver.size());
             passedOver_ = body.byte();
             return false;
         }
-        if (type == kTempo) {
+        if (type == midi::kTempo) {
             if (length != 3)
                 throw FormatError::atByte(
                     at, fmt::format("a tempo event of {} bytes instead of 3", length));

@@ -1,6 +1,7 @@
 #include "midi/StandardMidiFileWriter.h"
 
 #include "midi/OpenNotes.h"
+#include "midi/messages.h"
 
 #include <algorithm>
 #include <cassert>
@@ -51,8 +52,8 @@ std::vector<Message> messagesOf(std::span<const MidiEvent> notes)
         const auto status = [&](int kind) {
             return static_cast<std::uint8_t>(kind | note.channel);
         };
-        messages.push_back({begin, end, status(0x90), note.key, note.velocity});
-        messages.push_back({end, 0, status(0x80), note.key, 0});
+        messages.push_back({begin, end, status(midi::kNoteOn), note.key, note.velocity});
+        messages.push_back({end, 0, status(midi::kNoteOff), note.key, 0});
     }
     std::stable_sort(messages.begin(), messages.end(), comesBefore);
     return messages;
@@ -74,12 +75,20 @@ void addQuantity(std::string& bytes, std::uint64_t value)
     bytes += static_cast<char>(value & 0x7F);
 }
 
+/// Adds the head of a meta event with `size` bytes of data.
+void addMetaEvent(std::string& bytes, std::uint8_t type, std::size_t size)
+{
+    addNumber(bytes, midi::kMetaEvent, 1);
+    addNumber(bytes, type, 1);
+    addQuantity(bytes, size);
+}
+
 void addDelta(std::string& bytes, std::uint64_t delta)
 {
-    // An empty text stands where a pause of nine hours goes on.
+    // Empty text events split a pause that is too long for one delta time.
     for (; delta > kLongestDelta; delta -= kLongestDelta) {
         addQuantity(bytes, kLongestDelta);
-        bytes.append("\xFF\x01\x00", 3);
+        addMetaEvent(bytes, midi::kText, 0);
     }
     addQuantity(bytes, delta);
 }
@@ -87,8 +96,7 @@ void addDelta(std::string& bytes, std::uint64_t delta)
 /// Adds what goes before a note-off that passes notes over, and the time between them: none.
 void addPassedOver(std::string& bytes, std::size_t notes)
 {
-    bytes.append("\xFF\x7F", 2);
-    addQuantity(bytes, kPassedOver.size() + 1);
+    addMetaEvent(bytes, midi::kSequencerSpecific, kPassedOver.size() + 1);
     bytes += kPassedOver;
     addNumber(bytes, notes, 1);
     addDelta(bytes, 0);
@@ -118,7 +126,7 @@ std::string writeStandardMidiFile(std::span<const MidiEvent> notes)
     for (const Message& message : messagesOf(notes)) {
         addDelta(track, message.tick - tick);
         tick = message.tick;
-        const unsigned channel = message.status & 0x0FU;
+        const unsigned channel = static_cast<unsigned>(message.status & midi::kChannelMask);
         if (message.until > 0) {
             ends.begin(channel, message.key, message.until);
         } else {
@@ -134,7 +142,8 @@ std::string writeStandardMidiFile(std::span<const MidiEvent> notes)
         addNumber(track, message.key, 1);
         addNumber(track, message.velocity, 1);
     }
-    track.append("\x00\xFF\x2F\x00", 4);
+    addDelta(track, 0);
+    addMetaEvent(track, midi::kEndOfTrack, 0);
 
     std::string file;
     addChunk(file, "MThd", header);

@@ -1,5 +1,7 @@
 #include "midi/midiRead.h"
 
+#include "midi/messages.h"
+
 #include <algorithm>
 #include <array>
 
@@ -8,11 +10,9 @@ namespace velmora {
 namespace {
 
 /// The controllers that move the sliders 0, 1, 2…
-constexpr std::array<std::uint8_t, 5> kSliderControllers{7, 11, 76, 77, 78};
-
-constexpr std::uint8_t kNoteOff = 0x80;
-constexpr std::uint8_t kNoteOn = 0x90;
-constexpr std::uint8_t kChannelPressure = 0xD0;
+constexpr std::array<std::uint8_t, 5> kSliderControllers{midi::kChannelVolume, midi::kExpression,
+                                                         midi::kVibratoRate, midi::kVibratoDepth,
+                                                         midi::kVibratoDelay};
 
 /// A data byte as a velocity or a volume.
 float fraction(std::uint8_t value)
@@ -22,7 +22,7 @@ float fraction(std::uint8_t value)
 
 void readNote(std::uint8_t status, std::uint8_t key, std::uint8_t value, LiveInput& input)
 {
-    if (status == kNoteOn && value != 0)
+    if (status == midi::kNoteOn && value != 0)
         input.keyOn(key, fraction(value));
     else
         input.keyOff(key);
@@ -48,15 +48,15 @@ bool readPacket(MidiPacket bytes, LiveInput& input)
     bool notesChanged = false;
     while (!bytes.empty()) {
         const std::uint8_t first = bytes[0];
-        const std::uint8_t status = first & 0xF0;
+        const std::uint8_t status = first & midi::kKindMask;
         const bool whole = bytes.size() >= 3;
-        if (status == kNoteOn || status == kNoteOff) {
+        if (status == midi::kNoteOn || status == midi::kNoteOff) {
             if (whole) {
                 readNote(status, bytes[1], bytes[2], input);
                 notesChanged = true;
             }
             bytes = skip(bytes, 3);
-        } else if (status == kChannelPressure) {
+        } else if (status == midi::kChannelPressure) {
             bytes = skip(bytes, 2);
         } else {
             // Taken for a controller whatever the status: pitch bend and program change too.
@@ -66,7 +66,7 @@ bool readPacket(MidiPacket bytes, LiveInput& input)
         }
         // The rest of a message whose status did not come with it: three bytes were taken above,
         // one goes here, and whatever they are the key of that number is let go.
-        if (first < 0x80) {
+        if (first < midi::kStatusBit) {
             input.keyOff(first);
             bytes = skip(bytes, 1);
         }

@@ -1,5 +1,6 @@
 #include "sound/MIDIInstrument.h"
 
+#include "midi/messages.h"
 #include "sound/KeyTables.h"
 #include "tuning/Temperament.h"
 
@@ -8,8 +9,6 @@
 namespace velmora {
 
 namespace {
-
-constexpr int kAllSoundOff = 120;
 
 /// The channel of a pitch class. Channel 9 is General MIDI's percussion, so A moves to channel 12.
 int channelOf(int key)
@@ -29,7 +28,7 @@ std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<Musi
 {
     device_.swap(device);
     for (int channel = 0; channel < kChannels; ++channel)
-        device_->midiEvent(0xB0 | channel, 0, 0);
+        device_->midiEvent(midi::kControlChange | channel, midi::kBankSelect, 0);
     setInstrument(program_);
     return device;
 }
@@ -58,18 +57,18 @@ std::size_t MIDIInstrument::numStops() const
 void MIDIInstrument::play(int key, float velocity)
 {
     const int value = static_cast<int>(velocity * 127.0F * volume_);
-    device_->midiEvent(0x90 | channelOf(key), key, value);
+    device_->midiEvent(midi::kNoteOn | channelOf(key), key, value);
 }
 
 void MIDIInstrument::stop(int key)
 {
-    device_->midiEvent(0x80 | channelOf(key), key, 0);
+    device_->midiEvent(midi::kNoteOff | channelOf(key), key, 0);
 }
 
 void MIDIInstrument::silence()
 {
     for (int channel = 0; channel < kChannels; ++channel)
-        device_->midiEvent(0xB0 | channel, kAllSoundOff, 0);
+        device_->midiEvent(midi::kControlChange | channel, midi::kAllSoundOff, 0);
 }
 
 void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/)
@@ -81,7 +80,8 @@ void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/
         const double steps = std::floor(bend);
         const int leastSignificant = static_cast<int>((bend - steps) * 128.0);
         const int mostSignificant = static_cast<int>(steps) + 64;
-        device_->midiEvent(0xE0 | channelOf(pitchClass), leastSignificant, mostSignificant);
+        device_->midiEvent(midi::kPitchBend | channelOf(pitchClass), leastSignificant,
+                           mostSignificant);
     }
 }
 
@@ -89,7 +89,7 @@ void MIDIInstrument::setInstrument(std::uint8_t program)
 {
     program_ = program;
     for (int channel = 0; channel < kChannels; ++channel)
-        device_->midiEvent(0xC0 | channel, program, 0);
+        device_->midiEvent(midi::kProgramChange | channel, program, 0);
 }
 
 } // namespace velmora

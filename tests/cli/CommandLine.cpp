@@ -123,7 +123,7 @@ TEST_F(CommandLine, FailsWithASentence)
         {{"--loop-start", "4", "--loop-end", "inf"}, 2, "--loop-end"},
         {{"--rate", "nan"}, 2, "--rate"},
         {{"--tail", "nan"}, 2, "--tail"},
-        {{"info", "song.txt"}, 1, "song.txt: is no kind of file"},
+        {{"info", "song.txt"}, 1, "song.txt: unrecognised file type"},
         {{"info", "broken.mid", "--json"}, 1, "velmora: broken.mid, byte 4: "},
     };
     const auto before = files();

@@ -64,21 +64,21 @@ protected:
 
     bool read(const std::filesystem::path& path)
     {
-        return document_.readFromURL(path, InstrumentDocument::typeOf(path), host_);
+        return document_.read(path, instrumentFormatOf(path).value(), host_);
     }
 
     /// What the document holds, in a line.
     std::string summary() const
     {
         const ImportReport& report = document_.report();
-        return fmt::format("{}, {}: {} ranks, {} pipes, {} samples", document_.getName(),
+        return fmt::format("{}, {}: {} ranks, {} pipes, {} samples", document_.name(),
                            instrument().stops().at(0).name, report.ranks, report.pipes,
                            report.samples);
     }
 
     ALInstrument& instrument() const
     {
-        return dynamic_cast<ALInstrument&>(*document_.getInstrument());
+        return dynamic_cast<ALInstrument&>(*document_.instrument());
     }
 
     OpenALLoopback loopback_{48'000};
@@ -92,7 +92,7 @@ TEST_F(InstrumentDocumentTest, LoadsAnXmlOrgan)
     ASSERT_TRUE(read(writeXml("123", "0"))) << document_.errorString();
     EXPECT_EQ(summary(), "St. Anne, Flute: 2 ranks, 4 pipes, 2 samples");
     EXPECT_EQ(instrument().getVolume(1), 0.0F) << "just the first stop is heard";
-    EXPECT_EQ(document_.getSize(), 4 * 192'000) << "a shared sound counts each time";
+    EXPECT_EQ(document_.size(), 4 * 192'000) << "a shared sound counts each time";
     EXPECT_THAT(host_.calls,
                 ElementsAre("start 6", "1 Flute\\C.wav", "1 Flute\\C.wav", "1 Flute\\none.wav",
                             "1 flute/A.WAV", "1 x.wav", "1 Flute\\C.wav", "0 Done 6"));
@@ -161,7 +161,7 @@ TEST_F(InstrumentDocumentTest, LeavesNothingBehindWhenCancelled)
     host_ = RecordingHost(2);
     EXPECT_FALSE(read(writeXml("123", "0")));
     EXPECT_EQ(document_.errorString(), "");
-    EXPECT_EQ(document_.getInstrument(), nullptr);
+    EXPECT_EQ(document_.instrument(), nullptr);
     EXPECT_THAT(host_.calls, testing::SizeIs(3));
     for (unsigned name = 1; name < 1000; ++name)
         EXPECT_FALSE(alIsSource(name) || alIsBuffer(name)) << name;

@@ -25,7 +25,7 @@ std::string shown(const RIFF::Chunk& element)
         for (const auto& child : list->children)
             inside += shown(*child);
     }
-    return numbers({element.getType()}, 4) + "(" + inside + ")";
+    return numbers({element.type()}, 4) + "(" + inside + ")";
 }
 
 } // namespace

@@ -100,7 +100,7 @@ public:
         for (const auto& state : noteStates)
             require(state == 0, "a key is held");
         for (std::size_t i = 0; changesInstruments_ && i < app_.instruments().size(); ++i)
-            if (app_.instruments()[i]->getInstrument() != nullptr) {
+            if (app_.instruments()[i]->instrument() != nullptr) {
                 app_.selectInstrument(i);
                 for (int key = 0; key < static_cast<int>(kKeys); ++key)
                     app_.keyOff(key);
@@ -114,7 +114,7 @@ public:
             }
         app_.selectTuning("Equal");
         for (std::size_t i = 1; i < app_.instruments().size(); ++i)
-            require(app_.instruments()[i]->getInstrument() == nullptr || app_.unloadInstrument(i),
+            require(app_.instruments()[i]->instrument() == nullptr || app_.unloadInstrument(i),
                     "an organ cannot be unloaded");
         app_.selectInstrument(0);
         QCoreApplication::processEvents();
@@ -317,7 +317,7 @@ private:
                           "FirstAccessibleKeyMIDINoteNumber=48\n[Stop001]\nName=Flute\n"
                           "Pipe001=a.wav\nPipe013=b.wav\n[Stop002]\nPipe007=b.wav\n");
         auto document = std::make_unique<InstrumentDocument>();
-        require(document->readFromURL(path, "Organ", app_), document->errorString());
+        require(document->read(path, InstrumentFormat::Hauptwerk1, app_), document->errorString());
         app_.addInstrument(std::move(document));
     }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "midi/messages.h"
+
 #include <cstddef>
 #include <initializer_list>
 #include <string>
@@ -42,23 +44,23 @@ inline std::string header(std::size_t format, std::size_t tracks, std::size_t di
 
 inline std::string on(std::size_t delta, int key, int velocity = 127, int channel = 0)
 {
-    return quantity(delta) + bytes({0x90 | channel, key, velocity});
+    return quantity(delta) + bytes({kNoteOn | channel, key, velocity});
 }
 
 inline std::string off(std::size_t delta, int key, int channel = 0)
 {
-    return quantity(delta) + bytes({0x80 | channel, key, 64});
+    return quantity(delta) + bytes({kNoteOff | channel, key, 64});
 }
 
 inline std::string tempo(std::size_t delta, std::size_t microseconds)
 {
-    return quantity(delta) + bytes({0xFF, 0x51, 3}) + number(microseconds, 3);
+    return quantity(delta) + bytes({kMetaEvent, kTempo, 3}) + number(microseconds, 3);
 }
 
 /// A chunk with the events and an end-of-track mark.
 inline std::string track(const std::string& events)
 {
-    return chunk("MTrk", events + bytes({0, 0xFF, 0x2F, 0}));
+    return chunk("MTrk", events + bytes({0, kMetaEvent, kEndOfTrack, 0}));
 }
 
 /// A file of format 0.

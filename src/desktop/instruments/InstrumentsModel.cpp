@@ -37,12 +37,12 @@ QVariant InstrumentsModel::data(const QModelIndex& index, int role) const
 {
     const InstrumentDocument& document =
         *application_.instruments().at(static_cast<std::size_t>(index.row()));
-    const bool isUnloaded = document.getInstrument() == nullptr;
+    const bool isUnloaded = document.instrument() == nullptr;
     switch (role) {
     case Qt::DisplayRole:
         return QString::fromStdString(
-            index.column() == kName ? document.getName()
-                                    : sizeString(static_cast<std::uint64_t>(document.getSize())));
+            index.column() == kName ? document.name()
+                                    : sizeString(static_cast<std::uint64_t>(document.size())));
     case Qt::TextAlignmentRole:
         return index.column() == kSize ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     case Qt::ForegroundRole:

@@ -77,7 +77,7 @@ int InstrumentsWindow::currentRow() const
 {
     const auto& instruments = application_.instruments();
     const auto current = std::ranges::find(instruments, application_.getInstrument(),
-                                           &InstrumentDocument::getInstrument);
+                                           &InstrumentDocument::instrument);
     return current == instruments.end() ? kNone : static_cast<int>(current - instruments.begin());
 }
 
@@ -87,13 +87,13 @@ void InstrumentsWindow::updateButtons()
     const InstrumentDocument* document =
         isSelected ? application_.instruments().at(selectedRow()).get() : nullptr;
     const bool isFromFile = document != nullptr && document->isFromFile();
-    unloadButton_->setEnabled(isFromFile && document->getInstrument() != nullptr);
+    unloadButton_->setEnabled(isFromFile && document->instrument() != nullptr);
     reportButton_->setEnabled(isFromFile);
 }
 
 void InstrumentsWindow::unload()
 {
-    const std::string name = application_.instruments().at(selectedRow())->getName();
+    const std::string name = application_.instruments().at(selectedRow())->name();
     if (!application_.unloadInstrument(selectedRow()))
         emit refused(tr("%1 is still sounding. Silence everything, then unload it.")
                          .arg(QString::fromStdString(name)));

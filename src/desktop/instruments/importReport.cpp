@@ -17,7 +17,7 @@ void showImportReport(QWidget& parent, const InstrumentDocument& document)
 {
     const ImportReport& report = document.report();
     QMessageBox box(QMessageBox::Information, QObject::tr("Import Report"),
-                    QString::fromStdString(document.getName()), QMessageBox::Close, &parent);
+                    QString::fromStdString(document.name()), QMessageBox::Close, &parent);
     QString summary = QObject::tr("%1 stops, %2 keys, %3 samples.")
                           .arg(report.ranks)
                           .arg(report.pipes)

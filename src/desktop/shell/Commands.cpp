@@ -145,11 +145,10 @@ void Commands::showInstruments()
     instruments_->clear();
     std::size_t position = 0;
     for (const auto& document : application_.instruments()) {
-        QAction* action =
-            instruments_->addAction(escaped(document->getName()), this,
-                                    [this, position] { emit instrumentChosen(position); });
+        QAction* action = instruments_->addAction(
+            escaped(document->name()), this, [this, position] { emit instrumentChosen(position); });
         action->setCheckable(true);
-        action->setChecked(document->getInstrument() == application_.getInstrument());
+        action->setChecked(document->instrument() == application_.getInstrument());
         ++position;
     }
     instruments_->addSeparator();

@@ -146,11 +146,11 @@ void Desktop::openFile(const QString& path)
 {
     const std::filesystem::path file(path.toStdString());
     const std::string tuning = TuningDocument::typeOf(file);
-    const std::string instrument = InstrumentDocument::typeOf(file);
+    const auto instrument = instrumentFormatOf(file);
     if (!tuning.empty())
         openTuning(path, tuning);
-    else if (!instrument.empty())
-        openInstrument(path, instrument);
+    else if (instrument)
+        openInstrument(path, *instrument);
     else if (!sequenceTypeOf(file).empty())
         openSequence(path);
     else
@@ -172,7 +172,7 @@ void Desktop::openTuning(const QString& path, const std::string& type)
     commands_.addRecent(path);
 }
 
-void Desktop::openInstrument(const QString& path, const std::string& type)
+void Desktop::openInstrument(const QString& path, InstrumentFormat format)
 {
     const QString name = QFileInfo(path).fileName();
     if (!application_.canPlaySamples()) {
@@ -182,14 +182,14 @@ void Desktop::openInstrument(const QString& path, const std::string& type)
         return;
     }
     auto document = std::make_unique<InstrumentDocument>();
-    const bool isRead = document->readFromURL(path.toStdString(), type, application_);
+    const bool isRead = document->read(path.toStdString(), format, application_);
     progressWindow_.endProgress();
     if (!isRead) {
         if (!document->errorString().empty())
             showError(QString::fromStdString(document->errorString()));
         return;
     }
-    if (document->getInstrument() == nullptr) {
+    if (document->instrument() == nullptr) {
         showError(tr("%1: contains no instrument that Velmora can play").arg(name));
         return;
     }

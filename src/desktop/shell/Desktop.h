@@ -48,7 +48,7 @@ private:
     void openWaiting();
     void openFile(const QString& path);
     void openTuning(const QString& path, const std::string& type);
-    void openInstrument(const QString& path, const std::string& type);
+    void openInstrument(const QString& path, InstrumentFormat format);
     void openSequence(const QString& path);
     void selectInstrument(std::size_t position);
     void askForFiles();

@@ -233,7 +233,7 @@ TEST_F(DesktopTest, OpensDroppedFilesByType)
     table.setCurrentIndex(table.model()->index(1, 0));
     EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
     EXPECT_EQ(application.instrumentName(), "Small");
-    EXPECT_GT(application.instruments()[1]->getSize(), 0);
+    EXPECT_GT(application.instruments()[1]->size(), 0);
 }
 
 TEST_F(DesktopTest, AppliesPreferencesImmediately)

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+
+namespace velmora {
+
+/// The bytes of MIDI messages ("MIDI 1.0 Detailed Specification", MIDI Manufacturers Association).
+namespace midi {
+
+/// Set in every status byte, clear in every data byte.
+constexpr std::uint8_t kStatusBit = 0x80;
+
+/// Splits the status of a channel message into its kind and its channel.
+constexpr std::uint8_t kKindMask = 0xF0;
+constexpr std::uint8_t kChannelMask = 0x0F;
+
+// Kinds of channel messages, to be combined with a channel.
+constexpr std::uint8_t kNoteOff = 0x80;
+constexpr std::uint8_t kNoteOn = 0x90; ///< With velocity 0 it releases the key.
+constexpr std::uint8_t kControlChange = 0xB0;
+constexpr std::uint8_t kProgramChange = 0xC0;   ///< One data byte.
+constexpr std::uint8_t kChannelPressure = 0xD0; ///< One data byte.
+constexpr std::uint8_t kPitchBend = 0xE0;       ///< The low seven bits first.
+
+// Statuses without a channel.
+constexpr std::uint8_t kFirstSystemStatus = 0xF0;
+constexpr std::uint8_t kSystemExclusive = 0xF0;
+constexpr std::uint8_t kEscape = 0xF7; ///< In a file: a continued exclusive message or any bytes.
+constexpr std::uint8_t kMetaEvent = 0xFF; ///< In a file; its type follows.
+
+// Types of meta events.
+constexpr std::uint8_t kText = 0x01;
+constexpr std::uint8_t kEndOfTrack = 0x2F;
+constexpr std::uint8_t kTempo = 0x51; ///< Three bytes: microseconds in a quarter note.
+constexpr std::uint8_t kSequencerSpecific = 0x7F;
+
+// Controllers.
+constexpr std::uint8_t kBankSelect = 0;
+constexpr std::uint8_t kChannelVolume = 7;
+constexpr std::uint8_t kExpression = 11;
+constexpr std::uint8_t kVibratoRate = 76;
+constexpr std::uint8_t kVibratoDepth = 77;
+constexpr std::uint8_t kVibratoDelay = 78;
+constexpr std::uint8_t kAllSoundOff = 120;
+
+} // namespace midi
+
+} // namespace velmora
