@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sequencer/LiveKeys.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 
@@ -33,12 +34,13 @@ inline void selectTenth(Sequence& sequence)
 /// No instrument: the cost is that of finding the notes.
 class SilentHost : public SequenceHost {
 public:
-    Instrument* getInstrument() override { return nullptr; }
-    Temperament* getTemperament() override { return nullptr; }
-    std::mutex& soundLock() override { return lock_; }
+    void play(int /*key*/, float /*velocity*/) override {}
+    void stop(int /*key*/) override {}
+    void isomorph(int /*n*/) override {}
+    LiveKeys& liveKeys() override { return liveKeys_; }
 
 private:
-    std::mutex lock_;
+    LiveKeys liveKeys_;
 };
 
 } // namespace velmora

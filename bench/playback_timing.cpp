@@ -85,7 +85,7 @@ int main(int argc, char** argv)
     auto synthesizer = std::make_unique<Synthesizer>(output->rate(), generalMidiBanks());
     output->play(synthesizer.get());
     application.makeMIDIPlayer(std::move(synthesizer));
-    TimedInstrument instrument(*application.getInstrument());
+    TimedInstrument instrument(*application.instruments().front()->instrument());
     application.setInstrument(instrument, "timed");
     application.selectTuning("Dynamic");
 

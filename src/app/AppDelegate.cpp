@@ -1,13 +1,9 @@
 #include "app/AppDelegate.h"
 
-#include "app/fading.h"
 #include "audio/Synthesizer.h"
-#include "base/Clock.h"
 #include "base/Log.h"
 #include "preferences/Preferences.h"
-#include "sound/KeyTables.h"
 
-#include <algorithm>
 #include <cassert>
 #include <chrono>
 
@@ -16,21 +12,15 @@ namespace velmora {
 namespace {
 
 constexpr const char* kDynamic = "Dynamic";
-constexpr int kLastKey = static_cast<int>(kKeys) - 1;
 
-/// The rate of a synthesizer that nothing plays.
+/// The rate of the synthesizer if there is no output.
 constexpr double kUsualRate = 48000.0;
 
-/// In the place of the synthesizer until its bank is loaded.
+/// Takes the synthesizer's place until its bank is loaded.
 class SilentDevice : public MusicDevice {
 public:
     void midiEvent(int /*status*/, int /*data1*/, int /*data2*/) override {}
 };
-
-bool isKey(int key)
-{
-    return key >= 0 && key < static_cast<int>(kKeys);
-}
 
 } // namespace
 
@@ -57,7 +47,7 @@ AppDelegate::AppDelegate() : queue_([this](const InputEvent& event) { take(event
 
 AppDelegate::~AppDelegate() = default;
 
-void AppDelegate::applicationDidFinishLaunching()
+void AppDelegate::start()
 {
     openAL_ = OpenALDevice::open();
     output_ = AudioOutput::open();
@@ -66,7 +56,7 @@ void AppDelegate::applicationDidFinishLaunching()
     makeMIDIPlayer(std::make_unique<SilentDevice>());
     loadBank();
     fadeTimer_ = std::make_unique<IntervalTimer>(kFadeInterval, [this] {
-        loop();
+        player_.fade();
         if (userIsActive_.exchange(false))
             displayWake_.userActivity();
     });
@@ -75,7 +65,7 @@ void AppDelegate::applicationDidFinishLaunching()
 void AppDelegate::makeBuiltinTunings()
 {
     auto equalTuning = TuningDocument::initBuiltin("Equal");
-    temperament_ = &equalTuning->getTemperament();
+    player_.setTemperament(equalTuning->getTemperament());
     tuningName_ = equalTuning->getName();
     putTuning(std::move(equalTuning));
     putTuning(TuningDocument::initBuiltin("Quartercomma Meantone"));
@@ -128,11 +118,10 @@ void AppDelegate::playThrough(std::unique_ptr<Synthesizer> synthesizer)
     Synthesizer* sounding = synthesizer.get();
     bank_ = sounding->bank();
     std::unique_ptr<MusicDevice> before;
-    {
-        const std::lock_guard lock(soundLock_);
+    player_.with([&](Instrument& /*current*/, Temperament& temperament) {
         before = midiPlayer_->exchangeDevice(std::move(synthesizer));
-        midiPlayer_->tune(*temperament_, 0, kLastKey);
-    }
+        midiPlayer_->tune(temperament, 0, kLastKey);
+    });
     if (output_)
         output_->play(sounding);
 }
@@ -149,14 +138,15 @@ void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
 
 void AppDelegate::setInstrument(Instrument& instrument, const std::string& name)
 {
-    {
-        const std::lock_guard lock(soundLock_);
-        assert(temperament_ != nullptr);
-        instrument_ = &instrument;
-        instrument_->tune(*temperament_, 0, kLastKey);
-    }
+    player_.setInstrument(instrument);
     instrumentName_ = name;
     emit instrumentChanged();
+}
+
+bool AppDelegate::isCurrent(const InstrumentDocument& document) const
+{
+    const Instrument* instrument = document.instrument();
+    return instrument != nullptr && player_.isCurrent(*instrument);
 }
 
 bool AppDelegate::selectInstrument(std::size_t position)
@@ -174,11 +164,11 @@ bool AppDelegate::selectInstrument(std::size_t position)
 bool AppDelegate::unloadInstrument(std::size_t position)
 {
     InstrumentDocument& document = *instruments_.at(position);
-    Instrument* const unloaded = document.instrument();
-    if (unloaded == nullptr || !document.canUnload())
+    if (document.instrument() == nullptr || !document.canUnload())
         return false;
-    if (unloaded == instrument_)
+    if (isCurrent(document))
         selectInstrument(0);
+    player_.remove(*document.instrument());
     document.unload();
     emit instrumentsChanged();
     return true;
@@ -186,28 +176,17 @@ bool AppDelegate::unloadInstrument(std::size_t position)
 
 void AppDelegate::setMIDIProgram(std::uint8_t program)
 {
-    const std::lock_guard lock(soundLock_);
-    if (instrument_ != nullptr)
-        instrument_->setInstrument(program);
+    player_.with([&](Instrument& instrument, Temperament&) { instrument.setInstrument(program); });
 }
 
 void AppDelegate::setVolumeOfStop(std::size_t stop, float volume)
 {
-    const std::lock_guard lock(soundLock_);
-    if (instrument_ != nullptr)
-        instrument_->setVolume(stop, volume);
+    player_.with([&](Instrument& instrument, Temperament&) { instrument.setVolume(stop, volume); });
 }
 
 void AppDelegate::silenceAll()
 {
-    {
-        const std::lock_guard lock(soundLock_);
-        for (auto& state : noteStates)
-            state = 0;
-        for (const auto& document : instruments_)
-            if (Instrument* instrument = document->instrument())
-                instrument->silence();
-    }
+    player_.silence();
     midiInput();
 }
 
@@ -245,13 +224,9 @@ bool AppDelegate::selectTuning(const std::string& name)
     if (name == kDynamic && !tunings_.contains(name))
         putTuning(TuningDocument::initBuiltin(name));
     const auto found = tunings_.find(name);
-    if (found != tunings_.end()) {
-        const std::lock_guard lock(soundLock_);
-        temperament_ = &found->second->getTemperament();
-        if (instrument_ != nullptr)
-            instrument_->tune(*temperament_, 0, kLastKey);
-    }
-    if (found == tunings_.end() || instrument_ == nullptr)
+    if (found != tunings_.end())
+        player_.setTemperament(found->second->getTemperament());
+    if (found == tunings_.end() || instrumentName_.empty())
         logger("app").warn("Tuning or instrument not found '{}'", name);
     if (found == tunings_.end())
         return false;
@@ -260,51 +235,13 @@ bool AppDelegate::selectTuning(const std::string& name)
     return true;
 }
 
-void AppDelegate::loop()
-{
-    fadeOnce(*this);
-    // Keys that were released before another instrument was chosen die away like the others.
-    const std::lock_guard lock(soundLock_);
-    for (const auto& document : instruments_)
-        if (Instrument* other = document->instrument(); other != nullptr && other != instrument_)
-            other->fade(kFadeFactor);
-}
-
-void AppDelegate::keyOn(int key, float velocity)
-{
-    if (!isKey(key))
-        return;
-    const double arrived = getTime();
-    const std::lock_guard lock(soundLock_);
-    notePressTimes[static_cast<std::size_t>(key)] = arrived;
-    velocity = std::clamp(velocity, 0.0F, 1.0F);
-    noteVelocities[static_cast<std::size_t>(key)] = velocity;
-    noteStates[static_cast<std::size_t>(key)] = 1;
-    if (instrument_ == nullptr)
-        return;
-    temperament_->setup(*instrument_, static_cast<unsigned char>(key), velocity);
-    instrument_->play(key, velocity);
-}
-
-void AppDelegate::keyOff(int key)
-{
-    if (!isKey(key))
-        return;
-    const double arrived = getTime();
-    const std::lock_guard lock(soundLock_);
-    noteReleaseTimes[static_cast<std::size_t>(key)] = arrived;
-    noteStates[static_cast<std::size_t>(key)] = 0;
-    if (instrument_ != nullptr)
-        instrument_->stop(key);
-}
-
 void AppDelegate::setVolume(float volume, std::size_t slider)
 {
-    // Of two devices that move the same slider, the one that moves it last does so in both places.
-    const std::lock_guard lock(soundLock_);
-    queue_.post({InputEvent::Kind::Volume, slider, volume});
-    if (instrument_ != nullptr)
-        instrument_->setVolume(slider, volume);
+    // Posted under the lock: if two devices move a slider, both places keep the later value.
+    player_.with([&](Instrument& instrument, Temperament&) {
+        queue_.post({InputEvent::Kind::Volume, slider, volume});
+        instrument.setVolume(slider, volume);
+    });
 }
 
 void AppDelegate::midiInput()

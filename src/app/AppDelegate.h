@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/InputQueue.h"
+#include "app/Player.h"
 #include "audio/AudioOutput.h"
 #include "audio/OpenALDevice.h"
 #include "import/InstrumentDocument.h"
@@ -9,7 +10,6 @@
 #include "midi/midiRead.h"
 #include "platform/DisplayWake.h"
 #include "platform/IntervalTimer.h"
-#include "sequencer/SequenceHost.h"
 #include "sound/MIDIInstrument.h"
 #include "tuning/TuningDocument.h"
 
@@ -20,7 +20,6 @@
 #include <future>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <vector>
 
@@ -28,67 +27,70 @@ namespace velmora {
 
 class Synthesizer;
 
-/// The SoundFonts to try for the General MIDI synthesizer, the one that the user prefers first.
+/// The SoundFonts to try for the General MIDI synthesizer; the user's choice comes first.
 std::vector<std::filesystem::path> generalMidiBanks();
 
-/// The application without its windows: the current instrument and temperament, the lists that they
-/// are chosen from, the sound output, the MIDI inputs, and the way of a key from one to the other.
+/// The application without its windows: the lists of instruments and tunings, the devices, and the
+/// player that they meet in.
 ///
-/// Keys, volumes, `midiInput` and `soundLock` come on any thread, and under that lock
-/// `getInstrument` and `getTemperament`; everything else is called on the main thread.
-class AppDelegate : public QObject, public LiveInput, public SequenceHost, public InstrumentHost {
+/// The functions of `LiveInput` may be called on any thread, all others on the main thread.
+class AppDelegate : public QObject, public LiveInput, public InstrumentHost {
     Q_OBJECT
 
 public:
     AppDelegate();
     ~AppDelegate() override;
 
-    /// Starts live playing: opens the sound outputs, connects the MIDI inputs, makes the built-in
-    /// tunings and the General MIDI player, starts the fade timer. What the machine does not have
-    /// is logged and done without. Needs a QCoreApplication.
-    void applicationDidFinishLaunching();
+    /// Starts live playing: opens the sound outputs, connects the MIDI inputs, creates the built-in
+    /// tunings and the General MIDI player, and starts the fade timer. Anything that the machine
+    /// lacks is logged, and the rest works without it. Needs a QCoreApplication.
+    void start();
 
-    /// Makes the tunings "Equal", which becomes the current one, and "Quartercomma Meantone".
-    /// Comes before any instrument.
+    /// Creates the tunings "Equal", which becomes the current one, and "Quartercomma Meantone".
+    /// To be called before any instrument is added.
     void makeBuiltinTunings();
 
-    /// Makes the General MIDI player on a synthesizer; it becomes the current instrument.
+    /// Creates the General MIDI player on a synthesizer; it becomes the current instrument.
     void makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer);
 
-    /// Loads the bank of the General MIDI player anew, in the background, as the preferences name
-    /// it: `bankLoaded` tells when it sounds.
+    /// Loads the preferred bank of the General MIDI player in the background; `bankLoaded` follows.
     void loadBank();
 
-    /// Waits until the bank sounds that is being loaded.
+    /// Waits until the bank that is being loaded can be played.
     void waitForBank();
 
     /// The SoundFont of the General MIDI player; empty while there is none.
     const std::filesystem::path& bank() const { return bank_; }
 
-    /// Lists an instrument and makes it the current one. A document without one is left out.
+    /// The current instrument and temperament, and the keys that sound.
+    Player& player() { return player_; }
+
+    /// Lists an instrument and makes it the current one. A document without one is ignored.
     void addInstrument(std::unique_ptr<InstrumentDocument> document);
 
-    /// The listed instruments, in the order in which they came. One without an instrument has been
-    /// unloaded.
+    /// The listed instruments in the order in which they were added. A document without an
+    /// instrument has been unloaded.
     const std::vector<std::unique_ptr<InstrumentDocument>>& instruments() const
     {
         return instruments_;
     }
 
-    /// Makes a listed instrument the current one, reading it anew where it was unloaded. False when
-    /// that fails or is cancelled, as its document tells: the current one then stays.
+    /// Makes a listed instrument the current one, loading it again if it was unloaded. Returns
+    /// false if that fails or is cancelled; its document says why, and the current one stays.
     bool selectInstrument(std::size_t position);
 
-    /// Unloads a listed instrument that was read from a file and does not sound; where it is the
-    /// current one, the first of the list takes its place. False when nothing was unloaded.
+    /// Unloads a listed instrument that was read from a file and does not sound. If it is the
+    /// current one, the first of the list takes its place. Returns false if nothing was unloaded.
     bool unloadInstrument(std::size_t position);
 
-    /// Makes an instrument the current one, under a name for display, and tunes it. It must live as
-    /// long as it is the current one. Keys that sound on the one before go on, and die away where
-    /// they were released.
+    /// Makes an instrument the current one, under a name for display, and tunes it. It must outlive
+    /// this object, unless it is removed from the player.
     void setInstrument(Instrument& instrument, const std::string& name);
 
-    /// The name of the current instrument; empty when there is none.
+    /// True if a listed instrument is the current one.
+    bool isCurrent(const InstrumentDocument& document) const;
+
+    /// The name of the current instrument; empty if there is none.
     const std::string& instrumentName() const { return instrumentName_; }
 
     /// Selects a General MIDI program, 0…127, on the current instrument.
@@ -100,35 +102,26 @@ public:
     /// Sets the volume of a stop of the current instrument, as its slider does.
     void setVolumeOfStop(std::size_t stop, float volume);
 
-    /// Ends every sound at once and lets go of every key.
+    /// Ends every sound at once and releases every key.
     void silenceAll();
 
-    /// Lists a tuning under its name, in place of one of that name.
+    /// Lists a tuning under its name, replacing one of the same name.
     void putTuning(std::unique_ptr<TuningDocument> document);
 
     /// The name under which the current tuning was selected.
     const std::string& tuningName() const { return tuningName_; }
 
-    /// The names to choose a tuning by: once for each tuning that was listed, in the order in which
-    /// they were, and "Dynamic".
+    /// The names of all tunings in the order in which they were listed, and "Dynamic". A name that
+    /// was listed twice appears twice.
     std::vector<std::string> tuningNames() const;
 
-    /// Makes the tuning of that name the current one and retunes the instrument, sounding keys too.
-    /// "Dynamic" is made and listed when it is first selected. False when there is none of that
-    /// name: the current one then stays.
+    /// Makes the tuning of that name the current one and retunes the instrument, including sounding
+    /// keys. "Dynamic" is created and listed when it is first selected. Returns false, and keeps
+    /// the current one, if there is no tuning of that name.
     bool selectTuning(const std::string& name);
 
-    /// The tick of the fade timer, 60 in a second.
-    void loop();
-
-    Instrument* getInstrument() override { return instrument_; }
-    Temperament* getTemperament() override { return temperament_; }
-    std::mutex& soundLock() override { return soundLock_; }
-
-    /// Sounds a key at once, on the calling thread. Keys beyond 0…127 are ignored, and velocities
-    /// beyond 0…1 become the nearest of them.
-    void keyOn(int key, float velocity) override;
-    void keyOff(int key) override;
+    void keyOn(int key, float velocity) override { player_.keyOn(key, velocity); }
+    void keyOff(int key) override { player_.keyOff(key); }
     void setVolume(float volume, std::size_t slider) override;
     void midiInput() override;
 
@@ -136,51 +129,50 @@ public:
     void updateProgress(unsigned steps, const std::string& text) override;
     bool isCancelled() const override { return isCancelled_; }
 
-    /// Gives the import that is under way up, at its next step.
+    /// Cancels the running import at its next step.
     void cancelImport() { isCancelled_ = true; }
 
-    /// The synthesizer's sound output; null when there is none, or before launching.
+    /// The synthesizer's sound output; null if there is none, or before `start`.
     const AudioOutput* audioOutput() const { return output_.get(); }
 
-    /// The MIDI inputs; null before launching.
+    /// The MIDI inputs; null before `start`.
     const MidiInputs* midiInputs() const { return inputs_.get(); }
 
-    /// Whether there is an output for sampled instruments.
+    /// True if there is an output for sampled instruments.
     bool canPlaySamples() const { return openAL_ != nullptr; }
 
-    /// Whether the display is kept awake while music is played.
+    /// True if the display is kept awake while music is played.
     bool keepsDisplayAwake() const { return displayWake_.isConnected(); }
 
 signals:
-    /// The held keys have changed. On the main thread, after the keys have sounded.
+    /// The held keys have changed. Emitted on the main thread, after the keys have sounded.
     void midiInputReceived();
 
-    /// Another bank sounds, or none where none could be loaded; the one before where no synthesizer
-    /// could be made.
+    /// The bank changed. Empty if loading failed; unchanged if no synthesizer could be created.
     void bankLoaded();
 
-    /// The thread that loads a bank has done so, or failed.
+    /// The thread that loads a bank has finished or failed.
     void synthesizerMade();
 
-    /// An instrument was listed, unloaded or read anew.
+    /// An instrument was listed, unloaded or loaded again.
     void instrumentsChanged();
 
-    /// Another instrument, or the same one with other stops, is the current one.
+    /// The current instrument, or the stops of the current instrument, have changed.
     void instrumentChanged();
 
     /// A tuning was listed.
     void tuningsChanged();
 
-    /// Another tuning is the current one.
+    /// The current tuning has changed.
     void tuningChanged();
 
-    /// A MIDI controller has moved the slider of a stop. On the main thread.
+    /// A MIDI controller has moved the slider of a stop. Emitted on the main thread.
     void volumeMoved(std::size_t slider, float volume);
 
     /// An import of that many steps begins.
     void progressStarted(long steps);
 
-    /// So many more of its steps, at least one, are done; the text says what the last one was.
+    /// `steps` more steps, at least one, are done; `text` names the last one.
     void progressed(unsigned steps, const std::string& text);
 
 private:
@@ -189,33 +181,29 @@ private:
     void playThrough(std::unique_ptr<Synthesizer> synthesizer);
     void take(const InputEvent& event);
 
-    /// Guards `instrument_` and `temperament_` and every call on them.
-    std::mutex soundLock_;
-    Instrument* instrument_ = nullptr;
-    Temperament* temperament_ = nullptr;
-
     std::string instrumentName_, tuningName_;
     bool isCancelled_ = false;
 
-    /// Before the instruments, which play through it: gone after them.
+    /// Declared before the instruments, which play through it.
     std::unique_ptr<OpenALDevice> openAL_;
     std::vector<std::unique_ptr<InstrumentDocument>> instruments_;
-    /// Every tuning ever listed: one whose name was taken over may still be the current one.
+    /// Every tuning ever listed: one that was replaced may still be the current one.
     std::vector<std::unique_ptr<TuningDocument>> tuningDocuments_;
     std::map<std::string, TuningDocument*> tunings_;
-    MIDIInstrument* midiPlayer_ = nullptr; ///< In the first of the instruments.
+    MIDIInstrument* midiPlayer_ = nullptr; ///< The first of the instruments.
     std::filesystem::path bank_;
 
+    Player player_;
     InputQueue queue_;
     DisplayWake displayWake_;
     std::atomic<bool> userIsActive_{false};
 
-    // Last, and so gone first: their threads call what stands above.
+    // Declared last: their threads use the members above.
     std::unique_ptr<AudioOutput> output_;
     std::unique_ptr<MidiInputs> inputs_;
     std::unique_ptr<IntervalTimer> fadeTimer_;
     std::future<std::unique_ptr<Synthesizer>> loading_;
-    bool loadsAgain_ = false; ///< The preference has changed meanwhile.
+    bool loadsAgain_ = false; ///< The preference has changed while a bank was loading.
 };
 
 } // namespace velmora

@@ -96,7 +96,7 @@ bool AudioExport::write(const std::stop_token& stop, Job job)
     AudioFileWriter file(job.file, options.rate); // first: it tells at once where it cannot be
     Progress progress(*this, stop);
     OfflineSound sound(std::move(job.sound), options.rate, progress);
-    SequenceRenderer renderer(sound, sound.source());
+    SequenceRenderer renderer(sound.player(), sound.source());
     renderer.document().recover(job.sequence);
     const bool rendered = renderer.render(
         options,

@@ -11,7 +11,7 @@ namespace velmora {
 
 namespace {
 
-/// As `setVolume` takes it: a sampled instrument shows the double of it.
+/// The gain that `setVolume` takes: `getVolume` of a sampled instrument returns twice that.
 float gainOf(const Instrument& instrument, std::size_t stop)
 {
     const auto* sampled = dynamic_cast<const ALInstrument*>(&instrument);
@@ -23,17 +23,17 @@ float gainOf(const Instrument& instrument, std::size_t stop)
 SoundSettings currentSettings(AppDelegate& application)
 {
     SoundSettings settings;
-    const std::lock_guard lock(application.soundLock());
-    const Instrument& instrument = *application.getInstrument();
-    settings.temperament = application.getTemperament()->fresh();
-    for (std::size_t stop = 0; stop < instrument.numStops(); ++stop)
-        settings.gains.push_back(gainOf(instrument, stop));
-    if (const auto* player = dynamic_cast<const MIDIInstrument*>(&instrument)) {
-        settings.program = player->program();
-        settings.banks = generalMidiBanks();
-    }
+    application.player().with([&](const Instrument& instrument, const Temperament& temperament) {
+        settings.temperament = temperament.fresh();
+        for (std::size_t stop = 0; stop < instrument.numStops(); ++stop)
+            settings.gains.push_back(gainOf(instrument, stop));
+        if (const auto* player = dynamic_cast<const MIDIInstrument*>(&instrument)) {
+            settings.program = player->program();
+            settings.banks = generalMidiBanks();
+        }
+    });
     for (const auto& document : application.instruments()) {
-        if (document->instrument() == &instrument) {
+        if (application.isCurrent(*document)) {
             settings.instrument = document->path();
             settings.format = document->format();
         }
@@ -68,7 +68,8 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
     Instrument& instrument = *document_->instrument();
     for (std::size_t stop = 0; stop < settings.gains.size(); ++stop)
         instrument.setVolume(stop, settings.gains[stop]);
-    instrument.tune(*temperament_, 0, static_cast<int>(kKeys) - 1);
+    player_.setTemperament(*temperament_);
+    player_.setInstrument(instrument);
 }
 
 } // namespace velmora

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "app/Player.h"
 #include "audio/OpenALLoopback.h"
 #include "audio/Synthesizer.h"
 #include "import/InstrumentDocument.h"
-#include "sequencer/SequenceHost.h"
 #include "tuning/Temperament.h"
 
 #include <cstdint>
@@ -17,43 +17,41 @@ namespace velmora {
 
 class AppDelegate;
 
-/// What the application plays with at one moment, for it to be made once more elsewhere.
+/// What the application plays with at one moment, so that it can be created again elsewhere.
 struct SoundSettings {
     std::unique_ptr<Temperament> temperament;
     std::filesystem::path instrument; ///< A file; empty for the General MIDI player.
     InstrumentFormat format = InstrumentFormat::SoundFont; ///< The format of that file.
-    std::vector<float> gains;                              ///< Of the stops.
-    std::uint8_t program = 0;                              ///< Of the General MIDI player.
+    std::vector<float> gains;                              ///< The gain of each stop.
+    std::uint8_t program = 0;                              ///< The General MIDI program.
     std::vector<std::filesystem::path> banks;
 };
 
-/// Those of an application that has an instrument.
+/// Returns the current settings of an application that has an instrument.
 SoundSettings currentSettings(AppDelegate& application);
 
-/// A synthesizer that nobody hears. Throws std::runtime_error when none of the banks can be loaded.
+/// Creates a synthesizer without an output. Throws std::runtime_error if no bank can be loaded.
 std::unique_ptr<Synthesizer>
 makeOfflineSynthesizer(double rate, const std::vector<std::filesystem::path>& banks);
 
-/// An instrument and a temperament of its own, with nothing shared with those that sound live. Is
-/// made, played and ended on one thread.
-class OfflineSound : public SequenceHost {
+/// A player with an instrument and a temperament of its own, which shares nothing with live
+/// playing. To be created, played and destroyed on one thread.
+class OfflineSound {
 public:
-    /// Loads the instrument. Throws std::runtime_error with a sentence when that fails, with none
-    /// when the host of the import cancels it.
+    /// Loads the instrument. Throws std::runtime_error if that fails: with a sentence, or with an
+    /// empty message if the host cancels the import.
     OfflineSound(SoundSettings settings, double rate, InstrumentHost& host);
 
-    /// Gives the sound out.
+    /// What the player sounds through.
     AudioSource& source() { return *source_; }
 
-    Instrument* getInstrument() override { return document_->instrument(); }
-    Temperament* getTemperament() override { return temperament_.get(); }
-    std::mutex& soundLock() override { return soundLock_; }
+    Player& player() { return player_; }
 
 private:
-    std::mutex soundLock_;
     std::unique_ptr<Temperament> temperament_;
-    std::optional<OpenALLoopback> loopback_; ///< Before the instrument, and so gone after it.
+    std::optional<OpenALLoopback> loopback_; ///< Declared before the instrument that uses it.
     std::unique_ptr<InstrumentDocument> document_;
+    Player player_;
     AudioSource* source_ = nullptr;
 };
 

@@ -1,6 +1,5 @@
 #include "app/SequenceRenderer.h"
 
-#include "app/fading.h"
 #include "sequencer/SequenceTime.h"
 
 #include <algorithm>
@@ -14,10 +13,8 @@ constexpr std::size_t kTicksPerReport = 64;
 
 } // namespace
 
-SequenceRenderer::SequenceRenderer(SequenceHost& host, AudioSource& source)
-    : host_(host), source_(source),
-      document_(
-          host, [this] { return now_; }, SequenceDocument::HeldKeys::LeftAlone)
+SequenceRenderer::SequenceRenderer(Player& player, AudioSource& source)
+    : player_(player), source_(source), document_(player, [this] { return now_; })
 {
 }
 
@@ -63,7 +60,7 @@ void SequenceRenderer::soundUntil(double seconds, double rate, const AudioSink& 
     const auto nextFade = [this] { return static_cast<double>(fades_ + 1) * kFadeSeconds; };
     while (nextFade() <= seconds) {
         sound(nextFade());
-        fadeOnce(host_);
+        player_.fade();
         ++fades_;
     }
     sound(seconds);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Player.h"
 #include "audio/AudioSource.h"
 #include "sequencer/SequenceDocument.h"
 
@@ -35,7 +36,7 @@ using RenderProgress = std::function<bool(double done)>;
 /// what the instrument sounds through. On one thread, whichever it is.
 class SequenceRenderer {
 public:
-    SequenceRenderer(SequenceHost& host, AudioSource& source);
+    SequenceRenderer(Player& player, AudioSource& source);
 
     /// What is rendered: to be filled before.
     SequenceDocument& document() { return document_; }
@@ -48,7 +49,7 @@ private:
     /// Sounds up to a moment of the clock, fading on the way.
     void soundUntil(double seconds, double rate, const AudioSink& sink);
 
-    SequenceHost& host_;
+    Player& player_;
     AudioSource& source_;
     double now_ = 0.0;
     SequenceDocument document_;

@@ -110,8 +110,8 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
         return {describe(document), printTuning};
     }
     if (!sequenceTypeOf(path).empty()) {
-        AppDelegate application;
-        SequenceDocument document(application);
+        Player player;
+        SequenceDocument document(player);
         document.readFromURL(path);
         if (!document.errorString().empty())
             throw std::runtime_error(document.errorString());

@@ -14,7 +14,7 @@ void live(const Selection& selection)
     QuitOnSignal quitOnSignal;
     quitOnSignal.watch([] { QCoreApplication::quit(); });
     AppDelegate application;
-    application.applicationDidFinishLaunching();
+    application.start();
     application.waitForBank();
     select(selection, application);
 

@@ -37,7 +37,7 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
     AudioSource& source = loopback ? *loopback : addSynthesizer(options.rate, application);
     select(selection, application);
 
-    SequenceRenderer renderer(application, source);
+    SequenceRenderer renderer(application.player(), source);
     renderer.document().readFromURL(sequence);
     if (!renderer.document().errorString().empty())
         throw std::runtime_error(renderer.document().errorString());

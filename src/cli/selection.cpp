@@ -68,17 +68,17 @@ void select(const Selection& selection, AppDelegate& application)
     application.putTuning(std::move(tuning));
     application.selectTuning(name);
 
-    const std::lock_guard lock(application.soundLock());
-    Instrument& instrument = *application.getInstrument();
-    if (selection.program)
-        instrument.setInstrument(*selection.program);
-    for (const auto& [stop, gain] : selection.stops) {
-        if (stop >= instrument.numStops())
-            throw UsageError("the instrument has no stop " + std::to_string(stop) +
-                             ": its stops are numbered from 0 to " +
-                             std::to_string(instrument.numStops() - 1));
-        instrument.setVolume(stop, gain);
-    }
+    application.player().with([&](Instrument& instrument, Temperament&) {
+        if (selection.program)
+            instrument.setInstrument(*selection.program);
+        for (const auto& [stop, gain] : selection.stops) {
+            if (stop >= instrument.numStops())
+                throw UsageError("the instrument has no stop " + std::to_string(stop) +
+                                 ": its stops are numbered from 0 to " +
+                                 std::to_string(instrument.numStops() - 1));
+            instrument.setVolume(stop, gain);
+        }
+    });
 }
 
 } // namespace velmora

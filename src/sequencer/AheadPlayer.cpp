@@ -1,8 +1,6 @@
 #include "sequencer/AheadPlayer.h"
 
 #include "base/Clock.h"
-#include "sound/Instrument.h"
-#include "tuning/Temperament.h"
 
 #include <pthread.h>
 #include <sched.h>
@@ -24,17 +22,11 @@ void hurry()
 
 void sound(SequenceHost& host, const KeySound& keySound)
 {
-    const std::lock_guard lock(host.soundLock());
-    Instrument* instrument = host.getInstrument();
-    if (instrument == nullptr)
-        return;
     const int key = static_cast<int>(keySound.key);
-    if (!keySound.starts) {
-        instrument->stop(key);
-        return;
-    }
-    host.getTemperament()->setup(*instrument, static_cast<unsigned char>(key), keySound.velocity);
-    instrument->play(key, keySound.velocity);
+    if (keySound.starts)
+        host.play(key, keySound.velocity);
+    else
+        host.stop(key);
 }
 
 AheadPlayer::AheadPlayer(SequenceHost& host) : host_(host), thread_([this] { run(); }) {}

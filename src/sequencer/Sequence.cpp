@@ -1,5 +1,7 @@
 #include "sequencer/Sequence.h"
 
+#include "sound/keys.h"
+
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -8,8 +10,6 @@
 namespace velmora {
 
 namespace {
-
-constexpr double kLastKey = 127.0;
 
 bool startsBefore(const Note& a, const Note& b)
 {
@@ -38,7 +38,7 @@ std::vector<NoteState> absent(const std::vector<Note>& notes)
 
 std::uint32_t wholeKey(double key)
 {
-    return static_cast<std::uint32_t>(std::clamp(key, 0.0, kLastKey));
+    return static_cast<std::uint32_t>(std::clamp(key, 0.0, static_cast<double>(kLastKey)));
 }
 
 Note* Sequence::find(std::uint64_t id)

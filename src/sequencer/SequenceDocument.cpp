@@ -4,9 +4,9 @@
 #include "base/FormatError.h"
 #include "base/Log.h"
 #include "preferences/Preferences.h"
+#include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceFile.h"
 #include "sequencer/SequenceTime.h"
-#include "sound/KeyTables.h"
 
 #include <algorithm>
 #include <cmath>
@@ -32,14 +32,10 @@ constexpr double kRecordingRoom = 8.0;
 
 } // namespace
 
-SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> clock,
-                                   HeldKeys heldKeys)
+SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> clock)
     : host_(host), clock_(std::move(clock)), playback_(host, sequence_), dTime_(clock_())
 {
-    if (heldKeys == HeldKeys::LeftAlone)
-        return;
-    for (auto& state : noteStates)
-        state = 0;
+    host_.liveKeys().clear();
 }
 
 void SequenceDocument::readFromURL(const std::filesystem::path& path)
@@ -204,11 +200,12 @@ bool SequenceDocument::doRecord(double seconds)
 
 int SequenceDocument::takeKey(std::size_t key, double until)
 {
-    int state = kPressed;
-    const double pressed = notePressTimes[key];
-    if (pressed <= until && noteStates[key].compare_exchange_strong(state, kHeld))
+    LiveKeys& keys = host_.liveKeys();
+    const double pressed = keys.pressTime(key);
+    const int state = pressed <= until ? keys.take(key) : 0;
+    if (state == kPressed)
         return kPressed;
-    if (state == kHeld || !(until < noteReleaseTimes[key]))
+    if (state == kHeld || !(until < keys.releaseTime(key)))
         return state == kHeld ? kHeld : 0;
     // It has been released since then.
     if (heldKeys_[key])
@@ -224,7 +221,7 @@ bool SequenceDocument::recordKey(std::size_t key, double until)
         Note note{.start = offset_,
                   .length = 1.0,
                   .oldLength = 1.0,
-                  .velocity = noteVelocities[key],
+                  .velocity = host_.liveKeys().velocity(key),
                   .channel = channel_,
                   .key = static_cast<std::uint32_t>(key),
                   .oldStart = offset_,

@@ -32,14 +32,9 @@ public:
     enum class Mode { Stopped, Playing, Recording };
     enum class SaveOperation { Save, SaveAs };
 
-    /// What making a document does to the table of held keys.
-    enum class HeldKeys { Cleared, LeftAlone };
-
     /// A document with an empty sequence. `clock` gives the seconds that pass between the calls of
-    /// `loop`. One that is only played to be rendered leaves the held keys alone, and may be made
-    /// and played on a thread of its own.
-    explicit SequenceDocument(SequenceHost& host, std::function<double()> clock = getTime,
-                              HeldKeys heldKeys = HeldKeys::Cleared);
+    /// `loop`. Releases the host's live keys.
+    explicit SequenceDocument(SequenceHost& host, std::function<double()> clock = getTime);
 
     /// Reads a Standard MIDI File, keeping the keys of the keyboard's range. A file that cannot be
     /// read leaves the sequence empty, and `errorString` says why. Forgets what could be undone.

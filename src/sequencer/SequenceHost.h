@@ -1,26 +1,28 @@
 #pragma once
 
-#include <mutex>
-
 namespace velmora {
 
-class Instrument;
-class Temperament;
+class LiveKeys;
 
-/// What a sequence document asks of the application: who sounds its notes now. Both are asked for
-/// anew at each use and reached only under the lock, since another thread may exchange them.
+/// What the sequencer asks of the application: to sound its notes, and which keys the user holds.
+/// May be called on any thread.
 class SequenceHost {
 public:
     virtual ~SequenceHost() = default;
 
-    /// The current instrument; null when there is none.
-    virtual Instrument* getInstrument() = 0;
+    /// Starts a key on the current instrument at the pitch of the current temperament. Does nothing
+    /// if there is no instrument.
+    virtual void play(int key, float velocity) = 0;
 
-    /// The current temperament; not null where there is an instrument.
-    virtual Temperament* getTemperament() = 0;
+    /// Stops a key on the current instrument and on every other one that still sounds it.
+    virtual void stop(int key) = 0;
 
-    /// Guards the instrument and the temperament.
-    virtual std::mutex& soundLock() = 0;
+    /// Forces a spelling in the current temperament and plays its key, as `Temperament::isomorph`
+    /// does.
+    virtual void isomorph(int n) = 0;
+
+    /// The keys of live input.
+    virtual LiveKeys& liveKeys() = 0;
 };
 
 } // namespace velmora

@@ -1,6 +1,6 @@
 #include "sequencer/SequenceIndex.h"
 
-#include "sound/KeyTables.h"
+#include "sound/keys.h"
 
 #include <algorithm>
 #include <bitset>

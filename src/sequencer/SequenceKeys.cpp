@@ -4,7 +4,6 @@
 #include "sequencer/KeyPosition.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
-#include "sound/Instrument.h"
 #include "tuning/Temperament.h"
 
 #include <algorithm>
@@ -18,9 +17,6 @@ namespace {
 
 /// What Shift adds to the number of a channel and of an isomorphic key.
 constexpr int kShiftedChannel = 10, kShiftedOctave = 36;
-
-/// The key of the lowest isomorphic number.
-constexpr int kLowestIsomorph = 48;
 
 bool isModifier(int key)
 {
@@ -113,18 +109,12 @@ void SequenceEditor::releaseKeys()
 
 void SequenceEditor::release(int number)
 {
-    SequenceHost& host = document_.host();
-    const std::lock_guard lock(host.soundLock());
-    if (Instrument* instrument = host.getInstrument())
-        instrument->stop(kLowestIsomorph + (number + 1) / 3);
+    document_.host().stop(Temperament::isomorphKey(number));
 }
 
 void SequenceEditor::isomorph(int number)
 {
-    SequenceHost& host = document_.host();
-    const std::lock_guard lock(host.soundLock());
-    if (Instrument* instrument = host.getInstrument())
-        host.getTemperament()->isomorph(*instrument, number);
+    document_.host().isomorph(number);
 }
 
 void SequenceEditor::setChannel(unsigned char channel, bool ofSelection)

@@ -1,7 +1,7 @@
 #include "sequencer/SequencePlayback.h"
 
+#include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceTime.h"
-#include "sound/KeyTables.h"
 
 #include <algorithm>
 #include <limits>

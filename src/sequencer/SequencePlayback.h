@@ -4,7 +4,7 @@
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/SequenceIndex.h"
-#include "sound/KeyTables.h"
+#include "sound/keys.h"
 
 #include <array>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Going from chord to chord, with the arrows or by playing them.
 
+#include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceDocument.h"
-#include "sound/KeyTables.h"
 
 #include <algorithm>
 #include <cmath>
@@ -76,14 +76,16 @@ void SequenceDocument::getCurrentNotes(bool advance)
 {
     settle();
     auto& states = playback_.states;
-    std::copy(noteStates.begin(), noteStates.end(), states.begin());
+    LiveKeys& keys = host_.liveKeys();
+    for (std::size_t key = 0; key < kKeys; ++key)
+        states[key] = keys.state(key);
     playback_.markAt(offset_, kTolerance, kWanted);
     if (!advance || std::any_of(states.begin(), states.end(), isUnanswered))
         return;
 
     for (std::size_t key = 0; key < kKeys; ++key) {
-        int state = kPressed;
-        states[key] = noteStates[key].compare_exchange_strong(state, kHeld) ? kHeld : state;
+        const int before = keys.take(key);
+        states[key] = before == kPressed ? kHeld : before;
     }
     nextNote();
     if (loop_ && selectionStart_ < selectionEnd_ && selectionEnd_ <= offset_) {

@@ -1,6 +1,6 @@
 #include "sequencer/makeValid.h"
 
-#include "sound/KeyTables.h"
+#include "sound/keys.h"
 
 #include <algorithm>
 #include <cmath>

@@ -70,7 +70,14 @@ InstrumentStop& ALInstrument::appendStop(std::string name)
         throw FormatError(fmt::format("has more than {} stops", kMaximumStops));
     InstrumentStop& stop = stops_.emplace_back();
     stop.name = std::move(name);
+    pitches_.fill(0.0);
     return stop;
+}
+
+std::vector<InstrumentStop>& ALInstrument::stops()
+{
+    pitches_.fill(0.0);
+    return stops_;
 }
 
 float ALInstrument::getVolume(std::size_t stop) const
@@ -143,9 +150,6 @@ void ALInstrument::fade(double factor)
 
 void ALInstrument::tune(const Temperament& temperament, int lo, int hi)
 {
-    // Someone else has tuned a sample since, or exchanged it.
-    if (Sample::pitchesSet() != pitchesSet_)
-        pitches_.fill(0.0);
     for (int key = lo; key <= hi; ++key) {
         const auto slot = static_cast<std::size_t>(key);
         const double pitch = temperament.getPitch(slot);
@@ -155,7 +159,6 @@ void ALInstrument::tune(const Temperament& temperament, int lo, int hi)
         for (InstrumentStop& stop : stops_)
             stop.samples[slot].tune(pitch);
     }
-    pitchesSet_ = Sample::pitchesSet();
 }
 
 } // namespace velmora

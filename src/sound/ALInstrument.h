@@ -21,7 +21,8 @@ public:
     /// FormatError beyond 4096 stops.
     InstrumentStop& appendStop(std::string name);
 
-    std::vector<InstrumentStop>& stops() { return stops_; }
+    /// The stops, to be changed: `tune` then tunes every sample again.
+    std::vector<InstrumentStop>& stops();
     const std::vector<InstrumentStop>& stops() const { return stops_; }
 
     /// The decoded sounds under the names that the importer gives them, so that one used by several
@@ -49,9 +50,8 @@ private:
     std::vector<InstrumentStop> stops_; ///< After the sounds, and so gone before them.
     std::bitset<kKeys> released_;       ///< The keys with samples that may be fading.
 
-    /// The hertz that each key of every stop was last tuned to; 0 for not yet.
+    /// The hertz that each key of every stop was last tuned to; 0 if not known.
     std::array<double, kKeys> pitches_{};
-    unsigned pitchesSet_ = 0; ///< `Sample::pitchesSet` at that time.
 };
 
 } // namespace velmora

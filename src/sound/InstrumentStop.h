@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sound/KeyTables.h"
+#include "sound/keys.h"
 #include "sound/Sample.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #include "sound/MIDIInstrument.h"
 
 #include "midi/messages.h"
-#include "sound/KeyTables.h"
+#include "sound/keys.h"
 #include "tuning/Temperament.h"
 
 #include <cmath>

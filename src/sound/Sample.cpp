@@ -4,7 +4,6 @@
 
 #include <al.h>
 
-#include <atomic>
 #include <utility>
 
 namespace velmora {
@@ -15,9 +14,6 @@ constexpr float kFirstGain = 0.4F;
 
 /// A released sample that is softer is silent.
 constexpr double kSilentGain = 0.02;
-
-/// An import may run beside the playing of another instrument.
-std::atomic<unsigned> pitchesGiven{0};
 
 } // namespace
 
@@ -43,16 +39,10 @@ Sample::~Sample()
         alDeleteSources(1, &source_);
 }
 
-unsigned Sample::pitchesSet()
-{
-    return pitchesGiven;
-}
-
 void Sample::setBuffer(const Sound& sound, double rootPitch)
 {
     rootPitch_ = rootPitch;
     factor_ = 1.0F;
-    ++pitchesGiven;
     if (source_ != 0)
         alDeleteSources(1, &source_);
     sound_ = nullptr;
@@ -117,7 +107,6 @@ void Sample::tune(double pitch)
     if (source_ == 0 || factor == factor_)
         return;
     factor_ = factor;
-    ++pitchesGiven;
     alSourcef(source_, AL_PITCH, factor);
 }
 

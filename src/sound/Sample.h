@@ -45,9 +45,6 @@ public:
     double gain() const { return gain_; }
     bool released() const { return released_; }
 
-    /// How often any sample whatever was given a pitch, by `setBuffer` or `tune`.
-    static unsigned pitchesSet();
-
 private:
     const Sound* sound_ = nullptr;
     unsigned source_ = 0;

@@ -115,7 +115,7 @@ void DynamicTemperament::isomorph(Tunable& instrument, int n)
     logger("tuning").info("ISOMORPH {}", spelling);
     voices_[pitchClass] = {static_cast<std::size_t>(spelling), 0.0F};
     instrument.tune(*this, 0, 127);
-    instrument.play(48 + k, 1.0F);
+    instrument.play(isomorphKey(n), 1.0F);
 }
 
 void DynamicTemperament::fade(double factor)

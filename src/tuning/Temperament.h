@@ -37,6 +37,9 @@ public:
     /// Gives a pitch class another spelling and plays it; does nothing where there is only one.
     virtual void isomorph(Tunable& instrument, int n);
 
+    /// The key that `isomorph` plays for a number from -1 up. Three numbers share a key.
+    static int isomorphKey(int n) { return 48 + (n + 1) / 3; }
+
     /// Called 60 times a second with the factor by which the influence of struck keys decays.
     virtual void fade(double factor);
 

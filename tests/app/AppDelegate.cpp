@@ -1,7 +1,6 @@
 #include "app/AppDelegate.h"
 
 #include "base/Clock.h"
-#include "sound/KeyTables.h"
 #include "support/RecordingInstrument.h"
 
 #include <QCoreApplication>
@@ -24,6 +23,13 @@ protected:
     /// The instrument was told this since the last look.
     void expectCalls(const Calls& calls) { EXPECT_EQ(std::exchange(calls_, {}), calls); }
 
+    const Temperament* current()
+    {
+        const Temperament* temperament = nullptr;
+        app_.player().with([&](Instrument&, Temperament& now) { temperament = &now; });
+        return temperament;
+    }
+
     Calls calls_;
     RecordingInstrument instrument_{calls_};
     AppDelegate app_;
@@ -35,17 +41,18 @@ TEST_F(AppDelegateTest, KeysSoundOnceTheSelectedTemperamentHasTunedThem)
 {
     const double began = getTime();
     app_.keyOn(60, 0.5F);
-    EXPECT_EQ(noteStates[60], 1) << "also without an instrument";
+    const LiveKeys& keys = app_.player().liveKeys();
+    EXPECT_EQ(keys.state(60), kPressed) << "also without an instrument";
     app_.keyOff(60);
-    EXPECT_EQ(noteStates[60], 0);
-    EXPECT_TRUE(began <= notePressTimes[60] && notePressTimes[60] <= noteReleaseTimes[60]);
+    EXPECT_EQ(keys.state(60), 0);
+    EXPECT_TRUE(began <= keys.pressTime(60) && keys.pressTime(60) <= keys.releaseTime(60));
     app_.setInstrument(instrument_, "Recorder");
     app_.keyOn(127, 2.0F);
     app_.keyOff(127);
     expectCalls({"tune 0 127", "play 127 1.00", "stop 127"});
-    EXPECT_EQ(noteVelocities[127], 1.0F);
+    EXPECT_EQ(keys.velocity(127), 1.0F);
     EXPECT_TRUE(app_.selectTuning("Dynamic"));
-    const Temperament* before = app_.getTemperament();
+    const Temperament* before = current();
     EXPECT_FALSE(app_.selectTuning("dynamic"));
     app_.putTuning(TuningDocument::initBuiltin("Dynamic"));
     expectCalls({"tune 0 127"});
@@ -57,20 +64,20 @@ TEST_F(AppDelegateTest, KeysSoundOnceTheSelectedTemperamentHasTunedThem)
     }
     expectCalls({});
     EXPECT_TRUE(app_.selectTuning("Dynamic"));
-    EXPECT_NE(app_.getTemperament(), before);
+    EXPECT_NE(current(), before);
 }
 
 TEST_F(AppDelegateTest, FadesTheInstrumentAndTheTemperament)
 {
-    app_.loop(); // without an instrument
+    app_.player().fade(); // without an instrument
     app_.setInstrument(instrument_, "Recorder");
     app_.selectTuning("Dynamic");
-    app_.getTemperament()->isomorph(instrument_, -1);
-    EXPECT_NEAR(app_.getTemperament()->getTuning(0).cent(), -41.06, 0.01);
+    app_.player().isomorph(-1);
+    EXPECT_NEAR(current()->getTuning(0).cent(), -41.06, 0.01);
     calls_.clear();
-    app_.loop();
+    app_.player().fade();
     expectCalls({"fade 0.9"});
-    EXPECT_EQ(app_.getTemperament()->getTuning(0).cent(), 0.0) << "comes home once all has faded";
+    EXPECT_EQ(current()->getTuning(0).cent(), 0.0) << "comes home once all has faded";
 }
 
 TEST_F(AppDelegateTest, WhatWasReceivedReachesTheMainThreadInOrder)

@@ -3,7 +3,6 @@
 #include "app/AppDelegate.h"
 #include "audio/AudioFileDecoder.h"
 #include "base/File.h"
-#include "sound/KeyTables.h"
 #include "support/Bank.h"
 #include "support/OrganFolder.h"
 #include "support/Pitch.h"
@@ -96,7 +95,7 @@ TEST_F(AudioExportTest, SoundsAsItDoesLiveAndLeavesThatAlone)
     const auto sound = soundOf("organ.flac");
     EXPECT_NEAR(centsOff(sound, hertz), 0.0, 0.5);
     EXPECT_EQ(done_, 1.0);
-    EXPECT_EQ(noteStates[48], 1);
+    EXPECT_EQ(app_.player().liveKeys().state(48), kPressed);
     const Stereo live = rendered(live_, 48'000);
     EXPECT_NEAR(centsOff(live.left, kRoot), 0.0, 0.5) << "still at its beginning";
     EXPECT_NEAR(peak(sound), peak(live.left), 0.01);
@@ -104,7 +103,7 @@ TEST_F(AudioExportTest, SoundsAsItDoesLiveAndLeavesThatAlone)
     app_.keyOff(48);
     app_.selectInstrument(1);
     for (int i = 0; i < 40; ++i)
-        app_.loop();
+        app_.player().fade();
     EXPECT_TRUE(app_.unloadInstrument(0)) << "what it sounded has died away";
 }
 

@@ -37,7 +37,8 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
     MidiInputs inputs([&](MidiPacket packet) { midiRead({&packet, 1}, app); });
     if (inputs.api() == "ALSA")
         GTEST_SKIP() << "this machine has an ALSA sequencer, which goes before JACK";
-    SequenceDocument document(app);
+    LiveKeys& keys = app.player().liveKeys();
+    SequenceDocument document(app.player());
     const SequenceClock clock(document);
     const double begun = getTime();
     document.record();
@@ -49,7 +50,7 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
         runFor(0.030);
     }
     piano.send(0, {0x80, 71, 0});
-    for (int i = 0; i < 100 && noteReleaseTimes[71] < begun; ++i)
+    for (int i = 0; i < 100 && keys.releaseTime(71) < begun; ++i)
         runFor(0.1);
     runFor(0.1);
     document.record();
@@ -57,7 +58,7 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
     const QTemporaryDir folder;
     const std::filesystem::path file = folder.filePath("take.mid").toStdString();
     ASSERT_TRUE(document.saveToURL(file, kMidiFileType, SequenceDocument::SaveOperation::SaveAs));
-    SequenceDocument kept(app, getTime, SequenceDocument::HeldKeys::LeftAlone);
+    SequenceDocument kept(app.player());
     kept.readFromURL(file);
     const auto& notes = kept.getSequence().notes();
     ASSERT_EQ(notes.size(), 24);
@@ -65,11 +66,11 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
     constexpr double kTick = kStepsPerRecordedSecond / 1024.0, kTickOfFile = 1.0 / 512.0;
     for (unsigned i = 0; i < 24; ++i) {
         const Note& note = notes[i];
-        const double pressed = notePressTimes[note.key], released = noteReleaseTimes[note.key];
+        const double pressed = keys.pressTime(note.key), released = keys.releaseTime(note.key);
         EXPECT_EQ(note.key, 48 + i);
         EXPECT_NEAR(note.velocity, (20.0 + i) / 127.0, 1e-6);
         EXPECT_NEAR(note.start - notes[0].start,
-                    (pressed - notePressTimes[48]) * kStepsPerRecordedSecond, kTick + kTickOfFile);
+                    (pressed - keys.pressTime(48)) * kStepsPerRecordedSecond, kTick + kTickOfFile);
         EXPECT_NEAR(note.length, (released - pressed) * kStepsPerRecordedSecond,
                     kTick + kTickOfFile);
     }

@@ -42,14 +42,14 @@ protected:
 TEST_F(AheadPlayerTest, SoundsEachNoteOnceWhenItIsDueAndRestsThen)
 {
     std::vector<double> late;
-    instrument_.onPlay = [&] { late.push_back(getTime()); };
+    onPlay_ = [&] { late.push_back(getTime()); };
     live_.play();
     const double started = getTime();
     runFor(std::chrono::milliseconds(1000));
     live_.setTempo(240.0); // settles what was planned for the slower one
     runFor(std::chrono::milliseconds(600));
     const Calls calls = std::exchange(calls_, {});
-    instrument_.onPlay = nullptr;
+    onPlay_ = nullptr;
 
     document_.play();
     for (int i = 0; i < 25 * 64; ++i)

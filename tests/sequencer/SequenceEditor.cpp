@@ -214,9 +214,9 @@ TEST_F(SequenceEditorTest, LeavesNothingSoundingThatIsEdited)
 TEST_F(SequenceEditorTest, KeepsTheOrderOfATakeAndTheEditsWithin)
 {
     document_.record();
-    noteStates[60] = 1;
+    liveKeys_.press(60, 1.0F, now_);
     tick(2.0);
-    noteStates[60] = 0;
+    liveKeys_.release(60, now_);
     drag({60.0, 0.5}, {62.0, 0.5});
     document_.record();
     for (const char* done : {"Move 1 Note", "Record 1 Note", ""}) {
@@ -299,12 +299,12 @@ TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
         } else if (what == 5) { // recording, with another gesture in between
             document_.setOffset(step());
             document_.record();
-            noteStates[60 + unsigned(any(6))] = 1;
+            liveKeys_.press(60 + unsigned(any(6)), 1.0F, now_);
             tick(step() * 0.1);
             drag(place(), place());
             tick(step() * 0.1);
             document_.record();
-            std::ranges::fill(noteStates, 0);
+            liveKeys_.clear();
         } else {
             stack.setIndex(any(2) == 0 ? before - 1 : before + 1);
         }

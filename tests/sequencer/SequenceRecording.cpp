@@ -14,17 +14,8 @@ namespace {
 
 class SequenceRecordingTest : public SequenceTest {
 protected:
-    void press(unsigned key)
-    {
-        notePressTimes[key] = now_;
-        noteVelocities[key] = 0.5F;
-        noteStates[key] = 1;
-    }
-    void release(unsigned key)
-    {
-        noteReleaseTimes[key] = now_;
-        noteStates[key] = 0;
-    }
+    void press(unsigned key) { liveKeys_.press(key, 0.5F, now_); }
+    void release(unsigned key) { liveKeys_.release(key, now_); }
 
     /// So many steps, in ticks of 1/64 of one.
     void run(double steps)
@@ -98,7 +89,8 @@ TEST_F(SequenceRecordingTest, RunsOnGridOnlyWhileAKeyIsHeld)
     press(60);
     run(0.5);
     release(60);
-    noteStates[64] = 4; // held from before: lengthens what is there
+    liveKeys_.press(64, 0.5F, 0.0);
+    liveKeys_.take(64); // held from before: lengthens what is there
     run(3.0);
     EXPECT_NEAR(document_.getOffset(), 5.5, 0.1);
     document_.record();
@@ -124,8 +116,7 @@ TEST_F(SequenceRecordingTest, TakesAKeyWhereItArrivedWhenTheTickIsLate)
     release(65);
     tick(1.0);
     // A last one comes after the tick has read the clock.
-    notePressTimes[67] = now_ + 1.0;
-    noteStates[67] = 1;
+    liveKeys_.press(67, 0.5F, now_ + 1.0);
     tick(0.01);
     EXPECT_THAT(recorded(), ElementsAre(FieldsAre(60, 0.0, 2.0), FieldsAre(64, 2.0, 3.0),
                                         FieldsAre(65, 3.0, 1.0)));

@@ -11,7 +11,7 @@
 #include "audio/OpenALDevice.h"
 #include "base/Log.h"
 #include "sequencer/SequenceFile.h"
-#include "sound/KeyTables.h"
+#include "sound/keys.h"
 #include "support/Bank.h"
 #include "support/OrganFolder.h"
 
@@ -97,14 +97,8 @@ public:
         pressMouse(-1);
         sequences_.clear();
         QCoreApplication::processEvents();
-        for (const auto& state : noteStates)
-            require(state == 0, "a key is held");
-        for (std::size_t i = 0; changesInstruments_ && i < app_.instruments().size(); ++i)
-            if (app_.instruments()[i]->instrument() != nullptr) {
-                app_.selectInstrument(i);
-                for (int key = 0; key < static_cast<int>(kKeys); ++key)
-                    app_.keyOff(key);
-            }
+        for (std::size_t key = 0; key < kKeys; ++key)
+            require(app_.player().liveKeys().state(key) == 0, "a key is held");
         fade();
         require(audio_->fallsSilent(), "the synthesizer sounds on");
         for (ALuint source = 1; source <= 4096; ++source)
@@ -151,7 +145,7 @@ private:
 
     std::unique_ptr<OpenSequence> makeSequence()
     {
-        return std::make_unique<OpenSequence>(app_, chance(2));
+        return std::make_unique<OpenSequence>(app_.player(), chance(2));
     }
 
     void advance(std::size_t ticks)
@@ -160,7 +154,7 @@ private:
             for (const auto& open : sequences_)
                 open->tick();
             if (++ticks_ % kTicksPerFade == 0)
-                app_.loop();
+                app_.player().fade();
         }
     }
 
@@ -168,7 +162,7 @@ private:
     void fade()
     {
         for (int i = 0; i < 300; ++i)
-            app_.loop();
+            app_.player().fade();
     }
 
     /// Mostly on a note.

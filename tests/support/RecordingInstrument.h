@@ -4,7 +4,6 @@
 
 #include <spdlog/fmt/fmt.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -26,8 +25,6 @@ public:
     void play(int key, float velocity) override
     {
         calls_.push_back(fmt::format("play {} {:.2f}", key, velocity));
-        if (onPlay)
-            onPlay();
     }
     void stop(int key) override { calls_.push_back(fmt::format("stop {}", key)); }
     void silence() override { calls_.push_back("silence"); }
@@ -36,8 +33,6 @@ public:
         calls_.push_back(fmt::format("tune {} {}", lo, hi));
     }
     void fade(double factor) override { calls_.push_back(fmt::format("fade {}", factor)); }
-
-    std::function<void()> onPlay;
 
 private:
     Calls& calls_;

@@ -1,36 +1,34 @@
 #pragma once
 
+#include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceDocument.h"
-#include "support/RecordingInstrument.h"
-#include "tuning/Temperament.h"
 
 #include <gtest/gtest.h>
+#include <spdlog/fmt/fmt.h>
 
-#include <algorithm>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace velmora {
 
-/// A document on a clock that is moved by hand, whose instrument and temperament write down what
-/// they are called with. 16 steps of a file are a second, 15 of the document's.
-class SequenceTest : public testing::Test, public SequenceHost, public Temperament {
-protected:
-    SequenceTest()
-    {
-        for (auto* times : {&notePressTimes, &noteReleaseTimes})
-            std::fill(times->begin(), times->end(), 0.0);
-    }
+using Calls = std::vector<std::string>;
 
-    Instrument* getInstrument() override { return &instrument_; }
-    Temperament* getTemperament() override { return this; }
-    std::mutex& soundLock() override { return lock_; }
-    void setup(Tunable& /*instrument*/, unsigned char key, float /*velocity*/) override
+/// A document on a clock that is moved by hand, whose host writes down what it is called with. 16
+/// steps of a file are a second, 15 of the document's.
+class SequenceTest : public testing::Test, public SequenceHost {
+protected:
+    void play(int key, float velocity) override
     {
-        calls_.push_back(fmt::format("setup {}", key));
+        called(fmt::format("play {} {:.2f}", key, velocity));
+        if (onPlay_)
+            onPlay_();
     }
-    void isomorph(Tunable& /*instrument*/, int n) override
-    {
-        calls_.push_back(fmt::format("isomorph {}", n));
-    }
+    void stop(int key) override { called(fmt::format("stop {}", key)); }
+    void isomorph(int n) override { called(fmt::format("isomorph {}", n)); }
+    LiveKeys& liveKeys() override { return liveKeys_; }
 
     /// Adds a committed note and measures the extent.
     void add(unsigned key, double start, double length)
@@ -52,11 +50,18 @@ protected:
         document_.loop();
     }
 
+    void called(std::string call)
+    {
+        const std::lock_guard lock(lock_);
+        calls_.push_back(std::move(call));
+    }
+
     static constexpr auto kStopped = SequenceDocument::Mode::Stopped;
 
     Calls calls_;
-    RecordingInstrument instrument_{calls_};
-    std::mutex lock_;
+    std::function<void()> onPlay_;
+    std::mutex lock_; ///< Guards `calls_`, which two threads write.
+    LiveKeys liveKeys_;
     double now_ = 1000.0;
     SequenceDocument document_{*this, [this] { return now_; }};
 };

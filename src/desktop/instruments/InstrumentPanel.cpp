@@ -111,26 +111,31 @@ void InstrumentPanel::showTunings()
 
 void InstrumentPanel::showInstrument()
 {
-    const Instrument& instrument = *application_.getInstrument();
-    const std::size_t stops = instrument.numStops();
+    bool hasPrograms = false;
+    std::uint64_t usage = 0;
+    std::vector<std::pair<QString, float>> stops; // title and volume
+    application_.player().with([&](const Instrument& instrument, const Temperament&) {
+        hasPrograms = instrument.hasSubMenu();
+        usage = static_cast<std::uint64_t>(instrument.usage);
+        for (std::size_t i = 0; i < instrument.numStops(); ++i)
+            stops.emplace_back(stopTitle(instrument, i), instrument.getVolume(i));
+    });
     setWindowTitle(QString::fromStdString(application_.instrumentName()));
-    programs_->setVisible(instrument.hasSubMenu());
+    programs_->setVisible(hasPrograms);
     programs_->setCurrentIndex(application_.midiProgram());
-    usage_->setVisible(!instrument.hasSubMenu());
-    usage_->setText(
-        tr("Usage:  %1")
-            .arg(QString::fromStdString(sizeString(static_cast<std::uint64_t>(instrument.usage)))));
+    usage_->setVisible(!hasPrograms);
+    usage_->setText(tr("Usage:  %1").arg(QString::fromStdString(sizeString(usage))));
 
-    fitWidth(stops);
-    makeSliders(stops);
+    fitWidth(stops.size());
+    makeSliders(stops.size());
     for (std::size_t i = 0; i < sliders_.size(); ++i) {
-        sliders_[i]->setVisible(i < stops);
-        if (i >= stops)
+        sliders_[i]->setVisible(i < stops.size());
+        if (i >= stops.size())
             continue;
-        const QString title = stopTitle(instrument, i);
+        const auto& [title, volume] = stops[i];
         sliders_[i]->setToolTip(title);
         sliders_[i]->setAccessibleName(title);
-        showVolume(i, instrument.getVolume(i));
+        showVolume(i, volume);
     }
 }
 

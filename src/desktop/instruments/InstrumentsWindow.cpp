@@ -76,8 +76,8 @@ void InstrumentsWindow::showCurrent()
 int InstrumentsWindow::currentRow() const
 {
     const auto& instruments = application_.instruments();
-    const auto current = std::ranges::find(instruments, application_.getInstrument(),
-                                           &InstrumentDocument::instrument);
+    const auto current = std::ranges::find_if(
+        instruments, [this](const auto& document) { return application_.isCurrent(*document); });
     return current == instruments.end() ? kNone : static_cast<int>(current - instruments.begin());
 }
 

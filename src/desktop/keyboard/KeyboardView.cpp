@@ -5,7 +5,7 @@
 #include "midi/midiRead.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyboardDocument.h"
-#include "sound/KeyTables.h"
+#include "sequencer/LiveKeys.h"
 #include "tuning/keyName.h"
 
 #include <QMouseEvent>

@@ -2,7 +2,7 @@
 
 #include "desktop/keyboard/KeyboardGeometry.h"
 #include "sequencer/SequenceDocument.h"
-#include "sound/KeyTables.h"
+#include "sound/keys.h"
 
 #include <QPalette>
 

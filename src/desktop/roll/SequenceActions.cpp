@@ -4,7 +4,7 @@
 #include "sequencer/NoteClipboard.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
-#include "sound/KeyTables.h"
+#include "sound/keys.h"
 
 #include <QActionGroup>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 #include "desktop/roll/SequenceStatus.h"
 
+#include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceDocument.h"
-#include "sound/KeyTables.h"
 #include "tuning/keyName.h"
 
 #include <QLabel>

@@ -3,7 +3,7 @@
 #include "desktop/roll/SequenceActions.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceTime.h"
-#include "sound/KeyTables.h"
+#include "sound/keys.h"
 
 #include <QAction>
 #include <QComboBox>

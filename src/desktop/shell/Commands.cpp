@@ -148,7 +148,7 @@ void Commands::showInstruments()
         QAction* action = instruments_->addAction(
             escaped(document->name()), this, [this, position] { emit instrumentChosen(position); });
         action->setCheckable(true);
-        action->setChecked(document->instrument() == application_.getInstrument());
+        action->setChecked(application_.isCurrent(*document));
         ++position;
     }
     instruments_->addSeparator();

@@ -63,7 +63,7 @@ Desktop::~Desktop() = default;
 
 void Desktop::launch()
 {
-    application_.applicationDidFinishLaunching();
+    application_.start();
     keyboardWindow_.status().showDevices();
     sequenceWindows_.offerAbandoned();
 }

@@ -34,7 +34,7 @@ constexpr const char* kStripKey = "tuningStrip";
 
 SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, const QString& name,
                                RecoveryFile recovery)
-    : application_(application), commands_(commands), name_(name), document_(application),
+    : application_(application), commands_(commands), name_(name), document_(application.player()),
       editor_(document_), clock_(document_), keeper_(document_, std::move(recovery)),
       actions_(std::make_unique<SequenceActions>(document_, editor_)),
       scrollView_(new SequenceScrollView), tuningStrip_(new TuningStrip(application))

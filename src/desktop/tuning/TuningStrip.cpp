@@ -1,7 +1,7 @@
 #include "desktop/tuning/TuningStrip.h"
 
 #include "app/AppDelegate.h"
-#include "sound/KeyTables.h"
+#include "sound/keys.h"
 #include "tuning/keyName.h"
 #include "tuning/spelling.h"
 
@@ -56,15 +56,13 @@ void TuningStrip::read()
 {
     std::array<double, 12> pitches{};
     double base = 0.0;
-    {
-        const std::lock_guard lock(application_.soundLock());
-        const Temperament* temperament = application_.getTemperament();
-        if (temperament == nullptr)
-            return;
+    const auto look = [&](const Instrument&, const Temperament& temperament) {
         for (unsigned tone = 0; tone < pitches.size(); ++tone)
-            pitches[tone] = temperament->getPitch(kMiddleC + tone);
-        base = temperament->baseFrequency();
-    }
+            pitches[tone] = temperament.getPitch(kMiddleC + tone);
+        base = temperament.baseFrequency();
+    };
+    if (!application_.player().with(look))
+        return;
     Tones tones;
     for (unsigned tone = 0; tone < pitches.size(); ++tone) {
         const std::string name = spelling(cents(pitches[tone], base));

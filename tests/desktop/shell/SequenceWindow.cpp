@@ -269,6 +269,9 @@ TEST_F(SequenceWindowTest, TheStripFollowsTheTuning)
     SequenceWindow& window = open();
     AppDelegate& application = desktop.application();
     application.makeBuiltinTunings();
+    Calls calls;
+    RecordingInstrument instrument(calls);
+    application.setInstrument(instrument, "Recorder");
     auto& strip = *window.findChild<TuningStrip*>();
     EXPECT_FALSE(strip.isVisible());
     action(window, "Tuning Strip").trigger();
@@ -278,13 +281,11 @@ TEST_F(SequenceWindowTest, TheStripFollowsTheTuning)
     EXPECT_NEAR(strip.tones()[4].cents, -13.69, 0.01);
     EXPECT_EQ(strip.tones()[10].name, "Bb");
 
-    Calls calls;
-    RecordingInstrument instrument(calls);
     EXPECT_TRUE(application.selectTuning("Dynamic"));
     EXPECT_EQ(action(window, "Tuning Strip").isChecked(), true);
-    application.getTemperament()->isomorph(instrument, 3 * 3 - 1); // the lower spelling of D sharp
+    application.player().isomorph(3 * 3 - 1); // the lower spelling of D sharp
     EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[3].name == "D#"; }));
-    application.getTemperament()->isomorph(instrument, 3 * 3 + 1);
+    application.player().isomorph(3 * 3 + 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[3].name == "Fbb"; }));
     EXPECT_NEAR(strip.tones()[3].cents, 51.32, 0.01);
     action(window, "Tuning Strip").trigger();
@@ -308,7 +309,7 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
     EXPECT_EQ(window.windowTitle(), "one.mid[*]");
     draw(window, {300, 100});
     answering({"Save"}, [&] { EXPECT_TRUE(closes(window)); });
-    SequenceDocument reread(desktop.application());
+    SequenceDocument reread(desktop.application().player());
     reread.readFromURL(path);
     EXPECT_EQ(reread.getSequence().notes().size(), 2);
 

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "sound/keys.h"
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+
+namespace velmora {
+
+/// Bit flags for a key's state; 0 is released.
+constexpr int kPressed = 1; ///< Pressed since the sequencer last looked.
+constexpr int kWanted = 2;  ///< A sequence plays the key or waits for it.
+constexpr int kHeld = 4;    ///< Held, and already taken into account by the sequencer.
+
+/// The state of each key of live input. Any thread may read or write it: every entry is atomic. The
+/// times of a key are written before its state.
+class LiveKeys {
+public:
+    /// Marks a key as pressed, with a velocity from 0 to 1, at `time` in the seconds of `getTime`.
+    void press(std::size_t key, float velocity, double time)
+    {
+        pressTimes_[key] = time;
+        noteVelocities_[key] = velocity;
+        noteStates_[key] = kPressed;
+    }
+
+    /// Marks a key as released. Its velocity stays.
+    void release(std::size_t key, double time)
+    {
+        releaseTimes_[key] = time;
+        noteStates_[key] = 0;
+    }
+
+    /// Marks every key as released.
+    void clear()
+    {
+        for (auto& state : noteStates_)
+            state = 0;
+    }
+
+    /// Turns `kPressed` into `kHeld`. Returns the state before: 0, `kPressed` or `kHeld`.
+    int take(std::size_t key)
+    {
+        int state = kPressed;
+        noteStates_[key].compare_exchange_strong(state, kHeld);
+        return state;
+    }
+
+    /// 0, `kPressed` or `kHeld`.
+    int state(std::size_t key) const { return noteStates_[key]; }
+
+    /// The velocity, 0 to 1, of the key's last press.
+    float velocity(std::size_t key) const { return noteVelocities_[key]; }
+
+    /// The time of the key's last press or release, in the seconds of `getTime`; 0 if there was
+    /// none.
+    double pressTime(std::size_t key) const { return pressTimes_[key]; }
+    double releaseTime(std::size_t key) const { return releaseTimes_[key]; }
+
+private:
+    std::array<std::atomic<int>, kKeys> noteStates_{};
+    std::array<std::atomic<float>, kKeys> noteVelocities_{};
+    std::array<std::atomic<double>, kKeys> pressTimes_{}, releaseTimes_{};
+};
+
+} // namespace velmora
