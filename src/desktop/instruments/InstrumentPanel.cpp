@@ -122,7 +122,8 @@ void InstrumentPanel::showInstrument()
     });
     setWindowTitle(QString::fromStdString(application_.instrumentName()));
     programs_->setVisible(hasPrograms);
-    programs_->setCurrentIndex(application_.midiProgram());
+    if (hasPrograms)
+        programs_->setCurrentIndex(application_.midiProgram());
     usage_->setVisible(!hasPrograms);
     usage_->setText(tr("Usage:  %1").arg(QString::fromStdString(sizeString(usage))));
 

@@ -1,0 +1,148 @@
+#include "app/Player.h"
+
+#include "audio/OpenALLoopback.h"
+#include "audio/Synthesizer.h"
+#include "sequencer/SequenceDocument.h"
+#include "sound/ALInstrument.h"
+#include "sound/MIDIInstrument.h"
+#include "support/Bank.h"
+#include "support/RecordingInstrument.h"
+#include "support/Sine.h"
+#include "support/Stereo.h"
+#include "tuning/DynamicTemperament.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kKey = 60;
+
+/// A steady sound that outlasts every test.
+class Organ : public ALInstrument {
+public:
+    Organ()
+    {
+        auto& sound = sounds["a"] = std::make_unique<Sound>(sine(440.0, 30.0));
+        InstrumentStop& stop = appendStop("");
+        stop.volume = 0.5F;
+        stop.samples[kKey].setBuffer(*sound, equal.getPitch(kKey));
+    }
+};
+
+class PlayerTest : public testing::Test {
+protected:
+    PlayerTest()
+    {
+        auto synthesizer = std::make_unique<Synthesizer>(48000.0, std::vector{kBank});
+        synthesizer_ = synthesizer.get();
+        ocarina_ = std::make_unique<MIDIInstrument>(std::move(synthesizer));
+        ocarina_->setInstrument(kSteadyProgram);
+        player_.setTemperament(temperament_);
+    }
+
+    /// The peak of what sounds after a second in which released keys fade.
+    template <class Source> float heard(Source& source)
+    {
+        for (int i = 0; i < 60; ++i) {
+            player_.fade();
+            rendered(source, 800);
+        }
+        return peak(rendered(source, 4800).left);
+    }
+
+    void expectToStopOverThreeChanges(const std::function<void()>& press,
+                                      const std::function<void()>& release)
+    {
+        player_.setInstrument(organ_);
+        press();
+        player_.setInstrument(*ocarina_);
+        player_.setInstrument(other_);
+        player_.setInstrument(third_);
+        EXPECT_GT(heard(loopback_), 0.0F) << "a change of instrument stops nothing";
+        release();
+        EXPECT_EQ(heard(loopback_), 0.0F) << "sampled";
+
+        player_.setInstrument(*ocarina_);
+        press();
+        player_.setInstrument(other_);
+        player_.setInstrument(organ_);
+        player_.setInstrument(third_);
+        EXPECT_GT(heard(*synthesizer_), 0.0F) << "a change of instrument stops nothing";
+        release();
+        rendered(*synthesizer_, std::size_t{4} * 48000); // what dies away
+        EXPECT_EQ(heard(*synthesizer_), 0.0F) << "General MIDI";
+    }
+
+    OpenALLoopback loopback_{48000.0};
+    Organ organ_;
+    std::unique_ptr<MIDIInstrument> ocarina_;
+    Synthesizer* synthesizer_ = nullptr;
+    Calls calls_;
+    RecordingInstrument other_{calls_}, third_{calls_};
+    Temperament temperament_ = Temperament::Equal();
+    DynamicTemperament dynamic_;
+    Player player_;
+};
+
+} // namespace
+
+TEST_F(PlayerTest, AKeyStopsOnTheInstrumentThatSoundsIt)
+{
+    expectToStopOverThreeChanges([&] { player_.keyOn(kKey, 1.0F); }, [&] { player_.keyOff(kKey); });
+    player_.setTemperament(dynamic_);
+    expectToStopOverThreeChanges([&] { player_.isomorph(3 * (kKey - 48)); },
+                                 [&] { player_.stop(kKey); });
+}
+
+TEST_F(PlayerTest, ANoteOfAPlayingSequenceStopsOnTheInstrumentThatSoundsIt)
+{
+    double now = 0.0;
+    SequenceDocument document(player_, [&] { return now; });
+    document.edit()->addNote({.length = 4.0, .velocity = 1.0F, .key = kKey});
+    document.measure();
+    const auto tickAt = [&](double time) {
+        now = time;
+        document.loop();
+    };
+    expectToStopOverThreeChanges(
+        [&] {
+            document.setOffset(0.0);
+            document.play();
+            tickAt(now + 0.1);
+        },
+        [&] {
+            tickAt(now + 1.0);
+            document.play();
+        });
+}
+
+TEST_F(PlayerTest, StopsAKeyOnlyWhereItSounds)
+{
+    player_.setInstrument(other_);
+    player_.keyOn(kKey, 0.5F);
+    player_.setInstrument(third_);
+    player_.keyOn(kKey, 0.5F);
+    calls_.clear();
+    player_.keyOff(kKey);
+    EXPECT_EQ(calls_, (Calls{"stop 60", "stop 60"})) << "on both, for both sound it";
+    calls_.clear();
+    player_.keyOff(kKey);
+    EXPECT_EQ(calls_, (Calls{"stop 60"})) << "the current one is always told";
+
+    player_.setInstrument(other_);
+    player_.keyOn(kKey, 0.5F);
+    player_.setInstrument(third_);
+    player_.remove(other_);
+    calls_.clear();
+    player_.keyOff(kKey);
+    player_.fade();
+    player_.silence();
+    EXPECT_EQ(calls_, (Calls{"stop 60", "fade 0.9", "silence"})) << "the removed one is forgotten";
+}
+
+} // namespace velmora
