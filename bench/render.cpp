@@ -32,7 +32,7 @@ void renderPiece(benchmark::State& state, const char* tuning)
         Synthesizer& source = *synthesizer;
         AppDelegate application;
         application.makeBuiltinTunings();
-        application.putTuning(TuningDocument::initBuiltin("Dynamic"));
+        application.putTuning(TuningDocument::makeBuiltin("Dynamic"));
         application.makeMIDIPlayer(std::move(synthesizer));
         application.selectTuning(tuning);
         state.ResumeTiming();

@@ -64,11 +64,10 @@ void AppDelegate::start()
 
 void AppDelegate::makeBuiltinTunings()
 {
-    auto equalTuning = TuningDocument::initBuiltin("Equal");
-    player_.setTemperament(equalTuning->getTemperament());
-    tuningName_ = equalTuning->getName();
+    auto equalTuning = TuningDocument::makeBuiltin("Equal");
+    useTuning(*equalTuning);
     putTuning(std::move(equalTuning));
-    putTuning(TuningDocument::initBuiltin("Quartercomma Meantone"));
+    putTuning(TuningDocument::makeBuiltin("Quartercomma Meantone"));
 }
 
 void AppDelegate::makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
@@ -204,7 +203,7 @@ void AppDelegate::updateProgress(unsigned steps, const std::string& text)
 
 void AppDelegate::putTuning(std::unique_ptr<TuningDocument> document)
 {
-    tunings_[document->getName()] = document.get();
+    tunings_[document->name()] = document.get();
     tuningDocuments_.push_back(std::move(document));
     emit tuningsChanged();
 }
@@ -213,7 +212,7 @@ std::vector<std::string> AppDelegate::tuningNames() const
 {
     std::vector<std::string> names;
     for (const auto& document : tuningDocuments_)
-        names.push_back(document->getName());
+        names.push_back(document->name());
     if (!tunings_.contains(kDynamic))
         names.emplace_back(kDynamic);
     return names;
@@ -222,17 +221,24 @@ std::vector<std::string> AppDelegate::tuningNames() const
 bool AppDelegate::selectTuning(const std::string& name)
 {
     if (name == kDynamic && !tunings_.contains(name))
-        putTuning(TuningDocument::initBuiltin(name));
+        putTuning(TuningDocument::makeBuiltin(name));
     const auto found = tunings_.find(name);
     if (found != tunings_.end())
-        player_.setTemperament(found->second->getTemperament());
+        useTuning(*found->second);
     if (found == tunings_.end() || instrumentName_.empty())
         logger("app").warn("Tuning or instrument not found '{}'", name);
     if (found == tunings_.end())
         return false;
-    tuningName_ = name;
     emit tuningChanged();
     return true;
+}
+
+void AppDelegate::useTuning(const TuningDocument& document)
+{
+    auto temperament = document.temperament().fresh();
+    player_.setTemperament(*temperament);
+    temperament_ = std::move(temperament);
+    tuningName_ = document.name();
 }
 
 void AppDelegate::setVolume(float volume, std::size_t slider)

@@ -180,6 +180,7 @@ private:
     void takeSynthesizer();
     void playThrough(std::unique_ptr<Synthesizer> synthesizer);
     void take(const InputEvent& event);
+    void useTuning(const TuningDocument& document);
 
     std::string instrumentName_, tuningName_;
     bool isCancelled_ = false;
@@ -187,12 +188,13 @@ private:
     /// Declared before the instruments, which play through it.
     std::unique_ptr<OpenALDevice> openAL_;
     std::vector<std::unique_ptr<InstrumentDocument>> instruments_;
-    /// Every tuning ever listed: one that was replaced may still be the current one.
+    /// Every tuning ever listed, including replaced ones.
     std::vector<std::unique_ptr<TuningDocument>> tuningDocuments_;
     std::map<std::string, TuningDocument*> tunings_;
     MIDIInstrument* midiPlayer_ = nullptr; ///< The first of the instruments.
     std::filesystem::path bank_;
 
+    std::unique_ptr<Temperament> temperament_; ///< A copy of its document's, which starts at home.
     Player player_;
     InputQueue queue_;
     DisplayWake displayWake_;

@@ -2,7 +2,7 @@
 
 namespace velmora {
 
-/// Seconds of a clock that runs evenly, from an arbitrary beginning. On any thread.
+/// Returns the seconds since an arbitrary moment on a steady clock. May be called on any thread.
 double getTime();
 
 } // namespace velmora

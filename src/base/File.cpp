@@ -26,8 +26,7 @@ template <class Bytes> Bytes readBytes(const std::filesystem::path& path)
     if (!file)
         throw systemError(errno);
 
-    // Read by blocks rather than by the file's size, which is but a hint: pipes and the like have
-    // none.
+    // The size is only a hint, since pipes have none. So the file is read in blocks until its end.
     Bytes bytes;
     constexpr std::size_t kBlock = 1 << 16;
     if (const std::uintmax_t size = std::filesystem::file_size(path, error); !error)

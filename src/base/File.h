@@ -7,10 +7,10 @@
 
 namespace velmora {
 
-/// Every byte of the file. Throws FormatError with the system's reason when it cannot be read.
+/// Reads a whole file. Throws FormatError with the system's reason if it cannot be read.
 std::vector<std::byte> readFile(const std::filesystem::path& path);
 
-/// The same as text, for formats that are.
+/// Reads a whole file as text. Throws as `readFile` does.
 std::string readTextFile(const std::filesystem::path& path);
 
 } // namespace velmora

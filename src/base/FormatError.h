@@ -6,19 +6,19 @@
 
 namespace velmora {
 
-/// A file that cannot be read as what it claims to be: a sentence, and where in the file it holds.
+/// The reason why a file cannot be read, and the place in the file where it was found.
 class FormatError : public std::runtime_error {
 public:
-    /// An error of the file as a whole.
+    /// Creates an error of the file as a whole.
     explicit FormatError(const std::string& message);
 
-    /// An error at a line, counted from 1.
+    /// Creates an error at a line number, counted from 1.
     static FormatError atLine(std::size_t line, const std::string& message);
 
-    /// An error at a byte, counted from 0.
+    /// Creates an error at a byte offset from the start of the file.
     static FormatError atByte(std::size_t offset, const std::string& message);
 
-    /// The whole sentence for the user: "FILE, line 3: MESSAGE".
+    /// Returns the full message for the user: "FILE, line 3: MESSAGE".
     std::string inFile(const std::string& fileName) const;
 
 private:

@@ -21,9 +21,9 @@ Logger logger(const std::string& folder)
     const std::lock_guard lock(mutex);
     if (const auto known = spdlog::get(folder))
         return Logger(*known);
-    const auto made = spdlog::stderr_color_mt(folder);
-    made->set_pattern("%n: %v");
-    return Logger(*made);
+    const auto created = spdlog::stderr_color_mt(folder);
+    created->set_pattern("%n: %v");
+    return Logger(*created);
 }
 
 void setLogLevel(spdlog::level::level_enum level)

@@ -10,10 +10,10 @@ class logger;
 
 namespace velmora {
 
-/// Writes for one folder of the program to standard error. Never called on the live path.
+/// Logs messages of one source folder to standard error. Must not be used on the live path.
 ///
-/// It stands between its callers and spdlog, whose templates would bring nearly all of fmt into
-/// every file that logs.
+/// This thin wrapper keeps spdlog's templates, and with them most of fmt, out of the files that
+/// log.
 class Logger {
 public:
     explicit Logger(spdlog::logger& logger) : logger_(&logger) {}
@@ -41,10 +41,10 @@ private:
     spdlog::logger* logger_;
 };
 
-/// The one of `folder`, made at its first use.
+/// Returns the logger of a source folder, creating it on first use. May be called on any thread.
 Logger logger(const std::string& folder);
 
-/// Shows messages from `level` upwards. The environment variable SPDLOG_LEVEL goes before it.
+/// Shows messages of `level` and above, unless the environment variable SPDLOG_LEVEL overrides it.
 void setLogLevel(spdlog::level::level_enum level);
 
 } // namespace velmora

@@ -5,13 +5,13 @@
 
 namespace velmora {
 
-/// The number at the beginning of a text as C's `atof` reads it in the "C" locale, whatever the
-/// user's locale is: leading white space and a sign are accepted, what follows the number is
-/// ignored. Nothing where `atof` finds no number and returns 0; infinity where it overflows.
+/// Reads the number at the beginning of a text like C's `atof`, but always in the "C" locale. It
+/// accepts leading white space and a sign, and ignores everything after the number. Returns nothing
+/// if there is no number, and infinity on overflow.
 std::optional<double> leadingNumber(std::string_view text);
 
-/// The whole number at the beginning of a text, as C's `atoi` reads it; saturates instead of
-/// overflowing. Nothing where `atoi` finds none and returns 0.
+/// Reads the whole number at the beginning of a text like C's `atoi`, but saturates on overflow.
+/// Returns nothing if there is no number.
 std::optional<int> leadingInteger(std::string_view text);
 
 } // namespace velmora

@@ -8,14 +8,14 @@ namespace velmora {
 
 namespace {
 
-/// The smallest and greatest code points that take so many bytes.
+/// The smallest and greatest code points that are encoded in a given number of bytes.
 struct Range {
     std::uint32_t lowest;
     std::uint32_t highest;
 };
 constexpr Range kRanges[] = {{0, 0x7F}, {0x80, 0x7FF}, {0x800, 0xFFFF}, {0x10000, 0x10FFFF}};
 
-/// Removes the code point at the beginning; false where there is none.
+/// Removes the first code point. Returns false if the text does not begin with a valid one.
 bool takeCodePoint(std::string_view& text)
 {
     const auto first = static_cast<unsigned char>(text.front());

@@ -5,10 +5,10 @@
 
 namespace velmora {
 
-/// The text itself where it is valid UTF-8; else the text as UTF-8 with each byte read as Latin-1.
+/// Returns the text if it is valid UTF-8, and otherwise converts it from Latin-1 to UTF-8.
 std::string toUtf8(std::string_view text);
 
-/// The text with the letters A to Z in lower case, whatever the user's locale is.
+/// Returns the text with A to Z in lower case, independent of the locale.
 std::string lowerCase(std::string text);
 
 } // namespace velmora

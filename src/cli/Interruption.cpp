@@ -1,6 +1,6 @@
 #include "cli/Interruption.h"
 
-#include "platform/endSignals.h"
+#include "platform/terminationSignals.h"
 
 #include <ctime>
 
@@ -8,24 +8,24 @@ namespace velmora {
 
 Interruption::Interruption()
 {
-    const sigset_t numbers = endSignals();
-    pthread_sigmask(SIG_BLOCK, &numbers, &before_);
+    const sigset_t watched = terminationSignals();
+    pthread_sigmask(SIG_BLOCK, &watched, &before_);
 }
 
 Interruption::~Interruption()
 {
-    const sigset_t numbers = endSignals();
-    const timespec atOnce{};
-    while (sigtimedwait(&numbers, nullptr, &atOnce) > 0) {
+    const sigset_t watched = terminationSignals();
+    const timespec noWait{};
+    while (sigtimedwait(&watched, nullptr, &noWait) > 0) {
     }
     pthread_sigmask(SIG_SETMASK, &before_, nullptr);
 }
 
 bool Interruption::requested()
 {
-    sigset_t waiting;
-    sigpending(&waiting);
-    return sigismember(&waiting, SIGINT) == 1 || sigismember(&waiting, SIGTERM) == 1;
+    sigset_t pending;
+    sigpending(&pending);
+    return sigismember(&pending, SIGINT) == 1 || sigismember(&pending, SIGTERM) == 1;
 }
 
 } // namespace velmora

@@ -4,19 +4,19 @@
 
 namespace velmora {
 
-/// As long as it lives, Ctrl-C and a request to terminate wait instead of ending the program, so
-/// that it can tidy up. It is made before any other thread is.
+/// While an object of this class exists, SIGINT and SIGTERM stay pending instead of ending the
+/// program, so that it can clean up. Must be created before any other thread.
 class Interruption {
 public:
     Interruption();
 
-    /// What has waited until now does nothing more.
+    /// Discards pending signals.
     ~Interruption();
 
     Interruption(const Interruption&) = delete;
     Interruption& operator=(const Interruption&) = delete;
 
-    /// Whether one of them waits; never where they are let through.
+    /// Returns whether one of the signals is pending. False while no object of this class exists.
     static bool requested();
 
 private:

@@ -4,15 +4,16 @@
 
 namespace velmora {
 
-/// Shows how much is done on standard error, where that is a terminal.
+/// Shows progress on standard error, if that is a terminal.
 class ProgressLine {
 public:
+    /// `what` names the work, as in "Rendering".
     explicit ProgressLine(std::string what);
     ~ProgressLine();
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
 
-    /// `done` ranges from 0 to 1.
+    /// Shows the part that is done, from 0 to 1.
     void show(double done);
 
 private:

@@ -2,8 +2,8 @@
 
 namespace velmora {
 
-/// Runs the program on its command line. Gives the exit code: 0; 1 when what was asked for failed;
-/// 2 when the command line is wrong.
+/// Runs the program. Returns the exit code: 0 on success, 1 on failure, 2 if the command line is
+/// wrong.
 int runCommandLine(int argc, char** argv);
 
 } // namespace velmora

@@ -10,23 +10,23 @@
 
 namespace velmora {
 
-/// A command line that is well formed but asks for something that does not exist.
+/// The error of a well-formed command line that names something that does not exist.
 class UsageError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Renders a sequence file to a sound file. Throws UsageError; std::runtime_error with a sentence
-/// when a file cannot be read or written.
+/// Renders a sequence file to a sound file. Throws UsageError, or std::runtime_error with a
+/// sentence if a file cannot be read or written.
 void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
             const Selection& selection, const RenderOptions& options);
 
-/// Prints what the program makes of tuning, instrument and sequence files, as text or as one JSON
-/// document a file. Prints the sentence of each that cannot be read on standard error; whether all
-/// could.
+/// Prints descriptions of tuning, instrument and sequence files, as text or as one JSON document
+/// per file. Prints a sentence on standard error for each unreadable file; returns whether there
+/// was none.
 bool info(const std::vector<std::filesystem::path>& files, bool json);
 
-/// Plays from the MIDI inputs until it is interrupted. Needs a QCoreApplication.
+/// Plays from the MIDI inputs until interrupted. Needs a QCoreApplication.
 void live(const Selection& selection);
 
 /// Prints the MIDI inputs, the sound output and the General MIDI bank in use.

@@ -14,8 +14,9 @@ using Json = nlohmann::ordered_json;
 
 namespace {
 
-/// The period of an output, which it tells with the first that it plays; 0 when none comes.
-std::size_t firstPeriod(const AudioOutput& output)
+/// Waits up to a second for the output to play its first period. Returns the period's length in
+/// frames, or 0 if there was none.
+std::size_t waitForPeriod(const AudioOutput& output)
 {
     using namespace std::chrono_literals;
     for (int i = 0; i < 100 && output.period() == 0; ++i)
@@ -34,7 +35,7 @@ Json describeAudio()
     const auto output = AudioOutput::open();
     if (!output)
         return nullptr;
-    const std::size_t period = firstPeriod(*output);
+    const std::size_t period = waitForPeriod(*output);
     return {{"driver", output->driver()},
             {"rate", output->rate()},
             {"periodFrames", period},

@@ -12,15 +12,16 @@ using Json = nlohmann::ordered_json;
 
 namespace {
 
+/// The key of pitch class C whose octave is described.
 constexpr unsigned long kShownKey = 60;
 
-/// Nothing sounds: any rate will do.
+/// Nothing is played, so any rate will do.
 constexpr double kRate = 48000.0;
 constexpr unsigned long kPitchClasses = 12;
 constexpr const char* kPitchClassNames[kPitchClasses] = {"C",  "C♯", "D",  "E♭", "E",  "F",
                                                          "F♯", "G",  "G♯", "A",  "B♭", "B"};
 
-/// The kind of a tuning and the value that it was given by.
+/// Adds the kind of a tuning and its value as given in the file.
 void describeKind(const Tuning& tuning, double base, Json& result)
 {
     if (const auto* ratio = dynamic_cast<const Ratio*>(&tuning)) {
@@ -37,8 +38,8 @@ void describeKind(const Tuning& tuning, double base, Json& result)
 
 Json describe(const TuningDocument& document)
 {
-    const Temperament& temperament = document.getTemperament();
-    Json result = {{"name", document.getName()},
+    const Temperament& temperament = document.temperament();
+    Json result = {{"name", document.name()},
                    {"baseFrequency", temperament.baseFrequency()},
                    {"pitchClasses", Json::array()}};
     for (unsigned long pitchClass = 0; pitchClass < kPitchClasses; ++pitchClass) {
@@ -84,7 +85,7 @@ void printSequence(const Json& sequence)
     fmt::print("{}: sequence of {} notes, {:.3f} steps long{}\n",
                sequence["name"].get<std::string>(), sequence["notes"].size(),
                sequence["extent"].get<double>(),
-               sequence["isImported"].get<bool>() ? ", the file holds more than the notes" : "");
+               sequence["isImported"].get<bool>() ? "; the file contains more than its notes" : "");
     for (const Json& note : sequence["notes"])
         fmt::print("  start {:>11.4f}  length {:>10.4f}  key {:>3}  velocity {:.3f}  channel {}\n",
                    note["start"].get<double>(), note["length"].get<double>(),
@@ -99,13 +100,13 @@ Json describeInstrument(const std::filesystem::path& path)
     return describe(*readInstrument(path, application));
 }
 
-/// A description of a file, and what prints it as text. Throws std::runtime_error with a sentence
-/// when it cannot be read.
+/// Returns a description of a file and the function that prints it as text. Throws
+/// std::runtime_error with a sentence if the file cannot be read.
 std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path& path)
 {
-    if (const std::string type = TuningDocument::typeOf(path); !type.empty()) {
+    if (const auto format = tuningFormatOf(path)) {
         TuningDocument document;
-        if (!document.readFromURL(path, type))
+        if (!document.read(path, *format))
             throw std::runtime_error(document.errorString());
         return {describe(document), printTuning};
     }
@@ -126,7 +127,7 @@ void printFile(const std::filesystem::path& path, bool json)
 {
     const auto [description, print] = describeFile(path);
     if (json)
-        // Names need not be UTF-8.
+        // Names may contain invalid UTF-8.
         fmt::print("{}\n", description.dump(2, ' ', false, Json::error_handler_t::replace));
     else
         print(description);

@@ -13,7 +13,7 @@ using Json = nlohmann::ordered_json;
 
 namespace {
 
-/// How many keys of the instrument sound each of its sounds.
+/// The number of keys that use each of an instrument's sounds.
 using Uses = std::map<const Sound*, int>;
 
 Uses countUses(const ALInstrument& instrument)

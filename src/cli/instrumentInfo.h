@@ -6,11 +6,11 @@
 
 namespace velmora {
 
-/// What the program makes of a sampled instrument: its stops with the sound of each key, and what
-/// the import brought in and left out.
+/// Describes a sampled instrument: its stops with the sound of each key, and what was imported and
+/// what was skipped.
 nlohmann::ordered_json describe(const InstrumentDocument& document);
 
-/// Prints such a description as text.
+/// Prints the description of an instrument as text.
 void printInstrument(const nlohmann::ordered_json& instrument);
 
 } // namespace velmora

@@ -20,7 +20,7 @@ void live(const Selection& selection)
 
     const MidiInputs& inputs = *application.midiInputs();
     const AudioOutput* output = application.audioOutput();
-    fmt::print("Playing in {} from {} on {}. Ctrl-C ends it.\n", selection.tuning,
+    fmt::print("Playing in {} from {} on {}. Press Ctrl-C to stop.\n", selection.tuning,
                inputs.names().empty() ? "no MIDI input"
                                       : fmt::format("{}", fmt::join(inputs.names(), ", ")),
                output == nullptr ? "no sound output" : output->driver());

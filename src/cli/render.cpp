@@ -12,7 +12,7 @@ namespace velmora {
 
 namespace {
 
-/// Makes the General MIDI player, to be rendered.
+/// Creates the General MIDI player and returns the source of its sound.
 AudioSource& addSynthesizer(double rate, AppDelegate& application)
 {
     auto synthesizer = makeOfflineSynthesizer(rate, generalMidiBanks());
@@ -27,8 +27,8 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
             const Selection& selection, const RenderOptions& options)
 {
     const Interruption interruption;
-    AudioFileWriter file(output, options.rate); // first: it tells at once where it cannot be
-    // Before the application: its sources and buffers go before their device.
+    AudioFileWriter file(output, options.rate); // first, to fail early if it cannot be written
+    // The device must outlive the application, which holds its sources and buffers.
     std::optional<OpenALLoopback> loopback;
     if (!selection.instrument.empty())
         loopback.emplace(options.rate);

@@ -15,15 +15,15 @@ std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
 {
     for (const char* builtin : {"Equal", "Quartercomma Meantone", "Dynamic"}) {
         if (name == builtin)
-            return TuningDocument::initBuiltin(name);
+            return TuningDocument::makeBuiltin(name);
     }
-    const std::string type = TuningDocument::typeOf(name);
-    if (type.empty())
+    const auto format = tuningFormatOf(name);
+    if (!format)
         throw UsageError("there is no tuning \"" + name +
-                         "\": give Equal, \"Quartercomma Meantone\", Dynamic or a file that ends "
-                         "in .scl or .mtx");
+                         "\"; use Equal, \"Quartercomma Meantone\", Dynamic, or a .scl or .mtx "
+                         "file");
     auto document = std::make_unique<TuningDocument>();
-    if (!document->readFromURL(name, type))
+    if (!document->read(name, *format))
         throw std::runtime_error(document->errorString());
     return document;
 }
@@ -35,9 +35,9 @@ std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& 
 {
     const auto format = instrumentFormatOf(path);
     if (!format)
-        throw UsageError("there is no instrument \"" + path.string() +
-                         "\": give a file that ends in .sf2, .gig, .organ_hauptwerk_xml, .xml or "
-                         ".organ");
+        throw UsageError("\"" + path.string() +
+                         "\" is not an instrument; use a .sf2, .gig, .organ_hauptwerk_xml, .xml or "
+                         ".organ file");
     ProgressLine progress("Loading");
     double steps = 1.0;
     double done = 0.0;
@@ -54,8 +54,7 @@ std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& 
         throw std::runtime_error(document->errorString().empty() ? "interrupted"
                                                                  : document->errorString());
     if (document->instrument() == nullptr)
-        throw std::runtime_error(path.filename().string() +
-                                 ": holds no instrument that Velmora can play");
+        throw std::runtime_error(path.filename().string() + ": contains no playable instrument");
     return document;
 }
 
@@ -64,7 +63,7 @@ void select(const Selection& selection, AppDelegate& application)
     auto tuning = tuningNamed(selection.tuning);
     if (!selection.instrument.empty())
         application.addInstrument(readInstrument(selection.instrument, application));
-    const std::string name = tuning->getName();
+    const std::string name = tuning->name();
     application.putTuning(std::move(tuning));
     application.selectTuning(name);
 
@@ -74,7 +73,7 @@ void select(const Selection& selection, AppDelegate& application)
         for (const auto& [stop, gain] : selection.stops) {
             if (stop >= instrument.numStops())
                 throw UsageError("the instrument has no stop " + std::to_string(stop) +
-                                 ": its stops are numbered from 0 to " +
+                                 "; its stops are numbered from 0 to " +
                                  std::to_string(instrument.numStops() - 1));
             instrument.setVolume(stop, gain);
         }

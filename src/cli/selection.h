@@ -10,22 +10,22 @@
 
 namespace velmora {
 
-/// What the command line chooses to play with.
+/// The tuning, instrument and stops chosen on the command line.
 struct Selection {
     std::string tuning = "Equal";        ///< "Equal", "Quartercomma Meantone", "Dynamic" or a file.
-    std::filesystem::path instrument;    ///< A file; empty for the General MIDI player.
+    std::filesystem::path instrument;    ///< An instrument file; empty for the General MIDI player.
     std::optional<std::uint8_t> program; ///< General MIDI program, 0…127.
-    std::vector<std::pair<std::size_t, float>> stops; ///< Number of a stop and its gain.
+    std::vector<std::pair<std::size_t, float>> stops; ///< Stop numbers, from 0, and their gains.
 };
 
-/// Reads an instrument file, with the application as its host. Needs a current OpenAL context.
-/// Throws UsageError when it has no name of an instrument file; std::runtime_error with a sentence
-/// when it cannot be read.
+/// Reads an instrument file with the application as its host. Needs a current OpenAL context.
+/// Throws UsageError if the file name is not that of an instrument, or std::runtime_error with a
+/// sentence if the file cannot be read.
 std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path,
                                                    AppDelegate& application);
 
-/// Makes the selection current. Throws UsageError when it names what does not exist;
-/// std::runtime_error with a sentence when one of its files cannot be read.
+/// Applies the selection. Throws UsageError if it names something that does not exist, or
+/// std::runtime_error with a sentence if one of its files cannot be read.
 void select(const Selection& selection, AppDelegate& application);
 
 } // namespace velmora

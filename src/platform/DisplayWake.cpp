@@ -10,7 +10,7 @@ namespace velmora {
 
 namespace {
 
-constexpr std::chrono::seconds kInterval(5);
+constexpr std::chrono::seconds kReportInterval(5);
 
 } // namespace
 
@@ -30,9 +30,9 @@ DisplayWake::~DisplayWake() = default;
 void DisplayWake::userActivity()
 {
     const auto now = std::chrono::steady_clock::now();
-    if (!bus_ || (told_ && now - *told_ < kInterval))
+    if (!bus_ || (lastReport_ && now - *lastReport_ < kReportInterval))
         return;
-    told_ = now;
+    lastReport_ = now;
     auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.ScreenSaver"),
                                                   QStringLiteral("/org/freedesktop/ScreenSaver"),
                                                   QStringLiteral("org.freedesktop.ScreenSaver"),

@@ -8,26 +8,26 @@ class QDBusConnection;
 
 namespace velmora {
 
-/// Keeps the display from going to sleep while music is played, by telling the desktop's screen
-/// saver of the user's activity (org.freedesktop.ScreenSaver). Main thread only.
+/// Keeps the display awake while music is played by reporting user activity to the desktop's screen
+/// saver (org.freedesktop.ScreenSaver). Main thread only.
 class DisplayWake {
 public:
-    /// Connects to the session bus. Without one, or without a QCoreApplication, nothing is told.
+    /// Connects to the session bus. Does nothing if there is no bus or no QCoreApplication.
     DisplayWake();
     ~DisplayWake();
 
     DisplayWake(const DisplayWake&) = delete;
     DisplayWake& operator=(const DisplayWake&) = delete;
 
-    /// Whether there is a session bus.
+    /// Returns whether there is a session bus.
     bool isConnected() const { return bus_ != nullptr; }
 
-    /// The user is playing. Told at most once in five seconds, without waiting for an answer.
+    /// Reports that the user is playing, at most once in five seconds. Does not wait for a reply.
     void userActivity();
 
 private:
-    std::unique_ptr<QDBusConnection> bus_; // null where there is none
-    std::optional<std::chrono::steady_clock::time_point> told_;
+    std::unique_ptr<QDBusConnection> bus_; ///< Null if there is none.
+    std::optional<std::chrono::steady_clock::time_point> lastReport_;
 };
 
 } // namespace velmora

@@ -31,7 +31,7 @@ std::chrono::nanoseconds now()
     return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
 }
 
-/// A timer that expires at every multiple of the interval from now on.
+/// Starts a timer and returns its file descriptor.
 int startTimer(std::chrono::nanoseconds interval)
 {
     const int descriptor = timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC);
@@ -62,7 +62,7 @@ IntervalTimer::~IntervalTimer()
 
 void IntervalTimer::expired() const
 {
-    // How many are due is of no interest, but reading it makes the descriptor wait for the next.
+    // Reading the number of due ticks rearms the notifier.
     std::uint64_t due = 0;
     if (read(descriptor_, &due, sizeof due) == sizeof due)
         tick_();

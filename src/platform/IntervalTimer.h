@@ -8,15 +8,15 @@ class QSocketNotifier;
 
 namespace velmora {
 
-/// Calls back at a steady interval in the event loop of the thread that made it, during menus and
-/// dialogs too. The ticks stand on the interval's multiples of CLOCK_MONOTONIC and do not drift.
+/// Calls back at a fixed interval in the event loop of the thread that created it, even while menus
+/// and dialogs are open. The ticks do not drift from CLOCK_MONOTONIC.
 ///
-/// Where the loop comes late and several are due, they become one call: what counts ticks then runs
-/// slower for that moment, what follows time reads the clock.
+/// If the event loop is late and several ticks are due, they are merged into one call. Code that
+/// must keep time therefore reads a clock instead of counting ticks.
 class IntervalTimer {
 public:
-    /// Starts at once; the first tick comes after one interval, which is above 0. Throws
-    /// std::system_error where the system has no timer left. `tick` must not destroy the timer.
+    /// Starts the timer; the first tick comes after one interval. `interval` must be positive, and
+    /// `tick` must not destroy the timer. Throws std::system_error if the system has no timer left.
     IntervalTimer(std::chrono::nanoseconds interval, std::function<void()> tick);
     ~IntervalTimer();
 

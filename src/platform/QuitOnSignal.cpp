@@ -1,6 +1,6 @@
 #include "platform/QuitOnSignal.h"
 
-#include "platform/endSignals.h"
+#include "platform/terminationSignals.h"
 
 #include <QSocketNotifier>
 
@@ -11,16 +11,16 @@ namespace velmora {
 
 namespace {
 
-int openSignals()
+int blockAndOpenSignals()
 {
-    const sigset_t ends = endSignals();
-    pthread_sigmask(SIG_BLOCK, &ends, nullptr);
-    return signalfd(-1, &ends, SFD_CLOEXEC);
+    const sigset_t watched = terminationSignals();
+    pthread_sigmask(SIG_BLOCK, &watched, nullptr);
+    return signalfd(-1, &watched, SFD_CLOEXEC);
 }
 
 } // namespace
 
-QuitOnSignal::QuitOnSignal() : descriptor_(openSignals()) {}
+QuitOnSignal::QuitOnSignal() : descriptor_(blockAndOpenSignals()) {}
 
 QuitOnSignal::~QuitOnSignal()
 {

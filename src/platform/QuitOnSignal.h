@@ -7,8 +7,8 @@ class QSocketNotifier;
 
 namespace velmora {
 
-/// Calls back in the event loop, once the program is asked by SIGINT or SIGTERM to end. To be made
-/// before any other thread is: threads inherit that these signals wait to be read here.
+/// Calls back in the event loop when the program receives SIGINT or SIGTERM. Must be created before
+/// any other thread, because the signals have to be blocked in every thread to be read here.
 class QuitOnSignal {
 public:
     QuitOnSignal();
@@ -16,7 +16,7 @@ public:
     QuitOnSignal(const QuitOnSignal&) = delete;
     QuitOnSignal& operator=(const QuitOnSignal&) = delete;
 
-    /// Calls `quit` from now on. Needs a QCoreApplication.
+    /// Starts calling `quit` on each signal. Needs a QCoreApplication.
     void watch(std::function<void()> quit);
 
 private:

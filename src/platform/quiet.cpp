@@ -21,7 +21,7 @@ void logAlsa(const char* /*file*/, int /*line*/, const char* function, int /*err
     std::array<char, 512> text{};
     va_list arguments;
     va_start(arguments, format);
-    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): clang 14 overlooks va_start at times
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): clang 14 sometimes overlooks va_start
     std::vsnprintf(text.data(), text.size(), format, arguments);
     va_end(arguments);
     logger("platform").debug("ALSA: {}: {}", function, text.data());
@@ -39,7 +39,7 @@ void logFluidSynth(int /*level*/, const char* message, void* platform)
 
 bool redirect()
 {
-    // FluidSynth speaks on the audio thread too, where a look-up of the logger has no place.
+    // Looked up once, because FluidSynth also logs on the audio thread.
     static Logger platform = logger("platform");
     setenv("JACK_NO_START_SERVER", "1", 0);
     snd_lib_error_set_handler(logAlsa);

@@ -2,9 +2,10 @@
 
 namespace velmora {
 
-/// Leads what ALSA, libjack and FluidSynth would print on standard error to the log, at debug
-/// level, and keeps libjack from starting a server of its own. To be called before the first use of
-/// any of them, on the main thread while no other reads the environment; further calls do nothing.
+/// Sends the messages that ALSA, libjack and FluidSynth would print on standard error to the log,
+/// at debug level, and keeps libjack from starting a server. Must be called on the main thread
+/// before any of these libraries is used and before another thread reads the environment. Further
+/// calls do nothing.
 void quietSoundLibraries();
 
 } // namespace velmora

@@ -13,19 +13,19 @@ namespace velmora {
 
 namespace {
 
-/// Empty where it was written.
-std::string reasonForFailure(const std::filesystem::path& path, std::string_view bytes)
+/// Writes the file. Returns the reason for a failure, or an empty text on success.
+std::string tryToWrite(const std::filesystem::path& path, std::string_view bytes)
 {
     std::error_code error;
     if (!std::filesystem::is_directory(path.parent_path(), error))
-        return "there is no such folder";
+        return "the folder does not exist";
     if (std::filesystem::exists(path, error) && !std::filesystem::is_regular_file(path, error))
-        return "what has this name is no file";
+        return "not a regular file";
     QSaveFile file(QString::fromStdString(path.string()));
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString().toStdString();
-    // Through the descriptor: Qt loses the reason when only a part can be written, as on a full
-    // disk, and may then commit that part.
+    // QSaveFile's own `write` loses the reason for an incomplete write, for example on a full disk,
+    // and may then commit the incomplete file.
     while (!bytes.empty()) {
         const ssize_t written = write(file.handle(), bytes.data(), bytes.size());
         if (written < 0 && errno != EINTR)
@@ -42,9 +42,9 @@ std::string reasonForFailure(const std::filesystem::path& path, std::string_view
 void writeFile(const std::filesystem::path& path, std::string_view bytes)
 {
     const std::filesystem::path whole = std::filesystem::absolute(path);
-    const std::string reason = reasonForFailure(whole, bytes);
+    const std::string reason = tryToWrite(whole, bytes);
     if (!reason.empty())
-        throw std::runtime_error(whole.filename().string() + " cannot be written in " +
+        throw std::runtime_error(whole.filename().string() + " cannot be written to " +
                                  whole.parent_path().string() + ": " + reason);
 }
 

@@ -5,8 +5,8 @@
 
 namespace velmora {
 
-/// Puts a file with these bytes in its place, all of it on the disk, or leaves what was there as it
-/// was. Throws std::runtime_error with a sentence that names the file, its folder and the reason.
+/// Writes a file atomically and durably. If that fails, an existing file is left unchanged, and
+/// std::runtime_error is thrown with a sentence that names the file, its folder and the reason.
 void writeFile(const std::filesystem::path& path, std::string_view bytes);
 
 } // namespace velmora

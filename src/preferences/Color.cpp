@@ -8,7 +8,7 @@ namespace velmora {
 
 namespace {
 
-bool isShare(float value)
+bool isComponent(float value)
 {
     return value >= 0 && value <= 1;
 }
@@ -31,7 +31,7 @@ Color::Color(const char* key)
         const float number = value.toFloat(&isNumber);
         return isNumber ? number : -1.0F;
     });
-    if (!std::all_of(std::begin(values), std::end(values), isShare))
+    if (!std::all_of(std::begin(values), std::end(values), isComponent))
         return;
     red = values[0];
     green = values[1];

@@ -6,7 +6,7 @@
 
 namespace velmora {
 
-/// A colour as it is drawn: red, green, blue and opacity, each from 0 to 1.
+/// A colour to draw with: red, green, blue and opacity, each from 0 to 1.
 struct Color {
     float red = 0;
     float green = 0;
@@ -15,9 +15,9 @@ struct Color {
 
     explicit Color(const QColor& color);
 
-    /// The colour that the user has set for a key, or its default: "NoteColor" and
-    /// "NoteColorPlaying" of the piano roll; "KeyColor", "KeyColorCorrect", "KeyColorSustain" and
-    /// "KeyColorWrong" of the keyboard. All 0 when there is none or it cannot be read.
+    /// Reads a preference: "NoteColor" or "NoteColorPlaying" of the piano roll; "KeyColor",
+    /// "KeyColorCorrect", "KeyColorSustain" or "KeyColorWrong" of the keyboard. All components are
+    /// 0 if the key is unknown or its value is unreadable.
     explicit Color(const char* key);
 
     QColor toQColor() const { return QColor::fromRgbF(red, green, blue, alpha); }
@@ -25,7 +25,7 @@ struct Color {
     bool operator==(const Color&) const = default;
 };
 
-/// Stored as four numbers.
+/// Sets a colour preference. It is stored as four numbers.
 void setPrefColor(const std::string& key, const Color& color);
 
 } // namespace velmora

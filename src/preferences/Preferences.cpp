@@ -11,12 +11,12 @@ namespace velmora {
 
 namespace {
 
-/// Says of each key once that what is stored for it is of no use.
+/// Logs that a key's stored value is unusable, once per key.
 void reportOnce(const std::string& key, const char* expected)
 {
     static std::set<std::string> reported;
     if (reported.insert(key).second)
-        logger("preferences").warn("The preference {} is not {}; its default holds", key, expected);
+        logger("preferences").warn("the preference {} is not {}; using its default", key, expected);
 }
 
 } // namespace
@@ -38,10 +38,10 @@ int getPrefInt(const std::string& key)
 {
     bool isNumber = false;
     int value = preference(key).toInt(&isNumber);
-    const QVariant standard = defaultPreference(key);
-    if (!isNumber && standard.isValid()) {
+    const QVariant defaultValue = defaultPreference(key);
+    if (!isNumber && defaultValue.isValid()) {
         reportOnce(key, "a whole number");
-        value = standard.toInt();
+        value = defaultValue.toInt();
     }
     const PrefRange range = prefRange(key);
     return std::clamp(value, range.least, range.greatest);

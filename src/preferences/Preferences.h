@@ -4,33 +4,35 @@
 
 namespace velmora {
 
-// What the user has set. Every call reads afresh and is cheap enough for drawing. Defaults are only
-// kept in memory. On the main thread.
+// The user's preferences. Reading one is cheap enough for drawing code. Defaults are never written
+// to disk. Main thread only.
 
-/// The whole number that the user has set for a key, or its default; one beyond what the key allows
-/// is corrected. 0 for a key that is not known. The keys: "KeyWidth", the width of a semitone in
-/// pixels; "KeyHeight", the height of a step in the piano roll; "KeyRangeLo" and "KeyRangeHi", the
-/// lowest and the highest MIDI key shown, always at least two keys.
+/// Returns an integer preference, clamped to its range, or 0 if the key is unknown. The keys are
+/// "KeyWidth", the width of a semitone in pixels; "KeyHeight", the height of a step in the piano
+/// roll in pixels; "KeyRangeLo" and "KeyRangeHi", the lowest and highest MIDI key shown, at least
+/// one apart.
 int getPrefInt(const std::string& key);
 void setPrefInt(const std::string& key, int value);
 
-/// The numbers that a key allows, the others being what they are.
+/// The range of an integer preference.
 struct PrefRange {
     int least;
     int greatest;
 };
+
+/// Returns the values allowed for a key, given the current values of the other keys.
 PrefRange prefRange(const std::string& key);
 
-/// The choice that the user has made for a key: "KeyNames", whether the keyboard names its C keys.
+/// Returns a boolean preference: "KeyNames" shows the names of the C keys on the keyboard.
 bool getPrefBool(const std::string& key);
 void setPrefBool(const std::string& key, bool value);
 
-/// The text that the user has set for a key: "GMBank", the SoundFont of the General MIDI
-/// synthesizer, empty unless the user has chosen one.
+/// Returns a text preference: "GMBank" is the path of the SoundFont for the General MIDI
+/// synthesizer, empty if the user has not chosen one.
 std::string getPrefString(const std::string& key);
 void setPrefString(const std::string& key, const std::string& value);
 
-/// Forgets what the user has set for a key: its default holds again.
+/// Restores a key's default.
 void resetPref(const std::string& key);
 
 } // namespace velmora

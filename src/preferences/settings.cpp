@@ -15,7 +15,7 @@ QVariantList color(double red, double green, double blue)
     return {red, green, blue, 1.0};
 }
 
-/// What holds until the user sets something else; never written.
+/// The default values, which are never written to disk.
 const QVariantMap& defaults()
 {
     static const QVariantMap values = {
@@ -35,7 +35,7 @@ const QVariantMap& defaults()
     return values;
 }
 
-/// One for the whole run: making one looks for its files again, which takes longer than a read.
+/// Returns the settings. They are opened once, because that takes much longer than reading a value.
 QSettings& settings()
 {
     static QSettings values("velmora", "velmora");
@@ -49,7 +49,7 @@ void reportDamageOnce()
         return;
     isReported = true;
     logger("preferences")
-        .warn("{} {}; defaults stand in for what is missing", settings().fileName().toStdString(),
+        .warn("{} {}; using defaults for missing values", settings().fileName().toStdString(),
               settings().status() == QSettings::FormatError ? "is damaged"
                                                             : "cannot be read or written");
 }

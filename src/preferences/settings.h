@@ -6,16 +6,16 @@
 
 namespace velmora {
 
-/// What is kept for a key: what the user has set, or its default, or what the windows remember from
-/// run to run. Invalid where there is neither.
+/// Returns the stored value of a key, or else its default. Invalid if there is neither. Windows
+/// also store their geometry here.
 QVariant preference(const std::string& key);
 
-/// What holds for a key until the user sets something else.
+/// Returns the default value of a key; invalid if there is none.
 QVariant defaultPreference(const std::string& key);
 
 void setPreference(const std::string& key, const QVariant& value);
 
-/// Whether what is set outlives the program.
+/// Returns whether changed preferences can be saved.
 bool arePreferencesWritable();
 
 } // namespace velmora

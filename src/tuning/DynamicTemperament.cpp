@@ -10,13 +10,13 @@ namespace velmora {
 
 namespace {
 
-/// The index of each pitch class's normal spelling. Its neighbours are its two others.
+/// The index of each pitch class's home spelling. The adjacent indices are its two alternatives.
 constexpr std::array<std::uint8_t, 12> kHome = {1, 3, 6, 9, 11, 14, 16, 19, 21, 24, 27, 29};
 
-/// The score of a spelling that is still sounding.
+/// The score of a spelling whose last note has not faded.
 constexpr float kHold = 12.0F;
 
-/// Below this weight a pitch class has faded.
+/// A pitch class whose weight falls below this has faded.
 constexpr double kFaded = 0.02;
 
 } // namespace
@@ -65,9 +65,9 @@ DynamicTemperament::DynamicTemperament()
 
 std::unique_ptr<Temperament> DynamicTemperament::fresh() const
 {
-    auto same = std::make_unique<DynamicTemperament>();
-    same->setBaseFrequency(baseFrequency());
-    return same;
+    auto copy = std::make_unique<DynamicTemperament>();
+    copy->setBaseFrequency(baseFrequency());
+    return copy;
 }
 
 const Tuning& DynamicTemperament::getTuning(unsigned long key) const
@@ -112,7 +112,7 @@ void DynamicTemperament::isomorph(Tunable& instrument, int n)
     const int neighbour = n - 3 * k;
     const auto pitchClass = static_cast<std::size_t>(k % 12);
     const int spelling = kHome[pitchClass] + neighbour;
-    logger("tuning").info("ISOMORPH {}", spelling);
+    logger("tuning").debug("ISOMORPH {}", spelling);
     voices_[pitchClass] = {static_cast<std::size_t>(spelling), 0.0F};
     instrument.tune(*this, 0, 127);
     instrument.play(isomorphKey(n), 1.0F);

@@ -36,10 +36,10 @@ Temperament Temperament::Meantone()
 
 std::unique_ptr<Temperament> Temperament::fresh() const
 {
-    auto same = std::make_unique<Temperament>();
-    same->tunings_ = tunings_;
-    same->baseFrequency_ = baseFrequency_;
-    return same;
+    auto copy = std::make_unique<Temperament>();
+    copy->tunings_ = tunings_;
+    copy->baseFrequency_ = baseFrequency_;
+    return copy;
 }
 
 const Tuning& Temperament::getTuning(unsigned long key) const

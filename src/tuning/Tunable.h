@@ -4,15 +4,15 @@ namespace velmora {
 
 class Temperament;
 
-/// What a temperament asks of the instrument that it tunes.
+/// An instrument, as far as a temperament needs to know it.
 class Tunable {
 public:
     virtual ~Tunable() = default;
 
-    /// Starts a key, 0…127, with a velocity from 0 to 1.
+    /// Plays a key, 0…127, at a velocity from 0 to 1.
     virtual void play(int key, float velocity) = 0;
 
-    /// Retunes the keys `lo` to `hi` inclusive, including those that sound.
+    /// Retunes the keys from `lo` to `hi` inclusive, including sounding ones.
     virtual void tune(const Temperament& temperament, int lo, int hi) = 0;
 };
 

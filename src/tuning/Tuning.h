@@ -2,22 +2,22 @@
 
 namespace velmora {
 
-/// Where one pitch class lies above the tonic.
+/// The pitch of one pitch class, usually relative to the tonic.
 class Tuning {
 public:
     virtual ~Tuning() = default;
 
-    /// Hertz in the given octave, where the tonic of octave 0 sounds at `base` hertz.
+    /// Returns the frequency in hertz in an octave. The tonic of octave 0 is at `base` hertz.
     virtual double tune(double base, int octave) const = 0;
 
-    /// Cents above the tonic; 0 for a pitch that has no relative measure.
+    /// Returns the distance above the tonic in cents; 0 for an absolute pitch.
     virtual double cent() const = 0;
 
-    /// Frequency ratio to the tonic; 0 for a pitch that has no relative measure.
+    /// Returns the frequency ratio to the tonic; 0 for an absolute pitch.
     virtual double ratio() const = 0;
 };
 
-/// A pitch class given in cents.
+/// A pitch class given in cents above the tonic.
 class Cent : public Tuning {
 public:
     explicit Cent(double cents) : cents_(cents) {}
@@ -30,7 +30,7 @@ private:
     double cents_;
 };
 
-/// A pitch class given as a frequency ratio above zero.
+/// A pitch class given as a frequency ratio to the tonic, greater than zero.
 class Ratio : public Tuning {
 public:
     Ratio(double numerator, double denominator) : numerator_(numerator), denominator_(denominator)
@@ -49,8 +49,8 @@ private:
     double denominator_;
 };
 
-/// A pitch class given in hertz at octave 0, whatever the base frequency is. It has no relative
-/// measure: an instrument that retunes by cents plays it as 0 cents.
+/// A pitch class given as an absolute frequency: hertz in octave 0, whatever the base frequency. It
+/// has no relative measure, so an instrument that retunes by cents plays it at 0 cents.
 class Freq : public Tuning {
 public:
     explicit Freq(double hertz) : frequency_(hertz) {}

@@ -3,6 +3,7 @@
 #include "base/FormatError.h"
 #include "base/Log.h"
 #include "base/Numbers.h"
+#include "base/Text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,20 +16,20 @@ namespace {
 
 constexpr std::size_t kPitchClasses = 12;
 
-/// How many lines a file must hold: in a scale a description, the count and eleven pitches; in the
-/// frequency format the base, eleven frequencies and one more.
+/// The content lines of a file: in a scale the description, the count and eleven pitches; in the
+/// frequency format the base, eleven frequencies and an ignored line.
 constexpr std::size_t kKeptLines = 13;
 
 struct Line {
     std::string_view text;
-    std::size_t number; ///< In the file, from 1.
+    std::size_t number; ///< Line number in the file, from 1.
 };
 
 struct Lines {
-    std::vector<Line> kept;    ///< The first lines of content, as many as can have a meaning.
-    std::size_t keptCount = 0; ///< All lines of content.
-    std::size_t count = 0;     ///< All lines.
-    std::string_view unended;  ///< What follows the last line end. It does not count.
+    std::vector<Line> kept;    ///< The first `kKeptLines` content lines.
+    std::size_t keptCount = 0; ///< The number of content lines in the file.
+    std::size_t count = 0;     ///< The number of lines in the file.
+    std::string_view unended;  ///< The ignored text after the last line end.
 };
 
 bool isKept(std::string_view line)
@@ -54,7 +55,7 @@ Lines splitLines(std::string_view text)
     return lines;
 }
 
-/// The line for an error message: plain text of a readable length, whatever the file holds.
+/// Quotes a line in an error message: its first characters, with "?" for unprintable ones.
 std::string quoted(const Line& line)
 {
     constexpr std::size_t kLongest = 40;
@@ -69,15 +70,15 @@ FormatError wrongLine(const Line& line, const std::string& reason)
     return FormatError::atLine(line.number, quoted(line) + " " + reason);
 }
 
-FormatError wrongLineCount(const Lines& lines, const std::string& wanted)
+FormatError wrongLineCount(const Lines& lines, TuningFormat format, const std::string& limit)
 {
-    std::string message = "the file holds " + std::to_string(lines.keptCount) +
-                          (lines.keptCount == 1 ? " line" : " lines") + " of content, but " +
-                          wanted + " " + std::to_string(kKeptLines) + " are wanted";
+    std::string message = typeName(format) + " files need " + limit + " " +
+                          std::to_string(kKeptLines) + " lines of content; this one has " +
+                          std::to_string(lines.keptCount);
     if (lines.count == 0 && lines.unended.find('\r') != std::string_view::npos)
-        message += " (a line must end in LF or CR LF, not in CR alone)";
+        message += " (lines must end in LF or CR LF, not in CR alone)";
     else if (!lines.unended.empty())
-        message += " (the last line does not count: it has no line end)";
+        message += " (the last line is ignored because it has no line end)";
     return FormatError::atLine(lines.count + (lines.unended.empty() ? 0 : 1), message);
 }
 
@@ -91,7 +92,7 @@ double finiteNumber(const Line& line, std::string_view text)
     return *value;
 }
 
-/// Adds the pitch of a line, if it is one on every key that a MIDI keyboard can have.
+/// Appends a line's tuning. Throws FormatError if the pitch of any MIDI key would be unplayable.
 void append(Temperament& temperament, std::unique_ptr<Tuning> tuning, const Line& line)
 {
     constexpr int kLowestOctave = -4;
@@ -99,7 +100,7 @@ void append(Temperament& temperament, std::unique_ptr<Tuning> tuning, const Line
     const double lowest = tuning->tune(temperament.baseFrequency(), kLowestOctave);
     const double highest = tuning->tune(temperament.baseFrequency(), kHighestOctave);
     if (!(lowest > 0.0) || !std::isfinite(highest))
-        throw wrongLine(line, "is no pitch");
+        throw wrongLine(line, "is not a playable pitch");
     temperament.append(std::move(tuning));
 }
 
@@ -108,15 +109,15 @@ std::unique_ptr<Tuning> readRatio(const Line& line, std::size_t slash)
     const double numerator = std::trunc(finiteNumber(line, line.text.substr(0, slash)));
     const double denominator = std::trunc(finiteNumber(line, line.text.substr(slash + 1)));
     if (denominator == 0.0)
-        throw wrongLine(line, "divides by zero");
-    logger("tuning").info("R {:.0f}/{:.0f}", numerator, denominator);
+        throw wrongLine(line, "has a zero denominator");
+    logger("tuning").debug("R {:.0f}/{:.0f}", numerator, denominator);
     return std::make_unique<Ratio>(numerator, denominator);
 }
 
 std::unique_ptr<Tuning> readCents(const Line& line)
 {
     const double cents = finiteNumber(line, line.text);
-    logger("tuning").info("C {:f}", cents);
+    logger("tuning").debug("C {:f}", cents);
     return std::make_unique<Cent>(cents);
 }
 
@@ -124,7 +125,7 @@ void checkNoteCount(const Line& line)
 {
     const auto count = leadingInteger(line.text);
     if (count != static_cast<int>(kPitchClasses))
-        throw wrongLine(line, "is the number of notes, but a scale of 12 notes is wanted");
+        throw wrongLine(line, "is the number of notes; only scales of 12 notes are supported");
 }
 
 Temperament readScale(const Lines& lines)
@@ -132,7 +133,7 @@ Temperament readScale(const Lines& lines)
     if (lines.kept.size() > 1)
         checkNoteCount(lines.kept[1]);
     if (lines.kept.size() < kKeptLines)
-        throw wrongLineCount(lines, "at least");
+        throw wrongLineCount(lines, TuningFormat::Scale, "at least");
 
     Temperament temperament;
     temperament.append(std::make_unique<Cent>(0.0));
@@ -148,7 +149,7 @@ Temperament readScale(const Lines& lines)
 Temperament readFrequencies(const Lines& lines)
 {
     if (lines.keptCount != kKeptLines)
-        throw wrongLineCount(lines, "exactly");
+        throw wrongLineCount(lines, TuningFormat::Frequencies, "exactly");
 
     Temperament temperament;
     const Line& baseLine = lines.kept.front();
@@ -156,15 +157,30 @@ Temperament readFrequencies(const Lines& lines)
     for (std::size_t i = 1; i < kPitchClasses; ++i) {
         const Line& line = lines.kept[i];
         const double hertz = finiteNumber(line, line.text);
-        logger("tuning").info("F {:f}", hertz);
+        logger("tuning").debug("F {:f}", hertz);
         append(temperament, std::make_unique<Freq>(hertz), line);
     }
-    // The format names eleven pitches; the base an octave up closes the keyboard.
+    // The format has no pitch for B.
     append(temperament, std::make_unique<Freq>(2.0 * temperament.baseFrequency()), baseLine);
     return temperament;
 }
 
 } // namespace
+
+std::optional<TuningFormat> tuningFormatOf(const std::filesystem::path& path)
+{
+    const std::string extension = lowerCase(path.extension().string());
+    if (extension == ".scl")
+        return TuningFormat::Scale;
+    if (extension == ".mtx")
+        return TuningFormat::Frequencies;
+    return std::nullopt;
+}
+
+std::string typeName(TuningFormat format)
+{
+    return format == TuningFormat::Scale ? "Scale" : "MTX";
+}
 
 Temperament readTuning(std::span<const std::byte> bytes, TuningFormat format)
 {

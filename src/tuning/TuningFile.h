@@ -3,22 +3,33 @@
 #include "tuning/Temperament.h"
 
 #include <cstddef>
+#include <filesystem>
+#include <optional>
 #include <span>
+#include <string>
 
 namespace velmora {
 
+/// The kinds of tuning file. Both describe twelve notes.
 enum class TuningFormat {
-    Scale,      ///< A Scala scale: a description, the count 12, eleven pitches, the octave.
-    Frequencies ///< The base frequency and eleven more in hertz, then one line without meaning.
+    Scale,      ///< A Scala scale: a description, the count 12, eleven pitches and the octave.
+    Frequencies ///< The base frequency, eleven more frequencies in hertz, and one ignored line.
 };
 
-/// The temperament that a tuning file describes. Lines end in LF or CR LF; those that are empty or
-/// begin with one of ! / : @ are comments, and so is what follows a number on its line.
+/// Returns the format that the file name's extension stands for, in any letter case: .scl or .mtx.
+std::optional<TuningFormat> tuningFormatOf(const std::filesystem::path& path);
+
+/// Returns the format's type name: "Scale" or "MTX".
+std::string typeName(TuningFormat format);
+
+/// Reads the temperament that a tuning file describes. Lines end in LF or CR LF. Empty lines and
+/// lines that begin with one of ! / : @ are comments, as is everything after a line's number.
 ///
-/// In a scale a pitch is cents above C, from C♯ to B, or a ratio if it holds a "/"; a whole number
-/// is cents. Frequencies run from C to B♭, whatever the base is, and B is the base an octave up.
+/// In a scale, the pitches of C♯ to B are cents above C, or ratios if they contain a "/"; a whole
+/// number is cents. Frequencies run from C to B♭ and do not depend on the base; B is the base an
+/// octave up.
 ///
-/// Throws FormatError with the line, unless every key has a pitch: finite and above 0 Hz.
+/// Throws FormatError with the line number unless every key's pitch is finite and above 0 Hz.
 Temperament readTuning(std::span<const std::byte> bytes, TuningFormat format);
 
 } // namespace velmora

@@ -4,10 +4,10 @@
 
 namespace velmora {
 
-/// The name of pitch class 0 to 11, from "C" to "B"; empty above.
+/// Returns the name of pitch class 0…11, "C" to "B"; empty for any other number.
 std::string keyName(unsigned pitchClass);
 
-/// The name of MIDI key 0 to 127 with its octave: "C4" is key 60, middle C.
+/// Returns the name of MIDI key 0…127 with its octave. Key 60, middle C, is "C4".
 std::string noteName(unsigned key);
 
 } // namespace velmora

@@ -6,15 +6,15 @@ namespace velmora {
 
 namespace {
 
-/// The fifth in cents: four of them make a pure third and two octaves.
+/// The meantone fifth in cents. Four of them make two octaves and a pure third.
 constexpr double kFifth = 696.5784284662087;
 
-/// Fifths from C to the ends of the chain.
+/// The length of the chain of fifths on either side of C.
 constexpr int kFarthest = 15;
 
-constexpr double kTolerance = 2.0;
+constexpr double kTolerance = 2.0; ///< In cents.
 
-/// Of a pitch so many fifths above C.
+/// Returns the name of the pitch that lies `fifths` fifths above C.
 std::string nameOf(int fifths)
 {
     const int fromF = fifths + 1 + 3 * 7;

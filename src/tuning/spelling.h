@@ -4,9 +4,9 @@
 
 namespace velmora {
 
-/// The name of a pitch of quarter-comma meantone by its cents above C: of the chain of fifths from
-/// D double flat, say 41.06, to B sharp, say -41.06, with a few more at both ends. Empty for a
-/// pitch that lies farther than two cents from all of them.
+/// Returns the name of a quarter-comma meantone pitch, given in cents above C: 41.06 is "Dbb" and
+/// -41.06 is "B#". It knows the chain of 15 fifths on either side of C, and returns an empty name
+/// for a pitch more than two cents away from all of them.
 std::string spelling(double cents);
 
 } // namespace velmora

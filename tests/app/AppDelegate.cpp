@@ -17,7 +17,7 @@ protected:
     AppDelegateTest()
     {
         app_.makeBuiltinTunings();
-        app_.putTuning(TuningDocument::initBuiltin("Dynamic"));
+        app_.putTuning(TuningDocument::makeBuiltin("Dynamic"));
     }
 
     /// The instrument was told this since the last look.
@@ -54,7 +54,7 @@ TEST_F(AppDelegateTest, KeysSoundOnceTheSelectedTemperamentHasTunedThem)
     EXPECT_TRUE(app_.selectTuning("Dynamic"));
     const Temperament* before = current();
     EXPECT_FALSE(app_.selectTuning("dynamic"));
-    app_.putTuning(TuningDocument::initBuiltin("Dynamic"));
+    app_.putTuning(TuningDocument::makeBuiltin("Dynamic"));
     expectCalls({"tune 0 127"});
     app_.keyOn(0, 1.0F); // still through the one whose name was taken over
     expectCalls({"tune 0 127", "play 0 1.00"});
@@ -78,6 +78,17 @@ TEST_F(AppDelegateTest, FadesTheInstrumentAndTheTemperament)
     app_.player().fade();
     expectCalls({"fade 0.9"});
     EXPECT_EQ(current()->getTuning(0).cent(), 0.0) << "comes home once all has faded";
+}
+
+TEST_F(AppDelegateTest, DynamicBeginsAtHomeEachTimeItIsSelected)
+{
+    app_.setInstrument(instrument_, "Recorder");
+    app_.selectTuning("Dynamic");
+    app_.player().isomorph(2);
+    EXPECT_NEAR(current()->getTuning(1).cent(), 41.06, 0.01);
+    app_.selectTuning("Equal");
+    app_.selectTuning("Dynamic");
+    EXPECT_EQ(current()->getTuning(1).cent(), 76.049);
 }
 
 TEST_F(AppDelegateTest, WhatWasReceivedReachesTheMainThreadInOrder)

@@ -18,7 +18,7 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
 {
     AppDelegate app;
     app.makeBuiltinTunings();
-    app.putTuning(TuningDocument::initBuiltin("Dynamic"));
+    app.putTuning(TuningDocument::makeBuiltin("Dynamic"));
     std::vector<std::pair<Instrument*, Synthesizer*>> players;
     for (int i = 0; i < 2; ++i) {
         auto synthesizer = std::make_unique<Synthesizer>(48000.0, std::vector{kBank});

@@ -8,7 +8,7 @@
 
 namespace velmora {
 
-TEST(Numbers, ReadWhatAtofAndAtoiRead)
+TEST(Numbers, AreReadAsAtofAndAtoiDo)
 {
     for (const auto& [text, number, integer] : std::vector<std::tuple<const char*, double, int>>{
              {" \t\r\n\v\f3.5 cents", 3.5, 3},
@@ -22,15 +22,16 @@ TEST(Numbers, ReadWhatAtofAndAtoiRead)
         EXPECT_EQ(leadingNumber(text), std::nullopt) << text;
         EXPECT_EQ(leadingInteger(text), std::nullopt) << text;
     }
-    EXPECT_EQ(leadingNumber(std::string_view("3.55").substr(0, 3)), 3.5) << "ends with its view";
+    EXPECT_EQ(leadingNumber(std::string_view("3.55").substr(0, 3)), 3.5)
+        << "must not read past the view";
 }
 
-TEST(Numbers, DoNotFollowTheLocale)
+TEST(Numbers, AreReadIndependentlyOfTheLocale)
 {
-    // German writes 3,5. Its locale is seldom installed, so it is made here.
+    // German has a decimal comma. The locale is rarely installed, so it is compiled here.
     const std::string folder = testing::TempDir() + "velmora-locale";
     if (std::system(("localedef -i de_DE -f UTF-8 " + folder + " 2>/dev/null").c_str()) != 0)
-        GTEST_SKIP() << "the sources of locales are not installed";
+        GTEST_SKIP() << "the locale sources are not installed";
     setenv("LOCPATH", testing::TempDir().c_str(), 1);
     ASSERT_NE(std::setlocale(LC_NUMERIC, "velmora-locale"), nullptr);
     EXPECT_EQ(std::strtod("3.5", nullptr), 3.0) << "the locale has no effect";

@@ -1,4 +1,4 @@
-// The program as it is called from a shell.
+// Tests of the program as it is run from a shell.
 
 #include "audio/AudioFileDecoder.h"
 #include "base/File.h"
@@ -21,7 +21,7 @@ using testing::HasSubstr;
 
 namespace {
 
-constexpr double kRoot = 261.6255653006; // of key 48 of the organ
+constexpr double kRoot = 261.6255653006; // of the organ's key 48
 
 struct Result {
     int code;
@@ -47,7 +47,7 @@ protected:
     auto content(const QString& name) { return readFile(folder_.path() / name.toStdString()); }
     auto files() { return std::distance(std::filesystem::directory_iterator(folder_.path()), {}); }
 
-    /// Runs Velmora, or another program, in the folder.
+    /// Runs Velmora, or another program, in the test folder.
     Result run(const QStringList& words, const QString& program = VELMORA_PROGRAM)
     {
         QProcess process;
@@ -71,7 +71,7 @@ protected:
 
 } // namespace
 
-TEST_F(CommandLine, RendersTheSameBytesEveryTimeAndEverySelectionToItsOwn)
+TEST_F(CommandLine, RendersTheSameBytesEveryTimeAndOthersForEachSelection)
 {
     const std::pair<QString, QStringList> rows[] = {
         {"out.wav", {}},
@@ -86,23 +86,24 @@ TEST_F(CommandLine, RendersTheSameBytesEveryTimeAndEverySelectionToItsOwn)
         SCOPED_TRACE(name.toStdString() + options.join(' ').toStdString());
         const Result result = render(name, options);
         EXPECT_EQ(result.code, 0);
-        EXPECT_EQ(result.error, "") << "no terminal, no progress";
+        EXPECT_EQ(result.error, "") << "progress is only shown on a terminal";
         const auto bytes = content(name);
         EXPECT_TRUE(sounds.insert(bytes).second);
         render(name, options);
         EXPECT_EQ(content(name), bytes);
         const Pcm sound = decodeAudio(bytes);
-        // 24 steps of the note and 32 more or 8 seven times, 15 a second; then the tail.
+        // At 15 steps per second: the note's 24 steps and 32 more, or 7 times 8 steps. Then the
+        // tail of one second.
         const double seconds = static_cast<double>(sound.samples.size()) / 2.0 / sound.rate;
         EXPECT_NEAR(seconds, 56.0 / 15.0 + 1.0, 0.01);
         EXPECT_GT(std::ranges::max(sound.samples), 800);
     }
 }
 
-TEST_F(CommandLine, FailsWithASentence)
+TEST_F(CommandLine, ReportsErrorsInOneSentence)
 {
     const struct {
-        QStringList words; // alone or, where they are options, of rendering the song
+        QStringList words; // a whole command line, or options for rendering the song
         int code;
         std::string sentence;
     } rows[] = {
@@ -116,7 +117,7 @@ TEST_F(CommandLine, FailsWithASentence)
         {{"--program", "128"}, 2, "--program"},
         {{"--stop", "0=loud"}, 2, "\"0=loud\""},
         {{"--instrument", "missing.sf2"}, 1, "velmora: missing.sf2: cannot be read"},
-        {{"--instrument", "song.mid"}, 2, "there is no instrument \"song.mid\""},
+        {{"--instrument", "song.mid"}, 2, "\"song.mid\" is not an instrument"},
         {{"--instrument", "test.organ", "--program", "3"}, 2, "--program"},
         {{"--instrument", "test.organ", "--stop", "2=1"}, 2, "numbered from 0 to 1"},
         {{"--loop-start", "4", "--loop-end", "4"}, 2, "--loop-end"},
@@ -134,14 +135,14 @@ TEST_F(CommandLine, FailsWithASentence)
         EXPECT_EQ(result.out, "") << sentence;
         EXPECT_TRUE(code == 2 || std::ranges::count(result.error, '\n') == 1) << result.error;
     }
-    EXPECT_EQ(files(), before) << "nothing is left behind";
+    EXPECT_EQ(files(), before) << "no file is left behind";
 }
 
-TEST_F(CommandLine, KeepsTheFileThatIsThereWhenRenderingFails)
+TEST_F(CommandLine, KeepsAnExistingFileIfRenderingFails)
 {
     folder_.write("out.wav", "precious");
     const auto before = files();
-    // Files may grow to 8 kB here.
+    // Limits the size of files to 8 kB.
     const Result result =
         run({"-c", "trap '' XFSZ; ulimit -f 8; '" VELMORA_PROGRAM "' render song.mid -o out.wav"},
             "sh");
@@ -159,7 +160,7 @@ TEST_F(CommandLine, RendersAnInstrumentInTune)
     std::vector<float> left;
     for (std::size_t i = 4800; i < 52800; ++i)
         left.push_back(heard.samples.at(2 * i));
-    const double wanted = 3.0 * Temperament::Meantone().getPitch(52); // of the second stop
+    const double wanted = 3.0 * Temperament::Meantone().getPitch(52); // the second stop's twelfth
     EXPECT_NEAR(cents(measuredHertz(left, 48000.0, wanted), wanted), 0.0, 0.25);
 }
 
@@ -167,7 +168,7 @@ TEST_F(CommandLine, DescribesFiles)
 {
     const Json third = info("pure.scl")["pitchClasses"].at(4);
     EXPECT_EQ(third["value"], "5/4");
-    EXPECT_NEAR(third["hertz"].get<double>(), 2.0 * kRoot * 1.25, 1e-3) << "of key 64";
+    EXPECT_NEAR(third["hertz"].get<double>(), 2.0 * kRoot * 1.25, 1e-3) << "key 64";
     EXPECT_EQ(info("song.mid")["notes"].at(0).dump(),
               R"({"channel":0,"key":52,"length":24.0,"start":0.0,"velocity":1.0})");
     const Json organ = info("test.organ");
@@ -176,7 +177,8 @@ TEST_F(CommandLine, DescribesFiles)
 
     const Result text = run({"info", "broken.mid", "song.mid", "test.organ"});
     EXPECT_EQ(text.code, 1);
-    EXPECT_THAT(text.out, HasSubstr("song.mid: sequence of 1 note")) << "goes on with the next";
+    EXPECT_THAT(text.out, HasSubstr("song.mid: sequence of 1 note"))
+        << "continues with the next file";
     EXPECT_THAT(text.out, HasSubstr("Test: Organ instrument of 2 stops, 384000 bytes of sound\n"));
     EXPECT_THAT(text.out, HasSubstr("Loaded 2 ranks, 2 pipes, 2 samples; skipped 1\n"));
 }

@@ -19,8 +19,8 @@ using testing::FieldsAre;
 using testing::HasSubstr;
 using testing::Not;
 
-/// All in one test: a program reads its file once.
-TEST(Preferences, LivesWithADamagedFile)
+/// A single test, because a process reads its settings file only once.
+TEST(Preferences, ToleratesADamagedFile)
 {
     const QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
@@ -32,7 +32,7 @@ TEST(Preferences, LivesWithADamagedFile)
                "KeyColorWrong=0.25, 0.5, 0.75, 1\nGMBank=/bank.sf2\n");
     file.close();
     std::ostringstream log;
-    logger("preferences"); // so that spdlog has it
+    logger("preferences"); // registers it with spdlog
     spdlog::get("preferences")->sinks() = {std::make_shared<spdlog::sinks::ostream_sink_st>(log)};
     spdlog::get("preferences")->set_pattern("%v");
 
@@ -50,9 +50,9 @@ TEST(Preferences, LivesWithADamagedFile)
             EXPECT_THAT(Color(unreadable), FieldsAre(0, 0, 0, 0)) << unreadable;
     }
     EXPECT_EQ(log.str(), file.fileName().toStdString() +
-                             " is damaged; defaults stand in for what is missing\n"
-                             "The preference KeyWidth is not a whole number; its default holds\n"
-                             "The preference KeyNames is not true or false; its default holds\n");
+                             " is damaged; using defaults for missing values\n"
+                             "the preference KeyWidth is not a whole number; using its default\n"
+                             "the preference KeyNames is not true or false; using its default\n");
 
     setPrefInt("KeyWidth", 20);
     setPrefColor("KeyColorWrong", Color(QColor(0, 255, 0)));

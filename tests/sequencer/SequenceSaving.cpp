@@ -142,13 +142,13 @@ TEST_F(SequenceSaving, LeavesTheFileWhereItCannotBeWritten)
     EXPECT_FALSE(save());
     setrlimit(RLIMIT_FSIZE, &limit);
     EXPECT_EQ(document_.errorString(),
-              "a.mid cannot be written in " + folder_.string() + ": File too large");
+              "a.mid cannot be written to " + folder_.string() + ": File too large");
     EXPECT_EQ(savedNotes(), 1U);
     EXPECT_TRUE(document_.isModified());
 
     EXPECT_FALSE(document_.saveToURL(folder_ / "gone" / "a.mid", kMidiFileType, kSaveAs));
-    EXPECT_EQ(document_.errorString(), "a.mid cannot be written in " + (folder_ / "gone").string() +
-                                           ": there is no such folder");
+    EXPECT_EQ(document_.errorString(), "a.mid cannot be written to " + (folder_ / "gone").string() +
+                                           ": the folder does not exist");
     mkfifo((folder_ / "pipe.mid").c_str(), 0600);
     EXPECT_FALSE(document_.saveToURL(folder_ / "pipe.mid", kMidiFileType, kSaveAs));
     EXPECT_EQ(document_.path(), "");

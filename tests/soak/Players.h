@@ -20,14 +20,14 @@ namespace velmora {
 
 constexpr double kRate = 48000.0;
 
-/// Plays a synthesizer, which has to outlive it, as an audio driver does: blocks of 128 frames, in
-/// time.
+/// Renders a synthesizer in real time, in blocks of 128 frames, as an audio driver does. The
+/// synthesizer must outlive it.
 class AudioThread {
 public:
     explicit AudioThread(AudioSource& source) : source_(source) {}
 
-    /// Whether it does so within forty seconds of sound, which pass at once:
-    /// some programs die away slowly.
+    /// Returns whether the synthesizer falls silent within forty seconds of sound, rendered at
+    /// once. Some programs decay slowly.
     bool fallsSilent()
     {
         const std::lock_guard lock(mutex_);
@@ -53,13 +53,13 @@ private:
     }};
 };
 
-/// A MIDI device: keys and controllers at random, which arrive on a thread of its own.
+/// A MIDI device that sends random keys and controllers on its own thread.
 class DeviceThread {
 public:
-    /// It rests at first.
+    /// Creates a device that does not play yet.
     DeviceThread(LiveInput& input, unsigned seed) : input_(input), random_(seed) {}
 
-    /// Begins or ends; either lets go of every key.
+    /// Starts or stops playing. Releases every key first.
     void setPlaying(bool plays)
     {
         const std::lock_guard lock(mutex_);
@@ -109,9 +109,9 @@ private:
     }};
 };
 
-/// A document as a window has it.
+/// A document with the objects that a window has for it.
 struct OpenSequence {
-    /// On the time, or on a clock that is moved by hand, ahead of it.
+    /// Runs in real time, or else on a clock that `tick` advances ahead of real time.
     OpenSequence(SequenceHost& host, bool isRealTime)
         : document(
               host, isRealTime ? std::function(getTime) : [this] { return now; })

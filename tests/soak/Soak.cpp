@@ -1,7 +1,7 @@
-// Everything at once and at random, for as long as it is told to: keys and controllers from a
-// device, an audio thread, sequences that play, record and are edited, instruments and tunings that
-// come and go. After every round all keys are let go of and all is closed: then nothing may sound,
-// and the memory in use may not have grown.
+// Does everything at once and at random for a given time: keys and controllers from a device, an
+// audio thread, sequences that play, record and are edited, instruments and tunings that come and
+// go. After each round, all keys are released and all documents closed. Then nothing may sound, and
+// the memory in use must not have grown.
 //
 //     test_soak [SECONDS [SEED]]
 
@@ -39,9 +39,9 @@ void require(bool condition, const std::string& message)
         throw std::runtime_error(message);
 }
 
-/// Bytes that are allocated, in all threads.
+/// Returns the number of bytes allocated by all threads.
 #ifdef __SANITIZE_ADDRESS__
-// It keeps what is freed for a while, and tells itself of what is lost.
+// AddressSanitizer delays freeing memory, and reports leaks itself.
 constexpr std::size_t kWarmUpRounds = 0;
 std::size_t memoryInUse()
 {
@@ -78,8 +78,8 @@ public:
         device_ = std::make_unique<DeviceThread>(app_, seed);
     }
 
-    /// In every other round the instrument stays as it is: each key then ends on the one that it
-    /// has begun on.
+    /// Does a round of random actions. If the instrument does not change, each key is released on
+    /// the instrument that it was pressed on.
     void round(bool changesInstruments)
     {
         changesInstruments_ = changesInstruments;
@@ -90,7 +90,7 @@ public:
             act();
     }
 
-    /// Ends all that a round has begun and returns the memory that is in use then.
+    /// Ends everything that a round has started. Returns the memory then in use.
     std::size_t finish()
     {
         device_->setPlaying(false);
@@ -98,13 +98,13 @@ public:
         sequences_.clear();
         QCoreApplication::processEvents();
         for (std::size_t key = 0; key < kKeys; ++key)
-            require(app_.player().liveKeys().state(key) == 0, "a key is held");
+            require(app_.player().liveKeys().state(key) == 0, "a key is still held");
         fade();
-        require(audio_->fallsSilent(), "the synthesizer sounds on");
+        require(audio_->fallsSilent(), "the synthesizer still sounds");
         for (ALuint source = 1; source <= 4096; ++source)
             if (ALint state = 0; alIsSource(source) == AL_TRUE) {
                 alGetSourcei(source, AL_SOURCE_STATE, &state);
-                require(state != AL_PLAYING, fmt::format("source {} plays on", source));
+                require(state != AL_PLAYING, fmt::format("source {} still plays", source));
             }
         app_.selectTuning("Equal");
         for (std::size_t i = 1; i < app_.instruments().size(); ++i)
@@ -115,7 +115,7 @@ public:
         return memoryInUse();
     }
 
-    std::size_t step = 0; ///< Of the round.
+    std::size_t step = 0; ///< The current step of the round.
 
 private:
     std::size_t pick(std::size_t count) { return random_() % count; }
@@ -158,14 +158,14 @@ private:
         }
     }
 
-    /// As long as a musician would wait.
+    /// Fades for five seconds.
     void fade()
     {
         for (int i = 0; i < 300; ++i)
             app_.player().fade();
     }
 
-    /// Mostly on a note.
+    /// Returns a random place, usually on a note.
     RollPoint somewhere(const OpenSequence& open)
     {
         const auto& notes = open.document.getSequence().notes();
@@ -193,7 +193,7 @@ private:
         for (std::size_t i = pick(4); i > 0; --i) {
             open.editor.mouseDragged(somewhere(open));
             if (chance(20))
-                open.document.undoStack().undo(); // may take the note away that is drawn
+                open.document.undoStack().undo(); // may remove the note being drawn
             advance(pick(8));
         }
         open.editor.mouseUp(somewhere(open), held);
@@ -233,7 +233,7 @@ private:
         commands[pick(commands.size())]();
     }
 
-    /// A key of the keyboard on the screen, in place of the one before; -1 for none.
+    /// Releases the on-screen key that is held and presses another; -1 presses none.
     void pressMouse(int key)
     {
         app_.keyOff(std::exchange(mouse_, key));
@@ -241,7 +241,7 @@ private:
         app_.midiInput();
     }
 
-    /// Puts another document in the place of one, with what that has written.
+    /// Saves a sequence and replaces it with a new document that reads the file.
     void saveAndRead(OpenSequence& open)
     {
         const auto path = folder_.path() / "saved.mid";
@@ -255,7 +255,7 @@ private:
         *old = std::move(read);
     }
 
-    /// Once in a round: it takes a while.
+    /// Exports a sequence, but only once per round because it takes a while.
     void exportAudio(OpenSequence& open)
     {
         if (std::exchange(exported_, true) || open.document.extent() > 200.0)
@@ -283,10 +283,10 @@ private:
         const std::array<std::function<void()>, 7> changes{
             [&] { app_.setMIDIProgram(static_cast<std::uint8_t>(pick(128))); },
             [&] { app_.setVolumeOfStop(pick(3), static_cast<float>(pick(11)) / 10.0F); },
-            [&] { readTuning(); }, // one that is listed is never given up
+            [&] { readTuning(); }, // not listed, because listed tunings are never freed
             [&] { app_.selectTuning(names[pick(names.size())]); },
             [&] { app_.selectTuning(names[pick(names.size())]); },
-            [&] { require(app_.selectInstrument(instrument), "an organ cannot be read anew"); },
+            [&] { require(app_.selectInstrument(instrument), "an organ cannot be reloaded"); },
             [&] {
                 if (chance(4))
                     app_.silenceAll();
@@ -300,7 +300,7 @@ private:
         constexpr std::array kFiles = {"kirnberger-3.scl", "pythagorean.scl", "werckmeister-3.scl"};
         const auto path = std::filesystem::path(VELMORA_EXAMPLES) / kFiles[pick(kFiles.size())];
         auto tuning = std::make_unique<TuningDocument>();
-        require(tuning->readFromURL(path, TuningDocument::typeOf(path)), tuning->errorString());
+        require(tuning->read(path, TuningFormat::Scale), tuning->errorString());
         return tuning;
     }
 
@@ -352,7 +352,7 @@ int main(int argc, char** argv)
             if (rounds < kWarmUpRounds)
                 warm = std::max(warm, memory);
             growth = static_cast<std::ptrdiff_t>(memory - warm);
-            require(growth <= kMostGrowth, fmt::format("{} bytes more are in use", growth));
+            require(growth <= kMostGrowth, fmt::format("memory use has grown by {} bytes", growth));
         }
     } catch (const std::exception& error) {
         fmt::print("FAILED in round {}, step {}, seed {}: {}\n", rounds, soak.step, seed,

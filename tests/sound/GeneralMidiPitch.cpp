@@ -23,9 +23,9 @@ TEST_P(GeneralMidiPitch, LiesWithinATwentiethOfACentOfTheTemperament)
     instrument.setInstrument(static_cast<std::uint8_t>(GetParam()));
     const bool beats = GetParam() == 19; // two ranks: only notes of the same age can be compared
 
-    const auto meantone = TuningDocument::initBuiltin("Quartercomma Meantone");
+    const auto meantone = TuningDocument::makeBuiltin("Quartercomma Meantone");
     TuningDocument file;
-    ASSERT_TRUE(file.readFromURL(VELMORA_EXAMPLES "/kirnberger-3.scl", "Scale"));
+    ASSERT_TRUE(file.read(VELMORA_EXAMPLES "/kirnberger-3.scl", TuningFormat::Scale));
     DynamicTemperament dynamic;
     for (int n = 2; n < 36; n += 6) // the upper neighbour of each second pitch class
         dynamic.isomorph(instrument, n);
@@ -50,9 +50,9 @@ TEST_P(GeneralMidiPitch, LiesWithinATwentiethOfACentOfTheTemperament)
         };
         strike(equal);
         const double reference = hertz(0.0);
-        for (const Temperament* temperament : {&meantone->getTemperament(), &file.getTemperament(),
-                                               static_cast<Temperament*>(&dynamic), &low}) {
-            if (key % 4 != 2 && temperament != &meantone->getTemperament())
+        for (const Temperament* temperament : std::initializer_list<const Temperament*>{
+                 &meantone->temperament(), &file.temperament(), &dynamic, &low}) {
+            if (key % 4 != 2 && temperament != &meantone->temperament())
                 continue;
             // C is never bent.
             const double expected =

@@ -31,7 +31,7 @@ TEST_F(DynamicTemperamentTest, StartsAsMeantoneAndOffersTwoNeighboursOfEachPitch
     }
 }
 
-TEST_F(DynamicTemperamentTest, StrikingAKeyTakesItHomeAndSilenceTakesC)
+TEST_F(DynamicTemperamentTest, AStruckKeyTakesItsPitchClassHomeAndSilenceTakesCHome)
 {
     dynamic.isomorph(instrument, 2);
     dynamic.setup(instrument, 61, 0.5F);
@@ -42,7 +42,7 @@ TEST_F(DynamicTemperamentTest, StrikingAKeyTakesItHomeAndSilenceTakesC)
     dynamic.setup(instrument, 62, 1.0F);
     for (int tick = 0; tick < 37; ++tick)
         dynamic.fade(0.9);
-    EXPECT_NEAR(cents(60), -41.05886, 1e-5) << "D at full velocity still holds";
+    EXPECT_NEAR(cents(60), -41.05886, 1e-5) << "D, struck at full velocity, has not faded";
     dynamic.fade(0.9);
     EXPECT_EQ(cents(60), 0.0);
 }

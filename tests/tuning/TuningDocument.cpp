@@ -32,13 +32,13 @@ std::string errorOf(const std::string& text, TuningFormat format = TuningFormat:
     }
 }
 
-/// Two lines before the pitches from D to B and one more.
+/// A file whose first two lines are given. The pitches from D to B and one more line follow.
 std::string file(const std::string& first, const std::string& second)
 {
     return first + "\n" + second + "\n200\n300\n400\n500\n600\n700\n800\n900\n1000\n1100\n2/1\n";
 }
 
-/// Equal semitones but for C sharp.
+/// A scale of equal semitones, except for C sharp.
 std::string scale(const std::string& pitch, const std::string& count = "12")
 {
     return "A scale\n" + file(count, pitch);
@@ -46,7 +46,7 @@ std::string scale(const std::string& pitch, const std::string& count = "12")
 
 } // namespace
 
-TEST(TuningFile, ReadsTheLeadingNumbersOfLinesThatAreNoComments)
+TEST(TuningFile, ReadsTheLeadingNumberOfEachContentLine)
 {
     const std::string full = scale("90.0");
     const std::regex end("\n");
@@ -74,48 +74,48 @@ TEST(TuningFile, ReadsFrequenciesWithTheBaseAnOctaveUpAsB)
         EXPECT_EQ(hertz.getPitch(static_cast<unsigned long>(key)), pitch) << "key " << key;
 }
 
-TEST(TuningFile, SaysWhatIsWrongAndWhere)
+TEST(TuningFile, ReportsWhatIsWrongAndWhere)
 {
     const std::string full = scale("100.0");
     const std::string hertz = file("250", "300");
     for (const auto& [error, line, reason] : std::vector<std::array<std::string, 3>>{
-             {errorOf(""), "line 0", "the file holds 0 lines of content, but at least 13"},
-             {errorOf(full.substr(0, full.size() - 5)), "line 13", "has no line end"},
+             {errorOf(""), "line 0",
+              "Scale files need at least 13 lines of content; this one has 0"},
+             {errorOf(full.substr(0, full.size() - 5)), "line 13", "it has no line end"},
              {errorOf(std::regex_replace(full, std::regex("\n"), "\r")), "line 1",
               "not in CR alone"},
-             {errorOf(hertz + "more\n", kHertz), "line 14", "holds 14 lines"},
-             {errorOf(hertz.substr(0, hertz.size() - 4), kHertz), "line 12", "holds 12 lines"},
-             {errorOf(file("250", "0"), kHertz), "line 2", "\"0\" is no pitch"},
-             {errorOf(file("-250", "300"), kHertz), "line 1", "\"-250\" is no pitch"},
+             {errorOf(hertz + "more\n", kHertz), "line 14",
+              "MTX files need exactly 13 lines of content; this one has 14"},
+             {errorOf(hertz.substr(0, hertz.size() - 4), kHertz), "line 12", "this one has 12"},
+             {errorOf(file("250", "0"), kHertz), "line 2", "\"0\" is not a playable pitch"},
+             {errorOf(file("-250", "300"), kHertz), "line 1", "\"-250\" is not a playable pitch"},
              {errorOf(scale("100", "twelve")), "line 2", "\"twelve\" is the number of notes"},
              {errorOf(scale("100", "4294967308")), "line 2", "\"4294967308\" is the number of"},
-             {errorOf("!\n\n" + scale("5/0.5")), "line 5", "\"5/0.5\" divides by zero"},
+             {errorOf("!\n\n" + scale("5/0.5")), "line 5", "\"5/0.5\" has a zero denominator"},
              {errorOf(scale("5/")), "line 3", "\"5/\" is not a number"},
              {errorOf(scale("\xE9\x1B[31m")), "line 3", "\"??[31m\" is not a number"},
              {errorOf(scale(std::string(5000, 'x'))), "line 3", std::string(40, 'x') + "...\" is"},
              {errorOf(scale("1/inf")), "line 3", "\"1/inf\" is not a finite number"},
-             {errorOf(scale("4/-2")), "line 3", "\"4/-2\" is no pitch"},
-             {errorOf(scale("-2e6")), "line 3", "\"-2e6\" is no pitch"}})
+             {errorOf(scale("4/-2")), "line 3", "\"4/-2\" is not a playable pitch"},
+             {errorOf(scale("-2e6")), "line 3", "\"-2e6\" is not a playable pitch"}})
         EXPECT_THAT(error, AllOf(StartsWith("f, " + line + ": "), HasSubstr(reason)));
 }
 
 TEST(TuningDocument, KeepsItsTemperamentWhenAFileCannotBeRead)
 {
-    const auto third = [](const TuningDocument& d) {
-        return d.getTemperament().getTuning(4).ratio();
-    };
-    const auto document = TuningDocument::initBuiltin("dynamic");
+    const auto third = [](const TuningDocument& d) { return d.temperament().getTuning(4).ratio(); };
+    const auto document = TuningDocument::makeBuiltin("dynamic");
     EXPECT_EQ(third(*document), 1.25) << "meantone";
-    EXPECT_FALSE(document->readFromURL("/nonexistent/some.scl", "scale"));
+    EXPECT_FALSE(document->read("/nonexistent/some.scl", TuningFormat::Scale));
     EXPECT_EQ(document->errorString(), "some.scl: cannot be read (No such file or directory)");
     EXPECT_EQ(third(*document), 1.25);
     const std::string path = testing::TempDir() + "velmora.scl";
     std::ofstream(path) << scale("90.0");
-    EXPECT_FALSE(document->readFromURL(path, "MTX"));
-    EXPECT_TRUE(document->readFromURL(path, "scale"));
-    EXPECT_NEAR(third(*document), third(*TuningDocument::initBuiltin("Equal")), 1e-9);
-    const auto dynamic = TuningDocument::initBuiltin("Dynamic");
-    EXPECT_NE(dynamic_cast<DynamicTemperament*>(&dynamic->getTemperament()), nullptr);
+    EXPECT_FALSE(document->read(path, TuningFormat::Frequencies));
+    EXPECT_TRUE(document->read(path, TuningFormat::Scale));
+    EXPECT_NEAR(third(*document), third(*TuningDocument::makeBuiltin("Equal")), 1e-9);
+    const auto dynamic = TuningDocument::makeBuiltin("Dynamic");
+    EXPECT_NE(dynamic_cast<const DynamicTemperament*>(&dynamic->temperament()), nullptr);
 }
 
 } // namespace velmora

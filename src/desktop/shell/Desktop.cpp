@@ -145,10 +145,10 @@ void Desktop::openWaiting()
 void Desktop::openFile(const QString& path)
 {
     const std::filesystem::path file(path.toStdString());
-    const std::string tuning = TuningDocument::typeOf(file);
+    const auto tuning = tuningFormatOf(file);
     const auto instrument = instrumentFormatOf(file);
-    if (!tuning.empty())
-        openTuning(path, tuning);
+    if (tuning)
+        openTuning(path, *tuning);
     else if (instrument)
         openInstrument(path, *instrument);
     else if (!sequenceTypeOf(file).empty())
@@ -159,14 +159,14 @@ void Desktop::openFile(const QString& path)
                       .arg(QFileInfo(path).fileName()));
 }
 
-void Desktop::openTuning(const QString& path, const std::string& type)
+void Desktop::openTuning(const QString& path, TuningFormat format)
 {
     auto tuning = std::make_unique<TuningDocument>();
-    if (!tuning->readFromURL(path.toStdString(), type)) {
+    if (!tuning->read(path.toStdString(), format)) {
         showError(QString::fromStdString(tuning->errorString()));
         return;
     }
-    const std::string name = tuning->getName();
+    const std::string name = tuning->name();
     application_.putTuning(std::move(tuning));
     application_.selectTuning(name);
     commands_.addRecent(path);

@@ -47,7 +47,7 @@ private:
     void connectSequences();
     void openWaiting();
     void openFile(const QString& path);
-    void openTuning(const QString& path, const std::string& type);
+    void openTuning(const QString& path, TuningFormat format);
     void openInstrument(const QString& path, InstrumentFormat format);
     void openSequence(const QString& path);
     void selectInstrument(std::size_t position);

@@ -182,7 +182,7 @@ TEST_F(DesktopTest, TheTuningMenuKeepsItsOrderAndDuplicateNames)
     std::string scale = "bent\n12\n";
     for (int i = 1; i <= 12; ++i)
         scale += std::to_string(99 * i) + ".\n";
-    ASSERT_TRUE(loaded->readFromURL(folder.write("Equal", scale), "Scale"));
+    ASSERT_TRUE(loaded->read(folder.write("Equal", scale), TuningFormat::Scale));
     application.putTuning(std::move(loaded));
     EXPECT_THAT(items(menu), ElementsAre("Equal", "Quartercomma Meantone", "Equal", "Dynamic"));
     const auto centsOfCSharp = [&] {
