@@ -1,5 +1,5 @@
-// What a key-down costs from the temperament to the synthesizer's messages: the dynamic temperament
-// chooses a spelling and bends eleven channels, equal temperament only sounds the key.
+// The cost of a key-down on the General MIDI instrument. The dynamic temperament chooses a spelling
+// and bends eleven channels; equal temperament only plays the key.
 
 #include "sound/MIDIInstrument.h"
 #include "tuning/DynamicTemperament.h"
@@ -31,7 +31,7 @@ void keyDown(benchmark::State& state, Temperament& temperament)
     messages = 0;
     unsigned char key = 0;
     for ([[maybe_unused]] auto iteration : state) {
-        // Through all pitch classes, by fifths.
+        // Steps through all pitch classes, by fifths.
         key = static_cast<unsigned char>((key + 7) % 128);
         temperament.setup(instrument, key, 0.8F);
         instrument.play(key, 0.8F);

@@ -1,4 +1,4 @@
-// How long a received key takes until the instrument has it, while the keyboard repaints: real MIDI
+// The time from receiving a key to playing it, while the keyboard repaints. The MIDI messages come
 // through a JACK server with the dummy driver. Needs a display.
 
 #include "audio/Synthesizer.h"
@@ -79,10 +79,9 @@ int main(int argc, char** argv)
     const auto at = [&](double part) {
         return times[static_cast<std::size_t>(part * static_cast<double>(times.size() - 1))];
     };
-    fmt::print("{} messages, {:.1f} frames in a second\n", times.size(),
+    fmt::print("{} messages, {:.1f} frames per second\n", times.size(),
                static_cast<double>(frames) / (now() - started));
-    fmt::print("microseconds from the bytes to the end of `play`: median {:.1f}, p99 {:.1f}, "
-               "longest {:.1f}\n",
+    fmt::print("microseconds from receiving to playing: median {:.1f}, p99 {:.1f}, max {:.1f}\n",
                at(0.5), at(0.99), at(1.0));
     output->play(nullptr);
 }

@@ -10,10 +10,10 @@ namespace velmora {
 
 constexpr unsigned kManyNotes = 100'000;
 
-/// Ten of them begin with every step.
+/// The length of the sequence in steps: ten notes start per step.
 constexpr double kManySteps = kManyNotes / 10.0;
 
-/// Adds them, on the keys of a piano.
+/// Adds many notes, on the keys of a piano.
 inline void addManyNotes(Sequence& sequence)
 {
     std::mt19937 random(1);
@@ -24,14 +24,14 @@ inline void addManyNotes(Sequence& sequence)
                           .key = 21 + static_cast<std::uint32_t>(random() % 88)});
 }
 
-/// Selects every tenth.
+/// Selects every tenth note.
 inline void selectTenth(Sequence& sequence)
 {
     for (std::size_t i = 0; i < kManyNotes; i += 10)
         sequence.select(sequence.at(i));
 }
 
-/// No instrument: the cost is that of finding the notes.
+/// A host without an instrument, so that only the cost of finding the notes is measured.
 class SilentHost : public SequenceHost {
 public:
     void play(int /*key*/, float /*velocity*/) override {}

@@ -1,5 +1,5 @@
-// What a key-down costs on a sampled organ of 60 stops: the dynamic temperament looks at every key
-// each time, and tells OpenAL of those that have another pitch; then the key speaks in every stop.
+// The cost of a key-down on a sampled organ with 60 stops. The dynamic temperament checks every key
+// and retunes those whose pitch has changed; then the key plays in every stop.
 
 #include "audio/OpenALLoopback.h"
 #include "base/Log.h"
@@ -37,7 +37,7 @@ protected:
     std::unique_ptr<ALInstrument> organ_;
 };
 
-/// The next key, through all pitch classes by fifths.
+/// Returns the next key. The keys step through all pitch classes, by fifths.
 unsigned char nextKey(unsigned char key)
 {
     return static_cast<unsigned char>(36 + (key - 36 + 7) % 61);
@@ -56,7 +56,7 @@ BENCHMARK_F(Retune, onePitchClassChanges)(benchmark::State& state)
 {
     int n = 0;
     for ([[maybe_unused]] auto iteration : state) {
-        // Forced to its lower and its upper spelling by turns.
+        // Alternates between the lower and the upper spelling.
         n = n == 2 ? 4 : 2;
         temperament_.isomorph(*organ_, n);
     }

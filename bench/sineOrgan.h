@@ -9,8 +9,9 @@
 
 namespace velmora {
 
-/// An organ of so many stops, all drawn, with 61 pipes each, from key 36 on; its other keys are
-/// extended. The pipes of an octave share a sine of 44,100 Hz. Needs a current OpenAL context.
+/// Adds stops to an organ, all drawn, with 61 pipes each from key 36 on; the other keys are
+/// extended. The pipes of an octave share a sine of the given length, sampled at 44,100 Hz. Needs a
+/// current OpenAL context.
 inline void fillWithSines(ALInstrument& organ, int stops, double seconds)
 {
     constexpr std::size_t kLowest = 36;

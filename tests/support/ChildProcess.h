@@ -9,7 +9,8 @@
 
 namespace velmora {
 
-/// Copies the test, has the copy `work(ready)`, and kills it some time after it has called `ready`.
+/// Forks the test, calls `work(ready)` in the child, and kills the child the given time after it
+/// has called `ready`.
 template <class Work> void killWhileWorking(Work work, unsigned microseconds = 0)
 {
     std::array<int, 2> ends{};
@@ -27,7 +28,7 @@ template <class Work> void killWhileWorking(Work work, unsigned microseconds = 0
     kill(child, SIGKILL);
     int status = 0;
     waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status)) << "it ended by itself";
+    EXPECT_TRUE(WIFSIGNALED(status)) << "the child ended by itself";
 }
 
 } // namespace velmora

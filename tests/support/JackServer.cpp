@@ -26,17 +26,17 @@ pid_t start(const std::string& name)
     const pid_t process = fork();
     if (process != 0)
         return process;
-    prctl(PR_SET_PDEATHSIG, SIGTERM); // a test that crashes leaves no server behind
+    prctl(PR_SET_PDEATHSIG, SIGTERM); // stops the server if the test crashes
     const int null = open("/dev/null", O_RDWR | O_CLOEXEC);
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         dup2(null, stream);
-    // Synchronous: on a busy machine periods come late, but nothing that is in them gets lost.
+    // In synchronous mode (-S), periods may be late on a busy machine, but no data is lost.
     execlp("jackd", "jackd", "-S", "-r", "--no-mlock", "-n", name.c_str(), "-d", "dummy", "-r",
            "48000", "-p", "128", static_cast<char*>(nullptr));
     _exit(127);
 }
 
-/// A server that is stopped under its clients leaves their semaphores behind.
+/// Removes the semaphores that are left behind if the server stops before its clients.
 void removeSemaphores(const std::string& name)
 {
     std::error_code ignored;

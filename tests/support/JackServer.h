@@ -6,11 +6,11 @@
 
 namespace velmora {
 
-/// A JACK server with the dummy driver (48 kHz, periods of 128 frames), which this process and its
-/// children use for as long as this lives. Made before the first use of libjack and of threads.
+/// A JACK server with the dummy driver (48 kHz, periods of 128 frames). It is the default server of
+/// this process and its children. Must be created before libjack is used and threads are started.
 class JackServer {
 public:
-    /// Returns once the server answers. Throws std::runtime_error where it does not within 20 s.
+    /// Waits until the server answers. Throws std::runtime_error if it does not within 20 s.
     JackServer();
     ~JackServer();
 

@@ -8,7 +8,7 @@
 
 namespace velmora {
 
-/// Builders of Standard MIDI Files for tests. Bytes are kept in strings.
+/// Functions that build Standard MIDI Files. Bytes are held in strings.
 namespace midi {
 
 inline std::string bytes(std::initializer_list<int> values)
@@ -57,13 +57,13 @@ inline std::string tempo(std::size_t delta, std::size_t microseconds)
     return quantity(delta) + bytes({kMetaEvent, kTempo, 3}) + number(microseconds, 3);
 }
 
-/// A chunk with the events and an end-of-track mark.
+/// Returns a track chunk with the events and an end-of-track event.
 inline std::string track(const std::string& events)
 {
     return chunk("MTrk", events + bytes({0, kMetaEvent, kEndOfTrack, 0}));
 }
 
-/// A file of format 0.
+/// Returns a file of format 0.
 inline std::string file(const std::string& events, std::size_t division = 96)
 {
     return header(0, 1, division) + track(events);

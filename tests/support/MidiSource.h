@@ -10,16 +10,16 @@
 
 namespace velmora {
 
-/// A JACK client with MIDI outputs, as a keyboard would have, on the default server.
+/// A JACK client on the default server that acts as a MIDI keyboard.
 class MidiSource {
 public:
-    /// Makes the ports "CLIENT:PORT". Throws std::runtime_error where there is no server.
+    /// Creates the output ports "CLIENT:PORT". Throws std::runtime_error if there is no server.
     MidiSource(const std::string& client, const std::vector<std::string>& ports);
 
     MidiSource(const MidiSource&) = delete;
     MidiSource& operator=(const MidiSource&) = delete;
 
-    /// Sends one message from the port of that index in one of the next periods.
+    /// Sends a message from the port with the given index in one of the next periods.
     void send(std::size_t port, std::vector<std::uint8_t> message);
 
 private:
@@ -31,9 +31,10 @@ private:
     static int process(jack_nframes_t frames, void* self);
 
     std::mutex mutex_;
-    std::vector<Message> messages_; // to be sent
+    std::vector<Message> messages_; ///< Waiting to be sent.
     std::vector<jack_port_t*> ports_;
-    std::unique_ptr<jack_client_t, int (*)(jack_client_t*)> client_; // last: stops the thread
+    std::unique_ptr<jack_client_t, int (*)(jack_client_t*)>
+        client_; ///< Last, because closing it stops the thread.
 };
 
 } // namespace velmora

@@ -12,12 +12,12 @@
 
 namespace velmora {
 
-/// A temporary folder for an organ and its samples, gone with the object.
+/// A temporary folder for an organ and its samples.
 class OrganFolder {
 public:
     std::filesystem::path path() const { return folder_.path().toStdString(); }
 
-    /// The path of a new file, in new folders where its name says so.
+    /// Writes a file, creating its folders, and returns its path.
     std::filesystem::path write(const std::string& name, const std::string& bytes) const
     {
         auto file = path() / name;
@@ -26,7 +26,7 @@ public:
         return file;
     }
 
-    /// A mono WAV file of two seconds, at 48,000 Hz.
+    /// Writes a mono WAV file with two seconds of a sine, at 48,000 Hz.
     void writeSine(const std::string& name, double hertz) const
     {
         write(name, riff::file("WAVE", riff::wave(riff::points(sine(hertz, 2.0)), 48000)));
@@ -36,7 +36,7 @@ private:
     QTemporaryDir folder_;
 };
 
-/// A list of an XML organ definition; each row is "field=value,field=value".
+/// An object list of an XML organ definition. A row has the form "field=value,field=value".
 struct ObjectList {
     std::string type;
     std::vector<std::string> rows;

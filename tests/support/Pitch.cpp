@@ -9,8 +9,8 @@ namespace velmora {
 
 namespace {
 
-/// The sound at `hertz` in `length` frames from `first` on, under a Hann window: its phase is that
-/// of the middle of the window.
+/// Returns the amplitude and phase at `hertz` in `length` frames from `first` on, under a Hann
+/// window. The phase is that of the window's middle.
 std::complex<double> partial(std::span<const float> sound, double rate, double hertz,
                              std::size_t first, std::size_t length)
 {
@@ -30,8 +30,8 @@ std::complex<double> partial(std::span<const float> sound, double rate, double h
 
 double measuredHertz(std::span<const float> sound, double rate, double nearHertz)
 {
-    // Each round takes longer windows, farther apart: the first finds a pitch that is wrong by
-    // many hertz, the last is the finest.
+    // Each round uses longer windows, farther apart. The first corrects an error of many hertz; the
+    // last is the most precise.
     double hertz = nearHertz;
     for (const std::size_t parts : {64, 16, 4, 2}) {
         const std::size_t window = sound.size() / parts;

@@ -7,7 +7,7 @@
 
 namespace velmora {
 
-/// Writes down the progress of an import and cancels it after so many updates, if any.
+/// Records the progress of an import and cancels it after `cancelAfter` updates.
 class RecordingHost : public InstrumentHost {
 public:
     explicit RecordingHost(std::size_t cancelAfter = SIZE_MAX) : cancelAfter_(cancelAfter) {}

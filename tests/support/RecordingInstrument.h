@@ -11,7 +11,7 @@ namespace velmora {
 
 using Calls = std::vector<std::string>;
 
-/// Writes down what it is called with.
+/// Records the calls that it receives.
 class RecordingInstrument : public Instrument {
 public:
     explicit RecordingInstrument(Calls& calls) : calls_(calls) {}

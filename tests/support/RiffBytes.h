@@ -8,10 +8,10 @@
 
 namespace velmora {
 
-/// Builders of RIFF files for tests. Bytes are kept in strings.
+/// Functions that build RIFF files. Bytes are held in strings.
 namespace riff {
 
-/// Of `size` bytes each, little-endian as our machines are.
+/// Returns the values as little-endian numbers of `size` bytes each.
 inline std::string numbers(const std::vector<std::size_t>& values, std::size_t size)
 {
     std::string result;
@@ -20,7 +20,7 @@ inline std::string numbers(const std::vector<std::size_t>& values, std::size_t s
     return result;
 }
 
-/// With the pad byte of an odd one.
+/// Returns a chunk, with a pad byte if its length is odd.
 inline std::string chunk(const std::string& id, const std::string& body)
 {
     return id + numbers({body.size()}, 4) + body + std::string(body.size() % 2, '\0');
@@ -36,13 +36,13 @@ inline std::string file(const std::string& type, const std::string& body)
     return chunk("RIFF", type + body);
 }
 
-/// 16-bit points of a sound.
+/// Returns the 16-bit sample points of a sound.
 inline std::string points(const Pcm& pcm)
 {
     return std::string(reinterpret_cast<const char*>(pcm.samples.data()), 2 * pcm.samples.size());
 }
 
-/// The chunks of a mono 16-bit WAVE file.
+/// Returns the chunks of a mono 16-bit WAVE file.
 inline std::string wave(const std::string& data, std::size_t rate)
 {
     return chunk("fmt ", numbers({1, 1}, 2) + numbers({rate, 2 * rate}, 4) + numbers({2, 16}, 2)) +

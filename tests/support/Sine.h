@@ -8,7 +8,7 @@
 
 namespace velmora {
 
-/// A mono sine of so many hertz, at a peak of 0.375.
+/// Returns a mono sine wave with a peak of 0.375.
 inline Pcm sine(double hertz, double seconds, double rate = 48000.0)
 {
     Pcm pcm{{}, 1, rate};

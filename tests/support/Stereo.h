@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-/// A stereo sound, as tests handle it.
+/// A stereo sound.
 struct Stereo {
     explicit Stereo(std::size_t frames = 0) : left(frames), right(frames) {}
 
@@ -18,7 +18,7 @@ struct Stereo {
     std::vector<float> left, right;
 };
 
-/// Hands a sound to `process(left, right, frames)` in blocks of these sizes, over and over.
+/// Passes a sound to `process(left, right, frames)` in blocks whose sizes cycle through `sizes`.
 template <class Process>
 void inBlocks(Stereo& sound, std::initializer_list<std::size_t> sizes, Process&& process)
 {
@@ -32,7 +32,7 @@ void inBlocks(Stereo& sound, std::initializer_list<std::size_t> sizes, Process&&
     }
 }
 
-/// The next frames of an AudioSource.
+/// Renders the next frames of an AudioSource.
 template <class Source> Stereo rendered(Source& source, std::size_t frames)
 {
     Stereo sound(frames);
@@ -40,7 +40,7 @@ template <class Source> Stereo rendered(Source& source, std::size_t frames)
     return sound;
 }
 
-/// The greatest absolute value.
+/// Returns the greatest absolute value.
 inline float peak(std::span<const float> sound)
 {
     float result = 0.0F;
@@ -49,6 +49,7 @@ inline float peak(std::span<const float> sound)
     return result;
 }
 
+/// Returns the interval from `reference` to `hertz` in cents.
 inline double cents(double hertz, double reference)
 {
     return 1200.0 * std::log2(hertz / reference);

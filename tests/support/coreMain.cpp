@@ -1,4 +1,4 @@
-// Runs the tests of what needs an event loop.
+// Runs tests that need an event loop.
 
 #include <QCoreApplication>
 #include <gmock/gmock.h>
