@@ -14,6 +14,7 @@
 #include "sound/keys.h"
 #include "support/Bank.h"
 #include "support/OrganFolder.h"
+#include "support/TestHome.h"
 
 #include <QCoreApplication>
 #include <al.h>
@@ -332,9 +333,7 @@ private:
 
 int main(int argc, char** argv)
 {
-    const QTemporaryDir home;
-    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
-        qputenv(variable, home.path().toUtf8());
+    const TestHome home;
     qputenv("ALSOFT_DRIVERS", "null");
     setLogLevel(spdlog::level::err);
     const QCoreApplication application(argc, argv);

@@ -3,6 +3,7 @@
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/StatusLine.h"
 #include "preferences/Preferences.h"
+#include "support/Bank.h"
 #include "support/OrganFolder.h"
 #include "support/RecordingInstrument.h"
 
@@ -268,6 +269,7 @@ TEST_F(DesktopTest, AppliesPreferencesImmediately)
             return notices.text().toInt() == count && notices.toolTip().contains(wanted);
         })) << bank;
     }
+    setPrefString("GMBank", kBank.string());
 }
 
 TEST_F(DesktopTest, EscapeClosesSecondaryWindows)

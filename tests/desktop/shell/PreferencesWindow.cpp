@@ -2,6 +2,7 @@
 
 #include "preferences/Color.h"
 #include "preferences/Preferences.h"
+#include "support/Bank.h"
 
 #include <QAbstractButton>
 #include <QColorDialog>
@@ -26,9 +27,9 @@ protected:
 
     ~PreferencesWindowTest() override
     {
-        for (const char* key :
-             {"KeyWidth", "KeyRangeLo", "KeyRangeHi", "KeyColor", "KeyNames", "GMBank"})
+        for (const char* key : {"KeyWidth", "KeyRangeLo", "KeyRangeHi", "KeyColor", "KeyNames"})
             resetPref(key);
+        setPrefString("GMBank", kBank.string());
     }
 
     /// Replaces the text of a spin box and leaves it.
