@@ -88,7 +88,7 @@ void AppDelegate::loadBank()
         try {
             synthesizer = std::make_unique<Synthesizer>(rate, banks);
         } catch (const std::exception& error) {
-            logger("app").error("the General MIDI synthesizer cannot be made: {}", error.what());
+            logger("app").error("the General MIDI synthesizer cannot be created: {}", error.what());
         }
         emit synthesizerMade();
         return synthesizer;
@@ -244,10 +244,13 @@ void AppDelegate::useTuning(const TuningDocument& document)
 void AppDelegate::setVolume(float volume, std::size_t slider)
 {
     // Posted under the lock: if two devices move a slider, both places keep the later value.
-    player_.with([&](Instrument& instrument, Temperament&) {
-        queue_.post({InputEvent::Kind::Volume, slider, volume});
+    const InputEvent event{InputEvent::Kind::Volume, slider, volume};
+    const bool isSet = player_.with([&](Instrument& instrument, Temperament&) {
+        queue_.post(event);
         instrument.setVolume(slider, volume);
     });
+    if (!isSet)
+        queue_.post(event);
 }
 
 void AppDelegate::midiInput()

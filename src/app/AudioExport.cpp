@@ -14,10 +14,10 @@ namespace velmora {
 
 namespace {
 
-/// Of an export, so that what sounds live goes before it.
+/// The niceness of an export, so that live playing has priority.
 constexpr int kNiceness = 10;
 
-/// Tells of progress, in steps that can be seen.
+/// Reports progress whenever a visible part of it is done.
 class Progress : public InstrumentHost {
 public:
     Progress(AudioExport& audioExport, std::stop_token stop)
@@ -36,7 +36,7 @@ public:
 
     bool isCancelled() const override { return stop_.stop_requested(); }
 
-    /// False when the export is given up.
+    /// Returns false if the export was cancelled.
     bool rendered(double done)
     {
         tell(AudioExport::tr("Rendering"), done);
@@ -76,7 +76,7 @@ void AudioExport::start(SoundSettings sound, UnsavedSequence sequence, double te
 
 void AudioExport::run(const std::stop_token& stop, Job job)
 {
-    setpriority(PRIO_PROCESS, 0, kNiceness); // of this thread alone, and of those it starts
+    setpriority(PRIO_PROCESS, 0, kNiceness); // applies to this thread and the threads it starts
     bool isWritten = false;
     QString error;
     try {
@@ -93,7 +93,8 @@ bool AudioExport::write(const std::stop_token& stop, Job job)
 {
     RenderOptions options;
     options.tempo = job.tempo;
-    AudioFileWriter file(job.file, options.rate); // first: it tells at once where it cannot be
+    AudioFileWriter file(
+        job.file, options.rate); // first, because it fails at once if the file cannot be written
     Progress progress(*this, stop);
     OfflineSound sound(std::move(job.sound), options.rate, progress);
     SequenceRenderer renderer(sound.player(), sound.source());

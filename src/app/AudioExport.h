@@ -11,30 +11,30 @@
 
 namespace velmora {
 
-/// Renders a sequence to a sound file on a thread of its own, while live playing goes on. The file
-/// appears when it is whole; one that was there stays until then.
+/// Renders a sequence to a sound file on a thread of its own while live playing goes on. A complete
+/// file replaces an existing one only at the end.
 class AudioExport : public QObject {
     Q_OBJECT
 
 public:
-    /// Begins, once. `tempo` is in beats a minute; the name of the file ends in .wav, .flac or
-    /// .ogg.
+    /// Starts the export. May be called once. `tempo` is in beats per minute, and the file's name
+    /// ends in .wav, .flac or .ogg.
     void start(SoundSettings sound, UnsavedSequence sequence, double tempo,
                std::filesystem::path file);
 
-    /// Gives up what is not done, and waits for that.
+    /// Cancels a running export and waits for its thread.
     ~AudioExport() override;
 
-    /// Gives up: `finished` follows.
+    /// Cancels the export; `finished` follows.
     void cancel() { thread_.request_stop(); }
 
 signals:
-    /// From 0 to 1, first for the loading of the instrument, then for the rendering; `what` says
-    /// which. Comes from the export's thread, as `finished` does.
+    /// Reports progress from 0 to 1, first for loading the instrument and then for rendering, as
+    /// `what` says. Emitted on the export's thread, like `finished`.
     void progressed(const QString& what, double done);
 
-    /// The last that comes: the file is there; or it is not, and `error` is the reason in one
-    /// sentence, empty after `cancel`.
+    /// The last signal. If the file was not written, `error` says why in one sentence; it is empty
+    /// after `cancel`.
     void finished(bool isWritten, const QString& error);
 
 private:
@@ -47,7 +47,7 @@ private:
 
     void run(const std::stop_token& stop, Job job);
 
-    /// False when it was given up.
+    /// Returns false if it was cancelled.
     bool write(const std::stop_token& stop, Job job);
 
     std::jthread thread_;

@@ -36,7 +36,7 @@ void InputQueue::post(const InputEvent& event)
         ++count_;
     }
     const std::uint64_t one = 1;
-    // A full counter has woken the loop already.
+    // This fails only if the counter is full; then the event loop is awake already.
     [[maybe_unused]] const ssize_t written = write(descriptor_, &one, sizeof one);
 }
 

@@ -10,11 +10,11 @@ class QSocketNotifier;
 
 namespace velmora {
 
-/// Something that the receive threads leave to the main thread. By then the keys may have changed
-/// again: practice may miss a short tap, pressed and released within one turn of the event loop.
+/// Something that the receive threads leave to the main thread. The keys may have changed again
+/// before it is handled: practice may miss a key that is tapped within one turn of the event loop.
 struct InputEvent {
     enum class Kind {
-        MidiInput, ///< The held keys have changed: for the display, and for practice to go on.
+        MidiInput, ///< The held keys have changed.
         Volume     ///< A controller has moved a slider.
     };
 
@@ -23,18 +23,18 @@ struct InputEvent {
     float volume = 0.0F;
 };
 
-/// Carries events from any thread to the event loop of the thread that made it, in the order in
-/// which they came. Posting allocates nothing. What is posted while a great many events wait, as
-/// they do only when that thread has stalled, is lost: what sounds does not come this way.
+/// Carries events from any thread to the event loop of the thread that created it, in order.
+/// Posting does not allocate. Events are dropped while the queue is full, which happens only if
+/// that thread has stalled; sound does not depend on them.
 class InputQueue {
 public:
-    /// `take` is called in the event loop, once for each event.
+    /// `take` is called in the event loop once for every event.
     explicit InputQueue(std::function<void(const InputEvent&)> take);
     ~InputQueue();
     InputQueue(const InputQueue&) = delete;
     InputQueue& operator=(const InputQueue&) = delete;
 
-    /// From any thread.
+    /// May be called on any thread.
     void post(const InputEvent& event);
 
 private:
@@ -47,7 +47,7 @@ private:
     int descriptor_;
     std::unique_ptr<QSocketNotifier> notifier_;
 
-    std::mutex mutex_; ///< Guards what follows, for the copy of one event at a time.
+    std::mutex mutex_; ///< Guards the members below while one event is copied.
     std::array<InputEvent, kCapacity> events_{};
     std::size_t first_ = 0, count_ = 0;
 };

@@ -23,7 +23,7 @@ bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sin
 {
     const double begin = options.loop ? options.loop->start : 0.0;
     const double end = options.loop ? options.loop->end : document_.extent();
-    const double length = end > begin ? end - begin : 1.0; // an empty sequence has none
+    const double length = end > begin ? end - begin : 1.0; // an empty sequence has no length
     const int times = options.loop ? options.loop->times : 1;
     if (options.loop)
         document_.selectInterval(begin, end);
@@ -39,7 +39,7 @@ bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sin
         soundUntil(static_cast<double>(++ticks_) * kTick.count(), options.rate, sink);
         const double before = document_.getOffset();
         document_.loop();
-        // Each tick goes on, but for the one that has come to the end.
+        // The position goes back only at the end of the loop.
         if (document_.getOffset() <= before)
             document_.setLoop(++played < times - 1);
     }

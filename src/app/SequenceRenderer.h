@@ -11,7 +11,7 @@
 
 namespace velmora {
 
-/// A stretch of a sequence to be played several times over.
+/// A part of a sequence that is played several times.
 struct RenderLoop {
     double start; ///< In steps, before `end`.
     double end;
@@ -19,34 +19,34 @@ struct RenderLoop {
 };
 
 struct RenderOptions {
-    double rate = 48000.0; ///< Frames in a second; that of the audio source.
+    double rate = 48000.0; ///< Frames per second, as the audio source renders them.
     double tailSeconds = 1.0;
-    double tempo = 120.0; ///< In beats a minute.
+    double tempo = 120.0; ///< In beats per minute.
     std::optional<RenderLoop> loop;
 };
 
-/// Takes the sound as it is made, block by block.
+/// Receives the rendered sound block by block.
 using AudioSink = std::function<void(const float* left, const float* right, std::size_t frames)>;
 
-/// Told between the blocks how much is done, from 0 to 1; false gives the rendering up.
+/// Receives the progress between blocks, from 0 to 1. Returns false to cancel.
 using RenderProgress = std::function<bool(double done)>;
 
-/// Plays a sequence as the program plays it, on the instrument and temperament of a host, on a
-/// clock of its own: without a device, faster than it sounds, the same at every run. `source` is
-/// what the instrument sounds through. On one thread, whichever it is.
+/// Plays a sequence exactly as the program does, but on a clock of its own: without a device,
+/// faster than real time, and with the same result every time. `source` is what the player's
+/// instrument sounds through. To be used on one thread.
 class SequenceRenderer {
 public:
     SequenceRenderer(Player& player, AudioSource& source);
 
-    /// What is rendered: to be filled before.
+    /// The document to render, which the caller fills first.
     SequenceDocument& document() { return document_; }
 
-    /// Plays from the beginning to the end and for the tail. False when `progress` gave it up.
+    /// Renders the whole sequence and the tail. Returns false if `progress` cancelled.
     bool render(const RenderOptions& options, const AudioSink& sink,
                 const RenderProgress& progress);
 
 private:
-    /// Sounds up to a moment of the clock, fading on the way.
+    /// Renders up to a time of the clock, fading on the way.
     void soundUntil(double seconds, double rate, const AudioSink& sink);
 
     Player& player_;

@@ -4,7 +4,7 @@
 
 namespace velmora {
 
-/// The General MIDI programs 0…127, each with its number as musicians count it, from 1.
+/// The names of the General MIDI programs 0…127. Each begins with its number counted from 1.
 extern const std::array<const char*, 128> kMIDIInstrumentNames;
 
 } // namespace velmora

@@ -15,10 +15,10 @@ namespace velmora {
 
 namespace {
 
-/// An empty one takes some kilobytes.
+/// More than any organ has. An empty stop takes some kilobytes.
 constexpr std::size_t kMaximumStops = 4096;
 
-/// While it lives, OpenAL gathers what it is told, to apply it all at once.
+/// While it exists, OpenAL collects changes; then it applies them all at once.
 class OneUpdate {
 public:
     OneUpdate()

@@ -13,26 +13,26 @@
 
 namespace velmora {
 
-/// Plays recorded samples through OpenAL: a key sounds in every stop whose volume is above zero.
-/// The velocity of a key is ignored. Needs a current OpenAL context from its making to its end.
+/// Plays recorded samples through OpenAL: a key sounds in every stop whose volume is above zero,
+/// and its velocity is ignored. Needs a current OpenAL context throughout its life.
 class ALInstrument : public Instrument {
 public:
-    /// Adds a silent stop without samples. References to the stops before it do not hold on. Throws
-    /// FormatError beyond 4096 stops.
+    /// Adds a silent stop without samples and invalidates references to the other stops. Throws
+    /// FormatError if there are 4096 stops already.
     InstrumentStop& appendStop(std::string name);
 
-    /// The stops, to be changed: `tune` then tunes every sample again.
+    /// The stops, for changes: the next `tune` reaches every sample, as any may have been replaced.
     std::vector<InstrumentStop>& stops();
     const std::vector<InstrumentStop>& stops() const { return stops_; }
 
-    /// The decoded sounds under the names that the importer gives them, so that one used by several
-    /// keys is decoded once. They outlive the samples of the stops.
+    /// The decoded sounds by the names that the importer gives them, so that a sound used by
+    /// several keys is decoded once. Declared before the stops, whose samples play them.
     std::map<std::string, std::unique_ptr<Sound>> sounds;
 
-    /// Twice the stop's gain: a slider at full shows a gain of 0.5.
+    /// Returns twice the stop's gain: a slider at its top stands for a gain of 0.5.
     float getVolume(std::size_t stop) const override;
 
-    /// Sets the stop's gain as it is, not half of it.
+    /// Sets the stop's gain to `volume`, not to half of it.
     void setVolume(std::size_t stop, float volume) override;
 
     std::size_t numStops() const override;
@@ -43,14 +43,14 @@ public:
     void tune(const Temperament& temperament, int lo, int hi) override;
     void fade(double factor) override;
 
-    /// Whether a key is held or still dies away.
+    /// True while a key is held or fading.
     bool isSounding() const;
 
 private:
-    std::vector<InstrumentStop> stops_; ///< After the sounds, and so gone before them.
-    std::bitset<kKeys> released_;       ///< The keys with samples that may be fading.
+    std::vector<InstrumentStop> stops_;
+    std::bitset<kKeys> released_; ///< The keys with samples that may be fading.
 
-    /// The hertz that each key of every stop was last tuned to; 0 if not known.
+    /// The pitch in hertz that each key of every stop was last tuned to; 0 if not known.
     std::array<double, kKeys> pitches_{};
 };
 

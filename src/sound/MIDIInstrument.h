@@ -11,7 +11,7 @@ namespace velmora {
 /// own, bent to its pitch. Pitch class 0 is the reference and is never bent.
 class MIDIInstrument : public Instrument {
 public:
-    /// Takes the device over and selects its start-up program.
+    /// Selects the start-up program on the device.
     explicit MIDIInstrument(std::unique_ptr<MusicDevice> device);
 
     bool hasSubMenu() const override;
@@ -24,11 +24,11 @@ public:
     void tune(const Temperament& temperament, int lo, int hi) override;
     void setInstrument(std::uint8_t program) override;
 
-    /// The General MIDI program that sounds, 0…127.
+    /// The selected General MIDI program, 0…127.
     std::uint8_t program() const { return program_; }
 
-    /// Goes on with another device, which takes the program over; it has to be tuned. Gives the one
-    /// before back, with what sounds on it.
+    /// Replaces the device and selects the current program on the new one, which the caller must
+    /// tune. Returns the old device, with whatever still sounds on it.
     std::unique_ptr<MusicDevice> exchangeDevice(std::unique_ptr<MusicDevice> device);
 
 private:

@@ -12,7 +12,7 @@ namespace {
 
 constexpr float kFirstGain = 0.4F;
 
-/// A released sample that is softer is silent.
+/// A released sample with a lower gain ends.
 constexpr double kSilentGain = 0.02;
 
 } // namespace

@@ -4,8 +4,8 @@
 
 namespace velmora {
 
-/// What one key of one stop sounds: an OpenAL source that plays the buffer of a sound, at the pitch
-/// of the key. Without a source until `setBuffer`: then nothing else has an effect.
+/// One key of one stop: an OpenAL source that plays the buffer of a sound at the pitch of the key.
+/// It has no source before `setBuffer`; until then nothing else has an effect.
 class Sample {
 public:
     Sample() = default;
@@ -13,15 +13,14 @@ public:
     Sample& operator=(Sample&& other) noexcept;
     ~Sample();
 
-    /// Gives the key a sound, which sounds at `rootPitch` hertz when played as it is; ends one that
-    /// it had. The sound must outlive the sample. Throws FormatError when OpenAL has no source
-    /// left.
+    /// Sets the sound, whose own pitch is `rootPitch` hertz, and ends the previous one. The sound
+    /// must outlive the sample. Throws FormatError if OpenAL has no source left.
     void setBuffer(const Sound& sound, double rootPitch);
 
-    /// Starts the sound at a gain; a key that sounds already begins anew.
+    /// Starts the sound with the gain `volume`, from its beginning if it is already playing.
     void play(float volume);
 
-    /// Releases the key: `fade` lets the sound die away.
+    /// Releases the key, so that `fade` ends the sound.
     void stop();
 
     /// Ends the sound at once.
@@ -29,16 +28,16 @@ public:
 
     bool isPlaying() const;
 
-    /// One step in the decay of a released key, which ends below a gain of 0.02.
+    /// Multiplies the gain of a released key by `factor`, and ends the sound below a gain of 0.02.
     void fade(double factor);
 
-    /// Sounds at `pitch` hertz from now on. Calls OpenAL only for a pitch other than the last one.
+    /// Sets the pitch in hertz. Calls OpenAL only if the pitch has changed.
     void tune(double pitch);
 
     /// The OpenAL name of the source; 0 without one.
     unsigned source() const { return source_; }
 
-    /// What the source plays; null without one.
+    /// The sound that the source plays; null without a source.
     const Sound* sound() const { return sound_; }
 
     double rootPitch() const { return rootPitch_; }
@@ -49,7 +48,7 @@ private:
     const Sound* sound_ = nullptr;
     unsigned source_ = 0;
     bool released_ = false;
-    float factor_ = 1.0F; ///< The pitch of the source: that of the key by the root pitch.
+    float factor_ = 1.0F; ///< The pitch of the source: the key's pitch divided by the root pitch.
     double rootPitch_ = 0.0;
     double gain_ = 0.0;
 };

@@ -12,7 +12,7 @@ namespace velmora {
 
 namespace {
 
-/// 0, which OpenAL refuses, for what is no rate.
+/// Returns 0, which OpenAL refuses, if `rate` is not a valid rate.
 int wholeHertz(double rate)
 {
     return rate > 0.0 && rate <= std::numeric_limits<int>::max() ? static_cast<int>(rate) : 0;

@@ -8,16 +8,16 @@
 
 namespace velmora {
 
-/// One sound in an OpenAL buffer, which goes with it. Needs a current OpenAL context; the sources
-/// that play it must go first.
+/// One sound, in an OpenAL buffer that it owns. Needs a current OpenAL context, and must outlive
+/// the sources that play it.
 class Sound {
 public:
-    /// Throws std::bad_alloc when OpenAL has no memory for it, FormatError when it does not take
-    /// it, as without a context.
+    /// Throws std::bad_alloc if OpenAL is out of memory, and FormatError if it rejects the sound or
+    /// if there is no context.
     explicit Sound(const Pcm& pcm);
 
-    /// `format` is one of OpenAL's 16-bit ones, AL_FORMAT_MONO16 or AL_FORMAT_STEREO16; `rate` is
-    /// cut to whole hertz. Throws as above.
+    /// `format` is AL_FORMAT_MONO16 or AL_FORMAT_STEREO16; `rate` is truncated to whole hertz.
+    /// Throws as above.
     Sound(std::span<const std::int16_t> data, int format, double rate);
 
     ~Sound();
@@ -27,13 +27,13 @@ public:
     /// The OpenAL name of the buffer.
     unsigned buffer() const { return buffer_; }
 
-    /// Bytes of sound given to the buffer.
+    /// The size of the sound in bytes.
     std::uint32_t size() const { return size_; }
 
     std::uint32_t frames() const { return size_ / (2U * static_cast<unsigned>(channels_)); }
     int channels() const { return channels_; }
 
-    /// Frames in a second.
+    /// Frames per second.
     int rate() const { return rate_; }
 
 private:
