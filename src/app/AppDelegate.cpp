@@ -226,9 +226,11 @@ bool AppDelegate::selectTuning(const std::string& name)
     if (found != tunings_.end())
         useTuning(*found->second);
     if (found == tunings_.end() || instrumentName_.empty())
-        logger("app").warn("Tuning or instrument not found '{}'", name);
-    if (found == tunings_.end())
+        logger("app").debug("Tuning or instrument not found '{}'", name);
+    if (found == tunings_.end()) {
+        logger("app").warn("there is no tuning named \"{}\"", name);
         return false;
+    }
     emit tuningChanged();
     return true;
 }
