@@ -1,0 +1,64 @@
+#include "app/AppDelegate.h"
+#include "desktop/keyboard/KeyboardView.h"
+#include "midi/midiRead.h"
+#include "sequencer/KeyboardDocument.h"
+#include "sound/ALInstrument.h"
+
+#include <QtTest>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+namespace velmora {
+
+namespace {
+
+class LiveKeyStates : public KeyboardDocument {
+public:
+    explicit LiveKeyStates(const LiveKeys& keys) : keys_(keys) {}
+
+    int stateOfNote(unsigned key) const override { return keys_.state(key); }
+    void midiInput() override {}
+
+private:
+    const LiveKeys& keys_;
+};
+
+} // namespace
+
+TEST(LiveKeyboard, PaintsWhileAMidiThreadPlays)
+{
+    ALInstrument organ;
+    AppDelegate application;
+    application.makeBuiltinTunings();
+    application.setInstrument(organ, "Organ");
+    application.selectTuning("Dynamic");
+    LiveKeyStates states(application.player().liveKeys());
+    KeyboardView view(application);
+    view.setDocument(&states);
+    view.resize(view.sizeHint());
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    std::size_t frames = 0;
+    QObject::connect(&view, &QOpenGLWidget::frameSwapped, [&] { ++frames; });
+    QObject::connect(&application, &AppDelegate::midiInputReceived, &view, &KeyboardView::refresh);
+
+    std::atomic<bool> isDone{false};
+    std::thread device([&] {
+        for (int i = 0; i < 2000; ++i) {
+            const auto key = static_cast<std::uint8_t>(36 + i / 2 % 48);
+            const auto status = static_cast<std::uint8_t>(i % 2 == 0 ? 0x90 : 0x80);
+            const std::uint8_t bytes[] = {status, key, 100};
+            const MidiPacket packet = bytes;
+            midiRead({&packet, 1}, application);
+            std::this_thread::sleep_for(std::chrono::microseconds(300));
+        }
+        isDone = true;
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isDone.load(); }, 60'000));
+    device.join();
+    EXPECT_GT(frames, 2);
+}
+
+} // namespace velmora
