@@ -237,6 +237,7 @@ bool AppDelegate::selectTuning(const std::string& name)
 
 void AppDelegate::useTuning(const TuningDocument& document)
 {
+    // A fresh copy begins at home: decision 17 (docs/decisions.md).
     auto temperament = document.temperament().fresh();
     player_.setTemperament(*temperament);
     temperament_ = std::move(temperament);

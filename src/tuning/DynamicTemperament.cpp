@@ -112,6 +112,7 @@ void DynamicTemperament::isomorph(Tunable& instrument, int n)
     const int neighbour = n - 3 * k;
     const auto pitchClass = static_cast<std::size_t>(k % 12);
     const int spelling = kHome[pitchClass] + neighbour;
+    // Diagnostics keep their texts: decision 125 (docs/decisions.md).
     logger("tuning").debug("ISOMORPH {}", spelling);
     voices_[pitchClass] = {static_cast<std::size_t>(spelling), 0.0F};
     instrument.tune(*this, 0, 127);
@@ -125,6 +126,7 @@ void DynamicTemperament::fade(double factor)
         if (voice.weight < kFaded)
             voice.weight = 0.0F;
     }
+    // Decision 12 (docs/decisions.md): C always remains as a reference.
     if (std::ranges::all_of(voices_, [](const Voice& voice) { return voice.weight == 0.0F; }))
         voices_[0] = {kHome[0], static_cast<float>(kFaded)};
 }

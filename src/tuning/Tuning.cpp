@@ -39,6 +39,7 @@ double Freq::tune(double /*base*/, int octave) const
     return std::ldexp(frequency_, octave);
 }
 
+// Decision 9 (docs/decisions.md): an absolute pitch has no relative measure.
 double Freq::cent() const
 {
     return 0.0;

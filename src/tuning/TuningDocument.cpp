@@ -11,6 +11,7 @@ namespace velmora {
 
 TuningDocument::TuningDocument() : temperament_(std::make_unique<Temperament>()) {}
 
+// Any other name is meantone: decision 18 (docs/decisions.md).
 std::unique_ptr<TuningDocument> TuningDocument::makeBuiltin(const std::string& name)
 {
     auto document = std::make_unique<TuningDocument>();
@@ -30,6 +31,7 @@ bool TuningDocument::read(const std::filesystem::path& path, TuningFormat format
     errorString_.clear();
     try {
         const auto bytes = readFile(path);
+        // Diagnostics keep their texts: decision 125 (docs/decisions.md).
         logger("tuning").debug("TUNING {}", name_);
         temperament_ = std::make_unique<Temperament>(readTuning(bytes, format));
         return true;

@@ -29,9 +29,10 @@ struct Lines {
     std::vector<Line> kept;    ///< The first `kKeptLines` content lines.
     std::size_t keptCount = 0; ///< The number of content lines in the file.
     std::size_t count = 0;     ///< The number of lines in the file.
-    std::string_view unended;  ///< The ignored text after the last line end.
+    std::string_view unended;  ///< The ignored text after the last line end (decision 7).
 };
 
+/// Returns whether a line has content; see decision 6 (docs/decisions.md).
 bool isKept(std::string_view line)
 {
     return !line.empty() && std::string_view("\n\r!/:@").find(line.front()) == std::string::npos;
@@ -104,6 +105,7 @@ void append(Temperament& temperament, std::unique_ptr<Tuning> tuning, const Line
     temperament.append(std::move(tuning));
 }
 
+/// Both parts are truncated (decision 4).
 std::unique_ptr<Tuning> readRatio(const Line& line, std::size_t slash)
 {
     const double numerator = std::trunc(finiteNumber(line, line.text.substr(0, slash)));
@@ -114,6 +116,7 @@ std::unique_ptr<Tuning> readRatio(const Line& line, std::size_t slash)
     return std::make_unique<Ratio>(numerator, denominator);
 }
 
+/// A whole number is cents, too (decision 3).
 std::unique_ptr<Tuning> readCents(const Line& line)
 {
     const double cents = finiteNumber(line, line.text);
@@ -128,6 +131,7 @@ void checkNoteCount(const Line& line)
         throw wrongLine(line, "is the number of notes; only scales of 12 notes are supported");
 }
 
+/// The octave line is not read (decision 5).
 Temperament readScale(const Lines& lines)
 {
     if (lines.kept.size() > 1)
@@ -160,7 +164,7 @@ Temperament readFrequencies(const Lines& lines)
         logger("tuning").debug("F {:f}", hertz);
         append(temperament, std::make_unique<Freq>(hertz), line);
     }
-    // The format has no pitch for B.
+    // The format has no pitch for B (decision 8).
     append(temperament, std::make_unique<Freq>(2.0 * temperament.baseFrequency()), baseLine);
     return temperament;
 }
