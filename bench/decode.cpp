@@ -1,5 +1,5 @@
-// Decoding 500 WAV files of 24 bits, on all cores, on one thread ahead of the one that takes them,
-// and one after the other.
+// Measures the decoding of 500 WAV files of 24 bits: in a plain loop, and with a SoundLoader on one
+// thread and on all cores.
 
 #include "audio/AudioFileDecoder.h"
 #include "import/SoundLoader.h"
@@ -26,7 +26,7 @@ std::string number(std::size_t value, int bytes)
     return result;
 }
 
-/// A second in stereo, of whatever comes.
+/// One second of stereo noise.
 std::string wave(std::uint32_t seed)
 {
     const std::string format = number(1, 2) + number(2, 2) + number(48'000, 4) +
@@ -42,7 +42,7 @@ std::string wave(std::uint32_t seed)
     return "RIFF" + number(chunks.size(), 4) + chunks;
 }
 
-/// The files in a temporary folder, gone at the end.
+/// The files, in a temporary folder that is deleted at the end.
 class Files {
 public:
     Files()

@@ -1,7 +1,8 @@
-// Importing a large SoundFont bank, beside the least that any reader of it has to do and beside
-// FluidSynth. Each measurement has a process of its own, so that none profits from memory that
-// another has touched; `peak_MB` is the most memory that the process held. The bank is the
-// environment variable VELMORA_SOUNDFONT or that of the package fluid-soundfont-gm.
+// Measures the import of a large SoundFont bank. For comparison, also measures reading the file and
+// copying its samples, which every importer has to do, and loading it with FluidSynth. Each
+// measurement runs in its own process, so that none reuses the memory of another; `peak_MB` is the
+// peak memory of the process. The bank is $VELMORA_SOUNDFONT or that of the package
+// fluid-soundfont-gm.
 
 #include "audio/OpenALDevice.h"
 #include "import/Import.h"
@@ -25,8 +26,8 @@ namespace {
 
 std::filesystem::path bank()
 {
-    const char* wanted = std::getenv("VELMORA_SOUNDFONT");
-    return wanted ? wanted : "/usr/share/sounds/sf2/FluidR3_GM.sf2";
+    const char* chosen = std::getenv("VELMORA_SOUNDFONT");
+    return chosen ? chosen : "/usr/share/sounds/sf2/FluidR3_GM.sf2";
 }
 
 class SilentHost : public InstrumentHost {
@@ -47,15 +48,15 @@ double import()
 {
     const auto device = OpenALDevice::openLoopback(48'000);
     SilentHost host;
-    Import made(host);
-    return secondsOf([&made] { readSoundFont(bank(), made); });
+    Import result(host);
+    return secondsOf([&result] { readSoundFont(bank(), result); });
 }
 
-/// Reading the file once and copying its sample data once.
+/// Reads the file once and copies its sample data once.
 double readAndCopy()
 {
     return secondsOf([] {
-        // Not zeroed first, as that would be one more pass.
+        // Uninitialised, since clearing it would take another pass.
         const auto size = std::filesystem::file_size(bank());
         const std::unique_ptr<std::byte[]> bytes(new std::byte[size]);
         const auto source = openFile(bank());
@@ -84,7 +85,8 @@ double loadByFluidSynth()
     return seconds;
 }
 
-/// Runs the work in a process of its own; returns its seconds and adds its memory to the report.
+/// Runs `work` in a new process and returns its seconds. Adds the memory of the process to the
+/// report.
 double inFreshProcess(double (*work)(), benchmark::State& state)
 {
     int ends[2];

@@ -1,5 +1,5 @@
-// A sampled organ through OpenAL's loopback, in seconds of sound a second of one core: chords of
-// ten notes on 4, 40 and 60 stops, that is of 40, 400 and 600 voices.
+// Measures the rendering of a sampled organ with OpenAL, in seconds of sound per second: chords of
+// ten notes on 4, 40 and 60 stops, which are 40, 400 and 600 voices.
 
 #include "audio/OpenALLoopback.h"
 #include "sineOrgan.h"

@@ -1,5 +1,5 @@
-// What the sound costs, in seconds of sound a second: a whole piece on the way that `velmora
-// render` takes, the lanes alone, and a synthesizer that nothing plays.
+// Measures the rendering of sound, in seconds of sound per second: a whole piece as with `velmora
+// render`, held keys, and an idle synthesizer.
 
 #include "app/AppDelegate.h"
 #include "app/SequenceRenderer.h"
@@ -22,12 +22,12 @@ void countSeconds(benchmark::State& state, double seconds)
     state.counters["x real time"] = benchmark::Counter(seconds, benchmark::Counter::kIsRate);
 }
 
-/// The demonstration in a tuning. In Equal no lane resamples: that is the floor for the others.
+/// Renders the example piece in a tuning. In Equal no lane resamples, which makes it the fastest.
 void renderPiece(benchmark::State& state, const char* tuning)
 {
     std::size_t frames = 0;
     for ([[maybe_unused]] auto iteration : state) {
-        state.PauseTiming(); // to load the bank
+        state.PauseTiming(); // while the SoundFont is loaded
         auto synthesizer = std::make_unique<Synthesizer>(kRate, generalMidiBanks());
         Synthesizer& source = *synthesizer;
         AppDelegate application;
@@ -54,7 +54,7 @@ BENCHMARK_CAPTURE(renderPiece, Equal, "Equal")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(renderPiece, Meantone, "Quartercomma Meantone")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(renderPiece, Dynamic, "Dynamic")->Unit(benchmark::kMillisecond);
 
-/// A second of so many keys held, each on a lane of its own, with the room and the limiter.
+/// Renders one second of held keys, each on its own lane, with reverberation and limiter.
 void holdKeys(benchmark::State& state)
 {
     Synthesizer synthesizer(kRate, generalMidiBanks());

@@ -1,4 +1,4 @@
-// Reading a full-name organ definition of 18 MB into a tree, beside pugixml.
+// Measures parsing an organ definition of 18 MB with full names, compared with pugixml.
 
 #include "import/xml.h"
 
@@ -16,7 +16,7 @@ std::string field(const std::string& name, const std::string& value)
     return "\t\t\t<" + name + ">" + value + "</" + name + ">\r\n";
 }
 
-/// Samples, each with what a published definition says of it, until there are so many bytes.
+/// A definition of at least `size` bytes. Its samples have the fields of published definitions.
 std::string generatedFile(std::size_t size)
 {
     std::string result = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\r\n<Hauptwerk>\r\n"
@@ -39,7 +39,7 @@ const std::string& file()
     return result;
 }
 
-/// Both readers are handed a copy of the file, as if it had just been read.
+/// Both parsers start with a fresh copy of the file.
 void tree(benchmark::State& state)
 {
     while (state.KeepRunning())

@@ -1,4 +1,4 @@
-// Any bytes: either a FormatError or a sound of one or two channels.
+// Decodes the input as a sound file. The result is a FormatError or a mono or stereo sound.
 
 #include "audio/AudioFileDecoder.h"
 #include "base/FormatError.h"
@@ -18,8 +18,8 @@ void require(bool holds)
 
 } // namespace
 
-/// libsndfile forgets memory of its decoders when it gives a damaged file up.
-// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's own hook
+/// libsndfile leaks memory of its decoders if a file is damaged.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the hook of the sanitizer
 extern "C" const char* __lsan_default_suppressions()
 {
     return "leak:libsndfile.so\nleak:libvorbis.so\nleak:libFLAC.so\nleak:libogg.so\n";

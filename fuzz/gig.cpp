@@ -1,4 +1,4 @@
-// A bank that is imported from memory.
+// Imports the input as a GigaSampler bank.
 
 #include "import/gig.h"
 

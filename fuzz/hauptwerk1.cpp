@@ -1,7 +1,6 @@
-// Any bytes: sections, and the stops and pipes that they name.
+// Parses the input as a version 1 organ definition. All indices and keys of the organ are valid.
 
 #include "import/hauptwerk1.h"
-#include "base/FormatError.h"
 
 #include <cstdlib>
 #include <span>
@@ -13,17 +12,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     for (const auto lineEnd :
          {hauptwerk1::LineEnd::CarriageReturnLineFeed, hauptwerk1::LineEnd::LineFeed}) {
-        try {
-            const Organ organ =
-                hauptwerk1::findPipes(hauptwerk1::readSections(bytes, lineEnd), "/nowhere");
-            for (const Organ::Pipe& pipe : organ.pipes) {
-                const bool sound =
-                    !pipe.file || (pipe.stop < organ.stops.size() && pipe.key >= 0 &&
-                                   pipe.key < 128 && *pipe.file < organ.files.size());
-                if (!sound)
-                    std::abort();
-            }
-        } catch (const FormatError&) {
+        const Organ organ =
+            hauptwerk1::findPipes(hauptwerk1::readSections(bytes, lineEnd), "/nowhere");
+        for (const Organ::Pipe& pipe : organ.pipes) {
+            const bool isValid = !pipe.file || (pipe.stop < organ.stops.size() && pipe.key >= 0 &&
+                                                pipe.key < 128 && *pipe.file < organ.files.size());
+            if (!isValid)
+                std::abort();
         }
     }
     return 0;

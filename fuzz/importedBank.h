@@ -12,7 +12,7 @@
 
 namespace velmora {
 
-/// Checks that the progress of an import comes to what it announced.
+/// Checks that the steps of an import add up to the announced number.
 class CheckingHost : public InstrumentHost {
 public:
     void startProgress(long steps) override { steps_ = steps; }
@@ -28,13 +28,13 @@ private:
     long done_ = 0;
 };
 
-/// Lets an importer read a bank in memory: what it accepts must be fit to sound.
+/// Imports a bank from memory. If it is accepted, the instrument must be playable.
 inline void importBank(void (*reader)(const RIFF::File&, Import&),
                        std::span<const std::uint8_t> bytes)
 {
-    // Huge copies of the same data would only cost time.
-    constexpr std::size_t kMost = 1 << 14;
-    if (bytes.size() > kMost)
+    // Larger inputs take long and find nothing more.
+    constexpr std::size_t kMaximumSize = 1 << 14;
+    if (bytes.size() > kMaximumSize)
         return;
     setLogLevel(spdlog::level::off);
     static const auto device = OpenALDevice::openLoopback(48'000);

@@ -1,4 +1,4 @@
-// Packets of MIDI bytes, each led by its length.
+// Parses the input as MIDI packets, each preceded by its length.
 
 #include "midi/midiRead.h"
 
@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::size_t bytes = 0;
     for (std::size_t at = 0; at < size;) {
         const std::size_t length = std::min<std::size_t>(data[at], size - at - 1);
-        // Each in a block of its own, so that a read beyond it is seen.
+        // Each packet has its own buffer, so that sanitizers detect reads past its end.
         packets.emplace_back(data + at + 1, data + at + 1 + length);
         bytes += length;
         at += 1 + length;

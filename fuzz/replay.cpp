@@ -1,4 +1,4 @@
-// Runs a fuzz target once over every file of its corpus.
+// Runs a fuzz target once for each file of its corpus.
 
 #include <cstddef>
 #include <cstdint>

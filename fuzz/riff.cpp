@@ -1,4 +1,4 @@
-// A RIFF file, of which every element is read.
+// Parses the input as a RIFF file and reads all chunks.
 
 #include "import/RIFF.h"
 #include "base/FormatError.h"
@@ -16,7 +16,7 @@ void require(bool holds)
         std::abort();
 }
 
-/// `end` is that of the bytes that an element may show; returns the number of elements.
+/// Checks the children of a list, whose data must end by `end`; returns the number of chunks.
 std::size_t check(const RIFF::List& list, std::size_t end, int depth)
 {
     require(depth <= 32);

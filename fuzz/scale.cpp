@@ -1,5 +1,5 @@
-// The first byte chooses the format, the rest is the tuning file. What is accepted sounds on every
-// key.
+// Reads the input as a tuning file; the first byte selects its format. If it is accepted, every key
+// has a valid pitch.
 
 #include "base/FormatError.h"
 #include "base/Log.h"

@@ -1,4 +1,4 @@
-// A bank that is imported from memory.
+// Imports the input as a SoundFont bank.
 
 #include "import/sf2.h"
 

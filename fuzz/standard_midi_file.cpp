@@ -1,4 +1,5 @@
-// Any bytes: either a FormatError or notes with sound times, which make a sequence.
+// Reads the input as a MIDI file. The result is a FormatError or a sequence of notes with valid
+// times.
 
 #include "base/FormatError.h"
 #include "midi/StandardMidiFile.h"

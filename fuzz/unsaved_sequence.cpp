@@ -1,4 +1,5 @@
-// Any bytes: either a FormatError or notes that a document can hold, which make as many bytes.
+// Decodes the input as an unsaved sequence. The result is a FormatError or valid notes, which
+// encode to the same number of bytes.
 
 #include "base/FormatError.h"
 #include "sequencer/UnsavedSequence.h"

@@ -1,4 +1,4 @@
-// Any bytes: a tree whose every node can be asked everything, and perhaps an organ.
+// Parses the input as XML and as an organ definition, and reads everything in the tree.
 
 #include "import/xml.h"
 #include "base/FormatError.h"
@@ -16,7 +16,7 @@ void require(bool holds)
         std::abort();
 }
 
-/// Characters of names, texts and values in the tree below a node.
+/// Returns the total length of all names, texts and attributes below a node.
 std::size_t lengthOf(const xml::Node& node)
 {
     std::size_t length = node.name().size() + node.text().size();

@@ -25,7 +25,14 @@ using SoundFile = std::unique_ptr<SNDFILE, int (*)(SNDFILE*)>;
 
 constexpr sf_count_t kBlockFrames = 16384;
 
-/// Decodes all of a file with one of libsndfile's reading functions.
+/// libsndfile's status for a format that it recognises but cannot decode. Its header does not name
+/// it.
+constexpr int kUnimplemented = 18;
+
+/// What the log calls a sound that has no file name.
+constexpr const char* kEmbedded = "an embedded sound";
+
+/// Decodes a whole file with one of libsndfile's reading functions.
 template <class Sample> void decodeWith(sf_count_t (*read)(SNDFILE*, Sample*, sf_count_t),
                                         SNDFILE* file, int channels, PcmBuilder& builder)
 {
@@ -34,12 +41,14 @@ template <class Sample> void decodeWith(sf_count_t (*read)(SNDFILE*, Sample*, sf
     while ((frames = read(file, block.data(), kBlockFrames)) > 0)
         builder.add(
             std::span<const Sample>(block.data(), static_cast<std::size_t>(frames * channels)));
+    if (const int status = sf_error(file))
+        builder.logReadError(status);
 }
 
-/// Decodes an opened file of `size` bytes, in the type of sample that loses nothing of its own.
-Pcm decode(SNDFILE* file, const SF_INFO& info, std::size_t size)
+/// Decodes an open file of `size` bytes. The sample type is the smallest that loses no precision.
+Pcm decode(SNDFILE* file, const SF_INFO& info, const std::string& name, std::size_t size)
 {
-    PcmBuilder builder(info.channels, info.samplerate, info.frames, size);
+    PcmBuilder builder(name, info.channels, info.samplerate, info.frames, size);
     switch (info.format & SF_FORMAT_SUBMASK) {
     case SF_FORMAT_PCM_24:
     case SF_FORMAT_PCM_32:
@@ -63,12 +72,34 @@ Pcm decode(SNDFILE* file, const SF_INFO& info, std::size_t size)
     return builder.take();
 }
 
-FormatError notSound()
+/// Logs the status of libsndfile after it failed to open a file, and returns the error to throw.
+/// libsndfile opens a file and reads its format in one step; the status says which of them failed.
+FormatError openError(const char* operation)
 {
-    return FormatError("is no sound file that can be decoded");
+    // The wording is fixed so that logs of different versions can be compared.
+    const Logger log = logger("audio");
+    const int status = sf_error(nullptr);
+    if (status == SF_ERR_UNRECOGNISED_FORMAT || status == SF_ERR_SYSTEM)
+        log.debug("ERROR : {}, {}", operation, status);
+    else if (status == SF_ERR_UNSUPPORTED_ENCODING || status == kUnimplemented)
+        log.debug("MyGetOpenALAudioData: ExtAudioFileSetProperty("
+                  "kExtAudioFileProperty_ClientDataFormat) FAILED, Error = {}",
+                  status);
+    else
+        log.debug("ERROR : ExtAudioFileGetProperty, {}", status);
+    return FormatError("is not a sound file in a supported format");
 }
 
-/// An open file, closed with it.
+/// Calls a decoder, and logs its error under the name of the sound.
+template <class Decoder> Pcm logErrors(const std::string& name, Decoder decoder)
+try {
+    return decoder();
+} catch (const FormatError& error) {
+    logger("audio").warn("cannot decode {}: {}", name, error.what());
+    throw;
+}
+
+/// A file descriptor that is closed on destruction.
 class Descriptor {
 public:
     explicit Descriptor(const std::filesystem::path& path)
@@ -83,42 +114,23 @@ public:
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
 
-    int get() const { return descriptor_; }
+    int value() const { return descriptor_; }
 
 private:
     int descriptor_;
 };
 
-} // namespace
-
-Pcm decodeAudioFile(const std::filesystem::path& path)
+Pcm decodeOpenFile(int descriptor, const std::string& name, std::size_t size)
 {
-    const Descriptor descriptor(path);
-    std::array<std::byte, 4> magic{};
-    struct stat status {};
-    if (descriptor.get() < 0 || fstat(descriptor.get(), &status) != 0 ||
-        pread(descriptor.get(), magic.data(), magic.size(), 0) < 0) {
-        const int error = errno;
-        logger("platform").info("ERROR : ExtAudioFileOpenURL, {}", error);
-        throw FormatError("cannot be read (" + std::generic_category().message(error) + ")");
-    }
-    if (isWavPack(magic))
-        return decodeWavPack(readFile(path));
-
     SF_INFO info{};
-    const SoundFile file(sf_open_fd(descriptor.get(), SFM_READ, &info, SF_FALSE), sf_close);
-    if (!file) {
-        logger("platform").info("ERROR : ExtAudioFileOpenURL, {}", sf_error(nullptr));
-        throw notSound();
-    }
-    return decode(file.get(), info, static_cast<std::size_t>(status.st_size));
+    const SoundFile file(sf_open_fd(descriptor, SFM_READ, &info, SF_FALSE), sf_close);
+    if (!file)
+        throw openError("ExtAudioFileOpenURL");
+    return decode(file.get(), info, name, size);
 }
 
-Pcm decodeAudio(std::span<const std::byte> image)
+Pcm decodeImage(std::span<const std::byte> image)
 {
-    if (isWavPack(image))
-        return decodeWavPack(image);
-
     SF_VIRTUAL_IO callbacks{};
     callbacks.get_filelen = [](void* data) -> sf_count_t {
         return static_cast<FileImage*>(data)->length();
@@ -136,11 +148,40 @@ Pcm decodeAudio(std::span<const std::byte> image)
     FileImage reader(image);
     SF_INFO info{};
     const SoundFile file(sf_open_virtual(&callbacks, SFM_READ, &info, &reader), sf_close);
-    if (!file) {
-        logger("platform").info("ERROR : ExtAudioFileWrapAudioFileID, {}", sf_error(nullptr));
-        throw notSound();
+    if (!file)
+        throw openError("ExtAudioFileWrapAudioFileID");
+    return decode(file.get(), info, kEmbedded, image.size());
+}
+
+} // namespace
+
+Pcm decodeAudioFile(const std::filesystem::path& path)
+{
+    const Descriptor descriptor(path);
+    std::array<std::byte, 4> magic{};
+    struct stat status {};
+    if (descriptor.value() < 0 || fstat(descriptor.value(), &status) != 0 ||
+        pread(descriptor.value(), magic.data(), magic.size(), 0) < 0) {
+        const int error = errno;
+        const std::string reason = std::generic_category().message(error);
+        const Logger log = logger("audio");
+        // The wording is fixed so that logs of different versions can be compared.
+        log.debug("ERROR : ExtAudioFileOpenURL, {}", error);
+        log.warn("cannot open {}: {}", path.string(), reason);
+        throw FormatError("cannot be read (" + reason + ")");
     }
-    return decode(file.get(), info, image.size());
+    return logErrors(path.string(), [&] {
+        return isWavPack(magic) ? decodeWavPack(readFile(path), path.string())
+                                : decodeOpenFile(descriptor.value(), path.string(),
+                                                 static_cast<std::size_t>(status.st_size));
+    });
+}
+
+Pcm decodeAudio(std::span<const std::byte> image)
+{
+    return logErrors(kEmbedded, [&] {
+        return isWavPack(image) ? decodeWavPack(image, kEmbedded) : decodeImage(image);
+    });
 }
 
 } // namespace velmora

@@ -8,13 +8,13 @@
 
 namespace velmora {
 
-/// Decodes a sound file as 16-bit sound: WAV, AIFF, FLAC, Ogg and whatever else libsndfile reads,
-/// or WavPack, which is known by its magic under any name. Finer samples are rounded, those beyond
-/// full scale clipped. Throws FormatError when the file cannot be read, is no sound file or has
-/// more than two channels. Safe on several threads at once.
+/// Decodes a sound file to 16-bit samples: WAV, AIFF, FLAC, Ogg and any other format of libsndfile,
+/// or WavPack. The format is recognised by the contents. Samples of higher resolution are rounded,
+/// and clipped at full scale. Throws FormatError if the file cannot be read or decoded or has more
+/// than two channels. Safe to call on several threads at once.
 Pcm decodeAudioFile(const std::filesystem::path& path);
 
-/// The same for the bytes of a sound file.
+/// Decodes the bytes of a sound file in the same way.
 Pcm decodeAudio(std::span<const std::byte> image);
 
 } // namespace velmora

@@ -14,10 +14,10 @@ namespace {
 
 constexpr int kChannels = 2;
 
-/// The size of a WAV file has 32 bits, header and all; a sample has three bytes.
-constexpr std::uint64_t kMostWavFrames = (0xFFFFFFFFU - 4096U) / (3U * kChannels);
+/// The size of a WAV file, including its header, has 32 bits. A sample has three bytes.
+constexpr std::uint64_t kMaximumWavFrames = (0xFFFFFFFFU - 4096U) / (3U * kChannels);
 
-/// Any will do, as long as the same sound gives the same file.
+/// An arbitrary constant, so that the same sound always results in the same file.
 constexpr std::uint32_t kOggSerial = 1;
 
 int formatOf(const std::filesystem::path& path)
@@ -44,9 +44,9 @@ AudioFileWriter::AudioFileWriter(const std::filesystem::path& path, double rate)
     const int type = info.format & SF_FORMAT_TYPEMASK;
     isOgg_ = type == SF_FORMAT_OGG;
     if (type == SF_FORMAT_WAV)
-        framesLeft_ = kMostWavFrames;
+        framesLeft_ = kMaximumWavFrames;
     if (sf_format_check(&info) == 0)
-        throw std::runtime_error(name_ + ": this kind of file has no rate of " +
+        throw std::runtime_error(name_ + ": this file format does not support a sample rate of " +
                                  std::to_string(info.samplerate) + " Hz");
     if (!file_.open(QIODevice::WriteOnly))
         throw std::runtime_error(name_ + ": " + file_.errorString().toStdString());
@@ -61,7 +61,7 @@ void AudioFileWriter::write(const float* left, const float* right, std::size_t f
 {
     if (frames > framesLeft_)
         throw std::runtime_error(name_ +
-                                 ": a WAV file holds no more than 4 GB; write .flac instead");
+                                 ": a WAV file cannot be larger than 4 GB; write .flac instead");
     framesLeft_ -= frames;
     interleaved_.resize(frames * kChannels);
     for (std::size_t i = 0; i < frames; ++i) {

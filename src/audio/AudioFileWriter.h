@@ -7,29 +7,30 @@
 #include <filesystem>
 #include <limits>
 #include <memory>
+#include <string>
 #include <vector>
 
 struct sf_private_tag;
 
 namespace velmora {
 
-/// Writes a stereo sound file: WAV or FLAC of 24 bits, or Ogg Vorbis, by the extension of its name
-/// in any letter case. The file appears, whole, with `commit`; until then one of that name stays as
-/// it was.
+/// Writes a stereo sound file: 24-bit WAV, 24-bit FLAC or Ogg Vorbis, depending on its extension in
+/// any letter case. The file appears, complete, when `commit` is called; until then an existing
+/// file of that name is left as it was.
 class AudioFileWriter {
 public:
-    /// Throws std::runtime_error with a sentence when the extension is none of .wav, .flac and
-    /// .ogg, or the file cannot be written there.
+    /// `rate` is in hertz. Throws std::runtime_error with a sentence for the user if the extension
+    /// is not .wav, .flac or .ogg, or if the file cannot be written.
     AudioFileWriter(const std::filesystem::path& path, double rate);
     ~AudioFileWriter();
     AudioFileWriter(const AudioFileWriter&) = delete;
     AudioFileWriter& operator=(const AudioFileWriter&) = delete;
 
-    /// Adds frames; samples range from −1 to 1. Throws std::runtime_error when they cannot be
-    /// written, as on a full disk or beyond the 4 GB of a WAV file.
+    /// Appends frames with samples from −1 to 1. Throws std::runtime_error if they cannot be
+    /// written, for example if the disk is full or a WAV file would exceed 4 GB.
     void write(const float* left, const float* right, std::size_t frames);
 
-    /// Puts the file in its place. Throws std::runtime_error when that fails.
+    /// Moves the complete file into place. Throws std::runtime_error if that fails.
     void commit();
 
 private:

@@ -16,12 +16,12 @@ namespace {
 
 constexpr double kUsualRate = 48000.0;
 
-/// What is asked for; JACK's server has a period of its own.
+/// The requested period. A JACK server has its own.
 constexpr int kPeriodFrames = 128;
 constexpr int kPeriods = 2;
 
-/// Frames in a second of the JACK server that runs; nothing when none does. FluidSynth takes the
-/// rate for granted.
+/// Returns the sample rate of the running JACK server, if there is one. FluidSynth does not ask for
+/// it.
 std::optional<double> jackRate()
 {
     jack_client_t* client = jack_client_open("velmora-probe", JackNoStartServer, nullptr);
@@ -32,7 +32,7 @@ std::optional<double> jackRate()
     return rate;
 }
 
-/// An output through one of FluidSynth's audio drivers.
+/// An output that uses one of FluidSynth's audio drivers.
 class FluidAudioOutput : public AudioOutput {
 public:
     FluidAudioOutput(const std::string& driver, double rate)
@@ -44,9 +44,9 @@ public:
         fluid_settings_setint(settings_.get(), "audio.jack.autoconnect", 1);
         fluid_settings_setint(settings_.get(), "audio.period-size", kPeriodFrames);
         fluid_settings_setint(settings_.get(), "audio.periods", kPeriods);
-        // A JACK server may run at a rate that FluidSynth does not know.
+        // A JACK server may run at a rate that FluidSynth does not support.
         if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate) != FLUID_OK)
-            logger("platform").warn("FluidSynth does not play at the {:g} Hz of {}", rate, driver);
+            logger("audio").warn("FluidSynth does not support the {:g} Hz of {}", rate, driver);
         else
             opened_.reset(new_fluid_audio_driver2(settings_.get(), callBack, this));
     }
@@ -75,7 +75,7 @@ private:
     void fill(std::size_t frames, float** outputs, int outputCount)
     {
         period_ = frames;
-        // While the source is being exchanged there is a period of silence, never a wait.
+        // Never wait here: while `play` exchanges the source, the period is silent.
         const std::unique_lock lock(mutex_, std::try_to_lock);
         if (lock && source_ != nullptr && outputCount >= 2) {
             source_->render(outputs[0], outputs[1], frames);
@@ -109,7 +109,7 @@ std::unique_ptr<AudioOutput> AudioOutput::open()
         if (output->isOpen())
             return output;
     }
-    logger("platform").warn("there is no audio output: the program runs without sound");
+    logger("audio").warn("no audio output: the program runs without sound");
     return nullptr;
 }
 

@@ -9,26 +9,26 @@
 
 namespace velmora {
 
-/// The machine's sound output, at the shortest period it offers.
+/// The audio output of the machine, with the shortest period that it offers.
 class AudioOutput {
 public:
-    /// Opens JACK, PulseAudio or ALSA, whichever answers first; silent until `play`. Null when
-    /// there is no output: that is logged.
+    /// Opens the first of JACK, PulseAudio and ALSA that is available. The output is silent until
+    /// `play` is called. If there is none, logs that and returns null.
     static std::unique_ptr<AudioOutput> open();
 
     virtual ~AudioOutput() = default;
 
-    /// Sounds `source` from the next period on; null for silence. A source is let go of only when
-    /// this returns, so it may be destroyed then.
+    /// Plays `source` from the next period on; null for silence. Once this returns, the previous
+    /// source is no longer used and may be destroyed.
     virtual void play(AudioSource* source) = 0;
 
-    /// What plays it: "jack", "pulseaudio" or "alsa".
+    /// "jack", "pulseaudio" or "alsa".
     virtual const std::string& driver() const = 0;
 
-    /// Frames in a second.
+    /// The sample rate in hertz.
     virtual double rate() const = 0;
 
-    /// Frames in a period as it was got; 0 until the first period has been played.
+    /// The actual length of a period in frames; 0 until the first one has been played.
     virtual std::size_t period() const = 0;
 };
 

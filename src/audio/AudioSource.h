@@ -4,13 +4,13 @@
 
 namespace velmora {
 
-/// Something that makes stereo sound, block by block.
+/// A source of stereo sound that is rendered block by block.
 class AudioSource {
 public:
     virtual ~AudioSource() = default;
 
-    /// Writes the next `frames` frames, from −1 to 1. Called on the audio thread: never waits,
-    /// allocates or logs.
+    /// Writes the next `frames` frames, with samples from −1 to 1. Called on the audio thread, so
+    /// it must not wait, allocate or log.
     virtual void render(float* left, float* right, std::size_t frames) = 0;
 };
 

@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-/// The bytes of a file and a position in them, for libraries that read through callbacks.
+/// The bytes of a file and a read position, for libraries that read through callbacks.
 class FileImage {
 public:
     explicit FileImage(std::span<const std::byte> bytes) : bytes_(bytes) {}
@@ -17,7 +17,7 @@ public:
     std::int64_t length() const { return static_cast<std::int64_t>(bytes_.size()); }
     std::int64_t position() const { return position_; }
 
-    /// Copies up to `count` bytes from the position on; returns how many there were.
+    /// Copies up to `count` bytes from the position, advances it and returns how many were copied.
     std::int64_t read(void* target, std::int64_t count)
     {
         const std::int64_t copied = std::clamp<std::int64_t>(count, 0, length() - position_);
@@ -27,8 +27,8 @@ public:
         return copied;
     }
 
-    /// Moves to `offset` bytes from the place that `whence` stands for, as `fseek` does. False, and
-    /// no move, where that is outside the file.
+    /// Moves the position as `fseek` does. Returns false, without moving, if the new position is
+    /// outside the file.
     bool seek(std::int64_t offset, int whence)
     {
         const std::int64_t from = whence == SEEK_CUR   ? position_

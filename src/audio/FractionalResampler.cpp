@@ -11,12 +11,13 @@ namespace {
 constexpr std::size_t kTaps = FractionalResampler::kTaps;
 constexpr std::size_t kPhases = 512;
 
-/// The tap that stands alone at phase 0.
+/// The only nonzero tap at phase 0.
 constexpr std::size_t kCentre = kTaps / 2 - 1;
 
 using Taps = std::array<float, kTaps>;
 
-/// Kaiser's window on −1…1. At 8 the images of what is below 20 kHz lie 80 dB down at 48 kHz.
+/// The Kaiser window on −1…1. With a beta of 8, images of sound below 20 kHz are attenuated by 80
+/// dB at 48 kHz.
 double window(double x)
 {
     constexpr double kBeta = 8.0;
@@ -32,7 +33,7 @@ double sinc(double x)
     return x == 0.0 ? 1.0 : std::sin(angle) / angle;
 }
 
-/// The taps of each phase and, for interpolation, of the one that closes the circle.
+/// Returns the taps of each phase, and of one more for the interpolation.
 std::array<Taps, kPhases + 1> makeTable()
 {
     std::array<Taps, kPhases + 1> table{};
@@ -42,7 +43,7 @@ std::array<Taps, kPhases + 1> makeTable()
         double sum = 0.0;
         for (std::size_t tap = 0; tap < kTaps; ++tap) {
             const double x = static_cast<double>(tap) - kCentre - fraction;
-            // Whole distances are exact zeros of the sinc, which sin() misses by its rounding.
+            // The sinc is exactly 0 at whole distances; sin() would be slightly off.
             const bool isZero =
                 (phase == 0 && tap != kCentre) || (phase == kPhases && tap != kCentre + 1);
             taps[tap] = isZero ? 0.0 : sinc(x) * window(x / (kTaps / 2.0));
@@ -56,11 +57,11 @@ std::array<Taps, kPhases + 1> makeTable()
 
 const std::array<Taps, kPhases + 1>& table()
 {
-    static const auto made = makeTable();
-    return made;
+    static const auto result = makeTable();
+    return result;
 }
 
-/// The sum of products, in eight lanes that the compiler keeps in vector registers.
+/// Returns the sum of products. Eight partial sums let the compiler use vector registers.
 float convolve(const Taps& taps, const float* input)
 {
     constexpr std::size_t kLanes = 8;
@@ -77,7 +78,7 @@ float convolve(const Taps& taps, const float* input)
 
 FractionalResampler::FractionalResampler()
 {
-    table(); // Not for the first time in the audio thread.
+    table(); // so that the audio thread does not compute it
 }
 
 void FractionalResampler::makeRoom()

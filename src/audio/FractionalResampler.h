@@ -7,26 +7,27 @@
 
 namespace velmora {
 
-/// Shifts the pitch of a stereo stream by a small ratio: reads it at a step near 1 by a windowed
-/// sinc of 32 taps in 512 phases, linearly interpolated. At a step of exactly 1 from the start the
-/// output is the input, delayed.
+/// Shifts the pitch of a stereo stream by a small ratio. Interpolates with a windowed sinc of 32
+/// taps in 512 phases, with linear interpolation between phases. As long as the step is exactly 1,
+/// the output is the input, delayed.
 class FractionalResampler {
 public:
     static constexpr std::size_t kTaps = 32;
 
-    /// Frames of input asked for at a time.
+    /// Number of input frames requested at a time.
     static constexpr std::size_t kBlock = 64;
 
-    /// Frames by which the output lags behind the input.
+    /// Delay of the output in frames.
     static constexpr std::size_t kDelay = kTaps / 2;
 
     FractionalResampler();
 
-    /// Input frames per output frame: 2^(cents / 1200) raises the pitch by `cents`.
+    /// Sets the number of input frames per output frame. 2^(cents / 1200) raises the pitch by
+    /// `cents`.
     void setStep(double step) { step_ = step; }
 
-    /// Adds `frames` frames to `left` and `right`. `source(left, right)` writes the next kBlock
-    /// frames of input; it is called as often as needed.
+    /// Adds `frames` frames to `left` and `right`. Calls `source(left, right)`, which must write
+    /// kBlock frames, whenever it needs more input.
     template <class Source>
     void mix(float* left, float* right, std::size_t frames, const Source& source)
     {
@@ -43,17 +44,17 @@ public:
 private:
     static constexpr std::size_t kCapacity = kTaps + kBlock;
 
-    /// Moves what is still needed to the front, so that a block fits behind it.
+    /// Moves the remaining input to the front of the buffers to make room for a block.
     void makeRoom();
 
-    /// Adds as many frames as the input at hand gives, `frames` at most, and tells how many.
+    /// Adds up to `frames` frames from the input in the buffers and returns how many.
     std::size_t mixAvailable(float* left, float* right, std::size_t frames);
 
     std::array<float, kCapacity> left_{};
     std::array<float, kCapacity> right_{};
-    std::size_t filled_ = kTaps - 1; ///< Frames of input at hand, silence to begin with.
-    std::size_t position_ = 0;       ///< First frame under the taps.
-    double phase_ = 0.0;             ///< Fraction of a frame beyond it.
+    std::size_t filled_ = kTaps - 1; ///< Frames in the buffers; they start with silence.
+    std::size_t position_ = 0;       ///< The frame under the first tap.
+    double phase_ = 0.0;             ///< Fraction of a frame to add to it.
     double step_ = 1.0;
 };
 

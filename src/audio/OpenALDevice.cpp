@@ -38,7 +38,10 @@ std::unique_ptr<OpenALDevice> OpenALDevice::open()
     setUpOpenAL();
     ALCdevice* device = alcOpenDevice(nullptr);
     if (device == nullptr) {
-        logger("platform").error("ERROR alcOpenDevice = {}", alGetError());
+        const Logger log = logger("audio");
+        // The wording is fixed so that logs of different versions can be compared.
+        log.debug("ERROR alcOpenDevice = {}", alGetError());
+        log.warn("OpenAL cannot open a sound output: sampled instruments cannot be played");
         return nullptr;
     }
     return withContext(device, nullptr, Reach::Program);
@@ -52,7 +55,7 @@ std::unique_ptr<OpenALDevice> OpenALDevice::openLoopback(int rate)
     ALCdevice* device = openDevice == nullptr ? nullptr : openDevice(nullptr);
     if (device == nullptr)
         return nullptr;
-    // The same sound on every machine, and nothing in the way of our own limiter.
+    // The sound must not depend on the machine, and the program has a limiter of its own.
     const std::array attributes = {ALC_FREQUENCY,
                                    rate,
                                    ALC_FORMAT_CHANNELS_SOFT,
@@ -72,17 +75,20 @@ std::unique_ptr<OpenALDevice> OpenALDevice::withContext(ALCdevice* device, const
 {
     ALCcontext* context = alcCreateContext(device, attributes);
     if (context == nullptr) {
-        logger("platform").error("ERROR alcCreateContext = {}", alcGetError(device));
+        logger("audio").warn(
+            "OpenAL cannot create a context (error {}): sampled instruments cannot "
+            "be played",
+            alcGetError(device));
         alcCloseDevice(device);
         return nullptr;
     }
-    auto made = std::unique_ptr<OpenALDevice>(new OpenALDevice(device, context, reach));
+    auto result = std::unique_ptr<OpenALDevice>(new OpenALDevice(device, context, reach));
     if (reach == Reach::Program)
         alcMakeContextCurrent(context);
     else if (!setThreadContext(context))
         return nullptr;
     setListener();
-    return made;
+    return result;
 }
 
 OpenALDevice::OpenALDevice(ALCdevice* device, ALCcontext* context, Reach reach)

@@ -7,17 +7,18 @@ struct ALCdevice_struct;
 
 namespace velmora {
 
-/// An OpenAL device with a context that is current. Every source and buffer must be gone before it
-/// is. The first one is to be made on the main thread while no other reads the environment.
+/// An OpenAL device with a current context. All sources and buffers must be deleted before it is
+/// destroyed. The first device must be opened on the main thread while no other thread reads
+/// environment variables.
 class OpenALDevice {
 public:
-    /// Opens the default device, at the shortest period it offers, for the whole program. Null when
-    /// there is none or it gives no context: that is logged.
+    /// Opens the default device for all threads, with the shortest period that it offers. If there
+    /// is no device or it has no context, logs that and returns null.
     static std::unique_ptr<OpenALDevice> open();
 
-    /// Makes a device that gives its sound out block by block, as floats of two channels: see
-    /// OpenALLoopback. It is current on the calling thread alone, which goes on to use it and ends
-    /// it; the others keep the device that they have. Null when OpenAL has none.
+    /// Opens a device that renders stereo float samples on request; see OpenALLoopback. It is
+    /// current only on the calling thread, which must also use and destroy it. Returns null if
+    /// OpenAL has no such device.
     static std::unique_ptr<OpenALDevice> openLoopback(int rate);
 
     ~OpenALDevice();
@@ -29,7 +30,7 @@ public:
 private:
     enum class Reach { Program, Thread };
 
-    /// Takes the device over. `attributes` are those of alcCreateContext, null for none.
+    /// Takes ownership of `device` and creates a context with `attributes`, which may be null.
     static std::unique_ptr<OpenALDevice> withContext(ALCdevice_struct* device,
                                                      const int* attributes, Reach reach);
 

@@ -9,13 +9,13 @@
 
 namespace velmora {
 
-/// OpenAL without a sound output: what the thread that made it plays comes out block by block,
-/// through the same limiter as the synthesizer's sound. Every source and buffer must be gone before
-/// it is.
+/// Renders OpenAL without a sound output. OpenAL calls of the thread that constructs it are
+/// rendered block by block, through the same limiter as the synthesizer. All sources and buffers
+/// must be deleted before it is destroyed.
 class OpenALLoopback : public AudioSource {
 public:
-    /// `rate` is in whole hertz. Throws std::runtime_error when OpenAL has no loopback device of
-    /// that rate.
+    /// `rate` is in hertz and is rounded to a whole number. Throws std::runtime_error if OpenAL
+    /// cannot render at that rate.
     explicit OpenALLoopback(double rate);
 
     void render(float* left, float* right, std::size_t frames) override;

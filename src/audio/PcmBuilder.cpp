@@ -6,16 +6,18 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace velmora {
 
 namespace {
 
-/// Room is made beforehand for what a header claims, as far as the size of the file bears it out.
+/// Limits the memory that is reserved for the length in a header.
 constexpr std::size_t kUsualSamplesPerByte = 8;
 
-/// Even silence takes a few bytes in each block of some ten thousand samples.
-constexpr std::size_t kMostSamplesPerByte = 1 << 14;
+/// Limits what a file can decode to. Even silence takes a few bytes for each block of about ten
+/// thousand samples.
+constexpr std::size_t kMaximumSamplesPerByte = 1 << 14;
 
 std::int16_t narrow(std::int32_t sample)
 {
@@ -33,17 +35,28 @@ std::int16_t narrow(float sample)
 
 } // namespace
 
-PcmBuilder::PcmBuilder(int channels, double rate, std::int64_t frames, std::size_t fileSize)
-    : pcm_{{}, channels, rate}, fileSize_(fileSize)
+// The wording of the lines at debug level is fixed so that logs of different versions can be
+// compared.
+
+PcmBuilder::PcmBuilder(std::string name, int channels, double rate, std::int64_t frames,
+                       std::size_t fileSize)
+    : name_(std::move(name)), pcm_{{}, channels, rate}, fileSize_(fileSize)
 {
+    const Logger log = logger("audio");
     if (channels > 2) {
-        logger("platform")
-            .info("MyGetOpenALAudioData - Unsupported Format, channel count is greater than "
-                  "stereo");
-        throw FormatError("has " + std::to_string(channels) + " channels, where two are the most");
+        log.debug(
+            "MyGetOpenALAudioData - Unsupported Format, channel count is greater than stereo");
+        throw FormatError("has " + std::to_string(channels) +
+                          " channels, but at most two are supported");
     }
-    if (channels < 1 || !(rate > 0.0))
-        throw FormatError("is a sound file without channels or rate");
+    if (channels < 1 || !(rate > 0.0)) {
+        log.debug("ERROR : ExtAudioFileGetProperty, {}", channels);
+        throw FormatError("has no channels or no sample rate");
+    }
+    if (frames < 0)
+        log.debug("MyGetOpenALAudioData: ExtAudioFileGetProperty("
+                  "kExtAudioFileProperty_FileLengthFrames) FAILED, Error = {}",
+                  frames);
     const auto claimed = static_cast<std::size_t>(std::max<std::int64_t>(frames, 0));
     const std::size_t usual = fileSize * kUsualSamplesPerByte;
     pcm_.samples.reserve(std::min(claimed, usual) * static_cast<std::size_t>(channels));
@@ -51,8 +64,8 @@ PcmBuilder::PcmBuilder(int channels, double rate, std::int64_t frames, std::size
 
 void PcmBuilder::checkSize(std::size_t added) const
 {
-    if ((pcm_.samples.size() + added) / kMostSamplesPerByte > fileSize_)
-        throw FormatError("claims more sound than it can hold");
+    if ((pcm_.samples.size() + added) / kMaximumSamplesPerByte > fileSize_)
+        throw FormatError("has more samples than a file of its size can have");
 }
 
 void PcmBuilder::add(std::span<const std::int16_t> samples)
@@ -75,10 +88,17 @@ void PcmBuilder::add(std::span<const float> samples)
                    [](float sample) { return narrow(sample); });
 }
 
+void PcmBuilder::logReadError(int status) const
+{
+    const Logger log = logger("audio");
+    log.debug("MyGetOpenALAudioData: ExtAudioFileRead FAILED, Error = {}", status);
+    log.warn("{}: is damaged, only a part can be decoded", name_);
+}
+
 Pcm PcmBuilder::take()
 {
     if (pcm_.samples.empty())
-        throw FormatError("holds no sound");
+        throw FormatError("has no samples");
     return std::move(pcm_);
 }
 

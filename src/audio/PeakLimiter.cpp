@@ -10,7 +10,7 @@ namespace {
 constexpr double kLookAheadSeconds = 0.0015;
 constexpr double kReleaseSeconds = 0.050;
 
-/// From here on a recovering gain is 1 again: 0.00001 dB cannot be heard.
+/// A recovering gain above this jumps to 1. The step of 0.00001 dB is inaudible.
 constexpr double kRecovered = 0.999999;
 
 } // namespace
@@ -28,7 +28,7 @@ PeakLimiter::PeakLimiter(double rate)
 float PeakLimiter::windowMinimum(float peak)
 {
     const float gain = peak > kCeiling ? kCeiling / peak : 1.0F;
-    // The newcomer hides every higher gain before it; what has left the window falls off.
+    // Drop the gain that has left the window and all earlier gains that are not lower.
     if (minimaCount_ > 0 && minima_[firstMinimum_].time + lookAhead_ <= time_) {
         firstMinimum_ = (firstMinimum_ + 1) % lookAhead_;
         --minimaCount_;
@@ -44,14 +44,15 @@ float PeakLimiter::windowMinimum(float peak)
 
 float PeakLimiter::nextGain(float peak)
 {
-    const double wanted = windowMinimum(peak);
-    recovering_ = wanted > recovering_ ? recovering_ + release_ * (wanted - recovering_) : wanted;
+    const double target = windowMinimum(peak);
+    recovering_ = target > recovering_ ? recovering_ + release_ * (target - recovering_) : target;
     if (recovering_ > kRecovered)
-        recovering_ = wanted;
+        recovering_ = target;
     const auto gain = static_cast<float>(recovering_);
 
-    // Every gain of the last `lookAhead_` frames lets the oldest sample pass, so their mean does
-    // too; and a mean has no steps. The sum of so few floats is exact in a double: it cannot drift.
+    // Each of the last `lookAhead_` gains keeps the oldest sample below the ceiling, so their mean
+    // does too, and the mean changes smoothly. The sum of so few floats is exact in a double, so it
+    // does not drift.
     index_ = (index_ + 1) % lookAhead_;
     releasedSum_ += static_cast<double>(gain) - static_cast<double>(released_[index_]);
     released_[index_] = gain;

@@ -5,27 +5,29 @@
 
 namespace velmora {
 
-/// A look-ahead peak limiter for a stereo stream: no sample leaves it above the ceiling of
-/// −0.3 dBFS, and below the ceiling it changes nothing but the time. The gain is in place before
-/// the peak arrives, without a step, and recovers with a time constant of 50 ms.
+/// A look-ahead peak limiter for a stereo stream. No output sample exceeds the ceiling of −0.3
+/// dBFS; a stream below the ceiling is only delayed. The gain falls smoothly before a peak arrives
+/// and recovers with a time constant of 50 ms.
 class PeakLimiter {
 public:
-    /// The greatest absolute value of a sample that leaves.
+    /// The greatest absolute value of an output sample.
     static const float kCeiling;
 
-    /// Makes its buffers; `process` allocates nothing.
+    /// `rate` is in hertz. Allocates all buffers, so that `process` does not.
     explicit PeakLimiter(double rate);
 
-    /// Frames by which the output lags: 1.5 ms.
+    /// The delay in frames: 1.5 ms.
     std::size_t delay() const { return lookAhead_ - 1; }
 
+    /// Replaces `frames` frames by the output.
     void process(float* left, float* right, std::size_t frames);
 
 private:
-    /// The gain at which the last `lookAhead_` peaks, `peak` the newest, pass the ceiling.
+    /// Adds the peak of a frame; returns the gain that keeps the last `lookAhead_` peaks below the
+    /// ceiling.
     float windowMinimum(float peak);
 
-    /// The gain for the oldest sample in the buffer, after a new one with `peak` has come in.
+    /// Adds the peak of a frame; returns the gain for the oldest frame in the buffer.
     float nextGain(float peak);
 
     struct Gain {
@@ -34,17 +36,18 @@ private:
     };
 
     std::size_t lookAhead_;
-    double release_; ///< Share of the way back to the wanted gain made in one frame.
+    double release_; ///< Fraction of the way back to the target gain that is covered in one frame.
 
-    double recovering_ =
-        1.0; ///< The newest gain; steps as small as its last ones vanish in a float.
+    /// The newest gain. A double, because the last steps of a recovery are too small for a float.
+    double recovering_ = 1.0;
 
-    std::vector<float> left_, right_; ///< The last `lookAhead_` samples, a ring.
-    std::vector<float> released_;     ///< The gains behind them, a ring.
+    std::vector<float> left_, right_; ///< Ring buffers of the last `lookAhead_` samples.
+    std::vector<float> released_;     ///< Ring buffer of their gains.
     double releasedSum_;
-    std::size_t index_ = 0; ///< Of the newest entry in the rings.
+    std::size_t index_ = 0; ///< Position of the newest entry in the ring buffers.
 
-    std::vector<Gain> minima_; ///< Rising gains of the window, a ring; the first is the lowest.
+    std::vector<Gain>
+        minima_; ///< Ring buffer of increasing gains; the first is the window's minimum.
     std::size_t firstMinimum_ = 0, minimaCount_ = 0;
     std::size_t time_ = 0;
 };

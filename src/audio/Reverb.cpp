@@ -10,12 +10,12 @@ namespace velmora {
 
 namespace {
 
-/// A chamber that has answered within half a second, a little darker than what sounds in it.
+/// A small room whose reverberation lasts less than half a second and is slightly dark.
 constexpr double kRoomSize = 0.0;
 constexpr double kDamping = 0.4;
 constexpr float kLevel = 0.12F;
 
-/// No echo is later than this.
+/// The longest delay of an echo.
 constexpr double kLongestEchoSeconds = 0.5;
 
 } // namespace
@@ -24,8 +24,8 @@ Reverb::Reverb(double rate)
     : silentFramesToSleep_(static_cast<std::size_t>(kLongestEchoSeconds * rate)),
       silentFrames_(silentFramesToSleep_)
 {
-    // FreeVerb's echoes stay as long in frames as they are at 44,100: told of another rate, it
-    // stretches them anew for every instance that is made.
+    // FreeVerb is not told the rate, so its delays have the lengths for 44,100 Hz. If it were, it
+    // would scale the delays again for each new instance.
     freeVerb_ = std::make_unique<stk::FreeVerb>();
     freeVerb_->setEffectMix(1.0);
     freeVerb_->setRoomSize(kRoomSize);
@@ -44,15 +44,15 @@ void Reverb::silence()
 
 void Reverb::process(float* left, float* right, std::size_t frames)
 {
-    if (silentFrames_ >= silentFramesToSleep_ && std::none_of(left, left + frames, isHeard) &&
-        std::none_of(right, right + frames, isHeard))
+    if (silentFrames_ >= silentFramesToSleep_ && std::none_of(left, left + frames, isAudible) &&
+        std::none_of(right, right + frames, isAudible))
         return;
 
     for (std::size_t i = 0; i < frames; ++i) {
         freeVerb_->tick(left[i], right[i]);
         left[i] += kLevel * static_cast<float>(freeVerb_->lastOut(0));
         right[i] += kLevel * static_cast<float>(freeVerb_->lastOut(1));
-        silentFrames_ = isHeard(left[i]) || isHeard(right[i]) ? 0 : silentFrames_ + 1;
+        silentFrames_ = isAudible(left[i]) || isAudible(right[i]) ? 0 : silentFrames_ + 1;
     }
 }
 

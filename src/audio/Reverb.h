@@ -9,17 +9,18 @@ class FreeVerb;
 
 namespace velmora {
 
-/// The room around the General MIDI synthesizer, common to all its lanes. It keeps still: a
-/// reverberation whose echoes waver would blur by a tenth of a cent what the temperament tunes.
+/// The reverberation of the General MIDI synthesizer, shared by its lanes. It has no modulation,
+/// which would detune the sound by a tenth of a cent.
 class Reverb {
 public:
+    /// `rate` is in hertz.
     explicit Reverb(double rate);
     ~Reverb();
 
-    /// Adds the room's answer to what stands in `left` and `right`. Costs nothing in a silence.
+    /// Adds the reverberation of `left` and `right` to them. Takes no time during silence.
     void process(float* left, float* right, std::size_t frames);
 
-    /// Ends the echoes at once.
+    /// Stops the reverberation immediately.
     void silence();
 
 private:

@@ -29,7 +29,7 @@ std::optional<std::size_t> laneIndex(std::size_t channel)
     return channel >= 10 && channel <= 12 ? std::optional(channel - 1) : std::nullopt;
 }
 
-/// The 14 bits of a pitch bend, as far as they go.
+/// Returns the value of a pitch bend, clamped to 14 bits.
 int bendOf(int data1, int data2)
 {
     return std::clamp(data1 + 128 * data2, 0, 2 * kCentreBend - 1);
@@ -46,11 +46,11 @@ Synthesizer::Synthesizer(double rate, const std::vector<std::filesystem::path>& 
     const auto loaded = std::ranges::find_if(banks, [&](const std::filesystem::path& path) {
         if (first->loadBank(path.c_str()))
             return true;
-        logger("platform").warn("the SoundFont {} cannot be loaded", path.string());
+        logger("audio").warn("cannot load the SoundFont {}", path.string());
         return false;
     });
     if (loaded == banks.end()) {
-        logger("platform").warn("no SoundFont for the General MIDI synthesizer: it is silent");
+        logger("audio").warn("no SoundFont: the General MIDI synthesizer is silent");
         return;
     }
     bank_ = *loaded;
@@ -74,7 +74,7 @@ SynthesizerLane* Synthesizer::laneOf(std::size_t channel)
 
 void Synthesizer::midiEvent(int status, int data1, int data2)
 {
-    // Retuning sends every channel's bend, most of them unchanged.
+    // Retuning sends the bends of all channels, and most of them are unchanged.
     const bool isBend = (status & midi::kKindMask) == midi::kPitchBend;
     int& lastBend = lastBend_[channelOf(status)];
     if (isBend && bendOf(data1, data2) == lastBend)
@@ -93,7 +93,7 @@ void Synthesizer::midiEvent(int status, int data1, int data2)
 
 void Synthesizer::takeEvents()
 {
-    // Asked before the queue is, so that all that came before the lost message is silenced.
+    // Read before the queue, so that all notes from before the lost message are silenced.
     const bool overflowed = overflowed_.exchange(false, std::memory_order_acquire);
     const std::size_t written = written_.load(std::memory_order_acquire);
     std::size_t read = read_.load(std::memory_order_relaxed);
@@ -101,8 +101,8 @@ void Synthesizer::takeEvents()
     bends.fill(kNoBend);
     for (; read != written; ++read) {
         const Event& event = queue_[read % kQueue];
-        // Of the bends that come together the last one counts: FluidSynth has room for so many
-        // changes between two blocks and would lose the end of a note under more.
+        // Only the last of several bends is applied. FluidSynth can queue a limited number of
+        // changes between two blocks and would lose note-offs if there were more.
         const int kind = event.status & midi::kKindMask;
         const bool isNote = kind == midi::kNoteOn || kind == midi::kNoteOff;
         if (kind == midi::kPitchBend)
@@ -112,7 +112,7 @@ void Synthesizer::takeEvents()
     }
     read_.store(read, std::memory_order_release);
 
-    // A lost message may have been the end of a note.
+    // A lost message may have been a note-off.
     for (std::size_t channel = 0; channel < bends.size(); ++channel) {
         SynthesizerLane* lane = laneOf(channel);
         if (lane != nullptr && overflowed)

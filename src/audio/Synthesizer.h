@@ -15,20 +15,20 @@
 
 namespace velmora {
 
-/// The General MIDI synthesizer: a lane for each channel that carries notes, a room around their
-/// sum, a peak limiter. Messages come from any one thread at a time, the sound is rendered by
-/// another; neither waits for the other. Without a bank it takes everything and is silent.
+/// The General MIDI synthesizer: a lane for each channel with notes, reverberation of their sum,
+/// and a peak limiter. Messages may be sent from one thread at a time while another thread renders;
+/// neither waits for the other. Without a SoundFont it is silent.
 class Synthesizer : public MusicDevice, public AudioSource {
 public:
-    /// Loads the first of the SoundFonts that can be loaded; one that cannot is logged.
+    /// Loads the first of `banks` that can be loaded; logs those that cannot. `rate` is in hertz.
     Synthesizer(double rate, const std::vector<std::filesystem::path>& banks);
     ~Synthesizer() override;
 
-    /// The SoundFont in use; empty when there is none.
+    /// The SoundFont in use; empty if there is none.
     const std::filesystem::path& bank() const { return bank_; }
 
-    /// Takes note on and off, bank select and the other controllers, program change and pitch bend
-    /// (±200 cents over ±8192) on the channels 0…8 and 10…12, to be heard in the next block.
+    /// Plays note-ons, note-offs, controllers, program changes and pitch bends (±200 cents for
+    /// ±8192) on the channels 0…8 and 10…12, from the next block on.
     void midiEvent(int status, int data1, int data2) override;
 
     void render(float* left, float* right, std::size_t frames) override;
@@ -38,14 +38,14 @@ private:
         int status, data1, data2;
     };
 
-    /// One block of a busy chord is dozens of messages; this is for a renderer that has stalled.
+    /// A busy block has dozens of messages; the rest is for a renderer that has stalled.
     static constexpr std::size_t kQueue = 1 << 14;
 
     SynthesizerLane* laneOf(std::size_t channel);
     void takeEvents();
-    /// Any message but a pitch bend.
+    /// Applies a message that is not a pitch bend.
     void apply(const Event& event);
-    /// Ends what a channel sounds, echoes too.
+    /// Silences a lane and the reverberation.
     void silence(SynthesizerLane& lane);
 
     std::vector<std::unique_ptr<SynthesizerLane>> lanes_;
@@ -53,7 +53,7 @@ private:
     PeakLimiter limiter_;
     std::filesystem::path bank_;
 
-    std::array<int, 16> lastBend_; ///< Of each channel, as it was sent.
+    std::array<int, 16> lastBend_; ///< The last bend sent on each channel.
     std::vector<Event> queue_;
     std::atomic<std::size_t> written_{0}, read_{0};
     std::atomic<bool> overflowed_{false};

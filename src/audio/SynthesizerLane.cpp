@@ -15,13 +15,13 @@ namespace {
 
 constexpr int kChannel = 0;
 
-/// Enough for eleven keys of one pitch class struck over and over into their releases.
+/// Enough for all eleven keys of a pitch class, each struck again several times during its release.
 constexpr int kPolyphony = 128;
 
-/// Four usual notes then peak near −6 dBFS, and the limiter takes care of what is louder.
+/// Four typical notes peak near −6 dBFS. The limiter handles louder ones.
 constexpr double kGain = 1.5;
 
-/// A voice may fall silent between its strokes, but not for as long as this.
+/// Longer than the silent parts of any repeating sound.
 constexpr double kSilentSecondsToSleep = 0.5;
 
 } // namespace
@@ -33,15 +33,16 @@ SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
       silentBlocks_(silentBlocksToSleep_)
 {
     if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate) != FLUID_OK)
-        throw std::runtime_error(fmt::format("FluidSynth does not play at {:g} Hz", rate));
+        throw std::runtime_error(
+            fmt::format("FluidSynth does not support a sample rate of {:g} Hz", rate));
     fluid_settings_setint(settings_.get(), "synth.polyphony", kPolyphony);
     fluid_settings_setnum(settings_.get(), "synth.gain", kGain);
-    // Both waver in pitch. The lanes have a still room in common instead.
+    // Both modulate the pitch. The lanes share a reverberation without modulation instead.
     fluid_settings_setint(settings_.get(), "synth.chorus.active", 0);
     fluid_settings_setint(settings_.get(), "synth.reverb.active", 0);
     synth_.reset(new_fluid_synth(settings_.get()));
     if (!synth_)
-        throw std::runtime_error("FluidSynth cannot make a synthesizer");
+        throw std::runtime_error("FluidSynth cannot create a synthesizer");
     if (bankOwner != nullptr) {
         borrowedBank_ = fluid_synth_get_sfont(bankOwner->synth_.get(), 0);
         if (borrowedBank_ != nullptr)
@@ -52,7 +53,7 @@ SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
 
 SynthesizerLane::~SynthesizerLane()
 {
-    // A synthesizer deletes the banks it holds.
+    // Otherwise the synthesizer would delete the bank.
     if (borrowedBank_ != nullptr)
         fluid_synth_remove_sfont(synth_.get(), borrowedBank_);
 }
@@ -93,14 +94,14 @@ void SynthesizerLane::allSoundsOff()
 void SynthesizerLane::setCents(double cents)
 {
     const double whole = std::round(cents);
-    // The middle of a cent, so that no rounding inside FluidSynth flips the step.
+    // Aim for the middle of a cent, so that rounding inside FluidSynth cannot change the result.
     fluid_synth_set_gen(synth_.get(), kChannel, GEN_FINETUNE, static_cast<float>(whole + 0.5));
     resampler_.setStep(std::exp2((cents - whole) / 1200.0));
 }
 
 void SynthesizerLane::mix(float* left, float* right, std::size_t frames)
 {
-    // A held note may be silent before it speaks, so the voices decide, not the loudness alone.
+    // A held note may start with silence, so a lane with active voices is never skipped.
     if (silentBlocks_ >= silentBlocksToSleep_ &&
         fluid_synth_get_active_voice_count(synth_.get()) == 0)
         return;
@@ -116,8 +117,8 @@ void SynthesizerLane::renderBlock(float* left, float* right)
     fluid_synth_process(synth_.get(), static_cast<int>(kBlock), 0, nullptr,
                         static_cast<int>(outputs.size()), outputs.data());
 
-    const bool silent =
-        std::none_of(left, left + kBlock, isHeard) && std::none_of(right, right + kBlock, isHeard);
+    const bool silent = std::none_of(left, left + kBlock, isAudible) &&
+                        std::none_of(right, right + kBlock, isAudible);
     silentBlocks_ = silent ? silentBlocks_ + 1 : 0;
 }
 

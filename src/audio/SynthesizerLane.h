@@ -11,19 +11,19 @@ namespace velmora {
 
 /// A General MIDI synthesizer of one channel, whose pitch can be shifted exactly.
 ///
-/// FluidSynth sounds a voice at a whole number of cents, rounded down. A lane therefore shifts its
-/// synthesizer by whole cents and makes up the rest, at most half a cent, by resampling what it
-/// sounds. Everything but the construction belongs to the thread that renders.
+/// FluidSynth rounds pitches down to whole cents. A lane therefore shifts its synthesizer by whole
+/// cents and resamples the output for the rest, at most half a cent. After construction it must
+/// only be used on the thread that renders.
 class SynthesizerLane {
 public:
-    /// A lane of its own, or one that shares the bank of another, which must outlive it. Throws
-    /// std::runtime_error at rates beyond those of FluidSynth, 8000 to 96000 frames in a second.
+    /// Creates a lane, optionally with the bank of another lane, which must outlive it. Throws
+    /// std::runtime_error if `rate` is outside the range of FluidSynth, 8000 to 96000 Hz.
     SynthesizerLane(double rate, SynthesizerLane* bankOwner = nullptr);
     ~SynthesizerLane();
     SynthesizerLane(const SynthesizerLane&) = delete;
     SynthesizerLane& operator=(const SynthesizerLane&) = delete;
 
-    /// Loads the SoundFont that the lanes share. False when FluidSynth cannot read it.
+    /// Loads the SoundFont that the lanes share. Returns false if FluidSynth cannot read it.
     bool loadBank(const char* path);
 
     void noteOn(int key, int velocity);
@@ -34,17 +34,17 @@ public:
     /// Silences every note at once.
     void allSoundsOff();
 
-    /// Shifts all notes, sounding ones too.
+    /// Shifts the pitch of all notes, including those that sound.
     void setCents(double cents);
 
-    /// Adds `frames` frames to `left` and `right`. A lane that has been silent for a while costs
-    /// nothing.
+    /// Adds `frames` frames to `left` and `right`. Takes no time if the lane has been silent for a
+    /// while.
     void mix(float* left, float* right, std::size_t frames);
 
 private:
     template <class T> using Owned = std::unique_ptr<T, void (*)(T*)>;
 
-    /// The next block from the synthesizer.
+    /// Writes the next block of the synthesizer.
     void renderBlock(float* left, float* right);
 
     Owned<fluid_settings_t> settings_;

@@ -23,7 +23,7 @@ FileImage& image(void* id)
     return *static_cast<FileImage*>(id);
 }
 
-/// Frames of a file in memory, as libwavpack reads it.
+/// Returns the callbacks through which libwavpack reads a FileImage.
 WavpackStreamReader64 memoryReader()
 {
     WavpackStreamReader64 reader{};
@@ -45,7 +45,7 @@ WavpackStreamReader64 memoryReader()
     return reader;
 }
 
-/// libwavpack's samples fill the lowest bytes of 32 bits, or are floats of full scale 1.
+/// Adds samples of libwavpack: the low bytes of 32 bits, or floats with a full scale of 1.
 void add(PcmBuilder& builder, std::span<std::int32_t> samples, int mode, int bytesPerSample)
 {
     if ((mode & MODE_FLOAT) != 0) {
@@ -63,18 +63,18 @@ void add(PcmBuilder& builder, std::span<std::int32_t> samples, int mode, int byt
 
 } // namespace
 
-bool isWavPack(std::span<const std::byte> beginning)
+bool isWavPack(std::span<const std::byte> start)
 {
     constexpr std::string_view kMagic = "wvpk";
-    return beginning.size() >= kMagic.size() &&
-           std::memcmp(beginning.data(), kMagic.data(), kMagic.size()) == 0;
+    return start.size() >= kMagic.size() &&
+           std::memcmp(start.data(), kMagic.data(), kMagic.size()) == 0;
 }
 
-Pcm decodeWavPack(std::span<const std::byte> bytes)
+Pcm decodeWavPack(std::span<const std::byte> bytes, const std::string& name)
 {
     FileImage file(bytes);
     WavpackStreamReader64 reader = memoryReader();
-    std::array<char, 128> error{}; // libwavpack asks for 80
+    std::array<char, 128> error{}; // libwavpack requires 80
     const std::unique_ptr<WavpackContext, decltype(&WavpackCloseFile)> context(
         WavpackOpenFileInputEx64(&reader, &file, nullptr, error.data(), OPEN_NORMALIZE, 0),
         WavpackCloseFile);
@@ -82,7 +82,7 @@ Pcm decodeWavPack(std::span<const std::byte> bytes)
         throw FormatError(std::string("is a damaged WavPack file (") + error.data() + ")");
 
     const int channels = WavpackGetNumChannels(context.get());
-    PcmBuilder builder(channels, WavpackGetSampleRate(context.get()),
+    PcmBuilder builder(name, channels, WavpackGetSampleRate(context.get()),
                        WavpackGetNumSamples64(context.get()), bytes.size());
     const int mode = WavpackGetMode(context.get());
     const int bytesPerSample = WavpackGetBytesPerSample(context.get());
@@ -91,6 +91,8 @@ Pcm decodeWavPack(std::span<const std::byte> bytes)
                WavpackUnpackSamples(context.get(), block.data(), kUnpackedFrames))
         add(builder, std::span(block).first(frames * static_cast<std::size_t>(channels)), mode,
             bytesPerSample);
+    if (const int errors = WavpackGetNumErrors(context.get()))
+        builder.logReadError(errors);
     return builder.take();
 }
 

@@ -4,13 +4,15 @@
 
 #include <cstddef>
 #include <span>
+#include <string>
 
 namespace velmora {
 
-/// Whether a file that begins with these bytes is a WavPack file.
-bool isWavPack(std::span<const std::byte> beginning);
+/// Returns true if a file that starts with these bytes is a WavPack file.
+bool isWavPack(std::span<const std::byte> start);
 
-/// Decodes the bytes of a WavPack file. Throws FormatError as `decodeAudio` does.
-Pcm decodeWavPack(std::span<const std::byte> image);
+/// Decodes the bytes of a WavPack file; `name` is for the log. Throws FormatError as `decodeAudio`
+/// does.
+Pcm decodeWavPack(std::span<const std::byte> image, const std::string& name);
 
 } // namespace velmora

@@ -13,7 +13,7 @@ namespace velmora {
 
 namespace {
 
-// Where a page keeps what is read or changed here; numbers are little-endian.
+// Offsets of fields in a page. Numbers are little-endian.
 constexpr std::size_t kSerial = 14;
 constexpr std::size_t kChecksum = 22;
 constexpr std::size_t kSegmentCount = 26;
@@ -47,7 +47,7 @@ void put(std::span<std::uint8_t> page, std::size_t at, std::uint32_t number)
         page[at + i] = static_cast<std::uint8_t>(number >> (8 * i));
 }
 
-/// The length of the page that the bytes begin with; 0 where they do not.
+/// Returns the length of the page at the start of the bytes; 0 if there is no complete page.
 std::size_t pageLength(std::span<const std::uint8_t> bytes)
 {
     if (bytes.size() < kHeader || std::memcmp(bytes.data(), "OggS", 4) != 0)

@@ -11,7 +11,7 @@ namespace velmora {
 
 namespace {
 
-// Without it there are 256 sources, which two stops use up.
+// The default of 256 sources is used up by two stops.
 constexpr const char* kSources = "[general]\nsources = 65536\n";
 constexpr const char* kOutput = "drivers = jack,\nperiod_size = 128\nperiods = 2\n";
 
@@ -31,9 +31,9 @@ bool userHasSettings()
                (configuration.empty() ? home / ".config" : configuration) / "alsoft.conf", error);
 }
 
-/// OpenAL Soft reads its settings from files alone: this one is in memory, under a name by which a
-/// child of this process finds it too.
-bool putSettings()
+/// OpenAL Soft reads settings only from files. This one is in memory; its path includes the process
+/// ID so that child processes find it too.
+bool writeSettings()
 {
     setenv("ALSOFT_LOGLEVEL", "0", 0);
     if (std::getenv("ALSOFT_CONF") != nullptr)
@@ -51,7 +51,7 @@ bool putSettings()
 
 void setUpOpenAL()
 {
-    [[maybe_unused]] static const bool done = putSettings();
+    [[maybe_unused]] static const bool done = writeSettings();
 }
 
 } // namespace velmora

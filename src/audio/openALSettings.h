@@ -2,11 +2,11 @@
 
 namespace velmora {
 
-/// Gives OpenAL Soft the settings that sampled instruments need: a source for every key of every
-/// stop, short periods, and JACK before the other outputs, as the synthesizer has it. A user's own
-/// settings stand: where there is an alsoft.conf of the user's only the number of sources is
-/// set, where ALSOFT_CONF names one nothing is. To be called before the first use of OpenAL, on
-/// the main thread while no other reads the environment; further calls do nothing.
+/// Configures OpenAL Soft for sampled instruments: a source for every key of every stop, short
+/// periods, and JACK before other outputs, as for the synthesizer. The user's settings take
+/// precedence: if the user has an alsoft.conf, only the number of sources is set; if ALSOFT_CONF is
+/// set, nothing is. Must be called before the first use of OpenAL, on the main thread while no
+/// other thread reads environment variables. Further calls do nothing.
 void setUpOpenAL();
 
 } // namespace velmora

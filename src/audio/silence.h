@@ -4,8 +4,8 @@
 
 namespace velmora {
 
-/// Whether a sample is heard: not below −120 dBFS.
-inline bool isHeard(float sample)
+/// Returns true if a sample is above −120 dBFS.
+inline bool isAudible(float sample)
 {
     return std::fabs(sample) > 1e-6F;
 }

@@ -69,9 +69,9 @@ public:
     {
         if (offset >= bytes_.size())
             return 0;
-        const auto there = bytes_.subspan(static_cast<std::size_t>(offset));
-        const std::size_t count = std::min(there.size(), destination.size());
-        std::copy_n(there.begin(), count, destination.begin());
+        const auto rest = bytes_.subspan(static_cast<std::size_t>(offset));
+        const std::size_t count = std::min(rest.size(), destination.size());
+        std::copy_n(rest.begin(), count, destination.begin());
         return count;
     }
 

@@ -9,25 +9,24 @@
 
 namespace velmora {
 
-/// One import in the making: what every importer fills. Importers throw FormatError where the file
-/// cannot be used and Cancelled where the host gives up; what they made so far goes with the
-/// import.
+/// The result of an import while it is being built. Importers throw FormatError if the file cannot
+/// be used and Cancelled if the host cancels; the unfinished result is then discarded.
 struct Import {
     explicit Import(InstrumentHost& importHost)
         : instrument(std::make_unique<ALInstrument>()), host(importHost)
     {
     }
 
-    /// Ends it: counts the stops that sound as ranks and draws the first stop, which there must be.
+    /// Counts the ranks for the report and draws the first stop, which must exist.
     void finish();
 
-    std::unique_ptr<ALInstrument> instrument; ///< begins without stops, never null
-    std::string name;                         ///< for display; empty where the file gives none
+    std::unique_ptr<ALInstrument> instrument; ///< Never null; starts without stops.
+    std::string name;                         ///< The display name; empty if the file has none.
     ImportReport report;
     InstrumentHost& host;
 };
 
-/// Thrown between two steps of an import that the host has cancelled.
+/// Thrown by an importer when the host has cancelled the import.
 struct Cancelled {};
 
 } // namespace velmora

@@ -7,13 +7,13 @@
 
 namespace velmora {
 
-/// What an import brought in and what it had to leave out.
+/// What an import loaded and what it skipped.
 struct ImportReport {
-    std::size_t ranks = 0;   ///< stops that sound
-    std::size_t pipes = 0;   ///< keys that were given a sound by the file, without extended ones
-    std::size_t samples = 0; ///< distinct sounds
+    std::size_t ranks = 0;   ///< Stops with at least one sounding key.
+    std::size_t pipes = 0;   ///< Keys with a sound of their own, not extended from another key.
+    std::size_t samples = 0; ///< Distinct sounds.
 
-    /// Each file or sample left out, and why.
+    /// Each skipped file or sample, and why.
     std::vector<std::pair<std::string, std::string>> skipped;
 };
 

@@ -12,7 +12,7 @@ namespace velmora {
 
 namespace {
 
-/// The lowest and the highest pipe of a rank that sound.
+/// The lowest and the highest sounding pipe of a rank.
 struct Compass {
     int lowest = static_cast<int>(kKeys);
     int highest = 0;
@@ -40,7 +40,7 @@ std::vector<std::filesystem::path> pathsOf(const Organ& organ)
     return result;
 }
 
-/// For each rank, the index of its last pipe.
+/// Returns the index of the last pipe of each rank.
 std::map<std::size_t, std::size_t> lastPipes(const Organ& organ)
 {
     std::map<std::size_t, std::size_t> result;
@@ -49,7 +49,7 @@ std::map<std::size_t, std::size_t> lastPipes(const Organ& organ)
     return result;
 }
 
-/// Takes the sounds of an organ in the order of its pipes.
+/// Assigns the sounds of an organ to its keys, pipe by pipe.
 class Loading {
 public:
     Loading(const Organ& organ, Import& import)
@@ -71,7 +71,7 @@ public:
         ++import_.report.pipes;
     }
 
-    /// Lays the outermost pipes of a rank, whose last pipe this is, on the keys beyond them.
+    /// Extends the outermost pipes of the rank to the keys beyond them. `last` is its last pipe.
     void extend(const Organ::Pipe& last)
     {
         const Compass& compass = compasses_[last.rank];
@@ -90,7 +90,7 @@ private:
                 key, sound, equal.getPitch(static_cast<std::size_t>(root)));
     }
 
-    /// Null for a file that cannot be decoded, which the report then says.
+    /// Returns null if the file cannot be decoded.
     const Sound* soundOf(std::size_t index)
     {
         if (index == sounds_.size())
@@ -114,7 +114,7 @@ private:
     const Organ& organ_;
     Import& import_;
     SoundLoader loader_;
-    std::vector<const Sound*> sounds_; ///< of the files taken so far
+    std::vector<const Sound*> sounds_; ///< By file; null for files that cannot be decoded.
     std::map<std::size_t, Compass> compasses_;
 };
 
@@ -123,7 +123,7 @@ private:
 void loadOrgan(const Organ& organ, Import& import)
 {
     if (organ.files.empty())
-        throw FormatError("has no pipe with a sample file, and so nothing to sound");
+        throw FormatError("cannot be played: no pipe has a sample file");
 
     for (const std::string& name : organ.stops)
         import.instrument->appendStop(name);
@@ -148,8 +148,8 @@ void loadOrgan(const Organ& organ, Import& import)
     import.host.updateProgress(static_cast<unsigned>(steps % step), organ.doneText);
     if (import.report.samples == 0) {
         const auto& [file, reason] = import.report.skipped.back();
-        throw FormatError("has nothing to sound: of " + std::to_string(organ.files.size()) +
-                          " sample files none can be decoded, such as " + file + ": " + reason);
+        throw FormatError("cannot be played: none of the " + std::to_string(organ.files.size()) +
+                          " sample files can be decoded, for example " + file + ": " + reason);
     }
     import.finish();
 }

@@ -6,38 +6,39 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace velmora {
 
-/// What an organ definition of any format comes to: stops, and the files that their keys sound.
+/// An organ definition in any format, reduced to stops and the sample file of each key.
 struct Organ {
     struct File {
-        std::string name; ///< of the sound in the instrument
+        std::string name; ///< The sound's name in the instrument.
         std::filesystem::path path;
     };
 
-    /// One key of a stop. Keys that the pipes of a rank leave out below its lowest and above its
-    /// highest one sound these two, transposed.
+    /// One key of a stop. Keys below the lowest and above the highest pipe of a rank play that
+    /// pipe's file, transposed.
     struct Pipe {
-        std::size_t stop = 0;            ///< index in `stops`
-        std::size_t rank = 0;            ///< any number
-        int key = 0;                     ///< 0…127
-        std::optional<std::size_t> file; ///< index in `files`; none for a pipe left out
-        std::string text;                ///< shown when it is loaded
+        std::size_t stop = 0;            ///< Index in `stops`.
+        std::size_t rank = 0;            ///< Any number that the pipes of a rank share.
+        int key = 0;                     ///< MIDI key, 0…127.
+        std::optional<std::size_t> file; ///< Index in `files`; empty for a skipped pipe.
+        std::string text;                ///< The progress text once the pipe is loaded.
     };
 
-    std::vector<std::string> stops; ///< their names
-    std::vector<File> files; ///< each used by a pipe, in the order of the first one that does
+    std::vector<std::string> stops; ///< The names of the stops.
+    std::vector<File> files;        ///< In the order of their first use by a pipe.
     std::vector<Pipe> pipes;
-    std::vector<std::pair<std::string, std::string>> skipped; ///< pipes left out, and why
-    long updates = 0;                                         ///< about how often progress is shown
-    std::string doneText;                                     ///< shown at the end
+    std::vector<std::pair<std::string, std::string>> skipped; ///< Skipped pipes, and why.
+    long updates = 0;     ///< Approximate number of progress updates; at least 1.
+    std::string doneText; ///< The last progress text.
 };
 
-/// Adds the stops of an organ to the import's instrument, decodes its files and lays them on their
-/// keys. A file that cannot be decoded is skipped. The first stop is drawn, the others are
-/// silent. Throws FormatError when nothing sounds, and Cancelled.
+/// Adds the stops of an organ to the import's instrument, decodes its files and assigns them to
+/// keys. Files that cannot be decoded are skipped. The first stop is drawn, the others are silent.
+/// Throws FormatError if nothing sounds, and Cancelled.
 void loadOrgan(const Organ& organ, Import& import);
 
 } // namespace velmora

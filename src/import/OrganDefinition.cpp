@@ -25,7 +25,7 @@ int number(const std::string& text)
     return leadingInteger(text).value_or(0);
 }
 
-/// The lists of objects by the lower-case form of their type.
+/// The object lists by type, in any letter case.
 class Lists {
 public:
     explicit Lists(const xml::Node& root)
@@ -46,7 +46,7 @@ public:
     xml::Children at(const std::string& type) const
     {
         if (!lists_.contains(lowerCase(type)))
-            throw FormatError("has no list of objects of the type " + type);
+            throw FormatError("has no object list of the type " + type);
         return optional(type);
     }
 
@@ -54,25 +54,25 @@ private:
     std::map<std::string, xml::Children> lists_;
 };
 
-/// A field that is read: its full name, and its letter in compacted rows, where it is left out when
-/// it has its default.
+/// A field to read: its full name, and its letter and default in compacted rows, which omit fields
+/// that have their default.
 struct Column {
     std::string_view name;
     std::string_view letter;
-    std::string byDefault;
+    std::string defaultValue;
 };
 
-/// The fields of one object after the other of a table.
+/// The fields of the current object of a table.
 template <std::size_t N> class Row {
 public:
     explicit Row(std::array<Column, N> columns) : columns_(std::move(columns)) {}
 
-    /// A field missing in a row of full names keeps the value of the row before.
+    /// In rows with full names a missing field keeps the value of the previous row.
     void read(const xml::Node& object)
     {
         const bool compacted = isCompacted(object);
         for (std::size_t i = 0; compacted && i < N; ++i)
-            values_[i] = columns_[i].byDefault;
+            values_[i] = columns_[i].defaultValue;
         for (const xml::Node field : object.children()) {
             const auto isField = [&](const Column& column) {
                 return field.name() == column.name || (compacted && field.name() == column.letter);
@@ -116,7 +116,7 @@ void readGeneral(const Lists& lists, OrganDefinition& organ)
     }
 }
 
-/// From sample to pipe, by way of the layers of the pipes.
+/// Returns the pipe of each sample. Samples belong to layers, and layers to pipes.
 std::unordered_map<int, int> readPipesOfSamples(const Lists& lists)
 {
     std::unordered_map<int, int> pipeOfLayer;
@@ -158,7 +158,7 @@ OrganDefinition readOrganDefinition(std::string bytes)
 {
     const xml::Tree tree = xml::parseXML(xml::Buffer(std::move(bytes)));
     if (tree.root().name() != "Hauptwerk")
-        throw FormatError("is no organ definition: its root element is not \"Hauptwerk\"");
+        throw FormatError("is not an organ definition: its root element is not \"Hauptwerk\"");
 
     const Lists lists(tree.root());
     OrganDefinition organ;

@@ -14,17 +14,18 @@ namespace RIFF {
 
 namespace {
 
-constexpr int kDeepest = 32;
+constexpr int kMaximumDepth = 32;
 
-/// Far beyond any bank. An element takes eight bytes of a file, but more than fifty of memory.
-constexpr std::size_t kMostElements = std::size_t{1} << 21;
+/// Far more than any bank has. The limit is needed because a chunk can be as small as eight bytes
+/// in the file but takes more than fifty in memory.
+constexpr std::size_t kMaximumElements = std::size_t{1} << 21;
 
-/// Reads headers through a small window, so that neighbouring ones cost one system call together.
+/// Reads headers through a small buffer, so that neighbouring ones share a system call.
 class HeaderReader {
 public:
     explicit HeaderReader(const ByteSource& source) : source_(source) {}
 
-    /// The 32-bit word at `at`; 0 beyond the end.
+    /// Returns the 32-bit word at `at`, or 0 beyond the end.
     std::uint32_t word(std::uint64_t at)
     {
         constexpr std::size_t kWord = 4;
@@ -59,18 +60,18 @@ public:
     {
     }
 
-    /// The file's end, as far as 32-bit offsets reach.
+    /// The end of the file, or of what 32-bit offsets can reach.
     std::uint64_t end() const { return end_; }
 
     std::uint32_t word(std::uint64_t at) { return headers_.word(at); }
 
-    /// Reads what a list holds, whose data lies before `end`, and returns where the walk stopped.
-    /// A list is followed by whatever stands there, not by its claimed end: so lists whose last pad
-    /// byte is not counted in their size are stepped over rightly.
+    /// Reads the children of a list whose data ends by `end`; returns where they end. That
+    /// position, not the size in the list's header, decides where the next chunk starts, because
+    /// some writers do not count the pad byte of a list's last chunk in the size of the list.
     std::uint64_t readChildren(List& list, std::uint64_t end, int depth)
     {
-        // The last four bytes of a list cannot begin a chunk. 32-bit arithmetic, as the offsets
-        // are.
+        // A chunk cannot start in the last four bytes of a list. Like the offsets, the sum wraps at
+        // 32 bits.
         const std::uint32_t bound = list.size + list.offset - 8;
         std::uint64_t at = list.offset;
         while (at < bound && at + kHeader <= end_)
@@ -86,8 +87,8 @@ private:
         const std::uint32_t id = word(at);
         const std::uint32_t size = word(at + 4);
         const std::uint64_t data = at + kHeader;
-        if (++elements_ > kMostElements)
-            throw FormatError::atByte(static_cast<std::size_t>(at), "there are too many chunks");
+        if (++elements_ > kMaximumElements)
+            throw FormatError::atByte(static_cast<std::size_t>(at), "the file has too many chunks");
         if (id == code("LIST"))
             return readList(parent, size, data, end, depth);
 
@@ -99,7 +100,7 @@ private:
     std::uint64_t readList(List& parent, std::uint32_t size, std::uint64_t data, std::uint64_t end,
                            int depth)
     {
-        if (depth == kDeepest)
+        if (depth == kMaximumDepth)
             throw FormatError::atByte(static_cast<std::size_t>(data - kHeader),
                                       "lists are nested too deeply");
         if (data + 4 > end_)

@@ -13,12 +13,12 @@
 
 namespace velmora {
 
-/// RIFF, the container of nested chunks in which WAVE files and sample banks are kept ("Multimedia
-/// Programming Interface and Data Specifications 1.0", IBM and Microsoft, 1991). Opening a file
-/// reads the headers of its whole tree; the data stays in the file until it is asked for.
+/// RIFF, the container format of WAVE files and sample banks ("Multimedia Programming Interface and
+/// Data Specifications 1.0", IBM and Microsoft, 1991). Opening a file reads the headers of all
+/// chunks; their data is read on request.
 namespace RIFF {
 
-/// A four-character code as an integer of the same bytes: code("LIST").
+/// Returns a four-character code as an integer with the same bytes in memory, as in code("LIST").
 constexpr std::uint32_t code(const char (&text)[5])
 {
     std::uint32_t result = 0;
@@ -27,8 +27,8 @@ constexpr std::uint32_t code(const char (&text)[5])
     return result;
 }
 
-/// One element of the tree. The sizes that a file claims are never trusted: what can be read ends
-/// where the enclosing list and the file end.
+/// A node of the tree. Sizes in the file are not trusted: data ends at the latest where the
+/// enclosing list and the file end.
 class Chunk {
 public:
     Chunk(const ByteSource& source, std::uint32_t id, std::uint32_t size, std::uint32_t offset,
@@ -37,14 +37,14 @@ public:
     Chunk& operator=(const Chunk&) = delete;
     virtual ~Chunk() = default;
 
-    /// What the lookups compare: the id of a chunk, the list type of a list.
+    /// The code that look-ups compare: the id of a chunk, the list type of a list.
     virtual std::uint32_t type() const { return id; }
 
-    /// Bytes of data that are there, at most `size`; of a list without its type.
+    /// Number of available data bytes, at most `size`. For a list, the list type is not counted.
     std::uint32_t length() const { return length_; }
 
-    /// The data as the records that stand in the file (little-endian, packed). Bytes beyond the
-    /// last whole record are ignored.
+    /// Reads the data as an array of records, as they are stored in the file (little-endian,
+    /// packed). Bytes after the last whole record are ignored.
     template <class Record> std::vector<Record> read() const
     {
         static_assert(std::is_trivially_copyable_v<Record>);
@@ -54,55 +54,55 @@ public:
         return records;
     }
 
-    /// Copies the data from byte `at` on and returns the count of bytes: fewer than `destination`
-    /// holds where the data ends before.
+    /// Copies data from byte `at` into `destination` and returns how many bytes were copied. Copies
+    /// fewer than fit if the data ends.
     std::size_t read(std::size_t at, std::span<std::byte> destination) const;
 
-    std::uint32_t id;     ///< "LIST" of a list
-    std::uint32_t size;   ///< as the header has it, without the pad byte
-    std::uint32_t offset; ///< of the data in the file; of a list behind its type
+    std::uint32_t id;     ///< "LIST" for a list.
+    std::uint32_t size;   ///< As stored in the header, without the pad byte.
+    std::uint32_t offset; ///< Position of the data in the file; for a list, after its type.
 
 protected:
     const ByteSource& source_;
     std::uint32_t length_;
 };
 
-/// A chunk that holds chunks.
+/// A chunk that contains other chunks.
 class List : public Chunk {
 public:
     using Chunk::Chunk;
 
     std::uint32_t type() const override { return listType; }
 
-    /// The first child of that type: any child as a Chunk, but as a List null where that first
-    /// child is a plain chunk. Null where there is none.
+    /// Returns the first child of a type, or null if there is none. get<List> also returns null if
+    /// that first child is a plain chunk, even if a list follows.
     template <class T> const T* get(std::uint32_t wanted) const;
 
-    /// Every child of that type in the order of the file, null for plain chunks.
+    /// Returns all children of a type in file order, with null for each plain chunk.
     template <class T> std::vector<const T*> all(std::uint32_t wanted) const;
 
     std::uint32_t listType = 0;
-    std::vector<std::unique_ptr<Chunk>> children; ///< in the order of the file
+    std::vector<std::unique_ptr<Chunk>> children; ///< In file order.
 };
 
-/// A source, and why it is empty where it could not be opened.
+/// A source, or an empty one and the reason why the file could not be opened.
 struct OpenedSource {
-    std::unique_ptr<ByteSource> source; ///< never null
-    std::string error;
+    std::unique_ptr<ByteSource> source; ///< Never null.
+    std::string error;                  ///< Empty on success.
 };
 
-/// The root of the tree, whatever its id and type; owns all of it. A file that cannot be opened has
-/// no children.
+/// The root of the tree, which owns all other nodes. Its id and type may be anything; a file that
+/// cannot be opened has no children. Call `check` before using it.
 class File : public List {
 public:
-    /// Throws FormatError where lists are nested deeper than 32 levels, and where there are more
-    /// than two million elements.
+    /// Throws FormatError if lists are nested more than 32 levels deep or the file has more than
+    /// two million chunks.
     explicit File(const std::filesystem::path& path);
 
-    /// A file in memory, which must outlive this one.
+    /// Reads a file in memory, which must outlive this object.
     explicit File(std::span<const std::byte> bytes);
 
-    /// Throws FormatError where the file could not be opened or does not begin as RIFF.
+    /// Throws FormatError if the file could not be opened or is not a RIFF file.
     void check() const;
 
 private:
@@ -111,7 +111,7 @@ private:
     OpenedSource opened_;
 };
 
-/// The text in a chunk up to the first NUL byte, as UTF-8. Empty where the pointer is null.
+/// Returns the text of a chunk up to the first NUL byte, as UTF-8; empty if `chunk` is null.
 std::string readText(const Chunk* chunk);
 
 template <> const Chunk* List::get<Chunk>(std::uint32_t wanted) const;

@@ -8,22 +8,22 @@
 
 namespace velmora {
 
-/// Finds the files that organ definitions name, which were made where letter case and the kind of
-/// slash do not matter. Reads each folder once.
+/// Finds the files that an organ definition names. Definitions are written on systems that ignore
+/// letter case and use backslashes. Each folder is listed only once.
 class SampleFiles {
 public:
-    /// The path of `relative` inside a folder, its components split at '/' and '\' and each spelt
-    /// as it is on disk where only the case of ASCII letters differs, or the encoding. Where there
-    /// is no such file, the path where it would be.
+    /// Returns the path of `relative` inside `folder`. Components are separated by '/' or '\' and
+    /// may differ from the names on disk in the case of ASCII letters and in their encoding. If
+    /// there is no such file, returns the path that it should have.
     std::filesystem::path find(const std::filesystem::path& folder, std::string_view relative);
 
-    /// The folder in `folder` whose name begins with that number, which is not 0, as in "000123";
-    /// of several, in the order of their names, one in the other where they are. Empty where there
-    /// is none.
+    /// Returns the folder inside `folder` whose name starts with `number`, as in "000123". If
+    /// several names match, each further one is appended to the path if it exists there. Empty if
+    /// there is none, and for the number 0.
     std::filesystem::path numbered(const std::filesystem::path& folder, int number);
 
 private:
-    /// Names by their lower-case form.
+    /// File names by their lower-case form.
     using Names = std::multimap<std::string, std::string>;
 
     const Names& names(const std::filesystem::path& folder);

@@ -10,10 +10,10 @@ namespace velmora {
 
 namespace {
 
-/// How many files each thread may be ahead: more than keep it busy only spread over memory.
+/// Number of files that each thread may be ahead. More would only use more memory.
 constexpr std::size_t kFilesAhead = 4;
 
-/// How many bytes may be decoded and not yet taken.
+/// Number of bytes that may be decoded and not yet taken.
 constexpr std::uintmax_t kMaximumAhead = std::uintmax_t{24} << 20;
 
 std::uintmax_t sizeOf(const std::filesystem::path& file)
@@ -60,23 +60,24 @@ Pcm SoundLoader::next()
 void SoundLoader::work(const std::stop_token& stop)
 {
     std::unique_lock lock(mutex_);
-    while (begun_ < files_.size() && !stop.stop_requested()) {
-        const std::size_t index = begun_++;
+    while (started_ < files_.size() && !stop.stop_requested()) {
+        const std::size_t index = started_++;
         lock.unlock();
-        const std::uintmax_t guess = sizeOf(files_[index]);
+        const std::uintmax_t estimate = sizeOf(files_[index]);
         lock.lock();
-        // The file that is wanted next is never held up.
-        const auto mayBegin = [&] {
-            return index == taken_ || (index < taken_ + window_ && ahead_ + guess <= kMaximumAhead);
+        // The next file to be taken is never held up.
+        const auto mayStart = [&] {
+            return index == taken_ ||
+                   (index < taken_ + window_ && ahead_ + estimate <= kMaximumAhead);
         };
-        if (!changed_.wait(lock, stop, mayBegin))
+        if (!changed_.wait(lock, stop, mayStart))
             return;
-        ahead_ += guess;
+        ahead_ += estimate;
         lock.unlock();
         Slot slot = decode(files_[index]);
         lock.lock();
         ahead_ += slot.bytes;
-        ahead_ -= guess;
+        ahead_ -= estimate;
         slots_[index] = std::move(slot);
         changed_.notify_all();
     }

@@ -14,44 +14,44 @@
 
 namespace velmora {
 
-/// Decodes sound files on several threads ahead of the one that takes them, in their order. No more
-/// is decoded ahead than a few megabytes, or one file where that is larger.
+/// Decodes sound files on several threads and hands them out in order. At most a few megabytes are
+/// decoded ahead, or a single file if that is larger.
 class SoundLoader {
 public:
-    /// Begins with the first files. At least one thread.
+    /// Starts decoding. Uses at least one thread.
     explicit SoundLoader(std::vector<std::filesystem::path> files,
                          unsigned threads = std::thread::hardware_concurrency());
 
-    /// Decodes no further file; waits for those that are being decoded.
+    /// Waits for the files that are being decoded and skips the rest.
     ~SoundLoader();
 
-    /// The sound of the next file; waits for it. Throws FormatError where it cannot be decoded,
-    /// std::bad_alloc where there is no memory for it. Called no more often than there are files.
+    /// Waits for the next file and returns its sound. Throws FormatError if the file cannot be
+    /// decoded, and std::bad_alloc. Must not be called more often than there are files.
     Pcm next();
 
 private:
-    /// What has become of a file.
+    /// The state of one file.
     struct Slot {
         bool done = false;
         std::optional<Pcm> pcm;
-        std::optional<std::string> reason; ///< of failure; neither where memory ran out
-        std::uintmax_t bytes = 0;          ///< counted in `ahead_`
+        std::optional<std::string> reason; ///< Why decoding failed; empty if memory ran out.
+        std::uintmax_t bytes = 0;          ///< This file's share of `ahead_`.
     };
 
     void work(const std::stop_token& stop);
     static Slot decode(const std::filesystem::path& file);
 
     const std::vector<std::filesystem::path> files_;
-    const std::size_t window_; ///< files that may be begun and not handed out
+    const std::size_t window_; ///< The most files that may be started and not yet taken.
 
-    std::mutex mutex_; ///< guards what follows
+    std::mutex mutex_; ///< Guards the members below.
     std::condition_variable_any changed_;
     std::vector<Slot> slots_;
-    std::size_t begun_ = 0;    ///< files that a thread has taken upon itself
-    std::size_t taken_ = 0;    ///< files handed out
-    std::uintmax_t ahead_ = 0; ///< bytes of files begun and not handed out, by guess until decoded
+    std::size_t started_ = 0;  ///< Number of files that a thread has started on.
+    std::size_t taken_ = 0;    ///< Number of files handed out.
+    std::uintmax_t ahead_ = 0; ///< Bytes started and not yet taken; an estimate until decoded.
 
-    std::vector<std::jthread> threads_; ///< last, and so ended first
+    std::vector<std::jthread> threads_; ///< Last, so that the threads end first.
 };
 
 } // namespace velmora

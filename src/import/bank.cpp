@@ -1,10 +1,18 @@
 #include "import/bank.h"
 
+#include "base/Log.h"
 #include "import/Import.h"
 
 namespace velmora {
 
 namespace bank {
+
+void reportDone(std::size_t steps, const std::string& text, const Import& import)
+{
+    // The wording is fixed, including the "%k", so that logs of different versions can be compared.
+    logger("import").debug("Done %k");
+    import.host.updateProgress(static_cast<unsigned>(steps), text);
+}
 
 void finish(Import& import)
 {
@@ -13,7 +21,7 @@ void finish(Import& import)
         report.pipes += stop.soundingKeys();
     report.samples = import.instrument->sounds.size();
     if (report.pipes == 0) {
-        std::string message = "has nothing to sound";
+        std::string message = "cannot be played: no key has a sound";
         if (!report.skipped.empty()) {
             const auto& [name, why] = report.skipped.front();
             message.append(" (").append(name).append(": ").append(why).append(")");

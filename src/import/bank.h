@@ -9,19 +9,21 @@ namespace velmora {
 
 struct Import;
 
-/// What the importers of sample banks have in common.
+/// Shared code of the importers of sample banks.
 namespace bank {
 
-/// An element that a bank cannot be without. Throws FormatError where it is missing.
+/// Returns a required child of a list. Throws FormatError if it is missing.
 template <class Element> const Element& require(const RIFF::List& list, const char (&name)[5])
 {
     if (const auto* found = list.get<Element>(RIFF::code(name)))
         return *found;
-    throw FormatError("has no \"" + std::string(name) + "\"");
+    throw FormatError("is missing the chunk \"" + std::string(name) + "\"");
 }
 
-/// Ends an import: counts what sounds and lets the first stop be heard. Throws FormatError where
-/// no key sounds.
+/// Reports the last `steps` steps of reading sounds, with a text for the user.
+void reportDone(std::size_t steps, const std::string& text, const Import& import);
+
+/// Completes the report and draws the first stop. Throws FormatError if no key sounds.
 void finish(Import& import);
 
 } // namespace bank

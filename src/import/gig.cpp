@@ -18,7 +18,7 @@ namespace velmora {
 
 namespace {
 
-/// A number at a place in the data of a chunk; nothing where the data ends before.
+/// Returns the number at an offset in the data of a chunk; nothing if the data ends before.
 template <class Integer> std::optional<Integer> numberAt(const RIFF::Chunk& chunk, std::size_t at)
 {
     Integer result = 0;
@@ -27,38 +27,39 @@ template <class Integer> std::optional<Integer> numberAt(const RIFF::Chunk& chun
     return result;
 }
 
-/// Nothing of an articulation is applied; the log tells what there is.
+/// Logs the articulation of an instrument. It is not applied to the sound, but the log shows what a
+/// bank asks for when it sounds different elsewhere.
 void logArticulation(const RIFF::List& instrument)
 {
     const Logger log = logger("import");
     const auto* articulations = instrument.get<RIFF::List>(RIFF::code("lart"));
-    log.info("lart {}", fmt::ptr(articulations));
+    log.debug("lart {}", fmt::ptr(articulations));
     if (articulations == nullptr)
         return;
     const auto* chunk = articulations->get<RIFF::Chunk>(RIFF::code("3ewg"));
-    log.info("_3ewg {}", fmt::ptr(chunk));
+    log.debug("_3ewg {}", fmt::ptr(chunk));
     if (chunk == nullptr)
         return;
-    log.info("EffectSend = {}", numberAt<std::uint16_t>(*chunk, 0).value_or(0));
-    log.info("Attenuation = {}", numberAt<std::int32_t>(*chunk, 2).value_or(0));
-    log.info("FineTune = {}", numberAt<std::int16_t>(*chunk, 6).value_or(0));
-    log.info("PitchbendRange = {}", numberAt<std::uint16_t>(*chunk, 8).value_or(0));
-    log.info("dimkeystart = {}", numberAt<std::uint8_t>(*chunk, 10).value_or(0));
-    log.info("DimensionKeyRange.high = {}", numberAt<std::uint8_t>(*chunk, 11).value_or(0));
+    log.debug("EffectSend = {}", numberAt<std::uint16_t>(*chunk, 0).value_or(0));
+    log.debug("Attenuation = {}", numberAt<std::int32_t>(*chunk, 2).value_or(0));
+    log.debug("FineTune = {}", numberAt<std::int16_t>(*chunk, 6).value_or(0));
+    log.debug("PitchbendRange = {}", numberAt<std::uint16_t>(*chunk, 8).value_or(0));
+    log.debug("dimkeystart = {}", numberAt<std::uint8_t>(*chunk, 10).value_or(0));
+    log.debug("DimensionKeyRange.high = {}", numberAt<std::uint8_t>(*chunk, 11).value_or(0));
     constexpr std::uint32_t kSizeWithoutIds = 32;
     if (chunk->size > kSizeWithoutIds) {
-        log.info("id0 = {}", numberAt<std::uint8_t>(*chunk, 32).value_or(0));
-        log.info("id1 = {}", numberAt<std::uint8_t>(*chunk, 33).value_or(0));
+        log.debug("id0 = {}", numberAt<std::uint8_t>(*chunk, 32).value_or(0));
+        log.debug("id1 = {}", numberAt<std::uint8_t>(*chunk, 33).value_or(0));
     } else {
-        log.info("{}", chunk->size);
+        log.debug("{}", chunk->size);
     }
 }
 
-/// The sound of a wave, whose list becomes the image of a WAVE file with another head.
+/// Decodes a wave. With another head, its list is a complete WAVE file.
 std::unique_ptr<Sound> readWave(const RIFF::List* wave, std::vector<std::byte>& image)
 {
     if (wave == nullptr)
-        throw FormatError("is not a list");
+        throw FormatError("is not a list of chunks");
     constexpr std::size_t kHead = 12;
     image.resize(kHead + wave->length());
     image.resize(kHead + wave->read(0, std::span(image).subspan(kHead)));
@@ -72,7 +73,7 @@ void readWaves(const std::vector<const RIFF::List*>& waves, Import& import)
 {
     constexpr std::size_t kStep = 5;
     import.host.startProgress(static_cast<long>(waves.size()));
-    std::vector<std::byte> image; // reused
+    std::vector<std::byte> image; // reused for every wave
     std::size_t count = 0;
     for (const RIFF::List* wave : waves) {
         if (import.host.isCancelled())
@@ -89,10 +90,10 @@ void readWaves(const std::vector<const RIFF::List*>& waves, Import& import)
         if (count % kStep == 0)
             import.host.updateProgress(kStep, fmt::format("Sample {}", count));
     }
-    import.host.updateProgress(static_cast<unsigned>(count % kStep), "Done %k");
+    bank::reportDone(count % kStep, fmt::format("Done: {} waves", count), import);
 }
 
-/// Lays the regions of instruments on the keys of stops.
+/// Assigns the regions of instruments to the keys of stops.
 class RegionReader {
 public:
     RegionReader(const gig::version& version, Import& import)
@@ -128,7 +129,7 @@ private:
             stop.samples[key].setBuffer(*found->second, equal.getPitch(key));
         } else {
             import_.report.skipped.emplace_back(
-                stop.name, fmt::format("its region on key {} has no wave", key));
+                stop.name, fmt::format("the region on key {} has no wave", key));
         }
     }
 
@@ -147,7 +148,7 @@ std::string nameOf(const RIFF::List& instrument)
 gig::version::version(const RIFF::Chunk& chunk)
 {
     chunk.read(0, std::as_writable_bytes(std::span(words)));
-    logger("import").info("gig::version {}", fmt::join(words, " "));
+    logger("import").debug("gig::version {}", fmt::join(words, " "));
 }
 
 void readGigaSampler(const std::filesystem::path& path, Import& import)
@@ -158,9 +159,11 @@ void readGigaSampler(const std::filesystem::path& path, Import& import)
 void readGigaSampler(const RIFF::File& file, Import& import)
 {
     file.check();
+    // The wording of what is logged here is fixed so that logs of different versions can be
+    // compared. A null pointer shows that a chunk is missing.
     const Logger log = logger("import");
     const auto* vers = file.get<RIFF::Chunk>(RIFF::code("vers"));
-    log.info("vers {}", fmt::ptr(vers));
+    log.debug("vers {}", fmt::ptr(vers));
     const gig::version version = vers ? gig::version(*vers) : gig::version();
     import.name = "gig";
 
@@ -170,8 +173,8 @@ void readGigaSampler(const RIFF::File& file, Import& import)
     readWaves(waves, import);
 
     const auto instruments = list.all<RIFF::List>(RIFF::code("ins "));
-    log.info("lins {}", fmt::ptr(&list));
-    log.info("ins {}", instruments.size());
+    log.debug("lins {}", fmt::ptr(&list));
+    log.debug("ins {}", instruments.size());
     RegionReader regions(version, import);
     bool first = true;
     for (const RIFF::List* instrument : instruments) {
@@ -183,7 +186,7 @@ void readGigaSampler(const RIFF::File& file, Import& import)
         regions.read(*instrument, name);
     }
     bank::finish(import);
-    log.info("DONE {}", waves.size());
+    log.debug("DONE {}", waves.size());
 }
 
 } // namespace velmora

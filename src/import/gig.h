@@ -15,14 +15,15 @@ class File;
 
 namespace gig {
 
-/// The version of a bank, from "vers": two 32-bit words in a DLS file, each low half first.
+/// The version of a bank, from its "vers" chunk: the two 32-bit words of a DLS version, each with
+/// its low half first.
 struct version {
     version() = default;
 
-    /// Logs what it reads; words that are not there are 0.
+    /// Reads and logs the words. Missing words are 0.
     explicit version(const RIFF::Chunk& chunk);
 
-    /// 3 where a region names its wave at another place than in version 2.
+    /// In version 3 a region stores its wave index at another offset.
     std::uint16_t major() const { return words[1]; }
 
     std::array<std::uint16_t, 4> words{};
@@ -30,13 +31,13 @@ struct version {
 
 } // namespace gig
 
-/// Reads a GigaSampler bank: each of its instruments becomes a stop, whose regions are laid on the
-/// keys from 21 upwards, each with its first wave at the wave's own pitch. Waves that cannot be
-/// decoded are left out and reported. Throws FormatError for a file that is no bank or has nothing
-/// to sound, Cancelled where the host gives up.
+/// Imports a GigaSampler bank. Each of its instruments becomes a stop; its regions are assigned to
+/// consecutive keys from 21 upwards, each with its first wave at that wave's own pitch. Waves that
+/// cannot be decoded are skipped. Throws FormatError if the file is not a bank or nothing sounds,
+/// and Cancelled.
 void readGigaSampler(const std::filesystem::path& path, Import& import);
 
-/// The same of an opened bank.
+/// Imports a bank that is already open.
 void readGigaSampler(const RIFF::File& file, Import& import);
 
 } // namespace velmora

@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-/// The text without its last characters; empty where it has no more than those.
+/// Returns the text without its last `count` characters; empty if it has no more than those.
 std::string_view withoutLast(std::string_view text, std::size_t count)
 {
     return text.substr(0, text.size() - std::min(count, text.size()));
@@ -64,10 +64,10 @@ namespace {
 using hauptwerk1::Section;
 using hauptwerk1::Sections;
 
-/// How often progress is shown.
+/// Approximate number of progress updates.
 constexpr long kUpdatesOfSections = 100;
 
-/// The text of a key; empty without it.
+/// Returns the value of a key, or an empty text.
 std::string valueOf(const Section& section, const std::string& key)
 {
     const auto found = section.find(key);
@@ -85,21 +85,21 @@ int integer(const std::string& text)
     return leadingInteger(text).value_or(0);
 }
 
-/// The number in the three characters after "Stop" or "Pipe".
+/// Returns the number in the three characters after "Stop" or "Pipe".
 int numberOf(const std::string& name)
 {
     return integer(name.substr(4, 3));
 }
 
-/// Whether a pipe's value is there in place of a file: nothing, "DUMMY", or "REF:" and another
-/// pipe.
+/// Returns true if a pipe's value is not a file name: it is empty, "DUMMY", or "REF:" followed by
+/// another pipe.
 bool isPlaceholder(const std::string& value)
 {
     const std::string lower = lowerCase(value);
     return lower.empty() || lower == "dummy" || lower.starts_with("ref:");
 }
 
-/// Finds the files of the pipes in the sections and makes a stop of each "Stop" section.
+/// Turns each "Stop" section into a stop and finds the files of its pipes.
 class SectionsAssembly {
 public:
     SectionsAssembly(const Sections& sections, const std::filesystem::path& folder)
@@ -120,11 +120,12 @@ public:
     }
 
 private:
-    /// The pipes go to the stop of the section's number, which need not be the one that is added.
+    /// Adds a stop. The pipes go to the stop with the section's number instead, which is another
+    /// one if the sections are not numbered 1, 2, 3….
     void addStop(const std::string& name, const Section& section)
     {
         organ_.stops.emplace_back();
-        const auto stop = static_cast<std::size_t>(numberOf(name)) - 1; // huge for 0 and below
+        const auto stop = static_cast<std::size_t>(numberOf(name)) - 1; // wraps for 0 and below
         if (stop < organ_.stops.size())
             organ_.stops[stop] = valueOf(section, "Name");
         ++rank_;
@@ -141,12 +142,12 @@ private:
         pipe.text = value;
         const long key = long{firstKey_} + number - 1;
         if (isPlaceholder(value)) {
-            organ_.skipped.emplace_back(place, "names no file: \"" + value + '"');
+            organ_.skipped.emplace_back(place, "does not name a file: \"" + value + '"');
         } else if (stop >= organ_.stops.size()) {
-            organ_.skipped.emplace_back(place, "its stop does not follow the one before");
+            organ_.skipped.emplace_back(place, "a stop with a lower number is missing");
         } else if (key < 0 || key >= static_cast<long>(kKeys)) {
             organ_.skipped.emplace_back(place, "is for MIDI note " + std::to_string(key) +
-                                                   ", which does not exist");
+                                                   ", which is outside 0 to 127");
         } else {
             pipe.stop = stop;
             pipe.key = static_cast<int>(key);
@@ -166,10 +167,10 @@ private:
     const Sections& sections_;
     SampleFiles files_;
     std::filesystem::path folder_;
-    int firstKey_; ///< the key of each stop's pipe 1
+    int firstKey_; ///< The key of pipe 1 of every stop.
     Organ organ_;
     std::size_t rank_ = 0;
-    std::unordered_map<std::string, std::size_t> indices_; ///< of files, by their paths
+    std::unordered_map<std::string, std::size_t> indices_; ///< Index of each file by its path.
 };
 
 bool anyExists(const std::vector<Organ::File>& files)
@@ -184,8 +185,11 @@ std::string bytesOf(const std::filesystem::path& path)
 {
     try {
         return readTextFile(path);
-    } catch (const FormatError&) {
-        logger("import").info("Couldn't open File '{}'", path.string());
+    } catch (const FormatError& error) {
+        const Logger log = logger("import");
+        // The wording is fixed so that logs of different versions can be compared.
+        log.debug("Couldn't open File '{}'", path.string());
+        log.warn("{}", error.inFile(path.string()));
         throw;
     }
 }
@@ -210,7 +214,7 @@ void readHauptwerk1(const std::filesystem::path& path, Import& import)
     }
     import.name = valueOf(sections, "Organ", "ChurchName");
     loadOrgan(organ, import);
-    // The keys beyond the pipes sound at their own pitches from the beginning.
+    // Extended keys sound at their own pitch even before the instrument is tuned.
     for (InstrumentStop& stop : import.instrument->stops())
         stop.tune(equal, 0, static_cast<int>(kKeys) - 1);
 }

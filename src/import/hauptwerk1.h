@@ -12,27 +12,28 @@ namespace velmora {
 
 namespace hauptwerk1 {
 
-/// A section's values by their keys.
+/// The values of a section by key.
 using Section = std::map<std::string, std::string>;
 
-/// Sections by their names.
+/// The sections of a file by name.
 using Sections = std::map<std::string, Section>;
 
 enum class LineEnd { CarriageReturnLineFeed, LineFeed };
 
-/// Reads an organ definition of version 1: "[section]" and "key=value" lines. A section that comes
-/// again begins anew. With the wrong line end, a line loses its last character or keeps one too
-/// many; with the first, a last line without a line feed is not read.
+/// Parses the "[section]" and "key=value" lines of a version 1 organ definition. A section that is
+/// repeated replaces the earlier one. If a file has other line ends than `lineEnd`, its values lose
+/// their last character or keep a carriage return. With `CarriageReturnLineFeed` an unterminated
+/// last line is ignored.
 Sections readSections(std::string_view bytes, LineEnd lineEnd);
 
-/// The stops and pipes of the sections, with sample files relative to a folder. A pipe whose stop
-/// or key does not exist is skipped. Throws FormatError where there are too many stops.
+/// Returns the stops and pipes of the sections, with sample files relative to `folder`. Pipes whose
+/// stop or key does not exist are skipped.
 Organ findPipes(const Sections& sections, const std::filesystem::path& folder);
 
 } // namespace hauptwerk1
 
-/// Imports a Hauptwerk organ definition of version 1 with its samples: a stop for each section
-/// whose name begins with "Stop". Throws FormatError and Cancelled.
+/// Imports a Hauptwerk organ definition of version 1 with its samples. Each section whose name
+/// starts with "Stop" becomes a stop. Throws FormatError and Cancelled.
 void readHauptwerk1(const std::filesystem::path& path, Import& import);
 
 } // namespace velmora

@@ -12,10 +12,10 @@ namespace velmora {
 
 namespace {
 
-/// How often progress is shown.
+/// Approximate number of progress updates.
 constexpr long kUpdatesOfXml = 200;
 
-/// Where the sample files of an organ are.
+/// Locates the sample files of an organ.
 class Packages {
 public:
     Packages(const std::filesystem::path& definition, int organ)
@@ -25,7 +25,8 @@ public:
     {
     }
 
-    /// The name of the file, with its package where the organ has no folder of its own.
+    /// Returns a unique name for a file. It includes the package unless the organ has its own
+    /// folder.
     std::string nameOf(const OrganDefinition::SampleFile& file)
     {
         if (!organFolder_.empty() || packageFolder(file.package).empty())
@@ -52,11 +53,11 @@ private:
 
     SampleFiles files_;
     std::filesystem::path folder_;
-    std::filesystem::path organFolder_; ///< empty where there is none
+    std::filesystem::path organFolder_; ///< Empty if there is none.
     std::unordered_map<int, std::filesystem::path> packageFolders_;
 };
 
-/// Finds the files of a definition's pipes and makes a stop of each rank.
+/// Turns each rank of a definition into a stop and finds the files of its pipes.
 class XmlAssembly {
 public:
     XmlAssembly(const std::filesystem::path& path, const OrganDefinition& definition)
@@ -86,7 +87,8 @@ private:
         }
         added.text = file->second.name;
         if (pipe.note < 0 || pipe.note >= static_cast<int>(kKeys)) {
-            skip(pipe, "is for MIDI note " + std::to_string(pipe.note) + ", which does not exist");
+            skip(pipe,
+                 "is for MIDI note " + std::to_string(pipe.note) + ", which is outside 0 to 127");
             return;
         }
         if (file->second.licensed)
@@ -122,9 +124,9 @@ private:
     const OrganDefinition& definition_;
     Packages packages_;
     Organ organ_;
-    std::unordered_map<int, std::size_t> stops_; ///< by rank
+    std::unordered_map<int, std::size_t> stops_; ///< Index of each stop by its rank.
     std::unordered_map<std::string, std::size_t>
-        indices_; ///< of files, by the names of their sounds
+        indices_; ///< Index of each file by the name of its sound.
 };
 
 } // namespace

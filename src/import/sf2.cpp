@@ -29,9 +29,9 @@ std::vector<Record> readRecords(const RIFF::List& list, const char (&name)[5])
     return bank::require<RIFF::Chunk>(list, name).read<Record>();
 }
 
-/// The same where each record begins at an index into others and ends at that of the next record.
-/// Indices that go back mark the bank as broken by the standard; a small file of such could also
-/// ask for hours of work.
+/// Reads records that refer to a range of other records, from their own `index` to that of the next
+/// record. Throws FormatError if the indices decrease: the standard calls such a bank corrupt, and
+/// a small file of this kind could keep the importer busy for hours.
 template <class Record> std::vector<Record>
 readRecords(const RIFF::List& list, const char (&name)[5], std::uint16_t Record::*index)
 {
@@ -41,22 +41,22 @@ readRecords(const RIFF::List& list, const char (&name)[5], std::uint16_t Record:
         [index](const auto& one, const auto& next) { return next.*index < one.*index; });
     if (broken != records.end())
         throw FormatError::atByte(bank::require<RIFF::Chunk>(list, name).offset,
-                                  fmt::format("the indices of \"{}\" go back", name));
+                                  fmt::format("the indices in \"{}\" decrease", name));
     return records;
 }
 
-/// A text field up to its first NUL byte.
+/// Returns a text field up to its first NUL byte.
 std::string fieldText(std::span<const char> field)
 {
     return {field.begin(), std::find(field.begin(), field.end(), '\0')};
 }
 
-/// Reads the sounds of the samples one by one, each straight into OpenAL.
+/// Loads samples into OpenAL, one at a time.
 class SampleReader {
 public:
     SampleReader(const RIFF::Chunk& pool, Import& import) : pool_(pool), import_(import) {}
 
-    /// Reads the sound of a sample; one that cannot be played is reported.
+    /// Loads a sample, or reports it as skipped if it cannot be played.
     void read(const sfSample& sample)
     {
         try {
@@ -76,7 +76,7 @@ private:
     {
         const std::size_t points = pool_.length() / kPoint;
         if (sample.dwStart >= points)
-            throw FormatError("its data is not in the file");
+            throw FormatError("the file does not contain its data");
         const std::size_t end = std::min<std::size_t>(sample.dwEnd, points);
         std::size_t count = end > sample.dwStart ? end - sample.dwStart : 0;
         if (buffer_.size() < count)
@@ -84,7 +84,7 @@ private:
         const auto destination = std::as_writable_bytes(std::span(buffer_).first(count));
         count = pool_.read(sample.dwStart * kPoint, destination) / kPoint;
 
-        // Linked and ROM samples are played as two interleaved channels, whatever they hold.
+        // Linked and ROM samples are always played as two interleaved channels.
         constexpr unsigned kLinkedOrRom = 0x8008;
         const bool stereo = (sample.sfSampleType & kLinkedOrRom) != 0;
         if (stereo)
@@ -98,7 +98,7 @@ private:
 
     const RIFF::Chunk& pool_;
     Import& import_;
-    std::vector<std::int16_t> buffer_; // reused: it keeps the size of the longest sample
+    std::vector<std::int16_t> buffer_; ///< Reused; as large as the longest sample.
 };
 
 void readSamples(const std::vector<sfSample>& samples, const RIFF::Chunk& pool, Import& import)
@@ -114,16 +114,16 @@ void readSamples(const std::vector<sfSample>& samples, const RIFF::Chunk& pool, 
         if ((i + 1) % step == 0)
             import.host.updateProgress(step, toUtf8(fieldText(samples[i].achSampleName)));
     }
-    import.host.updateProgress(static_cast<unsigned>(count % step), "Done %k");
+    bank::reportDone(count % step, fmt::format("Done: {} samples", count), import);
 }
 
-/// What a key of an instrument plays.
+/// The sound of a key of an instrument.
 struct KeySound {
     const Sound* sound = nullptr;
-    unsigned long root = 0; // MIDI key
+    unsigned long root = 0; ///< MIDI key.
 };
 
-/// Lays the zones of the instruments on the keys of stops.
+/// Assigns the zones of instruments to the keys of stops.
 class ZoneReader {
 public:
     ZoneReader(const std::vector<sfSample>& samples, const RIFF::List& pdta, Import& import)
@@ -138,11 +138,11 @@ public:
         });
     }
 
-    /// Adds the stop of an instrument with the zones from `first` up to `last`, exclusive.
+    /// Adds a stop for an instrument with the zones from `first` up to, not including, `last`.
     void read(const sfInst& instrument, std::size_t first, std::size_t last)
     {
         std::array<KeySound, kKeys> keys;
-        // The last zone only ends the one before it.
+        // The last zone record is a terminator.
         for (std::size_t zone = first; zone < last && zone + 1 < bags_.size(); ++zone)
             readZone(instrument, zone, keys);
 
@@ -180,7 +180,8 @@ private:
         if (sample >= sounds_.size()) {
             import_.report.skipped.emplace_back(
                 toUtf8(fieldText(instrument.achInstName)),
-                fmt::format("it names sample {} of {}", sample + 1, sounds_.size()));
+                fmt::format("it refers to sample {}, but there are only {}", sample + 1,
+                            sounds_.size()));
             return;
         }
         if (sounds_[sample] == nullptr)
@@ -192,7 +193,7 @@ private:
     }
 
     const std::vector<sfSample>& samples_;
-    std::vector<const Sound*> sounds_; // of each sample, by its name; null where it was left out
+    std::vector<const Sound*> sounds_; ///< By sample; null for skipped ones.
     std::vector<sfPresetBag> bags_;
     std::vector<sfInstGenList> generators_;
     Import& import_;
@@ -214,7 +215,7 @@ void readSoundFont(const RIFF::File& file, Import& import)
     const auto samples = readRecords<sfSample>(pdta, "shdr");
     const auto instruments = readRecords(pdta, "inst", &sfInst::wInstBagNdx);
     if (samples.size() < 2 || instruments.size() < 2)
-        throw FormatError("holds no instruments");
+        throw FormatError("has no instruments");
 
     readSamples(samples, pool, import);
     ZoneReader zones(samples, pdta, import);

@@ -11,21 +11,21 @@ namespace RIFF {
 class File;
 }
 
-/// The records of a SoundFont 2 bank that importing reads, as the file has them ("SoundFont
-/// Technical Specification", version 2.04, E-mu Systems; the names are the standard's).
+/// Records of a SoundFont 2 bank as they are stored in the file ("SoundFont Technical
+/// Specification", version 2.04, E-mu Systems). The names are those of the standard.
 namespace sf2 {
 
 #pragma pack(push, 1)
 
-/// A sample header, from "shdr". Positions count 16-bit points of the sample pool "smpl".
+/// A sample header, from "shdr". Positions are indices of 16-bit sample points in "smpl".
 struct sfSample {
     char achSampleName[20];
     std::uint32_t dwStart;
-    std::uint32_t dwEnd; ///< exclusive
+    std::uint32_t dwEnd; ///< Exclusive.
     std::uint32_t dwStartloop;
     std::uint32_t dwEndloop;
-    std::uint32_t dwSampleRate;   ///< hertz
-    std::uint8_t byOriginalPitch; ///< MIDI key
+    std::uint32_t dwSampleRate;   ///< In hertz.
+    std::uint8_t byOriginalPitch; ///< MIDI key.
     std::int8_t chPitchCorrection;
     std::uint16_t wSampleLink;
     std::uint16_t sfSampleType;
@@ -34,19 +34,19 @@ struct sfSample {
 /// An instrument, from "inst".
 struct sfInst {
     char achInstName[20];
-    std::uint16_t wInstBagNdx; ///< its first zone in "ibag"; the last is before the next record's
+    std::uint16_t wInstBagNdx; ///< Its first zone in "ibag"; its zones end at the next record's.
 };
 
-/// A zone, from "ibag", which has the layout of the presets' zones.
+/// A zone of an instrument, from "ibag". The zones of presets have the same layout.
 struct sfPresetBag {
-    std::uint16_t wGenNdx; ///< its first generator in "igen"
+    std::uint16_t wGenNdx; ///< Its first generator in "igen".
     std::uint16_t wModNdx;
 };
 
 /// A generator of a zone, from "igen".
 struct sfInstGenList {
     std::uint16_t sfGenOper;
-    std::uint8_t lo; ///< the amount is a word, or a pair of bytes
+    std::uint8_t lo; ///< The amount is either a pair of bytes or a word.
     std::uint8_t hi;
 
     std::uint16_t word() const { return static_cast<std::uint16_t>(lo | hi << 8); }
@@ -59,12 +59,12 @@ static_assert(sizeof(sfPresetBag) == 4 && sizeof(sfInstGenList) == 4);
 
 } // namespace sf2
 
-/// Reads a SoundFont 2 bank: each of its instruments becomes a stop, presets and modulators are not
-/// read. Samples that cannot be played are left out and reported. Throws FormatError for a file
-/// that is no bank or has nothing to sound, Cancelled where the host gives up.
+/// Imports a SoundFont 2 bank. Each of its instruments becomes a stop; presets and modulators are
+/// ignored. Samples that cannot be played are skipped. Throws FormatError if the file is not a bank
+/// or nothing sounds, and Cancelled.
 void readSoundFont(const std::filesystem::path& path, Import& import);
 
-/// The same of an opened bank.
+/// Imports a bank that is already open.
 void readSoundFont(const RIFF::File& file, Import& import);
 
 } // namespace velmora

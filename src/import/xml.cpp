@@ -1,10 +1,10 @@
 #include "import/xml.h"
 
 #include "base/FormatError.h"
+#include "base/Log.h"
 
 #include <algorithm>
 #include <array>
-#include <iostream>
 #include <limits>
 
 namespace velmora {
@@ -13,13 +13,14 @@ namespace xml {
 
 namespace {
 
-/// Deeper nesting is a mistake or an attack: organ definitions use four levels.
+/// Organ definitions use four levels; much deeper nesting is a mistake or an attack.
 constexpr std::size_t kMaximumDepth = 1000;
 
-/// About as many bytes as an element takes in a file: memory is not touched before it is needed.
-constexpr std::size_t kBytesOfElement = 16;
+/// A low estimate of the bytes that an element takes in a file. Memory reserved in excess is never
+/// touched and so costs nothing.
+constexpr std::size_t kBytesPerElement = 16;
 
-/// What ends a run of characters. The end of the bytes is a 0 like any other.
+/// Classes of characters that end a run. The end of the bytes counts as a 0 character.
 enum Class : unsigned char { kZero = 1, kWhite = 2, kGreater = 4, kLess = 8, kQuote = 16 };
 
 constexpr std::array<unsigned char, 256> classes()
@@ -41,7 +42,8 @@ bool is(char character, int mask)
     return (kClasses[static_cast<unsigned char>(character)] & mask) != 0;
 }
 
-/// The first position from `pos` on with a character of those classes. The mask has kZero in it.
+/// Returns the first position from `pos` with a character of the classes in `mask`, which must
+/// include kZero.
 std::uint32_t find(const char* data, std::uint32_t pos, int mask)
 {
     while (true) {
@@ -57,7 +59,7 @@ std::uint32_t find(const char* data, std::uint32_t pos, int mask)
     }
 }
 
-/// Steps over the character at `pos`, which was 0 at the end of the bytes: nothing follows that.
+/// Advances by one character, but not beyond the end of the bytes.
 void step(const std::string& bytes, std::uint32_t& pos)
 {
     if (pos < bytes.size())
@@ -70,8 +72,8 @@ FormatError errorAt(const std::string& bytes, std::uint32_t pos, const std::stri
     return FormatError::atLine(static_cast<std::size_t>(lineEnds) + 1, message);
 }
 
-/// Reads from behind an element's name to behind the end of its start tag, and calls
-/// `take(name, value)` for each attribute.
+/// Reads from the end of an element's name to the end of its start tag and calls `take(name,
+/// value)` for each attribute.
 template <class Take>
 void readAttributes(const std::string& bytes, std::uint32_t& pos, const Take& take)
 {
@@ -147,23 +149,22 @@ std::string Node::text() const
 
 void Node::debug(std::uint32_t indent) const
 {
-    tabs(indent);
-    std::cout << name();
+    const Logger log = logger("import");
+    std::string line = tabs(indent).append(name());
     if (const auto list = attributes(); !list.empty()) {
-        std::cout << " { ";
+        line += " { ";
         for (const auto& [attribute, value] : list)
-            std::cout << attribute << "='" << value << "', ";
-        std::cout << '}';
+            line.append(attribute).append("='").append(value).append("', ");
+        line += '}';
     }
     if (children().begin() == children().end()) {
-        std::cout << " = '" << text() << "'\n";
+        log.debug("{} = '{}'", line, text());
         return;
     }
-    std::cout << " [\n";
+    log.debug("{} [", line);
     for (const Node child : children())
         child.debug(indent + 1);
-    tabs(indent);
-    std::cout << "]\n";
+    log.debug("{}]", tabs(indent));
 }
 
 Children::Iterator& Children::Iterator::operator++()
@@ -177,8 +178,8 @@ std::string_view Tree::between(std::uint32_t begin, std::uint32_t end) const
     return std::string_view(bytes_).substr(begin, end - begin);
 }
 
-/// Appends the element whose start tag begins at `pos`, behind its '<', and steps behind the tag.
-/// Whether its content follows.
+/// Appends the element whose name starts at `pos` and advances to the end of its start tag. Returns
+/// whether its content follows.
 bool Tree::parseStartTag(std::uint32_t& pos)
 {
     const auto white = [this](std::uint32_t at) { return is(bytes_[at], kWhite); };
@@ -198,7 +199,8 @@ bool Tree::parseStartTag(std::uint32_t& pos)
         while (!open && white(pos))
             ++pos;
     }
-    // An element without content takes with it the 0 or whatever else comes next.
+    // An element without content also consumes the next character, whatever it is. After the
+    // declaration that is the '<' of the root element, so parsing continues at the root's name.
     if (!open)
         step(bytes_, pos);
     element.after = pos;
@@ -238,7 +240,7 @@ void Tree::parseNode(std::uint32_t& pos)
 Tree parseXML(Buffer buffer)
 {
     Tree tree(std::move(buffer.data));
-    tree.elements_.reserve(tree.bytes_.size() / kBytesOfElement);
+    tree.elements_.reserve(tree.bytes_.size() / kBytesPerElement);
     std::uint32_t pos = buffer.pos;
     tree.parseNode(pos);
     tree.elements_.clear();
@@ -246,9 +248,9 @@ Tree parseXML(Buffer buffer)
     return tree;
 }
 
-void tabs(std::uint32_t count)
+std::string tabs(std::uint32_t count)
 {
-    std::cout << std::string(count, '\t');
+    return std::string(count, '\t');
 }
 
 bool nws(const char& character)

@@ -5,17 +5,19 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace velmora {
 
-/// A small, forgiving reader of XML: elements, attributes in double quotes, and text. Entities,
-/// comments, CDATA sections and document types are not recognised; a comment is read as an element.
+/// A small, lenient XML reader for elements, attributes in double quotes, and text. It does not
+/// recognise entities, comments, CDATA sections and document types; a comment is read as an
+/// element.
 namespace xml {
 
-/// The bytes of a file and how far they have been read.
+/// The bytes of a file and a read position.
 struct Buffer {
-    /// Throws FormatError for 4 GiB or more.
+    /// Throws FormatError if there are 4 GiB or more.
     explicit Buffer(std::string bytes);
 
     std::string data;
@@ -25,25 +27,27 @@ struct Buffer {
 class Tree;
 class Children;
 
-/// One element of a tree, which must outlive it and stay where it is.
+/// A reference to one element of a tree. The tree must outlive it and must not be moved.
 class Node {
 public:
-    /// The element's name; a self-closing tag without white space keeps its slash: "name/".
+    /// The element's name. The name of a self-closing tag keeps the slash if no white space
+    /// precedes it: "name/".
     std::string_view name() const;
 
-    /// Nesting depth; the root is 0.
+    /// The nesting depth; 0 for the root.
     std::uint32_t depth() const { return depth_; }
 
-    /// The elements directly inside, in document order.
+    /// The direct child elements in document order.
     Children children() const;
 
-    /// Attributes by name, values as they stand in the file. A repeated name keeps the last value.
+    /// The attributes by name, with undecoded values. A repeated name keeps its last value.
     std::map<std::string, std::string> attributes() const;
 
-    /// All characters directly inside the element, as they stand in the file, put together.
+    /// All text directly inside the element, joined and undecoded.
     std::string text() const;
 
-    /// Prints the element and what is in it to standard output, `indent` tabs to the right.
+    /// Logs the element and its descendants at debug level, indented by `indent` tabs. Helps to
+    /// find out why a definition is not read as expected.
     void debug(std::uint32_t indent) const;
 
 private:
@@ -62,7 +66,7 @@ private:
 /// The children of an element, for a range-based loop.
 class Children {
 public:
-    /// None.
+    /// Creates an empty list.
     Children() = default;
 
     class Iterator {
@@ -99,7 +103,7 @@ private:
     std::uint32_t depth_ = 0;
 };
 
-/// The root element of a document, with everything in it and the file's bytes.
+/// A parsed document. Owns the bytes of the file and all elements.
 class Tree {
 public:
     Node root() const { return {*this, 0, 0}; }
@@ -109,15 +113,15 @@ private:
     friend class Children::Iterator;
     friend Tree parseXML(Buffer);
 
-    /// An element by positions in the bytes. Elements stand in the order of their start tags, so
-    /// that the first child of one follows it.
+    /// An element as positions in the bytes. Elements are stored in the order of their start tags,
+    /// so the first child of an element directly follows it.
     struct Element {
-        std::uint32_t name = 0;       ///< where the name begins
-        std::uint32_t nameEnd = 0;    ///< behind its last character
-        std::uint32_t content = 0;    ///< behind the start tag
-        std::uint32_t contentEnd = 0; ///< where the end tag begins
-        std::uint32_t after = 0;      ///< where the parent's content goes on
-        std::uint32_t end = 0;        ///< index of the first element that is not inside this one
+        std::uint32_t name = 0;       ///< Start of the name.
+        std::uint32_t nameEnd = 0;    ///< End of the name.
+        std::uint32_t content = 0;    ///< End of the start tag.
+        std::uint32_t contentEnd = 0; ///< Start of the end tag.
+        std::uint32_t after = 0;      ///< End of the end tag.
+        std::uint32_t end = 0;        ///< Index of the next element that is not a descendant.
     };
 
     explicit Tree(std::string bytes) : bytes_(std::move(bytes)) {}
@@ -129,16 +133,17 @@ private:
     std::vector<Element> elements_;
 };
 
-/// Reads the document from the buffer's position on: skips one node, which is the XML declaration,
-/// and takes the next one as the root. Without a declaration the root is lost and one without a
-/// name is returned, as it is where the file has no elements. Throws FormatError with the line
-/// where an attribute's value is not in double quotes, and where elements are nested too deeply.
+/// Parses a document from the buffer's position. Skips the first node, which is expected to be the
+/// XML declaration, and returns the second as the root. Without a declaration the root element is
+/// lost, and a root without a name is returned, as for a file without elements. Throws FormatError
+/// with the line if the value of an attribute is not in double quotes or elements are nested too
+/// deeply.
 Tree parseXML(Buffer buffer);
 
-/// Writes so many tab characters to standard output.
-void tabs(std::uint32_t count);
+/// Returns `count` tab characters.
+std::string tabs(std::uint32_t count);
 
-/// Whether a character is not white space: tab, line feed, carriage return or space.
+/// Returns false for white space (tab, line feed, carriage return, space), true otherwise.
 bool nws(const char& character);
 
 } // namespace xml

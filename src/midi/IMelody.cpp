@@ -14,17 +14,17 @@ namespace velmora {
 
 namespace {
 
-/// All lengths are whole numbers of this part of a beat.
+/// All lengths that the format can express are whole multiples of this fraction of a beat.
 constexpr double kUnitsPerBeat = 96.0;
 constexpr double kSixteenth = kUnitsPerBeat / 4.0;
 
 constexpr int kRest = -1;
 
-/// A stretch of the melody, in units.
+/// A part of the melody with one key. Times are in units.
 struct Stretch {
     double begin;
     double end;
-    int key; ///< Never a rest: the melody rests between stretches.
+    int key; ///< Never a rest; the gaps between stretches are rests.
 };
 
 struct Length {
@@ -32,41 +32,41 @@ struct Length {
     std::string text;
 };
 
-/// What can be written, the shortest first.
+/// The lengths that the format can express, the shortest first.
 const std::vector<Length>& lengths()
 {
     static const std::vector<Length> all = [] {
-        std::vector<Length> made;
+        std::vector<Length> result;
         for (int digit = 0; digit <= 5; ++digit) {
             const int plain = 384 >> digit;
             const std::string text = std::to_string(digit);
-            made.insert(made.end(), {{plain, text},
-                                     {plain * 3 / 2, text + "."},
-                                     {plain * 7 / 4, text + ":"},
-                                     {plain * 2 / 3, text + ";"}});
+            result.insert(result.end(), {{plain, text},
+                                         {plain * 3 / 2, text + "."},
+                                         {plain * 7 / 4, text + ":"},
+                                         {plain * 2 / 3, text + ";"}});
         }
-        std::sort(made.begin(), made.end(),
+        std::sort(result.begin(), result.end(),
                   [](const Length& a, const Length& b) { return a.units < b.units; });
-        return made;
+        return result;
     }();
     return all;
 }
 
 const double kHalfShortest = lengths().front().units / 2.0;
 
-/// The nearest to `wanted` of those that are not above `most`; the shortest if all are.
-const Length& nearestLength(double wanted, double most)
+/// Returns the length nearest to `units` among those up to `most`, or else the shortest.
+const Length& nearestLength(double units, double most)
 {
     const Length* nearest = &lengths().front();
     for (const Length& length : lengths()) {
         if (length.units <= most &&
-            std::abs(length.units - wanted) < std::abs(nearest->units - wanted))
+            std::abs(length.units - units) < std::abs(nearest->units - units))
             nearest = &length;
     }
     return *nearest;
 }
 
-/// Follows the highest of the notes that sound.
+/// Traces the highest sounding note.
 class HighestLine {
 public:
     explicit HighestLine(std::span<const MidiEvent> notes)
@@ -101,9 +101,9 @@ private:
     void begin(int key, double at)
     {
         ++sounding_[static_cast<std::size_t>(key)];
-        begun_[static_cast<std::size_t>(key)] = at;
+        started_[static_cast<std::size_t>(key)] = at;
         if (key >= highest_)
-            goOnWith(key, at);
+            continueWith(key, at);
     }
 
     void end(int key, double at)
@@ -113,28 +113,28 @@ private:
         int next = key;
         while (next > kRest && (next == key || sounding_[static_cast<std::size_t>(next)] == 0))
             --next;
-        goOnWith(next, at);
+        continueWith(next, at);
     }
 
-    void goOnWith(int key, double at)
+    void continueWith(int key, double at)
     {
-        if (highest_ != kRest && at > since_ && isWorthHearing(at))
+        if (highest_ != kRest && at > since_ && isLongEnough(at))
             stretches_.push_back({since_, at, highest_});
         highest_ = key;
         since_ = at;
     }
 
-    /// Whether what sounded up to now is more than a lower note that peeps out between others.
-    bool isWorthHearing(double until) const
+    /// Returns false for a short part of a lower note between higher ones.
+    bool isLongEnough(double until) const
     {
-        const double begun = begun_[static_cast<std::size_t>(highest_)];
-        return until - since_ >= std::min(kSixteenth, (until - begun) / 2.0);
+        const double started = started_[static_cast<std::size_t>(highest_)];
+        return until - since_ >= std::min(kSixteenth, (until - started) / 2.0);
     }
 
-    std::array<int, 128> sounding_{}; ///< How many notes of each key.
-    std::array<double, 128> begun_{}; ///< When the last note of each key began.
+    std::array<int, 128> sounding_{};   ///< Number of sounding notes of each key.
+    std::array<double, 128> started_{}; ///< When the last note of each key started.
     int highest_ = kRest;
-    double since_ = 0.0; ///< When it became the highest.
+    double since_ = 0.0; ///< When `highest_` became the highest.
     std::vector<Stretch> stretches_;
 };
 
@@ -148,14 +148,14 @@ std::string nameOf(int key)
     return octave == kDefaultOctave ? name : fmt::format("*{}{}", octave, name);
 }
 
-/// Notes and rests, one text each.
+/// Returns the texts of all notes and rests.
 std::vector<std::string> melodyOf(const std::vector<Stretch>& stretches)
 {
     std::vector<std::string> melody;
     double written = 0.0;
     for (auto stretch = stretches.begin(); stretch != stretches.end(); ++stretch) {
         if (written >= stretch->end)
-            continue; // the notes before it were shorter than what can be written
+            continue; // the notes before it were too short and took its time
         while (stretch->begin - written > kHalfShortest) {
             const double rest = stretch->begin - written;
             const Length& length = nearestLength(rest, rest);
@@ -170,11 +170,11 @@ std::vector<std::string> melodyOf(const std::vector<Stretch>& stretches)
         written += length.units;
     }
     if (melody.empty())
-        melody.emplace_back("r2"); // a melody is not empty
+        melody.emplace_back("r2"); // the format requires at least one
     return melody;
 }
 
-/// The texts as one line, which goes on behind a space in the next one where it is full.
+/// Joins the texts into a line and folds it: continuation lines start with a space.
 std::string folded(std::string_view head, const std::vector<std::string>& texts)
 {
     constexpr std::size_t kLine = 75;

@@ -9,11 +9,11 @@
 
 namespace velmora {
 
-/// Walks through a part of a Standard MIDI File. A read that would go beyond the part throws
-/// FormatError at the byte where it began.
+/// Reads a section of a Standard MIDI File. A read that would exceed the section throws FormatError
+/// with the offset where it started.
 class MidiFileCursor {
 public:
-    /// `beyond` is what an error says when a read would go past `end`.
+    /// `beyond` is the message of the error for a read past `end`.
     MidiFileCursor(std::span<const std::byte> file, std::size_t begin, std::size_t end,
                    const char* beyond)
         : bytes_(file.first(end)), at_(begin), beyond_(beyond)
@@ -25,7 +25,7 @@ public:
 
     std::uint8_t peek()
     {
-        need(1);
+        require(1);
         return std::to_integer<std::uint8_t>(bytes_[at_]);
     }
 
@@ -36,17 +36,18 @@ public:
         return value;
     }
 
-    /// A big-endian number of `size` bytes.
+    /// Reads a big-endian number of `size` bytes.
     std::uint32_t number(std::size_t size)
     {
-        need(size);
+        require(size);
         std::uint32_t value = 0;
         for (std::size_t i = 0; i < size; ++i)
             value = value << 8 | byte();
         return value;
     }
 
-    /// A variable-length quantity: seven bits a byte, all but the last with the top bit set.
+    /// Reads a variable-length quantity: seven bits a byte, with the top bit set in all but the
+    /// last.
     std::uint32_t quantity()
     {
         std::uint32_t value = 0;
@@ -59,7 +60,7 @@ public:
         throw FormatError::atByte(at_ - 4, "a variable-length quantity is longer than four bytes");
     }
 
-    /// The next bytes as text, "" when there are not that many.
+    /// Returns the next bytes without reading them; empty if there are fewer than `size`.
     std::string_view text(std::size_t size) const
     {
         return size > left()
@@ -69,26 +70,26 @@ public:
 
     void skip(std::size_t size)
     {
-        need(size);
+        require(size);
         at_ += size;
     }
 
-    /// The next bytes as a part of their own, which this cursor steps over.
+    /// Skips `size` bytes and returns a cursor for them.
     MidiFileCursor part(std::size_t size, const char* beyond)
     {
-        need(size);
+        require(size);
         at_ += size;
         return {bytes_, at_ - size, at_, beyond};
     }
 
 private:
-    void need(std::size_t size) const
+    void require(std::size_t size) const
     {
         if (size > left())
             throw FormatError::atByte(at_, beyond_);
     }
 
-    std::span<const std::byte> bytes_; ///< The file up to the end of the part.
+    std::span<const std::byte> bytes_; ///< The file up to the end of the section.
     std::size_t at_;
     const char* beyond_;
 };

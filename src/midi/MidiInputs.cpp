@@ -19,7 +19,7 @@ namespace velmora {
 
 namespace {
 
-/// From a device's name to its first source, as RtMidi names that port.
+/// The first source of each device, as RtMidi names that port, by the device's name.
 using Devices = std::map<std::string, std::string>;
 
 std::vector<std::string> portNames(RtMidiIn& midi)
@@ -30,28 +30,28 @@ std::vector<std::string> portNames(RtMidiIn& midi)
     return names;
 }
 
-/// Whether there is more than what the kernel always has: a port through which programs can send
-/// to each other, which JACK's bridge to ALSA shows as well.
-bool haveDevice(const Devices& devices)
+/// Returns true if there is a device other than the port that the kernel always provides for
+/// programs to send to each other. JACK's bridge to ALSA shows that port as well.
+bool hasRealDevice(const Devices& devices)
 {
     return std::ranges::any_of(devices, [](const auto& device) {
         return device.first.find("Midi Through") == std::string::npos;
     });
 }
 
-/// All source ports of an API that is known to answer.
+/// Returns all source ports of an API, which must be running.
 std::vector<std::string> sources(RtMidi::Api api)
 {
     try {
         RtMidiIn midi(api, "Velmora");
         return portNames(midi);
     } catch (const RtMidiError& error) {
-        logger("platform").debug("RtMidi: {}", error.getMessage());
+        logger("midi").debug("RtMidi: {}", error.getMessage());
         return {};
     }
 }
 
-/// The sequencer client in RtMidi's "CLIENT NAME:PORT NAME 20:0".
+/// Returns the sequencer client in a name of RtMidi's form "CLIENT NAME:PORT NAME 20:0".
 std::optional<int> sequencerClient(const std::string& port)
 {
     const std::size_t space = port.rfind(' ');
@@ -63,10 +63,10 @@ std::optional<int> sequencerClient(const std::string& port)
     return client;
 }
 
-/// The sequencer's clients that have a source, but those of this process.
+/// Returns the clients of the ALSA sequencer that have a source, except those of this process.
 Devices alsaDevices()
 {
-    // RtMidi would complain on standard error where there is no sequencer.
+    // Without a sequencer, RtMidi would print to standard error.
     snd_seq_t* opened = nullptr;
     if (snd_seq_open(&opened, "default", SND_SEQ_OPEN_INPUT, SND_SEQ_NONBLOCK) < 0)
         return {};
@@ -82,7 +82,7 @@ Devices alsaDevices()
     for (const std::string& port : sources(RtMidi::LINUX_ALSA)) {
         const auto client = sequencerClient(port);
         if (!client || !seen.insert(*client).second)
-            continue; // a further port of the device before
+            continue; // another port of the same device
         if (snd_seq_get_any_client_info(sequencer.get(), *client, info.get()) < 0 ||
             snd_seq_client_info_get_pid(info.get()) == getpid())
             continue;
@@ -91,12 +91,11 @@ Devices alsaDevices()
     return devices;
 }
 
-/// JACK knows ports, not devices, and gathers the ports of all hardware under one client: every
-/// source is a device of its own here, named by its full port name. It does not tell which process
-/// a port belongs to; this program makes no MIDI outputs there.
+/// Returns the sources of JACK. JACK has ports but no devices, and all hardware ports belong to one
+/// client, so each source counts as a device and is named by its full port name.
 Devices jackDevices()
 {
-    // RtMidi would complain on standard error where no server runs.
+    // Without a server, RtMidi would print to standard error.
     const std::unique_ptr<jack_client_t, int (*)(jack_client_t*)> client(
         jack_client_open("Velmora", JackNoStartServer, nullptr), jack_client_close);
     if (!client)
@@ -107,6 +106,16 @@ Devices jackDevices()
     return devices;
 }
 
+/// Logs a failed operation on a device. The wording of the first line is fixed so that logs of
+/// different versions can be compared.
+void logFailure(const char* operation, RtMidiError::Type type, const std::string& device,
+                const std::string& reason)
+{
+    const Logger log = logger("midi");
+    log.debug("{} err = {}", operation, static_cast<int>(type));
+    log.warn("cannot open the MIDI input {}: {}", device, reason);
+}
+
 void receive(double /*seconds*/, std::vector<unsigned char>* message, void* receiver)
 {
     (*static_cast<const MidiReceiver*>(receiver))(*message);
@@ -114,10 +123,10 @@ void receive(double /*seconds*/, std::vector<unsigned char>* message, void* rece
 
 } // namespace
 
-/// One device: a client and a port of its own.
+/// The connection to one device, with its own client and port.
 class MidiInputs::Input {
 public:
-    /// Throws RtMidiError where the client cannot be made.
+    /// Creates the client. Throws RtMidiError if that fails.
     Input(RtMidi::Api api, std::string name, MidiReceiver& receiver)
         : name_(std::move(name)), midi_(api, "MidiClient1")
     {
@@ -125,7 +134,8 @@ public:
         midi_.setCallback(receive, &receiver);
     }
 
-    /// Connects the source that RtMidi gives this name. Logs why not.
+    /// Connects a source by the name of its RtMidi port. Returns false and logs the reason if that
+    /// fails.
     bool connect(const std::string& source)
     {
         const std::vector<std::string> ports = portNames(midi_);
@@ -133,21 +143,20 @@ public:
         while (number < ports.size() && ports[number] != source)
             ++number;
         if (number == ports.size()) {
-            logger("platform")
-                .error("MIDIPortConnectSource err = {}",
-                       static_cast<int>(RtMidiError::INVALID_DEVICE));
+            logFailure("MIDIPortConnectSource", RtMidiError::INVALID_DEVICE, name_,
+                       "it has disappeared");
             return false;
         }
         error_.reset();
         midi_.openPort(number, "Port1");
         if (!error_)
             return true;
-        // RtMidi makes and connects the port in one step; only its words tell which of them failed.
-        const bool made = errorText_.find("connection") != std::string::npos ||
-                          errorText_.find("subscription") != std::string::npos;
-        logger("platform")
-            .error("{} err = {}", made ? "MIDIPortConnectSource" : "MIDIInputPortCreate",
-                   static_cast<int>(*error_));
+        // RtMidi creates and connects the port in one step; only its message says which part
+        // failed.
+        const bool hasPort = errorText_.find("connection") != std::string::npos ||
+                             errorText_.find("subscription") != std::string::npos;
+        logFailure(hasPort ? "MIDIPortConnectSource" : "MIDIInputPortCreate", *error_, name_,
+                   errorText_);
         return false;
     }
 
@@ -156,13 +165,12 @@ public:
 private:
     static void keepError(RtMidiError::Type type, const std::string& text, void* self)
     {
-        logger("platform").debug("RtMidi: {}", text);
         static_cast<Input*>(self)->error_ = type;
         static_cast<Input*>(self)->errorText_ = text;
     }
 
     std::string name_;
-    std::optional<RtMidiError::Type> error_; // of the last call
+    std::optional<RtMidiError::Type> error_; ///< Of the last call to RtMidi.
     std::string errorText_;
     RtMidiIn midi_;
 };
@@ -172,27 +180,26 @@ MidiInputs::MidiInputs(MidiReceiver receiver) : receiver_(std::move(receiver))
     quietSoundLibraries();
     RtMidi::Api api = RtMidi::LINUX_ALSA;
     Devices devices = alsaDevices();
-    if (!haveDevice(devices)) {
-        Devices ofJack = jackDevices();
-        if (devices.empty() || haveDevice(ofJack)) {
+    if (!hasRealDevice(devices)) {
+        Devices others = jackDevices();
+        if (devices.empty() || hasRealDevice(others)) {
             api = RtMidi::UNIX_JACK;
-            devices = std::move(ofJack);
+            devices = std::move(others);
         }
     }
     if (devices.empty()) {
-        logger("platform").warn("no MIDI input: neither the ALSA sequencer nor JACK has a device");
+        logger("midi").warn("no MIDI input: neither the ALSA sequencer nor JACK has a device");
         return;
     }
     api_ = api == RtMidi::LINUX_ALSA ? "ALSA" : "JACK";
     for (const auto& [name, source] : devices) {
-        logger("platform").info("{}", name);
+        logger("midi").debug("{}", name);
         try {
             auto input = std::make_unique<Input>(api, name, receiver_);
             if (input->connect(source))
                 inputs_.push_back(std::move(input));
         } catch (const RtMidiError& error) {
-            logger("platform")
-                .error("MIDIClientCreate err = {}", static_cast<int>(error.getType()));
+            logFailure("MIDIClientCreate", error.getType(), name, error.getMessage());
         }
     }
 }

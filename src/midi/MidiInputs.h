@@ -9,31 +9,31 @@
 
 namespace velmora {
 
-/// Takes one whole MIDI message, running status expanded, on a receive thread: over JACK that is
-/// the server's real-time thread. The bytes last until it returns. Must not throw. Each device has
-/// a thread of its own, so that it may be called from several at once.
+/// Receives one complete MIDI message with running status expanded. The bytes are valid until it
+/// returns. Called on a receive thread; with JACK that is its real-time thread. Each device has its
+/// own thread, so several calls can run at once. Must not throw.
 using MidiReceiver = std::function<void(std::span<const std::uint8_t> message)>;
 
-/// The MIDI devices that are present when it is made, each connected by its first source for as
-/// long as this lives. Of two devices of one name the last one is connected. Devices that come
-/// later are not looked for. System exclusive, timing and active sensing messages are left out.
+/// Connections to the first source of each MIDI device that is present at construction. If two
+/// devices have the same name, only the last is connected. Devices that appear later are ignored,
+/// as are system exclusive, timing and active sensing messages.
 class MidiInputs {
 public:
-    /// Connects the devices of the ALSA sequencer or, where it has none, of a running JACK server.
-    /// The kernel's "Midi Through" counts only where neither has another: programs may send there.
-    /// Failures are logged: a device that cannot be connected gives no input.
+    /// Connects the devices of the ALSA sequencer or, if it has none, of a running JACK server. The
+    /// kernel's "Midi Through" port is used only if there is no other device. Devices that cannot
+    /// be connected are logged and skipped.
     explicit MidiInputs(MidiReceiver receiver);
 
-    /// Disconnects; no message is received any more when it returns.
+    /// Disconnects all devices. No message is received after this returns.
     ~MidiInputs();
 
     MidiInputs(const MidiInputs&) = delete;
     MidiInputs& operator=(const MidiInputs&) = delete;
 
-    /// The connected devices, in alphabetical order.
+    /// The names of the connected devices, in alphabetical order.
     std::vector<std::string> names() const;
 
-    /// "ALSA" or "JACK"; empty where neither has a device.
+    /// "ALSA" or "JACK"; empty if neither has a device.
     const std::string& api() const { return api_; }
 
 private:
@@ -41,7 +41,7 @@ private:
 
     MidiReceiver receiver_;
     std::string api_;
-    std::vector<std::unique_ptr<Input>> inputs_; // last: gone before what their threads call
+    std::vector<std::unique_ptr<Input>> inputs_; ///< Last, because their threads call `receiver_`.
 };
 
 } // namespace velmora

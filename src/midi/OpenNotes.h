@@ -9,11 +9,11 @@
 
 namespace velmora {
 
-/// The notes of a track that have begun and not ended, in the order of their beginning per channel
-/// and key. A track has below 2³² of them.
-template <class Begun> class OpenNotes {
+/// The notes of a track that have started but not ended, in order of start for each channel and
+/// key. Holds fewer than 2³² notes.
+template <class Note> class OpenNotes {
 public:
-    void begin(std::size_t channel, std::size_t key, Begun note)
+    void start(std::size_t channel, std::size_t key, Note note)
     {
         std::uint32_t link = free_;
         if (link != kNone) {
@@ -29,25 +29,27 @@ public:
         ++count_;
     }
 
-    /// So far `end` looks for one that is wanted.
-    static constexpr std::size_t kMostPassedOver = 255;
+    /// How many notes `end` skips at most.
+    static constexpr std::size_t kMaximumSkipped = 255;
 
-    /// Takes out the first one of a channel and key that is `wanted`, or else the first one; none
-    /// where none is open.
-    template <class Wanted>
-    std::optional<Begun> end(std::size_t channel, std::size_t key, Wanted wanted)
+    /// Removes and returns the first note of a channel and key for which `matches` is true, or the
+    /// first of all if there is none. Returns nothing if no note is open.
+    template <class Predicate>
+    std::optional<Note> end(std::size_t channel, std::size_t key, Predicate matches)
     {
         Queue& queue = queues_[channel * kKeysPerChannel + key];
         std::uint32_t before = kNone, link = queue.first;
-        for (std::size_t i = 0; link != kNone && !wanted(links_[link].note); ++i)
-            before = std::exchange(link, i < kMostPassedOver ? links_[link].next : kNone);
-        return link == kNone ? takeOut(queue, kNone) : takeOut(queue, before);
+        for (std::size_t i = 0; link != kNone && !matches(links_[link].note); ++i)
+            before = std::exchange(link, i < kMaximumSkipped ? links_[link].next : kNone);
+        return link == kNone ? remove(queue, kNone) : remove(queue, before);
     }
+
+    /// Removes all notes and calls `visit` for each.
 
     template <class Visit> void endAll(Visit visit)
     {
         for (std::size_t i = 0; count_ > 0; ++i)
-            while (const auto note = takeOut(queues_[i], kNone))
+            while (const auto note = remove(queues_[i], kNone))
                 visit(*note);
     }
 
@@ -56,7 +58,7 @@ private:
     static constexpr std::size_t kKeysPerChannel = 128;
 
     struct Link {
-        Begun note;
+        Note note;
         std::uint32_t next;
     };
     struct Queue {
@@ -64,14 +66,14 @@ private:
         std::uint32_t last = kNone;
     };
 
-    /// The one behind `before`, a link of the queue, or its first.
-    std::optional<Begun> takeOut(Queue& queue, std::uint32_t before)
+    /// Removes the note after `before`, or the first of the queue if `before` is kNone.
+    std::optional<Note> remove(Queue& queue, std::uint32_t before)
     {
-        std::uint32_t& behind = before == kNone ? queue.first : links_[before].next;
-        const std::uint32_t link = behind;
+        std::uint32_t& next = before == kNone ? queue.first : links_[before].next;
+        const std::uint32_t link = next;
         if (link == kNone)
             return std::nullopt;
-        behind = std::exchange(links_[link].next, free_);
+        next = std::exchange(links_[link].next, free_);
         if (queue.last == link)
             queue.last = before;
         free_ = link;
@@ -80,7 +82,7 @@ private:
     }
 
     std::vector<Link> links_;
-    std::uint32_t free_ = kNone;
+    std::uint32_t free_ = kNone; ///< First of a list of unused links.
     std::size_t count_ = 0;
     std::array<Queue, 16 * kKeysPerChannel> queues_;
 };

@@ -14,24 +14,24 @@ namespace velmora {
 
 namespace {
 
-/// A note that has begun: where it stands among the events of its track, and its tick.
-struct Begun {
+/// A note that has started.
+struct OpenNote {
     std::uint64_t tick;
-    std::uint32_t event; ///< A track has below 2³² bytes, hence below 2³² events.
+    std::uint32_t event; ///< Index in its track. Tracks have fewer than 2³² bytes and events.
 };
 
-/// Reads one track after the other and gathers their tempo events.
+/// Reads tracks one by one and collects their tempo events.
 class TrackReader {
 public:
     explicit TrackReader(double ticksPerBeat) : ticksPerBeat_(ticksPerBeat) {}
 
     std::vector<MidiEvent> read(MidiFileCursor track)
     {
-        // A note takes eight bytes or so; the chunk is known to be there.
+        // A note takes about eight bytes. The length of the track has been checked.
         events_.reserve(track.left() / 8);
         tick_ = 0;
         status_ = 0;
-        passedOver_ = 0;
+        skippedNotes_ = 0;
         bool ended = false;
         while (!ended && track.left() > 0) {
             tick_ += track.quantity();
@@ -41,7 +41,7 @@ public:
             else
                 readChannelEvent(track);
         }
-        open_.endAll([this](const Begun& note) { endNote(note); });
+        open_.endAll([this](const OpenNote& note) { endNote(note); });
         return std::exchange(events_, {});
     }
 
@@ -52,7 +52,7 @@ private:
 
     void addOther() { events_.push_back({beats(), 0.0F, MidiEvent::Kind::Other, 0, 0, 0}); }
 
-    void endNote(const Begun& note)
+    void endNote(const OpenNote& note)
     {
         events_[note.event].duration =
             static_cast<float>(static_cast<double>(tick_ - note.tick) / ticksPerBeat_);
@@ -63,19 +63,19 @@ private:
         const std::uint8_t value = track.byte();
         if (value >= midi::kStatusBit)
             throw FormatError::atByte(track.offset() - 1,
-                                      fmt::format("a data byte is wanted, not 0x{:02X}", value));
+                                      fmt::format("expected a data byte, not 0x{:02X}", value));
         return value;
     }
 
     void readChannelEvent(MidiFileCursor& track)
     {
-        // Meta and system exclusive events end the running status by the letter of the format, but
-        // there are files that go on with it behind them: it is kept.
+        // Officially, meta and system exclusive events cancel running status. It is kept because
+        // there are files that rely on it.
         if (track.peek() >= midi::kStatusBit)
             status_ = track.byte();
         else if (status_ == 0)
             throw FormatError::atByte(track.offset(),
-                                      "an event without a status, and none runs before it");
+                                      "an event has no status, and there is no running status");
         const std::uint8_t data = dataByte(track);
         const auto channel = static_cast<std::uint8_t>(status_ & midi::kChannelMask);
         switch (status_ & midi::kKindMask) {
@@ -85,7 +85,7 @@ private:
             break;
         case midi::kNoteOn:
             if (const std::uint8_t velocity = dataByte(track)) {
-                open_.begin(channel, data, {tick_, static_cast<std::uint32_t>(events_.size())});
+                open_.start(channel, data, {tick_, static_cast<std::uint32_t>(events_.size())});
                 events_.push_back({beats(), 0.0F, MidiEvent::Kind::Note, channel, data, velocity});
             } else {
                 readNoteOff(channel, data);
@@ -104,13 +104,13 @@ private:
     void readNoteOff(std::uint8_t channel, std::uint8_t key)
     {
         const auto note =
-            open_.end(channel, key, [this](const Begun&) { return passedOver_-- == 0; });
-        passedOver_ = 0;
+            open_.end(channel, key, [this](const OpenNote&) { return skippedNotes_-- == 0; });
+        skippedNotes_ = 0;
         if (note)
             endNote(*note);
     }
 
-    /// A meta or system exclusive event; true when it is the end-of-track mark.
+    /// Reads a meta or system exclusive event. Returns true for the end-of-track mark.
     bool readSystemEvent(MidiFileCursor& track)
     {
         const std::size_t at = track.offset();
@@ -119,7 +119,7 @@ private:
             return readMetaEvent(track, at);
         if (status != midi::kSystemExclusive && status != midi::kEscape)
             throw FormatError::atByte(
-                at, fmt::format("a file cannot hold an event of status 0x{:02X}", status));
+                at, fmt::format("an event in a file cannot have the status 0x{:02X}", status));
         track.skip(track.quantity());
         addOther();
         return false;
@@ -132,16 +132,16 @@ private:
         MidiFileCursor body = track.part(length, "");
         if (type == midi::kEndOfTrack)
             return true;
-        if (type == midi::kSequencerSpecific && length == kPassedOver.size() + 1 &&
-            body.text(kPassedOver.size()) == kPassedOver) {
-            body.skip(kPassedOver.size());
-            passedOver_ = body.byte();
+        if (type == midi::kSequencerSpecific && length == kSkipNotes.size() + 1 &&
+            body.text(kSkipNotes.size()) == kSkipNotes) {
+            body.skip(kSkipNotes.size());
+            skippedNotes_ = body.byte();
             return false;
         }
         if (type == midi::kTempo) {
             if (length != 3)
                 throw FormatError::atByte(
-                    at, fmt::format("a tempo event of {} bytes instead of 3", length));
+                    at, fmt::format("a tempo event has {} bytes instead of 3", length));
             tempoChanges_.push_back({beats(), body.number(3)});
         }
         addOther();
@@ -151,10 +151,10 @@ private:
     double ticksPerBeat_;
     std::vector<TempoChange> tempoChanges_;
     std::vector<MidiEvent> events_;
-    OpenNotes<Begun> open_;
+    OpenNotes<OpenNote> open_;
     std::uint64_t tick_ = 0;
-    std::uint8_t status_ = 0; ///< The running status, 0 for none.
-    unsigned passedOver_ = 0; ///< By the next note-off.
+    std::uint8_t status_ = 0;   ///< Running status; 0 for none.
+    unsigned skippedNotes_ = 0; ///< How many notes the next note-off skips.
 };
 
 struct Chunk {
@@ -170,25 +170,26 @@ Chunk readChunk(MidiFileCursor& file)
     const std::uint32_t length = file.number(4);
     if (length > file.left())
         throw FormatError::atByte(
-            at, fmt::format("a chunk of {} bytes is cut short: only {} are left in the file",
-                            length, file.left()));
-    return {id, file.part(length, id == "MTrk" ? "an event runs beyond the end of its track"
+            at, fmt::format("a chunk of {} bytes is truncated: the file has only {} more", length,
+                            file.left()));
+    return {id, file.part(length, id == "MTrk" ? "an event exceeds the end of its track"
                                                : "the header is too short")};
 }
 
 struct Header {
     std::size_t tracks;
     double ticksPerBeat;
-    bool hasFrames; ///< The file counts by SMPTE frames.
+    bool hasFrames; ///< True if the file uses SMPTE time.
 };
 
 double ticksPerSecond(unsigned frames, unsigned ticksPerFrame, std::size_t at)
 {
-    // 29 stands for the drop-frame rate of 30 × 1000/1001 frames a second.
+    // 29 means the drop-frame rate of 30 × 1000/1001 frames a second.
     if (frames == 29)
         return ticksPerFrame * 30000.0 / 1001.0;
     if (frames != 24 && frames != 25 && frames != 30)
-        throw FormatError::atByte(at, fmt::format("a division of {} frames a second", frames));
+        throw FormatError::atByte(
+            at, fmt::format("the division has {} frames a second, not 24, 25, 29 or 30", frames));
     return ticksPerFrame * static_cast<double>(frames);
 }
 
@@ -196,7 +197,7 @@ Header readHeader(MidiFileCursor& file)
 {
     const std::size_t at = file.offset();
     if (file.text(4) != "MThd")
-        throw FormatError::atByte(at, "this is not a Standard MIDI File: it has no \"MThd\"");
+        throw FormatError::atByte(at, "this is not a Standard MIDI File: \"MThd\" is missing");
     MidiFileCursor body = readChunk(file).body;
     const std::size_t begin = body.offset();
     const std::uint32_t format = body.number(2);
@@ -205,7 +206,7 @@ Header readHeader(MidiFileCursor& file)
     if (format > 2)
         throw FormatError::atByte(begin, fmt::format("the format is {}, not 0, 1 or 2", format));
     if (tracks == 0)
-        throw FormatError::atByte(begin + 2, "the header announces no track");
+        throw FormatError::atByte(begin + 2, "the header announces no tracks");
 
     const std::size_t divisionAt = begin + 4;
     if ((division & 0x8000u) == 0) {
@@ -216,35 +217,35 @@ Header readHeader(MidiFileCursor& file)
     const std::uint32_t ticksPerFrame = division & 0xFFu;
     if (ticksPerFrame == 0)
         throw FormatError::atByte(divisionAt, "the division is 0 ticks a frame");
-    // The tempo map is left at its 120 beats a minute: two beats a second.
+    // The tempo map stays at its default of two beats a second.
     const double ticks = ticksPerSecond(0x100u - (division >> 8), ticksPerFrame, divisionAt);
     return {tracks, ticks / 2.0, true};
 }
 
-/// Where the MIDI file begins: 0, or behind the RIFF wrapping.
-std::size_t beginOfMidi(std::span<const std::byte> bytes)
+/// Returns the offset of the MIDI file: 0, or the end of the RIFF wrapper.
+std::size_t startOfMidi(std::span<const std::byte> bytes)
 {
-    constexpr std::size_t kWrapping = 20;
-    if (bytes.size() < kWrapping)
+    constexpr std::size_t kWrapper = 20;
+    if (bytes.size() < kWrapper)
         return 0;
-    const std::string_view start(reinterpret_cast<const char*>(bytes.data()), kWrapping);
-    return start.starts_with("RIFF") && start.substr(8, 8) == "RMIDdata" ? kWrapping : 0;
+    const std::string_view start(reinterpret_cast<const char*>(bytes.data()), kWrapper);
+    return start.starts_with("RIFF") && start.substr(8, 8) == "RMIDdata" ? kWrapper : 0;
 }
 
 } // namespace
 
 StandardMidiFile readStandardMidiFile(std::span<const std::byte> bytes)
 {
-    MidiFileCursor file(bytes, beginOfMidi(bytes), bytes.size(),
-                        "the file ends within a chunk's head");
+    MidiFileCursor file(bytes, startOfMidi(bytes), bytes.size(),
+                        "the file ends inside the header of a chunk");
     const Header header = readHeader(file);
     TrackReader reader(header.ticksPerBeat);
     StandardMidiFile result;
     while (result.tracks.size() < header.tracks) {
         if (file.left() == 0)
-            throw FormatError::atByte(
-                file.offset(), fmt::format("the file ends after {} of the {} tracks it announces",
-                                           result.tracks.size(), header.tracks));
+            throw FormatError::atByte(file.offset(),
+                                      fmt::format("the file ends after {} of {} tracks",
+                                                  result.tracks.size(), header.tracks));
         const Chunk chunk = readChunk(file);
         if (chunk.id == "MTrk")
             result.tracks.push_back(reader.read(chunk.body));

@@ -15,21 +15,21 @@ namespace velmora {
 
 namespace {
 
-/// What four bytes of seven bits hold.
+/// The greatest value of a variable-length quantity of four bytes.
 constexpr std::uint64_t kLongestDelta = 0x0FFFFFFF;
 
 /// A note-on or a note-off.
 struct Message {
     std::uint64_t tick;
-    std::uint64_t until; ///< Of a note-on, when the note ends; 0 in a note-off.
+    std::uint64_t until; ///< The end of the note for a note-on, 0 for a note-off.
     std::uint8_t status;
     std::uint8_t key;
     std::uint8_t velocity;
 };
 
-/// At one tick notes end before others begin, so that a note which goes over into the next one of
-/// its key is not taken for one that is begun twice; and of two that begin together the shorter one
-/// comes first, since it is the first to end.
+/// At the same tick, note-offs come before note-ons, so that a note that touches the next one of
+/// its key does not overlap it. Of two notes that start together the shorter comes first, since it
+/// ends first.
 bool comesBefore(const Message& a, const Message& b)
 {
     return std::tie(a.tick, a.until) < std::tie(b.tick, b.until);
@@ -93,11 +93,11 @@ void addDelta(std::string& bytes, std::uint64_t delta)
     addQuantity(bytes, delta);
 }
 
-/// Adds what goes before a note-off that passes notes over, and the time between them: none.
-void addPassedOver(std::string& bytes, std::size_t notes)
+/// Adds the event before a note-off that skips notes, and the delta time of 0 between them.
+void addSkipNotes(std::string& bytes, std::size_t notes)
 {
-    addMetaEvent(bytes, midi::kSequencerSpecific, kPassedOver.size() + 1);
-    bytes += kPassedOver;
+    addMetaEvent(bytes, midi::kSequencerSpecific, kSkipNotes.size() + 1);
+    bytes += kSkipNotes;
     addNumber(bytes, notes, 1);
     addDelta(bytes, 0);
 }
@@ -128,15 +128,15 @@ std::string writeStandardMidiFile(std::span<const MidiEvent> notes)
         tick = message.tick;
         const unsigned channel = static_cast<unsigned>(message.status & midi::kChannelMask);
         if (message.until > 0) {
-            ends.begin(channel, message.key, message.until);
+            ends.start(channel, message.key, message.until);
         } else {
-            std::size_t passedOver = 0;
+            std::size_t skipped = 0;
             const auto ended = ends.end(channel, message.key, [&](std::uint64_t end) {
-                passedOver += end == tick ? 0 : 1;
+                skipped += end == tick ? 0 : 1;
                 return end == tick;
             });
-            if (ended == tick && passedOver > 0)
-                addPassedOver(track, passedOver);
+            if (ended == tick && skipped > 0)
+                addSkipNotes(track, skipped);
         }
         addNumber(track, message.status, 1);
         addNumber(track, message.key, 1);

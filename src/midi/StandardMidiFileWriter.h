@@ -7,21 +7,20 @@
 
 namespace velmora {
 
-/// The ticks of a beat in the files that are written: the finest distance of two onsets.
+/// Ticks per beat in written files; the time resolution.
 constexpr double kTicksPerBeat = 4096.0;
 
-/// What is written ends by then: two years.
+/// The latest end of a note that can be written: about two years.
 constexpr double kLastBeat = 0x1p27;
 
-/// A file of format 0 with notes that end by `kLastBeat`, in any order, in its one track. There is
-/// no tempo event: the beats pass at 120 a minute. Times go to the nearest tick, and every note
-/// lasts at least one.
+/// Writes notes, in any order, as a file of format 0 ("Standard MIDI Files 1.0", MIDI Manufacturers
+/// Association, RP-001). Notes must end by `kLastBeat`. There is no tempo event, so the tempo is
+/// 120 beats a minute. Times are rounded to the nearest tick; a note lasts at least one tick.
 ///
-/// Of notes of one key and channel that overlap, readers take the one that begins first for the one
-/// that ends first. Where it is not, `kPassedOver` tells which one ends; for readers that do not
-/// know it, and behind more than 255, a note within another one exchanges its end with it. Throws
-/// std::length_error for more notes than a file can hold. The format: "Standard MIDI Files 1.0"
-/// (MIDI Manufacturers Association, RP-001).
+/// If notes of one key and channel overlap, readers assume that the first to start is the first to
+/// end. If that is wrong, a `kSkipNotes` event says which note ends. Readers that do not know
+/// the event exchange the ends of two such notes; so does every reader if more than 255 notes have
+/// to be skipped. Throws std::length_error if there are more notes than a file can hold.
 std::string writeStandardMidiFile(std::span<const MidiEvent> notes);
 
 } // namespace velmora

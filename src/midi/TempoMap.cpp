@@ -29,10 +29,10 @@ TempoMap::TempoMap(std::vector<TempoChange> changes)
 
 double TempoMap::secondsForBeats(double beats) const
 {
-    // What lies before the beginning runs on at the first tempo.
+    // The first tempo also applies to times before the start.
     const auto after =
         std::upper_bound(std::next(stretches_.begin()), stretches_.end(), beats,
-                         [](double wanted, const Stretch& s) { return wanted < s.beats; });
+                         [](double beat, const Stretch& s) { return beat < s.beats; });
     const Stretch& stretch = *std::prev(after);
     return stretch.seconds + (beats - stretch.beats) * stretch.secondsPerBeat;
 }

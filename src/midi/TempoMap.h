@@ -5,33 +5,33 @@
 
 namespace velmora {
 
-/// From this beat on, a beat (a quarter note) lasts so many microseconds.
+/// A change of tempo. A beat is a quarter note.
 struct TempoChange {
-    double beats;
+    double beats; ///< Position from the start of the file.
     std::uint32_t microsecondsPerBeat;
 };
 
-/// The tempo of a whole file: turns beats into seconds, both counted from its beginning.
+/// The tempo of a whole file. Converts beats to seconds, both counted from the start of the file.
 class TempoMap {
 public:
-    /// 120 beats a minute throughout.
+    /// Creates a constant tempo of 120 beats a minute.
     TempoMap() : TempoMap(std::vector<TempoChange>{}) {}
 
-    /// 120 beats a minute up to the first change. The changes may stand in any order; of several at
-    /// one beat the last holds. A change to 0 microseconds is no tempo and is passed over.
+    /// The tempo is 120 beats a minute up to the first change. The changes may be in any order; of
+    /// several at one beat the last one counts. Changes to 0 microseconds are ignored.
     explicit TempoMap(std::vector<TempoChange> changes);
 
-    /// Looks the tempo up in O(log changes).
+    /// Takes logarithmic time in the number of changes.
     double secondsForBeats(double beats) const;
 
 private:
     struct Stretch {
-        double beats;   ///< Where it begins.
-        double seconds; ///< Where it begins.
+        double beats;   ///< Start in beats.
+        double seconds; ///< Start in seconds.
         double secondsPerBeat;
     };
 
-    std::vector<Stretch> stretches_; ///< In order; the first begins at 0.
+    std::vector<Stretch> stretches_; ///< In order of time; the first starts at 0.
 };
 
 } // namespace velmora

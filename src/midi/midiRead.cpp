@@ -9,12 +9,12 @@ namespace velmora {
 
 namespace {
 
-/// The controllers that move the sliders 0, 1, 2…
+/// The controllers that move sliders 0 to 4.
 constexpr std::array<std::uint8_t, 5> kSliderControllers{midi::kChannelVolume, midi::kExpression,
                                                          midi::kVibratoRate, midi::kVibratoDepth,
                                                          midi::kVibratoDelay};
 
-/// A data byte as a velocity or a volume.
+/// Converts a data byte to a velocity or volume.
 float fraction(std::uint8_t value)
 {
     return static_cast<float>(value / 127.0);
@@ -36,22 +36,22 @@ void readController(std::uint8_t number, std::uint8_t value, LiveInput& input)
                         static_cast<std::size_t>(slider - kSliderControllers.begin()));
 }
 
-/// The bytes after the first `count`; none where there are fewer.
+/// Returns the bytes after the first `count`.
 MidiPacket skip(MidiPacket bytes, std::size_t count)
 {
     return bytes.subspan(std::min(count, bytes.size()));
 }
 
-/// Reads one packet; whether it pressed or released a key by a note message.
+/// Reads one packet. Returns whether it contained a note message.
 bool readPacket(MidiPacket bytes, LiveInput& input)
 {
     bool notesChanged = false;
     while (!bytes.empty()) {
         const std::uint8_t first = bytes[0];
         const std::uint8_t status = first & midi::kKindMask;
-        const bool whole = bytes.size() >= 3;
+        const bool isComplete = bytes.size() >= 3;
         if (status == midi::kNoteOn || status == midi::kNoteOff) {
-            if (whole) {
+            if (isComplete) {
                 readNote(status, bytes[1], bytes[2], input);
                 notesChanged = true;
             }
@@ -59,13 +59,13 @@ bool readPacket(MidiPacket bytes, LiveInput& input)
         } else if (status == midi::kChannelPressure) {
             bytes = skip(bytes, 2);
         } else {
-            // Taken for a controller whatever the status: pitch bend and program change too.
-            if (whole)
+            // Every other status is read as a controller, even pitch bend and program change.
+            if (isComplete)
                 readController(bytes[1], bytes[2], input);
             bytes = skip(bytes, 3);
         }
-        // The rest of a message whose status did not come with it: three bytes were taken above,
-        // one goes here, and whatever they are the key of that number is let go.
+        // A message without a status byte was read as a controller above. It also releases the key
+        // of its first byte and takes a fourth byte.
         if (first < midi::kStatusBit) {
             input.keyOff(first);
             bytes = skip(bytes, 1);

@@ -1,7 +1,9 @@
 #include "audio/AudioFileDecoder.h"
 
+#include "audio/PcmBuilder.h"
 #include "base/File.h"
 #include "base/FormatError.h"
+#include "support/Log.h"
 #include "support/OrganFolder.h"
 
 #include <gmock/gmock.h>
@@ -17,14 +19,15 @@ using Samples = std::vector<std::int16_t>;
 
 constexpr int kWav = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
 constexpr int kFlac = SF_FORMAT_FLAC | SF_FORMAT_PCM_24;
-constexpr int kWavPack = SF_FORMAT_PCM_24, kFloatWavPack = SF_FORMAT_FLOAT; ///< Without container.
+constexpr int kWavPack = SF_FORMAT_PCM_24,
+              kFloatWavPack = SF_FORMAT_FLOAT; ///< Written with libwavpack.
 
-/// Silence, both ends, and either side of where rounding to 16 bits turns.
+/// Silence, both extremes, and values on either side of a rounding threshold.
 const Words kWords = {0, INT32_MAX, INT32_MIN, 0x12347fff, 0x12348000, -0x12348100, -1, 256};
 const Samples kRounded = {0, 32767, -32768, 0x1234, 0x1235, -0x1235, 0, 0};
 const Samples kCut = {0, 32767, -32768, 0x1234, 0x1234, -0x1235, -1, 0};
 
-/// The bits of 0.5, -0.5, 1, -1, 8 and no number.
+/// The bits of 0.5, -0.5, 1, -1, 8 and NaN.
 const Words kFloats = {0x3f000000, -0x41000000, 0x3f800000, -0x40800000, 0x41000000, 0x7fc00000};
 const Samples kClipped = {16384, -16384, 32767, -32768, 32767, 0};
 
@@ -53,7 +56,7 @@ std::string writeWavPack(const std::string& path, bool floats, int channels, Wor
     return path;
 }
 
-/// Writes samples of 32 bits, or the bits of floats, to a file of 44100 Hz.
+/// Writes 32-bit samples, or the bits of floats, to a file of 44100 Hz.
 std::string write(int format, int channels, const Words& words)
 {
     static const OrganFolder folder;
@@ -87,23 +90,52 @@ TEST(AudioFileDecoder, RoundsAndClipsTo16Bits)
         }
     }
     auto file = readFile(write(kFlac, 1, kWords));
-    std::fill_n(file.begin() + 22, 4, std::byte{0x7f}); // frames, in the first metadata block
-    EXPECT_LE(decodeAudio(file).samples.capacity(), 8 * file.size()) << "the size of the sound";
+    std::fill_n(file.begin() + 22, 4, std::byte{0x7f}); // the length in the first metadata block
+    EXPECT_LE(decodeAudio(file).samples.capacity(), 8 * file.size())
+        << "a false length does not reserve memory";
 }
 
-TEST(AudioFileDecoder, RefusesWhatIsNoSound)
+TEST(AudioFileDecoder, SaysAndLogsWhyASoundCannotBeDecoded)
 {
-    const std::tuple<int, int, std::size_t, const char*> rows[] = {{kWav, 1, 0, "is no sound file"},
-                                                                   {kWav, 1, 44, "holds no sound"},
-                                                                   {kWav, 3, 999, "has 3 channels"},
-                                                                   {kWavPack, 1, 20, "WavPack"}};
-    for (const auto& [format, channels, size, why] : rows) {
-        auto file = readFile(write(format, channels, Words(9)));
-        file.resize(std::min(size, file.size()));
-        EXPECT_THAT([&] { decodeAudio(file); },
-                    testing::ThrowsMessage<FormatError>(testing::HasSubstr(why)));
+    const auto failed = [](const std::string& what) {
+        return "MyGetOpenALAudioData: ExtAudioFile" + what + " FAILED, Error = ";
+    };
+    const struct {
+        int format, channels;
+        std::size_t size; // of the part of the file that is kept
+        std::size_t at;
+        std::string changed; // bytes to write at `at`
+        std::string why, diagnostic;
+    } rows[] = {
+        {kWav, 1, 0, 0, "", "is not a sound file", "ERROR : ExtAudioFileWrapAudioFileID, "},
+        {kWav, 1, 999, 20, "\x99", "is not a sound file", "ERROR : ExtAudioFileGetProperty, "},
+        {kWav, 1, 44, 0, "fLaC" + std::string(40, 0), "is not a sound file",
+         failed("SetProperty(kExtAudioFileProperty_ClientDataFormat)") + "18"},
+        {kWav, 1, 44, 0, "", "has no samples", ""},
+        {kWav, 3, 999, 0, "", "has 3 channels", "channel count is greater than stereo"},
+        {kWavPack, 1, 20, 0, "", "WavPack", ""}};
+    for (const auto& row : rows) {
+        auto file = readFile(write(row.format, row.channels, Words(9)));
+        file.resize(std::min(row.size, file.size()));
+        std::ranges::copy(std::as_bytes(std::span(row.changed)),
+                          file.begin() + static_cast<std::ptrdiff_t>(row.at));
+        std::string why;
+        const std::string log = logOf([&] {
+            try {
+                decodeAudio(file);
+            } catch (const FormatError& error) {
+                why = error.what();
+            }
+        });
+        EXPECT_THAT(why, testing::HasSubstr(row.why));
+        EXPECT_THAT(log, testing::HasSubstr(row.diagnostic)) << row.why;
+        EXPECT_THAT(log, testing::HasSubstr("cannot decode an embedded sound: ")) << row.why;
     }
-    EXPECT_THROW(decodeAudioFile("/nowhere/sound.wav"), FormatError);
+    EXPECT_THAT(logOf([] { PcmBuilder("unknown length", 1, 8000, -1, 9); }),
+                testing::HasSubstr(failed("GetProperty(kExtAudioFileProperty_FileLengthFrames)")));
+    const std::string log = logOf([] { EXPECT_THROW(decodeAudioFile("/no.wav"), FormatError); });
+    EXPECT_EQ(log, "audio: ERROR : ExtAudioFileOpenURL, 2\n"
+                   "audio: cannot open /no.wav: No such file or directory\n");
 }
 
 } // namespace velmora

@@ -16,7 +16,7 @@ float tone(double hertz, double frame)
     return static_cast<float>(std::sin(2.0 * std::numbers::pi * hertz * frame / 48000.0));
 }
 
-/// What a resampler makes of it; the right channel has it upside down.
+/// The resampled tone; the right channel is inverted.
 Stereo resampled(double hertz, double step)
 {
     FractionalResampler resampler;
@@ -36,7 +36,7 @@ Stereo resampled(double hertz, double step)
 
 } // namespace
 
-TEST(FractionalResampler, ShiftsThePitchAndNothingElseUpTo18Kilohertz)
+TEST(FractionalResampler, ChangesOnlyThePitchUpTo18Kilohertz)
 {
     for (const double shift : {-0.5, -0.123, 0.0, 0.25, 0.5}) {
         const double step = std::exp2(shift / 1200.0), tolerance = shift == 0.0 ? 0.0 : 1.5e-4;

@@ -21,14 +21,14 @@ float nextPeak(Synthesizer& synthesizer)
 
 } // namespace
 
-TEST(Synthesizer, LosesNoEndOfANoteHoweverMuchComesAtOnce)
+TEST(Synthesizer, EndsNotesUnderAnyLoad)
 {
     Synthesizer synthesizer(kRate, {kBank});
     synthesizer.midiEvent(0xC0, kSteadyProgram, 0);
     const std::function<void(int)> storms[] = {
         [&](int i) { synthesizer.midiEvent(0xE0, i % 128, 64); },
         [&](int i) { synthesizer.midiEvent(i % 2 == 0 ? 0x90 : 0x80, 60, 100); }};
-    for (const int messages : {500, 16000, 20000}) { // the queue holds 16384
+    for (const int messages : {500, 16000, 20000}) { // the queue has room for 16384
         for (const auto& storm : storms) {
             synthesizer.midiEvent(0x90, 60, 100);
             EXPECT_GT(nextPeak(synthesizer), 0.01F);
@@ -41,7 +41,7 @@ TEST(Synthesizer, LosesNoEndOfANoteHoweverMuchComesAtOnce)
     }
 }
 
-TEST(Synthesizer, SoundsTheSameForTheSameMessagesOnTheChannelsOfPitchClasses)
+TEST(Synthesizer, IsDeterministicAndSilentOnUnusedChannels)
 {
     const auto play = [](int channel) {
         Synthesizer fresh(kRate, {kBank});
@@ -61,13 +61,14 @@ TEST(Synthesizer, SoundsTheSameForTheSameMessagesOnTheChannelsOfPitchClasses)
     }
 }
 
-TEST(Synthesizer, PassesOverABankThatCannotBeLoaded)
+TEST(Synthesizer, SkipsSoundFontsThatCannotBeLoaded)
 {
     const auto broken = std::filesystem::path(testing::TempDir()) / "broken.sf2";
     std::ofstream(broken) << "RIFF\x10sfbk";
     EXPECT_EQ(Synthesizer(kRate, {"/nowhere/bank.sf2", broken, kBank}).bank(), kBank);
 
-    EXPECT_THROW(Synthesizer(192000.0, {kBank}), std::runtime_error) << "out of tune";
+    EXPECT_THROW(Synthesizer(192000.0, {kBank}), std::runtime_error)
+        << "FluidSynth would be out of tune";
 
     Synthesizer silent(kRate, {broken});
     for (int status = 0x80; status < 0x100; ++status)

@@ -19,7 +19,8 @@
 
 namespace velmora {
 
-/// The keys from which on a stop plays another sound, with its root key: "0 -, 36 Flute 60,".
+/// Lists each key of a stop from which on the sound changes, with that sound and its root key, as
+/// in "0 -, 36 Flute 60,".
 inline std::string keysOf(const ALInstrument& instrument, std::size_t stop)
 {
     std::map<ALint, std::string> names;
@@ -40,7 +41,8 @@ inline std::string keysOf(const ALInstrument& instrument, std::size_t stop)
     return result;
 }
 
-/// The cents by which a key of the first stop is off in meantone, when equal A is `hertzOfA`.
+/// Returns the error, in cents, of a key of the first stop in meantone. In equal temperament key 69
+/// should sound at `hertzOfA`.
 inline double centsOff(ALInstrument& instrument, OpenALLoopback& loopback, std::size_t key,
                        double hertzOfA)
 {
@@ -53,9 +55,9 @@ inline double centsOff(ALInstrument& instrument, OpenALLoopback& loopback, std::
     return cents(measuredHertz(std::span(sound.left).subspan(4'000), 48'000, hertz), hertz);
 }
 
-/// What a reader of sample banks makes of a file in memory, in an OpenAL of its own.
+/// The result of importing a sample bank from memory, with its own OpenAL device.
 template <void (*reader)(const RIFF::File&, Import&)> class ImportedBank {
-    OpenALLoopback loopback_{48'000}; // first, and so gone last
+    OpenALLoopback loopback_{48'000}; // first, so that it is destroyed last
 
 public:
     explicit ImportedBank(const std::string& bytes, std::size_t cancelAfter = SIZE_MAX)
@@ -82,8 +84,8 @@ public:
 
     RecordingHost host;
     std::string error = "none";
-    std::string sounds;  ///< name, channels, hertz and bytes of each
-    std::string skipped; ///< names of what was left out, and why
+    std::string sounds;  ///< The name, channels, sample rate and bytes of each sound.
+    std::string skipped; ///< What was skipped, and why.
     Import import{host};
 };
 

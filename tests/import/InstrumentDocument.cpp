@@ -1,6 +1,7 @@
 #include "import/InstrumentDocument.h"
 
 #include "import/ImportedBank.h"
+#include "support/Log.h"
 #include "support/OrganFolder.h"
 
 #include <regex>
@@ -9,12 +10,13 @@ namespace velmora {
 
 namespace {
 
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Pair;
 
-/// Stop 1, of the second of its sections, has pipes on keys 45 and 47 and placeholders; the section
-/// behind it is for a stop 3. The last line has no end.
+/// Stop 1 is defined twice; the second definition has pipes on keys 45 and 47, and placeholders.
+/// There is no stop 2. The last line is not terminated.
 const std::string kTextOrgan = "\xEF\xBB\xBF[Organ]\nChurchName=Sch\xF6ntal\n;ChurchName=\n\nno\n"
                                "[Manual001]\nFirstAccessibleKeyMIDINoteNumber=36\n[\n=\n"
                                "[Stop001]\nPipe001=flute\\C.wav\n[Stop001]\nName=Principal=8\n"
@@ -22,7 +24,7 @@ const std::string kTextOrgan = "\xEF\xBB\xBF[Organ]\nChurchName=Sch\xF6ntal\n;Ch
                                "Pipe013=REF:1:1:1\nPipe099=flute\\c.wav\n"
                                "[Stop003]\nPipe001=flute\\c.wav\n[Organ]";
 
-/// Of an organ whose flute of 500 Hz is on that key.
+/// The frequency of A in equal temperament if `key` sounds at 500 Hz.
 double hertzOfA(std::size_t key)
 {
     return 500.0 * equal.getPitch(69) / equal.getPitch(key);
@@ -36,8 +38,8 @@ protected:
         folder_.writeSine(folder + "a.wav", 880.0);
     }
 
-    /// An organ whose rank 7 has pipes on keys 62, 60 by default, and 64, without its file; rank 8
-    /// has two on key 69, and one without a key.
+    /// Writes an organ. Rank 7 has pipes on keys 62, 60 (the default) and 64; the file of the last
+    /// is missing. Rank 8 has two pipes on key 69, and one on an invalid key.
     std::filesystem::path writeXml(const std::string& number, const std::string& licence) const
     {
         for (const std::string package : {"000123", "5 other"})
@@ -67,7 +69,7 @@ protected:
         return document_.read(path, instrumentFormatOf(path).value(), host_);
     }
 
-    /// What the document holds, in a line.
+    /// Describes the document in one line.
     std::string summary() const
     {
         const ImportReport& report = document_.report();
@@ -91,61 +93,63 @@ TEST_F(InstrumentDocumentTest, LoadsAnXmlOrgan)
 {
     ASSERT_TRUE(read(writeXml("123", "0"))) << document_.errorString();
     EXPECT_EQ(summary(), "St. Anne, Flute: 2 ranks, 4 pipes, 2 samples");
-    EXPECT_EQ(instrument().getVolume(1), 0.0F) << "just the first stop is heard";
+    EXPECT_EQ(instrument().getVolume(1), 0.0F) << "only the first stop is drawn";
     EXPECT_EQ(document_.size(), 4 * 192'000) << "a shared sound counts each time";
     EXPECT_THAT(host_.calls,
                 ElementsAre("start 6", "1 Flute\\C.wav", "1 Flute\\C.wav", "1 Flute\\none.wav",
                             "1 flute/A.WAV", "1 x.wav", "1 Flute\\C.wav", "0 Done 6"));
     EXPECT_THAT(document_.report().skipped,
-                ElementsAre(Pair("pipe 5", "is for MIDI note 200, which does not exist"),
+                ElementsAre(Pair("pipe 5", "is for MIDI note 200, which is outside 0 to 127"),
                             Pair(HasSubstr("/000123/flute/none.wav"), HasSubstr("No such file"))));
     EXPECT_EQ(keysOf(instrument(), 0), "0 Flute\\C.wav 60, 61 -, 62 Flute\\C.wav 62,");
     EXPECT_EQ(keysOf(instrument(), 1), "0 A.WAV 69, 69 Flute\\C.wav 69, 70 A.WAV 69,")
-        << "the first of two pipes on a key goes beyond";
+        << "the first of two pipes on a key is extended";
     EXPECT_EQ(instrument().stops().at(0).extended.count(), 60U + 65U);
     EXPECT_NEAR(centsOff(instrument(), loopback_, 62, hertzOfA(62)), 0.0, 0.25);
     EXPECT_NEAR(centsOff(instrument(), loopback_, 48, hertzOfA(60)), 0.0, 0.5) << "at half speed";
 
     ASSERT_TRUE(read(writeXml("77", "0"))) << document_.errorString();
-    EXPECT_TRUE(instrument().sounds.contains("5/Flute\\C.wav")) << "the package of the samples";
+    EXPECT_TRUE(instrument().sounds.contains("5/Flute\\C.wav"))
+        << "found in the folder of the package";
 }
 
-TEST_F(InstrumentDocumentTest, LoadsAnOrganOfVersion1WithAnyLineEnds)
+TEST_F(InstrumentDocumentTest, LoadsAVersion1OrganWithAnyLineEnds)
 {
     writeFlute("flute/");
     for (const std::string lineEnd : {"\r\n", "\n", "?\n"}) {
         const auto file = std::regex_replace(kTextOrgan, std::regex("\n"), lineEnd);
         host_.calls.clear();
         ASSERT_TRUE(read(folder_.write("anne.organ", file))) << document_.errorString();
-        const std::string name = lineEnd == "\n" ? "" : "Sch\u00F6ntal"; // a section begins anew
+        const std::string name =
+            lineEnd == "\n" ? "" : "Sch\u00F6ntal"; // the last section replaces the first
         EXPECT_EQ(summary(), name + ", Principal=8: 1 ranks, 2 pipes, 2 samples") << lineEnd;
         EXPECT_THAT(host_.calls,
                     ElementsAre("start 6", "1 flute\\C.wav", "1 DUMMY", "1 Flute/A.wav",
                                 "1 REF:1:1:1", "1 flute\\c.wav", "1 flute\\c.wav", "0 DONE"));
         EXPECT_THAT(document_.report().skipped,
-                    ElementsAre(Pair("Stop001 Pipe011", "names no file: \"DUMMY\""),
-                                Pair("Stop001 Pipe013", "names no file: \"REF:1:1:1\""),
+                    ElementsAre(Pair("Stop001 Pipe011", "does not name a file: \"DUMMY\""),
+                                Pair("Stop001 Pipe013", "does not name a file: \"REF:1:1:1\""),
                                 Pair("Stop001 Pipe099", HasSubstr("MIDI note 134")),
-                                Pair("Stop003 Pipe001", HasSubstr("does not follow"))));
+                                Pair("Stop003 Pipe001", HasSubstr("lower number is missing"))));
         EXPECT_EQ(keysOf(instrument(), 0), "0 c.WAV 45, 46 -, 47 a.wav 47,");
     }
     EXPECT_NEAR(centsOff(instrument(), loopback_, 45, hertzOfA(45)), 0.0, 0.25);
 }
 
-TEST_F(InstrumentDocumentTest, RefusesWhatCannotSoundAndStaysAsItWas)
+TEST_F(InstrumentDocumentTest, IsUnchangedIfAFileCannotBeRead)
 {
     ASSERT_TRUE(read(writeXml("123", "0")));
     const std::pair<std::filesystem::path, std::string> rows[] = {
         {"/none.organ", "none.organ: cannot be read (No such file or directory)"},
         {folder_.write("b/empty.organ", "Pipe001=c.wav\n"),
-         "empty.organ: has no pipe with a sample file"},
-        {folder_.write("b/lost.organ", kTextOrgan),
-         "lost.organ: has nothing to sound: of 2 sample files none can be decoded, such as /"},
+         "empty.organ: cannot be played: no pipe has a sample file"},
+        {folder_.write("b/lost.organ", kTextOrgan), "lost.organ: cannot be played: none of the "
+                                                    "2 sample files can be decoded, for example /"},
         {folder_.write("b/broken.xml", "<?xml?>\n<a x=1>"), "broken.xml, line 2: the value"},
         {folder_.write("b/other.xml", "<?xml?><organ></organ>"),
-         "other.xml: is no organ definition"},
+         "other.xml: is not an organ definition"},
         {folder_.write("b/bare.xml", xmlOrganDefinition({{"_General", {}}})),
-         "bare.xml: has no list of objects of the type Pipe_SoundEngine01_Layer"},
+         "bare.xml: has no object list of the type Pipe_SoundEngine01_Layer"},
         {writeXml("123", "1"), "anne.Organ_Hauptwerk_xml: cannot be loaded: its samples are "
                                "encrypted and need a licence"},
     };
@@ -154,9 +158,12 @@ TEST_F(InstrumentDocumentTest, RefusesWhatCannotSoundAndStaysAsItWas)
         EXPECT_THAT(document_.errorString(), testing::StartsWith(sentence));
     }
     EXPECT_EQ(summary(), "St. Anne, Flute: 2 ranks, 4 pipes, 2 samples");
+    EXPECT_THAT(logOf([&] { read("/none.organ"); }),
+                AllOf(HasSubstr("Couldn't open File '/none.organ'"),
+                      HasSubstr("/none.organ: cannot be read (No such file or directory)")));
 }
 
-TEST_F(InstrumentDocumentTest, LeavesNothingBehindWhenCancelled)
+TEST_F(InstrumentDocumentTest, FreesEverythingWhenCancelled)
 {
     host_ = RecordingHost(2);
     EXPECT_FALSE(read(writeXml("123", "0")));

@@ -9,7 +9,7 @@ namespace velmora {
 
 namespace {
 
-TEST(OrganDefinition, KeepsTheValueOfTheRowBeforeForAMissingFullName)
+TEST(OrganDefinition, KeepsThePreviousValueOfAMissingField)
 {
     const std::string file = "SampleFilename=a\\b.wav,InstallationPackageID=5";
     OrganDefinition organ = readOrganDefinition(xmlOrganDefinition(

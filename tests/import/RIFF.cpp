@@ -15,7 +15,7 @@ namespace {
 
 const auto view = [](const std::string& bytes) { return std::as_bytes(std::span(bytes)); };
 
-/// "list(chunk(data)...)": the tree below an element.
+/// Shows the tree below an element as "list(chunk(data)...)".
 std::string shown(const RIFF::Chunk& element)
 {
     const auto data = element.read<char>();
@@ -30,7 +30,7 @@ std::string shown(const RIFF::Chunk& element)
 
 } // namespace
 
-TEST(RIFF, ReadsTheTreeAsFarAsParentAndFileReach)
+TEST(RIFF, LimitsDataToTheParentAndTheFile)
 {
     const std::string good = file("bank", list("deep", chunk("data", "1234")) + chunk("next", "n"));
     const auto resized = [&good](std::size_t at, std::size_t size) {
@@ -38,24 +38,25 @@ TEST(RIFF, ReadsTheTreeAsFarAsParentAndFileReach)
     };
     const std::string uncounted = "LIST\x0D" + std::string(3, '\0') + "deep" + chunk("odd ", "1");
     for (const auto& [what, bytes, expected] : {
-             std::tuple{"file of no size", resized(4, 0), "bank()"},
-             {"odd", file("bank", chunk("odd ", "abc") + chunk("zero", "") + list("void", "")),
+             std::tuple{"file size of 0", resized(4, 0), "bank()"},
+             {"odd sizes",
+              file("bank", chunk("odd ", "abc") + chunk("zero", "") + list("void", "")),
               "bank(odd (abc)zero()void())"},
-             {"pad byte beyond its list", file("bank", uncounted + chunk("next", "n")),
+             {"uncounted pad byte", file("bank", uncounted + chunk("next", "n")),
               "bank(deep(odd (1))next(n))"},
-             {"cut in data", good.substr(0, 35), "bank(deep(data(123)))"},
-             {"file too long", resized(4, 0x7FFFFFFF), "bank(deep(data(1234))next(n))"},
-             {"bytes behind", good + "left12345678", "bank(deep(data(1234))next(n))"},
+             {"truncated data", good.substr(0, 35), "bank(deep(data(123)))"},
+             {"file size too large", resized(4, 0x7FFFFFFF), "bank(deep(data(1234))next(n))"},
+             {"bytes after the end", good + "left12345678", "bank(deep(data(1234))next(n))"},
              {"chunk longer than its list", resized(28, 12), "bank(deep(data(1234)))"},
-             {"list too long", resized(16, 0x7FFFFFFF), "bank(deep(data(1234)next(n)))"},
+             {"list size too large", resized(16, 0x7FFFFFFF), "bank(deep(data(1234)next(n)))"},
          })
         EXPECT_EQ(shown(RIFF::File(view(bytes))), expected) << what;
     std::string nested;
     for (int i = 0; i < 33; ++i)
         nested = list("deep", nested);
-    EXPECT_THROW(RIFF::File(view(file("bank", nested))), FormatError) << "too deep";
+    EXPECT_THROW(RIFF::File(view(file("bank", nested))), FormatError) << "nested too deeply";
     const std::string zeroes((std::size_t{8} << 21) + 16, '\0');
-    EXPECT_THROW(RIFF::File(view(file("bank", zeroes))), FormatError) << "too many";
+    EXPECT_THROW(RIFF::File(view(file("bank", zeroes))), FormatError) << "too many chunks";
 }
 
 TEST(RIFF, FindsByIdAndListTypeAndReadsRecords)
@@ -64,7 +65,7 @@ TEST(RIFF, FindsByIdAndListTypeAndReadsRecords)
     const RIFF::File root(view(bytes));
     const auto* data = root.get<RIFF::Chunk>(code("both"));
     EXPECT_EQ(data, root.children[0].get());
-    EXPECT_EQ(root.get<RIFF::List>(code("both")), nullptr) << "the first is no list";
+    EXPECT_EQ(root.get<RIFF::List>(code("both")), nullptr) << "the first is not a list";
     EXPECT_THAT(root.all<RIFF::List>(code("both")), ElementsAre(nullptr, root.children[1].get()));
     EXPECT_TRUE(root.all<RIFF::List>(code("none")).empty());
 

@@ -10,13 +10,13 @@ using namespace riff;
 namespace {
 
 using SoundFont = ImportedBank<readSoundFont>;
-using Zone = std::vector<std::size_t>; // generators, each with its amount
+using Zone = std::vector<std::size_t>; // pairs of a generator and its amount
 using Instruments = std::vector<std::pair<std::string, std::vector<Zone>>>;
 enum : std::size_t { kRange = 43, kSample = 53, kRoot = 58 };
 const auto range = [](std::size_t lo, std::size_t hi) { return lo | hi << 8; };
 const auto field = [](const std::string& s) { return s + std::string(20 - s.size(), '\0'); };
 
-/// Points from `start` to `end` of the pool.
+/// A sample header for the points from `start` to `end` of the pool.
 std::string sample(const std::string& name, std::size_t start, std::size_t end,
                    std::size_t pitch = 60, std::size_t type = 1, std::size_t rate = 8000)
 {
@@ -43,7 +43,7 @@ std::string soundFont(const std::string& headers, const std::string& pool = std:
 
 } // namespace
 
-TEST(SoundFont, LaysZonesOnKeys)
+TEST(SoundFont, AssignsZonesToKeys)
 {
     const Instruments instruments = {
         {"Overlaps",
@@ -55,9 +55,9 @@ TEST(SoundFont, LaysZonesOnKeys)
     const std::string headers = sample("a", 0, 10, 61) + sample("b", 10, 20, 62);
     const SoundFont font(soundFont(headers, std::string(40, 'p'), instruments));
     EXPECT_EQ(font.import.name, "The Bank");
-    EXPECT_EQ(font.keys(0), "0 -, 40 a 61, 45 b 48, 61 -, 120 b 62,") << "a root of 0 is none";
+    EXPECT_EQ(font.keys(0), "0 -, 40 a 61, 45 b 48, 61 -, 120 b 62,") << "a root of 0 is ignored";
     EXPECT_EQ(font.keys(1), "0 a 61, 1 -, 5 a 61, 6 -,") << "without a range: key 0";
-    EXPECT_EQ(font.skipped, "Lost \xC3\xA9: it names sample 3 of 2. ");
+    EXPECT_EQ(font.skipped, "Lost \xC3\xA9: it refers to sample 3, but there are only 2. ");
     EXPECT_EQ(font.import.instrument->getVolume(0), 1.0F);
     EXPECT_EQ(font.import.report.pipes, 5U + 16 + 8 + 2);
 }
@@ -70,7 +70,7 @@ TEST(SoundFont, ReadsSamples)
         sample("twice", 0, 30) + sample("cut", 95, 110) + sample("backwards", 9, 8)));
     EXPECT_EQ(font.sounds, "ROM: 2 8000 20. cut: 1 8000 10. left: 1 44100 20. "
                            "linked: 2 22050 40. twice: 1 8000 60. ");
-    EXPECT_EQ(font.skipped, "beyond: its data is not in the file. backwards: is empty. ");
+    EXPECT_EQ(font.skipped, "beyond: the file does not contain its data. backwards: is empty. ");
     EXPECT_EQ(font.import.instrument->usage, 20 + 40 + 20 + 4 + 60 + 10);
 }
 
@@ -84,24 +84,24 @@ TEST(SoundFont, ReportsProgress)
         ASSERT_EQ(calls.size(), 2 + samples / step);
         EXPECT_EQ(calls[0], fmt::format("start {}", samples));
         EXPECT_EQ(calls[1], fmt::format("{} {}", step, step));
-        EXPECT_EQ(calls.back(), fmt::format("{} Done %k", samples % step));
+        EXPECT_EQ(calls.back(), fmt::format("{} Done: {} samples", samples % step, samples));
         EXPECT_THROW(SoundFont(soundFont(headers), 0), Cancelled);
     }
 }
 
-TEST(SoundFont, RefusesWhatCannotSound)
+TEST(SoundFont, RejectsBanksThatCannotSound)
 {
     const std::string good = soundFont(sample("a", 0, 9));
     const auto broken = [&good](const std::string& at, std::size_t skip, const std::string& with) {
         return SoundFont(std::string(good).replace(good.find(at) + skip, with.size(), with)).error;
     };
     for (const std::string id : {"sdta", "smpl", "pdta", "INFO", "shdr", "inst", "ibag", "igen"})
-        EXPECT_EQ(broken(id, 0, "none"), "f: has no \"" + id + "\"");
+        EXPECT_EQ(broken(id, 0, "none"), "f: is missing the chunk \"" + id + "\"");
     EXPECT_EQ(broken("RIFF", 0, "r"), "f: is not a RIFF file");
-    EXPECT_EQ(broken("shdr", 4, "."), "f: holds no instruments") << "46 bytes";
-    EXPECT_EQ(broken("inst", 50, "c"), "none") << "zones beyond the last";
-    EXPECT_EQ(broken("inst", 28, "c"), "f, byte 280: the indices of \"inst\" go back");
-    EXPECT_EQ(broken("ibag", 8, "c"), "f, byte 332: the indices of \"ibag\" go back");
+    EXPECT_EQ(broken("shdr", 4, "."), "f: has no instruments") << "46 bytes";
+    EXPECT_EQ(broken("inst", 50, "c"), "none") << "zones after the last";
+    EXPECT_EQ(broken("inst", 28, "c"), "f, byte 280: the indices in \"inst\" decrease");
+    EXPECT_EQ(broken("ibag", 8, "c"), "f, byte 332: the indices in \"ibag\" decrease");
 }
 
 TEST(SoundFont, SoundsInTune)

@@ -8,7 +8,7 @@ namespace velmora {
 
 namespace {
 
-/// A note in beats.
+/// A note with times in beats.
 MidiEvent note(int key, double beats, float duration)
 {
     return {beats, duration, MidiEvent::Kind::Note, 0, static_cast<std::uint8_t>(key), 64};
@@ -23,11 +23,11 @@ std::string melody(const std::vector<MidiEvent>& notes)
 
 } // namespace
 
-TEST(IMelody, WritesTheWholeText)
+TEST(IMelody, WritesHeadersAndFoldsLines)
 {
     EXPECT_EQ(writeIMelody({}), "BEGIN:IMELODY\r\nVERSION:1.2\r\nFORMAT:CLASS1.0\r\nBEAT:120\r\n"
                                 "STYLE:S0\r\nVOLUME:V7\r\nMELODY:r2\r\nEND:IMELODY\r\n");
-    // 34 notes of two characters fill a line of 75; behind the space that goes on with it, 37.
+    // 34 notes of two characters fill the first line of 75, 37 a continuation line.
     std::vector<MidiEvent> repeated;
     std::string expected;
     for (int i = 0; i < 72; ++i) {
@@ -49,10 +49,11 @@ TEST(IMelody, NamesKeysAndLengths)
               " 0 0 5 2. 2: 2; 5; 0: 2");
 }
 
-TEST(IMelody, KeepsItsPlaceInTime)
+TEST(IMelody, DoesNotAccumulateRoundingErrors)
 {
     EXPECT_EQ(melody({note(72, 1.0, 0.5F), note(74, 3.0, 1.0F)}), "r2c3r2.d2");
-    EXPECT_EQ(melody({note(72, 0.0, 5.5F), note(74, 5.0, 1.0F)}), "c0r2d2") << "six would be late";
+    EXPECT_EQ(melody({note(72, 0.0, 5.5F), note(74, 5.0, 1.0F)}), "c0r2d2")
+        << "a longer note would delay the next";
     EXPECT_EQ(melody({note(72, 0.0, 0.95F), note(74, 1.0, 0.95F)}), "c2d2") << "detached";
     std::vector<MidiEvent> fifths, grace;
     for (int i = 0; i < 10; ++i) {
@@ -60,7 +61,7 @@ TEST(IMelody, KeepsItsPlaceInTime)
         grace.push_back(note(72 + i % 2, i / 16.0, 1.0F / 16));
     }
     EXPECT_EQ(melody(fifths), "c5.#c5:c5.#c5:c5.#c5.c5:#c5.c5:#c5.") << "two beats in all";
-    EXPECT_EQ(melody(grace), "c5;#c5;c5;c5;#c5;c5;c5;#c5;") << "two are left out";
+    EXPECT_EQ(melody(grace), "c5;#c5;c5;c5;#c5;c5;c5;#c5;") << "two are omitted";
 }
 
 TEST(IMelody, FollowsTheHighestNote)
@@ -68,12 +69,14 @@ TEST(IMelody, FollowsTheHighestNote)
     const MidiEvent bass = note(60, 0.0, 4.0F);
     for (const auto& [what, notes, text] :
          std::vector<std::tuple<const char*, std::vector<MidiEvent>, std::string>>{
-             {"comes back", {bass, note(72, 1.0, 1.0F)}, "*3c2c2*3c1"},
-             {"peeps out", {bass, note(72, 1.0, 0.8F), note(72, 2.0, 2.0F)}, "*3c2c3.r4c1"},
-             {"chord let go", {note(72, 0.0, 1.0F), note(76, 0.0, 0.97F)}, "e2"},
+             {"returns to the bass", {bass, note(72, 1.0, 1.0F)}, "*3c2c2*3c1"},
+             {"short gap between high notes",
+              {bass, note(72, 1.0, 0.8F), note(72, 2.0, 2.0F)},
+              "*3c2c3.r4c1"},
+             {"released chord", {note(72, 0.0, 1.0F), note(76, 0.0, 0.97F)}, "e2"},
              {"legato downwards", {note(76, 0.0, 0.15F), note(72, 0.125, 0.15F)}, "e4;c5"},
              {"struck again", {note(72, 0.0, 2.0F), note(72, 1.0, 0.5F)}, "c2c2"},
-             {"below", {note(72, 0.0, 2.0F), note(71, 0.5, 1.0F)}, "c1"}})
+             {"lower note", {note(72, 0.0, 2.0F), note(71, 0.5, 1.0F)}, "c1"}})
         EXPECT_EQ(melody(notes), text) << what;
 }
 

@@ -19,7 +19,7 @@ namespace {
 
 using Message = std::vector<std::uint8_t>;
 
-/// Gathers what the receive threads bring.
+/// Collects the messages from the receive threads.
 struct Inbox {
     void operator()(std::span<const std::uint8_t> bytes)
     {
@@ -28,7 +28,7 @@ struct Inbox {
         arrived.notify_all();
     }
 
-    /// All that has arrived once there are `count`.
+    /// Waits for `count` messages and returns all.
     std::vector<Message> wait(std::size_t count)
     {
         std::unique_lock lock(mutex);
@@ -43,19 +43,20 @@ struct Inbox {
 
 } // namespace
 
-TEST(MidiInputs, EveryMessageOfEverySourceArrivesInOrder)
+TEST(MidiInputs, ReceiveEveryMessageOfEverySourceInOrder)
 {
     std::optional<JackServer> server(std::in_place);
     MidiSource source("organ", {"great", "swell"});
     Inbox inbox;
     const MidiInputs inputs(std::ref(inbox));
     if (inputs.api() == "ALSA")
-        GTEST_SKIP() << "this machine has an ALSA sequencer, which goes before JACK";
+        GTEST_SKIP() << "this machine has an ALSA sequencer, which is preferred to JACK";
     EXPECT_THAT(inputs.names(), ElementsAre("organ:great", "organ:swell"));
     std::this_thread::sleep_for(100ms); // until the connections take effect
     for (const Message& message : {Message{0xF8}, {0xF0, 0x7D, 1, 0xF7}, {0xD0, 5}})
         source.send(0, message);
-    EXPECT_THAT(inbox.wait(1), ElementsAre(Message{0xD0, 5})) << "timing and exclusive go";
+    EXPECT_THAT(inbox.wait(1), ElementsAre(Message{0xD0, 5}))
+        << "timing and exclusive messages are ignored";
     source.send(1, {0xB0, 7, 127});
     EXPECT_EQ(inbox.wait(2).back(), (Message{0xB0, 7, 127}));
     for (int i = 0; i < 1000; ++i)
@@ -66,9 +67,9 @@ TEST(MidiInputs, EveryMessageOfEverySourceArrivesInOrder)
         ASSERT_EQ(all[2 + i][1], i % 128);
     for (int i = 0; i < 10; ++i) {
         source.send(0, {0x90, 60, 1});
-        const MidiInputs others(std::ref(inbox)); // which go while messages come
+        const MidiInputs others(std::ref(inbox)); // destroyed while messages arrive
     }
-    server.reset(); // before the inputs go
+    server.reset(); // before the inputs are destroyed
 }
 
 } // namespace velmora

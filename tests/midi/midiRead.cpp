@@ -9,7 +9,7 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// Writes down what it is called with.
+/// Records its calls.
 struct RecordingInput : public LiveInput {
     void keyOn(int key, float value) override
     {
@@ -25,7 +25,8 @@ struct RecordingInput : public LiveInput {
     std::string calls;
 };
 
-/// What `packets` call, each in a buffer of its size, where a read beyond its end is seen.
+/// Returns the calls that `packets` result in. Each packet has its own buffer, so that sanitizers
+/// detect reads past its end.
 std::string read(const std::vector<Bytes>& packets)
 {
     RecordingInput input;
@@ -35,7 +36,7 @@ std::string read(const std::vector<Bytes>& packets)
 
 } // namespace
 
-TEST(MidiRead, TurnsPacketsIntoCalls)
+TEST(MidiRead, CallsTheInputForEachMessage)
 {
     for (const auto& [name, packets, calls] :
          std::vector<std::tuple<const char*, std::vector<Bytes>, const char*>>{
@@ -47,17 +48,21 @@ TEST(MidiRead, TurnsPacketsIntoCalls)
               {{0x90, 0, 1, 0x91, 4, 127}, {}, {0x90, 7, 127}},
               "on 0 0.008, on 4 1.000, on 7 1.000, told"},
              {"volumes", {{0xB0, 7, 127, 0xB5, 11, 0}}, "volume 0 1.000, volume 1 0.000, "},
-             {"more", {{0xB0, 76, 64, 0xB0, 78, 1}}, "volume 2 0.504, volume 4 0.008, "},
+             {"volumes of other stops",
+              {{0xB0, 76, 64, 0xB0, 78, 1}},
+              "volume 2 0.504, volume 4 0.008, "},
              {"other controllers", {{0xB0, 64, 127, 0xB0, 75, 1, 0xB0, 79, 1}}, ""},
-             {"bend", {{0xE0, 7, 0}}, "volume 0 0.000, "},
-             {"pressure is two bytes", {{0xD0, 80, 0x90, 60, 127}}, "on 60 1.000, told"},
-             {"program change is three", {{0xC0, 5, 0x90, 60, 64}}, "off 60, "},
-             {"a data byte and a slider's", {{60, 7, 127}}, "volume 0 1.000, off 60, "},
-             {"four bytes", {{60, 64, 1, 1, 0x90, 62, 127}}, "off 60, on 62 1.000, told"},
-             {"data behind a note", {{0x90, 60, 127, 64, 127}}, "on 60 1.000, off 64, told"}})
+             {"bend is read as a controller", {{0xE0, 7, 0}}, "volume 0 0.000, "},
+             {"pressure has two bytes", {{0xD0, 80, 0x90, 60, 127}}, "on 60 1.000, told"},
+             {"program change takes three bytes", {{0xC0, 5, 0x90, 60, 64}}, "off 60, "},
+             {"data bytes are read as a controller", {{60, 7, 127}}, "volume 0 1.000, off 60, "},
+             {"data bytes take four bytes",
+              {{60, 64, 1, 1, 0x90, 62, 127}},
+              "off 60, on 62 1.000, told"},
+             {"data after a note", {{0x90, 60, 127, 64, 127}}, "on 60 1.000, off 64, told"}})
         EXPECT_EQ(read(packets), calls) << name;
     for (const Bytes& cut : {Bytes{0x90}, {0x90, 60}, {0x80, 60}, {0xB0, 7}, {0xD0}, {0xF8}})
-        EXPECT_EQ(read({cut, {0xB0, 7, 0}}), "volume 0 0.000, ") << "cut short: " << int{cut[0]};
+        EXPECT_EQ(read({cut, {0xB0, 7, 0}}), "volume 0 0.000, ") << "truncated: " << int{cut[0]};
 }
 
 } // namespace velmora

@@ -32,7 +32,7 @@ public:
     {
         const std::lock_guard lock(mutex_);
         for (int i = 0; i < 400; ++i)
-            if (!isHeard(peak(rendered(source_, kRate / 10).left)))
+            if (!isAudible(peak(rendered(source_, kRate / 10).left)))
                 return true;
         return false;
     }
