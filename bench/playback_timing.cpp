@@ -100,16 +100,16 @@ int main(int argc, char** argv)
     QObject::connect(window->findChild<QOpenGLWidget*>(), &QOpenGLWidget::frameSwapped, &qt,
                      [&] { ++frames; });
     QObject::connect(
-        &document, &SequenceDocument::modeChanged, &qt,
+        &document.transport(), &Transport::modeChanged, &qt,
         [&] {
-            if (document.mode() == SequenceDocument::Mode::Stopped)
+            if (document.transport().mode() == Transport::Mode::Stopped)
                 QApplication::exit();
         },
         Qt::QueuedConnection);
     QTimer::singleShot(1000, &qt, [&] {
         frames = 0;
         started = getTime();
-        document.play();
+        document.transport().play();
     });
     QApplication::exec();
     const double seconds = getTime() - started;

@@ -72,11 +72,11 @@ int main(int argc, char** argv)
     QApplication::exec();
     selectTenth(*window->document().edit());
     const RollGeometry geometry = view.rollGeometry();
-    const RollQuad grip = geometry.note(window->document().getSequence().notes()[0]);
+    const RollQuad grip = geometry.note(window->document().sequence().notes()[0]);
     const QPointF place((grip.left + grip.right) / 2, view.height() - 1 - geometry.yOf(0.5));
     sendMouse(view, QEvent::MouseButtonPress, place, Qt::LeftButton);
     fmt::print("{} notes selected, a roll of {} x {} pixels\n",
-               window->document().getSequence().selection().size(), view.width(), view.height());
+               window->document().sequence().selection().size(), view.width(), view.height());
     measure("dragging", view, [&](std::size_t frame) {
         const auto way = static_cast<double>(frame % 200);
         sendMouse(view, QEvent::MouseMove, place - QPointF(0, way), Qt::LeftButton);

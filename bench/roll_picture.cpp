@@ -22,14 +22,14 @@ void repaint(benchmark::State& state, bool edited)
     SequenceDocument document(host);
     addManyNotes(*document.edit());
     RollIndex index;
-    index.rebuild(document.getSequence().notes());
+    index.rebuild(document.sequence().notes());
     const RollGeometry geometry{14,     static_cast<int>(state.range(0)),
                                 294.0,  kManySteps / 2 * static_cast<double>(state.range(0)),
                                 1232.0, 1000.0};
     RollPicture picture;
     for (auto _ : state) {
         if (edited)
-            index.rebuild(document.getSequence().notes());
+            index.rebuild(document.sequence().notes());
         picture.draw(geometry, RollColors(QPalette()), 1.0, document, index);
         benchmark::DoNotOptimize(picture.vertices().data());
     }
@@ -44,7 +44,7 @@ void dragSelection(benchmark::State& state)
     addManyNotes(*document.edit());
     SequenceEditor editor(document);
     selectTenth(*document.edit());
-    const Note& grip = document.getSequence().notes()[0];
+    const Note& grip = document.sequence().notes()[0];
     const auto key = static_cast<double>(grip.key);
     editor.mouseDown({key, 0.5}, Qt::ShiftModifier); // leaves the others selected
     RollIndex index;
@@ -52,11 +52,11 @@ void dragSelection(benchmark::State& state)
     double step = 0.5;
     for (auto _ : state) {
         editor.mouseDragged({key, step += 0.125});
-        index.rebuild(document.getSequence().notes());
+        index.rebuild(document.sequence().notes());
         picture.draw({14, 8, 294.0, 40'000.0, 1232.0, 1000.0}, RollColors(QPalette()), 1.0,
                      document, index);
     }
-    state.counters["selected"] = static_cast<double>(document.getSequence().selection().size());
+    state.counters["selected"] = static_cast<double>(document.sequence().selection().size());
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 // to walk through all of them.
 
 #include "manyNotes.h"
-#include "sequencer/SequencePlayback.h"
+#include "sequencer/Transport.h"
 
 #include <benchmark/benchmark.h>
 
@@ -34,6 +34,22 @@ void playByIndex(benchmark::State& state)
     for ([[maybe_unused]] auto iteration : state) {
         benchmark::DoNotOptimize(playback.playBetween(position, position + kTick));
         position = after(position);
+    }
+}
+
+/// The whole of a tick, with the clock and the signals.
+void tick(benchmark::State& state)
+{
+    SilentHost host;
+    Sequence sequence = manyNotes();
+    double now = 0.0;
+    Transport transport(host, sequence, [&] { return now; });
+    transport.setExtent(kManySteps);
+    transport.setLoop(true);
+    transport.play();
+    for ([[maybe_unused]] auto iteration : state) {
+        now += 1.0 / 1024.0;
+        transport.tick();
     }
 }
 
@@ -75,6 +91,7 @@ void makeIndex(benchmark::State& state)
 }
 
 BENCHMARK(playByIndex);
+BENCHMARK(tick);
 BENCHMARK(playByPlainWalk);
 BENCHMARK(lookByIndex);
 BENCHMARK(makeIndex);

@@ -21,27 +21,28 @@ SequenceRenderer::SequenceRenderer(Player& player, AudioSource& source)
 bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sink,
                               const RenderProgress& progress)
 {
+    Transport& transport = document_.transport();
     const double begin = options.loop ? options.loop->start : 0.0;
-    const double end = options.loop ? options.loop->end : document_.extent();
+    const double end = options.loop ? options.loop->end : transport.extent();
     const double length = end > begin ? end - begin : 1.0; // an empty sequence has no length
     const int times = options.loop ? options.loop->times : 1;
     if (options.loop)
-        document_.selectInterval(begin, end);
-    document_.setTempo(options.tempo);
-    document_.setLoop(times > 1);
+        transport.selectInterval(begin, end);
+    transport.setTempo(options.tempo);
+    transport.setLoop(times > 1);
 
     int played = 0;
-    document_.play();
-    while (document_.mode() == SequenceDocument::Mode::Playing) {
+    transport.play();
+    while (transport.mode() == Transport::Mode::Playing) {
         if (ticks_ % kTicksPerReport == 0 &&
-            !progress((played + (document_.getOffset() - begin) / length) / times))
+            !progress((played + (transport.position() - begin) / length) / times))
             return false;
         soundUntil(static_cast<double>(++ticks_) * kTick.count(), options.rate, sink);
-        const double before = document_.getOffset();
-        document_.loop();
+        const double before = transport.position();
+        transport.tick();
         // The position goes back only at the end of the loop.
-        if (document_.getOffset() <= before)
-            document_.setLoop(++played < times - 1);
+        if (transport.position() <= before)
+            transport.setLoop(++played < times - 1);
     }
     soundUntil(now_ + options.tailSeconds, options.rate, sink);
     return progress(1.0);

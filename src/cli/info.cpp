@@ -57,9 +57,9 @@ Json describe(const SequenceDocument& document, const std::string& name)
 {
     Json result = {{"name", name},
                    {"isImported", document.isImported()},
-                   {"extent", document.extent()},
+                   {"extent", document.transport().extent()},
                    {"notes", Json::array()}};
-    for (const Note& note : document.getSequence().notes())
+    for (const Note& note : document.sequence().notes())
         result["notes"].push_back({{"key", note.key},
                                    {"channel", note.channel},
                                    {"velocity", note.velocity},

@@ -17,7 +17,7 @@ RecoveryKeeper::RecoveryKeeper(SequenceDocument& document, RecoveryFile file,
     connect(&timer_, &QTimer::timeout, this, &RecoveryKeeper::write);
     connect(&document.undoStack(), &QUndoStack::indexChanged, this, &RecoveryKeeper::edited);
     connect(&document.undoStack(), &QUndoStack::cleanChanged, this, &RecoveryKeeper::edited);
-    connect(&document, &SequenceDocument::modeChanged, this, &RecoveryKeeper::edited);
+    connect(&document.transport(), &Transport::modeChanged, this, &RecoveryKeeper::edited);
 }
 
 RecoveryKeeper::~RecoveryKeeper()
@@ -37,7 +37,7 @@ void RecoveryKeeper::leave()
 
 void RecoveryKeeper::edited()
 {
-    if (!document_.isModified() && document_.mode() != SequenceDocument::Mode::Recording) {
+    if (!document_.isModified() && document_.transport().mode() != Transport::Mode::Recording) {
         timer_.stop();
         waitForWriter();
         file_.discard();
@@ -49,7 +49,7 @@ void RecoveryKeeper::edited()
 void RecoveryKeeper::write()
 {
     // A recording goes on by itself, and a disk that is too slow is given time.
-    if (document_.mode() == SequenceDocument::Mode::Recording || isBusy())
+    if (document_.transport().mode() == Transport::Mode::Recording || isBusy())
         timer_.start();
     if (!document_.isModified() || isBusy())
         return;

@@ -1,16 +1,15 @@
 #include "sequencer/SequenceClock.h"
 
-#include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceTime.h"
+#include "sequencer/Transport.h"
 
 namespace velmora {
 
-SequenceClock::SequenceClock(SequenceDocument& document) : document_(document)
+SequenceClock::SequenceClock(Transport& transport) : transport_(transport)
 {
     // Queued: the tick that ends the playing does not end its own timer.
     connect(
-        &document, &SequenceDocument::modeChanged, this, [this] { adjust(); },
-        Qt::QueuedConnection);
+        &transport, &Transport::modeChanged, this, [this] { adjust(); }, Qt::QueuedConnection);
     adjust();
 }
 
@@ -22,21 +21,21 @@ SequenceClock::~SequenceClock()
 void SequenceClock::end()
 {
     playTimer_.reset();
-    document_.stop();
-    document_.playAhead(nullptr);
+    transport_.stop();
+    transport_.playback().playAhead(nullptr);
     player_.reset();
 }
 
 void SequenceClock::adjust()
 {
-    if (document_.mode() == SequenceDocument::Mode::Stopped) {
+    if (transport_.mode() == Transport::Mode::Stopped) {
         end();
     } else if (!playTimer_) {
-        player_ = std::make_unique<AheadPlayer>(document_.host());
-        document_.playAhead(player_.get());
+        player_ = std::make_unique<AheadPlayer>(transport_.host());
+        transport_.playback().playAhead(player_.get());
         playTimer_ = std::make_unique<IntervalTimer>(
             std::chrono::duration_cast<std::chrono::nanoseconds>(kTick),
-            [this] { document_.loop(); });
+            [this] { transport_.tick(); });
     }
 }
 

@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-class SequenceDocument;
+class Transport;
 
 /// Drives a document 1024 times in a second while it plays or records; what it plays keeps its time
 /// while the main thread is busy. While it stands still nothing that it shows or sounds depends on
@@ -17,14 +17,14 @@ class SequenceDocument;
 class SequenceClock : public QObject {
 public:
     /// Runs as long as it lives, which ends before the document does.
-    explicit SequenceClock(SequenceDocument& document);
+    explicit SequenceClock(Transport& transport);
     ~SequenceClock() override;
 
 private:
     void adjust();
     void end();
 
-    SequenceDocument& document_;
+    Transport& transport_;
     std::unique_ptr<AheadPlayer> player_;
     std::unique_ptr<IntervalTimer> playTimer_;
 };

@@ -3,39 +3,56 @@
 #include "base/File.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
+#include "platform/writeFile.h"
 #include "preferences/Preferences.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceFile.h"
-#include "sequencer/SequenceTime.h"
+#include "sequencer/UnsavedSequence.h"
 
 #include <algorithm>
-#include <cmath>
 #include <new>
+#include <stdexcept>
 #include <utility>
 
 namespace velmora {
 
 namespace {
 
-/// A recording looks at the keys twice in a tick of the clock: so a note is as long, within a tick,
-/// as its key was held.
-constexpr double kRecordingTick = kTick.count() / 2;
+/// One entry of the undo menu. It holds the notes that the edit concerns in the state that the
+/// sequence does not have; undoing and redoing swap the two.
+class SwapNotes : public QUndoCommand {
+public:
+    /// The edit is done already.
+    SwapNotes(SequenceDocument& document, std::vector<NoteState> before, const QString& text)
+        : QUndoCommand(text), document_(document), notes_(std::move(before))
+    {
+    }
 
-/// What is longer ago than a second is caught up with in longer ones: on a machine that is too slow
-/// it would come to ever more.
-constexpr double kMostTicks = 2048.0;
+    void redo() override
+    {
+        if (std::exchange(isPushed_, true)) // the stack redoes a command when it is pushed
+            document_.swap(notes_);
+    }
 
-constexpr unsigned kTicksPerFrame = 16;
+    void undo() override { document_.swap(notes_); }
 
-/// How far a recording runs on after the last key, in steps.
-constexpr double kRecordingRoom = 8.0;
+private:
+    SequenceDocument& document_;
+    std::vector<NoteState> notes_;
+    bool isPushed_ = false;
+};
 
 } // namespace
 
 SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> clock)
-    : host_(host), clock_(std::move(clock)), playback_(host, sequence_), dTime_(clock_())
+    : transport_(host, sequence_, std::move(clock)), recorder_(transport_, sequence_),
+      practice_(transport_, sequence_)
 {
-    host_.liveKeys().clear();
+    connect(&recorder_, &Recorder::ended, this, [this] {
+        registerTake();
+        emit changed();
+    });
+    host.liveKeys().clear();
 }
 
 void SequenceDocument::readFromURL(const std::filesystem::path& path)
@@ -43,9 +60,9 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
     const std::string name = path.filename().string();
     errorString_.clear();
     path_.clear();
-    stop();
+    transport_.stop();
     undoStack_.clear();
-    taken_.clear();
+    recorder_.endTake();
     isImported_ = false;
     double extent = 0.0;
     const Edit edit(*this, {});
@@ -66,222 +83,93 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
     }
     if (!errorString_.empty())
         logger("sequencer").info("{}", errorString_);
-    setExtent(extent);
-    emit frame();
+    transport_.setExtent(extent);
+    emit transport_.frame();
 }
 
-void SequenceDocument::play()
+bool SequenceDocument::saveToURL(const std::filesystem::path& path, const std::string& type,
+                                 SaveOperation operation)
 {
-    if (mode_ == Mode::Playing) {
-        setMode(Mode::Stopped);
-        stop();
-    } else if (mode_ == Mode::Stopped) {
-        dTime_ = clock_();
-        setMode(Mode::Playing);
-        if (intervalSelected() && (offset_ >= selectionEnd_ || offset_ < selectionStart_))
-            doScroll(selectionStart_);
-    }
-    emit frame();
-}
-
-void SequenceDocument::record()
-{
-    if (mode_ == Mode::Recording) {
-        loop(); // what has come since the last tick
-        setMode(Mode::Stopped);
-        edit()->sort();
-        registerTake();
-    } else if (mode_ == Mode::Stopped) {
-        dTime_ = clock_();
-        scrollMax_ = offset_;
-        heldKeys_.reset();
-        setMode(Mode::Recording);
-    }
-    emit frame();
-}
-
-void SequenceDocument::setMode(Mode mode)
-{
-    mode_ = mode;
-    emit modeChanged();
-}
-
-void SequenceDocument::loop()
-{
-    // Before the time is asked for: so the position is behind nothing that has sounded.
-    if (playback_.isPlanShort(clock_()))
-        playback_.takeBack();
-    const double now = clock_();
-    if (mode_ == Mode::Playing)
-        doPlay(now);
-    if (mode_ == Mode::Recording)
-        recordUntil(now);
-    dTime_ = now;
-    // The tick that ends the playing is the last for a while.
-    if (frameCount_++ % kTicksPerFrame == 0 || mode_ == Mode::Stopped)
-        emit frame();
-}
-
-double SequenceDocument::positionAt(double time) const
-{
-    return offset_ + stepsPerSecond(tempo_) * (time - dTime_);
-}
-
-double SequenceDocument::endOfPlaying() const
-{
-    return intervalSelected() ? std::min(selectionEnd_, extent_) : extent_;
-}
-
-void SequenceDocument::doPlay(double now)
-{
-    double next = positionAt(now);
-    if (next <= endOfPlaying()) {
-        if (const auto lastKey = playback_.playBetween(offset_, next))
-            note_ = static_cast<int>(*lastKey);
-    } else {
-        playback_.silenceAll();
-        next = intervalSelected() ? selectionStart_ : 0.0;
-        if (!loop_)
-            play();
-    }
-    doScroll(next);
-    if (mode_ == Mode::Playing)
-        playback_.planAhead(next, now, stepsPerSecond(tempo_), endOfPlaying());
-}
-
-/// Before anything changes that a plan rests on: catches up with what has sounded.
-void SequenceDocument::settle()
-{
-    if (!playback_.takeBack())
-        return;
-    const double now = clock_();
-    const double next = std::max(offset_, std::min(positionAt(now), endOfPlaying()));
-    playback_.playBetween(offset_, next);
-    offset_ = next;
-    dTime_ = now;
-}
-
-void SequenceDocument::stop()
-{
-    settle();
-    playback_.stop();
-}
-
-void SequenceDocument::recordUntil(double now)
-{
-    const double before = offset_;
-    bool activity = false;
-    // A tick that comes late makes up for those before it, so that each key is taken where the
-    // position was when it arrived.
-    const double tick = std::max(kRecordingTick, (now - dTime_) / kMostTicks);
-    while (now - dTime_ > tick) {
-        activity = doRecord(tick) || activity;
-        dTime_ += tick;
-    }
-    activity = doRecord(now - dTime_) || activity;
-    if (offset_ != before)
-        emit scrolled(offset_ - kRoomBelowPosition);
-    if (activity)
-        emit sizeChanged();
-}
-
-bool SequenceDocument::doRecord(double seconds)
-{
-    bool activity = false;
-    for (std::size_t key = 0; key < kKeys; ++key)
-        activity = recordKey(key, dTime_ + seconds) || activity;
-    if (activity)
-        scrollMax_ = offset_ + kRecordingRoom;
-    if (activity || (!snapToGrid_ && offset_ <= scrollMax_))
-        offset_ += stepsPerSecond(tempo_) * seconds;
-    extent_ = offset_ + kRoomBehindLastNote;
-    return activity;
-}
-
-int SequenceDocument::takeKey(std::size_t key, double until)
-{
-    LiveKeys& keys = host_.liveKeys();
-    const double pressed = keys.pressTime(key);
-    const int state = pressed <= until ? keys.take(key) : 0;
-    if (state == kPressed)
-        return kPressed;
-    if (state == kHeld || !(until < keys.releaseTime(key)))
-        return state == kHeld ? kHeld : 0;
-    // It has been released since then.
-    if (heldKeys_[key])
-        return kHeld;
-    return dTime_ < pressed && pressed <= until ? kPressed : 0;
-}
-
-bool SequenceDocument::recordKey(std::size_t key, double until)
-{
-    const int state = takeKey(key, until);
-    heldKeys_[key] = state != 0;
-    if (state == kPressed) {
-        Note note{.start = offset_,
-                  .length = 1.0,
-                  .oldLength = 1.0,
-                  .velocity = host_.liveKeys().velocity(key),
-                  .channel = channel_,
-                  .key = static_cast<std::uint32_t>(key),
-                  .oldStart = offset_,
-                  .oldKey = static_cast<std::uint32_t>(key)};
-        if (snapToGrid_)
-            note.start = std::floor(note.start);
-        playback_.sequenceChanged();
-        taken_.emplace(sequence_.addNote(note).id, std::nullopt);
-        return true;
-    }
-    if (state != kHeld)
+    errorString_.clear();
+    if (operation != SaveOperation::SaveAs && isImported_) {
+        errorString_ = "The source file contains unprocessed MIDI information which cannot be "
+                       "overwriten (multichannel, meta events,…). Use the 'Save As…' option "
+                       "instead.";
         return false;
-
-    const auto& notes = sequence_.notes();
-    const auto last = std::find_if(notes.rbegin(), notes.rend(), [=, this](const Note& note) {
-        return note.key == key && note.start <= offset_; // not one that is still to come
-    });
-    if (last != notes.rend()) {
-        taken_.emplace(last->id, last->length);
-        playback_.sequenceChanged();
-        Note& held = sequence_.at(static_cast<std::size_t>(notes.rend() - last) - 1);
-        held.length = offset_ - held.start;
-        if (snapToGrid_)
-            held.length = std::floor(held.length);
     }
+    if (type != kMidiFileType && type != kIMelodyType)
+        return false;
+    try {
+        writeFile(path, writeSequence(sequence_, type));
+    } catch (const std::length_error& error) {
+        errorString_ = path.filename().string() + " cannot be written: " + error.what();
+    } catch (const std::bad_alloc&) {
+        errorString_ = path.filename().string() + " is too large to be written";
+    } catch (const std::runtime_error& error) {
+        errorString_ = error.what();
+    }
+    if (!errorString_.empty()) {
+        logger("sequencer").info("{}", errorString_);
+        return false;
+    }
+    if (operation == SaveOperation::SaveAs) {
+        path_ = path;
+        isImported_ = false;
+    }
+    registerTake();
+    undoStack_.setClean();
     return true;
 }
 
-void SequenceDocument::doScroll(double step)
+UnsavedSequence SequenceDocument::snapshot() const
 {
-    offset_ = step;
-    if (!intervalSelected())
-        emit scrolled(offset_ - kRoomBelowPosition);
+    const auto now = std::chrono::system_clock::now();
+    return {path_, std::chrono::floor<std::chrono::milliseconds>(now), isImported_,
+            sequence_.notes()};
 }
 
-void SequenceDocument::setOffset(double step)
+void SequenceDocument::recover(const UnsavedSequence& unsaved)
 {
-    settle();
-    offset_ = step;
-    emit changed();
+    transport_.stop();
+    const Edit edit(*this, {});
+    *edit = {};
+    edit->reserve(unsaved.notes.size());
+    for (Note note : unsaved.notes) {
+        note.id = 0;
+        note.active = note.playing = note.selected = false;
+        edit->addNote(note);
+    }
+    path_ = unsaved.path;
+    isImported_ = unsaved.isImported;
+    errorString_.clear();
+    recorder_.endTake();
+    undoStack_.clear();
+    undoStack_.resetClean();
+    measure();
 }
 
-void SequenceDocument::putPosition(double step)
+SequenceDocument::Edit::Edit(SequenceDocument& document, std::span<const std::uint64_t> notes)
+    : document_(document)
 {
-    scrollMax_ = step;
-    setOffset(step);
+    SequencePlayback& playback = document.transport_.playback();
+    document.transport_.settle();
+    for (const std::uint64_t id : notes)
+        if (Note* note = document.sequence_.find(id); note != nullptr && note->playing)
+            playback.silence(*note);
+    playback.sequenceChanged();
+    ++document.edits_;
 }
 
-void SequenceDocument::selectInterval(double start, double end)
+SequenceDocument::Edit::~Edit()
 {
-    settle();
-    selectionStart_ = start;
-    selectionEnd_ = end;
-    emit changed();
+    document_.transport_.playback().sequenceChanged();
+    if (--document_.edits_ == 0)
+        emit document_.changed();
 }
 
-void SequenceDocument::setExtent(double extent)
+SequenceDocument::Edit SequenceDocument::edit(std::span<const std::uint64_t> notes)
 {
-    if (std::exchange(extent_, extent) != extent)
-        emit sizeChanged();
+    return {*this, notes};
 }
 
 void SequenceDocument::measure()
@@ -289,32 +177,51 @@ void SequenceDocument::measure()
     double extent = 0.0;
     for (const Note& note : sequence_.notes())
         extent = std::max(extent, note.start + note.length + kRoomBehindLastNote);
-    setExtent(extent);
+    transport_.setExtent(extent);
 }
 
-void SequenceDocument::setTempo(double tempo)
+void SequenceDocument::swap(std::vector<NoteState>& notes)
 {
-    settle();
-    tempo_ = tempo;
-    emit optionsChanged();
+    std::vector<std::uint64_t> ids;
+    ids.reserve(notes.size());
+    for (const NoteState& state : notes)
+        ids.push_back(state.id);
+    const Edit edit(*this, ids);
+    edit->swap(notes);
+
+    // A note that comes back can lie beyond the end.
+    double extent = transport_.extent();
+    for (const std::uint64_t id : ids)
+        if (const Note* note = edit->find(id))
+            extent = std::max(extent, note->start + note->length + kRoomBehindLastNote);
+    transport_.setExtent(extent);
 }
 
-void SequenceDocument::setChannel(unsigned char channel)
+void SequenceDocument::perform(std::vector<NoteState> notes, const QString& text)
 {
-    channel_ = channel;
-    emit optionsChanged();
+    registerTake();
+    swap(notes);
+    registerDone(std::move(notes), text);
 }
 
-void SequenceDocument::setSnapToGrid(bool snap)
+void SequenceDocument::registerDone(std::vector<NoteState> before, const QString& text)
 {
-    snapToGrid_ = snap;
-    emit optionsChanged();
+    undoStack_.push(new SwapNotes(*this, std::move(before), text));
 }
 
-void SequenceDocument::setLoop(bool loop)
+void SequenceDocument::registerTake()
 {
-    loop_ = loop;
-    emit optionsChanged();
+    std::vector<NoteState> before = recorder_.endTake();
+    if (before.empty())
+        return;
+    const auto added = std::count_if(before.begin(), before.end(),
+                                     [](const NoteState& state) { return !state.note; });
+    registerDone(std::move(before), editText("Record", static_cast<std::size_t>(added)));
+}
+
+QString SequenceDocument::editText(const char* verb, std::size_t notes)
+{
+    return tr(verb) + ' ' + (notes == 1 ? tr("1 Note") : tr("%1 Notes").arg(notes));
 }
 
 } // namespace velmora

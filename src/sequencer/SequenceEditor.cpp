@@ -23,6 +23,11 @@ bool hasMoved(const Note& note)
 
 } // namespace
 
+SequenceEditor::SequenceEditor(SequenceDocument& document)
+    : document_(document), transport_(document.transport()), recorder_(document.recorder())
+{
+}
+
 RollHit rollHit(const Note& note, RollPoint point, int keyHeight)
 {
     const double end = note.start + note.length;
@@ -33,7 +38,7 @@ RollHit rollHit(const Note& note, RollPoint point, int keyHeight)
 
 void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
 {
-    document_.stop();
+    transport_.stop();
     document_.registerTake();
     click_ = point;
     hitNote_ = isNewNote_ = false;
@@ -61,13 +66,13 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
 
     const double step = snapped(point.step);
     double start =
-        document_.intervalSelected() ? document_.getSelectionStart() : document_.getOffset();
+        transport_.interval().isEmpty() ? transport_.position() : transport_.interval().start;
     if (!modifiers.testFlag(Qt::ShiftModifier)) {
-        document_.putPosition(step);
+        recorder_.waitAt(step);
         start = step;
     }
-    document_.selectInterval(start, step);
-    document_.stop();
+    transport_.selectInterval(start, step);
+    transport_.stop();
 }
 
 void SequenceEditor::hit(Sequence& sequence, Note& note, RollHit place,
@@ -96,7 +101,7 @@ void SequenceEditor::hit(Sequence& sequence, Note& note, RollHit place,
 
 void SequenceEditor::rightMouseDown(RollPoint point)
 {
-    document_.stop();
+    transport_.stop();
     document_.registerTake();
     click_ = point;
     hitNote_ = isNewNote_ = true;
@@ -105,7 +110,7 @@ void SequenceEditor::rightMouseDown(RollPoint point)
               .length = 1.0,
               .oldLength = 1.0,
               .velocity = 1.0F,
-              .channel = document_.channel(),
+              .channel = recorder_.channel(),
               .key = wholeKey(point.key)};
     note.oldStart = note.start;
     note.oldKey = note.key;
@@ -118,7 +123,7 @@ void SequenceEditor::rightMouseDown(RollPoint point)
 
 void SequenceEditor::mouseDragged(RollPoint point)
 {
-    const bool snap = document_.snapToGrid();
+    const bool snap = recorder_.snapToGrid();
     if (newNote_ != 0) {
         const auto edit = document_.edit({&newNote_, 1});
         if (Note* note = edit->find(newNote_)) {
@@ -126,12 +131,11 @@ void SequenceEditor::mouseDragged(RollPoint point)
             note->length = std::max(end - note->start, 0.0);
         }
     } else if (!hitNote_) {
-        document_.selectInterval(document_.getSelectionStart(), snapped(point.step));
+        transport_.selectInterval(transport_.interval().start, snapped(point.step));
     } else {
         const double steps =
             snap ? std::floor(point.step) - std::floor(click_.step) : point.step - click_.step;
-        document_.edit(document_.getSequence().selection())
-            ->move(point.key - click_.key, steps, snap);
+        document_.edit(document_.sequence().selection())->move(point.key - click_.key, steps, snap);
     }
 }
 
@@ -146,10 +150,10 @@ void SequenceEditor::mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers)
 
     document_.edit()->sort();
     document_.measure();
-    const double start = document_.getSelectionStart(), end = document_.getSelectionEnd();
-    document_.selectInterval(std::min(start, end), std::max(start, end));
-    document_.getCurrentNotes(false);
-    emit document_.frame();
+    const double start = transport_.interval().start, end = transport_.interval().end;
+    transport_.selectInterval(std::min(start, end), std::max(start, end));
+    document_.practice().showKeys();
+    emit transport_.frame();
 }
 
 void SequenceEditor::finishLength()
@@ -191,16 +195,16 @@ void SequenceEditor::finishMove()
 
 void SequenceEditor::selectUpTo(double end)
 {
-    document_.selectInterval(document_.getSelectionStart(), end);
+    transport_.selectInterval(transport_.interval().start, end);
     const auto edit = document_.edit();
     for (std::size_t i = edit->notes().size(); i-- > 0;)
-        if (Note& note = edit->at(i); document_.getOffset() <= note.start && note.start <= end)
+        if (Note& note = edit->at(i); transport_.position() <= note.start && note.start <= end)
             edit->select(note);
 }
 
 double SequenceEditor::snapped(double step) const
 {
-    return document_.snapToGrid() ? std::floor(step) : step;
+    return recorder_.snapToGrid() ? std::floor(step) : step;
 }
 
 } // namespace velmora

@@ -10,7 +10,9 @@
 
 namespace velmora {
 
+class Recorder;
 class SequenceDocument;
+class Transport;
 
 /// A place in the piano roll: a whole key, and a step.
 struct RollPoint {
@@ -30,7 +32,7 @@ RollHit rollHit(const Note& note, RollPoint point, int keyHeight);
 class SequenceEditor {
 public:
     /// The document must outlive it.
-    explicit SequenceEditor(SequenceDocument& document) : document_(document) {}
+    explicit SequenceEditor(SequenceDocument& document);
 
     /// Selects a note to be moved, or resized by its last pixels. Beside the notes, puts the
     /// position and begins an interval; with Shift extends the interval. With Command, draws.
@@ -74,6 +76,8 @@ private:
     std::vector<Note> remove(const char* verb);
 
     SequenceDocument& document_;
+    Transport& transport_;
+    Recorder& recorder_;
     RollPoint click_{};             ///< Where the last press was.
     bool hitNote_ = false;          ///< It hit a note, or made one.
     bool isNewNote_ = false;        ///< The drag draws a new note.

@@ -44,18 +44,17 @@ void SequenceEditor::keyDown(const QKeyEvent& event)
         std::printf("case %d:\n", event.nativeScanCode() != 0
                                       ? static_cast<int>(event.nativeScanCode())
                                       : event.key());
-    emit document_.changed();
-    emit document_.frame();
+    emit transport_.frame();
 }
 
 bool SequenceEditor::takeNamedKey(int key, bool command)
 {
     switch (key) {
     case Qt::Key_Return:
-        document_.record();
+        recorder_.record();
         return true;
     case Qt::Key_Space:
-        document_.play();
+        transport_.play();
         return true;
     case Qt::Key_Backspace:
     case Qt::Key_Delete:
@@ -65,22 +64,22 @@ bool SequenceEditor::takeNamedKey(int key, bool command)
         document_.edit()->deselect();
         return true;
     case Qt::Key_Down:
-        document_.stop();
+        transport_.stop();
         if (command)
-            document_.setOffset(0.0);
+            transport_.setPosition(0.0);
         else
-            document_.prevNote();
-        document_.doScroll(document_.getOffset());
-        document_.getCurrentNotes(true);
+            document_.practice().prevNote();
+        transport_.scrollTo(transport_.position());
+        document_.practice().advance();
         return true;
     case Qt::Key_Up:
-        document_.stop();
+        transport_.stop();
         if (command) // beyond the end: as many steps as the roll has pixels
-            document_.setOffset(getPrefInt("KeyHeight") * document_.extent());
+            transport_.setPosition(getPrefInt("KeyHeight") * transport_.extent());
         else
-            document_.nextNote();
-        document_.doScroll(document_.getOffset());
-        document_.getCurrentNotes(true);
+            document_.practice().nextNote();
+        transport_.scrollTo(transport_.position());
+        document_.practice().advance();
         return true;
     default:
         return false;
@@ -98,7 +97,7 @@ void SequenceEditor::keyUp(const QKeyEvent& event)
         release(pressed.mapped());
     else
         release(*number + (event.modifiers().testFlag(Qt::ShiftModifier) ? kShiftedOctave : 0));
-    emit document_.frame();
+    emit transport_.frame();
 }
 
 void SequenceEditor::releaseKeys()
@@ -109,17 +108,17 @@ void SequenceEditor::releaseKeys()
 
 void SequenceEditor::release(int number)
 {
-    document_.host().stop(Temperament::isomorphKey(number));
+    transport_.host().stop(Temperament::isomorphKey(number));
 }
 
 void SequenceEditor::isomorph(int number)
 {
-    document_.host().isomorph(number);
+    transport_.host().isomorph(number);
 }
 
 void SequenceEditor::setChannel(unsigned char channel, bool ofSelection)
 {
-    document_.setChannel(channel);
+    recorder_.setChannel(channel);
     if (!ofSelection) {
         document_.edit()->select(channel);
         return;
@@ -141,7 +140,7 @@ void SequenceEditor::selectAll()
 
 std::vector<Note> SequenceEditor::copy() const
 {
-    std::vector<Note> notes = document_.getSequence().getSelection();
+    std::vector<Note> notes = document_.sequence().getSelection();
     // A note can be selected twice.
     const auto before = [](const Note& a, const Note& b) {
         return std::pair(a.start, a.id) < std::pair(b.start, b.id);
@@ -177,7 +176,7 @@ void SequenceEditor::paste(std::vector<Note> notes)
     document_.registerTake();
     const auto startsBefore = [](const Note& a, const Note& b) { return a.start < b.start; };
     const double first = std::min_element(notes.begin(), notes.end(), startsBefore)->start;
-    const double begin = snapped(document_.getOffset());
+    const double begin = snapped(transport_.position());
     {
         const auto edit = document_.edit();
         edit->deselect();
@@ -193,8 +192,8 @@ void SequenceEditor::paste(std::vector<Note> notes)
         document_.measure();
     }
     document_.registerDone(absent(copy()), SequenceDocument::editText("Paste", notes.size()));
-    document_.getCurrentNotes(false);
-    emit document_.frame();
+    document_.practice().showKeys();
+    emit transport_.frame();
 }
 
 } // namespace velmora

@@ -65,7 +65,8 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
         }
     });
     SequenceDocument document(app.player());
-    QObject::connect(&app, &AppDelegate::midiInputReceived, [&] { document.midiInput(); });
+    QObject::connect(&app, &AppDelegate::midiInputReceived,
+                     [&] { document.practice().midiInput(); });
     constexpr std::array kTunings = {"Equal", "Quartercomma Meantone", "Dynamic"};
     for (std::size_t i = 0; playing > 0; ++i) {
         app.player().fade();
@@ -74,14 +75,14 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
         QCoreApplication::processEvents();
         // By turns it records, plays what was recorded, and has it practised.
         if (i % 100 == 0)
-            document.record();
+            document.recorder().record();
         else if (i % 100 == 50)
-            document.play();
-        document.loop();
+            document.transport().play();
+        document.transport().tick();
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    EXPECT_GT(document.getSequence().notes().size(), 10U) << "of keys that were played";
-    document.stop();
+    EXPECT_GT(document.sequence().notes().size(), 10U) << "of keys that were played";
+    document.transport().stop();
     for (std::thread* thread : {&mouse, &device, &audio})
         thread->join();
 

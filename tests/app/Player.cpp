@@ -107,17 +107,17 @@ TEST_F(PlayerTest, ANoteOfAPlayingSequenceStopsOnTheInstrumentThatSoundsIt)
     document.measure();
     const auto tickAt = [&](double time) {
         now = time;
-        document.loop();
+        document.transport().tick();
     };
     expectToStopOverThreeChanges(
         [&] {
-            document.setOffset(0.0);
-            document.play();
+            document.transport().setPosition(0.0);
+            document.transport().play();
             tickAt(now + 0.1);
         },
         [&] {
             tickAt(now + 1.0);
-            document.play();
+            document.transport().play();
         });
 }
 

@@ -39,9 +39,9 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
         GTEST_SKIP() << "this machine has an ALSA sequencer, which goes before JACK";
     LiveKeys& keys = app.player().liveKeys();
     SequenceDocument document(app.player());
-    const SequenceClock clock(document);
+    const SequenceClock clock(document.transport());
     const double begun = getTime();
-    document.record();
+    document.recorder().record();
     for (std::uint8_t i = 0; i < 24; ++i) { // each held into the next
         piano.send(0, {0x90, static_cast<std::uint8_t>(48 + i), static_cast<std::uint8_t>(20 + i)});
         runFor(0.020 + 0.0031 * i);
@@ -53,14 +53,14 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
     for (int i = 0; i < 100 && keys.releaseTime(71) < begun; ++i)
         runFor(0.1);
     runFor(0.1);
-    document.record();
+    document.recorder().record();
 
     const QTemporaryDir folder;
     const std::filesystem::path file = folder.filePath("take.mid").toStdString();
     ASSERT_TRUE(document.saveToURL(file, kMidiFileType, SequenceDocument::SaveOperation::SaveAs));
     SequenceDocument kept(app.player());
     kept.readFromURL(file);
-    const auto& notes = kept.getSequence().notes();
+    const auto& notes = kept.sequence().notes();
     ASSERT_EQ(notes.size(), 24);
     constexpr double kStepsPerRecordedSecond = 15.0;
     constexpr double kTick = kStepsPerRecordedSecond / 1024.0, kTickOfFile = 1.0 / 512.0;

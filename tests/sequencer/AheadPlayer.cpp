@@ -20,7 +20,7 @@ protected:
     {
         for (unsigned i = 0; i < 24; ++i) {
             add(48 + i, i, 0.75);
-            live_.edit()->addNote(document_.getSequence().notes().back());
+            live_.edit()->addNote(document_.sequence().notes().back());
         }
         live_.measure();
     }
@@ -36,22 +36,22 @@ protected:
     }
 
     SequenceDocument live_{*this, getTime};
-    SequenceClock clock_{live_};
+    SequenceClock clock_{live_.transport()};
 };
 
 TEST_F(AheadPlayerTest, SoundsEachNoteOnceWhenItIsDueAndRestsThen)
 {
     std::vector<double> late;
     onPlay_ = [&] { late.push_back(getTime()); };
-    live_.play();
+    live_.transport().play();
     const double started = getTime();
     runFor(std::chrono::milliseconds(1000));
-    live_.setTempo(240.0); // settles what was planned for the slower one
+    live_.transport().setTempo(240.0); // settles what was planned for the slower one
     runFor(std::chrono::milliseconds(600));
     const Calls calls = std::exchange(calls_, {});
     onPlay_ = nullptr;
 
-    document_.play();
+    transport_.play();
     for (int i = 0; i < 25 * 64; ++i)
         tick(1.0 / 64.0);
     EXPECT_EQ(calls, calls_);
@@ -61,9 +61,9 @@ TEST_F(AheadPlayerTest, SoundsEachNoteOnceWhenItIsDueAndRestsThen)
     std::sort(late.begin(), late.begin() + 14);
     EXPECT_LT(late[7], 0.015) << "as a rule: the machine may be busy";
 
-    live_.play();
+    live_.transport().play();
     int frames = 0;
-    QObject::connect(&live_, &SequenceDocument::frame, [&] { ++frames; });
+    QObject::connect(&live_.transport(), &Transport::frame, [&] { ++frames; });
     runFor(std::chrono::milliseconds(100));
     EXPECT_EQ(frames, 0) << "nothing ticks any longer";
 }
@@ -73,14 +73,14 @@ TEST_F(AheadPlayerTest, EndsWhatHasSoundedWhenThePlayingIsStoppedOrEdited)
     int heard = 0;
     for (int i = 0; i < 20; ++i) {
         calls_.clear();
-        live_.setOffset(0.0);
-        live_.play();
+        live_.transport().setPosition(0.0);
+        live_.transport().play();
         runFor(std::chrono::milliseconds(100));
         std::this_thread::sleep_for(std::chrono::milliseconds(7 * i));
         if (i % 2 == 0)
             SequenceEditor(live_).mouseDown({20.0, 30.0}, Qt::NoModifier);
         else
-            live_.play();
+            live_.transport().play();
         std::map<std::string, bool> sounding;
         for (const std::string& call : calls_)
             if (call.starts_with("play") || call.starts_with("stop"))
@@ -88,8 +88,8 @@ TEST_F(AheadPlayerTest, EndsWhatHasSoundedWhenThePlayingIsStoppedOrEdited)
         heard += sounding.empty() ? 0 : 1;
         for (const auto& [key, sounds] : sounding)
             EXPECT_FALSE(sounds) << key << " after round " << i;
-        if (live_.mode() != kStopped)
-            live_.play();
+        if (live_.transport().mode() != kStopped)
+            live_.transport().play();
         QCoreApplication::processEvents();
     }
     EXPECT_GT(heard, 10) << "rounds in time, on a busy machine";

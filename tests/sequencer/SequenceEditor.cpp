@@ -28,19 +28,16 @@ protected:
     Notes notes()
     {
         Notes result;
-        for (const Note& note : document_.getSequence().notes()) {
+        for (const Note& note : document_.sequence().notes()) {
             result[note.id] = {note.key, note.start, note.length, note.channel};
             EXPECT_EQ(document_.edit()->find(note.id), &note);
             EXPECT_EQ(note.selected, std::ranges::count(selection(), note.id) > 0);
         }
-        EXPECT_EQ(result.size(), document_.getSequence().notes().size()) << "each has its own";
+        EXPECT_EQ(result.size(), document_.sequence().notes().size()) << "each has its own";
         return result;
     }
 
-    const std::vector<std::uint64_t>& selection() const
-    {
-        return document_.getSequence().selection();
-    }
+    const std::vector<std::uint64_t>& selection() const { return document_.sequence().selection(); }
 
     void drag(RollPoint from, RollPoint to, Qt::KeyboardModifiers modifiers = kNone)
     {
@@ -83,20 +80,20 @@ TEST_F(SequenceEditorTest, MovesANoteOrResizesItByItsEnd)
     EXPECT_EQ(undoText(), "Move 1 Note");
     drag({62.0, 7.6}, {99.0, 6.0});
     EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 1.5, 0));
-    EXPECT_EQ(document_.extent(), 38.0);
+    EXPECT_EQ(transport_.extent(), 38.0);
     EXPECT_EQ(undoText(), "Resize 1 Note");
     drag({62.0, 6.0}, {62.0, 1.0});
     EXPECT_THAT(notes(), IsEmpty()) << "to nothing";
     EXPECT_EQ(undoText(), "Delete 1 Note");
-    EXPECT_EQ(document_.extent(), 0.0);
+    EXPECT_EQ(transport_.extent(), 0.0);
     undo();
-    EXPECT_EQ(document_.extent(), 38.0);
+    EXPECT_EQ(transport_.extent(), 38.0);
     undo();
     undo(); // the note's committed place is still the one that was undone
     type(Qt::Key_Escape);
     drag({60.0, 5.0}, {60.0, 6.5});
     EXPECT_THAT(notes()[1], FieldsAre(60, 5.5, 4.0, 0));
-    document_.setSnapToGrid(true);
+    recorder_.setSnapToGrid(true);
     drag({60.0, 5.9}, {-9.0, -0.3});
     EXPECT_THAT(notes()[1], FieldsAre(0, -1.0, 4.0, 0)) << "down to the whole step";
     drag({0.0, 2.5}, {0.0, 4.1});
@@ -105,7 +102,7 @@ TEST_F(SequenceEditorTest, MovesANoteOrResizesItByItsEnd)
 
 TEST_F(SequenceEditorTest, DrawsWithTheRightButtonOrCommand)
 {
-    document_.setChannel(2);
+    recorder_.setChannel(2);
     rightDrag({60.0, 4.5}, 4.5);
     rightDrag({61.0, 5.0}, 7.0);
     rightDrag({62.0, 5.0}, 4.0);
@@ -128,12 +125,12 @@ TEST_F(SequenceEditorTest, SelectsNotesAndTheInterval)
     EXPECT_THAT(selection(), ElementsAre(1)) << "all under the mouse change";
 
     drag({0.0, 9.0}, {0.0, 1.0});
-    EXPECT_EQ(document_.getSelectionStart(), 1.0);
-    EXPECT_EQ(document_.getSelectionEnd(), 9.0);
-    EXPECT_EQ(document_.getOffset(), 9.0) << "where the press was";
+    EXPECT_EQ(transport_.interval().start, 1.0);
+    EXPECT_EQ(transport_.interval().end, 9.0);
+    EXPECT_EQ(transport_.position(), 9.0) << "where the press was";
     click({0.0, 2.0});
     click({0.0, 5.0}, kShift);
-    EXPECT_EQ(document_.getSelectionEnd(), 5.0);
+    EXPECT_EQ(transport_.interval().end, 5.0);
     EXPECT_THAT(selection(), ElementsAre(1, 2, 1)) << "once more";
     editor_.deleteSelection();
     EXPECT_EQ(undoText(), "Delete 2 Notes");
@@ -164,9 +161,9 @@ TEST_F(SequenceEditorTest, TakesKeysByTheirPosition)
               (Calls{"isomorph 36", "stop 60", "isomorph 1", "stop 48"}));
 
     type(Qt::Key_Eacute, kNone, 11); // where it has 2
-    EXPECT_EQ(document_.channel(), 1);
+    EXPECT_EQ(recorder_.channel(), 1);
     type(Qt::Key_0, kShift);
-    EXPECT_EQ(document_.channel(), 19);
+    EXPECT_EQ(recorder_.channel(), 19);
     type(Qt::Key_1);
     EXPECT_THAT(selection(), ElementsAre(1)) << "all of channel 0";
     type(Qt::Key_3, kCommand);
@@ -175,14 +172,14 @@ TEST_F(SequenceEditorTest, TakesKeysByTheirPosition)
     EXPECT_THAT(notes()[1], FieldsAre(60, 1.0, 1.0, 0));
 
     type(Qt::Key_Up);
-    EXPECT_EQ(document_.getOffset(), 1.0);
+    EXPECT_EQ(transport_.position(), 1.0);
     type(Qt::Key_Up, kCommand);
-    EXPECT_EQ(document_.getOffset(), 8 * 34.0) << "the height of the roll";
+    EXPECT_EQ(transport_.position(), 8 * 34.0) << "the height of the roll";
     type(Qt::Key_Space);
-    EXPECT_EQ(document_.mode(), SequenceDocument::Mode::Playing);
+    EXPECT_EQ(transport_.mode(), Transport::Mode::Playing);
     type(Qt::Key_Space);
     type(Qt::Key_Return);
-    EXPECT_EQ(document_.mode(), SequenceDocument::Mode::Recording);
+    EXPECT_EQ(transport_.mode(), Transport::Mode::Recording);
 
     calls_.clear();
     testing::internal::CaptureStdout();
@@ -196,9 +193,9 @@ TEST_F(SequenceEditorTest, TakesKeysByTheirPosition)
 TEST_F(SequenceEditorTest, LeavesNothingSoundingThatIsEdited)
 {
     add(60, 0.5, 8.0);
-    document_.play();
+    transport_.play();
     const auto edited = [&](auto edit) {
-        document_.setOffset(0.0);
+        transport_.setPosition(0.0);
         tick(1.0);
         calls_.clear();
         edit();
@@ -213,12 +210,12 @@ TEST_F(SequenceEditorTest, LeavesNothingSoundingThatIsEdited)
 
 TEST_F(SequenceEditorTest, KeepsTheOrderOfATakeAndTheEditsWithin)
 {
-    document_.record();
+    recorder_.record();
     liveKeys_.press(60, 1.0F, now_);
     tick(2.0);
     liveKeys_.release(60, now_);
     drag({60.0, 0.5}, {62.0, 0.5});
-    document_.record();
+    recorder_.record();
     for (const char* done : {"Move 1 Note", "Record 1 Note", ""}) {
         EXPECT_EQ(undoText(), done);
         undo();
@@ -233,12 +230,12 @@ TEST_F(SequenceEditorTest, PastesAtThePosition)
     editor_.selectAll();
     const QByteArray bytes = encodeNotes(editor_.cut());
     EXPECT_EQ(undoText(), "Cut 2 Notes");
-    document_.setOffset(10.0);
+    transport_.setPosition(10.0);
     editor_.paste(decodeNotes(bytes));
     EXPECT_THAT(notes(), ElementsAre(FieldsAre(3, FieldsAre(60, 10.0, 1.0, 0)),
                                      FieldsAre(4, FieldsAre(64, 11.5, 2.0, 0))));
     EXPECT_THAT(selection(), ElementsAre(3, 4));
-    EXPECT_EQ(document_.extent(), 45.5);
+    EXPECT_EQ(transport_.extent(), 45.5);
     EXPECT_EQ(undoText(), "Paste 2 Notes");
 
     EXPECT_THAT(decodeNotes(bytes.chopped(1)), IsEmpty());
@@ -255,7 +252,7 @@ TEST_F(SequenceEditorTest, AnnouncesAnEditOnce)
     double seen = -1.0;
     QObject::connect(&document_, &SequenceDocument::changed, [&] {
         ++announced;
-        seen = document_.extent();
+        seen = transport_.extent();
     });
     const auto times = [&](auto edit) {
         announced = 0;
@@ -268,7 +265,7 @@ TEST_F(SequenceEditorTest, AnnouncesAnEditOnce)
     EXPECT_EQ(times([&] { undo(); }), 1) << "the notes that were cut are back";
     const auto pasteInAnEdit = [&] {
         const auto edit = document_.edit();
-        document_.setOffset(50.0);
+        transport_.setPosition(50.0);
         announced = 0;
         editor_.paste(editor_.copy());
     };
@@ -287,7 +284,7 @@ TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
     std::map<int, Notes> states{{0, {}}}; // by the number of edits
     for (int i = 0; i < 1500; ++i) {
         const int before = stack.index(), what = any(8);
-        document_.setSnapToGrid(any(4) == 0);
+        recorder_.setSnapToGrid(any(4) == 0);
         if (what == 0) {
             rightDrag(place(), step());
         } else if (what <= 2) {
@@ -297,13 +294,13 @@ TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
         } else if (what == 4) {
             editor_.paste(editor_.copy());
         } else if (what == 5) { // recording, with another gesture in between
-            document_.setOffset(step());
-            document_.record();
+            transport_.setPosition(step());
+            recorder_.record();
             liveKeys_.press(60 + unsigned(any(6)), 1.0F, now_);
             tick(step() * 0.1);
             drag(place(), place());
             tick(step() * 0.1);
-            document_.record();
+            recorder_.record();
             liveKeys_.clear();
         } else {
             stack.setIndex(any(2) == 0 ? before - 1 : before + 1);
@@ -314,7 +311,7 @@ TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
             states[index] = notes();
         }
         ASSERT_TRUE(!states.contains(index) || notes() == states[index]) << i;
-        ASSERT_TRUE(std::ranges::is_sorted(document_.getSequence().notes(), {}, &Note::start)) << i;
+        ASSERT_TRUE(std::ranges::is_sorted(document_.sequence().notes(), {}, &Note::start)) << i;
     }
     for (const bool undone : {true, false}) {
         for (int index = 0; index <= stack.count(); ++index) {

@@ -39,9 +39,9 @@ protected:
     {
         std::vector<int> keys;
         for (unsigned key = 0; key < 128; ++key)
-            keys.push_back(document_.stateOfNote(key));
-        return {document_.getSequence().notes(), keys, calls_, document_.getOffset(),
-                document_.getNote()};
+            keys.push_back(practice_.stateOfNote(key));
+        return {document_.sequence().notes(), keys, calls_, transport_.position(),
+                transport_.cursor()};
     }
 
     /// What a tick of so many steps comes to, by a plain walk through all notes: the measure of the
@@ -52,8 +52,8 @@ protected:
         auto& [notes, keys, calls, t, cursor] = result;
         const double t0 = t;
         t += 120.0 * (now_ + steps / 15.0 - now_) * 0.125;
-        const bool interval = document_.intervalSelected();
-        const bool atEnd = (interval && document_.getSelectionEnd() < t) || document_.extent() < t;
+        const bool interval = !transport_.interval().isEmpty();
+        const bool atEnd = (interval && transport_.interval().end < t) || transport_.extent() < t;
         for (Note& note : notes) {
             const bool starts = t0 <= note.start && note.start < t;
             if (starts && !atEnd) {
@@ -73,7 +73,7 @@ protected:
             }
         }
         if (atEnd)
-            t = interval ? document_.getSelectionStart() : 0.0;
+            t = interval ? transport_.interval().start : 0.0;
         return result;
     }
 
@@ -86,7 +86,7 @@ protected:
             note.active = std::abs(note.start - looked.offset) <= 0.1;
             looked.keys[note.key] |= note.active ? 2 : 0;
         }
-        document_.getCurrentNotes(false);
+        practice_.showKeys();
         EXPECT_EQ(state().text(), looked.text());
     }
 
@@ -94,7 +94,7 @@ protected:
 
     void edit()
     {
-        const auto& notes = document_.getSequence().notes();
+        const auto& notes = document_.sequence().notes();
         const std::uint64_t id = notes.empty() ? 0 : notes[any(unsigned(notes.size()))].id;
         const auto edit = document_.edit({&id, 1});
         const unsigned what = any(4);
@@ -119,9 +119,9 @@ TEST_F(SequencePlaybackTest, PlaysToTheEndAndGoesBackToTheBeginning)
 {
     addTwoNotes();
     double shown = -1.0;
-    QObject::connect(&document_, &SequenceDocument::frame, [&] { shown = document_.getOffset(); });
+    QObject::connect(&transport_, &Transport::frame, [&] { shown = transport_.position(); });
     tick(100.0); // before it plays
-    document_.play();
+    transport_.play();
     for (const auto& [steps, calls] : {std::pair(1.5, Calls{}),
                                        {1.0, {"play 60 1.00"}},
                                        {2.0, {"play 64 0.50"}},
@@ -130,42 +130,42 @@ TEST_F(SequencePlaybackTest, PlaysToTheEndAndGoesBackToTheBeginning)
                                        {31.0, {}},
                                        {1.0, {"stop 60", "stop 64"}}}) {
         calls_.clear();
-        EXPECT_EQ(document_.mode(), SequenceDocument::Mode::Playing);
+        EXPECT_EQ(transport_.mode(), Transport::Mode::Playing);
         tick(steps);
-        EXPECT_EQ(calls_, calls) << "at step " << document_.getOffset();
+        EXPECT_EQ(calls_, calls) << "at step " << transport_.position();
     }
-    EXPECT_EQ(document_.mode(), kStopped);
-    EXPECT_EQ(document_.getOffset(), 0.0);
+    EXPECT_EQ(transport_.mode(), kStopped);
+    EXPECT_EQ(transport_.position(), 0.0);
     EXPECT_EQ(shown, 0.0) << "no further tick shows it";
 
-    document_.play();
+    transport_.play();
     tick(2.5);
     calls_.clear();
-    document_.play();
-    document_.stop();
+    transport_.play();
+    transport_.stop();
     EXPECT_EQ(calls_, Calls{"stop 60"}) << "once";
-    EXPECT_EQ(document_.stateOfNote(60), 2) << "the keyboard keeps its colours";
-    EXPECT_NEAR(document_.getOffset(), 2.5, 1e-6);
+    EXPECT_EQ(practice_.stateOfNote(60), 2) << "the keyboard keeps its colours";
+    EXPECT_NEAR(transport_.position(), 2.5, 1e-6);
 }
 
 TEST_F(SequencePlaybackTest, PlaysTheSelectedInterval)
 {
     addTwoNotes();
-    document_.selectInterval(3.0, 8.0);
+    transport_.selectInterval(3.0, 8.0);
     for (const auto& [position, begin] :
          {std::pair(0.0, 3.0), {3.0, 3.0}, {5.0, 5.0}, {8.0, 3.0}}) {
-        document_.doScroll(position);
-        document_.play();
-        EXPECT_EQ(document_.getOffset(), begin) << "played from " << position;
+        transport_.scrollTo(position);
+        transport_.play();
+        EXPECT_EQ(transport_.position(), begin) << "played from " << position;
         tick(5.5);
-        EXPECT_EQ(document_.mode(), kStopped);
-        EXPECT_EQ(document_.getOffset(), 3.0);
+        EXPECT_EQ(transport_.mode(), kStopped);
+        EXPECT_EQ(transport_.position(), 3.0);
     }
 }
 
 TEST_F(SequencePlaybackTest, DoesWhatAWalkThroughAllNotesDoes)
 {
-    document_.setLoop(true);
+    transport_.setLoop(true);
     for (int i = 0; i < 4000 && !HasFailure(); ++i) {
         SCOPED_TRACE(i);
         if (i % 400 == 0) { // another sequence, unsorted, with many that start together
@@ -174,14 +174,14 @@ TEST_F(SequencePlaybackTest, DoesWhatAWalkThroughAllNotesDoes)
             for (unsigned notes = any(40); notes > 0; --notes)
                 addAny();
         }
-        if (document_.mode() == kStopped)
-            document_.play();
+        if (transport_.mode() == kStopped)
+            transport_.play();
         if (any(20) == 0)
-            document_.setOffset(any(60) * 0.5);
+            transport_.setPosition(any(60) * 0.5);
         if (any(20) == 0)
-            document_.selectInterval(any(8), any(3) * 10.0);
+            transport_.selectInterval(any(8), any(3) * 10.0);
         if (any(20) == 0)
-            document_.stop();
+            transport_.stop();
         if (any(8) == 0)
             edit();
         if (any(10) == 0)

@@ -122,8 +122,8 @@ TEST_F(SequenceSaving, RefusesToReplaceAFileThatHoldsMore)
 
     std::ofstream(path_, std::ios::binary) << bytes.substr(0, 40);
     document_.readFromURL(path_);
-    EXPECT_TRUE(document_.getSequence().notes().empty()) << "a broken file";
-    EXPECT_EQ(document_.extent(), 0.0);
+    EXPECT_TRUE(document_.sequence().notes().empty()) << "a broken file";
+    EXPECT_EQ(transport_.extent(), 0.0);
     EXPECT_THAT(document_.errorString(), testing::HasSubstr("a.mid"));
 }
 
@@ -190,8 +190,8 @@ TEST_F(SequenceSaving, KeepsWhatIsNotSavedUntilItIsSavedOrClosed)
     ASSERT_EQ(left.size(), 1U) << "nobody has wanted it yet";
     EXPECT_TRUE(RecoveryFile::abandoned(kept_).empty()) << "it is taken over";
     document_.recover(left[0].sequence);
-    EXPECT_EQ(document_.getSequence().notes().size(), 3U);
-    EXPECT_EQ(document_.extent(), 33.0);
+    EXPECT_EQ(document_.sequence().notes().size(), 3U);
+    EXPECT_EQ(transport_.extent(), 33.0);
     EXPECT_TRUE(document_.isModified());
 
     constexpr int kOthers = 4; // the two of above, and their locks

@@ -117,9 +117,9 @@ struct OpenSequence {
               host, isRealTime ? std::function(getTime) : [this] { return now; })
     {
         if (isRealTime)
-            clock.emplace(document);
+            clock.emplace(document.transport());
     }
-    ~OpenSequence() { document.stop(); }
+    ~OpenSequence() { document.transport().stop(); }
     OpenSequence(const OpenSequence&) = delete;
     OpenSequence& operator=(const OpenSequence&) = delete;
 
@@ -127,7 +127,7 @@ struct OpenSequence {
     {
         now = std::max(now + 1.0 / 1024.0, getTime());
         if (!clock)
-            document.loop();
+            document.transport().tick();
     }
 
     double now = getTime();

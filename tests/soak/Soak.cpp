@@ -74,7 +74,7 @@ public:
         app_.selectTuning("Dynamic");
         connect(&app_, &AppDelegate::midiInputReceived, this, [this] {
             if (!sequences_.empty())
-                sequences_.front()->document.midiInput();
+                sequences_.front()->document.practice().midiInput();
         });
         device_ = std::make_unique<DeviceThread>(app_, seed);
     }
@@ -127,7 +127,7 @@ private:
         while (sequences_.size() < 4)
             sequences_.push_back(makeSequence());
         OpenSequence& open = *sequences_[pick(sequences_.size())];
-        if (open.document.getSequence().notes().size() > kMostNotes) {
+        if (open.document.sequence().notes().size() > kMostNotes) {
             open.editor.selectAll();
             open.editor.deleteSelection();
         }
@@ -169,7 +169,7 @@ private:
     /// Returns a random place, usually on a note.
     RollPoint somewhere(const OpenSequence& open)
     {
-        const auto& notes = open.document.getSequence().notes();
+        const auto& notes = open.document.sequence().notes();
         if (notes.empty() || chance(4))
             return {static_cast<double>(36 + pick(60)), static_cast<double>(pick(640)) / 10.0};
         const Note& note = notes[pick(notes.size())];
@@ -219,18 +219,20 @@ private:
         QUndoStack& stack = document.undoStack();
         const double place = static_cast<double>(pick(64));
         const std::array<std::function<void()>, 12> commands{
-            [&] { document.setLoop(chance(2)); },
-            [&] { document.setSnapToGrid(chance(2)); },
-            [&] { document.setTempo(static_cast<double>(40 + pick(400))); },
-            [&] { document.selectInterval(place, place + static_cast<double>(pick(16))); },
-            [&] { document.putPosition(place); },
+            [&] { document.transport().setLoop(chance(2)); },
+            [&] { document.recorder().setSnapToGrid(chance(2)); },
+            [&] { document.transport().setTempo(static_cast<double>(40 + pick(400))); },
+            [&] {
+                document.transport().selectInterval(place, place + static_cast<double>(pick(16)));
+            },
+            [&] { document.recorder().waitAt(place); },
             [&] { stack.setIndex(stack.index() - static_cast<int>(pick(12))); },
             [&] { stack.setIndex(stack.index() + static_cast<int>(pick(12))); },
             [&] { clipboard_ = chance(2) ? open.editor.copy() : open.editor.cut(); },
             [&] { open.editor.paste(clipboard_); },
             [&] { pressMouse(static_cast<int>(pick(kKeys))); },
-            [&] { chance(4) ? saveAndRead(open) : document.play(); },
-            [&] { chance(8) ? exportAudio(open) : document.record(); }};
+            [&] { chance(4) ? saveAndRead(open) : document.transport().play(); },
+            [&] { chance(8) ? exportAudio(open) : document.recorder().record(); }};
         commands[pick(commands.size())]();
     }
 
@@ -259,7 +261,7 @@ private:
     /// Exports a sequence, but only once per round because it takes a while.
     void exportAudio(OpenSequence& open)
     {
-        if (std::exchange(exported_, true) || open.document.extent() > 200.0)
+        if (std::exchange(exported_, true) || open.document.transport().extent() > 200.0)
             return;
         std::optional<std::string> reason;
         AudioExport job;

@@ -47,7 +47,7 @@ protected:
     void tick(double steps)
     {
         now_ += steps / 15.0;
-        document_.loop();
+        transport_.tick();
     }
 
     void called(std::string call)
@@ -56,7 +56,7 @@ protected:
         calls_.push_back(std::move(call));
     }
 
-    static constexpr auto kStopped = SequenceDocument::Mode::Stopped;
+    static constexpr auto kStopped = Transport::Mode::Stopped;
 
     Calls calls_;
     std::function<void()> onPlay_;
@@ -64,6 +64,9 @@ protected:
     LiveKeys liveKeys_;
     double now_ = 1000.0;
     SequenceDocument document_{*this, [this] { return now_; }};
+    Transport& transport_ = document_.transport();
+    Recorder& recorder_ = document_.recorder();
+    Practice& practice_ = document_.practice();
 };
 
 } // namespace velmora

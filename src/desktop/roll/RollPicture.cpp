@@ -75,14 +75,13 @@ void RollPicture::draw(const RollGeometry& geometry, const RollColors& colors, d
         if (const Shade color = columnShade(key); color != kWhiteKey)
             add(geometry.column(key), color);
     blendedBegin_ = vertices_.size();
-    if (document.intervalSelected())
-        add({0.0, geometry.width, geometry.yOf(document.getSelectionStart()),
-             geometry.yOf(document.getSelectionEnd())},
+    if (const Interval& interval = document.transport().interval(); !interval.isEmpty())
+        add({0.0, geometry.width, geometry.yOf(interval.start), geometry.yOf(interval.end)},
             shade(colors.interval, kIntervalOpacity));
     addNotes(geometry, colors, document, index);
     blendedEnd_ = vertices_.size();
     addGrid(geometry, line);
-    const double position = geometry.yOf(document.getOffset());
+    const double position = geometry.yOf(document.transport().position());
     add({0.0, geometry.width, position, position + line}, shade(colors.selected, 1.0F));
 }
 
@@ -98,7 +97,7 @@ void RollPicture::addNotes(const RollGeometry& geometry, const RollColors& color
     };
     const Gradient selected(colors.selected), playing(colors.playing), plain(colors.note);
     index.visit(
-        document.getSequence().notes(), geometry.bottomStep(), geometry.topStep(),
+        document.sequence().notes(), geometry.bottomStep(), geometry.topStep(),
         [&](const Note& note) {
             const Gradient& gradient = note.selected ? selected : note.active ? playing : plain;
             add(geometry.note(note), gradient.onset, gradient.end);

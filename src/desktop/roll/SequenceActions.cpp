@@ -85,8 +85,9 @@ void SequenceActions::makeChannels()
     for (int channel = 0; channel < kChannels; ++channel) {
         QAction* action = channels_->addAction(QString::number(channel + 1));
         action->setCheckable(true);
-        connect(action, &QAction::triggered, this,
-                [this, channel] { document_.setChannel(static_cast<unsigned char>(channel)); });
+        connect(action, &QAction::triggered, this, [this, channel] {
+            document_.recorder().setChannel(static_cast<unsigned char>(channel));
+        });
     }
     channels_->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     channelMenu_->addActions(channels_->actions());
@@ -105,12 +106,15 @@ void SequenceActions::connectEditing()
 
 void SequenceActions::connectTransport()
 {
-    connect(record, &QAction::triggered, this, [this] { document_.record(); });
-    connect(play, &QAction::triggered, this, [this] { document_.play(); });
-    connect(loop, &QAction::triggered, this, [this](bool on) { document_.setLoop(on); });
-    connect(snap, &QAction::triggered, this, [this](bool on) { document_.setSnapToGrid(on); });
-    connect(&document_, &SequenceDocument::modeChanged, this, &SequenceActions::showMode);
-    connect(&document_, &SequenceDocument::optionsChanged, this, &SequenceActions::showOptions);
+    Transport& transport = document_.transport();
+    Recorder& recorder = document_.recorder();
+    connect(record, &QAction::triggered, &recorder, &Recorder::record);
+    connect(play, &QAction::triggered, &transport, &Transport::play);
+    connect(loop, &QAction::triggered, &transport, &Transport::setLoop);
+    connect(snap, &QAction::triggered, &recorder, &Recorder::setSnapToGrid);
+    connect(&transport, &Transport::modeChanged, this, &SequenceActions::showMode);
+    connect(&transport, &Transport::optionsChanged, this, &SequenceActions::showOptions);
+    connect(&recorder, &Recorder::optionsChanged, this, &SequenceActions::showOptions);
 }
 
 void SequenceActions::addEditing(QMenu& edit) const
@@ -134,15 +138,16 @@ void SequenceActions::addTransport(QMenu& sequence) const
 
 void SequenceActions::showMode()
 {
-    using Mode = SequenceDocument::Mode;
+    using Mode = Transport::Mode;
     const auto show = [this](QAction& action, Mode own, const char* picture, const QString& title,
                              const QString& key, const QString& tip) {
-        const bool isOwn = document_.mode() == own;
+        const Mode mode = document_.transport().mode();
+        const bool isOwn = mode == own;
         action.setIcon(icon(isOwn ? "stop" : picture));
         action.setText((isOwn ? tr("Stop") : title) + '\t' + key);
         action.setIconText(isOwn ? tr("Stop") : title);
         action.setToolTip(QString("%1 (%2)").arg(isOwn ? tr("Stop") : tip, key));
-        action.setEnabled(isOwn || document_.mode() == Mode::Stopped);
+        action.setEnabled(isOwn || mode == Mode::Stopped);
     };
     show(*record, Mode::Recording, "record", tr("Record"), tr("Return"),
          tr("Record what you play, starting at the position"));
@@ -151,16 +156,16 @@ void SequenceActions::showMode()
 
 void SequenceActions::showOptions()
 {
-    loop->setChecked(document_.loops());
-    snap->setChecked(document_.snapToGrid());
+    loop->setChecked(document_.transport().loops());
+    snap->setChecked(document_.recorder().snapToGrid());
     const auto actions = channels_->actions();
     for (int channel = 0; channel < kChannels; ++channel)
-        actions[channel]->setChecked(channel == document_.channel());
+        actions[channel]->setChecked(channel == document_.recorder().channel());
 }
 
 void SequenceActions::showSelection()
 {
-    const bool isAny = !document_.getSequence().selection().empty();
+    const bool isAny = !document_.sequence().selection().empty();
     for (QAction* action : {cut, copy, delete_, deselect_})
         action->setEnabled(isAny);
 }

@@ -36,40 +36,42 @@ SequenceStatus::SequenceStatus(const SequenceDocument& document)
     addWidget(mode_, 1);
     for (QLabel* label : {selection_, interval_, notes_})
         addPermanentWidget(label);
+    const Transport& transport = document_.transport();
     connect(&document_, &SequenceDocument::changed, this, &SequenceStatus::showNotes);
-    connect(&document_, &SequenceDocument::changed, this, &SequenceStatus::showMode);
-    connect(&document_, &SequenceDocument::frame, this, &SequenceStatus::showMode);
-    connect(&document_, &SequenceDocument::modeChanged, this, &SequenceStatus::showMode);
-    connect(&document_, &SequenceDocument::modeChanged, this, &SequenceStatus::showNotes);
+    connect(&transport, &Transport::moved, this, &SequenceStatus::showNotes);
+    connect(&transport, &Transport::moved, this, &SequenceStatus::showMode);
+    connect(&transport, &Transport::frame, this, &SequenceStatus::showMode);
+    connect(&transport, &Transport::modeChanged, this, &SequenceStatus::showMode);
+    connect(&transport, &Transport::modeChanged, this, &SequenceStatus::showNotes);
     showNotes();
     showMode();
 }
 
 void SequenceStatus::showNotes()
 {
-    const auto& notes = document_.getSequence().notes();
+    const auto& notes = document_.sequence().notes();
     const auto selected = static_cast<std::size_t>(
         std::count_if(notes.begin(), notes.end(), [](const Note& note) { return note.selected; }));
     selection_->setText(selected == 0 ? QString() : tr("%1 selected").arg(countText(selected)));
-    interval_->setText(document_.intervalSelected()
-                           ? tr("Steps %1 to %2")
-                                 .arg(stepText(document_.getSelectionStart()),
-                                      stepText(document_.getSelectionEnd()))
-                           : QString());
+    const Interval& interval = document_.transport().interval();
+    interval_->setText(
+        interval.isEmpty()
+            ? QString()
+            : tr("Steps %1 to %2").arg(stepText(interval.start), stepText(interval.end)));
     notes_->setText(tr("%1 in all").arg(countText(notes.size())));
 }
 
 void SequenceStatus::showMode()
 {
-    switch (document_.mode()) {
-    case SequenceDocument::Mode::Playing:
+    switch (document_.transport().mode()) {
+    case Transport::Mode::Playing:
         mode_->setText(tr("Playing"));
         break;
-    case SequenceDocument::Mode::Recording:
+    case Transport::Mode::Recording:
         mode_->setText(tr("Recording"));
         showNotes(); // a recording announces its notes by `frame` alone
         break;
-    case SequenceDocument::Mode::Stopped:
+    case Transport::Mode::Stopped:
         mode_->setText(practiceText());
         break;
     }
@@ -79,7 +81,7 @@ QString SequenceStatus::practiceText() const
 {
     QStringList missing, wrong;
     for (unsigned key = 0; key < kKeys; ++key) {
-        const int state = document_.stateOfNote(key);
+        const int state = document_.practice().stateOfNote(key);
         if (state == kWanted || state == (kWanted | kHeld))
             missing += QString::fromStdString(noteName(key));
         else if (state == kPressed)

@@ -34,14 +34,19 @@ SequenceView::SequenceView(QWidget* parent) : QOpenGLWidget(parent)
 
 void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor* editor)
 {
-    if (document_ != nullptr)
+    if (document_ != nullptr) {
         disconnect(document_, nullptr, this, nullptr);
+        disconnect(&document_->transport(), nullptr, this, nullptr);
+    }
     document_ = document;
     editor_ = editor;
     button_ = Qt::NoButton;
     autoScrollTimer_.stop();
-    if (document_ != nullptr)
+    if (document_ != nullptr) {
         connect(document_, &SequenceDocument::changed, this, &SequenceView::redraw);
+        connect(&document_->transport(), &Transport::moved, this,
+                qOverload<>(&SequenceView::update));
+    }
     redraw();
 }
 
@@ -67,8 +72,8 @@ void SequenceView::redraw()
 void SequenceView::updateIndex()
 {
     // A recording changes its notes at every tick.
-    if (!std::exchange(isIndexed_, document_->mode() != SequenceDocument::Mode::Recording))
-        index_.rebuild(document_->getSequence().notes());
+    if (!std::exchange(isIndexed_, document_->transport().mode() != Transport::Mode::Recording))
+        index_.rebuild(document_->sequence().notes());
 }
 
 void SequenceView::paintGL()
@@ -113,7 +118,7 @@ RollHit SequenceView::hitAt(const QPointF& point)
     const RollPoint place = rollPoint(point);
     const int keyHeight = getPrefInt("KeyHeight");
     RollHit hit = RollHit::Nothing;
-    index_.visit(document_->getSequence().notes(), place.step, place.step, [&](const Note& note) {
+    index_.visit(document_->sequence().notes(), place.step, place.step, [&](const Note& note) {
         if (const RollHit here = rollHit(note, place, keyHeight); here != RollHit::Nothing)
             hit = here; // the last one is on top
     });

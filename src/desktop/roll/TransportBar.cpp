@@ -54,9 +54,10 @@ TransportBar::TransportBar(SequenceDocument& document, SequenceActions& actions)
     position_->setMargin(6);
     addWidget(position_);
 
-    connect(&document_, &SequenceDocument::optionsChanged, this, &TransportBar::showOptions);
-    connect(&document_, &SequenceDocument::changed, this, &TransportBar::showPosition);
-    connect(&document_, &SequenceDocument::frame, this, &TransportBar::showPosition);
+    connect(&document_.transport(), &Transport::optionsChanged, this, &TransportBar::showOptions);
+    connect(&document_.recorder(), &Recorder::optionsChanged, this, &TransportBar::showOptions);
+    connect(&document_.transport(), &Transport::moved, this, &TransportBar::showPosition);
+    connect(&document_.transport(), &Transport::frame, this, &TransportBar::showPosition);
     showOptions();
 }
 
@@ -82,7 +83,7 @@ void TransportBar::addTempo()
     tempo_->setAccessibleName(tr("Tempo"));
     tempo_->setToolTip(tr("The tempo of playing and recording in beats per minute (Alt+M)"));
     connect(tempo_, &QSpinBox::valueChanged, this,
-            [this](int tempo) { document_.setTempo(tempo); });
+            [this](int tempo) { document_.transport().setTempo(tempo); });
     connect(tempo_, &QSpinBox::editingFinished, this, [this] {
         if (tempo_->hasFocus()) // otherwise the user has already moved on
             emit done();
@@ -103,7 +104,7 @@ void TransportBar::addChannel()
         tr("The channel of notes that you record or draw. A digit key chooses a channel and "
            "selects its notes; with Ctrl it moves the selected notes to that channel."));
     connect(channel_, &QComboBox::activated, this, [this](int channel) {
-        document_.setChannel(static_cast<unsigned char>(channel));
+        document_.recorder().setChannel(static_cast<unsigned char>(channel));
         emit done();
     });
     addWidget(channel_);
@@ -111,23 +112,24 @@ void TransportBar::addChannel()
 
 void TransportBar::showOptions()
 {
-    if (const auto tempo = static_cast<int>(std::lround(document_.tempo()));
+    if (const auto tempo = static_cast<int>(std::lround(document_.transport().tempo()));
         tempo != tempo_->value()) {
         const QSignalBlocker blocker(tempo_);
         tempo_->setValue(tempo);
     }
-    channel_->setCurrentIndex(document_.channel() < kChannels ? document_.channel() : -1);
+    const int channel = document_.recorder().channel();
+    channel_->setCurrentIndex(channel < kChannels ? channel : -1);
     showPosition();
 }
 
 void TransportBar::showPosition()
 {
-    const double offset = document_.getOffset();
+    const Transport& transport = document_.transport();
     // While the position moves, decimals would change too fast to be read.
-    const int decimals = document_.mode() == SequenceDocument::Mode::Stopped ? 1 : 0;
+    const int decimals = transport.mode() == Transport::Mode::Stopped ? 1 : 0;
     position_->setText(tr("%1  ·  step %2")
-                           .arg(timeText(offset, document_.tempo()))
-                           .arg(offset, 0, 'f', decimals));
+                           .arg(timeText(transport.position(), transport.tempo()))
+                           .arg(transport.position(), 0, 'f', decimals));
 }
 
 } // namespace velmora

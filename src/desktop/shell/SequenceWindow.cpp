@@ -35,7 +35,7 @@ constexpr const char* kStripKey = "tuningStrip";
 SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, const QString& name,
                                RecoveryFile recovery)
     : application_(application), commands_(commands), name_(name), document_(application.player()),
-      editor_(document_), clock_(document_), keeper_(document_, std::move(recovery)),
+      editor_(document_), clock_(document_.transport()), keeper_(document_, std::move(recovery)),
       actions_(std::make_unique<SequenceActions>(document_, editor_)),
       scrollView_(new SequenceScrollView), tuningStrip_(new TuningStrip(application))
 {
@@ -45,7 +45,7 @@ SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, con
     makeMenus();
     setStatusBar(new SequenceStatus(document_));
     connect(&document_, &SequenceDocument::changed, this, &SequenceWindow::showTitle);
-    connect(&document_, &SequenceDocument::frame, this, &SequenceWindow::showTitle);
+    connect(&document_.transport(), &Transport::frame, this, &SequenceWindow::showTitle);
     connect(&document_.undoStack(), &QUndoStack::cleanChanged, this, &SequenceWindow::showTitle);
     // The release of a held key may now go to another window.
     connect(qApp, &QApplication::focusChanged, this, [this] { editor_.releaseKeys(); });
@@ -62,6 +62,8 @@ SequenceWindow::~SequenceWindow()
     // The widgets are destroyed after the document and must not receive its last signals.
     scrollView_->view().setDocument(nullptr, nullptr);
     document_.disconnect();
+    document_.transport().disconnect();
+    document_.recorder().disconnect();
     document_.undoStack().disconnect();
 }
 
@@ -80,12 +82,13 @@ void SequenceWindow::makeView()
     connect(transport, &TransportBar::done, this, [this] { scrollView_->setFocus(); });
     connect(scrollView_, &SequenceScrollView::zoomed, this, &SequenceWindow::zoomed);
     connect(scrollView_, &SequenceScrollView::scrolledByUser, this,
-            [this] { isScrolledAway_ = document_.mode() != SequenceDocument::Mode::Stopped; });
-    connect(&document_, &SequenceDocument::scrolled, this, &SequenceWindow::scrollTo);
-    connect(&document_, &SequenceDocument::sizeChanged, this, &SequenceWindow::updateRollSize);
+            [this] { isScrolledAway_ = document_.transport().mode() != Transport::Mode::Stopped; });
+    connect(&document_.transport(), &Transport::scrolled, this, &SequenceWindow::scrollTo);
+    connect(&document_.transport(), &Transport::extentChanged, this,
+            &SequenceWindow::updateRollSize);
     // Queued, because the last scrolling at the end of playing must not be followed either.
     connect(
-        &document_, &SequenceDocument::modeChanged, this, [this] { isScrolledAway_ = false; },
+        &document_.transport(), &Transport::modeChanged, this, [this] { isScrolledAway_ = false; },
         Qt::QueuedConnection);
     scrollView_->setFocus();
 }
@@ -150,7 +153,7 @@ void SequenceWindow::fitToScreen()
 
 void SequenceWindow::showDocument()
 {
-    document_.midiInput(); // finds the first notes to practise
+    document_.practice().midiInput(); // finds the first notes to practise
     updateRollSize();
     showTitle();
 }
@@ -162,7 +165,7 @@ void SequenceWindow::redraw()
 
 void SequenceWindow::updateRollSize()
 {
-    scrollView_->updateSize(document_.extent());
+    scrollView_->updateSize(document_.transport().extent());
 }
 
 void SequenceWindow::handleKey(const QKeyEvent& event)
@@ -213,7 +216,7 @@ void SequenceWindow::closeEvent(QCloseEvent* event)
     isSettled_ = true;
     editor_.releaseKeys();
     scrollView_->view().setDocument(nullptr, nullptr);
-    document_.stop();
+    document_.transport().stop();
     emit closing();
 }
 

@@ -68,9 +68,9 @@ SequenceWindow& SequenceWindows::makeWindow(const QString& name, RecoveryFile re
     });
     connect(window, &SequenceWindow::closing, this, [this, window] { remove(*window); });
     connect(window, &SequenceWindow::zoomed, this, &SequenceWindows::zoomed);
-    connect(&window->document(), &SequenceDocument::frame, window, [this, window] {
+    connect(&window->document().transport(), &Transport::frame, window, [this, window] {
         keyboard_.refresh();
-        if (keyboard_.document() == &window->document())
+        if (keyboard_.document() == &window->document().practice())
             window->redraw();
     });
     emit opened(*window);
@@ -162,8 +162,9 @@ void SequenceWindows::updateRollSizes()
 void SequenceWindows::stopPlaying()
 {
     for (SequenceWindow* window : windows_) {
-        if (window->document().mode() == SequenceDocument::Mode::Playing)
-            window->document().play();
+        Transport& transport = window->document().transport();
+        if (transport.mode() == Transport::Mode::Playing)
+            transport.play();
     }
 }
 
@@ -176,7 +177,7 @@ void SequenceWindows::handleKey(const QKeyEvent& event)
 void SequenceWindows::setCurrent(SequenceWindow* window)
 {
     current_ = window;
-    keyboard_.setDocument(window == nullptr ? nullptr : &window->document());
+    keyboard_.setDocument(window == nullptr ? nullptr : &window->document().practice());
 }
 
 void SequenceWindows::remove(SequenceWindow& window)

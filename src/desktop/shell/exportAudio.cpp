@@ -40,8 +40,8 @@ public:
 
     void start(const SequenceDocument& document, AppDelegate& application)
     {
-        export_.start(currentSettings(application), document.snapshot(), document.tempo(),
-                      path_.toStdString());
+        export_.start(currentSettings(application), document.snapshot(),
+                      document.transport().tempo(), path_.toStdString());
     }
 
 private:

@@ -48,7 +48,7 @@ protected:
     Note& put(unsigned key, double start, double length, float velocity = 1.0F)
     {
         add(key, start, length);
-        Note& note = document_.edit()->at(document_.getSequence().notes().size() - 1);
+        Note& note = document_.edit()->at(document_.sequence().notes().size() - 1);
         note.velocity = velocity;
         view.redraw();
         return note;
@@ -92,7 +92,7 @@ protected:
     std::vector<std::string> notes() const
     {
         std::vector<std::string> shown;
-        for (const Note& note : document_.getSequence().notes())
+        for (const Note& note : document_.sequence().notes())
             shown.push_back(fmt::format("{}@{}+{}{}", note.key, note.start, note.length,
                                         note.selected ? "*" : ""));
         return shown;
@@ -162,8 +162,8 @@ TEST_F(SequenceViewTest, DrawsColumnsGridIntervalAndPosition)
     EXPECT_EQ(at(21, 8), 0xcccccc);
     EXPECT_EQ(at(21, 64), 0x999999);
     EXPECT_EQ(at(21, 0), 0x0000ff) << "the play position";
-    document_.selectInterval(2, 4);
-    document_.setOffset(9.5);
+    transport_.selectInterval(2, 4);
+    transport_.setPosition(9.5);
     EXPECT_EQ(at(21, 0), 0x999999);
     EXPECT_EQ(at(21, 76), 0x0000ff);
     EXPECT_TRUE(isNear(at(21, 17), 0xbfbfff)) << "a tint half-way to white, at half opacity";
@@ -215,7 +215,7 @@ TEST_F(SequenceViewTest, SelectsMovesAndResizesNotesWithTheMouse)
 
     drag(place(64.5, 5), place(66.5, 6.5));
     EXPECT_THAT(notes(), ElementsAre("60@4+4", "66@5.5+4*"));
-    document_.setSnapToGrid(true);
+    recorder_.setSnapToGrid(true);
     drag(place(66.5, 6), place(65.5, 7.5));
     EXPECT_THAT(notes(), ElementsAre("60@4+4", "65@6+4*"));
     document_.undoStack().undo();
@@ -231,7 +231,7 @@ TEST_F(SequenceViewTest, SelectsMovesAndResizesNotesWithTheMouse)
 
 TEST_F(SequenceViewTest, DrawsNewNotesWithTheRightButtonOrControl)
 {
-    document_.setSnapToGrid(true);
+    recorder_.setSnapToGrid(true);
     drag(place(60.5, 4.5), place(60.5, 7.5), {}, Qt::RightButton);
     QTest::mouseClick(&view, Qt::LeftButton, Qt::ControlModifier, place(62.5, 4.5));
     EXPECT_THAT(notes(), ElementsAre("60@4+4", "62@4+1*"));
@@ -251,17 +251,17 @@ TEST_F(SequenceViewTest, SelectsAnIntervalAndLoopsInIt)
     put(60, 2, 1);
     put(62, 6, 1);
     drag(place(70.5, 8), place(70.5, 4));
-    EXPECT_EQ(document_.getSelectionStart(), 4);
-    EXPECT_EQ(document_.getSelectionEnd(), 8);
-    document_.setLoop(true);
+    EXPECT_EQ(transport_.interval().start, 4);
+    EXPECT_EQ(transport_.interval().end, 8);
+    transport_.setLoop(true);
     QTest::keyClick(&view, Qt::Key_Space);
     tick(0.5);
     tick(0.5);
     tick(7.5);
-    EXPECT_EQ(document_.getOffset(), 4);
-    EXPECT_EQ(document_.mode(), SequenceDocument::Mode::Playing);
+    EXPECT_EQ(transport_.position(), 4);
+    EXPECT_EQ(transport_.mode(), Transport::Mode::Playing);
     QTest::keyClick(&view, Qt::Key_Space);
-    EXPECT_EQ(document_.mode(), kStopped);
+    EXPECT_EQ(transport_.mode(), kStopped);
 
     QTest::mouseClick(&view, Qt::LeftButton, {}, place(70.5, 1));
     QTest::mouseClick(&view, Qt::LeftButton, Qt::ShiftModifier, place(70.5, 7));
@@ -278,7 +278,7 @@ TEST_F(SequenceViewTest, ScrollsWhileTheMouseDragsBeyondTheEdge)
                      Qt::LeftButton, {});
     QApplication::sendEvent(&view, &move);
     EXPECT_TRUE(QTest::qWaitFor([&] { return scrollView.location().y() > 100; }));
-    EXPECT_GT(document_.getSelectionEnd(), (view.height() + 100) / 8);
+    EXPECT_GT(transport_.interval().end, (view.height() + 100) / 8);
     QTest::mouseRelease(&view, Qt::LeftButton, {}, above);
     const int y = scrollView.location().y();
     QTest::qWait(60);

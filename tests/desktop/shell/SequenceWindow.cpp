@@ -148,7 +148,7 @@ TEST_F(SequenceWindowTest, ControlsTheTransportByKeysAndToolbar)
     SequenceDocument& document = window.document();
     draw(window);
     QTest::keyClick(&view(window), Qt::Key_Space);
-    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Playing) << "one key, one action";
+    EXPECT_EQ(document.transport().mode(), Transport::Mode::Playing) << "one key, one action";
     EXPECT_EQ(play.iconText(), "Stop");
     EXPECT_FALSE(record.isEnabled());
     desktop.keyboardWindow().status().addNotice("Something is missing");
@@ -160,11 +160,11 @@ TEST_F(SequenceWindowTest, ControlsTheTransportByKeysAndToolbar)
     QTest::keyClick(&window, Qt::Key_Period, Qt::ControlModifier);
     EXPECT_EQ(play.iconText(), "Play");
     record.trigger();
-    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Recording);
+    EXPECT_EQ(document.transport().mode(), Transport::Mode::Recording);
     EXPECT_EQ(record.iconText(), "Stop");
     EXPECT_FALSE(play.isEnabled());
     QTest::keyClick(&view(window), Qt::Key_Return);
-    EXPECT_EQ(document.mode(), SequenceDocument::Mode::Stopped);
+    EXPECT_EQ(document.transport().mode(), Transport::Mode::Stopped);
     EXPECT_TRUE(play.isEnabled());
 
     window.activateWindow();
@@ -174,7 +174,7 @@ TEST_F(SequenceWindowTest, ControlsTheTransportByKeysAndToolbar)
     tempo.selectAll();
     QTest::keyClicks(&tempo, "90");
     QTest::keyClick(&tempo, Qt::Key_Return);
-    EXPECT_EQ(document.tempo(), 90);
+    EXPECT_EQ(document.transport().tempo(), 90);
     EXPECT_EQ(window.focusWidget(), &view(window)) << "the roll has the focus again";
     tempo.setFocus();
     QTest::keyClick(&tempo, Qt::Key_Tab);
@@ -182,8 +182,8 @@ TEST_F(SequenceWindowTest, ControlsTheTransportByKeysAndToolbar)
     action(window, "Snap to Grid").trigger();
     action(window, "Loop").trigger();
     action(window, "5").trigger();
-    EXPECT_TRUE(document.snapToGrid() && document.loops());
-    EXPECT_EQ(document.channel(), 4);
+    EXPECT_TRUE(document.recorder().snapToGrid() && document.transport().loops());
+    EXPECT_EQ(document.recorder().channel(), 4);
     answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
 }
 
@@ -199,31 +199,32 @@ TEST_F(SequenceWindowTest, EditsFromMenusAndAcrossWindows)
     EXPECT_THAT(statusTexts(window), ElementsAre("0 notes in all"));
     EXPECT_EQ(window.menuBar()->actions()[1]->menu()->actions()[0]->text(), "&Undo Cut 2 Notes");
     action(other, "Paste").trigger();
-    EXPECT_EQ(other.document().getSequence().notes().size(), 2);
+    EXPECT_EQ(other.document().sequence().notes().size(), 2);
     window.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     QTest::mousePress(&view(window), Qt::LeftButton, {}, {200, 200});
     QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
     QTest::mouseRelease(&view(window), Qt::LeftButton, {}, {200, 200});
-    EXPECT_THAT(window.document().getSequence().notes(), IsEmpty()) << "no undo during a drag";
+    EXPECT_THAT(window.document().sequence().notes(), IsEmpty()) << "no undo during a drag";
     QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(window.document().getSequence().notes().size(), 2);
+    EXPECT_EQ(window.document().sequence().notes().size(), 2);
     answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
 }
 
 TEST_F(SequenceWindowTest, TheKeyboardShowsTheSequenceThatWasActiveLast)
 {
     SequenceWindow& first = open();
-    EXPECT_EQ(keyboard.document(), &first.document());
+    EXPECT_EQ(keyboard.document(), &first.document().practice());
     SequenceWindow& second = open();
-    EXPECT_EQ(keyboard.document(), &second.document());
+    EXPECT_EQ(keyboard.document(), &second.document().practice());
     desktop.keyboardWindow().activateWindow();
     QTest::qWait(50);
-    EXPECT_EQ(keyboard.document(), &second.document());
+    EXPECT_EQ(keyboard.document(), &second.document().practice());
     first.activateWindow();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return keyboard.document() == &first.document(); }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return keyboard.document() == &first.document().practice(); }));
     EXPECT_TRUE(closes(second));
-    EXPECT_EQ(keyboard.document(), &first.document());
+    EXPECT_EQ(keyboard.document(), &first.document().practice());
     EXPECT_TRUE(closes(first));
     EXPECT_EQ(keyboard.document(), nullptr);
 }
@@ -234,7 +235,7 @@ TEST_F(SequenceWindowTest, ShowsWhichKeysPracticeWaitsFor)
     EXPECT_THAT(statusTexts(window), ElementsAre("Waiting for C3, G3", "156 notes in all"));
     desktop.application().keyOn(48, 1.0F);
     desktop.application().keyOn(50, 1.0F);
-    window.document().midiInput();
+    window.document().practice().midiInput();
     EXPECT_EQ(statusTexts(window).front(), "Waiting for G3; release D3");
     desktop.application().silenceAll();
     EXPECT_TRUE(closes(window));
@@ -246,19 +247,19 @@ TEST_F(SequenceWindowTest, FollowsThePositionUnlessTheUserScrollsAway)
     auto& scrollView = *window.findChild<SequenceScrollView*>();
     EXPECT_EQ(scrollView.location().x(), getPrefInt("KeyRangeLo") * getPrefInt("KeyWidth"));
     const auto bottomAfter = [&](double step) {
-        window.document().doScroll(step);
+        window.document().transport().scrollTo(step);
         return scrollView.location().y() / getPrefInt("KeyHeight");
     };
     EXPECT_EQ(bottomAfter(100), 92);
-    window.document().play();
+    window.document().transport().play();
     QApplication::processEvents();
     EXPECT_EQ(bottomAfter(200), 192);
     QWheelEvent wheel({100, 100}, scrollView.mapToGlobal(QPoint(100, 100)), {}, {0, -120},
                       Qt::NoButton, {}, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&scrollView, &wheel);
     EXPECT_EQ(bottomAfter(300), 184) << "scrolled away";
-    window.document().play();
-    window.document().play();
+    window.document().transport().play();
+    window.document().transport().play();
     QApplication::processEvents();
     EXPECT_EQ(bottomAfter(300), 292) << "playing has started again";
     EXPECT_TRUE(closes(window));
@@ -311,7 +312,7 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
     answering({"Save"}, [&] { EXPECT_TRUE(closes(window)); });
     SequenceDocument reread(desktop.application().player());
     reread.readFromURL(path);
-    EXPECT_EQ(reread.getSequence().notes().size(), 2);
+    EXPECT_EQ(reread.sequence().notes().size(), 2);
 
     SequenceWindow& imported = open("wolf-fantasia.mid");
     EXPECT_THAT(answering({"Cancel"}, [&] { EXPECT_FALSE(imported.save()); }),
@@ -361,7 +362,7 @@ TEST_F(SequenceWindowTest, SavesAndExportsUnderTheChosenNames)
 
     window.document().edit()->select();
     window.document().edit()->erase();
-    window.document().setTempo(400);
+    window.document().transport().setTempo(400);
     draw(window);
     naming(folder.filePath("tune.ogg"), [&] { action(window, "Export Audio…").trigger(); });
     EXPECT_TRUE(QTest::qWaitFor(
@@ -390,7 +391,7 @@ TEST_F(SequenceWindowTest, OffersToRecoverUnsavedSequences)
     run([&](SequenceWindows& program) {
         answering({"Recover"}, [&] { program.offerAbandoned(); });
         EXPECT_TRUE(last->isWindowModified());
-        EXPECT_EQ(last->document().getSequence().notes().size(), 1);
+        EXPECT_EQ(last->document().sequence().notes().size(), 1);
         answering({"Discard"}, [&] { EXPECT_TRUE(program.closeAll()); });
         answering({}, [&] { program.offerAbandoned(); });
     });

@@ -1,0 +1,168 @@
+#include "sequencer/Transport.h"
+
+#include "sequencer/SequenceTime.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+constexpr unsigned kTicksPerFrame = 16;
+
+/// Height of the position above the bottom edge of the view, in steps.
+constexpr double kRoomBelowPosition = 8.0;
+
+} // namespace
+
+Transport::Transport(SequenceHost& host, Sequence& sequence, std::function<double()> clock)
+    : host_(host), clock_(std::move(clock)), playback_(host, sequence), lastTick_(clock_())
+{
+}
+
+void Transport::play()
+{
+    if (mode_ == Mode::Playing) {
+        setMode(Mode::Stopped);
+        stop();
+    } else if (mode_ == Mode::Stopped) {
+        lastTick_ = clock_();
+        setMode(Mode::Playing);
+        if (!interval_.isEmpty() && !interval_.contains(position_))
+            scrollTo(interval_.start);
+    }
+    emit frame();
+}
+
+void Transport::startRecording()
+{
+    lastTick_ = clock_();
+    setMode(Mode::Recording);
+    emit frame();
+}
+
+void Transport::endRecording()
+{
+    setMode(Mode::Stopped);
+    emit frame();
+}
+
+void Transport::setMode(Mode mode)
+{
+    mode_ = mode;
+    emit modeChanged();
+}
+
+void Transport::tick()
+{
+    // The plan is taken back before the clock is read, so that the position is never behind what
+    // has sounded.
+    if (playback_.isPlanShort(clock_()))
+        playback_.takeBack();
+    const double now = clock_();
+    if (mode_ == Mode::Playing)
+        playUntil(now);
+    if (mode_ == Mode::Recording)
+        emit recording(lastTick_, now);
+    lastTick_ = now;
+    // The clock stops after the tick that ends the playing, so this one shows its result.
+    if (ticks_++ % kTicksPerFrame == 0 || mode_ == Mode::Stopped)
+        emit frame();
+}
+
+double Transport::positionAt(double time) const
+{
+    return position_ + stepsPerSecond(tempo_) * (time - lastTick_);
+}
+
+double Transport::endOfPlaying() const
+{
+    return interval_.isEmpty() ? extent_ : std::min(interval_.end, extent_);
+}
+
+void Transport::playUntil(double now)
+{
+    double next = positionAt(now);
+    if (next <= endOfPlaying()) {
+        if (const auto lastKey = playback_.playBetween(position_, next))
+            cursor_ = static_cast<int>(*lastKey);
+    } else {
+        playback_.silenceAll();
+        next = interval_.isEmpty() ? 0.0 : interval_.start;
+        if (!loop_)
+            play();
+    }
+    scrollTo(next);
+    if (mode_ == Mode::Playing)
+        playback_.planAhead(next, now, stepsPerSecond(tempo_), endOfPlaying());
+}
+
+void Transport::settle()
+{
+    if (!playback_.takeBack())
+        return;
+    const double now = clock_();
+    const double next = std::max(position_, std::min(positionAt(now), endOfPlaying()));
+    playback_.playBetween(position_, next);
+    position_ = next;
+    lastTick_ = now;
+}
+
+void Transport::stop()
+{
+    settle();
+    playback_.stop();
+}
+
+void Transport::setPosition(double step)
+{
+    settle();
+    position_ = step;
+    emit moved();
+}
+
+void Transport::scrollTo(double step)
+{
+    position_ = step;
+    if (interval_.isEmpty())
+        revealPosition();
+}
+
+void Transport::advance(double seconds)
+{
+    position_ += stepsPerSecond(tempo_) * seconds;
+}
+
+void Transport::revealPosition()
+{
+    emit scrolled(position_ - kRoomBelowPosition);
+}
+
+void Transport::selectInterval(double start, double end)
+{
+    settle();
+    interval_ = {start, end};
+    emit moved();
+}
+
+void Transport::setExtent(double extent)
+{
+    if (std::exchange(extent_, extent) != extent)
+        emit extentChanged();
+}
+
+void Transport::setTempo(double tempo)
+{
+    settle();
+    tempo_ = tempo;
+    emit optionsChanged();
+}
+
+void Transport::setLoop(bool loop)
+{
+    loop_ = loop;
+    emit optionsChanged();
+}
+
+} // namespace velmora

@@ -1,0 +1,136 @@
+#pragma once
+
+#include "base/Clock.h"
+#include "sequencer/Sequence.h"
+#include "sequencer/SequenceHost.h"
+#include "sequencer/SequencePlayback.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace velmora {
+
+/// A stretch of time in steps. Equal ends mean that nothing is selected.
+struct Interval {
+    double start = 0.0;
+    double end = 0.0;
+
+    bool isEmpty() const { return start == end; }
+    bool contains(double step) const { return start <= step && step < end; }
+};
+
+/// Moves through the time of a sequence and plays its notes on the host. Times are in steps; at
+/// tempo 120 a second has 15 of them. Main thread only.
+class Transport : public QObject {
+    Q_OBJECT
+
+public:
+    enum class Mode { Stopped, Playing, Recording };
+
+    /// `clock` returns the time in seconds. The host and the sequence must outlive the transport.
+    Transport(SequenceHost& host, Sequence& sequence, std::function<double()> clock = getTime);
+
+    Mode mode() const { return mode_; }
+
+    /// Starts playing, from the start of the selected interval if the position is outside it, or
+    /// stops playing. Does nothing while recording.
+    void play();
+
+    /// Lets ticks emit `recording`. Must be stopped before.
+    void startRecording();
+    void endRecording();
+
+    /// Goes on by the time since the last tick. Called 1024 times a second unless stopped.
+    void tick();
+
+    /// Silences every note that playing has started, without a change of mode.
+    void stop();
+
+    /// The play position.
+    double position() const { return position_; }
+
+    /// Moves the position and leaves the view where it is.
+    void setPosition(double step);
+
+    /// Moves the position. The view follows unless an interval is selected.
+    void scrollTo(double step);
+
+    /// Moves the position by seconds at the current tempo, without a signal.
+    void advance(double seconds);
+
+    /// Asks the view to show the position.
+    void revealPosition();
+
+    /// Index of the note that navigation has reached; -1 before the first note. Playing leaves the
+    /// key of the last note that it started here.
+    int cursor() const { return cursor_; }
+    void setCursor(int cursor) { cursor_ = cursor; }
+
+    /// The selected interval.
+    const Interval& interval() const { return interval_; }
+    void selectInterval(double start, double end);
+
+    /// The length of the sequence: the end of the last note and 32 more steps.
+    double extent() const { return extent_; }
+    void setExtent(double extent);
+
+    /// Beats a minute, above 0.
+    double tempo() const { return tempo_; }
+    void setTempo(double tempo);
+
+    /// True if playing starts again from the interval, or from the sequence's beginning, at its
+    /// end.
+    bool loops() const { return loop_; }
+    void setLoop(bool loop);
+
+    /// Catches up with what has been sounded ahead. To be called before anything changes that the
+    /// planned sounds depend on.
+    void settle();
+
+    SequencePlayback& playback() { return playback_; }
+    SequenceHost& host() const { return host_; }
+
+signals:
+    void modeChanged();
+
+    /// A tick of a recording, with the times of the last tick and of this one in seconds.
+    void recording(double from, double until);
+
+    /// The position was moved other than by a tick, or the selected interval has changed.
+    void moved();
+
+    /// The keyboard and the position are to be drawn again: on every 16th tick, and whenever they
+    /// change while nothing ticks.
+    void frame();
+
+    /// A step is to appear at the bottom edge of the roll, or as near to it as possible. It may be
+    /// negative.
+    void scrolled(double step);
+
+    void extentChanged();
+
+    /// The tempo or looping has changed.
+    void optionsChanged();
+
+private:
+    double positionAt(double time) const;
+    double endOfPlaying() const;
+    void playUntil(double now);
+    void setMode(Mode mode);
+
+    SequenceHost& host_;
+    std::function<double()> clock_;
+    SequencePlayback playback_;
+    Mode mode_ = Mode::Stopped;
+    double position_ = 0.0;
+    double lastTick_; ///< In seconds.
+    double tempo_ = 120.0;
+    double extent_ = 0.0;
+    Interval interval_;
+    bool loop_ = false;
+    int cursor_ = 0;
+    unsigned ticks_ = 0;
+};
+
+} // namespace velmora
