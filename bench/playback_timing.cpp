@@ -1,5 +1,5 @@
-// How exactly a sequence is played while its window and the keyboard repaint: a minute of notes at
-// irregular times, through the General MIDI synthesizer on a JACK server with the dummy driver.
+// The timing of a sequence that plays while its window and the keyboard repaint: a minute of notes
+// at irregular times, through the General MIDI synthesizer on a JACK server with the dummy driver.
 // Needs a display.
 
 #include "audio/Synthesizer.h"
@@ -25,7 +25,7 @@ constexpr std::size_t kNotes = 900;
 constexpr double kStepsPerSecond = 15.0;
 constexpr double kMilliseconds = 1e3;
 
-/// Notes down when each note is played.
+/// Records when each note is played.
 class TimedInstrument : public Instrument {
 public:
     explicit TimedInstrument(Instrument& instrument) : instrument_(instrument)
@@ -55,7 +55,7 @@ private:
     Instrument& instrument_;
 };
 
-/// The steps at which they start, a fifteenth of a second apart on average.
+/// Returns the steps at which the notes start, a fifteenth of a second apart on average.
 std::vector<double> fillAtRandom(SequenceDocument& document)
 {
     std::mt19937 random(1);
@@ -122,10 +122,9 @@ int main(int argc, char** argv)
     const auto at = [&](double part) {
         return errors[static_cast<std::size_t>(part * static_cast<double>(errors.size() - 1))];
     };
-    fmt::print("{} of {} notes in {:.0f} s, {:.1f} frames in a second\n", errors.size(),
+    fmt::print("{} of {} notes in {:.0f} s, {:.1f} frames per second\n", errors.size(),
                starts.size(), seconds, static_cast<double>(frames) / seconds);
-    fmt::print("milliseconds from when a note is due until it is played: least {:.2f}, median "
-               "{:.2f}, p99 {:.2f}, most {:.2f}\n",
+    fmt::print("milliseconds late: minimum {:.2f}, median {:.2f}, p99 {:.2f}, maximum {:.2f}\n",
                at(0.0), at(0.5), at(0.99), at(1.0));
     output->play(nullptr);
     application.setInstrument(*application.instruments().front()->instrument(), "");

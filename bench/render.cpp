@@ -38,7 +38,7 @@ void renderPiece(benchmark::State& state, const char* tuning)
         state.ResumeTiming();
 
         SequenceRenderer renderer(application, source);
-        renderer.document().readFromURL(VELMORA_EXAMPLES "/wolf-fantasia.mid");
+        renderer.document().read(VELMORA_EXAMPLES "/wolf-fantasia.mid");
         renderer.render(
             {},
             [&](const float* left, const float* right, std::size_t count) {

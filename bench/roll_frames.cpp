@@ -1,5 +1,5 @@
-// How many frames a second the window of 100,000 notes comes to, from the event to the picture on
-// the screen: while 10,000 notes are dragged, and scrolled. Needs a display.
+// The frames per second of a window with 100,000 notes, from the event to the picture on the
+// screen, while 10,000 notes are dragged and while the roll is scrolled. Needs a display.
 
 #include "desktop/roll/SequenceScrollView.h"
 #include "desktop/roll/SequenceView.h"
@@ -22,7 +22,7 @@ namespace {
 
 constexpr int kMilliseconds = 10'000;
 
-/// Sends an event whenever the one before it is to be seen.
+/// Sends the next event whenever the result of the previous one is on the screen.
 void measure(const char* name, QWidget& view, const std::function<void(std::size_t)>& sendEvent)
 {
     std::size_t frames = 0;
@@ -40,13 +40,13 @@ void measure(const char* name, QWidget& view, const std::function<void(std::size
     sendEvent(0);
     QApplication::exec();
     QObject::disconnect(shown);
-    fmt::print("{}: {:.1f} frames in a second\n", name,
+    fmt::print("{}: {:.1f} frames per second\n", name,
                static_cast<double>(frames) * 1e3 / static_cast<double>(timer.elapsed()));
 }
 
 void sendMouse(SequenceView& view, QEvent::Type type, QPointF place, Qt::MouseButtons buttons)
 {
-    // With Shift the other notes stay selected.
+    // Shift keeps the other notes selected.
     QMouseEvent event(type, place, view.mapToGlobal(place), Qt::LeftButton, buttons,
                       Qt::ShiftModifier);
     QApplication::sendEvent(&view, &event);
@@ -78,8 +78,8 @@ int main(int argc, char** argv)
     fmt::print("{} notes selected, a roll of {} x {} pixels\n",
                window->document().sequence().selection().size(), view.width(), view.height());
     measure("dragging", view, [&](std::size_t frame) {
-        const auto way = static_cast<double>(frame % 200);
-        sendMouse(view, QEvent::MouseMove, place - QPointF(0, way), Qt::LeftButton);
+        const auto distance = static_cast<double>(frame % 200);
+        sendMouse(view, QEvent::MouseMove, place - QPointF(0, distance), Qt::LeftButton);
     });
     sendMouse(view, QEvent::MouseButtonRelease, place, Qt::NoButton);
     auto& scrollView = *window->findChild<SequenceScrollView*>();

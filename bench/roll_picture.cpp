@@ -1,5 +1,5 @@
-// What a repaint of the piano roll costs before OpenGL draws it: finding the visible notes among
-// 100,000 and gathering their vertices.
+// The cost of a repaint of the piano roll before OpenGL draws it: finding the visible notes among
+// 100,000 and collecting their vertices.
 
 #include "desktop/roll/RollPicture.h"
 #include "manyNotes.h"
@@ -14,8 +14,8 @@ using namespace velmora;
 
 namespace {
 
-/// By the height of a step: 8 pixels are usual, with 1 a tenth of the piece is seen. With `edited`
-/// the notes have just changed, so that they are indexed anew.
+/// The argument is the height of a step: 8 pixels are the default, and 1 pixel shows a tenth of the
+/// piece. With `edited` the notes have just changed and are indexed again.
 void repaint(benchmark::State& state, bool edited)
 {
     SilentHost host;
@@ -36,7 +36,7 @@ void repaint(benchmark::State& state, bool edited)
     state.counters["quads"] = static_cast<double>(picture.vertices().size()) / 4;
 }
 
-/// One movement of a drag that takes every tenth note along, and its repaint.
+/// One mouse movement that drags every tenth note, and its repaint.
 void dragSelection(benchmark::State& state)
 {
     SilentHost host;
@@ -46,7 +46,7 @@ void dragSelection(benchmark::State& state)
     selectTenth(*document.edit());
     const Note& grip = document.sequence().notes()[0];
     const auto key = static_cast<double>(grip.key);
-    editor.mouseDown({key, 0.5}, Qt::ShiftModifier); // leaves the others selected
+    editor.mouseDown({key, 0.5}, Qt::ShiftModifier); // keeps the other notes selected
     RollIndex index;
     RollPicture picture;
     double step = 0.5;

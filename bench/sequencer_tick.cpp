@@ -1,5 +1,5 @@
-// What a tick costs while 100,000 notes are played, some eighty at a time, and what it would cost
-// to walk through all of them.
+// The cost of a tick while 100,000 notes play, some eighty at a time, and what it would cost to
+// visit all of them.
 
 #include "manyNotes.h"
 #include "sequencer/Transport.h"
@@ -19,7 +19,7 @@ Sequence manyNotes()
     return sequence;
 }
 
-/// The position, going round.
+/// Returns the next position, or the first one at the end.
 double after(double position)
 {
     return position + kTick < kManySteps ? position + kTick : 0.0;
@@ -37,7 +37,7 @@ void playByIndex(benchmark::State& state)
     }
 }
 
-/// The whole of a tick, with the clock and the signals.
+/// A whole tick, including the clock and the signals.
 void tick(benchmark::State& state)
 {
     SilentHost host;
@@ -53,7 +53,7 @@ void tick(benchmark::State& state)
     }
 }
 
-void playByPlainWalk(benchmark::State& state)
+void visitAllNotes(benchmark::State& state)
 {
     Sequence sequence = manyNotes();
     double position = 0.0;
@@ -82,7 +82,7 @@ void lookByIndex(benchmark::State& state)
     }
 }
 
-/// What the first tick after an edit costs besides.
+/// The additional cost of the first tick after an edit.
 void makeIndex(benchmark::State& state)
 {
     const Sequence sequence = manyNotes();
@@ -92,7 +92,7 @@ void makeIndex(benchmark::State& state)
 
 BENCHMARK(playByIndex);
 BENCHMARK(tick);
-BENCHMARK(playByPlainWalk);
+BENCHMARK(visitAllNotes);
 BENCHMARK(lookByIndex);
 BENCHMARK(makeIndex);
 

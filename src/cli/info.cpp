@@ -110,10 +110,10 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
             throw std::runtime_error(document.errorString());
         return {describe(document), printTuning};
     }
-    if (!sequenceTypeOf(path).empty()) {
+    if (sequenceFormatOf(path)) {
         Player player;
         SequenceDocument document(player);
-        document.readFromURL(path);
+        document.read(path);
         if (!document.errorString().empty())
             throw std::runtime_error(document.errorString());
         return {describe(document, path.filename().string()), printSequence};

@@ -38,7 +38,7 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
     select(selection, application);
 
     SequenceRenderer renderer(application.player(), source);
-    renderer.document().readFromURL(sequence);
+    renderer.document().read(sequence);
     if (!renderer.document().errorString().empty())
         throw std::runtime_error(renderer.document().errorString());
     ProgressLine progress("Rendering");

@@ -11,8 +11,8 @@ namespace velmora {
 
 namespace {
 
-/// Goes before what is not in a hurry, where the user may do so.
-void hurry()
+/// Requests real-time scheduling, if permitted.
+void requestRealtime()
 {
     const sched_param parameters{.sched_priority = 1};
     pthread_setschedparam(pthread_self(), SCHED_RR, &parameters);
@@ -62,14 +62,14 @@ std::optional<double> AheadPlayer::takeBack()
 
 void AheadPlayer::run()
 {
-    hurry();
+    requestRealtime();
     std::unique_lock lock(mutex_);
     while (!ends_) {
         if (next_ == sounds_.size()) {
             changed_.wait(lock);
             continue;
         }
-        // What is due together is sounded together.
+        // Sounds that are due together are sounded together.
         const double due = sounds_[next_].time;
         const double wait = due - getTime();
         if (wait > 0.0) {

@@ -11,42 +11,43 @@
 
 namespace velmora {
 
-/// The beginning or the end of a note on the instrument.
+/// The start or the end of a note on the instrument.
 struct KeySound {
     bool starts;
     std::uint32_t key;
     float velocity;
     double time; ///< When it is due, in the seconds of `getTime`.
-    double step; ///< Where the position is then.
+    double step; ///< The position at that time.
 };
 
-/// Sounds it now. On any thread.
+/// Starts or stops the key now. May be called on any thread.
 void sound(SequenceHost& host, const KeySound& keySound);
 
-/// Sounds what is planned at its time, on a thread of its own: the main thread, which plans it, is
-/// late whenever it paints.
+/// Sounds planned notes on a thread of its own, because the main thread, which plans them, is late
+/// whenever it paints.
 class AheadPlayer {
 public:
     /// The host must outlive it.
     explicit AheadPlayer(SequenceHost& host);
 
-    /// What is not sounded yet never is.
+    /// Drops what has not sounded yet.
     ~AheadPlayer();
 
     AheadPlayer(const AheadPlayer&) = delete;
     AheadPlayer& operator=(const AheadPlayer&) = delete;
 
-    /// Takes over what is to be sounded, in order of the time, and leaves what was there before.
+    /// Replaces the plan by `sounds`, which are in order of time. `sounds` receives the old plan.
     void plan(std::vector<KeySound>& sounds);
 
-    /// Gives up what is not sounded yet. The step of the last that was; none where nothing was.
+    /// Drops what has not sounded yet. Returns the step of the last sound of the plan, or nothing
+    /// if none has sounded.
     std::optional<double> takeBack();
 
 private:
     void run();
 
     SequenceHost& host_;
-    std::mutex mutex_; ///< Guards what follows; held while something is sounded.
+    std::mutex mutex_; ///< Guards what follows; held while a key starts or stops.
     std::condition_variable changed_;
     std::vector<KeySound> sounds_;
     std::size_t next_ = 0;

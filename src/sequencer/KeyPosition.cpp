@@ -9,7 +9,7 @@ namespace {
 
 /// Keys with successive scan codes.
 struct Row {
-    unsigned firstScanCode; ///< Of X11 and Wayland: that of evdev and 8 more.
+    unsigned firstScanCode; ///< On X11 and Wayland: the evdev code plus 8.
     std::string_view plain, shifted;
 };
 
@@ -20,7 +20,7 @@ constexpr std::array<Row, 4> kRows = {{
     {51, "\\zxcvbnm,./", "|ZXCVBNM<>?"},
 }};
 
-/// From -1. No key has the number 32, where the space stands.
+/// The US characters in order of their number, from -1. The space stands for 32, which no key has.
 constexpr std::string_view kIsomorph = "`awzsexdrcftvgybhunjimko,lp.;[/'] \\q";
 
 constexpr std::string_view kChannels = "1234567890";
@@ -31,7 +31,7 @@ std::optional<int> placeIn(std::string_view characters, char character)
     return place == std::string_view::npos ? std::nullopt : std::optional(static_cast<int>(place));
 }
 
-/// The place of the key in a row.
+/// Returns the index of the key in a row.
 std::optional<int> placeIn(const Row& row, const QKeyEvent& event)
 {
     if (const unsigned scanCode = event.nativeScanCode(); scanCode != 0)

@@ -6,16 +6,17 @@
 
 namespace velmora {
 
-/// The character that a key's position has on the standard US keyboard, without shift: a key of the
-/// digits' row or of the three rows of letters. 0 for any other key. Where the platform gives no
-/// scan code, the position is the one at which a US keyboard has the character that was typed.
+/// Returns the unshifted character at a key's position on the standard US keyboard, or 0 if the key
+/// is outside the row of digits and the three rows of letters. If the platform reports no scan
+/// code, uses the position of the typed character on a US keyboard.
 char usCharacter(const QKeyEvent& event);
 
-/// The number of a key of the isomorphic layout, by its US character. The numbers zigzag over the
-/// three rows of letters, column by column, from -1 at the key above the tabulator.
+/// Returns the number of a key in the isomorphic layout, by its US character. The numbers zigzag
+/// over the three rows of letters, column by column, from -1 at the key above Tab.
 std::optional<int> isomorphNumber(char usCharacter);
 
-/// The channel of a key of the digits' row, 0 to 9 from left to right, by its US character.
+/// Returns the channel of a key in the row of digits, 0 to 9 from left to right, by its US
+/// character.
 std::optional<int> channelNumber(char usCharacter);
 
 } // namespace velmora

@@ -2,16 +2,16 @@
 
 namespace velmora {
 
-/// What the on-screen keyboard asks of the document that it shows. On the main thread.
+/// What the on-screen keyboard shows. Main thread only.
 class KeyboardDocument {
 public:
     virtual ~KeyboardDocument() = default;
 
-    /// How a key is shown, as a sum of `kPressed`, `kWanted` and `kHeld`: pressed alone it is
-    /// wrong, wanted and held it is to be struck again.
+    /// Returns the state of a key as bit flags `kPressed`, `kWanted` and `kHeld`. A key that is
+    /// only pressed is wrong; one that is wanted and held must be struck again.
     virtual int stateOfNote(unsigned key) const = 0;
 
-    /// The keys that are held have changed.
+    /// To be called when the held keys have changed.
     virtual void midiInput() = 0;
 };
 

@@ -8,13 +8,14 @@
 
 namespace velmora {
 
-/// The type of notes on a clipboard.
+/// The MIME type of notes on the clipboard.
 constexpr auto kNotesMimeType = "application/x-velmora-notes";
 
-/// Notes as bytes, without their identities and flags.
+/// Encodes notes without their identities and flags.
 QByteArray encodeNotes(const std::vector<Note>& notes);
 
-/// The notes of such bytes, as `makeValid` makes them; none where there is anything else in them.
+/// Decodes what `encodeNotes` has written, corrected by `makeValid`. Returns no notes if the bytes
+/// contain anything else.
 std::vector<Note> decodeNotes(const QByteArray& bytes);
 
 } // namespace velmora

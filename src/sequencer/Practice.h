@@ -6,8 +6,9 @@
 
 namespace velmora {
 
-/// Goes from chord to chord: by command, or whenever the player has struck every note of the chord
-/// at the position. Notes within a tenth of a step of it belong to the chord. Main thread only.
+/// Moves from chord to chord, by command or when the player has struck every note of the chord at
+/// the position. Notes within a tenth of a step of the position belong to its chord. Main thread
+/// only.
 class Practice : public KeyboardDocument {
 public:
     /// Both must outlive this.
@@ -16,7 +17,7 @@ public:
     {
     }
 
-    /// Move the position to the chord before or after it, or the cursor to the one at the position.
+    /// Move the position to the previous or the next chord, or the cursor to the current one.
     void prevNote();
     void currentNote();
     void nextNote();
@@ -24,10 +25,10 @@ public:
     /// Shows which keys are held, and which ones the chord at the position wants.
     void showKeys();
 
-    /// Shows the keys, and goes on to the next chord if every wanted key and no other was struck.
+    /// Shows the keys, and moves to the next chord if every wanted key and no other was struck.
     void advance();
 
-    /// Shows the keys after live input. Goes on to the next chord only while stopped.
+    /// Shows the keys after live input, and advances if the transport is stopped.
     void midiInput() override;
     int stateOfNote(unsigned key) const override { return transport_.playback().states[key]; }
 

@@ -12,7 +12,7 @@ namespace velmora {
 
 namespace {
 
-/// A recording looks at the keys twice in a tick, so that the length of a note is that of its key
+/// A recording looks at the keys twice in a tick, so that a note lasts as long as its key was held,
 /// within a tick.
 constexpr double kLookInterval = kTick.count() / 2;
 

@@ -66,7 +66,7 @@ std::vector<Abandoned> RecoveryFile::abandoned(const std::filesystem::path& fold
             continue;
         std::error_code error;
         if (!std::filesystem::exists(file.path(), error)) {
-            file.discard(); // another program has been done with it in between
+            file.discard(); // another program has discarded it in the meantime
             continue;
         }
         try {
@@ -75,7 +75,7 @@ std::vector<Abandoned> RecoveryFile::abandoned(const std::filesystem::path& fold
         } catch (const FormatError& wrong) {
             logger("sequencer").warn("{}", wrong.inFile(file.path().string()));
         } catch (const std::bad_alloc&) {
-            logger("sequencer").warn("{}: is too large to be read into memory", name);
+            logger("sequencer").warn("{}: too large to be read into memory", name);
         }
     }
     std::sort(found.begin(), found.end(), [](const Abandoned& a, const Abandoned& b) {
@@ -87,7 +87,8 @@ std::vector<Abandoned> RecoveryFile::abandoned(const std::filesystem::path& fold
 bool RecoveryFile::claim()
 {
     lock_.reset(std::fopen(lockPath().c_str(), "ae"));
-    // Where the file system knows no locks, two programs at once are less likely than a crash.
+    // If the file system does not support locks, claim the file all the same: two programs at once
+    // are less likely than a crash.
     return lock_ && (flock(fileno(lock_.get()), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK);
 }
 

@@ -12,26 +12,26 @@ namespace velmora {
 
 struct Abandoned;
 
-/// Where one open document is kept while it is not saved, for the next start of the program if this
-/// one does not get to close it. As long as the object lives, other programs leave the file alone.
-/// The file stays when it goes, unless it is discarded.
+/// Keeps one unsaved document on disk, so that the next start of the program can restore it after a
+/// crash. While this object exists, other programs leave the file alone. Destroying it keeps the
+/// file unless it was discarded.
 class RecoveryFile {
 public:
-    /// The folder of all of them: velmora/recovery among the user's data.
+    /// The folder of all recovery files: velmora/recovery in the user's data folder.
     static std::filesystem::path usualFolder();
 
-    /// A new one. There is nothing on the disk before `write`.
+    /// Creates nothing on disk before the first `write`.
     explicit RecoveryFile(std::filesystem::path folder = usualFolder());
 
-    /// Takes over what programs that are gone have left in a folder, the oldest first. What cannot
-    /// be read is logged and left.
+    /// Claims the files that programs which no longer run have left in a folder, the oldest first.
+    /// Files that cannot be read are logged and left there.
     static std::vector<Abandoned> abandoned(const std::filesystem::path& folder = usualFolder());
 
-    /// Replaces what is kept. Throws std::runtime_error with a sentence where that fails: what was
-    /// kept before then stays.
+    /// Replaces the kept document. Throws std::runtime_error with a sentence if that fails; the
+    /// document that was kept before then remains.
     void write(const UnsavedSequence& sequence);
 
-    /// Removes what is kept, if there is any.
+    /// Removes the kept document, if there is one.
     void discard();
 
 private:
@@ -40,16 +40,16 @@ private:
     std::filesystem::path path() const { return folder_ / name_; }
     std::filesystem::path lockPath() const { return folder_ / (name_ + ".lock"); }
 
-    /// Claims the file; false where a program that runs has done so. The system gives a claim up
-    /// when the program ends, however it ends.
+    /// Claims the file. Returns false if a running program has claimed it. The system releases the
+    /// claim when the program ends, however it ends.
     bool claim();
 
     std::filesystem::path folder_;
-    std::string name_; ///< Never used again once it is discarded.
+    std::string name_; ///< Replaced when the file is discarded, and never used again.
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> lock_;
 };
 
-/// What a program that is gone has left, and the file that it is kept in.
+/// A document left by a program that no longer runs, and the file that keeps it.
 struct Abandoned {
     RecoveryFile file;
     UnsavedSequence sequence;

@@ -48,7 +48,7 @@ void RecoveryKeeper::edited()
 
 void RecoveryKeeper::write()
 {
-    // A recording goes on by itself, and a disk that is too slow is given time.
+    // A recording changes without edits, and a slow disk needs more time.
     if (document_.transport().mode() == Transport::Mode::Recording || isBusy())
         timer_.start();
     if (!document_.isModified() || isBusy())
@@ -65,7 +65,7 @@ void RecoveryKeeper::keep(const UnsavedSequence& sequence)
     } catch (const std::exception& error) {
         if (!std::exchange(failed_, true))
             logger("sequencer")
-                .warn("What is not saved is not kept against a crash: {}", error.what());
+                .warn("Unsaved changes are not protected against a crash: {}", error.what());
     }
 }
 

@@ -12,24 +12,24 @@ namespace velmora {
 
 class SequenceDocument;
 
-/// Keeps what is not saved of a document in a recovery file, on a thread of its own, and discards
-/// it once the document is saved. On the main thread, and gone before the document: that the keeper
-/// ends means that the document is closed and is no longer wanted.
+/// Keeps a copy of an unsaved document in a recovery file, written on a thread of its own, and
+/// discards it when the document is saved or closed. Main thread only. Destroy it before the
+/// document, and only when the document is no longer wanted: that discards the file too.
 class RecoveryKeeper : public QObject {
     Q_OBJECT
 
 public:
-    /// With the time that writing takes, a crash loses less than ten seconds of work.
+    /// Including the time that writing takes, a crash loses less than ten seconds of work.
     static constexpr std::chrono::milliseconds kUsualInterval{8000};
 
-    /// Writes no more often than every `interval`. `file` is that of a document which has been
-    /// recovered from it.
+    /// Writes at most once in an `interval`. A recovered document brings the `file` that it was
+    /// kept in.
     explicit RecoveryKeeper(SequenceDocument& document, RecoveryFile file = RecoveryFile(),
                             std::chrono::milliseconds interval = kUsualInterval);
     ~RecoveryKeeper() override;
 
-    /// Keeps what is not saved now, and beyond the end of the keeper: the program ends without
-    /// having asked what is wanted.
+    /// Keeps the unsaved document beyond the end of the keeper, because the program ends without
+    /// having asked the user.
     void leave();
 
 private:
@@ -41,8 +41,8 @@ private:
     void waitForWriter();
 
     SequenceDocument& document_;
-    RecoveryFile file_;   ///< Belongs to the writer while that is busy.
-    bool failed_ = false; ///< Likewise: whether it could not be written last time.
+    RecoveryFile file_;   ///< Used by the writer while it is busy, as is `failed_`.
+    bool failed_ = false; ///< True if the file could not be written last time.
     bool isLeft_ = false;
     QTimer timer_;
     std::future<void> writer_;

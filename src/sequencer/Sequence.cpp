@@ -55,7 +55,7 @@ Note& Sequence::addNote(const Note& note)
         stored.selected = false;
     else
         stored.id = ++lastId_;
-    // A new identity is the highest: the hint makes the entry a matter of constant time.
+    // A new identity is the highest, so the hint makes this constant time.
     index_.insert_or_assign(index_.end(), stored.id, notes_.size() - 1);
     return stored;
 }
@@ -190,7 +190,7 @@ void Sequence::sort()
     if (!std::is_sorted(notes_.begin(), notes_.end(), startsBefore))
         std::sort(notes_.begin(), notes_.end(), startsBefore);
 
-    // Entering the identities in their own order takes a fraction of what a search for each takes.
+    // Inserting the identities in their own order is much faster than searching for each.
     std::vector<std::pair<std::uint64_t, std::uint64_t>> positions;
     positions.reserve(notes_.size());
     for (const Note& note : notes_)

@@ -13,7 +13,7 @@ class Sound;
 /// One note. `oldStart`, `oldKey` and `oldLength` are its committed position and size, from which
 /// a gesture moves or resizes it. Times are in steps, the sequencer's unit of time.
 struct Note {
-    std::uint64_t id = 0;   ///< Within its sequence; 0 before it is added.
+    std::uint64_t id = 0;   ///< Unique within its sequence; 0 before it is added.
     Sound* sound = nullptr; ///< Always null: notes are played by key.
     double start = 0.0;     ///< Onset.
     double length = 0.0;    ///< The note ends at `start + length`.
@@ -28,72 +28,74 @@ struct Note {
     std::uint32_t oldKey = 0;
 };
 
-/// A note as it is in another state of its sequence; empty if that state does not have it.
+/// A note as it is in another state of its sequence; empty if it does not exist there.
 struct NoteState {
     std::uint64_t id;
     std::optional<Note> note;
 };
 
-/// The state in which these notes are as the copies show them.
+/// Returns the state in which the notes exist as they are here.
 std::vector<NoteState> present(const std::vector<Note>& notes);
 
-/// The state in which none of these notes exists.
+/// Returns the state in which none of the notes exists.
 std::vector<NoteState> absent(const std::vector<Note>& notes);
 
-/// The key that a position across the roll lies in; the first or the last one where it lies beyond.
+/// Returns the key that contains a position across the roll, limited to 0…127.
 std::uint32_t wholeKey(double key);
 
-/// The notes of a document, each with an identity for life, and which of them are selected.
+/// The notes of a document, each with a permanent identity, and the selection.
 class Sequence {
 public:
-    /// In order of `start` after `sort`; notes added since then stand at the end.
+    /// The notes in order of `start` after `sort`; notes added since then are at the end.
     const std::vector<Note>& notes() const { return notes_; }
 
-    /// The note at a position, for the flags and the gestures of a document.
+    /// The note at an index.
     Note& at(std::size_t position) { return notes_[position]; }
 
-    /// The stored note, or null. Holds until notes are added, erased or sorted.
+    /// Returns the stored note or null. The pointer is valid until notes are added, erased or
+    /// sorted.
     Note* find(std::uint64_t id);
 
-    /// Identities in the order in which they were selected.
+    /// The identities of the selected notes in the order in which they were selected.
     const std::vector<std::uint64_t>& selection() const { return selection_; }
 
-    /// Makes room for so many notes in all.
     void reserve(std::size_t notes) { notes_.reserve(notes); }
 
-    /// Appends a copy. An identity of 0 becomes the next one that was never handed out; another is
-    /// kept and arrives unselected. The stored note holds until notes are added, erased or sorted.
+    /// Appends a copy. A note with identity 0 receives a new one that was never used before; any
+    /// other note keeps its identity and is unselected. The reference is valid until notes are
+    /// added, erased or sorted.
     Note& addNote(const Note& note);
 
-    /// Removes one note in O(notes). The selection still names it.
+    /// Removes one note in O(notes). The selection keeps its identity.
     void erase(std::uint64_t id);
 
     /// Removes the selected notes, then sorts.
     void erase();
 
+    /// Selects every note.
     void select();
 
-    /// Selects the notes of a channel and no others; whether there are any.
+    /// Selects only the notes of a channel. Returns true if there are any.
     bool select(unsigned char channel);
 
-    /// Adds a stored note to the selection; one that is in it already is named twice.
+    /// Adds a stored note to the selection. If it is selected already, it is listed twice.
     void select(Note& note);
 
     void deselect();
 
-    /// Clears the flag of a stored note and its first mention in the selection, if there is one.
+    /// Clears the flag of a stored note and removes its first entry from the selection.
     void deselect(Note& note);
 
-    /// Copies in the order of the selection.
+    /// Returns copies of the selected notes in the order of the selection.
     std::vector<Note> getSelection() const;
 
-    /// Moves the selected notes from their committed positions. Keys are cut off to whole ones and
-    /// stay within 0 to 127; with `snap` a start goes down to its whole step.
+    /// Moves the selected notes from their committed positions. Keys are truncated to whole numbers
+    /// and limited to 0…127; `snap` rounds starts down to whole steps.
     void move(double keys, double steps, bool snap);
 
-    /// Exchanges these notes for the sequence's own, so that swapping again undoes it, then sorts.
-    /// Whether a note sounds or is selected stays with the sequence; if notes come or go, nothing
-    /// is selected afterwards.
+    /// Exchanges the notes with the sequence's, so that a second call undoes the first, then sorts.
+    /// The flags of notes that exist in both are kept. If any note is added or removed, nothing is
+    /// selected afterwards.
     void swap(std::vector<NoteState>& states);
 
     /// Puts the selected notes on a channel.
@@ -102,7 +104,7 @@ public:
     /// Commits position and size of the selected notes.
     void update();
 
-    /// Orders the notes by `start`. Notes that start together have no defined order.
+    /// Sorts the notes by `start`. Notes that start together have no defined order.
     void sort();
 
 private:
@@ -111,7 +113,7 @@ private:
 
     std::uint64_t lastId_ = 0;
     std::vector<std::uint64_t> selection_;
-    std::map<std::uint64_t, std::uint64_t> index_; ///< Identity to position in `notes_`.
+    std::map<std::uint64_t, std::uint64_t> index_; ///< From identities to indices into `notes_`.
     std::vector<Note> notes_;
 };
 

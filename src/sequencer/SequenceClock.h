@@ -11,12 +11,11 @@ namespace velmora {
 
 class Transport;
 
-/// Drives a document 1024 times in a second while it plays or records; what it plays keeps its time
-/// while the main thread is busy. While it stands still nothing that it shows or sounds depends on
-/// time, and no clock runs.
+/// Ticks a transport 1024 times a second while it plays or records, and sounds its notes in time
+/// even if the main thread is busy. While the transport is stopped, no timer runs.
 class SequenceClock : public QObject {
 public:
-    /// Runs as long as it lives, which ends before the document does.
+    /// The transport must outlive the clock.
     explicit SequenceClock(Transport& transport);
     ~SequenceClock() override;
 

@@ -6,7 +6,6 @@
 #include "platform/writeFile.h"
 #include "preferences/Preferences.h"
 #include "sequencer/LiveKeys.h"
-#include "sequencer/SequenceFile.h"
 #include "sequencer/UnsavedSequence.h"
 
 #include <algorithm>
@@ -55,7 +54,7 @@ SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> c
     host.liveKeys().clear();
 }
 
-void SequenceDocument::readFromURL(const std::filesystem::path& path)
+void SequenceDocument::read(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
     errorString_.clear();
@@ -68,18 +67,18 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
     const Edit edit(*this, {});
     *edit = {};
     try {
-        Sequence read;
+        Sequence sequence;
         const SequenceFile file =
             readSequence(readStandardMidiFile(readFile(path)), getPrefInt("KeyRangeLo"),
-                         getPrefInt("KeyRangeHi"), read);
-        *edit = std::move(read);
+                         getPrefInt("KeyRangeHi"), sequence);
+        *edit = std::move(sequence);
         extent = file.extent;
         isImported_ = file.isImported;
         path_ = path;
     } catch (const FormatError& error) {
         errorString_ = error.inFile(name);
     } catch (const std::bad_alloc&) {
-        errorString_ = name + ": is too large to be read into memory";
+        errorString_ = name + ": too large to be read into memory";
     }
     if (!errorString_.empty())
         logger("sequencer").info("{}", errorString_);
@@ -87,8 +86,8 @@ void SequenceDocument::readFromURL(const std::filesystem::path& path)
     emit transport_.frame();
 }
 
-bool SequenceDocument::saveToURL(const std::filesystem::path& path, const std::string& type,
-                                 SaveOperation operation)
+bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat format,
+                            SaveOperation operation)
 {
     errorString_.clear();
     if (operation != SaveOperation::SaveAs && isImported_) {
@@ -97,10 +96,8 @@ bool SequenceDocument::saveToURL(const std::filesystem::path& path, const std::s
                        "instead.";
         return false;
     }
-    if (type != kMidiFileType && type != kIMelodyType)
-        return false;
     try {
-        writeFile(path, writeSequence(sequence_, type));
+        writeFile(path, writeSequence(sequence_, format));
     } catch (const std::length_error& error) {
         errorString_ = path.filename().string() + " cannot be written: " + error.what();
     } catch (const std::bad_alloc&) {

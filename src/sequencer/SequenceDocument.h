@@ -4,6 +4,7 @@
 #include "sequencer/Practice.h"
 #include "sequencer/Recorder.h"
 #include "sequencer/Sequence.h"
+#include "sequencer/SequenceFile.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/Transport.h"
 
@@ -43,20 +44,17 @@ public:
 
     /// Reads a Standard MIDI File, keeping the keys of the keyboard's range. If the file cannot be
     /// read, the sequence is empty and `errorString` says why. Clears the undo history.
-    void readFromURL(const std::filesystem::path& path);
+    void read(const std::filesystem::path& path);
 
-    /// Writes the notes to a file of a type, "MIDI File" or "iMelody", and marks the document as
-    /// unmodified. "Save As" makes the file the document's own; "Save" refuses to replace a file
-    /// that holds more than the sequence keeps. Returns false if nothing was written: `errorString`
-    /// says why, except for any other type.
-    bool saveToURL(const std::filesystem::path& path, const std::string& type,
-                   SaveOperation operation);
+    /// Writes the notes to a file and marks the document as unmodified. "Save As" makes the file
+    /// the document's own; "Save" refuses to replace a file that holds more than the sequence
+    /// keeps. Returns false if nothing was written, and `errorString` says why.
+    bool save(const std::filesystem::path& path, SequenceFormat format, SaveOperation operation);
 
     /// The document's file; empty if there is none or if it could not be read.
     const std::filesystem::path& path() const { return path_; }
 
-    /// What is wrong with the file that could not be read or written, in one sentence; empty if
-    /// nothing is.
+    /// Why the last read or write failed, in one sentence that names the file; empty if it did not.
     const std::string& errorString() const { return errorString_; }
 
     /// True if the file that was read held more than the sequence keeps.
@@ -70,11 +68,11 @@ public:
 
     class Edit;
 
-    /// Begins a change of the sequence. Those of `notes` that sound are silenced, because they
-    /// would not end at their new place.
+    /// Begins a change of the sequence. Silences the `notes` that sound, because they would not end
+    /// at their new place.
     [[nodiscard]] Edit edit(std::span<const std::uint64_t> notes = {});
 
-    /// Sets the extent to that of the notes, or to 0 if there are none.
+    /// Sets the transport's extent to 32 steps after the last note, or to 0 without notes.
     void measure();
 
     /// The name of an edit in the menu, as in "Move 3 Notes".
@@ -83,14 +81,13 @@ public:
     /// Swaps notes with the sequence's, as an edit that can be undone. `text` names it in the menu.
     void perform(std::vector<NoteState> notes, const QString& text);
 
-    /// Makes an edit that is done already one that can be undone. `before` are its notes as they
-    /// were.
+    /// Adds an edit that is done already to the undo history. `before` are its notes as they were.
     void registerDone(std::vector<NoteState> before, const QString& text);
 
     /// Swaps notes with the sequence's, without an entry in the undo history.
     void swap(std::vector<NoteState>& notes);
 
-    /// Makes what has been recorded until now an edit that can be undone.
+    /// Adds what has been recorded since the last call to the undo history.
     void registerTake();
 
     QUndoStack& undoStack() { return undoStack_; }

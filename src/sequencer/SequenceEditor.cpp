@@ -10,10 +10,10 @@ namespace velmora {
 
 namespace {
 
-/// The pixels at the end of a note by which it is resized.
+/// How many pixels at the end of a note resize it.
 constexpr double kResizePixels = 8.0;
 
-/// A note of less is dragged to nothing, in steps.
+/// A note that is dragged to less than this is deleted, in steps.
 constexpr double kShortestLength = 0.0002;
 
 bool hasMoved(const Note& note)
@@ -81,7 +81,7 @@ void SequenceEditor::hit(Sequence& sequence, Note& note, RollHit place,
     hitNote_ = true;
     if (place == RollHit::NoteEnd)
         newNote_ = note.id;
-    // Recording and undoing leave the old values as they were.
+    // Recording and undoing do not commit.
     note.oldStart = note.start;
     note.oldKey = note.key;
     note.oldLength = note.length;
@@ -161,7 +161,7 @@ void SequenceEditor::finishLength()
     const std::uint64_t id = std::exchange(newNote_, 0);
     const auto edit = document_.edit({&id, 1});
     Note* note = edit->find(id);
-    if (note == nullptr) // undone in the middle of the drag
+    if (note == nullptr) // undone during the drag
         return;
     const bool isLong = note->length >= kShortestLength;
     if (isNewNote_ && isLong) {

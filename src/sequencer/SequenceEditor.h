@@ -14,48 +14,49 @@ class Recorder;
 class SequenceDocument;
 class Transport;
 
-/// A place in the piano roll: a whole key, and a step.
+/// A point in the piano roll.
 struct RollPoint {
     double key;
     double step;
 };
 
-/// What a press on a point of the piano roll takes hold of.
+/// What a press on a point of the piano roll hits.
 enum class RollHit { Nothing, Note, NoteEnd };
 
-/// Whether a press there takes hold of the note, and whether of its last eight pixels, by which it
-/// is resized, where a step is so many pixels high.
+/// Returns what a press hits of a note: its last eight pixels, by which it is resized, the rest of
+/// it, or nothing. `keyHeight` is the height of a step in pixels.
 RollHit rollHit(const Note& note, RollPoint point, int keyHeight);
 
-/// What mouse and keyboard do to a sequence document, in the coordinates of the sequence. Command,
-/// the modifier, is the control key. Everything that changes notes can be undone.
+/// Edits a sequence document with the mouse and the keyboard, in keys and steps. Command, the
+/// modifier, is the control key. Every change of notes can be undone.
 class SequenceEditor {
 public:
     /// The document must outlive it.
     explicit SequenceEditor(SequenceDocument& document);
 
-    /// Selects a note to be moved, or resized by its last pixels. Beside the notes, puts the
-    /// position and begins an interval; with Shift extends the interval. With Command, draws.
+    /// Selects the note under the mouse, which a drag then moves, or resizes by its last pixels. If
+    /// there is none, moves the position and begins an interval; with Shift, extends the interval.
+    /// With Command, draws a note.
     void mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers);
 
     /// Draws a new note.
     void rightMouseDown(RollPoint point);
 
-    /// These two go on with the gesture of either button.
+    /// Continue and end the gesture of either button.
     void mouseDragged(RollPoint point);
     void mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers);
 
-    /// Keys count by their position on the keyboard, whatever its layout.
+    /// Keys are identified by their position, whatever the keyboard layout.
     void keyDown(const QKeyEvent& event);
     void keyUp(const QKeyEvent& event);
 
-    /// Lets go of the keys that are pressed, whose release another window will get.
+    /// Releases the keys that are pressed, because another window will receive their release.
     void releaseKeys();
 
     void selectAll();
     void deleteSelection();
 
-    /// The selected notes in order of their start.
+    /// Returns the selected notes in order of their start.
     std::vector<Note> copy() const;
     std::vector<Note> cut();
 
@@ -78,11 +79,11 @@ private:
     SequenceDocument& document_;
     Transport& transport_;
     Recorder& recorder_;
-    RollPoint click_{};             ///< Where the last press was.
-    bool hitNote_ = false;          ///< It hit a note, or made one.
-    bool isNewNote_ = false;        ///< The drag draws a new note.
-    std::uint64_t newNote_ = 0;     ///< Being resized or drawn; 0 for none.
-    std::map<char, int> isomorphs_; ///< The numbers of the pressed keys of the isomorphic layout.
+    RollPoint click_{};             ///< The point of the last press.
+    bool hitNote_ = false;          ///< True if the last press hit or created a note.
+    bool isNewNote_ = false;        ///< True if the drag draws a new note.
+    std::uint64_t newNote_ = 0;     ///< The note that is being resized or drawn; 0 if none is.
+    std::map<char, int> isomorphs_; ///< The numbers of the pressed isomorphic keys.
 };
 
 } // namespace velmora

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cassert>
 #include <cstddef>
 #include <optional>
 #include <stdexcept>
@@ -17,7 +16,7 @@ namespace {
 
 constexpr float kFullVelocity = 127.0F;
 
-/// Of files that are written, at 120 beats a minute.
+/// At the 120 beats a minute of a written file.
 constexpr double kBeatsPerStep = 2.0 / kStepsPerSecond;
 
 std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& event, int keyRangeLo,
@@ -25,8 +24,8 @@ std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& even
 {
     if (event.kind != MidiEvent::Kind::Note || event.key < keyRangeLo || event.key > keyRangeHi)
         return std::nullopt;
-    // The duration is looked up as if it began with the file, as it is when a sequence is written:
-    // under a changing tempo this is not the time from the note's start to its end.
+    // A duration is converted as if it began with the file, as it is when a sequence is written. If
+    // the tempo changes, this is not the time from the note's start to its end.
     const double seconds = file.secondsForBeats(static_cast<double>(event.duration));
     if (!(seconds > 0.0))
         return std::nullopt;
@@ -42,7 +41,8 @@ std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& even
 
 std::uint8_t midiVelocity(float velocity)
 {
-    // In floats, as it was divided: in doubles every other velocity would come back one lower.
+    // Multiplied in floats, as it was divided: in doubles some velocities would come back one
+    // lower.
     const float scaled = velocity * kFullVelocity;
     return static_cast<std::uint8_t>(scaled >= 1.0F ? std::min(scaled, kFullVelocity) : 1.0F);
 }
@@ -52,8 +52,8 @@ MidiEvent midiNote(const Note& note)
     const double start = std::max(note.start * kBeatsPerStep, 0.0);
     const double length = std::max(note.length * kBeatsPerStep, 1.0 / kTicksPerBeat);
     if (!(start + length <= kLastBeat))
-        throw std::length_error("a note lies beyond the times that a file can hold");
-    // The low byte of a channel has four bits too many for a MIDI message, that of a key one.
+        throw std::length_error("a note is later than a file can hold");
+    // A MIDI message has four bits for the channel and seven for the key.
     const auto channel = static_cast<std::uint8_t>(note.channel & 0x0F);
     const auto key = static_cast<std::uint8_t>(note.key & 0x7F);
     return {start, static_cast<float>(length), MidiEvent::Kind::Note, channel,
@@ -62,13 +62,18 @@ MidiEvent midiNote(const Note& note)
 
 } // namespace
 
-std::string sequenceTypeOf(const std::filesystem::path& path)
+std::optional<SequenceFormat> sequenceFormatOf(const std::filesystem::path& path)
 {
     constexpr std::array kMidiExtensions = {".mid", ".midi", ".smf", ".kar"};
     const std::string extension = lowerCase(path.extension().string());
     if (std::ranges::find(kMidiExtensions, extension) != kMidiExtensions.end())
-        return kMidiFileType;
-    return extension == ".imy" ? kIMelodyType : "";
+        return SequenceFormat::MidiFile;
+    return extension == ".imy" ? std::optional(SequenceFormat::IMelody) : std::nullopt;
+}
+
+std::string typeName(SequenceFormat format)
+{
+    return format == SequenceFormat::IMelody ? "iMelody" : "MIDI File";
 }
 
 SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyRangeHi,
@@ -97,12 +102,11 @@ SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyR
     return result;
 }
 
-std::string writeSequence(const Sequence& sequence, const std::string& type)
+std::string writeSequence(const Sequence& sequence, SequenceFormat format)
 {
-    assert(type == kMidiFileType || type == kIMelodyType);
     std::vector<MidiEvent> notes(sequence.notes().size());
     std::ranges::transform(sequence.notes(), notes.begin(), midiNote);
-    return type == kIMelodyType ? writeIMelody(notes) : writeStandardMidiFile(notes);
+    return format == SequenceFormat::IMelody ? writeIMelody(notes) : writeStandardMidiFile(notes);
 }
 
 } // namespace velmora

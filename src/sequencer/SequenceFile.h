@@ -4,39 +4,46 @@
 #include "sequencer/Sequence.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace velmora {
 
-constexpr const char* kMidiFileType = "MIDI File";
-constexpr const char* kIMelodyType = "iMelody";
+enum class SequenceFormat {
+    MidiFile, ///< A Standard MIDI File.
+    IMelody   ///< One voice for a mobile phone; can be written, but not read.
+};
 
-/// The document type of a sequence file by its extension; empty for other files.
-std::string sequenceTypeOf(const std::filesystem::path& path);
+/// Returns the format that the file name's extension stands for, in any letter case: .mid, .midi,
+/// .smf, .kar or .imy.
+std::optional<SequenceFormat> sequenceFormatOf(const std::filesystem::path& path);
 
-/// The notes of a file in steps: sixteenths of the file's seconds.
+/// Returns the format's type name: "MIDI File" or "iMelody".
+std::string typeName(SequenceFormat format);
+
+/// A step is a sixteenth of a second of the file.
 constexpr double kStepsPerSecond = 16.0;
 
 /// How far the extent of a sequence goes beyond the end of its last note, in steps.
 constexpr double kRoomBehindLastNote = 32.0;
 
-/// What a document keeps of a file that was read, besides its notes.
+/// What a document keeps of a file besides its notes.
 struct SequenceFile {
-    double extent = 0.0;     ///< Extent in steps: the end of the last note and 32 more.
-    bool isImported = false; ///< The file holds more than the sequence keeps.
+    double extent = 0.0;     ///< In steps: the end of the last note and 32 more; 0 without notes.
+    bool isImported = false; ///< True if the file holds more than the sequence keeps.
 };
 
-/// Adds the notes of a file to an empty sequence and sorts it. Kept are the notes of the keys from
-/// `keyRangeLo` to `keyRangeHi`, both included, that last at all. The file holds more than that
-/// when it has several tracks or any other event.
+/// Adds the notes of a file to an empty sequence and sorts it. Keeps the notes with a length on the
+/// keys `keyRangeLo` to `keyRangeHi`, both included. The file holds more than the sequence keeps if
+/// it has several tracks or any other event.
 SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyRangeHi,
                           Sequence& sequence);
 
-/// The bytes of a file of one of the two types, with the notes at 120 beats a minute: a step is an
-/// eighth of a beat. What a file cannot hold is brought within its bounds: a note before the
-/// beginning starts with it, one without a length is the shortest there is, of a channel the low
-/// four bits remain, and a velocity that would be 0 and so end a note is 1. Throws
-/// std::length_error where a note lies beyond all music.
-std::string writeSequence(const Sequence& sequence, const std::string& type);
+/// Returns the bytes of a file with the notes at 120 beats a minute, where a step is an eighth of a
+/// beat. Values that a file cannot hold are limited: a start before the beginning, a length of 0,
+/// which becomes one tick, a channel above 15, of which the low four bits remain, and a velocity
+/// of 0, which becomes 1 because 0 would end a note. Throws std::length_error if a note is later
+/// than a file can hold.
+std::string writeSequence(const Sequence& sequence, SequenceFormat format);
 
 } // namespace velmora

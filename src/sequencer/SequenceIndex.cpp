@@ -18,13 +18,14 @@ void sortByStep(Moments& moments)
         std::sort(moments.begin(), moments.end(), before);
 }
 
-/// Where the moments begin that are not before a step.
+/// Returns the first moment that is not before a step.
 Moments::const_iterator notBefore(const Moments& moments, double step)
 {
     return std::partition_point(moments.begin(), moments.end(),
                                 [=](const auto& moment) { return moment.step < step; });
 }
 
+/// Returns the first moment after a step.
 Moments::const_iterator after(const Moments& moments, double step)
 {
     return std::partition_point(moments.begin(), moments.end(),
@@ -37,7 +38,7 @@ SequenceIndex::SequenceIndex(const std::vector<Note>& notes)
 {
     starts_.reserve(notes.size());
     ends_.reserve(notes.size());
-    concerned_.reserve(kKeys); // a chord, so that nothing is allocated while playing
+    concerned_.reserve(kKeys); // room for a chord, so that playing does not allocate
     std::bitset<kKeys> used;
     for (const Note& note : notes) {
         const auto position = static_cast<std::uint32_t>(starts_.size());

@@ -7,25 +7,25 @@
 
 namespace velmora {
 
-/// The notes of a sequence by the moments at which they start and end, so that a tick need not walk
-/// through all of them. Names notes by their position in the list, and holds until notes change.
+/// Finds notes by the steps at which they start and end, so that a tick does not visit all of them.
+/// Refers to notes by their index in the list, and is valid until notes change.
 class SequenceIndex {
 public:
     struct Moment {
         double step;
-        std::uint32_t position;
+        std::uint32_t position; ///< Index of the note.
     };
 
     explicit SequenceIndex(const std::vector<Note>& notes);
 
-    /// In order of the step.
+    /// The starts of the notes in order.
     const std::vector<Moment>& starts() const { return starts_; }
 
-    /// The notes that start at `from` or between the two, or end between the two or at `to`, in
-    /// the order of the list. Holds until the next call.
+    /// Returns the notes that start in [from, to) or end in (from, to], in the order of the list.
+    /// Valid until the next call.
     const std::vector<std::uint32_t>& concernedBy(double from, double to);
 
-    /// The keys of the notes, each once, in the order of the list.
+    /// The keys of the notes, each once, in order of their first note in the list.
     const std::vector<std::uint32_t>& keys() const { return keys_; }
 
 private:

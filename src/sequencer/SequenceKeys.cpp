@@ -1,5 +1,6 @@
-// The editor's keys, and the commands of the Edit menu.
+// The editor's keyboard and the commands of the Edit menu.
 
+#include "base/Log.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyPosition.h"
 #include "sequencer/SequenceDocument.h"
@@ -7,21 +8,26 @@
 #include "tuning/Temperament.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdio>
 #include <utility>
 
 namespace velmora {
 
 namespace {
 
-/// What Shift adds to the number of a channel and of an isomorphic key.
+/// What Shift adds to a channel and to an isomorphic number.
 constexpr int kShiftedChannel = 10, kShiftedOctave = 36;
 
 bool isModifier(int key)
 {
     return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr ||
            (key >= Qt::Key_Super_L && key <= Qt::Key_Hyper_R);
+}
+
+/// Helps to diagnose keyboards that report unexpected codes.
+void logUnknownKey(const QKeyEvent& event)
+{
+    const auto scanCode = static_cast<int>(event.nativeScanCode());
+    logger("sequencer").debug("case {}:", scanCode != 0 ? scanCode : event.key());
 }
 
 } // namespace
@@ -32,7 +38,7 @@ void SequenceEditor::keyDown(const QKeyEvent& event)
         return;
     const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
     const bool command = event.modifiers().testFlag(Qt::ControlModifier);
-    // With one of these it is a shortcut that is not at hand now.
+    // With one of these modifiers it is a shortcut that is disabled now.
     const bool isShortcut =
         event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     const char character = usCharacter(event);
@@ -41,9 +47,7 @@ void SequenceEditor::keyDown(const QKeyEvent& event)
     else if (const auto channel = channelNumber(character))
         setChannel(static_cast<unsigned char>(*channel + (shift ? kShiftedChannel : 0)), command);
     else if (!takeNamedKey(event.key(), command))
-        std::printf("case %d:\n", event.nativeScanCode() != 0
-                                      ? static_cast<int>(event.nativeScanCode())
-                                      : event.key());
+        logUnknownKey(event);
     emit transport_.frame();
 }
 
@@ -74,7 +78,7 @@ bool SequenceEditor::takeNamedKey(int key, bool command)
         return true;
     case Qt::Key_Up:
         transport_.stop();
-        if (command) // beyond the end: as many steps as the roll has pixels
+        if (command) // beyond the end, because the pixels of the roll are taken as steps
             transport_.setPosition(getPrefInt("KeyHeight") * transport_.extent());
         else
             document_.practice().nextNote();
@@ -92,7 +96,7 @@ void SequenceEditor::keyUp(const QKeyEvent& event)
     const auto number = isomorphNumber(character);
     if (!number || event.isAutoRepeat())
         return;
-    // The key that was pressed goes, even if Shift has changed since.
+    // Release the key that was pressed, even if Shift has changed since.
     if (auto pressed = isomorphs_.extract(character))
         release(pressed.mapped());
     else

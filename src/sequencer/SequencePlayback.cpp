@@ -11,11 +11,11 @@ namespace velmora {
 
 namespace {
 
-/// What is planned: the ticks of a quarter of a second, which is longer than anything is painted.
+/// The length of a plan in ticks: a quarter of a second, which is longer than any painting takes.
 constexpr int kTicksPlanned = 256;
 
-/// By how much planned sounds come after the position is there, in seconds: whatever has sounded is
-/// behind it, however it is rounded.
+/// The delay of planned sounds in seconds. It ensures that the position is past everything that has
+/// sounded, however it is rounded.
 constexpr double kBehindPosition = 1e-6;
 
 bool startsBetween(const Note& note, double from, double to)
@@ -26,7 +26,8 @@ bool startsBetween(const Note& note, double from, double to)
 bool endsBetween(const Note& note, double from, double to)
 {
     const double end = note.start + note.length;
-    return end <= to && (from < end || startsBetween(note, from, to)); // one of no length as well
+    return end <= to &&
+           (from < end || startsBetween(note, from, to)); // a note without length as well
 }
 
 } // namespace

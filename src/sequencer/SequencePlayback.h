@@ -13,46 +13,48 @@
 
 namespace velmora {
 
-/// Sounds the notes of a sequence on the application's current instrument, flags those that play or
-/// are at the play position, and keeps the state of each key for the on-screen keyboard. The work
-/// of a tick follows what starts, sounds or ends in it, not the length of the sequence.
+/// Sounds the notes of a sequence on the host, flags those that play or are at the play position,
+/// and keeps the state of each key for the on-screen keyboard. The work of a tick depends on what
+/// starts, sounds or ends in it, not on the length of the sequence.
 class SequencePlayback {
 public:
     SequencePlayback(SequenceHost& host, Sequence& sequence) : host_(host), sequence_(sequence) {}
 
-    /// Has to follow every change of notes.
+    /// To be called after every change of notes.
     void sequenceChanged() { index_.reset(); }
 
-    /// Starts and ends what does so from one step to another. The last key that has been started.
+    /// Starts and ends the notes that do so between two steps. Returns the last key that started.
     std::optional<std::uint32_t> playBetween(double from, double to);
 
-    /// Who sounds what is planned; null for none. It must outlive its use here.
+    /// Lets another thread sound the notes, on the clock of `getTime`; null for none. The player
+    /// must outlive its use here.
     void playAhead(AheadPlayer* player);
 
-    /// Plans what is to sound from `step` at `time` on, tick by tick, as far as `end`. Until it is
-    /// taken back, `playBetween` flags notes and does not sound them.
+    /// Plans the sounds of the next quarter of a second from `step` at `time`, tick by tick, up to
+    /// `end`. Until the plan is taken back, `playBetween` only flags notes. Does nothing without a
+    /// player, or if there is a plan.
     void planAhead(double step, double time, double stepsPerSecond, double end);
 
-    /// Whether a plan has to be made anew soon.
+    /// True if there is a plan that ends soon after `time`.
     bool isPlanShort(double time) const { return isPlanned_ && time > plannedUntil_; }
 
-    /// Gives the plan up; false when there is none. To be followed by `playBetween` up to where the
-    /// position is now, which catches up with what has sounded and sounds the rest.
+    /// Cancels the plan. Returns false if there is none. Call `playBetween` up to the current
+    /// position afterwards: it flags what has sounded already and sounds the rest.
     bool takeBack();
 
     void silence(Note& note);
 
-    /// Silences the key of every note, whether it sounds or not.
+    /// Silences the keys of all notes, even those that do not sound.
     void silenceAll();
 
-    /// Silences the notes that play. Their keys' states stay.
+    /// Silences the notes that play, and keeps the states of their keys.
     void stop();
 
-    /// Flags the notes that start within `tolerance` of a step, and no others, and adds `state` to
+    /// Flags only the notes that start within `tolerance` of a step as active, and adds `state` to
     /// the states of their keys.
     void markAt(double step, double tolerance, int state);
 
-    /// By key.
+    /// The state of each key, as bit flags `kPressed`, `kWanted` and `kHeld`.
     std::array<int, kKeys> states{};
 
 private:
@@ -65,16 +67,16 @@ private:
 
     SequenceHost& host_;
     Sequence& sequence_;
-    std::optional<SequenceIndex> index_; ///< Made when it is needed.
-    /// Where the notes are that play or are active; it may name others besides.
+    std::optional<SequenceIndex> index_; ///< Empty until it is needed.
+    /// Indices of the notes that play or are active, and maybe of others.
     std::vector<std::uint32_t> marked_;
 
     AheadPlayer* player_ = nullptr;
     bool isPlanned_ = false;
     double planStart_ = 0.0;          ///< In steps.
-    double plannedUntil_ = 0.0;       ///< Until then, in seconds, no other plan is needed.
-    std::optional<double> soundedTo_; ///< By a plan that was taken back.
-    std::vector<KeySound> sounds_;    ///< Being planned.
+    double plannedUntil_ = 0.0;       ///< In seconds; a new plan is needed afterwards.
+    std::optional<double> soundedTo_; ///< How far a plan that was taken back has sounded, in steps.
+    std::vector<KeySound> sounds_;    ///< The plan under construction.
 };
 
 } // namespace velmora

@@ -4,10 +4,10 @@
 
 namespace velmora {
 
-/// The clock of a sequence that plays or is recorded ticks so often.
+/// The time between two ticks while a sequence plays or records.
 constexpr std::chrono::duration<double> kTick{1.0 / 1024.0};
 
-/// The steps of a second at a tempo in beats a minute.
+/// Returns the number of steps in a second at a tempo in beats a minute.
 constexpr double stepsPerSecond(double tempo)
 {
     return tempo * 0.125;

@@ -37,20 +37,20 @@ public:
     /// stops playing. Does nothing while recording.
     void play();
 
-    /// Lets ticks emit `recording`. Must be stopped before.
+    /// Starts emitting `recording` on every tick. The transport must be stopped.
     void startRecording();
     void endRecording();
 
-    /// Goes on by the time since the last tick. Called 1024 times a second unless stopped.
+    /// Advances by the time since the last tick. To be called 1024 times a second unless stopped.
     void tick();
 
-    /// Silences every note that playing has started, without a change of mode.
+    /// Silences every note that playing has started, and keeps the mode.
     void stop();
 
     /// The play position.
     double position() const { return position_; }
 
-    /// Moves the position and leaves the view where it is.
+    /// Moves the position without scrolling the view.
     void setPosition(double step);
 
     /// Moves the position. The view follows unless an interval is selected.
@@ -84,8 +84,8 @@ public:
     bool loops() const { return loop_; }
     void setLoop(bool loop);
 
-    /// Catches up with what has been sounded ahead. To be called before anything changes that the
-    /// planned sounds depend on.
+    /// Catches up with the notes that were sounded ahead of the tick. To be called before anything
+    /// changes that planned sounds depend on.
     void settle();
 
     SequencePlayback& playback() { return playback_; }
@@ -97,14 +97,14 @@ signals:
     /// A tick of a recording, with the times of the last tick and of this one in seconds.
     void recording(double from, double until);
 
-    /// The position was moved other than by a tick, or the selected interval has changed.
+    /// The position was moved, other than by a tick, or the selected interval has changed.
     void moved();
 
-    /// The keyboard and the position are to be drawn again: on every 16th tick, and whenever they
-    /// change while nothing ticks.
+    /// The keyboard and the position must be drawn again: on every 16th tick, and whenever they
+    /// change while stopped.
     void frame();
 
-    /// A step is to appear at the bottom edge of the roll, or as near to it as possible. It may be
+    /// A step should appear at the bottom edge of the roll, or as near to it as possible. It may be
     /// negative.
     void scrolled(double step);
 

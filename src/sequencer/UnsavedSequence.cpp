@@ -14,7 +14,7 @@ namespace {
 constexpr quint32 kMagic = 0x56524543; // "VREC"
 constexpr quint32 kVersion = 1;
 
-/// What a note takes.
+/// The size of a note in the file.
 constexpr qint64 kNoteBytes = 5 * 8 + 3 * 4;
 
 void setUp(QDataStream& stream)
@@ -22,7 +22,7 @@ void setUp(QDataStream& stream)
     stream.setVersion(QDataStream::Qt_6_4);
 }
 
-/// Reads on, and knows where it is.
+/// Reads values one after the other and throws FormatError at the current byte.
 class Reader {
 public:
     explicit Reader(std::span<const std::byte> bytes)
@@ -64,7 +64,8 @@ Note readNote(Reader& reader)
     note.channel = reader.read<quint32>();
     note.key = reader.read<quint32>();
     note.oldKey = reader.read<quint32>();
-    reader.require(makeValid(note), "a note has no time, a key above 127 or a channel above 255");
+    reader.require(makeValid(note),
+                   "a note has an invalid time, a key above 127 or a channel above 255");
     return note;
 }
 
@@ -98,7 +99,7 @@ UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes)
     const auto count = reader.read<quint64>();
     reader.require(count == static_cast<quint64>(reader.left()) / kNoteBytes &&
                        reader.left() % kNoteBytes == 0,
-                   "the number of notes is not that of the file");
+                   "the number of notes does not match the size of the file");
     sequence.notes.reserve(count);
     for (quint64 i = 0; i < count; ++i)
         sequence.notes.push_back(readNote(reader));

@@ -11,24 +11,24 @@
 
 namespace velmora {
 
-/// A document that is not saved yet, as it is kept against a crash.
+/// An unsaved document, as it is kept in case of a crash.
 struct UnsavedSequence {
-    std::filesystem::path path; ///< Of the document's file; empty where it has none.
+    std::filesystem::path path; ///< The document's file; empty if it has none.
     std::chrono::sys_time<std::chrono::milliseconds> time; ///< When it was kept.
     bool isImported = false;
 
-    /// In the document's order. Kept are the times, keys, channels and velocities, all exactly;
-    /// identities and flags mean nothing here.
+    /// The notes in the document's order. Times, keys, channels and velocities are kept exactly;
+    /// identities and flags are not.
     std::vector<Note> notes;
 };
 
-/// The bytes of a recovery file: big-endian, 4 bytes "VREC", the version, path, time, isImported,
-/// the number of the notes, and of each its start, length, oldStart, oldLength and velocity as
-/// doubles and its channel, key and oldKey as numbers of 32 bits.
+/// Returns the bytes of a recovery file, big-endian: "VREC", the version, path, time, isImported,
+/// the number of notes, and for each note its start, length, oldStart, oldLength and velocity as
+/// doubles and its channel, key and oldKey as 32-bit numbers.
 std::string encodeUnsaved(const UnsavedSequence& sequence);
 
-/// Throws FormatError with the byte where they are not the bytes of a recovery file of this version
-/// or hold what is no note. The notes are as `makeValid` makes them.
+/// Decodes a recovery file, with its notes corrected by `makeValid`. Throws FormatError with the
+/// byte if it is not a recovery file of this version or contains an invalid note.
 UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes);
 
 } // namespace velmora

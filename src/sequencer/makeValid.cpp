@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::uint32_t kLastChannel = 255;
 
-/// Steps that no music comes near, and from which no sum runs out of the numbers.
+/// The furthest step: beyond any music, and small enough that no sum of steps overflows.
 constexpr double kFar = 1e12;
 
 } // namespace

@@ -57,9 +57,10 @@ TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
 
     const QTemporaryDir folder;
     const std::filesystem::path file = folder.filePath("take.mid").toStdString();
-    ASSERT_TRUE(document.saveToURL(file, kMidiFileType, SequenceDocument::SaveOperation::SaveAs));
+    ASSERT_TRUE(
+        document.save(file, SequenceFormat::MidiFile, SequenceDocument::SaveOperation::SaveAs));
     SequenceDocument kept(app.player());
-    kept.readFromURL(file);
+    kept.read(file);
     const auto& notes = kept.sequence().notes();
     ASSERT_EQ(notes.size(), 24);
     constexpr double kStepsPerRecordedSecond = 15.0;

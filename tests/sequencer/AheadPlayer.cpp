@@ -15,7 +15,7 @@ namespace {
 
 class AheadPlayerTest : public SequenceTest {
 protected:
-    /// A scale of two octaves in 1.6 seconds.
+    /// Both documents play a scale of two octaves in 1.6 seconds.
     AheadPlayerTest()
     {
         for (unsigned i = 0; i < 24; ++i) {
@@ -25,7 +25,7 @@ protected:
         live_.measure();
     }
 
-    /// Lets the main thread be late again and again.
+    /// Runs the event loop, which is blocked most of the time.
     void runFor(std::chrono::milliseconds time)
     {
         const auto end = std::chrono::steady_clock::now() + time;
@@ -39,14 +39,14 @@ protected:
     SequenceClock clock_{live_.transport()};
 };
 
-TEST_F(AheadPlayerTest, SoundsEachNoteOnceWhenItIsDueAndRestsThen)
+TEST_F(AheadPlayerTest, SoundsEachNoteOnceAndOnTime)
 {
     std::vector<double> late;
     onPlay_ = [&] { late.push_back(getTime()); };
     live_.transport().play();
     const double started = getTime();
     runFor(std::chrono::milliseconds(1000));
-    live_.transport().setTempo(240.0); // settles what was planned for the slower one
+    live_.transport().setTempo(240.0); // takes back the plan for the slower tempo
     runFor(std::chrono::milliseconds(600));
     const Calls calls = std::exchange(calls_, {});
     onPlay_ = nullptr;
@@ -59,16 +59,16 @@ TEST_F(AheadPlayerTest, SoundsEachNoteOnceWhenItIsDueAndRestsThen)
     for (std::size_t i = 0; i < 14; ++i)
         late[i] -= started + static_cast<double>(i) / 15.0;
     std::sort(late.begin(), late.begin() + 14);
-    EXPECT_LT(late[7], 0.015) << "as a rule: the machine may be busy";
+    EXPECT_LT(late[7], 0.015) << "the median, because the machine may be busy";
 
     live_.transport().play();
     int frames = 0;
     QObject::connect(&live_.transport(), &Transport::frame, [&] { ++frames; });
     runFor(std::chrono::milliseconds(100));
-    EXPECT_EQ(frames, 0) << "nothing ticks any longer";
+    EXPECT_EQ(frames, 0) << "the clock has stopped";
 }
 
-TEST_F(AheadPlayerTest, EndsWhatHasSoundedWhenThePlayingIsStoppedOrEdited)
+TEST_F(AheadPlayerTest, EndsEverySoundingNoteWhenStoppedOrEdited)
 {
     int heard = 0;
     for (int i = 0; i < 20; ++i) {
@@ -92,7 +92,7 @@ TEST_F(AheadPlayerTest, EndsWhatHasSoundedWhenThePlayingIsStoppedOrEdited)
             live_.transport().play();
         QCoreApplication::processEvents();
     }
-    EXPECT_GT(heard, 10) << "rounds in time, on a busy machine";
+    EXPECT_GT(heard, 10) << "rounds with sound, even on a busy machine";
 }
 
 } // namespace

@@ -1,12 +1,16 @@
 #include "sequencer/SequenceEditor.h"
 
+#include "base/Log.h"
 #include "sequencer/NoteClipboard.h"
 #include "support/SequenceTest.h"
 
 #include <gmock/gmock.h>
+#include <spdlog/sinks/ostream_sink.h>
+#include <spdlog/spdlog.h>
 
 #include <algorithm>
 #include <random>
+#include <sstream>
 
 namespace velmora {
 
@@ -24,7 +28,7 @@ class SequenceEditorTest : public SequenceTest {
 protected:
     using Notes = std::map<std::uint64_t, std::tuple<unsigned, double, double, unsigned>>;
 
-    /// By identity, by which each is found: key, start, length and channel.
+    /// The key, start, length and channel of each note by its identity.
     Notes notes()
     {
         Notes result;
@@ -33,7 +37,7 @@ protected:
             EXPECT_EQ(document_.edit()->find(note.id), &note);
             EXPECT_EQ(note.selected, std::ranges::count(selection(), note.id) > 0);
         }
-        EXPECT_EQ(result.size(), document_.sequence().notes().size()) << "each has its own";
+        EXPECT_EQ(result.size(), document_.sequence().notes().size()) << "identities are unique";
         return result;
     }
 
@@ -72,9 +76,9 @@ protected:
 
 TEST_F(SequenceEditorTest, MovesANoteOrResizesItByItsEnd)
 {
-    add(60, 4.0, 4.0); // its last step, eight pixels, is for resizing
+    add(60, 4.0, 4.0); // its last step, eight pixels, resizes it
     click({60.0, 5.0});
-    EXPECT_EQ(undoText(), "") << "nothing has moved";
+    EXPECT_EQ(undoText(), "") << "a click moves nothing";
     drag({60.0, 6.9}, {62.0, 7.4});
     EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 4.0, 0));
     EXPECT_EQ(undoText(), "Move 1 Note");
@@ -83,21 +87,21 @@ TEST_F(SequenceEditorTest, MovesANoteOrResizesItByItsEnd)
     EXPECT_EQ(transport_.extent(), 38.0);
     EXPECT_EQ(undoText(), "Resize 1 Note");
     drag({62.0, 6.0}, {62.0, 1.0});
-    EXPECT_THAT(notes(), IsEmpty()) << "to nothing";
+    EXPECT_THAT(notes(), IsEmpty()) << "resized to nothing";
     EXPECT_EQ(undoText(), "Delete 1 Note");
     EXPECT_EQ(transport_.extent(), 0.0);
     undo();
     EXPECT_EQ(transport_.extent(), 38.0);
     undo();
-    undo(); // the note's committed place is still the one that was undone
+    undo();
     type(Qt::Key_Escape);
     drag({60.0, 5.0}, {60.0, 6.5});
     EXPECT_THAT(notes()[1], FieldsAre(60, 5.5, 4.0, 0));
     recorder_.setSnapToGrid(true);
     drag({60.0, 5.9}, {-9.0, -0.3});
-    EXPECT_THAT(notes()[1], FieldsAre(0, -1.0, 4.0, 0)) << "down to the whole step";
+    EXPECT_THAT(notes()[1], FieldsAre(0, -1.0, 4.0, 0)) << "rounded down to a whole step";
     drag({0.0, 2.5}, {0.0, 4.1});
-    EXPECT_THAT(notes()[1], FieldsAre(0, -1.0, 6.0, 0)) << "up to the whole step";
+    EXPECT_THAT(notes()[1], FieldsAre(0, -1.0, 6.0, 0)) << "rounded up to a whole step";
 }
 
 TEST_F(SequenceEditorTest, DrawsWithTheRightButtonOrCommand)
@@ -120,30 +124,30 @@ TEST_F(SequenceEditorTest, SelectsNotesAndTheInterval)
     for (const double start : {2.0, 3.0, 20.0})
         add(60, start, 8.0);
     click({60.0, 4.0});
-    EXPECT_THAT(selection(), ElementsAre(2)) << "the one on top";
+    EXPECT_THAT(selection(), ElementsAre(2)) << "the note on top";
     click({60.0, 4.0}, kShift);
-    EXPECT_THAT(selection(), ElementsAre(1)) << "all under the mouse change";
+    EXPECT_THAT(selection(), ElementsAre(1)) << "toggles every note under the mouse";
 
     drag({0.0, 9.0}, {0.0, 1.0});
     EXPECT_EQ(transport_.interval().start, 1.0);
     EXPECT_EQ(transport_.interval().end, 9.0);
-    EXPECT_EQ(transport_.position(), 9.0) << "where the press was";
+    EXPECT_EQ(transport_.position(), 9.0) << "at the press";
     click({0.0, 2.0});
     click({0.0, 5.0}, kShift);
     EXPECT_EQ(transport_.interval().end, 5.0);
-    EXPECT_THAT(selection(), ElementsAre(1, 2, 1)) << "once more";
+    EXPECT_THAT(selection(), ElementsAre(1, 2, 1)) << "the first note is listed twice";
     editor_.deleteSelection();
     EXPECT_EQ(undoText(), "Delete 2 Notes");
     EXPECT_EQ(notes().size(), 1U);
     undo();
-    EXPECT_EQ(notes().size(), 3U) << "each once";
+    EXPECT_EQ(notes().size(), 3U) << "each note once";
 }
 
-TEST_F(SequenceEditorTest, TakesKeysByTheirPosition)
+TEST_F(SequenceEditorTest, IdentifiesKeysByTheirPosition)
 {
     add(60, 1.0, 1.0);
     calls_.clear();
-    type(Qt::Key_A, kNone, 24); // where the US layout has q, whatever is typed
+    type(Qt::Key_A, kNone, 24); // the position of Q on the US layout
     type(Qt::Key_Q, kShift);
     type(Qt::Key_A);
     type(Qt::Key_AsciiTilde, kShift);
@@ -160,12 +164,12 @@ TEST_F(SequenceEditorTest, TakesKeysByTheirPosition)
     EXPECT_EQ(std::exchange(calls_, {}),
               (Calls{"isomorph 36", "stop 60", "isomorph 1", "stop 48"}));
 
-    type(Qt::Key_Eacute, kNone, 11); // where it has 2
+    type(Qt::Key_Eacute, kNone, 11); // the position of 2
     EXPECT_EQ(recorder_.channel(), 1);
     type(Qt::Key_0, kShift);
     EXPECT_EQ(recorder_.channel(), 19);
     type(Qt::Key_1);
-    EXPECT_THAT(selection(), ElementsAre(1)) << "all of channel 0";
+    EXPECT_THAT(selection(), ElementsAre(1)) << "selects channel 0";
     type(Qt::Key_3, kCommand);
     EXPECT_THAT(notes()[1], FieldsAre(60, 1.0, 1.0, 2));
     undo();
@@ -182,15 +186,20 @@ TEST_F(SequenceEditorTest, TakesKeysByTheirPosition)
     EXPECT_EQ(transport_.mode(), Transport::Mode::Recording);
 
     calls_.clear();
-    testing::internal::CaptureStdout();
+    std::ostringstream log;
+    logger("sequencer"); // so that spdlog has it
+    const auto sequencer = spdlog::get("sequencer");
+    sequencer->sinks() = {std::make_shared<spdlog::sinks::ostream_sink_st>(log)};
+    sequencer->set_pattern("%v");
+    sequencer->set_level(spdlog::level::debug);
     type(Qt::Key_F5, kNone, 71);
     type(Qt::Key_Shift, kShift, 50);
     editor_.keyDown({QEvent::KeyPress, Qt::Key_S, kCommand, 39, 0, 0});
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "case 71:\ncase 39:\n");
-    EXPECT_EQ(calls_, Calls{}) << "a shortcut that is not at hand sounds nothing";
+    EXPECT_EQ(log.str(), "case 71:\ncase 39:\n");
+    EXPECT_EQ(calls_, Calls{}) << "a disabled shortcut plays nothing";
 }
 
-TEST_F(SequenceEditorTest, LeavesNothingSoundingThatIsEdited)
+TEST_F(SequenceEditorTest, SilencesNotesThatAreEdited)
 {
     add(60, 0.5, 8.0);
     transport_.play();
@@ -208,7 +217,7 @@ TEST_F(SequenceEditorTest, LeavesNothingSoundingThatIsEdited)
     EXPECT_EQ(edited([&] { editor_.cut(); }), once);
 }
 
-TEST_F(SequenceEditorTest, KeepsTheOrderOfATakeAndTheEditsWithin)
+TEST_F(SequenceEditorTest, KeepsTheOrderOfATakeAndEditsDuringIt)
 {
     recorder_.record();
     liveKeys_.press(60, 1.0F, now_);
@@ -241,7 +250,7 @@ TEST_F(SequenceEditorTest, PastesAtThePosition)
     EXPECT_THAT(decodeNotes(bytes.chopped(1)), IsEmpty());
     QByteArray wrong = bytes;
     wrong.back() = '\x80';
-    EXPECT_THAT(decodeNotes(wrong), IsEmpty()) << "no such key";
+    EXPECT_THAT(decodeNotes(wrong), IsEmpty()) << "the key is invalid";
     EXPECT_EQ(decodeNotes(encodeNotes({{.velocity = 2.0F}})).at(0).velocity, 1.0F);
 }
 
@@ -281,7 +290,7 @@ TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
     const auto step = [&] { return any(80) * 0.25; };
     const auto place = [&] { return RollPoint{60.0 + any(6), step()}; };
     QUndoStack& stack = document_.undoStack();
-    std::map<int, Notes> states{{0, {}}}; // by the number of edits
+    std::map<int, Notes> states{{0, {}}}; // by the number of edits done
     for (int i = 0; i < 1500; ++i) {
         const int before = stack.index(), what = any(8);
         recorder_.setSnapToGrid(any(4) == 0);
@@ -293,7 +302,7 @@ TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
             type(any(9) == 0 ? Qt::Key_Delete : Qt::Key_1 + any(4), any(2) == 0 ? kCommand : kNone);
         } else if (what == 4) {
             editor_.paste(editor_.copy());
-        } else if (what == 5) { // recording, with another gesture in between
+        } else if (what == 5) { // a recording with a gesture in the middle
             transport_.setPosition(step());
             recorder_.record();
             liveKeys_.press(60 + unsigned(any(6)), 1.0F, now_);
@@ -306,7 +315,7 @@ TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
             stack.setIndex(any(2) == 0 ? before - 1 : before + 1);
         }
         const int index = stack.index();
-        if (what <= 5 && index != before) { // of several edits, only the last state is seen
+        if (what <= 5 && index != before) { // after several edits only the last state is known
             states.erase(states.upper_bound(before), states.end());
             states[index] = notes();
         }

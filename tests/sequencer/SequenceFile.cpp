@@ -32,7 +32,7 @@ Note note(double start, double length, int key = 60, float velocity = 1.0F, int 
             .key = static_cast<unsigned>(key)};
 }
 
-/// "KEY/CHANNEL@START+LENGTH*VELOCITY", times in ticks, of which a step has 512.
+/// "KEY/CHANNEL@START+LENGTH*VELOCITY" for each note, with times in ticks of 1/512 step.
 Notes shown(const std::vector<Note>& notes)
 {
     Notes result;
@@ -42,27 +42,27 @@ Notes shown(const std::vector<Note>& notes)
     return result;
 }
 
-/// The notes of the file that is written of these.
+/// Writes the notes to a file and reads them again.
 Notes reread(const std::vector<Note>& notes, bool isImported = false)
 {
     Sequence written, back;
     for (const Note& one : notes)
         written.addNote(one);
-    const std::string bytes = writeSequence(written, kMidiFileType);
+    const std::string bytes = writeSequence(written, SequenceFormat::MidiFile);
     EXPECT_EQ(read(bytes, back, 0, 127).isImported, isImported);
     return shown(back.notes());
 }
 
 } // namespace
 
-TEST(SequenceFile, GivesTheSameNotesBack)
+TEST(SequenceFile, ReadsTheNotesThatItHasWritten)
 {
     std::mt19937 random(1);
     const auto below = [&](unsigned limit) { return static_cast<int>(random() % limit); };
     std::vector<Note> notes;
     std::array<double, 64> ends{};
     for (int i = 0; i < 10'000; ++i) {
-        // Notes of one key and channel follow upon each other, half of them at once.
+        // Notes of one key and channel follow each other, half of them without a gap.
         const int voice = below(64);
         double& end = ends[static_cast<std::size_t>(voice)];
         const double start = end + below(2) * below(4000) / 512.0;
@@ -73,14 +73,14 @@ TEST(SequenceFile, GivesTheSameNotesBack)
     std::shuffle(notes.begin(), notes.end(), random);
     EXPECT_EQ(reread(notes), shown(notes));
 
-    std::vector<Note> heap; // of two keys, over and within each other
+    std::vector<Note> heap; // overlapping notes on two keys
     for (int i = 0; i < 1000; ++i)
         heap.push_back(note(below(400) / 4.0, (1 + below(400)) / 4.0, 60 + below(2),
                             static_cast<float>(1 + below(127)) / 127.0F, below(2)));
     EXPECT_EQ(reread(heap), shown(heap));
 }
 
-TEST(SequenceFile, BringsNotesWithinTheBoundsOfAFile)
+TEST(SequenceFile, LimitsNotesToWhatAFileCanHold)
 {
     for (const auto& [written, back] :
          std::vector<std::pair<Note, std::string>>{{note(1, 0.0001), "60/0@512+1*127"},
@@ -94,12 +94,12 @@ TEST(SequenceFile, BringsNotesWithinTheBoundsOfAFile)
                                                    {note(500'000, 1), "60/0@256000000+512*127"}})
         EXPECT_EQ(reread({written}), Notes{back});
     EXPECT_EQ(reread({note(600'000, 1)}, true), Notes{"60/0@307200000+512*127"})
-        << "an event stands in a pause of ten hours";
+        << "an event divides a pause of ten hours";
     for (const Note& endless : {note(1e12, 1), note(0, 1e12), note(std::nan(""), 1)})
         EXPECT_THROW(reread({endless}), std::length_error);
 }
 
-TEST(SequenceFile, TakesOverNotesInSteps)
+TEST(SequenceFile, ReadsNotesInSteps)
 {
     Sequence sequence;
     const auto kept = read(header(1, 2) + track(on(192, 60) + off(96, 60)) +
@@ -112,15 +112,15 @@ TEST(SequenceFile, TakesOverNotesInSteps)
     EXPECT_EQ(note.channel, 9);
     EXPECT_EQ(note.oldKey, 62);
     EXPECT_EQ(kept.extent, 16.0 + 8.0 + 32.0);
-    // One second a beat from beat 1 on. The note at beat 2 lasts two seconds by the clock, but a
-    // duration is looked up as a position.
+    // A beat takes one second from beat 1 on. The note lasts two seconds, but its duration is
+    // converted like a position.
     Sequence slowing;
     read(file(tempo(96, 1'000'000) + on(96, 60) + off(192, 60)), slowing);
     EXPECT_EQ(slowing.notes().at(0).start, 1.5 * 16.0);
     EXPECT_EQ(slowing.notes().at(0).length, 1.5 * 16.0);
 }
 
-TEST(SequenceFile, KnowsWhetherTheFileHoldsMore)
+TEST(SequenceFile, TellsIfTheFileHoldsMore)
 {
     const std::string note = on(0, 60) + off(96, 60);
     for (const auto& [name, bytes, notes, isImported] :

@@ -35,7 +35,7 @@ protected:
         document_.registerDone(absent(drawn), "Draw");
     }
 
-    bool save() { return document_.saveToURL(path_, kMidiFileType, kSave); }
+    bool save() { return document_.save(path_, SequenceFormat::MidiFile, kSave); }
 
     std::size_t savedNotes() const
     {
@@ -44,7 +44,8 @@ protected:
         return sequence.notes().size();
     }
 
-    /// Runs the event loop until so many files are in the folder of recovery files.
+    /// Runs the event loop until the recovery folder has a number of files. Returns false if it
+    /// never has.
     bool waitFor(int files) const
     {
         std::error_code none;
@@ -66,7 +67,7 @@ protected:
 
 } // namespace
 
-TEST(UnsavedSequence, ComesBackExactlyOrNotAtAll)
+TEST(UnsavedSequence, IsDecodedExactlyOrRejected)
 {
     const Note before{.start = 1.0 / 3.0,
                       .length = 1e-9,
@@ -94,7 +95,7 @@ TEST(UnsavedSequence, ComesBackExactlyOrNotAtAll)
     for (std::size_t size = 0; size < bytes.size(); ++size)
         EXPECT_THROW(decode(bytes.substr(0, size)), FormatError) << size;
     EXPECT_THROW(decode(bytes + "x"), FormatError);
-    std::string wrong = bytes; // the first bytes of the last note's start, as of a NaN
+    std::string wrong = bytes; // makes the last note's start a NaN
     wrong.replace(bytes.size() - 52, 2, "\x7F\xF8");
     EXPECT_THROW(decode(wrong), FormatError);
     const Note far{.start = -1e300, .length = 1e300, .oldLength = -1.0, .velocity = 2.0F};
@@ -107,7 +108,7 @@ TEST_F(SequenceSaving, RefusesToReplaceAFileThatHoldsMore)
     const std::string bytes = midi::header(1, 2, 128) + midi::track("") +
                               midi::track(midi::on(0, 60) + midi::off(64, 60));
     std::ofstream(path_, std::ios::binary) << bytes;
-    document_.readFromURL(path_);
+    document_.read(path_);
     EXPECT_FALSE(save());
     EXPECT_EQ(document_.errorString(),
               "The source file contains unprocessed MIDI information which cannot be overwriten "
@@ -115,19 +116,19 @@ TEST_F(SequenceSaving, RefusesToReplaceAFileThatHoldsMore)
     EXPECT_EQ(readTextFile(path_), bytes);
 
     const auto other = folder_ / "b.imy";
-    EXPECT_TRUE(document_.saveToURL(other, kIMelodyType, kSaveAs));
+    EXPECT_TRUE(document_.save(other, SequenceFormat::IMelody, kSaveAs));
     EXPECT_EQ(document_.path(), other);
     EXPECT_THAT(readTextFile(other), testing::HasSubstr("MELODY:*3c3\r\n"));
-    EXPECT_TRUE(save()) << "now it holds no more";
+    EXPECT_TRUE(save()) << "the new file holds no more";
 
     std::ofstream(path_, std::ios::binary) << bytes.substr(0, 40);
-    document_.readFromURL(path_);
+    document_.read(path_);
     EXPECT_TRUE(document_.sequence().notes().empty()) << "a broken file";
     EXPECT_EQ(transport_.extent(), 0.0);
     EXPECT_THAT(document_.errorString(), testing::HasSubstr("a.mid"));
 }
 
-TEST_F(SequenceSaving, LeavesTheFileWhereItCannotBeWritten)
+TEST_F(SequenceSaving, KeepsTheOldFileIfItCannotBeWritten)
 {
     draw(1);
     EXPECT_TRUE(document_.isModified());
@@ -146,15 +147,15 @@ TEST_F(SequenceSaving, LeavesTheFileWhereItCannotBeWritten)
     EXPECT_EQ(savedNotes(), 1U);
     EXPECT_TRUE(document_.isModified());
 
-    EXPECT_FALSE(document_.saveToURL(folder_ / "gone" / "a.mid", kMidiFileType, kSaveAs));
+    EXPECT_FALSE(document_.save(folder_ / "gone" / "a.mid", SequenceFormat::MidiFile, kSaveAs));
     EXPECT_EQ(document_.errorString(), "a.mid cannot be written to " + (folder_ / "gone").string() +
                                            ": the folder does not exist");
     mkfifo((folder_ / "pipe.mid").c_str(), 0600);
-    EXPECT_FALSE(document_.saveToURL(folder_ / "pipe.mid", kMidiFileType, kSaveAs));
+    EXPECT_FALSE(document_.save(folder_ / "pipe.mid", SequenceFormat::MidiFile, kSaveAs));
     EXPECT_EQ(document_.path(), "");
 }
 
-TEST_F(SequenceSaving, IsTheOldOrTheNewFileWhenTheProgramIsKilled)
+TEST_F(SequenceSaving, LeavesTheOldOrTheNewFileWhenKilled)
 {
     draw(2000);
     draw(1000);
@@ -173,7 +174,7 @@ TEST_F(SequenceSaving, IsTheOldOrTheNewFileWhenTheProgramIsKilled)
     EXPECT_EQ(seen[2000] + seen[3000], 20);
 }
 
-TEST_F(SequenceSaving, KeepsWhatIsNotSavedUntilItIsSavedOrClosed)
+TEST_F(SequenceSaving, KeepsUnsavedNotesUntilSavedOrClosed)
 {
     RecoveryFile running(kept_);
     running.write(document_.snapshot());
@@ -181,20 +182,20 @@ TEST_F(SequenceSaving, KeepsWhatIsNotSavedUntilItIsSavedOrClosed)
     killWhileWorking([&](const auto& ready) {
         const RecoveryKeeper keeper(document_, RecoveryFile(kept_), 1ms);
         draw(3);
-        if (waitFor(5) && RecoveryFile::abandoned(kept_).empty()) // each with its lock
+        if (waitFor(5) && RecoveryFile::abandoned(kept_).empty()) // each file has a lock
             ready();
         pause();
     });
     EXPECT_EQ(RecoveryFile::abandoned(kept_).size(), 1U);
     auto left = RecoveryFile::abandoned(kept_);
-    ASSERT_EQ(left.size(), 1U) << "nobody has wanted it yet";
-    EXPECT_TRUE(RecoveryFile::abandoned(kept_).empty()) << "it is taken over";
+    ASSERT_EQ(left.size(), 1U) << "no one has claimed it yet";
+    EXPECT_TRUE(RecoveryFile::abandoned(kept_).empty()) << "it is claimed now";
     document_.recover(left[0].sequence);
     EXPECT_EQ(document_.sequence().notes().size(), 3U);
     EXPECT_EQ(transport_.extent(), 33.0);
     EXPECT_TRUE(document_.isModified());
 
-    constexpr int kOthers = 4; // the two of above, and their locks
+    constexpr int kOthers = 4; // the two other files and their locks
     auto keeper = std::make_unique<RecoveryKeeper>(document_, std::move(left[0].file), 1ms);
     EXPECT_TRUE(save());
     EXPECT_TRUE(waitFor(kOthers)) << "saved";

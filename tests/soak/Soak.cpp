@@ -249,10 +249,10 @@ private:
     {
         const auto path = folder_.path() / "saved.mid";
         constexpr auto kSaveAs = SequenceDocument::SaveOperation::SaveAs;
-        for (const char* type : {kIMelodyType, kMidiFileType})
-            require(open.document.saveToURL(path, type, kSaveAs), open.document.errorString());
+        for (const auto format : {SequenceFormat::IMelody, SequenceFormat::MidiFile})
+            require(open.document.save(path, format, kSaveAs), open.document.errorString());
         auto read = makeSequence();
-        read->document.readFromURL(path);
+        read->document.read(path);
         require(read->document.errorString().empty(), read->document.errorString());
         const auto old = std::ranges::find(sequences_, &open, &std::unique_ptr<OpenSequence>::get);
         *old = std::move(read);

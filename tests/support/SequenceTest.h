@@ -16,8 +16,8 @@ namespace velmora {
 
 using Calls = std::vector<std::string>;
 
-/// A document on a clock that is moved by hand, whose host writes down what it is called with. 16
-/// steps of a file are a second, 15 of the document's.
+/// A document with a clock that only `tick` moves, on a host that records its calls. A second has
+/// 16 steps of a file, but 15 steps of the document.
 class SequenceTest : public testing::Test, public SequenceHost {
 protected:
     void play(int key, float velocity) override
@@ -43,7 +43,10 @@ protected:
         document_.measure();
     }
 
-    /// One tick of the timer after so many steps.
+    void press(unsigned key) { liveKeys_.press(key, 0.5F, now_); }
+    void release(unsigned key) { liveKeys_.release(key, now_); }
+
+    /// Moves the clock by a number of steps and ticks once.
     void tick(double steps)
     {
         now_ += steps / 15.0;

@@ -151,7 +151,7 @@ void Desktop::openFile(const QString& path)
         openTuning(path, *tuning);
     else if (instrument)
         openInstrument(path, *instrument);
-    else if (!sequenceTypeOf(file).empty())
+    else if (sequenceFormatOf(file))
         openSequence(path);
     else
         showError(tr("%1: unrecognised file type. Velmora knows a file by the end of its name, "

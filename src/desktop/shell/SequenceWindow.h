@@ -79,8 +79,7 @@ private:
     void fitToScreen();
     void showTitle();
     void scrollTo(double step);
-    bool write(const QString& path, const std::string& type,
-               SequenceDocument::SaveOperation operation);
+    bool write(const QString& path, SequenceDocument::SaveOperation operation);
     bool askToCancelExport();
     bool askToSave();
     bool askToLoseVoices();

@@ -56,7 +56,7 @@ bool SequenceWindow::save()
     if (document_.path().empty())
         return saveAs();
     return write(QString::fromStdString(document_.path().string()),
-                 sequenceTypeOf(document_.path()), SequenceDocument::SaveOperation::Save);
+                 SequenceDocument::SaveOperation::Save);
 }
 
 bool SequenceWindow::saveAs()
@@ -64,14 +64,16 @@ bool SequenceWindow::saveAs()
     const QString saved = QString::fromStdString(document_.path().string());
     const QString path = askWhereToSave(
         *this, {.title = tr("Save As"),
-                .kinds = {{tr("MIDI File"), {"mid", "midi", "smf", "kar"}}, {"iMelody", {"imy"}}},
+                .kinds = {{QString::fromStdString(typeName(SequenceFormat::MidiFile)),
+                           {"mid", "midi", "smf", "kar"}},
+                          {QString::fromStdString(typeName(SequenceFormat::IMelody)), {"imy"}}},
                 .proposal = saved.isEmpty() ? name_ + ".mid" : saved,
                 .folderKey = "saveFolder"});
     if (path.isEmpty())
         return false;
-    const std::string type = sequenceTypeOf(path.toStdString());
-    return (type != kIMelodyType || askToLoseVoices()) &&
-           write(path, type, SequenceDocument::SaveOperation::SaveAs);
+    const bool losesVoices = sequenceFormatOf(path.toStdString()) == SequenceFormat::IMelody;
+    return (!losesVoices || askToLoseVoices()) &&
+           write(path, SequenceDocument::SaveOperation::SaveAs);
 }
 
 bool SequenceWindow::askToLoseVoices()
@@ -85,13 +87,13 @@ bool SequenceWindow::askToLoseVoices()
     return box.exec() == QMessageBox::Save;
 }
 
-bool SequenceWindow::write(const QString& path, const std::string& type,
-                           SequenceDocument::SaveOperation operation)
+bool SequenceWindow::write(const QString& path, SequenceDocument::SaveOperation operation)
 {
-    const bool isWritten = document_.saveToURL(path.toStdString(), type, operation);
+    const auto format = sequenceFormatOf(path.toStdString());
+    const bool isWritten = format && document_.save(path.toStdString(), *format, operation);
     showTitle();
     if (isWritten) {
-        if (type == kMidiFileType)
+        if (format == SequenceFormat::MidiFile)
             commands_.addRecent(path); // Velmora cannot open other types
         return true;
     }

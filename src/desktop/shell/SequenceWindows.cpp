@@ -103,7 +103,7 @@ std::string SequenceWindows::open(const QString& path)
         }
     }
     SequenceWindow& window = makeWindow({});
-    window.document().readFromURL(path.toStdString());
+    window.document().read(path.toStdString());
     std::string error = window.document().errorString();
     if (error.empty())
         show(window);

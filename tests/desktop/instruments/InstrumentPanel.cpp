@@ -43,7 +43,8 @@ TEST(InstrumentPanel, ShowsVolumesWhileAMidiThreadSetsThem)
     QCoreApplication::processEvents();
     const auto sliders = panel.findChildren<QSlider*>();
     ASSERT_EQ(sliders.size(), 2);
-    EXPECT_NEAR(sliders[0]->value(), 1000.0 * (1000 % 128) / 127, 0.5) << "the last value that arrived";
+    EXPECT_NEAR(sliders[0]->value(), 1000.0 * (1000 % 128) / 127, 0.5)
+        << "the last value that arrived";
     EXPECT_NEAR(sliders[1]->value(), 1000.0 * 64 / 127, 0.5);
 }
 

@@ -304,14 +304,14 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
 
     const QTemporaryDir folder;
     const std::string path = folder.filePath("one.mid").toStdString();
-    EXPECT_TRUE(
-        window.document().saveToURL(path, "MIDI File", SequenceDocument::SaveOperation::SaveAs));
+    EXPECT_TRUE(window.document().save(path, SequenceFormat::MidiFile,
+                                       SequenceDocument::SaveOperation::SaveAs));
     EXPECT_FALSE(window.isWindowModified());
     EXPECT_EQ(window.windowTitle(), "one.mid[*]");
     draw(window, {300, 100});
     answering({"Save"}, [&] { EXPECT_TRUE(closes(window)); });
     SequenceDocument reread(desktop.application().player());
-    reread.readFromURL(path);
+    reread.read(path);
     EXPECT_EQ(reread.sequence().notes().size(), 2);
 
     SequenceWindow& imported = open("wolf-fantasia.mid");

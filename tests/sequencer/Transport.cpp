@@ -1,3 +1,5 @@
+#include "sequencer/Transport.h"
+
 #include "support/SequenceTest.h"
 
 #include <algorithm>
@@ -7,7 +9,7 @@ namespace velmora {
 
 namespace {
 
-/// All that a tick changes.
+/// Everything that a tick changes.
 struct State {
     std::vector<Note> notes;
     std::vector<int> keys;
@@ -25,7 +27,7 @@ struct State {
     }
 };
 
-class SequencePlaybackTest : public SequenceTest {
+class TransportTest : public SequenceTest {
 protected:
     /// The extent is 44.
     void addTwoNotes()
@@ -44,8 +46,8 @@ protected:
                 transport_.cursor()};
     }
 
-    /// What a tick of so many steps comes to, by a plain walk through all notes: the measure of the
-    /// one that skips what the tick does not concern.
+    /// Returns the state after a tick of a number of steps, found by visiting all notes. The real
+    /// tick must have the same result although it visits few of them.
     State walkThrough(double steps) const
     {
         State result = state();
@@ -67,7 +69,7 @@ protected:
                 keys[note.key] = 0;
                 note.playing = note.active = false;
                 const std::string stop = fmt::format("stop {}", note.key);
-                // At the end, once for each key is enough.
+                // At the end each key stops only once.
                 if (!atEnd || std::ranges::find(calls, stop) == calls.end())
                     calls.push_back(stop);
             }
@@ -115,12 +117,12 @@ protected:
 
 } // namespace
 
-TEST_F(SequencePlaybackTest, PlaysToTheEndAndGoesBackToTheBeginning)
+TEST_F(TransportTest, PlaysToTheEndAndReturnsToTheBeginning)
 {
     addTwoNotes();
     double shown = -1.0;
     QObject::connect(&transport_, &Transport::frame, [&] { shown = transport_.position(); });
-    tick(100.0); // before it plays
+    tick(100.0); // has no effect before it plays
     transport_.play();
     for (const auto& [steps, calls] : {std::pair(1.5, Calls{}),
                                        {1.0, {"play 60 1.00"}},
@@ -136,7 +138,7 @@ TEST_F(SequencePlaybackTest, PlaysToTheEndAndGoesBackToTheBeginning)
     }
     EXPECT_EQ(transport_.mode(), kStopped);
     EXPECT_EQ(transport_.position(), 0.0);
-    EXPECT_EQ(shown, 0.0) << "no further tick shows it";
+    EXPECT_EQ(shown, 0.0) << "the last tick shows it";
 
     transport_.play();
     tick(2.5);
@@ -148,7 +150,7 @@ TEST_F(SequencePlaybackTest, PlaysToTheEndAndGoesBackToTheBeginning)
     EXPECT_NEAR(transport_.position(), 2.5, 1e-6);
 }
 
-TEST_F(SequencePlaybackTest, PlaysTheSelectedInterval)
+TEST_F(TransportTest, PlaysTheSelectedInterval)
 {
     addTwoNotes();
     transport_.selectInterval(3.0, 8.0);
@@ -163,12 +165,12 @@ TEST_F(SequencePlaybackTest, PlaysTheSelectedInterval)
     }
 }
 
-TEST_F(SequencePlaybackTest, DoesWhatAWalkThroughAllNotesDoes)
+TEST_F(TransportTest, HasTheSameResultAsVisitingAllNotes)
 {
     transport_.setLoop(true);
     for (int i = 0; i < 4000 && !HasFailure(); ++i) {
         SCOPED_TRACE(i);
-        if (i % 400 == 0) { // another sequence, unsorted, with many that start together
+        if (i % 400 == 0) { // a new, unsorted sequence in which many notes start together
             document_.edit()->select();
             document_.edit()->erase();
             for (unsigned notes = any(40); notes > 0; --notes)
