@@ -1,4 +1,4 @@
-// All threads of live playing at once.
+// All threads of live playing, running at once.
 
 #include "app/AppDelegate.h"
 #include "audio/Synthesizer.h"
@@ -13,6 +13,42 @@
 #include <thread>
 
 namespace velmora {
+
+namespace {
+
+void strikeKeys(LiveInput& input)
+{
+    std::mt19937 random(1);
+    for (int i = 0; i < 4000; ++i) {
+        const int key = static_cast<int>(random() % 128);
+        input.keyOn(key, 0.5F);
+        if (i % 16 == 0)
+            std::this_thread::sleep_for(std::chrono::microseconds(500));
+        input.keyOff(i % 3 == 0 ? 127 - key : key);
+    }
+}
+
+/// Sends messages of keys and controllers, and then random bytes.
+void sendMidi(LiveInput& input)
+{
+    std::mt19937 random(7);
+    const auto byte = [&](unsigned lowest, unsigned highest) {
+        return static_cast<std::uint8_t>(lowest + random() % (highest - lowest + 1));
+    };
+    for (int i = 0; i < 20000; ++i) {
+        std::vector<std::uint8_t> bytes{byte(0x80, 0xBF), byte(0, 127), byte(0, 127)};
+        if (i >= 10000) {
+            bytes.resize(byte(0, 12));
+            std::ranges::generate(bytes, [&] { return byte(0, 255); });
+        }
+        const MidiPacket packet = bytes;
+        midiRead({&packet, 1}, input);
+        if (i % 32 == 0)
+            std::this_thread::sleep_for(std::chrono::microseconds(500));
+    }
+}
+
+} // namespace
 
 TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
 {
@@ -29,33 +65,11 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
 
     std::atomic<int> playing{2};
     std::thread mouse([&] {
-        std::mt19937 random(1);
-        for (int i = 0; i < 4000; ++i) {
-            const int key = static_cast<int>(random() % 128);
-            app.keyOn(key, 0.5F);
-            if (i % 16 == 0)
-                std::this_thread::sleep_for(std::chrono::microseconds(500));
-            app.keyOff(i % 3 == 0 ? 127 - key : key);
-        }
+        strikeKeys(app);
         --playing;
     });
     std::thread device([&] {
-        std::mt19937 random(7);
-        const auto byte = [&](unsigned lowest, unsigned highest) {
-            return static_cast<std::uint8_t>(lowest + random() % (highest - lowest + 1));
-        };
-        for (int i = 0; i < 20000; ++i) {
-            // Messages of keys and controllers; then whatever comes.
-            std::vector<std::uint8_t> bytes{byte(0x80, 0xBF), byte(0, 127), byte(0, 127)};
-            if (i >= 10000) {
-                bytes.resize(byte(0, 12));
-                std::ranges::generate(bytes, [&] { return byte(0, 255); });
-            }
-            const MidiPacket packet = bytes;
-            midiRead({&packet, 1}, app);
-            if (i % 32 == 0)
-                std::this_thread::sleep_for(std::chrono::microseconds(500));
-        }
+        sendMidi(app);
         --playing;
     });
     std::thread audio([&] {
@@ -91,7 +105,7 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
     for (int key = 0; key < 128; ++key)
         app.keyOff(key);
     for (const auto& [instrument, synthesizer] : players) {
-        rendered(*synthesizer, std::size_t{4} * 48000); // what dies away
+        rendered(*synthesizer, std::size_t{4} * 48000); // released keys die away
         EXPECT_EQ(peak(rendered(*synthesizer, 4800).left), 0.0F);
     }
 }

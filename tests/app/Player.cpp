@@ -74,7 +74,7 @@ protected:
         player_.setInstrument(third_);
         EXPECT_GT(heard(*synthesizer_), 0.0F) << "a change of instrument stops nothing";
         release();
-        rendered(*synthesizer_, std::size_t{4} * 48000); // what dies away
+        rendered(*synthesizer_, std::size_t{4} * 48000); // released keys die away
         EXPECT_EQ(heard(*synthesizer_), 0.0F) << "General MIDI";
     }
 
