@@ -37,7 +37,7 @@ void renderPiece(benchmark::State& state, const char* tuning)
         application.selectTuning(tuning);
         state.ResumeTiming();
 
-        SequenceRenderer renderer(application, source);
+        SequenceRenderer renderer(application.player(), source);
         renderer.document().read(VELMORA_EXAMPLES "/wolf-fantasia.mid");
         renderer.render(
             {},

@@ -86,5 +86,5 @@ int main(int argc, char** argv)
     measure("scrolling", view, [&](std::size_t frame) {
         scrollView.scrollVertically(8.0 * static_cast<double>(1 + frame % 5000));
     });
-    window->closeAsIs();
+    window->closeWithoutAsking();
 }

@@ -19,6 +19,7 @@
 namespace velmora {
 
 constexpr double kRate = 48000.0;
+constexpr std::size_t kTenthOfASecond = 4800; ///< In frames.
 
 /// Renders a synthesizer in real time, in blocks of 128 frames, as an audio driver does. The
 /// synthesizer must outlive it.
@@ -32,7 +33,7 @@ public:
     {
         const std::lock_guard lock(mutex_);
         for (int i = 0; i < 400; ++i)
-            if (!isAudible(peak(rendered(source_, kRate / 10).left)))
+            if (!isAudible(peak(rendered(source_, kTenthOfASecond).left)))
                 return true;
         return false;
     }
