@@ -203,6 +203,7 @@ void AppDelegate::updateProgress(unsigned steps, const std::string& text)
 
 void AppDelegate::putTuning(std::unique_ptr<TuningDocument> document)
 {
+    // See docs/decisions.md, 19.
     tunings_[document->name()] = document.get();
     tuningDocuments_.push_back(std::move(document));
     emit tuningsChanged();
@@ -237,7 +238,7 @@ bool AppDelegate::selectTuning(const std::string& name)
 
 void AppDelegate::useTuning(const TuningDocument& document)
 {
-    // A fresh copy begins at home: decision 17 (docs/decisions.md).
+    // A fresh copy begins at home: see docs/decisions.md, 17.
     auto temperament = document.temperament().fresh();
     player_.setTemperament(*temperament);
     temperament_ = std::move(temperament);

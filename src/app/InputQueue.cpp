@@ -51,6 +51,7 @@ bool InputQueue::pop(InputEvent& event)
     return true;
 }
 
+// See docs/decisions.md, 95.
 void InputQueue::drain()
 {
     std::uint64_t wakeUps = 0;

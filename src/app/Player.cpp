@@ -99,6 +99,7 @@ void Player::silence()
     }
 }
 
+// See docs/decisions.md, 28.
 void Player::fade()
 {
     const std::lock_guard lock(mutex_);
@@ -121,6 +122,7 @@ void Player::start(int key, float velocity)
     markCurrent(key);
 }
 
+// See docs/decisions.md, 30.
 void Player::stopEverywhere(int key)
 {
     const auto slot = static_cast<std::size_t>(key);

@@ -2,6 +2,7 @@
 
 namespace velmora {
 
+// See docs/decisions.md, 41 and 42.
 const std::array<const char*, 128> kMIDIInstrumentNames = {
     "1 Acoustic Grand Piano",
     "2 Bright Acoustic Piano",

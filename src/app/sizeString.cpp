@@ -6,6 +6,7 @@ namespace velmora {
 
 std::string sizeString(std::uint64_t bytes)
 {
+    // See docs/decisions.md, 115.
     constexpr std::uint64_t kKilo = 1U << 10U, kMega = 1U << 20U, kGiga = 1U << 30U;
     const auto in = [bytes](std::uint64_t unit) {
         return static_cast<double>(bytes) / static_cast<double>(unit);

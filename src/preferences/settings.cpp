@@ -56,6 +56,7 @@ void reportDamageOnce()
 
 } // namespace
 
+// See docs/decisions.md, 116.
 QVariant preference(const std::string& key)
 {
     const QString name = QString::fromStdString(key);

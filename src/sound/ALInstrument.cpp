@@ -82,11 +82,13 @@ std::vector<InstrumentStop>& ALInstrument::stops()
 
 float ALInstrument::getVolume(std::size_t stop) const
 {
+    // See docs/decisions.md, 20.
     return stop < stops_.size() ? 2.0F * stops_[stop].volume : 0.0F;
 }
 
 void ALInstrument::setVolume(std::size_t stop, float volume)
 {
+    // See docs/decisions.md, 21.
     if (stop < stops_.size())
         stops_[stop].volume = volume;
 }
@@ -101,6 +103,7 @@ std::string ALInstrument::stopName(std::size_t stop) const
     return stop < stops_.size() ? stops_[stop].name : "";
 }
 
+// See docs/decisions.md, 23 and 24.
 void ALInstrument::play(int key, float /*velocity*/)
 {
     const OneUpdate together;

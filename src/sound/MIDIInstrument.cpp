@@ -14,6 +14,7 @@ namespace {
 int channelOf(int key)
 {
     const int pitchClass = key % 12;
+    // See docs/decisions.md, 32.
     return pitchClass == 9 ? 12 : pitchClass;
 }
 
@@ -27,6 +28,7 @@ MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device)
 std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<MusicDevice> device)
 {
     device_.swap(device);
+    // See docs/decisions.md, 38.
     for (int channel = 0; channel < kChannels; ++channel)
         device_->midiEvent(midi::kControlChange | channel, midi::kBankSelect, 0);
     setInstrument(program_);
@@ -56,6 +58,7 @@ std::size_t MIDIInstrument::numStops() const
 
 void MIDIInstrument::play(int key, float velocity)
 {
+    // See docs/decisions.md, 40.
     const int value = static_cast<int>(velocity * 127.0F * volume_);
     device_->midiEvent(midi::kNoteOn | channelOf(key), key, value);
 }
@@ -71,11 +74,13 @@ void MIDIInstrument::silence()
         device_->midiEvent(midi::kControlChange | channel, midi::kAllSoundOff, 0);
 }
 
+// See docs/decisions.md, 33 and 37.
 void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/)
 {
     for (int pitchClass = 1; pitchClass < 12; ++pitchClass) {
         const double cents = temperament.getTuning(static_cast<unsigned>(pitchClass)).cent();
         // The default bend range, ±200 cents over ±64 steps of the most significant byte.
+        // See docs/decisions.md, 34 to 36.
         const double bend = (cents - 100.0 * pitchClass) * 64.0 / 200.0;
         const double steps = std::floor(bend);
         const int leastSignificant = static_cast<int>((bend - steps) * 128.0);

@@ -32,6 +32,7 @@ public:
     std::unique_ptr<MusicDevice> exchangeDevice(std::unique_ptr<MusicDevice> device);
 
 private:
+    // See docs/decisions.md, 39.
     static constexpr std::uint8_t kStartUpProgram = 2;
 
     std::unique_ptr<MusicDevice> device_;

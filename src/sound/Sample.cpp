@@ -10,6 +10,7 @@ namespace velmora {
 
 namespace {
 
+// See docs/decisions.md, 27.
 constexpr float kFirstGain = 0.4F;
 
 /// A released sample with a lower gain ends.
@@ -47,6 +48,7 @@ void Sample::setBuffer(const Sound& sound, double rootPitch)
         alDeleteSources(1, &source_);
     sound_ = nullptr;
     source_ = 0;
+    // See docs/decisions.md, 25.
     alGenSources(1, &source_);
     if (source_ == 0)
         throw FormatError("OpenAL has no source left for it: unload another instrument first");
@@ -63,6 +65,7 @@ void Sample::play(float volume)
         return;
     released_ = false;
     alSourcef(source_, AL_GAIN, volume);
+    // See docs/decisions.md, 26.
     alSourcePlay(source_);
     gain_ = volume;
 }

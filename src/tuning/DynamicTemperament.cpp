@@ -112,21 +112,24 @@ void DynamicTemperament::isomorph(Tunable& instrument, int n)
     const int neighbour = n - 3 * k;
     const auto pitchClass = static_cast<std::size_t>(k % 12);
     const int spelling = kHome[pitchClass] + neighbour;
-    // Diagnostics keep their texts: decision 125 (docs/decisions.md).
+    // Diagnostics keep their texts: see docs/decisions.md, 125.
     logger("tuning").debug("ISOMORPH {}", spelling);
+    // See docs/decisions.md, 13.
     voices_[pitchClass] = {static_cast<std::size_t>(spelling), 0.0F};
     instrument.tune(*this, 0, 127);
+    // See docs/decisions.md, 15.
     instrument.play(isomorphKey(n), 1.0F);
 }
 
 void DynamicTemperament::fade(double factor)
 {
+    // See docs/decisions.md, 11.
     for (Voice& voice : voices_) {
         voice.weight = static_cast<float>(voice.weight * factor);
         if (voice.weight < kFaded)
             voice.weight = 0.0F;
     }
-    // Decision 12 (docs/decisions.md): C always remains as a reference.
+    // C always remains as a reference: see docs/decisions.md, 12.
     if (std::ranges::all_of(voices_, [](const Voice& voice) { return voice.weight == 0.0F; }))
         voices_[0] = {kHome[0], static_cast<float>(kFaded)};
 }

@@ -42,7 +42,7 @@ private:
     std::array<Voice, 12> voices_{};
 
     /// How strongly a sounding pitch (row) attracts a struck note to a candidate (column). All
-    /// zero, so only a pitch class's own last note affects its spelling (decision 10).
+    /// zero, so only a pitch class's own last note affects its spelling. See docs/decisions.md, 10.
     std::array<std::array<float, kPitches>, kPitches> affinity_{};
 };
 

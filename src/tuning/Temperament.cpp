@@ -19,7 +19,7 @@ Temperament Temperament::Meantone()
     const auto ratio = [&](double numerator, double denominator) {
         temperament.append(std::make_unique<Ratio>(numerator, denominator));
     };
-    // Decision 2 (docs/decisions.md): ratios and rounded cents are mixed.
+    // Ratios and rounded cents are mixed: see docs/decisions.md, 2.
     cents(0);
     cents(76.049);
     cents(193.15686);
@@ -56,7 +56,7 @@ void Temperament::fade(double /*factor*/) {}
 
 double Temperament::getPitch(unsigned long key) const
 {
-    // Decision 1 (docs/decisions.md): an octave higher than usual.
+    // An octave higher than usual: see docs/decisions.md, 1.
     return getTuning(key).tune(baseFrequency_, static_cast<int>(key / 12) - 4);
 }
 

@@ -39,7 +39,7 @@ double Freq::tune(double /*base*/, int octave) const
     return std::ldexp(frequency_, octave);
 }
 
-// Decision 9 (docs/decisions.md): an absolute pitch has no relative measure.
+// An absolute pitch has no relative measure: see docs/decisions.md, 9.
 double Freq::cent() const
 {
     return 0.0;

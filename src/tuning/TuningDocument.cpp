@@ -11,7 +11,7 @@ namespace velmora {
 
 TuningDocument::TuningDocument() : temperament_(std::make_unique<Temperament>()) {}
 
-// Any other name is meantone: decision 18 (docs/decisions.md).
+// Any other name is meantone: see docs/decisions.md, 18.
 std::unique_ptr<TuningDocument> TuningDocument::makeBuiltin(const std::string& name)
 {
     auto document = std::make_unique<TuningDocument>();
@@ -31,7 +31,7 @@ bool TuningDocument::read(const std::filesystem::path& path, TuningFormat format
     errorString_.clear();
     try {
         const auto bytes = readFile(path);
-        // Diagnostics keep their texts: decision 125 (docs/decisions.md).
+        // Diagnostics keep their texts: see docs/decisions.md, 125.
         logger("tuning").debug("TUNING {}", name_);
         temperament_ = std::make_unique<Temperament>(readTuning(bytes, format));
         return true;

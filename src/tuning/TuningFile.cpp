@@ -29,12 +29,13 @@ struct Lines {
     std::vector<Line> kept;    ///< The first `kKeptLines` content lines.
     std::size_t keptCount = 0; ///< The number of content lines in the file.
     std::size_t count = 0;     ///< The number of lines in the file.
-    std::string_view unended;  ///< The ignored text after the last line end (decision 7).
+    std::string_view unended;  ///< The ignored text after the last line end.
 };
 
-/// Returns whether a line has content; see decision 6 (docs/decisions.md).
+/// Returns whether a line has content.
 bool isKept(std::string_view line)
 {
+    // See docs/decisions.md, 6.
     return !line.empty() && std::string_view("\n\r!/:@").find(line.front()) == std::string::npos;
 }
 
@@ -52,6 +53,7 @@ Lines splitLines(std::string_view text)
         if (++lines.keptCount <= kKeptLines)
             lines.kept.push_back({line, lines.count});
     }
+    // See docs/decisions.md, 7.
     lines.unended = text;
     return lines;
 }
@@ -105,9 +107,10 @@ void append(Temperament& temperament, std::unique_ptr<Tuning> tuning, const Line
     temperament.append(std::move(tuning));
 }
 
-/// Both parts are truncated (decision 4).
+/// Both parts are truncated.
 std::unique_ptr<Tuning> readRatio(const Line& line, std::size_t slash)
 {
+    // See docs/decisions.md, 4.
     const double numerator = std::trunc(finiteNumber(line, line.text.substr(0, slash)));
     const double denominator = std::trunc(finiteNumber(line, line.text.substr(slash + 1)));
     if (denominator == 0.0)
@@ -116,7 +119,7 @@ std::unique_ptr<Tuning> readRatio(const Line& line, std::size_t slash)
     return std::make_unique<Ratio>(numerator, denominator);
 }
 
-/// A whole number is cents, too (decision 3).
+/// A whole number is cents, too.
 std::unique_ptr<Tuning> readCents(const Line& line)
 {
     const double cents = finiteNumber(line, line.text);
@@ -131,7 +134,7 @@ void checkNoteCount(const Line& line)
         throw wrongLine(line, "is the number of notes; only scales of 12 notes are supported");
 }
 
-/// The octave line is not read (decision 5).
+/// The octave line is not read.
 Temperament readScale(const Lines& lines)
 {
     if (lines.kept.size() > 1)
@@ -141,8 +144,10 @@ Temperament readScale(const Lines& lines)
 
     Temperament temperament;
     temperament.append(std::make_unique<Cent>(0.0));
+    // See docs/decisions.md, 5.
     for (std::size_t i = 2; i < kKeptLines; ++i) {
         const Line& line = lines.kept[i];
+        // See docs/decisions.md, 3.
         const std::size_t slash = line.text.find('/');
         append(temperament, slash == std::string::npos ? readCents(line) : readRatio(line, slash),
                line);
@@ -164,7 +169,7 @@ Temperament readFrequencies(const Lines& lines)
         logger("tuning").debug("F {:f}", hertz);
         append(temperament, std::make_unique<Freq>(hertz), line);
     }
-    // The format has no pitch for B (decision 8).
+    // The format has no pitch for B: see docs/decisions.md, 8.
     append(temperament, std::make_unique<Freq>(2.0 * temperament.baseFrequency()), baseLine);
     return temperament;
 }

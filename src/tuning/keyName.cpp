@@ -6,6 +6,7 @@ namespace velmora {
 
 std::string keyName(unsigned pitchClass)
 {
+    // See docs/decisions.md, 16.
     static constexpr std::array kNames{"C",  "C#", "D",  "D#", "E",  "F",
                                        "F#", "G",  "G#", "A",  "Bb", "B"};
     return pitchClass < kNames.size() ? kNames[pitchClass] : "";
