@@ -65,7 +65,7 @@ void Practice::prevNote()
     };
     walkDown();
     if (note >= 0) {
-        // On to the first note of that chord.
+        // Go to the first note of that chord.
         transport_.setPosition(start());
         walkDown();
         if (note >= 0) {

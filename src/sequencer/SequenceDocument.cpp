@@ -29,7 +29,7 @@ public:
 
     void redo() override
     {
-        if (std::exchange(isPushed_, true)) // the stack redoes a command when it is pushed
+        if (std::exchange(isPushed_, true)) // the stack calls `redo` when a command is pushed
             document_.swap(notes_);
     }
 

@@ -16,8 +16,8 @@ namespace {
 
 constexpr float kFullVelocity = 127.0F;
 
-/// At the 120 beats a minute of a written file.
-constexpr double kBeatsPerStep = 2.0 / kStepsPerSecond;
+/// Written files have 120 beats a minute.
+constexpr double kBeatsPerStep = 2.0 / kStepsPerFileSecond;
 
 std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& event, int keyRangeLo,
                              int keyRangeHi)
@@ -31,8 +31,8 @@ std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& even
         return std::nullopt;
 
     Note note;
-    note.start = note.oldStart = file.secondsForBeats(event.beats) * kStepsPerSecond;
-    note.length = note.oldLength = seconds * kStepsPerSecond;
+    note.start = note.oldStart = file.secondsForBeats(event.beats) * kStepsPerFileSecond;
+    note.length = note.oldLength = seconds * kStepsPerFileSecond;
     note.velocity = static_cast<float>(event.velocity) / kFullVelocity;
     note.channel = event.channel;
     note.key = note.oldKey = event.key;

@@ -22,7 +22,7 @@ std::optional<SequenceFormat> sequenceFormatOf(const std::filesystem::path& path
 std::string typeName(SequenceFormat format);
 
 /// A step is a sixteenth of a second of the file.
-constexpr double kStepsPerSecond = 16.0;
+constexpr double kStepsPerFileSecond = 16.0;
 
 /// How far the extent of a sequence goes beyond the end of its last note, in steps.
 constexpr double kRoomBehindLastNote = 32.0;

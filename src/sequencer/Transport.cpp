@@ -11,7 +11,7 @@ namespace {
 
 constexpr unsigned kTicksPerFrame = 16;
 
-/// Height of the position above the bottom edge of the view, in steps.
+/// The height of the position above the bottom edge of the view, in steps.
 constexpr double kRoomBelowPosition = 8.0;
 
 } // namespace
