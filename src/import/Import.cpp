@@ -6,6 +6,7 @@ namespace velmora {
 
 void Import::finish()
 {
+    // See docs/decisions.md, 22.
     constexpr float kDrawn = 0.5F; // shown as 1: `getVolume` doubles it
     auto& stops = instrument->stops();
     report.ranks = static_cast<std::size_t>(std::ranges::count_if(

@@ -76,6 +76,7 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
 {
     errorString_.clear();
     try {
+        // See docs/decisions.md, 53.
         if (format == InstrumentFormat::Exs) {
             if (!std::ifstream(path, std::ios::binary))
                 throw FormatError("cannot be read");

@@ -57,6 +57,7 @@ public:
     {
     }
 
+    // See docs/decisions.md, 60.
     void load(const Organ::Pipe& pipe)
     {
         const Sound* sound = soundOf(*pipe.file);
@@ -64,14 +65,17 @@ public:
             return;
         InstrumentStop& stop = import_.instrument->stops().at(pipe.stop);
         const auto key = static_cast<std::size_t>(pipe.key);
+        // See docs/decisions.md, 31.
         stop.samples.at(key).setBuffer(*sound, equal.getPitch(key));
         stop.extended.reset(key);
         compasses_[pipe.rank].include(pipe.key, *sound);
+        // See docs/decisions.md, 58.
         import_.instrument->usage += sound->size();
         ++import_.report.pipes;
     }
 
     /// Extends the outermost pipes of the rank to the keys beyond them. `last` is its last pipe.
+    /// See docs/decisions.md, 59.
     void extend(const Organ::Pipe& last)
     {
         const Compass& compass = compasses_[last.rank];
@@ -106,6 +110,7 @@ private:
             ++import_.report.samples;
             return (import_.instrument->sounds[file.name] = std::move(sound)).get();
         } catch (const FormatError& error) {
+            // See docs/decisions.md, 54.
             import_.report.skipped.emplace_back(file.path.string(), error.what());
             return nullptr;
         }
@@ -145,6 +150,7 @@ void loadOrgan(const Organ& organ, Import& import)
         if (static_cast<long>(i + 1) % step == 0)
             import.host.updateProgress(static_cast<unsigned>(step), pipe.text);
     }
+    // See docs/decisions.md, 75.
     import.host.updateProgress(static_cast<unsigned>(steps % step), organ.doneText);
     if (import.report.samples == 0) {
         const auto& [file, reason] = import.report.skipped.back();

@@ -32,6 +32,7 @@ public:
     {
         for (const xml::Node list : root.children()) {
             if (list.name() == "ObjectList")
+                // See docs/decisions.md, 57.
                 lists_.insert_or_assign(lowerCase(list.attributes()["ObjectType"]),
                                         list.children());
         }
@@ -71,6 +72,7 @@ public:
     void read(const xml::Node& object)
     {
         const bool compacted = isCompacted(object);
+        // See docs/decisions.md, 56.
         for (std::size_t i = 0; compacted && i < N; ++i)
             values_[i] = columns_[i].defaultValue;
         for (const xml::Node field : object.children()) {

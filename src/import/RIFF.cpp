@@ -72,6 +72,7 @@ public:
     {
         // A chunk cannot start in the last four bytes of a list. Like the offsets, the sum wraps at
         // 32 bits.
+        // See docs/decisions.md, 82.
         const std::uint32_t bound = list.size + list.offset - 8;
         std::uint64_t at = list.offset;
         while (at < bound && at + kHeader <= end_)
@@ -163,6 +164,7 @@ template <> const Chunk* List::get<Chunk>(std::uint32_t wanted) const
 
 template <> const List* List::get<List>(std::uint32_t wanted) const
 {
+    // See docs/decisions.md, 81.
     return dynamic_cast<const List*>(get<Chunk>(wanted));
 }
 

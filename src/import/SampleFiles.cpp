@@ -12,6 +12,7 @@ std::filesystem::path SampleFiles::find(const std::filesystem::path& folder,
 {
     std::filesystem::path result = folder;
     while (!relative.empty()) {
+        // See docs/decisions.md, 62.
         const std::size_t length = std::min(relative.find_first_of("/\\"), relative.size());
         if (length > 0)
             result /= spelling(result, std::string(relative.substr(0, length)));
@@ -27,6 +28,7 @@ std::filesystem::path SampleFiles::numbered(const std::filesystem::path& folder,
         return result;
     for (const auto& [key, name] : names(folder)) {
         std::error_code error;
+        // See docs/decisions.md, 61.
         const auto candidate = (result.empty() ? folder : result) / name;
         if (leadingInteger(name) == number && std::filesystem::is_directory(candidate, error))
             result = candidate;

@@ -29,6 +29,7 @@ template <class Integer> std::optional<Integer> numberAt(const RIFF::Chunk& chun
 
 /// Logs the articulation of an instrument. It is not applied to the sound, but the log shows what a
 /// bank asks for when it sounds different elsewhere.
+/// See docs/decisions.md, 74.
 void logArticulation(const RIFF::List& instrument)
 {
     const Logger log = logger("import");
@@ -96,6 +97,7 @@ void readWaves(const std::vector<const RIFF::List*>& waves, Import& import)
 /// Assigns the regions of instruments to the keys of stops.
 class RegionReader {
 public:
+    // See docs/decisions.md, 73.
     RegionReader(const gig::version& version, Import& import)
         : waveIndexAt_(version.major() == 3 ? 68 : 44), import_(import)
     {
@@ -108,6 +110,7 @@ public:
         const auto* regions = instrument.get<RIFF::List>(RIFF::code("lrgn"));
         if (regions == nullptr)
             return;
+        // See docs/decisions.md, 72.
         constexpr std::size_t kFirstKey = 21;
         std::size_t key = kFirstKey;
         for (const RIFF::List* region : regions->all<RIFF::List>(RIFF::code("rgn "))) {

@@ -47,6 +47,7 @@ Sections readSections(std::string_view bytes, LineEnd lineEnd)
         const std::size_t equals = line.find('=');
         if (line.starts_with('[')) {
             section = &sections[std::string(withoutLast(line.substr(1), 1 + returns))];
+            // See docs/decisions.md, 64.
             section->clear();
         } else if (!line.starts_with(';') && equals != std::string_view::npos &&
                    section != nullptr) {
@@ -88,6 +89,7 @@ int integer(const std::string& text)
 /// Returns the number in the three characters after "Stop" or "Pipe".
 int numberOf(const std::string& name)
 {
+    // See docs/decisions.md, 66.
     return integer(name.substr(4, 3));
 }
 
@@ -125,6 +127,7 @@ private:
     void addStop(const std::string& name, const Section& section)
     {
         organ_.stops.emplace_back();
+        // See docs/decisions.md, 65.
         const auto stop = static_cast<std::size_t>(numberOf(name)) - 1; // wraps for 0 and below
         if (stop < organ_.stops.size())
             organ_.stops[stop] = valueOf(section, "Name");
@@ -208,6 +211,7 @@ void readHauptwerk1(const std::filesystem::path& path, Import& import)
     const auto folder = std::filesystem::absolute(path).parent_path();
     Sections sections = hauptwerk1::readSections(bytes, CarriageReturnLineFeed);
     Organ organ = hauptwerk1::findPipes(sections, folder);
+    // See docs/decisions.md, 63.
     if (!anyExists(organ.files) && bytes.find('\r') == std::string::npos) {
         sections = hauptwerk1::readSections(bytes, LineFeed);
         organ = hauptwerk1::findPipes(sections, folder);

@@ -91,6 +91,7 @@ private:
                  "is for MIDI note " + std::to_string(pipe.note) + ", which is outside 0 to 127");
             return;
         }
+        // See docs/decisions.md, 55.
         if (file->second.licensed)
             throw FormatError("cannot be loaded: its samples are encrypted and need a licence");
         added.key = pipe.note;

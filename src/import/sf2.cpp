@@ -62,6 +62,7 @@ public:
         try {
             auto sound = soundOf(sample);
             import_.instrument->usage += sound->size();
+            // See docs/decisions.md, 71.
             import_.instrument->sounds[fieldText(sample.achSampleName)] = std::move(sound);
         } catch (const FormatError& error) {
             import_.report.skipped.emplace_back(toUtf8(fieldText(sample.achSampleName)),
@@ -85,6 +86,7 @@ private:
         count = pool_.read(sample.dwStart * kPoint, destination) / kPoint;
 
         // Linked and ROM samples are always played as two interleaved channels.
+        // See docs/decisions.md, 70.
         constexpr unsigned kLinkedOrRom = 0x8008;
         const bool stereo = (sample.sfSampleType & kLinkedOrRom) != 0;
         if (stereo)
@@ -161,12 +163,14 @@ private:
         constexpr std::uint16_t kKeyRange = 43;
         constexpr std::uint16_t kSampleId = 53;
         constexpr std::uint16_t kOverridingRootKey = 58;
+        // See docs/decisions.md, 68.
         std::size_t lo = 0;
         std::size_t hi = 0;
         std::size_t sample = 0;
         unsigned long root = 0;
         const std::size_t end = std::min<std::size_t>(bags_[zone + 1].wGenNdx, generators_.size());
         for (std::size_t i = bags_[zone].wGenNdx; i < end; ++i) {
+            // See docs/decisions.md, 29.
             const sfInstGenList& generator = generators_[i];
             if (generator.sfGenOper == kKeyRange) {
                 lo = generator.lo;
@@ -186,6 +190,7 @@ private:
         }
         if (sounds_[sample] == nullptr)
             return;
+        // See docs/decisions.md, 69.
         if (root == 0)
             root = samples_[sample].byOriginalPitch;
         for (std::size_t key = lo; key <= hi && key < kKeys; ++key)
@@ -220,6 +225,7 @@ void readSoundFont(const RIFF::File& file, Import& import)
     readSamples(samples, pool, import);
     ZoneReader zones(samples, pdta, import);
     for (std::size_t i = 0; i + 1 < instruments.size(); ++i)
+        // See docs/decisions.md, 67.
         zones.read(instruments[i], instruments[i].wInstBagNdx, instruments[i + 1].wInstBagNdx);
     import.name = RIFF::readText(info.get<RIFF::Chunk>(RIFF::code("INAM")));
     bank::finish(import);

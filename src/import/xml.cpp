@@ -89,6 +89,7 @@ void readAttributes(const std::string& bytes, std::uint32_t& pos, const Take& ta
             name += character;
             continue;
         }
+        // See docs/decisions.md, 80.
         if (bytes[pos] != '"')
             throw errorAt(bytes, pos, "the value of an attribute is not in double quotes");
         const std::uint32_t value = pos + 1;
@@ -201,6 +202,7 @@ bool Tree::parseStartTag(std::uint32_t& pos)
     }
     // An element without content also consumes the next character, whatever it is. After the
     // declaration that is the '<' of the root element, so parsing continues at the root's name.
+    // See docs/decisions.md, 78.
     if (!open)
         step(bytes_, pos);
     element.after = pos;
@@ -230,6 +232,7 @@ void Tree::parseNode(std::uint32_t& pos)
         openElements.pop_back();
         element.contentEnd = pos;
         if (bytes_[pos] == '<')
+            // See docs/decisions.md, 77.
             pos = find(bytes_.data(), pos + 2, kZero | kGreater);
         step(bytes_, pos);
         element.after = pos;
@@ -242,6 +245,7 @@ Tree parseXML(Buffer buffer)
     Tree tree(std::move(buffer.data));
     tree.elements_.reserve(tree.bytes_.size() / kBytesPerElement);
     std::uint32_t pos = buffer.pos;
+    // See docs/decisions.md, 79.
     tree.parseNode(pos);
     tree.elements_.clear();
     tree.parseNode(pos);

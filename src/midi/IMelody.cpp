@@ -67,6 +67,7 @@ const Length& nearestLength(double units, double most)
 }
 
 /// Traces the highest sounding note.
+/// See docs/decisions.md, 124.
 class HighestLine {
 public:
     explicit HighestLine(std::span<const MidiEvent> notes)

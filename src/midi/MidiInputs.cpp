@@ -35,6 +35,7 @@ std::vector<std::string> portNames(RtMidiIn& midi)
 bool hasRealDevice(const Devices& devices)
 {
     return std::ranges::any_of(devices, [](const auto& device) {
+        // See docs/decisions.md, 51.
         return device.first.find("Midi Through") == std::string::npos;
     });
 }
@@ -81,11 +82,13 @@ Devices alsaDevices()
     std::set<int> seen;
     for (const std::string& port : sources(RtMidi::LINUX_ALSA)) {
         const auto client = sequencerClient(port);
+        // See docs/decisions.md, 50.
         if (!client || !seen.insert(*client).second)
             continue; // another port of the same device
         if (snd_seq_get_any_client_info(sequencer.get(), *client, info.get()) < 0 ||
             snd_seq_client_info_get_pid(info.get()) == getpid())
             continue;
+        // See docs/decisions.md, 49.
         devices.insert_or_assign(snd_seq_client_info_get_name(info.get()), port);
     }
     return devices;
@@ -124,6 +127,7 @@ void receive(double /*seconds*/, std::vector<unsigned char>* message, void* rece
 } // namespace
 
 /// The connection to one device, with its own client and port.
+/// See docs/decisions.md, 48.
 class MidiInputs::Input {
 public:
     /// Creates the client. Throws RtMidiError if that fails.

@@ -72,6 +72,7 @@ private:
         // Officially, meta and system exclusive events cancel running status. It is kept because
         // there are files that rely on it.
         if (track.peek() >= midi::kStatusBit)
+            // See docs/decisions.md, 122.
             status_ = track.byte();
         else if (status_ == 0)
             throw FormatError::atByte(track.offset(),
@@ -250,6 +251,7 @@ StandardMidiFile readStandardMidiFile(std::span<const std::byte> bytes)
         if (chunk.id == "MTrk")
             result.tracks.push_back(reader.read(chunk.body));
     }
+    // See docs/decisions.md, 123.
     if (!header.hasFrames)
         result.tempoMap = TempoMap(reader.takeTempoChanges());
     return result;

@@ -38,6 +38,7 @@ struct StandardMidiFile {
 /// The start of a sequencer-specific event (FF 7F) that Velmora writes if notes of one key overlap.
 /// 7D is the manufacturer ID for non-commercial use. One more byte follows: how many notes of its
 /// channel and key the next note-off skips before it ends one.
+/// See docs/decisions.md, 119.
 constexpr std::string_view kSkipNotes = "\x7DVelmora";
 
 /// Reads a file of format 0, 1 or 2 ("Standard MIDI Files 1.0", MIDI Manufacturers Association,

@@ -30,6 +30,7 @@ struct Message {
 /// At the same tick, note-offs come before note-ons, so that a note that touches the next one of
 /// its key does not overlap it. Of two notes that start together the shorter comes first, since it
 /// ends first.
+/// See docs/decisions.md, 121.
 bool comesBefore(const Message& a, const Message& b)
 {
     return std::tie(a.tick, a.until) < std::tie(b.tick, b.until);
@@ -118,6 +119,7 @@ std::string writeStandardMidiFile(std::span<const MidiEvent> notes)
     std::string header;
     addNumber(header, 0, 2); // format
     addNumber(header, 1, 2); // tracks
+    // See docs/decisions.md, 118.
     addNumber(header, static_cast<std::size_t>(kTicksPerBeat), 2);
 
     std::string track;

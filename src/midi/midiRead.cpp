@@ -10,6 +10,7 @@ namespace velmora {
 namespace {
 
 /// The controllers that move sliders 0 to 4.
+/// See docs/decisions.md, 47.
 constexpr std::array<std::uint8_t, 5> kSliderControllers{midi::kChannelVolume, midi::kExpression,
                                                          midi::kVibratoRate, midi::kVibratoDepth,
                                                          midi::kVibratoDelay};
@@ -22,6 +23,7 @@ float fraction(std::uint8_t value)
 
 void readNote(std::uint8_t status, std::uint8_t key, std::uint8_t value, LiveInput& input)
 {
+    // See docs/decisions.md, 46.
     if (status == midi::kNoteOn && value != 0)
         input.keyOn(key, fraction(value));
     else
@@ -61,12 +63,14 @@ bool readPacket(MidiPacket bytes, LiveInput& input)
         } else {
             // Every other status is read as a controller, even pitch bend and program change.
             if (isComplete)
+                // See docs/decisions.md, 44.
                 readController(bytes[1], bytes[2], input);
             bytes = skip(bytes, 3);
         }
         // A message without a status byte was read as a controller above. It also releases the key
         // of its first byte and takes a fourth byte.
         if (first < midi::kStatusBit) {
+            // See docs/decisions.md, 45.
             input.keyOff(first);
             bytes = skip(bytes, 1);
         }

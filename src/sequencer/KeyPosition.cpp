@@ -21,6 +21,7 @@ constexpr std::array<Row, 4> kRows = {{
 }};
 
 /// The US characters in order of their number, from -1. The space stands for 32, which no key has.
+/// See docs/decisions.md, 14.
 constexpr std::string_view kIsomorph = "`awzsexdrcftvgybhunjimko,lp.;[/'] \\q";
 
 constexpr std::string_view kChannels = "1234567890";
@@ -47,6 +48,7 @@ std::optional<int> placeIn(const Row& row, const QKeyEvent& event)
 
 } // namespace
 
+// See docs/decisions.md, 117.
 char usCharacter(const QKeyEvent& event)
 {
     for (const Row& row : kRows)

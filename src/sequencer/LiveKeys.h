@@ -26,6 +26,7 @@ public:
     }
 
     /// Marks a key as released. Its velocity stays.
+    /// See docs/decisions.md, 52.
     void release(std::size_t key, double time)
     {
         releaseTimes_[key] = time;

@@ -11,6 +11,7 @@ namespace {
 /// Notes as close as this to the position belong to its chord, in steps.
 constexpr double kTolerance = 0.1;
 
+// See docs/decisions.md, 94.
 bool isUnanswered(int state)
 {
     return state == kPressed || state == kWanted || state == (kWanted | kHeld);
@@ -112,6 +113,7 @@ void Practice::advance()
         states[notes[i].key] |= kWanted;
 }
 
+// See docs/decisions.md, 93.
 void Practice::midiInput()
 {
     if (transport_.mode() == Transport::Mode::Stopped)

@@ -36,6 +36,7 @@ void Recorder::record()
     if (transport_.mode() == Transport::Mode::Recording) {
         transport_.tick(); // takes the keys since the last tick
         transport_.endRecording();
+        // See docs/decisions.md, 102.
         sequence_.sort();
         transport_.playback().sequenceChanged();
         emit ended();
@@ -101,6 +102,7 @@ void Recorder::takeKeys(double from, double until)
         isAnyDown = takeKey(key, from, until) || isAnyDown;
     if (isAnyDown)
         limit_ = transport_.position() + kRoomBehindLastKey;
+    // See docs/decisions.md, 101.
     if (isAnyDown || (!snapToGrid_ && transport_.position() <= limit_))
         transport_.advance(until - from);
 }
@@ -152,6 +154,7 @@ void Recorder::lengthen(std::size_t key)
 {
     const double position = transport_.position();
     const auto& notes = sequence_.notes();
+    // See docs/decisions.md, 100.
     const auto last = std::find_if(notes.rbegin(), notes.rend(), [=](const Note& note) {
         return note.key == key && note.start <= position; // not one that is still to come
     });

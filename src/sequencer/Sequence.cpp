@@ -107,6 +107,7 @@ bool Sequence::select(unsigned char channel)
 void Sequence::select(Note& note)
 {
     note.selected = true;
+    // See docs/decisions.md, 106.
     selection_.push_back(note.id);
 }
 
@@ -138,6 +139,7 @@ void Sequence::move(double keys, double steps, bool snap)
 {
     forSelected([=](Note& note) {
         note.start = note.oldStart + steps;
+        // See docs/decisions.md, 105.
         note.key = wholeKey(note.oldKey + keys);
         if (snap)
             note.start = std::floor(note.start);
@@ -188,6 +190,7 @@ void Sequence::update()
 void Sequence::sort()
 {
     if (!std::is_sorted(notes_.begin(), notes_.end(), startsBefore))
+        // See docs/decisions.md, 104.
         std::sort(notes_.begin(), notes_.end(), startsBefore);
 
     // Inserting the identities in their own order is much faster than searching for each.

@@ -14,7 +14,7 @@ class Sound;
 /// a gesture moves or resizes it. Times are in steps, the sequencer's unit of time.
 struct Note {
     std::uint64_t id = 0;   ///< Unique within its sequence; 0 before it is added.
-    Sound* sound = nullptr; ///< Always null: notes are played by key.
+    Sound* sound = nullptr; ///< Always null; see docs/decisions.md, 103.
     double start = 0.0;     ///< Onset.
     double length = 0.0;    ///< The note ends at `start + length`.
     double oldLength = 0.0;

@@ -54,6 +54,7 @@ SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> c
     host.liveKeys().clear();
 }
 
+// See docs/decisions.md, 88.
 void SequenceDocument::read(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
@@ -91,6 +92,7 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
 {
     errorString_.clear();
     if (operation != SaveOperation::SaveAs && isImported_) {
+        // See docs/decisions.md, 87.
         errorString_ = "The source file contains unprocessed MIDI information which cannot be "
                        "overwriten (multichannel, meta events,…). Use the 'Save As…' option "
                        "instead.";
@@ -169,6 +171,7 @@ SequenceDocument::Edit SequenceDocument::edit(std::span<const std::uint64_t> not
     return {*this, notes};
 }
 
+// See docs/decisions.md, 108.
 void SequenceDocument::measure()
 {
     double extent = 0.0;

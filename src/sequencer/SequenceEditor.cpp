@@ -14,6 +14,7 @@ namespace {
 constexpr double kResizePixels = 8.0;
 
 /// A note that is dragged to less than this is deleted, in steps.
+/// See docs/decisions.md, 107.
 constexpr double kShortestLength = 0.0002;
 
 bool hasMoved(const Note& note)

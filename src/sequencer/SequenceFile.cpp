@@ -22,10 +22,12 @@ constexpr double kBeatsPerStep = 2.0 / kStepsPerFileSecond;
 std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& event, int keyRangeLo,
                              int keyRangeHi)
 {
+    // See docs/decisions.md, 85.
     if (event.kind != MidiEvent::Kind::Note || event.key < keyRangeLo || event.key > keyRangeHi)
         return std::nullopt;
     // A duration is converted as if it began with the file, as it is when a sequence is written. If
     // the tempo changes, this is not the time from the note's start to its end.
+    // See docs/decisions.md, 84.
     const double seconds = file.secondsForBeats(static_cast<double>(event.duration));
     if (!(seconds > 0.0))
         return std::nullopt;
@@ -39,6 +41,7 @@ std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& even
     return note;
 }
 
+// See docs/decisions.md, 120.
 std::uint8_t midiVelocity(float velocity)
 {
     // Multiplied in floats, as it was divided: in doubles some velocities would come back one
@@ -94,6 +97,7 @@ SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyR
                 result.extent =
                     std::max(result.extent, note->start + note->length + kRoomBehindLastNote);
             } else {
+                // See docs/decisions.md, 86.
                 result.isImported = true;
             }
         }

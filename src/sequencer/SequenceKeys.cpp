@@ -45,6 +45,7 @@ void SequenceEditor::keyDown(const QKeyEvent& event)
     if (const auto number = isomorphNumber(character); number && !isShortcut)
         isomorph(isomorphs_[character] = *number + (shift ? kShiftedOctave : 0));
     else if (const auto channel = channelNumber(character))
+        // See docs/decisions.md, 89.
         setChannel(static_cast<unsigned char>(*channel + (shift ? kShiftedChannel : 0)), command);
     else if (!takeNamedKey(event.key(), command))
         logUnknownKey(event);
@@ -79,6 +80,7 @@ bool SequenceEditor::takeNamedKey(int key, bool command)
     case Qt::Key_Up:
         transport_.stop();
         if (command) // beyond the end, because the pixels of the roll are taken as steps
+            // See docs/decisions.md, 92.
             transport_.setPosition(getPrefInt("KeyHeight") * transport_.extent());
         else
             document_.practice().nextNote();

@@ -18,11 +18,13 @@ constexpr int kTicksPlanned = 256;
 /// sounded, however it is rounded.
 constexpr double kBehindPosition = 1e-6;
 
+// See docs/decisions.md, 96.
 bool startsBetween(const Note& note, double from, double to)
 {
     return from <= note.start && note.start < to;
 }
 
+// See docs/decisions.md, 99.
 bool endsBetween(const Note& note, double from, double to)
 {
     const double end = note.start + note.length;
@@ -55,6 +57,7 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
                 sound(host_, {true, note.key, note.velocity, 0.0, 0.0});
         }
         if (endsBetween(note, from, to)) {
+            // See docs/decisions.md, 97.
             states[note.key] = 0;
             note.playing = note.active = false;
             silenced = true;
@@ -72,6 +75,7 @@ void SequencePlayback::collect(double from, double to, double time)
     for (const std::uint32_t position : index().concernedBy(from, to)) {
         const Note& note = sequence_.at(position);
         if (startsBetween(note, from, to))
+            // See docs/decisions.md, 90.
             sounds_.push_back({true, note.key, note.velocity, time, to});
         if (endsBetween(note, from, to))
             sounds_.push_back({false, note.key, 0.0F, time, to});
@@ -120,6 +124,7 @@ void SequencePlayback::silence(Note& note)
     stopOnInstrument(note.key);
 }
 
+// See docs/decisions.md, 98.
 void SequencePlayback::silenceAll()
 {
     takeBack();

@@ -10,6 +10,7 @@ constexpr std::chrono::duration<double> kTick{1.0 / 1024.0};
 /// Returns the number of steps in a second at a tempo in beats a minute.
 constexpr double stepsPerSecond(double tempo)
 {
+    // See docs/decisions.md, 83.
     return tempo * 0.125;
 }
 

@@ -86,6 +86,7 @@ void Transport::playUntil(double now)
     double next = positionAt(now);
     if (next <= endOfPlaying()) {
         if (const auto lastKey = playback_.playBetween(position_, next))
+            // See docs/decisions.md, 91.
             cursor_ = static_cast<int>(*lastKey);
     } else {
         playback_.silenceAll();
