@@ -22,7 +22,7 @@ using namespace velmora;
 namespace {
 
 constexpr std::size_t kNotes = 900;
-constexpr double kStepsPerSecond = 15.0;
+constexpr double kPlayedStepsPerSecond = 15.0;
 constexpr double kMilliseconds = 1e3;
 
 /// Records when each note is played.
@@ -116,7 +116,7 @@ int main(int argc, char** argv)
 
     std::vector<double> errors;
     for (std::size_t i = 0; i < std::min(starts.size(), instrument.times.size()); ++i)
-        errors.push_back((instrument.times[i] - started - starts[i] / kStepsPerSecond) *
+        errors.push_back((instrument.times[i] - started - starts[i] / kPlayedStepsPerSecond) *
                          kMilliseconds);
     std::sort(errors.begin(), errors.end());
     const auto at = [&](double part) {
