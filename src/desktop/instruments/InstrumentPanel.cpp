@@ -125,6 +125,7 @@ void InstrumentPanel::showInstrument()
     if (hasPrograms)
         programs_->setCurrentIndex(application_.midiProgram());
     usage_->setVisible(!hasPrograms);
+    // docs/decisions.md, 114
     usage_->setText(tr("Usage:  %1").arg(QString::fromStdString(sizeString(usage))));
 
     fitWidth(stops.size());

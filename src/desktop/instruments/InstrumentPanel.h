@@ -38,7 +38,8 @@ private:
     QComboBox* tunings_;
     QScrollArea* stops_;
 
-    /// Slider i controls stop i. Sliders without a stop in the current instrument are hidden.
+    /// Slider i controls stop i. Sliders without a stop in the current instrument are hidden
+    /// (docs/decisions.md, 113).
     std::vector<QSlider*> sliders_;
 };
 

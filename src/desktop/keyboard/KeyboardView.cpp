@@ -46,7 +46,7 @@ const Color* KeyboardView::Picture::color(int state) const
     case kPressed:
         return &wrong;
     case kWanted:
-    case kWanted | kHeld:
+    case kWanted | kHeld: // docs/decisions.md, 111
         return &played;
     case kWanted | kPressed:
         return &correct;
@@ -102,7 +102,7 @@ KeyboardView::Picture KeyboardView::picture() const
                     Color("KeyColorWrong"),
                     getPrefBool("KeyNames"),
                     {}};
-    if (document_ != nullptr) {
+    if (document_ != nullptr) { // docs/decisions.md, 112
         for (int key = picture.geometry.lo; key <= picture.geometry.hi; ++key)
             picture.states[static_cast<std::size_t>(key)] =
                 document_->stateOfNote(static_cast<unsigned>(key));
@@ -139,7 +139,7 @@ void KeyboardView::drawKeys(const Picture& picture) const
             drawQuad(quad, 0.5F);
             if (state == 0)
                 continue;
-            if (color == nullptr) // no document has such a state: the log helps to find the mistake
+            if (color == nullptr) // docs/decisions.md, 110
                 logger("desktop").debug("wrong {}", state);
         }
         if (color != nullptr)
@@ -199,7 +199,7 @@ void KeyboardView::press(int key)
         player_.keyOff(pressedKey_);
     pressedKey_ = key;
     if (key != kNoKey)
-        player_.keyOn(key, 1.0F);
+        player_.keyOn(key, 1.0F); // docs/decisions.md, 43
     if (document_ != nullptr)
         document_->midiInput();
 }

@@ -34,8 +34,9 @@ constexpr const char* kStripKey = "tuningStrip";
 
 SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, const QString& name,
                                RecoveryFile recovery)
-    : application_(application), commands_(commands), name_(name), document_(application.player()),
+    : application_(application), commands_(commands), document_(application.player()),
       editor_(document_), clock_(document_.transport()), keeper_(document_, std::move(recovery)),
+      saver_(*this, document_, commands, name),
       actions_(std::make_unique<SequenceActions>(document_, editor_)),
       scrollView_(new SequenceScrollView), tuningStrip_(new TuningStrip(application))
 {
@@ -47,6 +48,7 @@ SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, con
     connect(&document_, &SequenceDocument::changed, this, &SequenceWindow::showTitle);
     connect(&document_.transport(), &Transport::frame, this, &SequenceWindow::showTitle);
     connect(&document_.undoStack(), &QUndoStack::cleanChanged, this, &SequenceWindow::showTitle);
+    connect(&saver_, &SequenceSaver::saved, this, &SequenceWindow::showTitle);
     // The release of a held key may now go to another window.
     connect(qApp, &QApplication::focusChanged, this, [this] { editor_.releaseKeys(); });
     showTitle();
@@ -98,9 +100,9 @@ void SequenceWindow::makeMenus()
     QMenu* file = menuBar()->addMenu(tr("&File"));
     commands_.addOpening(*file);
     file->addSeparator();
-    file->addAction(icon("save"), tr("&Save"), QKeySequence::Save, this, [this] { save(); });
+    file->addAction(icon("save"), tr("&Save"), QKeySequence::Save, this, [this] { saver_.save(); });
     file->addAction(tr("Save &As…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this,
-                    [this] { saveAs(); });
+                    [this] { saver_.saveAs(); });
     file->addAction(icon("export"), tr("&Export Audio…"), QKeySequence(Qt::CTRL | Qt::Key_E), this,
                     [this] { exportAudio(*this, document_, application_); });
     file->addSeparator();
@@ -179,16 +181,10 @@ void SequenceWindow::scrollTo(double step)
         scrollView_->scrollVertically(step * getPrefInt("KeyHeight"));
 }
 
-QString SequenceWindow::displayName() const
-{
-    return document_.path().empty() ? name_
-                                    : QString::fromStdString(document_.path().filename().string());
-}
-
 void SequenceWindow::showTitle()
 {
     // The file name itself may contain "[*]", Qt's placeholder for the mark of a modified window.
-    setWindowTitle(displayName().replace("[*]", "[*][*]") + "[*]");
+    setWindowTitle(saver_.displayName().replace("[*]", "[*][*]") + "[*]");
     setWindowModified(document_.isModified());
 }
 
@@ -209,7 +205,7 @@ void SequenceWindow::closeWithoutAsking()
 
 void SequenceWindow::closeEvent(QCloseEvent* event)
 {
-    if (!isSettled_ && !askToClose()) {
+    if (!isSettled_ && !saver_.askToClose()) {
         event->ignore();
         return;
     }

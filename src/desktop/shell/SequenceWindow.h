@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/SequenceSaver.h"
 #include "sequencer/RecoveryKeeper.h"
 #include "sequencer/SequenceClock.h"
 #include "sequencer/SequenceDocument.h"
@@ -29,6 +30,7 @@ public:
     ~SequenceWindow() override;
 
     SequenceDocument& document() { return document_; }
+    SequenceSaver& saver() { return saver_; }
 
     /// Shows the beginning of a document that has just been read or recovered.
     void showDocument();
@@ -42,20 +44,8 @@ public:
     /// Handles a key that was pressed or released while the keyboard window was active.
     void handleKey(const QKeyEvent& event);
 
-    /// Returns whether there are unsaved changes or an export is running.
-    bool isBusyOrModified() const;
-
-    /// Asks the user about unsaved changes and a running export. Returns false if the window must
-    /// stay open.
-    bool askToClose();
-
     /// Closes the window without asking.
     void closeWithoutAsking();
-
-    /// Writes the document to its file, or to a file that the user chooses. Returns false if it was
-    /// not written; the user has been told why.
-    bool save();
-    bool saveAs();
 
 signals:
     void activated();
@@ -79,19 +69,14 @@ private:
     void fitToScreen();
     void showTitle();
     void scrollTo(double step);
-    bool write(const QString& path, SequenceDocument::SaveOperation operation);
-    bool askToCancelExport();
-    bool askToSave();
-    bool askToLoseVoices();
-    QString displayName() const;
 
     AppDelegate& application_;
     Commands& commands_;
-    QString name_;
     SequenceDocument document_;
     SequenceEditor editor_;
     SequenceClock clock_;
     RecoveryKeeper keeper_;
+    SequenceSaver saver_;
     std::unique_ptr<SequenceActions> actions_;
     SequenceScrollView* scrollView_;
     TuningStrip* tuningStrip_;

@@ -142,10 +142,10 @@ bool SequenceWindows::closeAll()
     // Other programs may open files, and thus windows, while a question is open.
     const std::vector<QPointer<SequenceWindow>> asked(windows_.begin(), windows_.end());
     for (const auto& window : asked) {
-        if (window == nullptr || !window->isBusyOrModified())
+        if (window == nullptr || !window->saver().isBusyOrModified())
             continue;
         bringToFront(*window);
-        if (!window->askToClose())
+        if (!window->saver().askToClose())
             return false;
     }
     while (!windows_.empty())

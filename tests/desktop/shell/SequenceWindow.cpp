@@ -315,7 +315,7 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
     EXPECT_EQ(reread.sequence().notes().size(), 2);
 
     SequenceWindow& imported = open("wolf-fantasia.mid");
-    EXPECT_THAT(answering({"Cancel"}, [&] { EXPECT_FALSE(imported.save()); }),
+    EXPECT_THAT(answering({"Cancel"}, [&] { EXPECT_FALSE(imported.saver().save()); }),
                 ElementsAre("The source file contains unprocessed MIDI information which cannot be "
                             "overwriten (multichannel, meta events,…). Use the 'Save As…' option "
                             "instead."));
@@ -336,25 +336,27 @@ TEST_F(SequenceWindowTest, SavesAndExportsUnderTheChosenNames)
     desktop.application().waitForBank();
     SequenceWindow& window = open("wolf-fantasia.mid");
     const QTemporaryDir folder;
-    naming(folder.filePath("tune"), [&] { EXPECT_TRUE(window.saveAs()); });
+    naming(folder.filePath("tune"), [&] { EXPECT_TRUE(window.saver().saveAs()); });
     EXPECT_EQ(window.document().path(), folder.filePath("tune.mid").toStdString());
-    EXPECT_TRUE(window.save()) << "no longer an imported file";
+    EXPECT_TRUE(window.saver().save()) << "no longer an imported file";
     for (const std::vector<QString>& answers : {std::vector<QString>{}, {"Yes"}})
-        answering(answers,
-                  [&] { naming(folder.filePath("No.1"), [&] { EXPECT_TRUE(window.saveAs()); }); });
+        answering(answers, [&] {
+            naming(folder.filePath("No.1"), [&] { EXPECT_TRUE(window.saver().saveAs()); });
+        });
     EXPECT_EQ(window.document().path(), folder.filePath("No.1.mid").toStdString());
     answering({"Cancel"}, [&] {
         naming(
-            folder.filePath("tune.mid"), [&] { EXPECT_FALSE(window.saveAs()); }, 1);
+            folder.filePath("tune.mid"), [&] { EXPECT_FALSE(window.saver().saveAs()); }, 1);
     });
-    answering({"Save"},
-              [&] { naming(folder.filePath("tune.imy"), [&] { EXPECT_TRUE(window.saveAs()); }); });
+    answering({"Save"}, [&] {
+        naming(folder.filePath("tune.imy"), [&] { EXPECT_TRUE(window.saver().saveAs()); });
+    });
     QFile melody(folder.filePath("tune.imy"));
     EXPECT_TRUE(melody.open(QIODevice::ReadOnly) && melody.readLine() == "BEGIN:IMELODY\r\n");
 
     naming(
         folder.filePath("x.wav"), [&] { action(window, "Export Audio…").trigger(); }, 1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.isBusyOrModified(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.saver().isBusyOrModified(); }));
     answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.sequenceWindows().closeAll()); });
     auto& progress = *window.findChild<QProgressDialog*>();
     EXPECT_THAT(progress.labelText().toStdString(), StartsWith("x.flac"));

@@ -1,44 +1,56 @@
-// The part of SequenceWindow that saves the document and asks before changes are lost.
+#include "desktop/shell/SequenceSaver.h"
 
 #include "desktop/shell/Commands.h"
-#include "desktop/shell/SequenceWindow.h"
 #include "desktop/shell/askWhereToSave.h"
 #include "desktop/shell/exportAudio.h"
 #include "sequencer/SequenceFile.h"
 
 #include <QFileInfo>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 
 namespace velmora {
 
-bool SequenceWindow::isBusyOrModified() const
+SequenceSaver::SequenceSaver(QMainWindow& window, SequenceDocument& document, Commands& commands,
+                             const QString& name)
+    : window_(window), document_(document), commands_(commands), name_(name)
 {
-    return document_.isModified() || isExportingAudio(*this);
 }
 
-bool SequenceWindow::askToClose()
+QString SequenceSaver::displayName() const
 {
-    return (!isExportingAudio(*this) || askToCancelExport()) &&
+    return document_.path().empty() ? name_
+                                    : QString::fromStdString(document_.path().filename().string());
+}
+
+bool SequenceSaver::isBusyOrModified() const
+{
+    return document_.isModified() || isExportingAudio(window_);
+}
+
+bool SequenceSaver::askToClose()
+{
+    return (!isExportingAudio(window_) || askToCancelExport()) &&
            (!document_.isModified() || askToSave());
 }
 
-bool SequenceWindow::askToCancelExport()
+bool SequenceSaver::askToCancelExport()
 {
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
                     tr("%1 is still being exported. Stop the export?").arg(displayName()),
-                    QMessageBox::Cancel, this);
+                    QMessageBox::Cancel, &window_);
     box.setInformativeText(tr("If you stop it, no sound file is written."));
     const QPushButton* stop = box.addButton(tr("Stop Export"), QMessageBox::DestructiveRole);
     box.exec();
     return box.clickedButton() == stop;
 }
 
-bool SequenceWindow::askToSave()
+bool SequenceSaver::askToSave()
 {
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
                     tr("Save the changes to %1?").arg(displayName()),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window_);
     box.setInformativeText(tr("If you do not save them, they are lost."));
     box.setDefaultButton(QMessageBox::Save);
     switch (box.exec()) {
@@ -51,7 +63,7 @@ bool SequenceWindow::askToSave()
     }
 }
 
-bool SequenceWindow::save()
+bool SequenceSaver::save()
 {
     if (document_.path().empty())
         return saveAs();
@@ -59,16 +71,16 @@ bool SequenceWindow::save()
                  SequenceDocument::SaveOperation::Save);
 }
 
-bool SequenceWindow::saveAs()
+bool SequenceSaver::saveAs()
 {
     const QString saved = QString::fromStdString(document_.path().string());
     const QString path = askWhereToSave(
-        *this, {.title = tr("Save As"),
-                .kinds = {{QString::fromStdString(typeName(SequenceFormat::MidiFile)),
-                           {"mid", "midi", "smf", "kar"}},
-                          {QString::fromStdString(typeName(SequenceFormat::IMelody)), {"imy"}}},
-                .proposal = saved.isEmpty() ? name_ + ".mid" : saved,
-                .folderKey = "saveFolder"});
+        window_, {.title = tr("Save As"),
+                  .kinds = {{QString::fromStdString(typeName(SequenceFormat::MidiFile)),
+                             {"mid", "midi", "smf", "kar"}},
+                            {QString::fromStdString(typeName(SequenceFormat::IMelody)), {"imy"}}},
+                  .proposal = saved.isEmpty() ? name_ + ".mid" : saved,
+                  .folderKey = "saveFolder"});
     if (path.isEmpty())
         return false;
     const bool losesVoices = sequenceFormatOf(path.toStdString()) == SequenceFormat::IMelody;
@@ -76,30 +88,30 @@ bool SequenceWindow::saveAs()
            write(path, SequenceDocument::SaveOperation::SaveAs);
 }
 
-bool SequenceWindow::askToLoseVoices()
+bool SequenceSaver::askToLoseVoices()
 {
     QMessageBox box(QMessageBox::Question, tr("Velmora"),
                     tr("An iMelody file holds a single voice and no dynamics. Save it anyway?"),
-                    QMessageBox::Save | QMessageBox::Cancel, this);
+                    QMessageBox::Save | QMessageBox::Cancel, &window_);
     box.setInformativeText(
         tr("Velmora cannot open iMelody files. A MIDI file keeps everything that you see."));
     box.setDefaultButton(QMessageBox::Cancel);
     return box.exec() == QMessageBox::Save;
 }
 
-bool SequenceWindow::write(const QString& path, SequenceDocument::SaveOperation operation)
+bool SequenceSaver::write(const QString& path, SequenceDocument::SaveOperation operation)
 {
     const auto format = sequenceFormatOf(path.toStdString());
     const bool isWritten = format && document_.save(path.toStdString(), *format, operation);
-    showTitle();
     if (isWritten) {
+        emit saved();
         if (format == SequenceFormat::MidiFile)
             commands_.addRecent(path); // Velmora cannot open other types
         return true;
     }
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
                     tr("%1 was not saved.").arg(QFileInfo(path).fileName()), QMessageBox::Cancel,
-                    this);
+                    &window_);
     box.setInformativeText(QString::fromStdString(document_.errorString()));
     const QPushButton* as = box.addButton(tr("Save As…"), QMessageBox::AcceptRole);
     box.exec();
