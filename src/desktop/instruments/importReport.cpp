@@ -18,7 +18,7 @@ void showImportReport(QWidget& parent, const InstrumentDocument& document)
     const ImportReport& report = document.report();
     QMessageBox box(QMessageBox::Information, QObject::tr("Import Report"),
                     QString::fromStdString(document.name()), QMessageBox::Close, &parent);
-    QString summary = QObject::tr("%1 stops, %2 keys, %3 samples.")
+    QString summary = QObject::tr("Stops: %1, keys: %2, samples: %3.")
                           .arg(report.ranks)
                           .arg(report.pipes)
                           .arg(report.samples);

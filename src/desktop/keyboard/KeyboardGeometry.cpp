@@ -68,8 +68,8 @@ std::vector<KeyQuad> KeyboardGeometry::keys(float height) const
 
 int KeyboardGeometry::keyAt(double x, double y, double height) const
 {
-    // Corrections in semitones, by the pitch class of the first key: only an octave
-    // that starts at a C is aligned with the grid of semitones (docs/decisions.md, 109).
+    // Corrections in semitones, by the pitch class of the first key: only an octave that starts at
+    // a C is aligned with the grid of semitones (docs/decisions.md, 109).
     static constexpr std::array kShifts{0.0,    0.625,   -0.375, 0.375,  -0.625, 0.1875,
                                         0.8125, -0.1875, 0.625,  -0.375, 0.1875, -0.8125};
     const double semitone = keyWidth;

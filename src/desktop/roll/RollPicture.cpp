@@ -18,8 +18,8 @@ constexpr float kIntervalOpacity = 0.5F;
 /// The distance between the darker grid lines.
 constexpr int kStepsPerBar = 8;
 
-/// If steps are lower than this many pixels, only the darker grid lines are drawn: all of them
-/// would cover the roll.
+/// The height of a step in pixels below which only the darker grid lines are drawn, because all of
+/// them would cover the roll.
 constexpr int kMinGridStep = 3;
 
 using Shade = decltype(RollVertex::color);

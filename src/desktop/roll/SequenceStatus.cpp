@@ -30,7 +30,7 @@ SequenceStatus::SequenceStatus(const SequenceDocument& document)
       notes_(new QLabel)
 {
     mode_->setAccessibleName(tr("Playing, recording or practising"));
-    mode_->setToolTip(tr("To practise, play the notes at the position: the next ones follow"));
+    mode_->setToolTip(tr("Practice: play the notes at the position to move on to the next ones"));
     // A long chord must not widen the window.
     mode_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     addWidget(mode_, 1);

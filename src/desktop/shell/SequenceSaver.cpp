@@ -113,9 +113,9 @@ bool SequenceSaver::write(const QString& path, SequenceDocument::SaveOperation o
                     tr("%1 was not saved.").arg(QFileInfo(path).fileName()), QMessageBox::Cancel,
                     &window_);
     box.setInformativeText(QString::fromStdString(document_.errorString()));
-    const QPushButton* as = box.addButton(tr("Save As…"), QMessageBox::AcceptRole);
+    const QPushButton* saveAsButton = box.addButton(tr("Save As…"), QMessageBox::AcceptRole);
     box.exec();
-    return box.clickedButton() == as && saveAs();
+    return box.clickedButton() == saveAsButton && saveAs();
 }
 
 } // namespace velmora

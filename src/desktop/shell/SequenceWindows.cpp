@@ -29,11 +29,13 @@ QString listOf(const std::vector<Abandoned>& found)
         const auto& path = one.sequence.path;
         const QDateTime time =
             QDateTime::fromMSecsSinceEpoch(one.sequence.time.time_since_epoch().count());
-        lines += SequenceWindows::tr("%1, %2 notes, %3")
+        const std::size_t notes = one.sequence.notes.size();
+        lines += SequenceWindows::tr("%1, %2, %3")
                      .arg(path.empty() ? SequenceWindows::tr("Untitled")
-                                       : QString::fromStdString(path.filename().string()))
-                     .arg(one.sequence.notes.size())
-                     .arg(QLocale().toString(time, QLocale::ShortFormat));
+                                       : QString::fromStdString(path.filename().string()),
+                          notes == 1 ? SequenceWindows::tr("1 note")
+                                     : SequenceWindows::tr("%1 notes").arg(notes),
+                          QLocale().toString(time, QLocale::ShortFormat));
     }
     return lines.join('\n');
 }

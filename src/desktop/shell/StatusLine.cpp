@@ -115,7 +115,7 @@ void StatusLine::updateNotices()
     noticesButton_->setText(QString::number(notices_.size()));
     noticesButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     noticesButton_->setToolTip(notices_.join("\n"));
-    noticesButton_->setAccessibleName(tr("%1 notices").arg(notices_.size()));
+    noticesButton_->setAccessibleName(tr("Notices: %1").arg(notices_.size()));
     noticesButton_->setVisible(!notices_.isEmpty());
 }
 
