@@ -77,8 +77,7 @@ protected:
         return texts;
     }
 
-    /// Answers the message boxes that open during `act` by clicking the buttons with these texts.
-    /// Returns the informative texts of the boxes.
+    /// Clicks these buttons in the boxes that open during `act`; returns the informative texts.
     template <class Act>
     std::vector<std::string> answering(const std::vector<QString>& answers, const Act& act)
     {
@@ -99,8 +98,7 @@ protected:
         return texts;
     }
 
-    /// Enters a file name in the dialog that opens during `act`, then moves down the list of kinds
-    /// `kind` times.
+    /// Enters a file name in the dialog opened during `act` and goes `kind` kinds down the list.
     template <class Act> void naming(const QString& path, const Act& act, int kind = 0)
     {
         QTimer timer;
