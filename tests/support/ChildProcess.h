@@ -14,16 +14,16 @@ namespace velmora {
 template <class Work> void killWhileWorking(Work work, unsigned microseconds = 0)
 {
     std::array<int, 2> ends{};
-    ASSERT_EQ(pipe(ends.data()), 0);
+    ASSERT_EQ(::pipe(ends.data()), 0);
     const pid_t child = fork();
     if (child == 0) {
-        work([&] { EXPECT_EQ(write(ends[1], "x", 1), 1); });
+        work([&] { EXPECT_EQ(::write(ends[1], "x", 1), 1); });
         _exit(1);
     }
-    close(ends[1]);
+    ::close(ends[1]);
     char byte = 0;
-    EXPECT_EQ(read(ends[0], &byte, 1), 1);
-    close(ends[0]);
+    EXPECT_EQ(::read(ends[0], &byte, 1), 1);
+    ::close(ends[0]);
     usleep(microseconds);
     kill(child, SIGKILL);
     int status = 0;

@@ -23,7 +23,7 @@ namespace velmora {
 namespace {
 
 constexpr const char* kFolderKey = "openFolder";
-constexpr int kMessageMilliseconds = 15000;
+constexpr int kReportMilliseconds = 15000;
 constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ";
 constexpr const char* kTunings = "*.scl *.mtx";
 constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
@@ -200,7 +200,7 @@ void Desktop::openInstrument(const QString& path, InstrumentFormat format)
         keyboardWindow_.status().showMessage(
             tr("%1: %2; see Import Report in the Instruments window")
                 .arg(name, leftOutText(skipped)),
-            kMessageMilliseconds);
+            kReportMilliseconds);
 }
 
 void Desktop::openSequence(const QString& path)

@@ -18,7 +18,7 @@ namespace velmora {
 namespace {
 
 constexpr int kProgressSteps = 1000;
-constexpr int kMessageMilliseconds = 8000;
+constexpr int kExportedMilliseconds = 8000;
 
 /// An export with its progress dialog; deletes itself when it is done.
 class ExportProgress : public QProgressDialog {
@@ -59,7 +59,7 @@ private:
         hide();
         const QString name = QFileInfo(path_).fileName();
         if (isWritten)
-            window_.statusBar()->showMessage(tr("Exported %1").arg(name), kMessageMilliseconds);
+            window_.statusBar()->showMessage(tr("Exported %1").arg(name), kExportedMilliseconds);
         else if (!error.isEmpty())
             QMessageBox::warning(&window_, tr("Velmora"),
                                  tr("%1 was not exported. %2").arg(name, error));

@@ -1,5 +1,8 @@
+#include "desktop/shell/KeyboardWindow.h"
+
 #include "app/AppDelegate.h"
 #include "desktop/keyboard/KeyboardView.h"
+#include "desktop/shell/Commands.h"
 #include "midi/midiRead.h"
 #include "sequencer/KeyboardDocument.h"
 #include "sound/ALInstrument.h"
@@ -27,7 +30,7 @@ private:
 
 } // namespace
 
-TEST(LiveKeyboard, PaintsWhileAMidiThreadPlays)
+TEST(LiveKeyboardWindow, PaintsWhileAMidiThreadPlays)
 {
     ALInstrument organ;
     AppDelegate application;
@@ -35,11 +38,12 @@ TEST(LiveKeyboard, PaintsWhileAMidiThreadPlays)
     application.setInstrument(organ, "Organ");
     application.selectTuning("Dynamic");
     LiveKeyStates states(application.player().liveKeys());
-    KeyboardView view(application);
+    Commands commands(application);
+    KeyboardWindow window(application, commands);
+    KeyboardView& view = window.keyboard();
     view.setDocument(&states);
-    view.resize(view.sizeHint());
-    view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     std::size_t frames = 0;
     QObject::connect(&view, &QOpenGLWidget::frameSwapped, [&] { ++frames; });
     QObject::connect(&application, &AppDelegate::midiInputReceived, &view, &KeyboardView::refresh);
