@@ -7,6 +7,7 @@ extern "C" const char* __tsan_default_suppressions()
 {
     return "called_from_lib:libQt6Core.so\n"
            "called_from_lib:libQt6DBus.so\n"
+           "called_from_lib:libQt6Gui.so\n"
            "called_from_lib:libdbus-1.so\n"
            "called_from_lib:libgomp.so\n"
            "called_from_lib:libopenal.so\n"
