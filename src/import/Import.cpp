@@ -10,7 +10,7 @@ void Import::finish()
     constexpr float kDrawn = 0.5F; // shown as 1: `getVolume` doubles it
     auto& stops = instrument->stops();
     report.ranks = static_cast<std::size_t>(std::ranges::count_if(
-        stops, [](const InstrumentStop& stop) { return stop.soundingKeys() > 0; }));
+        stops, [](const InstrumentStop& stop) { return stop.keysWithSamples() > 0; }));
     stops.front().volume = kDrawn;
 }
 

@@ -19,7 +19,7 @@ void finish(Import& import)
 {
     ImportReport& report = import.report;
     for (const InstrumentStop& stop : import.instrument->stops())
-        report.pipes += stop.soundingKeys();
+        report.pipes += stop.keysWithSamples();
     report.samples = import.instrument->sounds.size();
     if (report.pipes == 0) {
         std::string message = "cannot be played: no key has a sound";

@@ -15,10 +15,11 @@ namespace velmora {
 
 namespace {
 
-/// More than any organ has. An empty stop takes some kilobytes.
+/// More than any organ has. It limits the memory that a damaged file can claim, because even an
+/// empty stop takes several kilobytes.
 constexpr std::size_t kMaximumStops = 4096;
 
-/// While it exists, OpenAL collects changes; then it applies them all at once.
+/// Makes OpenAL collect changes during its life and apply them all at once when it is destroyed.
 class OneUpdate {
 public:
     OneUpdate()

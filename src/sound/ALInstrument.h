@@ -21,12 +21,13 @@ public:
     /// FormatError if there are 4096 stops already.
     InstrumentStop& appendStop(std::string name);
 
-    /// The stops, for changes: the next `tune` reaches every sample, as any may have been replaced.
+    /// Returns the stops for modification. The next `tune` then reaches every sample, since any of
+    /// them may have been replaced.
     std::vector<InstrumentStop>& stops();
     const std::vector<InstrumentStop>& stops() const { return stops_; }
 
     /// The decoded sounds by the names that the importer gives them, so that a sound used by
-    /// several keys is decoded once. Declared before the stops, whose samples play them.
+    /// several keys is decoded once. Declared before the stops, so that it outlives their samples.
     std::map<std::string, std::unique_ptr<Sound>> sounds;
 
     /// Returns twice the stop's gain: a slider at its top stands for a gain of 0.5.
@@ -43,14 +44,14 @@ public:
     void tune(const Temperament& temperament, int lo, int hi) override;
     void fade(double factor) override;
 
-    /// True while a key is held or fading.
+    /// Returns whether any sample is playing.
     bool isSounding() const;
 
 private:
     std::vector<InstrumentStop> stops_;
     std::bitset<kKeys> released_; ///< The keys with samples that may be fading.
 
-    /// The pitch in hertz that each key of every stop was last tuned to; 0 if not known.
+    /// The pitch in hertz that each key of every stop was last tuned to; 0 if unknown.
     std::array<double, kKeys> pitches_{};
 };
 

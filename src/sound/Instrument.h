@@ -15,10 +15,10 @@ public:
     /// True if the instrument offers a choice of General MIDI programs.
     virtual bool hasSubMenu() const { return false; }
 
-    /// The gain of a stop, numbered from 0; 0 if there is no such stop.
+    /// Returns the volume of a stop, numbered from 0; 0 if there is no such stop.
     virtual float getVolume(std::size_t stop) const = 0;
 
-    /// Sets the gain of a stop, numbered from 0. Does nothing if there is no such stop.
+    /// Sets the volume of a stop, numbered from 0. Does nothing if there is no such stop.
     virtual void setVolume(std::size_t stop, float volume) = 0;
 
     /// The number of stops, each of which has a volume of its own.
@@ -33,7 +33,7 @@ public:
     /// Ends every sound at once.
     virtual void silence() = 0;
 
-    /// Fades released keys by one step. To be called 60 times a second.
+    /// Fades released keys by one step. Must be called 60 times a second.
     virtual void fade(double /*factor*/) {}
 
     /// Selects a General MIDI program, 0…127.

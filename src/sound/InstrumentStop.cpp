@@ -13,7 +13,7 @@ void InstrumentStop::extend(int key, const Sound& sound, double rootPitch)
     extended.set(slot);
 }
 
-std::size_t InstrumentStop::soundingKeys() const
+std::size_t InstrumentStop::keysWithSamples() const
 {
     return static_cast<std::size_t>(
         std::ranges::count_if(samples, [](const Sample& sample) { return sample.source() != 0; }));

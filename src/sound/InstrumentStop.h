@@ -20,13 +20,13 @@ struct InstrumentStop {
     /// Retunes the keys `lo` to `hi` inclusive.
     void tune(const Temperament& temperament, int lo, int hi);
 
-    /// The number of keys that have a sound.
-    std::size_t soundingKeys() const;
+    /// The number of keys that have a sample.
+    std::size_t keysWithSamples() const;
 
     std::string name;    ///< Empty if the file gives none.
     float volume = 0.0F; ///< The gain; a stop at 0 is silent.
     std::array<Sample, kKeys> samples;
-    std::bitset<kKeys> extended; ///< The keys that have their sound from `extend`.
+    std::bitset<kKeys> extended; ///< The keys whose sound was set by `extend`.
 };
 
 } // namespace velmora

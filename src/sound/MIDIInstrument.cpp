@@ -79,7 +79,7 @@ void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/
 {
     for (int pitchClass = 1; pitchClass < 12; ++pitchClass) {
         const double cents = temperament.getTuning(static_cast<unsigned>(pitchClass)).cent();
-        // The default bend range, ±200 cents over ±64 steps of the most significant byte.
+        // The default bend range is ±200 cents, which are ±64 steps of the most significant byte.
         // See docs/decisions.md, 34 to 36.
         const double bend = (cents - 100.0 * pitchClass) * 64.0 / 200.0;
         const double steps = std::floor(bend);

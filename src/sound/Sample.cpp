@@ -13,7 +13,7 @@ namespace {
 // See docs/decisions.md, 27.
 constexpr float kFirstGain = 0.4F;
 
-/// A released sample with a lower gain ends.
+/// A released sample stops below this gain.
 constexpr double kSilentGain = 0.02;
 
 } // namespace

@@ -5,7 +5,7 @@
 namespace velmora {
 
 /// One key of one stop: an OpenAL source that plays the buffer of a sound at the pitch of the key.
-/// It has no source before `setBuffer`; until then nothing else has an effect.
+/// It has no source until `setBuffer` is called; until then the other functions have no effect.
 class Sample {
 public:
     Sample() = default;
@@ -41,14 +41,13 @@ public:
     const Sound* sound() const { return sound_; }
 
     double rootPitch() const { return rootPitch_; }
-    double gain() const { return gain_; }
     bool released() const { return released_; }
 
 private:
     const Sound* sound_ = nullptr;
     unsigned source_ = 0;
     bool released_ = false;
-    float factor_ = 1.0F; ///< The pitch of the source: the key's pitch divided by the root pitch.
+    float factor_ = 1.0F; ///< The key's pitch divided by the root pitch.
     double rootPitch_ = 0.0;
     double gain_ = 0.0;
 };

@@ -12,7 +12,7 @@ namespace velmora {
 
 namespace {
 
-/// Returns 0, which OpenAL refuses, if `rate` is not a valid rate.
+/// Returns the rate in whole hertz, or 0, which OpenAL rejects, if `rate` is invalid.
 int wholeHertz(double rate)
 {
     return rate > 0.0 && rate <= std::numeric_limits<int>::max() ? static_cast<int>(rate) : 0;

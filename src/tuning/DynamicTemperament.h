@@ -9,8 +9,8 @@
 namespace velmora {
 
 /// A temperament of 31 meantone pitches with three spellings of each pitch class: its home and the
-/// two neighbouring pitches. A pitch class keeps its spelling until its last note has faded; the
-/// next key then takes it home.
+/// two neighbouring pitches. A pitch class keeps its spelling until its last note has faded; its
+/// next note then returns it home.
 class DynamicTemperament : public Temperament {
 public:
     DynamicTemperament();
@@ -26,7 +26,7 @@ public:
     /// same spelling an octave higher. n is at least −1.
     void isomorph(Tunable& instrument, int n) override;
 
-    /// Decays the weight of every pitch class. Once all have faded, C returns home.
+    /// Reduces the weight of every pitch class. Once all have faded, C returns home.
     void fade(double factor) override;
 
 private:

@@ -9,7 +9,8 @@ namespace velmora {
 
 class Tunable;
 
-/// The tuning of each pitch class and the base frequency, which give each MIDI key its pitch.
+/// The tuning of each pitch class and the base frequency, which together determine the pitch of
+/// each MIDI key.
 class Temperament {
 public:
     /// Creates a temperament without tunings, based on middle C for A at 440 Hz.
@@ -24,7 +25,7 @@ public:
     /// Quarter-comma meantone: pure thirds C–E–G♯, fifths a quarter of the syntonic comma narrow.
     static Temperament Meantone();
 
-    /// Returns a copy in the state it has before any key is struck.
+    /// Returns a copy in its initial state, before any key has been struck.
     virtual std::unique_ptr<Temperament> fresh() const;
 
     /// Returns the current tuning of a MIDI key's pitch class.
@@ -34,19 +35,20 @@ public:
     /// instrument here.
     virtual void setup(Tunable& instrument, unsigned char key, float velocity);
 
-    /// Forces another spelling of a pitch class and plays it. Does nothing unless the temperament
-    /// is adaptive.
+    /// Forces a spelling of a pitch class and plays it. DynamicTemperament defines the meaning of
+    /// `n`; other temperaments do nothing.
     virtual void isomorph(Tunable& instrument, int n);
 
-    /// Returns the key that `isomorph` plays for a number from -1 up. Three numbers share a key.
+    /// Returns the key that `isomorph` plays for `n`, which is at least −1. Three consecutive
+    /// numbers share a key.
     static int isomorphKey(int n) { return 48 + (n + 1) / 3; }
 
-    /// Multiplies the influence of the keys played by `factor`. Called 60 times a second.
+    /// Multiplies the influence of the notes played earlier by `factor`. Called 60 times a second.
     virtual void fade(double factor);
 
     /// Returns the frequency in hertz of MIDI key 0…127. Key 48 has the base frequency if pitch
-    /// class 0 is at 0 cents: an octave higher than is usual, but samples' root pitches are counted
-    /// in the same way, so it cancels out.
+    /// class 0 is at 0 cents. That is an octave higher than usual, but the root pitches of samples
+    /// are counted in the same way, so the octave cancels out.
     double getPitch(unsigned long key) const;
 
     double baseFrequency() const { return baseFrequency_; }

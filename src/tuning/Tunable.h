@@ -4,7 +4,7 @@ namespace velmora {
 
 class Temperament;
 
-/// An instrument, as far as a temperament needs to know it.
+/// The part of an instrument that a temperament uses.
 class Tunable {
 public:
     virtual ~Tunable() = default;

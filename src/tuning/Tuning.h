@@ -7,7 +7,8 @@ class Tuning {
 public:
     virtual ~Tuning() = default;
 
-    /// Returns the frequency in hertz in an octave. The tonic of octave 0 is at `base` hertz.
+    /// Returns the frequency in hertz in the given octave. The tonic of octave 0 is at `base`
+    /// hertz.
     virtual double tune(double base, int octave) const = 0;
 
     /// Returns the distance above the tonic in cents; 0 for an absolute pitch.

@@ -25,7 +25,7 @@ public:
     /// Why the last `read` failed, in one sentence that names the file; empty after a success.
     const std::string& errorString() const { return errorString_; }
 
-    /// The temperament as it is before any key is struck. Play a copy of it (`fresh`).
+    /// The temperament in its initial state. To play it, make a copy with `fresh`.
     const Temperament& temperament() const { return *temperament_; }
 
     const std::string& name() const { return name_; }

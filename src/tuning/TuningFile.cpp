@@ -107,7 +107,7 @@ void append(Temperament& temperament, std::unique_ptr<Tuning> tuning, const Line
     temperament.append(std::move(tuning));
 }
 
-/// Both parts are truncated.
+/// Reads a ratio, of which both parts are truncated to whole numbers.
 std::unique_ptr<Tuning> readRatio(const Line& line, std::size_t slash)
 {
     // See docs/decisions.md, 4.
@@ -119,7 +119,7 @@ std::unique_ptr<Tuning> readRatio(const Line& line, std::size_t slash)
     return std::make_unique<Ratio>(numerator, denominator);
 }
 
-/// A whole number is cents, too.
+/// Reads cents, with or without a decimal point.
 std::unique_ptr<Tuning> readCents(const Line& line)
 {
     const double cents = finiteNumber(line, line.text);
@@ -134,7 +134,7 @@ void checkNoteCount(const Line& line)
         throw wrongLine(line, "is the number of notes; only scales of 12 notes are supported");
 }
 
-/// The octave line is not read.
+/// Reads a scale. The line of the octave is ignored.
 Temperament readScale(const Lines& lines)
 {
     if (lines.kept.size() > 1)
@@ -169,7 +169,7 @@ Temperament readFrequencies(const Lines& lines)
         logger("tuning").debug("F {:f}", hertz);
         append(temperament, std::make_unique<Freq>(hertz), line);
     }
-    // The format has no pitch for B: see docs/decisions.md, 8.
+    // The format has no frequency for B: see docs/decisions.md, 8.
     append(temperament, std::make_unique<Freq>(2.0 * temperament.baseFrequency()), baseLine);
     return temperament;
 }

@@ -23,7 +23,8 @@ std::optional<TuningFormat> tuningFormatOf(const std::filesystem::path& path);
 std::string typeName(TuningFormat format);
 
 /// Reads the temperament that a tuning file describes. Lines end in LF or CR LF. Empty lines and
-/// lines that begin with one of ! / : @ are comments, as is everything after a line's number.
+/// lines that begin with one of ! / : @ are comments, and so is the text after the number in a
+/// line.
 ///
 /// In a scale, the pitches of C♯ to B are cents above C, or ratios if they contain a "/"; a whole
 /// number is cents. Frequencies run from C to B♭ and do not depend on the base; B is the base an
