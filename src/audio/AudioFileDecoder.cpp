@@ -25,8 +25,8 @@ using SoundFile = std::unique_ptr<SNDFILE, int (*)(SNDFILE*)>;
 
 constexpr sf_count_t kBlockFrames = 16384;
 
-/// libsndfile's status for a format that it recognises but cannot decode. Its header does not name
-/// it.
+/// libsndfile's status for a format that it recognises but cannot decode. <sndfile.h> has no name
+/// for it.
 constexpr int kUnimplemented = 18;
 
 /// What the log calls a sound that has no file name.
@@ -76,7 +76,7 @@ Pcm decode(SNDFILE* file, const SF_INFO& info, const std::string& name, std::siz
 /// libsndfile opens a file and reads its format in one step; the status says which of them failed.
 FormatError openError(const char* operation)
 {
-    // The wording is fixed so that logs of different versions can be compared.
+    // Diagnostics keep their texts: see docs/decisions.md, 125.
     const Logger log = logger("audio");
     const int status = sf_error(nullptr);
     if (status == SF_ERR_UNRECOGNISED_FORMAT || status == SF_ERR_SYSTEM)
@@ -90,7 +90,7 @@ FormatError openError(const char* operation)
     return FormatError("is not a sound file in a supported format");
 }
 
-/// Calls a decoder, and logs its error under the name of the sound.
+/// Calls a decoder and logs any error with the name of the sound.
 template <class Decoder> Pcm logErrors(const std::string& name, Decoder decoder)
 try {
     return decoder();
@@ -165,7 +165,7 @@ Pcm decodeAudioFile(const std::filesystem::path& path)
         const int error = errno;
         const std::string reason = std::generic_category().message(error);
         const Logger log = logger("audio");
-        // The wording is fixed so that logs of different versions can be compared.
+        // See docs/decisions.md, 125.
         log.debug("ERROR : ExtAudioFileOpenURL, {}", error);
         log.warn("cannot open {}: {}", path.string(), reason);
         throw FormatError("cannot be read (" + reason + ")");

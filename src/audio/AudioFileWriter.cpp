@@ -17,7 +17,7 @@ constexpr int kChannels = 2;
 /// The size of a WAV file, including its header, has 32 bits. A sample has three bytes.
 constexpr std::uint64_t kMaximumWavFrames = (0xFFFFFFFFU - 4096U) / (3U * kChannels);
 
-/// An arbitrary constant, so that the same sound always results in the same file.
+/// See docs/decisions.md, 133.
 constexpr std::uint32_t kOggSerial = 1;
 
 int formatOf(const std::filesystem::path& path)

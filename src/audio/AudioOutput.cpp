@@ -7,6 +7,7 @@
 #include <jack/jack.h>
 
 #include <algorithm>
+#include <atomic>
 #include <mutex>
 #include <optional>
 
@@ -75,7 +76,7 @@ private:
     void fill(std::size_t frames, float** outputs, int outputCount)
     {
         period_ = frames;
-        // Never wait here: while `play` exchanges the source, the period is silent.
+        // Never wait here: if `play` is exchanging the source, the period is silent.
         const std::unique_lock lock(mutex_, std::try_to_lock);
         if (lock && source_ != nullptr && outputCount >= 2) {
             source_->render(outputs[0], outputs[1], frames);

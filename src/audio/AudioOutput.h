@@ -2,7 +2,6 @@
 
 #include "audio/AudioSource.h"
 
-#include <atomic>
 #include <cstddef>
 #include <memory>
 #include <string>

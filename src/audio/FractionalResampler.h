@@ -8,8 +8,8 @@
 namespace velmora {
 
 /// Shifts the pitch of a stereo stream by a small ratio. Interpolates with a windowed sinc of 32
-/// taps in 512 phases, with linear interpolation between phases. As long as the step is exactly 1,
-/// the output is the input, delayed.
+/// taps in 512 phases, with linear interpolation between phases. If the step is always exactly
+/// 1, the output is the delayed input.
 class FractionalResampler {
 public:
     static constexpr std::size_t kTaps = 32;
@@ -54,7 +54,7 @@ private:
     std::array<float, kCapacity> right_{};
     std::size_t filled_ = kTaps - 1; ///< Frames in the buffers; they start with silence.
     std::size_t position_ = 0;       ///< The frame under the first tap.
-    double phase_ = 0.0;             ///< Fraction of a frame to add to it.
+    double phase_ = 0.0;             ///< Fraction of a frame to add to `position_`.
     double step_ = 1.0;
 };
 

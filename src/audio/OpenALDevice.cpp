@@ -39,7 +39,7 @@ std::unique_ptr<OpenALDevice> OpenALDevice::open()
     ALCdevice* device = alcOpenDevice(nullptr);
     if (device == nullptr) {
         const Logger log = logger("audio");
-        // The wording is fixed so that logs of different versions can be compared.
+        // Diagnostics keep their texts: see docs/decisions.md, 125.
         log.debug("ERROR alcOpenDevice = {}", alGetError());
         log.warn("OpenAL cannot open a sound output: sampled instruments cannot be played");
         return nullptr;

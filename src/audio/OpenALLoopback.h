@@ -9,9 +9,9 @@
 
 namespace velmora {
 
-/// Renders OpenAL without a sound output. OpenAL calls of the thread that constructs it are
-/// rendered block by block, through the same limiter as the synthesizer. All sources and buffers
-/// must be deleted before it is destroyed.
+/// Renders OpenAL's sound block by block instead of playing it, through the same limiter as the
+/// synthesizer. Its context is current only on the thread that constructs it. All sources and
+/// buffers must be deleted before it is destroyed.
 class OpenALLoopback : public AudioSource {
 public:
     /// `rate` is in hertz and is rounded to a whole number. Throws std::runtime_error if OpenAL

@@ -12,7 +12,7 @@ namespace velmora {
 
 namespace {
 
-/// Limits the memory that is reserved for the length in a header.
+/// Limits the memory that is reserved for the length in a header: see docs/decisions.md, 131.
 constexpr std::size_t kUsualSamplesPerByte = 8;
 
 /// Limits what a file can decode to. Even silence takes a few bytes for each block of about ten
@@ -35,8 +35,7 @@ std::int16_t narrow(float sample)
 
 } // namespace
 
-// The wording of the lines at debug level is fixed so that logs of different versions can be
-// compared.
+// Diagnostics keep their texts: see docs/decisions.md, 125.
 
 PcmBuilder::PcmBuilder(std::string name, int channels, double rate, std::int64_t frames,
                        std::size_t fileSize)

@@ -19,8 +19,8 @@ public:
                std::size_t fileSize);
 
     /// Appends interleaved samples with a full scale of 2¹⁵, 2³¹ or 1, rounded to 16 bits and
-    /// clipped at full scale. Throws FormatError if there are more than a file of that size can
-    /// hold.
+    /// clipped at full scale. Throws FormatError if there are more samples than a file of that size
+    /// can hold.
     void add(std::span<const std::int16_t> samples);
     void add(std::span<const std::int32_t> samples);
     void add(std::span<const float> samples);

@@ -19,7 +19,7 @@ public:
     /// The delay in frames: 1.5 ms.
     std::size_t delay() const { return lookAhead_ - 1; }
 
-    /// Replaces `frames` frames by the output.
+    /// Replaces `frames` frames with the output.
     void process(float* left, float* right, std::size_t frames);
 
 private:

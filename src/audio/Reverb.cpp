@@ -24,8 +24,7 @@ Reverb::Reverb(double rate)
     : silentFramesToSleep_(static_cast<std::size_t>(kLongestEchoSeconds * rate)),
       silentFrames_(silentFramesToSleep_)
 {
-    // FreeVerb is not told the rate, so its delays have the lengths for 44,100 Hz. If it were, it
-    // would scale the delays again for each new instance.
+    // FreeVerb is not told the sample rate: see docs/decisions.md, 127.
     freeVerb_ = std::make_unique<stk::FreeVerb>();
     freeVerb_->setEffectMix(1.0);
     freeVerb_->setRoomSize(kRoomSize);

@@ -17,7 +17,7 @@ public:
     explicit Reverb(double rate);
     ~Reverb();
 
-    /// Adds the reverberation of `left` and `right` to them. Takes no time during silence.
+    /// Adds reverberation to `left` and `right`. Takes no time during silence.
     void process(float* left, float* right, std::size_t frames);
 
     /// Stops the reverberation immediately.

@@ -101,8 +101,7 @@ void Synthesizer::takeEvents()
     bends.fill(kNoBend);
     for (; read != written; ++read) {
         const Event& event = queue_[read % kQueue];
-        // Only the last of several bends is applied. FluidSynth can queue a limited number of
-        // changes between two blocks and would lose note-offs if there were more.
+        // Only the last of several bends is applied: see docs/decisions.md, 129.
         const int kind = event.status & midi::kKindMask;
         const bool isNote = kind == midi::kNoteOn || kind == midi::kNoteOff;
         if (kind == midi::kPitchBend)
@@ -112,7 +111,7 @@ void Synthesizer::takeEvents()
     }
     read_.store(read, std::memory_order_release);
 
-    // A lost message may have been a note-off.
+    // A lost message may have been a note-off: see docs/decisions.md, 130.
     for (std::size_t channel = 0; channel < bends.size(); ++channel) {
         SynthesizerLane* lane = laneOf(channel);
         if (lane != nullptr && overflowed)

@@ -94,7 +94,7 @@ void SynthesizerLane::allSoundsOff()
 void SynthesizerLane::setCents(double cents)
 {
     const double whole = std::round(cents);
-    // Aim for the middle of a cent, so that rounding inside FluidSynth cannot change the result.
+    // Aim for the middle of a cent: see docs/decisions.md, 128.
     fluid_synth_set_gen(synth_.get(), kChannel, GEN_FINETUNE, static_cast<float>(whole + 0.5));
     resampler_.setStep(std::exp2((cents - whole) / 1200.0));
 }

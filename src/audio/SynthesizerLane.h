@@ -12,7 +12,7 @@ namespace velmora {
 /// A General MIDI synthesizer of one channel, whose pitch can be shifted exactly.
 ///
 /// FluidSynth rounds pitches down to whole cents. A lane therefore shifts its synthesizer by whole
-/// cents and resamples the output for the rest, at most half a cent. After construction it must
+/// cents and resamples the output by the remainder, at most half a cent. After construction it must
 /// only be used on the thread that renders.
 class SynthesizerLane {
 public:

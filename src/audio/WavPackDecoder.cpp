@@ -45,7 +45,8 @@ WavpackStreamReader64 memoryReader()
     return reader;
 }
 
-/// Adds samples of libwavpack: the low bytes of 32 bits, or floats with a full scale of 1.
+/// Adds samples as libwavpack returns them: integers in the low bytes of each word, or the bits of
+/// floats with a full scale of 1.
 void add(PcmBuilder& builder, std::span<std::int32_t> samples, int mode, int bytesPerSample)
 {
     if ((mode & MODE_FLOAT) != 0) {

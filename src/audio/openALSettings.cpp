@@ -11,7 +11,7 @@ namespace velmora {
 
 namespace {
 
-// The default of 256 sources is used up by two stops.
+// Two stops would use up the default of 256 sources.
 constexpr const char* kSources = "[general]\nsources = 65536\n";
 constexpr const char* kOutput = "drivers = jack,\nperiod_size = 128\nperiods = 2\n";
 
@@ -31,8 +31,9 @@ bool userHasSettings()
                (configuration.empty() ? home / ".config" : configuration) / "alsoft.conf", error);
 }
 
-/// OpenAL Soft reads settings only from files. This one is in memory; its path includes the process
-/// ID so that child processes find it too.
+/// Writes the settings to a file in memory, because OpenAL Soft reads them only from a file. Its
+/// path includes the process ID, so that child processes find it too. Returns whether the settings
+/// apply.
 bool writeSettings()
 {
     setenv("ALSOFT_LOGLEVEL", "0", 0);

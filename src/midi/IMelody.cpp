@@ -14,13 +14,13 @@ namespace velmora {
 
 namespace {
 
-/// All lengths that the format can express are whole multiples of this fraction of a beat.
+/// Every length that the format can express is a whole number of these units.
 constexpr double kUnitsPerBeat = 96.0;
 constexpr double kSixteenth = kUnitsPerBeat / 4.0;
 
 constexpr int kRest = -1;
 
-/// A part of the melody with one key. Times are in units.
+/// A part of the melody on one key. Times are in units.
 struct Stretch {
     double begin;
     double end;
@@ -149,14 +149,14 @@ std::string nameOf(int key)
     return octave == kDefaultOctave ? name : fmt::format("*{}{}", octave, name);
 }
 
-/// Returns the texts of all notes and rests.
+/// Returns the text of each note and rest.
 std::vector<std::string> melodyOf(const std::vector<Stretch>& stretches)
 {
     std::vector<std::string> melody;
     double written = 0.0;
     for (auto stretch = stretches.begin(); stretch != stretches.end(); ++stretch) {
         if (written >= stretch->end)
-            continue; // the notes before it were too short and took its time
+            continue; // earlier notes were lengthened to the shortest length and took its time
         while (stretch->begin - written > kHalfShortest) {
             const double rest = stretch->begin - written;
             const Length& length = nearestLength(rest, rest);
@@ -171,7 +171,7 @@ std::vector<std::string> melodyOf(const std::vector<Stretch>& stretches)
         written += length.units;
     }
     if (melody.empty())
-        melody.emplace_back("r2"); // the format requires at least one
+        melody.emplace_back("r2"); // the format requires at least one note or rest
     return melody;
 }
 

@@ -12,7 +12,7 @@ namespace velmora {
 /// above 0 and their ends at most `kLastBeat`.
 ///
 /// If notes overlap, the highest one is written. A lower note is written before and after it,
-/// unless that part is shorter than a sixteenth and than half of the note.
+/// unless that part is shorter than both a sixteenth and half of the note.
 ///
 /// Each note gets the nearest length that the format can express, from two thirds of a 1/32 to a
 /// double-dotted whole note, or a shorter one if the next note would be late otherwise. Rounding

@@ -19,7 +19,7 @@ namespace velmora {
 
 namespace {
 
-/// The first source of each device, as RtMidi names that port, by the device's name.
+/// Maps the name of each device to RtMidi's name for its first source port.
 using Devices = std::map<std::string, std::string>;
 
 std::vector<std::string> portNames(RtMidiIn& midi)
@@ -109,12 +109,12 @@ Devices jackDevices()
     return devices;
 }
 
-/// Logs a failed operation on a device. The wording of the first line is fixed so that logs of
-/// different versions can be compared.
+/// Logs a failed operation on a device.
 void logFailure(const char* operation, RtMidiError::Type type, const std::string& device,
                 const std::string& reason)
 {
     const Logger log = logger("midi");
+    // Diagnostics keep their texts: see docs/decisions.md, 125.
     log.debug("{} err = {}", operation, static_cast<int>(type));
     log.warn("cannot open the MIDI input {}: {}", device, reason);
 }
@@ -174,7 +174,7 @@ private:
     }
 
     std::string name_;
-    std::optional<RtMidiError::Type> error_; ///< Of the last call to RtMidi.
+    std::optional<RtMidiError::Type> error_; ///< The error of the last attempt to connect.
     std::string errorText_;
     RtMidiIn midi_;
 };

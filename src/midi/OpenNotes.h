@@ -10,7 +10,7 @@
 namespace velmora {
 
 /// The notes of a track that have started but not ended, in order of start for each channel and
-/// key. Holds fewer than 2³² notes.
+/// key. It can hold fewer than 2³² notes.
 template <class Note> class OpenNotes {
 public:
     void start(std::size_t channel, std::size_t key, Note note)
@@ -29,7 +29,7 @@ public:
         ++count_;
     }
 
-    /// How many notes `end` skips at most.
+    /// The greatest number of notes that `end` skips.
     static constexpr std::size_t kMaximumSkipped = 255;
 
     /// Removes and returns the first note of a channel and key for which `matches` is true, or the
@@ -45,7 +45,6 @@ public:
     }
 
     /// Removes all notes and calls `visit` for each.
-
     template <class Visit> void endAll(Visit visit)
     {
         for (std::size_t i = 0; count_ > 0; ++i)

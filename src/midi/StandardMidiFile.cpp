@@ -69,10 +69,8 @@ private:
 
     void readChannelEvent(MidiFileCursor& track)
     {
-        // Officially, meta and system exclusive events cancel running status. It is kept because
-        // there are files that rely on it.
+        // Meta and system exclusive events leave the running status: see docs/decisions.md, 122.
         if (track.peek() >= midi::kStatusBit)
-            // See docs/decisions.md, 122.
             status_ = track.byte();
         else if (status_ == 0)
             throw FormatError::atByte(track.offset(),

@@ -86,7 +86,7 @@ void addMetaEvent(std::string& bytes, std::uint8_t type, std::size_t size)
 
 void addDelta(std::string& bytes, std::uint64_t delta)
 {
-    // Empty text events split a pause that is too long for one delta time.
+    // See docs/decisions.md, 132.
     for (; delta > kLongestDelta; delta -= kLongestDelta) {
         addQuantity(bytes, kLongestDelta);
         addMetaEvent(bytes, midi::kText, 0);

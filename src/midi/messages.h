@@ -10,7 +10,7 @@ namespace midi {
 /// Set in every status byte, clear in every data byte.
 constexpr std::uint8_t kStatusBit = 0x80;
 
-/// Splits the status of a channel message into its kind and its channel.
+/// Masks for the kind and the channel in the status of a channel message.
 constexpr std::uint8_t kKindMask = 0xF0;
 constexpr std::uint8_t kChannelMask = 0x0F;
 

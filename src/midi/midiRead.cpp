@@ -9,8 +9,7 @@ namespace velmora {
 
 namespace {
 
-/// The controllers that move sliders 0 to 4.
-/// See docs/decisions.md, 47.
+/// The controllers that move sliders 0 to 4. See docs/decisions.md, 47.
 constexpr std::array<std::uint8_t, 5> kSliderControllers{midi::kChannelVolume, midi::kExpression,
                                                          midi::kVibratoRate, midi::kVibratoDepth,
                                                          midi::kVibratoDelay};
@@ -61,16 +60,15 @@ bool readPacket(MidiPacket bytes, LiveInput& input)
         } else if (status == midi::kChannelPressure) {
             bytes = skip(bytes, 2);
         } else {
-            // Every other status is read as a controller, even pitch bend and program change.
+            // Every other message is read as a controller, even pitch bend and program change: see
+            // docs/decisions.md, 44.
             if (isComplete)
-                // See docs/decisions.md, 44.
                 readController(bytes[1], bytes[2], input);
             bytes = skip(bytes, 3);
         }
         // A message without a status byte was read as a controller above. It also releases the key
-        // of its first byte and takes a fourth byte.
+        // of its first byte and takes a fourth byte: see docs/decisions.md, 45.
         if (first < midi::kStatusBit) {
-            // See docs/decisions.md, 45.
             input.keyOff(first);
             bytes = skip(bytes, 1);
         }

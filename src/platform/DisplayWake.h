@@ -22,11 +22,11 @@ public:
     /// Returns whether there is a session bus.
     bool isConnected() const { return bus_ != nullptr; }
 
-    /// Reports that the user is playing, at most once in five seconds. Does not wait for a reply.
+    /// Reports that the user is playing, at most every five seconds. Does not wait for a reply.
     void userActivity();
 
 private:
-    std::unique_ptr<QDBusConnection> bus_; ///< Null if there is none.
+    std::unique_ptr<QDBusConnection> bus_; ///< Null if there is no session bus.
     std::optional<std::chrono::steady_clock::time_point> lastReport_;
 };
 

@@ -6,11 +6,11 @@
 
 namespace velmora {
 
-/// Returns the stored value of a key, or else its default. Invalid if there is neither. Windows
-/// also store their geometry here.
+/// Returns the stored value of a key or, if there is none, its default; an invalid value if it has
+/// neither. Windows also store their geometry here.
 QVariant preference(const std::string& key);
 
-/// Returns the default value of a key; invalid if there is none.
+/// Returns the default value of a key, or an invalid value if it has none.
 QVariant defaultPreference(const std::string& key);
 
 void setPreference(const std::string& key, const QVariant& value);

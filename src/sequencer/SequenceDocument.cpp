@@ -51,6 +51,7 @@ SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> c
         registerTake();
         emit changed();
     });
+    // See docs/decisions.md, 126.
     host.liveKeys().clear();
 }
 

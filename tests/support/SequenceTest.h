@@ -16,8 +16,8 @@ namespace velmora {
 
 using Calls = std::vector<std::string>;
 
-/// A document with a clock that only `tick` moves, on a host that records its calls. A second has
-/// 16 steps of a file, but 15 steps of the document.
+/// A document with a clock that only `tick` moves, on a host that records its calls. A second is 16
+/// steps in a file, but 15 steps in playback at tempo 120: see docs/decisions.md, 83.
 class SequenceTest : public testing::Test, public SequenceHost {
 protected:
     void play(int key, float velocity) override
