@@ -92,7 +92,7 @@ TEST(AudioFileDecoder, RoundsAndClipsTo16Bits)
     auto file = readFile(write(kFlac, 1, kWords));
     std::fill_n(file.begin() + 22, 4, std::byte{0x7f}); // the length in the first metadata block
     EXPECT_LE(decodeAudio(file).samples.capacity(), 8 * file.size())
-        << "a false length does not reserve memory";
+        << "a false length reserves memory only in proportion to the file";
 }
 
 TEST(AudioFileDecoder, SaysAndLogsWhyASoundCannotBeDecoded)
@@ -102,7 +102,7 @@ TEST(AudioFileDecoder, SaysAndLogsWhyASoundCannotBeDecoded)
     };
     const struct {
         int format, channels;
-        std::size_t size; // of the part of the file that is kept
+        std::size_t size; // the file is truncated to this size
         std::size_t at;
         std::string changed; // bytes to write at `at`
         std::string why, diagnostic;

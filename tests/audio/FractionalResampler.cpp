@@ -10,7 +10,7 @@ namespace velmora {
 
 namespace {
 
-/// A tone of full scale at 48000 Hz.
+/// A full-scale tone, sampled at 48000 Hz.
 float tone(double hertz, double frame)
 {
     return static_cast<float>(std::sin(2.0 * std::numbers::pi * hertz * frame / 48000.0));

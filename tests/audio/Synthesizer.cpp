@@ -28,7 +28,7 @@ TEST(Synthesizer, EndsNotesUnderAnyLoad)
     const std::function<void(int)> storms[] = {
         [&](int i) { synthesizer.midiEvent(0xE0, i % 128, 64); },
         [&](int i) { synthesizer.midiEvent(i % 2 == 0 ? 0x90 : 0x80, 60, 100); }};
-    for (const int messages : {500, 16000, 20000}) { // the queue has room for 16384
+    for (const int messages : {500, 16000, 20000}) { // the queue holds 16384
         for (const auto& storm : storms) {
             synthesizer.midiEvent(0x90, 60, 100);
             EXPECT_GT(nextPeak(synthesizer), 0.01F);

@@ -27,7 +27,7 @@ TEST(IMelody, WritesHeadersAndFoldsLines)
 {
     EXPECT_EQ(writeIMelody({}), "BEGIN:IMELODY\r\nVERSION:1.2\r\nFORMAT:CLASS1.0\r\nBEAT:120\r\n"
                                 "STYLE:S0\r\nVOLUME:V7\r\nMELODY:r2\r\nEND:IMELODY\r\n");
-    // 34 notes of two characters fill the first line of 75, 37 a continuation line.
+    // Notes of two characters: 34 fill the first line of 75, and 37 fill a continuation line.
     std::vector<MidiEvent> repeated;
     std::string expected;
     for (int i = 0; i < 72; ++i) {

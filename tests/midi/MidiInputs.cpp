@@ -28,7 +28,7 @@ struct Inbox {
         arrived.notify_all();
     }
 
-    /// Waits for `count` messages and returns all.
+    /// Waits until `count` messages have arrived and returns all messages.
     std::vector<Message> wait(std::size_t count)
     {
         std::unique_lock lock(mutex);
@@ -52,7 +52,7 @@ TEST(MidiInputs, ReceiveEveryMessageOfEverySourceInOrder)
     if (inputs.api() == "ALSA")
         GTEST_SKIP() << "this machine has an ALSA sequencer, which is preferred to JACK";
     EXPECT_THAT(inputs.names(), ElementsAre("organ:great", "organ:swell"));
-    std::this_thread::sleep_for(100ms); // until the connections take effect
+    std::this_thread::sleep_for(100ms); // the connections take effect with a delay
     for (const Message& message : {Message{0xF8}, {0xF0, 0x7D, 1, 0xF7}, {0xD0, 5}})
         source.send(0, message);
     EXPECT_THAT(inbox.wait(1), ElementsAre(Message{0xD0, 5}))

@@ -25,8 +25,8 @@ struct RecordingInput : public LiveInput {
     std::string calls;
 };
 
-/// Returns the calls that `packets` result in. Each packet has its own buffer, so that sanitizers
-/// detect reads past its end.
+/// Returns the calls that reading `packets` makes. Each packet has its own buffer, so that
+/// sanitizers detect reads past its end.
 std::string read(const std::vector<Bytes>& packets)
 {
     RecordingInput input;

@@ -21,7 +21,7 @@ float sourceFloat(const Sample& sample, ALenum property)
     return value;
 }
 
-/// The gain at which a sample plays; -1 when it does not.
+/// Returns the gain at which a sample plays, or -1 if it does not play.
 float gainOf(const Sample& sample)
 {
     int state = 0;
@@ -31,7 +31,8 @@ float gainOf(const Sample& sample)
 
 class ALInstrumentTest : public testing::Test {
 protected:
-    Sample& lay(std::size_t stop, std::size_t key, double hertz = 440.0)
+    /// Sets the sample of a key to a sine that was recorded at `hertz`.
+    Sample& setSine(std::size_t stop, std::size_t key, double hertz = 440.0)
     {
         auto& sound = instrument_.sounds[std::to_string(hertz)];
         if (!sound)
@@ -49,13 +50,13 @@ TEST_F(ALInstrumentTest, SoundsAKeyInEveryStopThatIsDrawnUntilItHasFaded)
 {
     for (const float volume : {0.0F, 0.5F, 1.0F})
         instrument_.appendStop("").volume = volume;
-    const Sample* samples[] = {&lay(0, 60), &lay(1, 60), &lay(2, 60)};
+    const Sample* samples[] = {&setSine(0, 60), &setSine(1, 60), &setSine(2, 60)};
     const auto expectGains = [&](float half, float full, const char* when) {
         EXPECT_EQ(gainOf(*samples[0]), -1.0F) << when;
         EXPECT_NEAR(gainOf(*samples[1]), half, 1e-6) << when;
         EXPECT_NEAR(gainOf(*samples[2]), full, 1e-6) << when;
         instrument_.play(60, 0.1F);
-        EXPECT_EQ(gainOf(*samples[1]), 0.5F) << "struck anew: " << when;
+        EXPECT_EQ(gainOf(*samples[1]), 0.5F) << "struck again: " << when;
         EXPECT_FALSE(samples[2]->released()) << when;
     };
     expectGains(-1.0F, -1.0F, "unplayed");
@@ -65,7 +66,7 @@ TEST_F(ALInstrumentTest, SoundsAKeyInEveryStopThatIsDrawnUntilItHasFaded)
     instrument_.stop(60);
     for (int i = 0; i < 37; ++i)
         instrument_.fade(0.9);
-    expectGains(-1.0F, std::pow(0.9F, 37.0F), "fading, half of it below what is heard");
+    expectGains(-1.0F, std::pow(0.9F, 37.0F), "fading, and the quieter stop has ended");
 
     instrument_.setVolume(0, 0.5F);
     instrument_.setVolume(3, 0.5F);
@@ -82,10 +83,10 @@ TEST_F(ALInstrumentTest, SoundsAKeyInEveryStopThatIsDrawnUntilItHasFaded)
     EXPECT_THROW(instrument_.appendStop(""), FormatError) << "more than any organ has";
 }
 
-TEST_F(ALInstrumentTest, TunesWhatHasAnotherPitchAndNothingElse)
+TEST_F(ALInstrumentTest, RetunesOnlyKeysWhosePitchHasChanged)
 {
     instrument_.appendStop("");
-    const Sample* samples[] = {&lay(0, 57), &lay(0, 58)};
+    const Sample* samples[] = {&setSine(0, 57), &setSine(0, 58)};
     const Temperament meantone = Temperament::Meantone();
     const auto expectHertz = [&](double first, double second) {
         EXPECT_NEAR(440.0 * sourceFloat(*samples[0], AL_PITCH), first, 1e-4);
@@ -96,7 +97,7 @@ TEST_F(ALInstrumentTest, TunesWhatHasAnotherPitchAndNothingElse)
     instrument_.tune(meantone, 58, 58);
     expectHertz(440.0, meantone.getPitch(58));
     alSourcef(samples[1]->source(), AL_PITCH, 3.0F);
-    lay(0, 57, 220.0); // is tuned anew; of the other, OpenAL is not told twice
+    setSine(0, 57, 220.0); // must be tuned; OpenAL is not told the other pitch again
     instrument_.tune(meantone, 57, 58);
     expectHertz(2.0 * meantone.getPitch(57), 1320.0);
 }
@@ -111,7 +112,7 @@ TEST_F(ALInstrumentTest, SoundsInTune)
     for (Temperament* temperament : {&equally, &meantone, static_cast<Temperament*>(&dynamic)}) {
         for (unsigned key = 24; key <= 96; key += 5) {
             const double rootPitch = equal.getPitch(key - key % 9); // pipes a sixth apart
-            lay(0, key, rootPitch);
+            setSine(0, key, rootPitch);
             instrument_.tune(*temperament, 0, 127);
             instrument_.play(static_cast<int>(key), 1.0F);
             const double wanted = temperament->getPitch(key);
@@ -127,7 +128,7 @@ TEST_F(ALInstrumentTest, SoundsInTune)
     }
 }
 
-TEST(Sound, AndItsSourcesAreFreedWithALargeOrgan)
+TEST(Sound, IsFreedTogetherWithTheSourcesOfALargeOrgan)
 {
     EXPECT_THROW(Sound(sine(440.0, 0.1)), FormatError) << "without OpenAL";
     const OpenALLoopback loopback(48000.0);

@@ -1,4 +1,4 @@
-// The General MIDI instrument as it is heard: its real synthesizer, rendered and measured.
+// Renders the General MIDI instrument on its real synthesizer and measures the pitch.
 
 #include "audio/Synthesizer.h"
 #include "sound/MIDIInstrument.h"
@@ -21,13 +21,14 @@ TEST_P(GeneralMidiPitch, LiesWithinATwentiethOfACentOfTheTemperament)
     Synthesizer& synthesizer = *device;
     MIDIInstrument instrument(std::move(device));
     instrument.setInstrument(static_cast<std::uint8_t>(GetParam()));
-    const bool beats = GetParam() == 19; // two ranks: only notes of the same age can be compared
+    const bool beats =
+        GetParam() == 19; // has two ranks that beat, so only notes of the same age can be compared
 
     const auto meantone = TuningDocument::makeBuiltin("Quartercomma Meantone");
     TuningDocument file;
     ASSERT_TRUE(file.read(VELMORA_EXAMPLES "/kirnberger-3.scl", TuningFormat::Scale));
     DynamicTemperament dynamic;
-    for (int n = 2; n < 36; n += 6) // the upper neighbour of each second pitch class
+    for (int n = 2; n < 36; n += 6) // the upper neighbour of every second pitch class
         dynamic.isomorph(instrument, n);
     for (int key = 0; key < 128; ++key)
         instrument.stop(key);
@@ -44,7 +45,7 @@ TEST_P(GeneralMidiPitch, LiesWithinATwentiethOfACentOfTheTemperament)
             rendered(synthesizer, kRate / 2);
         };
         const auto hertz = [&](double deviation) {
-            // Key 60 sounds as middle C, an octave below its pitch by the temperament's own count.
+            // Key 60 sounds as middle C, an octave below `getPitch`: see docs/decisions.md, 1.
             return measuredHertz(rendered(synthesizer, kRate).left, kRate,
                                  equal.getPitch(key) / 2.0 * std::exp2(deviation / 1200.0));
         };

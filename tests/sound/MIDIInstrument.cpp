@@ -31,7 +31,7 @@ constexpr int kChannelOf[] = {0, 1, 2, 3, 4, 5, 6, 7, 8, 12, 10, 11};
 
 } // namespace
 
-TEST_F(MIDIInstrumentTest, SelectsBankZeroAndProgramTwoAtFirstOnEveryChannel)
+TEST_F(MIDIInstrumentTest, StartsWithBankZeroAndProgramTwoOnEveryChannel)
 {
     instrument.setInstrument(127);
     Messages expected;
@@ -41,7 +41,7 @@ TEST_F(MIDIInstrumentTest, SelectsBankZeroAndProgramTwoAtFirstOnEveryChannel)
     EXPECT_EQ(messages, expected);
 }
 
-TEST_F(MIDIInstrumentTest, PlaysEachPitchClassOnAChannelOfItsOwnAndSparesPercussion)
+TEST_F(MIDIInstrumentTest, PlaysEachPitchClassOnAChannelOfItsOwnAndAvoidsPercussion)
 {
     for (int key = 0; key < 128; ++key) {
         messages.clear();
@@ -56,10 +56,10 @@ TEST_F(MIDIInstrumentTest, PlaysEachPitchClassOnAChannelOfItsOwnAndSparesPercuss
     EXPECT_EQ(instrument.getVolume(1), 0.0F);
     instrument.setVolume(0, 0.5F);
     instrument.play(69, 1.0F);
-    EXPECT_EQ(messages.back(), (Message{0x9C, 69, 63})) << "cut off, not rounded";
+    EXPECT_EQ(messages.back(), (Message{0x9C, 69, 63})) << "truncated, not rounded";
 }
 
-TEST_F(MIDIInstrumentTest, BendsToTheCentsOfTheTemperamentFlooredToAStep)
+TEST_F(MIDIInstrumentTest, BendsToTheTemperamentRoundedDownToAStep)
 {
     for (const auto& [deviation, low, high] : std::vector<std::tuple<double, int, int>>{
              {0.0, 0, 64}, {-13.68629, 79, 59}, {-0.01, 127, 63}, {-400.0, 0, -64}}) {

@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-/// Forks the test, calls `work(ready)` in the child, and kills the child the given time after it
+/// Forks the test, calls `work(ready)` in the child, and kills the child `microseconds` after it
 /// has called `ready`.
 template <class Work> void killWhileWorking(Work work, unsigned microseconds = 0)
 {

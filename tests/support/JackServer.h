@@ -7,7 +7,8 @@
 namespace velmora {
 
 /// A JACK server with the dummy driver (48 kHz, periods of 128 frames). It is the default server of
-/// this process and its children. Must be created before libjack is used and threads are started.
+/// this process and its children. Must be created before libjack is used and before any thread is
+/// started.
 class JackServer {
 public:
     /// Waits until the server answers. Throws std::runtime_error if it does not within 20 s.

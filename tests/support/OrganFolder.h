@@ -26,7 +26,7 @@ public:
         return file;
     }
 
-    /// Writes a mono WAV file with two seconds of a sine, at 48,000 Hz.
+    /// Writes a mono WAV file with two seconds of a sine, sampled at 48,000 Hz.
     void writeSine(const std::string& name, double hertz) const
     {
         write(name, riff::file("WAVE", riff::wave(riff::points(sine(hertz, 2.0)), 48000)));

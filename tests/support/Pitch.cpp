@@ -10,7 +10,7 @@ namespace velmora {
 namespace {
 
 /// Returns the amplitude and phase at `hertz` in `length` frames from `first` on, under a Hann
-/// window. The phase is that of the window's middle.
+/// window. The phase is measured at the middle of the window.
 std::complex<double> partial(std::span<const float> sound, double rate, double hertz,
                              std::size_t first, std::size_t length)
 {

@@ -32,7 +32,7 @@ std::string errorOf(const std::string& text, TuningFormat format = TuningFormat:
     }
 }
 
-/// A file whose first two lines are given. The pitches from D to B and one more line follow.
+/// A file with the given first two lines, followed by the pitches from D to B and one more line.
 std::string file(const std::string& first, const std::string& second)
 {
     return first + "\n" + second + "\n200\n300\n400\n500\n600\n700\n800\n900\n1000\n1100\n2/1\n";
