@@ -66,7 +66,7 @@ double readAndCopy()
         const auto* pool =
             file.get<RIFF::List>(RIFF::code("sdta"))->get<RIFF::Chunk>(RIFF::code("smpl"));
         const std::unique_ptr<std::byte[]> copy(new std::byte[pool->length()]);
-        std::memcpy(copy.get(), bytes.get() + pool->offset, pool->length());
+        std::memcpy(copy.get(), bytes.get() + pool->offset(), pool->length());
         benchmark::DoNotOptimize(copy.get());
         benchmark::ClobberMemory();
     });

@@ -3,20 +3,9 @@
 #include "audio/AudioFileDecoder.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
-
-#include <cstdlib>
+#include "require.h"
 
 namespace velmora {
-
-namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 /// libsndfile leaks memory of its decoders if a file is damaged.
 // NOLINTNEXTLINE(bugprone-reserved-identifier): the hook of the sanitizer

@@ -1,8 +1,8 @@
 // Parses the input as a version 1 organ definition. All indices and keys of the organ are valid.
 
 #include "import/hauptwerk1.h"
+#include "require.h"
 
-#include <cstdlib>
 #include <span>
 
 namespace velmora {
@@ -15,10 +15,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const Organ organ =
             hauptwerk1::findPipes(hauptwerk1::readSections(bytes, lineEnd), "/nowhere");
         for (const Organ::Pipe& pipe : organ.pipes) {
-            const bool isValid = !pipe.file || (pipe.stop < organ.stops.size() && pipe.key >= 0 &&
-                                                pipe.key < 128 && *pipe.file < organ.files.size());
-            if (!isValid)
-                std::abort();
+            require(!pipe.file || (pipe.stop < organ.stops.size() && pipe.key >= 0 &&
+                                   pipe.key < 128 && *pipe.file < organ.files.size()));
         }
     }
     return 0;

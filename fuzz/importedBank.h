@@ -5,9 +5,9 @@
 #include "base/Log.h"
 #include "import/Import.h"
 #include "import/RIFF.h"
+#include "require.h"
 #include "tuning/Temperament.h"
 
-#include <cstdlib>
 #include <span>
 
 namespace velmora {
@@ -32,7 +32,7 @@ private:
 inline void importBank(void (*reader)(const RIFF::File&, Import&),
                        std::span<const std::uint8_t> bytes)
 {
-    // Larger inputs take long and find nothing more.
+    // Larger inputs take longer and find nothing more.
     constexpr std::size_t kMaximumSize = 1 << 14;
     if (bytes.size() > kMaximumSize)
         return;
@@ -51,8 +51,8 @@ inline void importBank(void (*reader)(const RIFF::File&, Import&),
         for (const Sample& sample : stop.samples)
             sounds = sounds || (sample.source() != 0 && sample.rootPitch() > 0.0);
     }
-    if (!sounds || !host.isDone() || stops.front().volume != 0.5F || import.instrument->usage <= 0)
-        std::abort();
+    require(sounds && host.isDone());
+    require(stops.front().volume == 0.5F && import.instrument->usage > 0);
     import.instrument->tune(equal, 0, 127);
 }
 

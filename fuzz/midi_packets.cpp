@@ -1,20 +1,14 @@
 // Parses the input as MIDI packets, each preceded by its length.
 
 #include "midi/midiRead.h"
+#include "require.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <vector>
 
 namespace velmora {
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 class CheckingInput : public LiveInput {
 public:

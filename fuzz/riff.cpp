@@ -2,37 +2,31 @@
 
 #include "import/RIFF.h"
 #include "base/FormatError.h"
+#include "require.h"
 
 #include <array>
-#include <cstdlib>
 
 namespace velmora {
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 /// Checks the children of a list, whose data must end by `end`; returns the number of chunks.
 std::size_t check(const RIFF::List& list, std::size_t end, int depth)
 {
     require(depth <= 32);
     std::size_t count = 0;
-    for (const auto& child : list.children) {
+    for (const auto& child : list.children()) {
         ++count;
         const auto bytes = child->read<char>();
-        require(bytes.size() == child->length() && bytes.size() <= child->size);
-        require(bytes.empty() || child->offset + bytes.size() <= end);
+        require(bytes.size() == child->length() && bytes.size() <= child->size());
+        require(bytes.empty() || child->offset() + bytes.size() <= end);
         require(child->read<std::array<char, 46>>().size() == bytes.size() / 46);
         require(list.get<RIFF::Chunk>(child->type()) != nullptr);
         const auto* inner = dynamic_cast<const RIFF::List*>(child.get());
         const auto* found = list.get<RIFF::List>(child->type());
         require(list.all<RIFF::List>(child->type()).front() == found);
         if (inner != nullptr)
-            count += check(*inner, child->offset + child->length(), depth + 1);
+            count += check(*inner, child->offset() + child->length(), depth + 1);
     }
     return count;
 }

@@ -3,10 +3,10 @@
 
 #include "base/FormatError.h"
 #include "base/Log.h"
+#include "require.h"
 #include "tuning/TuningFile.h"
 
 #include <cmath>
-#include <cstdlib>
 
 namespace velmora {
 
@@ -21,9 +21,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const Temperament temperament = readTuning(bytes, format);
         for (unsigned long key = 0; key < 128; ++key) {
             const double hertz = temperament.getPitch(key);
-            if (!std::isfinite(hertz) || hertz <= 0.0 ||
-                !std::isfinite(temperament.getTuning(key).cent()))
-                std::abort();
+            require(std::isfinite(hertz) && hertz > 0.0);
+            require(std::isfinite(temperament.getTuning(key).cent()));
         }
     } catch (const FormatError&) {
         return 0;

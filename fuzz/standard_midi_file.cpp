@@ -3,20 +3,14 @@
 
 #include "base/FormatError.h"
 #include "midi/StandardMidiFile.h"
+#include "require.h"
 #include "sequencer/SequenceFile.h"
 
 #include <cmath>
-#include <cstdlib>
 
 namespace velmora {
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void checkTimes(const StandardMidiFile& file)
 {

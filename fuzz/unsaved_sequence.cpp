@@ -2,9 +2,8 @@
 // encode to the same number of bytes.
 
 #include "base/FormatError.h"
+#include "require.h"
 #include "sequencer/UnsavedSequence.h"
-
-#include <cstdlib>
 
 namespace velmora {
 
@@ -12,12 +11,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     try {
         const auto sequence = decodeUnsaved(std::as_bytes(std::span(data, size)));
-        for (const Note& note : sequence.notes) {
-            if (note.key > 127 || !(note.velocity <= 1.0F) || !(note.start <= 1e12))
-                std::abort();
-        }
-        if (encodeUnsaved(sequence).size() != size)
-            std::abort();
+        for (const Note& note : sequence.notes)
+            require(note.key <= 127 && note.velocity <= 1.0F && note.start <= 1e12);
+        require(encodeUnsaved(sequence).size() == size);
     } catch (const FormatError&) {
         return 0;
     }

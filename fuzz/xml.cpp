@@ -3,18 +3,11 @@
 #include "import/xml.h"
 #include "base/FormatError.h"
 #include "import/OrganDefinition.h"
-
-#include <cstdlib>
+#include "require.h"
 
 namespace velmora {
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 /// Returns the total length of all names, texts and attributes below a node.
 std::size_t lengthOf(const xml::Node& node)

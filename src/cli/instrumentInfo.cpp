@@ -73,7 +73,7 @@ Json describe(const InstrumentDocument& document)
 {
     const auto& instrument = dynamic_cast<const ALInstrument&>(*document.instrument());
     Json result = {{"name", document.name()},
-                   {"kind", name(document.format())},
+                   {"kind", typeName(document.format())},
                    {"usage", document.size()},
                    {"stops", Json::array()}};
     const Uses uses = countUses(instrument);

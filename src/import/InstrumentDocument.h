@@ -13,10 +13,10 @@
 
 namespace velmora {
 
-/// An instrument and its display name: the General MIDI player, or what was read from a file.
+/// An instrument and its display name: the General MIDI player, or an instrument from a file.
 class InstrumentDocument {
 public:
-    /// Creates a document without an instrument, to be read into.
+    /// Creates a document without an instrument; `read` loads one.
     InstrumentDocument() = default;
 
     /// Creates the built-in General MIDI player on a synthesizer.
@@ -28,7 +28,7 @@ public:
     /// the format `Exs` is accepted but holds no instrument. Needs a current OpenAL context.
     bool read(const std::filesystem::path& path, InstrumentFormat format, InstrumentHost& host);
 
-    /// Reads the last file again. Results are as for `read`.
+    /// Reads the last file again, like `read`.
     bool reload(InstrumentHost& host) { return read(path_, format_, host); }
 
     /// True if the instrument was read from a file.

@@ -7,7 +7,7 @@
 
 namespace velmora {
 
-std::string_view name(InstrumentFormat format)
+std::string_view typeName(InstrumentFormat format)
 {
     switch (format) {
     case InstrumentFormat::HauptwerkXml:

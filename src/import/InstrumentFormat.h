@@ -17,7 +17,7 @@ enum class InstrumentFormat : std::uint8_t {
 };
 
 /// The short name of a format, as `velmora info` shows it.
-std::string_view name(InstrumentFormat format);
+std::string_view typeName(InstrumentFormat format);
 
 /// The format that a file's extension stands for, in any letter case: .organ_hauptwerk_xml or .xml,
 /// .organ, .sf2, .gig, .exs. Empty for any other extension.

@@ -22,7 +22,7 @@ struct Organ {
     /// pipe's file, transposed.
     struct Pipe {
         std::size_t stop = 0;            ///< Index in `stops`.
-        std::size_t rank = 0;            ///< Any number that the pipes of a rank share.
+        std::size_t rank = 0;            ///< An arbitrary number, the same for all pipes of a rank.
         int key = 0;                     ///< MIDI key, 0…127.
         std::optional<std::size_t> file; ///< Index in `files`; empty for a skipped pipe.
         std::string text;                ///< The progress text once the pipe is loaded.

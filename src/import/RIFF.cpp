@@ -73,8 +73,8 @@ public:
         // A chunk cannot start in the last four bytes of a list. Like the offsets, the sum wraps at
         // 32 bits.
         // See docs/decisions.md, 82.
-        const std::uint32_t bound = list.size + list.offset - 8;
-        std::uint64_t at = list.offset;
+        const std::uint32_t bound = list.size() + list.offset() - 8;
+        std::uint64_t at = list.offset();
         while (at < bound && at + kHeader <= end_)
             at = readElement(list, at, end, depth);
         return at;
@@ -93,8 +93,8 @@ private:
         if (id == code("LIST"))
             return readList(parent, size, data, end, depth);
 
-        parent.children.push_back(std::make_unique<Chunk>(
-            source_, id, size, static_cast<std::uint32_t>(data), lengthOf(data, data + size, end)));
+        parent.append(std::make_unique<Chunk>(source_, id, size, static_cast<std::uint32_t>(data),
+                                              lengthOf(data, data + size, end)));
         return data + size + size % 2;
     }
 
@@ -108,11 +108,10 @@ private:
             return end_;
         const std::uint64_t offset = data + 4;
         auto list =
-            std::make_unique<List>(source_, code("LIST"), size, static_cast<std::uint32_t>(offset),
+            std::make_unique<List>(source_, word(data), size, static_cast<std::uint32_t>(offset),
                                    lengthOf(offset, data + size, end));
-        list->listType = word(data);
         const std::uint64_t stopped = readChildren(*list, std::min(end, data + size), depth + 1);
-        parent.children.push_back(std::move(list));
+        parent.append(std::move(list));
         return stopped;
     }
 
@@ -139,9 +138,9 @@ OpenedSource openOrExplain(const std::filesystem::path& path)
 
 } // namespace
 
-Chunk::Chunk(const ByteSource& source, std::uint32_t chunkId, std::uint32_t chunkSize,
-             std::uint32_t chunkOffset, std::uint32_t length)
-    : id(chunkId), size(chunkSize), offset(chunkOffset), source_(source), length_(length)
+Chunk::Chunk(const ByteSource& source, std::uint32_t id, std::uint32_t size, std::uint32_t offset,
+             std::uint32_t length)
+    : source_(source), id_(id), size_(size), offset_(offset), length_(length)
 {
 }
 
@@ -150,12 +149,18 @@ std::size_t Chunk::read(std::size_t at, std::span<std::byte> destination) const
     if (at >= length_)
         return 0;
     const std::size_t count = std::min<std::size_t>(destination.size(), length_ - at);
-    return source_.read(std::uint64_t{offset} + at, destination.first(count));
+    return source_.read(std::uint64_t{offset_} + at, destination.first(count));
+}
+
+List::List(const ByteSource& source, std::uint32_t type, std::uint32_t size, std::uint32_t offset,
+           std::uint32_t length)
+    : Chunk(source, code("LIST"), size, offset, length), type_(type)
+{
 }
 
 template <> const Chunk* List::get<Chunk>(std::uint32_t wanted) const
 {
-    for (const auto& child : children) {
+    for (const auto& child : children_) {
         if (child->type() == wanted)
             return child.get();
     }
@@ -171,7 +176,7 @@ template <> const List* List::get<List>(std::uint32_t wanted) const
 template <> std::vector<const List*> List::all<List>(std::uint32_t wanted) const
 {
     std::vector<const List*> result;
-    for (const auto& child : children) {
+    for (const auto& child : children_) {
         if (child->type() == wanted)
             result.push_back(dynamic_cast<const List*>(child.get()));
     }
@@ -182,11 +187,11 @@ File::File(OpenedSource opened) : List(*opened.source, 0, 0, 0, 0), opened_(std:
 {
     constexpr std::uint32_t kHeader = 12;
     TreeReader reader(*opened_.source);
-    id = reader.word(0);
-    size = reader.word(4);
-    listType = reader.word(8);
-    offset = kHeader;
-    const std::uint64_t end = std::min(reader.end(), std::uint64_t{size} + 8);
+    id_ = reader.word(0);
+    size_ = reader.word(4);
+    type_ = reader.word(8);
+    offset_ = kHeader;
+    const std::uint64_t end = std::min(reader.end(), std::uint64_t{size_} + 8);
     length_ = static_cast<std::uint32_t>(end > kHeader ? end - kHeader : 0);
     reader.readChildren(*this, end, 0);
 }
@@ -199,7 +204,7 @@ void File::check() const
 {
     if (!opened_.error.empty())
         throw FormatError(opened_.error);
-    if (id != code("RIFF"))
+    if (id_ != code("RIFF"))
         throw FormatError("is not a RIFF file");
 }
 

@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace velmora {
@@ -37,10 +38,20 @@ public:
     Chunk& operator=(const Chunk&) = delete;
     virtual ~Chunk() = default;
 
-    /// The code that look-ups compare: the id of a chunk, the list type of a list.
-    virtual std::uint32_t type() const { return id; }
+    /// The code in the header; "LIST" for a list.
+    std::uint32_t id() const { return id_; }
 
-    /// Number of available data bytes, at most `size`. For a list, the list type is not counted.
+    /// The code by which a list finds its children: the id of a chunk, or the list type of a list.
+    virtual std::uint32_t type() const { return id_; }
+
+    /// The size in the header, without the pad byte.
+    std::uint32_t size() const { return size_; }
+
+    /// The position of the data in the file; for a list, after its type.
+    std::uint32_t offset() const { return offset_; }
+
+    /// The number of available data bytes, at most `size()`. For a list, the list type is not
+    /// counted.
     std::uint32_t length() const { return length_; }
 
     /// Reads the data as an array of records, as they are stored in the file (little-endian,
@@ -58,21 +69,23 @@ public:
     /// fewer than fit if the data ends.
     std::size_t read(std::size_t at, std::span<std::byte> destination) const;
 
-    std::uint32_t id;     ///< "LIST" for a list.
-    std::uint32_t size;   ///< As stored in the header, without the pad byte.
-    std::uint32_t offset; ///< Position of the data in the file; for a list, after its type.
-
 protected:
     const ByteSource& source_;
-    std::uint32_t length_;
+    std::uint32_t id_, size_, offset_, length_;
 };
 
 /// A chunk that contains other chunks.
 class List : public Chunk {
 public:
-    using Chunk::Chunk;
+    List(const ByteSource& source, std::uint32_t type, std::uint32_t size, std::uint32_t offset,
+         std::uint32_t length);
 
-    std::uint32_t type() const override { return listType; }
+    std::uint32_t type() const override { return type_; }
+
+    /// The children in file order.
+    const std::vector<std::unique_ptr<Chunk>>& children() const { return children_; }
+
+    void append(std::unique_ptr<Chunk> child) { children_.push_back(std::move(child)); }
 
     /// Returns the first child of a type, or null if there is none. get<List> also returns null if
     /// that first child is a plain chunk, even if a list follows.
@@ -81,8 +94,11 @@ public:
     /// Returns all children of a type in file order, with null for each plain chunk.
     template <class T> std::vector<const T*> all(std::uint32_t wanted) const;
 
-    std::uint32_t listType = 0;
-    std::vector<std::unique_ptr<Chunk>> children; ///< In file order.
+protected:
+    std::uint32_t type_;
+
+private:
+    std::vector<std::unique_ptr<Chunk>> children_;
 };
 
 /// A source, or an empty one and the reason why the file could not be opened.

@@ -10,7 +10,7 @@ namespace velmora {
 
 namespace {
 
-/// Number of files that each thread may be ahead. More would only use more memory.
+/// Number of files per thread that may be decoded ahead. More would only use more memory.
 constexpr std::size_t kFilesAhead = 4;
 
 /// Number of bytes that may be decoded and not yet taken.

@@ -18,7 +18,7 @@ namespace velmora {
 
 namespace {
 
-/// Returns the number at an offset in the data of a chunk; nothing if the data ends before.
+/// Returns the number at an offset in the data of a chunk, or nothing if the data ends first.
 template <class Integer> std::optional<Integer> numberAt(const RIFF::Chunk& chunk, std::size_t at)
 {
     Integer result = 0;
@@ -48,15 +48,15 @@ void logArticulation(const RIFF::List& instrument)
     log.debug("dimkeystart = {}", numberAt<std::uint8_t>(*chunk, 10).value_or(0));
     log.debug("DimensionKeyRange.high = {}", numberAt<std::uint8_t>(*chunk, 11).value_or(0));
     constexpr std::uint32_t kSizeWithoutIds = 32;
-    if (chunk->size > kSizeWithoutIds) {
+    if (chunk->size() > kSizeWithoutIds) {
         log.debug("id0 = {}", numberAt<std::uint8_t>(*chunk, 32).value_or(0));
         log.debug("id1 = {}", numberAt<std::uint8_t>(*chunk, 33).value_or(0));
     } else {
-        log.debug("{}", chunk->size);
+        log.debug("{}", chunk->size());
     }
 }
 
-/// Decodes a wave. With another head, its list is a complete WAVE file.
+/// Decodes a wave. Its list becomes a complete WAVE file when its header is replaced.
 std::unique_ptr<Sound> readWave(const RIFF::List* wave, std::vector<std::byte>& image)
 {
     if (wave == nullptr)
@@ -64,7 +64,7 @@ std::unique_ptr<Sound> readWave(const RIFF::List* wave, std::vector<std::byte>& 
     constexpr std::size_t kHead = 12;
     image.resize(kHead + wave->length());
     image.resize(kHead + wave->read(0, std::span(image).subspan(kHead)));
-    const std::uint32_t head[] = {RIFF::code("RIFF"), wave->size, RIFF::code("WAVE")};
+    const std::uint32_t head[] = {RIFF::code("RIFF"), wave->size(), RIFF::code("WAVE")};
     static_assert(sizeof(head) == kHead);
     std::ranges::copy(std::as_bytes(std::span(head)), image.begin());
     return std::make_unique<Sound>(decodeAudio(image));

@@ -23,7 +23,7 @@ struct version {
     /// Reads and logs the words. Missing words are 0.
     explicit version(const RIFF::Chunk& chunk);
 
-    /// In version 3 a region stores its wave index at another offset.
+    /// The major version. In version 3 a region stores its wave index at another offset.
     std::uint16_t major() const { return words[1]; }
 
     std::array<std::uint16_t, 4> words{};

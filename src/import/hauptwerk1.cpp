@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-/// Returns the text without its last `count` characters; empty if it has no more than those.
+/// Returns the text without its last `count` characters; empty if it is not longer than that.
 std::string_view withoutLast(std::string_view text, std::size_t count)
 {
     return text.substr(0, text.size() - std::min(count, text.size()));
@@ -122,8 +122,8 @@ public:
     }
 
 private:
-    /// Adds a stop. The pipes go to the stop with the section's number instead, which is another
-    /// one if the sections are not numbered 1, 2, 3….
+    /// Adds a stop. The name and the pipes of the section go to the stop with the section's number,
+    /// which is a different one if the sections are not numbered 1, 2, 3 ….
     void addStop(const std::string& name, const Section& section)
     {
         organ_.stops.emplace_back();

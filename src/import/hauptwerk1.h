@@ -26,8 +26,8 @@ enum class LineEnd { CarriageReturnLineFeed, LineFeed };
 /// last line is ignored.
 Sections readSections(std::string_view bytes, LineEnd lineEnd);
 
-/// Returns the stops and pipes of the sections, with sample files relative to `folder`. Pipes whose
-/// stop or key does not exist are skipped.
+/// Returns the stops and pipes of the sections. Sample files are looked up relative to `folder`.
+/// Pipes whose stop or key does not exist are skipped.
 Organ findPipes(const Sections& sections, const std::filesystem::path& folder);
 
 } // namespace hauptwerk1

@@ -40,7 +40,7 @@ readRecords(const RIFF::List& list, const char (&name)[5], std::uint16_t Record:
         records.begin(), records.end(),
         [index](const auto& one, const auto& next) { return next.*index < one.*index; });
     if (broken != records.end())
-        throw FormatError::atByte(bank::require<RIFF::Chunk>(list, name).offset,
+        throw FormatError::atByte(bank::require<RIFF::Chunk>(list, name).offset(),
                                   fmt::format("the indices in \"{}\" decrease", name));
     return records;
 }

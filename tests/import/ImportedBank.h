@@ -19,8 +19,8 @@
 
 namespace velmora {
 
-/// Lists each key of a stop from which on the sound changes, with that sound and its root key, as
-/// in "0 -, 36 Flute 60,".
+/// Lists each key of a stop at which the sound changes, with the new sound and its root key, as in
+/// "0 -, 36 Flute 60,".
 inline std::string keysOf(const ALInstrument& instrument, std::size_t stop)
 {
     std::map<ALint, std::string> names;

@@ -22,7 +22,7 @@ std::string shown(const RIFF::Chunk& element)
     std::string inside(data.begin(), data.end());
     if (const auto* list = dynamic_cast<const RIFF::List*>(&element)) {
         inside.clear();
-        for (const auto& child : list->children)
+        for (const auto& child : list->children())
             inside += shown(*child);
     }
     return numbers({element.type()}, 4) + "(" + inside + ")";
@@ -64,9 +64,9 @@ TEST(RIFF, FindsByIdAndListTypeAndReadsRecords)
     const std::string bytes = file("bank", chunk("both", "12345") + list("both", ""));
     const RIFF::File root(view(bytes));
     const auto* data = root.get<RIFF::Chunk>(code("both"));
-    EXPECT_EQ(data, root.children[0].get());
+    EXPECT_EQ(data, root.children()[0].get());
     EXPECT_EQ(root.get<RIFF::List>(code("both")), nullptr) << "the first is not a list";
-    EXPECT_THAT(root.all<RIFF::List>(code("both")), ElementsAre(nullptr, root.children[1].get()));
+    EXPECT_THAT(root.all<RIFF::List>(code("both")), ElementsAre(nullptr, root.children()[1].get()));
     EXPECT_TRUE(root.all<RIFF::List>(code("none")).empty());
 
     EXPECT_THAT(data->read<std::uint16_t>(), ElementsAre(0x3231, 0x3433)) << "whole records only";
