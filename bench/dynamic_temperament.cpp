@@ -1,4 +1,4 @@
-// The cost of a key-down on the General MIDI instrument. The dynamic temperament chooses a spelling
+// Measures a key-down on the General MIDI instrument. The dynamic temperament chooses a spelling
 // and bends eleven channels; equal temperament only plays the key.
 
 #include "sound/MIDIInstrument.h"

@@ -1,5 +1,5 @@
-// The time from receiving a key to playing it, while the keyboard repaints. The MIDI messages come
-// through a JACK server with the dummy driver. Needs a display.
+// Measures the time from receiving a key to playing it while the keyboard repaints. The MIDI
+// messages come through a JACK server with the dummy driver. Needs a display.
 
 #include "audio/Synthesizer.h"
 #include "desktop/keyboard/KeyboardView.h"

@@ -10,7 +10,7 @@ namespace velmora {
 
 constexpr unsigned kManyNotes = 100'000;
 
-/// The length of the sequence in steps: ten notes start per step.
+/// The length of the sequence in steps; ten notes start in each.
 constexpr double kManySteps = kManyNotes / 10.0;
 
 /// Adds many notes, on the keys of a piano.

@@ -1,6 +1,6 @@
-// The timing of a sequence that plays while its window and the keyboard repaint: a minute of notes
-// at irregular times, through the General MIDI synthesizer on a JACK server with the dummy driver.
-// Needs a display.
+// Measures the timing of a sequence that plays while its window and the keyboard repaint: a minute
+// of notes at irregular times, through the General MIDI synthesizer on a JACK server with the dummy
+// driver. Needs a display.
 
 #include "audio/Synthesizer.h"
 #include "base/Clock.h"
@@ -67,7 +67,7 @@ std::vector<double> fillAtRandom(SequenceDocument& document)
         document.edit()->addNote(note);
         starts.push_back(start);
     }
-    document.measure();
+    document.updateExtent();
     return starts;
 }
 

@@ -1,4 +1,4 @@
-// The cost of a key-down on a sampled organ with 60 stops. The dynamic temperament checks every key
+// Measures a key-down on a sampled organ with 60 stops. The dynamic temperament checks every key
 // and retunes those whose pitch has changed; then the key plays in every stop.
 
 #include "audio/OpenALLoopback.h"

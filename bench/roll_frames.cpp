@@ -1,5 +1,6 @@
-// The frames per second of a window with 100,000 notes, from the event to the picture on the
-// screen, while 10,000 notes are dragged and while the roll is scrolled. Needs a display.
+// Measures the frames per second of a window with 100,000 notes while 10,000 of them are dragged,
+// and while the roll is scrolled. A frame lasts from the event to the picture on the screen. Needs
+// a display.
 
 #include "desktop/roll/SequenceScrollView.h"
 #include "desktop/roll/SequenceView.h"
@@ -64,7 +65,7 @@ int main(int argc, char** argv)
                      [&](SequenceWindow& opened) { window = &opened; });
     desktop.sequenceWindows().create();
     addManyNotes(*window->document().edit());
-    window->document().measure();
+    window->document().updateExtent();
     window->showDocument();
     auto& view = *window->findChild<SequenceView*>();
 

@@ -1,5 +1,5 @@
-// The cost of a repaint of the piano roll before OpenGL draws it: finding the visible notes among
-// 100,000 and collecting their vertices.
+// Measures a repaint of the piano roll up to the point where OpenGL draws it: finding the visible
+// notes among 100,000 and collecting their vertices.
 
 #include "desktop/roll/RollPicture.h"
 #include "manyNotes.h"

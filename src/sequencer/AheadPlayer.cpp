@@ -20,11 +20,11 @@ void requestRealtime()
 
 } // namespace
 
-void sound(SequenceHost& host, const KeySound& keySound)
+void perform(SequenceHost& host, const KeyAction& action)
 {
-    const int key = static_cast<int>(keySound.key);
-    if (keySound.starts)
-        host.play(key, keySound.velocity);
+    const int key = static_cast<int>(action.key);
+    if (action.starts)
+        host.play(key, action.velocity);
     else
         host.stop(key);
 }
@@ -41,21 +41,21 @@ AheadPlayer::~AheadPlayer()
     thread_.join();
 }
 
-void AheadPlayer::plan(std::vector<KeySound>& sounds)
+void AheadPlayer::plan(std::vector<KeyAction>& actions)
 {
     {
         const std::lock_guard lock(mutex_);
-        sounds_.swap(sounds);
+        actions_.swap(actions);
         next_ = 0;
     }
     changed_.notify_one();
 }
 
-std::optional<double> AheadPlayer::takeBack()
+std::optional<double> AheadPlayer::cancel()
 {
     const std::lock_guard lock(mutex_);
-    const auto last = next_ > 0 ? std::optional(sounds_[next_ - 1].step) : std::nullopt;
-    sounds_.clear();
+    const auto last = next_ > 0 ? std::optional(actions_[next_ - 1].step) : std::nullopt;
+    actions_.clear();
     next_ = 0;
     return last;
 }
@@ -65,19 +65,19 @@ void AheadPlayer::run()
     requestRealtime();
     std::unique_lock lock(mutex_);
     while (!ends_) {
-        if (next_ == sounds_.size()) {
+        if (next_ == actions_.size()) {
             changed_.wait(lock);
             continue;
         }
-        // Sounds that are due together are sounded together.
-        const double due = sounds_[next_].time;
+        // Actions that are due together are performed together.
+        const double due = actions_[next_].time;
         const double wait = due - getTime();
         if (wait > 0.0) {
             changed_.wait_for(lock, std::chrono::duration<double>(wait));
             continue;
         }
-        for (; next_ < sounds_.size() && sounds_[next_].time == due; ++next_)
-            sound(host_, sounds_[next_]);
+        for (; next_ < actions_.size() && actions_[next_].time == due; ++next_)
+            perform(host_, actions_[next_]);
     }
 }
 

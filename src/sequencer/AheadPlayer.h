@@ -11,8 +11,8 @@
 
 namespace velmora {
 
-/// The start or the end of a note on the instrument.
-struct KeySound {
+/// Starts or stops a key on the instrument at a planned time.
+struct KeyAction {
     bool starts;
     std::uint32_t key;
     float velocity;
@@ -20,36 +20,37 @@ struct KeySound {
     double step; ///< The position at that time.
 };
 
-/// Starts or stops the key now. May be called on any thread.
-void sound(SequenceHost& host, const KeySound& keySound);
+/// Starts or stops the key now, whatever its planned time. May be called on any thread.
+void perform(SequenceHost& host, const KeyAction& action);
 
-/// Sounds planned notes on a thread of its own, because the main thread, which plans them, is late
+/// Plays planned notes on a thread of its own. The main thread plans them, but would play them late
 /// whenever it paints.
 class AheadPlayer {
 public:
     /// The host must outlive it.
     explicit AheadPlayer(SequenceHost& host);
 
-    /// Drops what has not sounded yet.
+    /// Drops the rest of the plan.
     ~AheadPlayer();
 
     AheadPlayer(const AheadPlayer&) = delete;
     AheadPlayer& operator=(const AheadPlayer&) = delete;
 
-    /// Replaces the plan by `sounds`, which are in order of time. `sounds` receives the old plan.
-    void plan(std::vector<KeySound>& sounds);
+    /// Replaces the plan with `actions`, which must be in order of time. `actions` receives the old
+    /// plan, so that its memory can be reused.
+    void plan(std::vector<KeyAction>& actions);
 
-    /// Drops what has not sounded yet. Returns the step of the last sound of the plan, or nothing
-    /// if none has sounded.
-    std::optional<double> takeBack();
+    /// Drops the rest of the plan. Returns the step of the last action that was performed, or
+    /// nothing if there was none.
+    std::optional<double> cancel();
 
 private:
     void run();
 
     SequenceHost& host_;
-    std::mutex mutex_; ///< Guards what follows; held while a key starts or stops.
+    std::mutex mutex_; ///< Guards the members below; held while a key starts or stops.
     std::condition_variable changed_;
-    std::vector<KeySound> sounds_;
+    std::vector<KeyAction> actions_;
     std::size_t next_ = 0;
     bool ends_ = false;
     std::thread thread_;

@@ -2,7 +2,7 @@
 
 namespace velmora {
 
-/// What the on-screen keyboard shows. Main thread only.
+/// A document whose keys the on-screen keyboard shows. Main thread only.
 class KeyboardDocument {
 public:
     virtual ~KeyboardDocument() = default;
@@ -11,7 +11,7 @@ public:
     /// only pressed is wrong; one that is wanted and held must be struck again.
     virtual int stateOfNote(unsigned key) const = 0;
 
-    /// To be called when the held keys have changed.
+    /// Call this when the held keys have changed.
     virtual void midiInput() = 0;
 };
 

@@ -40,7 +40,7 @@ public:
             state = 0;
     }
 
-    /// Turns `kPressed` into `kHeld`. Returns the state before: 0, `kPressed` or `kHeld`.
+    /// Turns `kPressed` into `kHeld`. Returns the previous state: 0, `kPressed` or `kHeld`.
     int take(std::size_t key)
     {
         int state = kPressed;
@@ -48,7 +48,7 @@ public:
         return state;
     }
 
-    /// 0, `kPressed` or `kHeld`.
+    /// The state of a key: 0, `kPressed` or `kHeld`.
     int state(std::size_t key) const { return noteStates_[key]; }
 
     /// The velocity, 0 to 1, of the key's last press.

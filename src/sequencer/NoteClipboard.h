@@ -14,8 +14,8 @@ constexpr auto kNotesMimeType = "application/x-velmora-notes";
 /// Encodes notes without their identities and flags.
 QByteArray encodeNotes(const std::vector<Note>& notes);
 
-/// Decodes what `encodeNotes` has written, corrected by `makeValid`. Returns no notes if the bytes
-/// contain anything else.
+/// Decodes bytes from `encodeNotes` and corrects the notes with `makeValid`. Returns no notes if
+/// any byte is invalid or missing.
 std::vector<Note> decodeNotes(const QByteArray& bytes);
 
 } // namespace velmora

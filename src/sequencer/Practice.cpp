@@ -8,7 +8,7 @@ namespace velmora {
 
 namespace {
 
-/// Notes as close as this to the position belong to its chord, in steps.
+/// Notes this close to the position, in steps, belong to its chord.
 constexpr double kTolerance = 0.1;
 
 // See docs/decisions.md, 94.

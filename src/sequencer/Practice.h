@@ -6,26 +6,30 @@
 
 namespace velmora {
 
-/// Moves from chord to chord, by command or when the player has struck every note of the chord at
-/// the position. Notes within a tenth of a step of the position belong to its chord. Main thread
-/// only.
+/// Moves from chord to chord, on command or when the user has struck every key of the chord at the
+/// position. Notes within a tenth of a step of the position belong to its chord. Main thread only.
 class Practice : public KeyboardDocument {
 public:
-    /// Both must outlive this.
+    /// Both must outlive the object.
     Practice(Transport& transport, const Sequence& sequence)
         : transport_(transport), sequence_(sequence)
     {
     }
 
-    /// Move the position to the previous or the next chord, or the cursor to the current one.
+    /// Moves the position and the cursor to the previous chord.
     void prevNote();
+
+    /// Moves the cursor to the chord at the position, or to the next one. The position stays.
     void currentNote();
+
+    /// Moves the position and the cursor to the next chord.
     void nextNote();
 
-    /// Shows which keys are held, and which ones the chord at the position wants.
+    /// Shows the held keys and the keys of the chord at the position.
     void showKeys();
 
-    /// Shows the keys, and moves to the next chord if every wanted key and no other was struck.
+    /// Shows the keys, and moves to the next chord if the user has struck every wanted key and no
+    /// other.
     void advance();
 
     /// Shows the keys after live input, and advances if the transport is stopped.

@@ -12,12 +12,12 @@ namespace velmora {
 
 namespace {
 
-/// A recording looks at the keys twice in a tick, so that a note lasts as long as its key was held,
-/// within a tick.
+/// A recording looks at the keys twice per tick, so that the length of each note is accurate to a
+/// tick.
 constexpr double kLookInterval = kTick.count() / 2;
 
-/// The most looks in one tick. After a longer delay they are further apart, because on a slow
-/// machine they would take ever more time.
+/// Maximum number of looks per tick. After a long delay the looks are further apart, because more
+/// of them would make a slow machine even later.
 constexpr double kMostLooks = 2048.0;
 
 /// How far the position moves after the last key, in steps.

@@ -31,18 +31,19 @@ public:
     unsigned char channel() const { return channel_; }
     void setChannel(unsigned char channel);
 
-    /// True if notes that are recorded, drawn or moved go to whole steps.
+    /// True if notes that are recorded, drawn or moved snap to whole steps.
     bool snapToGrid() const { return snapToGrid_; }
     void setSnapToGrid(bool snap);
 
     /// True if notes were recorded since the last call of `endTake`.
     bool hasTake() const { return !taken_.empty(); }
 
-    /// Ends the current take, but not the recording. Returns its notes as they were before it.
+    /// Ends the current take, but not the recording. Returns the notes of the take as they were
+    /// before it.
     std::vector<NoteState> endTake();
 
 signals:
-    /// The recording has ended, and its notes are in order.
+    /// The recording has ended, and the notes are sorted.
     void ended();
 
     /// The channel or snapping has changed.
@@ -65,8 +66,8 @@ private:
     Sequence& sequence_;
     unsigned char channel_ = 0;
     bool snapToGrid_ = false;
-    double limit_ = 0.0;          ///< Where the position stops without keys, in steps.
-    std::bitset<kKeys> heldKeys_; ///< At the last look.
+    double limit_ = 0.0;          ///< The step at which the position stops while no key is held.
+    std::bitset<kKeys> heldKeys_; ///< The keys that were held at the last look.
 
     /// The length before the take of each note that it has changed; empty for a new note.
     std::map<std::uint64_t, std::optional<double>> taken_;

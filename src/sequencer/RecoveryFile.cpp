@@ -41,7 +41,7 @@ std::vector<std::string> namesIn(const std::filesystem::path& folder)
 
 } // namespace
 
-std::filesystem::path RecoveryFile::usualFolder()
+std::filesystem::path RecoveryFile::defaultFolder()
 {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return std::filesystem::path(data.toStdString()) / "velmora" / "recovery";

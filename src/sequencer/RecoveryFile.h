@@ -17,18 +17,18 @@ struct Abandoned;
 /// file unless it was discarded.
 class RecoveryFile {
 public:
-    /// The folder of all recovery files: velmora/recovery in the user's data folder.
-    static std::filesystem::path usualFolder();
+    /// The usual folder of recovery files: velmora/recovery in the user's data folder.
+    static std::filesystem::path defaultFolder();
 
     /// Creates nothing on disk before the first `write`.
-    explicit RecoveryFile(std::filesystem::path folder = usualFolder());
+    explicit RecoveryFile(std::filesystem::path folder = defaultFolder());
 
-    /// Claims the files that programs which no longer run have left in a folder, the oldest first.
-    /// Files that cannot be read are logged and left there.
-    static std::vector<Abandoned> abandoned(const std::filesystem::path& folder = usualFolder());
+    /// Claims and reads the files that programs no longer running have left in a folder. Returns
+    /// the oldest first. Files that cannot be read are logged and left there.
+    static std::vector<Abandoned> abandoned(const std::filesystem::path& folder = defaultFolder());
 
-    /// Replaces the kept document. Throws std::runtime_error with a sentence if that fails; the
-    /// document that was kept before then remains.
+    /// Replaces the kept document. If that fails, keeps the previous one and throws
+    /// std::runtime_error with a sentence.
     void write(const UnsavedSequence& sequence);
 
     /// Removes the kept document, if there is one.
@@ -45,7 +45,7 @@ private:
     bool claim();
 
     std::filesystem::path folder_;
-    std::string name_; ///< Replaced when the file is discarded, and never used again.
+    std::string name_; ///< Unique; replaced when the file is discarded.
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> lock_;
 };
 

@@ -23,15 +23,15 @@ RecoveryKeeper::RecoveryKeeper(SequenceDocument& document, RecoveryFile file,
 RecoveryKeeper::~RecoveryKeeper()
 {
     waitForWriter();
-    if (!isLeft_)
+    if (!keepsFile_)
         file_.discard();
 }
 
-void RecoveryKeeper::leave()
+void RecoveryKeeper::keepForNextStart()
 {
     waitForWriter();
-    isLeft_ = document_.isModified();
-    if (isLeft_)
+    keepsFile_ = document_.isModified();
+    if (keepsFile_)
         keep(document_.snapshot());
 }
 
@@ -48,7 +48,7 @@ void RecoveryKeeper::edited()
 
 void RecoveryKeeper::write()
 {
-    // A recording changes without edits, and a slow disk needs more time.
+    // A recording adds notes without edits, and a slow disk needs more time.
     if (document_.transport().mode() == Transport::Mode::Recording || isBusy())
         timer_.start();
     if (!document_.isModified() || isBusy())

@@ -19,18 +19,18 @@ class RecoveryKeeper : public QObject {
     Q_OBJECT
 
 public:
-    /// Including the time that writing takes, a crash loses less than ten seconds of work.
-    static constexpr std::chrono::milliseconds kUsualInterval{8000};
+    /// With this interval a crash loses less than ten seconds of work, even if writing takes a
+    /// while.
+    static constexpr std::chrono::milliseconds kDefaultInterval{8000};
 
-    /// Writes at most once in an `interval`. A recovered document brings the `file` that it was
-    /// kept in.
+    /// Writes at most once per `interval`. For a recovered document, pass the `file` that held it.
     explicit RecoveryKeeper(SequenceDocument& document, RecoveryFile file = RecoveryFile(),
-                            std::chrono::milliseconds interval = kUsualInterval);
+                            std::chrono::milliseconds interval = kDefaultInterval);
     ~RecoveryKeeper() override;
 
-    /// Keeps the unsaved document beyond the end of the keeper, because the program ends without
-    /// having asked the user.
-    void leave();
+    /// Keeps an unsaved document for the next start, even after this object is destroyed. Call this
+    /// if the program ends without asking the user.
+    void keepForNextStart();
 
 private:
     void edited();
@@ -41,9 +41,9 @@ private:
     void waitForWriter();
 
     SequenceDocument& document_;
-    RecoveryFile file_;   ///< Used by the writer while it is busy, as is `failed_`.
-    bool failed_ = false; ///< True if the file could not be written last time.
-    bool isLeft_ = false;
+    RecoveryFile file_;      ///< Used by the writer while it is busy, as is `failed_`.
+    bool failed_ = false;    ///< True if the file could not be written last time.
+    bool keepsFile_ = false; ///< True if the file outlives this object.
     QTimer timer_;
     std::future<void> writer_;
 };

@@ -173,7 +173,7 @@ void Sequence::swap(std::vector<NoteState>& states)
     eraseAll(std::move(removed));
 }
 
-void Sequence::channel(unsigned char channel)
+void Sequence::setChannel(unsigned char channel)
 {
     forSelected([=](Note& note) { note.channel = channel; });
 }

@@ -34,10 +34,10 @@ struct NoteState {
     std::optional<Note> note;
 };
 
-/// Returns the state in which the notes exist as they are here.
+/// Returns states in which the notes exist as given.
 std::vector<NoteState> present(const std::vector<Note>& notes);
 
-/// Returns the state in which none of the notes exists.
+/// Returns states in which the notes do not exist.
 std::vector<NoteState> absent(const std::vector<Note>& notes);
 
 /// Returns the key that contains a position across the roll, limited to 0…127.
@@ -50,7 +50,7 @@ public:
     const std::vector<Note>& notes() const { return notes_; }
 
     /// The note at an index.
-    Note& at(std::size_t position) { return notes_[position]; }
+    Note& at(std::size_t index) { return notes_[index]; }
 
     /// Returns the stored note or null. The pointer is valid until notes are added, erased or
     /// sorted.
@@ -83,7 +83,7 @@ public:
 
     void deselect();
 
-    /// Clears the flag of a stored note and removes its first entry from the selection.
+    /// Clears the `selected` flag of a stored note and removes its first entry from the selection.
     void deselect(Note& note);
 
     /// Returns copies of the selected notes in the order of the selection.
@@ -93,15 +93,15 @@ public:
     /// and limited to 0…127; `snap` rounds starts down to whole steps.
     void move(double keys, double steps, bool snap);
 
-    /// Exchanges the notes with the sequence's, so that a second call undoes the first, then sorts.
-    /// The flags of notes that exist in both are kept. If any note is added or removed, nothing is
-    /// selected afterwards.
+    /// Puts notes into the given states and stores their previous ones in `states`, so that a
+    /// second call undoes the first. Then sorts. Notes that exist before and after keep their
+    /// flags. If any note is added or removed, nothing is selected afterwards.
     void swap(std::vector<NoteState>& states);
 
     /// Puts the selected notes on a channel.
-    void channel(unsigned char channel);
+    void setChannel(unsigned char channel);
 
-    /// Commits position and size of the selected notes.
+    /// Commits the positions and lengths of the selected notes.
     void update();
 
     /// Sorts the notes by `start`. Notes that start together have no defined order.

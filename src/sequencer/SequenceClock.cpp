@@ -7,7 +7,7 @@ namespace velmora {
 
 SequenceClock::SequenceClock(Transport& transport) : transport_(transport)
 {
-    // Queued, so that the tick that ends the playing does not destroy its own timer.
+    // Queued, so that the tick that ends playing does not destroy its own timer.
     connect(
         &transport, &Transport::modeChanged, this, [this] { adjust(); }, Qt::QueuedConnection);
     adjust();

@@ -15,13 +15,11 @@
 
 namespace velmora {
 
-namespace {
-
-/// One entry of the undo menu. It holds the notes that the edit concerns in the state that the
-/// sequence does not have; undoing and redoing swap the two.
-class SwapNotes : public QUndoCommand {
+/// One entry of the undo history. It holds the other state of the notes of an edit: the earlier one
+/// after the edit or a redo, the later one after an undo.
+class SequenceDocument::SwapNotes : public QUndoCommand {
 public:
-    /// The edit is done already.
+    /// Creates a command for an edit that has already been made.
     SwapNotes(SequenceDocument& document, std::vector<NoteState> before, const QString& text)
         : QUndoCommand(text), document_(document), notes_(std::move(before))
     {
@@ -40,8 +38,6 @@ private:
     std::vector<NoteState> notes_;
     bool isPushed_ = false;
 };
-
-} // namespace
 
 SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> clock)
     : transport_(host, sequence_, std::move(clock)), recorder_(transport_, sequence_),
@@ -145,7 +141,7 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
     recorder_.endTake();
     undoStack_.clear();
     undoStack_.resetClean();
-    measure();
+    updateExtent();
 }
 
 SequenceDocument::Edit::Edit(SequenceDocument& document, std::span<const std::uint64_t> notes)
@@ -173,7 +169,7 @@ SequenceDocument::Edit SequenceDocument::edit(std::span<const std::uint64_t> not
 }
 
 // See docs/decisions.md, 108.
-void SequenceDocument::measure()
+void SequenceDocument::updateExtent()
 {
     double extent = 0.0;
     for (const Note& note : sequence_.notes())
@@ -190,7 +186,7 @@ void SequenceDocument::swap(std::vector<NoteState>& notes)
     const Edit edit(*this, ids);
     edit->swap(notes);
 
-    // A note that comes back can lie beyond the end.
+    // A restored note can lie beyond the end.
     double extent = transport_.extent();
     for (const std::uint64_t id : ids)
         if (const Note* note = edit->find(id))

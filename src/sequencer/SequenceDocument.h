@@ -29,8 +29,8 @@ class SequenceDocument : public QObject {
 public:
     enum class SaveOperation { Save, SaveAs };
 
-    /// A document with an empty sequence. `clock` returns the time in seconds. Releases the host's
-    /// live keys.
+    /// Creates a document with an empty sequence. `clock` returns the time in seconds. Marks every
+    /// live key of the host as released: see docs/decisions.md, 126.
     explicit SequenceDocument(SequenceHost& host, std::function<double()> clock = getTime);
 
     const Sequence& sequence() const { return sequence_; }
@@ -68,24 +68,23 @@ public:
 
     class Edit;
 
-    /// Begins a change of the sequence. Silences the `notes` that sound, because they would not end
-    /// at their new place.
+    /// Begins a change of the sequence. Silences those of `notes` that sound, because a note that
+    /// moves while it sounds might never end.
     [[nodiscard]] Edit edit(std::span<const std::uint64_t> notes = {});
 
     /// Sets the transport's extent to 32 steps after the last note, or to 0 without notes.
-    void measure();
+    void updateExtent();
 
     /// The name of an edit in the menu, as in "Move 3 Notes".
     static QString editText(const char* verb, std::size_t notes);
 
-    /// Swaps notes with the sequence's, as an edit that can be undone. `text` names it in the menu.
+    /// Puts notes into the given states, as an edit that can be undone. `text` names it in the
+    /// menu.
     void perform(std::vector<NoteState> notes, const QString& text);
 
-    /// Adds an edit that is done already to the undo history. `before` are its notes as they were.
+    /// Adds an edit that has already been made to the undo history. `before` holds its notes as
+    /// they were.
     void registerDone(std::vector<NoteState> before, const QString& text);
-
-    /// Swaps notes with the sequence's, without an entry in the undo history.
-    void swap(std::vector<NoteState>& notes);
 
     /// Adds what has been recorded since the last call to the undo history.
     void registerTake();
@@ -100,6 +99,12 @@ signals:
     void changed();
 
 private:
+    class SwapNotes;
+
+    /// Puts notes into the given states and stores their previous ones in `notes`, without an entry
+    /// in the undo history.
+    void swap(std::vector<NoteState>& notes);
+
     Sequence sequence_;
     Transport transport_;
     Recorder recorder_;
@@ -108,7 +113,7 @@ private:
     std::filesystem::path path_;
     std::string errorString_;
     bool isImported_ = false;
-    int edits_ = 0; ///< How many are in progress, one within the other.
+    int edits_ = 0; ///< Number of edits in progress; they can be nested.
 };
 
 /// Access to the sequence during a change: brings playback up to date at the beginning, and

@@ -10,7 +10,7 @@ namespace velmora {
 
 namespace {
 
-/// How many pixels at the end of a note resize it.
+/// Width of the part of a note, at its end, that resizes it.
 constexpr double kResizePixels = 8.0;
 
 /// A note that is dragged to less than this is deleted, in steps.
@@ -82,7 +82,7 @@ void SequenceEditor::hit(Sequence& sequence, Note& note, RollHit place,
     hitNote_ = true;
     if (place == RollHit::NoteEnd)
         newNote_ = note.id;
-    // Recording and undoing do not commit.
+    // Recording and undoing change notes without committing them.
     note.oldStart = note.start;
     note.oldKey = note.key;
     note.oldLength = note.length;
@@ -150,7 +150,7 @@ void SequenceEditor::mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers)
         selectUpTo(snapped(point.step));
 
     document_.edit()->sort();
-    document_.measure();
+    document_.updateExtent();
     const double start = transport_.interval().start, end = transport_.interval().end;
     transport_.selectInterval(std::min(start, end), std::max(start, end));
     document_.practice().showKeys();

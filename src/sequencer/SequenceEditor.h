@@ -23,20 +23,20 @@ struct RollPoint {
 /// What a press on a point of the piano roll hits.
 enum class RollHit { Nothing, Note, NoteEnd };
 
-/// Returns what a press hits of a note: its last eight pixels, by which it is resized, the rest of
-/// it, or nothing. `keyHeight` is the height of a step in pixels.
+/// Returns which part of a note a press hits. `NoteEnd` is its last eight pixels, which resize it;
+/// `Note` is the rest of it. `keyHeight` is the height of a step in pixels.
 RollHit rollHit(const Note& note, RollPoint point, int keyHeight);
 
-/// Edits a sequence document with the mouse and the keyboard, in keys and steps. Command, the
-/// modifier, is the control key. Every change of notes can be undone.
+/// Edits a sequence document with the mouse and the keyboard, in keys and steps. The Command
+/// modifier is the Control key. Every change of notes can be undone.
 class SequenceEditor {
 public:
     /// The document must outlive it.
     explicit SequenceEditor(SequenceDocument& document);
 
-    /// Selects the note under the mouse, which a drag then moves, or resizes by its last pixels. If
-    /// there is none, moves the position and begins an interval; with Shift, extends the interval.
-    /// With Command, draws a note.
+    /// Selects the note under the mouse. A drag then resizes it if the press hit its end, and
+    /// otherwise moves the selection. If there is no note, moves the position and begins an
+    /// interval; with Shift, extends the interval. With Command, draws a note.
     void mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers);
 
     /// Draws a new note.
@@ -50,13 +50,14 @@ public:
     void keyDown(const QKeyEvent& event);
     void keyUp(const QKeyEvent& event);
 
-    /// Releases the keys that are pressed, because another window will receive their release.
+    /// Releases the pressed keys. Call this when the focus is lost, because another window will
+    /// receive their release.
     void releaseKeys();
 
     void selectAll();
     void deleteSelection();
 
-    /// Returns the selected notes in order of their start.
+    /// Returns the selected notes in order of their start, each once.
     std::vector<Note> copy() const;
     std::vector<Note> cut();
 

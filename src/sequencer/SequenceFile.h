@@ -24,7 +24,7 @@ std::string typeName(SequenceFormat format);
 /// A step is a sixteenth of a second of the file.
 constexpr double kStepsPerFileSecond = 16.0;
 
-/// How far the extent of a sequence goes beyond the end of its last note, in steps.
+/// The distance from the end of the last note to the end of a sequence, in steps.
 constexpr double kRoomBehindLastNote = 32.0;
 
 /// What a document keeps of a file besides its notes.
@@ -33,9 +33,9 @@ struct SequenceFile {
     bool isImported = false; ///< True if the file holds more than the sequence keeps.
 };
 
-/// Adds the notes of a file to an empty sequence and sorts it. Keeps the notes with a length on the
-/// keys `keyRangeLo` to `keyRangeHi`, both included. The file holds more than the sequence keeps if
-/// it has several tracks or any other event.
+/// Adds the notes of a file to an empty sequence and sorts it. Keeps the notes on the keys
+/// `keyRangeLo` to `keyRangeHi`, both included, unless their length is 0. The file holds more than
+/// the sequence keeps if it has several tracks or any other event.
 SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyRangeHi,
                           Sequence& sequence);
 

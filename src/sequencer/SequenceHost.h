@@ -4,8 +4,8 @@ namespace velmora {
 
 class LiveKeys;
 
-/// What the sequencer asks of the application: to sound its notes, and which keys the user holds.
-/// May be called on any thread.
+/// The application as the sequencer sees it: plays notes and knows which keys the user holds. May
+/// be called on any thread.
 class SequenceHost {
 public:
     virtual ~SequenceHost() = default;

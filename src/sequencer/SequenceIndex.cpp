@@ -38,12 +38,12 @@ SequenceIndex::SequenceIndex(const std::vector<Note>& notes)
 {
     starts_.reserve(notes.size());
     ends_.reserve(notes.size());
-    concerned_.reserve(kKeys); // room for a chord, so that playing does not allocate
+    found_.reserve(kKeys); // room for a chord, so that playing does not allocate
     std::bitset<kKeys> used;
     for (const Note& note : notes) {
-        const auto position = static_cast<std::uint32_t>(starts_.size());
-        starts_.push_back({note.start, position});
-        ends_.push_back({note.start + note.length, position});
+        const auto noteIndex = static_cast<std::uint32_t>(starts_.size());
+        starts_.push_back({note.start, noteIndex});
+        ends_.push_back({note.start + note.length, noteIndex});
         if (!used[note.key])
             keys_.push_back(note.key);
         used.set(note.key);
@@ -52,18 +52,18 @@ SequenceIndex::SequenceIndex(const std::vector<Note>& notes)
     sortByStep(ends_);
 }
 
-const std::vector<std::uint32_t>& SequenceIndex::concernedBy(double from, double to)
+const std::vector<std::uint32_t>& SequenceIndex::startingOrEnding(double from, double to)
 {
-    concerned_.clear();
+    found_.clear();
     if (!(from < to))
-        return concerned_;
+        return found_;
     for (auto start = notBefore(starts_, from); start != starts_.end() && start->step < to; ++start)
-        concerned_.push_back(start->position);
+        found_.push_back(start->noteIndex);
     for (auto end = after(ends_, from); end != ends_.end() && end->step <= to; ++end)
-        concerned_.push_back(end->position);
-    std::sort(concerned_.begin(), concerned_.end());
-    concerned_.erase(std::unique(concerned_.begin(), concerned_.end()), concerned_.end());
-    return concerned_;
+        found_.push_back(end->noteIndex);
+    std::sort(found_.begin(), found_.end());
+    found_.erase(std::unique(found_.begin(), found_.end()), found_.end());
+    return found_;
 }
 
 } // namespace velmora

@@ -38,7 +38,7 @@ void SequenceEditor::keyDown(const QKeyEvent& event)
         return;
     const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
     const bool command = event.modifiers().testFlag(Qt::ControlModifier);
-    // With one of these modifiers it is a shortcut that is disabled now.
+    // With one of these modifiers the key is a shortcut that is currently disabled.
     const bool isShortcut =
         event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     const char character = usCharacter(event);
@@ -134,7 +134,7 @@ void SequenceEditor::setChannel(unsigned char channel, bool ofSelection)
     if (notes.empty())
         return;
     document_.registerTake();
-    document_.edit()->channel(channel);
+    document_.edit()->setChannel(channel);
     document_.registerDone(present(notes),
                            SequenceDocument::editText("Set Channel of", notes.size()));
 }
@@ -195,7 +195,7 @@ void SequenceEditor::paste(std::vector<Note> notes)
             edit->select(edit->addNote(note));
         }
         edit->sort();
-        document_.measure();
+        document_.updateExtent();
     }
     document_.registerDone(absent(copy()), SequenceDocument::editText("Paste", notes.size()));
     document_.practice().showKeys();

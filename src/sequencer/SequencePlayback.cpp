@@ -14,8 +14,8 @@ namespace {
 /// The length of a plan in ticks: a quarter of a second, which is longer than any painting takes.
 constexpr int kTicksPlanned = 256;
 
-/// The delay of planned sounds in seconds. It ensures that the position is past everything that has
-/// sounded, however it is rounded.
+/// The delay of planned notes in seconds. It ensures that the position is past everything that has
+/// sounded, whatever the rounding.
 constexpr double kBehindPosition = 1e-6;
 
 // See docs/decisions.md, 96.
@@ -40,21 +40,21 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
     const bool sounds = !isPlanned_ && !soundedTo;
     if (soundedTo) {
         collect(*soundedTo, to, 0.0);
-        for (const KeySound& keySound : sounds_)
-            sound(host_, keySound);
-        sounds_.clear();
+        for (const KeyAction& action : actions_)
+            perform(host_, action);
+        actions_.clear();
     }
     std::optional<std::uint32_t> lastKey;
     bool silenced = false;
-    for (const std::uint32_t position : index().concernedBy(from, to)) {
-        Note& note = sequence_.at(position);
+    for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
+        Note& note = sequence_.at(noteIndex);
         if (startsBetween(note, from, to)) {
-            mark(position);
+            mark(noteIndex);
             note.playing = note.active = true;
             states[note.key] = kWanted;
             lastKey = note.key;
             if (sounds)
-                sound(host_, {true, note.key, note.velocity, 0.0, 0.0});
+                perform(host_, {true, note.key, note.velocity, 0.0, 0.0});
         }
         if (endsBetween(note, from, to)) {
             // See docs/decisions.md, 97.
@@ -72,19 +72,19 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
 
 void SequencePlayback::collect(double from, double to, double time)
 {
-    for (const std::uint32_t position : index().concernedBy(from, to)) {
-        const Note& note = sequence_.at(position);
+    for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
+        const Note& note = sequence_.at(noteIndex);
         if (startsBetween(note, from, to))
             // See docs/decisions.md, 90.
-            sounds_.push_back({true, note.key, note.velocity, time, to});
+            actions_.push_back({true, note.key, note.velocity, time, to});
         if (endsBetween(note, from, to))
-            sounds_.push_back({false, note.key, 0.0F, time, to});
+            actions_.push_back({false, note.key, 0.0F, time, to});
     }
 }
 
 void SequencePlayback::playAhead(AheadPlayer* player)
 {
-    takeBack();
+    cancelPlan();
     soundedTo_.reset();
     player_ = player;
 }
@@ -95,25 +95,25 @@ void SequencePlayback::planAhead(double step, double time, double stepsPerSecond
         return;
     isPlanned_ = true;
     planStart_ = step;
-    plannedUntil_ = time + kTick.count() * kTicksPlanned / 2;
-    sounds_.clear();
+    replanTime_ = time + kTick.count() * kTicksPlanned / 2;
+    actions_.clear();
     for (int tick = 0; tick < kTicksPlanned; ++tick) {
         const double from = step + stepsPerSecond * kTick.count() * tick;
         const double to = step + stepsPerSecond * kTick.count() * (tick + 1);
         if (to > end) {
-            plannedUntil_ = std::numeric_limits<double>::infinity();
+            replanTime_ = std::numeric_limits<double>::infinity();
             break;
         }
         collect(from, to, time + kTick.count() * (tick + 1) + kBehindPosition);
     }
-    player_->plan(sounds_);
+    player_->plan(actions_);
 }
 
-bool SequencePlayback::takeBack()
+bool SequencePlayback::cancelPlan()
 {
     if (!std::exchange(isPlanned_, false))
         return false;
-    soundedTo_ = player_->takeBack().value_or(planStart_);
+    soundedTo_ = player_->cancel().value_or(planStart_);
     return true;
 }
 
@@ -127,14 +127,14 @@ void SequencePlayback::silence(Note& note)
 // See docs/decisions.md, 98.
 void SequencePlayback::silenceAll()
 {
-    takeBack();
+    cancelPlan();
     soundedTo_.reset();
     for (const std::uint32_t key : index().keys()) {
         states[key] = 0;
         stopOnInstrument(key);
     }
-    for (const std::uint32_t position : marked_)
-        sequence_.at(position).playing = sequence_.at(position).active = false;
+    for (const std::uint32_t noteIndex : marked_)
+        sequence_.at(noteIndex).playing = sequence_.at(noteIndex).active = false;
     marked_.clear();
 }
 
@@ -151,15 +151,15 @@ void SequencePlayback::stop()
 void SequencePlayback::markAt(double step, double tolerance, int state)
 {
     const auto& starts = index().starts();
-    for (const std::uint32_t position : marked_)
-        sequence_.at(position).active = false;
+    for (const std::uint32_t noteIndex : marked_)
+        sequence_.at(noteIndex).active = false;
     forgetUnmarked();
     auto moment = std::partition_point(starts.begin(), starts.end(), [=](const auto& start) {
         return start.step - step < -tolerance;
     });
     for (; moment != starts.end() && !(moment->step - step > tolerance); ++moment) {
-        mark(moment->position);
-        Note& note = sequence_.at(moment->position);
+        mark(moment->noteIndex);
+        Note& note = sequence_.at(moment->noteIndex);
         note.active = true;
         states[note.key] |= state;
     }
@@ -167,7 +167,7 @@ void SequencePlayback::markAt(double step, double tolerance, int state)
 
 void SequencePlayback::stopOnInstrument(std::uint32_t key)
 {
-    sound(host_, {false, key, 0.0F, 0.0, 0.0});
+    perform(host_, {false, key, 0.0F, 0.0, 0.0});
 }
 
 SequenceIndex& SequencePlayback::index()
@@ -175,28 +175,28 @@ SequenceIndex& SequencePlayback::index()
     if (!index_) {
         index_.emplace(sequence_.notes());
         marked_.clear();
-        for (const auto& [step, position] : index_->starts())
-            if (isMarked(position))
-                marked_.push_back(position);
+        for (const auto& [step, noteIndex] : index_->starts())
+            if (isMarked(noteIndex))
+                marked_.push_back(noteIndex);
     }
     return *index_;
 }
 
-bool SequencePlayback::isMarked(std::uint32_t position) const
+bool SequencePlayback::isMarked(std::uint32_t noteIndex) const
 {
-    const Note& note = sequence_.notes()[position];
+    const Note& note = sequence_.notes()[noteIndex];
     return note.playing || note.active;
 }
 
-void SequencePlayback::mark(std::uint32_t position)
+void SequencePlayback::mark(std::uint32_t noteIndex)
 {
-    if (!isMarked(position))
-        marked_.push_back(position);
+    if (!isMarked(noteIndex))
+        marked_.push_back(noteIndex);
 }
 
 void SequencePlayback::forgetUnmarked()
 {
-    std::erase_if(marked_, [this](std::uint32_t position) { return !isMarked(position); });
+    std::erase_if(marked_, [this](std::uint32_t noteIndex) { return !isMarked(noteIndex); });
 }
 
 } // namespace velmora

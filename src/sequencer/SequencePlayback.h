@@ -13,41 +13,42 @@
 
 namespace velmora {
 
-/// Sounds the notes of a sequence on the host, flags those that play or are at the play position,
+/// Plays the notes of a sequence on the host, flags those that sound or are at the play position,
 /// and keeps the state of each key for the on-screen keyboard. The work of a tick depends on what
 /// starts, sounds or ends in it, not on the length of the sequence.
 class SequencePlayback {
 public:
     SequencePlayback(SequenceHost& host, Sequence& sequence) : host_(host), sequence_(sequence) {}
 
-    /// To be called after every change of notes.
+    /// Call this after every change of notes.
     void sequenceChanged() { index_.reset(); }
 
-    /// Starts and ends the notes that do so between two steps. Returns the last key that started.
+    /// Starts and ends the notes whose start or end lies between two steps. Returns the key of the
+    /// last note that started.
     std::optional<std::uint32_t> playBetween(double from, double to);
 
-    /// Lets another thread sound the notes, on the clock of `getTime`; null for none. The player
-    /// must outlive its use here.
+    /// Plays the notes through `player` from now on, on its own thread and the clock of `getTime`;
+    /// null plays them in `playBetween` again. The player must outlive its use here.
     void playAhead(AheadPlayer* player);
 
-    /// Plans the sounds of the next quarter of a second from `step` at `time`, tick by tick, up to
-    /// `end`. Until the plan is taken back, `playBetween` only flags notes. Does nothing without a
+    /// Plans the notes of the next quarter of a second from `step` at `time`, tick by tick, up to
+    /// `end`. Until the plan is cancelled, `playBetween` only flags notes. Does nothing without a
     /// player, or if there is a plan.
     void planAhead(double step, double time, double stepsPerSecond, double end);
 
-    /// True if there is a plan that ends soon after `time`.
-    bool isPlanShort(double time) const { return isPlanned_ && time > plannedUntil_; }
+    /// True if a new plan is due at `time`, because less than half of the current one is left.
+    bool isPlanShort(double time) const { return isPlanned_ && time > replanTime_; }
 
     /// Cancels the plan. Returns false if there is none. Call `playBetween` up to the current
     /// position afterwards: it flags what has sounded already and sounds the rest.
-    bool takeBack();
+    bool cancelPlan();
 
     void silence(Note& note);
 
-    /// Silences the keys of all notes, even those that do not sound.
+    /// Stops the keys of all notes, even of those that do not sound.
     void silenceAll();
 
-    /// Silences the notes that play, and keeps the states of their keys.
+    /// Silences the notes that sound, but keeps the states of their keys.
     void stop();
 
     /// Flags only the notes that start within `tolerance` of a step as active, and adds `state` to
@@ -61,22 +62,22 @@ private:
     void stopOnInstrument(std::uint32_t key);
     void collect(double from, double to, double time);
     SequenceIndex& index();
-    bool isMarked(std::uint32_t position) const;
-    void mark(std::uint32_t position);
+    bool isMarked(std::uint32_t noteIndex) const;
+    void mark(std::uint32_t noteIndex);
     void forgetUnmarked();
 
     SequenceHost& host_;
     Sequence& sequence_;
     std::optional<SequenceIndex> index_; ///< Empty until it is needed.
-    /// Indices of the notes that play or are active, and maybe of others.
+    /// Indices of all notes that play or are active, and possibly of others.
     std::vector<std::uint32_t> marked_;
 
     AheadPlayer* player_ = nullptr;
     bool isPlanned_ = false;
     double planStart_ = 0.0;          ///< In steps.
-    double plannedUntil_ = 0.0;       ///< In seconds; a new plan is needed afterwards.
-    std::optional<double> soundedTo_; ///< How far a plan that was taken back has sounded, in steps.
-    std::vector<KeySound> sounds_;    ///< The plan under construction.
+    double replanTime_ = 0.0;         ///< In seconds; infinite if the plan reaches the end.
+    std::optional<double> soundedTo_; ///< The step up to which a cancelled plan was performed.
+    std::vector<KeyAction> actions_;  ///< The plan under construction.
 };
 
 } // namespace velmora

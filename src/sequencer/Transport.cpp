@@ -56,17 +56,17 @@ void Transport::setMode(Mode mode)
 
 void Transport::tick()
 {
-    // The plan is taken back before the clock is read, so that the position is never behind what
-    // has sounded.
+    // The plan is cancelled before the clock is read, so that the position is never behind what has
+    // sounded.
     if (playback_.isPlanShort(clock_()))
-        playback_.takeBack();
+        playback_.cancelPlan();
     const double now = clock_();
     if (mode_ == Mode::Playing)
         playUntil(now);
     if (mode_ == Mode::Recording)
         emit recording(lastTick_, now);
     lastTick_ = now;
-    // The clock stops after the tick that ends the playing, so this one shows its result.
+    // The timer stops after the tick that ends playing, so that tick must show the result.
     if (ticks_++ % kTicksPerFrame == 0 || mode_ == Mode::Stopped)
         emit frame();
 }
@@ -101,7 +101,7 @@ void Transport::playUntil(double now)
 
 void Transport::settle()
 {
-    if (!playback_.takeBack())
+    if (!playback_.cancelPlan())
         return;
     const double now = clock_();
     const double next = std::max(position_, std::min(positionAt(now), endOfPlaying()));

@@ -41,10 +41,10 @@ public:
     void startRecording();
     void endRecording();
 
-    /// Advances by the time since the last tick. To be called 1024 times a second unless stopped.
+    /// Advances by the time since the last tick. Call this 1024 times a second unless stopped.
     void tick();
 
-    /// Silences every note that playing has started, and keeps the mode.
+    /// Silences every note that sounds, but keeps the mode.
     void stop();
 
     /// The play position.
@@ -62,8 +62,8 @@ public:
     /// Asks the view to show the position.
     void revealPosition();
 
-    /// Index of the note that navigation has reached; -1 before the first note. Playing leaves the
-    /// key of the last note that it started here.
+    /// Index of the note that navigation has reached; -1 before the first note. Playing sets it to
+    /// the key of the last note that it started: see docs/decisions.md, 91.
     int cursor() const { return cursor_; }
     void setCursor(int cursor) { cursor_ = cursor; }
 
@@ -79,13 +79,13 @@ public:
     double tempo() const { return tempo_; }
     void setTempo(double tempo);
 
-    /// True if playing starts again from the interval, or from the sequence's beginning, at its
-    /// end.
+    /// True if playing starts over at the end: from the start of the selected interval, or of the
+    /// sequence if nothing is selected.
     bool loops() const { return loop_; }
     void setLoop(bool loop);
 
-    /// Catches up with the notes that were sounded ahead of the tick. To be called before anything
-    /// changes that planned sounds depend on.
+    /// Cancels the planned notes and moves the position past those that have already sounded. Call
+    /// this before changing anything that the plan depends on.
     void settle();
 
     SequencePlayback& playback() { return playback_; }
@@ -97,11 +97,11 @@ signals:
     /// A tick of a recording, with the times of the last tick and of this one in seconds.
     void recording(double from, double until);
 
-    /// The position was moved, other than by a tick, or the selected interval has changed.
+    /// The position was moved by anything but a tick, or the selected interval has changed.
     void moved();
 
-    /// The keyboard and the position must be drawn again: on every 16th tick, and whenever they
-    /// change while stopped.
+    /// The keyboard and the position must be redrawn: on every 16th tick, and whenever they change
+    /// while stopped.
     void frame();
 
     /// A step should appear at the bottom edge of the roll, or as near to it as possible. It may be

@@ -11,7 +11,7 @@
 
 namespace velmora {
 
-/// An unsaved document, as it is kept in case of a crash.
+/// An unsaved document, kept in case of a crash.
 struct UnsavedSequence {
     std::filesystem::path path; ///< The document's file; empty if it has none.
     std::chrono::sys_time<std::chrono::milliseconds> time; ///< When it was kept.
@@ -28,7 +28,7 @@ struct UnsavedSequence {
 std::string encodeUnsaved(const UnsavedSequence& sequence);
 
 /// Decodes a recovery file, with its notes corrected by `makeValid`. Throws FormatError with the
-/// byte if it is not a recovery file of this version or contains an invalid note.
+/// byte offset if this is not a recovery file of this version or it contains an invalid note.
 UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes);
 
 } // namespace velmora

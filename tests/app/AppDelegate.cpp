@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "base/Clock.h"
+#include "midi/messages.h"
 #include "support/RecordingInstrument.h"
 
 #include <QCoreApplication>
@@ -20,7 +21,7 @@ protected:
         app_.putTuning(TuningDocument::makeBuiltin("Dynamic"));
     }
 
-    /// The instrument was told this since the last look.
+    /// Expects the calls that the instrument has received since the last check.
     void expectCalls(const Calls& calls) { EXPECT_EQ(std::exchange(calls_, {}), calls); }
 
     const Temperament* current()
@@ -37,12 +38,12 @@ protected:
 
 } // namespace
 
-TEST_F(AppDelegateTest, KeysSoundOnceTheSelectedTemperamentHasTunedThem)
+TEST_F(AppDelegateTest, TunesAndPlaysKeysInTheSelectedTuning)
 {
     const double began = getTime();
     app_.keyOn(60, 0.5F);
     const LiveKeys& keys = app_.player().liveKeys();
-    EXPECT_EQ(keys.state(60), kPressed) << "also without an instrument";
+    EXPECT_EQ(keys.state(60), kPressed) << "even without an instrument";
     app_.keyOff(60);
     EXPECT_EQ(keys.state(60), 0);
     EXPECT_TRUE(began <= keys.pressTime(60) && keys.pressTime(60) <= keys.releaseTime(60));
@@ -56,7 +57,7 @@ TEST_F(AppDelegateTest, KeysSoundOnceTheSelectedTemperamentHasTunedThem)
     EXPECT_FALSE(app_.selectTuning("dynamic"));
     app_.putTuning(TuningDocument::makeBuiltin("Dynamic"));
     expectCalls({"tune 0 127"});
-    app_.keyOn(0, 1.0F); // still through the one whose name was taken over
+    app_.keyOn(0, 1.0F); // still in the earlier tuning of that name
     expectCalls({"tune 0 127", "play 0 1.00"});
     for (const int key : {-1, 128, 255}) {
         app_.keyOn(key, 1.0F);
@@ -77,10 +78,10 @@ TEST_F(AppDelegateTest, FadesTheInstrumentAndTheTemperament)
     calls_.clear();
     app_.player().fade();
     expectCalls({"fade 0.9"});
-    EXPECT_EQ(current()->getTuning(0).cent(), 0.0) << "comes home once all has faded";
+    EXPECT_EQ(current()->getTuning(0).cent(), 0.0) << "returns home once everything has faded";
 }
 
-TEST_F(AppDelegateTest, DynamicBeginsAtHomeEachTimeItIsSelected)
+TEST_F(AppDelegateTest, DynamicStartsAtHomeEachTimeItIsSelected)
 {
     app_.setInstrument(instrument_, "Recorder");
     app_.selectTuning("Dynamic");
@@ -91,7 +92,7 @@ TEST_F(AppDelegateTest, DynamicBeginsAtHomeEachTimeItIsSelected)
     EXPECT_EQ(current()->getTuning(1).cent(), 76.049);
 }
 
-TEST_F(AppDelegateTest, WhatWasReceivedReachesTheMainThreadInOrder)
+TEST_F(AppDelegateTest, ReceivedEventsReachTheMainThreadInOrder)
 {
     Calls seen, told, sounded;
     app_.setInstrument(instrument_, "Recorder");
@@ -105,7 +106,8 @@ TEST_F(AppDelegateTest, WhatWasReceivedReachesTheMainThreadInOrder)
         sounded.insert(sounded.end(), {"play 60 1.00", "volume 1 1.00", "stop 60"});
     }
     std::thread([&] {
-        const std::uint8_t bytes[] = {0x90, 60, 127, 0xB0, 11, 127, 0x80, 60, 0};
+        const std::uint8_t bytes[] = {midi::kNoteOn,  60, 127, midi::kControlChange, 11, 127,
+                                      midi::kNoteOff, 60, 0};
         const MidiPacket packet = bytes;
         for (int i = 0; i < 100; ++i)
             midiRead({&packet, 1}, app_);

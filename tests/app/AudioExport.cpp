@@ -15,7 +15,7 @@ namespace velmora {
 
 namespace {
 
-constexpr double kRoot = 261.6255653006; // of key 48 of the organ
+constexpr double kRoot = 261.6255653006; // Hertz; key 48 of the organ.
 
 class AudioExportTest : public testing::Test {
 protected:
@@ -33,7 +33,7 @@ protected:
         app_.addInstrument(std::move(document));
     }
 
-    /// What the export comes to: "written", or the reason why not.
+    /// Runs an export and returns "written", or "not: " and the reason.
     std::string exported(const std::string& name, double tempo = 120.0, bool cancel = false)
     {
         std::string outcome;
@@ -53,7 +53,7 @@ protected:
         return outcome;
     }
 
-    /// A second of the left channel.
+    /// Returns a second of the left channel and sets `seconds_` to the length of the file.
     std::vector<float> soundOf(const std::string& name)
     {
         const Pcm pcm = decodeAudio(readFile(folder_.path() / name));
@@ -78,7 +78,7 @@ protected:
 
 } // namespace
 
-TEST_F(AudioExportTest, SoundsAsItDoesLiveAndLeavesThatAlone)
+TEST_F(AudioExportTest, SoundsLikeLivePlayingAndDoesNotDisturbIt)
 {
     const double hertz = Temperament::Meantone().getPitch(52);
     app_.makeMIDIPlayer(std::make_unique<Synthesizer>(48000.0, generalMidiBanks()));
@@ -104,10 +104,10 @@ TEST_F(AudioExportTest, SoundsAsItDoesLiveAndLeavesThatAlone)
     app_.selectInstrument(1);
     for (int i = 0; i < 40; ++i)
         app_.player().fade();
-    EXPECT_TRUE(app_.unloadInstrument(0)) << "what it sounded has died away";
+    EXPECT_TRUE(app_.unloadInstrument(0)) << "the released key has died away";
 }
 
-TEST_F(AudioExportTest, LeavesNoFileUnlessItIsWhole)
+TEST_F(AudioExportTest, LeavesOnlyCompleteFiles)
 {
     folder_.write("out.wav", "precious");
     EXPECT_EQ(exported("out.wav", 120.0, true), "not: ");
@@ -116,7 +116,7 @@ TEST_F(AudioExportTest, LeavesNoFileUnlessItIsWhole)
     std::filesystem::remove(folder_.path() / "test.organ");
     EXPECT_THAT(exported("out.wav"), testing::HasSubstr("test.organ: cannot be read"));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 2)
-        << "the sample and the file that was there";
+        << "the sample and the file from before";
 }
 
 } // namespace velmora

@@ -1,7 +1,8 @@
-// Live playing as a musician has it: a MIDI port in, JACK out.
+// Live playing from end to end: from a MIDI port to JACK.
 
 #include "app/AppDelegate.h"
 #include "audio/Synthesizer.h"
+#include "midi/messages.h"
 #include "support/Bank.h"
 #include "support/JackServer.h"
 #include "support/MidiSource.h"
@@ -30,7 +31,7 @@ bool waitUntil(const std::function<bool()>& condition)
     return false;
 }
 
-/// A JACK client that listens to what the program sounds on the left, once the program is there.
+/// A JACK client that records the program's left output. Waits until the program has opened it.
 class Listener {
 public:
     Listener()
@@ -45,7 +46,7 @@ public:
             [this] { return jack_connect(client_.get(), "velmora:left", "listener:in") == 0; }));
     }
 
-    /// What sounds from now on.
+    /// Records the next frames.
     std::vector<float> listen(std::size_t frames)
     {
         sound_.assign(frames, 0.0F);
@@ -64,7 +65,7 @@ private:
         missing_ -= count;
     }
 
-    std::vector<float> sound_; ///< The callback's while some of it is missing.
+    std::vector<float> sound_; ///< Belongs to the callback while frames are missing.
     std::atomic<std::size_t> missing_{0};
     std::unique_ptr<jack_client_t, int (*)(jack_client_t*)> client_{
         jack_client_open("listener", JackNoStartServer, nullptr), jack_client_close};
@@ -72,7 +73,7 @@ private:
         jack_port_register(client_.get(), "in", JACK_DEFAULT_AUDIO_TYPE, JackPortIsInput, 0);
 };
 
-/// Counts the periods from the arrival of bytes to the first frame that sounds.
+/// Counts the periods from the arrival of a message to the first audible frame.
 class LatencyProbe : public AudioSource {
 public:
     explicit LatencyProbe(AudioSource& source) : source_(source) {}
@@ -94,7 +95,7 @@ private:
 
 } // namespace
 
-TEST(LivePath, SoundsWithinTwoPeriodsOfTheArrivalOfTheBytes)
+TEST(LivePath, SoundsWithinTwoPeriodsOfAMessage)
 {
     const JackServer server;
     MidiSource source("keyboard", {"out"});
@@ -111,10 +112,10 @@ TEST(LivePath, SoundsWithinTwoPeriodsOfTheArrivalOfTheBytes)
         midiRead({&packet, 1}, app);
     });
     if (inputs.api() == "ALSA")
-        GTEST_SKIP() << "this machine has an ALSA sequencer, which goes before JACK";
+        GTEST_SKIP() << "this machine has an ALSA sequencer, which takes precedence over JACK";
 
     for (std::uint8_t i = 0; i < 50; ++i) {
-        // Without the output the last note dies away at once.
+        // Renders without the output, so that the last note dies away faster than in real time.
         const Stereo silence = rendered(sounding, 4 * kRate + std::size_t{17} * i);
         ASSERT_EQ(silence.left.back(), 0.0F);
         probe.arrived = probe.sounds = false;
@@ -122,7 +123,7 @@ TEST(LivePath, SoundsWithinTwoPeriodsOfTheArrivalOfTheBytes)
         output->play(&probe);
         std::this_thread::sleep_for(std::chrono::microseconds(10'000 + 137 * i));
         const auto key = static_cast<std::uint8_t>(48 + i % 36);
-        source.send(0, {0x90, key, 100});
+        source.send(0, {midi::kNoteOn, key, 100});
         ASSERT_TRUE(waitUntil([&] { return probe.sounds.load(); }));
         output->play(nullptr);
         app.keyOff(key);
@@ -133,7 +134,7 @@ TEST(LivePath, SoundsWithinTwoPeriodsOfTheArrivalOfTheBytes)
 TEST(LivePath, TheProgramPlaysInTuneUntilItIsInterrupted)
 {
 #ifdef __SANITIZE_THREAD__
-    GTEST_SKIP() << "ThreadSanitizer dislikes a fork beside JACK's threads";
+    GTEST_SKIP() << "ThreadSanitizer does not support a fork while JACK's threads run";
 #endif
     const JackServer server;
     MidiSource source("keyboard", {"out"});
@@ -145,11 +146,11 @@ TEST(LivePath, TheProgramPlaysInTuneUntilItIsInterrupted)
     if (line.find("keyboard:out on jack") == std::string::npos)
         GTEST_SKIP() << "this machine has other devices: " << line;
     Listener listener;
-    source.send(0, {0x90, 64, 100});
+    source.send(0, {midi::kNoteOn, 64, 100});
     listener.listen(kRate);                                        // the attack
     const double hertz = 329.6276 * std::exp2(-13.68629 / 1200.0); // the pure third of C
     EXPECT_NEAR(cents(measuredHertz(listener.listen(kRate), kRate, hertz), hertz), 0.0, 3.0);
-    source.send(0, {0x80, 64, 0});
+    source.send(0, {midi::kNoteOff, 64, 0});
     EXPECT_TRUE(waitUntil([&] { return peak(listener.listen(4800)) < 1e-6F; })) << "dies away";
 
     kill(static_cast<pid_t>(velmora.processId()), SIGINT);

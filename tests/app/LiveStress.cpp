@@ -1,4 +1,4 @@
-// All threads of live playing, running at once.
+// Runs all threads of live playing at once.
 
 #include "app/AppDelegate.h"
 #include "audio/Synthesizer.h"
@@ -28,7 +28,7 @@ void strikeKeys(LiveInput& input)
     }
 }
 
-/// Sends messages of keys and controllers, and then random bytes.
+/// Sends random key and controller messages, and then random bytes.
 void sendMidi(LiveInput& input)
 {
     std::mt19937 random(7);
@@ -50,7 +50,7 @@ void sendMidi(LiveInput& input)
 
 } // namespace
 
-TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
+TEST(LiveStress, LeavesNothingSoundingAfterAllThreadsHaveRun)
 {
     AppDelegate app;
     app.makeBuiltinTunings();
@@ -87,7 +87,7 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
         app.selectTuning(kTunings[i % kTunings.size()]);
         app.setInstrument(*players[i / 7 % 2].first, "");
         QCoreApplication::processEvents();
-        // By turns it records, plays what was recorded, and has it practised.
+        // Alternates between recording and playing.
         if (i % 100 == 0)
             document.recorder().record();
         else if (i % 100 == 50)
@@ -95,13 +95,14 @@ TEST(LiveStress, ThreadsThatPlayRetuneAndRenderLeaveNothingSounding)
         document.transport().tick();
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    EXPECT_GT(document.sequence().notes().size(), 10U) << "of keys that were played";
+    EXPECT_GT(document.sequence().notes().size(), 10U) << "the keys were recorded";
     document.transport().stop();
     for (std::thread* thread : {&mouse, &device, &audio})
         thread->join();
 
     for (const auto& [instrument, synthesizer] : players)
-        EXPECT_GT(peak(rendered(*synthesizer, 4800).left), 0.0F) << "some are held on each";
+        EXPECT_GT(peak(rendered(*synthesizer, 4800).left), 0.0F)
+            << "some keys are still held on each";
     for (int key = 0; key < 128; ++key)
         app.keyOff(key);
     for (const auto& [instrument, synthesizer] : players) {

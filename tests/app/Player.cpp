@@ -45,7 +45,7 @@ protected:
         player_.setTemperament(temperament_);
     }
 
-    /// The peak of what sounds after a second in which released keys fade.
+    /// Returns the peak level after a second of fading.
     template <class Source> float heard(Source& source)
     {
         for (int i = 0; i < 60; ++i) {
@@ -104,7 +104,7 @@ TEST_F(PlayerTest, ANoteOfAPlayingSequenceStopsOnTheInstrumentThatSoundsIt)
     double now = 0.0;
     SequenceDocument document(player_, [&] { return now; });
     document.edit()->addNote({.length = 4.0, .velocity = 1.0F, .key = kKey});
-    document.measure();
+    document.updateExtent();
     const auto tickAt = [&](double time) {
         now = time;
         document.transport().tick();
@@ -129,10 +129,10 @@ TEST_F(PlayerTest, StopsAKeyOnlyWhereItSounds)
     player_.keyOn(kKey, 0.5F);
     calls_.clear();
     player_.keyOff(kKey);
-    EXPECT_EQ(calls_, (Calls{"stop 60", "stop 60"})) << "on both, for both sound it";
+    EXPECT_EQ(calls_, (Calls{"stop 60", "stop 60"})) << "both instruments sound the key";
     calls_.clear();
     player_.keyOff(kKey);
-    EXPECT_EQ(calls_, (Calls{"stop 60"})) << "the current one is always told";
+    EXPECT_EQ(calls_, (Calls{"stop 60"})) << "the current instrument always stops it";
 
     player_.setInstrument(other_);
     player_.keyOn(kKey, 0.5F);

@@ -1,7 +1,8 @@
-// Recording as a musician has it: from a MIDI port into a file.
+// Recording from end to end: from a MIDI port to a file.
 
 #include "app/AppDelegate.h"
 #include "base/Clock.h"
+#include "midi/messages.h"
 #include "sequencer/SequenceClock.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceFile.h"
@@ -18,7 +19,7 @@ namespace velmora {
 
 namespace {
 
-/// Keeps the event loop going, as late as a window makes it.
+/// Runs the event loop with delays like those of a window that paints.
 void runFor(double seconds)
 {
     for (const double end = getTime() + seconds; getTime() < end;) {
@@ -29,27 +30,28 @@ void runFor(double seconds)
 
 } // namespace
 
-TEST(RecordingPath, KeepsWhatIsPlayedWithinATickOfItsArrival)
+TEST(RecordingPath, RecordsEachKeyWithinATickOfItsArrival)
 {
     const JackServer server;
     MidiSource piano("keyboard", {"out"});
     AppDelegate app;
     MidiInputs inputs([&](MidiPacket packet) { midiRead({&packet, 1}, app); });
     if (inputs.api() == "ALSA")
-        GTEST_SKIP() << "this machine has an ALSA sequencer, which goes before JACK";
+        GTEST_SKIP() << "this machine has an ALSA sequencer, which takes precedence over JACK";
     LiveKeys& keys = app.player().liveKeys();
     SequenceDocument document(app.player());
     const SequenceClock clock(document.transport());
     const double begun = getTime();
     document.recorder().record();
-    for (std::uint8_t i = 0; i < 24; ++i) { // each held into the next
-        piano.send(0, {0x90, static_cast<std::uint8_t>(48 + i), static_cast<std::uint8_t>(20 + i)});
+    for (std::uint8_t i = 0; i < 24; ++i) { // each held until after the next is pressed
+        piano.send(0, {midi::kNoteOn, static_cast<std::uint8_t>(48 + i),
+                       static_cast<std::uint8_t>(20 + i)});
         runFor(0.020 + 0.0031 * i);
         if (i > 0)
-            piano.send(0, {0x80, static_cast<std::uint8_t>(47 + i), 0});
+            piano.send(0, {midi::kNoteOff, static_cast<std::uint8_t>(47 + i), 0});
         runFor(0.030);
     }
-    piano.send(0, {0x80, 71, 0});
+    piano.send(0, {midi::kNoteOff, 71, 0});
     for (int i = 0; i < 100 && keys.releaseTime(71) < begun; ++i)
         runFor(0.1);
     runFor(0.1);

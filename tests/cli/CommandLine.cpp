@@ -21,7 +21,7 @@ using testing::HasSubstr;
 
 namespace {
 
-constexpr double kRoot = 261.6255653006; // of the organ's key 48
+constexpr double kRoot = 261.6255653006; // Hertz; key 48 of the organ.
 
 struct Result {
     int code;
@@ -71,7 +71,7 @@ protected:
 
 } // namespace
 
-TEST_F(CommandLine, RendersTheSameBytesEveryTimeAndOthersForEachSelection)
+TEST_F(CommandLine, RendersTheSameBytesForTheSameSelectionOnly)
 {
     const std::pair<QString, QStringList> rows[] = {
         {"out.wav", {}},

@@ -22,7 +22,7 @@ protected:
             add(48 + i, i, 0.75);
             live_.edit()->addNote(document_.sequence().notes().back());
         }
-        live_.measure();
+        live_.updateExtent();
     }
 
     /// Runs the event loop, which is blocked most of the time.
@@ -46,7 +46,7 @@ TEST_F(AheadPlayerTest, SoundsEachNoteOnceAndOnTime)
     live_.transport().play();
     const double started = getTime();
     runFor(std::chrono::milliseconds(1000));
-    live_.transport().setTempo(240.0); // takes back the plan for the slower tempo
+    live_.transport().setTempo(240.0); // cancels the plan for the slower tempo
     runFor(std::chrono::milliseconds(600));
     const Calls calls = std::exchange(calls_, {});
     onPlay_ = nullptr;

@@ -25,26 +25,26 @@ TEST_F(PracticeTest, AdvancesWhenTheWantedChordIsStruck)
     add(67, 6.0, 1.0);
     practice_.advance();
     EXPECT_EQ(transport_.position(), 2.0) << "there is no chord at 0";
-    EXPECT_EQ(practice_.stateOfNote(60), 2) << "wanted";
+    EXPECT_EQ(practice_.stateOfNote(60), kWanted) << "wanted";
 
     press(61);
-    EXPECT_EQ(keyAfterInput(61), 1) << "wrong";
+    EXPECT_EQ(keyAfterInput(61), kPressed) << "wrong";
     press(60);
-    EXPECT_EQ(keyAfterInput(60), 3) << "right";
+    EXPECT_EQ(keyAfterInput(60), kPressed | kWanted) << "right";
     press(64);
-    EXPECT_EQ(keyAfterInput(64), 3);
+    EXPECT_EQ(keyAfterInput(64), kPressed | kWanted);
     EXPECT_EQ(transport_.position(), 2.0) << "the wrong key is still down";
     release(61);
-    EXPECT_EQ(keyAfterInput(64), 4) << "held and answered";
+    EXPECT_EQ(keyAfterInput(64), kHeld) << "held and answered";
     EXPECT_EQ(transport_.position(), 4.0);
-    EXPECT_EQ(keyAfterInput(60), 6) << "held before, so it must be struck again";
+    EXPECT_EQ(keyAfterInput(60), kWanted | kHeld) << "held before, so it must be struck again";
     release(60);
-    EXPECT_EQ(keyAfterInput(60), 2);
+    EXPECT_EQ(keyAfterInput(60), kWanted);
     EXPECT_EQ(transport_.position(), 4.0);
     press(60);
-    EXPECT_EQ(keyAfterInput(67), 2) << "the next chord";
+    EXPECT_EQ(keyAfterInput(67), kWanted) << "the next chord";
     press(67);
-    EXPECT_EQ(keyAfterInput(67), 6) << "the same chord again, because it is the last";
+    EXPECT_EQ(keyAfterInput(67), kWanted | kHeld) << "the same chord again, because it is the last";
     EXPECT_EQ(transport_.position(), 6.0);
 
     transport_.selectInterval(2.0, 4.0);
@@ -52,7 +52,7 @@ TEST_F(PracticeTest, AdvancesWhenTheWantedChordIsStruck)
     transport_.setLoop(true);
     for (const unsigned key : {60U, 64U})
         press(key);
-    EXPECT_EQ(keyAfterInput(60), 6);
+    EXPECT_EQ(keyAfterInput(60), kWanted | kHeld);
     EXPECT_EQ(transport_.position(), 2.0) << "from the end of the interval to its start";
 
     transport_.selectInterval(2.0, 8.0);

@@ -187,7 +187,7 @@ TEST_F(SequenceEditorTest, IdentifiesKeysByTheirPosition)
 
     calls_.clear();
     std::ostringstream log;
-    logger("sequencer"); // so that spdlog has it
+    logger("sequencer"); // registers it with spdlog
     const auto sequencer = spdlog::get("sequencer");
     sequencer->sinks() = {std::make_shared<spdlog::sinks::ostream_sink_st>(log)};
     sequencer->set_pattern("%v");
@@ -280,7 +280,7 @@ TEST_F(SequenceEditorTest, AnnouncesAnEditOnce)
     };
     editor_.selectAll();
     EXPECT_EQ(times(pasteInAnEdit), 1);
-    EXPECT_EQ(seen, 83.0) << "when all of it is done";
+    EXPECT_EQ(seen, 83.0) << "announced when the whole edit is done";
 }
 
 TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)

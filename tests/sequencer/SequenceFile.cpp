@@ -120,7 +120,7 @@ TEST(SequenceFile, ReadsNotesInSteps)
     EXPECT_EQ(slowing.notes().at(0).length, 1.5 * 16.0);
 }
 
-TEST(SequenceFile, TellsIfTheFileHoldsMore)
+TEST(SequenceFile, ReportsIfTheFileHoldsMore)
 {
     const std::string note = on(0, 60) + off(96, 60);
     for (const auto& [name, bytes, notes, isImported] :

@@ -67,7 +67,7 @@ protected:
 
 } // namespace
 
-TEST(UnsavedSequence, IsDecodedExactlyOrRejected)
+TEST(UnsavedSequence, DecodesExactlyOrRejects)
 {
     const Note before{.start = 1.0 / 3.0,
                       .length = 1e-9,
@@ -95,7 +95,7 @@ TEST(UnsavedSequence, IsDecodedExactlyOrRejected)
     for (std::size_t size = 0; size < bytes.size(); ++size)
         EXPECT_THROW(decode(bytes.substr(0, size)), FormatError) << size;
     EXPECT_THROW(decode(bytes + "x"), FormatError);
-    std::string wrong = bytes; // makes the last note's start a NaN
+    std::string wrong = bytes; // with NaN as the start of the last note
     wrong.replace(bytes.size() - 52, 2, "\x7F\xF8");
     EXPECT_THROW(decode(wrong), FormatError);
     const Note far{.start = -1e300, .length = 1e300, .oldLength = -1.0, .velocity = 2.0F};

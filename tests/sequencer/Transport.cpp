@@ -9,7 +9,7 @@ namespace velmora {
 
 namespace {
 
-/// Everything that a tick changes.
+/// Everything that a tick can change.
 struct State {
     std::vector<Note> notes;
     std::vector<int> keys;
@@ -59,7 +59,7 @@ protected:
         for (Note& note : notes) {
             const bool starts = t0 <= note.start && note.start < t;
             if (starts && !atEnd) {
-                keys[note.key] = 2;
+                keys[note.key] = kWanted;
                 note.playing = note.active = true;
                 calls.push_back(fmt::format("play {} {:.2f}", note.key, note.velocity));
                 cursor = static_cast<int>(note.key);
@@ -86,7 +86,7 @@ protected:
             looked.keys[key] = liveKeys_.state(key);
         for (Note& note : looked.notes) {
             note.active = std::abs(note.start - looked.offset) <= 0.1;
-            looked.keys[note.key] |= note.active ? 2 : 0;
+            looked.keys[note.key] |= note.active ? kWanted : 0;
         }
         practice_.showKeys();
         EXPECT_EQ(state().text(), looked.text());
@@ -122,7 +122,7 @@ TEST_F(TransportTest, PlaysToTheEndAndReturnsToTheBeginning)
     addTwoNotes();
     double shown = -1.0;
     QObject::connect(&transport_, &Transport::frame, [&] { shown = transport_.position(); });
-    tick(100.0); // has no effect before it plays
+    tick(100.0); // has no effect while stopped
     transport_.play();
     for (const auto& [steps, calls] : {std::pair(1.5, Calls{}),
                                        {1.0, {"play 60 1.00"}},
@@ -146,7 +146,7 @@ TEST_F(TransportTest, PlaysToTheEndAndReturnsToTheBeginning)
     transport_.play();
     transport_.stop();
     EXPECT_EQ(calls_, Calls{"stop 60"}) << "once";
-    EXPECT_EQ(practice_.stateOfNote(60), 2) << "the keyboard keeps its colours";
+    EXPECT_EQ(practice_.stateOfNote(60), kWanted) << "the keyboard keeps its colours";
     EXPECT_NEAR(transport_.position(), 2.5, 1e-6);
 }
 

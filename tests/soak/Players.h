@@ -4,6 +4,7 @@
 #include "audio/Synthesizer.h"
 #include "audio/silence.h"
 #include "base/Clock.h"
+#include "midi/messages.h"
 #include "sequencer/RecoveryKeeper.h"
 #include "sequencer/SequenceClock.h"
 #include "sequencer/SequenceDocument.h"
@@ -60,21 +61,21 @@ public:
     /// Creates a device that does not play yet.
     DeviceThread(LiveInput& input, unsigned seed) : input_(input), random_(seed) {}
 
-    /// Starts or stops playing. Releases every key first.
+    /// Starts or stops playing, and releases every key.
     void setPlaying(bool plays)
     {
         const std::lock_guard lock(mutex_);
         plays_ = plays;
         while (!held_.empty())
-            send({0x80, *held_.begin(), 0});
+            send({midi::kNoteOff, *held_.begin(), 0});
     }
 
 private:
     void send(std::vector<std::uint8_t> message)
     {
-        if ((message[0] & 0xF0) == 0x90)
+        if ((message[0] & midi::kKindMask) == midi::kNoteOn)
             held_.insert(message[1]);
-        else if ((message[0] & 0xF0) == 0x80)
+        else if ((message[0] & midi::kKindMask) == midi::kNoteOff)
             held_.erase(message[1]);
         const MidiPacket packet = message;
         midiRead({&packet, 1}, input_);
@@ -86,11 +87,11 @@ private:
         const auto key = static_cast<std::uint8_t>(36 + random_() % 60);
         const auto value = static_cast<std::uint8_t>(1 + random_() % 127);
         if (random_() % 8 == 0)
-            send({0xB0, kControllers[random_() % kControllers.size()], value});
+            send({midi::kControlChange, kControllers[random_() % kControllers.size()], value});
         else if (held_.size() < 6 && random_() % 2 == 0)
-            send({0x90, key, value});
+            send({midi::kNoteOn, key, value});
         else
-            send({0x80, held_.empty() ? key : *held_.begin(), value});
+            send({midi::kNoteOff, held_.empty() ? key : *held_.begin(), value});
     }
 
     LiveInput& input_;
@@ -110,9 +111,9 @@ private:
     }};
 };
 
-/// A document with the objects that a window has for it.
+/// A document with the objects that a window creates for it.
 struct OpenSequence {
-    /// Runs in real time, or else on a clock that `tick` advances ahead of real time.
+    /// Runs in real time, or on a clock of its own, which `tick` advances ahead of real time.
     OpenSequence(SequenceHost& host, bool isRealTime)
         : document(
               host, isRealTime ? std::function(getTime) : [this] { return now; })

@@ -1,7 +1,7 @@
-// Does everything at once and at random for a given time: keys and controllers from a device, an
-// audio thread, sequences that play, record and are edited, instruments and tunings that come and
-// go. After each round, all keys are released and all documents closed. Then nothing may sound, and
-// the memory in use must not have grown.
+// Does everything at once and at random for a given time: plays keys and controllers from a device,
+// renders on an audio thread, plays, records and edits sequences, and changes instruments and
+// tunings. After each round, all keys are released and all documents closed. Then nothing may
+// sound, and the memory in use must not have grown.
 //
 //     test_soak [SECONDS [SEED]]
 
@@ -40,7 +40,7 @@ void require(bool condition, const std::string& message)
         throw std::runtime_error(message);
 }
 
-/// Returns the number of bytes allocated by all threads.
+/// Returns the number of bytes that are allocated at the moment.
 #ifdef __SANITIZE_ADDRESS__
 // AddressSanitizer delays freeing memory, and reports leaks itself.
 constexpr std::size_t kWarmUpRounds = 0;

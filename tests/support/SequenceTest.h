@@ -40,7 +40,7 @@ protected:
                                    .key = key,
                                    .oldStart = start,
                                    .oldKey = key});
-        document_.measure();
+        document_.updateExtent();
     }
 
     void press(unsigned key) { liveKeys_.press(key, 0.5F, now_); }

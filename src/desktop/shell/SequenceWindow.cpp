@@ -59,7 +59,7 @@ SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, con
 SequenceWindow::~SequenceWindow()
 {
     if (!isSettled_)
-        keeper_.leave();
+        keeper_.keepForNextStart();
     qApp->disconnect(this);
     // The widgets are destroyed after the document and must not receive its last signals.
     scrollView_->view().setDocument(nullptr, nullptr);
