@@ -14,7 +14,7 @@ namespace {
 constexpr const char* kDynamic = "Dynamic";
 
 /// The rate of the synthesizer if there is no output.
-constexpr double kUsualRate = 48000.0;
+constexpr double kDefaultRate = 48000.0;
 
 /// Takes the synthesizer's place until its bank is loaded.
 class SilentDevice : public MusicDevice {
@@ -39,9 +39,9 @@ std::vector<std::filesystem::path> generalMidiBanks()
     return banks;
 }
 
-AppDelegate::AppDelegate() : queue_([this](const InputEvent& event) { take(event); })
+AppDelegate::AppDelegate() : queue_([this](const InputEvent& event) { handle(event); })
 {
-    connect(this, &AppDelegate::synthesizerMade, this, &AppDelegate::takeSynthesizer,
+    connect(this, &AppDelegate::loadingFinished, this, &AppDelegate::takeSynthesizer,
             Qt::QueuedConnection);
 }
 
@@ -82,7 +82,7 @@ void AppDelegate::loadBank()
     loadsAgain_ = loading_.valid();
     if (loadsAgain_)
         return;
-    const double rate = output_ ? output_->rate() : kUsualRate;
+    const double rate = output_ ? output_->rate() : kDefaultRate;
     loading_ = std::async(std::launch::async, [this, rate, banks = generalMidiBanks()] {
         std::unique_ptr<Synthesizer> synthesizer;
         try {
@@ -90,7 +90,7 @@ void AppDelegate::loadBank()
         } catch (const std::exception& error) {
             logger("app").error("the General MIDI synthesizer cannot be created: {}", error.what());
         }
-        emit synthesizerMade();
+        emit loadingFinished();
         return synthesizer;
     });
 }
@@ -268,7 +268,7 @@ void AppDelegate::received(MidiPacket packet)
     midiRead({&packet, 1}, *this);
 }
 
-void AppDelegate::take(const InputEvent& event)
+void AppDelegate::handle(const InputEvent& event)
 {
     switch (event.kind) {
     case InputEvent::Kind::MidiInput:

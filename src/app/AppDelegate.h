@@ -31,7 +31,7 @@ class Synthesizer;
 std::vector<std::filesystem::path> generalMidiBanks();
 
 /// The application without its windows: the lists of instruments and tunings, the devices, and the
-/// player that they meet in.
+/// player that they share.
 ///
 /// The functions of `LiveInput` may be called on any thread, all others on the main thread.
 class AppDelegate : public QObject, public LiveInput, public InstrumentHost {
@@ -47,7 +47,7 @@ public:
     void start();
 
     /// Creates the tunings "Equal", which becomes the current one, and "Quartercomma Meantone".
-    /// To be called before any instrument is added.
+    /// Call this before adding any instrument.
     void makeBuiltinTunings();
 
     /// Creates the General MIDI player on a synthesizer; it becomes the current instrument.
@@ -65,7 +65,8 @@ public:
     /// The current instrument and temperament, and the keys that sound.
     Player& player() { return player_; }
 
-    /// Lists an instrument and makes it the current one. A document without one is ignored.
+    /// Adds an instrument to the list and makes it the current one. Ignores a document without an
+    /// instrument.
     void addInstrument(std::unique_ptr<InstrumentDocument> document);
 
     /// The listed instruments in the order in which they were added. A document without an
@@ -105,14 +106,15 @@ public:
     /// Ends every sound at once and releases every key.
     void silenceAll();
 
-    /// Lists a tuning under its name, replacing one of the same name.
+    /// Adds a tuning to the list. From now on its name selects it, even if an earlier tuning has
+    /// the same name.
     void putTuning(std::unique_ptr<TuningDocument> document);
 
-    /// The name under which the current tuning was selected.
+    /// The name of the current tuning.
     const std::string& tuningName() const { return tuningName_; }
 
-    /// The names of all tunings in the order in which they were listed, and "Dynamic". A name that
-    /// was listed twice appears twice.
+    /// The names of all listed tunings in the order in which they were added, and "Dynamic". A name
+    /// that was added twice appears twice.
     std::vector<std::string> tuningNames() const;
 
     /// Makes the tuning of that name the current one and retunes the instrument, including sounding
@@ -148,11 +150,12 @@ signals:
     /// The held keys have changed. Emitted on the main thread, after the keys have sounded.
     void midiInputReceived();
 
-    /// The bank changed. Empty if loading failed; unchanged if no synthesizer could be created.
+    /// Loading has ended. `bank()` is empty if the bank could not be loaded, and unchanged if no
+    /// synthesizer could be created.
     void bankLoaded();
 
-    /// The thread that loads a bank has finished or failed.
-    void synthesizerMade();
+    /// The thread that loads a bank has finished, successfully or not.
+    void loadingFinished();
 
     /// An instrument was listed, unloaded or loaded again.
     void instrumentsChanged();
@@ -169,17 +172,17 @@ signals:
     /// A MIDI controller has moved the slider of a stop. Emitted on the main thread.
     void volumeMoved(std::size_t slider, float volume);
 
-    /// An import of that many steps begins.
+    /// An import of `steps` steps begins.
     void progressStarted(long steps);
 
-    /// `steps` more steps, at least one, are done; `text` names the last one.
+    /// Another `steps` steps, at least one, are done. `text` names the last one.
     void progressed(unsigned steps, const std::string& text);
 
 private:
     void received(MidiPacket packet);
     void takeSynthesizer();
     void playThrough(std::unique_ptr<Synthesizer> synthesizer);
-    void take(const InputEvent& event);
+    void handle(const InputEvent& event);
     void useTuning(const TuningDocument& document);
 
     std::string instrumentName_, tuningName_;
@@ -188,13 +191,13 @@ private:
     /// Declared before the instruments, which play through it.
     std::unique_ptr<OpenALDevice> openAL_;
     std::vector<std::unique_ptr<InstrumentDocument>> instruments_;
-    /// Every tuning ever listed, including replaced ones.
+    /// Every tuning ever listed, including those whose name now selects a later one.
     std::vector<std::unique_ptr<TuningDocument>> tuningDocuments_;
     std::map<std::string, TuningDocument*> tunings_;
     MIDIInstrument* midiPlayer_ = nullptr; ///< The first of the instruments.
     std::filesystem::path bank_;
 
-    std::unique_ptr<Temperament> temperament_; ///< A copy of its document's, which starts at home.
+    std::unique_ptr<Temperament> temperament_; ///< A fresh copy of the current tuning's.
     Player player_;
     InputQueue queue_;
     DisplayWake displayWake_;
@@ -205,7 +208,7 @@ private:
     std::unique_ptr<MidiInputs> inputs_;
     std::unique_ptr<IntervalTimer> fadeTimer_;
     std::future<std::unique_ptr<Synthesizer>> loading_;
-    bool loadsAgain_ = false; ///< The preference has changed while a bank was loading.
+    bool loadsAgain_ = false; ///< True if the preference changed while a bank was loading.
 };
 
 } // namespace velmora

@@ -17,7 +17,7 @@ namespace {
 /// The niceness of an export, so that live playing has priority.
 constexpr int kNiceness = 10;
 
-/// Reports progress whenever a visible part of it is done.
+/// Reports progress once per percent.
 class Progress : public InstrumentHost {
 public:
     Progress(AudioExport& audioExport, std::stop_token stop)
@@ -93,8 +93,8 @@ bool AudioExport::write(const std::stop_token& stop, Job job)
 {
     RenderOptions options;
     options.tempo = job.tempo;
-    AudioFileWriter file(
-        job.file, options.rate); // first, because it fails at once if the file cannot be written
+    // Created first, because it fails at once if the file cannot be written.
+    AudioFileWriter file(job.file, options.rate);
     Progress progress(*this, stop);
     OfflineSound sound(std::move(job.sound), options.rate, progress);
     SequenceRenderer renderer(sound.player(), sound.source());

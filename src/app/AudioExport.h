@@ -11,8 +11,8 @@
 
 namespace velmora {
 
-/// Renders a sequence to a sound file on a thread of its own while live playing goes on. A complete
-/// file replaces an existing one only at the end.
+/// Renders a sequence to a sound file on a thread of its own, without disturbing live playing. An
+/// existing file is replaced only once the new one is complete.
 class AudioExport : public QObject {
     Q_OBJECT
 
@@ -29,8 +29,8 @@ public:
     void cancel() { thread_.request_stop(); }
 
 signals:
-    /// Reports progress from 0 to 1, first for loading the instrument and then for rendering, as
-    /// `what` says. Emitted on the export's thread, like `finished`.
+    /// Reports progress from 0 to 1, first of loading the instrument and then of rendering; `what`
+    /// names the stage. Emitted on the export's thread, like `finished`.
     void progressed(const QString& what, double done);
 
     /// The last signal. If the file was not written, `error` says why in one sentence; it is empty

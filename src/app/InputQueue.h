@@ -10,8 +10,9 @@ class QSocketNotifier;
 
 namespace velmora {
 
-/// Something that the receive threads leave to the main thread. The keys may have changed again
-/// before it is handled: practice may miss a key that is tapped within one turn of the event loop.
+/// An event that the MIDI receive threads pass to the main thread. The keys may have changed again
+/// before it is handled: practice may miss a key that is pressed and released within one turn of
+/// the event loop.
 struct InputEvent {
     enum class Kind {
         MidiInput, ///< The held keys have changed.

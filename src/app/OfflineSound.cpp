@@ -11,7 +11,8 @@ namespace velmora {
 
 namespace {
 
-/// The gain that `setVolume` takes: `getVolume` of a sampled instrument returns twice that.
+/// Returns the gain of a stop as `setVolume` takes it; `getVolume` of a sampled instrument returns
+/// twice that.
 float gainOf(const Instrument& instrument, std::size_t stop)
 {
     const auto* sampled = dynamic_cast<const ALInstrument*>(&instrument);

@@ -17,14 +17,14 @@ namespace velmora {
 
 class AppDelegate;
 
-/// What the application plays with at one moment, so that it can be created again elsewhere.
+/// The instrument and temperament of the application at one moment, to be created again elsewhere.
 struct SoundSettings {
     std::unique_ptr<Temperament> temperament;
     std::filesystem::path instrument; ///< A file; empty for the General MIDI player.
     InstrumentFormat format = InstrumentFormat::SoundFont; ///< The format of that file.
     std::vector<float> gains;                              ///< The gain of each stop.
     std::uint8_t program = 0;                              ///< The General MIDI program.
-    std::vector<std::filesystem::path> banks;
+    std::vector<std::filesystem::path> banks;              ///< The SoundFonts to try.
 };
 
 /// Returns the current settings of an application that has an instrument.
@@ -35,14 +35,14 @@ std::unique_ptr<Synthesizer>
 makeOfflineSynthesizer(double rate, const std::vector<std::filesystem::path>& banks);
 
 /// A player with an instrument and a temperament of its own, which shares nothing with live
-/// playing. To be created, played and destroyed on one thread.
+/// playing. Must be created, played and destroyed on one thread.
 class OfflineSound {
 public:
     /// Loads the instrument. Throws std::runtime_error if that fails: with a sentence, or with an
     /// empty message if the host cancels the import.
     OfflineSound(SoundSettings settings, double rate, InstrumentHost& host);
 
-    /// What the player sounds through.
+    /// The source of the player's sound.
     AudioSource& source() { return *source_; }
 
     Player& player() { return player_; }

@@ -12,18 +12,19 @@
 
 namespace velmora {
 
-/// Released keys and the spellings of a temperament fade 60 times a second.
+/// The interval at which released keys and the spellings of a temperament fade: 60 times a second.
 constexpr std::chrono::nanoseconds kFadeInterval{16'666'000};
 
-/// The factor by which they fade each time.
+/// The factor by which each fade multiplies them.
 constexpr double kFadeFactor = 0.9;
 
 /// Owns what sounds: which instrument and temperament are current, which instrument sounds each
 /// key, the keys of live input, and the lock that guards them all. Every function may be called on
 /// any thread; none of them allocates while keys are played.
 ///
-/// The instruments and temperaments themselves are borrowed. An instrument must outlive its entry
-/// here, a temperament its time as the current one.
+/// The instruments and temperaments themselves are borrowed. An instrument must exist until it is
+/// removed or the player is destroyed; a temperament, until another one is current or the player is
+/// destroyed.
 class Player : public SequenceHost {
 public:
     /// Makes an instrument the current one and tunes it. Keys that sound on the previous one go on
@@ -50,11 +51,11 @@ public:
         return true;
     }
 
-    /// A live key was pressed: marks it as held and sounds it at once. Keys beyond 0…127 are
-    /// ignored, and the velocity is clamped to 0…1.
+    /// Marks a live key as pressed and sounds it at once. Keys outside 0…127 are ignored, and the
+    /// velocity is clamped to 0…1.
     void keyOn(int key, float velocity);
 
-    /// A live key was released.
+    /// Marks a live key as released and stops it on every instrument that sounds it.
     void keyOff(int key);
 
     void play(int key, float velocity) override;
@@ -65,8 +66,8 @@ public:
     /// Ends every sound of every instrument at once and releases every live key.
     void silence();
 
-    /// Fades released keys and the spellings of the temperament by one step. To be called 60 times
-    /// a second.
+    /// Fades released keys and the spellings of the temperament by one step. Call this 60 times a
+    /// second.
     void fade();
 
 private:
@@ -76,7 +77,7 @@ private:
         std::bitset<kKeys> keys;
     };
 
-    // With the lock held:
+    // Called with the lock held:
     void start(int key, float velocity);
     void stopEverywhere(int key);
     void markCurrent(int key);
@@ -84,7 +85,7 @@ private:
     mutable std::mutex mutex_;
     Instrument* instrument_ = nullptr;
     Temperament* temperament_ = nullptr;
-    std::vector<Sounding> instruments_; ///< Every one that was current and was not removed.
+    std::vector<Sounding> instruments_; ///< All that have been current and were not removed.
     LiveKeys liveKeys_;
 };
 

@@ -28,12 +28,12 @@ struct RenderOptions {
 /// Receives the rendered sound block by block.
 using AudioSink = std::function<void(const float* left, const float* right, std::size_t frames)>;
 
-/// Receives the progress between blocks, from 0 to 1. Returns false to cancel.
+/// Receives the progress, from 0 to 1, at intervals. Returns false to cancel.
 using RenderProgress = std::function<bool(double done)>;
 
 /// Plays a sequence exactly as the program does, but on a clock of its own: without a device,
-/// faster than real time, and with the same result every time. `source` is what the player's
-/// instrument sounds through. To be used on one thread.
+/// faster than real time, and with the same result every time. `source` must produce the sound of
+/// the player's instrument. Use it on one thread only.
 class SequenceRenderer {
 public:
     SequenceRenderer(Player& player, AudioSource& source);

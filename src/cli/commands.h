@@ -10,7 +10,7 @@
 
 namespace velmora {
 
-/// The error of a well-formed command line that names something that does not exist.
+/// Thrown if a well-formed command line names something that does not exist.
 class UsageError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -22,8 +22,8 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
             const Selection& selection, const RenderOptions& options);
 
 /// Prints descriptions of tuning, instrument and sequence files, as text or as one JSON document
-/// per file. Prints a sentence on standard error for each unreadable file; returns whether there
-/// was none.
+/// per file. Prints a sentence on standard error for each file that cannot be read. Returns true if
+/// all could be read.
 bool info(const std::vector<std::filesystem::path>& files, bool json);
 
 /// Plays from the MIDI inputs until interrupted. Needs a QCoreApplication.

@@ -12,7 +12,7 @@ using Json = nlohmann::ordered_json;
 
 namespace {
 
-/// The key of pitch class C whose octave is described.
+/// The C from which the described octave starts.
 constexpr unsigned long kShownKey = 60;
 
 /// Nothing is played, so any rate will do.

@@ -19,8 +19,8 @@ struct Selection {
 };
 
 /// Reads an instrument file with the application as its host. Needs a current OpenAL context.
-/// Throws UsageError if the file name is not that of an instrument, or std::runtime_error with a
-/// sentence if the file cannot be read.
+/// Throws UsageError if the file's extension does not belong to an instrument format, or
+/// std::runtime_error with a sentence if the file cannot be read.
 std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path,
                                                    AppDelegate& application);
 
