@@ -7,6 +7,9 @@ namespace velmora {
 /// The bytes of MIDI messages ("MIDI 1.0 Detailed Specification", MIDI Manufacturers Association).
 namespace midi {
 
+/// The number of channels.
+constexpr int kChannels = 16;
+
 /// Set in every status byte, clear in every data byte.
 constexpr std::uint8_t kStatusBit = 0x80;
 

@@ -29,7 +29,7 @@ std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<Musi
 {
     device_.swap(device);
     // See docs/decisions.md, 38.
-    for (int channel = 0; channel < kChannels; ++channel)
+    for (int channel = 0; channel < midi::kChannels; ++channel)
         device_->midiEvent(midi::kControlChange | channel, midi::kBankSelect, 0);
     setInstrument(program_);
     return device;
@@ -70,7 +70,7 @@ void MIDIInstrument::stop(int key)
 
 void MIDIInstrument::silence()
 {
-    for (int channel = 0; channel < kChannels; ++channel)
+    for (int channel = 0; channel < midi::kChannels; ++channel)
         device_->midiEvent(midi::kControlChange | channel, midi::kAllSoundOff, 0);
 }
 
@@ -93,7 +93,7 @@ void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/
 void MIDIInstrument::setInstrument(std::uint8_t program)
 {
     program_ = program;
-    for (int channel = 0; channel < kChannels; ++channel)
+    for (int channel = 0; channel < midi::kChannels; ++channel)
         device_->midiEvent(midi::kProgramChange | channel, program, 0);
 }
 

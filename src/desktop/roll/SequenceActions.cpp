@@ -1,10 +1,10 @@
 #include "desktop/roll/SequenceActions.h"
 
 #include "desktop/widgets/icons.h"
+#include "midi/messages.h"
 #include "sequencer/NoteClipboard.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
-#include "sound/keys.h"
 
 #include <QActionGroup>
 #include <QClipboard>
@@ -82,7 +82,7 @@ QAction* SequenceActions::keyAction(const QString& text, int key, Qt::KeyboardMo
 void SequenceActions::makeChannels()
 {
     channelMenu_->setTitle(tr("&Channel"));
-    for (int channel = 0; channel < kChannels; ++channel) {
+    for (int channel = 0; channel < midi::kChannels; ++channel) {
         QAction* action = channels_->addAction(QString::number(channel + 1));
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, [this, channel] {
@@ -159,7 +159,7 @@ void SequenceActions::showOptions()
     loop->setChecked(document_.transport().loops());
     snap->setChecked(document_.recorder().snapToGrid());
     const auto actions = channels_->actions();
-    for (int channel = 0; channel < kChannels; ++channel)
+    for (int channel = 0; channel < midi::kChannels; ++channel)
         actions[channel]->setChecked(channel == document_.recorder().channel());
 }
 

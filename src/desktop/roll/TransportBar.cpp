@@ -1,9 +1,9 @@
 #include "desktop/roll/TransportBar.h"
 
 #include "desktop/roll/SequenceActions.h"
+#include "midi/messages.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceTime.h"
-#include "sound/keys.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -97,7 +97,7 @@ void TransportBar::addChannel()
     label->setMargin(4);
     label->setBuddy(channel_);
     addWidget(label);
-    for (int channel = 1; channel <= kChannels; ++channel)
+    for (int channel = 1; channel <= midi::kChannels; ++channel)
         channel_->addItem(QString::number(channel));
     channel_->setAccessibleName(tr("Channel"));
     channel_->setToolTip(
@@ -118,7 +118,7 @@ void TransportBar::showOptions()
         tempo_->setValue(tempo);
     }
     const int channel = document_.recorder().channel();
-    channel_->setCurrentIndex(channel < kChannels ? channel : -1);
+    channel_->setCurrentIndex(channel < midi::kChannels ? channel : -1);
     showPosition();
 }
 
