@@ -4,7 +4,7 @@
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/Commands.h"
 #include "midi/midiRead.h"
-#include "sequencer/KeyboardDocument.h"
+#include "sequencer/SequenceDocument.h"
 #include "sound/ALInstrument.h"
 
 #include <QtTest>
@@ -15,21 +15,6 @@
 
 namespace velmora {
 
-namespace {
-
-class LiveKeyStates : public KeyboardDocument {
-public:
-    explicit LiveKeyStates(const LiveKeys& keys) : keys_(keys) {}
-
-    int stateOfNote(unsigned key) const override { return keys_.state(key); }
-    void midiInput() override {}
-
-private:
-    const LiveKeys& keys_;
-};
-
-} // namespace
-
 TEST(LiveKeyboardWindow, PaintsWhileAMidiThreadPlays)
 {
     ALInstrument organ;
@@ -37,16 +22,19 @@ TEST(LiveKeyboardWindow, PaintsWhileAMidiThreadPlays)
     application.makeBuiltinTunings();
     application.setInstrument(organ, "Organ");
     application.selectTuning("Dynamic");
-    LiveKeyStates states(application.player().liveKeys());
+    SequenceDocument document(application.player());
     Commands commands(application);
     KeyboardWindow window(application, commands);
     KeyboardView& view = window.keyboard();
-    view.setDocument(&states);
+    view.setDocument(&document.practice());
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     std::size_t frames = 0;
     QObject::connect(&view, &QOpenGLWidget::frameSwapped, [&] { ++frames; });
-    QObject::connect(&application, &AppDelegate::midiInputReceived, &view, &KeyboardView::refresh);
+    QObject::connect(&application, &AppDelegate::midiInputReceived, &view, [&] {
+        document.practice().midiInput();
+        view.refresh();
+    });
 
     std::atomic<bool> isDone{false};
     std::thread device([&] {
