@@ -71,4 +71,9 @@ std::string lowerCase(std::string text)
     return text;
 }
 
+std::string counted(std::size_t count, std::string_view noun)
+{
+    return std::to_string(count) + ' ' + std::string(noun) + (count == 1 ? "" : "s");
+}
+
 } // namespace velmora

@@ -1,4 +1,5 @@
 #include "audio/OpenALLoopback.h"
+#include "base/Text.h"
 #include "cli/commands.h"
 #include "cli/instrumentInfo.h"
 #include "sequencer/SequenceFile.h"
@@ -82,10 +83,10 @@ void printTuning(const Json& tuning)
 
 void printSequence(const Json& sequence)
 {
-    fmt::print("{}: sequence of {} notes, {:.3f} steps long{}\n",
-               sequence["name"].get<std::string>(), sequence["notes"].size(),
-               sequence["extent"].get<double>(),
-               sequence["isImported"].get<bool>() ? "; the file contains more than its notes" : "");
+    fmt::print("{}: sequence of {}, {:.3f} steps long{}\n", sequence["name"].get<std::string>(),
+               counted(sequence["notes"].size(), "note"), sequence["extent"].get<double>(),
+               sequence["isImported"].get<bool>() ? "; the file holds more than Velmora keeps"
+                                                  : "");
     for (const Json& note : sequence["notes"])
         fmt::print("  start {:>11.4f}  length {:>10.4f}  key {:>3}  velocity {:.3f}  channel {}\n",
                    note["start"].get<double>(), note["length"].get<double>(),

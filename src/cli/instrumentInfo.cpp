@@ -1,5 +1,6 @@
 #include "cli/instrumentInfo.h"
 
+#include "base/Text.h"
 #include "sound/ALInstrument.h"
 
 #include <nlohmann/json.hpp>
@@ -86,14 +87,16 @@ Json describe(const InstrumentDocument& document)
 void printInstrument(const Json& instrument)
 {
     const Json& report = instrument["report"];
-    fmt::print("{}: {} instrument of {} stops, {} bytes of sound\n",
+    fmt::print("{}: {} instrument of {}, {} bytes of sound\n",
                instrument["name"].get<std::string>(), instrument["kind"].get<std::string>(),
-               instrument["stops"].size(), instrument["usage"].get<std::int64_t>());
+               counted(instrument["stops"].size(), "stop"),
+               instrument["usage"].get<std::int64_t>());
     for (std::size_t i = 0; i < instrument["stops"].size(); ++i)
         printStop(i, instrument["stops"][i]);
-    fmt::print("Loaded {} ranks, {} pipes, {} samples; skipped {}\n",
-               report["ranks"].get<std::size_t>(), report["pipes"].get<std::size_t>(),
-               report["samples"].get<std::size_t>(), report["skipped"].size());
+    fmt::print("Loaded {}, {}, {}; left out {}\n",
+               counted(report["ranks"].get<std::size_t>(), "rank"),
+               counted(report["pipes"].get<std::size_t>(), "pipe"),
+               counted(report["samples"].get<std::size_t>(), "sample"), report["skipped"].size());
     for (const Json& skipped : report["skipped"])
         fmt::print("  {}: {}\n", skipped["file"].get<std::string>(),
                    skipped["why"].get<std::string>());

@@ -9,7 +9,6 @@ namespace bank {
 
 void reportDone(std::size_t steps, const std::string& text, const Import& import)
 {
-    // The wording is fixed, including the "%k", so that logs of different versions can be compared.
     // See docs/decisions.md, 76.
     logger("import").debug("Done %k");
     import.host.updateProgress(static_cast<unsigned>(steps), text);

@@ -162,8 +162,7 @@ void readGigaSampler(const std::filesystem::path& path, Import& import)
 void readGigaSampler(const RIFF::File& file, Import& import)
 {
     file.check();
-    // The wording of what is logged here is fixed so that logs of different versions can be
-    // compared. A null pointer shows that a chunk is missing.
+    // See docs/decisions.md, 125. A null pointer in the log shows that a chunk is missing.
     const Logger log = logger("import");
     const auto* vers = file.get<RIFF::Chunk>(RIFF::code("vers"));
     log.debug("vers {}", fmt::ptr(vers));

@@ -190,7 +190,7 @@ std::string bytesOf(const std::filesystem::path& path)
         return readTextFile(path);
     } catch (const FormatError& error) {
         const Logger log = logger("import");
-        // The wording is fixed so that logs of different versions can be compared.
+        // See docs/decisions.md, 125.
         log.debug("Couldn't open File '{}'", path.string());
         log.warn("{}", error.inFile(path.string()));
         throw;

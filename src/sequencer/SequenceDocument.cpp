@@ -173,7 +173,7 @@ void SequenceDocument::updateExtent()
 {
     double extent = 0.0;
     for (const Note& note : sequence_.notes())
-        extent = std::max(extent, note.start + note.length + kRoomBehindLastNote);
+        extent = std::max(extent, extentOf(note));
     transport_.setExtent(extent);
 }
 
@@ -190,7 +190,7 @@ void SequenceDocument::swap(std::vector<NoteState>& notes)
     double extent = transport_.extent();
     for (const std::uint64_t id : ids)
         if (const Note* note = edit->find(id))
-            extent = std::max(extent, note->start + note->length + kRoomBehindLastNote);
+            extent = std::max(extent, extentOf(*note));
     transport_.setExtent(extent);
 }
 

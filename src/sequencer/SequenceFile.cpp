@@ -94,8 +94,7 @@ SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyR
         for (const MidiEvent& event : track) {
             if (const auto note = keptNote(file, event, keyRangeLo, keyRangeHi)) {
                 sequence.addNote(*note);
-                result.extent =
-                    std::max(result.extent, note->start + note->length + kRoomBehindLastNote);
+                result.extent = std::max(result.extent, extentOf(*note));
             } else {
                 // See docs/decisions.md, 86.
                 result.isImported = true;

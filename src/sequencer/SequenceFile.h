@@ -27,6 +27,12 @@ constexpr double kStepsPerFileSecond = 16.0;
 /// The distance from the end of the last note to the end of a sequence, in steps.
 constexpr double kRoomBehindLastNote = 32.0;
 
+/// The extent in steps of a sequence that ends with this note.
+inline double extentOf(const Note& note)
+{
+    return note.start + note.length + kRoomBehindLastNote;
+}
+
 /// What a document keeps of a file besides its notes.
 struct SequenceFile {
     double extent = 0.0;     ///< In steps: the end of the last note and 32 more; 0 without notes.

@@ -180,7 +180,7 @@ TEST_F(CommandLine, DescribesFiles)
     EXPECT_THAT(text.out, HasSubstr("song.mid: sequence of 1 note"))
         << "continues with the next file";
     EXPECT_THAT(text.out, HasSubstr("Test: Organ instrument of 2 stops, 384000 bytes of sound\n"));
-    EXPECT_THAT(text.out, HasSubstr("Loaded 2 ranks, 2 pipes, 2 samples; skipped 1\n"));
+    EXPECT_THAT(text.out, HasSubstr("Loaded 2 ranks, 2 pipes, 2 samples; left out 1\n"));
 }
 
 } // namespace velmora
