@@ -87,8 +87,10 @@ void Recorder::take(double from, double until)
     // A late tick looks at the keys as often as the ticks before it would have, so that each key is
     // taken at the position of its arrival.
     const double interval = std::max(kLookInterval, (until - from) / kMostLooks);
-    for (; until - from > interval; from += interval)
+    while (until - from > interval) {
         takeKeys(from, from + interval);
+        from += interval;
+    }
     takeKeys(from, until);
     if (transport_.position() != before)
         transport_.revealPosition();
