@@ -1,16 +1,12 @@
 #include "preferences/Preferences.h"
 
-#include "base/Log.h"
 #include "preferences/Color.h"
+#include "support/Log.h"
 
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
-#include <spdlog/sinks/ostream_sink.h>
-#include <spdlog/spdlog.h>
-
-#include <sstream>
 
 namespace velmora {
 
@@ -31,28 +27,26 @@ TEST(Preferences, ToleratesADamagedFile)
                "KeyRangeHi=5\nKeyNames=perhaps\nNoteColor=1, 0, 0\nKeyColor=0, 2, 0, 1\n"
                "KeyColorWrong=0.25, 0.5, 0.75, 1\nGMBank=/bank.sf2\n");
     file.close();
-    std::ostringstream log;
-    logger("preferences"); // registers it with spdlog
-    spdlog::get("preferences")->sinks() = {std::make_shared<spdlog::sinks::ostream_sink_st>(log)};
-    spdlog::get("preferences")->set_pattern("%v");
-
-    for (int reading = 0; reading < 2; ++reading) {
-        EXPECT_EQ(getPrefInt("KeyWidth"), 14);
-        EXPECT_EQ(getPrefInt("KeyHeight"), 1);
-        EXPECT_EQ(getPrefInt("KeyRangeLo"), 126);
-        EXPECT_EQ(getPrefInt("KeyRangeHi"), 127);
-        EXPECT_TRUE(getPrefBool("KeyNames"));
-        EXPECT_EQ(getPrefString("GMBank"), "/bank.sf2");
-        EXPECT_EQ(getPrefInt("NoSuchKey"), 0);
-        EXPECT_THAT(Color("KeyColorWrong"), FieldsAre(0.25F, 0.5F, 0.75F, 1.0F));
-        EXPECT_THAT(Color("KeyColorCorrect"), FieldsAre(1.0F, 0.7F, 0.0F, 1.0F)) << "a default";
-        for (const char* unreadable : {"NoteColor", "KeyColor", "NoSuchKey"})
-            EXPECT_THAT(Color(unreadable), FieldsAre(0, 0, 0, 0)) << unreadable;
-    }
-    EXPECT_EQ(log.str(), file.fileName().toStdString() +
-                             " is damaged; using defaults for missing values\n"
-                             "the preference KeyWidth is not a whole number; using its default\n"
-                             "the preference KeyNames is not true or false; using its default\n");
+    const auto readTwice = [] {
+        for (int reading = 0; reading < 2; ++reading) {
+            EXPECT_EQ(getPrefInt("KeyWidth"), 14);
+            EXPECT_EQ(getPrefInt("KeyHeight"), 1);
+            EXPECT_EQ(getPrefInt("KeyRangeLo"), 126);
+            EXPECT_EQ(getPrefInt("KeyRangeHi"), 127);
+            EXPECT_TRUE(getPrefBool("KeyNames"));
+            EXPECT_EQ(getPrefString("GMBank"), "/bank.sf2");
+            EXPECT_EQ(getPrefInt("NoSuchKey"), 0);
+            EXPECT_THAT(Color("KeyColorWrong"), FieldsAre(0.25F, 0.5F, 0.75F, 1.0F));
+            EXPECT_THAT(Color("KeyColorCorrect"), FieldsAre(1.0F, 0.7F, 0.0F, 1.0F)) << "a default";
+            for (const char* unreadable : {"NoteColor", "KeyColor", "NoSuchKey"})
+                EXPECT_THAT(Color(unreadable), FieldsAre(0, 0, 0, 0)) << unreadable;
+        }
+    };
+    EXPECT_EQ(logOf(readTwice),
+              "preferences: " + file.fileName().toStdString() +
+                  " is damaged; using defaults for missing values\n"
+                  "preferences: the preference KeyWidth is not a whole number; using its default\n"
+                  "preferences: the preference KeyNames is not true or false; using its default\n");
 
     setPrefInt("KeyWidth", 20);
     setPrefColor("KeyColorWrong", Color(QColor(0, 255, 0)));

@@ -1,16 +1,14 @@
 #include "sequencer/SequenceEditor.h"
 
-#include "base/Log.h"
 #include "sequencer/NoteClipboard.h"
+#include "support/Log.h"
 #include "support/SequenceTest.h"
 
 #include <gmock/gmock.h>
-#include <spdlog/sinks/ostream_sink.h>
-#include <spdlog/spdlog.h>
 
 #include <algorithm>
 #include <random>
-#include <sstream>
+#include <string>
 
 namespace velmora {
 
@@ -186,16 +184,12 @@ TEST_F(SequenceEditorTest, IdentifiesKeysByTheirPosition)
     EXPECT_EQ(transport_.mode(), Transport::Mode::Recording);
 
     calls_.clear();
-    std::ostringstream log;
-    logger("sequencer"); // registers it with spdlog
-    const auto sequencer = spdlog::get("sequencer");
-    sequencer->sinks() = {std::make_shared<spdlog::sinks::ostream_sink_st>(log)};
-    sequencer->set_pattern("%v");
-    sequencer->set_level(spdlog::level::debug);
-    type(Qt::Key_F5, kNone, 71);
-    type(Qt::Key_Shift, kShift, 50);
-    editor_.keyDown({QEvent::KeyPress, Qt::Key_S, kCommand, 39, 0, 0});
-    EXPECT_EQ(log.str(), "case 71:\ncase 39:\n");
+    const std::string log = logOf([&] {
+        type(Qt::Key_F5, kNone, 71);
+        type(Qt::Key_Shift, kShift, 50);
+        editor_.keyDown({QEvent::KeyPress, Qt::Key_S, kCommand, 39, 0, 0});
+    });
+    EXPECT_EQ(log, "sequencer: case 71:\nsequencer: case 39:\n");
     EXPECT_EQ(calls_, Calls{}) << "a disabled shortcut plays nothing";
 }
 
