@@ -6,8 +6,8 @@ namespace velmora {
 
 class AppDelegate;
 
-/// The application's list of instruments as a table: one row each, with its name and its size in
-/// memory.
+/// The application's list of instruments as a table. Each row shows the name of an instrument and
+/// its size in memory.
 class InstrumentsModel : public QAbstractTableModel {
 public:
     InstrumentsModel(AppDelegate& application, QObject* parent);

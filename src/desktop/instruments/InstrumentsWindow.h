@@ -29,7 +29,7 @@ signals:
     /// The user wants the instrument at `position` of the list to be the current one.
     void instrumentChosen(std::size_t position);
 
-    /// The user's wish cannot be granted; `message` says why and what to do.
+    /// A request of the user was refused; `message` says why and what to do.
     void refused(const QString& message);
 
 private:

@@ -10,8 +10,9 @@ class QProgressBar;
 
 namespace velmora {
 
-/// Shows the progress of an import and lets the user cancel it. It is modal: meanwhile the user can
-/// only play. The import reports its steps to it, and each report processes pending events.
+/// Shows the progress of an import and lets the user cancel it. It is modal: during the import, the
+/// user can only play or cancel. The import calls it for each step; some of these calls process
+/// pending events, so that the program stays responsive.
 class ProgressWindow : public QDialog {
     Q_OBJECT
 
@@ -21,17 +22,15 @@ public:
     /// Opens the window for an import of `steps` steps.
     void startProgress(long steps);
 
-    /// Advances by `steps` and shows `text`; 0 changes nothing. The last step closes the window.
+    /// Advances by `steps` and shows `text`. Closes the window when the number of steps is
+    /// reached exactly. 0 steps change nothing.
     void updateProgress(unsigned steps, const std::string& text);
 
     /// Closes the window, whether or not all steps were done.
     void endProgress();
 
-    QProgressBar* bar() const { return bar_; }
-    QLabel* label() const { return label_; }
-
 signals:
-    /// The user wants the import to stop. The window stays open until it has.
+    /// The user wants the import to stop. The window stays open until the import has stopped.
     void cancelled();
 
 private:
@@ -39,7 +38,7 @@ private:
 
     QProgressBar* bar_;
     QLabel* label_;
-    QElapsedTimer sinceEvents_; ///< Runs since events were last processed.
+    QElapsedTimer sinceEvents_; ///< The time since events were last processed.
 };
 
 } // namespace velmora

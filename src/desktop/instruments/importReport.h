@@ -10,7 +10,7 @@ namespace velmora {
 
 class InstrumentDocument;
 
-/// A clause such as "2 files or samples were left out", without a full stop.
+/// Returns a clause such as "2 files or samples were left out", without a full stop.
 QString leftOutText(std::size_t count);
 
 /// Shows what was imported with an instrument and what was left out. Returns when the user closes

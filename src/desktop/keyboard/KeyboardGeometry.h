@@ -21,7 +21,7 @@ struct KeyQuad {
 };
 
 /// The layout of an on-screen keyboard. Seven white keys are as wide as twelve semitones, so an
-/// octave is as wide as an octave of the piano roll. Lengths are in pixels; y grows upwards.
+/// octave is as wide as in the piano roll. Lengths are in pixels; y grows upwards.
 struct KeyboardGeometry {
     /// The width of a semitone.
     int keyWidth;
@@ -30,7 +30,7 @@ struct KeyboardGeometry {
     int lo;
     int hi;
 
-    /// One semitone per key.
+    /// The width of all keys if each were a semitone wide.
     int width() const { return keyWidth * (hi - lo + 1); }
 
     /// The right edge of the last white key or `width()`, whichever is greater. Keys are drawn and

@@ -21,7 +21,8 @@ namespace {
 constexpr int kDefaultHeight = 120;
 constexpr int kMinHeight = 48;
 
-/// The height of the letters in pixels. Keys too narrow for the smallest ones have no names.
+/// The range of the letters' height in pixels. No names are shown if the keys are too narrow for
+/// the smallest letters.
 constexpr int kMinLetter = 7;
 constexpr int kMaxLetter = 13;
 
@@ -57,8 +58,7 @@ const Color* KeyboardView::Picture::color(int state) const
     }
 }
 
-KeyboardView::KeyboardView(LiveInput& player, QWidget* parent)
-    : QOpenGLWidget(parent), player_(player)
+KeyboardView::KeyboardView(LiveInput& input, QWidget* parent) : QOpenGLWidget(parent), input_(input)
 {
     setAccessibleName(tr("Piano keyboard"));
     setFocusPolicy(Qt::StrongFocus);
@@ -196,10 +196,10 @@ void KeyboardView::press(int key)
     if (key == pressedKey_)
         return;
     if (pressedKey_ != kNoKey)
-        player_.keyOff(pressedKey_);
+        input_.keyOff(pressedKey_);
     pressedKey_ = key;
     if (key != kNoKey)
-        player_.keyOn(key, 1.0F); // docs/decisions.md, 43
+        input_.keyOn(key, 1.0F); // docs/decisions.md, 43
     if (document_ != nullptr)
         document_->midiInput();
 }

@@ -20,15 +20,15 @@ class KeyboardView : public QOpenGLWidget {
     Q_OBJECT
 
 public:
-    /// `player` plays the keys that the mouse presses; it must outlive the view.
-    explicit KeyboardView(LiveInput& player, QWidget* parent = nullptr);
+    /// `input` receives the keys that the mouse presses; it must outlive the view.
+    explicit KeyboardView(LiveInput& input, QWidget* parent = nullptr);
 
-    /// Sets the document whose key states are shown and which is told of keys that the mouse plays;
-    /// null for none. It must be replaced before it is destroyed.
+    /// Sets the document that supplies the key states and is told of keys that the mouse plays;
+    /// null for none. A document must be replaced before it is destroyed.
     void setDocument(KeyboardDocument* document);
     KeyboardDocument* document() const { return document_; }
 
-    /// Repaints soon if that would change the picture.
+    /// Schedules a repaint if the picture has changed.
     void refresh();
 
     /// Makes the window as wide as its keys, but no wider than the screen. Does nothing if the
@@ -65,7 +65,7 @@ private:
     void drawKeys(const Picture& picture) const;
     void drawNames(const Picture& picture);
 
-    /// The x coordinate of the first key.
+    /// The x coordinate of the first key in the view.
     int origin(const KeyboardGeometry& geometry) const;
     int keyAt(const QPointF& point) const;
 
@@ -74,7 +74,7 @@ private:
 
     static constexpr int kNoKey = -1;
 
-    LiveInput& player_;
+    LiveInput& input_;
     KeyboardDocument* document_ = nullptr;
     int pressedKey_ = kNoKey;
     std::optional<Picture> painted_;

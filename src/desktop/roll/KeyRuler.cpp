@@ -14,7 +14,8 @@ namespace {
 
 constexpr int kRulerHeight = 30;
 
-/// The height of the letters in pixels. Keys too narrow for the smallest ones have no names.
+/// The range of the letters' height in pixels. No names are shown if the keys are too narrow for
+/// the smallest letters.
 constexpr int kMinRulerLetter = 6;
 constexpr int kMaxRulerLetter = 11;
 

@@ -10,7 +10,7 @@ class KeyRuler : public QWidget {
 public:
     explicit KeyRuler(QWidget* parent = nullptr);
 
-    /// Puts the point `x` of the roll, in pixels, at the left edge.
+    /// Moves the point `x` of the roll, in pixels, to the left edge.
     void scrollTo(int x);
 
 private:

@@ -10,8 +10,8 @@ namespace {
 /// Half the width of a note of velocity 0.
 constexpr double kMinHalfWidth = 2.0;
 
-/// Taken off half a column before `kMinHalfWidth` is added: the loudest note leaves two pixels of
-/// its column free on each side.
+/// Subtracted from half a column before `kMinHalfWidth` is added, so that the loudest note leaves
+/// two pixels of its column free on each side.
 constexpr double kColumnMargin = 4.0;
 
 } // namespace
@@ -51,7 +51,7 @@ RollQuad RollGeometry::note(const Note& note) const
 
 RollPoint RollGeometry::pointAt(double mouseX, double mouseY) const
 {
-    // A pixel shows what is above its lower edge.
+    // A mouse position stands for the lower left corner of its pixel.
     const double key = std::trunc((mouseX + x) / keyWidth);
     return {std::clamp(key, 0.0, kKeys - 1.0), (height - 1.0 - mouseY + y) / keyHeight};
 }

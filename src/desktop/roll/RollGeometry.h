@@ -30,7 +30,7 @@ struct RollGeometry {
 
     static constexpr int kKeys = 128;
 
-    /// The size of the whole roll of a sequence of `steps` steps.
+    /// The size of the whole roll for a sequence of `steps` steps.
     double rollWidth() const { return static_cast<double>(keyWidth) * kKeys; }
     double rollHeight(double steps) const { return keyHeight * steps; }
 
@@ -43,8 +43,8 @@ struct RollGeometry {
     int firstStep() const;
     int endStep() const;
 
-    /// The left edge of a column and the lower edge of a step. Both are whole pixels if the scroll
-    /// position is.
+    /// The left edge of a column and the lower edge of a step. Both are whole numbers if the
+    /// argument and the scroll position are.
     double xOf(double key) const { return key * keyWidth - x; }
     double yOf(double step) const { return step * keyHeight - y; }
 
@@ -56,7 +56,7 @@ struct RollGeometry {
     /// are wider.
     RollQuad note(const Note& note) const;
 
-    /// The key, 0…127, and the step under a mouse position, which is relative to the upper left
+    /// The key, 0…127, and the step at a mouse position, which is relative to the upper left
     /// corner of the view.
     RollPoint pointAt(double mouseX, double mouseY) const;
 

@@ -16,8 +16,8 @@ public:
     /// Indexes the notes. Must be called again after notes are added, removed, moved or resized.
     void rebuild(const std::vector<Note>& notes);
 
-    /// Calls `use` for each note that touches the steps from `from` to `to`, in list order. `notes`
-    /// must be the notes of the last `rebuild`.
+    /// Calls `use` for each note that touches the time between the steps `from` and `to`, in list
+    /// order. `notes` must be the notes that were last indexed.
     template <class Use>
     void visit(const std::vector<Note>& notes, double from, double to, Use use) const
     {

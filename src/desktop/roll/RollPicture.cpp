@@ -18,8 +18,8 @@ constexpr float kIntervalOpacity = 0.5F;
 /// The distance between the darker grid lines.
 constexpr int kStepsPerBar = 8;
 
-/// The height of a step in pixels below which only the darker grid lines are drawn, because all of
-/// them would cover the roll.
+/// If a step is lower than this many pixels, only the darker grid lines are drawn, because all the
+/// lines together would cover the roll.
 constexpr int kMinGridStep = 3;
 
 using Shade = decltype(RollVertex::color);
@@ -30,17 +30,18 @@ Shade shade(const Color& color, float alpha)
     return {byte(color.red), byte(color.green), byte(color.blue), byte(alpha)};
 }
 
+/// Returns a gray of level 0, black, to 255, white.
 constexpr Shade gray(std::uint8_t level)
 {
     return {level, level, level, 255};
 }
 
 constexpr Shade kWhiteKey = gray(255);
-constexpr Shade kBlackKey = gray(179); // 0.7
+constexpr Shade kBlackKey = gray(179); // 70 %
 constexpr Shade kMiddleCKey{255, 255, 179, 255};
-constexpr Shade kColumnLine = gray(77); // 0.3
-constexpr Shade kStepLine = gray(204);  // 0.8
-constexpr Shade kBarLine = gray(153);   // 0.6
+constexpr Shade kColumnLine = gray(77); // 30 %
+constexpr Shade kStepLine = gray(204);  // 80 %
+constexpr Shade kBarLine = gray(153);   // 60 %
 
 Shade columnShade(int key)
 {
@@ -49,7 +50,7 @@ Shade columnShade(int key)
     return isBlackKey(key) ? kBlackKey : kWhiteKey;
 }
 
-/// The colour half-way to white.
+/// Returns the colour half-way between `color` and white.
 QColor light(const QColor& color)
 {
     return QColor::fromRgbF((color.redF() + 1) / 2, (color.greenF() + 1) / 2,
@@ -59,7 +60,7 @@ QColor light(const QColor& color)
 } // namespace
 
 // The roll is white in every theme, so the selected time is a light tint of the selection colour,
-// in which selected notes stand out.
+// against which selected notes stand out.
 RollColors::RollColors(const QPalette& palette)
     : note("NoteColor"), playing("NoteColorPlaying"),
       selected(palette.color(QPalette::Active, QPalette::Highlight)),

@@ -15,7 +15,7 @@ namespace velmora {
 
 class SequenceDocument;
 
-/// The colours of the piano roll that the preferences and the theme determine.
+/// The colours of the piano roll that depend on the preferences and the theme.
 struct RollColors {
     Color note;
     Color playing;
@@ -34,8 +34,7 @@ struct RollVertex {
 };
 
 /// The picture of a piano roll: quads of four vertices each, drawn in order on white. Only a range
-/// in the middle is blended, because software renderers draw opaque quads in a fraction of the
-/// time.
+/// in the middle is blended, because software renderers draw opaque quads many times faster.
 class RollPicture {
 public:
     /// Replaces the picture with the visible part of a document. `line` is the thickness of a line
@@ -58,7 +57,7 @@ private:
                   const SequenceDocument& document, const RollIndex& index);
     void addGrid(const RollGeometry& geometry, double line);
 
-    std::vector<RollVertex> vertices_; ///< Reused, so that pictures need no new memory.
+    std::vector<RollVertex> vertices_; ///< Kept between pictures to reuse its memory.
     std::size_t blendedBegin_ = 0, blendedEnd_ = 0;
 };
 

@@ -26,7 +26,7 @@ QAction* checkable(const char* picture, const QString& text, const QKeySequence&
     return action;
 }
 
-QAction* named(QAction* action, const char* picture, QKeySequence::StandardKey shortcut)
+QAction* withIcon(QAction* action, const char* picture, QKeySequence::StandardKey shortcut)
 {
     action->setIcon(icon(picture));
     action->setShortcut(shortcut);
@@ -41,13 +41,13 @@ SequenceActions::SequenceActions(SequenceDocument& document, SequenceEditor& edi
                      tr("Repeat the selected time, or the whole sequence"), this)),
       snap(checkable("snap", tr("Snap to &Grid"), QKeySequence(Qt::CTRL | Qt::Key_G),
                      tr("Align notes and times with whole steps"), this)),
-      undo(named(document.undoStack().createUndoAction(this, tr("&Undo")), "undo",
-                 QKeySequence::Undo)),
-      redo(named(document.undoStack().createRedoAction(this, tr("&Redo")), "redo",
-                 QKeySequence::Redo)),
-      cut(named(new QAction(tr("Cu&t"), this), "cut", QKeySequence::Cut)),
-      copy(named(new QAction(tr("&Copy"), this), "copy", QKeySequence::Copy)),
-      paste(named(new QAction(tr("&Paste"), this), "paste", QKeySequence::Paste)),
+      undo(withIcon(document.undoStack().createUndoAction(this, tr("&Undo")), "undo",
+                    QKeySequence::Undo)),
+      redo(withIcon(document.undoStack().createRedoAction(this, tr("&Redo")), "redo",
+                    QKeySequence::Redo)),
+      cut(withIcon(new QAction(tr("Cu&t"), this), "cut", QKeySequence::Cut)),
+      copy(withIcon(new QAction(tr("&Copy"), this), "copy", QKeySequence::Copy)),
+      paste(withIcon(new QAction(tr("&Paste"), this), "paste", QKeySequence::Paste)),
       document_(document), editor_(editor),
       delete_(keyAction(tr("&Delete") + "\tDel", Qt::Key_Delete)),
       selectAll_(new QAction(tr("Select &All"), this)),
@@ -172,7 +172,8 @@ void SequenceActions::showSelection()
 
 void SequenceActions::showClipboard()
 {
-    // This asks the program that owns the clipboard, so it is only done when the content changes.
+    // This query goes to the program that owns the clipboard, so it is made only when the content
+    // changes.
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     paste->setEnabled(data != nullptr && data->hasFormat(kNotesMimeType));
 }

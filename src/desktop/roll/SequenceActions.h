@@ -21,7 +21,7 @@ class SequenceActions : public QObject {
     Q_OBJECT
 
 public:
-    /// Both must outlive the actions.
+    /// The document and the editor must outlive the actions.
     SequenceActions(SequenceDocument& document, SequenceEditor& editor);
     ~SequenceActions() override;
 
@@ -42,7 +42,7 @@ private:
     void copyNotes(const std::vector<Note>& notes);
     void pasteNotes();
 
-    /// Creates an action that does what a key does in the piano roll.
+    /// Creates an action with the same effect as a key in the piano roll.
     QAction* keyAction(const QString& text, int key, Qt::KeyboardModifiers modifiers = {});
 
     SequenceDocument& document_;

@@ -22,7 +22,7 @@ constexpr int kPixelsPerNotch = 64;
 /// A notch changes the scale by an eighth, but at least by one pixel.
 constexpr int kZoomDivisor = 8;
 
-/// The maximum of a scroll bar in pixels, because the height of a roll may not fit into an int.
+/// The largest value of a scroll bar in pixels. The height of a roll may not fit into an int.
 constexpr double kMaxBarValue = 1e9;
 
 int barValue(double pixels)

@@ -32,16 +32,16 @@ public:
     /// The point at the lower left corner.
     QPoint location() const;
 
-    /// Makes steps higher or keys wider by some notches of the wheel; negative notches do the
-    /// opposite.
+    /// Makes the steps taller or the keys wider, as if the wheel had turned by this many notches;
+    /// negative notches do the opposite.
     void zoomSteps(int notches);
     void zoomKeys(int notches);
 
 signals:
-    /// The scale in the preferences has changed: every view that shows keys must follow.
+    /// The scale in the preferences has changed; every view that shows keys must be updated.
     void zoomed();
 
-    /// The user, and not the document, has scrolled the roll.
+    /// The user has scrolled the roll. Scrolling by the program is not reported.
     void scrolledByUser();
 
 protected:
@@ -60,10 +60,11 @@ private:
     QScrollBar *horizontal_, *vertical_;
     double steps_ = 0.0;
 
-    /// The scale that the location refers to.
+    /// The scale to which the values of the scroll bars refer.
     int keyWidth_, keyHeight_;
 
-    /// The point of the view that stays in place during a zoom; the middle if there is none.
+    /// The point that stays in place during a zoom, in pixels from the lower left corner of the
+    /// view; the middle of the view if it is empty.
     std::optional<QPointF> anchor_;
 
     QPoint wheelRemainder_; ///< Rotation towards the next notch, in eighths of a degree.

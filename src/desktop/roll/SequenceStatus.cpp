@@ -69,7 +69,7 @@ void SequenceStatus::showMode()
         break;
     case Transport::Mode::Recording:
         mode_->setText(tr("Recording"));
-        showNotes(); // a recording announces its notes by `frame` alone
+        showNotes(); // while recording, only `frame` announces new notes
         break;
     case Transport::Mode::Stopped:
         mode_->setText(practiceText());

@@ -8,8 +8,8 @@ namespace velmora {
 
 class SequenceDocument;
 
-/// The status bar of a sequence window: whether it plays or records, which keys practice waits for,
-/// what is selected, and the number of notes.
+/// The status bar of a sequence window. It shows whether the sequence is playing or being recorded,
+/// which keys practice waits for, what is selected, and the number of notes.
 class SequenceStatus : public QStatusBar {
     Q_OBJECT
 

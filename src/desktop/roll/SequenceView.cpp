@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kAutoScrollMilliseconds = 16;
 
-/// The fraction of the mouse's distance from the edge that is scrolled each time.
+/// The part of the mouse's distance from the edge by which the roll scrolls each time.
 constexpr double kAutoScrollFraction = 0.25;
 
 } // namespace
@@ -71,7 +71,7 @@ void SequenceView::redraw()
 
 void SequenceView::updateIndex()
 {
-    // A recording changes its notes at every tick.
+    // While recording, the notes change at every tick.
     if (!std::exchange(isIndexed_, document_->transport().mode() != Transport::Mode::Recording))
         index_.rebuild(document_->sequence().notes());
 }

@@ -17,17 +17,17 @@ class SequenceView : public QOpenGLWidget {
 public:
     explicit SequenceView(QWidget* parent = nullptr);
 
-    /// Sets the document to show and the editor for it; with null the view is empty. Both must be
-    /// replaced before they are destroyed.
+    /// Sets the document to show and the editor for it; two null pointers leave the view empty.
+    /// Both must be replaced before they are destroyed.
     void setDocument(const SequenceDocument* document, SequenceEditor* editor);
 
-    /// Puts a point of the roll, in pixels, at the lower left corner of the view.
+    /// Moves a point of the roll, in pixels, to the lower left corner of the view.
     void scrollTo(QPoint point);
 
     /// The visible part, at the scale of the preferences.
     RollGeometry rollGeometry() const;
 
-    /// Repaints soon; the notes may have changed.
+    /// Schedules a repaint after the notes may have changed.
     void redraw();
 
     /// Forwards a key that was pressed or released here or in another window. Ignores presses
@@ -35,8 +35,8 @@ public:
     void handleKey(const QKeyEvent& event);
 
 signals:
-    /// The mouse drags beyond the edge of the view: the roll should scroll by `pixels` to the right
-    /// and up.
+    /// The mouse is being dragged beyond the edge of the view; the roll should scroll by `pixels`
+    /// to the right and up.
     void draggedBeyondEdge(QPoint pixels);
 
 protected:

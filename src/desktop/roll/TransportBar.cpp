@@ -21,7 +21,7 @@ namespace {
 constexpr int kMinTempo = 20;
 constexpr int kMaxTempo = 400;
 
-/// The time of a step in minutes, seconds and tenths, such as "1:05.3".
+/// Returns the time of a step in minutes, seconds and tenths, such as "1:05.3".
 QString timeText(double step, double tempo)
 {
     const double seconds = std::max(0.0, step / stepsPerSecond(tempo));
@@ -66,7 +66,7 @@ void TransportBar::addButton(QAction& action, const QString& otherTitle)
     addAction(&action);
     auto* button = qobject_cast<QToolButton*>(widgetForAction(&action));
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    // Wide enough for either title, so that nothing moves when it changes.
+    // The button has room for either title, so that nothing moves when the title changes.
     const int spread = fontMetrics().horizontalAdvance(otherTitle) -
                        fontMetrics().horizontalAdvance(action.iconText());
     button->setMinimumWidth(button->sizeHint().width() + std::max(0, spread));
@@ -85,7 +85,7 @@ void TransportBar::addTempo()
     connect(tempo_, &QSpinBox::valueChanged, this,
             [this](int tempo) { document_.transport().setTempo(tempo); });
     connect(tempo_, &QSpinBox::editingFinished, this, [this] {
-        if (tempo_->hasFocus()) // otherwise the user has already moved on
+        if (tempo_->hasFocus()) // otherwise the user has already moved the focus
             emit done();
     });
     addWidget(tempo_);

@@ -11,17 +11,16 @@ namespace velmora {
 class SequenceActions;
 class SequenceDocument;
 
-/// The toolbar of a sequence window: recording, playing, loop, grid, tempo, channel and the
-/// position.
+/// The toolbar of a sequence window: record, play, loop, grid, tempo, channel and position.
 class TransportBar : public QToolBar {
     Q_OBJECT
 
 public:
-    /// Both must outlive the toolbar.
+    /// The document and the actions must outlive the toolbar.
     TransportBar(SequenceDocument& document, SequenceActions& actions);
 
 signals:
-    /// The user has finished with a field: the piano roll should get the keyboard focus back.
+    /// The user has finished with a field; the piano roll should get the keyboard focus back.
     void done();
 
 private:

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QObject>
-#include <QStringList>
+#include <QString>
 
+#include <cstddef>
 #include <memory>
 
 class QAction;

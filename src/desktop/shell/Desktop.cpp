@@ -41,7 +41,7 @@ Desktop::Desktop()
     for (QWidget* window : std::initializer_list<QWidget*>{
              &keyboardWindow_, &instrumentPanel_, &instrumentsWindow_, &preferencesWindow_})
         fileDrop_.watch(*window);
-    progressWindow_.addAction(commands_.silence); // it is modal and blocks the other windows' keys
+    progressWindow_.addAction(commands_.silence); // it is modal and blocks other windows' shortcuts
     connect(&fileDrop_, &FileDrop::dropped, this, &Desktop::open, Qt::QueuedConnection);
     connect(&application_, &AppDelegate::bankLoaded, this, &Desktop::showBank);
     connect(&application_, &AppDelegate::midiInputReceived, this, [this] {
@@ -79,7 +79,7 @@ void Desktop::connectCommands()
     presents(commands_.preferences, preferencesWindow_);
     connect(commands_.open, &QAction::triggered, this, &Desktop::askForFiles);
     connect(commands_.silence, &QAction::triggered, this, [this] {
-        sequenceWindows_.stopPlaying(); // otherwise the next note would sound
+        sequenceWindows_.stopPlaying(); // otherwise their next notes would sound
         application_.silenceAll();
     });
     // The windows are not closed one by one, so that the open ones are reopened next time.
@@ -154,7 +154,7 @@ void Desktop::openFile(const QString& path)
     else if (sequenceFormatOf(file))
         openSequence(path);
     else
-        showError(tr("%1: unrecognised file type. Velmora knows a file by the end of its name, "
+        showError(tr("%1: unrecognised file type. Velmora recognises files by their extensions, "
                      "such as .mid, .scl or .sf2.")
                       .arg(QFileInfo(path).fileName()));
 }
@@ -214,7 +214,7 @@ void Desktop::openSequence(const QString& path)
 
 void Desktop::selectInstrument(std::size_t position)
 {
-    // An unloaded instrument is read again, and events are processed meanwhile.
+    // Reading an unloaded instrument again processes events; files opened meanwhile must wait.
     const bool wasOpening = std::exchange(isOpening_, true);
     const bool isSelected = application_.selectInstrument(position);
     progressWindow_.endProgress();

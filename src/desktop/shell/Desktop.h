@@ -18,7 +18,7 @@
 
 namespace velmora {
 
-/// The desktop program: the application with its windows. It opens files by their type.
+/// The desktop program: the application with its windows. It opens files according to their type.
 class Desktop : public QObject {
     Q_OBJECT
 
@@ -27,7 +27,8 @@ public:
     Desktop();
     ~Desktop() override;
 
-    /// Starts sound and MIDI. The status line lists what the machine does not have.
+    /// Starts sound and MIDI, and offers to recover unsaved sequences. The status line shows which
+    /// devices are missing.
     void launch();
 
     /// Opens files one after the other; a message box explains each failure. Brings the keyboard
@@ -66,7 +67,7 @@ private:
     ProgressWindow progressWindow_;
     GuideWindow guideWindow_;
     SequenceWindows sequenceWindows_;
-    QString bankNotice_;  ///< The notice about the General MIDI bank; empty if it sounds.
+    QString bankNotice_;  ///< The current notice about the General MIDI bank; may be empty.
     QStringList waiting_; ///< Files to open after the current one.
     bool isOpening_ = false;
 };

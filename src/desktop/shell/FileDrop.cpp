@@ -30,7 +30,7 @@ bool FileDrop::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop)
         return QObject::eventFilter(watched, event);
-    auto& drop = static_cast<QDropEvent&>(*event); // the base of QDragEnterEvent, too
+    auto& drop = static_cast<QDropEvent&>(*event); // also the base class of QDragEnterEvent
     const QStringList paths = localFiles(*drop.mimeData());
     if (paths.isEmpty())
         return false;

@@ -23,9 +23,9 @@ KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
       status_(new StatusLine(application))
 {
     setWindowTitle(tr("Velmora"));
-    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
+    setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the toolbar
     setCentralWidget(keyboard_);
-    keyboard_->setFocus(); // so that no button takes the keys meant for the sequence
+    keyboard_->setFocus(); // a focused button would take keys meant for the sequence
     setStatusBar(status_);
 
     QMenu* file = menuBar()->addMenu(tr("&File"));
@@ -47,7 +47,7 @@ KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
     tools->addSeparator();
     tools->addAction(commands.silence);
 
-    // The user's height is restored; the width follows from the keys.
+    // The last height is restored; the width depends on the keys.
     resize(width(), kKeyboardHeight + menuBar()->sizeHint().height() + tools->sizeHint().height() +
                         status_->sizeHint().height());
     rememberPlace(*this, "keyboard");

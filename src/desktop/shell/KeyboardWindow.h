@@ -21,7 +21,7 @@ public:
     StatusLine& status() { return *status_; }
 
 signals:
-    /// A key of the computer keyboard that the window does not handle itself.
+    /// A key of the computer keyboard was pressed or released, and the window did not handle it.
     void keyForwarded(QKeyEvent* event);
 
 private:

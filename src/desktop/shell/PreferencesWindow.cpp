@@ -27,7 +27,7 @@ namespace {
 constexpr int kNumberWidth = 120;
 constexpr int kPathWidth = 220;
 
-/// A label without its mnemonic and colon, as an accessible name.
+/// Removes the mnemonic and the colon from a label, for use as an accessible name.
 QString plainText(QString label)
 {
     return label.remove('&').remove(':');
@@ -47,7 +47,7 @@ PreferencesWindow::PreferencesWindow()
     : paneActions_(new QActionGroup(this)), panes_(new QStackedWidget(this))
 {
     setWindowTitle(tr("Preferences"));
-    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
+    setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the toolbar
     setCentralWidget(panes_);
     auto* toolBar = addToolBar(tr("Panes"));
     toolBar->setMovable(false);
@@ -118,7 +118,7 @@ void PreferencesWindow::addNumber(QFormLayout& form, const QString& label, const
         const QSignalBlocker blocker(box);
         const PrefRange range = prefRange(key);
         box->setRange(range.least, range.greatest);
-        if (box->value() != getPrefInt(key)) // otherwise it would change what is being typed
+        if (box->value() != getPrefInt(key)) // setting it would reformat a text being typed
             box->setValue(getPrefInt(key));
     });
 }
@@ -137,7 +137,7 @@ QLayout* PreferencesWindow::makeBankRow()
     connect(choose, &QPushButton::clicked, this, &PreferencesWindow::chooseBank);
     auto* standard = new QPushButton(tr("Use &Default"));
     standard->setObjectName("DefaultBank");
-    standard->setToolTip(tr("Use the General MIDI bank of the system again"));
+    standard->setToolTip(tr("Use the system's General MIDI bank"));
     connect(standard, &QPushButton::clicked, this, [this] { setBank({}); });
     readers_.emplace_back([path, standard] {
         path->setText(QString::fromStdString(getPrefString("GMBank")));

@@ -45,7 +45,7 @@ private:
 
     QActionGroup* paneActions_;
     QStackedWidget* panes_;
-    std::vector<std::function<void()>> readers_; ///< Each one updates a widget.
+    std::vector<std::function<void()>> readers_; ///< Each one shows a preference in its widget.
 };
 
 } // namespace velmora

@@ -16,8 +16,8 @@ class SequenceSaver : public QObject {
     Q_OBJECT
 
 public:
-    /// `name` is the name of the document until it has a file. The window, on which the dialogs
-    /// open, the document and the commands must outlive the saver.
+    /// `window` is the parent of the dialogs. `name` is shown until the document has a file. The
+    /// window, the document and the commands must outlive the saver.
     SequenceSaver(QMainWindow& window, SequenceDocument& document, Commands& commands,
                   const QString& name);
 
@@ -31,8 +31,8 @@ public:
     /// stay open.
     bool askToClose();
 
-    /// Writes the document to its file, or to a file that the user chooses. Returns false if it was
-    /// not written; the user has been told why.
+    /// Writes the document to its file, or to a file that the user chooses. Returns false if the
+    /// user cancels, or if it cannot be written; the user has then been told why.
     bool save();
     bool saveAs();
 

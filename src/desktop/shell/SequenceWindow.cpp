@@ -41,7 +41,7 @@ SequenceWindow::SequenceWindow(AppDelegate& application, Commands& commands, con
       scrollView_(new SequenceScrollView), tuningStrip_(new TuningStrip(application))
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide the toolbar
+    setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the toolbar
     makeView();
     makeMenus();
     setStatusBar(new SequenceStatus(document_));
@@ -88,7 +88,7 @@ void SequenceWindow::makeView()
     connect(&document_.transport(), &Transport::scrolled, this, &SequenceWindow::scrollTo);
     connect(&document_.transport(), &Transport::extentChanged, this,
             &SequenceWindow::updateRollSize);
-    // Queued, because the last scrolling at the end of playing must not be followed either.
+    // This is queued, so that the roll does not follow the final scrolling when playing stops.
     connect(
         &document_.transport(), &Transport::modeChanged, this, [this] { isScrolledAway_ = false; },
         Qt::QueuedConnection);
@@ -183,7 +183,8 @@ void SequenceWindow::scrollTo(double step)
 
 void SequenceWindow::showTitle()
 {
-    // The file name itself may contain "[*]", Qt's placeholder for the mark of a modified window.
+    // A file name may contain "[*]", Qt's placeholder for the mark of a modified window. Doubling
+    // it shows it as it is.
     setWindowTitle(saver_.displayName().replace("[*]", "[*][*]") + "[*]");
     setWindowModified(document_.isModified());
 }

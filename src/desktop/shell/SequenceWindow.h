@@ -8,6 +8,8 @@
 
 #include <QMainWindow>
 
+#include <memory>
+
 namespace velmora {
 
 class AppDelegate;
@@ -32,10 +34,10 @@ public:
     SequenceDocument& document() { return document_; }
     SequenceSaver& saver() { return saver_; }
 
-    /// Shows the beginning of a document that has just been read or recovered.
+    /// Fits the window to a document that has just been created, read or recovered.
     void showDocument();
 
-    /// Repaints the roll soon.
+    /// Schedules a repaint of the roll.
     void redraw();
 
     /// Fits the roll to the sequence and the preferences.
@@ -54,7 +56,7 @@ signals:
     /// The window is closing, and its document is about to be destroyed.
     void closing();
 
-    /// The scale in the preferences has changed: every view that shows keys must follow.
+    /// The scale in the preferences has changed; every view that shows keys must be updated.
     void zoomed();
 
 protected:
@@ -80,7 +82,7 @@ private:
     std::unique_ptr<SequenceActions> actions_;
     SequenceScrollView* scrollView_;
     TuningStrip* tuningStrip_;
-    bool isScrolledAway_ = false; ///< True if the user has scrolled away from a moving position.
+    bool isScrolledAway_ = false; ///< True if the user has scrolled away from the moving position.
     bool wasShown_ = false;
     bool isSettled_ = false; ///< True if the window can close without asking.
 };

@@ -141,7 +141,7 @@ void SequenceWindows::offerAbandoned()
 
 bool SequenceWindows::closeAll()
 {
-    // Other programs may open files, and thus windows, while a question is open.
+    // Files, and thus windows, may be opened from outside while a question is open.
     const std::vector<QPointer<SequenceWindow>> asked(windows_.begin(), windows_.end());
     for (const auto& window : asked) {
         if (window == nullptr || !window->saver().isBusyOrModified())

@@ -16,8 +16,9 @@ class Commands;
 class KeyboardView;
 class SequenceWindow;
 
-/// The open sequence windows. The current one is the one that was active last, even while the
-/// keyboard or a panel is active: the keyboard shows what it plays and waits for.
+/// The open sequence windows. The current window is the one that was active last, even while the
+/// keyboard or a panel is active. The keyboard shows the keys that its sequence plays, or that its
+/// practice waits for.
 class SequenceWindows : public QObject {
     Q_OBJECT
 
@@ -33,7 +34,7 @@ public:
     /// sentence that says what is wrong with the file; empty on success.
     std::string open(const QString& path);
 
-    /// Offers to recover the unsaved sequences of a program that did not end properly.
+    /// Offers to recover the unsaved sequences of an earlier run that did not end properly.
     void offerAbandoned();
 
     /// Asks for each window what to do with its unsaved changes, then closes all windows. Returns
@@ -53,7 +54,7 @@ signals:
     /// A window was created.
     void opened(SequenceWindow& window);
 
-    /// The scale in the preferences has changed: every view that shows keys must follow.
+    /// The scale in the preferences has changed; every view that shows keys must be updated.
     void zoomed();
 
 private:

@@ -13,8 +13,8 @@ class SingleInstance : public QObject {
     Q_CLASSINFO("D-Bus Interface", "org.velmora.Velmora")
 
 public:
-    /// Hands absolute paths to the running instance. Returns false if there is none; this process
-    /// then becomes the running instance.
+    /// Hands absolute paths to the running instance. Returns false if there is none or it does not
+    /// answer; this process must then open the files itself.
     bool handOver(const QStringList& paths);
 
 public slots:

@@ -35,7 +35,7 @@ StatusLine::StatusLine(AppDelegate& application)
     noticesButton_->setAutoRaise(true);
     noticesButton_->hide();
     connect(noticesButton_, &QToolButton::clicked, this, &StatusLine::showNotices);
-    // A temporary message hides these widgets. The empty one pushes the others to the right.
+    // A temporary message hides these widgets. The empty widget pushes the others to the right.
     addWidget(new QWidget, 1);
     addWidget(noticesButton_);
     instrument_->setToolTip(tr("The current instrument"));

@@ -10,8 +10,8 @@ namespace velmora {
 
 class AppDelegate;
 
-/// Shows the instrument, the tuning, the sound output and the MIDI inputs, with notices about what
-/// the machine does not have.
+/// Shows the instrument, the tuning, the sound output and the MIDI inputs, and notices about
+/// anything that is missing.
 class StatusLine : public QStatusBar {
     Q_OBJECT
 

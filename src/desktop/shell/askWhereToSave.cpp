@@ -27,7 +27,8 @@ bool isOfAny(const std::vector<FileKind>& kinds, const QString& path)
     return std::ranges::any_of(kinds, [&](const FileKind& kind) { return isOf(kind, path); });
 }
 
-/// Replaces the extension of another kind in the dialog's file name by that of `kind`.
+/// Makes `kind` the kind for names without an extension. If the name in the dialog has the
+/// extension of another kind, replaces that extension.
 void chooseKind(QFileDialog& dialog, const std::vector<FileKind>& kinds, const FileKind& kind)
 {
     dialog.setDefaultSuffix(kind.extensions.front());
@@ -77,8 +78,8 @@ QString askWhereToSave(QWidget& parent, const SaveQuestion& question)
     while (dialog.exec() == QDialog::Accepted) {
         QString path = dialog.selectedFiles().front();
         if (!isOfAny(kinds, path)) {
-            // The dialog takes whatever follows a dot for an extension, so it has not asked about
-            // the complete name.
+            // The dialog takes any text after a dot for an extension, so it has not yet asked
+            // whether to replace a file with the complete name.
             path += '.' + dialog.defaultSuffix();
             if (!mayReplace(parent, path))
                 continue;

@@ -18,7 +18,7 @@ struct FileKind {
 struct SaveQuestion {
     QString title;
     std::vector<FileKind> kinds; ///< At least one.
-    QString proposal;            ///< A path, or a name in the last folder; may be empty.
+    QString proposal;            ///< An absolute path, or a name in the last folder; may be empty.
     std::string folderKey;       ///< The preference that stores the last folder.
 };
 

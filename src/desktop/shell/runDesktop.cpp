@@ -17,8 +17,8 @@ namespace velmora {
 
 namespace {
 
-/// Writes Qt's messages to the log. A fatal one, usually a missing display, ends the program with a
-/// sentence instead of a core dump.
+/// Writes Qt's messages to the log. A fatal one, usually about a missing display, ends the program
+/// without a core dump.
 void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
 {
     const std::string message = text.toStdString();

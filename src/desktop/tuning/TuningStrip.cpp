@@ -89,7 +89,7 @@ void TuningStrip::paintEvent(QPaintEvent* /*event*/)
         painter.setPen(line);
         painter.drawLine(place.topRight(), place.bottomRight());
 
-        // A bar from the middle; it points up if the note is sharp.
+        // The bar starts in the middle and points up if the note is sharp.
         const double deviation = std::clamp(tones_[tone].cents / kFullCents, -1.0, 1.0);
         const QRectF bar(place.left() + cell / 2 - 3, middle, 6, -deviation * (height() / 2.0 - 2));
         painter.fillRect(bar.normalized(), palette().color(QPalette::Highlight));

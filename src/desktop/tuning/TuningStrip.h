@@ -10,8 +10,8 @@ namespace velmora {
 
 class AppDelegate;
 
-/// Shows how many cents each pitch class of the current temperament deviates from equal
-/// temperament, and follows it while it changes.
+/// Shows by how many cents each pitch class of the current temperament deviates from equal
+/// temperament, and follows every change.
 class TuningStrip : public QWidget {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
     };
     using Tones = std::array<Tone, 12>;
 
-    /// What is shown, indexed by pitch class.
+    /// The tones shown, indexed by pitch class.
     const Tones& tones() const { return tones_; }
 
 protected:

@@ -8,8 +8,9 @@ namespace velmora {
 
 namespace {
 
-/// Closes the watched window on an Esc that no widget in it has handled. A shortcut would take
-/// precedence over the open list of a combo box, and close the window instead of the list.
+/// Closes the watched window if Esc is pressed and no widget in it handles the key. A shortcut
+/// would take precedence over the open list of a combo box, and close the window instead of the
+/// list.
 class EscapeFilter : public QObject {
 public:
     using QObject::QObject;

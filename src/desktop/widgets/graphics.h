@@ -4,12 +4,12 @@ class QOpenGLWidget;
 
 namespace velmora {
 
-/// Requests OpenGL 2.1 with the fixed-function pipeline, which the views draw with. Must be called
-/// before the QApplication is created.
+/// Requests OpenGL 2.1 with the fixed-function pipeline that the views use. Must be called before
+/// the QApplication is created.
 void requestOpenGL();
 
-/// Makes OpenGL coordinates pixels of the view, with y growing upwards from its lower edge. `left`
-/// is the x coordinate of its left edge.
+/// Maps OpenGL coordinates to the pixels of a view. x is `left` at its left edge; y is 0 at its
+/// lower edge and grows upwards.
 void setPixelCoordinates(const QOpenGLWidget& view, int left);
 
 } // namespace velmora

@@ -14,7 +14,7 @@ namespace {
 /// The only colour in the SVG files.
 constexpr const char* kFileColor = "#3b3b3b";
 
-/// Renders an SVG file each time it is shown, so that it is sharp and follows the palette.
+/// Renders an SVG file each time the icon is painted, so that it is sharp and follows the palette.
 class SvgIconEngine : public QIconEngine {
 public:
     explicit SvgIconEngine(QByteArray svg) : svg_(std::move(svg)) {}

@@ -4,7 +4,8 @@
 
 namespace velmora {
 
-/// One of the program's own icons, such as "record", in the text colour of the desktop's theme.
+/// Returns one of the program's own icons, such as "record". It is drawn in the text colour of the
+/// desktop's theme.
 QIcon icon(const char* name);
 
 } // namespace velmora

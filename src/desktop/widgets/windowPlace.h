@@ -8,7 +8,7 @@ class QWidget;
 
 namespace velmora {
 
-/// The largest size for a window that opens for the first time: most of its screen, but not all.
+/// Returns the largest size for a window that opens for the first time: most of its screen.
 QSize roomFor(const QWidget& window);
 
 /// Restores the size and position that a window had when the program last ran. Stores them under

@@ -1,6 +1,7 @@
 #include "desktop/instruments/InstrumentPanel.h"
 
 #include "app/AppDelegate.h"
+#include "midi/messages.h"
 #include "midi/midiRead.h"
 #include "sound/ALInstrument.h"
 
@@ -15,7 +16,7 @@ namespace velmora {
 
 TEST(InstrumentPanel, ShowsVolumesWhileAMidiThreadSetsThem)
 {
-    ALInstrument organ; // its stops are silent: nothing is asked of OpenAL
+    ALInstrument organ; // its stops have no samples, so it never calls OpenAL
     organ.appendStop("Flute");
     organ.appendStop("Reed");
     AppDelegate application;
@@ -27,7 +28,8 @@ TEST(InstrumentPanel, ShowsVolumesWhileAMidiThreadSetsThem)
     std::thread device([&] {
         for (int i = 0; i <= 1000; ++i) {
             const auto value = static_cast<std::uint8_t>(i % 128);
-            const std::uint8_t bytes[] = {0xB0, 7, value, 0xB0, 11, 64};
+            const std::uint8_t bytes[] = {midi::kControlChange, midi::kChannelVolume, value,
+                                          midi::kControlChange, midi::kExpression,    64};
             const MidiPacket packet = bytes;
             midiRead({&packet, 1}, application);
             if (i % 16 == 0)

@@ -57,8 +57,8 @@ protected:
     QImage drawn() { return view.grabFramebuffer(); }
     QRgb at(int x, int yUp) { return drawn().pixel(x, view.height() - 1 - yUp) & RGB_MASK; }
 
-    /// The first and the last pixel of a row, between two x, that differ from a colour;
-    /// "first-last".
+    /// The first and the last x between `from` and `to` at which a row differs from the background,
+    /// as "first-last".
     std::string extent(int yUp, int from, int to, QRgb background)
     {
         const QImage image = drawn();
@@ -155,7 +155,7 @@ TEST_F(SequenceViewTest, DrawsColumnsGridIntervalAndPosition)
     EXPECT_EQ(at(7, 12), kBlackColumn);
     EXPECT_EQ(at(14 + 7, 12), kWhite);
     EXPECT_EQ(at(6 * 14 + 7, 12), kMiddleCColumn);
-    EXPECT_EQ(at(18 * 14 + 7, 12), kWhite) << "only one C";
+    EXPECT_EQ(at(18 * 14 + 7, 12), kWhite) << "only middle C is tinted";
     EXPECT_EQ(extent(12, 6 * 14 - 7, 7 * 14 - 1, kMiddleCColumn), "77-84")
         << "the line, then the column";
     EXPECT_EQ(at(6 * 14, 12), 0x4d4d4d);
@@ -199,7 +199,7 @@ TEST_F(SequenceViewTest, DrawsNotesByVelocityStateAndTime)
     setPrefInt("KeyHeight", 2);
     scrollView.updateSize(1000);
     EXPECT_EQ(at(9, 160), 0x999999);
-    EXPECT_EQ(at(9, 162), kWhite) << "the grid leaves room";
+    EXPECT_EQ(at(9, 162), kWhite) << "only the bar lines are drawn";
 }
 
 TEST_F(SequenceViewTest, SelectsMovesAndResizesNotesWithTheMouse)

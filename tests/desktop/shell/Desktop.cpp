@@ -44,7 +44,7 @@ private:
     std::size_t stops_;
 };
 
-/// The desktop program on a machine whose only device is OpenAL's.
+/// The desktop program on a machine that has no device but the sound output of OpenAL.
 class DesktopTest : public testing::Test {
 protected:
     DesktopTest()
@@ -309,8 +309,8 @@ TEST(ProgressWindow, ClosesWithTheStepThatReachesTheMaximumExactly)
     EXPECT_TRUE(window.isVisible());
     window.updateProgress(4, "four");
     window.updateProgress(0, "none");
-    EXPECT_EQ(window.label()->text(), "four");
-    EXPECT_EQ(window.bar()->value(), 4);
+    EXPECT_EQ(window.findChild<QLabel*>()->text(), "four");
+    EXPECT_EQ(window.findChild<QProgressBar*>()->value(), 4);
     window.updateProgress(6, "ten");
     EXPECT_FALSE(window.isVisible());
 

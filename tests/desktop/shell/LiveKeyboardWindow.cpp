@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/Commands.h"
+#include "midi/messages.h"
 #include "midi/midiRead.h"
 #include "sequencer/SequenceDocument.h"
 #include "sound/ALInstrument.h"
@@ -40,7 +41,7 @@ TEST(LiveKeyboardWindow, PaintsWhileAMidiThreadPlays)
     std::thread device([&] {
         for (int i = 0; i < 2000; ++i) {
             const auto key = static_cast<std::uint8_t>(36 + i / 2 % 48);
-            const auto status = static_cast<std::uint8_t>(i % 2 == 0 ? 0x90 : 0x80);
+            const auto status = i % 2 == 0 ? midi::kNoteOn : midi::kNoteOff;
             const std::uint8_t bytes[] = {status, key, 100};
             const MidiPacket packet = bytes;
             midiRead({&packet, 1}, application);

@@ -32,7 +32,7 @@ protected:
         setPrefString("GMBank", kBank.string());
     }
 
-    /// Replaces the text of a spin box and leaves it.
+    /// Replaces the text of a spin box and takes the focus from it.
     void type(const char* key, const char* text)
     {
         auto* box = window.findChild<QSpinBox*>(key);

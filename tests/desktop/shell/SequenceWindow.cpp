@@ -34,7 +34,7 @@ using testing::StartsWith;
 
 namespace {
 
-/// The desktop program without devices, with sequence windows.
+/// The desktop program with sequence windows, but without devices.
 class SequenceWindowTest : public testing::Test {
 protected:
     SequenceWindowTest()
@@ -77,7 +77,8 @@ protected:
         return texts;
     }
 
-    /// Clicks these buttons in the boxes that open during `act`; returns the informative texts.
+    /// Clicks these buttons, one in each message box that opens during `act`. Returns the
+    /// informative texts of the boxes.
     template <class Act>
     std::vector<std::string> answering(const std::vector<QString>& answers, const Act& act)
     {
@@ -98,7 +99,8 @@ protected:
         return texts;
     }
 
-    /// Enters a file name in the dialog opened during `act` and goes `kind` kinds down the list.
+    /// Enters a file name in the file dialog that opens during `act`, and moves `kind` entries down
+    /// its list of file types.
     template <class Act> void naming(const QString& path, const Act& act, int kind = 0)
     {
         QTimer timer;
@@ -146,7 +148,7 @@ TEST_F(SequenceWindowTest, ControlsTheTransportByKeysAndToolbar)
     SequenceDocument& document = window.document();
     draw(window);
     QTest::keyClick(&view(window), Qt::Key_Space);
-    EXPECT_EQ(document.transport().mode(), Transport::Mode::Playing) << "one key, one action";
+    EXPECT_EQ(document.transport().mode(), Transport::Mode::Playing) << "the key acts only once";
     EXPECT_EQ(play.iconText(), "Stop");
     EXPECT_FALSE(record.isEnabled());
     desktop.keyboardWindow().status().addNotice("Something is missing");
@@ -325,7 +327,7 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
     QTimer::singleShot(0, [&] { open("wolf-fantasia.mid"); });
     answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
     EXPECT_EQ(keyboard.document(), nullptr) << "a window opened meanwhile is closed too";
-    EXPECT_EQ(open().windowTitle(), "Untitled 4[*]") << "opened files use up no names";
+    EXPECT_EQ(open().windowTitle(), "Untitled 4[*]") << "files do not use up names";
 }
 
 TEST_F(SequenceWindowTest, SavesAndExportsUnderTheChosenNames)
