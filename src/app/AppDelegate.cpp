@@ -248,13 +248,10 @@ void AppDelegate::useTuning(const TuningDocument& document)
 void AppDelegate::setVolume(float volume, std::size_t slider)
 {
     // Posted under the lock: if two devices move a slider, both places keep the later value.
-    const InputEvent event{InputEvent::Kind::Volume, slider, volume};
-    const bool isSet = player_.with([&](Instrument& instrument, Temperament&) {
-        queue_.post(event);
+    player_.with([&](Instrument& instrument, Temperament&) {
+        queue_.post({InputEvent::Kind::Volume, slider, volume});
         instrument.setVolume(slider, volume);
     });
-    if (!isSet)
-        queue_.post(event);
 }
 
 void AppDelegate::midiInput()
