@@ -212,16 +212,19 @@ TEST_F(SequenceWindowTest, EditsFromMenusAndAcrossWindows)
 
 TEST_F(SequenceWindowTest, TheKeyboardShowsTheSequenceThatWasActiveLast)
 {
+    const auto showsKeysOf = [&](SequenceWindow& window) {
+        return QTest::qWaitFor(
+            [&] { return keyboard.document() == &window.document().practice(); });
+    };
     SequenceWindow& first = open();
-    EXPECT_EQ(keyboard.document(), &first.document().practice());
+    EXPECT_TRUE(showsKeysOf(first));
     SequenceWindow& second = open();
-    EXPECT_EQ(keyboard.document(), &second.document().practice());
+    EXPECT_TRUE(showsKeysOf(second));
     desktop.keyboardWindow().activateWindow();
-    QTest::qWait(50);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
     EXPECT_EQ(keyboard.document(), &second.document().practice());
     first.activateWindow();
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return keyboard.document() == &first.document().practice(); }));
+    EXPECT_TRUE(showsKeysOf(first));
     EXPECT_TRUE(closes(second));
     EXPECT_EQ(keyboard.document(), &first.document().practice());
     EXPECT_TRUE(closes(first));
