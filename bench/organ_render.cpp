@@ -32,7 +32,7 @@ void renderChord(benchmark::State& state)
         for (const int key : kChord)
             organ.play(key, 1.0F);
         for (std::size_t i = 0; i < static_cast<std::size_t>(kSeconds * kRate) / kBlock; ++i) {
-            loopback.render(left.data(), right.data(), kBlock);
+            loopback.render(left.data(), right.data(), kBlock, AudioSource::kOffline);
             benchmark::DoNotOptimize(left.data());
             frames += kBlock;
         }

@@ -29,7 +29,6 @@ void renderPiece(benchmark::State& state, const char* tuning)
     for ([[maybe_unused]] auto iteration : state) {
         state.PauseTiming(); // while the SoundFont is loaded
         auto synthesizer = std::make_unique<Synthesizer>(kRate, generalMidiBanks());
-        Synthesizer& source = *synthesizer;
         AppDelegate application;
         application.makeBuiltinTunings();
         application.putTuning(TuningDocument::makeBuiltin("Dynamic"));
@@ -37,7 +36,7 @@ void renderPiece(benchmark::State& state, const char* tuning)
         application.selectTuning(tuning);
         state.ResumeTiming();
 
-        SequenceRenderer renderer(application.player(), source);
+        SequenceRenderer renderer(application.player(), application.engine());
         renderer.document().read(VELMORA_EXAMPLES "/wolf-fantasia.mid");
         renderer.render(
             {},
@@ -54,7 +53,7 @@ BENCHMARK_CAPTURE(renderPiece, Equal, "Equal")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(renderPiece, Meantone, "Quartercomma Meantone")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(renderPiece, Dynamic, "Dynamic")->Unit(benchmark::kMillisecond);
 
-/// Renders one second of held keys, each on its own lane, with reverberation and limiter.
+/// Renders one second of held keys, each on its own lane, with reverberation.
 void holdKeys(benchmark::State& state)
 {
     Synthesizer synthesizer(kRate, generalMidiBanks());
@@ -67,7 +66,7 @@ void holdKeys(benchmark::State& state)
     std::array<float, kBlock> left{}, right{};
     for ([[maybe_unused]] auto iteration : state) {
         for (std::size_t block = 0; block < static_cast<std::size_t>(kRate) / kBlock; ++block)
-            synthesizer.render(left.data(), right.data(), kBlock);
+            synthesizer.render(left.data(), right.data(), kBlock, AudioSource::kOffline);
     }
     countSeconds(state, static_cast<double>(state.iterations()));
 }

@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* kDynamic = "Dynamic";
 
-/// The rate of the synthesizer if there is no output.
+/// The rate of the engine if there is no output.
 constexpr double kDefaultRate = 48000.0;
 
 /// Takes the synthesizer's place until its bank is loaded.
@@ -39,7 +39,8 @@ std::vector<std::filesystem::path> generalMidiBanks()
     return banks;
 }
 
-AppDelegate::AppDelegate() : queue_([this](const InputEvent& event) { handle(event); })
+AppDelegate::AppDelegate()
+    : engine_(kDefaultRate), queue_([this](const InputEvent& event) { handle(event); })
 {
     connect(this, &AppDelegate::loadingFinished, this, &AppDelegate::takeSynthesizer,
             Qt::QueuedConnection);
@@ -51,6 +52,10 @@ void AppDelegate::start()
 {
     openAL_ = OpenALDevice::open();
     output_ = AudioOutput::open();
+    if (output_) {
+        engine_.setRate(output_->rate());
+        output_->play(&engine_);
+    }
     inputs_ = std::make_unique<MidiInputs>([this](MidiPacket packet) { received(packet); });
     makeBuiltinTunings();
     makeMIDIPlayer(std::make_unique<SilentDevice>());
@@ -82,8 +87,8 @@ void AppDelegate::loadBank()
     loadsAgain_ = loading_.valid();
     if (loadsAgain_)
         return;
-    const double rate = output_ ? output_->rate() : kDefaultRate;
-    loading_ = std::async(std::launch::async, [this, rate, banks = generalMidiBanks()] {
+    loading_ = std::async(std::launch::async, [this, rate = engine_.rate(),
+                                               banks = generalMidiBanks()] {
         std::unique_ptr<Synthesizer> synthesizer;
         try {
             synthesizer = std::make_unique<Synthesizer>(rate, banks);
@@ -114,15 +119,15 @@ void AppDelegate::takeSynthesizer()
 
 void AppDelegate::playThrough(std::unique_ptr<Synthesizer> synthesizer)
 {
-    Synthesizer* sounding = synthesizer.get();
-    bank_ = sounding->bank();
+    bank_ = synthesizer->bank();
+    engine_.add(*synthesizer);
     std::unique_ptr<MusicDevice> before;
     player_.with([&](Instrument& /*current*/, Temperament& temperament) {
         before = midiPlayer_->exchangeDevice(std::move(synthesizer));
         midiPlayer_->tune(temperament, 0, kLastKey);
     });
-    if (output_)
-        output_->play(sounding);
+    if (before->source() != nullptr)
+        engine_.remove(*before->source());
 }
 
 void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
@@ -131,6 +136,8 @@ void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
         return;
     instruments_.push_back(std::move(document));
     InstrumentDocument& added = *instruments_.back();
+    if (AudioSource* source = added.instrument()->source())
+        engine_.add(*source);
     setInstrument(*added.instrument(), added.name());
     emit instrumentsChanged();
 }
@@ -154,6 +161,8 @@ bool AppDelegate::selectInstrument(std::size_t position)
     if (document.instrument() == nullptr) {
         if (!document.reload(*this))
             return false;
+        if (AudioSource* source = document.instrument()->source())
+            engine_.add(*source);
         emit instrumentsChanged();
     }
     setInstrument(*document.instrument(), document.name());
@@ -168,6 +177,8 @@ bool AppDelegate::unloadInstrument(std::size_t position)
     if (isCurrent(document))
         selectInstrument(0);
     player_.remove(*document.instrument());
+    if (AudioSource* source = document.instrument()->source())
+        engine_.remove(*source);
     document.unload();
     emit instrumentsChanged();
     return true;

@@ -2,6 +2,7 @@
 
 #include "app/InputQueue.h"
 #include "app/Player.h"
+#include "audio/AudioEngine.h"
 #include "audio/AudioOutput.h"
 #include "audio/OpenALDevice.h"
 #include "import/InstrumentDocument.h"
@@ -61,6 +62,9 @@ public:
 
     /// The SoundFont of the General MIDI player; empty while there is none.
     const std::filesystem::path& bank() const { return bank_; }
+
+    /// The mixture of everything that sounds live.
+    AudioEngine& engine() { return engine_; }
 
     /// The current instrument and temperament, and the keys that sound.
     Player& player() { return player_; }
@@ -188,6 +192,7 @@ private:
     std::string instrumentName_, tuningName_;
     bool isCancelled_ = false;
 
+    AudioEngine engine_;
     /// Declared before the instruments, which play through it.
     std::unique_ptr<OpenALDevice> openAL_;
     std::vector<std::unique_ptr<InstrumentDocument>> instruments_;

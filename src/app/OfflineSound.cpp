@@ -53,15 +53,15 @@ std::unique_ptr<Synthesizer> makeOfflineSynthesizer(double rate,
 }
 
 OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& host)
-    : temperament_(std::move(settings.temperament))
+    : temperament_(std::move(settings.temperament)), engine_(rate)
 {
     if (settings.instrument.empty()) {
         auto synthesizer = makeOfflineSynthesizer(rate, settings.banks);
-        source_ = synthesizer.get();
+        engine_.add(*synthesizer);
         document_ = InstrumentDocument::makeMIDIPlayer(std::move(synthesizer));
         document_->instrument()->setInstrument(settings.program);
     } else {
-        source_ = &loopback_.emplace(rate);
+        engine_.add(loopback_.emplace(rate));
         document_ = std::make_unique<InstrumentDocument>();
         if (!document_->read(settings.instrument, settings.format, host))
             throw std::runtime_error(document_->errorString());

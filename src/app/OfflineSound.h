@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Player.h"
+#include "audio/AudioEngine.h"
 #include "audio/OpenALLoopback.h"
 #include "audio/Synthesizer.h"
 #include "import/InstrumentDocument.h"
@@ -43,16 +44,16 @@ public:
     OfflineSound(SoundSettings settings, double rate, InstrumentHost& host);
 
     /// The source of the player's sound.
-    AudioSource& source() { return *source_; }
+    AudioSource& source() { return engine_; }
 
     Player& player() { return player_; }
 
 private:
     std::unique_ptr<Temperament> temperament_;
+    AudioEngine engine_;
     std::optional<OpenALLoopback> loopback_; ///< Declared before the instrument that uses it.
     std::unique_ptr<InstrumentDocument> document_;
     Player player_;
-    AudioSource* source_ = nullptr;
 };
 
 } // namespace velmora

@@ -1,7 +1,5 @@
 #include "app/Player.h"
 
-#include "base/Clock.h"
-
 #include <algorithm>
 #include <cassert>
 
@@ -22,6 +20,8 @@ void Player::setInstrument(Instrument& instrument)
     if (std::ranges::find(instruments_, &instrument, &Sounding::instrument) == instruments_.end())
         instruments_.push_back({&instrument, {}});
     instrument_ = &instrument;
+    instrument_->bend(bend_);
+    instrument_->setSoft(soft_);
     if (temperament_ != nullptr)
         instrument_->tune(*temperament_, 0, kLastKey);
 }
@@ -47,37 +47,85 @@ bool Player::isCurrent(const Instrument& instrument) const
     return instrument_ == &instrument;
 }
 
-void Player::keyOn(int key, float velocity)
+void Player::keyOn(int key, float velocity, KeySource source, double time)
 {
     if (!isKey(key))
         return;
     velocity = std::clamp(velocity, 0.0F, 1.0F);
-    const double arrived = getTime();
     const std::lock_guard lock(mutex_);
-    liveKeys_.press(static_cast<std::size_t>(key), velocity, arrived);
-    start(key, velocity);
+    holders_.press(static_cast<std::size_t>(key), source);
+    liveKeys_.press(static_cast<std::size_t>(key), velocity, time);
+    start(key, velocity, time);
 }
 
-void Player::keyOff(int key)
+void Player::keyOff(int key, KeySource source, double time)
 {
     if (!isKey(key))
         return;
-    const double arrived = getTime();
+    const auto slot = static_cast<std::size_t>(key);
     const std::lock_guard lock(mutex_);
-    liveKeys_.release(static_cast<std::size_t>(key), arrived);
-    stopEverywhere(key);
+    holders_.release(slot, source);
+    if (!holders_.isPressed(slot))
+        liveKeys_.release(slot, time);
+    if (!holders_.isHeld(slot))
+        stopEverywhere(slot, time);
 }
 
-void Player::play(int key, float velocity)
+void Player::setSustain(KeySource source, bool down, double time)
 {
     const std::lock_guard lock(mutex_);
-    start(key, velocity);
+    stopEverywhere(holders_.setSustain(source, down), time);
 }
 
-void Player::stop(int key)
+void Player::setSostenuto(KeySource source, bool down, double time)
 {
     const std::lock_guard lock(mutex_);
-    stopEverywhere(key);
+    stopEverywhere(holders_.setSostenuto(source, down), time);
+}
+
+void Player::setSoft(bool soft)
+{
+    const std::lock_guard lock(mutex_);
+    soft_ = soft;
+    if (instrument_ != nullptr)
+        instrument_->setSoft(soft);
+}
+
+void Player::bend(double cents, double time)
+{
+    const std::lock_guard lock(mutex_);
+    bend_ = cents;
+    for (const auto& [instrument, keys] : instruments_) {
+        instrument->setDue(time);
+        instrument->bend(cents);
+    }
+}
+
+void Player::releaseAll(KeySource source)
+{
+    const double time = getTime();
+    const std::lock_guard lock(mutex_);
+    const KeySet free = holders_.releaseAll(source);
+    for (std::size_t key = 0; key < kKeys; ++key)
+        if (liveKeys_.state(key) != 0 && !holders_.isPressed(key))
+            liveKeys_.release(key, time);
+    stopEverywhere(free, time);
+}
+
+void Player::play(int key, float velocity, double time)
+{
+    const std::lock_guard lock(mutex_);
+    holders_.press(static_cast<std::size_t>(key), kSequencer);
+    start(key, velocity, time);
+}
+
+void Player::stop(int key, double time)
+{
+    const auto slot = static_cast<std::size_t>(key);
+    const std::lock_guard lock(mutex_);
+    holders_.release(slot, kSequencer);
+    if (!holders_.isHeld(slot))
+        stopEverywhere(slot, time);
 }
 
 void Player::isomorph(int n)
@@ -85,14 +133,18 @@ void Player::isomorph(int n)
     const std::lock_guard lock(mutex_);
     if (instrument_ == nullptr || temperament_ == nullptr)
         return;
+    instrument_->setDue(getTime());
     temperament_->isomorph(*instrument_, n);
-    markCurrent(Temperament::isomorphKey(n));
+    const int key = Temperament::isomorphKey(n);
+    holders_.press(static_cast<std::size_t>(key), kSequencer);
+    markCurrent(key);
 }
 
 void Player::silence()
 {
     const std::lock_guard lock(mutex_);
     liveKeys_.clear();
+    holders_.clear();
     for (auto& [instrument, keys] : instruments_) {
         instrument->silence();
         keys.reset();
@@ -113,24 +165,33 @@ void Player::fade()
             instrument->fade(kFadeFactor);
 }
 
-void Player::start(int key, float velocity)
+void Player::start(int key, float velocity, double time)
 {
     if (instrument_ == nullptr || temperament_ == nullptr)
         return;
+    instrument_->setDue(time);
     temperament_->setup(*instrument_, static_cast<unsigned char>(key), velocity);
     instrument_->play(key, velocity);
     markCurrent(key);
 }
 
 // See docs/decisions.md, 30.
-void Player::stopEverywhere(int key)
+void Player::stopEverywhere(std::size_t key, double time)
 {
-    const auto slot = static_cast<std::size_t>(key);
     for (auto& [instrument, keys] : instruments_) {
-        if (instrument == instrument_ || keys[slot])
-            instrument->stop(key);
-        keys.reset(slot);
+        if (instrument == instrument_ || keys[key]) {
+            instrument->setDue(time);
+            instrument->stop(static_cast<int>(key));
+        }
+        keys.reset(key);
     }
+}
+
+void Player::stopEverywhere(const KeySet& keys, double time)
+{
+    for (std::size_t key = 0; key < kKeys; ++key)
+        if (keys[key])
+            stopEverywhere(key, time);
 }
 
 void Player::markCurrent(int key)

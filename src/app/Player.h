@@ -1,11 +1,13 @@
 #pragma once
 
+#include "app/KeyHolders.h"
+#include "base/Clock.h"
+#include "platform/PriorityMutex.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceHost.h"
 #include "sound/Instrument.h"
 #include "tuning/Temperament.h"
 
-#include <bitset>
 #include <chrono>
 #include <mutex>
 #include <vector>
@@ -51,15 +53,30 @@ public:
         return true;
     }
 
-    /// Marks a live key as pressed and sounds it at once. Keys outside 0…127 are ignored, and the
+    /// Marks a live key as pressed and sounds it. `time` is when it was pressed, in the seconds of
+    /// `getTime`; it sounds a constant delay later. Keys outside 0…127 are ignored, and the
     /// velocity is clamped to 0…1.
-    void keyOn(int key, float velocity);
+    void keyOn(int key, float velocity, KeySource source = kMouse, double time = getTime());
 
-    /// Marks a live key as released and stops it on every instrument that sounds it.
-    void keyOff(int key);
+    /// Marks a live key as released and, if nobody else holds it, stops it on every instrument that
+    /// sounds it.
+    void keyOff(int key, KeySource source = kMouse, double time = getTime());
 
-    void play(int key, float velocity) override;
-    void stop(int key) override;
+    /// Moves the pedals of a source.
+    void setSustain(KeySource source, bool down, double time);
+    void setSostenuto(KeySource source, bool down, double time);
+
+    /// Presses or releases the soft pedal.
+    void setSoft(bool soft);
+
+    /// Shifts every key by `cents`.
+    void bend(double cents, double time);
+
+    /// Releases every key and pedal of a source, such as a device that has vanished.
+    void releaseAll(KeySource source);
+
+    void play(int key, float velocity, double time) override;
+    void stop(int key, double time) override;
     void isomorph(int n) override;
     LiveKeys& liveKeys() override { return liveKeys_; }
 
@@ -74,19 +91,23 @@ private:
     /// An instrument and the keys that were started and not yet stopped on it.
     struct Sounding {
         Instrument* instrument;
-        std::bitset<kKeys> keys;
+        KeySet keys;
     };
 
     // Called with the lock held:
-    void start(int key, float velocity);
-    void stopEverywhere(int key);
+    void start(int key, float velocity, double time);
+    void stopEverywhere(std::size_t key, double time);
+    void stopEverywhere(const KeySet& keys, double time);
     void markCurrent(int key);
 
-    mutable std::mutex mutex_;
+    mutable PriorityMutex mutex_;
     Instrument* instrument_ = nullptr;
     Temperament* temperament_ = nullptr;
     std::vector<Sounding> instruments_; ///< All that have been current and were not removed.
+    KeyHolders holders_;
     LiveKeys liveKeys_;
+    double bend_ = 0.0; ///< In cents.
+    bool soft_ = false;
 };
 
 } // namespace velmora

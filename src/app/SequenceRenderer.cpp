@@ -54,7 +54,7 @@ void SequenceRenderer::soundUntil(double seconds, double rate, const AudioSink& 
         const std::size_t count = static_cast<std::size_t>(moment * rate) - frames_;
         left_.resize(std::max(left_.size(), count));
         right_.resize(left_.size());
-        source_.render(left_.data(), right_.data(), count);
+        source_.render(left_.data(), right_.data(), count, AudioSource::kOffline);
         sink(left_.data(), right_.data(), count);
         frames_ += count;
     };

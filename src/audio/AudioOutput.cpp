@@ -1,5 +1,6 @@
 #include "audio/AudioOutput.h"
 
+#include "base/Clock.h"
 #include "base/Log.h"
 #include "platform/quiet.h"
 
@@ -79,7 +80,7 @@ private:
         // Never wait here: if `play` is exchanging the source, the period is silent.
         const std::unique_lock lock(mutex_, std::try_to_lock);
         if (lock && source_ != nullptr && outputCount >= 2) {
-            source_->render(outputs[0], outputs[1], frames);
+            source_->render(outputs[0], outputs[1], frames, getTime());
         } else {
             for (int i = 0; i < outputCount; ++i)
                 std::fill_n(outputs[i], frames, 0.0F);

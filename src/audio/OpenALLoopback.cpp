@@ -19,14 +19,14 @@ OpenALLoopback::OpenALLoopback(double rate)
     : device_(OpenALDevice::openLoopback(static_cast<int>(std::lround(rate)))),
       renderSamples_(reinterpret_cast<LPALCRENDERSAMPLESSOFT>(
           alcGetProcAddress(nullptr, "alcRenderSamplesSOFT"))),
-      interleaved_(2 * kMixedFrames), limiter_(rate)
+      interleaved_(2 * kMixedFrames)
 {
     if (!device_ || renderSamples_ == nullptr)
         throw std::runtime_error("OpenAL cannot render at " + std::to_string(std::lround(rate)) +
                                  " Hz");
 }
 
-void OpenALLoopback::render(float* left, float* right, std::size_t frames)
+void OpenALLoopback::render(float* left, float* right, std::size_t frames, double /*start*/)
 {
     for (std::size_t done = 0; done < frames;) {
         const std::size_t length = std::min(kMixedFrames, frames - done);
@@ -37,7 +37,6 @@ void OpenALLoopback::render(float* left, float* right, std::size_t frames)
         }
         done += length;
     }
-    limiter_.process(left, right, frames);
 }
 
 } // namespace velmora

@@ -38,7 +38,7 @@ int bendOf(int data1, int data2)
 } // namespace
 
 Synthesizer::Synthesizer(double rate, const std::vector<std::filesystem::path>& banks)
-    : reverb_(rate), limiter_(rate), queue_(kQueue)
+    : reverb_(rate), queue_(kQueue)
 {
     quietSoundLibraries();
     lastBend_.fill(kCentreBend);
@@ -153,7 +153,7 @@ void Synthesizer::apply(const Event& event)
     }
 }
 
-void Synthesizer::render(float* left, float* right, std::size_t frames)
+void Synthesizer::render(float* left, float* right, std::size_t frames, double /*start*/)
 {
     takeEvents();
     std::fill_n(left, frames, 0.0F);
@@ -161,7 +161,6 @@ void Synthesizer::render(float* left, float* right, std::size_t frames)
     for (const auto& lane : lanes_)
         lane->mix(left, right, frames);
     reverb_.process(left, right, frames);
-    limiter_.process(left, right, frames);
 }
 
 } // namespace velmora

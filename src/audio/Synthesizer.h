@@ -2,7 +2,6 @@
 
 #include "audio/AudioSource.h"
 #include "audio/MusicDevice.h"
-#include "audio/PeakLimiter.h"
 #include "audio/Reverb.h"
 #include "audio/SynthesizerLane.h"
 
@@ -15,8 +14,8 @@
 
 namespace velmora {
 
-/// The General MIDI synthesizer: a lane for each channel with notes, reverberation of their sum,
-/// and a peak limiter. Messages may be sent from one thread at a time while another thread renders;
+/// The General MIDI synthesizer: a lane for each channel with notes, and reverberation of their
+/// sum. Messages may be sent from one thread at a time while another thread renders;
 /// neither waits for the other. Without a SoundFont it is silent.
 class Synthesizer : public MusicDevice, public AudioSource {
 public:
@@ -31,7 +30,9 @@ public:
     /// ±8192) on the channels 0…8 and 10…12, from the next block on.
     void midiEvent(int status, int data1, int data2) override;
 
-    void render(float* left, float* right, std::size_t frames) override;
+    AudioSource* source() override { return this; }
+
+    void render(float* left, float* right, std::size_t frames, double start) override;
 
 private:
     struct Event {
@@ -50,7 +51,6 @@ private:
 
     std::vector<std::unique_ptr<SynthesizerLane>> lanes_;
     Reverb reverb_;
-    PeakLimiter limiter_;
     std::filesystem::path bank_;
 
     std::array<int, 16> lastBend_; ///< The last bend sent on each channel.

@@ -10,19 +10,6 @@
 
 namespace velmora {
 
-namespace {
-
-/// Creates the General MIDI player and returns the source of its sound.
-AudioSource& addSynthesizer(double rate, AppDelegate& application)
-{
-    auto synthesizer = makeOfflineSynthesizer(rate, generalMidiBanks());
-    AudioSource& source = *synthesizer;
-    application.makeMIDIPlayer(std::move(synthesizer));
-    return source;
-}
-
-} // namespace
-
 void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
             const Selection& selection, const RenderOptions& options)
 {
@@ -34,10 +21,14 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
         loopback.emplace(options.rate);
     AppDelegate application;
     application.makeBuiltinTunings();
-    AudioSource& source = loopback ? *loopback : addSynthesizer(options.rate, application);
+    application.engine().setRate(options.rate);
+    if (loopback)
+        application.engine().add(*loopback);
+    else
+        application.makeMIDIPlayer(makeOfflineSynthesizer(options.rate, generalMidiBanks()));
     select(selection, application);
 
-    SequenceRenderer renderer(application.player(), source);
+    SequenceRenderer renderer(application.player(), application.engine());
     renderer.document().read(sequence);
     if (!renderer.document().errorString().empty())
         throw std::runtime_error(renderer.document().errorString());

@@ -16,11 +16,11 @@ struct KeyAction {
     bool starts;
     std::uint32_t key;
     float velocity;
-    double time; ///< When it is due, in the seconds of `getTime`.
+    double time; ///< When it is due, in the seconds of `getTime`; 0 for at once.
     double step; ///< The position at that time.
 };
 
-/// Starts or stops the key now, whatever its planned time. May be called on any thread.
+/// Starts or stops the key for the time of the action. May be called on any thread.
 void perform(SequenceHost& host, const KeyAction& action);
 
 /// Plays planned notes on a thread of its own. The main thread plans them, but would play them late

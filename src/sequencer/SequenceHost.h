@@ -10,12 +10,14 @@ class SequenceHost {
 public:
     virtual ~SequenceHost() = default;
 
-    /// Starts a key on the current instrument at the pitch of the current temperament. Does nothing
-    /// if there is no instrument.
-    virtual void play(int key, float velocity) = 0;
+    /// Starts a key on the current instrument at the pitch of the current temperament. `time` is
+    /// the moment that is meant, in the seconds of `getTime`; it sounds a constant delay later, or
+    /// as soon as possible if `time` is 0. Does nothing if there is no instrument.
+    virtual void play(int key, float velocity, double time) = 0;
 
-    /// Stops a key on the current instrument and on every other one that still sounds it.
-    virtual void stop(int key) = 0;
+    /// Stops a key that was started with `play`, on every instrument that still sounds it. If the
+    /// user holds it as well, it sounds on.
+    virtual void stop(int key, double time) = 0;
 
     /// Forces a spelling in the current temperament and plays its key, as `Temperament::isomorph`
     /// does.

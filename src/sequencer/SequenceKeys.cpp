@@ -1,5 +1,6 @@
 // The editor's keyboard and the commands of the Edit menu.
 
+#include "base/Clock.h"
 #include "base/Log.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyPosition.h"
@@ -114,7 +115,7 @@ void SequenceEditor::releaseKeys()
 
 void SequenceEditor::release(int number)
 {
-    transport_.host().stop(Temperament::isomorphKey(number));
+    transport_.host().stop(Temperament::isomorphKey(number), getTime());
 }
 
 void SequenceEditor::isomorph(int number)

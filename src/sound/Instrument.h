@@ -8,6 +8,8 @@
 
 namespace velmora {
 
+class AudioSource;
+
 /// A sound source that plays MIDI keys 0…127 at the pitches of a temperament. Not thread-safe: the
 /// player's lock guards every call.
 class Instrument : public Tunable {
@@ -29,6 +31,18 @@ public:
 
     /// Releases a key. Does nothing if the key does not sound.
     virtual void stop(int key) = 0;
+
+    /// Sets when the operations that follow are due, in the seconds of `getTime`; 0 for at once.
+    virtual void setDue(double /*time*/) {}
+
+    /// Shifts every key by `cents`, including those that sound.
+    virtual void bend(double /*cents*/) {}
+
+    /// Makes the notes that follow softer, as the soft pedal does, or normal again.
+    virtual void setSoft(bool /*soft*/) {}
+
+    /// The instrument's sound, for an engine to play; null if it has none.
+    virtual AudioSource* source() { return nullptr; }
 
     /// Ends every sound at once.
     virtual void silence() = 0;

@@ -23,6 +23,8 @@ public:
     void silence() override;
     void tune(const Temperament& temperament, int lo, int hi) override;
     void setInstrument(std::uint8_t program) override;
+    void setDue(double time) override { device_->setDue(time); }
+    AudioSource* source() override { return device_->source(); }
 
     /// The selected General MIDI program, 0…127.
     std::uint8_t program() const { return program_; }

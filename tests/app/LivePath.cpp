@@ -78,11 +78,11 @@ class LatencyProbe : public AudioSource {
 public:
     explicit LatencyProbe(AudioSource& source) : source_(source) {}
 
-    void render(float* left, float* right, std::size_t frames) override
+    void render(float* left, float* right, std::size_t frames, double start) override
     {
         const bool counts = arrived && !sounds;
         periods += counts ? 1 : 0;
-        source_.render(left, right, frames);
+        source_.render(left, right, frames, start);
         sounds = sounds || (counts && peak({left, frames}) != 0.0F);
     }
 
@@ -95,7 +95,8 @@ private:
 
 } // namespace
 
-TEST(LivePath, SoundsWithinTwoPeriodsOfAMessage)
+// Sound is rendered one period late, and the synthesizer and the limiter take parts of others.
+TEST(LivePath, SoundsWithinThreePeriodsOfAMessage)
 {
     const JackServer server;
     MidiSource source("keyboard", {"out"});
@@ -104,8 +105,8 @@ TEST(LivePath, SoundsWithinTwoPeriodsOfAMessage)
     AppDelegate app;
     app.makeBuiltinTunings();
     auto synthesizer = std::make_unique<Synthesizer>(output->rate(), generalMidiBanks());
-    Synthesizer& sounding = *synthesizer;
-    LatencyProbe probe(sounding);
+    LatencyProbe probe(app.engine());
+    app.engine().setRate(output->rate());
     app.makeMIDIPlayer(std::move(synthesizer));
     const MidiInputs inputs([&](MidiPacket packet) {
         probe.arrived = true;
@@ -116,7 +117,7 @@ TEST(LivePath, SoundsWithinTwoPeriodsOfAMessage)
 
     for (std::uint8_t i = 0; i < 50; ++i) {
         // Renders without the output, so that the last note dies away faster than in real time.
-        const Stereo silence = rendered(sounding, 4 * kRate + std::size_t{17} * i);
+        const Stereo silence = rendered(app.engine(), 4 * kRate + std::size_t{17} * i);
         ASSERT_EQ(silence.left.back(), 0.0F);
         probe.arrived = probe.sounds = false;
         probe.periods = 0;
@@ -127,7 +128,7 @@ TEST(LivePath, SoundsWithinTwoPeriodsOfAMessage)
         ASSERT_TRUE(waitUntil([&] { return probe.sounds.load(); }));
         output->play(nullptr);
         app.keyOff(key);
-        EXPECT_LE(probe.periods, 2);
+        EXPECT_LE(probe.periods, 3);
     }
 }
 

@@ -96,7 +96,7 @@ TEST_F(PlayerTest, AKeyStopsOnTheInstrumentThatSoundsIt)
     expectToStopOverThreeChanges([&] { player_.keyOn(kKey, 1.0F); }, [&] { player_.keyOff(kKey); });
     player_.setTemperament(dynamic_);
     expectToStopOverThreeChanges([&] { player_.isomorph(3 * (kKey - 48)); },
-                                 [&] { player_.stop(kKey); });
+                                 [&] { player_.stop(kKey, 0.0); });
 }
 
 TEST_F(PlayerTest, ANoteOfAPlayingSequenceStopsOnTheInstrumentThatSoundsIt)
@@ -143,6 +143,58 @@ TEST_F(PlayerTest, StopsAKeyOnlyWhereItSounds)
     player_.fade();
     player_.silence();
     EXPECT_EQ(calls_, (Calls{"stop 60", "fade 0.9", "silence"})) << "the removed one is forgotten";
+}
+
+TEST_F(PlayerTest, AKeySoundsUntilItsLastHolderReleasesIt)
+{
+    player_.setInstrument(other_);
+    const KeySource piano = deviceSource(0, 0);
+    const KeySource pedals = deviceSource(0, 1);
+    const auto expectToEndWith = [&](const std::function<void()>& last) {
+        calls_.clear();
+        EXPECT_EQ(player_.liveKeys().state(kKey), 0) << "no hand holds it any more";
+        last();
+        EXPECT_EQ(calls_, (Calls{"stop 60"}));
+    };
+    const auto pressAndRelease = [&] {
+        player_.keyOn(kKey, 0.5F, piano);
+        player_.keyOff(kKey, piano);
+    };
+
+    player_.keyOn(kKey, 0.5F, piano);
+    player_.keyOn(kKey, 0.5F, pedals);
+    player_.play(kKey, 0.5F, 0.0);
+    player_.keyOn(kKey, 0.5F);
+    player_.keyOff(kKey, piano);
+    player_.keyOff(kKey);
+    EXPECT_NE(player_.liveKeys().state(kKey), 0);
+    player_.keyOff(kKey, pedals);
+    expectToEndWith([&] { player_.stop(kKey, 0.0); });
+
+    player_.setSustain(piano, true, 0.0);
+    player_.setSustain(pedals, true, 0.0);
+    pressAndRelease();
+    pressAndRelease();
+    player_.setSustain(pedals, false, 0.0);
+    expectToEndWith([&] { player_.setSustain(piano, false, 0.0); });
+
+    player_.keyOn(kKey, 0.5F, piano);
+    player_.setSostenuto(piano, true, 0.0);
+    player_.keyOff(kKey, piano);
+    player_.keyOn(kKey + 1, 0.5F, piano);
+    player_.setSostenuto(piano, true, 0.0); // a pedal that sends every movement
+    player_.keyOff(kKey + 1, piano);
+    EXPECT_EQ(calls_.back(), "stop 61") << "it was not down when the pedal was pressed";
+    expectToEndWith([&] { player_.setSostenuto(piano, false, 0.0); });
+
+    player_.keyOn(kKey, 0.5F, piano);
+    player_.setSostenuto(piano, true, 0.0);
+    player_.setSustain(piano, true, 0.0);
+    calls_.clear();
+    player_.releaseAll(piano);
+    player_.keyOn(kKey + 1, 0.5F, piano);
+    player_.keyOff(kKey + 1, piano);
+    EXPECT_EQ(calls_, (Calls{"stop 60", "play 61 0.50", "stop 61"})) << "its pedals are up";
 }
 
 } // namespace velmora

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audio/AudioSource.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -36,7 +38,9 @@ void inBlocks(Stereo& sound, std::initializer_list<std::size_t> sizes, Process&&
 template <class Source> Stereo rendered(Source& source, std::size_t frames)
 {
     Stereo sound(frames);
-    inBlocks(sound, {128}, [&](float* l, float* r, std::size_t n) { source.render(l, r, n); });
+    inBlocks(sound, {128}, [&](float* l, float* r, std::size_t n) {
+        source.render(l, r, n, AudioSource::kOffline);
+    });
     return sound;
 }
 

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "sound/keys.h"
+
+#include <array>
+#include <bitset>
+#include <cstddef>
+#include <cstdint>
+
+namespace velmora {
+
+using KeySet = std::bitset<kKeys>;
+
+/// Numbers whatever can hold a key: the mouse, the sequencer, and each channel of each MIDI device.
+using KeySource = std::size_t;
+
+constexpr KeySource kMouse = 0;
+constexpr KeySource kSequencer = 1;
+
+/// How many MIDI devices are told apart.
+constexpr std::size_t kKeyDevices = 16;
+
+/// The number of sources.
+constexpr std::size_t kKeySources = 2 + kKeyDevices * 16;
+
+/// The source for a channel, 0…15, of a MIDI device. Devices are numbered from 0; beyond
+/// kKeyDevices they share sources.
+constexpr KeySource deviceSource(std::size_t device, std::size_t channel)
+{
+    return 2 + (device % kKeyDevices) * 16 + channel;
+}
+
+/// Knows who holds each key, by hand or with a pedal. A key sounds until nobody holds it.
+class KeyHolders {
+public:
+    void press(std::size_t key, KeySource source);
+
+    /// Releases a key by hand. The source's sustain pedal goes on holding it if it is down.
+    void release(std::size_t key, KeySource source);
+
+    /// Moves the sustain pedal of a source, which holds every key that the source releases while it
+    /// is down. Returns the keys that nobody holds any more.
+    KeySet setSustain(KeySource source, bool down);
+
+    /// Moves the sostenuto pedal of a source, which holds the keys that are down when it is
+    /// pressed. Returns the keys that nobody holds any more.
+    KeySet setSostenuto(KeySource source, bool down);
+
+    /// Releases every key and pedal of a source. Returns the keys that nobody holds any more.
+    KeySet releaseAll(KeySource source);
+
+    /// Releases every key. Pedals that are down stay down.
+    void clear();
+
+    /// True if anybody holds a key, by hand or with a pedal.
+    bool isHeld(std::size_t key) const { return held_[key] > 0; }
+
+    /// True if the user holds a key by hand.
+    bool isPressed(std::size_t key) const { return pressed_[key] > 0; }
+
+private:
+    struct Holder {
+        KeySet pressed, sustained, sostenuto;
+        bool sustainIsDown = false;
+        bool sostenutoIsDown = false;
+    };
+
+    void hold(KeySet& keys, std::size_t key);
+    /// Clears a set. Returns the keys that nobody holds any more.
+    KeySet drop(KeySet& keys);
+
+    std::array<Holder, kKeySources> holders_;
+    std::array<std::uint16_t, kKeys> held_{};    ///< How many sets contain each key.
+    std::array<std::uint16_t, kKeys> pressed_{}; ///< How many live sources press each key.
+};
+
+} // namespace velmora

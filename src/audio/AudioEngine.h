@@ -1,0 +1,83 @@
+#pragma once
+
+#include "audio/AudioSource.h"
+#include "audio/PeakLimiter.h"
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace velmora {
+
+/// How much of the time of a period it takes to render it.
+struct EngineLoad {
+    double mean = 0.0;
+    double worst = 0.0;
+};
+
+/// Mixes all sources of sound, applies the master volume, and limits the peaks of the sum. It is
+/// what an output plays.
+///
+/// Live sound is rendered one period late: what happened during the last period sounds at the same
+/// place in this one. Events therefore sound after a constant delay, whenever they arrive within a
+/// period.
+class AudioEngine : public AudioSource {
+public:
+    /// `rate` is in hertz.
+    explicit AudioEngine(double rate);
+
+    double rate() const { return rate_; }
+
+    /// Sets the rate of the engine and of its sources.
+    void setRate(double rate) override;
+
+    /// Starts to play a source, whose rate is set first. Throws std::length_error if there are
+    /// already 256 sources.
+    void add(AudioSource& source);
+
+    /// Stops playing a source. Once this returns, it is no longer used and may be destroyed. Must
+    /// not be called on the audio thread. Does nothing if the source is not played.
+    void remove(AudioSource& source);
+
+    /// Sets the master volume, a factor from 0 to 1.
+    void setVolume(float volume) { volume_ = volume; }
+
+    /// Returns the highest absolute sample of each channel since the last call.
+    std::array<float, 2> takePeaks();
+
+    /// Returns the load since the last call. It stays 0 while sound is rendered offline.
+    EngineLoad takeLoad();
+
+    /// Frames in the latest block; 0 before the first.
+    std::size_t period() const { return period_; }
+
+    void render(float* left, float* right, std::size_t frames, double start) override;
+
+private:
+    static constexpr std::size_t kMaximumSources = 256;
+
+    /// The longest block that the sources render at once.
+    static constexpr std::size_t kBlock = 1024;
+
+    void mix(float* left, float* right, std::size_t frames, double start);
+    void finish(float* left, float* right, std::size_t frames);
+    void measure(double seconds, std::size_t frames);
+
+    double rate_;
+    PeakLimiter limiter_;
+    std::array<std::atomic<AudioSource*>, kMaximumSources> sources_{};
+    std::atomic<std::uint64_t> blocks_{0}; ///< Odd while a block is rendered.
+    std::atomic<float> volume_{1.0F};
+    float appliedVolume_ = 1.0F;
+    std::array<float, kBlock> left_{}, right_{};
+
+    double load_ = 0.0; ///< The load of the previous block.
+    std::atomic<std::size_t> period_{0};
+    std::array<std::atomic<float>, 2> peaks_{};
+    std::atomic<double> loadSum_{0.0}, worstLoad_{0.0};
+    std::atomic<std::size_t> loads_{0};
+};
+
+} // namespace velmora

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <pthread.h>
+
+namespace velmora {
+
+/// A mutex that lends the priority of the threads that wait for it to the thread that holds it, so
+/// that a real-time thread never waits for an ordinary one that has been preempted.
+class PriorityMutex {
+public:
+    PriorityMutex()
+    {
+        pthread_mutexattr_t attributes;
+        pthread_mutexattr_init(&attributes);
+        pthread_mutexattr_setprotocol(&attributes, PTHREAD_PRIO_INHERIT);
+        pthread_mutex_init(&mutex_, &attributes);
+        pthread_mutexattr_destroy(&attributes);
+    }
+
+    ~PriorityMutex() { pthread_mutex_destroy(&mutex_); }
+    PriorityMutex(const PriorityMutex&) = delete;
+    PriorityMutex& operator=(const PriorityMutex&) = delete;
+
+    void lock() { pthread_mutex_lock(&mutex_); }
+    void unlock() { pthread_mutex_unlock(&mutex_); }
+
+private:
+    pthread_mutex_t mutex_;
+};
+
+} // namespace velmora
