@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <numeric>
 #include <stdexcept>
 #include <thread>
 
@@ -29,12 +30,15 @@ float peakOf(const float* samples, std::size_t frames)
 
 } // namespace
 
-AudioEngine::AudioEngine(double rate) : rate_(rate), limiter_(rate) {}
+AudioEngine::AudioEngine(double rate) : rate_(rate), limiter_(rate), limiterDelay_(limiter_.delay())
+{
+}
 
 void AudioEngine::setRate(double rate)
 {
     rate_ = rate;
     limiter_ = PeakLimiter(rate);
+    limiterDelay_ = limiter_.delay();
     for (const auto& source : sources_)
         if (AudioSource* playing = source.load())
             playing->setRate(rate);
@@ -61,6 +65,20 @@ void AudioEngine::remove(AudioSource& source)
     const std::uint64_t block = blocks_;
     while (block % 2 == 1 && blocks_ == block)
         std::this_thread::sleep_for(std::chrono::microseconds(100));
+}
+
+double AudioEngine::delay() const
+{
+    return static_cast<double>(period_ + limiterDelay_) / rate_;
+}
+
+std::size_t AudioEngine::voices() const
+{
+    return std::accumulate(sources_.begin(), sources_.end(), std::size_t{0},
+                           [](std::size_t sum, const std::atomic<AudioSource*>& slot) {
+                               const AudioSource* source = slot.load();
+                               return sum + (source == nullptr ? 0 : source->voices());
+                           });
 }
 
 std::array<float, 2> AudioEngine::takePeaks()

@@ -50,8 +50,11 @@ public:
     /// Returns the load since the last call. It stays 0 while sound is rendered offline.
     EngineLoad takeLoad();
 
-    /// Frames in the latest block; 0 before the first.
-    std::size_t period() const { return period_; }
+    /// The seconds from an event to its sound: one period and the delay of the limiter.
+    double delay() const;
+
+    /// The voices of all sources. Must not be called while a source is removed.
+    std::size_t voices() const override;
 
     void render(float* left, float* right, std::size_t frames, double start) override;
 
@@ -65,16 +68,17 @@ private:
     void finish(float* left, float* right, std::size_t frames);
     void measure(double seconds, std::size_t frames);
 
-    double rate_;
+    std::atomic<double> rate_;
     PeakLimiter limiter_;
+    std::atomic<std::size_t> limiterDelay_; ///< In frames.
     std::array<std::atomic<AudioSource*>, kMaximumSources> sources_{};
     std::atomic<std::uint64_t> blocks_{0}; ///< Odd while a block is rendered.
     std::atomic<float> volume_{1.0F};
     float appliedVolume_ = 1.0F;
     std::array<float, kBlock> left_{}, right_{};
 
-    double load_ = 0.0; ///< The load of the previous block.
-    std::atomic<std::size_t> period_{0};
+    double load_ = 0.0;                  ///< The load of the previous block.
+    std::atomic<std::size_t> period_{0}; ///< Frames in the latest block.
     std::array<std::atomic<float>, 2> peaks_{};
     std::atomic<double> loadSum_{0.0}, worstLoad_{0.0};
     std::atomic<std::size_t> loads_{0};

@@ -22,6 +22,9 @@ public:
     /// Sets the frames per second. Called while nothing renders.
     virtual void setRate(double /*rate*/) {}
 
+    /// The number of voices that sound. May be called on any thread.
+    virtual std::size_t voices() const { return 0; }
+
     /// Reports how much of the previous period rendering has taken, as a fraction of its length, so
     /// that the source can save work. Called on the audio thread before each period.
     virtual void setLoad(double /*load*/) {}
