@@ -43,10 +43,11 @@ int main(int argc, char** argv)
     Desktop desktop;
     AppDelegate& live = desktop.application();
     live.makeBuiltinTunings();
-    auto output = AudioOutput::open();
+    auto output = AudioOutput::open({});
     auto synthesizer = std::make_unique<Synthesizer>(output->rate(), generalMidiBanks());
-    output->play(synthesizer.get());
     live.makeMIDIPlayer(std::move(synthesizer));
+    live.engine().setRate(output->rate());
+    output->start(live.engine());
     live.selectTuning("Dynamic");
 
     std::vector<double> times;
@@ -83,5 +84,5 @@ int main(int argc, char** argv)
                static_cast<double>(frames) / (now() - started));
     fmt::print("microseconds from receiving to playing: median {:.1f}, p99 {:.1f}, max {:.1f}\n",
                at(0.5), at(0.99), at(1.0));
-    output->play(nullptr);
+    output.reset();
 }

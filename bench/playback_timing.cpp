@@ -81,10 +81,11 @@ int main(int argc, char** argv)
     Desktop desktop;
     AppDelegate& application = desktop.application();
     application.makeBuiltinTunings();
-    const auto output = AudioOutput::open();
+    auto output = AudioOutput::open({});
     auto synthesizer = std::make_unique<Synthesizer>(output->rate(), generalMidiBanks());
-    output->play(synthesizer.get());
     application.makeMIDIPlayer(std::move(synthesizer));
+    application.engine().setRate(output->rate());
+    output->start(application.engine());
     TimedInstrument instrument(*application.instruments().front()->instrument());
     application.setInstrument(instrument, "timed");
     application.selectTuning("Dynamic");
@@ -126,6 +127,6 @@ int main(int argc, char** argv)
                starts.size(), seconds, static_cast<double>(frames) / seconds);
     fmt::print("milliseconds late: minimum {:.2f}, median {:.2f}, p99 {:.2f}, maximum {:.2f}\n",
                at(0.0), at(0.5), at(0.99), at(1.0));
-    output->play(nullptr);
+    output.reset();
     application.setInstrument(*application.instruments().front()->instrument(), "");
 }

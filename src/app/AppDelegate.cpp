@@ -2,6 +2,7 @@
 
 #include "audio/Synthesizer.h"
 #include "base/Log.h"
+#include "platform/quiet.h"
 #include "preferences/Preferences.h"
 
 #include <cassert>
@@ -50,12 +51,11 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::start()
 {
+    quietSoundLibraries();
     openAL_ = OpenALDevice::open();
-    output_ = AudioOutput::open();
-    if (output_) {
-        engine_.setRate(output_->rate());
-        output_->play(&engine_);
-    }
+    output_ = AudioOutput::open({});
+    engine_.setRate(output_->rate());
+    output_->start(engine_);
     inputs_ = std::make_unique<MidiInputs>([this](MidiPacket packet) { received(packet); });
     makeBuiltinTunings();
     makeMIDIPlayer(std::make_unique<SilentDevice>());

@@ -138,7 +138,7 @@ public:
     /// Cancels the running import at its next step.
     void cancelImport() { isCancelled_ = true; }
 
-    /// The synthesizer's sound output; null if there is none, or before `start`.
+    /// The sound output; null before `start`.
     const AudioOutput* audioOutput() const { return output_.get(); }
 
     /// The MIDI inputs; null before `start`.

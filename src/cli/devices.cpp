@@ -1,28 +1,16 @@
 #include "cli/commands.h"
 
 #include "audio/Synthesizer.h"
+#include "platform/quiet.h"
 
 #include <nlohmann/json.hpp>
 #include <spdlog/fmt/fmt.h>
-
-#include <chrono>
-#include <thread>
 
 namespace velmora {
 
 using Json = nlohmann::ordered_json;
 
 namespace {
-
-/// Waits up to a second for the output to play its first period. Returns the period's length in
-/// frames, or 0 if there was none.
-std::size_t waitForPeriod(const AudioOutput& output)
-{
-    using namespace std::chrono_literals;
-    for (int i = 0; i < 100 && output.period() == 0; ++i)
-        std::this_thread::sleep_for(10ms);
-    return output.period();
-}
 
 Json describeMidi()
 {
@@ -32,10 +20,11 @@ Json describeMidi()
 
 Json describeAudio()
 {
-    const auto output = AudioOutput::open();
-    if (!output)
+    quietSoundLibraries();
+    const auto output = AudioOutput::open({});
+    if (output->driver() == "none")
         return nullptr;
-    const std::size_t period = waitForPeriod(*output);
+    const std::size_t period = output->period();
     return {{"driver", output->driver()},
             {"rate", output->rate()},
             {"periodFrames", period},

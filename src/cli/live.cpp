@@ -23,7 +23,7 @@ void live(const Selection& selection)
     fmt::print("Playing in {} from {} on {}. Press Ctrl-C to stop.\n", selection.tuning,
                inputs.names().empty() ? "no MIDI input"
                                       : fmt::format("{}", fmt::join(inputs.names(), ", ")),
-               output == nullptr ? "no sound output" : output->driver());
+               output->driver() == "none" ? "no sound output" : output->driver());
     std::fflush(stdout);
     QCoreApplication::exec();
 }

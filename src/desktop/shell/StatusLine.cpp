@@ -12,7 +12,6 @@ namespace velmora {
 
 namespace {
 
-constexpr int kOutputMilliseconds = 500;
 constexpr int kPartMargin = 6;
 
 QString describe(const AudioOutput& output)
@@ -48,7 +47,6 @@ StatusLine::StatusLine(AppDelegate& application)
     }
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::tuningChanged, this, &StatusLine::showSound);
-    connect(&outputTimer_, &QTimer::timeout, this, &StatusLine::showOutput);
 }
 
 void StatusLine::showSound()
@@ -70,7 +68,7 @@ void StatusLine::showDevices()
     inputs_->setToolTip(names.isEmpty() ? tr("No MIDI device was found when Velmora started")
                                         : names.join("\n"));
 
-    if (application_.audioOutput() == nullptr)
+    if (application_.audioOutput()->driver() == "none")
         addNotice(tr("The General MIDI player is silent because there is no sound output. Check "
                      "the sound card, then start Velmora again."));
     if (!application_.canPlaySamples())
@@ -88,12 +86,7 @@ void StatusLine::showDevices()
 void StatusLine::showOutput()
 {
     const AudioOutput* output = application_.audioOutput();
-    if (output != nullptr && output->period() == 0) {
-        outputTimer_.start(kOutputMilliseconds);
-        return;
-    }
-    outputTimer_.stop();
-    output_->setText(output == nullptr ? tr("No sound output") : describe(*output));
+    output_->setText(output->driver() == "none" ? tr("No sound output") : describe(*output));
 }
 
 void StatusLine::addNotice(const QString& notice)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QStatusBar>
-#include <QTimer>
 
 class QLabel;
 class QToolButton;
@@ -38,7 +37,6 @@ private:
     QLabel *instrument_, *tuning_, *output_, *inputs_;
     QToolButton* noticesButton_;
     QStringList notices_;
-    QTimer outputTimer_; ///< Runs until the period of the output is known.
 };
 
 } // namespace velmora

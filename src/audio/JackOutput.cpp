@@ -1,0 +1,178 @@
+#include "audio/JackOutput.h"
+
+#include "audio/Playback.h"
+#include "base/Clock.h"
+#include "base/Log.h"
+#include "platform/JackClient.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+constexpr double kMicrosecond = 1e-6;
+
+/// Returns the audio input ports of a client, or the physical ones of all clients.
+std::vector<std::string> playbackPorts(jack_client_t* jack, const std::string& client = {})
+{
+    const unsigned long flags = JackPortIsInput | (client.empty() ? JackPortIsPhysical : 0);
+    const std::unique_ptr<const char*[], void (*)(void*)> names(
+        jack_get_ports(jack, nullptr, JACK_DEFAULT_AUDIO_TYPE, flags), jack_free);
+    std::vector<std::string> ports;
+    for (std::size_t i = 0; names && names[i] != nullptr; ++i) {
+        const std::string port = names[i];
+        if (client.empty() || port.starts_with(client + ":"))
+            ports.push_back(port);
+    }
+    return ports;
+}
+
+/// What libjack's callbacks use.
+struct JackPlayback : Playback {
+    jack_client_t* client = nullptr;
+    std::array<jack_port_t*, 2> ports{};
+};
+
+int processPeriod(jack_nframes_t frames, void* data)
+{
+    auto& playback = *static_cast<JackPlayback*>(data);
+    const auto buffer = [&](std::size_t port) {
+        return static_cast<float*>(jack_port_get_buffer(playback.ports[port], frames));
+    };
+    jack_nframes_t firstFrame = 0;
+    jack_time_t start = 0;
+    jack_time_t next = 0;
+    float microseconds = 0.0F;
+    double sinceStart = 0.0;
+    // JACK's clock is not `getTime`'s, and they drift apart.
+    if (jack_get_cycle_times(playback.client, &firstFrame, &start, &next, &microseconds) == 0)
+        sinceStart = static_cast<double>(static_cast<std::int64_t>(jack_get_time() - start));
+    playback.render(buffer(0), buffer(1), frames, getTime() - sinceStart * kMicrosecond);
+    return 0;
+}
+
+int changePeriod(jack_nframes_t frames, void* data)
+{
+    static_cast<JackPlayback*>(data)->period = frames;
+    return 0;
+}
+
+int countLostPeriod(void* data)
+{
+    ++static_cast<JackPlayback*>(data)->lostPeriods;
+    return 0;
+}
+
+void changeLatency(jack_latency_callback_mode_t mode, void* data)
+{
+    auto& playback = *static_cast<JackPlayback*>(data);
+    if (mode != JackPlaybackLatency)
+        return;
+    jack_latency_range_t range{};
+    jack_port_get_latency_range(playback.ports[0], mode, &range);
+    playback.latency = range.max / static_cast<double>(jack_get_sample_rate(playback.client));
+}
+
+class JackOutput : public AudioOutput {
+public:
+    JackOutput(std::unique_ptr<JackClient> client, const OutputSettings& settings)
+        : device_(settings.device), rate_(jack_get_sample_rate(client->get())),
+          client_(std::move(client))
+    {
+        jack_client_t* jack = client_->get();
+        playback_->client = jack;
+        playback_->ports = {registerPort("left"), registerPort("right")};
+        playback_->period = jack_get_buffer_size(jack);
+        client_->keep(playback_);
+        jack_set_process_callback(jack, processPeriod, playback_.get());
+        jack_set_buffer_size_callback(jack, changePeriod, playback_.get());
+        jack_set_xrun_callback(jack, countLostPeriod, playback_.get());
+        jack_set_latency_callback(jack, changeLatency, playback_.get());
+    }
+
+    ~JackOutput() override { playback_->setSource(nullptr); }
+
+    bool hasPorts() const
+    {
+        return playback_->ports[0] != nullptr && playback_->ports[1] != nullptr;
+    }
+
+    void setPeriod(std::size_t frames)
+    {
+        const auto period = static_cast<jack_nframes_t>(frames);
+        if (frames != playback_->period && jack_set_buffer_size(client_->get(), period) != 0)
+            logger("audio").warn("JACK does not accept a period of {} frames", frames);
+    }
+
+    void start(AudioSource& source) override
+    {
+        playback_->setSource(&source);
+        jack_activate(client_->get());
+        const auto targets = playbackPorts(client_->get(), device_);
+        for (std::size_t i = 0; i < std::min(targets.size(), playback_->ports.size()); ++i)
+            jack_connect(client_->get(), jack_port_name(playback_->ports[i]), targets[i].c_str());
+        if (targets.empty())
+            logger("audio").warn("JACK has no playback ports; connect Velmora's ports yourself");
+    }
+
+    const std::string& driver() const override { return driver_; }
+    const std::string& device() const override { return device_; }
+    double rate() const override { return rate_; }
+    std::size_t period() const override { return playback_->period; }
+    double latency() const override { return playback_->latency; }
+    std::uint64_t periods() const override { return playback_->periods; }
+    std::uint64_t lostPeriods() const override { return playback_->lostPeriods; }
+    bool isLost() const override { return client_->isLost(); }
+
+    bool canReach(const std::string& device) const override
+    {
+        return !isLost() && !playbackPorts(client_->get(), device).empty();
+    }
+
+private:
+    jack_port_t* registerPort(const char* name)
+    {
+        return jack_port_register(client_->get(), name, JACK_DEFAULT_AUDIO_TYPE, JackPortIsOutput,
+                                  0);
+    }
+
+    std::string driver_ = "jack", device_;
+    double rate_;
+    std::shared_ptr<JackPlayback> playback_ = std::make_shared<JackPlayback>();
+    std::unique_ptr<JackClient> client_;
+};
+
+} // namespace
+
+std::unique_ptr<AudioOutput> openJackOutput(const OutputSettings& settings)
+{
+    auto client = JackClient::open("velmora");
+    if (!client ||
+        (!settings.device.empty() && playbackPorts(client->get(), settings.device).empty()))
+        return nullptr;
+    auto output = std::make_unique<JackOutput>(std::move(client), settings);
+    if (!output->hasPorts())
+        return nullptr;
+    if (settings.period != 0)
+        output->setPeriod(settings.period);
+    return output;
+}
+
+std::optional<std::vector<OutputDevice>> jackDevices()
+{
+    const auto client = JackClient::open("velmora-devices");
+    if (!client)
+        return std::nullopt;
+    std::vector<OutputDevice> devices;
+    for (const std::string& port : playbackPorts(client->get())) {
+        const std::string name = port.substr(0, port.find(':'));
+        if (devices.empty() || devices.back().name != name)
+            devices.push_back({name, name});
+    }
+    return devices;
+}
+
+} // namespace velmora

@@ -1,0 +1,166 @@
+#include "audio/WritingOutput.h"
+
+#include "audio/PeriodClock.h"
+#include "audio/Playback.h"
+#include "base/Clock.h"
+
+#include <pthread.h>
+#include <sched.h>
+
+#include <algorithm>
+#include <chrono>
+#include <future>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::chrono::seconds kPatience{1};
+
+/// The lowest useful priority; the servers' own threads have higher ones.
+constexpr int kPriority = 5;
+
+/// How often the delay of the device is asked for, in seconds.
+constexpr double kDelayInterval = 0.5;
+
+constexpr double kUsualRate = 48000.0;
+constexpr std::size_t kUsualPeriod = 256;
+
+/// What the thread that writes shares with the output.
+struct WritingPlayback : Playback {
+    std::unique_ptr<SoundWriter> writer;
+    std::atomic<bool> isLost{false}, isStopped{false};
+};
+
+/// Raises the priority of this thread if the user is allowed to.
+void makeRealTime()
+{
+    sched_param parameter{};
+    parameter.sched_priority = kPriority;
+    pthread_setschedparam(pthread_self(), SCHED_FIFO, &parameter);
+}
+
+void playThrough(WritingPlayback& playback)
+{
+    makeRealTime();
+    SoundWriter& writer = *playback.writer;
+    const std::size_t frames = writer.period();
+    const double length = static_cast<double>(frames) / writer.rate();
+    std::vector<float> left(frames), right(frames), samples(2 * frames);
+    PeriodClock clock(static_cast<double>(writer.periodsAhead()) * length);
+    double delayAsked = 0.0;
+    while (!playback.isStopped) {
+        const double now = getTime();
+        playback.render(left.data(), right.data(), frames, clock.next(now, length));
+        for (std::size_t i = 0; i < frames; ++i) {
+            samples[2 * i] = left[i];
+            samples[2 * i + 1] = right[i];
+        }
+        if (now - delayAsked > kDelayInterval) {
+            playback.latency = writer.delay();
+            delayAsked = now;
+        }
+        const SoundWriter::Written written = writer.write(samples.data());
+        if (written == SoundWriter::Written::NotAtAll) {
+            playback.isLost = true;
+            return;
+        }
+        if (written == SoundWriter::Written::TooLate || clock.wasLate())
+            ++playback.lostPeriods;
+    }
+}
+
+class WritingOutput : public AudioOutput {
+public:
+    WritingOutput(std::string driver, std::string device, std::unique_ptr<SoundWriter> writer)
+        : driver_(std::move(driver)), device_(std::move(device)), rate_(writer->rate())
+    {
+        playback_->period = writer->period();
+        playback_->writer = std::move(writer);
+    }
+
+    ~WritingOutput() override
+    {
+        playback_->setSource(nullptr);
+        playback_->isStopped = true;
+        if (!thread_.joinable())
+            return;
+        if (hasEnded_.wait_for(kPatience) == std::future_status::ready)
+            thread_.join();
+        else
+            thread_.detach();
+    }
+
+    void start(AudioSource& source) override
+    {
+        playback_->setSource(&source);
+        std::packaged_task<void()> task([playback = playback_] { playThrough(*playback); });
+        hasEnded_ = task.get_future();
+        thread_ = std::thread(std::move(task));
+    }
+
+    const std::string& driver() const override { return driver_; }
+    const std::string& device() const override { return device_; }
+    double rate() const override { return rate_; }
+    std::size_t period() const override { return playback_->period; }
+    double latency() const override { return playback_->latency; }
+    std::uint64_t periods() const override { return playback_->periods; }
+    std::uint64_t lostPeriods() const override { return playback_->lostPeriods; }
+    bool isLost() const override { return playback_->isLost; }
+
+private:
+    std::string driver_, device_;
+    double rate_;
+    std::shared_ptr<WritingPlayback> playback_ = std::make_shared<WritingPlayback>();
+    std::future<void> hasEnded_;
+    std::thread thread_;
+};
+
+/// Takes sound at the pace of a device and drops it.
+class SilentWriter : public SoundWriter {
+public:
+    explicit SilentWriter(const OutputSettings& settings)
+        : rate_(settings.rate > 0.0 ? settings.rate : kUsualRate),
+          period_(settings.period > 0 ? settings.period : kUsualPeriod)
+    {
+    }
+
+    double rate() const override { return rate_; }
+    std::size_t period() const override { return period_; }
+    std::size_t periodsAhead() const override { return 2; }
+
+    Written write(const float* /*samples*/) override
+    {
+        const double length = static_cast<double>(period_) / rate_;
+        const double now = getTime();
+        // After a long interruption, the lost periods are not made up for.
+        next_ = std::max(next_ + length, now);
+        std::this_thread::sleep_for(std::chrono::duration<double>(next_ - now));
+        return Written::InTime;
+    }
+
+    double delay() override { return 0.0; }
+
+private:
+    double rate_;
+    std::size_t period_;
+    double next_ = getTime(); ///< When the device has room again.
+};
+
+} // namespace
+
+std::unique_ptr<AudioOutput> makeWritingOutput(const std::string& driver, const std::string& device,
+                                               std::unique_ptr<SoundWriter> writer)
+{
+    return std::make_unique<WritingOutput>(driver, device, std::move(writer));
+}
+
+std::unique_ptr<AudioOutput> openSilentOutput(const OutputSettings& settings)
+{
+    return makeWritingOutput("none", {}, std::make_unique<SilentWriter>(settings));
+}
+
+} // namespace velmora
