@@ -81,6 +81,15 @@ FractionalResampler::FractionalResampler()
     table(); // so that the audio thread does not compute it
 }
 
+void FractionalResampler::clear()
+{
+    left_.fill(0.0F);
+    right_.fill(0.0F);
+    filled_ = kTaps - 1;
+    position_ = 0;
+    phase_ = 0.0;
+}
+
 void FractionalResampler::makeRoom()
 {
     std::copy(left_.begin() + static_cast<std::ptrdiff_t>(position_),

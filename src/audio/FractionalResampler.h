@@ -7,9 +7,9 @@
 
 namespace velmora {
 
-/// Shifts the pitch of a stereo stream by a small ratio. Interpolates with a windowed sinc of 32
-/// taps in 512 phases, with linear interpolation between phases. If the step is always exactly
-/// 1, the output is the delayed input.
+/// Shifts the pitch of a stereo stream by a small ratio, or raises its sample rate. Interpolates
+/// with a windowed sinc of 32 taps in 512 phases, with linear interpolation between phases. If the
+/// step is always exactly 1, the output is the delayed input.
 class FractionalResampler {
 public:
     static constexpr std::size_t kTaps = 32;
@@ -17,14 +17,17 @@ public:
     /// Number of input frames requested at a time.
     static constexpr std::size_t kBlock = 64;
 
-    /// Delay of the output in frames.
+    /// Delay of the output in frames of the input.
     static constexpr std::size_t kDelay = kTaps / 2;
 
     FractionalResampler();
 
-    /// Sets the number of input frames per output frame. 2^(cents / 1200) raises the pitch by
-    /// `cents`.
+    /// Sets the number of input frames per output frame, which must not be much above 1.
+    /// 2^(cents / 1200) raises the pitch by `cents`.
     void setStep(double step) { step_ = step; }
+
+    /// Forgets the input, so that the next output frame asks for a block that begins there.
+    void clear();
 
     /// Adds `frames` frames to `left` and `right`. Calls `source(left, right)`, which must write
     /// kBlock frames, whenever it needs more input.

@@ -5,43 +5,42 @@
 #include "platform/quiet.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace velmora {
 
 namespace {
 
-constexpr std::size_t kLanes = 12;
 constexpr int kCentreBend = 8192;
-constexpr int kNoBend = -1;
 
 std::size_t channelOf(int status)
 {
     return static_cast<std::size_t>(status & midi::kChannelMask);
 }
 
-/// The index of the lane that sounds a channel. Channel 9 is General MIDI's percussion, and nothing
-/// is played on channels 13 to 15.
-std::optional<std::size_t> laneIndex(std::size_t channel)
+/// The index of a channel's own lane. Channel 9 is General MIDI's percussion, and nothing is played
+/// on channels 13 to 15.
+std::optional<std::size_t> ownLaneOf(std::size_t channel)
 {
     if (channel < 9)
         return channel;
     return channel >= 10 && channel <= 12 ? std::optional(channel - 1) : std::nullopt;
 }
 
-/// Returns the value of a pitch bend, clamped to 14 bits.
-int bendOf(int data1, int data2)
+/// Returns the cents of a pitch bend, whose value is clamped to 14 bits.
+double centsOf(int data1, int data2)
 {
-    return std::clamp(data1 + 128 * data2, 0, 2 * kCentreBend - 1);
+    const int value = std::clamp(data1 + 128 * data2, 0, 2 * kCentreBend - 1);
+    return 200.0 * (value - kCentreBend) / kCentreBend;
 }
 
 } // namespace
 
 Synthesizer::Synthesizer(double rate, const std::vector<std::filesystem::path>& banks)
-    : reverb_(rate), queue_(kQueue)
+    : rate_(rate), reverb_(rate)
 {
     quietSoundLibraries();
-    lastBend_.fill(kCentreBend);
     auto first = std::make_unique<SynthesizerLane>(rate);
     const auto loaded = std::ranges::find_if(banks, [&](const std::filesystem::path& path) {
         if (first->loadBank(path.c_str()))
@@ -57,6 +56,8 @@ Synthesizer::Synthesizer(double rate, const std::vector<std::filesystem::path>& 
     lanes_.push_back(std::move(first));
     while (lanes_.size() < kLanes)
         lanes_.push_back(std::make_unique<SynthesizerLane>(rate, lanes_.front().get()));
+    for (std::size_t i = 0; i < kOwnLanes; ++i)
+        ownLanes_[i] = i;
 }
 
 Synthesizer::~Synthesizer()
@@ -66,100 +67,144 @@ Synthesizer::~Synthesizer()
         lanes_.pop_back();
 }
 
-SynthesizerLane* Synthesizer::laneOf(std::size_t channel)
-{
-    const auto index = laneIndex(channel);
-    return !index || lanes_.empty() ? nullptr : lanes_[*index].get();
-}
-
 void Synthesizer::midiEvent(int status, int data1, int data2)
 {
+    if ((status & midi::kKindMask) != midi::kPitchBend) {
+        send({due_, status, data1, data2, 0.0});
+        return;
+    }
     // Retuning sends the bends of all channels, and most of them are unchanged.
-    const bool isBend = (status & midi::kKindMask) == midi::kPitchBend;
-    int& lastBend = lastBend_[channelOf(status)];
-    if (isBend && bendOf(data1, data2) == lastBend)
-        return;
-
-    const std::size_t written = written_.load(std::memory_order_relaxed);
-    if (written - read_.load(std::memory_order_acquire) == kQueue) {
-        overflowed_.store(true, std::memory_order_release);
-        return;
-    }
-    queue_[written % kQueue] = {status, data1, data2};
-    written_.store(written + 1, std::memory_order_release);
-    if (isBend)
-        lastBend = bendOf(data1, data2);
+    double& last = lastBend_[channelOf(status)];
+    const double cents = centsOf(data1, data2);
+    if (cents != last && send({due_, status, data1, data2, cents}))
+        last = cents;
 }
 
-void Synthesizer::takeEvents()
+void Synthesizer::bend(double cents)
 {
-    // Read before the queue, so that all notes from before the lost message are silenced.
-    const bool overflowed = overflowed_.exchange(false, std::memory_order_acquire);
-    const std::size_t written = written_.load(std::memory_order_acquire);
-    std::size_t read = read_.load(std::memory_order_relaxed);
-    std::array<int, 16> bends{};
-    bends.fill(kNoBend);
-    for (; read != written; ++read) {
-        const Event& event = queue_[read % kQueue];
-        // Only the last of several bends is applied: see docs/decisions.md, 129.
-        const int kind = event.status & midi::kKindMask;
-        const bool isNote = kind == midi::kNoteOn || kind == midi::kNoteOff;
-        if (kind == midi::kPitchBend)
-            bends[channelOf(event.status)] = bendOf(event.data1, event.data2);
-        else if (!overflowed || !isNote)
-            apply(event);
-    }
-    read_.store(read, std::memory_order_release);
-
-    // A lost message may have been a note-off: see docs/decisions.md, 130.
-    for (std::size_t channel = 0; channel < bends.size(); ++channel) {
-        SynthesizerLane* lane = laneOf(channel);
-        if (lane != nullptr && overflowed)
-            silence(*lane);
-        if (lane != nullptr && bends[channel] != kNoBend)
-            lane->setCents(200.0 * (bends[channel] - kCentreBend) / kCentreBend);
-    }
+    send({due_, kWheel, 0, 0, cents});
 }
 
-void Synthesizer::silence(SynthesizerLane& lane)
+bool Synthesizer::send(const Event& event)
 {
-    lane.allSoundsOff();
-    reverb_.silence();
+    if (queue_.push(event))
+        return true;
+    overflowed_.store(true, std::memory_order_release);
+    return false;
 }
 
 void Synthesizer::apply(const Event& event)
 {
-    SynthesizerLane* lane = laneOf(channelOf(event.status));
-    if (lane == nullptr)
+    if (event.status == kWheel) {
+        wheel_ = event.cents;
+        for (std::size_t own = 0; own < kOwnLanes; ++own)
+            applyBends(own);
+        return;
+    }
+    const auto own = ownLaneOf(channelOf(event.status));
+    if (!own || lanes_.empty())
         return;
     switch (event.status & midi::kKindMask) {
     case midi::kNoteOff:
-        lane->noteOff(event.data1);
+        forLanes(*own, [&](SynthesizerLane& lane) { lane.noteOff(event.data1); });
         break;
     case midi::kNoteOn:
-        lane->noteOn(event.data1, event.data2);
+        noteOn(*own, event.data1, event.data2);
         break;
     case midi::kControlChange:
         if (event.data1 == midi::kAllSoundOff)
-            silence(*lane);
+            silence(*own);
         else
-            lane->controlChange(event.data1, event.data2);
+            forLanes(*own,
+                     [&](SynthesizerLane& lane) { lane.controlChange(event.data1, event.data2); });
         break;
     case midi::kProgramChange:
-        lane->programChange(event.data1);
+        forLanes(*own, [&](SynthesizerLane& lane) { lane.programChange(event.data1); });
+        break;
+    case midi::kPitchBend:
+        bends_[*own] = event.cents;
+        applyBends(*own);
         break;
     default:
         break;
     }
 }
 
-void Synthesizer::render(float* left, float* right, std::size_t frames, double /*start*/)
+void Synthesizer::noteOn(std::size_t own, int key, int velocity)
 {
-    takeEvents();
+    // A key that is struck again is released first, as on a single lane.
+    forLanes(own, [&](SynthesizerLane& lane) { lane.noteOff(key); });
+    if (velocity > 0)
+        laneForNote(own).noteOn(key, velocity);
+}
+
+SynthesizerLane& Synthesizer::laneForNote(std::size_t own)
+{
+    SynthesizerLane& fallback = *lanes_[own];
+    if (fallback.isIdle())
+        return fallback;
+    for (std::size_t i = kOwnLanes; i < lanes_.size(); ++i) {
+        if (!lanes_[i]->isIdle())
+            continue;
+        ownLanes_[i] = own;
+        lanes_[i]->follow(fallback);
+        return *lanes_[i];
+    }
+    return fallback;
+}
+
+void Synthesizer::applyBends(std::size_t own)
+{
+    forLanes(own, [&](SynthesizerLane& lane) { lane.setCents(bends_[own] + wheel_); });
+}
+
+void Synthesizer::silence(std::size_t own)
+{
+    forLanes(own, [](SynthesizerLane& lane) { lane.allSoundsOff(); });
+    reverb_.silence();
+}
+
+void Synthesizer::silenceAfterOverflow()
+{
+    // The lost message may have been a note-off: see docs/decisions.md, 130.
+    for (const Event* event = queue_.front(); event != nullptr; event = queue_.front()) {
+        const int kind = event->status & midi::kKindMask;
+        if (kind != midi::kNoteOn && kind != midi::kNoteOff)
+            apply(*event);
+        queue_.pop();
+    }
+    for (std::size_t own = 0; own < kOwnLanes; ++own)
+        silence(own);
+}
+
+std::size_t Synthesizer::frameOf(const Event& event, double start, std::size_t frames) const
+{
+    const double frame = std::round((event.due - start) * rate_);
+    return start == kOffline || frame <= 0.0
+               ? 0
+               : static_cast<std::size_t>(std::min(frame, static_cast<double>(frames)));
+}
+
+void Synthesizer::render(float* left, float* right, std::size_t frames, double start)
+{
     std::fill_n(left, frames, 0.0F);
     std::fill_n(right, frames, 0.0F);
-    for (const auto& lane : lanes_)
-        lane->mix(left, right, frames);
+    if (overflowed_.exchange(false, std::memory_order_acquire))
+        silenceAfterOverflow();
+    for (std::size_t done = 0; done < frames;) {
+        std::size_t next = frames;
+        for (const Event* event = queue_.front(); event != nullptr; event = queue_.front()) {
+            next = std::max(done, frameOf(*event, start, frames));
+            if (next > done)
+                break;
+            apply(*event);
+            queue_.pop();
+            next = frames;
+        }
+        for (const auto& lane : lanes_)
+            lane->mix(left + done, right + done, next - done);
+        done = next;
+    }
     reverb_.process(left, right, frames);
 }
 

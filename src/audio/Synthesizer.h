@@ -4,22 +4,26 @@
 #include "audio/MusicDevice.h"
 #include "audio/Reverb.h"
 #include "audio/SynthesizerLane.h"
+#include "base/LockFreeQueue.h"
 
 #include <array>
 #include <atomic>
-#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <vector>
 
 namespace velmora {
 
-/// The General MIDI synthesizer: a lane for each channel with notes, and reverberation of their
-/// sum. Messages may be sent from one thread at a time while another thread renders;
-/// neither waits for the other. Without a SoundFont it is silent.
+/// The General MIDI synthesizer, with reverberation. Messages may be sent from one thread at a time
+/// while another thread renders; neither waits for the other. Without a SoundFont it is silent.
+///
+/// FluidSynth starts notes only every 64 frames. Each channel with notes has a lane of its own, and
+/// further lanes are lent to whatever channel needs one: as long as an idle lane is left, each note
+/// starts on one, exactly at its frame.
 class Synthesizer : public MusicDevice, public AudioSource {
 public:
     /// Loads the first of `banks` that can be loaded; logs those that cannot. `rate` is in hertz.
+    /// Throws std::runtime_error if it is below 8000.
     Synthesizer(double rate, const std::vector<std::filesystem::path>& banks);
     ~Synthesizer() override;
 
@@ -27,35 +31,60 @@ public:
     const std::filesystem::path& bank() const { return bank_; }
 
     /// Plays note-ons, note-offs, controllers, program changes and pitch bends (±200 cents for
-    /// ±8192) on the channels 0…8 and 10…12, from the next block on.
+    /// ±8192) on the channels 0…8 and 10…12, when they are due.
     void midiEvent(int status, int data1, int data2) override;
 
+    void setDue(double time) override { due_ = time; }
+    void bend(double cents) override;
     AudioSource* source() override { return this; }
 
     void render(float* left, float* right, std::size_t frames, double start) override;
 
 private:
     struct Event {
-        int status, data1, data2;
+        double due;
+        int status; ///< kWheel for a bend of all channels.
+        int data1, data2;
+        double cents; ///< Of a bend.
     };
+
+    static constexpr int kWheel = 0;
 
     /// A busy block has dozens of messages; the rest is for a renderer that has stalled.
     static constexpr std::size_t kQueue = 1 << 14;
 
-    SynthesizerLane* laneOf(std::size_t channel);
-    void takeEvents();
-    /// Applies a message that is not a pitch bend.
-    void apply(const Event& event);
-    /// Silences a lane and the reverberation.
-    void silence(SynthesizerLane& lane);
+    /// One for each channel with notes; these come first.
+    static constexpr std::size_t kOwnLanes = 12;
+    static constexpr std::size_t kLanes = kOwnLanes + 24;
 
+    bool send(const Event& event);
+    std::size_t frameOf(const Event& event, double start, std::size_t frames) const;
+    void apply(const Event& event);
+    void noteOn(std::size_t own, int key, int velocity);
+    SynthesizerLane& laneForNote(std::size_t own);
+    void applyBends(std::size_t own);
+    void silence(std::size_t own);
+    void silenceAfterOverflow();
+
+    template <class Action> void forLanes(std::size_t own, const Action& action)
+    {
+        for (std::size_t i = 0; i < lanes_.size(); ++i) {
+            if (ownLanes_[i] == own)
+                action(*lanes_[i]);
+        }
+    }
+
+    double rate_;
     std::vector<std::unique_ptr<SynthesizerLane>> lanes_;
+    std::array<std::size_t, kLanes> ownLanes_{}; ///< Whose channel each lane plays.
+    std::array<double, kOwnLanes> bends_{};      ///< Cents, of each channel.
+    double wheel_ = 0.0;                         ///< Cents, of all channels.
     Reverb reverb_;
     std::filesystem::path bank_;
 
-    std::array<int, 16> lastBend_; ///< The last bend sent on each channel.
-    std::vector<Event> queue_;
-    std::atomic<std::size_t> written_{0}, read_{0};
+    double due_ = 0.0;                  ///< Of the next messages.
+    std::array<double, 16> lastBend_{}; ///< The last bend sent on each channel.
+    LockFreeQueue<Event> queue_{kQueue};
     std::atomic<bool> overflowed_{false};
 };
 

@@ -1,6 +1,6 @@
 #include "audio/SynthesizerLane.h"
 
-#include "audio/silence.h"
+#include "midi/messages.h"
 
 #include <spdlog/fmt/fmt.h>
 
@@ -21,18 +21,16 @@ constexpr int kPolyphony = 128;
 /// Four typical notes peak near −6 dBFS. The limiter handles louder ones.
 constexpr double kGain = 1.5;
 
-/// Longer than the silent parts of any repeating sound.
-constexpr double kSilentSecondsToSleep = 0.5;
+/// The highest rate that FluidSynth supports.
+constexpr double kHighestRate = 96000.0;
 
 } // namespace
 
 SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
-    : settings_(new_fluid_settings(), delete_fluid_settings), synth_(nullptr, delete_fluid_synth),
-      silentBlocksToSleep_(
-          static_cast<std::size_t>(kSilentSecondsToSleep * rate / FractionalResampler::kBlock)),
-      silentBlocks_(silentBlocksToSleep_)
+    : divisor_(std::max(1.0, std::ceil(rate / kHighestRate))),
+      settings_(new_fluid_settings(), delete_fluid_settings), synth_(nullptr, delete_fluid_synth)
 {
-    if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate) != FLUID_OK)
+    if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate / divisor_) != FLUID_OK)
         throw std::runtime_error(
             fmt::format("FluidSynth does not support a sample rate of {:g} Hz", rate));
     fluid_settings_setint(settings_.get(), "synth.polyphony", kPolyphony);
@@ -48,7 +46,8 @@ SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
         if (borrowedBank_ != nullptr)
             fluid_synth_add_sfont(synth_.get(), borrowedBank_);
     }
-    setCents(0.0);
+    readControllers();
+    applyCents();
 }
 
 SynthesizerLane::~SynthesizerLane()
@@ -66,46 +65,78 @@ bool SynthesizerLane::loadBank(const char* path)
 
 void SynthesizerLane::noteOn(int key, int velocity)
 {
+    const auto index = static_cast<std::size_t>(key);
+    if (index >= held_.size())
+        return;
+    if (isIdle())
+        resampler_.clear();
     fluid_synth_noteon(synth_.get(), kChannel, key, velocity);
+    held_.set(index);
     silentBlocks_ = 0;
 }
 
 void SynthesizerLane::noteOff(int key)
 {
+    const auto index = static_cast<std::size_t>(key);
+    if (index >= held_.size() || !held_.test(index))
+        return;
+    held_.reset(index);
     fluid_synth_noteoff(synth_.get(), kChannel, key);
-    silentBlocks_ = 0;
 }
 
 void SynthesizerLane::controlChange(int number, int value)
 {
     fluid_synth_cc(synth_.get(), kChannel, number, value);
+    readControllers();
+}
+
+void SynthesizerLane::readControllers()
+{
+    for (std::size_t i = 0; i < kControllers; ++i)
+        fluid_synth_get_cc(synth_.get(), kChannel, static_cast<int>(i), &controllers_[i]);
 }
 
 void SynthesizerLane::programChange(int program)
 {
     fluid_synth_program_change(synth_.get(), kChannel, program);
+    bank_ = controllers_[midi::kBankSelect];
+    program_ = program;
+}
+
+void SynthesizerLane::follow(const SynthesizerLane& other)
+{
+    cents_ = other.cents_;
+    if (bank_ != other.bank_ || program_ != other.program_) {
+        fluid_synth_cc(synth_.get(), kChannel, midi::kBankSelect, other.bank_);
+        programChange(other.program_);
+        bank_ = other.bank_;
+    }
+    for (std::size_t i = 0; i < kControllers; ++i) {
+        if (controllers_[i] != other.controllers_[i])
+            fluid_synth_cc(synth_.get(), kChannel, static_cast<int>(i), other.controllers_[i]);
+    }
+    controllers_ = other.controllers_;
 }
 
 void SynthesizerLane::allSoundsOff()
 {
     fluid_synth_all_sounds_off(synth_.get(), kChannel);
+    held_.reset();
 }
 
-void SynthesizerLane::setCents(double cents)
+void SynthesizerLane::applyCents()
 {
-    const double whole = std::round(cents);
+    const double whole = std::round(cents_);
     // Aim for the middle of a cent: see docs/decisions.md, 128.
     fluid_synth_set_gen(synth_.get(), kChannel, GEN_FINETUNE, static_cast<float>(whole + 0.5));
-    resampler_.setStep(std::exp2((cents - whole) / 1200.0));
+    resampler_.setStep(std::exp2((cents_ - whole) / 1200.0) / divisor_);
+    appliedCents_ = cents_;
 }
 
 void SynthesizerLane::mix(float* left, float* right, std::size_t frames)
 {
-    // A held note may start with silence, so a lane with active voices is never skipped.
-    if (silentBlocks_ >= silentBlocksToSleep_ &&
-        fluid_synth_get_active_voice_count(synth_.get()) == 0)
-        return;
-    resampler_.mix(left, right, frames, [this](float* l, float* r) { renderBlock(l, r); });
+    if (!isIdle())
+        resampler_.mix(left, right, frames, [this](float* l, float* r) { renderBlock(l, r); });
 }
 
 void SynthesizerLane::renderBlock(float* left, float* right)
@@ -113,13 +144,18 @@ void SynthesizerLane::renderBlock(float* left, float* right)
     constexpr std::size_t kBlock = FractionalResampler::kBlock;
     std::fill_n(left, kBlock, 0.0F);
     std::fill_n(right, kBlock, 0.0F);
+    // See docs/decisions.md, 129.
+    if (cents_ != appliedCents_)
+        applyCents();
+    // A held note may start with silence, so only a block without voices is a silent one.
+    if (fluid_synth_get_active_voice_count(synth_.get()) == 0) {
+        ++silentBlocks_;
+        return;
+    }
     std::array<float*, 2> outputs = {left, right};
     fluid_synth_process(synth_.get(), static_cast<int>(kBlock), 0, nullptr,
                         static_cast<int>(outputs.size()), outputs.data());
-
-    const bool silent = std::none_of(left, left + kBlock, isAudible) &&
-                        std::none_of(right, right + kBlock, isAudible);
-    silentBlocks_ = silent ? silentBlocks_ + 1 : 0;
+    silentBlocks_ = 0;
 }
 
 } // namespace velmora

@@ -4,11 +4,15 @@
 #include "sound/keys.h"
 #include "tuning/Temperament.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmora {
 
 namespace {
+
+/// How much of its velocity the soft pedal leaves to a note.
+constexpr float kSoftness = 0.7F;
 
 /// The channel of a pitch class. Channel 9 is General MIDI's percussion, so A moves to channel 12.
 int channelOf(int key)
@@ -32,6 +36,7 @@ std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<Musi
     for (int channel = 0; channel < midi::kChannels; ++channel)
         device_->midiEvent(midi::kControlChange | channel, midi::kBankSelect, 0);
     setInstrument(program_);
+    device_->bend(bend_);
     return device;
 }
 
@@ -59,13 +64,22 @@ std::size_t MIDIInstrument::numStops() const
 void MIDIInstrument::play(int key, float velocity)
 {
     // See docs/decisions.md, 40.
-    const int value = static_cast<int>(velocity * 127.0F * volume_);
+    int value = static_cast<int>(velocity * 127.0F * volume_);
+    // The pedal never silences a note.
+    if (isSoft_ && value > 0)
+        value = std::max(1, static_cast<int>(kSoftness * static_cast<float>(value)));
     device_->midiEvent(midi::kNoteOn | channelOf(key), key, value);
 }
 
 void MIDIInstrument::stop(int key)
 {
     device_->midiEvent(midi::kNoteOff | channelOf(key), key, 0);
+}
+
+void MIDIInstrument::bend(double cents)
+{
+    bend_ = cents;
+    device_->bend(cents);
 }
 
 void MIDIInstrument::silence()

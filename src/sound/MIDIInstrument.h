@@ -24,13 +24,15 @@ public:
     void tune(const Temperament& temperament, int lo, int hi) override;
     void setInstrument(std::uint8_t program) override;
     void setDue(double time) override { device_->setDue(time); }
+    void bend(double cents) override;
+    void setSoft(bool soft) override { isSoft_ = soft; }
     AudioSource* source() override { return device_->source(); }
 
     /// The selected General MIDI program, 0…127.
     std::uint8_t program() const { return program_; }
 
-    /// Replaces the device and selects the current program on the new one, which the caller must
-    /// tune. Returns the old device, with whatever still sounds on it.
+    /// Replaces the device and selects the current program and bend on the new one, which the
+    /// caller must tune. Returns the old device, with whatever still sounds on it.
     std::unique_ptr<MusicDevice> exchangeDevice(std::unique_ptr<MusicDevice> device);
 
 private:
@@ -40,6 +42,8 @@ private:
     std::unique_ptr<MusicDevice> device_;
     std::uint8_t program_ = kStartUpProgram;
     float volume_ = 1.0F;
+    double bend_ = 0.0; ///< In cents.
+    bool isSoft_ = false;
 };
 
 } // namespace velmora

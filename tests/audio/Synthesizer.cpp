@@ -1,9 +1,11 @@
 #include "audio/Synthesizer.h"
 
+#include "midi/messages.h"
 #include "support/Bank.h"
+#include "support/Pitch.h"
 #include "support/Stereo.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <fstream>
 #include <functional>
@@ -27,6 +29,7 @@ TEST(Synthesizer, EndsNotesUnderAnyLoad)
     synthesizer.midiEvent(0xC0, kSteadyProgram, 0);
     const std::function<void(int)> storms[] = {
         [&](int i) { synthesizer.midiEvent(0xE0, i % 128, 64); },
+        [&](int) { synthesizer.midiEvent(0x90, 60, 100); }, // again, before it is released
         [&](int i) { synthesizer.midiEvent(i % 2 == 0 ? 0x90 : 0x80, 60, 100); }};
     for (const int messages : {500, 16000, 20000}) { // the queue holds 16384
         for (const auto& storm : storms) {
@@ -61,16 +64,81 @@ TEST(Synthesizer, IsDeterministicAndSilentOnUnusedChannels)
     }
 }
 
+TEST(Synthesizer, StartsEachNoteExactlyAtItsFrame)
+{
+    constexpr double kStart = 1000.0;
+    const auto play = [](double rate, const std::vector<std::size_t>& onsets) {
+        Synthesizer synthesizer(rate, {kBank});
+        synthesizer.midiEvent(0xC2, kSteadyProgram, 0);
+        synthesizer.midiEvent(0xB2, midi::kChannelVolume, 70);
+        synthesizer.midiEvent(0xE2, 17, 60);
+        for (int key = 5; key < 128; key += 12) // the lanes have been lent to another channel
+            synthesizer.midiEvent(0x95, key, 100);
+        rendered(synthesizer, 1000);
+        synthesizer.midiEvent(0xB5, midi::kAllSoundOff, 0);
+        rendered(synthesizer, 20000);
+        for (const std::size_t onset : onsets) {
+            for (const int status : {0x92, 0x82}) {
+                const std::size_t frame = onset + (status == 0x82 ? 300 : 0);
+                synthesizer.setDue(kStart + static_cast<double>(frame) / rate);
+                synthesizer.midiEvent(status, 74, 100);
+            }
+        }
+        Stereo sound(30000);
+        double start = kStart;
+        inBlocks(sound, {128, 7, 1000}, [&](float* left, float* right, std::size_t frames) {
+            synthesizer.render(left, right, frames, start);
+            start += static_cast<double>(frames) / rate;
+        });
+        return sound.left;
+    };
+    for (const double rate : {48000.0, 192000.0}) {
+        // Every part is linear, so the notes add up from shifted copies of one note.
+        const std::vector<std::size_t> onsets{0,    311,  1000, 2345, 2777,
+                                              3500, 4999, 6101, 9000, 9377};
+        const std::vector<float> note = play(rate, {0});
+        std::vector<float> expected(note.size());
+        for (const std::size_t onset : onsets) {
+            for (std::size_t i = onset; i < expected.size(); ++i)
+                expected[i] += note[i - onset];
+        }
+        EXPECT_GT(peak(note), 0.05F);
+        // FluidSynth begins a note slightly differently on a voice that it has used before.
+        EXPECT_THAT(play(rate, onsets), testing::Pointwise(testing::FloatNear(1e-3F), expected))
+            << rate;
+    }
+}
+
+TEST(Synthesizer, PlaysInTuneAtEveryRateAndBend)
+{
+    const auto hertz = [](double rate, double cents) {
+        Synthesizer synthesizer(rate, {kBank});
+        synthesizer.midiEvent(0xC4, kSteadyProgram, 0);
+        synthesizer.midiEvent(0x94, 64, 100);
+        rendered(synthesizer, static_cast<std::size_t>(rate) / 2);
+        synthesizer.midiEvent(0xE4, 0, 32); // -100 cents
+        synthesizer.bend(cents + 100.0);
+        return measuredHertz(rendered(synthesizer, static_cast<std::size_t>(rate)).left, rate,
+                             329.6 * std::exp2(cents / 1200.0));
+    };
+    const double reference = hertz(kRate, 0.0);
+    for (const double rate : {22050.0, 44123.4, 96000.0, 96001.0, 192000.0, 384000.0}) {
+        for (const double bend : {-431.7, 0.0, 19.3, 350.5})
+            EXPECT_NEAR(cents(hertz(rate, bend), reference), bend, 0.05) << rate << " Hz";
+    }
+}
+
 TEST(Synthesizer, SkipsSoundFontsThatCannotBeLoaded)
 {
     const auto broken = std::filesystem::path(testing::TempDir()) / "broken.sf2";
     std::ofstream(broken) << "RIFF\x10sfbk";
     EXPECT_EQ(Synthesizer(kRate, {"/nowhere/bank.sf2", broken, kBank}).bank(), kBank);
 
-    EXPECT_THROW(Synthesizer(192000.0, {kBank}), std::runtime_error)
+    EXPECT_THROW(Synthesizer(7999.0, {kBank}), std::runtime_error)
         << "FluidSynth would be out of tune";
 
     Synthesizer silent(kRate, {broken});
+    silent.bend(50.0);
     for (int status = 0x80; status < 0x100; ++status)
         silent.midiEvent(status, 60, 100);
     EXPECT_EQ(nextPeak(silent), 0.0F);

@@ -19,7 +19,9 @@ struct RecordingMusicDevice : public MusicDevice {
     {
         messages.push_back({status, low, high});
     }
+    void bend(double cents) override { bent = cents; }
     Messages& messages;
+    double bent = 0.0;
 };
 
 struct MIDIInstrumentTest : public testing::Test {
@@ -57,6 +59,27 @@ TEST_F(MIDIInstrumentTest, PlaysEachPitchClassOnAChannelOfItsOwnAndAvoidsPercuss
     instrument.setVolume(0, 0.5F);
     instrument.play(69, 1.0F);
     EXPECT_EQ(messages.back(), (Message{0x9C, 69, 63})) << "truncated, not rounded";
+}
+
+TEST_F(MIDIInstrumentTest, PlaysSofterNotesThatAreNeverSilentWhileTheSoftPedalIsDown)
+{
+    for (const auto& [value, softer] : {std::pair(127, 88), {10, 7}, {1, 1}, {0, 0}}) {
+        for (const bool soft : {true, false}) {
+            instrument.setSoft(soft);
+            instrument.play(60, static_cast<float>(value) / 127.0F);
+            EXPECT_EQ(messages.back(), (Message{0x90, 60, soft ? softer : value}));
+        }
+    }
+}
+
+TEST_F(MIDIInstrumentTest, BendsItsDeviceAndTheNextOne)
+{
+    instrument.bend(-250.0);
+    auto next = std::make_unique<RecordingMusicDevice>(messages);
+    const RecordingMusicDevice& second = *next;
+    const auto first = instrument.exchangeDevice(std::move(next));
+    EXPECT_EQ(dynamic_cast<RecordingMusicDevice&>(*first).bent, -250.0);
+    EXPECT_EQ(second.bent, -250.0);
 }
 
 TEST_F(MIDIInstrumentTest, BendsToTheTemperamentRoundedDownToAStep)
