@@ -6,7 +6,6 @@
 #include "desktop/shell/Desktop.h"
 #include "desktop/widgets/graphics.h"
 #include "midi/messages.h"
-#include "midi/midiRead.h"
 #include "support/JackServer.h"
 #include "support/MidiSource.h"
 
@@ -32,6 +31,29 @@ double now()
     return std::chrono::duration<double>(time).count();
 }
 
+/// Measures how long a receiver takes for each message.
+class Stopwatch : public MidiReceiver {
+public:
+    Stopwatch(MidiReceiver& receiver, std::vector<double>& times)
+        : receiver_(receiver), times_(times)
+    {
+    }
+
+    void arrived(const MidiDevice& device) override { receiver_.arrived(device); }
+    void departed(const MidiDevice& device) override { receiver_.departed(device); }
+
+    void received(std::size_t device, MidiPacket message, double time) override
+    {
+        const double begun = now();
+        receiver_.received(device, message, time);
+        times_.push_back((now() - begun) * kMicroseconds);
+    }
+
+private:
+    MidiReceiver& receiver_;
+    std::vector<double>& times_;
+};
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -52,11 +74,8 @@ int main(int argc, char** argv)
 
     std::vector<double> times;
     times.reserve(kMessages);
-    const MidiInputs inputs([&](MidiPacket packet) {
-        const double received = now();
-        midiRead({&packet, 1}, live);
-        times.push_back((now() - received) * kMicroseconds);
-    });
+    Stopwatch stopwatch(live.midiDevices(), times);
+    const MidiInputs inputs(stopwatch);
 
     std::size_t frames = 0;
     QTimer repainting, sending;

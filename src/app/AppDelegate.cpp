@@ -56,7 +56,7 @@ void AppDelegate::start()
     output_ = AudioOutput::open({});
     engine_.setRate(output_->rate());
     output_->start(engine_);
-    inputs_ = std::make_unique<MidiInputs>([this](MidiPacket packet) { received(packet); });
+    inputs_ = std::make_unique<MidiInputs>(devices_);
     makeBuiltinTunings();
     makeMIDIPlayer(std::make_unique<SilentDevice>());
     loadBank();
@@ -270,10 +270,9 @@ void AppDelegate::midiInput()
     queue_.post({});
 }
 
-void AppDelegate::received(MidiPacket packet)
+void AppDelegate::announceMidiDevices()
 {
-    userIsActive_ = true;
-    midiRead({&packet, 1}, *this);
+    QMetaObject::invokeMethod(this, &AppDelegate::midiDevicesChanged, Qt::QueuedConnection);
 }
 
 void AppDelegate::handle(const InputEvent& event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/InputQueue.h"
+#include "app/LiveDevices.h"
 #include "app/Player.h"
 #include "audio/AudioEngine.h"
 #include "audio/AudioOutput.h"
@@ -144,6 +145,15 @@ public:
     /// The MIDI inputs; null before `start`.
     const MidiInputs* midiInputs() const { return inputs_.get(); }
 
+    /// The MIDI devices and their settings.
+    LiveDevices& midiDevices() { return devices_; }
+
+    /// Emits `midiDevicesChanged` in the event loop. May be called on any thread.
+    void announceMidiDevices();
+
+    /// Keeps the display awake, because music is played. May be called on any thread.
+    void noteActivity() { userIsActive_ = true; }
+
     /// True if there is an output for sampled instruments.
     bool canPlaySamples() const { return openAL_ != nullptr; }
 
@@ -157,6 +167,9 @@ signals:
     /// Loading has ended. `bank()` is empty if the bank could not be loaded, and unchanged if no
     /// synthesizer could be created.
     void bankLoaded();
+
+    /// A MIDI device was connected or has vanished.
+    void midiDevicesChanged();
 
     /// The thread that loads a bank has finished, successfully or not.
     void loadingFinished();
@@ -183,7 +196,6 @@ signals:
     void progressed(unsigned steps, const std::string& text);
 
 private:
-    void received(MidiPacket packet);
     void takeSynthesizer();
     void playThrough(std::unique_ptr<Synthesizer> synthesizer);
     void handle(const InputEvent& event);
@@ -205,6 +217,7 @@ private:
     std::unique_ptr<Temperament> temperament_; ///< A fresh copy of the current tuning's.
     Player player_;
     InputQueue queue_;
+    LiveDevices devices_{*this};
     DisplayWake displayWake_;
     std::atomic<bool> userIsActive_{false};
 

@@ -28,27 +28,19 @@ InputQueue::~InputQueue()
 
 void InputQueue::post(const InputEvent& event)
 {
-    {
-        const std::lock_guard lock(mutex_);
-        if (count_ == kCapacity)
-            return;
-        events_[(first_ + count_) % kCapacity] = event;
-        ++count_;
+    const bool isInput = event.kind == InputEvent::Kind::MidiInput;
+    if (isInput && isInputPending_.exchange(true))
+        return;
+    if (!events_.push(event)) {
+        if (isInput)
+            isInputPending_ = false;
+        return;
     }
+    if (isFilled_.exchange(true))
+        return;
     const std::uint64_t one = 1;
     // This fails only if the counter is full; then the event loop is awake already.
     [[maybe_unused]] const ssize_t written = write(descriptor_, &one, sizeof one);
-}
-
-bool InputQueue::pop(InputEvent& event)
-{
-    const std::lock_guard lock(mutex_);
-    if (count_ == 0)
-        return false;
-    event = events_[first_];
-    first_ = (first_ + 1) % kCapacity;
-    --count_;
-    return true;
 }
 
 // See docs/decisions.md, 95.
@@ -56,9 +48,14 @@ void InputQueue::drain()
 {
     std::uint64_t wakeUps = 0;
     [[maybe_unused]] const ssize_t length = read(descriptor_, &wakeUps, sizeof wakeUps);
-    InputEvent event;
-    while (pop(event))
+    isFilled_ = false; // before the queue is read, so that no later event is overlooked
+    while (const InputEvent* first = events_.front()) {
+        const InputEvent event = *first;
+        events_.pop();
+        if (event.kind == InputEvent::Kind::MidiInput)
+            isInputPending_ = false;
         take_(event);
+    }
 }
 
 } // namespace velmora

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <array>
+#include "base/LockFreeQueue.h"
+
+#include <atomic>
 #include <cstddef>
 #include <functional>
 #include <memory>
-#include <mutex>
 
 class QSocketNotifier;
 
@@ -25,8 +26,8 @@ struct InputEvent {
 };
 
 /// Carries events from any thread to the event loop of the thread that created it, in order.
-/// Posting does not allocate. Events are dropped while the queue is full, which happens only if
-/// that thread has stalled; sound does not depend on them.
+/// Posting neither waits nor allocates. Events are dropped while the queue is full, which happens
+/// only if that thread has stalled; sound does not depend on them.
 class InputQueue {
 public:
     /// `take` is called in the event loop once for every event.
@@ -35,22 +36,22 @@ public:
     InputQueue(const InputQueue&) = delete;
     InputQueue& operator=(const InputQueue&) = delete;
 
-    /// May be called on any thread.
+    /// May be called on any thread. A `MidiInput` that waits to be handled stands for those that
+    /// follow.
     void post(const InputEvent& event);
 
 private:
     static constexpr std::size_t kCapacity = 4096;
 
-    bool pop(InputEvent& event);
     void drain();
 
     std::function<void(const InputEvent&)> take_;
     int descriptor_;
     std::unique_ptr<QSocketNotifier> notifier_;
 
-    std::mutex mutex_; ///< Guards the members below while one event is copied.
-    std::array<InputEvent, kCapacity> events_{};
-    std::size_t first_ = 0, count_ = 0;
+    LockFreeQueue<InputEvent> events_{kCapacity};
+    std::atomic<bool> isFilled_{false};       ///< The event loop has been woken.
+    std::atomic<bool> isInputPending_{false}; ///< A `MidiInput` is in the queue.
 };
 
 } // namespace velmora

@@ -12,6 +12,12 @@ bool isKey(int key)
     return key >= 0 && key <= kLastKey;
 }
 
+/// A recording has gone past the moments before the present.
+double momentForRecorder(double time)
+{
+    return std::max(time, getTime());
+}
+
 } // namespace
 
 void Player::setInstrument(Instrument& instrument)
@@ -54,7 +60,7 @@ void Player::keyOn(int key, float velocity, KeySource source, double time)
     velocity = std::clamp(velocity, 0.0F, 1.0F);
     const std::lock_guard lock(mutex_);
     holders_.press(static_cast<std::size_t>(key), source);
-    liveKeys_.press(static_cast<std::size_t>(key), velocity, time);
+    liveKeys_.press(static_cast<std::size_t>(key), velocity, momentForRecorder(time));
     start(key, velocity, time);
 }
 
@@ -66,7 +72,7 @@ void Player::keyOff(int key, KeySource source, double time)
     const std::lock_guard lock(mutex_);
     holders_.release(slot, source);
     if (!holders_.isPressed(slot))
-        liveKeys_.release(slot, time);
+        liveKeys_.release(slot, momentForRecorder(time));
     if (!holders_.isHeld(slot))
         stopEverywhere(slot, time);
 }

@@ -14,8 +14,13 @@ namespace {
 
 Json describeMidi()
 {
-    const MidiInputs inputs([](MidiPacket) {});
-    return {{"service", inputs.api()}, {"inputs", inputs.names()}};
+    class Deaf : public MidiReceiver {
+        void arrived(const MidiDevice& /*device*/) override {}
+        void departed(const MidiDevice& /*device*/) override {}
+        void received(std::size_t /*device*/, MidiPacket /*message*/, double /*time*/) override {}
+    } receiver;
+    const MidiInputs inputs(receiver);
+    return {{"service", inputs.services()}, {"inputs", inputs.names()}};
 }
 
 Json describeAudio()

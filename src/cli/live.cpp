@@ -5,9 +5,25 @@
 #include <QCoreApplication>
 #include <spdlog/fmt/fmt.h>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace velmora {
+
+namespace {
+
+using Names = std::vector<std::string>; // in alphabetical order
+
+/// Prints the names that are in one list and not in the other.
+void printMissing(const char* text, const Names& names, const Names& others)
+{
+    Names missing;
+    std::ranges::set_difference(names, others, std::back_inserter(missing));
+    for (const std::string& name : missing)
+        fmt::print("{}: {}\n", text, name);
+}
+
+} // namespace
 
 void live(const Selection& selection)
 {
@@ -18,13 +34,18 @@ void live(const Selection& selection)
     application.waitForBank();
     select(selection, application);
 
-    const MidiInputs& inputs = *application.midiInputs();
+    Names names = application.midiInputs()->names();
     const AudioOutput* output = application.audioOutput();
     fmt::print("Playing in {} from {} on {}. Press Ctrl-C to stop.\n", selection.tuning,
-               inputs.names().empty() ? "no MIDI input"
-                                      : fmt::format("{}", fmt::join(inputs.names(), ", ")),
+               names.empty() ? "no MIDI input" : fmt::format("{}", fmt::join(names, ", ")),
                output->driver() == "none" ? "no sound output" : output->driver());
     std::fflush(stdout);
+    QObject::connect(&application, &AppDelegate::midiDevicesChanged, &application, [&] {
+        const Names before = std::exchange(names, application.midiInputs()->names());
+        printMissing("Disconnected", before, names);
+        printMissing("Connected", names, before);
+        std::fflush(stdout);
+    });
     QCoreApplication::exec();
 }
 

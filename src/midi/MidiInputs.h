@@ -1,30 +1,42 @@
 #pragma once
 
-#include <cstdint>
-#include <functional>
+#include "midi/MidiReceiver.h"
+#include "midi/MidiService.h"
+
+#include <array>
 #include <memory>
-#include <span>
+#include <mutex>
+#include <set>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace velmora {
 
-/// Receives one complete MIDI message with running status expanded. The bytes are valid until it
-/// returns. Called on a receive thread; with JACK that is its real-time thread. Each device has its
-/// own thread, so several calls can run at once. Must not throw.
-using MidiReceiver = std::function<void(std::span<const std::uint8_t> message)>;
+/// Gives devices their names and numbers.
+class DeviceNumbers {
+public:
+    /// Returns the device for a port of that name. `present` are the connected devices, fewer than
+    /// kMidiDevices.
+    MidiDevice add(const std::string& name, const std::vector<MidiDevice>& present);
 
-/// Connections to the first source of each MIDI device that is present at construction. If two
-/// devices have the same name, only the last is connected. Devices that appear later are ignored,
-/// as are system exclusive, timing and active sensing messages.
+private:
+    std::array<std::string, kMidiDevices> names_; ///< The last device of each number.
+};
+
+/// Keeps every MIDI device connected that is present: a device that appears is connected within a
+/// second, and one that returns is connected again. Messages for synchronisation and system
+/// exclusive messages are left out.
 class MidiInputs {
 public:
-    /// Connects the devices of the ALSA sequencer or, if it has none, of a running JACK server. The
-    /// kernel's "Midi Through" port is used only if there is no other device. Devices that cannot
-    /// be connected are logged and skipped.
-    explicit MidiInputs(MidiReceiver receiver);
+    /// Connects the devices of the ALSA sequencer and of the JACK server. Then watches them until
+    /// it is destroyed. Devices that cannot be connected are logged and tried again.
+    explicit MidiInputs(MidiReceiver& receiver);
 
-    /// Disconnects all devices. No message is received after this returns.
+    /// Watches other services.
+    MidiInputs(MidiReceiver& receiver, std::vector<std::unique_ptr<MidiService>> services);
+
+    /// Disconnects all devices; they count as departed. No message is received after this returns.
     ~MidiInputs();
 
     MidiInputs(const MidiInputs&) = delete;
@@ -33,15 +45,34 @@ public:
     /// The names of the connected devices, in alphabetical order.
     std::vector<std::string> names() const;
 
-    /// "ALSA" or "JACK"; empty if neither has a device.
-    const std::string& api() const { return api_; }
+    /// The services that the connected devices belong to, such as "ALSA" or "ALSA, JACK".
+    std::string services() const;
 
 private:
-    class Input;
+    struct Input {
+        MidiPort port;
+        MidiDevice device;
+        std::unique_ptr<MidiConnection> connection;
+    };
 
-    MidiReceiver receiver_;
-    std::string api_;
-    std::vector<std::unique_ptr<Input>> inputs_; ///< Last, because their threads call `receiver_`.
+    void watch();
+    void update();
+    void disconnect(const std::vector<MidiPort>& wanted);
+    void connect(const MidiPort& port);
+    bool isConnected(const MidiPort& port) const;
+
+    MidiReceiver& receiver_;
+    std::vector<std::unique_ptr<MidiService>> services_;
+    DeviceNumbers numbers_;
+    std::set<std::string> failed_; ///< The devices whose failure has been logged.
+    std::vector<Input> inputs_;    ///< Changed by the watching thread only.
+    mutable std::mutex mutex_;     ///< Guards the list of inputs against readers on other threads.
+    int stop_;                     ///< An eventfd that ends the watching thread.
+    std::thread thread_;
 };
+
+/// Returns the ports to connect. What JACK repeats of ALSA's devices is left out, and so is the
+/// kernel's "Midi Through" port if there is any other device.
+std::vector<MidiPort> wantedPorts(std::vector<MidiPort> ports);
 
 } // namespace velmora

@@ -28,7 +28,10 @@ constexpr std::uint8_t kPitchBend = 0xE0;       ///< The low seven bits first.
 // Statuses without a channel.
 constexpr std::uint8_t kFirstSystemStatus = 0xF0;
 constexpr std::uint8_t kSystemExclusive = 0xF0;
-constexpr std::uint8_t kEscape = 0xF7; ///< In a file: a continued exclusive message or any bytes.
+constexpr std::uint8_t kEscape = 0xF7;   ///< In a file: a continued exclusive message or any bytes.
+constexpr std::uint8_t kTimeCode = 0xF1; ///< A quarter frame.
+constexpr std::uint8_t kTimingClock = 0xF8;
+constexpr std::uint8_t kActiveSensing = 0xFE;
 constexpr std::uint8_t kMetaEvent = 0xFF; ///< In a file; its type follows.
 
 // Types of meta events.

@@ -1,5 +1,7 @@
 #include "platform/JackClient.h"
 
+#include "platform/Uncancelled.h"
+
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -34,6 +36,7 @@ JackClients& jackClients()
 /// The clients hear one after another that the server is gone, so the first one speaks for all.
 void loseAllClients(void* /*data*/)
 {
+    const Uncancelled uncancelled;
     JackClients& clients = jackClients();
     const std::lock_guard lock(clients.mutex);
     for (std::atomic<bool>* isLost : clients.lostFlags)
