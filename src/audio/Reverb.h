@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <memory>
 
@@ -10,7 +11,8 @@ class FreeVerb;
 namespace velmora {
 
 /// The reverberation of the General MIDI synthesizer, shared by its lanes. It has no modulation,
-/// which would detune the sound by a tenth of a cent.
+/// which would detune the sound by a tenth of a cent. At high rates it runs at a whole fraction of
+/// the rate, between 44,100 and 88,200 Hz, which keeps the size of the room.
 class Reverb {
 public:
     /// `rate` is in hertz.
@@ -24,7 +26,13 @@ public:
     void silence();
 
 private:
+    void tick(float& left, float& right);
+
     std::unique_ptr<stk::FreeVerb> freeVerb_;
+    const int framesPerTick_;
+    int frame_ = 0;                       ///< The number of frames since the last tick.
+    std::array<double, 2> sums_{};        ///< The input since the last tick.
+    std::array<double, 2> from_{}, to_{}; ///< The last two outputs.
     std::size_t silentFramesToSleep_;
     std::size_t silentFrames_;
 };
