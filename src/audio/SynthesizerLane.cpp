@@ -15,8 +15,9 @@ namespace {
 
 constexpr int kChannel = 0;
 
-/// Enough for all eleven keys of a pitch class, each struck again several times during its release.
-constexpr int kPolyphony = 128;
+/// Enough for a chord of octaves with several layers. Beyond it FluidSynth gives up the notes that
+/// matter least, which keeps a storm of messages within the time of a period.
+constexpr int kPolyphony = 32;
 
 /// Four typical notes peak near −6 dBFS. The limiter handles louder ones.
 constexpr double kGain = 1.5;
