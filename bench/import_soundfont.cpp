@@ -4,7 +4,6 @@
 // peak memory of the process. The bank is $VELMORA_SOUNDFONT or that of the package
 // fluid-soundfont-gm.
 
-#include "audio/OpenALDevice.h"
 #include "import/Import.h"
 #include "import/RIFF.h"
 #include "import/sf2.h"
@@ -46,7 +45,6 @@ template <class Work> double secondsOf(Work&& work)
 
 double import()
 {
-    const auto device = OpenALDevice::openLoopback(48'000);
     SilentHost host;
     Import result(host);
     return secondsOf([&result] { readSoundFont(bank(), result); });

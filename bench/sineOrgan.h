@@ -10,8 +10,7 @@
 namespace velmora {
 
 /// Adds stops to an organ, all drawn, with 61 pipes each from key 36 on; the other keys are
-/// extended. The pipes of an octave share a sine of the given length, sampled at 44,100 Hz. Needs a
-/// current OpenAL context.
+/// extended. The pipes of an octave share a sine of the given length, sampled at 44,100 Hz.
 inline void fillWithSines(ALInstrument& organ, int stops, double seconds)
 {
     constexpr std::size_t kLowest = 36;
@@ -24,7 +23,8 @@ inline void fillWithSines(ALInstrument& organ, int stops, double seconds)
             const std::size_t root = pipe - pipe % 12 + static_cast<std::size_t>(i) % 12;
             auto& sound = organ.sounds[std::to_string(root)];
             if (!sound)
-                sound = std::make_unique<Sound>(sine(equal.getPitch(root), seconds, 44100.0));
+                sound = std::make_unique<Sound>(organ.renderer(),
+                                                sine(equal.getPitch(root), seconds, 44100.0));
             if (pipe == key)
                 stop.samples[key].setBuffer(*sound, equal.getPitch(root));
             else

@@ -20,8 +20,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     try {
         const Pcm pcm = decodeAudio(std::as_bytes(std::span(data, size)));
         require(pcm.channels == 1 || pcm.channels == 2);
-        require(pcm.rate > 0.0 && !pcm.samples.empty());
-        require(pcm.samples.size() % static_cast<std::size_t>(pcm.channels) == 0);
+        require(pcm.rate > 0.0 && pcm.size() > 0);
+        require(pcm.size() % static_cast<std::size_t>(pcm.channels) == 0);
     } catch (const FormatError&) {
         return 0;
     }

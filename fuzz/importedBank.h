@@ -1,6 +1,5 @@
 #pragma once
 
-#include "audio/OpenALDevice.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
 #include "import/Import.h"
@@ -37,7 +36,6 @@ inline void importBank(void (*reader)(const RIFF::File&, Import&),
     if (bytes.size() > kMaximumSize)
         return;
     setLogLevel(spdlog::level::off);
-    static const auto device = OpenALDevice::openLoopback(48'000);
     CheckingHost host;
     Import import(host);
     try {

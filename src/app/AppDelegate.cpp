@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "audio/Synthesizer.h"
+#include "audio/openALSettings.h"
 #include "base/Log.h"
 #include "platform/quiet.h"
 #include "preferences/Preferences.h"
@@ -52,7 +53,7 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::start()
 {
     quietSoundLibraries();
-    openAL_ = OpenALDevice::open();
+    setUpOpenAL();
     output_ = AudioOutput::open({});
     engine_.setRate(output_->rate());
     output_->start(engine_);

@@ -5,7 +5,6 @@
 #include "app/Player.h"
 #include "audio/AudioEngine.h"
 #include "audio/AudioOutput.h"
-#include "audio/OpenALDevice.h"
 #include "import/InstrumentDocument.h"
 #include "import/InstrumentHost.h"
 #include "midi/MidiInputs.h"
@@ -154,9 +153,6 @@ public:
     /// Keeps the display awake, because music is played. May be called on any thread.
     void noteActivity() { userIsActive_ = true; }
 
-    /// True if there is an output for sampled instruments.
-    bool canPlaySamples() const { return openAL_ != nullptr; }
-
     /// True if the display is kept awake while music is played.
     bool keepsDisplayAwake() const { return displayWake_.isConnected(); }
 
@@ -205,8 +201,6 @@ private:
     bool isCancelled_ = false;
 
     AudioEngine engine_;
-    /// Declared before the instruments, which play through it.
-    std::unique_ptr<OpenALDevice> openAL_;
     std::vector<std::unique_ptr<InstrumentDocument>> instruments_;
     /// Every tuning ever listed, including those whose name now selects a later one.
     std::vector<std::unique_ptr<TuningDocument>> tuningDocuments_;

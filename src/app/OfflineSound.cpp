@@ -56,17 +56,16 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
     : temperament_(std::move(settings.temperament)), engine_(rate)
 {
     if (settings.instrument.empty()) {
-        auto synthesizer = makeOfflineSynthesizer(rate, settings.banks);
-        engine_.add(*synthesizer);
-        document_ = InstrumentDocument::makeMIDIPlayer(std::move(synthesizer));
+        document_ =
+            InstrumentDocument::makeMIDIPlayer(makeOfflineSynthesizer(rate, settings.banks));
         document_->instrument()->setInstrument(settings.program);
     } else {
-        engine_.add(loopback_.emplace(rate));
         document_ = std::make_unique<InstrumentDocument>();
         if (!document_->read(settings.instrument, settings.format, host))
             throw std::runtime_error(document_->errorString());
     }
     Instrument& instrument = *document_->instrument();
+    engine_.add(*instrument.source());
     for (std::size_t stop = 0; stop < settings.gains.size(); ++stop)
         instrument.setVolume(stop, settings.gains[stop]);
     player_.setTemperament(*temperament_);

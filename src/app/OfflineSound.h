@@ -2,7 +2,6 @@
 
 #include "app/Player.h"
 #include "audio/AudioEngine.h"
-#include "audio/OpenALLoopback.h"
 #include "audio/Synthesizer.h"
 #include "import/InstrumentDocument.h"
 #include "tuning/Temperament.h"
@@ -10,7 +9,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -51,7 +49,6 @@ public:
 private:
     std::unique_ptr<Temperament> temperament_;
     AudioEngine engine_;
-    std::optional<OpenALLoopback> loopback_; ///< Declared before the instrument that uses it.
     std::unique_ptr<InstrumentDocument> document_;
     Player player_;
 };

@@ -45,31 +45,34 @@ template <class Sample> void decodeWith(sf_count_t (*read)(SNDFILE*, Sample*, sf
         builder.logReadError(status);
 }
 
-/// Decodes an open file of `size` bytes. The sample type is the smallest that loses no precision.
+/// Decodes an open file of `size` bytes. The sample type is the smallest that loses no precision;
+/// lossy formats have none that 16 bits do not hold.
 Pcm decode(SNDFILE* file, const SF_INFO& info, const std::string& name, std::size_t size)
 {
-    PcmBuilder builder(name, info.channels, info.samplerate, info.frames, size);
+    using Precision = PcmBuilder::Precision;
+    const auto decoded = [&](auto read, Precision precision) {
+        PcmBuilder builder(name, info.channels, info.samplerate, info.frames, size, precision);
+        decodeWith(read, file, info.channels, builder);
+        return builder.take();
+    };
     switch (info.format & SF_FORMAT_SUBMASK) {
     case SF_FORMAT_PCM_24:
     case SF_FORMAT_PCM_32:
     case SF_FORMAT_ALAC_20:
     case SF_FORMAT_ALAC_24:
     case SF_FORMAT_ALAC_32:
-        decodeWith(sf_readf_int, file, info.channels, builder);
-        break;
     case SF_FORMAT_FLOAT:
     case SF_FORMAT_DOUBLE:
+        return decoded(sf_readf_float, Precision::Float);
     case SF_FORMAT_VORBIS:
     case SF_FORMAT_OPUS:
     case SF_FORMAT_MPEG_LAYER_I:
     case SF_FORMAT_MPEG_LAYER_II:
     case SF_FORMAT_MPEG_LAYER_III:
-        decodeWith(sf_readf_float, file, info.channels, builder);
-        break;
+        return decoded(sf_readf_float, Precision::Bits16);
     default:
-        decodeWith(sf_readf_short, file, info.channels, builder);
+        return decoded(sf_readf_short, Precision::Bits16);
     }
-    return builder.take();
 }
 
 /// Logs the status of libsndfile after it failed to open a file, and returns the error to throw.

@@ -2,17 +2,71 @@
 
 #include "audio/openALSettings.h"
 #include "base/Log.h"
-#include "platform/quiet.h"
 
 #include <al.h>
 #include <alc.h>
 #include <alext.h>
 
 #include <array>
+#include <cmath>
 
 namespace velmora {
 
 namespace {
+
+/// The functions of OpenAL Soft's extensions; null where they are missing.
+struct Extensions {
+    LPALCLOOPBACKOPENDEVICESOFT openDevice;
+    LPALCRENDERSAMPLESSOFT render;
+    LPALCRESETDEVICESOFT reset;
+    PFNALCSETTHREADCONTEXTPROC setContext;
+    PFNALCGETTHREADCONTEXTPROC context;
+
+    bool areComplete() const
+    {
+        return openDevice != nullptr && render != nullptr && reset != nullptr &&
+               setContext != nullptr && context != nullptr;
+    }
+};
+
+template <class Function> Function extension(const char* name)
+{
+    return reinterpret_cast<Function>(alcGetProcAddress(nullptr, name));
+}
+
+const Extensions& extensions()
+{
+    static const Extensions found = [] {
+        setUpOpenAL();
+        return Extensions{
+            extension<LPALCLOOPBACKOPENDEVICESOFT>("alcLoopbackOpenDeviceSOFT"),
+            extension<LPALCRENDERSAMPLESSOFT>("alcRenderSamplesSOFT"),
+            extension<LPALCRESETDEVICESOFT>("alcResetDeviceSOFT"),
+            extension<PFNALCSETTHREADCONTEXTPROC>("alcSetThreadContext"),
+            extension<PFNALCGETTHREADCONTEXTPROC>("alcGetThreadContext"),
+        };
+    }();
+    return found;
+}
+
+/// The sound must not depend on the machine. The program has a limiter of its own, and uses no
+/// effects, which would make every voice more expensive.
+std::array<int, 13> attributesAt(double rate)
+{
+    return {ALC_FREQUENCY,
+            static_cast<int>(std::lround(rate)),
+            ALC_FORMAT_CHANNELS_SOFT,
+            ALC_STEREO_SOFT,
+            ALC_FORMAT_TYPE_SOFT,
+            ALC_FLOAT_SOFT,
+            ALC_HRTF_SOFT,
+            ALC_FALSE,
+            ALC_OUTPUT_LIMITER_SOFT,
+            ALC_FALSE,
+            ALC_MAX_AUXILIARY_SENDS,
+            0,
+            0};
+}
 
 void setListener()
 {
@@ -23,87 +77,67 @@ void setListener()
     alListenerf(AL_GAIN, 1.0F);
 }
 
-bool setThreadContext(ALCcontext* context)
-{
-    const auto set = reinterpret_cast<PFNALCSETTHREADCONTEXTPROC>(
-        alcGetProcAddress(nullptr, "alcSetThreadContext"));
-    return set != nullptr && set(context) == ALC_TRUE;
-}
-
 } // namespace
 
-std::unique_ptr<OpenALDevice> OpenALDevice::open()
+OpenALDevice::Scope::Scope(const OpenALDevice& device) : before_(extensions().context())
 {
-    quietSoundLibraries();
-    setUpOpenAL();
-    ALCdevice* device = alcOpenDevice(nullptr);
-    if (device == nullptr) {
-        const Logger log = logger("audio");
-        // Diagnostics keep their texts: see docs/decisions.md, 125.
-        log.debug("ERROR alcOpenDevice = {}", alGetError());
-        log.warn("OpenAL cannot open a sound output: sampled instruments cannot be played");
+    extensions().setContext(device.context_);
+}
+
+OpenALDevice::Scope::~Scope()
+{
+    extensions().setContext(before_);
+}
+
+std::unique_ptr<OpenALDevice> OpenALDevice::open(double rate)
+{
+    const Logger log = logger("audio");
+    if (!extensions().areComplete()) {
+        log.warn("OpenAL cannot render on request: sampled instruments cannot be played");
         return nullptr;
     }
-    return withContext(device, nullptr, Reach::Program);
-}
-
-std::unique_ptr<OpenALDevice> OpenALDevice::openLoopback(int rate)
-{
-    setUpOpenAL();
-    const auto openDevice = reinterpret_cast<LPALCLOOPBACKOPENDEVICESOFT>(
-        alcGetProcAddress(nullptr, "alcLoopbackOpenDeviceSOFT"));
-    ALCdevice* device = openDevice == nullptr ? nullptr : openDevice(nullptr);
-    if (device == nullptr)
+    ALCdevice* device = extensions().openDevice(nullptr);
+    if (device == nullptr) {
+        // Diagnostics keep their texts: see docs/decisions.md, 125.
+        log.debug("ERROR alcOpenDevice = {}", alcGetError(nullptr));
+        log.warn("OpenAL cannot open a device: sampled instruments cannot be played");
         return nullptr;
-    // The sound must not depend on the machine, and the program has a limiter of its own.
-    const std::array attributes = {ALC_FREQUENCY,
-                                   rate,
-                                   ALC_FORMAT_CHANNELS_SOFT,
-                                   ALC_STEREO_SOFT,
-                                   ALC_FORMAT_TYPE_SOFT,
-                                   ALC_FLOAT_SOFT,
-                                   ALC_HRTF_SOFT,
-                                   ALC_FALSE,
-                                   ALC_OUTPUT_LIMITER_SOFT,
-                                   ALC_FALSE,
-                                   0};
-    return withContext(device, attributes.data(), Reach::Thread);
-}
-
-std::unique_ptr<OpenALDevice> OpenALDevice::withContext(ALCdevice* device, const int* attributes,
-                                                        Reach reach)
-{
-    ALCcontext* context = alcCreateContext(device, attributes);
+    }
+    ALCcontext* context = alcCreateContext(device, attributesAt(rate).data());
     if (context == nullptr) {
-        logger("audio").warn(
-            "OpenAL cannot create a context (error {}): sampled instruments cannot "
-            "be played",
-            alcGetError(device));
+        log.warn("OpenAL cannot create a context at {:g} Hz (error {}): sampled instruments cannot "
+                 "be played",
+                 rate, alcGetError(device));
         alcCloseDevice(device);
         return nullptr;
     }
-    auto result = std::unique_ptr<OpenALDevice>(new OpenALDevice(device, context, reach));
-    if (reach == Reach::Program)
-        alcMakeContextCurrent(context);
-    else if (!setThreadContext(context))
-        return nullptr;
+    auto result = std::unique_ptr<OpenALDevice>(new OpenALDevice(device, context));
+    const Scope scope(*result);
     setListener();
     return result;
 }
 
-OpenALDevice::OpenALDevice(ALCdevice* device, ALCcontext* context, Reach reach)
-    : device_(device), context_(context), reach_(reach)
+OpenALDevice::OpenALDevice(ALCdevice* device, ALCcontext* context)
+    : device_(device), context_(context)
 {
 }
 
 OpenALDevice::~OpenALDevice()
 {
-    if (reach_ == Reach::Thread)
-        setThreadContext(nullptr);
-    else if (alcGetCurrentContext() == context_)
-        alcMakeContextCurrent(nullptr);
     alcDestroyContext(context_);
     alcCloseDevice(device_);
+}
+
+void OpenALDevice::setRate(double rate)
+{
+    if (extensions().reset(device_, attributesAt(rate).data()) == ALC_FALSE)
+        logger("audio").error("OpenAL cannot render at {:g} Hz (error {})", rate,
+                              alcGetError(device_));
+}
+
+void OpenALDevice::render(float* interleaved, std::size_t frames)
+{
+    extensions().render(device_, interleaved, static_cast<int>(frames));
 }
 
 } // namespace velmora

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 
 struct ALCcontext_struct;
@@ -7,38 +8,43 @@ struct ALCdevice_struct;
 
 namespace velmora {
 
-/// An OpenAL device with a current context. All sources and buffers must be deleted before it is
-/// destroyed. The first device must be opened on the main thread while no other thread reads
-/// environment variables.
+/// An OpenAL device that renders stereo sound on request, with a context. It needs no sound server
+/// and no sound card. Sources and buffers that still exist are freed with it.
 class OpenALDevice {
 public:
-    /// Opens the default device for all threads, with the shortest period that it offers. If there
-    /// is no device or it has no context, logs that and returns null.
-    static std::unique_ptr<OpenALDevice> open();
+    /// Makes the context of a device current on the calling thread as long as it exists. OpenAL's
+    /// functions, except those of a device, need it.
+    class Scope {
+    public:
+        explicit Scope(const OpenALDevice& device);
+        ~Scope();
+        Scope(const Scope&) = delete;
+        Scope& operator=(const Scope&) = delete;
 
-    /// Opens a device that renders stereo float samples on request; see OpenALLoopback. It is
-    /// current only on the calling thread, which must also use and destroy it. Returns null if
-    /// OpenAL has no such device.
-    static std::unique_ptr<OpenALDevice> openLoopback(int rate);
+    private:
+        ALCcontext_struct* before_;
+    };
+
+    /// Opens a device that renders at `rate` hertz, rounded to a whole number. Logs a failure and
+    /// returns null.
+    static std::unique_ptr<OpenALDevice> open(double rate);
 
     ~OpenALDevice();
     OpenALDevice(const OpenALDevice&) = delete;
     OpenALDevice& operator=(const OpenALDevice&) = delete;
 
-    ALCdevice_struct* device() const { return device_; }
+    /// Sets the rate in hertz. Must not be called while the device renders.
+    void setRate(double rate);
+
+    /// Writes the next `frames` frames, left and right samples in turn. The scope of the device is
+    /// not needed.
+    void render(float* interleaved, std::size_t frames);
 
 private:
-    enum class Reach { Program, Thread };
-
-    /// Takes ownership of `device` and creates a context with `attributes`, which may be null.
-    static std::unique_ptr<OpenALDevice> withContext(ALCdevice_struct* device,
-                                                     const int* attributes, Reach reach);
-
-    OpenALDevice(ALCdevice_struct* device, ALCcontext_struct* context, Reach reach);
+    OpenALDevice(ALCdevice_struct* device, ALCcontext_struct* context);
 
     ALCdevice_struct* device_;
     ALCcontext_struct* context_;
-    Reach reach_;
 };
 
 } // namespace velmora

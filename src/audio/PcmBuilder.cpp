@@ -19,10 +19,10 @@ constexpr std::size_t kUsualSamplesPerByte = 8;
 /// thousand samples.
 constexpr std::size_t kMaximumSamplesPerByte = 1 << 14;
 
-std::int16_t narrow(std::int32_t sample)
+/// Returns 0 for what is not a number.
+float finite(float sample)
 {
-    constexpr std::int64_t kHalf = 1 << 15;
-    return static_cast<std::int16_t>(std::min<std::int64_t>((sample + kHalf) >> 16, INT16_MAX));
+    return std::isfinite(sample) ? sample : 0.0F;
 }
 
 std::int16_t narrow(float sample)
@@ -38,8 +38,8 @@ std::int16_t narrow(float sample)
 // Diagnostics keep their texts: see docs/decisions.md, 125.
 
 PcmBuilder::PcmBuilder(std::string name, int channels, double rate, std::int64_t frames,
-                       std::size_t fileSize)
-    : name_(std::move(name)), pcm_{{}, channels, rate}, fileSize_(fileSize)
+                       std::size_t fileSize, Precision precision)
+    : name_(std::move(name)), precision_(precision), pcm_{{}, channels, rate}, fileSize_(fileSize)
 {
     const Logger log = logger("audio");
     if (channels > 2) {
@@ -58,12 +58,16 @@ PcmBuilder::PcmBuilder(std::string name, int channels, double rate, std::int64_t
                   frames);
     const auto claimed = static_cast<std::size_t>(std::max<std::int64_t>(frames, 0));
     const std::size_t usual = fileSize * kUsualSamplesPerByte;
-    pcm_.samples.reserve(std::min(claimed, usual) * static_cast<std::size_t>(channels));
+    const std::size_t expected = std::min(claimed, usual) * static_cast<std::size_t>(channels);
+    if (precision == Precision::Float)
+        pcm_.floats.reserve(expected);
+    else
+        pcm_.samples.reserve(expected);
 }
 
 void PcmBuilder::checkSize(std::size_t added) const
 {
-    if ((pcm_.samples.size() + added) / kMaximumSamplesPerByte > fileSize_)
+    if ((pcm_.size() + added) / kMaximumSamplesPerByte > fileSize_)
         throw FormatError("has more samples than a file of its size can have");
 }
 
@@ -73,18 +77,13 @@ void PcmBuilder::add(std::span<const std::int16_t> samples)
     pcm_.samples.insert(pcm_.samples.end(), samples.begin(), samples.end());
 }
 
-void PcmBuilder::add(std::span<const std::int32_t> samples)
-{
-    checkSize(samples.size());
-    std::transform(samples.begin(), samples.end(), std::back_inserter(pcm_.samples),
-                   [](std::int32_t sample) { return narrow(sample); });
-}
-
 void PcmBuilder::add(std::span<const float> samples)
 {
     checkSize(samples.size());
-    std::transform(samples.begin(), samples.end(), std::back_inserter(pcm_.samples),
-                   [](float sample) { return narrow(sample); });
+    if (precision_ == Precision::Float)
+        std::ranges::transform(samples, std::back_inserter(pcm_.floats), finite);
+    else
+        std::ranges::transform(samples, std::back_inserter(pcm_.samples), narrow);
 }
 
 void PcmBuilder::logReadError(int status) const
@@ -96,7 +95,7 @@ void PcmBuilder::logReadError(int status) const
 
 Pcm PcmBuilder::take()
 {
-    if (pcm_.samples.empty())
+    if (pcm_.size() == 0)
         throw FormatError("has no samples");
     return std::move(pcm_);
 }

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <bit>
+#include <cmath>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -45,21 +46,39 @@ WavpackStreamReader64 memoryReader()
     return reader;
 }
 
-/// Adds samples as libwavpack returns them: integers in the low bytes of each word, or the bits of
-/// floats with a full scale of 1.
-void add(PcmBuilder& builder, std::span<std::int32_t> samples, int mode, int bytesPerSample)
+/// How libwavpack returns samples: integers in the low bytes of each word, or the bits of floats
+/// with a full scale of 1.
+struct Words {
+    bool areFloats;
+    int bytes;
+
+    PcmBuilder::Precision precision() const
+    {
+        return areFloats || bytes > 2 ? PcmBuilder::Precision::Float
+                                      : PcmBuilder::Precision::Bits16;
+    }
+
+    float floatOf(std::int32_t word) const
+    {
+        return areFloats ? std::bit_cast<float>(word)
+                         : std::ldexp(static_cast<float>(word), 1 - 8 * bytes);
+    }
+};
+
+void add(PcmBuilder& builder, std::span<const std::int32_t> samples, Words words)
 {
-    if ((mode & MODE_FLOAT) != 0) {
+    if (words.precision() == PcmBuilder::Precision::Float) {
         std::vector<float> floats(samples.size());
         std::ranges::transform(samples, floats.begin(),
-                               [](std::int32_t sample) { return std::bit_cast<float>(sample); });
+                               [&](std::int32_t word) { return words.floatOf(word); });
         builder.add(floats);
         return;
     }
-    const int shift = 32 - 8 * bytesPerSample;
-    for (std::int32_t& sample : samples)
-        sample = static_cast<std::int32_t>(static_cast<std::uint32_t>(sample) << shift);
-    builder.add(std::span<const std::int32_t>(samples));
+    std::vector<std::int16_t> narrow(samples.size());
+    std::ranges::transform(samples, narrow.begin(), [&](std::int32_t word) {
+        return static_cast<std::int16_t>(word * (1 << (16 - 8 * words.bytes)));
+    });
+    builder.add(narrow);
 }
 
 } // namespace
@@ -83,15 +102,14 @@ Pcm decodeWavPack(std::span<const std::byte> bytes, const std::string& name)
         throw FormatError(std::string("is a damaged WavPack file (") + error.data() + ")");
 
     const int channels = WavpackGetNumChannels(context.get());
+    const Words words{(WavpackGetMode(context.get()) & MODE_FLOAT) != 0,
+                      WavpackGetBytesPerSample(context.get())};
     PcmBuilder builder(name, channels, WavpackGetSampleRate(context.get()),
-                       WavpackGetNumSamples64(context.get()), bytes.size());
-    const int mode = WavpackGetMode(context.get());
-    const int bytesPerSample = WavpackGetBytesPerSample(context.get());
+                       WavpackGetNumSamples64(context.get()), bytes.size(), words.precision());
     std::vector<std::int32_t> block(kUnpackedFrames * static_cast<std::size_t>(channels));
     while (const std::uint32_t frames =
                WavpackUnpackSamples(context.get(), block.data(), kUnpackedFrames))
-        add(builder, std::span(block).first(frames * static_cast<std::size_t>(channels)), mode,
-            bytesPerSample);
+        add(builder, std::span(block).first(frames * static_cast<std::size_t>(channels)), words);
     if (const int errors = WavpackGetNumErrors(context.get()))
         builder.logReadError(errors);
     return builder.take();

@@ -1,4 +1,3 @@
-#include "audio/OpenALLoopback.h"
 #include "base/Text.h"
 #include "cli/commands.h"
 #include "cli/instrumentInfo.h"
@@ -16,8 +15,6 @@ namespace {
 /// The C from which the described octave starts.
 constexpr unsigned long kShownKey = 60;
 
-/// Nothing is played, so any rate will do.
-constexpr double kRate = 48000.0;
 constexpr unsigned long kPitchClasses = 12;
 constexpr const char* kPitchClassNames[kPitchClasses] = {"C",  "C♯", "D",  "E♭", "E",  "F",
                                                          "F♯", "G",  "G♯", "A",  "B♭", "B"};
@@ -96,7 +93,6 @@ void printSequence(const Json& sequence)
 
 Json describeInstrument(const std::filesystem::path& path)
 {
-    const OpenALLoopback loopback(kRate);
     AppDelegate application;
     return describe(*readInstrument(path, application));
 }

@@ -2,11 +2,8 @@
 
 #include "app/OfflineSound.h"
 #include "audio/AudioFileWriter.h"
-#include "audio/OpenALLoopback.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
-
-#include <optional>
 
 namespace velmora {
 
@@ -15,16 +12,10 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
 {
     const Interruption interruption;
     AudioFileWriter file(output, options.rate); // first, to fail early if it cannot be written
-    // The device must outlive the application, which holds its sources and buffers.
-    std::optional<OpenALLoopback> loopback;
-    if (!selection.instrument.empty())
-        loopback.emplace(options.rate);
     AppDelegate application;
     application.makeBuiltinTunings();
     application.engine().setRate(options.rate);
-    if (loopback)
-        application.engine().add(*loopback);
-    else
+    if (selection.instrument.empty())
         application.makeMIDIPlayer(makeOfflineSynthesizer(options.rate, generalMidiBanks()));
     select(selection, application);
 

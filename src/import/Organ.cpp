@@ -106,7 +106,7 @@ private:
     {
         const Organ::File& file = organ_.files[sounds_.size()];
         try {
-            auto sound = std::make_unique<Sound>(loader_.next());
+            auto sound = std::make_unique<Sound>(import_.instrument->renderer(), loader_.next());
             ++import_.report.samples;
             return (import_.instrument->sounds[file.name] = std::move(sound)).get();
         } catch (const FormatError& error) {

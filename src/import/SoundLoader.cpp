@@ -89,7 +89,7 @@ SoundLoader::Slot SoundLoader::decode(const std::filesystem::path& file)
     slot.done = true;
     try {
         slot.pcm = decodeAudioFile(file);
-        slot.bytes = slot.pcm->samples.size() * sizeof(std::int16_t);
+        slot.bytes = slot.pcm->bytes();
     } catch (const std::bad_alloc&) {
         slot.pcm.reset();
     } catch (const std::exception& error) {

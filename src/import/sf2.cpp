@@ -93,7 +93,8 @@ private:
             count -= count % 2;
         if (count == 0)
             throw FormatError("is empty");
-        return std::make_unique<Sound>(std::span(buffer_).first(count),
+        return std::make_unique<Sound>(import_.instrument->renderer(),
+                                       std::span(buffer_).first(count),
                                        stereo ? AL_FORMAT_STEREO16 : AL_FORMAT_MONO16,
                                        static_cast<double>(sample.dwSampleRate));
     }

@@ -3,12 +3,10 @@
 #include "base/FormatError.h"
 #include "tuning/Temperament.h"
 
-#include <al.h>
-#include <alc.h>
-#include <alext.h>
 #include <spdlog/fmt/fmt.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace velmora {
@@ -19,49 +17,8 @@ namespace {
 /// empty stop takes several kilobytes.
 constexpr std::size_t kMaximumStops = 4096;
 
-/// Makes OpenAL collect changes during its life and apply them all at once when it is destroyed.
-class OneUpdate {
-public:
-    OneUpdate()
-    {
-        if (functions().defer != nullptr)
-            functions().defer();
-        else
-            alcSuspendContext(alcGetCurrentContext());
-    }
-
-    ~OneUpdate()
-    {
-        if (functions().process != nullptr)
-            functions().process();
-        else
-            alcProcessContext(alcGetCurrentContext());
-    }
-
-    OneUpdate(const OneUpdate&) = delete;
-    OneUpdate& operator=(const OneUpdate&) = delete;
-
-private:
-    struct Functions {
-        LPALDEFERUPDATESSOFT defer = nullptr;
-        LPALPROCESSUPDATESSOFT process = nullptr;
-    };
-
-    static const Functions& functions()
-    {
-        static const Functions found = [] {
-            Functions result;
-            if (alIsExtensionPresent("AL_SOFT_deferred_updates") == AL_TRUE) {
-                result.defer =
-                    reinterpret_cast<LPALDEFERUPDATESSOFT>(alGetProcAddress("alDeferUpdatesSOFT"));
-                result.process = reinterpret_cast<LPALPROCESSUPDATESSOFT>(
-                    alGetProcAddress("alProcessUpdatesSOFT"));
-            }
-            return result;
-        }();
-        return found;
-    }
-};
+/// What the soft pedal leaves of a gain: −5 dB.
+constexpr float kSoftGain = 0.56F;
 
 } // namespace
 
@@ -107,10 +64,10 @@ std::string ALInstrument::stopName(std::size_t stop) const
 // See docs/decisions.md, 23 and 24.
 void ALInstrument::play(int key, float /*velocity*/)
 {
-    const OneUpdate together;
     for (InstrumentStop& stop : stops_) {
         if (stop.volume > 0.0F)
-            stop.samples[static_cast<std::size_t>(key)].play(stop.volume);
+            stop.samples[static_cast<std::size_t>(key)].play(isSoft_ ? kSoftGain * stop.volume
+                                                                     : stop.volume);
     }
 }
 
@@ -124,7 +81,7 @@ void ALInstrument::stop(int key)
 
 void ALInstrument::silence()
 {
-    const OneUpdate together;
+    renderer_.end();
     for (InstrumentStop& stop : stops_)
         for (Sample& sample : stop.samples)
             sample.silence();
@@ -136,6 +93,17 @@ bool ALInstrument::isSounding() const
     return std::ranges::any_of(stops_, [](const InstrumentStop& stop) {
         return std::ranges::any_of(stop.samples, &Sample::isPlaying);
     });
+}
+
+AudioSource* ALInstrument::source()
+{
+    renderer_.prepare();
+    return &renderer_;
+}
+
+void ALInstrument::bend(double cents)
+{
+    renderer_.bend(static_cast<float>(std::exp2(cents / 1200.0)));
 }
 
 void ALInstrument::fade(double factor)

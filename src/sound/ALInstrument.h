@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/SampleRenderer.h"
 #include "sound/Instrument.h"
 #include "sound/InstrumentStop.h"
 #include "sound/Sound.h"
@@ -14,8 +15,10 @@
 namespace velmora {
 
 /// Plays recorded samples through OpenAL: a key sounds in every stop whose volume is above zero,
-/// and its velocity is ignored. Needs a current OpenAL context throughout its life.
+/// and its velocity is ignored.
 class ALInstrument : public Instrument {
+    SampleRenderer renderer_; // first, so that it outlives the sounds
+
 public:
     /// Adds a silent stop without samples and invalidates references to the other stops. Throws
     /// FormatError if there are 4096 stops already.
@@ -27,7 +30,7 @@ public:
     const std::vector<InstrumentStop>& stops() const { return stops_; }
 
     /// The decoded sounds by the names that the importer gives them, so that a sound used by
-    /// several keys is decoded once. Declared before the stops, so that it outlives their samples.
+    /// several keys is decoded once.
     std::map<std::string, std::unique_ptr<Sound>> sounds;
 
     /// Returns twice the stop's gain: a slider at its top stands for a gain of 0.5.
@@ -43,12 +46,22 @@ public:
     void silence() override;
     void tune(const Temperament& temperament, int lo, int hi) override;
     void fade(double factor) override;
+    void setDue(double time) override { renderer_.setDue(time); }
+    void bend(double cents) override;
+    void setSoft(bool soft) override { isSoft_ = soft; }
 
-    /// Returns whether any sample is playing.
+    /// The instrument's sound. Nothing may be added to the instrument while it is played.
+    AudioSource* source() override;
+
+    /// What plays the samples, for which the sounds are created.
+    SampleRenderer& renderer() { return renderer_; }
+
+    /// Returns whether any sample has been started and has not yet died away.
     bool isSounding() const;
 
 private:
     std::vector<InstrumentStop> stops_;
+    bool isSoft_ = false;
     std::bitset<kKeys> released_; ///< The keys with samples that may be fading.
 
     /// The pitch in hertz that each key of every stop was last tuned to; 0 if unknown.

@@ -1,61 +1,26 @@
 #include "sound/Sample.h"
 
-#include "base/FormatError.h"
-
-#include <al.h>
-
-#include <utility>
+#include "audio/SampleRenderer.h"
 
 namespace velmora {
 
 namespace {
-
-// See docs/decisions.md, 27.
-constexpr float kFirstGain = 0.4F;
 
 /// A released sample stops below this gain.
 constexpr double kSilentGain = 0.02;
 
 } // namespace
 
-Sample::Sample(Sample&& other) noexcept
-{
-    *this = std::move(other);
-}
-
-Sample& Sample::operator=(Sample&& other) noexcept
-{
-    std::swap(sound_, other.sound_);
-    std::swap(source_, other.source_);
-    std::swap(released_, other.released_);
-    std::swap(factor_, other.factor_);
-    std::swap(rootPitch_, other.rootPitch_);
-    std::swap(gain_, other.gain_);
-    return *this;
-}
-
-Sample::~Sample()
-{
-    if (source_ != 0)
-        alDeleteSources(1, &source_);
-}
-
 void Sample::setBuffer(const Sound& sound, double rootPitch)
 {
-    rootPitch_ = rootPitch;
-    factor_ = 1.0F;
     if (source_ != 0)
-        alDeleteSources(1, &source_);
-    sound_ = nullptr;
-    source_ = 0;
+        sound_->renderer().device(id_.device).remove(id_.number);
+    *this = Sample();
+    rootPitch_ = rootPitch;
+    SampleVoices& device = sound.renderer().device(sound.device());
     // See docs/decisions.md, 25.
-    alGenSources(1, &source_);
-    if (source_ == 0)
-        throw FormatError("OpenAL has no source left for it: unload another instrument first");
-    alSourcef(source_, AL_GAIN, kFirstGain);
-    alSource3f(source_, AL_POSITION, 0.0F, 0.0F, 0.0F);
-    alSourcef(source_, AL_PITCH, factor_);
-    alSourcei(source_, AL_BUFFER, static_cast<ALint>(sound.buffer()));
+    id_ = {sound.device(), device.add(sound.buffer())};
+    source_ = device.source(id_.number);
     sound_ = &sound;
 }
 
@@ -63,33 +28,25 @@ void Sample::play(float volume)
 {
     if (source_ == 0)
         return;
+    sound_->renderer().start(id_, volume, factor_);
     released_ = false;
-    alSourcef(source_, AL_GAIN, volume);
-    // See docs/decisions.md, 26.
-    alSourcePlay(source_);
+    isPlaying_ = true;
     gain_ = volume;
 }
 
 void Sample::stop()
 {
-    if (source_ != 0)
-        released_ = true;
+    if (source_ == 0)
+        return;
+    if (isPlaying_ && !released_)
+        sound_->renderer().release(id_);
+    released_ = true;
 }
 
 void Sample::silence()
 {
-    if (source_ == 0)
-        return;
-    alSourceStop(source_);
     released_ = false;
-}
-
-bool Sample::isPlaying() const
-{
-    ALint state = AL_STOPPED;
-    if (source_ != 0)
-        alGetSourcei(source_, AL_SOURCE_STATE, &state);
-    return state == AL_PLAYING;
+    isPlaying_ = false;
 }
 
 void Sample::fade(double factor)
@@ -97,11 +54,8 @@ void Sample::fade(double factor)
     if (!released_)
         return;
     gain_ *= factor;
-    if (gain_ < kSilentGain) {
+    if (gain_ < kSilentGain)
         silence();
-    } else {
-        alSourcef(source_, AL_GAIN, static_cast<float>(gain_));
-    }
 }
 
 void Sample::tune(double pitch)
@@ -110,7 +64,8 @@ void Sample::tune(double pitch)
     if (source_ == 0 || factor == factor_)
         return;
     factor_ = factor;
-    alSourcef(source_, AL_PITCH, factor);
+    if (isPlaying_)
+        sound_->renderer().setPitch(id_, factor);
 }
 
 } // namespace velmora

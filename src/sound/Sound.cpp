@@ -1,8 +1,10 @@
 #include "sound/Sound.h"
 
+#include "audio/SampleRenderer.h"
 #include "base/FormatError.h"
 
 #include <al.h>
+#include <alext.h>
 #include <spdlog/fmt/fmt.h>
 
 #include <limits>
@@ -18,36 +20,55 @@ int wholeHertz(double rate)
     return rate > 0.0 && rate <= std::numeric_limits<int>::max() ? static_cast<int>(rate) : 0;
 }
 
+int formatOf(const Pcm& pcm)
+{
+    if (pcm.floats.empty())
+        return pcm.channels == 2 ? AL_FORMAT_STEREO16 : AL_FORMAT_MONO16;
+    return pcm.channels == 2 ? AL_FORMAT_STEREO_FLOAT32 : AL_FORMAT_MONO_FLOAT32;
+}
+
+std::span<const std::byte> bytesOf(const Pcm& pcm)
+{
+    return pcm.floats.empty() ? std::as_bytes(std::span(pcm.samples))
+                              : std::as_bytes(std::span(pcm.floats));
+}
+
 } // namespace
 
-Sound::Sound(const Pcm& pcm)
-    : Sound(pcm.samples, pcm.channels == 2 ? AL_FORMAT_STEREO16 : AL_FORMAT_MONO16, pcm.rate)
+Sound::Sound(SampleRenderer& renderer, const Pcm& pcm)
+    : Sound(renderer, bytesOf(pcm), pcm.size(), formatOf(pcm), pcm.channels, pcm.rate)
 {
 }
 
-Sound::Sound(std::span<const std::int16_t> data, int format, double rate)
-    : size_(static_cast<std::uint32_t>(data.size_bytes())),
-      channels_(format == AL_FORMAT_STEREO16 ? 2 : 1), rate_(wholeHertz(rate))
+Sound::Sound(SampleRenderer& renderer, std::span<const std::int16_t> data, int format, double rate)
+    : Sound(renderer, std::as_bytes(data), data.size(), format,
+            format == AL_FORMAT_STEREO16 ? 2 : 1, rate)
 {
-    if (data.size_bytes() > std::numeric_limits<ALsizei>::max())
+}
+
+Sound::Sound(SampleRenderer& renderer, std::span<const std::byte> data, std::size_t samples,
+             int format, int channels, double rate)
+    : renderer_(renderer), size_(static_cast<std::uint32_t>(data.size())),
+      frames_(static_cast<std::uint32_t>(samples / static_cast<unsigned>(channels))),
+      channels_(channels), rate_(wholeHertz(rate))
+{
+    if (data.size() > std::numeric_limits<ALsizei>::max())
         throw FormatError("a sound of more than 2 GB cannot be played");
+    device_ = renderer.emptiestDevice();
+    SampleVoices& device = renderer.device(device_);
+    const auto here = device.scope();
     alGetError();
     alGenBuffers(1, &buffer_);
-    if (buffer_ == 0)
-        throw FormatError("there is no OpenAL device to play sampled instruments with");
-    alBufferData(buffer_, format, data.data(), static_cast<ALsizei>(data.size_bytes()), rate_);
+    alBufferData(buffer_, format, data.data(), static_cast<ALsizei>(data.size()), rate_);
     const ALenum error = alGetError();
-    if (error == AL_NO_ERROR)
+    if (error == AL_NO_ERROR) {
+        device.bytes += data.size();
         return;
+    }
     alDeleteBuffers(1, &buffer_);
     if (error == AL_OUT_OF_MEMORY)
         throw std::bad_alloc();
     throw FormatError(fmt::format("a sound of {:g} Hz cannot be played", rate));
-}
-
-Sound::~Sound()
-{
-    alDeleteBuffers(1, &buffer_);
 }
 
 } // namespace velmora

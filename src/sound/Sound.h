@@ -8,21 +8,23 @@
 
 namespace velmora {
 
-/// One sound, in an OpenAL buffer that it owns. Needs a current OpenAL context, and must outlive
-/// the sources that play it.
+class SampleRenderer;
+
+/// One sound in an OpenAL buffer, which a renderer holds as long as it exists.
 class Sound {
 public:
-    /// Throws std::bad_alloc if OpenAL is out of memory, and FormatError if it rejects the sound or
-    /// if there is no context.
-    explicit Sound(const Pcm& pcm);
+    /// Copies the sound to one of the renderer's devices. Throws std::bad_alloc if OpenAL is out of
+    /// memory, and FormatError if it rejects the sound or if there is no device.
+    Sound(SampleRenderer& renderer, const Pcm& pcm);
 
     /// `format` is AL_FORMAT_MONO16 or AL_FORMAT_STEREO16; `rate` is truncated to whole hertz.
     /// Throws as above.
-    Sound(std::span<const std::int16_t> data, int format, double rate);
+    Sound(SampleRenderer& renderer, std::span<const std::int16_t> data, int format, double rate);
 
-    ~Sound();
-    Sound(const Sound&) = delete;
-    Sound& operator=(const Sound&) = delete;
+    SampleRenderer& renderer() const { return renderer_; }
+
+    /// The number of the renderer's device that holds the buffer.
+    std::uint32_t device() const { return device_; }
 
     /// The OpenAL name of the buffer.
     unsigned buffer() const { return buffer_; }
@@ -30,15 +32,21 @@ public:
     /// The size of the sound in bytes.
     std::uint32_t size() const { return size_; }
 
-    std::uint32_t frames() const { return size_ / (2U * static_cast<unsigned>(channels_)); }
+    std::uint32_t frames() const { return frames_; }
     int channels() const { return channels_; }
 
     /// Frames per second.
     int rate() const { return rate_; }
 
 private:
+    Sound(SampleRenderer& renderer, std::span<const std::byte> data, std::size_t samples,
+          int format, int channels, double rate);
+
+    SampleRenderer& renderer_;
+    std::uint32_t device_ = 0;
     unsigned buffer_ = 0;
     std::uint32_t size_;
+    std::uint32_t frames_;
     int channels_;
     int rate_;
 };

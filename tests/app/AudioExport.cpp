@@ -57,10 +57,10 @@ protected:
     std::vector<float> soundOf(const std::string& name)
     {
         const Pcm pcm = decodeAudio(readFile(folder_.path() / name));
-        seconds_ = static_cast<double>(pcm.samples.size()) / 2.0 / pcm.rate;
+        seconds_ = static_cast<double>(pcm.size()) / 2.0 / pcm.rate;
         std::vector<float> left;
         for (std::size_t i = 9600; i < 57600; ++i)
-            left.push_back(static_cast<float>(pcm.samples.at(2 * i)) / 32768.0F);
+            left.push_back(pcm.floats.at(2 * i));
         return left;
     }
 
@@ -70,7 +70,6 @@ protected:
     }
 
     OrganFolder folder_;
-    OpenALLoopback live_{48000.0};
     AppDelegate app_;
     UnsavedSequence sequence_;
     double done_ = 0.0, seconds_ = 0.0;
@@ -96,7 +95,7 @@ TEST_F(AudioExportTest, SoundsLikeLivePlayingAndDoesNotDisturbIt)
     EXPECT_NEAR(centsOff(sound, hertz), 0.0, 0.5);
     EXPECT_EQ(done_, 1.0);
     EXPECT_EQ(app_.player().liveKeys().state(48), kPressed);
-    const Stereo live = rendered(live_, 48'000);
+    const Stereo live = rendered(app_.engine(), 48'000);
     EXPECT_NEAR(centsOff(live.left, kRoot), 0.0, 0.5) << "still at its beginning";
     EXPECT_NEAR(peak(sound), peak(live.left), 0.01);
 

@@ -16,20 +16,25 @@ namespace {
 
 using Words = std::vector<std::int32_t>;
 using Samples = std::vector<std::int16_t>;
+using Floats = std::vector<float>;
 
 constexpr int kWav = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
 constexpr int kFlac = SF_FORMAT_FLAC | SF_FORMAT_PCM_24;
 constexpr int kWavPack = SF_FORMAT_PCM_24,
               kFloatWavPack = SF_FORMAT_FLOAT; ///< Written with libwavpack.
 
-/// Silence, both extremes, and values on either side of a rounding threshold.
-const Words kWords = {0, INT32_MAX, INT32_MIN, 0x12347fff, 0x12348000, -0x12348100, -1, 256};
-const Samples kRounded = {0, 32767, -32768, 0x1234, 0x1235, -0x1235, 0, 0};
+/// The last of 24 bits.
+constexpr float kBit = 0x1p-23F;
+
+/// Silence, both extremes, and values that differ in the last of 24 bits.
+const Words kWords = {0, INT32_MAX, INT32_MIN, 0x12347f00, 0x12348000, -0x12348100, -256, 256};
+const Floats kWhole = {0.0F,          1.0F - kBit,    -1.0F, 0x12347fp-23F,
+                       0x123480p-23F, -0x123481p-23F, -kBit, kBit};
 const Samples kCut = {0, 32767, -32768, 0x1234, 0x1234, -0x1235, -1, 0};
 
 /// The bits of 0.5, -0.5, 1, -1, 8 and NaN.
 const Words kFloats = {0x3f000000, -0x41000000, 0x3f800000, -0x40800000, 0x41000000, 0x7fc00000};
-const Samples kClipped = {16384, -16384, 32767, -32768, 32767, 0};
+const Floats kFinite = {0.5F, -0.5F, 1.0F, -1.0F, 8.0F, 0.0F};
 
 std::string writeWavPack(const std::string& path, bool floats, int channels, Words words)
 {
@@ -74,24 +79,26 @@ std::string write(int format, int channels, const Words& words)
 
 } // namespace
 
-TEST(AudioFileDecoder, RoundsAndClipsTo16Bits)
+TEST(AudioFileDecoder, KeepsSamplesWhole)
 {
-    const std::tuple<int, int, Samples> rows[] = {{kWav, 1, kCut},
-                                                  {kFlac, 2, kRounded},
-                                                  {SF_FORMAT_WAV | SF_FORMAT_FLOAT, 2, kClipped},
-                                                  {kWavPack, 1, kRounded},
-                                                  {kFloatWavPack, 2, kClipped}};
-    for (const auto& [format, channels, expected] : rows) {
-        const auto path = write(format, channels, expected == kClipped ? kFloats : kWords);
+    const std::tuple<int, int, Samples, Floats> rows[] = {
+        {kWav, 1, kCut, {}},
+        {kFlac, 2, {}, kWhole},
+        {SF_FORMAT_WAV | SF_FORMAT_FLOAT, 2, {}, kFinite},
+        {kWavPack, 1, {}, kWhole},
+        {kFloatWavPack, 2, {}, kFinite}};
+    for (const auto& [format, channels, samples, floats] : rows) {
+        const auto path = write(format, channels, floats == kFinite ? kFloats : kWords);
         for (const Pcm& pcm : {decodeAudioFile(path), decodeAudio(readFile(path))}) {
-            EXPECT_EQ(pcm.samples, expected) << format;
+            EXPECT_EQ(pcm.samples, samples) << format;
+            EXPECT_EQ(pcm.floats, floats) << format;
             EXPECT_EQ(pcm.channels, channels) << format;
             EXPECT_EQ(pcm.rate, 44100.0) << format;
         }
     }
     auto file = readFile(write(kFlac, 1, kWords));
     std::fill_n(file.begin() + 22, 4, std::byte{0x7f}); // the length in the first metadata block
-    EXPECT_LE(decodeAudio(file).samples.capacity(), 8 * file.size())
+    EXPECT_LE(decodeAudio(file).floats.capacity(), 8 * file.size())
         << "a false length reserves memory only in proportion to the file";
 }
 
@@ -131,8 +138,9 @@ TEST(AudioFileDecoder, SaysAndLogsWhyASoundCannotBeDecoded)
         EXPECT_THAT(log, testing::HasSubstr(row.diagnostic)) << row.why;
         EXPECT_THAT(log, testing::HasSubstr("cannot decode an embedded sound: ")) << row.why;
     }
-    EXPECT_THAT(logOf([] { PcmBuilder("unknown length", 1, 8000, -1, 9); }),
-                testing::HasSubstr(failed("GetProperty(kExtAudioFileProperty_FileLengthFrames)")));
+    EXPECT_THAT(
+        logOf([] { PcmBuilder("unknown length", 1, 8000, -1, 9, PcmBuilder::Precision::Bits16); }),
+        testing::HasSubstr(failed("GetProperty(kExtAudioFileProperty_FileLengthFrames)")));
     const std::string log = logOf([] { EXPECT_THROW(decodeAudioFile("/no.wav"), FormatError); });
     EXPECT_EQ(log, "audio: ERROR : ExtAudioFileOpenURL, 2\n"
                    "audio: cannot open /no.wav: No such file or directory\n");

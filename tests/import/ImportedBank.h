@@ -1,6 +1,5 @@
 #pragma once
 
-#include "audio/OpenALLoopback.h"
 #include "base/FormatError.h"
 #include "import/Import.h"
 #include "import/RIFF.h"
@@ -10,7 +9,6 @@
 #include "support/Stereo.h"
 #include "tuning/Temperament.h"
 
-#include <al.h>
 #include <gmock/gmock.h>
 #include <spdlog/fmt/fmt.h>
 
@@ -23,17 +21,14 @@ namespace velmora {
 /// "0 -, 36 Flute 60,".
 inline std::string keysOf(const ALInstrument& instrument, std::size_t stop)
 {
-    std::map<ALint, std::string> names;
+    std::map<const Sound*, std::string> names;
     for (const auto& [name, sound] : instrument.sounds)
-        names[static_cast<ALint>(sound->buffer())] = std::filesystem::path(name).filename();
+        names[sound.get()] = std::filesystem::path(name).filename();
     std::string result;
     for (std::size_t key = 0; const Sample& one : instrument.stops().at(stop).samples) {
-        ALint buffer = 0;
-        if (one.source() != 0)
-            alGetSourcei(one.source(), AL_BUFFER, &buffer);
         const double root = 12 * std::log2(one.rootPitch() / equal.getPitch(0));
         const std::string sound =
-            buffer == 0 ? " -," : fmt::format(" {} {:.6g},", names.at(buffer), root);
+            one.source() == 0 ? " -," : fmt::format(" {} {:.6g},", names.at(one.sound()), root);
         if (!result.ends_with(sound))
             result += (result.empty() ? "" : " ") + std::to_string(key) + sound;
         ++key;
@@ -43,22 +38,19 @@ inline std::string keysOf(const ALInstrument& instrument, std::size_t stop)
 
 /// Returns the error, in cents, of a key of the first stop in meantone. In equal temperament key 69
 /// should sound at `hertzOfA`.
-inline double centsOff(ALInstrument& instrument, OpenALLoopback& loopback, std::size_t key,
-                       double hertzOfA)
+inline double centsOff(ALInstrument& instrument, std::size_t key, double hertzOfA)
 {
     const Temperament meantone = Temperament::Meantone();
     const double hertz = hertzOfA * meantone.getPitch(key) / equal.getPitch(69);
     instrument.tune(meantone, 0, 127);
     instrument.play(static_cast<int>(key), 1.0F);
-    const Stereo sound = rendered(loopback, 24'000);
-    instrument.fade(0.0);
+    const Stereo sound = rendered(*instrument.source(), 24'000);
+    instrument.silence();
     return cents(measuredHertz(std::span(sound.left).subspan(4'000), 48'000, hertz), hertz);
 }
 
-/// The result of importing a sample bank from memory, with its own OpenAL device.
+/// The result of importing a sample bank from memory.
 template <void (*reader)(const RIFF::File&, Import&)> class ImportedBank {
-    OpenALLoopback loopback_{48'000}; // first, so that it is destroyed last
-
 public:
     explicit ImportedBank(const std::string& bytes, std::size_t cancelAfter = SIZE_MAX)
         : host(cancelAfter)
@@ -79,7 +71,7 @@ public:
 
     double centsOff(std::size_t key, double hertzOfA)
     {
-        return velmora::centsOff(*import.instrument, loopback_, key, hertzOfA);
+        return velmora::centsOff(*import.instrument, key, hertzOfA);
     }
 
     RecordingHost host;

@@ -83,7 +83,6 @@ protected:
         return dynamic_cast<ALInstrument&>(*document_.instrument());
     }
 
-    OpenALLoopback loopback_{48'000};
     OrganFolder folder_;
     RecordingHost host_;
     InstrumentDocument document_;
@@ -105,8 +104,8 @@ TEST_F(InstrumentDocumentTest, LoadsAnXmlOrgan)
     EXPECT_EQ(keysOf(instrument(), 1), "0 A.WAV 69, 69 Flute\\C.wav 69, 70 A.WAV 69,")
         << "the first of two pipes on a key is extended";
     EXPECT_EQ(instrument().stops().at(0).extended.count(), 60U + 65U);
-    EXPECT_NEAR(centsOff(instrument(), loopback_, 62, hertzOfA(62)), 0.0, 0.25);
-    EXPECT_NEAR(centsOff(instrument(), loopback_, 48, hertzOfA(60)), 0.0, 0.5) << "at half speed";
+    EXPECT_NEAR(centsOff(instrument(), 62, hertzOfA(62)), 0.0, 0.25);
+    EXPECT_NEAR(centsOff(instrument(), 48, hertzOfA(60)), 0.0, 0.5) << "at half speed";
 
     ASSERT_TRUE(read(writeXml("77", "0"))) << document_.errorString();
     EXPECT_TRUE(instrument().sounds.contains("5/Flute\\C.wav"))
@@ -133,7 +132,7 @@ TEST_F(InstrumentDocumentTest, LoadsAVersion1OrganWithAnyLineEnds)
                                 Pair("Stop003 Pipe001", HasSubstr("lower number is missing"))));
         EXPECT_EQ(keysOf(instrument(), 0), "0 c.WAV 45, 46 -, 47 a.wav 47,");
     }
-    EXPECT_NEAR(centsOff(instrument(), loopback_, 45, hertzOfA(45)), 0.0, 0.25);
+    EXPECT_NEAR(centsOff(instrument(), 45, hertzOfA(45)), 0.0, 0.25);
 }
 
 TEST_F(InstrumentDocumentTest, IsUnchangedIfAFileCannotBeRead)
@@ -163,15 +162,13 @@ TEST_F(InstrumentDocumentTest, IsUnchangedIfAFileCannotBeRead)
                       HasSubstr("/none.organ: cannot be read (No such file or directory)")));
 }
 
-TEST_F(InstrumentDocumentTest, FreesEverythingWhenCancelled)
+TEST_F(InstrumentDocumentTest, HasNoInstrumentWhenCancelled)
 {
     host_ = RecordingHost(2);
     EXPECT_FALSE(read(writeXml("123", "0")));
     EXPECT_EQ(document_.errorString(), "");
     EXPECT_EQ(document_.instrument(), nullptr);
     EXPECT_THAT(host_.calls, testing::SizeIs(3));
-    for (unsigned name = 1; name < 1000; ++name)
-        EXPECT_FALSE(alIsSource(name) || alIsBuffer(name)) << name;
 }
 
 } // namespace

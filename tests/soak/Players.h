@@ -22,13 +22,13 @@ namespace velmora {
 constexpr double kRate = 48000.0;
 constexpr std::size_t kTenthOfASecond = 4800; ///< In frames.
 
-/// Renders a synthesizer in real time, in blocks of 128 frames, as an audio driver does. The
-/// synthesizer must outlive it.
+/// Renders a source of sound in real time, in blocks of 128 frames, as an audio driver does. The
+/// source must outlive it.
 class AudioThread {
 public:
     explicit AudioThread(AudioSource& source) : source_(source) {}
 
-    /// Returns whether the synthesizer falls silent within forty seconds of sound, rendered at
+    /// Returns whether the source falls silent within forty seconds of sound, rendered at
     /// once. Some programs decay slowly.
     bool fallsSilent()
     {

@@ -175,12 +175,6 @@ void Desktop::openTuning(const QString& path, TuningFormat format)
 void Desktop::openInstrument(const QString& path, InstrumentFormat format)
 {
     const QString name = QFileInfo(path).fileName();
-    if (!application_.canPlaySamples()) {
-        showError(tr("%1: cannot be opened because OpenAL has no sound output. Check the sound "
-                     "card, then start Velmora again.")
-                      .arg(name));
-        return;
-    }
     auto document = std::make_unique<InstrumentDocument>();
     const bool isRead = document->read(path.toStdString(), format, application_);
     progressWindow_.endProgress();

@@ -71,8 +71,6 @@ void StatusLine::showDevices()
     if (application_.audioOutput()->driver() == "none")
         addNotice(tr("The General MIDI player is silent because there is no sound output. Check "
                      "the sound card, then start Velmora again."));
-    if (!application_.canPlaySamples())
-        addNotice(tr("Sampled instruments cannot be opened because OpenAL has no sound output."));
     if (names.isEmpty())
         addNotice(tr("No MIDI device was found. Connect one and start Velmora again, or play with "
                      "the mouse."));

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "audio/AudioSource.h"
+#include "audio/SampleVoices.h"
+#include "base/LockFreeQueue.h"
+#include "platform/WorkerPool.h"
+
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace velmora {
+
+/// Plays the samples of an instrument. They are spread over several OpenAL devices, so that several
+/// processors can share the work of many voices.
+///
+/// Loading and playing are for one thread at a time each, and samples must not be added or removed
+/// while an engine plays the renderer. Playing neither waits nor allocates.
+class SampleRenderer : public AudioSource {
+public:
+    SampleRenderer();
+
+    // Loading:
+
+    /// Returns the device with the fewest bytes, to which the next sound should be added. Throws
+    /// FormatError if OpenAL cannot open any.
+    std::uint32_t emptiestDevice();
+
+    SampleVoices& device(std::uint32_t number) { return *devices_[number]; }
+
+    /// Prepares the devices for playing. Must be called after samples have been added.
+    void prepare();
+
+    void setRate(double rate) override;
+
+    // Playing:
+
+    /// Sets when the operations that follow are due, in the seconds of `getTime`; 0 for at once.
+    void setDue(double time) { due_ = time; }
+
+    /// Starts a sample; one that sounds starts again.
+    void start(SampleId sample, float gain, float pitch);
+
+    /// Lets a sample die away.
+    void release(SampleId sample);
+
+    /// Sets the pitch factor of a sample that may sound.
+    void setPitch(SampleId sample, float pitch);
+
+    /// Sets a pitch factor for all samples, including those that sound.
+    void bend(float pitch);
+
+    /// Ends every sound at once, and forgets what is due later.
+    void end();
+
+    // Rendering:
+
+    void render(float* left, float* right, std::size_t frames, double start) override;
+
+    /// Spares work on released samples while more than 75 % of a period's time is needed.
+    void setLoad(double load) override;
+
+    // Meters, for any thread:
+
+    std::size_t voices() const override;
+
+    /// How many of the voices have been released.
+    std::size_t fading() const;
+
+    Relief relief() const { return relief_.load(std::memory_order_relaxed); }
+
+private:
+    void send(const SampleEvent& event);
+    void receive();
+    void take(const SampleEvent& event);
+    std::span<const SampleEvent> eventsUntil(std::size_t frames, double start);
+    void renderBlock(float* left, float* right, std::size_t frames, double start);
+
+    double rate_;
+    double due_ = 0.0;
+    std::vector<std::unique_ptr<SampleVoices>> devices_;
+    std::size_t sounds_ = 0; ///< That have been added to the devices.
+    std::optional<WorkerPool> workers_;
+
+    LockFreeQueue<SampleEvent> queue_;
+    std::atomic<bool> isOverrun_{false}; ///< The queue was full, so events are missing.
+
+    // For the audio thread:
+    std::vector<SampleEvent> pending_; ///< Received and not yet due, by the time that they are due.
+    std::vector<std::uint32_t> busy_;  ///< The devices that take part in the block.
+    std::atomic<Relief> relief_{Relief::None};
+};
+
+} // namespace velmora

@@ -1,0 +1,130 @@
+#pragma once
+
+#include "audio/OpenALDevice.h"
+#include "audio/SampleEvent.h"
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace velmora {
+
+/// How much work the sound of released samples is spared.
+enum class Relief : std::uint8_t {
+    None,
+    CheapTails, ///< They are resampled by linear interpolation.
+    FewerTails, ///< The oldest of them also fade in 5 ms.
+};
+
+/// The samples on one OpenAL device, and those of them that sound. A sample has two sources, so
+/// that a restart does not cut off what still sounds: that fades in 5 ms. Apart from the counts,
+/// use it on one thread at a time.
+class SampleVoices {
+public:
+    /// The longest block that can be rendered.
+    static constexpr std::size_t kBlock = 1024;
+
+    SampleVoices(std::unique_ptr<OpenALDevice> device, double rate);
+
+    /// Makes the device's context current as long as the result exists.
+    OpenALDevice::Scope scope() const { return OpenALDevice::Scope(*device_); }
+
+    /// The bytes of the sounds in the device's buffers, which the caller keeps.
+    std::size_t bytes = 0;
+
+    /// Adds a sample that plays an OpenAL buffer, and returns its number. Throws FormatError if
+    /// there are no sources left.
+    std::uint32_t add(unsigned buffer);
+
+    /// Removes a sample, which must be silent.
+    void remove(std::uint32_t number);
+
+    /// The first OpenAL source of a sample.
+    unsigned source(std::uint32_t number) const { return voices_[2 * number].source; }
+
+    /// Prepares for as many voices as may sound together, so that rendering neither allocates nor
+    /// hesitates. Must be called after samples have been added.
+    void prepare();
+
+    void setRate(double rate);
+
+    /// Limits the work on released samples in the blocks that follow.
+    void setRelief(Relief relief);
+
+    /// Returns when a sample's event happens that is due at `due`: not before earlier ones.
+    double order(std::uint32_t number, double due);
+
+    /// Renders the next `frames` frames into `left()` and `right()`, with those of the `events`, in
+    /// the order of their frames, that are for the device with the number `device`.
+    void render(std::span<const SampleEvent> events, std::uint32_t device, std::size_t frames);
+
+    const float* left() const { return left_.data(); }
+    const float* right() const { return right_.data(); }
+
+    /// The number of voices that sound, and how many of them have been released. Safe to call on
+    /// any thread.
+    std::size_t sounding() const { return sounding_.load(std::memory_order_relaxed); }
+    std::size_t fading() const { return fading_.load(std::memory_order_relaxed); }
+
+private:
+    enum class Phase : std::uint8_t { Silent, Held, Tail, Ending };
+
+    /// One source and what it does.
+    struct Voice {
+        unsigned source = 0;
+        Phase phase = Phase::Silent;
+        bool isCheap = false; ///< Resampled by linear interpolation.
+        float gain = 0.0F;
+        float fall = 0.0F;       ///< What an ending voice loses in each frame.
+        float pitch = 1.0F;      ///< Without the bend.
+        std::uint32_t place = 0; ///< In `active_`.
+        std::uint64_t age = 0;   ///< Voices that have changed their phase before.
+    };
+
+    Voice& current(std::uint32_t number) { return voices_[2 * number + second_[number]]; }
+    void apply(const SampleEvent& event);
+    void start(const SampleEvent& event);
+    void release(Voice& voice);
+    void end(Voice& voice);
+    void stop(Voice& voice);
+    void makeRoom();
+    Voice* oldest(Phase phase);
+    void endOldestTails();
+    void setPitch(const Voice& voice);
+    void setCheap(Voice& voice, bool cheap);
+
+    std::size_t advance(std::size_t done, std::size_t end);
+    void fade(std::size_t frames);
+    void fade(Voice& voice, float decay, std::size_t frames);
+    void findEnded();
+    void count();
+
+    std::unique_ptr<OpenALDevice> device_;
+    double rate_;
+
+    std::vector<Voice> voices_;        ///< Two for each sample.
+    std::vector<std::uint8_t> second_; ///< By sample: 1 if the second voice was started last.
+    std::vector<double> dues_;         ///< By sample: when its last event was due.
+    std::vector<std::uint32_t> free_;  ///< Numbers of removed samples.
+
+    int best_ = 0, cheap_ = 0; ///< The numbers of OpenAL's resamplers.
+    bool isPrepared_ = true;
+    std::size_t limit_ = 0;             ///< The number of voices that may sound together.
+    std::vector<std::uint32_t> active_; ///< The voices that sound.
+    std::vector<unsigned> starting_;    ///< Sources to be started before the next block.
+    std::vector<Voice*> tails_;         ///< Scratch.
+    std::size_t nextToCheck_ = 0;
+    std::uint64_t age_ = 0;
+    float bend_ = 1.0F;
+    Relief relief_ = Relief::None;
+
+    std::array<float, 2 * kBlock> interleaved_{};
+    std::array<float, kBlock> left_{}, right_{};
+    std::atomic<std::size_t> sounding_{0}, fading_{0};
+};
+
+} // namespace velmora
