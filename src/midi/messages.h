@@ -20,6 +20,7 @@ constexpr std::uint8_t kChannelMask = 0x0F;
 // Kinds of channel messages, to be combined with a channel.
 constexpr std::uint8_t kNoteOff = 0x80;
 constexpr std::uint8_t kNoteOn = 0x90; ///< With velocity 0 it releases the key.
+constexpr std::uint8_t kPolyphonicPressure = 0xA0;
 constexpr std::uint8_t kControlChange = 0xB0;
 constexpr std::uint8_t kProgramChange = 0xC0;   ///< One data byte.
 constexpr std::uint8_t kChannelPressure = 0xD0; ///< One data byte.
@@ -47,7 +48,12 @@ constexpr std::uint8_t kExpression = 11;
 constexpr std::uint8_t kVibratoRate = 76;
 constexpr std::uint8_t kVibratoDepth = 77;
 constexpr std::uint8_t kVibratoDelay = 78;
-constexpr std::uint8_t kAllSoundOff = 120;
+constexpr std::uint8_t kSustain = 64;      ///< A pedal is down from 64 on.
+constexpr std::uint8_t kSostenuto = 66;    ///< A pedal.
+constexpr std::uint8_t kSoft = 67;         ///< A pedal.
+constexpr std::uint8_t kAllSoundOff = 120; ///< The first of the channel mode messages.
+constexpr std::uint8_t kResetControllers = 121;
+constexpr std::uint8_t kAllNotesOff = 123; ///< As do the mode messages 124 to 127.
 
 } // namespace midi
 

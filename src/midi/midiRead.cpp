@@ -31,10 +31,8 @@ void readNote(std::uint8_t status, std::uint8_t key, std::uint8_t value, LiveInp
 
 void readController(std::uint8_t number, std::uint8_t value, LiveInput& input)
 {
-    const auto* slider = std::find(kSliderControllers.begin(), kSliderControllers.end(), number);
-    if (slider != kSliderControllers.end())
-        input.setVolume(fraction(value),
-                        static_cast<std::size_t>(slider - kSliderControllers.begin()));
+    if (const auto slider = sliderOf(number))
+        input.setVolume(fraction(value), *slider);
 }
 
 /// Returns the bytes after the first `count`.
@@ -77,6 +75,15 @@ bool readPacket(MidiPacket bytes, LiveInput& input)
 }
 
 } // namespace
+
+std::optional<std::size_t> sliderOf(std::uint8_t controller)
+{
+    const auto* slider =
+        std::find(kSliderControllers.begin(), kSliderControllers.end(), controller);
+    if (slider == kSliderControllers.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(slider - kSliderControllers.begin());
+}
 
 void midiRead(MidiPacketList packets, LiveInput& input)
 {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 namespace velmora {
@@ -30,6 +31,9 @@ public:
 /// The bytes of one or more whole MIDI messages.
 using MidiPacket = std::span<const std::uint8_t>;
 using MidiPacketList = std::span<const MidiPacket>;
+
+/// Returns the volume slider, 0 to 4, that a controller moves.
+std::optional<std::size_t> sliderOf(std::uint8_t controller);
 
 /// Parses packets that arrived together and calls `input` in the order of the bytes. All channels
 /// are treated as one keyboard. Neither allocates nor throws.
