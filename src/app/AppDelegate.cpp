@@ -190,6 +190,23 @@ void AppDelegate::setMIDIProgram(std::uint8_t program)
     player_.with([&](Instrument& instrument, Temperament&) { instrument.setInstrument(program); });
 }
 
+std::uint8_t AppDelegate::midiProgram()
+{
+    std::uint8_t program = 0;
+    player_.with([&](Instrument&, Temperament&) { program = midiPlayer_->program(); });
+    return program;
+}
+
+void AppDelegate::receiveProgram(std::uint8_t program)
+{
+    player_.with([&](Instrument& instrument, Temperament&) {
+        if (!instrument.hasSubMenu())
+            return;
+        queue_.post({.kind = InputEvent::Kind::Program, .program = program});
+        instrument.setInstrument(program);
+    });
+}
+
 void AppDelegate::setVolumeOfStop(std::size_t stop, float volume)
 {
     player_.with([&](Instrument& instrument, Temperament&) { instrument.setVolume(stop, volume); });
@@ -266,6 +283,17 @@ void AppDelegate::setVolume(float volume, std::size_t slider)
     });
 }
 
+void AppDelegate::toggleVolume(std::size_t stop)
+{
+    player_.with([&](Instrument& instrument, Temperament&) {
+        if (stop >= instrument.numStops())
+            return;
+        const float volume = instrument.getVolume(stop) > 0.0F ? 0.0F : 1.0F;
+        queue_.post({InputEvent::Kind::Volume, stop, volume});
+        instrument.setVolume(stop, volume);
+    });
+}
+
 void AppDelegate::midiInput()
 {
     queue_.post({});
@@ -284,6 +312,15 @@ void AppDelegate::handle(const InputEvent& event)
         break;
     case InputEvent::Kind::Volume:
         emit volumeMoved(event.slider, event.volume);
+        break;
+    case InputEvent::Kind::Program:
+        emit programSelected(event.program);
+        break;
+    case InputEvent::Kind::Action:
+        emit controlUsed(event.action);
+        break;
+    case InputEvent::Kind::Learned:
+        learning_.keep(event.control);
         break;
     }
 }

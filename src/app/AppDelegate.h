@@ -2,7 +2,9 @@
 
 #include "app/InputQueue.h"
 #include "app/LiveDevices.h"
+#include "app/MidiLearning.h"
 #include "app/Player.h"
+#include "app/PlayingOptions.h"
 #include "audio/AudioEngine.h"
 #include "audio/AudioOutput.h"
 #include "import/InstrumentDocument.h"
@@ -69,6 +71,12 @@ public:
     /// The current instrument and temperament, and the keys that sound.
     Player& player() { return player_; }
 
+    /// How the MIDI devices are played.
+    PlayingOptions& playing() { return playing_; }
+
+    /// What controls of the MIDI devices have learned.
+    MidiLearning& learning() { return learning_; }
+
     /// Adds an instrument to the list and makes it the current one. Ignores a document without an
     /// instrument.
     void addInstrument(std::unique_ptr<InstrumentDocument> document);
@@ -102,7 +110,18 @@ public:
     void setMIDIProgram(std::uint8_t program);
 
     /// The program of the General MIDI player, 0…127.
-    std::uint8_t midiProgram() const { return midiPlayer_->program(); }
+    std::uint8_t midiProgram();
+
+    /// Selects a General MIDI program as `setMIDIProgram` does; `programSelected` follows if the
+    /// current instrument has programs. Any thread may call it.
+    void receiveProgram(std::uint8_t program);
+
+    /// Sets the volume of a stop of the current instrument to 1 if it is 0, otherwise to 0;
+    /// `volumeMoved` follows. Any thread may call it.
+    void toggleVolume(std::size_t stop);
+
+    /// Passes an event to the main thread. Any thread may call it.
+    void post(const InputEvent& event) { queue_.post(event); }
 
     /// Sets the volume of a stop of the current instrument, as its slider does.
     void setVolumeOfStop(std::size_t stop, float volume);
@@ -170,6 +189,12 @@ signals:
     /// The thread that loads a bank has finished, successfully or not.
     void loadingFinished();
 
+    /// A MIDI device has selected a General MIDI program of the current instrument.
+    void programSelected(int program);
+
+    /// A control that has learned `Play`, `Record`, `Stop` or `Silence` was used.
+    void controlUsed(LearnedAction::Kind action);
+
     /// An instrument was listed, unloaded or loaded again.
     void instrumentsChanged();
 
@@ -209,6 +234,8 @@ private:
     std::filesystem::path bank_;
 
     std::unique_ptr<Temperament> temperament_; ///< A fresh copy of the current tuning's.
+    PlayingOptions playing_;
+    MidiLearning learning_;
     Player player_;
     InputQueue queue_;
     LiveDevices devices_{*this};

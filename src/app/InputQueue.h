@@ -1,9 +1,11 @@
 #pragma once
 
 #include "base/LockFreeQueue.h"
+#include "midi/LearnedControls.h"
 
 #include <atomic>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -17,12 +19,18 @@ namespace velmora {
 struct InputEvent {
     enum class Kind {
         MidiInput, ///< The held keys have changed.
-        Volume     ///< A controller has moved a slider.
+        Volume,    ///< A controller has moved a slider.
+        Program,   ///< A General MIDI program was selected.
+        Action,    ///< A learned control was used.
+        Learned    ///< A control has learned an action.
     };
 
     Kind kind = Kind::MidiInput;
     std::size_t slider = 0;
     float volume = 0.0F;
+    std::uint8_t program = 0;
+    LearnedAction::Kind action = LearnedAction::Kind::None;
+    MidiControl control = {};
 };
 
 /// Carries events from any thread to the event loop of the thread that created it, in order.

@@ -1,41 +1,109 @@
 #include "app/LiveDevice.h"
 
 #include "app/AppDelegate.h"
-#include "midi/messages.h"
+
+#include <utility>
 
 namespace velmora {
 
 LiveDevice::LiveDevice(AppDelegate& application, std::size_t number)
-    : application_(application), number_(number)
+    : application_(application), number_(number),
+      translator_(application.playing().settings(), application.learning().controls(), *this)
 {
 }
 
 void LiveDevice::receive(MidiPacket message, double time)
 {
     time_ = time;
-    midiRead({&message, 1}, *this);
+    const bool isPlain = application_.playing().settings().isPlain;
+    if (isPlain != std::exchange(wasPlain_, isPlain))
+        releaseKeys(); // the other reading does not know what is held
+    if (isForgetful_.exchange(false))
+        translator_.reset();
+    if (isPlain)
+        midiRead({&message, 1}, *this);
+    else
+        translator_.read(message);
 }
 
 void LiveDevice::releaseKeys()
 {
-    for (std::size_t channel = 0; channel < midi::kChannels; ++channel)
-        application_.player().releaseAll(deviceSource(number_, channel));
+    isForgetful_ = true;
+    Player& player = application_.player();
+    for (int channel = 0; channel < midi::kChannels; ++channel)
+        player.releaseAll(source(channel));
+    if (isSoft_.exchange(false))
+        player.setSoft(false);
+    if (isBent_.exchange(false))
+        player.bend(0.0, getTime());
     application_.midiInput();
 }
 
-void LiveDevice::keyOn(int key, float velocity)
+KeySource LiveDevice::source(int channel) const
 {
-    application_.player().keyOn(key, velocity, deviceSource(number_, 0), time_);
+    return deviceSource(number_, static_cast<std::size_t>(channel));
 }
 
-void LiveDevice::keyOff(int key)
+void LiveDevice::keyOn(int key, float velocity, int channel)
 {
-    application_.player().keyOff(key, deviceSource(number_, 0), time_);
+    application_.player().keyOn(key, velocity, source(channel), time_);
+}
+
+void LiveDevice::keyOff(int key, int channel)
+{
+    application_.player().keyOff(key, source(channel), time_);
+}
+
+void LiveDevice::setSustain(bool isDown, int channel)
+{
+    application_.player().setSustain(source(channel), isDown, time_);
+}
+
+void LiveDevice::setSostenuto(bool isDown, int channel)
+{
+    application_.player().setSostenuto(source(channel), isDown, time_);
+}
+
+void LiveDevice::setSoft(bool isDown)
+{
+    isSoft_ = isDown;
+    application_.player().setSoft(isDown);
+}
+
+void LiveDevice::bend(double cents)
+{
+    isBent_ = cents != 0.0;
+    application_.player().bend(cents, time_);
+}
+
+void LiveDevice::silence()
+{
+    application_.silenceAll();
+}
+
+void LiveDevice::setProgram(std::uint8_t program)
+{
+    application_.receiveProgram(program);
 }
 
 void LiveDevice::setVolume(float volume, std::size_t slider)
 {
     application_.setVolume(volume, slider);
+}
+
+void LiveDevice::toggleVolume(std::size_t slider)
+{
+    application_.toggleVolume(slider);
+}
+
+void LiveDevice::perform(LearnedAction::Kind action)
+{
+    application_.post({.kind = InputEvent::Kind::Action, .action = action});
+}
+
+void LiveDevice::learned(MidiControl control)
+{
+    application_.post({.kind = InputEvent::Kind::Learned, .control = control});
 }
 
 void LiveDevice::midiInput()

@@ -1,15 +1,18 @@
 #pragma once
 
-#include "midi/midiRead.h"
+#include "app/KeyHolders.h"
+#include "midi/MidiTranslator.h"
 
+#include <atomic>
 #include <cstddef>
 
 namespace velmora {
 
 class AppDelegate;
 
-/// Plays what one MIDI device sends.
-class LiveDevice : private LiveInput {
+/// Plays what one MIDI device sends, in the musical or the plain reading. In the musical reading
+/// each channel holds its own keys; in the plain one they are one keyboard.
+class LiveDevice : private LiveInput, private MusicalInput {
 public:
     /// `number` tells the devices apart, from 0.
     LiveDevice(AppDelegate& application, std::size_t number);
@@ -18,17 +21,40 @@ public:
     /// the device's receive thread.
     void receive(MidiPacket message, double time);
 
-    /// Releases the keys and pedals that the device holds. May be called on any thread.
+    /// Releases the keys and pedals that the device holds, and centres the pitch wheel. May be
+    /// called on any thread.
     void releaseKeys();
 
 private:
-    void keyOn(int key, float velocity) override;
-    void keyOff(int key) override;
+    // The plain reading:
+    void keyOn(int key, float velocity) override { keyOn(key, velocity, 0); }
+    void keyOff(int key) override { keyOff(key, 0); }
+
+    // The musical reading:
+    void keyOn(int key, float velocity, int channel) override;
+    void keyOff(int key, int channel) override;
+    void setSustain(bool isDown, int channel) override;
+    void setSostenuto(bool isDown, int channel) override;
+    void setSoft(bool isDown) override;
+    void bend(double cents) override;
+    void silence() override;
+    void setProgram(std::uint8_t program) override;
+    void toggleVolume(std::size_t slider) override;
+    void perform(LearnedAction::Kind action) override;
+    void learned(MidiControl control) override;
+
+    // Both:
     void setVolume(float volume, std::size_t slider) override;
     void midiInput() override;
 
+    KeySource source(int channel) const;
+
     AppDelegate& application_;
     std::size_t number_;
+    MidiTranslator translator_;
+    bool wasPlain_ = false;
+    std::atomic<bool> isForgetful_{false};            ///< The translator must forget what is held.
+    std::atomic<bool> isSoft_{false}, isBent_{false}; ///< By this device.
     double time_ = 0.0; ///< When the message that is being read was received.
 };
 

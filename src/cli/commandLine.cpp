@@ -28,6 +28,7 @@ struct Arguments {
     RenderLoop loop{0.0, 0.0, 2};
     std::vector<std::string> files;
     bool json = false;
+    bool plain = false;
 };
 
 /// Like CLI::Range, but rejects NaN.
@@ -101,6 +102,14 @@ CLI::App* addRender(CLI::App& program, Arguments& arguments)
     return command;
 }
 
+void addPlain(CLI::App& command, Arguments& arguments)
+{
+    command.add_flag(
+        "--plain", arguments.plain,
+        "Read MIDI devices plainly: notes and volumes, without pedals, wheels, learned "
+        "controllers, velocity curve and transposition");
+}
+
 CLI::App* addJson(CLI::App* command, Arguments& arguments)
 {
     command->add_flag("--json", arguments.json, "Print JSON");
@@ -117,13 +126,13 @@ void runRender(const CLI::App& command, Arguments& arguments)
     render(arguments.sequence, arguments.output, arguments.selection, arguments.options);
 }
 
-int runWindows(int argc, char** argv, const std::vector<std::string>& files)
+int runWindows(int argc, char** argv, const Arguments& arguments)
 {
-    for (const std::string& file : files) {
+    for (const std::string& file : arguments.files) {
         if (!std::filesystem::exists(file))
             throw UsageError("\"" + file + "\" is neither a file nor a command");
     }
-    return runDesktop(argc, argv, files);
+    return runDesktop(argc, argv, arguments.files, arguments.plain);
 }
 
 int run(CLI::App& program, int argc, char** argv)
@@ -138,13 +147,15 @@ int run(CLI::App& program, int argc, char** argv)
     infoCommand->add_option("files", arguments.files, "The files")->required();
     CLI::App* liveCommand = program.add_subcommand("live", "Play from the MIDI inputs");
     addSelection(*liveCommand, arguments);
+    addPlain(program, arguments);
+    addPlain(*liveCommand, arguments);
     CLI::App* devicesCommand =
         addJson(program.add_subcommand(
                     "devices", "List the MIDI inputs, the sound output and the General MIDI bank"),
                 arguments);
     program.parse(argc, argv);
     if (program.get_subcommands().empty())
-        return runWindows(argc, argv, arguments.files);
+        return runWindows(argc, argv, arguments);
 
     const QCoreApplication application(argc, argv);
     arguments.selection.instrument = arguments.instrument;
@@ -156,7 +167,7 @@ int run(CLI::App& program, int argc, char** argv)
         return info({arguments.files.begin(), arguments.files.end()}, arguments.json) ? 0
                                                                                       : kFailure;
     if (*liveCommand)
-        live(arguments.selection);
+        live(arguments.selection, arguments.plain);
     if (*devicesCommand)
         devices(arguments.json);
     return 0;

@@ -26,8 +26,9 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
 /// all could be read.
 bool info(const std::vector<std::filesystem::path>& files, bool json);
 
-/// Plays from the MIDI inputs until interrupted. Needs a QCoreApplication.
-void live(const Selection& selection);
+/// Plays from the MIDI inputs until interrupted, in the plain reading if `plain` or the preference
+/// says so. Needs a QCoreApplication.
+void live(const Selection& selection, bool plain);
 
 /// Prints the MIDI inputs, the sound output and the General MIDI bank in use.
 void devices(bool json);

@@ -25,11 +25,13 @@ void printMissing(const char* text, const Names& names, const Names& others)
 
 } // namespace
 
-void live(const Selection& selection)
+void live(const Selection& selection, bool plain)
 {
     QuitOnSignal quitOnSignal;
     quitOnSignal.watch([] { QCoreApplication::quit(); });
     AppDelegate application;
+    if (plain)
+        application.playing().usePlainReading();
     application.start();
     application.waitForBank();
     select(selection, application);

@@ -31,6 +31,12 @@ PrefRange prefRange(const std::string& key)
         return {0, 126};
     if (key == "KeyRangeHi")
         return {getPrefInt("KeyRangeLo") + 1, 127};
+    if (key == "VelocityCurve")
+        return {0, 3};
+    if (key == "Transposition")
+        return {-24, 24};
+    if (key == "BendRange")
+        return {0, 12};
     return {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()};
 }
 

@@ -10,7 +10,8 @@ namespace velmora {
 /// Returns an integer preference, clamped to its range, or 0 if the key is unknown. The keys are
 /// "KeyWidth", the width of a semitone in pixels; "KeyHeight", the height of a step in the piano
 /// roll in pixels; "KeyRangeLo" and "KeyRangeHi", the lowest and highest MIDI key shown, at least
-/// one apart.
+/// one apart; "VelocityCurve", a `VelocityCurve`; "Transposition" and "BendRange", the
+/// transposition of MIDI devices and the range of their pitch wheels in semitones.
 int getPrefInt(const std::string& key);
 void setPrefInt(const std::string& key, int value);
 
@@ -23,7 +24,8 @@ struct PrefRange {
 /// Returns the values allowed for a key, given the current values of the other keys.
 PrefRange prefRange(const std::string& key);
 
-/// Returns a boolean preference: "KeyNames" shows the names of the C keys on the keyboard.
+/// Returns a boolean preference: "KeyNames" shows the names of the C keys on the keyboard;
+/// "PlainReading" reads MIDI devices with `midiRead`, without the translator.
 bool getPrefBool(const std::string& key);
 void setPrefBool(const std::string& key, bool value);
 

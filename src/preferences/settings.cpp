@@ -31,6 +31,10 @@ const QVariantMap& defaults()
         {"KeyRangeHi", 108}, // C8
         {"KeyNames", true},
         {"GMBank", ""},
+        {"PlainReading", false},
+        {"VelocityCurve", 0}, // linear
+        {"Transposition", 0},
+        {"BendRange", 2},
     };
     return values;
 }

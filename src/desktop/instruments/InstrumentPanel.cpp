@@ -3,6 +3,8 @@
 #include "app/AppDelegate.h"
 #include "app/programNames.h"
 #include "app/sizeString.h"
+#include "desktop/instruments/PlayingControls.h"
+#include "desktop/widgets/LearnMenu.h"
 #include "desktop/widgets/closeByKeys.h"
 
 #include <QComboBox>
@@ -72,6 +74,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     column->addWidget(programs_);
     column->addWidget(usage_);
     column->addWidget(tunings_);
+    column->addWidget(new PlayingControls(application_.playing()));
     for (QComboBox* menu : {programs_, tunings_})
         menu->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 
@@ -94,6 +97,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     connect(&application_, &AppDelegate::tuningChanged, this, &InstrumentPanel::showTunings);
     connect(&application_, &AppDelegate::instrumentChanged, this, &InstrumentPanel::showInstrument);
     connect(&application_, &AppDelegate::volumeMoved, this, &InstrumentPanel::showVolume);
+    connect(&application_, &AppDelegate::programSelected, programs_, &QComboBox::setCurrentIndex);
 }
 
 void InstrumentPanel::showTunings()
@@ -168,6 +172,8 @@ void InstrumentPanel::makeSliders(std::size_t count)
         slider->setRange(0, kFullVolume);
         slider->setPageStep(kFullVolume / 10);
         slider->setSingleStep(kFullVolume / 50);
+        new LearnMenu(*slider, application_,
+                      {{{LearnedAction::Kind::Volume, static_cast<std::uint16_t>(stop)}, {}}});
         connect(slider, &QSlider::valueChanged, this, [this, stop](int value) {
             application_.setVolumeOfStop(stop, static_cast<float>(value) / kFullVolume);
             showVolumeTip(stop);

@@ -1,6 +1,7 @@
 #include "desktop/roll/TransportBar.h"
 
 #include "desktop/roll/SequenceActions.h"
+#include "desktop/widgets/LearnMenu.h"
 #include "midi/messages.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceTime.h"
@@ -34,14 +35,17 @@ QString timeText(double step, double tempo)
 
 } // namespace
 
-TransportBar::TransportBar(SequenceDocument& document, SequenceActions& actions)
-    : document_(document), tempo_(new QSpinBox), channel_(new QComboBox), position_(new QLabel)
+TransportBar::TransportBar(SequenceDocument& document, SequenceActions& actions,
+                           AppDelegate& application)
+    : document_(document), application_(application), tempo_(new QSpinBox), channel_(new QComboBox),
+      position_(new QLabel)
 {
     setObjectName("transport");
     setWindowTitle(tr("Transport"));
     setMovable(false);
-    addButton(*actions.record, tr("Stop"));
-    addButton(*actions.play, tr("Stop"));
+    using Kind = LearnedAction::Kind;
+    addButton(*actions.record, tr("Stop"), {{Kind::Record}, tr("Record")});
+    addButton(*actions.play, tr("Stop"), {{Kind::Play}, tr("Play")});
     addSeparator();
     addAction(actions.loop);
     addAction(actions.snap);
@@ -61,7 +65,7 @@ TransportBar::TransportBar(SequenceDocument& document, SequenceActions& actions)
     showOptions();
 }
 
-void TransportBar::addButton(QAction& action, const QString& otherTitle)
+void TransportBar::addButton(QAction& action, const QString& otherTitle, const Learnable& learnable)
 {
     addAction(&action);
     auto* button = qobject_cast<QToolButton*>(widgetForAction(&action));
@@ -70,6 +74,7 @@ void TransportBar::addButton(QAction& action, const QString& otherTitle)
     const int spread = fontMetrics().horizontalAdvance(otherTitle) -
                        fontMetrics().horizontalAdvance(action.iconText());
     button->setMinimumWidth(button->sizeHint().width() + std::max(0, spread));
+    new LearnMenu(*button, application_, {learnable, {{LearnedAction::Kind::Stop}, tr("Stop")}});
 }
 
 void TransportBar::addTempo()

@@ -8,29 +8,32 @@ class QSpinBox;
 
 namespace velmora {
 
+class AppDelegate;
 class SequenceActions;
 class SequenceDocument;
+struct Learnable;
 
 /// The toolbar of a sequence window: record, play, loop, grid, tempo, channel and position.
 class TransportBar : public QToolBar {
     Q_OBJECT
 
 public:
-    /// The document and the actions must outlive the toolbar.
-    TransportBar(SequenceDocument& document, SequenceActions& actions);
+    /// The arguments must outlive the toolbar.
+    TransportBar(SequenceDocument& document, SequenceActions& actions, AppDelegate& application);
 
 signals:
     /// The user has finished with a field; the piano roll should get the keyboard focus back.
     void done();
 
 private:
-    void addButton(QAction& action, const QString& otherTitle);
+    void addButton(QAction& action, const QString& otherTitle, const Learnable& learnable);
     void addTempo();
     void addChannel();
     void showOptions();
     void showPosition();
 
     SequenceDocument& document_;
+    AppDelegate& application_;
     QSpinBox* tempo_;
     QComboBox* channel_;
     QLabel* position_;

@@ -45,6 +45,8 @@ Commands::Commands(AppDelegate& application)
       preferences(new QAction(icon("preferences-general"), tr("&Preferences…"), this)),
       quit(new QAction(tr("&Quit"), this)),
       silence(new QAction(icon("panic"), tr("&Silence Everything"), this)),
+      transposeUp(new QAction(tr("Transpose &Up"), this)),
+      transposeDown(new QAction(tr("Transpose &Down"), this)),
       keyboardWindow(new QAction(icon("keyboard"), tr("&Keyboard"), this)),
       instrumentPanel(new QAction(icon("instrument"), tr("Instrument &Panel"), this)),
       instrumentsWindow(new QAction(tr("&Instruments…"), this)),
@@ -63,6 +65,10 @@ Commands::Commands(AppDelegate& application)
     silence->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Period));
     silence->setShortcutContext(Qt::ApplicationShortcut);
     silence->setToolTip(tr("Stop every sound and release every key (Ctrl+.)"));
+    transposeUp->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Up));
+    transposeDown->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Down));
+    for (QAction* action : {transposeUp, transposeDown})
+        action->setShortcutContext(Qt::ApplicationShortcut);
     keyboardWindow->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
     instrumentPanel->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
     instrumentPanel->setToolTip(tr("Show the program, the tuning and the stops (Ctrl+I)"));
@@ -154,7 +160,7 @@ void Commands::showInstruments()
     instruments_->addSeparator();
     instruments_->addActions({instrumentPanel, instrumentsWindow});
     instruments_->addSeparator();
-    instruments_->addAction(silence);
+    instruments_->addActions({transposeUp, transposeDown, silence});
 }
 
 void Commands::showTunings()

@@ -27,7 +27,9 @@ public:
     QAction* const open;
     QAction* const preferences;
     QAction* const quit;
-    QAction* const silence; ///< Stops every sound at once.
+    QAction* const silence;     ///< Stops every sound at once.
+    QAction* const transposeUp; ///< By a semitone, as does the next one.
+    QAction* const transposeDown;
     QAction* const keyboardWindow;
     QAction* const instrumentPanel;
     QAction* const instrumentsWindow;

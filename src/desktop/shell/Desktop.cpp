@@ -1,5 +1,6 @@
 #include "desktop/shell/Desktop.h"
 
+#include "desktop/instruments/PlayingControls.h"
 #include "desktop/instruments/importReport.h"
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/SequenceWindow.h"
@@ -24,6 +25,7 @@ namespace {
 
 constexpr const char* kFolderKey = "openFolder";
 constexpr int kReportMilliseconds = 15000;
+constexpr int kTransposedMilliseconds = 3000;
 constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ";
 constexpr const char* kTunings = "*.scl *.mtx";
 constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
@@ -48,7 +50,10 @@ Desktop::Desktop()
         if (KeyboardDocument* document = keyboardWindow_.keyboard().document())
             document->midiInput();
     });
+    connect(&application_, &AppDelegate::controlUsed, this, &Desktop::perform);
     connect(&preferencesWindow_, &PreferencesWindow::changed, this, &Desktop::updateAllViews);
+    connect(&preferencesWindow_, &PreferencesWindow::changed, &application_.playing(),
+            &PlayingOptions::read);
     connect(&preferencesWindow_, &PreferencesWindow::bankChanged, &application_,
             &AppDelegate::loadBank);
 
@@ -82,6 +87,8 @@ void Desktop::connectCommands()
         sequenceWindows_.stopPlaying(); // otherwise their next notes would sound
         application_.silenceAll();
     });
+    connect(commands_.transposeUp, &QAction::triggered, this, [this] { transpose(1); });
+    connect(commands_.transposeDown, &QAction::triggered, this, [this] { transpose(-1); });
     // The windows are not closed one by one, so that the open ones are reopened next time.
     connect(commands_.quit, &QAction::triggered, this, [this] {
         if (sequenceWindows_.closeAll())
@@ -236,6 +243,23 @@ void Desktop::askForFiles()
         return;
     setPreference(kFolderKey, QFileInfo(paths.front()).absolutePath());
     open(paths);
+}
+
+void Desktop::transpose(int semitones)
+{
+    PlayingOptions& playing = application_.playing();
+    playing.setTransposition(playing.settings().transposition + semitones);
+    keyboardWindow_.status().showMessage(
+        tr("Transposition: %1").arg(transpositionText(playing.settings().transposition)),
+        kTransposedMilliseconds);
+}
+
+void Desktop::perform(LearnedAction::Kind action)
+{
+    if (action == LearnedAction::Kind::Silence)
+        commands_.silence->trigger();
+    else
+        sequenceWindows_.perform(action);
 }
 
 void Desktop::updateAllViews()

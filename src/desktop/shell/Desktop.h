@@ -53,6 +53,8 @@ private:
     void openSequence(const QString& path);
     void selectInstrument(std::size_t position);
     void askForFiles();
+    void transpose(int semitones);
+    void perform(LearnedAction::Kind action);
     void updateAllViews();
     void showBank();
     void showError(const QString& message);

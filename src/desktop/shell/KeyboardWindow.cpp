@@ -4,6 +4,7 @@
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/Commands.h"
 #include "desktop/shell/StatusLine.h"
+#include "desktop/widgets/LearnMenu.h"
 #include "desktop/widgets/windowPlace.h"
 
 #include <QCloseEvent>
@@ -46,6 +47,9 @@ KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
     tools->addAction(commands.instrumentPanel);
     tools->addSeparator();
     tools->addAction(commands.silence);
+    new LearnMenu(*tools->widgetForAction(commands.silence), application,
+                  {{{LearnedAction::Kind::Silence}, tr("Silence Everything")}});
+    addActions({commands.transposeUp, commands.transposeDown}); // for their shortcuts
 
     // The last height is restored; the width depends on the keys.
     resize(width(), kKeyboardHeight + menuBar()->sizeHint().height() + tools->sizeHint().height() +

@@ -1,5 +1,6 @@
 #include "desktop/shell/PreferencesWindow.h"
 
+#include "desktop/shell/PlayingPane.h"
 #include "desktop/widgets/ColorButton.h"
 #include "desktop/widgets/NoteSpinBox.h"
 #include "desktop/widgets/closeByKeys.h"
@@ -54,6 +55,10 @@ PreferencesWindow::PreferencesWindow()
     toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     addPane(tr("&General"), "preferences-general", makeGeneralPane());
     addPane(tr("C&olors"), "preferences-colors", makeColorsPane());
+    auto* playing = new PlayingPane;
+    addPane(tr("Pla&ying"), "keyboard", playing);
+    connect(playing, &PlayingPane::changed, this, &PreferencesWindow::changed);
+    readers_.emplace_back([playing] { playing->read(); });
     toolBar->addActions(paneActions_->actions());
     for (QAction* action : paneActions_->actions())
         toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);

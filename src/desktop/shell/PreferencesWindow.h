@@ -12,7 +12,8 @@ class QStackedWidget;
 
 namespace velmora {
 
-/// Edits the preferences in the panes "General" and "Colors". Each change is stored immediately.
+/// Edits the preferences in the panes "General", "Colors" and "Playing". Each change is stored
+/// immediately.
 class PreferencesWindow : public QMainWindow {
     Q_OBJECT
 
@@ -20,7 +21,8 @@ public:
     PreferencesWindow();
 
 signals:
-    /// A preference has changed that affects the size or the look of the views.
+    /// A preference has changed that affects the size or the look of the views, or how MIDI devices
+    /// are played.
     void changed();
 
     /// The user has chosen another General MIDI bank.

@@ -79,7 +79,7 @@ void SequenceWindow::makeView()
     layout->addWidget(tuningStrip_);
     setCentralWidget(centre);
     scrollView_->view().setDocument(&document_, &editor_);
-    auto* transport = new TransportBar(document_, *actions_);
+    auto* transport = new TransportBar(document_, *actions_, application_);
     addToolBar(transport);
     connect(transport, &TransportBar::done, this, [this] { scrollView_->setFocus(); });
     connect(scrollView_, &SequenceScrollView::zoomed, this, &SequenceWindow::zoomed);
@@ -173,6 +173,16 @@ void SequenceWindow::updateRollSize()
 void SequenceWindow::handleKey(const QKeyEvent& event)
 {
     scrollView_->view().handleKey(event);
+}
+
+void SequenceWindow::perform(LearnedAction::Kind action)
+{
+    const Transport::Mode mode = document_.transport().mode();
+    const bool stops = action == LearnedAction::Kind::Stop;
+    if (action == LearnedAction::Kind::Play || (stops && mode == Transport::Mode::Playing))
+        actions_->play->trigger();
+    if (action == LearnedAction::Kind::Record || (stops && mode == Transport::Mode::Recording))
+        actions_->record->trigger();
 }
 
 void SequenceWindow::scrollTo(double step)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/shell/SequenceSaver.h"
+#include "midi/LearnedControls.h"
 #include "sequencer/RecoveryKeeper.h"
 #include "sequencer/SequenceClock.h"
 #include "sequencer/SequenceDocument.h"
@@ -45,6 +46,10 @@ public:
 
     /// Handles a key that was pressed or released while the keyboard window was active.
     void handleKey(const QKeyEvent& event);
+
+    /// Does what its button does for `Play` and `Record`, or stops either for `Stop`. Ignores
+    /// other actions.
+    void perform(LearnedAction::Kind action);
 
     /// Closes the window without asking.
     void closeWithoutAsking();

@@ -176,6 +176,12 @@ void SequenceWindows::handleKey(const QKeyEvent& event)
         current_->handleKey(event);
 }
 
+void SequenceWindows::perform(LearnedAction::Kind action)
+{
+    if (current_ != nullptr)
+        current_->perform(action);
+}
+
 void SequenceWindows::setCurrent(SequenceWindow* window)
 {
     current_ = window;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "midi/LearnedControls.h"
 #include "sequencer/RecoveryFile.h"
 
 #include <QObject>
@@ -49,6 +50,9 @@ public:
 
     /// Forwards a key that was pressed or released elsewhere to the current window.
     void handleKey(const QKeyEvent& event);
+
+    /// Lets the current window perform a learned action.
+    void perform(LearnedAction::Kind action);
 
 signals:
     /// A window was created.

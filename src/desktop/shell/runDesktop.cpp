@@ -41,7 +41,7 @@ void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QSt
 
 } // namespace
 
-int runDesktop(int argc, char** argv, const std::vector<std::string>& files)
+int runDesktop(int argc, char** argv, const std::vector<std::string>& files, bool plain)
 {
     QuitOnSignal quitOnSignal;
     qInstallMessageHandler(logMessage);
@@ -62,6 +62,8 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files)
         return 0;
 
     Desktop desktop;
+    if (plain)
+        desktop.application().playing().usePlainReading();
     quitOnSignal.watch([] { QApplication::exit(); });
     QObject::connect(&instance, &SingleInstance::opened, &desktop, &Desktop::open,
                      Qt::QueuedConnection);

@@ -1,0 +1,41 @@
+#include "app/PlayingOptions.h"
+
+#include "preferences/Preferences.h"
+
+#include <algorithm>
+
+namespace velmora {
+
+PlayingOptions::PlayingOptions()
+{
+    read();
+}
+
+void PlayingOptions::read()
+{
+    settings_.isPlain = isAlwaysPlain_ || getPrefBool("PlainReading");
+    settings_.velocityCurve = static_cast<VelocityCurve>(getPrefInt("VelocityCurve"));
+    settings_.transposition = getPrefInt("Transposition");
+    settings_.bendRange = getPrefInt("BendRange");
+    emit changed();
+}
+
+void PlayingOptions::usePlainReading()
+{
+    isAlwaysPlain_ = true;
+    read();
+}
+
+void PlayingOptions::setVelocityCurve(VelocityCurve curve)
+{
+    setPrefInt("VelocityCurve", static_cast<int>(curve));
+    read();
+}
+
+void PlayingOptions::setTransposition(int semitones)
+{
+    setPrefInt("Transposition", std::clamp(semitones, -kMaxTransposition, kMaxTransposition));
+    read();
+}
+
+} // namespace velmora

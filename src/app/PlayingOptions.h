@@ -1,0 +1,40 @@
+#pragma once
+
+#include "midi/PlayingSettings.h"
+
+#include <QObject>
+
+namespace velmora {
+
+/// How the MIDI devices are played: the reading, the velocity curve, the transposition and the
+/// range of the pitch wheel. They are remembered in the preferences. Main thread only, except the
+/// settings.
+class PlayingOptions : public QObject {
+    Q_OBJECT
+
+public:
+    /// Reads the preferences.
+    PlayingOptions();
+
+    /// The settings, for the MIDI receive threads.
+    const PlayingSettings& settings() const { return settings_; }
+
+    /// Reads the preferences again.
+    void read();
+
+    /// Uses the plain reading until the program ends, whatever the preference says.
+    void usePlainReading();
+
+    /// Stores a choice. A transposition is clamped to its range.
+    void setVelocityCurve(VelocityCurve curve);
+    void setTransposition(int semitones);
+
+signals:
+    void changed();
+
+private:
+    PlayingSettings settings_;
+    bool isAlwaysPlain_ = false;
+};
+
+} // namespace velmora

@@ -1,0 +1,157 @@
+#include "app/LiveDevice.h"
+
+#include "app/AppDelegate.h"
+#include "preferences/Preferences.h"
+#include "preferences/settings.h"
+#include "support/RecordingInstrument.h"
+
+#include <QCoreApplication>
+#include <gtest/gtest.h>
+
+namespace velmora {
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+/// Also records programs, bends and the soft pedal.
+class RecordingSynthesizer : public RecordingInstrument {
+public:
+    explicit RecordingSynthesizer(Calls& calls) : RecordingInstrument(calls), calls_(calls) {}
+
+    bool hasSubMenu() const override { return true; }
+    void setInstrument(std::uint8_t program) override
+    {
+        calls_.push_back(fmt::format("program {}", program));
+    }
+    void bend(double cents) override { calls_.push_back(fmt::format("bend {:.1f}", cents)); }
+    void setSoft(bool soft) override { calls_.emplace_back(soft ? "soft" : "not soft"); }
+
+private:
+    Calls& calls_;
+};
+
+/// Two devices that play one instrument.
+class LiveDeviceTest : public testing::Test {
+protected:
+    LiveDeviceTest()
+    {
+        app_.makeBuiltinTunings();
+        app_.setInstrument(instrument_, "Recorder");
+        calls_.clear();
+    }
+
+    ~LiveDeviceTest() override
+    {
+        for (const char* key : {"PlainReading", "Transposition", "LearnedControls"})
+            resetPref(key);
+    }
+
+    /// Returns the calls that the instrument receives for the messages.
+    Calls send(const std::vector<Bytes>& messages) { return send(first_, messages); }
+    Calls send(LiveDevice& device, const std::vector<Bytes>& messages)
+    {
+        for (const Bytes& message : messages)
+            device.receive(message, 1.0);
+        return std::exchange(calls_, {});
+    }
+
+    Calls calls_;
+    RecordingSynthesizer instrument_{calls_};
+    AppDelegate app_;
+    LiveDevice first_{app_, 0}, second_{app_, 1};
+};
+
+const Calls kNothing;
+
+} // namespace
+
+TEST_F(LiveDeviceTest, ASustainPedalHoldsTheKeysOfItsChannelAndDevice)
+{
+    EXPECT_EQ(send({{0x90, 60, 127}, {0xB0, 64, 64}, {0x80, 60, 0}}), (Calls{"play 60 1.00"}));
+    EXPECT_EQ(app_.player().liveKeys().state(60), 0) << "sounds on, but is released by hand";
+    EXPECT_EQ(send({{0x91, 62, 127}, {0x81, 62, 0}}), (Calls{"play 62 1.00", "stop 62"}));
+    EXPECT_EQ(send(second_, {{0x90, 64, 127}, {0x80, 64, 0}, {0xB0, 64, 127}, {0xB0, 64, 0}}),
+              (Calls{"play 64 1.00", "stop 64"}))
+        << "another device";
+    EXPECT_EQ(send({{0x90, 60, 127}, {0xB0, 64, 63}}), (Calls{"play 60 1.00"}))
+        << "struck again and held, so the pedal stops nothing";
+    EXPECT_EQ(send({{0x80, 60, 0}}), (Calls{"stop 60"}));
+}
+
+TEST_F(LiveDeviceTest, SostenutoHoldsOnlyTheKeysThatWereDown)
+{
+    send({{0x90, 60, 127}, {0x90, 62, 127}, {0x80, 62, 0}, {0xB0, 66, 127}, {0xB0, 66, 90}});
+    EXPECT_EQ(send({{0x90, 64, 127}, {0xB0, 66, 100}, {0x80, 64, 0}, {0x80, 60, 0}}),
+              (Calls{"play 64 1.00", "stop 64"}));
+    EXPECT_EQ(send({{0xB0, 123, 0}}), kNothing) << "the pedal goes on holding";
+    EXPECT_EQ(send({{0xB0, 121, 0}}), (Calls{"stop 60"})) << "a reset lifts it";
+}
+
+TEST_F(LiveDeviceTest, WheelSoftPedalAndPanicReachTheInstrument)
+{
+    EXPECT_EQ(send({{0xB0, 67, 127}, {0xE0, 0, 0}, {0xB0, 121, 0}, {0xB0, 120, 0}}),
+              (Calls{"soft", "bend -200.0", "not soft", "bend 0.0", "silence"}));
+}
+
+TEST_F(LiveDeviceTest, ProgramsAndVolumesAreShown)
+{
+    Calls seen;
+    QObject::connect(&app_, &AppDelegate::programSelected,
+                     [&](int program) { seen.push_back(fmt::format("program {}", program)); });
+    QObject::connect(&app_, &AppDelegate::volumeMoved, [&](std::size_t slider, float volume) {
+        seen.push_back(fmt::format("slider {} {:.2f}", slider, volume));
+    });
+    app_.learning().controls().set({MidiControl::Kind::Key, 0, 60},
+                                   {LearnedAction::Kind::Volume, 3});
+    EXPECT_EQ(send({{0xC0, 5}, {0xB0, 11, 127}, {0x90, 60, 1}}),
+              (Calls{"program 5", "volume 1 1.00", "volume 3 0.00"}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(seen, (Calls{"program 5", "slider 1 1.00", "slider 3 0.00"}));
+}
+
+TEST_F(LiveDeviceTest, ThePlainReadingIsFedDirectly)
+{
+    app_.playing().setTransposition(5);
+    send({{0x90, 60, 127}, {0xB0, 64, 127}, {0xB0, 67, 127}, {0xE0, 0, 127}});
+    app_.playing().usePlainReading();
+    EXPECT_EQ(send({{0xE0, 7, 0}}), (Calls{"stop 65", "not soft", "bend 0.0", "volume 0 0.00"}))
+        << "nothing hangs, and the bend is read as a controller";
+    EXPECT_EQ(send({{0x90, 60, 127}, {0x80, 60, 0}, {0xC0, 5}, {0xF0, 7, 127}, {0xD0, 7}}),
+              (Calls{"play 60 1.00", "stop 60", "volume 0 1.00"}));
+}
+
+TEST_F(LiveDeviceTest, WhatAControlHasLearnedIsRemembered)
+{
+    using Kind = LearnedAction::Kind;
+    const MidiControl key{MidiControl::Kind::Key, 15, 36},
+        fader{MidiControl::Kind::Controller, 0, 20};
+    app_.learning().listen({Kind::Play});
+    send({{0x9F, 36, 127}});
+    app_.learning().listen({Kind::Volume, 7});
+    send({{0xB0, 20, 1}});
+    QCoreApplication::processEvents();
+    {
+        MidiLearning next;
+        EXPECT_EQ(next.getControl({Kind::Play}), key);
+        EXPECT_EQ(next.getControl({Kind::Volume, 7}), fader);
+        EXPECT_EQ(next.controls().get(key), LearnedAction{Kind::Play});
+    }
+    app_.learning().listen({Kind::Play});
+    send({{0xB0, 20, 1}});
+    QCoreApplication::processEvents();
+    EXPECT_EQ(app_.learning().controls().get(key), LearnedAction()) << "another control took over";
+    EXPECT_EQ(app_.learning().getControl({Kind::Volume, 7}), std::nullopt);
+    app_.learning().forget({Kind::Play});
+    EXPECT_EQ(send({{0x9F, 36, 127}, {0xB0, 20, 127}}), (Calls{"play 36 1.00"}));
+    EXPECT_FALSE(MidiLearning().getControl({Kind::Play}));
+
+    setPreference("LearnedControls",
+                  QStringList{"key 1 128 play 0", "controller 17 1 play 0", "key 1 1 dance 0",
+                              "controller 1 120 stop 0", "key 1 60 silence 0"});
+    const MidiLearning damaged;
+    EXPECT_FALSE(damaged.getControl({Kind::Play}) || damaged.getControl({Kind::Stop}));
+    EXPECT_TRUE(damaged.getControl({Kind::Silence}));
+}
+
+} // namespace velmora

@@ -1,0 +1,192 @@
+#include "app/LiveDevice.h"
+#include "desktop/shell/Desktop.h"
+#include "desktop/shell/SequenceWindow.h"
+#include "preferences/Preferences.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QSlider>
+#include <QSpinBox>
+#include <QToolButton>
+#include <QToolTip>
+#include <QtTest>
+#include <gmock/gmock.h>
+
+namespace velmora {
+
+using testing::HasSubstr;
+
+namespace {
+
+class MidiLearnTest : public testing::Test {
+protected:
+    MidiLearnTest()
+    {
+        desktop.launch();
+        desktop.application().waitForBank();
+        desktop.instrumentPanel().show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&desktop.instrumentPanel()));
+        slider = desktop.instrumentPanel().findChild<QSlider*>();
+    }
+
+    ~MidiLearnTest() override
+    {
+        for (const char* key :
+             {"LearnedControls", "Transposition", "VelocityCurve", "PlainReading"})
+            resetPref(key);
+    }
+
+    void send(std::vector<std::uint8_t> message)
+    {
+        device.receive(message, getTime());
+        QApplication::processEvents();
+    }
+
+    /// Chooses an entry of a widget's context menu, as with the menu key.
+    void choose(QWidget& widget, const QString& entry)
+    {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5},
+                                widget.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&widget, &event);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction* action : menu->actions())
+            if (action->text().remove('&') == entry && action->isEnabled())
+                action->trigger();
+        menu->close();
+    }
+
+    /// The box that says that Velmora waits for a controller; null if it does not wait.
+    static QMessageBox* waiting()
+    {
+        return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    }
+
+    static std::string toolTip(QWidget& widget)
+    {
+        QHelpEvent event(QEvent::ToolTip, {5, 5}, widget.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&widget, &event);
+        return QToolTip::text().toStdString();
+    }
+
+    template <class Widget> Widget& named(const char* name)
+    {
+        return *desktop.instrumentPanel().findChild<Widget*>(name);
+    }
+
+    Desktop desktop;
+    LiveDevice device{desktop.application(), 0};
+    QSlider* slider = nullptr;
+};
+
+} // namespace
+
+TEST_F(MidiLearnTest, ASliderLearnsTheNextController)
+{
+    QSlider& volume = *slider;
+    choose(volume, "Learn MIDI Controller…");
+    ASSERT_NE(waiting(), nullptr);
+    EXPECT_THAT(waiting()->text().toStdString(), HasSubstr("“Volume”"));
+    QTest::keyClick(waiting(), Qt::Key_Escape);
+    EXPECT_EQ(waiting(), nullptr);
+    send({0xB2, 21, 64});
+    EXPECT_EQ(volume.value(), 1000) << "Escape ends the waiting";
+
+    choose(volume, "Learn MIDI Controller…");
+    send({0xB2, 21, 64});
+    EXPECT_EQ(waiting(), nullptr);
+    send({0xB2, 21, 0});
+    EXPECT_EQ(volume.value(), 0);
+    EXPECT_EQ(toolTip(volume), "Volume\nMIDI controller 21, channel 3");
+    choose(volume, "Forget MIDI Controller");
+    send({0xB2, 21, 127});
+    EXPECT_EQ(volume.value(), 0);
+    EXPECT_EQ(toolTip(volume), "Volume");
+}
+
+TEST_F(MidiLearnTest, ButtonsOfTheCurrentSequenceLearnKeys)
+{
+    desktop.sequenceWindows().create();
+    auto* window = qobject_cast<SequenceWindow*>(QApplication::activeWindow());
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        window = qobject_cast<SequenceWindow*>(QApplication::activeWindow());
+        return window != nullptr;
+    }));
+    const Transport& transport = window->document().transport();
+    const auto press = [&](std::uint8_t key) {
+        send({0x90, key, 1});
+        send({0x80, key, 0});
+    };
+    std::uint8_t key = 36;
+    for (QToolButton* button : window->findChildren<QToolButton*>()) {
+        for (const char* name : {"Record", "Play", "Stop"}) {
+            if (button->text() != name && (QString("Stop") != name || button->text() != "Play"))
+                continue;
+            choose(*button, QString("Learn MIDI Controller for %1…").arg(name));
+            press(key++);
+        }
+    }
+    ASSERT_EQ(key, 39) << "Record, Play and Stop";
+    EXPECT_EQ(transport.mode(), Transport::Mode::Stopped);
+    press(36);
+    EXPECT_EQ(transport.mode(), Transport::Mode::Recording);
+    press(38);
+    EXPECT_EQ(transport.mode(), Transport::Mode::Stopped);
+    press(38);
+    press(37);
+    EXPECT_EQ(transport.mode(), Transport::Mode::Playing);
+    press(38);
+    EXPECT_EQ(transport.mode(), Transport::Mode::Stopped);
+    EXPECT_EQ(desktop.application().player().liveKeys().pressTime(36), 0.0) << "no key sounded";
+    window->closeWithoutAsking();
+}
+
+TEST_F(MidiLearnTest, SilenceEverythingLearnsAButton)
+{
+    QToolButton* silence = nullptr;
+    for (QToolButton* button : desktop.keyboardWindow().findChildren<QToolButton*>())
+        if (button->text() == "Silence Everything")
+            silence = button;
+    ASSERT_NE(silence, nullptr);
+    choose(*silence, "Learn MIDI Controller…");
+    send({0xB0, 64, 127});
+    send({0x90, 60, 127});
+    send({0xB0, 64, 0});
+    EXPECT_NE(desktop.application().player().liveKeys().state(60), 0);
+    send({0xB0, 64, 127});
+    EXPECT_EQ(desktop.application().player().liveKeys().state(60), 0);
+}
+
+TEST_F(MidiLearnTest, ThePanelAndThePreferencesShowTheSameSettings)
+{
+    auto& preferences = desktop.preferencesWindow();
+    preferences.findChild<QSpinBox*>("Transposition")->setValue(3);
+    EXPECT_EQ(named<QLabel>("Transposition").text(), "+3");
+    desktop.keyboardWindow().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
+    for (int i = 0; i < 4; ++i)
+        QTest::keyClick(&desktop.keyboardWindow(), Qt::Key_Down,
+                        Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(named<QLabel>("Transposition").text(), "−1");
+    auto& touch = named<QComboBox>("VelocityCurve");
+    touch.setFocus();
+    QTest::keyClick(&touch, Qt::Key_End);
+    preferences.show();
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return preferences.findChild<QSpinBox*>("Transposition")->value() == -1 &&
+               preferences.findChild<QComboBox*>("VelocityCurve")->currentIndex() == 3;
+    }));
+    send({0xC0, 19});
+    EXPECT_EQ(desktop.instrumentPanel().findChild<QComboBox*>()->currentText().toStdString(),
+              "20 Church Organ");
+    preferences.findChild<QAbstractButton*>("PlainReading")->click();
+    EXPECT_FALSE(touch.isEnabled()) << "the plain reading ignores the touch";
+    send({0x90, 60, 127});
+    EXPECT_NE(desktop.application().player().liveKeys().state(60), 0) << "and the transposition";
+}
+
+} // namespace velmora
