@@ -1,11 +1,14 @@
 #include "midi/MidiInputs.h"
 
 #include "base/Clock.h"
+#include "platform/JackClient.h"
+#include "support/ChildProgram.h"
 #include "support/JackServer.h"
 #include "support/MidiSource.h"
 
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <condition_variable>
 #include <functional>
 #include <mutex>
@@ -29,7 +32,8 @@ public:
     void received(std::size_t device, MidiPacket message, double time) override
     {
         const std::lock_guard lock(mutex_);
-        delays.push_back(getTime() - time);
+        times.push_back(time);
+        EXPECT_NEAR(time, getTime(), 10.0) << "seconds of that clock";
         devices.push_back(device);
         messages.emplace_back(message.begin(), message.end());
         changed_.notify_all();
@@ -45,7 +49,7 @@ public:
     std::vector<std::string> events;
     std::vector<Message> messages;
     std::vector<std::size_t> devices; ///< The device of each message.
-    std::vector<double> delays;       ///< Seconds from the time of each message to its receipt.
+    std::vector<double> times;        ///< The time of each message.
 
 private:
     void note(std::vector<std::string>& list, const std::string& text)
@@ -85,12 +89,51 @@ TEST(MidiInputs, ReceiveEveryMessageOfEverySourceInOrder)
     ASSERT_EQ(all.size(), 1002);
     for (std::size_t i = 0; i < 1000; ++i)
         ASSERT_EQ(all[2 + i][1], i % 128);
+    for (const jack_nframes_t frame : {0, 96})
+        source.send(0, {0x90, 60, 1}, frame);
+    inbox.wait(&Inbox::messages, 1004);
+    constexpr double kPeriod = 128.0 / 48000.0;
+    EXPECT_NEAR(std::fmod(inbox.times.at(1003) - inbox.times.at(1002), kPeriod), 0.002, 0.0005)
+        << "96 frames";
     for (int i = 0; i < 10; ++i) {
         source.send(0, {0x90, 60, 1});
         Inbox another;
         const MidiInputs others(another); // destroyed while messages arrive
     }
     server.reset(); // before the inputs are destroyed
+}
+
+/// Each device is another process, and so it can be killed.
+TEST(MidiInputs, FollowDevicesAndServersThatComeAndGo)
+{
+    JackServer server(JackServer::Mode::Asynchronous);
+    Inbox inbox;
+    const MidiInputs inputs(inbox);
+    std::optional<ChildProgram> keys, pads;
+    const auto start = [](const char* name) {
+        // Strikes key 60 ten times a second.
+        return std::vector<std::string>{"jack_midiseq", name, "4800", "0", "60", "2400"};
+    };
+    std::size_t events = 0;
+    for (int i = 0; i <= 10; ++i) {
+        SCOPED_TRACE(i);
+        keys.emplace(start("keys"));
+        ASSERT_EQ(inbox.wait(&Inbox::events, ++events).back(), "+keys:out");
+        keys.reset();
+        ASSERT_EQ(inbox.wait(&Inbox::events, ++events).back(), "-keys:out");
+        pads.emplace(start("pads"));
+        ASSERT_EQ(inbox.wait(&Inbox::events, ++events).back(), "+pads:out");
+        const std::size_t heard = inbox.wait(&Inbox::messages, 0).size();
+        ASSERT_GE(inbox.wait(&Inbox::messages, heard + 4).size(), heard + 4);
+        if (i == 10)
+            break;
+        server.crash();
+        ASSERT_EQ(inbox.wait(&Inbox::events, ++events).back(), "-pads:out");
+        EXPECT_THAT(inputs.names(), ElementsAre());
+        server.restart();
+        while (!JackClient::open("velmora-test")) // until the server answers
+            std::this_thread::sleep_for(10ms);
+    }
 }
 
 } // namespace velmora

@@ -21,21 +21,6 @@ namespace velmora {
 
 namespace {
 
-pid_t start(const std::string& name)
-{
-    const pid_t process = fork();
-    if (process != 0)
-        return process;
-    prctl(PR_SET_PDEATHSIG, SIGTERM); // stops the server if the test crashes
-    const int null = open("/dev/null", O_RDWR | O_CLOEXEC);
-    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
-        dup2(null, stream);
-    // In synchronous mode (-S), periods may be late on a busy machine, but no data is lost.
-    execlp("jackd", "jackd", "-S", "-r", "--no-mlock", "-n", name.c_str(), "-d", "dummy", "-r",
-           "48000", "-p", "128", static_cast<char*>(nullptr));
-    _exit(127);
-}
-
 /// Removes the semaphores that are left behind if the server stops before its clients.
 void removeSemaphores(const std::string& name)
 {
@@ -57,11 +42,11 @@ bool answers()
 
 } // namespace
 
-JackServer::JackServer() : name_("velmora-test-" + std::to_string(getpid()))
+JackServer::JackServer(Mode mode) : name_("velmora-test-" + std::to_string(getpid())), mode_(mode)
 {
     quietSoundLibraries();
     setenv("JACK_DEFAULT_SERVER", name_.c_str(), 1);
-    process_ = start(name_);
+    process_ = start();
     for (int i = 0; process_ > 0 && i < 400; ++i) {
         if (answers())
             return;
@@ -73,9 +58,35 @@ JackServer::JackServer() : name_("velmora-test-" + std::to_string(getpid()))
     throw std::runtime_error("jackd does not answer");
 }
 
+pid_t JackServer::start() const
+{
+    const pid_t process = fork();
+    if (process != 0)
+        return process;
+    prctl(PR_SET_PDEATHSIG, SIGTERM); // stops the server if the test crashes
+    const int null = open("/dev/null", O_RDWR | O_CLOEXEC);
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        dup2(null, stream);
+    execlp("jackd", "jackd", mode_ == Mode::Synchronous ? "-S" : "-r", "-r", "--no-mlock", "-n",
+           name_.c_str(), "-d", "dummy", "-r", "48000", "-p", "128", static_cast<char*>(nullptr));
+    _exit(127);
+}
+
 JackServer::~JackServer()
 {
     stop();
+}
+
+void JackServer::crash()
+{
+    kill(process_, SIGKILL);
+    waitpid(process_, nullptr, 0);
+    process_ = -1;
+}
+
+void JackServer::restart()
+{
+    process_ = start();
 }
 
 void JackServer::stop()

@@ -11,17 +11,29 @@ namespace velmora {
 /// started.
 class JackServer {
 public:
+    /// A synchronous server waits for its clients, so that no data is lost on a busy machine. But
+    /// it also waits five seconds for one that was killed.
+    enum class Mode { Synchronous, Asynchronous };
+
     /// Waits until the server answers. Throws std::runtime_error if it does not within 20 s.
-    JackServer();
+    explicit JackServer(Mode mode = Mode::Synchronous);
     ~JackServer();
 
     JackServer(const JackServer&) = delete;
     JackServer& operator=(const JackServer&) = delete;
 
+    /// Kills the server, as a crash would.
+    void crash();
+
+    /// Starts the server again after a crash, without waiting until it answers.
+    void restart();
+
 private:
+    pid_t start() const;
     void stop();
 
     std::string name_;
+    Mode mode_;
     pid_t process_ = -1;
 };
 

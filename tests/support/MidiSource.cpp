@@ -19,10 +19,10 @@ MidiSource::MidiSource(const std::string& client, const std::vector<std::string>
     jack_activate(client_.get());
 }
 
-void MidiSource::send(std::size_t port, std::vector<std::uint8_t> message)
+void MidiSource::send(std::size_t port, std::vector<std::uint8_t> message, jack_nframes_t frame)
 {
     const std::lock_guard lock(mutex_);
-    messages_.push_back({port, std::move(message)});
+    messages_.push_back({port, std::move(message), frame});
 }
 
 int MidiSource::process(jack_nframes_t frames, void* self)
@@ -33,9 +33,9 @@ int MidiSource::process(jack_nframes_t frames, void* self)
     const std::unique_lock lock(source.mutex_, std::try_to_lock);
     if (!lock)
         return 0;
-    for (const auto& [port, bytes] : source.messages_)
-        jack_midi_event_write(jack_port_get_buffer(source.ports_.at(port), frames), 0, bytes.data(),
-                              bytes.size());
+    for (const auto& [port, bytes, frame] : source.messages_)
+        jack_midi_event_write(jack_port_get_buffer(source.ports_.at(port), frames), frame,
+                              bytes.data(), bytes.size());
     source.messages_.clear();
     return 0;
 }

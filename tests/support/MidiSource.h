@@ -19,13 +19,15 @@ public:
     MidiSource(const MidiSource&) = delete;
     MidiSource& operator=(const MidiSource&) = delete;
 
-    /// Sends a message from the port with the given index in one of the next periods.
-    void send(std::size_t port, std::vector<std::uint8_t> message);
+    /// Sends a message from the port with the given index in one of the next periods, at the given
+    /// frame of the period. Of several messages, later ones must not have earlier frames.
+    void send(std::size_t port, std::vector<std::uint8_t> message, jack_nframes_t frame = 0);
 
 private:
     struct Message {
         std::size_t port;
         std::vector<std::uint8_t> bytes;
+        jack_nframes_t frame;
     };
 
     static int process(jack_nframes_t frames, void* self);
