@@ -65,7 +65,7 @@ private:
     KeyboardWindow keyboardWindow_;
     InstrumentPanel instrumentPanel_;
     InstrumentsWindow instrumentsWindow_;
-    PreferencesWindow preferencesWindow_;
+    PreferencesWindow preferencesWindow_{application_};
     ProgressWindow progressWindow_;
     GuideWindow guideWindow_;
     SequenceWindows sequenceWindows_;

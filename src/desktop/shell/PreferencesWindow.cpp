@@ -1,5 +1,6 @@
 #include "desktop/shell/PreferencesWindow.h"
 
+#include "desktop/shell/MidiPane.h"
 #include "desktop/shell/PlayingPane.h"
 #include "desktop/widgets/ColorButton.h"
 #include "desktop/widgets/NoteSpinBox.h"
@@ -44,7 +45,7 @@ QSpinBox* makePixelBox()
 
 } // namespace
 
-PreferencesWindow::PreferencesWindow()
+PreferencesWindow::PreferencesWindow(AppDelegate& application)
     : paneActions_(new QActionGroup(this)), panes_(new QStackedWidget(this))
 {
     setWindowTitle(tr("Preferences"));
@@ -59,6 +60,9 @@ PreferencesWindow::PreferencesWindow()
     addPane(tr("Pla&ying"), "keyboard", playing);
     connect(playing, &PlayingPane::changed, this, &PreferencesWindow::changed);
     readers_.emplace_back([playing] { playing->read(); });
+    auto* midi = new MidiPane(application);
+    addPane(tr("&MIDI"), "midi", midi);
+    readers_.emplace_back([midi] { midi->read(); });
     toolBar->addActions(paneActions_->actions());
     for (QAction* action : paneActions_->actions())
         toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);

@@ -12,13 +12,15 @@ class QStackedWidget;
 
 namespace velmora {
 
-/// Edits the preferences in the panes "General", "Colors" and "Playing". Each change is stored
-/// immediately.
+class AppDelegate;
+
+/// Edits the preferences in the panes "General", "Colors", "Playing" and "MIDI". Each change is
+/// stored immediately.
 class PreferencesWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    PreferencesWindow();
+    explicit PreferencesWindow(AppDelegate& application);
 
 signals:
     /// A preference has changed that affects the size or the look of the views, or how MIDI devices

@@ -59,26 +59,34 @@ void StatusLine::showDevices()
 {
     showSound();
     showOutput();
+    showMidiInputs();
+    connect(&application_, &AppDelegate::midiDevicesChanged, this, &StatusLine::showMidiInputs);
+
+    if (application_.audioOutput()->driver() == "none")
+        addNotice(tr("The General MIDI player is silent because there is no sound output. Check "
+                     "the sound card, then start Velmora again."));
+    if (!application_.keepsDisplayAwake())
+        addNotice(tr("The display may go to sleep while you play because there is no D-Bus session "
+                     "bus."));
+    if (!arePreferencesWritable())
+        addNotice(tr("Changed preferences are lost when you quit because they cannot be saved."));
+}
+
+void StatusLine::showMidiInputs()
+{
     QStringList names;
     for (const std::string& name : application_.midiInputs()->names())
         names += QString::fromStdString(name);
     inputs_->setText(names.isEmpty()     ? tr("No MIDI input")
                      : names.size() == 1 ? names.front()
                                          : tr("%1 MIDI inputs").arg(names.size()));
-    inputs_->setToolTip(names.isEmpty() ? tr("No MIDI device was found when Velmora started")
+    inputs_->setToolTip(names.isEmpty() ? tr("A MIDI device is used as soon as it is connected")
                                         : names.join("\n"));
-
-    if (application_.audioOutput()->driver() == "none")
-        addNotice(tr("The General MIDI player is silent because there is no sound output. Check "
-                     "the sound card, then start Velmora again."));
+    const QString notice = tr("There is no MIDI device. Connect one, or play with the mouse.");
     if (names.isEmpty())
-        addNotice(tr("No MIDI device was found. Connect one and start Velmora again, or play with "
-                     "the mouse."));
-    if (!application_.keepsDisplayAwake())
-        addNotice(tr("The display may go to sleep while you play because there is no D-Bus session "
-                     "bus."));
-    if (!arePreferencesWritable())
-        addNotice(tr("Changed preferences are lost when you quit because they cannot be saved."));
+        addNotice(notice);
+    else
+        removeNotice(notice);
 }
 
 void StatusLine::showOutput()

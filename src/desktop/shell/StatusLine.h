@@ -30,6 +30,7 @@ public:
 private:
     void showSound();
     void showOutput();
+    void showMidiInputs();
     void updateNotices();
     void showNotices();
 

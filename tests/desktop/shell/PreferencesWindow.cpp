@@ -1,11 +1,13 @@
 #include "desktop/shell/PreferencesWindow.h"
 
+#include "app/AppDelegate.h"
 #include "preferences/Color.h"
 #include "preferences/Preferences.h"
 #include "support/Bank.h"
 
 #include <QAbstractButton>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QSpinBox>
 #include <QTemporaryFile>
@@ -47,7 +49,8 @@ protected:
         QTest::mouseClick(window.findChild<QAbstractButton*>(button), Qt::LeftButton);
     }
 
-    PreferencesWindow window;
+    AppDelegate app;
+    PreferencesWindow window{app};
     QSignalSpy changed{&window, &PreferencesWindow::changed};
 };
 
@@ -108,6 +111,34 @@ TEST_F(PreferencesWindowTest, StoresTheChosenBank)
     click("DefaultBank");
     EXPECT_EQ(getPrefString("GMBank"), "");
     EXPECT_EQ(bankChanged.size(), 2);
+}
+
+TEST_F(PreferencesWindowTest, ListsMidiDevicesAsTheyComeAndGo)
+{
+    LiveDevices& devices = app.midiDevices();
+    const auto settings = [&] { return devices.devices().at(0).settings; };
+    const auto offset = [&] { return window.findChild<QSpinBox*>("KeyOffset Keys"); };
+    const auto settle = [] {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // of former rows
+    };
+    EXPECT_EQ(offset(), nullptr);
+    devices.arrived({0, "Keys"});
+    settle();
+    ASSERT_NE(offset(), nullptr);
+    offset()->setValue(-12);
+    window.findChild<QAbstractButton*>("IsOn Keys")->click();
+    auto* channel = window.findChild<QComboBox*>("Channel Keys");
+    channel->setCurrentIndex(3);
+    emit channel->activated(3);
+    EXPECT_EQ(settings(), (DeviceSettings{.keyOffset = -12, .channel = 3, .isOn = false}));
+    devices.departed({0, "Keys"});
+    settle();
+    EXPECT_EQ(offset()->value(), -12) << "is remembered";
+    devices.setSettings("Keys", {});
+    devices.arrived({1, "Pads"});
+    settle();
+    EXPECT_EQ(offset(), nullptr) << "has nothing to remember";
 }
 
 } // namespace velmora
