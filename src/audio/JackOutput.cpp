@@ -4,6 +4,7 @@
 #include "base/Clock.h"
 #include "base/Log.h"
 #include "platform/JackClient.h"
+#include "platform/Uncancelled.h"
 
 #include <algorithm>
 #include <array>
@@ -38,6 +39,7 @@ struct JackPlayback : Playback {
 
 int processPeriod(jack_nframes_t frames, void* data)
 {
+    const Uncancelled uncancelled;
     auto& playback = *static_cast<JackPlayback*>(data);
     const auto buffer = [&](std::size_t port) {
         return static_cast<float*>(jack_port_get_buffer(playback.ports[port], frames));
@@ -47,7 +49,7 @@ int processPeriod(jack_nframes_t frames, void* data)
     jack_time_t next = 0;
     float microseconds = 0.0F;
     double sinceStart = 0.0;
-    // JACK's clock is not `getTime`'s, and they drift apart.
+    // JACK's clock is not that of `getTime`, and they drift apart.
     if (jack_get_cycle_times(playback.client, &firstFrame, &start, &next, &microseconds) == 0)
         sinceStart = static_cast<double>(static_cast<std::int64_t>(jack_get_time() - start));
     playback.render(buffer(0), buffer(1), frames, getTime() - sinceStart * kMicrosecond);
