@@ -50,11 +50,13 @@ AppDelegate::AppDelegate()
 
 AppDelegate::~AppDelegate() = default;
 
-void AppDelegate::start(const OutputSettings& output)
+void AppDelegate::start()
 {
     quietSoundLibraries();
     setUpOpenAL();
-    keepPlaying(output);
+    output_ = AudioOutput::open({});
+    engine_.setRate(output_->rate());
+    output_->start(engine_);
     inputs_ = std::make_unique<MidiInputs>(devices_);
     makeBuiltinTunings();
     makeMIDIPlayer(std::make_unique<SilentDevice>());
@@ -64,17 +66,6 @@ void AppDelegate::start(const OutputSettings& output)
         if (userIsActive_.exchange(false))
             displayWake_.userActivity();
     });
-}
-
-void AppDelegate::keepPlaying(const OutputSettings& output)
-{
-    engine_.setVolume(preferredVolume());
-    const auto prepare = [this](double rate) {
-        silenceAll(); // a note that was held when the sound was lost would go on
-        engine_.setRate(rate);
-    };
-    output_ = std::make_unique<OutputKeeper>(
-        engine_, output, OutputKeeper::Callbacks{prepare, [this] { emit outputChanged(); }});
 }
 
 void AppDelegate::makeBuiltinTunings()

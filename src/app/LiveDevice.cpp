@@ -98,6 +98,8 @@ void LiveDevice::toggleVolume(std::size_t slider)
 
 void LiveDevice::perform(LearnedAction::Kind action)
 {
+    if (action == LearnedAction::Kind::Silence)
+        application_.silenceAll(); // does not wait for the main thread
     application_.post({.kind = InputEvent::Kind::Action, .action = action});
 }
 

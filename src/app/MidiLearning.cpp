@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace velmora {
 
@@ -79,12 +80,16 @@ std::optional<MidiControl> MidiLearning::getControl(LearnedAction action) const
 
 void MidiLearning::listen(LearnedAction action)
 {
+    cancel();
+    isWaiting_ = true;
     controls_.listen(action);
 }
 
 void MidiLearning::cancel()
 {
     controls_.listen({});
+    if (std::exchange(isWaiting_, false))
+        emit ended();
 }
 
 void MidiLearning::forget(LearnedAction action)
@@ -104,7 +109,7 @@ void MidiLearning::keep(MidiControl control)
                   [&](const Binding& one) { return one.first == control || one.second == action; });
     bindings_.emplace_back(control, action);
     save();
-    emit ended();
+    cancel();
 }
 
 void MidiLearning::save() const

@@ -25,8 +25,8 @@ public:
     /// The control that has learned an action.
     std::optional<MidiControl> getControl(LearnedAction action) const;
 
-    /// Waits until a control is used and lets it learn an action; `ended` follows. The action's
-    /// former control then forgets it.
+    /// Waits until a control is used and lets it learn an action, instead of the one that has been
+    /// waiting. The action's former control then forgets it.
     void listen(LearnedAction action);
 
     /// Ends the waiting without learning anything.
@@ -39,7 +39,7 @@ public:
     void keep(MidiControl control);
 
 signals:
-    /// A control has learned the action that waited for one.
+    /// The waiting has ended: a control has learned the action, or it was cancelled.
     void ended();
 
 private:
@@ -47,6 +47,7 @@ private:
 
     void save() const;
 
+    bool isWaiting_ = false;
     LearnedControls controls_;
     std::vector<Binding> bindings_;
 };

@@ -71,7 +71,7 @@ private:
         return (kind * midi::kChannels + control.channel) * kNumbers + control.number;
     }
 
-    std::array<std::atomic<LearnedAction>, 2 * midi::kChannels * kNumbers> actions_{};
+    std::array<std::atomic<LearnedAction>, kNumbers * midi::kChannels * 2> actions_{};
     std::atomic<LearnedAction> awaited_{};
     static_assert(std::atomic<LearnedAction>::is_always_lock_free);
 };

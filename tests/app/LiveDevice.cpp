@@ -1,9 +1,15 @@
 #include "app/LiveDevice.h"
 
 #include "app/AppDelegate.h"
+#include "audio/Synthesizer.h"
 #include "preferences/Preferences.h"
 #include "preferences/settings.h"
+#include "sound/ALInstrument.h"
+#include "support/Bank.h"
+#include "support/Pitch.h"
 #include "support/RecordingInstrument.h"
+#include "support/Sine.h"
+#include "support/Stereo.h"
 
 #include <QCoreApplication>
 #include <gtest/gtest.h>
@@ -62,8 +68,6 @@ protected:
     LiveDevice first_{app_, 0}, second_{app_, 1};
 };
 
-const Calls kNothing;
-
 } // namespace
 
 TEST_F(LiveDeviceTest, ASustainPedalHoldsTheKeysOfItsChannelAndDevice)
@@ -84,14 +88,39 @@ TEST_F(LiveDeviceTest, SostenutoHoldsOnlyTheKeysThatWereDown)
     send({{0x90, 60, 127}, {0x90, 62, 127}, {0x80, 62, 0}, {0xB0, 66, 127}, {0xB0, 66, 90}});
     EXPECT_EQ(send({{0x90, 64, 127}, {0xB0, 66, 100}, {0x80, 64, 0}, {0x80, 60, 0}}),
               (Calls{"play 64 1.00", "stop 64"}));
-    EXPECT_EQ(send({{0xB0, 123, 0}}), kNothing) << "the pedal goes on holding";
-    EXPECT_EQ(send({{0xB0, 121, 0}}), (Calls{"stop 60"})) << "a reset lifts it";
+    EXPECT_EQ(send({{0xB0, 123, 0}}), Calls()) << "the pedal goes on holding";
+    EXPECT_EQ(send({{0xB0, 121, 0}, {0xB0, 120, 0}}), (Calls{"stop 60", "silence"}))
+        << "a reset lifts it";
 }
 
-TEST_F(LiveDeviceTest, WheelSoftPedalAndPanicReachTheInstrument)
+TEST_F(LiveDeviceTest, TheWheelBendsBothKindsOfInstrumentByItsRange)
 {
-    EXPECT_EQ(send({{0xB0, 67, 127}, {0xE0, 0, 0}, {0xB0, 121, 0}, {0xB0, 120, 0}}),
-              (Calls{"soft", "bend -200.0", "not soft", "bend 0.0", "silence"}));
+    constexpr std::size_t kRate = 48000;
+    constexpr int kKey = 69; // 440 Hz
+    MIDIInstrument ocarina(std::make_unique<Synthesizer>(kRate, std::vector{kBank}));
+    ocarina.setInstrument(kSteadyProgram);
+    ALInstrument organ;
+    auto& sound = organ.sounds["a"] = std::make_unique<Sound>(organ.renderer(), sine(440.0, 20.0));
+    InstrumentStop& stop = organ.appendStop("");
+    stop.volume = 0.5F;
+    stop.samples[kKey].setBuffer(*sound, equal.getPitch(kKey));
+    for (Instrument* instrument : std::initializer_list<Instrument*>{&ocarina, &organ}) {
+        app_.setInstrument(*instrument, "");
+        send({{0x90, kKey, 127}});
+        const auto centsAt = [&](std::uint8_t low, std::uint8_t high, double expected) {
+            send({{0xE0, low, high}});
+            rendered(*instrument->source(), kRate / 2);
+            const auto heard = rendered(*instrument->source(), kRate).left;
+            return cents(measuredHertz(heard, kRate, 440.0 * std::exp2(expected / 1200.0)), 440.0);
+        };
+        const double centre = centsAt(0, 64, 0.0);
+        EXPECT_NEAR(centsAt(127, 127, 200.0) - centre, 200.0, 1.0);
+        EXPECT_NEAR(centsAt(0, 0, -200.0) - centre, -200.0, 1.0);
+        EXPECT_NEAR(centsAt(0, 64, 0.0), centre, 0.1);
+    }
+    app_.setInstrument(instrument_, "Recorder");
+    app_.player().remove(ocarina);
+    app_.player().remove(organ);
 }
 
 TEST_F(LiveDeviceTest, ProgramsAndVolumesAreShown)
@@ -131,12 +160,10 @@ TEST_F(LiveDeviceTest, WhatAControlHasLearnedIsRemembered)
     app_.learning().listen({Kind::Volume, 7});
     send({{0xB0, 20, 1}});
     QCoreApplication::processEvents();
-    {
-        MidiLearning next;
-        EXPECT_EQ(next.getControl({Kind::Play}), key);
-        EXPECT_EQ(next.getControl({Kind::Volume, 7}), fader);
-        EXPECT_EQ(next.controls().get(key), LearnedAction{Kind::Play});
-    }
+    MidiLearning next;
+    EXPECT_EQ(next.getControl({Kind::Play}), key);
+    EXPECT_EQ(next.getControl({Kind::Volume, 7}), fader);
+    EXPECT_EQ(next.controls().get(key), LearnedAction{Kind::Play});
     app_.learning().listen({Kind::Play});
     send({{0xB0, 20, 1}});
     QCoreApplication::processEvents();

@@ -75,6 +75,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     column->addWidget(usage_);
     column->addWidget(tunings_);
     column->addWidget(new PlayingControls(application_.playing()));
+    column->addStretch();
     for (QComboBox* menu : {programs_, tunings_})
         menu->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 

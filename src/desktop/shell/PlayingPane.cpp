@@ -16,7 +16,7 @@ PlayingPane::PlayingPane()
           "Transposition", tr("How much higher than written the keys of MIDI devices sound"))),
       bendRange_(makeSemitones("BendRange", tr("How far the pitch wheel bends up and down; with 0 "
                                                "it does nothing"))),
-      plain_(new QCheckBox(tr("Pl&ain reading of MIDI")))
+      plain_(new QCheckBox(tr("Pl&ain reading of MIDI devices")))
 {
     // In the order of `VelocityCurve`.
     touch_->addItems({tr("Linear: as the keyboard sends it"), tr("Soft: a light touch is louder"),
@@ -27,6 +27,7 @@ PlayingPane::PlayingPane()
         setPrefInt("VelocityCurve", index);
         emit changed();
     });
+    bendRange_->setPrefix("±");
     plain_->setObjectName("PlainReading");
     plain_->setToolTip(tr("Only notes and volumes count: no pedals, wheels, programs and learned "
                           "controllers, no touch and no transposition"));
@@ -38,8 +39,8 @@ PlayingPane::PlayingPane()
 
     auto* form = new QFormLayout(this);
     form->addRow(tr("&Touch:"), touch_);
-    form->addRow(tr("T&ransposition:"), transposition_);
-    form->addRow(tr("Pitch &wheel:"), bendRange_);
+    form->addRow(tr("T&ransposition (semitones):"), transposition_);
+    form->addRow(tr("Pitch &wheel (semitones):"), bendRange_);
     form->addRow(QString(), plain_);
 }
 
@@ -48,7 +49,6 @@ QSpinBox* PlayingPane::makeSemitones(const char* key, const QString& help)
     auto* box = new QSpinBox;
     const PrefRange range = prefRange(key);
     box->setRange(range.least, range.greatest);
-    box->setSuffix(tr(" semitones"));
     box->setObjectName(key);
     box->setToolTip(help);
     box->setKeyboardTracking(false); // store only complete numbers

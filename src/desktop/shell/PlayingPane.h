@@ -8,7 +8,7 @@ class QSpinBox;
 
 namespace velmora {
 
-/// The pane of the preferences that says how MIDI devices are played. Each change is stored
+/// The part of the preferences that says how MIDI devices are played. Each change is stored
 /// immediately.
 class PlayingPane : public QWidget {
     Q_OBJECT

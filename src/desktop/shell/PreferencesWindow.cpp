@@ -56,13 +56,7 @@ PreferencesWindow::PreferencesWindow(AppDelegate& application)
     toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     addPane(tr("&General"), "preferences-general", makeGeneralPane());
     addPane(tr("C&olors"), "preferences-colors", makeColorsPane());
-    auto* playing = new PlayingPane;
-    addPane(tr("Pla&ying"), "keyboard", playing);
-    connect(playing, &PlayingPane::changed, this, &PreferencesWindow::changed);
-    readers_.emplace_back([playing] { playing->read(); });
-    auto* midi = new MidiPane(application);
-    addPane(tr("&MIDI"), "midi", midi);
-    readers_.emplace_back([midi] { midi->read(); });
+    addPane(tr("&MIDI"), "midi", makeMidiPane(application));
     toolBar->addActions(paneActions_->actions());
     for (QAction* action : paneActions_->actions())
         toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
@@ -105,6 +99,22 @@ QWidget* PreferencesWindow::makeGeneralPane()
     });
     form->addRow(QString(), names);
     form->addRow(tr("General MIDI bank:"), makeBankRow());
+    return pane;
+}
+
+QWidget* PreferencesWindow::makeMidiPane(AppDelegate& application)
+{
+    auto* devices = new MidiPane(application);
+    readers_.emplace_back([devices] { devices->read(); });
+    auto* playing = new PlayingPane;
+    readers_.emplace_back([playing] { playing->read(); });
+    connect(playing, &PlayingPane::changed, this, &PreferencesWindow::changed);
+
+    auto* pane = new QWidget;
+    auto* layout = new QVBoxLayout(pane);
+    layout->setContentsMargins({});
+    layout->addWidget(devices, 1);
+    layout->addWidget(playing);
     return pane;
 }
 

@@ -14,7 +14,7 @@ namespace velmora {
 
 class AppDelegate;
 
-/// Edits the preferences in the panes "General", "Colors", "Playing" and "MIDI". Each change is
+/// Edits the preferences in the panes "General", "Colors" and "MIDI". Each change is
 /// stored immediately.
 class PreferencesWindow : public QMainWindow {
     Q_OBJECT
@@ -36,6 +36,7 @@ protected:
 private:
     QWidget* makeGeneralPane();
     QWidget* makeColorsPane();
+    QWidget* makeMidiPane(AppDelegate& application);
     void addPane(const QString& name, const char* iconName, QWidget* pane);
     void addNumber(QFormLayout& form, const QString& label, const char* key, QSpinBox* box,
                    const QString& help);

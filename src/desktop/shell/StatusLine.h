@@ -38,7 +38,6 @@ private:
     QLabel *instrument_, *tuning_, *output_, *inputs_;
     QToolButton* noticesButton_;
     QStringList notices_;
-    QString missingOutput_; ///< The notice about the output; empty if none is missing.
 };
 
 } // namespace velmora

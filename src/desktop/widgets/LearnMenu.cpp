@@ -70,6 +70,7 @@ void LearnMenu::addTo(QMenu& menu, const Learnable& learnable)
 void LearnMenu::learn(const Learnable& learnable)
 {
     MidiLearning& learning = application_.learning();
+    learning.listen(learnable.action);
     auto* box = new QMessageBox(
         QMessageBox::NoIcon, tr("Learn MIDI Controller"),
         tr("Waiting for a MIDI controller for “%1”.\nMove a controller, or press a button or a "
@@ -80,7 +81,6 @@ void LearnMenu::learn(const Learnable& learnable)
     connect(box, &QDialog::finished, &learning, &MidiLearning::cancel);
     connect(&learning, &MidiLearning::ended, box, &QDialog::close);
     box->open();
-    learning.listen(learnable.action);
 }
 
 QString LearnMenu::nameOf(const Learnable& learnable) const

@@ -1,14 +1,15 @@
 #include "desktop/instruments/InstrumentPanel.h"
 
 #include "app/AppDelegate.h"
+#include "app/LiveDevice.h"
 #include "midi/messages.h"
-#include "midi/midiRead.h"
 #include "sound/ALInstrument.h"
 
 #include <QCoreApplication>
 #include <QSlider>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <atomic>
 #include <thread>
 
@@ -24,11 +25,11 @@ TEST(InstrumentPanel, ShowsVolumesWhileAMidiThreadSetsThem)
     InstrumentPanel panel(application);
     application.setInstrument(organ, "Organ");
 
-    const auto send = [&application](std::uint8_t volume) {
-        const std::uint8_t bytes[] = {midi::kControlChange, midi::kChannelVolume, volume,
-                                      midi::kControlChange, midi::kExpression,    64};
-        const MidiPacket packet = bytes;
-        midiRead({&packet, 1}, application);
+    LiveDevice keyboard(application, 0);
+    const auto send = [&keyboard](std::uint8_t volume) {
+        for (const auto& [number, value] :
+             {std::pair(midi::kChannelVolume, volume), {midi::kExpression, std::uint8_t{64}}})
+            keyboard.receive(std::array{midi::kControlChange, number, value}, 0.0);
     };
     std::atomic<bool> isDone{false};
     std::thread device([&] {
