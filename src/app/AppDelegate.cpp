@@ -50,13 +50,11 @@ AppDelegate::AppDelegate()
 
 AppDelegate::~AppDelegate() = default;
 
-void AppDelegate::start()
+void AppDelegate::start(const OutputSettings& output)
 {
     quietSoundLibraries();
     setUpOpenAL();
-    output_ = AudioOutput::open({});
-    engine_.setRate(output_->rate());
-    output_->start(engine_);
+    keepPlaying(output);
     inputs_ = std::make_unique<MidiInputs>(devices_);
     makeBuiltinTunings();
     makeMIDIPlayer(std::make_unique<SilentDevice>());
@@ -66,6 +64,17 @@ void AppDelegate::start()
         if (userIsActive_.exchange(false))
             displayWake_.userActivity();
     });
+}
+
+void AppDelegate::keepPlaying(const OutputSettings& output)
+{
+    engine_.setVolume(preferredVolume());
+    const auto prepare = [this](double rate) {
+        silenceAll(); // a note that was held when the sound was lost would go on
+        engine_.setRate(rate);
+    };
+    output_ = std::make_unique<OutputKeeper>(
+        engine_, output, OutputKeeper::Callbacks{prepare, [this] { emit outputChanged(); }});
 }
 
 void AppDelegate::makeBuiltinTunings()

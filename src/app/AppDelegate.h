@@ -5,8 +5,9 @@
 #include "app/MidiLearning.h"
 #include "app/Player.h"
 #include "app/PlayingOptions.h"
+#include "app/preferredOutput.h"
 #include "audio/AudioEngine.h"
-#include "audio/AudioOutput.h"
+#include "audio/OutputKeeper.h"
 #include "import/InstrumentDocument.h"
 #include "import/InstrumentHost.h"
 #include "midi/MidiInputs.h"
@@ -44,10 +45,10 @@ public:
     AppDelegate();
     ~AppDelegate() override;
 
-    /// Starts live playing: opens the sound outputs, connects the MIDI inputs, creates the built-in
+    /// Starts live playing: plays through `output`, connects the MIDI inputs, creates the built-in
     /// tunings and the General MIDI player, and starts the fade timer. Anything that the machine
     /// lacks is logged, and the rest works without it. Needs a QCoreApplication.
-    void start();
+    void start(const OutputSettings& output = preferredOutput());
 
     /// Creates the tunings "Equal", which becomes the current one, and "Quartercomma Meantone".
     /// Call this before adding any instrument.
@@ -158,7 +159,7 @@ public:
     void cancelImport() { isCancelled_ = true; }
 
     /// The sound output; null before `start`.
-    const AudioOutput* audioOutput() const { return output_.get(); }
+    OutputKeeper* output() { return output_.get(); }
 
     /// The MIDI inputs; null before `start`.
     const MidiInputs* midiInputs() const { return inputs_.get(); }
@@ -176,6 +177,9 @@ public:
     bool keepsDisplayAwake() const { return displayWake_.isConnected(); }
 
 signals:
+    /// Another sound output plays, or another one is missing.
+    void outputChanged();
+
     /// The held keys have changed. Emitted on the main thread, after the keys have sounded.
     void midiInputReceived();
 
@@ -217,6 +221,7 @@ signals:
     void progressed(unsigned steps, const std::string& text);
 
 private:
+    void keepPlaying(const OutputSettings& output);
     void takeSynthesizer();
     void playThrough(std::unique_ptr<Synthesizer> synthesizer);
     void handle(const InputEvent& event);
@@ -243,7 +248,7 @@ private:
     std::atomic<bool> userIsActive_{false};
 
     // Declared last: their threads use the members above.
-    std::unique_ptr<AudioOutput> output_;
+    std::unique_ptr<OutputKeeper> output_;
     std::unique_ptr<MidiInputs> inputs_;
     std::unique_ptr<IntervalTimer> fadeTimer_;
     std::future<std::unique_ptr<Synthesizer>> loading_;

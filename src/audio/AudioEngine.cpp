@@ -36,6 +36,7 @@ AudioEngine::AudioEngine(double rate) : rate_(rate), limiter_(rate), limiterDela
 
 void AudioEngine::setRate(double rate)
 {
+    const std::lock_guard lock(changing_);
     rate_ = rate;
     limiter_ = PeakLimiter(rate);
     limiterDelay_ = limiter_.delay();
@@ -46,6 +47,7 @@ void AudioEngine::setRate(double rate)
 
 void AudioEngine::add(AudioSource& source)
 {
+    const std::lock_guard lock(changing_);
     source.setRate(rate_);
     for (auto& slot : sources_) {
         AudioSource* free = nullptr;
@@ -57,6 +59,7 @@ void AudioEngine::add(AudioSource& source)
 
 void AudioEngine::remove(AudioSource& source)
 {
+    const std::lock_guard lock(changing_);
     for (auto& slot : sources_) {
         AudioSource* playing = &source;
         slot.compare_exchange_strong(playing, nullptr);

@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <mutex>
 #include <vector>
 
 namespace velmora {
@@ -68,6 +69,7 @@ private:
     void finish(float* left, float* right, std::size_t frames);
     void measure(double seconds, std::size_t frames);
 
+    std::mutex changing_; ///< Held while the rate or the sources change; never by the audio thread.
     std::atomic<double> rate_;
     PeakLimiter limiter_;
     std::atomic<std::size_t> limiterDelay_; ///< In frames.

@@ -1,9 +1,10 @@
 #include "audio/JackOutput.h"
 
 #include "audio/Playback.h"
-#include "base/Clock.h"
 #include "base/Log.h"
 #include "platform/JackClient.h"
+#include "platform/Uncancelled.h"
+#include "platform/jackTime.h"
 
 #include <algorithm>
 #include <array>
@@ -12,8 +13,6 @@
 namespace velmora {
 
 namespace {
-
-constexpr double kMicrosecond = 1e-6;
 
 /// Returns the audio input ports of a client, or the physical ones of all clients.
 std::vector<std::string> playbackPorts(jack_client_t* jack, const std::string& client = {})
@@ -38,19 +37,12 @@ struct JackPlayback : Playback {
 
 int processPeriod(jack_nframes_t frames, void* data)
 {
+    const Uncancelled uncancelled;
     auto& playback = *static_cast<JackPlayback*>(data);
     const auto buffer = [&](std::size_t port) {
         return static_cast<float*>(jack_port_get_buffer(playback.ports[port], frames));
     };
-    jack_nframes_t firstFrame = 0;
-    jack_time_t start = 0;
-    jack_time_t next = 0;
-    float microseconds = 0.0F;
-    double sinceStart = 0.0;
-    // JACK's clock is not `getTime`'s, and they drift apart.
-    if (jack_get_cycle_times(playback.client, &firstFrame, &start, &next, &microseconds) == 0)
-        sinceStart = static_cast<double>(static_cast<std::int64_t>(jack_get_time() - start));
-    playback.render(buffer(0), buffer(1), frames, getTime() - sinceStart * kMicrosecond);
+    playback.render(buffer(0), buffer(1), frames, jackPeriodStart(playback.client));
     return 0;
 }
 

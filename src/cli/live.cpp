@@ -37,10 +37,10 @@ void live(const Selection& selection, bool plain)
     select(selection, application);
 
     Names names = application.midiInputs()->names();
-    const AudioOutput* output = application.audioOutput();
+    const std::string output = application.output()->waitForOutput().driver;
     fmt::print("Playing in {} from {} on {}. Press Ctrl-C to stop.\n", selection.tuning,
                names.empty() ? "no MIDI input" : fmt::format("{}", fmt::join(names, ", ")),
-               output->driver() == "none" ? "no sound output" : output->driver());
+               output == "none" ? "no sound output" : output);
     std::fflush(stdout);
     QObject::connect(&application, &AppDelegate::midiDevicesChanged, &application, [&] {
         const Names before = std::exchange(names, application.midiInputs()->names());

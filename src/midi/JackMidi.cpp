@@ -1,9 +1,9 @@
 #include "midi/JackMidi.h"
 
-#include "base/Clock.h"
 #include "midi/messages.h"
 #include "platform/JackClient.h"
 #include "platform/Uncancelled.h"
+#include "platform/jackTime.h"
 
 #include <jack/midiport.h>
 #include <sys/eventfd.h>
@@ -24,8 +24,6 @@ namespace {
 
 /// The clients that show the devices of the ALSA sequencer on JACK.
 constexpr std::array<std::string_view, 2> kBridges{"a2j:", "Midi-Bridge:"};
-
-constexpr double kSecondsPerMicrosecond = 1e-6;
 
 /// What the process callback of a connection works with.
 struct JackInput {
@@ -59,23 +57,16 @@ void JackInput::read(jack_nframes_t frames)
     const std::uint32_t count = jack_midi_get_event_count(buffer);
     if (count == 0)
         return;
-    jack_nframes_t firstFrame = 0;
-    jack_time_t begin = 0, end = 0;
-    float period = 0.0F;
-    double sinceBegin = 0.0;
-    // JACK's clock is not that of `getTime`, and they drift apart. See docs/decisions.md, 137.
-    if (jack_get_cycle_times(client, &firstFrame, &begin, &end, &period) == 0)
-        sinceBegin = static_cast<double>(static_cast<std::int64_t>(jack_get_time() - begin));
-    const double start = getTime() - sinceBegin * kSecondsPerMicrosecond;
-    const double secondsPerFrame =
-        static_cast<double>(end - begin) * kSecondsPerMicrosecond / frames;
+    // See docs/decisions.md, 137.
+    const double start = jackPeriodStart(client);
+    const double rate = jack_get_sample_rate(client);
     for (std::uint32_t i = 0; i < count; ++i) {
         jack_midi_event_t event{};
         if (jack_midi_event_get(&event, buffer, i) != 0)
             continue;
         const MidiPacket message(event.buffer, event.size);
         if (isWanted(message))
-            receiver->received(device, message, start + event.time * secondsPerFrame);
+            receiver->received(device, message, start + event.time / rate);
     }
 }
 

@@ -37,6 +37,12 @@ PrefRange prefRange(const std::string& key)
         return {-24, 24};
     if (key == "BendRange")
         return {0, 12};
+    if (key == "OutputRate")
+        return {0, 192'000};
+    if (key == "OutputPeriod")
+        return {0, 8192};
+    if (key == "MasterVolume")
+        return {0, 100};
     return {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()};
 }
 

@@ -11,7 +11,8 @@ namespace velmora {
 /// "KeyWidth", the width of a semitone in pixels; "KeyHeight", the height of a step in the piano
 /// roll in pixels; "KeyRangeLo" and "KeyRangeHi", the lowest and highest MIDI key shown, at least
 /// one apart; "VelocityCurve", a `VelocityCurve`; "Transposition" and "BendRange", the
-/// transposition of MIDI devices and the range of their pitch wheels in semitones.
+/// transposition of MIDI devices and the range of their pitch wheels in semitones; "OutputRate" in
+/// hertz and "OutputPeriod" in frames, 0 for automatic; "MasterVolume" in percent.
 int getPrefInt(const std::string& key);
 void setPrefInt(const std::string& key, int value);
 
@@ -30,7 +31,8 @@ bool getPrefBool(const std::string& key);
 void setPrefBool(const std::string& key, bool value);
 
 /// Returns a text preference: "GMBank" is the path of the SoundFont for the General MIDI
-/// synthesizer, empty if the user has not chosen one.
+/// synthesizer, "Output" the name of an audio driver and "OutputDevice" that of one of its devices;
+/// each is empty if the user has not chosen one.
 std::string getPrefString(const std::string& key);
 void setPrefString(const std::string& key, const std::string& value);
 

@@ -35,6 +35,11 @@ const QVariantMap& defaults()
         {"VelocityCurve", 0}, // linear
         {"Transposition", 0},
         {"BendRange", 2},
+        {"Output", ""},
+        {"OutputDevice", ""},
+        {"OutputRate", 0},
+        {"OutputPeriod", 0},
+        {"MasterVolume", 100},
     };
     return values;
 }

@@ -4,6 +4,7 @@
 #include "audio/Synthesizer.h"
 #include "midi/messages.h"
 #include "support/Bank.h"
+#include "support/JackListener.h"
 #include "support/JackServer.h"
 #include "support/MidiSource.h"
 #include "support/Pitch.h"
@@ -20,58 +21,6 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t kRate = 48000;
-
-bool waitUntil(const std::function<bool()>& condition)
-{
-    for (int i = 0; i < 20'000; ++i) {
-        if (condition())
-            return true;
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-    return false;
-}
-
-/// A JACK client that records the program's left output. Waits until the program has opened it.
-class Listener {
-public:
-    Listener()
-    {
-        const auto process = [](jack_nframes_t frames, void* self) {
-            static_cast<Listener*>(self)->copyFromJack(frames);
-            return 0;
-        };
-        jack_set_process_callback(client_.get(), process, this);
-        jack_activate(client_.get());
-        EXPECT_TRUE(waitUntil(
-            [this] { return jack_connect(client_.get(), "velmora:left", "listener:in") == 0; }));
-    }
-
-    /// Records the next frames.
-    std::vector<float> listen(std::size_t frames)
-    {
-        sound_.assign(frames, 0.0F);
-        missing_ = frames;
-        EXPECT_TRUE(waitUntil([this] { return missing_ == 0; }));
-        return sound_;
-    }
-
-private:
-    void copyFromJack(jack_nframes_t frames)
-    {
-        const std::size_t missing = missing_, count = std::min<std::size_t>(frames, missing);
-        const auto* heard = static_cast<const float*>(jack_port_get_buffer(port_, frames));
-        if (count > 0)
-            std::copy_n(heard, count, &sound_[sound_.size() - missing]);
-        missing_ -= count;
-    }
-
-    std::vector<float> sound_; ///< Belongs to the callback while frames are missing.
-    std::atomic<std::size_t> missing_{0};
-    std::unique_ptr<jack_client_t, int (*)(jack_client_t*)> client_{
-        jack_client_open("listener", JackNoStartServer, nullptr), jack_client_close};
-    jack_port_t* port_ =
-        jack_port_register(client_.get(), "in", JACK_DEFAULT_AUDIO_TYPE, JackPortIsInput, 0);
-};
 
 /// Counts the periods from the arrival of a message to the first audible frame.
 class LatencyProbe : public AudioSource {
@@ -154,7 +103,7 @@ TEST(LivePath, TheProgramPlaysInTuneUntilItIsInterrupted)
     const std::string line = velmora.readAllStandardOutput().toStdString();
     if (line.find("keyboard:out on jack") == std::string::npos)
         GTEST_SKIP() << "this machine has other devices: " << line;
-    Listener listener;
+    JackListener listener;
     source.send(0, {midi::kNoteOn, 64, 100});
     listener.listen(kRate);                                        // the attack
     const double hertz = 329.6276 * std::exp2(-13.68629 / 1200.0); // the pure third of C

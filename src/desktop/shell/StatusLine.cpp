@@ -1,6 +1,7 @@
 #include "desktop/shell/StatusLine.h"
 
 #include "app/AppDelegate.h"
+#include "audio/outputDrivers.h"
 #include "desktop/widgets/icons.h"
 #include "preferences/settings.h"
 
@@ -14,14 +15,13 @@ namespace {
 
 constexpr int kPartMargin = 6;
 
-QString describe(const AudioOutput& output)
+QString describe(const OutputStatus& output)
 {
-    const double rate = output.rate();
-    const auto period = static_cast<double>(output.period());
+    const auto period = static_cast<double>(output.period);
     return StatusLine::tr("%1, %2 kHz, %3 ms")
-        .arg(QString::fromStdString(output.driver()).toUpper())
-        .arg(rate / 1000.0, 0, 'g', 4)
-        .arg(1000.0 * period / rate, 0, 'f', 1);
+        .arg(QString::fromStdString(driverTitle(output.driver)))
+        .arg(output.rate / 1000.0, 0, 'g', 4)
+        .arg(1000.0 * period / output.rate, 0, 'f', 1);
 }
 
 } // namespace
@@ -47,6 +47,7 @@ StatusLine::StatusLine(AppDelegate& application)
     }
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::tuningChanged, this, &StatusLine::showSound);
+    connect(&application_, &AppDelegate::outputChanged, this, &StatusLine::showOutput);
 }
 
 void StatusLine::showSound()
@@ -62,9 +63,6 @@ void StatusLine::showDevices()
     showMidiInputs();
     connect(&application_, &AppDelegate::midiDevicesChanged, this, &StatusLine::showMidiInputs);
 
-    if (application_.audioOutput()->driver() == "none")
-        addNotice(tr("The General MIDI player is silent because there is no sound output. Check "
-                     "the sound card, then start Velmora again."));
     if (!application_.keepsDisplayAwake())
         addNotice(tr("The display may go to sleep while you play because there is no D-Bus session "
                      "bus."));
@@ -91,8 +89,17 @@ void StatusLine::showMidiInputs()
 
 void StatusLine::showOutput()
 {
-    const AudioOutput* output = application_.audioOutput();
-    output_->setText(output->driver() == "none" ? tr("No sound output") : describe(*output));
+    const OutputStatus output = application_.output()->status();
+    if (output.driver.empty())
+        return; // the next one is about to play
+    removeNotice(missingOutput_);
+    missingOutput_ = QString::fromStdString(output.missing);
+    if (!missingOutput_.isEmpty()) {
+        output_->setText(missingOutput_);
+        addNotice(missingOutput_);
+    } else {
+        output_->setText(output.driver == "none" ? tr("No sound output") : describe(output));
+    }
 }
 
 void StatusLine::addNotice(const QString& notice)

@@ -38,6 +38,7 @@ private:
     QLabel *instrument_, *tuning_, *output_, *inputs_;
     QToolButton* noticesButton_;
     QStringList notices_;
+    QString missingOutput_; ///< The notice about the output; empty if none is missing.
 };
 
 } // namespace velmora
