@@ -25,19 +25,31 @@ const double kDecayPerSecond = 60.0 * std::log(0.9);
 /// What ends at once fades this long, so that it does not click.
 constexpr double kEndSeconds = 0.005;
 
-/// The longest step of a decay. OpenAL changes a gain evenly over the frames that it renders.
-constexpr std::size_t kStep = 128;
+/// The steps of a decay in a second, and the frames of a step at low rates. OpenAL changes a gain
+/// evenly over the frames that it renders.
+constexpr double kStepsPerSecond = 375.0;
+constexpr double kShortestStep = 128.0;
 
 /// Each block looks at this part of the voices for those whose sound has come to its end.
 constexpr std::size_t kChecks = 32;
 
-/// OpenAL takes 60 KB for each voice, so small instruments get fewer than a core can render.
-constexpr std::size_t kFewVoices = 512;
-constexpr std::size_t kManyVoices = 2048;
-constexpr std::size_t kBytesPerVoice = 1 << 16;
+/// This many sources are started at once. OpenAL enlarges its list of voices if that has no room
+/// for them behind all voices that have ever been used.
+constexpr std::size_t kBatch = 64;
+
+/// OpenAL doubles the list and takes 32 KB for each voice, so small instruments get fewer voices
+/// than a processor can render.
+constexpr std::size_t kFewVoices = 512 - kBatch;
+constexpr std::size_t kManyVoices = 2048 - kBatch;
+constexpr std::size_t kBytesPerVoice = 1 << 15;
 
 /// The part of the voices that is left free by ending released ones.
 constexpr std::size_t kReserve = 16;
+
+std::size_t stepAt(double rate)
+{
+    return static_cast<std::size_t>(std::max(kShortestStep, std::round(rate / kStepsPerSecond)));
+}
 
 /// Returns the number of OpenAL's linear resampler.
 int linearResampler()
@@ -53,7 +65,7 @@ int linearResampler()
 } // namespace
 
 SampleVoices::SampleVoices(std::unique_ptr<OpenALDevice> device, double rate)
-    : device_(std::move(device)), rate_(rate)
+    : device_(std::move(device)), rate_(rate), step_(stepAt(rate))
 {
     const auto here = scope();
     best_ = alGetInteger(AL_DEFAULT_RESAMPLER_SOFT);
@@ -118,9 +130,11 @@ void SampleVoices::prepare()
     const auto here = scope();
     for (const unsigned source : sources)
         alSourcef(source, AL_GAIN, 0.0F);
-    alSourcePlayv(static_cast<ALsizei>(limit_), sources.data());
+    std::vector<unsigned> started = sources;
+    started.resize(limit_ + kBatch, sources.back());
+    alSourcePlayv(static_cast<ALsizei>(started.size()), started.data());
     alSourcef(sources[0], AL_GAIN, 0.0F); // one change on its way to each voice, and one to spare
-    device_->render(interleaved_.data(), kStep);
+    device_->render(interleaved_.data(), 1);
     alSourceStopv(static_cast<ALsizei>(limit_), sources.data());
     for (const unsigned source : sources)
         alSourcef(source, AL_GAIN, kFirstGain);
@@ -131,6 +145,7 @@ void SampleVoices::setRate(double rate)
     if (rate == rate_)
         return;
     rate_ = rate;
+    step_ = stepAt(rate);
     device_->setRate(rate);
 }
 
@@ -182,10 +197,10 @@ std::size_t SampleVoices::advance(std::size_t done, std::size_t end)
         std::fill(right_.begin() + done, right_.begin() + end, 0.0F);
         return end;
     }
-    const std::size_t frames = std::min(kStep, end - done);
+    const std::size_t frames = std::min(step_, end - done);
     fade(frames);
-    if (!starting_.empty())
-        alSourcePlayv(static_cast<ALsizei>(starting_.size()), starting_.data());
+    for (std::size_t i = 0; i < starting_.size(); i += kBatch)
+        alSourcePlayv(static_cast<ALsizei>(std::min(kBatch, starting_.size() - i)), &starting_[i]);
     starting_.clear();
     device_->render(interleaved_.data(), frames);
     for (std::size_t i = 0; i < frames; ++i) {

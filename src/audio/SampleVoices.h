@@ -105,6 +105,7 @@ private:
 
     std::unique_ptr<OpenALDevice> device_;
     double rate_;
+    std::size_t step_; ///< The most frames for which a gain changes evenly.
 
     std::vector<Voice> voices_;        ///< Two for each sample.
     std::vector<std::uint8_t> second_; ///< By sample: 1 if the second voice was started last.
