@@ -59,6 +59,7 @@ void Player::keyOn(int key, float velocity, KeySource source, double time)
         return;
     velocity = std::clamp(velocity, 0.0F, 1.0F);
     const std::lock_guard lock(mutex_);
+    inputDelay_ = std::max(inputDelay_.load(), getTime() - time);
     holders_.press(static_cast<std::size_t>(key), source);
     liveKeys_.press(static_cast<std::size_t>(key), velocity, momentForRecorder(time));
     start(key, velocity, time);

@@ -8,6 +8,7 @@
 #include "sound/Instrument.h"
 #include "tuning/Temperament.h"
 
+#include <atomic>
 #include <chrono>
 #include <mutex>
 #include <vector>
@@ -83,6 +84,9 @@ public:
     /// Ends every sound of every instrument at once and releases every live key.
     void silence();
 
+    /// Returns how many seconds the slowest live key since the last call took to get here.
+    double takeInputDelay() { return inputDelay_.exchange(0.0); }
+
     /// Fades released keys and the spellings of the temperament by one step. Call this 60 times a
     /// second.
     void fade();
@@ -106,6 +110,7 @@ private:
     std::vector<Sounding> instruments_; ///< All that have been current and were not removed.
     KeyHolders holders_;
     LiveKeys liveKeys_;
+    std::atomic<double> inputDelay_{0.0};
     double bend_ = 0.0; ///< In cents.
     bool soft_ = false;
 };

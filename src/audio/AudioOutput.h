@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/AudioSource.h"
+#include "audio/LostPeriods.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -54,7 +55,7 @@ public:
     virtual std::uint64_t periods() const = 0;
 
     /// How often sound was interrupted because a period came too late.
-    virtual std::uint64_t lostPeriods() const = 0;
+    virtual const LostPeriods& lostPeriods() const = 0;
 
     /// True once the sound server or the device is gone.
     virtual bool isLost() const = 0;

@@ -54,7 +54,7 @@ int changePeriod(jack_nframes_t frames, void* data)
 
 int countLostPeriod(void* data)
 {
-    ++static_cast<JackPlayback*>(data)->lostPeriods;
+    static_cast<JackPlayback*>(data)->lostPeriods.add();
     return 0;
 }
 
@@ -116,7 +116,7 @@ public:
     std::size_t period() const override { return playback_->period; }
     double latency() const override { return playback_->latency; }
     std::uint64_t periods() const override { return playback_->periods; }
-    std::uint64_t lostPeriods() const override { return playback_->lostPeriods; }
+    const LostPeriods& lostPeriods() const override { return playback_->lostPeriods; }
     bool isLost() const override { return client_->isLost(); }
 
     bool canReach(const std::string& device) const override

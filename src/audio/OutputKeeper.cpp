@@ -67,7 +67,8 @@ OutputStatus OutputKeeper::status() const
         status.rate = output_->rate();
         status.period = output_->period();
         status.latency = output_->latency();
-        status.lostPeriods = output_->lostPeriods();
+        status.lostPeriods = output_->lostPeriods().count();
+        status.lastLoss = output_->lostPeriods().lastTime();
     }
     return status;
 }

@@ -23,7 +23,8 @@ struct OutputStatus {
     std::size_t period = 0; ///< In frames.
     double latency = 0.0;   ///< As of `AudioOutput`, in seconds.
     std::uint64_t lostPeriods = 0;
-    std::string missing; ///< A sentence about the wanted output; empty while it plays.
+    double lastLoss = 0.0; ///< The time of the last lost period, as of `getTime`; 0 without one.
+    std::string missing;   ///< A sentence about the wanted output; empty while it plays.
 };
 
 /// Keeps sound playing. While the wanted output is missing, the next best one plays, and the keeper

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/AudioSource.h"
+#include "audio/LostPeriods.h"
 
 #include <atomic>
 #include <cstddef>
@@ -21,7 +22,8 @@ public:
     void render(float* left, float* right, std::size_t frames, double start);
 
     std::atomic<std::size_t> period{0};
-    std::atomic<std::uint64_t> periods{0}, lostPeriods{0};
+    std::atomic<std::uint64_t> periods{0};
+    LostPeriods lostPeriods;
     std::atomic<double> latency{0.0}; ///< In seconds.
 
 private:

@@ -69,7 +69,7 @@ void playThrough(WritingPlayback& playback)
             return;
         }
         if (written == SoundWriter::Written::TooLate || clock.wasLate())
-            ++playback.lostPeriods;
+            playback.lostPeriods.add();
     }
 }
 
@@ -108,7 +108,7 @@ public:
     std::size_t period() const override { return playback_->period; }
     double latency() const override { return playback_->latency; }
     std::uint64_t periods() const override { return playback_->periods; }
-    std::uint64_t lostPeriods() const override { return playback_->lostPeriods; }
+    const LostPeriods& lostPeriods() const override { return playback_->lostPeriods; }
     bool isLost() const override { return playback_->isLost; }
 
 private:

@@ -29,6 +29,7 @@ struct Arguments {
     std::vector<std::string> files;
     bool json = false;
     bool plain = false;
+    bool watches = false;
 };
 
 /// Like CLI::Range, but rejects NaN.
@@ -153,6 +154,9 @@ int run(CLI::App& program, int argc, char** argv)
         addJson(program.add_subcommand(
                     "devices", "List the MIDI inputs, the sound output and the General MIDI bank"),
                 arguments);
+    devicesCommand->add_flag(
+        "--watch", arguments.watches,
+        "Print the delay, the load and the messages of live playing each second");
     program.parse(argc, argv);
     if (program.get_subcommands().empty())
         return runWindows(argc, argv, arguments);
@@ -168,7 +172,9 @@ int run(CLI::App& program, int argc, char** argv)
                                                                                       : kFailure;
     if (*liveCommand)
         live(arguments.selection, arguments.plain);
-    if (*devicesCommand)
+    if (*devicesCommand && arguments.watches)
+        watchDevices(arguments.json);
+    else if (*devicesCommand)
         devices(arguments.json);
     return 0;
 }

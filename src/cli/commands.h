@@ -33,4 +33,8 @@ void live(const Selection& selection, bool plain);
 /// Prints the MIDI inputs, the sound output and the General MIDI bank in use.
 void devices(bool json);
 
+/// Plays from the MIDI inputs and prints the meters once a second until interrupted, as text or as
+/// lines of JSON. Needs a QCoreApplication.
+void watchDevices(bool json);
+
 } // namespace velmora

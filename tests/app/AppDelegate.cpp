@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "app/Meters.h"
 #include "base/Clock.h"
 #include "midi/messages.h"
 #include "support/RecordingInstrument.h"
@@ -117,6 +118,29 @@ TEST_F(AppDelegateTest, ReceivedEventsReachTheMainThreadInOrder)
     EXPECT_EQ(seen, Calls()) << "not on the receive thread";
     QCoreApplication::processEvents();
     EXPECT_EQ(seen, told);
+}
+
+TEST_F(AppDelegateTest, MetersReadWhatHappenedSinceTheLastReading)
+{
+    Meters meters(app_);
+    app_.player().keyOn(60, 0.5F, kMouse, getTime() - 0.25);
+    app_.player().keyOff(60);
+    app_.midiDevices().arrived({0, "Keys"});
+    const std::array<std::uint8_t, 3> message{midi::kNoteOn, 61, 100};
+    meters.read(); // the first messages of a device have no time to be compared with
+    app_.player().keyOn(62, 0.5F, kMouse, getTime() - 0.25);
+    for (int i = 0; i < 1000; ++i)
+        app_.midiDevices().received(0, message, getTime());
+    const MeterReading reading = meters.read();
+    EXPECT_NEAR(reading.latency.input, 0.25, 0.2);
+    ASSERT_EQ(reading.devices.size(), 1U);
+    EXPECT_EQ(reading.devices[0].name, "Keys");
+    EXPECT_GT(reading.devices[0].messagesPerSecond, 100.0);
+    app_.midiDevices().departed({0, "Keys"});
+    const MeterReading quiet = meters.read();
+    EXPECT_EQ(quiet.latency.input, 0.0);
+    EXPECT_TRUE(quiet.devices.empty());
+    EXPECT_EQ(app_.player().liveKeys().state(61), 0) << "a device that vanishes releases its keys";
 }
 
 } // namespace velmora

@@ -50,6 +50,7 @@ Commands::Commands(AppDelegate& application)
       keyboardWindow(new QAction(icon("keyboard"), tr("&Keyboard"), this)),
       instrumentPanel(new QAction(icon("instrument"), tr("Instrument &Panel"), this)),
       instrumentsWindow(new QAction(tr("&Instruments…"), this)),
+      metersWindow(new QAction(tr("&Meters"), this)),
       noteNames(new QAction(tr("Note &Names on the Keyboard"), this)), application_(application),
       recent_(std::make_unique<QMenu>(tr("Open &Recent"))),
       instruments_(std::make_unique<QMenu>(tr("&Instrument"))),
@@ -73,6 +74,8 @@ Commands::Commands(AppDelegate& application)
     instrumentPanel->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
     instrumentPanel->setToolTip(tr("Show the program, the tuning and the stops (Ctrl+I)"));
     instrumentsWindow->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_I));
+    metersWindow->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M));
+    metersWindow->setToolTip(tr("Show the delay, the load and the devices of live playing"));
     noteNames->setCheckable(true);
 
     help_->addAction(icon("help"), tr("User &Guide"), QKeySequence(Qt::Key_F1), this,
@@ -111,7 +114,7 @@ void Commands::addSound(QMenuBar& bar) const
 
 void Commands::addWindows(QMenu& view) const
 {
-    view.addActions({keyboardWindow, instrumentPanel, instrumentsWindow});
+    view.addActions({keyboardWindow, instrumentPanel, instrumentsWindow, metersWindow});
 }
 
 void Commands::addHelp(QMenuBar& bar) const

@@ -33,6 +33,7 @@ public:
     QAction* const keyboardWindow;
     QAction* const instrumentPanel;
     QAction* const instrumentsWindow;
+    QAction* const metersWindow;
     QAction* const noteNames; ///< Checked while the keyboard shows note names.
 
     /// Adds New, Open and the recent files to the beginning of a File menu.

@@ -35,7 +35,7 @@ constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
 Desktop::Desktop()
     : commands_(application_), keyboardWindow_(application_, commands_),
       instrumentPanel_(application_), instrumentsWindow_(application_),
-      sequenceWindows_(application_, commands_, keyboardWindow_.keyboard())
+      metersWindow_(application_), sequenceWindows_(application_, commands_, keyboardWindow_.keyboard())
 {
     connectCommands();
     connectProgress();
@@ -62,6 +62,7 @@ Desktop::Desktop()
     keyboardWindow_.show();
     reopen(instrumentPanel_, "instrumentPanel");
     reopen(instrumentsWindow_, "instruments");
+    reopen(metersWindow_, "meters");
 }
 
 Desktop::~Desktop() = default;
@@ -81,6 +82,7 @@ void Desktop::connectCommands()
     presents(commands_.keyboardWindow, keyboardWindow_);
     presents(commands_.instrumentPanel, instrumentPanel_);
     presents(commands_.instrumentsWindow, instrumentsWindow_);
+    presents(commands_.metersWindow, metersWindow_);
     presents(commands_.preferences, preferencesWindow_);
     connect(commands_.open, &QAction::triggered, this, &Desktop::askForFiles);
     connect(commands_.silence, &QAction::triggered, this, [this] {

@@ -8,6 +8,7 @@
 #include "desktop/shell/FileDrop.h"
 #include "desktop/shell/GuideWindow.h"
 #include "desktop/shell/KeyboardWindow.h"
+#include "desktop/shell/MetersWindow.h"
 #include "desktop/shell/PreferencesWindow.h"
 #include "desktop/shell/SequenceWindows.h"
 
@@ -68,6 +69,7 @@ private:
     PreferencesWindow preferencesWindow_{application_};
     ProgressWindow progressWindow_;
     GuideWindow guideWindow_;
+    MetersWindow metersWindow_;
     SequenceWindows sequenceWindows_;
     QString bankNotice_;  ///< The current notice about the General MIDI bank; may be empty.
     QStringList waiting_; ///< Files to open after the current one.

@@ -1,0 +1,74 @@
+#include "desktop/shell/MetersWindow.h"
+
+#include "app/AppDelegate.h"
+#include "desktop/widgets/closeByKeys.h"
+#include "desktop/widgets/windowPlace.h"
+
+#include <QFormLayout>
+#include <QLabel>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kReadingMilliseconds = 500;
+constexpr int kTextWidth = 460;
+
+QLabel* newLabel()
+{
+    auto* label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+} // namespace
+
+MetersWindow::MetersWindow(AppDelegate& application)
+    : application_(application), lines_(new QFormLayout(this))
+{
+    setWindowTitle(tr("Meters"));
+    lines_->setLabelAlignment(Qt::AlignRight);
+    timer_.setInterval(kReadingMilliseconds);
+    connect(&timer_, &QTimer::timeout, this, &MetersWindow::update);
+    closeByKeys(*this);
+    rememberPlace(*this, "meters");
+}
+
+void MetersWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    meters_.emplace(application_);
+    update();
+    timer_.start();
+}
+
+void MetersWindow::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    timer_.stop();
+    meters_.reset();
+}
+
+void MetersWindow::update()
+{
+    const auto reading = describe(meters_->read());
+    const int count = static_cast<int>(reading.size());
+    while (lines_->rowCount() > count)
+        lines_->removeRow(count);
+    while (lines_->rowCount() < count) {
+        QLabel* text = newLabel();
+        text->setMinimumWidth(kTextWidth);
+        lines_->addRow(newLabel(), text);
+    }
+    const auto show = [&](int row, QFormLayout::ItemRole role, const std::string& text) {
+        auto* label = static_cast<QLabel*>(lines_->itemAt(row, role)->widget());
+        label->setText(QString::fromStdString(text));
+    };
+    for (int row = 0; row < count; ++row) {
+        show(row, QFormLayout::LabelRole, reading[static_cast<std::size_t>(row)].first + ":");
+        show(row, QFormLayout::FieldRole, reading[static_cast<std::size_t>(row)].second);
+    }
+}
+
+} // namespace velmora
