@@ -206,6 +206,10 @@ void Synthesizer::render(float* left, float* right, std::size_t frames, double s
         done = next;
     }
     reverb_.process(left, right, frames);
+    std::size_t voices = 0;
+    for (const auto& lane : lanes_)
+        voices += lane->voices();
+    voices_ = voices;
 }
 
 } // namespace velmora

@@ -37,6 +37,7 @@ public:
     void setDue(double time) override { due_ = time; }
     void bend(double cents) override;
     AudioSource* source() override { return this; }
+    std::size_t voices() const override { return voices_; }
 
     void render(float* left, float* right, std::size_t frames, double start) override;
 
@@ -86,6 +87,7 @@ private:
     std::array<double, 16> lastBend_{}; ///< The last bend sent on each channel.
     LockFreeQueue<Event> queue_{kQueue};
     std::atomic<bool> overflowed_{false};
+    std::atomic<std::size_t> voices_{0};
 };
 
 } // namespace velmora

@@ -149,7 +149,8 @@ void SynthesizerLane::renderBlock(float* left, float* right)
     if (cents_ != appliedCents_)
         applyCents();
     // A held note may start with silence, so only a block without voices is a silent one.
-    if (fluid_synth_get_active_voice_count(synth_.get()) == 0) {
+    voices_ = static_cast<std::size_t>(fluid_synth_get_active_voice_count(synth_.get()));
+    if (voices_ == 0) {
         ++silentBlocks_;
         return;
     }

@@ -52,6 +52,9 @@ public:
     /// True if nothing sounds. An idle lane takes no time to mix.
     bool isIdle() const { return silentBlocks_ >= kSilentBlocksToIdle; }
 
+    /// The number of voices in the latest block.
+    std::size_t voices() const { return isIdle() ? 0 : voices_; }
+
     /// Adds `frames` frames to `left` and `right`.
     void mix(float* left, float* right, std::size_t frames);
 
@@ -76,6 +79,7 @@ private:
     fluid_sfont_t* borrowedBank_ = nullptr;
     FractionalResampler resampler_;
     int silentBlocks_ = kSilentBlocksToIdle;
+    std::size_t voices_ = 0;
 
     std::bitset<128> held_; ///< The keys whose notes have not been released.
     double cents_ = 0.0, appliedCents_ = 0.0;

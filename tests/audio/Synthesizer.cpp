@@ -36,6 +36,7 @@ TEST(Synthesizer, EndsNotesUnderAnyLoad)
             synthesizer.midiEvent(0x90, 60, 100);
             const float once = nextPeak(synthesizer);
             EXPECT_GT(once, 0.01F);
+            EXPECT_GT(synthesizer.voices(), 0U);
             for (int i = 0; i < messages; ++i)
                 storm(i);
             rendered(synthesizer, kRate);
@@ -43,6 +44,7 @@ TEST(Synthesizer, EndsNotesUnderAnyLoad)
             synthesizer.midiEvent(0x80, 60, 0);
             rendered(synthesizer, 3 * kRate);
             EXPECT_EQ(nextPeak(synthesizer), 0.0F) << &storm - storms << ": " << messages;
+            EXPECT_EQ(synthesizer.voices(), 0U);
         }
     }
 }
