@@ -19,6 +19,10 @@ constexpr int kChannel = 0;
 /// matter least, which keeps a storm of messages within the time of a period.
 constexpr int kPolyphony = 32;
 
+// See docs/decisions.md, 129.
+constexpr int kQueuedVoices = 128;
+constexpr int kMostNotesInBlock = 32;
+
 /// Four typical notes peak near −6 dBFS. The limiter handles louder ones.
 constexpr double kGain = 1.5;
 
@@ -34,7 +38,8 @@ SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
     if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate / divisor_) != FLUID_OK)
         throw std::runtime_error(
             fmt::format("FluidSynth does not support a sample rate of {:g} Hz", rate));
-    fluid_settings_setint(settings_.get(), "synth.polyphony", kPolyphony);
+    fluid_settings_setint(settings_.get(), "synth.polyphony", kQueuedVoices);
+    fluid_settings_setint(settings_.get(), "synth.threadsafe-api", 0); // needs no locks
     fluid_settings_setnum(settings_.get(), "synth.gain", kGain);
     // Both modulate the pitch. The lanes share a reverberation without modulation instead.
     fluid_settings_setint(settings_.get(), "synth.chorus.active", 0);
@@ -42,6 +47,7 @@ SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
     synth_.reset(new_fluid_synth(settings_.get()));
     if (!synth_)
         throw std::runtime_error("FluidSynth cannot create a synthesizer");
+    fluid_synth_set_polyphony(synth_.get(), kPolyphony);
     if (bankOwner != nullptr) {
         borrowedBank_ = fluid_synth_get_sfont(bankOwner->synth_.get(), 0);
         if (borrowedBank_ != nullptr)
@@ -67,8 +73,9 @@ bool SynthesizerLane::loadBank(const char* path)
 void SynthesizerLane::noteOn(int key, int velocity)
 {
     const auto index = static_cast<std::size_t>(key);
-    if (index >= held_.size())
+    if (index >= held_.size() || notesInBlock_ == kMostNotesInBlock)
         return;
+    ++notesInBlock_;
     if (isIdle())
         resampler_.clear();
     fluid_synth_noteon(synth_.get(), kChannel, key, velocity);
@@ -145,6 +152,7 @@ void SynthesizerLane::renderBlock(float* left, float* right)
     constexpr std::size_t kBlock = FractionalResampler::kBlock;
     std::fill_n(left, kBlock, 0.0F);
     std::fill_n(right, kBlock, 0.0F);
+    notesInBlock_ = 0;
     // See docs/decisions.md, 129.
     if (cents_ != appliedCents_)
         applyCents();

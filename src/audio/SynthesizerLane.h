@@ -80,6 +80,7 @@ private:
     FractionalResampler resampler_;
     int silentBlocks_ = kSilentBlocksToIdle;
     std::size_t voices_ = 0;
+    int notesInBlock_ = 0; ///< Started since the latest block.
 
     std::bitset<128> held_; ///< The keys whose notes have not been released.
     double cents_ = 0.0, appliedCents_ = 0.0;
