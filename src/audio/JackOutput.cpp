@@ -42,7 +42,7 @@ int processPeriod(jack_nframes_t frames, void* data)
     const auto buffer = [&](std::size_t port) {
         return static_cast<float*>(jack_port_get_buffer(playback.ports[port], frames));
     };
-    playback.render(buffer(0), buffer(1), frames, jackPeriodStart(playback.client));
+    playback.render(buffer(0), buffer(1), frames, jackPeriod(playback.client).start);
     return 0;
 }
 

@@ -58,7 +58,7 @@ void JackInput::read(jack_nframes_t frames)
     if (count == 0)
         return;
     // See docs/decisions.md, 137.
-    const double start = jackPeriodStart(client);
+    const double end = jackPeriod(client).end;
     const double rate = jack_get_sample_rate(client);
     for (std::uint32_t i = 0; i < count; ++i) {
         jack_midi_event_t event{};
@@ -66,7 +66,7 @@ void JackInput::read(jack_nframes_t frames)
             continue;
         const MidiPacket message(event.buffer, event.size);
         if (isWanted(message))
-            receiver->received(device, message, start + event.time / rate);
+            receiver->received(device, message, end - (frames - event.time) / rate);
     }
 }
 
