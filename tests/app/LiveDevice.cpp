@@ -20,16 +20,11 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// Also records programs, bends and the soft pedal.
-class RecordingSynthesizer : public RecordingInstrument {
+/// Also records bends and the soft pedal.
+class BendingInstrument : public RecordingInstrument {
 public:
-    explicit RecordingSynthesizer(Calls& calls) : RecordingInstrument(calls), calls_(calls) {}
+    explicit BendingInstrument(Calls& calls) : RecordingInstrument(calls), calls_(calls) {}
 
-    bool hasSubMenu() const override { return true; }
-    void setInstrument(std::uint8_t program) override
-    {
-        calls_.push_back(fmt::format("program {}", program));
-    }
     void bend(double cents) override { calls_.push_back(fmt::format("bend {:.1f}", cents)); }
     void setSoft(bool soft) override { calls_.emplace_back(soft ? "soft" : "not soft"); }
 
@@ -63,7 +58,7 @@ protected:
     }
 
     Calls calls_;
-    RecordingSynthesizer instrument_{calls_};
+    BendingInstrument instrument_{calls_};
     AppDelegate app_;
     LiveDevice first_{app_, 0}, second_{app_, 1};
 };
@@ -121,22 +116,6 @@ TEST_F(LiveDeviceTest, TheWheelBendsBothKindsOfInstrumentByItsRange)
     app_.setInstrument(instrument_, "Recorder");
     app_.player().remove(ocarina);
     app_.player().remove(organ);
-}
-
-TEST_F(LiveDeviceTest, ProgramsAndVolumesAreShown)
-{
-    Calls seen;
-    QObject::connect(&app_, &AppDelegate::programSelected,
-                     [&](int program) { seen.push_back(fmt::format("program {}", program)); });
-    QObject::connect(&app_, &AppDelegate::volumeMoved, [&](std::size_t slider, float volume) {
-        seen.push_back(fmt::format("slider {} {:.2f}", slider, volume));
-    });
-    app_.learning().controls().set({MidiControl::Kind::Key, 0, 60},
-                                   {LearnedAction::Kind::Volume, 3});
-    EXPECT_EQ(send({{0xC0, 5}, {0xB0, 11, 127}, {0x90, 60, 1}}),
-              (Calls{"program 5", "volume 1 1.00", "volume 3 0.00"}));
-    QCoreApplication::processEvents();
-    EXPECT_EQ(seen, (Calls{"program 5", "slider 1 1.00", "slider 3 0.00"}));
 }
 
 TEST_F(LiveDeviceTest, ThePlainReadingIsFedDirectly)

@@ -14,11 +14,9 @@
 #include <QToolButton>
 #include <QToolTip>
 #include <QtTest>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace velmora {
-
-using testing::HasSubstr;
 
 namespace {
 
@@ -73,11 +71,6 @@ protected:
         return QToolTip::text().toStdString();
     }
 
-    template <class Widget> Widget& named(const char* name)
-    {
-        return *desktop.instrumentPanel().findChild<Widget*>(name);
-    }
-
     Desktop desktop;
     LiveDevice device{desktop.application(), 0};
     QSlider* slider = nullptr;
@@ -90,7 +83,6 @@ TEST_F(MidiLearnTest, ASliderLearnsTheNextController)
     QSlider& volume = *slider;
     choose(volume, "Learn MIDI Controller…");
     ASSERT_NE(waiting(), nullptr);
-    EXPECT_THAT(waiting()->text().toStdString(), HasSubstr("“Volume”"));
     QTest::keyClick(waiting(), Qt::Key_Escape);
     EXPECT_EQ(waiting(), nullptr);
     send({0xB2, 21, 64});
@@ -106,6 +98,10 @@ TEST_F(MidiLearnTest, ASliderLearnsTheNextController)
     send({0xB2, 21, 127});
     EXPECT_EQ(volume.value(), 0);
     EXPECT_EQ(toolTip(volume), "Volume");
+    choose(volume, "Learn MIDI Controller…");
+    send({0x90, 36, 1});
+    send({0x90, 36, 1});
+    EXPECT_EQ(volume.value(), 1000) << "a key switches it";
 }
 
 TEST_F(MidiLearnTest, ButtonsLearnKeys)
@@ -153,15 +149,16 @@ TEST_F(MidiLearnTest, ButtonsLearnKeys)
 TEST_F(MidiLearnTest, ThePanelAndThePreferencesShowTheSameSettings)
 {
     auto& preferences = desktop.preferencesWindow();
+    const auto* transposition = desktop.instrumentPanel().findChild<QLabel*>("Transposition");
     preferences.findChild<QSpinBox*>("Transposition")->setValue(3);
-    EXPECT_EQ(named<QLabel>("Transposition").text(), "+3");
+    EXPECT_EQ(transposition->text(), "+3");
     desktop.keyboardWindow().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
     for (int i = 0; i < 4; ++i)
         QTest::keyClick(&desktop.keyboardWindow(), Qt::Key_Down,
                         Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(named<QLabel>("Transposition").text(), "−1");
-    auto& touch = named<QComboBox>("VelocityCurve");
+    EXPECT_EQ(transposition->text(), "−1");
+    auto& touch = *desktop.instrumentPanel().findChild<QComboBox*>("VelocityCurve");
     touch.setFocus();
     QTest::keyClick(&touch, Qt::Key_End);
     preferences.show();
