@@ -88,7 +88,8 @@ int main(int argc, char** argv)
     std::array<Device, 2> devices{Device("first"), Device("second")};
     QCoreApplication application(argc, argv);
     AppDelegate live;
-    live.start();
+    live.start({"jack", {}, 0.0, 0});
+    live.output()->waitForOutput();
     live.waitForBank();
 
     std::size_t silentLooks = 0;
@@ -99,7 +100,7 @@ int main(int argc, char** argv)
         silentLooks += std::max(peaks[0], peaks[1]) == 0.0F ? 1 : 0;
         worstLoad = std::max(worstLoad, live.engine().takeLoad().worst);
     });
-    const auto lostBefore = live.audioOutput()->lostPeriods();
+    const auto lostBefore = live.output()->status().lostPeriods;
     for (Device& device : devices)
         device.isPlaying = true;
     looking.start(kMillisecondsBetweenLooks);
@@ -108,7 +109,7 @@ int main(int argc, char** argv)
                        &application, &QCoreApplication::quit);
     QCoreApplication::exec();
     looking.stop();
-    const auto lost = live.audioOutput()->lostPeriods() - lostBefore;
+    const auto lost = live.output()->status().lostPeriods - lostBefore;
     for (Device& device : devices)
         device.isPlaying = false;
     std::this_thread::sleep_for(std::chrono::milliseconds(kMillisecondsBetweenLooks));
