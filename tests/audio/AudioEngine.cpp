@@ -10,7 +10,7 @@ namespace velmora {
 
 namespace {
 
-constexpr double kRate = 48000.0;
+constexpr double kEngineRate = 48000.0;
 
 /// Writes the moment of each frame, in seconds, or a constant.
 class Ramp : public AudioSource {
@@ -19,8 +19,9 @@ public:
     {
         for (std::size_t i = 0; i < frames; ++i)
             left[i] = right[i] =
-                level +
-                (showsTime ? static_cast<float>(start + static_cast<double>(i) / kRate) : 0.0F);
+                level + (showsTime
+                             ? static_cast<float>(start + static_cast<double>(i) / kEngineRate)
+                             : 0.0F);
     }
 
     void setRate(double newRate) override { rate = newRate; }
@@ -34,16 +35,17 @@ public:
 
 TEST(AudioEngine, RendersLiveSoundOnePeriodLate)
 {
-    AudioEngine engine(kRate);
+    AudioEngine engine(kEngineRate);
     Ramp ramp;
     ramp.showsTime = true;
     engine.add(ramp);
     std::vector<float> left(3000), right(3000);
     const double start = 0.25;
     engine.render(left.data(), right.data(), left.size(), start); // longer than an inner block
-    const std::size_t delay = PeakLimiter(kRate).delay();
+    const std::size_t delay = PeakLimiter(kEngineRate).delay();
     for (std::size_t i = delay; i < left.size(); ++i)
-        ASSERT_NEAR(left[i], start + (static_cast<double>(i - delay) - 3000.0) / kRate, 1e-6) << i;
+        ASSERT_NEAR(left[i], start + (static_cast<double>(i - delay) - 3000.0) / kEngineRate, 1e-6)
+            << i;
 }
 
 TEST(AudioEngine, MixesItsSourcesBelowTheLimit)
@@ -54,8 +56,8 @@ TEST(AudioEngine, MixesItsSourcesBelowTheLimit)
     second.level = 0.25F;
     engine.add(first);
     engine.add(second);
-    engine.setRate(kRate);
-    EXPECT_EQ(first.rate, kRate);
+    engine.setRate(kEngineRate);
+    EXPECT_EQ(first.rate, kEngineRate);
     std::vector<float> left(4800), right(4800);
     const auto level = [&] {
         for (int i = 0; i < 20; ++i) // the limiter recovers
@@ -74,7 +76,7 @@ TEST(AudioEngine, MixesItsSourcesBelowTheLimit)
 
 TEST(AudioEngine, NoLongerUsesARemovedSource)
 {
-    AudioEngine engine(kRate);
+    AudioEngine engine(kEngineRate);
     const std::jthread audio([&](const std::stop_token& stop) {
         std::vector<float> left(64), right(64);
         while (!stop.stop_requested())
