@@ -15,8 +15,9 @@ using namespace std::chrono_literals;
 constexpr auto kWatchInterval = 100ms;
 constexpr auto kRetryInterval = 500ms;
 
-/// The longest time between two periods of an output that is not stuck.
-constexpr auto kStuck = 1s;
+/// The longest time between two periods of an output that is not stuck. A sink of PulseAudio may let
+/// a new stream wait for two seconds.
+constexpr auto kStuck = 3s;
 
 constexpr const char* kNone = "none";
 
@@ -183,7 +184,7 @@ void OutputKeeper::play(std::unique_ptr<AudioOutput> output, std::size_t candida
     output->start(source_);
     const std::string missing = describeMissing(output->driver());
     if (!missing.empty())
-        logger("audio").warn("{}", missing);
+        logger("audio").info("{}", missing);
     {
         const std::lock_guard lock(mutex_);
         output_ = std::move(output);

@@ -5,7 +5,7 @@ namespace velmora {
 namespace {
 
 /// How much of its lead over the wake-ups the clock gives up in a period.
-constexpr double kPull = 0.01;
+constexpr double kPull = 0.005;
 
 } // namespace
 

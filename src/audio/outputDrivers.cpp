@@ -28,7 +28,7 @@ constexpr std::array<Driver, 4> kDrivers = {{
     {"jack", "JACK", openJackOutput, jackDevices},
     {"pulseaudio", "PulseAudio", openPulseOutput, pulseDevices},
     {"alsa", "ALSA", openAlsaOutput, alsaDevices},
-    {"none", "no sound", openSilentOutput, noDevices},
+    {"none", "No sound", openSilentOutput, noDevices},
 }};
 
 } // namespace

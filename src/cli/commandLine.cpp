@@ -1,5 +1,7 @@
 #include "cli/commandLine.h"
 
+#include "app/preferredOutput.h"
+#include "audio/outputDrivers.h"
 #include "base/Log.h"
 #include "cli/commands.h"
 #include "desktop/shell/runDesktop.h"
@@ -8,6 +10,7 @@
 #include <QCoreApplication>
 #include <spdlog/fmt/fmt.h>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace velmora {
@@ -27,6 +30,8 @@ struct Arguments {
     RenderOptions options;
     RenderLoop loop{0.0, 0.0, 2};
     std::vector<std::string> files;
+    std::string device; ///< "DRIVER" or "DRIVER:DEVICE" of the sound output.
+    std::size_t period = 0;
     bool json = false;
     bool plain = false;
     bool watches = false;
@@ -117,6 +122,36 @@ CLI::App* addJson(CLI::App* command, Arguments& arguments)
     return command;
 }
 
+void addOutput(CLI::App& command, Arguments& arguments)
+{
+    command
+        .add_option("--output", arguments.device,
+                    fmt::format("The sound output, for this time only: {}, or one of their devices",
+                                fmt::join(outputDrivers(), ", ")))
+        ->type_name("DRIVER[:DEVICE]");
+    command.add_option("--period", arguments.period, "Frames in a period, for this time only")
+        ->check(CLI::Range(16, 8192));
+}
+
+/// Returns the preferred output, as far as the command line does not name another one.
+OutputSettings chosenOutput(const Arguments& arguments)
+{
+    OutputSettings output = preferredOutput();
+    if (!arguments.device.empty()) {
+        const std::size_t colon = arguments.device.find(':');
+        output.driver = arguments.device.substr(0, colon);
+        output.device =
+            colon == std::string::npos ? std::string() : arguments.device.substr(colon + 1);
+        const auto drivers = outputDrivers();
+        if (std::find(drivers.begin(), drivers.end(), output.driver) == drivers.end())
+            throw UsageError(fmt::format("there is no output \"{}\"; use {}, or DRIVER:DEVICE",
+                                         output.driver, fmt::join(drivers, ", ")));
+    }
+    if (arguments.period != 0)
+        output.period = arguments.period;
+    return output;
+}
+
 void runRender(const CLI::App& command, Arguments& arguments)
 {
     if (command.count("--loop-end") > 0) {
@@ -133,7 +168,7 @@ int runWindows(int argc, char** argv, const Arguments& arguments)
         if (!std::filesystem::exists(file))
             throw UsageError("\"" + file + "\" is neither a file nor a command");
     }
-    return runDesktop(argc, argv, arguments.files, arguments.plain);
+    return runDesktop(argc, argv, arguments.files, arguments.plain, chosenOutput(arguments));
 }
 
 int run(CLI::App& program, int argc, char** argv)
@@ -150,9 +185,11 @@ int run(CLI::App& program, int argc, char** argv)
     addSelection(*liveCommand, arguments);
     addPlain(program, arguments);
     addPlain(*liveCommand, arguments);
+    addOutput(program, arguments);
+    addOutput(*liveCommand, arguments);
     CLI::App* devicesCommand =
         addJson(program.add_subcommand(
-                    "devices", "List the MIDI inputs, the sound output and the General MIDI bank"),
+                    "devices", "List the MIDI inputs, the sound outputs and the General MIDI bank"),
                 arguments);
     devicesCommand->add_flag(
         "--watch", arguments.watches,
@@ -171,7 +208,7 @@ int run(CLI::App& program, int argc, char** argv)
         return info({arguments.files.begin(), arguments.files.end()}, arguments.json) ? 0
                                                                                       : kFailure;
     if (*liveCommand)
-        live(arguments.selection, arguments.plain);
+        live(arguments.selection, arguments.plain, chosenOutput(arguments));
     if (*devicesCommand && arguments.watches)
         watchDevices(arguments.json);
     else if (*devicesCommand)

@@ -27,10 +27,10 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
 bool info(const std::vector<std::filesystem::path>& files, bool json);
 
 /// Plays from the MIDI inputs until interrupted, in the plain reading if `plain` or the preference
-/// says so. Needs a QCoreApplication.
-void live(const Selection& selection, bool plain);
+/// says so. Prints which output plays and which is missing. Needs a QCoreApplication.
+void live(const Selection& selection, bool plain, const OutputSettings& output);
 
-/// Prints the MIDI inputs, the sound output and the General MIDI bank in use.
+/// Prints the MIDI inputs, the sound outputs and the General MIDI bank in use.
 void devices(bool json);
 
 /// Plays from the MIDI inputs and prints the meters once a second until interrupted, as text or as

@@ -125,6 +125,8 @@ TEST_F(CommandLine, ReportsErrorsInOneSentence)
         {{"--loop-start", "4", "--loop-end", "inf"}, 2, "--loop-end"},
         {{"--rate", "nan"}, 2, "--rate"},
         {{"--tail", "nan"}, 2, "--tail"},
+        {{"live", "--output", "oss:dsp"}, 2, "no output \"oss\""},
+        {{"live", "--period", "0"}, 2, "--period"},
         {{"info", "song.txt"}, 1, "song.txt: unrecognised file type"},
         {{"info", "broken.mid", "--json"}, 1, "velmora: broken.mid, byte 4: "},
     };

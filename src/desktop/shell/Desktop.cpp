@@ -67,9 +67,9 @@ Desktop::Desktop()
 
 Desktop::~Desktop() = default;
 
-void Desktop::launch()
+void Desktop::launch(const OutputSettings& output)
 {
-    application_.start();
+    application_.start(output);
     keyboardWindow_.status().showDevices();
     sequenceWindows_.offerAbandoned();
 }

@@ -30,7 +30,7 @@ public:
 
     /// Starts sound and MIDI, and offers to recover unsaved sequences. The status line shows which
     /// devices are missing.
-    void launch();
+    void launch(const OutputSettings& output = preferredOutput());
 
     /// Opens files one after the other; a message box explains each failure. Brings the keyboard
     /// to the front if there are no files.

@@ -2,6 +2,7 @@
 
 #include "desktop/shell/MidiPane.h"
 #include "desktop/shell/PlayingPane.h"
+#include "desktop/shell/SoundPane.h"
 #include "desktop/widgets/ColorButton.h"
 #include "desktop/widgets/NoteSpinBox.h"
 #include "desktop/widgets/closeByKeys.h"
@@ -57,6 +58,7 @@ PreferencesWindow::PreferencesWindow(AppDelegate& application)
     addPane(tr("&General"), "preferences-general", makeGeneralPane());
     addPane(tr("C&olors"), "preferences-colors", makeColorsPane());
     addPane(tr("&MIDI"), "midi", makeMidiPane(application));
+    addPane(tr("So&und"), "preferences-sound", new SoundPane(application));
     toolBar->addActions(paneActions_->actions());
     for (QAction* action : paneActions_->actions())
         toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);

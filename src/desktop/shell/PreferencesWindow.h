@@ -14,7 +14,7 @@ namespace velmora {
 
 class AppDelegate;
 
-/// Edits the preferences in the panes "General", "Colors" and "MIDI". Each change is
+/// Edits the preferences in the panes "General", "Colors", "MIDI" and "Sound". Each change is
 /// stored immediately.
 class PreferencesWindow : public QMainWindow {
     Q_OBJECT

@@ -41,7 +41,8 @@ void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QSt
 
 } // namespace
 
-int runDesktop(int argc, char** argv, const std::vector<std::string>& files, bool plain)
+int runDesktop(int argc, char** argv, const std::vector<std::string>& files, bool plain,
+               const OutputSettings& output)
 {
     QuitOnSignal quitOnSignal;
     qInstallMessageHandler(logMessage);
@@ -71,7 +72,7 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files, boo
     QTimer launching;
     launching.setSingleShot(true);
     QObject::connect(&launching, &QTimer::timeout, [&] {
-        desktop.launch();
+        desktop.launch(output);
         if (!paths.isEmpty())
             desktop.open(paths);
     });

@@ -9,6 +9,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QSlider>
 #include <QSpinBox>
 #include <QTemporaryFile>
 #include <QtTest>
@@ -29,7 +30,8 @@ protected:
 
     ~PreferencesWindowTest() override
     {
-        for (const char* key : {"KeyWidth", "KeyRangeLo", "KeyRangeHi", "KeyColor", "KeyNames"})
+        for (const char* key : {"KeyWidth", "KeyRangeLo", "KeyRangeHi", "KeyColor", "KeyNames",
+                                "Output", "OutputPeriod", "MasterVolume"})
             resetPref(key);
         setPrefString("GMBank", kBank.string());
     }
@@ -111,6 +113,32 @@ TEST_F(PreferencesWindowTest, StoresTheChosenBank)
     click("DefaultBank");
     EXPECT_EQ(getPrefString("GMBank"), "");
     EXPECT_EQ(bankChanged.size(), 2);
+}
+
+TEST_F(PreferencesWindowTest, PlaysThroughTheChosenOutputAtTheChosenVolume)
+{
+    app.start({"none", {}, 0.0, 0});
+    const auto choose = [&](const char* name, const QVariant& data) {
+        auto* box = window.findChild<QComboBox*>(name);
+        box->setCurrentIndex(box->findData(data));
+        emit box->activated(box->currentIndex());
+    };
+    choose("Output", "none");
+    choose("OutputPeriod", 4096);
+    window.findChild<QSlider*>("MasterVolume")->setValue(50);
+    const OutputSettings expected{"none", {}, 0.0, 4096};
+    EXPECT_EQ(preferredOutput(), expected);
+    EXPECT_EQ(preferredVolume(), 0.5F);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return app.output()->status().period == 4096; }));
+
+    app.engine().takePeaks();
+    window.findChild<QAbstractButton*>("TestTone")->click();
+    float peak = 0.0F;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        peak = std::max(peak, app.engine().takePeaks()[0]);
+        return peak > 0.04F;
+    }));
+    EXPECT_LT(peak, 0.06F) << "half of the quiet tone";
 }
 
 TEST_F(PreferencesWindowTest, ListsMidiDevicesAsTheyComeAndGo)
