@@ -92,6 +92,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     row->setSpacing(0);
     row->addWidget(choices);
     row->addWidget(stops_);
+    usage_->hide(); // it takes the place of the programs and needs no room of its own
     setFixedHeight(sizeHint().height());
 
     connect(&application_, &AppDelegate::tuningsChanged, this, &InstrumentPanel::showTunings);
