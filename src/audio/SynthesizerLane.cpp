@@ -48,6 +48,9 @@ SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
     if (!synth_)
         throw std::runtime_error("FluidSynth cannot create a synthesizer");
     fluid_synth_set_polyphony(synth_.get(), kPolyphony);
+    // The first block allocates memory for the new polyphony.
+    std::array<float, FractionalResampler::kBlock> ignored{};
+    process(ignored.data(), ignored.data());
     if (bankOwner != nullptr) {
         borrowedBank_ = fluid_synth_get_sfont(bankOwner->synth_.get(), 0);
         if (borrowedBank_ != nullptr)
@@ -147,6 +150,13 @@ void SynthesizerLane::mix(float* left, float* right, std::size_t frames)
         resampler_.mix(left, right, frames, [this](float* l, float* r) { renderBlock(l, r); });
 }
 
+void SynthesizerLane::process(float* left, float* right)
+{
+    std::array<float*, 2> outputs = {left, right};
+    fluid_synth_process(synth_.get(), static_cast<int>(FractionalResampler::kBlock), 0, nullptr,
+                        static_cast<int>(outputs.size()), outputs.data());
+}
+
 void SynthesizerLane::renderBlock(float* left, float* right)
 {
     constexpr std::size_t kBlock = FractionalResampler::kBlock;
@@ -162,9 +172,7 @@ void SynthesizerLane::renderBlock(float* left, float* right)
         ++silentBlocks_;
         return;
     }
-    std::array<float*, 2> outputs = {left, right};
-    fluid_synth_process(synth_.get(), static_cast<int>(kBlock), 0, nullptr,
-                        static_cast<int>(outputs.size()), outputs.data());
+    process(left, right);
     silentBlocks_ = 0;
 }
 

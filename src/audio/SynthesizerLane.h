@@ -70,7 +70,10 @@ private:
     void readControllers();
     void applyCents();
 
-    /// Writes the next block of the synthesizer.
+    /// Adds the next block of the synthesizer.
+    void process(float* left, float* right);
+
+    /// Writes the next block, or silence if there are no voices.
     void renderBlock(float* left, float* right);
 
     double divisor_; ///< The output's rate divided by the synthesizer's.
