@@ -1,5 +1,7 @@
 #pragma once
 
+#include "midi/MidiReceiver.h"
+#include "midi/messages.h"
 #include "sound/keys.h"
 
 #include <array>
@@ -17,17 +19,15 @@ using KeySource = std::size_t;
 constexpr KeySource kMouse = 0;
 constexpr KeySource kSequencer = 1;
 
-/// How many MIDI devices are told apart.
-constexpr std::size_t kKeyDevices = 16;
+constexpr KeySource kFirstDevice = 2;
 
 /// The number of sources.
-constexpr std::size_t kKeySources = 2 + kKeyDevices * 16;
+constexpr std::size_t kKeySources = kFirstDevice + kMidiDevices * midi::kChannels;
 
-/// The source for a channel, 0…15, of a MIDI device. Devices are numbered from 0; beyond
-/// kKeyDevices they share sources.
+/// The source for a channel, 0…15, of a MIDI device, 0…kMidiDevices − 1.
 constexpr KeySource deviceSource(std::size_t device, std::size_t channel)
 {
-    return 2 + (device % kKeyDevices) * 16 + channel;
+    return kFirstDevice + device * midi::kChannels + channel;
 }
 
 /// Knows who holds each key, by hand or with a pedal. A key sounds until nobody holds it.
