@@ -86,6 +86,7 @@ TEST_F(MidiLearnTest, ASliderLearnsTheNextController)
     QTest::keyClick(waiting(), Qt::Key_Escape);
     EXPECT_EQ(waiting(), nullptr);
     send({0xB2, 21, 64});
+    send({0xB2, 21, 63});
     EXPECT_EQ(volume.value(), 1000) << "Escape ends the waiting";
 
     choose(volume, "Learn MIDI Controller…");
@@ -141,8 +142,10 @@ TEST_F(MidiLearnTest, ButtonsLearnKeys)
     EXPECT_EQ(keys.pressTime(36), 0.0) << "no key sounded";
     send({0x90, 60, 127});
     EXPECT_NE(keys.state(60), 0);
+    press(37);
     press(39);
     EXPECT_EQ(keys.state(60), 0);
+    EXPECT_EQ(transport.mode(), Transport::Mode::Stopped) << "silence stops the sequence too";
     window->closeWithoutAsking();
 }
 
