@@ -55,6 +55,7 @@ void MidiPane::read()
     const std::vector<KnownDevice> devices = application_.midiDevices().devices();
     hint_->setVisible(devices.empty());
     std::vector<std::pair<std::string, bool>> names;
+    names.reserve(devices.size());
     for (const KnownDevice& device : devices)
         names.emplace_back(device.name, device.isConnected);
     if (names == shown_) // only this pane changes the settings
