@@ -10,7 +10,7 @@ namespace velmora {
 
 namespace {
 
-constexpr double kRate = 48000.0;
+constexpr double kOutputRate = 48000.0;
 constexpr double kBegin = 1000.0; ///< When the first frame is due.
 
 /// A stop of steady samples, so that the level shows what sounds.
@@ -20,7 +20,7 @@ protected:
     {
         InstrumentStop& stop = organ_.appendStop("");
         stop.volume = 1.0F;
-        const Pcm steady{std::vector<std::int16_t>(std::size_t{10} * 48000, 16384), 1, kRate};
+        const Pcm steady{std::vector<std::int16_t>(std::size_t{10} * 48000, 16384), 1, kOutputRate};
         for (std::size_t key = 0; key < kKeys; ++key) {
             auto& sound = organ_.sounds[std::to_string(key % sounds)];
             if (!sound)
@@ -34,13 +34,14 @@ protected:
     {
         Stereo sound(frames);
         inBlocks(sound, sizes, [&](float* left, float* right, std::size_t n) {
-            organ_.source()->render(left, right, n, kBegin + static_cast<double>(done_) / kRate);
+            organ_.source()->render(left, right, n,
+                                    kBegin + static_cast<double>(done_) / kOutputRate);
             done_ += n;
         });
         return sound.left;
     }
 
-    void dueAtFrame(double frame) { organ_.setDue(kBegin + frame / kRate); }
+    void dueAtFrame(double frame) { organ_.setDue(kBegin + frame / kOutputRate); }
 
     ALInstrument organ_;
     std::size_t done_ = 0;
