@@ -64,6 +64,7 @@ MeterReading Meters::read()
     reading.latency.input = application_.player().takeInputDelay();
     reading.latency.engine = engine.delay();
     reading.voices = engine.voices();
+    reading.savesWork = engine.savesWork();
     reading.load = engine.takeLoad();
     for (const auto& document : application_.instruments())
         if (const Instrument* instrument = document->instrument())
@@ -93,7 +94,8 @@ std::vector<std::pair<std::string, std::string>> describe(const MeterReading& re
                                                 ? static_cast<double>(reading.period) / reading.rate
                                                 : 0.0))},
         {"From MIDI to sound", describeLatency(reading.latency)},
-        {"Voices", fmt::format("{}", reading.voices)},
+        {"Voices", fmt::format("{}{}", reading.voices,
+                               reading.savesWork ? ", released keys are shortened" : "")},
         {"Load", fmt::format("{:.0f} % of the period, at worst {:.0f} %", 100.0 * reading.load.mean,
                              100.0 * reading.load.worst)},
         {"Lost periods", describeLosses(reading)},

@@ -34,6 +34,7 @@ struct MeterReading {
     std::size_t period = 0; ///< In frames.
     Latency latency;
     std::size_t voices = 0;
+    bool savesWork = false; ///< Released keys end sooner, because the load is high.
     EngineLoad load;
     std::uint64_t lostPeriods = 0;
     std::optional<std::chrono::system_clock::time_point> lastLoss;

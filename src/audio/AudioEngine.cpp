@@ -84,6 +84,14 @@ std::size_t AudioEngine::voices() const
                            });
 }
 
+bool AudioEngine::savesWork() const
+{
+    return std::ranges::any_of(sources_, [](const std::atomic<AudioSource*>& slot) {
+        const AudioSource* source = slot.load();
+        return source != nullptr && source->savesWork();
+    });
+}
+
 std::array<float, 2> AudioEngine::takePeaks()
 {
     return {peaks_[0].exchange(0.0F), peaks_[1].exchange(0.0F)};

@@ -57,6 +57,9 @@ public:
     /// The voices of all sources. Must not be called while a source is removed.
     std::size_t voices() const override;
 
+    /// True if any source saves work. Must not be called while a source is removed.
+    bool savesWork() const override;
+
     void render(float* left, float* right, std::size_t frames, double start) override;
 
 private:

@@ -25,6 +25,9 @@ public:
     /// The number of voices that sound. May be called on any thread.
     virtual std::size_t voices() const { return 0; }
 
+    /// True while it saves work because the load is high. May be called on any thread.
+    virtual bool savesWork() const { return false; }
+
     /// Reports how much of the previous period rendering has taken, as a fraction of its length, so
     /// that the source can save work. Called on the audio thread before each period.
     virtual void setLoad(double /*load*/) {}

@@ -9,6 +9,8 @@
 
 #include <array>
 #include <cmath>
+#include <string_view>
+#include <vector>
 
 namespace velmora {
 
@@ -68,6 +70,17 @@ std::array<int, 13> attributesAt(double rate)
             0};
 }
 
+/// Returns OpenAL's number of its linear resampler.
+int linearResampler()
+{
+    const auto name = reinterpret_cast<LPALGETSTRINGISOFT>(alGetProcAddress("alGetStringiSOFT"));
+    const int count = name == nullptr ? 0 : alGetInteger(AL_NUM_RESAMPLERS_SOFT);
+    for (int i = 0; i < count; ++i)
+        if (std::string_view(name(AL_RESAMPLER_NAME_SOFT, i)) == "Linear")
+            return i;
+    return alGetInteger(AL_DEFAULT_RESAMPLER_SOFT);
+}
+
 void setListener()
 {
     constexpr std::array kAtAndUp = {0.0F, 0.0F, -1.0F, 0.0F, 1.0F, 0.0F};
@@ -114,6 +127,8 @@ std::unique_ptr<OpenALDevice> OpenALDevice::open(double rate)
     auto result = std::unique_ptr<OpenALDevice>(new OpenALDevice(device, context));
     const Scope scope(*result);
     setListener();
+    result->best_ = alGetInteger(AL_DEFAULT_RESAMPLER_SOFT);
+    result->linear_ = linearResampler();
     return result;
 }
 
@@ -133,6 +148,28 @@ void OpenALDevice::setRate(double rate)
     if (extensions().reset(device_, attributesAt(rate).data()) == ALC_FALSE)
         logger("audio").error("OpenAL cannot render at {:g} Hz (error {})", rate,
                               alcGetError(device_));
+}
+
+// OpenAL doubles its list of voices whenever a start finds no room behind all voices that have ever
+// been used, and allocates for changes that are on their way to voices. So as many as may sound are
+// started here once, silently, in a list that has room for a batch more, and one of them is
+// changed.
+void OpenALDevice::prepare(std::span<const unsigned> sources, std::size_t batch)
+{
+    std::vector<unsigned> started(sources.begin(), sources.end());
+    for (const unsigned source : started)
+        alSourcef(source, AL_GAIN, 0.0F);
+    started.resize(sources.size() + batch, sources.back());
+    alSourcePlayv(static_cast<ALsizei>(started.size()), started.data());
+    alSourcef(sources.front(), AL_GAIN, 0.0F);
+    std::array<float, 2> frame{};
+    render(frame.data(), 1);
+    alSourceStopv(static_cast<ALsizei>(sources.size()), sources.data());
+}
+
+void OpenALDevice::setResampler(unsigned source, Resampler resampler) const
+{
+    alSourcei(source, AL_SOURCE_RESAMPLER_SOFT, resampler == Resampler::Best ? best_ : linear_);
 }
 
 void OpenALDevice::render(float* interleaved, std::size_t frames)

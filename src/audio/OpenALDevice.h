@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 
 struct ALCcontext_struct;
 struct ALCdevice_struct;
@@ -36,6 +37,16 @@ public:
     /// Sets the rate in hertz. Must not be called while the device renders.
     void setRate(double rate);
 
+    /// Makes room for the voices of `sources`, of which up to `batch` are started at once, so that
+    /// starting and rendering them neither allocates nor takes long. Their gains become 0. Needs
+    /// the scope, and buffers in the sources.
+    void prepare(std::span<const unsigned> sources, std::size_t batch);
+
+    enum class Resampler { Best, Linear };
+
+    /// Sets how a source is resampled. Needs the scope.
+    void setResampler(unsigned source, Resampler resampler) const;
+
     /// Writes the next `frames` frames, left and right samples in turn. The scope of the device is
     /// not needed.
     void render(float* interleaved, std::size_t frames);
@@ -45,6 +56,7 @@ private:
 
     ALCdevice_struct* device_;
     ALCcontext_struct* context_;
+    int best_ = 0, linear_ = 0; ///< OpenAL's numbers of the resamplers.
 };
 
 } // namespace velmora

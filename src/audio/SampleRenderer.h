@@ -67,6 +67,7 @@ public:
     // Meters, for any thread:
 
     std::size_t voices() const override;
+    bool savesWork() const override { return relief() != Relief::None; }
 
     /// How many of the voices have been released.
     std::size_t fading() const;

@@ -3,7 +3,6 @@
 #include "base/FormatError.h"
 
 #include <al.h>
-#include <alext.h>
 
 #include <algorithm>
 #include <cmath>
@@ -51,25 +50,11 @@ std::size_t stepAt(double rate)
     return static_cast<std::size_t>(std::max(kShortestStep, std::round(rate / kStepsPerSecond)));
 }
 
-/// Returns the number of OpenAL's linear resampler.
-int linearResampler()
-{
-    const auto name = reinterpret_cast<LPALGETSTRINGISOFT>(alGetProcAddress("alGetStringiSOFT"));
-    const int count = alGetInteger(AL_NUM_RESAMPLERS_SOFT);
-    for (int i = 0; name != nullptr && i < count; ++i)
-        if (std::string_view(name(AL_RESAMPLER_NAME_SOFT, i)) == "Linear")
-            return i;
-    return alGetInteger(AL_DEFAULT_RESAMPLER_SOFT);
-}
-
 } // namespace
 
 SampleVoices::SampleVoices(std::unique_ptr<OpenALDevice> device, double rate)
     : device_(std::move(device)), rate_(rate), step_(stepAt(rate))
 {
-    const auto here = scope();
-    best_ = alGetInteger(AL_DEFAULT_RESAMPLER_SOFT);
-    cheap_ = linearResampler();
 }
 
 std::uint32_t SampleVoices::add(unsigned buffer)
@@ -94,23 +79,22 @@ std::uint32_t SampleVoices::add(unsigned buffer)
     isPrepared_ = false;
     const std::uint32_t number = free_.back();
     free_.pop_back();
-    voices_[2 * number].source = sources[0];
-    voices_[2 * number + 1].source = sources[1];
+    for (std::uint32_t which = 0; which < 2; ++which)
+        voices_[indexOf(number, which)].source = sources[which];
     return number;
 }
 
 void SampleVoices::remove(std::uint32_t number)
 {
     const auto here = scope();
-    for (Voice* voice : {&voices_[2 * number], &voices_[2 * number + 1]}) {
-        alDeleteSources(1, &voice->source);
-        *voice = {};
+    for (std::uint32_t which = 0; which < 2; ++which) {
+        Voice& voice = voices_[indexOf(number, which)];
+        alDeleteSources(1, &voice.source);
+        voice = {};
     }
     free_.push_back(number);
 }
 
-// OpenAL enlarges its lists when more voices sound than ever before, which takes milliseconds. So
-// as many as may ever sound are started here once, silently.
 void SampleVoices::prepare()
 {
     if (std::exchange(isPrepared_, true))
@@ -128,14 +112,7 @@ void SampleVoices::prepare()
     starting_.reserve(2 * limit_);
     tails_.reserve(limit_);
     const auto here = scope();
-    for (const unsigned source : sources)
-        alSourcef(source, AL_GAIN, 0.0F);
-    std::vector<unsigned> started = sources;
-    started.resize(limit_ + kBatch, sources.back());
-    alSourcePlayv(static_cast<ALsizei>(started.size()), started.data());
-    alSourcef(sources[0], AL_GAIN, 0.0F); // one change on its way to each voice, and one to spare
-    device_->render(interleaved_.data(), 1);
-    alSourceStopv(static_cast<ALsizei>(limit_), sources.data());
+    device_->prepare(sources, kBatch);
     for (const unsigned source : sources)
         alSourcef(source, AL_GAIN, kFirstGain);
 }
@@ -305,7 +282,7 @@ void SampleVoices::start(const SampleEvent& event)
     voice.gain = event.gain;
     voice.pitch = event.pitch;
     voice.place = static_cast<std::uint32_t>(active_.size());
-    active_.push_back(2 * number + second_[number]);
+    active_.push_back(indexOf(number, second_[number]));
     alSourcef(voice.source, AL_GAIN, voice.gain);
     setPitch(voice);
     starting_.push_back(voice.source);
@@ -390,7 +367,8 @@ void SampleVoices::setCheap(Voice& voice, bool cheap)
     if (voice.isCheap == cheap)
         return;
     voice.isCheap = cheap;
-    alSourcei(voice.source, AL_SOURCE_RESAMPLER_SOFT, cheap ? cheap_ : best_);
+    device_->setResampler(voice.source,
+                          cheap ? OpenALDevice::Resampler::Linear : OpenALDevice::Resampler::Best);
 }
 
 } // namespace velmora

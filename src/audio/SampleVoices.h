@@ -44,7 +44,7 @@ public:
     void remove(std::uint32_t number);
 
     /// The first OpenAL source of a sample.
-    unsigned source(std::uint32_t number) const { return voices_[2 * number].source; }
+    unsigned source(std::uint32_t number) const { return voices_[indexOf(number, 0)].source; }
 
     /// Prepares for as many voices as may sound together, so that rendering neither allocates nor
     /// hesitates. Must be called after samples have been added.
@@ -85,7 +85,12 @@ private:
         std::uint64_t age = 0;   ///< Voices that have changed their phase before.
     };
 
-    Voice& current(std::uint32_t number) { return voices_[2 * number + second_[number]]; }
+    static std::uint32_t indexOf(std::uint32_t number, std::uint32_t which)
+    {
+        return 2 * number + which;
+    }
+
+    Voice& current(std::uint32_t number) { return voices_[indexOf(number, second_[number])]; }
     void apply(const SampleEvent& event);
     void start(const SampleEvent& event);
     void release(Voice& voice);
@@ -112,7 +117,6 @@ private:
     std::vector<double> dues_;         ///< By sample: when its last event was due.
     std::vector<std::uint32_t> free_;  ///< Numbers of removed samples.
 
-    int best_ = 0, cheap_ = 0; ///< The numbers of OpenAL's resamplers.
     bool isPrepared_ = true;
     std::size_t limit_ = 0;             ///< The number of voices that may sound together.
     std::vector<std::uint32_t> active_; ///< The voices that sound.
