@@ -35,6 +35,10 @@ public:
     /// Begins to play `source`. Called once.
     virtual void start(AudioSource& source) = 0;
 
+    /// Connects to the device if it has come back and the driver does not do so itself. Called now
+    /// and then on the thread that opened the output.
+    virtual void reconnect() {}
+
     /// "jack", "pulseaudio", "alsa" or "none".
     virtual const std::string& driver() const = 0;
 

@@ -103,11 +103,22 @@ public:
     {
         playback_->setSource(&source);
         jack_activate(client_->get());
-        const auto targets = playbackPorts(client_->get(), device_);
-        for (std::size_t i = 0; i < std::min(targets.size(), playback_->ports.size()); ++i)
-            jack_connect(client_->get(), jack_port_name(playback_->ports[i]), targets[i].c_str());
-        if (targets.empty())
-            logger("audio").warn("JACK has no playback ports; connect Velmora's ports yourself");
+        reconnect();
+    }
+
+    void reconnect() override
+    {
+        jack_client_t* jack = client_->get();
+        const auto exists = [jack](const std::string& port) {
+            return jack_port_by_name(jack, port.c_str()) != nullptr;
+        };
+        // The user may have disconnected ports that are still there. That is left as it is.
+        if (isLost() || (!targets_.empty() && std::ranges::all_of(targets_, exists)))
+            return;
+        targets_ = playbackPorts(jack, device_);
+        isDeviceMissing_ = targets_.empty() && !device_.empty();
+        for (std::size_t i = 0; i < std::min(targets_.size(), playback_->ports.size()); ++i)
+            jack_connect(jack, jack_port_name(playback_->ports[i]), targets_[i].c_str());
     }
 
     const std::string& driver() const override { return driver_; }
@@ -117,11 +128,11 @@ public:
     double latency() const override { return playback_->latency; }
     std::uint64_t periods() const override { return playback_->periods; }
     const LostPeriods& lostPeriods() const override { return playback_->lostPeriods; }
-    bool isLost() const override { return client_->isLost(); }
+    bool isLost() const override { return client_->isLost() || isDeviceMissing_; }
 
     bool canReach(const std::string& device) const override
     {
-        return !isLost() && !playbackPorts(client_->get(), device).empty();
+        return !client_->isLost() && !playbackPorts(client_->get(), device).empty();
     }
 
 private:
@@ -133,6 +144,8 @@ private:
 
     std::string driver_ = "jack", device_;
     double rate_;
+    std::vector<std::string> targets_; ///< The ports that were there when it was connected.
+    std::atomic<bool> isDeviceMissing_{false};
     std::shared_ptr<JackPlayback> playback_ = std::make_shared<JackPlayback>();
     std::unique_ptr<JackClient> client_;
 };

@@ -98,6 +98,7 @@ void OutputKeeper::run()
             openBest();
             retry = Clock::now() + kRetryInterval;
         } else if (Clock::now() >= retry) {
+            output_->reconnect();
             findBetter();
             retry = Clock::now() + kRetryInterval;
         }
