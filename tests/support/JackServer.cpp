@@ -89,15 +89,29 @@ void JackServer::restart()
     process_ = start();
 }
 
+bool JackServer::terminate()
+{
+    if (process_ <= 0)
+        return false;
+    kill(process_, SIGTERM);
+    for (int i = 0; i < 60; ++i) {
+        int status = 0;
+        if (waitpid(process_, &status, WNOHANG) != 0)
+            return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    crash();
+    return false;
+}
+
 void JackServer::stop()
 {
-    if (process_ > 0) {
-        kill(process_, SIGTERM);
-        for (int i = 0; i < 100 && waitpid(process_, nullptr, WNOHANG) == 0; ++i) {
-            if (i == 60)
-                kill(process_, SIGKILL);
-            std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        }
+    // A server that does not end properly leaves its name in a list of only eight. The next one of
+    // that name takes it over.
+    if (!terminate()) {
+        process_ = start();
+        std::this_thread::sleep_for(std::chrono::milliseconds(600));
+        terminate();
     }
     removeSemaphores(name_);
     unsetenv("JACK_DEFAULT_SERVER");

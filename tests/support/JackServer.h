@@ -30,6 +30,8 @@ public:
 
 private:
     pid_t start() const;
+    /// Returns false if the server did not end properly.
+    bool terminate();
     void stop();
 
     std::string name_;

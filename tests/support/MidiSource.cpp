@@ -8,15 +8,16 @@
 namespace velmora {
 
 MidiSource::MidiSource(const std::string& client, const std::vector<std::string>& ports)
-    : client_(jack_client_open(client.c_str(), JackNoStartServer, nullptr), jack_client_close)
+    : client_(JackClient::open(client))
 {
     if (!client_)
         throw std::runtime_error("no JACK server");
+    jack_client_t* jack = client_->get();
     for (const std::string& port : ports)
-        ports_.push_back(jack_port_register(client_.get(), port.c_str(), JACK_DEFAULT_MIDI_TYPE,
-                                            JackPortIsOutput, 0));
-    jack_set_process_callback(client_.get(), process, this);
-    jack_activate(client_.get());
+        ports_.push_back(
+            jack_port_register(jack, port.c_str(), JACK_DEFAULT_MIDI_TYPE, JackPortIsOutput, 0));
+    jack_set_process_callback(jack, process, this);
+    jack_activate(jack);
 }
 
 void MidiSource::send(std::size_t port, std::vector<std::uint8_t> message, jack_nframes_t frame)

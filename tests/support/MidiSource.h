@@ -1,6 +1,6 @@
 #pragma once
 
-#include <jack/jack.h>
+#include "platform/JackClient.h"
 
 #include <cstdint>
 #include <memory>
@@ -35,8 +35,7 @@ private:
     std::mutex mutex_;
     std::vector<Message> messages_; ///< Waiting to be sent.
     std::vector<jack_port_t*> ports_;
-    std::unique_ptr<jack_client_t, int (*)(jack_client_t*)>
-        client_; ///< Last, because closing it stops the thread.
+    std::unique_ptr<JackClient> client_; ///< Last, because closing it stops the thread.
 };
 
 } // namespace velmora
