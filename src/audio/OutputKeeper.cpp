@@ -15,8 +15,8 @@ using namespace std::chrono_literals;
 constexpr auto kWatchInterval = 100ms;
 constexpr auto kRetryInterval = 500ms;
 
-/// The longest time between two periods of an output that is not stuck. A sink of PulseAudio may let
-/// a new stream wait for two seconds.
+/// The longest time between two periods of an output that is not stuck. A sink of PulseAudio may
+/// let a new stream wait for two seconds.
 constexpr auto kStuck = 3s;
 
 constexpr const char* kNone = "none";

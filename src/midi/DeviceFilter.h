@@ -9,8 +9,8 @@
 
 namespace velmora {
 
-/// What the user has chosen for a MIDI device.
-struct DeviceSettings {
+/// What the user has chosen for a MIDI device. Its alignment lets the processor exchange it whole.
+struct alignas(4) DeviceSettings {
     std::int16_t keyOffset = 0; ///< In semitones.
     std::int8_t channel = 0;    ///< The only channel to listen to, 1…16, or 0 for all.
     bool isOn = true;

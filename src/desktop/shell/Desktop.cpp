@@ -34,8 +34,8 @@ constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
 
 Desktop::Desktop()
     : commands_(application_), keyboardWindow_(application_, commands_),
-      instrumentPanel_(application_), instrumentsWindow_(application_),
-      metersWindow_(application_), sequenceWindows_(application_, commands_, keyboardWindow_.keyboard())
+      instrumentPanel_(application_), instrumentsWindow_(application_), metersWindow_(application_),
+      sequenceWindows_(application_, commands_, keyboardWindow_.keyboard())
 {
     connectCommands();
     connectProgress();
