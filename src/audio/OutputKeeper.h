@@ -29,7 +29,7 @@ struct OutputStatus {
 
 /// Keeps sound playing. While the wanted output is missing, the next best one plays, and the keeper
 /// goes on looking for what is wanted. If the user leaves the choice to the program, the first
-/// output that is found is the wanted one. See docs/decisions.md, 138.
+/// output that is found is the wanted one. See docs/decisions.md, 140.
 class OutputKeeper {
 public:
     struct Callbacks {
