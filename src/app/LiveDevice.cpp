@@ -66,8 +66,8 @@ void LiveDevice::setSostenuto(bool isDown, int channel)
 
 void LiveDevice::setSoft(bool isDown)
 {
-    isSoft_ = isDown;
-    application_.player().setSoft(isDown);
+    if (isSoft_.exchange(isDown) != isDown)
+        application_.player().setSoft(isDown);
 }
 
 void LiveDevice::bend(double cents)

@@ -27,7 +27,7 @@ void Player::setInstrument(Instrument& instrument)
         instruments_.push_back({&instrument, {}});
     instrument_ = &instrument;
     instrument_->bend(bend_);
-    instrument_->setSoft(soft_);
+    instrument_->setSoft(softPedals_ > 0);
     if (temperament_ != nullptr)
         instrument_->tune(*temperament_, 0, kLastKey);
 }
@@ -93,9 +93,9 @@ void Player::setSostenuto(KeySource source, bool down, double time)
 void Player::setSoft(bool soft)
 {
     const std::lock_guard lock(mutex_);
-    soft_ = soft;
+    softPedals_ += soft ? 1 : -1;
     if (instrument_ != nullptr)
-        instrument_->setSoft(soft);
+        instrument_->setSoft(softPedals_ > 0);
 }
 
 void Player::bend(double cents, double time)

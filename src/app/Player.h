@@ -67,7 +67,7 @@ public:
     void setSustain(KeySource source, bool down, double time);
     void setSostenuto(KeySource source, bool down, double time);
 
-    /// Presses or releases the soft pedal.
+    /// Presses or releases one soft pedal. Notes are soft while any is down.
     void setSoft(bool soft);
 
     /// Shifts every key by `cents`.
@@ -111,8 +111,8 @@ private:
     KeyHolders holders_;
     LiveKeys liveKeys_;
     std::atomic<double> inputDelay_{0.0};
-    double bend_ = 0.0; ///< In cents.
-    bool soft_ = false;
+    double bend_ = 0.0;  ///< In cents.
+    int softPedals_ = 0; ///< How many are down.
 };
 
 } // namespace velmora

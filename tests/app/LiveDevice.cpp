@@ -88,6 +88,13 @@ TEST_F(LiveDeviceTest, SostenutoHoldsOnlyTheKeysThatWereDown)
         << "a reset lifts it";
 }
 
+TEST_F(LiveDeviceTest, NotesAreSoftWhileAnyDeviceHoldsItsSoftPedal)
+{
+    EXPECT_EQ(send({{0xB0, 67, 127}, {0xB1, 67, 127}}), Calls{"soft"});
+    EXPECT_EQ(send(second_, {{0xB0, 67, 127}, {0xB0, 67, 0}}), (Calls{"soft", "soft"}));
+    EXPECT_EQ(send({{0xB0, 67, 0}, {0xB1, 67, 0}}), Calls{"not soft"});
+}
+
 TEST_F(LiveDeviceTest, TheWheelBendsBothKindsOfInstrumentByItsRange)
 {
     constexpr std::size_t kRate = 48000;
