@@ -91,6 +91,12 @@ void Desktop::connectCommands()
     });
     connect(commands_.transposeUp, &QAction::triggered, this, [this] { transpose(1); });
     connect(commands_.transposeDown, &QAction::triggered, this, [this] { transpose(-1); });
+    const auto allowTransposing = [this] {
+        for (QAction* action : {commands_.transposeUp, commands_.transposeDown})
+            action->setEnabled(!application_.playing().settings().isPlain);
+    };
+    connect(&application_.playing(), &PlayingOptions::changed, this, allowTransposing);
+    allowTransposing();
     // The windows are not closed one by one, so that the open ones are reopened next time.
     connect(commands_.quit, &QAction::triggered, this, [this] {
         if (sequenceWindows_.closeAll())

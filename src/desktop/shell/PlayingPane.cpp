@@ -29,7 +29,7 @@ PlayingPane::PlayingPane()
     });
     bendRange_->setPrefix("±");
     plain_->setObjectName("PlainReading");
-    plain_->setToolTip(tr("Only notes and volumes count: no pedals, wheels, programs and learned "
+    plain_->setToolTip(tr("Only notes and volumes count: no pedals, wheels, programs or learned "
                           "controllers, no touch and no transposition"));
     connect(plain_, &QCheckBox::toggled, this, [this](bool isOn) {
         setPrefBool("PlainReading", isOn);

@@ -1,5 +1,6 @@
 #include "desktop/shell/PreferencesWindow.h"
 
+#include "app/AppDelegate.h"
 #include "desktop/shell/MidiPane.h"
 #include "desktop/shell/PlayingPane.h"
 #include "desktop/shell/SoundPane.h"
@@ -111,6 +112,7 @@ QWidget* PreferencesWindow::makeMidiPane(AppDelegate& application)
     auto* playing = new PlayingPane;
     readers_.emplace_back([playing] { playing->read(); });
     connect(playing, &PlayingPane::changed, this, &PreferencesWindow::changed);
+    connect(&application.playing(), &PlayingOptions::changed, playing, &PlayingPane::read);
 
     auto* pane = new QWidget;
     auto* layout = new QVBoxLayout(pane);

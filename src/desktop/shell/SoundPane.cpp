@@ -135,6 +135,7 @@ void SoundPane::read()
 {
     fillChoices();
     volume_->setValue(getPrefInt("MasterVolume"));
+    setVolume(volume_->value()); // also if that is where the slider was
     showStatus();
 }
 

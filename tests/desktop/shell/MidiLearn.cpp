@@ -152,6 +152,8 @@ TEST_F(MidiLearnTest, ButtonsLearnKeys)
 TEST_F(MidiLearnTest, ThePanelAndThePreferencesShowTheSameSettings)
 {
     auto& preferences = desktop.preferencesWindow();
+    preferences.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&preferences));
     const auto* transposition = desktop.instrumentPanel().findChild<QLabel*>("Transposition");
     preferences.findChild<QSpinBox*>("Transposition")->setValue(3);
     EXPECT_EQ(transposition->text(), "+3");
@@ -164,16 +166,18 @@ TEST_F(MidiLearnTest, ThePanelAndThePreferencesShowTheSameSettings)
     auto& touch = *desktop.instrumentPanel().findChild<QComboBox*>("VelocityCurve");
     touch.setFocus();
     QTest::keyClick(&touch, Qt::Key_End);
-    preferences.show();
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-        return preferences.findChild<QSpinBox*>("Transposition")->value() == -1 &&
-               preferences.findChild<QComboBox*>("VelocityCurve")->currentIndex() == 3;
-    }));
+    EXPECT_EQ(preferences.findChild<QSpinBox*>("Transposition")->value(), -1);
+    EXPECT_EQ(preferences.findChild<QComboBox*>("VelocityCurve")->currentIndex(), 3);
     send({0xC0, 19});
     EXPECT_EQ(desktop.instrumentPanel().findChild<QComboBox*>()->currentText().toStdString(),
               "20 Church Organ");
     preferences.findChild<QAbstractButton*>("PlainReading")->click();
     EXPECT_FALSE(touch.isEnabled()) << "the plain reading ignores the touch";
+    desktop.keyboardWindow().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
+    QTest::keyClick(&desktop.keyboardWindow(), Qt::Key_Down,
+                    Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(transposition->text(), "−1");
     send({0x90, 60, 127});
     EXPECT_NE(desktop.application().player().liveKeys().state(60), 0) << "and the transposition";
 }
