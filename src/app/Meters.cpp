@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/sizeString.h"
+#include "audio/outputDrivers.h"
 #include "base/Clock.h"
 
 #include <spdlog/fmt/chrono.h>
@@ -53,7 +54,8 @@ MeterReading Meters::read()
     AudioEngine& engine = application_.engine();
     if (const OutputKeeper* keeper = application_.output()) {
         const OutputStatus output = keeper->status();
-        reading.output = output.driver + (output.device.empty() ? "" : ", " + output.device);
+        reading.output =
+            driverTitle(output.driver) + (output.device.empty() ? "" : ", " + output.device);
         reading.rate = output.rate;
         reading.period = output.period;
         reading.latency.server = output.latency;

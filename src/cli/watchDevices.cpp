@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QTimer>
 #include <nlohmann/json.hpp>
+#include <spdlog/fmt/chrono.h>
 #include <spdlog/fmt/fmt.h>
 
 #include <cstdio>
@@ -21,6 +22,10 @@ nlohmann::ordered_json toJson(const MeterReading& reading)
     nlohmann::ordered_json devices = nlohmann::ordered_json::object();
     for (const auto& [name, rate] : reading.devices)
         devices[name] = rate;
+    nlohmann::ordered_json lastLoss; // null if no period was lost
+    if (reading.lastLoss)
+        lastLoss = fmt::format(
+            "{:%FT%TZ}", fmt::gmtime(std::chrono::system_clock::to_time_t(*reading.lastLoss)));
     return {{"output", reading.output},
             {"rate", reading.rate},
             {"periodFrames", reading.period},
@@ -28,9 +33,12 @@ nlohmann::ordered_json toJson(const MeterReading& reading)
             {"engineSeconds", reading.latency.engine},
             {"serverSeconds", reading.latency.server},
             {"voices", reading.voices},
+            {"savesWork", reading.savesWork},
             {"meanLoad", reading.load.mean},
             {"worstLoad", reading.load.worst},
             {"lostPeriods", reading.lostPeriods},
+            {"lastLoss", lastLoss},
+            {"memoryBytes", reading.memory},
             {"messagesPerSecond", devices}};
 }
 

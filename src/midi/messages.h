@@ -20,7 +20,6 @@ constexpr std::uint8_t kChannelMask = 0x0F;
 // Kinds of channel messages, to be combined with a channel.
 constexpr std::uint8_t kNoteOff = 0x80;
 constexpr std::uint8_t kNoteOn = 0x90; ///< With velocity 0 it releases the key.
-constexpr std::uint8_t kPolyphonicPressure = 0xA0;
 constexpr std::uint8_t kControlChange = 0xB0;
 constexpr std::uint8_t kProgramChange = 0xC0;   ///< One data byte.
 constexpr std::uint8_t kChannelPressure = 0xD0; ///< One data byte.
