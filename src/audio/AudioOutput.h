@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace velmora {
@@ -61,11 +62,15 @@ public:
     /// How often sound was interrupted because a period came too late.
     virtual const LostPeriods& lostPeriods() const = 0;
 
-    /// True once the sound server or the device is gone.
+    /// True once the sound server or the device is gone or has another rate.
     virtual bool isLost() const = 0;
 
-    /// Returns false if the driver is known to lack a device of that name at the moment.
-    virtual bool canReach(const std::string& /*device*/) const { return true; }
+    /// Returns whether the driver has a device of that name at the moment, or nothing if only
+    /// opening the device shows it, which does not disturb this output.
+    virtual std::optional<bool> canReach(const std::string& /*device*/) const
+    {
+        return std::nullopt;
+    }
 };
 
 } // namespace velmora

@@ -33,6 +33,7 @@ std::vector<std::string> playbackPorts(jack_client_t* jack, const std::string& c
 struct JackPlayback : Playback {
     jack_client_t* client = nullptr;
     std::array<jack_port_t*, 2> ports{};
+    std::atomic<jack_nframes_t> rate{0};
 };
 
 int processPeriod(jack_nframes_t frames, void* data)
@@ -49,6 +50,13 @@ int processPeriod(jack_nframes_t frames, void* data)
 int changePeriod(jack_nframes_t frames, void* data)
 {
     static_cast<JackPlayback*>(data)->period = frames;
+    return 0;
+}
+
+/// PipeWire's server may change its rate at any time.
+int changeRate(jack_nframes_t rate, void* data)
+{
+    static_cast<JackPlayback*>(data)->rate = rate;
     return 0;
 }
 
@@ -78,9 +86,11 @@ public:
         playback_->client = jack;
         playback_->ports = {registerPort("left"), registerPort("right")};
         playback_->period = jack_get_buffer_size(jack);
+        playback_->rate = rate_;
         client_->keep(playback_);
         jack_set_process_callback(jack, processPeriod, playback_.get());
         jack_set_buffer_size_callback(jack, changePeriod, playback_.get());
+        jack_set_sample_rate_callback(jack, changeRate, playback_.get());
         jack_set_xrun_callback(jack, countLostPeriod, playback_.get());
         jack_set_latency_callback(jack, changeLatency, playback_.get());
     }
@@ -128,9 +138,12 @@ public:
     double latency() const override { return playback_->latency; }
     std::uint64_t periods() const override { return playback_->periods; }
     const LostPeriods& lostPeriods() const override { return playback_->lostPeriods; }
-    bool isLost() const override { return client_->isLost() || isDeviceMissing_; }
+    bool isLost() const override
+    {
+        return client_->isLost() || isDeviceMissing_ || playback_->rate != rate_;
+    }
 
-    bool canReach(const std::string& device) const override
+    std::optional<bool> canReach(const std::string& device) const override
     {
         return !client_->isLost() && !playbackPorts(client_->get(), device).empty();
     }
@@ -143,7 +156,7 @@ private:
     }
 
     std::string driver_ = "jack", device_;
-    double rate_;
+    const jack_nframes_t rate_;
     std::vector<std::string> targets_; ///< The ports that were there when it was connected.
     std::atomic<bool> isDeviceMissing_{false};
     std::shared_ptr<JackPlayback> playback_ = std::make_shared<JackPlayback>();

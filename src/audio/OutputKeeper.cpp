@@ -156,10 +156,13 @@ void OutputKeeper::openBest()
 void OutputKeeper::findBetter()
 {
     for (std::size_t i = 0; i < playing_; ++i) {
-        if (candidates_[i].driver == output_->driver()) {
-            if (!output_->canReach(candidates_[i].device))
-                continue;
-            openBest(); // two outputs of one driver might be in each other's way
+        const auto canReach = candidates_[i].driver == output_->driver()
+                                  ? output_->canReach(candidates_[i].device)
+                                  : std::nullopt;
+        if (canReach == false)
+            continue;
+        if (canReach == true) {
+            openBest(); // the two outputs would be in each other's way
             return;
         }
         if (auto output = AudioOutput::open(candidates_[i])) {
