@@ -109,6 +109,9 @@ void AudioEngine::render(float* left, float* right, std::size_t frames, double s
     const bool isLive = start != kOffline;
     const double began = isLive ? getTime() : 0.0;
     ++blocks_;
+    for (const auto& slot : sources_)
+        if (AudioSource* source = slot.load())
+            source->setLoad(load_);
     for (std::size_t done = 0; done < frames;) {
         const std::size_t length = std::min(kBlock, frames - done);
         const double late = static_cast<double>(frames - done) / rate_;
@@ -130,7 +133,6 @@ void AudioEngine::mix(float* left, float* right, std::size_t frames, double star
         AudioSource* source = slot.load();
         if (source == nullptr)
             continue;
-        source->setLoad(load_);
         source->render(left_.data(), right_.data(), frames, start);
         for (std::size_t i = 0; i < frames; ++i) {
             left[i] += left_[i];
@@ -159,7 +161,7 @@ void AudioEngine::measure(double seconds, std::size_t frames)
 {
     load_ = seconds * rate_ / static_cast<double>(frames);
     raise(worstLoad_, load_);
-    loadSum_ = loadSum_ + load_;
+    loadSum_ += load_;
     ++loads_;
 }
 

@@ -25,10 +25,12 @@ public:
     }
 
     void setRate(double newRate) override { rate = newRate; }
+    void setLoad(double /*load*/) override { ++loads; }
 
     float level = 0.0F;
     bool showsTime = false;
     double rate = 0.0;
+    int loads = 0;
 };
 
 } // namespace
@@ -46,6 +48,7 @@ TEST(AudioEngine, RendersLiveSoundOnePeriodLate)
     for (std::size_t i = delay; i < left.size(); ++i)
         ASSERT_NEAR(left[i], start + (static_cast<double>(i - delay) - 3000.0) / kEngineRate, 1e-6)
             << i;
+    EXPECT_EQ(ramp.loads, 1) << "work is saved once in a period";
 }
 
 TEST(AudioEngine, MixesItsSourcesBelowTheLimit)
