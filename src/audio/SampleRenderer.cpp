@@ -34,7 +34,7 @@ constexpr double kLowLoad = 0.5;
 
 SampleRenderer::SampleRenderer() : rate_(kFirstRate), queue_(kQueued)
 {
-    pending_.reserve(kQueued);
+    pending_.reserve(kQueued + 1); // and the end after an overrun
     busy_.reserve(kMaximumDevices);
 }
 
@@ -116,15 +116,16 @@ void SampleRenderer::render(float* left, float* right, std::size_t frames, doubl
 void SampleRenderer::receive()
 {
     const bool isOverrun = isOverrun_.exchange(false);
+    if (isOverrun)
+        take({});
     while (const SampleEvent* event = queue_.front()) {
-        if (!isOverrun && pending_.size() == kQueued)
+        if (pending_.size() >= kQueued)
             break;
-        if (!isOverrun)
+        // A bend that is overlooked would leave every key out of tune.
+        if (!isOverrun || event->kind == SampleEvent::Kind::Bend)
             take(*event);
         queue_.pop();
     }
-    if (isOverrun)
-        take({});
 }
 
 void SampleRenderer::take(const SampleEvent& event)
