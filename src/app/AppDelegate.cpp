@@ -148,10 +148,10 @@ void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
 {
     if (document->instrument() == nullptr)
         return;
-    instruments_.push_back(std::move(document));
-    InstrumentDocument& added = *instruments_.back();
-    if (AudioSource* source = added.instrument()->source())
+    if (AudioSource* source = document->instrument()->source())
         engine_.add(*source);
+    instruments_.push_back(std::move(document));
+    const InstrumentDocument& added = *instruments_.back();
     setInstrument(*added.instrument(), added.name());
     emit instrumentsChanged();
 }
