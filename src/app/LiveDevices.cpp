@@ -43,7 +43,7 @@ std::vector<KnownDevice> LiveDevices::devices() const
     for (const auto& [name, settings] : settings_)
         known[name].settings = settings;
     for (const auto& slot : slots_)
-        if (slot && (slot->isConnected || settings_.contains(slot->name)))
+        if (slot && slot->isConnected)
             known[slot->name] = {slot->name, slot->isConnected, slot->messages,
                                  slot->filter.settings()};
     std::vector<KnownDevice> devices;

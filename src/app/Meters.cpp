@@ -8,6 +8,7 @@
 #include <spdlog/fmt/chrono.h>
 #include <spdlog/fmt/fmt.h>
 
+#include <algorithm>
 #include <ctime>
 
 namespace velmora {
@@ -78,8 +79,10 @@ MeterReading Meters::read()
             continue;
         // The first reading of a device has nothing to compare with.
         const auto before = lastMessages_.try_emplace(device.name, device.messages).first;
+        // One that has returned may count from the beginning.
         const std::uint64_t messages =
-            device.messages - std::exchange(before->second, device.messages);
+            device.messages -
+            std::min(std::exchange(before->second, device.messages), device.messages);
         reading.devices.push_back({device.name, static_cast<double>(messages) / (now - lastTime_)});
     }
     lastTime_ = now;
