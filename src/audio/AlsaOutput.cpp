@@ -124,7 +124,9 @@ std::optional<std::vector<OutputDevice>> alsaDevices()
         const std::string name = attribute(*hint, "NAME");
         std::string title = attribute(*hint, "DESC");
         std::replace(title.begin(), title.end(), '\n', ' ');
-        if (name != "null" && attribute(*hint, "IOID") != "Input")
+        // The other names are plug-ins, which exist without a card.
+        const bool isCard = name == "default" || name.find(":CARD=") != std::string::npos;
+        if (isCard && attribute(*hint, "IOID") != "Input")
             devices.push_back({name, title.empty() ? name : title});
     }
     snd_device_name_free_hint(hints);

@@ -36,6 +36,7 @@ constexpr std::array<Driver, 4> kDrivers = {{
 std::vector<std::string> outputDrivers()
 {
     std::vector<std::string> names;
+    names.reserve(kDrivers.size());
     for (const Driver& driver : kDrivers)
         names.emplace_back(driver.name);
     return names;

@@ -197,6 +197,9 @@ int run(CLI::App& program, int argc, char** argv)
     program.parse(argc, argv);
     if (program.get_subcommands().empty())
         return runWindows(argc, argv, arguments);
+    for (const char* option : {"--plain", "--output", "--period"})
+        if (program.count(option) > 0)
+            throw CLI::ValidationError(option, "must follow the command");
 
     const QCoreApplication application(argc, argv);
     arguments.selection.instrument = arguments.instrument;

@@ -138,6 +138,7 @@ TEST_F(CommandLine, ReportsErrorsInOneSentence)
         EXPECT_EQ(result.out, "") << sentence;
         EXPECT_TRUE(code == 2 || std::ranges::count(result.error, '\n') == 1) << result.error;
     }
+    EXPECT_THAT(run({"--plain", "info", "song.mid"}).error, HasSubstr("must follow the command"));
     EXPECT_EQ(files(), before) << "no file is left behind";
 }
 
