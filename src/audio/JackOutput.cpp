@@ -76,42 +76,42 @@ void changeLatency(jack_latency_callback_mode_t mode, void* data)
     playback.latency = range.max / static_cast<double>(jack_get_sample_rate(playback.client));
 }
 
-class JackOutput : public AudioOutput {
+class JackOutput : public PlaybackOutput<JackPlayback> {
 public:
     JackOutput(std::unique_ptr<JackClient> client, const OutputSettings& settings)
-        : device_(settings.device), rate_(jack_get_sample_rate(client->get())),
+        : PlaybackOutput("jack", settings.device, jack_get_sample_rate(client->get())),
           client_(std::move(client))
     {
         jack_client_t* jack = client_->get();
-        playback_->client = jack;
-        playback_->ports = {registerPort("left"), registerPort("right")};
-        playback_->period = jack_get_buffer_size(jack);
-        playback_->rate = rate_;
-        client_->keep(playback_);
-        jack_set_process_callback(jack, processPeriod, playback_.get());
-        jack_set_buffer_size_callback(jack, changePeriod, playback_.get());
-        jack_set_sample_rate_callback(jack, changeRate, playback_.get());
-        jack_set_xrun_callback(jack, countLostPeriod, playback_.get());
-        jack_set_latency_callback(jack, changeLatency, playback_.get());
+        playback().client = jack;
+        playback().ports = {registerPort("left"), registerPort("right")};
+        playback().period = jack_get_buffer_size(jack);
+        playback().rate = jack_get_sample_rate(jack);
+        client_->keep(sharedPlayback());
+        jack_set_process_callback(jack, processPeriod, &playback());
+        jack_set_buffer_size_callback(jack, changePeriod, &playback());
+        jack_set_sample_rate_callback(jack, changeRate, &playback());
+        jack_set_xrun_callback(jack, countLostPeriod, &playback());
+        jack_set_latency_callback(jack, changeLatency, &playback());
     }
 
-    ~JackOutput() override { playback_->setSource(nullptr); }
+    ~JackOutput() override { playback().setSource(nullptr); }
 
     bool hasPorts() const
     {
-        return playback_->ports[0] != nullptr && playback_->ports[1] != nullptr;
+        return playback().ports[0] != nullptr && playback().ports[1] != nullptr;
     }
 
     void setPeriod(std::size_t frames)
     {
         const auto period = static_cast<jack_nframes_t>(frames);
-        if (frames != playback_->period && jack_set_buffer_size(client_->get(), period) != 0)
+        if (frames != playback().period && jack_set_buffer_size(client_->get(), period) != 0)
             logger("audio").warn("JACK does not accept a period of {} frames", frames);
     }
 
     void start(AudioSource& source) override
     {
-        playback_->setSource(&source);
+        playback().setSource(&source);
         jack_activate(client_->get());
         reconnect();
     }
@@ -125,22 +125,15 @@ public:
         // The user may have disconnected ports that are still there. That is left as it is.
         if (isLost() || (!targets_.empty() && std::ranges::all_of(targets_, exists)))
             return;
-        targets_ = playbackPorts(jack, device_);
-        isDeviceMissing_ = targets_.empty() && !device_.empty();
-        for (std::size_t i = 0; i < std::min(targets_.size(), playback_->ports.size()); ++i)
-            jack_connect(jack, jack_port_name(playback_->ports[i]), targets_[i].c_str());
+        targets_ = playbackPorts(jack, device());
+        isDeviceMissing_ = targets_.empty() && !device().empty();
+        for (std::size_t i = 0; i < std::min(targets_.size(), playback().ports.size()); ++i)
+            jack_connect(jack, jack_port_name(playback().ports[i]), targets_[i].c_str());
     }
 
-    const std::string& driver() const override { return driver_; }
-    const std::string& device() const override { return device_; }
-    double rate() const override { return rate_; }
-    std::size_t period() const override { return playback_->period; }
-    double latency() const override { return playback_->latency; }
-    std::uint64_t periods() const override { return playback_->periods; }
-    const LostPeriods& lostPeriods() const override { return playback_->lostPeriods; }
     bool isLost() const override
     {
-        return client_->isLost() || isDeviceMissing_ || playback_->rate != rate_;
+        return client_->isLost() || isDeviceMissing_ || playback().rate != rate();
     }
 
     std::optional<bool> canReach(const std::string& device) const override
@@ -155,11 +148,8 @@ private:
                                   0);
     }
 
-    std::string driver_ = "jack", device_;
-    const jack_nframes_t rate_;
     std::vector<std::string> targets_; ///< The ports that were there when it was connected.
     std::atomic<bool> isDeviceMissing_{false};
-    std::shared_ptr<JackPlayback> playback_ = std::make_shared<JackPlayback>();
     std::unique_ptr<JackClient> client_;
 };
 

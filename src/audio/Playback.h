@@ -1,12 +1,14 @@
 #pragma once
 
-#include "audio/AudioSource.h"
-#include "audio/LostPeriods.h"
+#include "audio/AudioOutput.h"
 
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <mutex>
+#include <string>
+#include <utility>
 
 namespace velmora {
 
@@ -29,6 +31,35 @@ public:
 private:
     std::mutex mutex_;
     AudioSource* source_ = nullptr;
+};
+
+/// An output that tells about itself what its playback, a kind of `Playback`, has counted.
+template <class Kind> class PlaybackOutput : public AudioOutput {
+public:
+    const std::string& driver() const override { return driver_; }
+    const std::string& device() const override { return device_; }
+    double rate() const override { return rate_; }
+    std::size_t period() const override { return playback_->period; }
+    double latency() const override { return playback_->latency; }
+    std::uint64_t periods() const override { return playback_->periods; }
+    const LostPeriods& lostPeriods() const override { return playback_->lostPeriods; }
+
+protected:
+    PlaybackOutput(std::string driver, std::string device, double rate)
+        : driver_(std::move(driver)), device_(std::move(device)), rate_(rate)
+    {
+    }
+
+    Kind& playback() { return *playback_; }
+    const Kind& playback() const { return *playback_; }
+
+    /// The playback, to be shared with its thread.
+    const std::shared_ptr<Kind>& sharedPlayback() const { return playback_; }
+
+private:
+    std::string driver_, device_;
+    double rate_;
+    std::shared_ptr<Kind> playback_ = std::make_shared<Kind>();
 };
 
 } // namespace velmora

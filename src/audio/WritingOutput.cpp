@@ -73,19 +73,19 @@ void playThrough(WritingPlayback& playback)
     }
 }
 
-class WritingOutput : public AudioOutput {
+class WritingOutput : public PlaybackOutput<WritingPlayback> {
 public:
     WritingOutput(std::string driver, std::string device, std::unique_ptr<SoundWriter> writer)
-        : driver_(std::move(driver)), device_(std::move(device)), rate_(writer->rate())
+        : PlaybackOutput(std::move(driver), std::move(device), writer->rate())
     {
-        playback_->period = writer->period();
-        playback_->writer = std::move(writer);
+        playback().period = writer->period();
+        playback().writer = std::move(writer);
     }
 
     ~WritingOutput() override
     {
-        playback_->setSource(nullptr);
-        playback_->isStopped = true;
+        playback().setSource(nullptr);
+        playback().isStopped = true;
         if (!thread_.joinable())
             return;
         if (hasEnded_.wait_for(kPatience) == std::future_status::ready)
@@ -96,25 +96,15 @@ public:
 
     void start(AudioSource& source) override
     {
-        playback_->setSource(&source);
-        std::packaged_task<void()> task([playback = playback_] { playThrough(*playback); });
+        playback().setSource(&source);
+        std::packaged_task<void()> task([playback = sharedPlayback()] { playThrough(*playback); });
         hasEnded_ = task.get_future();
         thread_ = std::thread(std::move(task));
     }
 
-    const std::string& driver() const override { return driver_; }
-    const std::string& device() const override { return device_; }
-    double rate() const override { return rate_; }
-    std::size_t period() const override { return playback_->period; }
-    double latency() const override { return playback_->latency; }
-    std::uint64_t periods() const override { return playback_->periods; }
-    const LostPeriods& lostPeriods() const override { return playback_->lostPeriods; }
-    bool isLost() const override { return playback_->isLost; }
+    bool isLost() const override { return playback().isLost; }
 
 private:
-    std::string driver_, device_;
-    double rate_;
-    std::shared_ptr<WritingPlayback> playback_ = std::make_shared<WritingPlayback>();
     std::future<void> hasEnded_;
     std::thread thread_;
 };
