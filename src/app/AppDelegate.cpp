@@ -152,7 +152,7 @@ void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
         engine_.add(*source);
     instruments_.push_back(std::move(document));
     const InstrumentDocument& added = *instruments_.back();
-    setInstrument(*added.instrument(), added.name());
+    setInstrument(*added.instrument(), added.title());
     emit instrumentsChanged();
 }
 
@@ -179,7 +179,7 @@ bool AppDelegate::selectInstrument(std::size_t position)
             engine_.add(*source);
         emit instrumentsChanged();
     }
-    setInstrument(*document.instrument(), document.name());
+    setInstrument(*document.instrument(), document.title());
     return true;
 }
 
@@ -259,6 +259,12 @@ std::vector<std::string> AppDelegate::tuningNames() const
     if (!tunings_.contains(kDynamic))
         names.emplace_back(kDynamic);
     return names;
+}
+
+std::string AppDelegate::getTuningDescription(const std::string& name) const
+{
+    const auto found = tunings_.find(name);
+    return found == tunings_.end() ? std::string() : found->second->description();
 }
 
 bool AppDelegate::selectTuning(const std::string& name)

@@ -141,6 +141,9 @@ public:
     /// that was added twice appears twice.
     std::vector<std::string> tuningNames() const;
 
+    /// Returns what the tuning of that name says about itself; empty if it says nothing.
+    std::string getTuningDescription(const std::string& name) const;
+
     /// Makes the tuning of that name the current one and retunes the instrument, including sounding
     /// keys. "Dynamic" is created and listed when it is first selected. Returns false, and keeps
     /// the current one, if there is no tuning of that name.

@@ -65,6 +65,22 @@ InstrumentDocument::makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
         new InstrumentDocument(std::move(instrument), "MIDI Player"));
 }
 
+std::string InstrumentDocument::title() const
+{
+    if (!isFromFile())
+        return name_;
+    const std::string fileTitle = toUtf8(path_.stem().string());
+    const bool isFileName = instrumentFormatOf(name_).has_value();
+    const std::string title = isFileName ? std::filesystem::path(name_).stem().string() : name_;
+    if (title.find_first_not_of(' ') == std::string::npos)
+        return fileTitle;
+    // Banks that were saved as a copy are called "Bank1.sf2" inside while the file is "Bank.sf2".
+    const bool isNumbered =
+        isFileName && title.starts_with(fileTitle) &&
+        title.find_first_not_of("0123456789", fileTitle.size()) == std::string::npos;
+    return isNumbered ? fileTitle : title;
+}
+
 bool InstrumentDocument::canUnload() const
 {
     const auto* sampled = dynamic_cast<const ALInstrument*>(instrument_.get());

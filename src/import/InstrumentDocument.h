@@ -51,6 +51,10 @@ public:
 
     const std::string& name() const { return name_; }
 
+    /// The name for people: `name` without a file extension and without the number of a copy; the
+    /// file's name if the instrument has none.
+    std::string title() const;
+
     /// The file that was last read; empty for the General MIDI player.
     const std::filesystem::path& path() const { return path_; }
 

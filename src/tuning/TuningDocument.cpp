@@ -34,6 +34,7 @@ bool TuningDocument::read(const std::filesystem::path& path, TuningFormat format
         // Diagnostics keep their texts: see docs/decisions.md, 125.
         logger("tuning").debug("TUNING {}", name_);
         temperament_ = std::make_unique<Temperament>(readTuning(bytes, format));
+        description_ = readTuningDescription(bytes, format);
         return true;
     } catch (const FormatError& error) {
         errorString_ = error.inFile(name_);

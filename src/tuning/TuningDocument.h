@@ -30,8 +30,11 @@ public:
 
     const std::string& name() const { return name_; }
 
+    /// What a scale file says about itself; empty for every other tuning.
+    const std::string& description() const { return description_; }
+
 private:
-    std::string name_;
+    std::string name_, description_;
     std::unique_ptr<const Temperament> temperament_;
     std::string errorString_;
 };

@@ -32,6 +32,11 @@ struct Lines {
     std::string_view unended;  ///< The ignored text after the last line end.
 };
 
+std::string_view textOf(std::span<const std::byte> bytes)
+{
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
 /// Returns whether a line has content.
 bool isKept(std::string_view line)
 {
@@ -193,8 +198,20 @@ std::string typeName(TuningFormat format)
 
 Temperament readTuning(std::span<const std::byte> bytes, TuningFormat format)
 {
-    const Lines lines = splitLines({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    const Lines lines = splitLines(textOf(bytes));
     return format == TuningFormat::Frequencies ? readFrequencies(lines) : readScale(lines);
+}
+
+std::string readTuningDescription(std::span<const std::byte> bytes, TuningFormat format)
+{
+    const Lines lines = splitLines(textOf(bytes));
+    if (format == TuningFormat::Frequencies || lines.kept.empty())
+        return {};
+    constexpr std::string_view kSpaces = " \t";
+    std::string_view text = lines.kept.front().text;
+    text.remove_prefix(std::min(text.find_first_not_of(kSpaces), text.size()));
+    text.remove_suffix(text.size() - (text.find_last_not_of(kSpaces) + 1));
+    return toUtf8(text);
 }
 
 } // namespace velmora

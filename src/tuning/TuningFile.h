@@ -33,4 +33,8 @@ std::string typeName(TuningFormat format);
 /// Throws FormatError with the line number unless every key's pitch is finite and above 0 Hz.
 Temperament readTuning(std::span<const std::byte> bytes, TuningFormat format);
 
+/// Returns the description with which a scale begins, in UTF-8 and without surrounding spaces. It
+/// is empty for the other format, which has none.
+std::string readTuningDescription(std::span<const std::byte> bytes, TuningFormat format);
+
 } // namespace velmora

@@ -135,6 +135,22 @@ TEST_F(InstrumentDocumentTest, LoadsAVersion1OrganWithAnyLineEnds)
     EXPECT_NEAR(centsOff(instrument(), 45, hertzOfA(45)), 0.0, 0.25);
 }
 
+TEST_F(InstrumentDocumentTest, HasATitleForPeople)
+{
+    writeFlute("flute/");
+    for (const auto& [name, title] : {std::pair("Sch\xF6ntal", "Sch\u00F6ntal"),
+                                      {"anne1.organ", "anne"},
+                                      {"anne12.SF2", "anne"},
+                                      {"anne 2", "anne 2"},
+                                      {"Bells2.sf2", "Bells2"},
+                                      {"  ", "anne"}}) {
+        const std::string first = kTextOrgan.substr(0, kTextOrgan.rfind('['));
+        const auto file = std::regex_replace(first, std::regex("Sch\xF6ntal"), name);
+        ASSERT_TRUE(read(folder_.write("anne.organ", file))) << document_.errorString();
+        EXPECT_EQ(document_.title(), title) << name;
+    }
+}
+
 TEST_F(InstrumentDocumentTest, IsUnchangedIfAFileCannotBeRead)
 {
     ASSERT_TRUE(read(writeXml("123", "0")));

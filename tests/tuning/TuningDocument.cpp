@@ -118,4 +118,17 @@ TEST(TuningDocument, KeepsItsTemperamentWhenAFileCannotBeRead)
     EXPECT_NE(dynamic_cast<const DynamicTemperament*>(&dynamic->temperament()), nullptr);
 }
 
+TEST(TuningFile, DescribesItselfInItsFirstContentLine)
+{
+    for (const auto& [text, format, description] :
+         std::vector<std::tuple<std::string, TuningFormat, std::string>>{
+             {"! a.scl\n!\n  Young II\xE9 (1799)\t\r\n12\n", TuningFormat::Scale,
+              "Young IIé (1799)"},
+             {" \t\n12\n", TuningFormat::Scale, ""},
+             {"! only a comment\n", TuningFormat::Scale, ""},
+             {"261.6\n277.2\n", kHertz, ""}})
+        EXPECT_EQ(readTuningDescription(std::as_bytes(std::span(text)), format), description)
+            << text;
+}
+
 } // namespace velmora
