@@ -2,11 +2,14 @@
 
 #include "audio/oggSerial.h"
 #include "base/Text.h"
+#include "platform/writeFile.h"
 
 #include <sndfile.h>
 
+#include <cerrno>
 #include <cmath>
 #include <stdexcept>
+#include <system_error>
 
 namespace velmora {
 
@@ -32,6 +35,13 @@ int formatOf(const std::filesystem::path& path)
     throw std::runtime_error(path.string() + ": the name must end in .wav, .flac or .ogg");
 }
 
+/// Returns the reason for an error of libsndfile. The system's own reason is in errno if errno was
+/// 0 before; libsndfile hides it when it writes FLAC or Ogg.
+std::string reasonOf(int error)
+{
+    return errno != 0 ? std::generic_category().message(errno) : sf_error_number(error);
+}
+
 } // namespace
 
 AudioFileWriter::AudioFileWriter(const std::filesystem::path& path, double rate)
@@ -48,6 +58,9 @@ AudioFileWriter::AudioFileWriter(const std::filesystem::path& path, double rate)
     if (sf_format_check(&info) == 0)
         throw std::runtime_error(name_ + ": this file format does not support a sample rate of " +
                                  std::to_string(info.samplerate) + " Hz");
+    const std::string reason = reasonNotToReplace(path);
+    if (!reason.empty())
+        throw std::runtime_error(name_ + ": " + reason);
     if (!file_.open(QIODevice::WriteOnly))
         throw std::runtime_error(name_ + ": " + file_.errorString().toStdString());
     sound_.reset(sf_open_fd(file_.handle(), SFM_WRITE, &info, SF_FALSE));
@@ -69,15 +82,18 @@ void AudioFileWriter::write(const float* left, const float* right, std::size_t f
         interleaved_[kChannels * i + 1] = right[i];
     }
     const auto count = static_cast<sf_count_t>(frames);
+    errno = 0;
     if (sf_writef_float(sound_.get(), interleaved_.data(), count) != count)
-        throw std::runtime_error(name_ + ": " + sf_strerror(sound_.get()));
+        throw std::runtime_error(name_ + ": " + reasonOf(sf_error(sound_.get())));
 }
 
 void AudioFileWriter::commit()
 {
+    errno = 0;
     const int error = sf_close(sound_.release());
-    if (error != 0)
-        throw std::runtime_error(name_ + ": " + sf_error_number(error));
+    // libsndfile does not report that the last page of an Ogg file could not be written.
+    if (error != 0 || (isOgg_ && errno != 0))
+        throw std::runtime_error(name_ + ": " + reasonOf(error));
     if (isOgg_)
         setOggSerial(file_.handle(), kOggSerial);
     if (!file_.commit())

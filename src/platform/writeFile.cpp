@@ -16,11 +16,9 @@ namespace {
 /// Writes the file. Returns the reason for a failure, or an empty text on success.
 std::string tryToWrite(const std::filesystem::path& path, std::string_view bytes)
 {
-    std::error_code error;
-    if (!std::filesystem::is_directory(path.parent_path(), error))
-        return "the folder does not exist";
-    if (std::filesystem::exists(path, error) && !std::filesystem::is_regular_file(path, error))
-        return "not a regular file";
+    const std::string reason = reasonNotToReplace(path);
+    if (!reason.empty())
+        return reason;
     QSaveFile file(QString::fromStdString(path.string()));
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString().toStdString();
@@ -38,6 +36,19 @@ std::string tryToWrite(const std::filesystem::path& path, std::string_view bytes
 }
 
 } // namespace
+
+std::string reasonNotToReplace(const std::filesystem::path& path)
+{
+    std::error_code error;
+    if (!std::filesystem::is_directory(std::filesystem::absolute(path).parent_path(), error))
+        return "the folder does not exist";
+    const std::filesystem::file_status status = std::filesystem::status(path, error);
+    if (status.type() == std::filesystem::file_type::none)
+        return error.message(); // of a loop of symbolic links, for example
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        return "not a regular file";
+    return "";
+}
 
 void writeFile(const std::filesystem::path& path, std::string_view bytes)
 {

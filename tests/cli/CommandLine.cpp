@@ -142,18 +142,34 @@ TEST_F(CommandLine, ReportsErrorsInOneSentence)
     EXPECT_EQ(files(), before) << "no file is left behind";
 }
 
-TEST_F(CommandLine, KeepsAnExistingFileIfRenderingFails)
+TEST_F(CommandLine, KeepsWhatHasTheNameIfRenderingFails)
 {
-    folder_.write("out.wav", "precious");
     const auto before = files();
-    // Limits the size of files to 8 kB.
-    const Result result =
-        run({"-c", "trap '' XFSZ; ulimit -f 8; '" VELMORA_PROGRAM "' render song.mid -o out.wav"},
-            "sh");
-    EXPECT_EQ(result.code, 1);
-    EXPECT_THAT(result.error, HasSubstr("velmora: out.wav: "));
-    EXPECT_EQ(readTextFile(folder_.path() / "out.wav"), "precious");
+    for (const char* name : {"out.wav", "out.flac", "out.ogg"}) {
+        const auto path = folder_.path() / name;
+        render(name, {});
+        // "ulimit -f" counts in 512 bytes. The end of some files is only written on closing them.
+        for (const auto blocks : {std::uintmax_t{8}, std::filesystem::file_size(path) / 512}) {
+            folder_.write(name, "precious");
+            const Result result =
+                run({"-c", QString("trap '' XFSZ; ulimit -f %1; '%2' render song.mid -o %3")
+                               .arg(QString::number(blocks), VELMORA_PROGRAM, name)},
+                    "sh");
+            EXPECT_EQ(result.code, 1) << name << blocks;
+            EXPECT_EQ(result.error, "velmora: " + std::string(name) + ": File too large\n");
+            EXPECT_EQ(readTextFile(path), "precious") << name << blocks;
+        }
+        std::filesystem::remove(path);
+    }
     EXPECT_EQ(files(), before);
+
+    run({"pipe.wav"}, "mkfifo");
+    std::filesystem::create_symlink("loop.wav", folder_.path() / "loop.wav");
+    EXPECT_EQ(render("pipe.wav", {}).error, "velmora: pipe.wav: not a regular file\n");
+    EXPECT_EQ(render("loop.wav", {}).error,
+              "velmora: loop.wav: Too many levels of symbolic links\n");
+    EXPECT_TRUE(std::filesystem::is_fifo(folder_.path() / "pipe.wav"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder_.path() / "loop.wav"));
 }
 
 TEST_F(CommandLine, RendersAnInstrumentInTune)
