@@ -1,0 +1,81 @@
+#include "desktop/shell/StartPage.h"
+
+#include "app/AppDelegate.h"
+#include "app/ExampleChord.h"
+#include "preferences/settings.h"
+#include "support/RecordingInstrument.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest>
+#include <gmock/gmock.h>
+
+namespace velmora {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+
+namespace {
+
+QPushButton& named(StartPage& page, const char* accessibleName)
+{
+    for (QPushButton* button : page.findChildren<QPushButton*>())
+        if (button->accessibleName() == accessibleName)
+            return *button;
+    throw std::runtime_error(accessibleName);
+}
+
+std::vector<std::string> texts(StartPage& page)
+{
+    std::vector<std::string> found;
+    for (const QPushButton* button : page.findChildren<QPushButton*>())
+        found.push_back(button->text().toStdString());
+    return found;
+}
+
+} // namespace
+
+TEST(StartPage, SoundsAChordInTheChosenTuning)
+{
+    Calls calls;
+    RecordingInstrument instrument(calls);
+    AppDelegate application;
+    application.makeBuiltinTunings();
+    application.setInstrument(instrument, "Recorder");
+    ExampleChord chord(application);
+    StartPage page;
+    QObject::connect(&page, &StartPage::chordRequested, &chord, &ExampleChord::play);
+    calls.clear();
+    named(page, "Hear the chord in quarter-comma meantone").click();
+    EXPECT_EQ(application.tuningName(), "Quartercomma Meantone");
+    EXPECT_THAT(std::exchange(calls, {}), Contains("play 64 0.80"));
+    named(page, "Hear the chord in equal temperament").click();
+    EXPECT_EQ(application.tuningName(), "Equal");
+    EXPECT_THAT(calls, ElementsAre("stop 48", "stop 55", "stop 64", "stop 72", "tune 0 127",
+                                   "play 48 0.80", "play 55 0.80", "play 64 0.80", "play 72 0.80"));
+    calls.clear();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return calls.size() == 4; }, 20000));
+    EXPECT_THAT(calls, ElementsAre("stop 48", "stop 55", "stop 64", "stop 72"));
+}
+
+TEST(StartPage, OpensExamplesAndTheRecentFilesThatExist)
+{
+    QTemporaryDir folder;
+    const QString piece = folder.filePath("fish & chips.mid");
+    QFile(piece).open(QIODevice::WriteOnly);
+    setPreference("recentFiles", QStringList{folder.filePath("gone.mid"), piece});
+    StartPage page;
+    QSignalSpy chosen(&page, &StartPage::fileChosen);
+    EXPECT_THAT(texts(page), Contains("fish && chips.mid"));
+    EXPECT_THAT(texts(page), Not(Contains("gone.mid")));
+    named(page, "Open fish & chips.mid").click();
+    EXPECT_EQ(chosen.takeFirst().at(0).toString(), piece);
+    named(page, "Open Wolf fantasia (piece)").click();
+    EXPECT_TRUE(QFileInfo::exists(chosen.takeFirst().at(0).toString()));
+    setPreference("recentFiles", {});
+    page.showRecentFiles();
+    EXPECT_THAT(texts(page), Not(Contains("fish && chips.mid")));
+}
+
+} // namespace velmora
