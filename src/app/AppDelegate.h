@@ -134,6 +134,9 @@ public:
     /// the same name.
     void putTuning(std::unique_ptr<TuningDocument> document);
 
+    /// All listed tunings in the order in which they were added.
+    const std::vector<std::unique_ptr<TuningDocument>>& tunings() const { return tuningDocuments_; }
+
     /// The name of the current tuning.
     const std::string& tuningName() const { return tuningName_; }
 

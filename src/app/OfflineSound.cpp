@@ -9,25 +9,22 @@
 
 namespace velmora {
 
-namespace {
-
-/// Returns the gain of a stop as `setVolume` takes it; `getVolume` of a sampled instrument returns
-/// twice that.
-float gainOf(const Instrument& instrument, std::size_t stop)
+std::vector<float> gainsOf(const Instrument& instrument)
 {
     const auto* sampled = dynamic_cast<const ALInstrument*>(&instrument);
-    return sampled != nullptr ? sampled->stops()[stop].volume : instrument.getVolume(stop);
+    std::vector<float> gains;
+    for (std::size_t stop = 0; stop < instrument.numStops(); ++stop)
+        gains.push_back(sampled != nullptr ? sampled->stops()[stop].volume
+                                           : instrument.getVolume(stop));
+    return gains;
 }
-
-} // namespace
 
 SoundSettings currentSettings(AppDelegate& application)
 {
     SoundSettings settings;
     application.player().with([&](const Instrument& instrument, const Temperament& temperament) {
         settings.temperament = temperament.fresh();
-        for (std::size_t stop = 0; stop < instrument.numStops(); ++stop)
-            settings.gains.push_back(gainOf(instrument, stop));
+        settings.gains = gainsOf(instrument);
         if (const auto* player = dynamic_cast<const MIDIInstrument*>(&instrument)) {
             settings.program = player->program();
             settings.banks = generalMidiBanks();

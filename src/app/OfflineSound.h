@@ -26,6 +26,10 @@ struct SoundSettings {
     std::vector<std::filesystem::path> banks;              ///< The SoundFonts to try.
 };
 
+/// Returns the gain of each stop, 0…1, as `setVolume` takes it. For a sampled instrument,
+/// `getVolume` returns twice that.
+std::vector<float> gainsOf(const Instrument& instrument);
+
 /// Returns the current settings of an application that has an instrument.
 SoundSettings currentSettings(AppDelegate& application);
 

@@ -3,6 +3,7 @@
 #include "base/File.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
+#include "base/Text.h"
 #include "tuning/DynamicTemperament.h"
 
 #include <new>
@@ -27,7 +28,7 @@ std::unique_ptr<TuningDocument> TuningDocument::makeBuiltin(const std::string& n
 
 bool TuningDocument::read(const std::filesystem::path& path, TuningFormat format)
 {
-    name_ = path.filename().string();
+    name_ = toUtf8(path.filename().string());
     errorString_.clear();
     try {
         const auto bytes = readFile(path);
@@ -35,6 +36,7 @@ bool TuningDocument::read(const std::filesystem::path& path, TuningFormat format
         logger("tuning").debug("TUNING {}", name_);
         temperament_ = std::make_unique<Temperament>(readTuning(bytes, format));
         description_ = readTuningDescription(bytes, format);
+        path_ = path;
         return true;
     } catch (const FormatError& error) {
         errorString_ = error.inFile(name_);

@@ -33,8 +33,12 @@ public:
     /// What a scale file says about itself; empty for every other tuning.
     const std::string& description() const { return description_; }
 
+    /// The file of the last successful `read`; empty for a built-in tuning.
+    const std::filesystem::path& path() const { return path_; }
+
 private:
     std::string name_, description_;
+    std::filesystem::path path_;
     std::unique_ptr<const Temperament> temperament_;
     std::string errorString_;
 };

@@ -1,0 +1,253 @@
+#include "app/Session.h"
+
+#include "base/FormatError.h"
+#include "base/pathText.h"
+#include "midi/PlayingSettings.h"
+
+#include <nlohmann/json.hpp>
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace velmora {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr int kSessionVersion = 1;
+constexpr int kLastProgram = 127;
+constexpr const char* kGeneralMidi = "General MIDI";
+
+/// The latest position of a piece in steps, as in recovery files.
+constexpr double kLastStep = 1e12;
+
+void addPath(Json& file, const std::filesystem::path& path, const std::filesystem::path& folder)
+{
+    file["path"] = textOfPath(path);
+    if (const auto fromHere = path.lexically_relative(folder); !fromHere.empty())
+        file["fromHere"] = textOfPath(fromHere);
+}
+
+Json describe(const Session::Instrument& instrument, const std::filesystem::path& folder)
+{
+    Json file = Json::object();
+    file["kind"] = instrument.path.empty() ? kGeneralMidi : typeName(instrument.format);
+    if (!instrument.path.empty())
+        addPath(file, instrument.path, folder);
+    file["volumes"] = Json::array();
+    for (const float gain : instrument.gains)
+        file["volumes"].push_back(std::clamp(gain, 0.0F, 1.0F));
+    return file;
+}
+
+/// A value of the file and the name that a sentence gives to it, such as "pieces[2].path".
+struct Field {
+    const Json& value;
+    std::string name;
+
+    [[noreturn]] void refuse(const std::string& expected) const
+    {
+        throw FormatError('"' + name + "\" is not " + expected);
+    }
+
+    std::optional<Field> find(const char* key) const
+    {
+        const auto found = value.find(key);
+        if (found == value.end())
+            return std::nullopt;
+        return Field{*found, name.empty() ? key : name + '.' + key};
+    }
+
+    /// The elements of a list.
+    std::vector<Field> elements() const
+    {
+        if (!value.is_array())
+            refuse("a list");
+        std::vector<Field> fields;
+        for (const Json& element : value)
+            fields.push_back({element, name + '[' + std::to_string(fields.size()) + ']'});
+        return fields;
+    }
+
+    /// The elements of a list of records.
+    std::vector<Field> records() const
+    {
+        std::vector<Field> fields = elements();
+        for (const Field& field : fields)
+            if (!field.value.is_object())
+                field.refuse("a record in braces");
+        return fields;
+    }
+
+    std::string text() const
+    {
+        if (!value.is_string())
+            refuse("a text in quotation marks");
+        return value.get<std::string>();
+    }
+
+    double number(double least, double greatest) const
+    {
+        const double number = value.is_number() ? value.get<double>() : least - 1.0;
+        if (!(number >= least && number <= greatest))
+            refuse("a number from " + Json(least).dump() + " to " + Json(greatest).dump());
+        return number;
+    }
+
+    int integer(int least, int greatest) const
+    {
+        const double number = value.is_number_integer() ? value.get<double>() : least - 1.0;
+        if (number < least || number > greatest)
+            refuse("a whole number from " + std::to_string(least) + " to " +
+                   std::to_string(greatest));
+        return static_cast<int>(number);
+    }
+
+    /// A position in a list of `count` entries; 0 if the list is empty.
+    std::size_t index(std::size_t count) const
+    {
+        return static_cast<std::size_t>(integer(0, std::max(static_cast<int>(count) - 1, 0)));
+    }
+};
+
+std::filesystem::path readPath(const Field& field)
+{
+    std::filesystem::path path = pathOfText(field.text());
+    if (path.empty() || path.native().find('\0') != std::string::npos)
+        field.refuse("the name of a file");
+    return path;
+}
+
+/// Reads the path of a file, which is absolute.
+std::filesystem::path readPath(const Field& file, const std::filesystem::path& folder)
+{
+    const auto field = file.find("path");
+    if (!field)
+        throw FormatError('"' + file.name + "\" has no \"path\"");
+    std::filesystem::path path = readPath(*field);
+    if (!path.is_absolute())
+        field->refuse("an absolute path");
+    if (const auto fromHere = file.find("fromHere")) {
+        auto near = (folder / readPath(*fromHere)).lexically_normal();
+        std::error_code error;
+        if (std::filesystem::exists(near, error))
+            return near;
+    }
+    return path;
+}
+
+InstrumentFormat readFormat(const Field& field)
+{
+    constexpr std::array kFormats = {InstrumentFormat::HauptwerkXml, InstrumentFormat::Hauptwerk1,
+                                     InstrumentFormat::SoundFont, InstrumentFormat::GigaSampler};
+    const std::string name = field.text();
+    const auto format = std::ranges::find(kFormats, name, &typeName);
+    if (format == kFormats.end())
+        field.refuse("a kind of instrument that Velmora knows");
+    return *format;
+}
+
+Session::Instrument readInstrument(const Field& file, const std::filesystem::path& folder)
+{
+    Session::Instrument instrument;
+    const auto kind = file.find("kind");
+    if (!kind)
+        throw FormatError('"' + file.name + "\" has no \"kind\"");
+    if (kind->text() != kGeneralMidi) {
+        instrument.format = readFormat(*kind);
+        instrument.path = readPath(file, folder);
+    }
+    if (const auto volumes = file.find("volumes"))
+        for (const Field& volume : volumes->elements())
+            instrument.gains.push_back(static_cast<float>(volume.number(0.0, 1.0)));
+    return instrument;
+}
+
+Json parse(std::string_view text)
+{
+    try {
+        return Json::parse(text);
+    } catch (const Json::parse_error& error) {
+        const std::string_view read = text.substr(0, error.byte);
+        const auto line = static_cast<std::size_t>(std::ranges::count(read, '\n')) + 1;
+        throw FormatError::atLine(line, "this is not valid JSON");
+    } catch (const Json::exception&) {
+        throw FormatError("contains a number that is too large");
+    }
+}
+
+void requireSession(const Field& file)
+{
+    const auto version = file.value.is_object() ? file.find("velmoraSession") : std::nullopt;
+    if (!version || !version->value.is_number_unsigned())
+        throw FormatError("this is not a session of Velmora");
+    if (version->value > kSessionVersion)
+        throw FormatError("a later version of Velmora has written this session");
+}
+
+} // namespace
+
+std::string encodeSession(const Session& session, const std::filesystem::path& folder)
+{
+    Json file = Json::object();
+    file["velmoraSession"] = kSessionVersion;
+    file["instruments"] = Json::array();
+    for (const Session::Instrument& instrument : session.instruments)
+        file["instruments"].push_back(describe(instrument, folder));
+    file["currentInstrument"] = session.currentInstrument;
+    file["program"] = session.program;
+    file["tunings"] = Json::array();
+    for (const auto& path : session.tunings)
+        addPath(file["tunings"].emplace_back(Json::object()), path, folder);
+    file["tuning"] = session.tuning;
+    file["transposition"] = session.transposition;
+    file["pieces"] = Json::array();
+    for (const Session::Piece& piece : session.pieces) {
+        Json& entry = file["pieces"].emplace_back(Json::object());
+        addPath(entry, piece.path, folder);
+        entry["position"] = piece.position;
+    }
+    file["currentPiece"] = session.currentPiece;
+    file["layout"] = QByteArray::fromStdString(session.layout).toBase64().toStdString();
+    return file.dump(2) + '\n';
+}
+
+Session decodeSession(std::string_view text, const std::filesystem::path& folder)
+{
+    const Json json = parse(text);
+    const Field file{json, {}};
+    requireSession(file);
+    Session session;
+    if (const auto instruments = file.find("instruments"))
+        for (const Field& instrument : instruments->records())
+            session.instruments.push_back(readInstrument(instrument, folder));
+    if (const auto current = file.find("currentInstrument"))
+        session.currentInstrument = current->index(session.instruments.size());
+    if (const auto program = file.find("program"))
+        session.program = static_cast<std::uint8_t>(program->integer(0, kLastProgram));
+    if (const auto tunings = file.find("tunings"))
+        for (const Field& tuning : tunings->records())
+            session.tunings.push_back(readPath(tuning, folder));
+    if (const auto tuning = file.find("tuning"))
+        session.tuning = tuning->text();
+    if (const auto transposition = file.find("transposition"))
+        session.transposition = transposition->integer(-kMaxTransposition, kMaxTransposition);
+    if (const auto pieces = file.find("pieces"))
+        for (const Field& piece : pieces->records()) {
+            const auto position = piece.find("position");
+            session.pieces.push_back(
+                {readPath(piece, folder), position ? position->number(0.0, kLastStep) : 0.0});
+        }
+    if (const auto current = file.find("currentPiece"))
+        session.currentPiece = current->index(session.pieces.size());
+    if (const auto layout = file.find("layout"))
+        session.layout =
+            QByteArray::fromBase64(QByteArray::fromStdString(layout->text())).toStdString();
+    return session;
+}
+
+} // namespace velmora

@@ -1,0 +1,121 @@
+#include "app/openSession.h"
+
+#include "app/AppDelegate.h"
+#include "app/OfflineSound.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+/// Returns the position of the instrument of a file, or of the General MIDI player.
+std::optional<std::size_t> findInstrument(const AppDelegate& application,
+                                          const std::filesystem::path& path)
+{
+    const auto& listed = application.instruments();
+    const auto found = std::ranges::find(
+        listed, path, [](const auto& document) -> const auto& { return document->path(); });
+    if (found == listed.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(found - listed.begin());
+}
+
+/// Opens a tuning file unless it is listed. Returns a sentence if that fails.
+std::string openTuning(const std::filesystem::path& path, AppDelegate& application)
+{
+    for (const auto& listed : application.tunings())
+        if (listed->path() == path)
+            return {};
+    const auto format = tuningFormatOf(path);
+    if (!format)
+        return path.filename().string() + ": this is not a tuning file";
+    auto document = std::make_unique<TuningDocument>();
+    if (!document->read(path, *format))
+        return document->errorString();
+    application.putTuning(std::move(document));
+    return {};
+}
+
+/// What became of an instrument of a session.
+struct Opened {
+    std::optional<std::size_t> position; ///< Empty if it is not in the list.
+    std::string error;                   ///< Empty if the user has cancelled the loading.
+};
+
+Opened openInstrument(const Session::Instrument& wanted, AppDelegate& application)
+{
+    const auto listed = findInstrument(application, wanted.path);
+    if (listed && (application.instruments()[*listed]->instrument() != nullptr ||
+                   application.selectInstrument(*listed)))
+        return {listed, {}};
+    if (listed)
+        return {std::nullopt, application.instruments()[*listed]->errorString()};
+    auto document = std::make_unique<InstrumentDocument>();
+    if (!document->read(wanted.path, wanted.format, application))
+        return {std::nullopt, document->errorString()};
+    application.addInstrument(std::move(document));
+    return {application.instruments().size() - 1, {}};
+}
+
+} // namespace
+
+Session currentSession(AppDelegate& application)
+{
+    Session session;
+    for (const auto& document : application.instruments()) {
+        if (document->instrument() == nullptr)
+            continue; // it was unloaded
+        if (application.isCurrent(*document))
+            session.currentInstrument = session.instruments.size();
+        Session::Instrument entry{document->path(), document->format(), {}};
+        application.player().with([&](const Instrument&, const Temperament&) {
+            entry.gains = gainsOf(*document->instrument());
+        });
+        session.instruments.push_back(std::move(entry));
+    }
+    session.program = application.midiProgram();
+    for (const auto& document : application.tunings())
+        if (!document->path().empty())
+            session.tunings.push_back(document->path());
+    session.tuning = application.tuningName();
+    session.transposition = application.playing().settings().transposition;
+    return session;
+}
+
+std::vector<std::string> openSession(const Session& session, AppDelegate& application)
+{
+    std::vector<std::string> errors;
+    for (const auto& path : session.tunings)
+        if (std::string error = openTuning(path, application); !error.empty())
+            errors.push_back(std::move(error));
+    std::optional<std::size_t> current;
+    for (const Session::Instrument& wanted : session.instruments) {
+        const Opened opened = openInstrument(wanted, application);
+        if (!opened.position && opened.error.empty())
+            break;
+        if (!opened.position) {
+            errors.push_back(opened.error);
+            continue;
+        }
+        application.player().with([&](const Instrument&, const Temperament&) {
+            Instrument& instrument = *application.instruments()[*opened.position]->instrument();
+            for (std::size_t stop = 0; stop < wanted.gains.size(); ++stop)
+                instrument.setVolume(stop, wanted.gains[stop]);
+            if (wanted.path.empty())
+                instrument.setInstrument(session.program);
+        });
+        if (&wanted == &session.instruments[session.currentInstrument])
+            current = opened.position;
+    }
+    if (current)
+        application.selectInstrument(*current);
+    if (!session.tuning.empty() && !application.selectTuning(session.tuning) && errors.empty())
+        errors.push_back("there is no tuning named \"" + session.tuning + "\"");
+    application.playing().setTransposition(session.transposition);
+    return errors;
+}
+
+} // namespace velmora

@@ -1,0 +1,171 @@
+#include "app/Session.h"
+
+#include "app/AppDelegate.h"
+#include "app/OfflineSound.h"
+#include "app/openSession.h"
+#include "base/FormatError.h"
+#include "support/OrganFolder.h"
+
+#include <gmock/gmock.h>
+
+namespace velmora {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+class SilentSynthesizer : public MusicDevice {
+public:
+    void midiEvent(int /*status*/, int /*data1*/, int /*data2*/) override {}
+};
+
+/// An application with the built-in tunings and the General MIDI player.
+struct Program : AppDelegate {
+    Program()
+    {
+        makeBuiltinTunings();
+        makeMIDIPlayer(std::make_unique<SilentSynthesizer>());
+    }
+
+    std::vector<float> gains()
+    {
+        std::vector<float> result;
+        player().with([&](const Instrument& now, const Temperament&) { result = gainsOf(now); });
+        return result;
+    }
+};
+
+std::filesystem::path writeOrgan(const OrganFolder& folder, const std::string& name)
+{
+    folder.writeSine("a.wav", 261.6);
+    return folder.write(name + ".organ",
+                        "[Organ]\nChurchName=" + name +
+                            "\n[Manual001]\nFirstAccessibleKeyMIDINoteNumber=48\n"
+                            "[Stop001]\nPipe001=a.wav\n[Stop002]\nPipe001=a.wav\n");
+}
+
+std::string errorOf(const std::string& text)
+{
+    try {
+        decodeSession(text, "/folder");
+    } catch (const FormatError& error) {
+        return error.inFile("x");
+    }
+    return "no error";
+}
+
+} // namespace
+
+TEST(Session, KeepsEveryFieldInItsFile)
+{
+    const std::filesystem::path odd = "/organs/100%25 f\xFCr \"Anna\"/a.organ";
+    Session session;
+    session.instruments = {{{}, {}, {0.5F}}, {odd, InstrumentFormat::Hauptwerk1, {0.25F, 1.0F}}};
+    session.currentInstrument = 1;
+    session.program = 19;
+    session.tunings = {"/t/für.scl"};
+    session.tuning = "für.scl";
+    session.transposition = -3;
+    session.pieces = {{"/a.mid", 1.5}, {"/b.mid", 1e9}};
+    session.currentPiece = 1;
+    session.layout = std::string("\0\xFF\n", 3);
+    const std::string text = encodeSession(session, "/t");
+    EXPECT_THAT(text, HasSubstr("\"fromHere\": \"für.scl\""));
+    const Session read = decodeSession(text, "/elsewhere");
+    EXPECT_EQ(encodeSession(read, "/t"), text);
+    EXPECT_EQ(read.instruments.at(1).path, odd);
+    EXPECT_THAT(read.instruments[1].gains, ElementsAre(0.25F, 1.0F));
+    EXPECT_EQ(read.layout, session.layout);
+
+    EXPECT_TRUE(decodeSession(R"({"velmoraSession": 1, "later": {}})", "/").pieces.empty());
+}
+
+TEST(Session, FindsFilesThatWereMovedWithIt)
+{
+    const OrganFolder folder;
+    Session session;
+    session.pieces = {{folder.path() / "old/music/a.mid"}, {"/gone/b.mid"}};
+    const std::string text = encodeSession(session, folder.path() / "old");
+    const auto moved = folder.write("new/music/a.mid", "");
+    const Session read = decodeSession(text, folder.path() / "new");
+    EXPECT_EQ(read.pieces[0].path, moved);
+    EXPECT_EQ(read.pieces[1].path, "/gone/b.mid");
+}
+
+TEST(Session, SaysWhatIsWrongWithAFile)
+{
+    const std::pair<const char*, const char*> wrong[] = {
+        {"", "x, line 1: this is not valid JSON"},
+        {"{\n\"velmoraSession\": 1,\n}", "x, line 3: this is not valid JSON"},
+        {"{\"velmoraSession\": 1e999}", "x: contains a number that is too large"},
+        {"[1]", "x: this is not a session of Velmora"},
+        {"{}", "x: this is not a session of Velmora"},
+        {R"({"velmoraSession": 2})", "x: a later version of Velmora has written this session"},
+    };
+    for (const auto& [text, error] : wrong)
+        EXPECT_EQ(errorOf(text), error);
+
+    const std::pair<std::string, const char*> fields[] = {
+        {R"("instruments": {})", R"("instruments" is not a list)"},
+        {R"("instruments": [3])", R"("instruments[0]" is not a record in braces)"},
+        {R"("instruments": [{}])", R"("instruments[0]" has no "kind")"},
+        {R"("instruments": [{"kind": "EXS"}])",
+         R"("instruments[0].kind" is not a kind of instrument that Velmora knows)"},
+        {R"("instruments": [{"kind": "General MIDI", "volumes": [0, 1.1]}])",
+         R"("instruments[0].volumes[1]" is not a number from 0.0 to 1.0)"},
+        {R"("currentInstrument": 1)", R"("currentInstrument" is not a whole number from 0 to 0)"},
+        {R"("program": 128)", R"("program" is not a whole number from 0 to 127)"},
+        {R"("program": 18446744073709551615)", R"("program" is not a whole number from 0 to 127)"},
+        {R"("tunings": [{"path": "a.scl"}])", R"("tunings[0].path" is not an absolute path)"},
+        {R"("tunings": [{"path": "/a\u0000b"}])", R"("tunings[0].path" is not the name of a file)"},
+        {R"("tunings": [{}])", R"("tunings[0]" has no "path")"},
+        {R"("tuning": 1)", R"("tuning" is not a text in quotation marks)"},
+        {R"("transposition": 2.5)", R"("transposition" is not a whole number from -24 to 24)"},
+        {R"("pieces": [{"path": "/a.mid", "position": -1}])",
+         R"("pieces[0].position" is not a number from 0.0 to 1000000000000.0)"},
+    };
+    for (const auto& [field, error] : fields)
+        EXPECT_EQ(errorOf("{\"velmoraSession\": 1, " + field + "}"), "x: " + std::string(error));
+}
+
+TEST(Session, OpensTheInstrumentsAndTuningsAgain)
+{
+    const OrganFolder folder;
+    const auto first = writeOrgan(folder, "first");
+    const auto second = writeOrgan(folder, "second");
+    const auto scale = folder.write("a.scl", "a\n12\n" + std::string("100.\n200.\n300.\n400.\n"
+                                                                     "500.\n600.\n700.\n800.\n"
+                                                                     "900.\n1000.\n1100.\n2/1\n"));
+    Session session;
+    session.instruments = {{{}, {}, {0.5F}},
+                           {first, InstrumentFormat::Hauptwerk1, {0.25F, 0.75F}},
+                           {folder.path() / "gone.organ", InstrumentFormat::Hauptwerk1, {}},
+                           {second, InstrumentFormat::Hauptwerk1, {}}};
+    session.currentInstrument = 1;
+    session.program = 19;
+    session.tunings = {scale, folder.path() / "gone.scl"};
+    session.tuning = "a.scl";
+    session.transposition = -2;
+    Program program;
+    for (const char* time : {"the first time", "and again, beside itself"}) {
+        EXPECT_THAT(openSession(session, program),
+                    ElementsAre("gone.scl: cannot be read (No such file or directory)",
+                                "gone.organ: cannot be read (No such file or directory)"));
+        EXPECT_EQ(program.instruments().size(), 3U) << time;
+        EXPECT_EQ(program.tunings().size(), 3U) << time;
+        EXPECT_EQ(program.instrumentName(), "first");
+        EXPECT_THAT(program.gains(), ElementsAre(0.25F, 0.75F));
+        EXPECT_EQ(program.midiProgram(), 19);
+        EXPECT_EQ(program.tuningName(), "a.scl");
+        EXPECT_EQ(program.playing().settings().transposition, -2);
+    }
+    const Session current = currentSession(program);
+    session.instruments.erase(session.instruments.begin() + 2);
+    session.instruments[2].gains = current.instruments.at(2).gains;
+    session.tunings.pop_back();
+    EXPECT_EQ(encodeSession(current, "/"), encodeSession(session, "/"));
+    program.playing().setTransposition(0);
+}
+
+} // namespace velmora
