@@ -17,7 +17,7 @@ namespace velmora {
 namespace {
 
 constexpr const char* kWelcomedKey = "welcomed";
-constexpr qsizetype kRecentFiles = 6;
+constexpr qsizetype kShownFiles = 6;
 constexpr int kMargin = 20;
 
 /// A card is at least as wide as this many letters.
@@ -211,7 +211,7 @@ void StartPage::showRecentFiles()
         delete item;
     }
     recentList_->addWidget(makeHeading(tr("Recent files"), 1.0));
-    for (const QString& path : preference("recentFiles").toStringList().mid(0, kRecentFiles))
+    for (const QString& path : preference("recentFiles").toStringList().mid(0, kShownFiles))
         if (QFileInfo::exists(path))
             addFile(*recentList_, path, QFileInfo(path).fileName());
     recent_->setVisible(recentList_->count() > 1);

@@ -17,7 +17,6 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSlider>
-#include <QTextBlock>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
@@ -283,23 +282,6 @@ TEST_F(DesktopTest, EscapeClosesSecondaryWindows)
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         EXPECT_FALSE(window->isVisible()) << window->windowTitle().toStdString();
     }
-}
-
-TEST(GuideWindow, LinksItsContentsToTheHeadings)
-{
-    GuideWindow guide;
-    guide.resize(500, 300);
-    guide.show();
-    int place = 0;
-    for (QTextBlock block = guide.document()->begin(); block.isValid(); block = block.next()) {
-        const QString link = block.begin().fragment().charFormat().anchorHref();
-        if (!link.startsWith('#'))
-            continue;
-        guide.setSource(QUrl(link));
-        EXPECT_GT(guide.verticalScrollBar()->value(), place) << link.toStdString();
-        place = guide.verticalScrollBar()->value();
-    }
-    EXPECT_GT(place, 0);
 }
 
 TEST(ProgressWindow, ClosesWithTheStepThatReachesTheMaximumExactly)
