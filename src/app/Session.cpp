@@ -1,7 +1,7 @@
 #include "app/Session.h"
 
 #include "base/FormatError.h"
-#include "base/pathText.h"
+#include "base/escapedPath.h"
 #include "midi/PlayingSettings.h"
 
 #include <nlohmann/json.hpp>
@@ -27,9 +27,9 @@ constexpr double kLastStep = 1e12;
 
 void addPath(Json& file, const std::filesystem::path& path, const std::filesystem::path& folder)
 {
-    file["path"] = textOfPath(path);
+    file["path"] = escapePath(path);
     if (const auto fromHere = path.lexically_relative(folder); !fromHere.empty())
-        file["fromHere"] = textOfPath(fromHere);
+        file["fromHere"] = escapePath(fromHere);
 }
 
 Json describe(const Session::Instrument& instrument, const std::filesystem::path& folder)
@@ -116,7 +116,7 @@ struct Field {
 
 std::filesystem::path readPath(const Field& field)
 {
-    std::filesystem::path path = pathOfText(field.text());
+    std::filesystem::path path = unescapePath(field.text());
     if (path.empty() || path.native().find('\0') != std::string::npos)
         field.refuse("the name of a file");
     return path;

@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/OfflineSound.h"
+#include "base/FormatError.h"
 
 #include <algorithm>
 #include <optional>
@@ -31,7 +32,7 @@ std::string openTuning(const std::filesystem::path& path, AppDelegate& applicati
             return {};
     const auto format = tuningFormatOf(path);
     if (!format)
-        return path.filename().string() + ": this is not a tuning file";
+        return FormatError("this is not a tuning file").inFile(path.filename().string());
     auto document = std::make_unique<TuningDocument>();
     if (!document->read(path, *format))
         return document->errorString();

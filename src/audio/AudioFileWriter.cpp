@@ -45,7 +45,7 @@ std::string reasonOf(int error)
 } // namespace
 
 AudioFileWriter::AudioFileWriter(const std::filesystem::path& path, double rate)
-    : name_(path.string()), file_(QString::fromStdString(path.string())), sound_(nullptr, sf_close)
+    : name_(toUtf8(path.string())), sound_(nullptr, sf_close)
 {
     SF_INFO info{};
     info.samplerate = static_cast<int>(std::lround(rate));
@@ -61,9 +61,12 @@ AudioFileWriter::AudioFileWriter(const std::filesystem::path& path, double rate)
     const std::string reason = reasonNotToReplace(path);
     if (!reason.empty())
         throw std::runtime_error(name_ + ": " + reason);
-    if (!file_.open(QIODevice::WriteOnly))
-        throw std::runtime_error(name_ + ": " + file_.errorString().toStdString());
-    sound_.reset(sf_open_fd(file_.handle(), SFM_WRITE, &info, SF_FALSE));
+    try {
+        file_ = std::make_unique<ReplacingFile>(path);
+    } catch (const std::system_error& error) {
+        throw std::runtime_error(name_ + ": " + error.code().message());
+    }
+    sound_.reset(sf_open_fd(file_->handle(), SFM_WRITE, &info, SF_FALSE));
     if (!sound_)
         throw std::runtime_error(name_ + ": " + sf_strerror(nullptr));
 }
@@ -95,9 +98,12 @@ void AudioFileWriter::commit()
     if (error != 0 || (isOgg_ && errno != 0))
         throw std::runtime_error(name_ + ": " + reasonOf(error));
     if (isOgg_)
-        setOggSerial(file_.handle(), kOggSerial);
-    if (!file_.commit())
-        throw std::runtime_error(name_ + ": " + file_.errorString().toStdString());
+        setOggSerial(file_->handle(), kOggSerial);
+    try {
+        file_->commit();
+    } catch (const std::system_error& failure) {
+        throw std::runtime_error(name_ + ": " + failure.code().message());
+    }
 }
 
 } // namespace velmora

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QSaveFile>
+#include "platform/ReplacingFile.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -35,7 +35,7 @@ public:
 
 private:
     std::string name_;
-    QSaveFile file_;
+    std::unique_ptr<ReplacingFile> file_;
     bool isOgg_ = false;
     std::uint64_t framesLeft_ = std::numeric_limits<std::uint64_t>::max();
     std::unique_ptr<sf_private_tag, int (*)(sf_private_tag*)> sound_;

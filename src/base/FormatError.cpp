@@ -1,5 +1,7 @@
 #include "base/FormatError.h"
 
+#include "base/Text.h"
+
 namespace velmora {
 
 FormatError::FormatError(const std::string& message) : std::runtime_error(message) {}
@@ -21,7 +23,7 @@ FormatError FormatError::atByte(std::size_t offset, const std::string& message)
 
 std::string FormatError::inFile(const std::string& fileName) const
 {
-    return fileName + (place_.empty() ? "" : ", " + place_) + ": " + what();
+    return toUtf8(fileName) + (place_.empty() ? "" : ", " + place_) + ": " + what();
 }
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #include "platform/writeFile.h"
 
-#include <QSaveFile>
+#include "base/Text.h"
+#include "platform/ReplacingFile.h"
 
 #include <unistd.h>
 
@@ -19,20 +20,19 @@ std::string tryToWrite(const std::filesystem::path& path, std::string_view bytes
     const std::string reason = reasonNotToReplace(path);
     if (!reason.empty())
         return reason;
-    QSaveFile file(QString::fromStdString(path.string()));
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString().toStdString();
-    // QSaveFile's own `write` loses the reason for an incomplete write, for example on a full disk,
-    // and may then commit the incomplete file.
-    while (!bytes.empty()) {
-        const ssize_t written = write(file.handle(), bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR)
-            return std::generic_category().message(errno);
-        bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
+    try {
+        ReplacingFile file(path);
+        while (!bytes.empty()) {
+            const ssize_t written = write(file.handle(), bytes.data(), bytes.size());
+            if (written < 0 && errno != EINTR)
+                return std::generic_category().message(errno);
+            bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
+        }
+        file.commit();
+    } catch (const std::system_error& error) {
+        return error.code().message();
     }
-    if (fsync(file.handle()) != 0)
-        return std::generic_category().message(errno);
-    return file.commit() ? "" : file.errorString().toStdString();
+    return "";
 }
 
 } // namespace
@@ -55,8 +55,8 @@ void writeFile(const std::filesystem::path& path, std::string_view bytes)
     const std::filesystem::path whole = std::filesystem::absolute(path);
     const std::string reason = tryToWrite(whole, bytes);
     if (!reason.empty())
-        throw std::runtime_error(whole.filename().string() + " cannot be written to " +
-                                 whole.parent_path().string() + ": " + reason);
+        throw std::runtime_error(toUtf8(whole.filename().string()) + " cannot be written to " +
+                                 toUtf8(whole.parent_path().string()) + ": " + reason);
 }
 
 } // namespace velmora

@@ -3,6 +3,7 @@
 #include "base/File.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
+#include "base/Text.h"
 #include "platform/writeFile.h"
 #include "preferences/Preferences.h"
 #include "sequencer/LiveKeys.h"
@@ -98,9 +99,9 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
     try {
         writeFile(path, writeSequence(sequence_, format));
     } catch (const std::length_error& error) {
-        errorString_ = path.filename().string() + " cannot be written: " + error.what();
+        errorString_ = toUtf8(path.filename().string()) + " cannot be written: " + error.what();
     } catch (const std::bad_alloc&) {
-        errorString_ = path.filename().string() + " is too large to be written";
+        errorString_ = toUtf8(path.filename().string()) + " is too large to be written";
     } catch (const std::runtime_error& error) {
         errorString_ = error.what();
     }

@@ -1,5 +1,6 @@
 #include "base/File.h"
 #include "base/FormatError.h"
+#include "platform/pathNames.h"
 #include "sequencer/RecoveryKeeper.h"
 #include "sequencer/SequenceFile.h"
 #include "support/ChildProcess.h"
@@ -7,6 +8,7 @@
 #include "support/SequenceTest.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 #include <sys/resource.h>
@@ -155,6 +157,28 @@ TEST_F(SequenceSaving, KeepsTheOldFileIfItCannotBeWritten)
     EXPECT_EQ(document_.path(), "");
 }
 
+TEST_F(SequenceSaving, SavesUnderAnyNameAndThroughLinks)
+{
+    const auto odd = folder_ / "f\xFCr" / "\xE4 ü %41.mid";
+    std::filesystem::create_directory(odd.parent_path());
+    std::filesystem::create_symlink(odd, path_);
+    for (const char* time : {"the link leads nowhere", "it leads to the file"}) {
+        draw(1);
+        EXPECT_TRUE(save()) << time;
+        EXPECT_TRUE(std::filesystem::is_symlink(path_)) << time;
+        EXPECT_EQ(savedNotes(), document_.sequence().notes().size()) << time;
+        std::filesystem::permissions(odd, std::filesystem::perms::owner_all);
+    }
+    EXPECT_TRUE(save());
+    EXPECT_EQ(std::filesystem::status(odd).permissions(), std::filesystem::perms::owner_all);
+
+    EXPECT_EQ(pathOf(textOf(odd)), odd);
+    EXPECT_EQ(pathOf(QFile::decodeName(odd.c_str())), odd) << "as a file dialog names it";
+    EXPECT_TRUE(textOf(odd).endsWith(" %41.mid"));
+    EXPECT_EQ(pathOf(textOf("/a/\U0001F3B9.mid")), "/a/\U0001F3B9.mid");
+    std::filesystem::remove_all(odd.parent_path()); // Qt's temporary folder cannot
+}
+
 TEST_F(SequenceSaving, LeavesTheOldOrTheNewFileWhenKilled)
 {
     draw(2000);
@@ -179,10 +203,11 @@ TEST_F(SequenceSaving, KeepsUnsavedNotesUntilSavedOrClosed)
     RecoveryFile running(kept_);
     running.write(document_.snapshot());
     std::ofstream(kept_ / "garbled.unsaved") << "garbled";
+    std::ofstream(kept_ / "gone.unsaved.lock");
     killWhileWorking([&](const auto& ready) {
         const RecoveryKeeper keeper(document_, RecoveryFile(kept_), 1ms);
         draw(3);
-        if (waitFor(5) && RecoveryFile::abandoned(kept_).empty()) // each file has a lock
+        if (waitFor(6) && RecoveryFile::abandoned(kept_).empty()) // each but one has a lock
             ready();
         pause();
     });
@@ -195,7 +220,7 @@ TEST_F(SequenceSaving, KeepsUnsavedNotesUntilSavedOrClosed)
     EXPECT_EQ(transport_.extent(), 33.0);
     EXPECT_TRUE(document_.isModified());
 
-    constexpr int kOthers = 4; // the two other files and their locks
+    constexpr int kOthers = 3; // the two other files and the lock of the one in use
     auto keeper = std::make_unique<RecoveryKeeper>(document_, std::move(left[0].file), 1ms);
     EXPECT_TRUE(save());
     EXPECT_TRUE(waitFor(kOthers)) << "saved";
@@ -203,6 +228,24 @@ TEST_F(SequenceSaving, KeepsUnsavedNotesUntilSavedOrClosed)
     EXPECT_TRUE(waitFor(kOthers + 2));
     keeper.reset();
     EXPECT_TRUE(waitFor(kOthers)) << "closed";
+}
+
+TEST_F(SequenceSaving, TellsOnceThatUnsavedNotesAreNotProtected)
+{
+    std::ofstream(kept_) << "a file where the folder should be";
+    const RecoveryKeeper keeper(document_, RecoveryFile(kept_), 1ms);
+    std::vector<std::string> told;
+    QObject::connect(&keeper, &RecoveryKeeper::failed, &document_,
+                     [&](const QString& why) { told.push_back(why.toStdString()); });
+    for (int i = 0; i < 3; ++i) {
+        draw(1);
+        for (int wait = 0; wait < (told.empty() ? 5000 : 50); ++wait) {
+            QCoreApplication::processEvents();
+            usleep(1000);
+        }
+    }
+    EXPECT_THAT(told, testing::ElementsAre(
+                          testing::EndsWith(kept_.string() + ": the folder does not exist")));
 }
 
 } // namespace velmora

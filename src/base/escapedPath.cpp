@@ -1,4 +1,4 @@
-#include "base/pathText.h"
+#include "base/escapedPath.h"
 
 #include "base/Text.h"
 
@@ -13,7 +13,7 @@ constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 
 } // namespace
 
-std::string textOfPath(const std::filesystem::path& path)
+std::string escapePath(const std::filesystem::path& path)
 {
     const std::string& bytes = path.native();
     const bool isText = toUtf8(bytes) == bytes;
@@ -31,7 +31,7 @@ std::string textOfPath(const std::filesystem::path& path)
     return text;
 }
 
-std::filesystem::path pathOfText(std::string_view text)
+std::filesystem::path unescapePath(std::string_view text)
 {
     std::string bytes;
     while (!text.empty()) {
