@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <new>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -21,20 +22,25 @@ namespace velmora {
 namespace {
 
 constexpr const char* kExtension = ".unsaved";
+constexpr const char* kLockExtension = ".lock";
 
 std::string newName()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString() + kExtension;
 }
 
-std::vector<std::string> namesIn(const std::filesystem::path& folder)
+/// Returns the names of the files that are kept, and of those of which only the lock is left.
+std::set<std::string> namesIn(const std::filesystem::path& folder)
 {
-    std::vector<std::string> names;
+    std::set<std::string> names;
     std::error_code error;
     auto entry = std::filesystem::directory_iterator(folder, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        if (entry->path().extension() == kExtension)
-            names.push_back(entry->path().filename().string());
+        std::filesystem::path name = entry->path().filename();
+        if (name.extension() == kLockExtension)
+            name.replace_extension();
+        if (name.extension() == kExtension)
+            names.insert(name.string());
     }
     return names;
 }
@@ -66,7 +72,7 @@ std::vector<Abandoned> RecoveryFile::abandoned(const std::filesystem::path& fold
             continue;
         std::error_code error;
         if (!std::filesystem::exists(file.path(), error)) {
-            file.discard(); // another program has discarded it in the meantime
+            file.discard(); // only its lock was left
             continue;
         }
         try {
@@ -74,8 +80,10 @@ std::vector<Abandoned> RecoveryFile::abandoned(const std::filesystem::path& fold
             found.push_back({std::move(file), std::move(sequence)});
         } catch (const FormatError& wrong) {
             logger("sequencer").warn("{}", wrong.inFile(file.path().string()));
+            file.unlock();
         } catch (const std::bad_alloc&) {
             logger("sequencer").warn("{}: too large to be read into memory", name);
+            file.unlock();
         }
     }
     std::sort(found.begin(), found.end(), [](const Abandoned& a, const Abandoned& b) {
@@ -108,9 +116,20 @@ void RecoveryFile::discard()
         return;
     std::error_code error;
     std::filesystem::remove(path(), error);
+    unlock();
+    name_ = newName();
+}
+
+void RecoveryFile::unlock()
+{
+    std::error_code error;
     std::filesystem::remove(lockPath(), error);
     lock_.reset();
-    name_ = newName();
+}
+
+std::filesystem::path RecoveryFile::lockPath() const
+{
+    return folder_ / (name_ + kLockExtension);
 }
 
 } // namespace velmora

@@ -38,11 +38,12 @@ private:
     RecoveryFile(std::filesystem::path folder, std::string name);
 
     std::filesystem::path path() const { return folder_ / name_; }
-    std::filesystem::path lockPath() const { return folder_ / (name_ + ".lock"); }
+    std::filesystem::path lockPath() const;
 
     /// Claims the file. Returns false if a running program has claimed it. The system releases the
     /// claim when the program ends, however it ends.
     bool claim();
+    void unlock();
 
     std::filesystem::path folder_;
     std::string name_; ///< Unique; replaced when the file is discarded.

@@ -63,9 +63,11 @@ void RecoveryKeeper::keep(const UnsavedSequence& sequence)
         file_.write(sequence);
         failed_ = false;
     } catch (const std::exception& error) {
-        if (!std::exchange(failed_, true))
-            logger("sequencer")
-                .warn("Unsaved changes are not protected against a crash: {}", error.what());
+        if (std::exchange(failed_, true))
+            return;
+        logger("sequencer")
+            .warn("Unsaved changes are not protected against a crash: {}", error.what());
+        emit failed(QString::fromUtf8(error.what()));
     }
 }
 

@@ -32,6 +32,11 @@ public:
     /// if the program ends without asking the user.
     void keepForNextStart();
 
+signals:
+    /// Unsaved changes are not protected, for the reason that the sentence `why` gives. Emitted on
+    /// any thread, once until writing succeeds again.
+    void failed(const QString& why);
+
 private:
     void edited();
     void write();
