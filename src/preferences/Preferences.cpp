@@ -31,7 +31,7 @@ PrefRange prefRange(const std::string& key)
         return {0, 126};
     if (key == "KeyRangeHi")
         return {getPrefInt("KeyRangeLo") + 1, 127};
-    if (key == "VelocityCurve")
+    if (key == "VelocityCurve" || key == "NoteNames")
         return {0, 3};
     if (key == "Transposition")
         return {-24, 24};

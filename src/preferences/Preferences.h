@@ -10,9 +10,9 @@ namespace velmora {
 /// Returns an integer preference, clamped to its range, or 0 if the key is unknown. The keys are
 /// "KeyWidth", the width of a semitone in pixels; "KeyHeight", the height of a step in the piano
 /// roll in pixels; "KeyRangeLo" and "KeyRangeHi", the lowest and highest MIDI key shown, at least
-/// one apart; "VelocityCurve", a `VelocityCurve`; "Transposition" and "BendRange", the
-/// transposition of MIDI devices and the range of their pitch wheels in semitones; "OutputRate" in
-/// hertz and "OutputPeriod" in frames, 0 for automatic; "MasterVolume" in percent.
+/// one apart; "NoteNames", a `NoteNaming`; "VelocityCurve", a `VelocityCurve`; "Transposition" and
+/// "BendRange", the transposition of MIDI devices and the range of their pitch wheels in semitones;
+/// "OutputRate" in hertz and "OutputPeriod" in frames, 0 for automatic; "MasterVolume" in percent.
 int getPrefInt(const std::string& key);
 void setPrefInt(const std::string& key, int value);
 
@@ -31,8 +31,9 @@ bool getPrefBool(const std::string& key);
 void setPrefBool(const std::string& key, bool value);
 
 /// Returns a text preference: "GMBank" is the path of the SoundFont for the General MIDI
-/// synthesizer, "Output" the name of an audio driver and "OutputDevice" that of one of its devices;
-/// each is empty if the user has not chosen one.
+/// synthesizer, "Output" the name of an audio driver, "OutputDevice" that of one of its devices,
+/// and "Language" the code of a language, such as "de"; each is empty if the user has not chosen
+/// one.
 std::string getPrefString(const std::string& key);
 void setPrefString(const std::string& key, const std::string& value);
 

@@ -30,6 +30,8 @@ const QVariantMap& defaults()
         {"KeyRangeLo", 21},  // A0
         {"KeyRangeHi", 108}, // C8
         {"KeyNames", true},
+        {"NoteNames", 0}, // by language
+        {"Language", ""},
         {"GMBank", ""},
         {"PlainReading", false},
         {"VelocityCurve", 0}, // linear

@@ -214,12 +214,14 @@ void SequenceDocument::registerTake()
         return;
     const auto added = std::count_if(before.begin(), before.end(),
                                      [](const NoteState& state) { return !state.note; });
-    registerDone(std::move(before), editText("Record", static_cast<std::size_t>(added)));
+    registerDone(std::move(before),
+                 editText(QT_TRANSLATE_N_NOOP("velmora::SequenceDocument", "Record %n Note(s)"),
+                          static_cast<std::size_t>(added)));
 }
 
-QString SequenceDocument::editText(const char* verb, std::size_t notes)
+QString SequenceDocument::editText(const char* text, std::size_t notes)
 {
-    return tr(verb) + ' ' + (notes == 1 ? tr("1 Note") : tr("%1 Notes").arg(notes));
+    return tr(text, nullptr, static_cast<int>(notes));
 }
 
 } // namespace velmora

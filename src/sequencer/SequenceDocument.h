@@ -75,8 +75,9 @@ public:
     /// Sets the transport's extent to 32 steps after the last note, or to 0 without notes.
     void updateExtent();
 
-    /// The name of an edit in the menu, as in "Move 3 Notes".
-    static QString editText(const char* verb, std::size_t notes);
+    /// Returns the name of an edit in the menu. `text` is "Move %n Note(s)" and the like, in the
+    /// form that has to be translated.
+    static QString editText(const char* text, std::size_t notes);
 
     /// Puts notes into the given states, as an edit that can be undone. `text` names it in the
     /// menu.

@@ -173,11 +173,17 @@ void SequenceEditor::finishLength()
         edit->erase(id);
     } else if (!isLong) {
         note->length = note->oldLength;
-        document_.perform(absent({*note}), SequenceDocument::editText("Delete", 1));
+        document_.perform(
+            absent({*note}),
+            SequenceDocument::editText(
+                QT_TRANSLATE_N_NOOP("velmora::SequenceDocument", "Delete %n Note(s)"), 1));
     } else if (note->length != note->oldLength) {
         Note before = *note;
         before.length = note->oldLength;
-        document_.registerDone(present({before}), SequenceDocument::editText("Resize", 1));
+        document_.registerDone(
+            present({before}),
+            SequenceDocument::editText(
+                QT_TRANSLATE_N_NOOP("velmora::SequenceDocument", "Resize %n Note(s)"), 1));
     }
 }
 
@@ -189,7 +195,10 @@ void SequenceEditor::finishMove()
             note.start = note.oldStart;
             note.key = note.oldKey;
         }
-        document_.registerDone(present(notes), SequenceDocument::editText("Move", notes.size()));
+        document_.registerDone(
+            present(notes),
+            SequenceDocument::editText(
+                QT_TRANSLATE_N_NOOP("velmora::SequenceDocument", "Move %n Note(s)"), notes.size()));
     }
     document_.edit()->update();
 }

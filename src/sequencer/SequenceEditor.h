@@ -75,7 +75,7 @@ private:
     void isomorph(int number);
     void release(int number);
     void setChannel(unsigned char channel, bool ofSelection);
-    std::vector<Note> remove(const char* verb);
+    std::vector<Note> remove(const char* text);
 
     SequenceDocument& document_;
     Transport& transport_;

@@ -136,8 +136,10 @@ void SequenceEditor::setChannel(unsigned char channel, bool ofSelection)
         return;
     document_.registerTake();
     document_.edit()->setChannel(channel);
-    document_.registerDone(present(notes),
-                           SequenceDocument::editText("Set Channel of", notes.size()));
+    document_.registerDone(
+        present(notes), SequenceDocument::editText(QT_TRANSLATE_N_NOOP("velmora::SequenceDocument",
+                                                                       "Set Channel of %n Note(s)"),
+                                                   notes.size()));
 }
 
 void SequenceEditor::selectAll()
@@ -160,19 +162,19 @@ std::vector<Note> SequenceEditor::copy() const
 
 void SequenceEditor::deleteSelection()
 {
-    remove("Delete");
+    remove(QT_TRANSLATE_N_NOOP("velmora::SequenceDocument", "Delete %n Note(s)"));
 }
 
 std::vector<Note> SequenceEditor::cut()
 {
-    return remove("Cut");
+    return remove(QT_TRANSLATE_N_NOOP("velmora::SequenceDocument", "Cut %n Note(s)"));
 }
 
-std::vector<Note> SequenceEditor::remove(const char* verb)
+std::vector<Note> SequenceEditor::remove(const char* text)
 {
     std::vector<Note> notes = copy();
     if (!notes.empty())
-        document_.perform(absent(notes), SequenceDocument::editText(verb, notes.size()));
+        document_.perform(absent(notes), SequenceDocument::editText(text, notes.size()));
     return notes;
 }
 
@@ -198,7 +200,10 @@ void SequenceEditor::paste(std::vector<Note> notes)
         edit->sort();
         document_.updateExtent();
     }
-    document_.registerDone(absent(copy()), SequenceDocument::editText("Paste", notes.size()));
+    document_.registerDone(
+        absent(copy()),
+        SequenceDocument::editText(
+            QT_TRANSLATE_N_NOOP("velmora::SequenceDocument", "Paste %n Note(s)"), notes.size()));
     document_.practice().showKeys();
     emit transport_.frame();
 }

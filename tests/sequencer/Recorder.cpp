@@ -62,7 +62,7 @@ TEST_F(RecorderTest, RunsOnForEightStepsAfterTheLastKey)
 
     EXPECT_TRUE(document_.isModified());
     recorder_.record();
-    EXPECT_EQ(document_.undoStack().undoText(), "Record 3 Notes");
+    EXPECT_EQ(document_.undoStack().undoText(), "Record 3 Note(s)");
     document_.undoStack().undo();
     EXPECT_THAT(recorded(), IsEmpty());
     EXPECT_FALSE(document_.isModified());

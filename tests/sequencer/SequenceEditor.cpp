@@ -79,14 +79,14 @@ TEST_F(SequenceEditorTest, MovesANoteOrResizesItByItsEnd)
     EXPECT_EQ(undoText(), "") << "a click moves nothing";
     drag({60.0, 6.9}, {62.0, 7.4});
     EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 4.0, 0));
-    EXPECT_EQ(undoText(), "Move 1 Note");
+    EXPECT_EQ(undoText(), "Move 1 Note(s)");
     drag({62.0, 7.6}, {99.0, 6.0});
     EXPECT_THAT(notes()[1], FieldsAre(62, 4.5, 1.5, 0));
     EXPECT_EQ(transport_.extent(), 38.0);
-    EXPECT_EQ(undoText(), "Resize 1 Note");
+    EXPECT_EQ(undoText(), "Resize 1 Note(s)");
     drag({62.0, 6.0}, {62.0, 1.0});
     EXPECT_THAT(notes(), IsEmpty()) << "resized to nothing";
-    EXPECT_EQ(undoText(), "Delete 1 Note");
+    EXPECT_EQ(undoText(), "Delete 1 Note(s)");
     EXPECT_EQ(transport_.extent(), 0.0);
     undo();
     EXPECT_EQ(transport_.extent(), 38.0);
@@ -135,7 +135,7 @@ TEST_F(SequenceEditorTest, SelectsNotesAndTheInterval)
     EXPECT_EQ(transport_.interval().end, 5.0);
     EXPECT_THAT(selection(), ElementsAre(1, 2, 1)) << "the first note is listed twice";
     editor_.deleteSelection();
-    EXPECT_EQ(undoText(), "Delete 2 Notes");
+    EXPECT_EQ(undoText(), "Delete 2 Note(s)");
     EXPECT_EQ(notes().size(), 1U);
     undo();
     EXPECT_EQ(notes().size(), 3U) << "each note once";
@@ -219,7 +219,7 @@ TEST_F(SequenceEditorTest, KeepsTheOrderOfATakeAndEditsDuringIt)
     liveKeys_.release(60, now_);
     drag({60.0, 0.5}, {62.0, 0.5});
     recorder_.record();
-    for (const char* done : {"Move 1 Note", "Record 1 Note", ""}) {
+    for (const char* done : {"Move 1 Note(s)", "Record 1 Note(s)", ""}) {
         EXPECT_EQ(undoText(), done);
         undo();
     }
@@ -232,14 +232,14 @@ TEST_F(SequenceEditorTest, PastesAtThePosition)
     add(64, 4.5, 2.0);
     editor_.selectAll();
     const QByteArray bytes = encodeNotes(editor_.cut());
-    EXPECT_EQ(undoText(), "Cut 2 Notes");
+    EXPECT_EQ(undoText(), "Cut 2 Note(s)");
     transport_.setPosition(10.0);
     editor_.paste(decodeNotes(bytes));
     EXPECT_THAT(notes(), ElementsAre(FieldsAre(3, FieldsAre(60, 10.0, 1.0, 0)),
                                      FieldsAre(4, FieldsAre(64, 11.5, 2.0, 0))));
     EXPECT_THAT(selection(), ElementsAre(3, 4));
     EXPECT_EQ(transport_.extent(), 45.5);
-    EXPECT_EQ(undoText(), "Paste 2 Notes");
+    EXPECT_EQ(undoText(), "Paste 2 Note(s)");
 
     EXPECT_THAT(decodeNotes(bytes.chopped(1)), IsEmpty());
     QByteArray wrong = bytes;

@@ -1,6 +1,7 @@
 // Runs tests of views and windows on a display, with preferences of their own and a silent output.
 
 #include "desktop/widgets/graphics.h"
+#include "desktop/widgets/languages.h"
 #include "support/TestHome.h"
 
 #include <QApplication>
@@ -15,5 +16,6 @@ int main(int argc, char** argv)
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     velmora::requestOpenGL();
     const QApplication application(argc, argv);
+    velmora::installTranslators();
     return RUN_ALL_TESTS();
 }

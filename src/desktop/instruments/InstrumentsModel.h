@@ -9,6 +9,8 @@ class AppDelegate;
 /// The application's list of instruments as a table. Each row shows the name of an instrument and
 /// its size in memory.
 class InstrumentsModel : public QAbstractTableModel {
+    Q_OBJECT
+
 public:
     InstrumentsModel(AppDelegate& application, QObject* parent);
 

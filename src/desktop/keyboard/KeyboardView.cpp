@@ -2,11 +2,11 @@
 
 #include "base/Log.h"
 #include "desktop/widgets/graphics.h"
+#include "desktop/widgets/noteNames.h"
 #include "midi/midiRead.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyboardDocument.h"
 #include "sequencer/LiveKeys.h"
-#include "tuning/keyName.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -177,7 +177,7 @@ void KeyboardView::drawNames(const Picture& picture)
         painter.setPen(isDark ? Qt::white : QColor(64, 64, 64));
         const QRect place(qRound(quad.left), 0, qRound(quad.right - quad.left), height() - below);
         painter.drawText(place, Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip,
-                         QString::fromStdString(noteName(static_cast<unsigned>(quad.key))));
+                         noteText(static_cast<unsigned>(quad.key)));
     }
 }
 

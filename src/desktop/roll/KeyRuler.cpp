@@ -1,8 +1,8 @@
 #include "desktop/roll/KeyRuler.h"
 
 #include "desktop/keyboard/KeyboardGeometry.h"
+#include "desktop/widgets/noteNames.h"
 #include "preferences/Preferences.h"
-#include "tuning/keyName.h"
 
 #include <QPainter>
 
@@ -54,7 +54,7 @@ void KeyRuler::paintEvent(QPaintEvent* /*event*/)
         painter.fillRect(place, key.isBlack ? Qt::black : Qt::white);
         if (key.key % 12 == 0 && letter >= kMinRulerLetter)
             painter.drawText(place, Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip,
-                             QString::fromStdString(noteName(static_cast<unsigned>(key.key))));
+                             noteText(static_cast<unsigned>(key.key)));
     }
 }
 

@@ -7,6 +7,8 @@ namespace velmora {
 /// A narrow keyboard below the piano roll. Its octaves and black keys are aligned with the columns
 /// of the roll.
 class KeyRuler : public QWidget {
+    Q_OBJECT
+
 public:
     explicit KeyRuler(QWidget* parent = nullptr);
 

@@ -1,8 +1,8 @@
 #include "desktop/roll/SequenceStatus.h"
 
+#include "desktop/widgets/noteNames.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceDocument.h"
-#include "tuning/keyName.h"
 
 #include <QLabel>
 
@@ -83,9 +83,9 @@ QString SequenceStatus::practiceText() const
     for (unsigned key = 0; key < kKeys; ++key) {
         const int state = document_.practice().stateOfNote(key);
         if (state == kWanted || state == (kWanted | kHeld))
-            missing += QString::fromStdString(noteName(key));
+            missing += noteText(key);
         else if (state == kPressed)
-            wrong += QString::fromStdString(noteName(key));
+            wrong += noteText(key);
     }
     QString text = missing.isEmpty() ? QString() : tr("Waiting for %1").arg(missing.join(", "));
     if (!missing.isEmpty() && !wrong.isEmpty())

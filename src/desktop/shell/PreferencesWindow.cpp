@@ -1,6 +1,7 @@
 #include "desktop/shell/PreferencesWindow.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/shell/LanguageFields.h"
 #include "desktop/shell/MidiPane.h"
 #include "desktop/shell/PlayingPane.h"
 #include "desktop/shell/SoundPane.h"
@@ -101,6 +102,13 @@ QWidget* PreferencesWindow::makeGeneralPane()
         names->setChecked(getPrefBool("KeyNames"));
     });
     form->addRow(QString(), names);
+    auto* language = new LanguageFields(*form);
+    connect(language, &LanguageFields::noteNamesChanged, this, [this] {
+        for (auto* box : findChildren<NoteSpinBox*>())
+            box->showName();
+        emit changed();
+    });
+    readers_.emplace_back([language] { language->read(); });
     form->addRow(tr("General MIDI bank:"), makeBankRow());
     return pane;
 }

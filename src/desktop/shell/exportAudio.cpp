@@ -4,6 +4,7 @@
 #include "desktop/shell/askWhereToSave.h"
 #include "sequencer/SequenceDocument.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -22,6 +23,8 @@ constexpr int kExportedMilliseconds = 8000;
 
 /// An export with its progress dialog; deletes itself when it is done.
 class ExportProgress : public QProgressDialog {
+    Q_DECLARE_TR_FUNCTIONS(velmora::ExportProgress)
+
 public:
     ExportProgress(QMainWindow& window, const QString& path)
         : QProgressDialog(tr("Loading the instrument"), tr("Cancel"), 0, kProgressSteps, &window),

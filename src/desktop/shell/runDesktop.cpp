@@ -4,6 +4,7 @@
 #include "desktop/shell/Desktop.h"
 #include "desktop/shell/SingleInstance.h"
 #include "desktop/widgets/graphics.h"
+#include "desktop/widgets/languages.h"
 #include "platform/QuitOnSignal.h"
 
 #include <QApplication>
@@ -54,6 +55,7 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files, boo
     QApplication::setDesktopFileName("velmora");
     QApplication::setWindowIcon(QIcon(":/velmora.svg"));
     QApplication::setQuitOnLastWindowClosed(false);
+    installTranslators();
 
     QStringList paths;
     for (const std::string& file : files)

@@ -1,10 +1,12 @@
 #include "desktop/tuning/TuningStrip.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/widgets/noteNames.h"
 #include "sound/keys.h"
 #include "tuning/keyName.h"
 #include "tuning/spelling.h"
 
+#include <QLocale>
 #include <QPainter>
 
 #include <algorithm>
@@ -25,6 +27,13 @@ constexpr float kLineOpacity = 0.3F;
 double cents(double pitch, double reference)
 {
     return 1200.0 * std::log2(pitch / reference);
+}
+
+QString centsText(double cents)
+{
+    const QLocale locale;
+    const QString text = locale.toString(cents, 'f', cents == 0 ? 0 : 1);
+    return cents > 0 ? locale.positiveSign() + text : text;
 }
 
 } // namespace
@@ -98,15 +107,11 @@ void TuningStrip::paintEvent(QPaintEvent* /*event*/)
         painter.setPen(palette().color(QPalette::WindowText));
         painter.setFont(font());
         painter.drawText(QRectF(place.left(), 0, cell / 2 - 8, height()),
-                         Qt::AlignRight | Qt::AlignVCenter,
-                         QString::fromStdString(tones_[tone].name)
-                             .replace('#', QChar(0x266F))
-                             .replace('b', QChar(0x266D)));
+                         Qt::AlignRight | Qt::AlignVCenter, toneText(tones_[tone].name));
         painter.setFont(small);
         const double shown = std::round(tones_[tone].cents * 10) / 10;
         painter.drawText(QRectF(place.left() + cell / 2 + 8, 0, cell / 2 - 8, height()),
-                         Qt::AlignLeft | Qt::AlignVCenter,
-                         shown == 0 ? QString("0") : QString::asprintf("%+.1f", shown));
+                         Qt::AlignLeft | Qt::AlignVCenter, centsText(shown));
     }
 }
 

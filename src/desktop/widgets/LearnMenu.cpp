@@ -1,7 +1,7 @@
 #include "desktop/widgets/LearnMenu.h"
 
 #include "app/AppDelegate.h"
-#include "tuning/keyName.h"
+#include "desktop/widgets/noteNames.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -19,8 +19,7 @@ QString describe(MidiControl control)
 {
     const QString channel = LearnMenu::tr("channel %1").arg(control.channel + 1);
     if (control.kind == MidiControl::Kind::Key)
-        return LearnMenu::tr("MIDI key %1, %2")
-            .arg(QString::fromStdString(noteName(control.number)), channel);
+        return LearnMenu::tr("MIDI key %1, %2").arg(noteText(control.number), channel);
     return LearnMenu::tr("MIDI controller %1, %2").arg(control.number).arg(channel);
 }
 

@@ -1,6 +1,9 @@
 #include "desktop/widgets/NoteSpinBox.h"
 
+#include "desktop/widgets/noteNames.h"
 #include "tuning/keyName.h"
+
+#include <QLineEdit>
 
 #include <algorithm>
 #include <optional>
@@ -9,17 +12,19 @@ namespace velmora {
 
 namespace {
 
-QString nameOf(int key)
-{
-    return QString::fromStdString(noteName(static_cast<unsigned>(key)));
-}
-
 QString shown(int key)
 {
-    return QString("%1 (%2)").arg(nameOf(key)).arg(key);
+    return QString("%1 (%2)").arg(noteText(static_cast<unsigned>(key))).arg(key);
 }
 
-/// The key that a text names. A number is returned even if it is outside 0…127.
+/// Returns a name with the accidentals of a computer keyboard.
+QString typeable(QString name)
+{
+    return name.replace(QChar(0x266F), '#').replace(QChar(0x266D), 'b');
+}
+
+/// The key that a text names, in the naming that is shown or else in the international one. A
+/// number is returned even if it is outside 0…127.
 std::optional<int> keyOf(const QString& text)
 {
     const QString typed = text.trimmed();
@@ -27,13 +32,15 @@ std::optional<int> keyOf(const QString& text)
     const int number = typed.toInt(&isNumber);
     if (isNumber)
         return number;
-    for (int key = 0; key < 128; ++key) {
-        for (const QString& name : {nameOf(key), shown(key)}) {
-            if (typed.compare(name, Qt::CaseInsensitive) == 0)
-                return key;
-        }
-    }
-    return std::nullopt;
+    const auto find = [name = typeable(typed)](auto nameOf) -> std::optional<int> {
+        for (unsigned key = 0; key < 128; ++key)
+            if (name.compare(typeable(nameOf(key)), Qt::CaseInsensitive) == 0)
+                return static_cast<int>(key);
+        return std::nullopt;
+    };
+    const auto whole = find([](unsigned key) { return shown(static_cast<int>(key)); });
+    const auto named = whole ? whole : find(noteText);
+    return named ? named : find([](unsigned key) { return QString::fromStdString(noteName(key)); });
 }
 
 } // namespace
@@ -41,6 +48,11 @@ std::optional<int> keyOf(const QString& text)
 NoteSpinBox::NoteSpinBox(QWidget* parent) : QSpinBox(parent)
 {
     setRange(0, 127);
+}
+
+void NoteSpinBox::showName()
+{
+    lineEdit()->setText(shown(value()));
 }
 
 QString NoteSpinBox::textFromValue(int key) const

@@ -67,10 +67,10 @@ TEST_F(PreferencesWindowTest, CorrectsTypedNumbers)
         const char* shown;
     } rows[] = {
         {"KeyWidth", "20", 20, "20 px"},         {"KeyWidth", "1", 4, "4 px"},
-        {"KeyRangeLo", "36", 36, "C2 (36)"},     {"KeyRangeLo", "c#3", 49, "C#3 (49)"},
+        {"KeyRangeLo", "36", 36, "C2 (36)"},     {"KeyRangeLo", "c#3", 49, "C♯3 (49)"},
         {"KeyRangeHi", "60", 60, "C4 (60)"},     {"KeyRangeHi", "40", 50, "D3 (50)"},
         {"KeyRangeHi", "200", 127, "G9 (127)"},  {"KeyRangeHi", "H9", 127, "G9 (127)"},
-        {"KeyRangeLo", "127", 126, "F#9 (126)"},
+        {"KeyRangeLo", "127", 126, "F♯9 (126)"},
     };
     for (const auto& row : rows) {
         changed.clear();

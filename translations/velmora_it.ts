@@ -1,0 +1,1570 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en">
+<context>
+    <name>HelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show what the guide says about this</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>1 file or sample was left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files or samples were left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stops: %1, keys: %2, samples: %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 already exists. Do you want to replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::AboutBox</name>
+    <message>
+        <source>About Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Velmora %1&lt;/h3&gt;&lt;p&gt;Plays keyboard instruments in historical and adaptive tunings.&lt;/p&gt;&lt;p&gt;Velmora uses FluidSynth, the Synthesis ToolKit and OpenAL Soft for sound, libsndfile and WavPack for samples, RtMidi for MIDI, and Qt %2 for its windows.&lt;/p&gt;&lt;p&gt;It is available under the MIT licence.&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::AudioExport</name>
+    <message>
+        <source>Loading the instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory to load the instrument a second time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Commands</name>
+    <message>
+        <source>&amp;New Sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Preferences…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Silence Everything</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transpose &amp;Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transpose &amp;Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instrument &amp;Panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Instruments…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Meters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note &amp;Names on the Keyboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tuning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open sequences, instruments and tunings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop every sound and release every key (Ctrl+.)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the program, the tuning and the stops (Ctrl+I)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the delay, the load and the devices of live playing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User &amp;Guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Desktop</name>
+    <message>
+        <source>%1: unrecognised file type. Velmora recognises files by their extensions, such as .mid, .scl or .sf2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: contains no instrument that Velmora can play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2; see Import Report in the Instruments window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transposition: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The General MIDI player is silent because there is no SoundFont for it. Choose one in the preferences.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be used as the General MIDI bank. %2 is used instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ExportProgress</name>
+    <message>
+        <source>Loading the instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exported %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not exported. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::GuideWindow</name>
+    <message>
+        <source>User Guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find words in the guide (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not in the guide.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No program could open %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::InstrumentPanel</name>
+    <message>
+        <source>Stop %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General MIDI program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Memory used by the samples of this instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tuning that you play in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage:  %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::InstrumentsModel</name>
+    <message>
+        <source>Unloaded: select it to load it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::InstrumentsWindow</name>
+    <message>
+        <source>&amp;Unload</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import &amp;Report…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instruments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loaded instruments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a SoundFont, a GigaSampler bank or an organ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free the memory that the samples of this instrument use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show what was imported and what was left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is still sounding. Silence everything, then unload it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::KeyRuler</name>
+    <message>
+        <source>Key names</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::KeyboardView</name>
+    <message>
+        <source>Piano keyboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::KeyboardWindow</name>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Silence Everything</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LanguageFields</name>
+    <message>
+        <source>The language changes when you start Velmora again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The language of all menus and windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As usual in the language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>International: C D E F G A B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>German: C D E F G A H</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Solfège: Do Re Mi Fa Sol La Si</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The names of the keys and notes in all windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>L&amp;anguage:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not&amp;e names:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LearnMenu</name>
+    <message>
+        <source>channel %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MIDI key %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MIDI controller %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Learn MIDI Controller…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Learn MIDI Controller for %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Forget MIDI Controller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forget MIDI Controller for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Learn MIDI Controller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for a MIDI controller for “%1”.
+Move a controller, or press a button or a key, on a MIDI device.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LevelMeter</name>
+    <message>
+        <source>Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::MetersWindow</name>
+    <message>
+        <source>Meters</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::MidiPane</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect a MIDI device, and it appears here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MIDI devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the device is heard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The MIDI channel to listen to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> semitones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much higher the keys sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PlayingControls</name>
+    <message>
+        <source>Transpose down (Ctrl+Shift+Down)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transpose up (Ctrl+Shift+Up)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linear touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Soft touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hard touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixed touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How loud your touch on a MIDI keyboard sounds: soft makes a light touch louder, hard asks for a strong one, fixed ignores the touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transposition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transposition of the MIDI keyboards in semitones</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PlayingPane</name>
+    <message>
+        <source>How much higher than written the keys of MIDI devices sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far the pitch wheel bends up and down; with 0 it does nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pl&amp;ain reading of MIDI devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linear: as the keyboard sends it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Soft: a light touch is louder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hard: only a strong touch is loud</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixed: always the same</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only notes and volumes count: no pedals, wheels, programs or learned controllers, no touch and no transposition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Touch:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>T&amp;ransposition (semitones):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pitch &amp;wheel (semitones):</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PreferencesWindow</name>
+    <message>
+        <source> px</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Panes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;olors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;MIDI</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>So&amp;und</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key &amp;width:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The width of a semitone on the keyboard and in the piano roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Step height:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The height of a step, the distance between grid lines, in the piano roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Lowest key:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first key of the keyboard: a note name, such as A0, or a MIDI key number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Highest key:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last key of the keyboard: a note name, such as C8, or a MIDI key number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show note &amp;names on the C keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General MIDI bank:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General MIDI bank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a SoundFont for the General MIDI player</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use &amp;Default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use the system&apos;s General MIDI bank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a General MIDI Bank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SoundFont banks (*.sf2 *.sf3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyboard keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Played:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys that the sequence plays, or waits for in practice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys that you struck correctly</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Held:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys that you keep holding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Wrong:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys that you struck by mistake</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Piano roll notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;At rest:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes that are not sounding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sounding:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes at the play position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset to &amp;Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgressWindow</name>
+    <message>
+        <source>Loading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequenceActions</name>
+    <message>
+        <source>&amp;Loop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repeat the selected time, or the whole sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snap to &amp;Grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align notes and times with whole steps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select &amp;None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to &amp;Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Channel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record what you play, starting at the position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play from the position</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequenceDocument</name>
+    <message>
+        <source>Draw Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Record %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Resize %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Set Channel of %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Cut %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Paste %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequenceSaver</name>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is still being exported. Stop the export?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If you stop it, no sound file is written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If you do not save them, they are lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An iMelody file holds a single voice and no dynamics. Save it anyway?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velmora cannot open iMelody files. A MIDI file keeps everything that you see.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequenceScrollView</name>
+    <message>
+        <source>Keys shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequenceStatus</name>
+    <message>
+        <source>1 note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Playing, recording or practising</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Practice: play the notes at the position to move on to the next ones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Steps %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; release %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequenceView</name>
+    <message>
+        <source>Piano roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequenceWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export Audio…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoo&amp;m In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Wider Keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Narrowe&amp;r Keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tuning Strip</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequenceWindows</name>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velmora was not closed properly. Recover the unsaved sequences?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untitled %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SoundPane</name>
+    <message>
+        <source>Ou&amp;tput:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound server or driver that Velmora plays through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Device:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The device that is heard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample &amp;rate:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A JACK server determines the sample rate itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Period:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The shorter the period, the sooner a key sounds, and the more the machine has to do. With JACK, it applies to all programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Playing:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Master &amp;volume:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Level:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Master volume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play Test To&amp;ne</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plays a short, quiet tone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 kHz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 frames</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 kHz, %3 frames (%4 ms)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+To the sound card: %1 ms. Lost periods: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StartPage</name>
+    <message>
+        <source>First steps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User Guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the user guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What would you like to do?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Welcome to Velmora! Each card does something at once, and nothing can break.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hear it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C major, whose third beats in equal temperament and is pure in meantone. The tuning that you hear stays selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Equal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hear the chord in equal temperament</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Meantone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hear the chord in quarter-comma meantone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a Tuning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a tuning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tune it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a historical tuning, or one that adapts to what you play.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open an Instrument…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open an instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use a MIDI keyboard, the keys below, or the letters of the computer keyboard, from A on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record a new sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play, correct the notes in the piano roll, and export the sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (tuning)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (piece)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StatusLine</name>
+    <message>
+        <source>%1, %2 kHz, %3 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The current instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The current tuning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound output: its driver, sample rate and period</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The display may go to sleep while you play because there is no D-Bus session bus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed preferences are lost when you quit because they cannot be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No MIDI input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 MIDI inputs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A MIDI device is used as soon as it is connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no MIDI device. Connect one, or play with the mouse.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No sound output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notices: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notices</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TransportBar</name>
+    <message>
+        <source>Transport</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The position in minutes and seconds at this tempo, and in steps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Te&amp;mpo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tempo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Channel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The channel of notes that you record or draw. A digit key chooses a channel and selects its notes; with Ctrl it moves the selected notes to that channel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  ·  step %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningStrip</name>
+    <message>
+        <source>Tuning strip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many cents each note of the tuning lies above or below equal temperament</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::noteNames</name>
+    <message>
+        <source>La</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Si</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sol</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
