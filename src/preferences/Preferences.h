@@ -33,9 +33,12 @@ void setPrefBool(const std::string& key, bool value);
 /// Returns a text preference: "GMBank" is the path of the SoundFont for the General MIDI
 /// synthesizer, "Output" the name of an audio driver, "OutputDevice" that of one of its devices,
 /// and "Language" the code of a language, such as "de"; each is empty if the user has not chosen
-/// one.
+/// one. "Scheme" is "Calm" or "Classic".
 std::string getPrefString(const std::string& key);
 void setPrefString(const std::string& key, const std::string& value);
+
+/// Returns whether the user has set a key, even to its default.
+bool isPrefSet(const std::string& key);
 
 /// Restores a key's default.
 void resetPref(const std::string& key);

@@ -32,6 +32,7 @@ const QVariantMap& defaults()
         {"KeyNames", true},
         {"NoteNames", 0}, // by language
         {"Language", ""},
+        {"Scheme", "Calm"},
         {"GMBank", ""},
         {"PlainReading", false},
         {"VelocityCurve", 0}, // linear
@@ -89,6 +90,11 @@ void setPreference(const std::string& key, const QVariant& value)
 bool arePreferencesWritable()
 {
     return settings().isWritable();
+}
+
+bool isPrefSet(const std::string& key)
+{
+    return settings().contains(QString::fromStdString(key));
 }
 
 void resetPref(const std::string& key)

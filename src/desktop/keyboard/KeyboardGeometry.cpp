@@ -10,8 +10,12 @@ namespace {
 /// Black keys reach down to this fraction of the height.
 constexpr double kBlackEnd = 0.4;
 
+/// The range of the width of a white key that fills a window.
+constexpr double kMinWhiteWidth = 8.0;
+constexpr double kMaxWhiteWidth = 64.0;
+
 /// The distance from the left edge of the next white key to the left edge of a black key.
-float blackOffset(int key, float semitone, float white)
+double blackOffset(int key, double semitone, double white)
 {
     switch (key % 12) {
     case 1:
@@ -22,6 +26,15 @@ float blackOffset(int key, float semitone, float white)
     default: // 3 and 10
         return white - 2 * semitone;
     }
+}
+
+/// Returns the number of white keys from `lo` to `hi`.
+int whiteKeys(int lo, int hi)
+{
+    int whites = 0;
+    for (int key = lo; key <= hi; ++key)
+        whites += isBlackKey(key) ? 0 : 1;
+    return whites;
 }
 
 } // namespace
@@ -38,24 +51,45 @@ KeyQuad KeyQuad::inner() const
     return {key, isBlack, left + 2, right - 2, bottom + 2, top};
 }
 
-float KeyboardGeometry::extent() const
+KeyboardGeometry KeyboardGeometry::filling(double width, int lo, int hi)
 {
-    int whites = 0;
-    for (int key = lo; key <= hi; ++key)
-        whites += isBlackKey(key) ? 0 : 1;
-    return std::max(static_cast<float>(width()), static_cast<float>(whites) * whiteWidth());
+    const KeyboardGeometry unit{1.0, lo, hi};
+    const double keyWidth = width / (unit.right() - unit.left());
+    return {std::clamp(keyWidth, kMinWhiteWidth * 7 / 12, kMaxWhiteWidth * 7 / 12), lo, hi};
+}
+
+double KeyboardGeometry::minWidth(int lo, int hi)
+{
+    const KeyboardGeometry narrowest{kMinWhiteWidth * 7 / 12, lo, hi};
+    return narrowest.right() - narrowest.left();
+}
+
+double KeyboardGeometry::extent() const
+{
+    return std::max(width(), whiteKeys(lo, hi) * whiteWidth());
+}
+
+double KeyboardGeometry::left() const
+{
+    return isBlackKey(lo) ? blackOffset(lo, keyWidth, whiteWidth()) : 0.0;
+}
+
+double KeyboardGeometry::right() const
+{
+    const double whites = whiteKeys(lo, hi) * whiteWidth();
+    return isBlackKey(hi) ? whites + blackOffset(hi, keyWidth, whiteWidth()) + keyWidth : whites;
 }
 
 std::vector<KeyQuad> KeyboardGeometry::keys(float height) const
 {
     const auto semitone = static_cast<float>(keyWidth);
-    const float white = whiteWidth();
+    const auto white = static_cast<float>(whiteWidth());
     std::vector<KeyQuad> quads;
     int whites = 0;
     for (int key = lo; key <= hi; ++key) {
         float left = static_cast<float>(whites) * white;
         if (isBlackKey(key)) {
-            left += blackOffset(key, semitone, white);
+            left += static_cast<float>(blackOffset(key, keyWidth, whiteWidth()));
             const float bottom = static_cast<float>(kBlackEnd) * height;
             quads.push_back({key, true, left, left + semitone, bottom, height});
         } else {
@@ -64,6 +98,18 @@ std::vector<KeyQuad> KeyboardGeometry::keys(float height) const
         }
     }
     return quads;
+}
+
+int KeyboardGeometry::drawnKeyAt(double x, double y, double height) const
+{
+    int found = -1;
+    for (const KeyQuad& quad : keys(static_cast<float>(height))) {
+        const double gap = quad.isBlack ? 0.0 : 1.0; // belongs to the keys beside it
+        if (x >= quad.left - gap && x < quad.right + gap && y >= quad.bottom &&
+            (found < 0 || quad.isBlack))
+            found = quad.key;
+    }
+    return found;
 }
 
 int KeyboardGeometry::keyAt(double x, double y, double height) const

@@ -24,18 +24,30 @@ struct KeyQuad {
 /// octave is as wide as in the piano roll. Lengths are in pixels; y grows upwards.
 struct KeyboardGeometry {
     /// The width of a semitone.
-    int keyWidth;
+    double keyWidth;
 
     /// The first and the last MIDI key; lo < hi.
     int lo;
     int hi;
 
-    /// The width of all keys if each were a semitone wide.
-    int width() const { return keyWidth * (hi - lo + 1); }
+    /// Returns the layout whose keys fill a width, within the limits of a key that can be played
+    /// with the mouse and one that still looks like a key.
+    static KeyboardGeometry filling(double width, int lo, int hi);
 
-    /// The right edge of the last white key or `width()`, whichever is greater. Keys are drawn and
-    /// can be played up to here.
-    float extent() const;
+    /// The smallest width that `filling` can fill.
+    static double minWidth(int lo, int hi);
+
+    /// The width of all keys if each were a semitone wide.
+    double width() const { return keyWidth * (hi - lo + 1); }
+
+    /// The right edge of the last white key or `width()`, whichever is greater. In the classic
+    /// layout keys can be played up to here.
+    double extent() const;
+
+    /// The left edge of the first key, which is negative if it is a black key, and the right edge
+    /// of the last one.
+    double left() const;
+    double right() const;
 
     /// The keys from lo to hi. Black keys overlap the white keys beside them.
     std::vector<KeyQuad> keys(float height) const;
@@ -45,10 +57,13 @@ struct KeyboardGeometry {
     /// lo to hi.
     int keyAt(double x, double y, double height) const;
 
+    /// The key that is drawn at a point, or −1 if there is none.
+    int drawnKeyAt(double x, double y, double height) const;
+
     bool operator==(const KeyboardGeometry&) const = default;
 
 private:
-    float whiteWidth() const { return 12.0F * static_cast<float>(keyWidth) / 7.0F; }
+    double whiteWidth() const { return 12.0 * keyWidth / 7.0; }
 };
 
 } // namespace velmora

@@ -40,9 +40,9 @@ void KeyRuler::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(rect(), Qt::black);
     painter.translate(-x_, 0);
     // A keyboard that starts at a C is aligned with the columns.
-    const KeyboardGeometry geometry{getPrefInt("KeyWidth"), 0, 127};
+    const KeyboardGeometry geometry{static_cast<double>(getPrefInt("KeyWidth")), 0, 127};
     QFont font = painter.font();
-    const int letter = std::min(geometry.keyWidth * 2 / 3, kMaxRulerLetter);
+    const int letter = std::min(getPrefInt("KeyWidth") * 2 / 3, kMaxRulerLetter);
     font.setPixelSize(std::max(letter, 1));
     painter.setFont(font);
     painter.setPen(QColor(64, 64, 64));

@@ -9,7 +9,6 @@
 #include "desktop/widgets/windowPlace.h"
 #include "preferences/Preferences.h"
 #include "preferences/settings.h"
-#include "sequencer/KeyboardDocument.h"
 #include "sequencer/SequenceFile.h"
 
 #include <QApplication>
@@ -46,10 +45,8 @@ Desktop::Desktop()
     progressWindow_.addAction(commands_.silence); // it is modal and blocks other windows' shortcuts
     connect(&fileDrop_, &FileDrop::dropped, this, &Desktop::open, Qt::QueuedConnection);
     connect(&application_, &AppDelegate::bankLoaded, this, &Desktop::showBank);
-    connect(&application_, &AppDelegate::midiInputReceived, this, [this] {
-        if (KeyboardDocument* document = keyboardWindow_.keyboard().document())
-            document->midiInput();
-    });
+    connect(&application_, &AppDelegate::midiInputReceived, &keyboardWindow_.keyboard(),
+            &KeyboardView::midiInput);
     connect(&application_, &AppDelegate::controlUsed, this, &Desktop::perform);
     connect(&preferencesWindow_, &PreferencesWindow::changed, this, &Desktop::updateAllViews);
     connect(&preferencesWindow_, &PreferencesWindow::changed, &application_.playing(),
@@ -272,7 +269,6 @@ void Desktop::perform(LearnedAction::Kind action)
 
 void Desktop::updateAllViews()
 {
-    keyboardWindow_.keyboard().updateWindowSize();
     keyboardWindow_.keyboard().update();
     sequenceWindows_.updateRollSizes();
     commands_.noteNames->setChecked(getPrefBool("KeyNames"));

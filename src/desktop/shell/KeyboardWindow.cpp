@@ -20,7 +20,7 @@ constexpr int kKeyboardHeight = 140;
 } // namespace
 
 KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
-    : commands_(commands), keyboard_(new KeyboardView(application)),
+    : commands_(commands), keyboard_(new KeyboardView(application, application.player().liveKeys())),
       status_(new StatusLine(application))
 {
     setWindowTitle(tr("Velmora"));
@@ -51,11 +51,10 @@ KeyboardWindow::KeyboardWindow(AppDelegate& application, Commands& commands)
                   {{{LearnedAction::Kind::Silence}, tr("Silence Everything")}});
     addActions({commands.transposeUp, commands.transposeDown}); // for their shortcuts
 
-    // The last height is restored; the width depends on the keys.
     resize(width(), kKeyboardHeight + menuBar()->sizeHint().height() + tools->sizeHint().height() +
                         status_->sizeHint().height());
+    resize(keyboard_->sizeHint().width(), height());
     rememberPlace(*this, "keyboard");
-    keyboard_->updateWindowSize();
 }
 
 void KeyboardWindow::closeEvent(QCloseEvent* event)

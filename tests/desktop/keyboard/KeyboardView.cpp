@@ -4,8 +4,10 @@
 #include "midi/midiRead.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyboardDocument.h"
+#include "sequencer/LiveKeys.h"
 
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QtTest>
 #include <gmock/gmock.h>
 #include <spdlog/sinks/ostream_sink.h>
@@ -36,17 +38,17 @@ public:
     std::array<int, 128> states{};
 };
 
-/// A keyboard of the default 1232 × 120 pixels in its own window: A0 spans x = 1 to 23, Bb0 20 to
-/// 34, B0 25 to 47, C1 49 to 71. Black keys end 72 pixels from the top.
+/// A keyboard of 1232 × 120 pixels in the classic scheme: A0 spans x = 1 to 23, Bb0 20 to 34, B0 25
+/// to 47, C1 49 to 71. Black keys end 72 pixels from the top.
 class KeyboardViewTest : public testing::Test {
 protected:
     KeyboardViewTest()
     {
+        setPrefString("Scheme", "Classic");
         setPrefColor("KeyColorCorrect", Color(QColor(Qt::yellow)));
         setPrefColor("KeyColorSustain", Color(QColor(Qt::cyan)));
         window.setCentralWidget(view);
-        window.resize(300, 120);
-        view->updateWindowSize();
+        window.resize(1232, 120);
         view->setDocument(&player);
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
@@ -56,7 +58,7 @@ protected:
     ~KeyboardViewTest() override
     {
         for (const char* key :
-             {"KeyColorCorrect", "KeyColorSustain", "KeyColor", "KeyNames", "KeyRangeHi"})
+             {"KeyColorCorrect", "KeyColorSustain", "KeyColor", "KeyNames", "KeyRangeHi", "Scheme"})
             resetPref(key);
     }
 
@@ -73,8 +75,9 @@ protected:
     }
 
     RecordingPlayer player;
+    LiveKeys keys;
     QMainWindow window;
-    KeyboardView* view = new KeyboardView(player);
+    KeyboardView* view = new KeyboardView(player, keys);
 };
 
 constexpr QRgb kWhiteKey = 0xffffff;
@@ -187,8 +190,76 @@ TEST_F(KeyboardViewTest, PaintsOnlyIfThePictureChanges)
     EXPECT_TRUE(isPainted());
     setPrefInt("KeyRangeHi", 90);
     EXPECT_TRUE(isPainted());
-    view->updateWindowSize();
-    EXPECT_EQ(window.width(), 14 * 70);
+}
+
+TEST_F(KeyboardViewTest, FillsItsWidthWithTheKeysThatItDraws)
+{
+    setPrefString("Scheme", "Calm");
+    for (const auto& [lo, hi, width] :
+         {std::array{21, 108, 1280}, {21, 108, 640}, {22, 106, 1000}, {0, 127, 2000}}) {
+        const KeyboardGeometry geometry = KeyboardGeometry::filling(width, lo, hi);
+        EXPECT_NEAR(geometry.right() - geometry.left(), width, 0.01) << lo;
+        for (const KeyQuad& quad : geometry.keys(100)) {
+            EXPECT_GE(quad.left, geometry.left() - 0.01) << lo;
+            EXPECT_LE(quad.right, geometry.right() + 0.01) << lo;
+            for (const float x : {quad.left + 0.5F, quad.right - 0.5F})
+                EXPECT_EQ(geometry.drawnKeyAt(x, quad.isBlack ? 45 : 20, 100), quad.key)
+                    << quad.key;
+        }
+    }
+    EXPECT_GT(KeyboardGeometry::filling(100, 21, 108).right(), 400) << "keys can still be hit";
+    EXPECT_LT(KeyboardGeometry::filling(5000, 60, 72).right(), 600) << "keys stay keys";
+
+    QTest::mouseClick(view, Qt::LeftButton, {}, {1230, 119});
+    QTest::mouseClick(view, Qt::LeftButton, {}, {1, 1});
+    EXPECT_THAT(player.calls, ElementsAre("on 108", "input", "off 108", "input", "on 21", "input",
+                                          "off 21", "input"));
+}
+
+TEST_F(KeyboardViewTest, MarksTheStatesOfKeysWithoutTheirColors)
+{
+    setPrefString("Scheme", "Calm");
+    for (const char* key : {"KeyColor", "KeyColorCorrect", "KeyColorSustain", "KeyColorWrong"})
+        setPrefColor(key, Color(QColor(Qt::gray)));
+    player.states[100] = kWanted;
+    std::vector<QImage> images;
+    for (const int state : {0, kPressed, kWanted, kWanted | kPressed, kHeld, kWanted | kHeld}) {
+        player.states[48] = player.states[49] = state;
+        const QImage image = view->grabFramebuffer();
+        const int middle = 16 * 1232 / 52; // C3 and C#3
+        for (const QRect& place : {QRect(middle, 75, 24, 45), QRect(middle + 12, 0, 24, 70)})
+            images.push_back(image.copy(place));
+    }
+    for (std::size_t i = 0; i < images.size(); ++i)
+        for (std::size_t j = i + 2; j < images.size(); j += 2)
+            EXPECT_NE(images[i], images[j]) << i << " and " << j;
+    resetPref("KeyColorWrong");
+}
+
+TEST_F(KeyboardViewTest, ShowsEveryHeldKeyWithAndWithoutADocument)
+{
+    const auto heldIsShown = [&] { return colorAt(3, 3) == 0x00ffff; };
+    keys.press(21, 1.0F, 0.0);
+    EXPECT_TRUE(heldIsShown()) << "a note of the piece has ended on the key";
+    player.states[21] = kPressed;
+    EXPECT_FALSE(heldIsShown()) << "the document decides";
+    setPrefString("Scheme", "Calm");
+    EXPECT_TRUE(heldIsShown()) << "no key is wrong where none is wanted";
+    player.states[60] = kWanted;
+    EXPECT_FALSE(heldIsShown());
+    view->setDocument(nullptr);
+    EXPECT_TRUE(heldIsShown());
+    keys.release(21, 0.0);
+    EXPECT_FALSE(heldIsShown());
+}
+
+TEST_F(KeyboardViewTest, ReleasesTheMouseKeyWhenADialogOpens)
+{
+    QTest::mousePress(view, Qt::LeftButton, {}, {12, 100});
+    QMessageBox box(&window);
+    box.setModal(true);
+    box.show();
+    EXPECT_THAT(player.calls, ElementsAre("on 21", "input", "off 21", "input"));
 }
 
 } // namespace velmora

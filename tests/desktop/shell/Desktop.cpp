@@ -14,7 +14,6 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QSlider>
 #include <QTimer>
@@ -246,17 +245,9 @@ TEST_F(DesktopTest, OpensDroppedFilesByType)
 TEST_F(DesktopTest, AppliesPreferencesImmediately)
 {
     auto& window = desktop.keyboardWindow();
-    const int width = window.width();
-    setPrefInt("KeyWidth", 64);
+    QSignalSpy paints(&window.keyboard(), &QOpenGLWidget::aboutToCompose);
     emit desktop.preferencesWindow().changed();
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return window.width() == window.screen()->availableSize().width(); }));
-    window.resize(700, window.height());
-    emit desktop.preferencesWindow().changed();
-    EXPECT_EQ(window.width(), 700) << "the keys have not changed";
-    resetPref("KeyWidth");
-    emit desktop.preferencesWindow().changed();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.width() == width; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !paints.isEmpty(); }));
 
     auto& notices = *window.status().findChild<QToolButton*>();
     const int others = notices.text().toInt();

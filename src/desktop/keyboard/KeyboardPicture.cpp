@@ -1,0 +1,197 @@
+#include "desktop/keyboard/KeyboardPicture.h"
+
+#include "base/Log.h"
+#include "desktop/keyboard/keyMark.h"
+#include "desktop/widgets/noteNames.h"
+#include "preferences/Preferences.h"
+#include "sequencer/LiveKeys.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+/// The range of the letters' height in pixels. No names are shown if the keys are too narrow for
+/// the smallest letters.
+constexpr int kMinLetter = 7;
+constexpr int kMaxLetter = 13;
+
+constexpr QRgb kClassicName = 0xff404040;
+constexpr QRgb kBed = 0xff1b1b1f; ///< Shows between the keys.
+constexpr QRgb kBlackKeyFace = 0xff2b2b31;
+constexpr QRgb kWhiteKeyFace = 0xfffbfaf7;
+constexpr QRgb kWhiteKeyFaceInDark = 0xffdedcd7;
+
+/// The radius of the lower corners of a key, as a fraction of its width, and its maximum in pixels.
+constexpr double kCorner = 0.15;
+constexpr double kMaxCorner = 4.0;
+
+/// Returns the rectangle of a key from the top of the view, with its sides on whole pixels of the
+/// screen, so that all gaps are equally wide.
+QRectF sharpRect(const KeyQuad& quad, double origin, double height, double ratio)
+{
+    const double gap = quad.isBlack ? 0.0 : 1.0;
+    const double left = std::round((origin + quad.left - gap) * ratio) / ratio;
+    const double right = std::round((origin + quad.right + gap) * ratio) / ratio;
+    return {left, 0.0, right - left - gap, height - quad.bottom};
+}
+
+QPainterPath keyPath(const QRectF& rect)
+{
+    const double radius = std::min(rect.width() * kCorner, kMaxCorner);
+    QPainterPath path;
+    path.addRoundedRect(rect.adjusted(0, -2 * radius, 0, 0), radius, radius);
+    return path;
+}
+
+QRectF classicRect(const KeyQuad& quad, double height)
+{
+    return {quad.left, height - quad.top, quad.right - quad.left, quad.top - quad.bottom};
+}
+
+} // namespace
+
+KeyboardPicture::KeyboardPicture(QSize viewSize, const QPalette& palette)
+    : scheme(preferredScheme()), geometry{static_cast<double>(getPrefInt("KeyWidth")),
+                                          getPrefInt("KeyRangeLo"), getPrefInt("KeyRangeHi")},
+      origin(0), size(viewSize), played(schemeColor("KeyColor", palette)),
+      correct(schemeColor("KeyColorCorrect", palette)),
+      sustained(schemeColor("KeyColorSustain", palette)),
+      wrong(schemeColor("KeyColorWrong", palette)), hasNames(getPrefBool("KeyNames")),
+      isDark(velmora::isDark(palette))
+{
+    if (scheme == Scheme::Classic) {
+        origin = std::max(0, (size.width() - static_cast<int>(geometry.extent())) / 2);
+        return;
+    }
+    geometry = KeyboardGeometry::filling(size.width(), geometry.lo, geometry.hi);
+    const double keys = geometry.right() - geometry.left();
+    origin = std::max(0.0, (size.width() - keys) / 2) - geometry.left();
+}
+
+const Color* KeyboardPicture::color(int state) const
+{
+    switch (state) {
+    case kPressed:
+        return &wrong;
+    case kWanted:
+    case kWanted | kHeld: // docs/decisions.md, 111
+        return &played;
+    case kWanted | kPressed:
+        return &correct;
+    case kHeld:
+        return &sustained;
+    default:
+        return nullptr;
+    }
+}
+
+int KeyboardPicture::keyAt(QPointF point) const
+{
+    const double x = point.x() - origin;
+    const double y = size.height() - point.y();
+    if (scheme == Scheme::Calm)
+        return geometry.drawnKeyAt(x, std::max(y, 0.0), size.height());
+    if (x < 0 || x >= geometry.extent())
+        return -1;
+    const int key = geometry.keyAt(x, y, size.height());
+    return key >= 0 && key < 128 ? key : -1;
+}
+
+void KeyboardPicture::paint(QPainter& painter) const
+{
+    if (scheme == Scheme::Classic)
+        paintClassic(painter);
+    else
+        paintCalm(painter);
+    if (nameHeight() > 0)
+        paintNames(painter);
+}
+
+void KeyboardPicture::paintClassic(QPainter& painter) const
+{
+    painter.fillRect(QRect({}, size), Qt::black);
+    painter.translate(origin, 0);
+    const double height = size.height();
+    for (const bool isBlack : {false, true}) {
+        for (const KeyQuad& quad : geometry.keys(static_cast<float>(height))) {
+            if (quad.isBlack != isBlack)
+                continue;
+            const Color* fill = color(state(quad));
+            if (!isBlack) {
+                painter.fillRect(classicRect(quad, height),
+                                 fill != nullptr ? fill->toQColor() : Qt::white);
+                continue;
+            }
+            painter.fillRect(classicRect(quad, height), Qt::black);
+            if (state(quad) == 0)
+                continue;
+            if (fill == nullptr) // docs/decisions.md, 110
+                logger("desktop").debug("wrong {}", state(quad));
+            painter.fillRect(classicRect(quad.inner(), height),
+                             fill != nullptr ? fill->toQColor() : Qt::blue);
+        }
+    }
+    painter.translate(-origin, 0);
+}
+
+void KeyboardPicture::paintCalm(QPainter& painter) const
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(QRect({}, size), QColor(kBed));
+    const double ratio = painter.device()->devicePixelRatioF();
+    const QColor white(isDark ? kWhiteKeyFaceInDark : kWhiteKeyFace);
+    for (const bool isBlack : {false, true}) {
+        for (const KeyQuad& quad : geometry.keys(static_cast<float>(size.height()))) {
+            if (quad.isBlack != isBlack)
+                continue;
+            const Color* fill = color(state(quad));
+            const QRectF rect = sharpRect(quad, origin, size.height(), ratio);
+            if (isBlack) // its frame
+                painter.fillPath(keyPath(rect), QColor(kBed));
+            const QRectF face = isBlack ? rect.adjusted(1, 0, -1, -1.5) : rect;
+            const QColor plain = isBlack ? QColor(kBlackKeyFace) : white;
+            painter.fillPath(keyPath(face), fill != nullptr ? fill->toQColor() : plain);
+            if (fill != nullptr)
+                paintKeyMark(painter, state(quad), inkOn(fill->toQColor()),
+                             face.adjusted(0, 0, 0, isBlack ? 0 : -nameHeight()));
+        }
+    }
+}
+
+int KeyboardPicture::nameHeight() const
+{
+    const int letter = std::min(static_cast<int>(geometry.keyWidth * 3 / 4), kMaxLetter);
+    return hasNames && letter >= kMinLetter ? letter : 0;
+}
+
+void KeyboardPicture::paintNames(QPainter& painter) const
+{
+    QFont font = painter.font();
+    font.setPixelSize(nameHeight());
+    painter.setFont(font);
+    const int below = nameHeight() / 2;
+    for (const KeyQuad& quad : geometry.keys(static_cast<float>(size.height()))) {
+        const bool isCut = origin + quad.right > size.width();
+        if (quad.key % 12 != 0 || isCut)
+            continue;
+        const Color* fill = color(state(quad));
+        if (scheme == Scheme::Calm)
+            painter.setPen(fill != nullptr ? inkOn(fill->toQColor()) : QColor(kClassicName));
+        else
+            painter.setPen(fill != nullptr && qGray(fill->toQColor().rgb()) < 96
+                               ? Qt::white
+                               : QColor(kClassicName));
+        const QRect place(qRound(origin + quad.left), 0, qRound(quad.right - quad.left),
+                          size.height() - below);
+        painter.drawText(place, Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip,
+                         noteText(static_cast<unsigned>(quad.key)));
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "desktop/keyboard/KeyboardGeometry.h"
+#include "desktop/widgets/scheme.h"
+
+#include <QSize>
+
+#include <array>
+
+class QPainter;
+class QPalette;
+
+namespace velmora {
+
+/// Everything that the picture of the keyboard depends on.
+struct KeyboardPicture {
+    Scheme scheme;
+    KeyboardGeometry geometry;
+    double origin; ///< The x coordinate of the first white key in the view.
+    QSize size;    ///< Of the view.
+    Color played;
+    Color correct;
+    Color sustained;
+    Color wrong;
+    bool hasNames;
+    bool isDark;
+    std::array<int, 128> states{}; ///< As `KeyboardDocument::stateOfNote` returns them.
+
+    /// Lays out the keys of the preferences in a view of this size and theme; no key is pressed.
+    KeyboardPicture(QSize viewSize, const QPalette& palette);
+
+    void paint(QPainter& painter) const;
+
+    /// The key at a point of the view, or −1 if there is none.
+    int keyAt(QPointF point) const;
+
+    bool operator==(const KeyboardPicture&) const = default;
+
+private:
+    /// The colour of a state; null for a released key and for an unknown state.
+    const Color* color(int state) const;
+    int state(const KeyQuad& quad) const { return states[static_cast<std::size_t>(quad.key)]; }
+
+    void paintClassic(QPainter& painter) const;
+    void paintCalm(QPainter& painter) const;
+    void paintNames(QPainter& painter) const;
+    int nameHeight() const;
+};
+
+} // namespace velmora
