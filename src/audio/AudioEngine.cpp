@@ -6,8 +6,8 @@
 #include <chrono>
 #include <cmath>
 #include <numeric>
-#include <stdexcept>
 #include <thread>
+#include <utility>
 
 namespace velmora {
 
@@ -40,34 +40,36 @@ void AudioEngine::setRate(double rate)
     rate_ = rate;
     limiter_ = PeakLimiter(rate);
     limiterDelay_ = limiter_.delay();
-    for (const auto& source : sources_)
-        if (AudioSource* playing = source.load())
-            playing->setRate(rate);
+    for (AudioSource* source : *sources_)
+        source->setRate(rate);
 }
 
 void AudioEngine::add(AudioSource& source)
 {
     const std::lock_guard lock(changing_);
     source.setRate(rate_);
-    for (auto& slot : sources_) {
-        AudioSource* free = nullptr;
-        if (slot.compare_exchange_strong(free, &source))
-            return;
-    }
-    throw std::length_error("too many instruments are loaded: unload one first");
+    Sources sources = *sources_;
+    sources.push_back(&source);
+    play(std::move(sources));
 }
 
 void AudioEngine::remove(AudioSource& source)
 {
     const std::lock_guard lock(changing_);
-    for (auto& slot : sources_) {
-        AudioSource* playing = &source;
-        slot.compare_exchange_strong(playing, nullptr);
-    }
-    // A block that began before may still use it.
+    Sources sources = *sources_;
+    std::erase(sources, &source);
+    play(std::move(sources));
+}
+
+void AudioEngine::play(Sources sources)
+{
+    auto next = std::make_unique<const Sources>(std::move(sources));
+    playing_ = next.get();
+    // A block that began before may still use the previous list.
     const std::uint64_t block = blocks_;
     while (block % 2 == 1 && blocks_ == block)
         std::this_thread::sleep_for(std::chrono::microseconds(100));
+    sources_ = std::move(next);
 }
 
 double AudioEngine::delay() const
@@ -77,19 +79,16 @@ double AudioEngine::delay() const
 
 std::size_t AudioEngine::voices() const
 {
-    return std::accumulate(sources_.begin(), sources_.end(), std::size_t{0},
-                           [](std::size_t sum, const std::atomic<AudioSource*>& slot) {
-                               const AudioSource* source = slot.load();
-                               return sum + (source == nullptr ? 0 : source->voices());
-                           });
+    const std::lock_guard lock(changing_);
+    return std::accumulate(
+        sources_->begin(), sources_->end(), std::size_t{0},
+        [](std::size_t sum, const AudioSource* source) { return sum + source->voices(); });
 }
 
 bool AudioEngine::savesWork() const
 {
-    return std::ranges::any_of(sources_, [](const std::atomic<AudioSource*>& slot) {
-        const AudioSource* source = slot.load();
-        return source != nullptr && source->savesWork();
-    });
+    const std::lock_guard lock(changing_);
+    return std::ranges::any_of(*sources_, &AudioSource::savesWork);
 }
 
 std::array<float, 2> AudioEngine::takePeaks()
@@ -109,13 +108,13 @@ void AudioEngine::render(float* left, float* right, std::size_t frames, double s
     const bool isLive = start != kOffline;
     const double began = isLive ? getTime() : 0.0;
     ++blocks_;
-    for (const auto& slot : sources_)
-        if (AudioSource* source = slot.load())
-            source->setLoad(load_);
+    const Sources& sources = *playing_;
+    for (AudioSource* source : sources)
+        source->setLoad(load_);
     for (std::size_t done = 0; done < frames;) {
         const std::size_t length = std::min(kBlock, frames - done);
         const double late = static_cast<double>(frames - done) / rate_;
-        mix(left + done, right + done, length, isLive ? start - late : kOffline);
+        mix(sources, left + done, right + done, length, isLive ? start - late : kOffline);
         done += length;
     }
     finish(left, right, frames);
@@ -125,14 +124,12 @@ void AudioEngine::render(float* left, float* right, std::size_t frames, double s
         measure(getTime() - began, frames);
 }
 
-void AudioEngine::mix(float* left, float* right, std::size_t frames, double start)
+void AudioEngine::mix(const Sources& sources, float* left, float* right, std::size_t frames,
+                      double start)
 {
     std::fill_n(left, frames, 0.0F);
     std::fill_n(right, frames, 0.0F);
-    for (const auto& slot : sources_) {
-        AudioSource* source = slot.load();
-        if (source == nullptr)
-            continue;
+    for (AudioSource* source : sources) {
         source->render(left_.data(), right_.data(), frames, start);
         for (std::size_t i = 0; i < frames; ++i) {
             left[i] += left_[i];

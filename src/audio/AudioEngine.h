@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <mutex>
 #include <vector>
 
@@ -34,8 +35,7 @@ public:
     /// Sets the rate of the engine and of its sources.
     void setRate(double rate) override;
 
-    /// Starts to play a source, whose rate is set first. Throws std::length_error if there are
-    /// already 256 sources.
+    /// Starts to play a source, whose rate is set first. Must not be called on the audio thread.
     void add(AudioSource& source);
 
     /// Stops playing a source. Once this returns, it is no longer used and may be destroyed. Must
@@ -54,30 +54,30 @@ public:
     /// The seconds from an event to its sound: one period and the delay of the limiter.
     double delay() const;
 
-    /// The voices of all sources. Must not be called while a source is removed.
     std::size_t voices() const override;
-
-    /// True if any source saves work. Must not be called while a source is removed.
     bool savesWork() const override;
 
     void render(float* left, float* right, std::size_t frames, double start) override;
 
 private:
-    static constexpr std::size_t kMaximumSources = 256;
+    using Sources = std::vector<AudioSource*>;
 
     /// The longest block that the sources render at once.
     static constexpr std::size_t kBlock = 1024;
 
-    void mix(float* left, float* right, std::size_t frames, double start);
+    void play(Sources sources);
+    void mix(const Sources& sources, float* left, float* right, std::size_t frames, double start);
     void finish(float* left, float* right, std::size_t frames);
     void measure(double seconds, std::size_t frames);
 
-    std::mutex changing_; ///< Held while the rate or the sources change; never by the audio thread.
+    /// Held while the rate or the sources change; never by the audio thread.
+    mutable std::mutex changing_;
     std::atomic<double> rate_;
     PeakLimiter limiter_;
     std::atomic<std::size_t> limiterDelay_; ///< In frames.
-    std::array<std::atomic<AudioSource*>, kMaximumSources> sources_{};
-    std::atomic<std::uint64_t> blocks_{0}; ///< Odd while a block is rendered.
+    std::unique_ptr<const Sources> sources_ = std::make_unique<Sources>();
+    std::atomic<const Sources*> playing_{sources_.get()}; ///< What the audio thread reads.
+    std::atomic<std::uint64_t> blocks_{0};                ///< Odd while a block is rendered.
     std::atomic<float> volume_{1.0F};
     float appliedVolume_ = 1.0F;
     std::array<float, kBlock> left_{}, right_{};

@@ -75,6 +75,12 @@ TEST(AudioEngine, MixesItsSourcesBelowTheLimit)
     EXPECT_LE(level(), 1.0F);
     engine.remove(first);
     EXPECT_FLOAT_EQ(level(), 0.125F);
+    std::vector<Ramp> many(1000);
+    for (Ramp& one : many) {
+        one.level = 0.0005F;
+        engine.add(one);
+    }
+    EXPECT_NEAR(level(), 0.375F, 1e-5F);
 }
 
 TEST(AudioEngine, NoLongerUsesARemovedSource)
