@@ -84,7 +84,6 @@ public:
     {
         jack_client_t* jack = client_->get();
         playback().client = jack;
-        playback().ports = {registerPort("left"), registerPort("right")};
         playback().period = jack_get_buffer_size(jack);
         playback().rate = jack_get_sample_rate(jack);
         client_->keep(sharedPlayback());
@@ -97,22 +96,26 @@ public:
 
     ~JackOutput() override { playback().setSource(nullptr); }
 
-    bool hasPorts() const
+    /// Creates the ports and sets the period; 0 leaves it as it is. Returns false if the server
+    /// gives no ports.
+    bool prepare(std::size_t period)
     {
-        return playback().ports[0] != nullptr && playback().ports[1] != nullptr;
-    }
-
-    void setPeriod(std::size_t frames)
-    {
-        const auto period = static_cast<jack_nframes_t>(frames);
-        if (frames != playback().period && jack_set_buffer_size(client_->get(), period) != 0)
-            logger("audio").warn("JACK does not accept a period of {} frames", frames);
+        const bool isAnswered = client_->call([playback = sharedPlayback(), period](auto* jack) {
+            constexpr std::array kNames{"left", "right"};
+            for (std::size_t i = 0; i < kNames.size(); ++i)
+                playback->ports[i] = jack_port_register(jack, kNames[i], JACK_DEFAULT_AUDIO_TYPE,
+                                                        JackPortIsOutput, 0);
+            if (period != 0 && period != playback->period &&
+                jack_set_buffer_size(jack, static_cast<jack_nframes_t>(period)) != 0)
+                logger("audio").warn("JACK does not accept a period of {} frames", period);
+        });
+        return isAnswered && playback().ports[0] != nullptr && playback().ports[1] != nullptr;
     }
 
     void start(AudioSource& source) override
     {
         playback().setSource(&source);
-        jack_activate(client_->get());
+        client_->call([](jack_client_t* jack) { jack_activate(jack); });
         reconnect();
     }
 
@@ -127,8 +130,10 @@ public:
             return;
         targets_ = playbackPorts(jack, device());
         isDeviceMissing_ = targets_.empty() && !device().empty();
-        for (std::size_t i = 0; i < std::min(targets_.size(), playback().ports.size()); ++i)
-            jack_connect(jack, jack_port_name(playback().ports[i]), targets_[i].c_str());
+        client_->call([playback = sharedPlayback(), targets = targets_](jack_client_t* client) {
+            for (std::size_t i = 0; i < std::min(targets.size(), playback->ports.size()); ++i)
+                jack_connect(client, jack_port_name(playback->ports[i]), targets[i].c_str());
+        });
     }
 
     bool isLost() const override
@@ -142,12 +147,6 @@ public:
     }
 
 private:
-    jack_port_t* registerPort(const char* name)
-    {
-        return jack_port_register(client_->get(), name, JACK_DEFAULT_AUDIO_TYPE, JackPortIsOutput,
-                                  0);
-    }
-
     std::vector<std::string> targets_; ///< The ports that were there when it was connected.
     std::atomic<bool> isDeviceMissing_{false};
     std::unique_ptr<JackClient> client_;
@@ -162,10 +161,8 @@ std::unique_ptr<AudioOutput> openJackOutput(const OutputSettings& settings)
         (!settings.device.empty() && playbackPorts(client->get(), settings.device).empty()))
         return nullptr;
     auto output = std::make_unique<JackOutput>(std::move(client), settings);
-    if (!output->hasPorts())
+    if (!output->prepare(settings.period))
         return nullptr;
-    if (settings.period != 0)
-        output->setPeriod(settings.period);
     return output;
 }
 

@@ -89,21 +89,28 @@ public:
     {
         if (!client_)
             throw MidiConnectionError("MIDIClientCreate", JackFailure, "JACK accepts no client");
-        jack_client_t* client = client_->get();
         input_->receiver = &receiver;
         input_->device = device;
-        input_->client = client;
+        input_->client = client_->get();
         client_->keep(input_);
-        input_->port =
-            jack_port_register(client, "Port1", JACK_DEFAULT_MIDI_TYPE, JackPortIsInput, 0);
+        const auto error = std::make_shared<int>(0);
+        const bool isAnswered =
+            client_->call([input = input_, error, address = source.address](jack_client_t* jack) {
+                input->port =
+                    jack_port_register(jack, "Port1", JACK_DEFAULT_MIDI_TYPE, JackPortIsInput, 0);
+                if (input->port == nullptr)
+                    return;
+                jack_set_process_callback(jack, readInput, input.get());
+                *error = jack_activate(jack);
+                if (*error == 0)
+                    *error = jack_connect(jack, address.c_str(), jack_port_name(input->port));
+            });
+        if (!isAnswered)
+            throw MidiConnectionError("MIDIPortConnectSource", JackFailure, "JACK does not answer");
         if (input_->port == nullptr)
             throw MidiConnectionError("MIDIInputPortCreate", JackFailure, "JACK accepts no port");
-        jack_set_process_callback(client, readInput, input_.get());
-        int error = jack_activate(client);
-        if (error == 0)
-            error = jack_connect(client, source.address.c_str(), jack_port_name(input_->port));
-        if (error != 0)
-            throw MidiConnectionError("MIDIPortConnectSource", error, "JACK does not connect it");
+        if (*error != 0)
+            throw MidiConnectionError("MIDIPortConnectSource", *error, "JACK does not connect it");
     }
 
     ~JackConnection() override
@@ -171,7 +178,10 @@ bool JackMidi::open()
         return false;
     watcher_->keep(changes_);
     jack_set_port_registration_callback(watcher_->get(), notePort, changes_.get());
-    if (jack_activate(watcher_->get()) != 0)
+    const auto error = std::make_shared<int>(0);
+    const bool isAnswered =
+        watcher_->call([error](jack_client_t* jack) { *error = jack_activate(jack); });
+    if (!isAnswered || *error != 0)
         watcher_.reset();
     return watcher_ != nullptr;
 }

@@ -124,6 +124,16 @@ jack_client_t* JackClient::get() const
     return state_->client;
 }
 
+bool JackClient::call(std::function<void(jack_client_t*)> function)
+{
+    std::unique_lock lock(jackClients().mutex);
+    const bool hasReturned = callWithPatience(
+        lock, [state = state_, function = std::move(function)] { function(state->client); });
+    if (!hasReturned)
+        state_->isLost = true;
+    return hasReturned;
+}
+
 void JackClient::keep(std::shared_ptr<void> data)
 {
     state_->kept.push_back(std::move(data));

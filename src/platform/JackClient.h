@@ -2,6 +2,7 @@
 
 #include <jack/jack.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -25,13 +26,19 @@ public:
     JackClient(const JackClient&) = delete;
     JackClient& operator=(const JackClient&) = delete;
 
+    /// The client, for functions of libjack that ask the server for nothing.
     jack_client_t* get() const;
+
+    /// Calls a function that asks the server for something, on a thread of its own. Returns false
+    /// if it has not returned within a second; the client is lost then. Since the function may
+    /// still run, it must own what it uses.
+    bool call(std::function<void(jack_client_t*)> function);
 
     /// Keeps what the callbacks use until none can run any more.
     void keep(std::shared_ptr<void> data);
 
-    /// True once the server is gone. Destroy the client then, because no other can be opened
-    /// before.
+    /// True once the server is gone or does not answer. Destroy the client then, because no other
+    /// can be opened before.
     bool isLost() const;
 
 private:

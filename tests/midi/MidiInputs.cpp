@@ -136,4 +136,24 @@ TEST(MidiInputs, FollowDevicesAndServersThatComeAndGo)
     }
 }
 
+TEST(JackClient, DoesNotWaitForAServerThatHangs)
+{
+    const JackServer server(JackServer::Mode::Asynchronous);
+    auto client = JackClient::open("velmora-test");
+    ASSERT_TRUE(client);
+    bool isActive = false;
+    EXPECT_TRUE(client->call([&](jack_client_t* jack) { isActive = jack_activate(jack) == 0; }));
+    EXPECT_TRUE(isActive);
+    server.pause();
+    EXPECT_FALSE(client->call([](jack_client_t* jack) {
+        jack_port_register(jack, "in", JACK_DEFAULT_AUDIO_TYPE, JackPortIsInput, 0);
+    }));
+    EXPECT_TRUE(client->isLost());
+    client.reset();
+    EXPECT_FALSE(JackClient::open("velmora-test"));
+    server.resume();
+    while (!JackClient::open("velmora-test")) // until the server answers
+        std::this_thread::sleep_for(10ms);
+}
+
 } // namespace velmora

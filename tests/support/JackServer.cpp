@@ -84,6 +84,16 @@ void JackServer::crash()
     process_ = -1;
 }
 
+void JackServer::pause() const
+{
+    kill(process_, SIGSTOP);
+}
+
+void JackServer::resume() const
+{
+    kill(process_, SIGCONT);
+}
+
 void JackServer::restart()
 {
     process_ = start();

@@ -25,6 +25,10 @@ public:
     /// Kills the server, as a crash would.
     void crash();
 
+    /// Lets the server hang until `resume`.
+    void pause() const;
+    void resume() const;
+
     /// Starts the server again after a crash, without waiting until it answers.
     void restart();
 
