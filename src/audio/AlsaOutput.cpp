@@ -5,8 +5,12 @@
 #include <alsa/asoundlib.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
+#include <future>
+#include <thread>
 #include <utility>
 
 namespace velmora {
@@ -17,17 +21,17 @@ constexpr unsigned kCardRate = 48000;
 constexpr std::size_t kCardPeriod = 256;
 constexpr unsigned kCardPeriods = 2;
 
+/// How long opening a device that is there may take.
+constexpr std::chrono::seconds kPatience{2};
+
 class AlsaWriter : public SoundWriter {
 public:
-    explicit AlsaWriter(const OutputSettings& settings) : pcm_(nullptr, snd_pcm_close)
+    /// A device that does not take what is written, such as samples of floats, is opened through
+    /// ALSA's converter.
+    explicit AlsaWriter(const OutputSettings& settings)
+        : pcm_(nullptr, snd_pcm_close), isOpen_(open(deviceOf(settings), settings) ||
+                                                open("plug:'" + deviceOf(settings) + "'", settings))
     {
-        const std::string device = settings.device.empty() ? "default" : settings.device;
-        // A device that another program uses would block until that has closed it.
-        snd_pcm_t* pcm = nullptr;
-        if (snd_pcm_open(&pcm, device.c_str(), SND_PCM_STREAM_PLAYBACK, SND_PCM_NONBLOCK) < 0)
-            return;
-        pcm_.reset(pcm);
-        isOpen_ = snd_pcm_nonblock(pcm, 0) >= 0 && choose(settings);
     }
 
     bool isOpen() const { return isOpen_; }
@@ -60,6 +64,22 @@ public:
     }
 
 private:
+    static std::string deviceOf(const OutputSettings& settings)
+    {
+        return settings.device.empty() ? "default" : settings.device;
+    }
+
+    bool open(const std::string& device, const OutputSettings& settings)
+    {
+        pcm_.reset();
+        // A device that another program uses would block until that has closed it.
+        snd_pcm_t* pcm = nullptr;
+        if (snd_pcm_open(&pcm, device.c_str(), SND_PCM_STREAM_PLAYBACK, SND_PCM_NONBLOCK) < 0)
+            return false;
+        pcm_.reset(pcm);
+        return snd_pcm_nonblock(pcm, 0) >= 0 && choose(settings);
+    }
+
     /// Chooses the rate and the period nearest to those that are wanted.
     bool choose(const OutputSettings& settings)
     {
@@ -91,10 +111,32 @@ private:
     }
 
     std::unique_ptr<snd_pcm_t, int (*)(snd_pcm_t*)> pcm_;
-    bool isOpen_ = false;
     double rate_ = 0.0;
     snd_pcm_uframes_t period_ = 0, buffer_ = 0;
+    bool isOpen_; ///< Last, because opening sets the others.
 };
+
+/// Opens a device on a thread of its own, because "default" may lead to a sound server that hangs.
+/// Returns null if that takes too long, and until that has ended.
+std::unique_ptr<AlsaWriter> openPatiently(const OutputSettings& settings)
+{
+    static std::atomic<bool> isOpening{false};
+    if (isOpening.exchange(true))
+        return nullptr;
+    std::packaged_task<std::unique_ptr<AlsaWriter>()> task([settings] {
+        auto writer = std::make_unique<AlsaWriter>(settings);
+        isOpening = false;
+        return writer;
+    });
+    auto opened = task.get_future();
+    std::thread thread(std::move(task));
+    if (opened.wait_for(kPatience) == std::future_status::timeout) {
+        thread.detach();
+        return nullptr;
+    }
+    thread.join();
+    return opened.get();
+}
 
 /// Returns an attribute of a device hint; empty if it has none.
 std::string attribute(const void* hint, const char* name)
@@ -108,8 +150,8 @@ std::string attribute(const void* hint, const char* name)
 
 std::unique_ptr<AudioOutput> openAlsaOutput(const OutputSettings& settings)
 {
-    auto writer = std::make_unique<AlsaWriter>(settings);
-    if (!writer->isOpen())
+    auto writer = openPatiently(settings);
+    if (!writer || !writer->isOpen())
         return nullptr;
     return makeWritingOutput("alsa", settings.device, std::move(writer));
 }
@@ -131,6 +173,15 @@ std::optional<std::vector<OutputDevice>> alsaDevices()
     }
     snd_device_name_free_hint(hints);
     return devices.empty() ? std::nullopt : std::optional(std::move(devices));
+}
+
+bool isAlsaDeviceBusy(const std::string& device)
+{
+    snd_pcm_t* pcm = nullptr;
+    const int error = snd_pcm_open(&pcm, device.c_str(), SND_PCM_STREAM_PLAYBACK, SND_PCM_NONBLOCK);
+    if (error >= 0)
+        snd_pcm_close(pcm);
+    return error == -EBUSY;
 }
 
 } // namespace velmora

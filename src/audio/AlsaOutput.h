@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace velmora {
@@ -15,5 +16,8 @@ std::unique_ptr<AudioOutput> openAlsaOutput(const OutputSettings& settings);
 
 /// Returns the playback devices that ALSA is configured for, or nothing if there are none.
 std::optional<std::vector<OutputDevice>> alsaDevices();
+
+/// Returns true if a device exists but something uses it, which may be this program.
+bool isAlsaDeviceBusy(const std::string& device);
 
 } // namespace velmora

@@ -1,5 +1,6 @@
 #include "audio/OutputKeeper.h"
 
+#include "audio/AlsaOutput.h"
 #include "audio/outputDrivers.h"
 #include "base/Log.h"
 
@@ -14,6 +15,9 @@ using namespace std::chrono_literals;
 
 constexpr auto kWatchInterval = 100ms;
 constexpr auto kRetryInterval = 500ms;
+
+/// How often an output is closed in case it keeps a device busy that is wanted more.
+constexpr auto kBusyInterval = 5s;
 
 /// The longest time between two periods of an output that is not stuck. A sink of PulseAudio may
 /// let a new stream wait for two seconds.
@@ -170,7 +174,21 @@ void OutputKeeper::findBetter()
             play(std::move(output), i);
             return;
         }
+        if (mayBlock(candidates_[i])) {
+            unblocked_ = Clock::now();
+            openBest();
+            return;
+        }
     }
+}
+
+/// Returns true if the output that plays may itself keep a card busy that is wanted more, and can
+/// be closed without being missed.
+bool OutputKeeper::mayBlock(const OutputSettings& candidate)
+{
+    return candidate.driver == "alsa" && output_->driver() == candidate.driver &&
+           Clock::now() - unblocked_ > kBusyInterval && source_.voices() == 0 &&
+           isAlsaDeviceBusy(candidate.device);
 }
 
 void OutputKeeper::play(std::unique_ptr<AudioOutput> output, std::size_t candidate)

@@ -66,6 +66,7 @@ private:
     bool isGone();
     void openBest();
     void findBetter();
+    bool mayBlock(const OutputSettings& candidate);
     void play(std::unique_ptr<AudioOutput> output, std::size_t candidate);
     void close();
     std::vector<OutputSettings> candidates() const;
@@ -81,6 +82,7 @@ private:
     std::size_t playing_ = 0;                ///< The index of the candidate that plays.
     std::uint64_t periods_ = 0;              ///< Of the output, when it was last seen to advance,
     Clock::time_point advanced_;             ///< which was then.
+    Clock::time_point unblocked_;            ///< When an output was last closed for a busy device.
 
     mutable std::mutex mutex_;
     std::condition_variable wakeUp_;
