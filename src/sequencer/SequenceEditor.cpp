@@ -136,7 +136,7 @@ void SequenceEditor::mouseDragged(RollPoint point)
     } else {
         const double steps =
             snap ? std::floor(point.step) - std::floor(click_.step) : point.step - click_.step;
-        document_.edit(document_.sequence().selection())->move(point.key - click_.key, steps, snap);
+        move(point.key - click_.key, steps, snap);
     }
 }
 

@@ -31,6 +31,8 @@ RollHit rollHit(const Note& note, RollPoint point, int keyHeight);
 /// modifier is the Control key. Every change of notes can be undone.
 class SequenceEditor {
 public:
+    enum class Direction { Forward, Backward };
+
     /// The document must outlive it.
     explicit SequenceEditor(SequenceDocument& document);
 
@@ -57,6 +59,18 @@ public:
     void selectAll();
     void deleteSelection();
 
+    /// Selects only the note that comes next in time after the selected ones or, if none is
+    /// selected, after the play position; or the one before them. A chord is visited from its
+    /// lowest note. Does nothing at the end.
+    void selectNeighbour(Direction direction);
+
+    /// Moves the selected notes by semitones and steps. If one of them reaches the edge of the
+    /// roll, all of them stop there. With the grid switched on, they move to whole steps.
+    void moveSelection(int semitones, int steps);
+
+    /// Lengthens the selected notes, except those that would have no length any more.
+    void resizeSelection(int steps);
+
     /// Returns the selected notes in order of their start, each once.
     std::vector<Note> copy() const;
     std::vector<Note> cut();
@@ -66,6 +80,9 @@ public:
 
 private:
     void hit(Sequence& sequence, Note& note, RollHit place, Qt::KeyboardModifiers modifiers);
+    void move(double keys, double steps, bool snap);
+    void beginChange();
+    void endChange();
     void finishLength();
     void finishMove();
     void selectUpTo(double end);

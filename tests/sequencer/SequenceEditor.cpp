@@ -211,6 +211,46 @@ TEST_F(SequenceEditorTest, SilencesNotesThatAreEdited)
     EXPECT_EQ(edited([&] { editor_.cut(); }), once);
 }
 
+TEST_F(SequenceEditorTest, ChoosesAndCorrectsNotesByCommands)
+{
+    using enum SequenceEditor::Direction;
+    add(64, 2.0, 1.0);
+    add(60, 2.0, 1.0);
+    add(62, 7.5, 1.0);
+    document_.edit()->sort();
+    const auto select = [&](SequenceEditor::Direction direction) {
+        editor_.selectNeighbour(direction);
+        return selection();
+    };
+    transport_.setPosition(2.0);
+    for (const std::uint64_t id : {2, 1, 3, 3})
+        EXPECT_THAT(select(Forward), ElementsAre(id));
+    for (const std::uint64_t id : {1, 2, 2})
+        EXPECT_THAT(select(Backward), ElementsAre(id));
+
+    const Notes before = notes();
+    editor_.moveSelection(1, 0);
+    EXPECT_EQ(notes()[2], std::tuple(61, 2.0, 1.0, 0));
+    EXPECT_EQ(undoText(), "Move 1 Note(s)");
+    editor_.moveSelection(0, -5);
+    EXPECT_EQ(notes()[2], std::tuple(61, 0.0, 1.0, 0)) << "it stops at the beginning";
+    editor_.resizeSelection(2);
+    EXPECT_EQ(notes()[2], std::tuple(61, 0.0, 3.0, 0));
+    editor_.resizeSelection(-3);
+    EXPECT_EQ(document_.undoStack().count(), 3) << "no note has no length";
+    for (int edit = 0; edit < 3; ++edit)
+        undo();
+    EXPECT_EQ(notes(), before);
+
+    editor_.selectAll();
+    recorder_.setSnapToGrid(true);
+    editor_.moveSelection(100, 1);
+    EXPECT_THAT(notes(), ElementsAre(FieldsAre(1, FieldsAre(127, 3.0, 1.0, 0)),
+                                     FieldsAre(2, FieldsAre(123, 3.0, 1.0, 0)),
+                                     FieldsAre(3, FieldsAre(125, 8.0, 1.0, 0))))
+        << "a chord stays one at the edge";
+}
+
 TEST_F(SequenceEditorTest, KeepsTheOrderOfATakeAndEditsDuringIt)
 {
     recorder_.record();
