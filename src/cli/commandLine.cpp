@@ -4,6 +4,7 @@
 #include "audio/outputDrivers.h"
 #include "base/Log.h"
 #include "cli/commands.h"
+#include "cli/names.h"
 #include "desktop/shell/runDesktop.h"
 
 #include <CLI/CLI.hpp>
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 
 namespace velmora {
 
@@ -25,6 +27,7 @@ constexpr double kLastStep = 1e7; ///< About a week of music.
 /// The values of the command line's arguments.
 struct Arguments {
     std::string sequence, output, instrument;
+    std::optional<std::string> program;
     Selection selection;
     std::vector<std::string> stops;
     RenderOptions options;
@@ -67,12 +70,16 @@ void addSelection(CLI::App& command, Arguments& arguments)
 {
     command
         .add_option("--tuning", arguments.selection.tuning,
-                    "Equal, \"Quartercomma Meantone\", Dynamic, or a .scl or .mtx file")
+                    "Equal, \"Quartercomma Meantone\", Dynamic, or a .scl or .mtx file; a "
+                    "name may be shortened to the beginning of one of its words")
+        ->type_name("NAME|FILE")
         ->capture_default_str();
     CLI::Option* program =
         command
-            .add_option("--program", arguments.selection.program, "General MIDI program, 0 to 127")
-            ->check(CLI::Range(0, 127));
+            .add_option("--program", arguments.program,
+                        "General MIDI program: its number from 0 to 127, or its name, as in "
+                        "\"Church Organ\"")
+            ->type_name("NUMBER|NAME");
     command
         .add_option("--instrument", arguments.instrument,
                     "The .sf2, .gig, .organ_hauptwerk_xml or .organ file to play")
@@ -203,6 +210,8 @@ int run(CLI::App& program, int argc, char** argv)
 
     const QCoreApplication application(argc, argv);
     arguments.selection.instrument = arguments.instrument;
+    if (arguments.program)
+        arguments.selection.program = programNamed(*arguments.program);
     for (const std::string& stop : arguments.stops)
         arguments.selection.stops.push_back(parseStop(stop));
     if (*renderCommand)

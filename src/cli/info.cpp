@@ -12,8 +12,10 @@ using Json = nlohmann::ordered_json;
 
 namespace {
 
-/// The C from which the described octave starts.
+/// The C from which the described octave starts, as the temperament counts the keys, and its octave
+/// by the frequency. See docs/decisions.md, 1.
 constexpr unsigned long kShownKey = 60;
+constexpr int kShownOctave = 5;
 
 constexpr unsigned long kPitchClasses = 12;
 constexpr const char* kPitchClassNames[kPitchClasses] = {"C",  "C♯", "D",  "E♭", "E",  "F",
@@ -38,6 +40,7 @@ Json describe(const TuningDocument& document)
 {
     const Temperament& temperament = document.temperament();
     Json result = {{"name", document.name()},
+                   {"description", document.description()},
                    {"baseFrequency", temperament.baseFrequency()},
                    {"pitchClasses", Json::array()}};
     for (unsigned long pitchClass = 0; pitchClass < kPitchClasses; ++pitchClass) {
@@ -47,6 +50,7 @@ Json describe(const TuningDocument& document)
         describeKind(tuning, temperament.baseFrequency(), entry);
         entry["cents"] = tuning.cent();
         entry["hertz"] = temperament.getPitch(kShownKey + pitchClass);
+        entry["note"] = fmt::format("{}{}", kPitchClassNames[pitchClass], kShownOctave);
     }
     return result;
 }
@@ -68,11 +72,13 @@ Json describe(const SequenceDocument& document, const std::string& name)
 
 void printTuning(const Json& tuning)
 {
-    fmt::print("{}: tuning, base frequency {:.6f} Hz\n", tuning["name"].get<std::string>(),
-               tuning["baseFrequency"].get<double>());
+    fmt::print("{}: tuning, base frequency {:.6f} Hz at C{}\n", tuning["name"].get<std::string>(),
+               tuning["baseFrequency"].get<double>(), kShownOctave - 1);
+    if (const auto description = tuning["description"].get<std::string>(); !description.empty())
+        fmt::print("  {}\n", description);
     for (const Json& entry : tuning["pitchClasses"])
-        fmt::print("  {:<2}  {:<9} {:>18}  {:>11.5f} cents  {:>12.6f} Hz\n",
-                   entry["pitchClass"].get<std::string>(), entry["kind"].get<std::string>(),
+        fmt::print("  {:<3}  {:<9} {:>18}  {:>11.5f} cents  {:>12.6f} Hz\n",
+                   entry["note"].get<std::string>(), entry["kind"].get<std::string>(),
                    entry["value"].is_string() ? entry["value"].get<std::string>()
                                               : fmt::format("{}", entry["value"].get<double>()),
                    entry["cents"].get<double>(), entry["hertz"].get<double>());

@@ -1,6 +1,9 @@
+#include "cli/PanicKey.h"
 #include "cli/commands.h"
+#include "cli/names.h"
 
-#include "platform/QuitOnSignal.h"
+#include "platform/SignalNotifier.h"
+#include "platform/terminationSignals.h"
 
 #include <QCoreApplication>
 #include <spdlog/fmt/fmt.h>
@@ -30,12 +33,21 @@ void printMissingOutput(const OutputStatus& output)
     std::fflush(stdout);
 }
 
+sigset_t signalsForPanic()
+{
+    sigset_t result;
+    sigemptyset(&result);
+    sigaddset(&result, SIGUSR1);
+    return result;
+}
+
 } // namespace
 
 void live(const Selection& selection, bool plain, const OutputSettings& wanted)
 {
-    QuitOnSignal quitOnSignal;
+    SignalNotifier quitOnSignal(terminationSignals());
     quitOnSignal.watch([] { QCoreApplication::quit(); });
+    SignalNotifier panicSignal(signalsForPanic());
     AppDelegate application;
     if (plain)
         application.playing().usePlainReading();
@@ -45,11 +57,23 @@ void live(const Selection& selection, bool plain, const OutputSettings& wanted)
 
     Names names = application.midiInputs()->names();
     OutputStatus output = application.output()->waitForOutput();
-    fmt::print("Playing in {} from {} on {}. Press Ctrl-C to stop.\n", selection.tuning,
+    fmt::print("Playing {} in {} from {} on {}.\n",
+               selection.instrument.empty() ? programTitle(application.midiProgram())
+                                            : application.instrumentName(),
+               application.tuningName(),
                names.empty() ? "no MIDI input" : fmt::format("{}", fmt::join(names, ", ")),
                output.driver == "none" ? "no sound output" : output.driver);
+    fmt::print(
+        "Press P and Return, or send the signal USR1, to silence everything; press Ctrl-C to "
+        "stop.\n");
     printMissingOutput(output);
-    std::fflush(stdout);
+    const auto silence = [&] {
+        application.silenceAll();
+        fmt::print("Silence.\n");
+        std::fflush(stdout);
+    };
+    panicSignal.watch(silence);
+    const PanicKey panicKey(silence);
     QObject::connect(&application, &AppDelegate::midiDevicesChanged, &application, [&] {
         const Names before = std::exchange(names, application.midiInputs()->names());
         printMissing("Disconnected", before, names);

@@ -4,6 +4,7 @@
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
 #include "cli/commands.h"
+#include "cli/names.h"
 
 #include <algorithm>
 
@@ -13,15 +14,15 @@ namespace {
 
 std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
 {
-    for (const char* builtin : {"Equal", "Quartercomma Meantone", "Dynamic"}) {
-        if (name == builtin)
-            return TuningDocument::makeBuiltin(name);
-    }
+    static const std::vector<std::string> kBuiltins = {"Equal", "Quartercomma Meantone", "Dynamic"};
     const auto format = tuningFormatOf(name);
-    if (!format)
+    if (!format) {
+        if (const auto builtin = findName(kBuiltins, name))
+            return TuningDocument::makeBuiltin(kBuiltins[*builtin]);
         throw UsageError("there is no tuning \"" + name +
                          "\"; use Equal, \"Quartercomma Meantone\", Dynamic, or a .scl or .mtx "
                          "file");
+    }
     auto document = std::make_unique<TuningDocument>();
     if (!document->read(name, *format))
         throw std::runtime_error(document->errorString());

@@ -12,7 +12,7 @@ namespace velmora {
 
 /// The tuning, instrument and stops chosen on the command line.
 struct Selection {
-    std::string tuning = "Equal";        ///< "Equal", "Quartercomma Meantone", "Dynamic" or a file.
+    std::string tuning = "Equal";        ///< The name of a built-in tuning, or a file.
     std::filesystem::path instrument;    ///< An instrument file; empty for the General MIDI player.
     std::optional<std::uint8_t> program; ///< General MIDI program, 0…127.
     std::vector<std::pair<std::size_t, float>> stops; ///< Stop numbers, from 0, and their gains.

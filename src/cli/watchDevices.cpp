@@ -1,7 +1,8 @@
 #include "cli/commands.h"
 
 #include "app/Meters.h"
-#include "platform/QuitOnSignal.h"
+#include "platform/SignalNotifier.h"
+#include "platform/terminationSignals.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -59,7 +60,7 @@ void print(const MeterReading& reading, bool json)
 
 void watchDevices(bool json)
 {
-    QuitOnSignal quitOnSignal;
+    SignalNotifier quitOnSignal(terminationSignals());
     quitOnSignal.watch([] { QCoreApplication::quit(); });
     AppDelegate application;
     application.start();

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <functional>
 #include <thread>
 
 namespace velmora {
@@ -109,9 +110,26 @@ TEST(LivePath, TheProgramPlaysInTuneUntilItIsInterrupted)
     const double hertz = 329.6276 * std::exp2(-13.68629 / 1200.0); // the pure third of C
     EXPECT_NEAR(cents(measuredHertz(listener.listen(kRate), kRate, hertz), hertz), 0.0, 3.0);
     source.send(0, {midi::kNoteOff, 64, 0});
-    EXPECT_TRUE(waitUntil([&] { return peak(listener.listen(4800)) < 1e-6F; })) << "dies away";
+    const auto isSilent = [&] { return peak(listener.listen(4800)) < 1e-6F; };
+    EXPECT_TRUE(waitUntil(isSilent)) << "dies away";
 
-    kill(static_cast<pid_t>(velmora.processId()), SIGINT);
+    const auto process = static_cast<pid_t>(velmora.processId());
+    const std::pair<const char*, std::function<void()>> panics[] = {
+        {"a letter",
+         [&] {
+             velmora.write("o\np\n");
+             EXPECT_TRUE(velmora.waitForBytesWritten());
+             velmora.closeWriteChannel();
+         }},
+        {"a signal after the end of the input", [&] { kill(process, SIGUSR1); }}};
+    for (const auto& [name, panic] : panics) {
+        source.send(0, {midi::kNoteOn, 64, 100});
+        EXPECT_TRUE(waitUntil([&] { return !isSilent(); })) << name;
+        panic();
+        EXPECT_TRUE(waitUntil(isSilent)) << name;
+        source.send(0, {midi::kNoteOff, 64, 0});
+    }
+    kill(process, SIGINT);
     EXPECT_TRUE(velmora.waitForFinished(20'000));
     EXPECT_EQ(velmora.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(velmora.exitCode(), 0);

@@ -101,6 +101,28 @@ TEST_F(CommandLine, RendersTheSameBytesForTheSameSelectionOnly)
     }
 }
 
+TEST_F(CommandLine, TakesNamesInAnyCaseAndShortened)
+{
+    const std::pair<const char*, std::vector<const char*>> rows[] = {
+        {"19", {"Church Organ", "church", "20 church organ"}},
+        {"73", {"FLUTE", "0073"}}, // also the second word of another name
+        {"3", {"honky tonk"}}};
+    for (const auto& [number, names] : rows) {
+        render("out.wav", {"--program", number});
+        const auto bytes = content("out.wav");
+        for (const char* name : names) {
+            EXPECT_EQ(render("out.wav", {"--program", name}).code, 0);
+            EXPECT_EQ(content("out.wav"), bytes) << name;
+        }
+    }
+    render("out.wav", {"--tuning", "Quartercomma Meantone"});
+    const auto bytes = content("out.wav");
+    for (const char* name : {"meantone", "QUARTER", "quarter-comma meantone"}) {
+        EXPECT_EQ(render("out.wav", {"--tuning", name}).code, 0);
+        EXPECT_EQ(content("out.wav"), bytes) << name;
+    }
+}
+
 TEST_F(CommandLine, ReportsErrorsInOneSentence)
 {
     const struct {
@@ -115,7 +137,10 @@ TEST_F(CommandLine, ReportsErrorsInOneSentence)
         {{"render", "song.mid", "-o", "nowhere/out.wav"}, 1, "nowhere/out.wav: "},
         {{"--tuning", "Pythagorean"}, 2, "no tuning \"Pythagorean\""},
         {{"--tuning", "broken.scl"}, 1, "broken.scl, line 4: "},
-        {{"--program", "128"}, 2, "--program"},
+        {{"--tuning", "Pure Equal"}, 2, "no tuning \"Pure Equal\""},
+        {{"--program", "128"}, 2, "no General MIDI program \"128\"; --program takes"},
+        {{"--program", "-"}, 2, "no General MIDI program \"-\""},
+        {{"--program", "harp"}, 2, "\"harp\" may mean any of these: 7 Harpsichord, 47 Orch"},
         {{"--stop", "0=loud"}, 2, "\"0=loud\""},
         {{"--instrument", "missing.sf2"}, 1, "velmora: missing.sf2: cannot be read"},
         {{"--instrument", "song.mid"}, 2, "\"song.mid\" is not an instrument"},
@@ -189,12 +214,15 @@ TEST_F(CommandLine, DescribesFiles)
     const Json third = info("pure.scl")["pitchClasses"].at(4);
     EXPECT_EQ(third["value"], "5/4");
     EXPECT_NEAR(third["hertz"].get<double>(), 2.0 * kRoot * 1.25, 1e-3) << "key 64";
+    EXPECT_EQ(third["note"], "E5");
     EXPECT_EQ(info("song.mid")["notes"].at(0).dump(),
               R"({"channel":0,"key":52,"length":24.0,"start":0.0,"velocity":1.0})");
     const Json organ = info("test.organ");
     EXPECT_EQ(organ["stops"].at(0)["keys"].at(48)["rootPitch"], kRoot);
     EXPECT_THAT(organ["report"]["skipped"].at(0)["file"], HasSubstr("missing.wav"));
 
+    EXPECT_THAT(run({"info", "pure.scl"}).out,
+                HasSubstr("pure.scl: tuning, base frequency 261.625565 Hz at C4\n  Pure\n  C5 "));
     const Result text = run({"info", "broken.mid", "song.mid", "test.organ"});
     EXPECT_EQ(text.code, 1);
     EXPECT_THAT(text.out, HasSubstr("song.mid: sequence of 1 note"))

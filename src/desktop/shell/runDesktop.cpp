@@ -5,7 +5,8 @@
 #include "desktop/shell/SingleInstance.h"
 #include "desktop/widgets/graphics.h"
 #include "desktop/widgets/languages.h"
-#include "platform/QuitOnSignal.h"
+#include "platform/SignalNotifier.h"
+#include "platform/terminationSignals.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -45,7 +46,7 @@ void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QSt
 int runDesktop(int argc, char** argv, const std::vector<std::string>& files, bool plain,
                const OutputSettings& output)
 {
-    QuitOnSignal quitOnSignal;
+    SignalNotifier quitOnSignal(terminationSignals());
     qInstallMessageHandler(logMessage);
     requestOpenGL();
     QApplication application(argc, argv);
