@@ -13,13 +13,15 @@ namespace velmora {
 
 using KeySet = std::bitset<kKeys>;
 
-/// Numbers whatever can hold a key: the mouse, the sequencer, and each channel of each MIDI device.
+/// Numbers whatever can hold a key: the mouse, the sequencer, the letters of the computer keyboard,
+/// and each channel of each MIDI device.
 using KeySource = std::size_t;
 
 constexpr KeySource kMouse = 0;
 constexpr KeySource kSequencer = 1;
+constexpr KeySource kLetters = 2;
 
-constexpr KeySource kFirstDevice = 2;
+constexpr KeySource kFirstDevice = 3;
 
 /// The number of sources.
 constexpr std::size_t kKeySources = kFirstDevice + kMidiDevices * midi::kChannels;
