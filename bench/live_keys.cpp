@@ -80,7 +80,7 @@ int main(int argc, char** argv)
     std::size_t frames = 0;
     QTimer repainting, sending;
     repainting.setTimerType(Qt::PreciseTimer);
-    KeyboardView& keyboard = desktop.keyboardWindow().keyboard();
+    KeyboardView& keyboard = desktop.workspace().keyboard();
     QObject::connect(&keyboard, &QOpenGLWidget::frameSwapped, [&] { ++frames; });
     QObject::connect(&repainting, &QTimer::timeout, &keyboard, qOverload<>(&QWidget::update));
     std::size_t sent = 0;

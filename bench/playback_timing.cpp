@@ -5,7 +5,7 @@
 #include "audio/Synthesizer.h"
 #include "base/Clock.h"
 #include "desktop/shell/Desktop.h"
-#include "desktop/shell/SequenceWindow.h"
+#include "desktop/shell/SequencePage.h"
 #include "desktop/widgets/graphics.h"
 #include "support/JackServer.h"
 
@@ -90,10 +90,10 @@ int main(int argc, char** argv)
     application.setInstrument(instrument, "timed");
     application.selectTuning("Dynamic");
 
-    SequenceWindow* window = nullptr;
-    QObject::connect(&desktop.sequenceWindows(), &SequenceWindows::opened, &qt,
-                     [&](SequenceWindow& opened) { window = &opened; });
-    desktop.sequenceWindows().create();
+    SequencePage* window = nullptr;
+    QObject::connect(&desktop.pages(), &SequencePages::opened, &qt,
+                     [&](SequencePage& opened) { window = &opened; });
+    desktop.pages().create();
     SequenceDocument& document = window->document();
     const std::vector<double> starts = fillAtRandom(document);
     std::size_t frames = 0;

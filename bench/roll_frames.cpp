@@ -5,7 +5,7 @@
 #include "desktop/roll/SequenceScrollView.h"
 #include "desktop/roll/SequenceView.h"
 #include "desktop/shell/Desktop.h"
-#include "desktop/shell/SequenceWindow.h"
+#include "desktop/shell/SequencePage.h"
 #include "desktop/widgets/graphics.h"
 #include "manyNotes.h"
 
@@ -60,10 +60,10 @@ int main(int argc, char** argv)
     requestOpenGL();
     const QApplication qt(argc, argv);
     Desktop desktop;
-    SequenceWindow* window = nullptr;
-    QObject::connect(&desktop.sequenceWindows(), &SequenceWindows::opened, &qt,
-                     [&](SequenceWindow& opened) { window = &opened; });
-    desktop.sequenceWindows().create();
+    SequencePage* window = nullptr;
+    QObject::connect(&desktop.pages(), &SequencePages::opened, &qt,
+                     [&](SequencePage& opened) { window = &opened; });
+    desktop.pages().create();
     addManyNotes(*window->document().edit());
     window->document().updateExtent();
     window->showDocument();
@@ -87,5 +87,5 @@ int main(int argc, char** argv)
     measure("scrolling", view, [&](std::size_t frame) {
         scrollView.scrollVertically(8.0 * static_cast<double>(1 + frame % 5000));
     });
-    window->closeWithoutAsking();
+    window->settle();
 }

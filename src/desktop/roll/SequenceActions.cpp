@@ -1,5 +1,7 @@
 #include "desktop/roll/SequenceActions.h"
 
+#include "desktop/roll/SequenceScrollView.h"
+#include "desktop/widgets/Commands.h"
 #include "desktop/widgets/icons.h"
 #include "midi/messages.h"
 #include "sequencer/NoteClipboard.h"
@@ -11,117 +13,177 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMimeData>
+#include <QUndoStack>
 
 namespace velmora {
 
 namespace {
 
-QAction* checkable(const char* picture, const QString& text, const QKeySequence& shortcut,
-                   const QString& tip, QObject* parent)
-{
-    auto* action = new QAction(icon(picture), text, parent);
-    action->setCheckable(true);
-    action->setShortcut(shortcut);
-    action->setToolTip(QString("%1 (%2)").arg(tip, shortcut.toString(QKeySequence::NativeText)));
-    return action;
-}
-
-QAction* withIcon(QAction* action, const char* picture, QKeySequence::StandardKey shortcut)
+/// Gives an action of the undo stacks the picture of its command.
+QAction* pictured(QAction* action, const char* picture)
 {
     action->setIcon(icon(picture));
-    action->setShortcut(shortcut);
     return action;
 }
 
 } // namespace
 
-SequenceActions::SequenceActions(SequenceDocument& document, SequenceEditor& editor)
-    : record(new QAction(icon("record"), {}, this)), play(new QAction(icon("play"), {}, this)),
-      loop(checkable("loop", tr("&Loop"), QKeySequence(Qt::CTRL | Qt::Key_L),
-                     tr("Repeat the selected time, or the whole sequence"), this)),
-      snap(checkable("snap", tr("Snap to &Grid"), QKeySequence(Qt::CTRL | Qt::Key_G),
-                     tr("Align notes and times with whole steps"), this)),
-      undo(withIcon(document.undoStack().createUndoAction(this, tr("&Undo")), "undo",
-                    QKeySequence::Undo)),
-      redo(withIcon(document.undoStack().createRedoAction(this, tr("&Redo")), "redo",
-                    QKeySequence::Redo)),
-      cut(withIcon(new QAction(tr("Cu&t"), this), "cut", QKeySequence::Cut)),
-      copy(withIcon(new QAction(tr("&Copy"), this), "copy", QKeySequence::Copy)),
-      paste(withIcon(new QAction(tr("&Paste"), this), "paste", QKeySequence::Paste)),
-      document_(document), editor_(editor),
-      delete_(keyAction(tr("&Delete") + "\tDel", Qt::Key_Delete)),
-      selectAll_(new QAction(tr("Select &All"), this)),
-      deselect_(keyAction(tr("Select &None") + "\tEsc", Qt::Key_Escape)),
-      start_(keyAction(tr("Go to &Start") + "\tCtrl+Down", Qt::Key_Down, Qt::ControlModifier)),
-      previous_(keyAction(tr("Pre&vious Notes") + "\tDown", Qt::Key_Down)),
-      next_(keyAction(tr("&Next Notes") + "\tUp", Qt::Key_Up)),
-      channelMenu_(std::make_unique<QMenu>()), channels_(new QActionGroup(this))
+SequenceActions::SequenceActions(Commands& commands)
+    : record(commands.add("piece.record", tr("Piece"), {tr("&Record"), {}, "record"},
+                          {Qt::Key_Return})),
+      play(commands.add("piece.play", tr("Piece"), {tr("&Play"), {}, "play"}, {Qt::Key_Space})),
+      loop(
+          commands.add("piece.loop", tr("Piece"),
+                       {tr("&Loop"), tr("Repeat the selected time, or the whole sequence"), "loop"},
+                       {Qt::CTRL | Qt::Key_L})),
+      snap(commands.add("piece.snap", tr("Piece"),
+                        {tr("Snap to &Grid"), tr("Align notes and times with whole steps"), "snap"},
+                        {Qt::CTRL | Qt::Key_G})),
+      commands_(commands), undo_(pictured(undoStacks_.createUndoAction(this, tr("&Undo")), "undo")),
+      redo_(pictured(undoStacks_.createRedoAction(this, tr("&Redo")), "redo")),
+      cut_(add("edit.cut", "cut", tr("Cu&t"), QKeySequence::keyBindings(QKeySequence::Cut))),
+      copy_(add("edit.copy", "copy", tr("&Copy"), QKeySequence::keyBindings(QKeySequence::Copy))),
+      paste_(
+          add("edit.paste", "paste", tr("&Paste"), QKeySequence::keyBindings(QKeySequence::Paste))),
+      delete_(addKey("edit.delete", tr("&Delete"), {Qt::Key_Delete, Qt::Key_Backspace},
+                     Qt::Key_Delete)),
+      selectAll_(add("edit.selectAll", nullptr, tr("Select &All"), {Qt::CTRL | Qt::Key_A})),
+      deselect_(addKey("edit.selectNone", tr("Select &None"), {Qt::Key_Escape}, Qt::Key_Escape)),
+      start_(addKey("piece.start", tr("Go to &Start"), {Qt::CTRL | Qt::Key_Down}, Qt::Key_Down,
+                    Qt::ControlModifier)),
+      end_(addKey("piece.end", tr("Go to &End"), {Qt::CTRL | Qt::Key_Up}, Qt::Key_Up,
+                  Qt::ControlModifier)),
+      previous_(addKey("piece.previous", tr("Pre&vious Notes"), {Qt::Key_Down}, Qt::Key_Down)),
+      next_(addKey("piece.next", tr("&Next Notes"), {Qt::Key_Up}, Qt::Key_Up)),
+      channelMenu_(std::make_unique<QMenu>(tr("&Channel"))), channels_(new QActionGroup(this))
 {
+    commands_.add("edit.undo", tr("Edit"), *undo_, {QKeySequence(QKeySequence::Undo)});
+    commands_.add("edit.redo", tr("Edit"), *redo_, QKeySequence::keyBindings(QKeySequence::Redo));
     delete_->setIcon(icon("delete"));
-    selectAll_->setShortcut(QKeySequence::SelectAll);
+    for (QAction* action : {loop, snap})
+        action->setCheckable(true);
+    for (QAction* action : {record, play}) // a key that is held down must not stop it again
+        action->setAutoRepeat(false);
+    using View = SequenceScrollView;
+    addZoom("view.zoomIn", "zoom-in", tr("Zoo&m In"),
+            QKeySequence::keyBindings(QKeySequence::ZoomIn), &View::zoomSteps, 1);
+    addZoom("view.zoomOut", "zoom-out", tr("Zoom &Out"),
+            QKeySequence::keyBindings(QKeySequence::ZoomOut), &View::zoomSteps, -1);
+    addZoom("view.widerKeys", "zoom-in", tr("&Wider Keys"), {Qt::CTRL | Qt::ALT | Qt::Key_Plus},
+            &View::zoomKeys, 1);
+    addZoom("view.narrowerKeys", "zoom-out", tr("Narrowe&r Keys"),
+            {Qt::CTRL | Qt::ALT | Qt::Key_Minus}, &View::zoomKeys, -1);
     makeChannels();
-    connectEditing();
-    connectTransport();
+    connectCommands();
+    setTarget({});
+}
+
+SequenceActions::~SequenceActions() = default;
+
+void SequenceActions::setTarget(const Target& target)
+{
+    if (target_.document != nullptr) {
+        for (QObject* source : std::initializer_list<QObject*>{
+                 target_.document, &target_.document->transport(), &target_.document->recorder()})
+            source->disconnect(this);
+        undoStacks_.removeStack(&target_.document->undoStack());
+    }
+    target_ = target;
+    if (target_.document != nullptr)
+        connectTarget();
+    const bool isAny = target_.document != nullptr;
+    for (QAction* action : {play, loop, snap, selectAll_, start_, end_, previous_, next_})
+        action->setEnabled(isAny);
+    for (QAction* action : zooms_)
+        action->setEnabled(isAny);
+    channelMenu_->setEnabled(isAny);
     showMode();
     showOptions();
     showSelection();
     showClipboard();
 }
 
-SequenceActions::~SequenceActions() = default;
-
-QAction* SequenceActions::keyAction(const QString& text, int key, Qt::KeyboardModifiers modifiers)
+void SequenceActions::connectTarget()
 {
-    auto* action = new QAction(text, this);
+    SequenceDocument& document = *target_.document;
+    undoStacks_.addStack(&document.undoStack());
+    undoStacks_.setActiveStack(&document.undoStack());
+    connect(&document, &SequenceDocument::changed, this, &SequenceActions::showSelection);
+    connect(&document.transport(), &Transport::modeChanged, this, &SequenceActions::showMode);
+    connect(&document.transport(), &Transport::optionsChanged, this, &SequenceActions::showOptions);
+    connect(&document.recorder(), &Recorder::optionsChanged, this, &SequenceActions::showOptions);
+}
+
+QAction* SequenceActions::add(const char* id, const char* icon, const QString& text,
+                              const QList<QKeySequence>& shortcuts)
+{
+    const QString group = QString(id).startsWith("edit.") ? tr("Edit") : tr("Piece");
+    return commands_.add(id, group, {text, {}, icon}, shortcuts);
+}
+
+QAction* SequenceActions::addKey(const char* id, const QString& text,
+                                 const QList<QKeySequence>& shortcuts, int key,
+                                 Qt::KeyboardModifiers modifiers)
+{
+    QAction* action = add(id, nullptr, text, shortcuts);
     connect(action, &QAction::triggered, this, [this, key, modifiers] {
-        editor_.keyDown(QKeyEvent(QEvent::KeyPress, key, modifiers));
+        if (target_.editor != nullptr)
+            target_.editor->keyDown(QKeyEvent(QEvent::KeyPress, key, modifiers));
     });
     return action;
 }
 
+void SequenceActions::addZoom(const char* id, const char* icon, const QString& text,
+                              const QList<QKeySequence>& shortcuts,
+                              void (SequenceScrollView::*zoom)(int), int notches)
+{
+    QAction* action = commands_.add(id, tr("View"), {text, {}, icon}, shortcuts);
+    zooms_.push_back(action);
+    connect(action, &QAction::triggered, this, [this, zoom, notches] {
+        if (target_.roll != nullptr)
+            (target_.roll->*zoom)(notches);
+    });
+}
+
 void SequenceActions::makeChannels()
 {
-    channelMenu_->setTitle(tr("&Channel"));
     for (int channel = 0; channel < midi::kChannels; ++channel) {
         QAction* action = channels_->addAction(QString::number(channel + 1));
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, [this, channel] {
-            document_.recorder().setChannel(static_cast<unsigned char>(channel));
+            target_.document->recorder().setChannel(static_cast<unsigned char>(channel));
         });
     }
     channels_->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     channelMenu_->addActions(channels_->actions());
 }
 
-void SequenceActions::connectEditing()
+void SequenceActions::connectCommands()
 {
-    connect(cut, &QAction::triggered, this, [this] { copyNotes(editor_.cut()); });
-    connect(copy, &QAction::triggered, this, [this] { copyNotes(editor_.copy()); });
-    connect(paste, &QAction::triggered, this, &SequenceActions::pasteNotes);
-    connect(selectAll_, &QAction::triggered, this, [this] { editor_.selectAll(); });
-    connect(&document_, &SequenceDocument::changed, this, &SequenceActions::showSelection);
+    connect(cut_, &QAction::triggered, this, [this] { copyNotes(target_.editor->cut()); });
+    connect(copy_, &QAction::triggered, this, [this] { copyNotes(target_.editor->copy()); });
+    connect(paste_, &QAction::triggered, this, &SequenceActions::pasteNotes);
+    connect(selectAll_, &QAction::triggered, this, [this] { target_.editor->selectAll(); });
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
             &SequenceActions::showClipboard);
-}
-
-void SequenceActions::connectTransport()
-{
-    Transport& transport = document_.transport();
-    Recorder& recorder = document_.recorder();
-    connect(record, &QAction::triggered, &recorder, &Recorder::record);
-    connect(play, &QAction::triggered, &transport, &Transport::play);
-    connect(loop, &QAction::triggered, &transport, &Transport::setLoop);
-    connect(snap, &QAction::triggered, &recorder, &Recorder::setSnapToGrid);
-    connect(&transport, &Transport::modeChanged, this, &SequenceActions::showMode);
-    connect(&transport, &Transport::optionsChanged, this, &SequenceActions::showOptions);
-    connect(&recorder, &Recorder::optionsChanged, this, &SequenceActions::showOptions);
+    connect(record, &QAction::triggered, this, [this] {
+        if (target_.document == nullptr)
+            emit pieceWanted();
+        if (target_.document != nullptr)
+            target_.document->recorder().record();
+    });
+    connect(play, &QAction::triggered, this, [this] { target_.document->transport().play(); });
+    connect(loop, &QAction::triggered, this,
+            [this](bool on) { target_.document->transport().setLoop(on); });
+    connect(snap, &QAction::triggered, this,
+            [this](bool on) { target_.document->recorder().setSnapToGrid(on); });
 }
 
 void SequenceActions::addEditing(QMenu& edit) const
 {
-    edit.addActions({undo, redo});
+    edit.addActions({undo_, redo_});
     edit.addSeparator();
-    edit.addActions({cut, copy, paste, delete_});
+    edit.addActions({cut_, copy_, paste_, delete_});
     edit.addSeparator();
     edit.addActions({selectAll_, deselect_});
 }
@@ -130,52 +192,63 @@ void SequenceActions::addTransport(QMenu& sequence) const
 {
     sequence.addActions({record, play});
     sequence.addSeparator();
-    sequence.addActions({start_, previous_, next_});
+    sequence.addActions({start_, end_, previous_, next_});
     sequence.addSeparator();
     sequence.addActions({loop, snap});
     sequence.addMenu(channelMenu_.get());
 }
 
+void SequenceActions::addZoom(QMenu& view) const
+{
+    for (QAction* action : zooms_)
+        view.addAction(action);
+}
+
 void SequenceActions::showMode()
 {
     using Mode = Transport::Mode;
-    const auto show = [this](QAction& action, Mode own, const char* picture, const QString& title,
-                             const QString& key, const QString& tip) {
-        const Mode mode = document_.transport().mode();
+    const Mode mode =
+        target_.document == nullptr ? Mode::Stopped : target_.document->transport().mode();
+    const auto show = [mode](QAction& action, Mode own, const char* picture, const QString& title,
+                             const QString& tip) {
         const bool isOwn = mode == own;
         action.setIcon(icon(isOwn ? "stop" : picture));
-        action.setText((isOwn ? tr("Stop") : title) + '\t' + key);
-        action.setIconText(isOwn ? tr("Stop") : title);
-        action.setToolTip(QString("%1 (%2)").arg(isOwn ? tr("Stop") : tip, key));
-        action.setEnabled(isOwn || mode == Mode::Stopped);
+        action.setText(isOwn ? tr("Stop") : title);
+        Commands::setTip(action, isOwn ? tr("Stop") : tip);
     };
-    show(*record, Mode::Recording, "record", tr("Record"), tr("Return"),
+    show(*record, Mode::Recording, "record", tr("&Record"),
          tr("Record what you play, starting at the position"));
-    show(*play, Mode::Playing, "play", tr("Play"), tr("Space"), tr("Play from the position"));
+    show(*play, Mode::Playing, "play", tr("&Play"), tr("Play from the position"));
+    record->setEnabled(mode != Mode::Playing);
+    play->setEnabled(mode != Mode::Recording && target_.document != nullptr);
 }
 
 void SequenceActions::showOptions()
 {
-    loop->setChecked(document_.transport().loops());
-    snap->setChecked(document_.recorder().snapToGrid());
+    const SequenceDocument* document = target_.document;
+    loop->setChecked(document != nullptr && document->transport().loops());
+    snap->setChecked(document != nullptr && document->recorder().snapToGrid());
     const auto actions = channels_->actions();
     for (int channel = 0; channel < midi::kChannels; ++channel)
-        actions[channel]->setChecked(channel == document_.recorder().channel());
+        actions[channel]->setChecked(document != nullptr &&
+                                     channel == document->recorder().channel());
 }
 
 void SequenceActions::showSelection()
 {
-    const bool isAny = !document_.sequence().selection().empty();
-    for (QAction* action : {cut, copy, delete_, deselect_})
+    const bool isAny =
+        target_.document != nullptr && !target_.document->sequence().selection().empty();
+    for (QAction* action : {cut_, copy_, delete_, deselect_})
         action->setEnabled(isAny);
 }
 
 void SequenceActions::showClipboard()
 {
     // This query goes to the program that owns the clipboard, so it is made only when the content
-    // changes.
+    // or the piece changes.
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    paste->setEnabled(data != nullptr && data->hasFormat(kNotesMimeType));
+    paste_->setEnabled(target_.document != nullptr && data != nullptr &&
+                       data->hasFormat(kNotesMimeType));
 }
 
 void SequenceActions::copyNotes(const std::vector<Note>& notes)
@@ -190,7 +263,7 @@ void SequenceActions::copyNotes(const std::vector<Note>& notes)
 void SequenceActions::pasteNotes()
 {
     if (const QMimeData* data = QGuiApplication::clipboard()->mimeData())
-        editor_.paste(decodeNotes(data->data(kNotesMimeType)));
+        target_.editor->paste(decodeNotes(data->data(kNotesMimeType)));
 }
 
 } // namespace velmora

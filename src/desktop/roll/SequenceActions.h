@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QUndoGroup>
 
 #include <memory>
 #include <vector>
@@ -11,30 +12,54 @@ class QMenu;
 
 namespace velmora {
 
+class Commands;
 class SequenceDocument;
 class SequenceEditor;
+class SequenceScrollView;
 struct Note;
 
-/// The actions in the menus and the toolbar of a sequence window. The menus also show the keys that
-/// the piano roll handles itself; these are not shortcuts of the actions.
+/// The commands that act on the current piece.
 class SequenceActions : public QObject {
     Q_OBJECT
 
 public:
-    /// The document and the editor must outlive the actions.
-    SequenceActions(SequenceDocument& document, SequenceEditor& editor);
+    explicit SequenceActions(Commands& commands);
     ~SequenceActions() override;
 
+    /// A piece, the editor of its notes, and its roll.
+    struct Target {
+        SequenceDocument* document = nullptr;
+        SequenceEditor* editor = nullptr;
+        SequenceScrollView* roll = nullptr;
+    };
+
+    /// Makes a piece the current one, or none if the pointers are null. A piece must be replaced
+    /// before it is destroyed.
+    void setTarget(const Target& target);
+
     QAction *const record, *const play, *const loop, *const snap;
-    QAction *const undo, *const redo, *const cut, *const copy, *const paste;
 
     void addEditing(QMenu& edit) const;
     void addTransport(QMenu& sequence) const;
+    void addZoom(QMenu& view) const;
+
+signals:
+    /// The user wants to record, and there is no piece.
+    void pieceWanted();
 
 private:
-    void connectEditing();
-    void connectTransport();
+    QAction* add(const char* id, const char* icon, const QString& text,
+                 const QList<QKeySequence>& shortcuts);
+
+    /// Adds a command that has the same effect as a key in the piano roll.
+    QAction* addKey(const char* id, const QString& text, const QList<QKeySequence>& shortcuts,
+                    int key, Qt::KeyboardModifiers modifiers = {});
+    void addZoom(const char* id, const char* icon, const QString& text,
+                 const QList<QKeySequence>& shortcuts, void (SequenceScrollView::*zoom)(int),
+                 int notches);
     void makeChannels();
+    void connectCommands();
+    void connectTarget();
     void showMode();
     void showOptions();
     void showSelection();
@@ -42,13 +67,13 @@ private:
     void copyNotes(const std::vector<Note>& notes);
     void pasteNotes();
 
-    /// Creates an action with the same effect as a key in the piano roll.
-    QAction* keyAction(const QString& text, int key, Qt::KeyboardModifiers modifiers = {});
-
-    SequenceDocument& document_;
-    SequenceEditor& editor_;
+    Commands& commands_;
+    Target target_;
+    QUndoGroup undoStacks_;
+    QAction *const undo_, *const redo_, *const cut_, *const copy_, *const paste_;
     QAction *const delete_, *const selectAll_, *const deselect_;
-    QAction *const start_, *const previous_, *const next_;
+    QAction *const start_, *const end_, *const previous_, *const next_;
+    std::vector<QAction*> zooms_;
     const std::unique_ptr<QMenu> channelMenu_;
     QActionGroup* const channels_;
 };

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace velmora {
 
@@ -35,9 +36,8 @@ QString timeText(double step, double tempo)
 
 } // namespace
 
-TransportBar::TransportBar(SequenceDocument& document, SequenceActions& actions,
-                           AppDelegate& application)
-    : document_(document), application_(application), tempo_(new QSpinBox), channel_(new QComboBox),
+TransportBar::TransportBar(SequenceActions& actions, AppDelegate& application)
+    : application_(application), tempo_(new QSpinBox), channel_(new QComboBox),
       position_(new QLabel)
 {
     setObjectName("transport");
@@ -53,15 +53,30 @@ TransportBar::TransportBar(SequenceDocument& document, SequenceActions& actions,
     addTempo();
     addChannel();
     addSeparator();
-    position_->setAccessibleName(tr("Position"));
     position_->setToolTip(tr("The position in minutes and seconds at this tempo, and in steps"));
     position_->setMargin(6);
     addWidget(position_);
+    setDocument(nullptr);
+}
 
-    connect(&document_.transport(), &Transport::optionsChanged, this, &TransportBar::showOptions);
-    connect(&document_.recorder(), &Recorder::optionsChanged, this, &TransportBar::showOptions);
-    connect(&document_.transport(), &Transport::moved, this, &TransportBar::showPosition);
-    connect(&document_.transport(), &Transport::frame, this, &TransportBar::showPosition);
+void TransportBar::setDocument(SequenceDocument* document)
+{
+    if (document_ != nullptr) {
+        document_->transport().disconnect(this);
+        document_->recorder().disconnect(this);
+    }
+    document_ = document;
+    for (QWidget* field : std::initializer_list<QWidget*>{tempo_, channel_, position_})
+        field->setEnabled(document_ != nullptr);
+    if (document_ == nullptr) {
+        position_->clear();
+        return;
+    }
+    const Transport& transport = document_->transport();
+    connect(&transport, &Transport::optionsChanged, this, &TransportBar::showOptions);
+    connect(&document_->recorder(), &Recorder::optionsChanged, this, &TransportBar::showOptions);
+    connect(&transport, &Transport::moved, this, &TransportBar::showPosition);
+    connect(&transport, &Transport::frame, this, &TransportBar::showPosition);
     showOptions();
 }
 
@@ -84,11 +99,12 @@ void TransportBar::addTempo()
     label->setBuddy(tempo_);
     addWidget(label);
     tempo_->setRange(kMinTempo, kMaxTempo);
+    tempo_->setSuffix(tr(" bpm"));
     tempo_->setKeyboardTracking(false);
     tempo_->setAccessibleName(tr("Tempo"));
     tempo_->setToolTip(tr("The tempo of playing and recording in beats per minute (Alt+M)"));
     connect(tempo_, &QSpinBox::valueChanged, this,
-            [this](int tempo) { document_.transport().setTempo(tempo); });
+            [this](int tempo) { document_->transport().setTempo(tempo); });
     connect(tempo_, &QSpinBox::editingFinished, this, [this] {
         if (tempo_->hasFocus()) // otherwise the user has already moved the focus
             emit done();
@@ -109,7 +125,7 @@ void TransportBar::addChannel()
         tr("The channel of notes that you record or draw. A digit key chooses a channel and "
            "selects its notes; with Ctrl it moves the selected notes to that channel."));
     connect(channel_, &QComboBox::activated, this, [this](int channel) {
-        document_.recorder().setChannel(static_cast<unsigned char>(channel));
+        document_->recorder().setChannel(static_cast<unsigned char>(channel));
         emit done();
     });
     addWidget(channel_);
@@ -117,19 +133,19 @@ void TransportBar::addChannel()
 
 void TransportBar::showOptions()
 {
-    if (const auto tempo = static_cast<int>(std::lround(document_.transport().tempo()));
+    if (const auto tempo = static_cast<int>(std::lround(document_->transport().tempo()));
         tempo != tempo_->value()) {
         const QSignalBlocker blocker(tempo_);
         tempo_->setValue(tempo);
     }
-    const int channel = document_.recorder().channel();
+    const int channel = document_->recorder().channel();
     channel_->setCurrentIndex(channel < midi::kChannels ? channel : -1);
     showPosition();
 }
 
 void TransportBar::showPosition()
 {
-    const Transport& transport = document_.transport();
+    const Transport& transport = document_->transport();
     // While the position moves, decimals would change too fast to be read.
     const int decimals = transport.mode() == Transport::Mode::Stopped ? 1 : 0;
     position_->setText(tr("%1  ·  step %2")

@@ -13,13 +13,17 @@ class SequenceActions;
 class SequenceDocument;
 struct Learnable;
 
-/// The toolbar of a sequence window: record, play, loop, grid, tempo, channel and position.
+/// The toolbar of the current piece: record, play, loop, grid, tempo, channel and position.
 class TransportBar : public QToolBar {
     Q_OBJECT
 
 public:
     /// The arguments must outlive the toolbar.
-    TransportBar(SequenceDocument& document, SequenceActions& actions, AppDelegate& application);
+    TransportBar(SequenceActions& actions, AppDelegate& application);
+
+    /// Shows the tempo, channel and position of a document; null for none. It must be replaced
+    /// before it is destroyed.
+    void setDocument(SequenceDocument* document);
 
 signals:
     /// The user has finished with a field; the piano roll should get the keyboard focus back.
@@ -32,8 +36,8 @@ private:
     void showOptions();
     void showPosition();
 
-    SequenceDocument& document_;
     AppDelegate& application_;
+    SequenceDocument* document_ = nullptr;
     QSpinBox* tempo_;
     QComboBox* channel_;
     QLabel* position_;

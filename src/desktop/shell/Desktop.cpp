@@ -3,7 +3,7 @@
 #include "desktop/instruments/PlayingControls.h"
 #include "desktop/instruments/importReport.h"
 #include "desktop/keyboard/KeyboardView.h"
-#include "desktop/shell/SequenceWindow.h"
+#include "desktop/shell/SequencePage.h"
 #include "desktop/shell/StatusLine.h"
 #include "desktop/shell/aboutBox.h"
 #include "desktop/widgets/windowPlace.h"
@@ -31,21 +31,19 @@ constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
 
 } // namespace
 
-Desktop::Desktop()
-    : commands_(application_), keyboardWindow_(application_, commands_),
-      instrumentPanel_(application_), instrumentsWindow_(application_), metersWindow_(application_),
-      sequenceWindows_(application_, commands_, keyboardWindow_.keyboard())
+Desktop::Desktop() : instrumentsWindow_(application_), metersWindow_(application_)
 {
     connectCommands();
+    connectWindows();
     connectProgress();
-    connectSequences();
-    for (QWidget* window : std::initializer_list<QWidget*>{
-             &keyboardWindow_, &instrumentPanel_, &instrumentsWindow_, &preferencesWindow_})
+    connectPieces();
+    for (QWidget* window :
+         std::initializer_list<QWidget*>{&workspace_, &instrumentsWindow_, &preferencesWindow_})
         fileDrop_.watch(*window);
-    progressWindow_.addAction(commands_.silence); // it is modal and blocks other windows' shortcuts
+    progressWindow_.addAction(shell_.silence); // it is modal and blocks other windows' shortcuts
     connect(&fileDrop_, &FileDrop::dropped, this, &Desktop::open, Qt::QueuedConnection);
     connect(&application_, &AppDelegate::bankLoaded, this, &Desktop::showBank);
-    connect(&application_, &AppDelegate::midiInputReceived, &keyboardWindow_.keyboard(),
+    connect(&application_, &AppDelegate::midiInputReceived, &workspace_.keyboard(),
             &KeyboardView::midiInput);
     connect(&application_, &AppDelegate::controlUsed, this, &Desktop::perform);
     connect(&preferencesWindow_, &PreferencesWindow::changed, this, &Desktop::updateAllViews);
@@ -54,10 +52,8 @@ Desktop::Desktop()
     connect(&preferencesWindow_, &PreferencesWindow::bankChanged, &application_,
             &AppDelegate::loadBank);
 
-    rememberPlace(instrumentPanel_, "instrumentPanel");
     rememberPlace(instrumentsWindow_, "instruments");
-    keyboardWindow_.show();
-    reopen(instrumentPanel_, "instrumentPanel");
+    workspace_.show();
     reopen(instrumentsWindow_, "instruments");
     reopen(metersWindow_, "meters");
 }
@@ -67,52 +63,54 @@ Desktop::~Desktop() = default;
 void Desktop::launch(const OutputSettings& output)
 {
     application_.start(output);
-    keyboardWindow_.status().showDevices();
-    sequenceWindows_.offerAbandoned();
+    workspace_.status().showDevices();
+    pages_.offerAbandoned();
 }
 
 void Desktop::connectCommands()
 {
-    const auto presents = [this](QAction* action, QWidget& window) {
-        connect(action, &QAction::triggered, this, [&window] { present(window); });
-    };
-    presents(commands_.keyboardWindow, keyboardWindow_);
-    presents(commands_.instrumentPanel, instrumentPanel_);
-    presents(commands_.instrumentsWindow, instrumentsWindow_);
-    presents(commands_.metersWindow, metersWindow_);
-    presents(commands_.preferences, preferencesWindow_);
-    connect(commands_.open, &QAction::triggered, this, &Desktop::askForFiles);
-    connect(commands_.silence, &QAction::triggered, this, [this] {
-        sequenceWindows_.stopPlaying(); // otherwise their next notes would sound
+    connect(shell_.open, &QAction::triggered, this, &Desktop::askForFiles);
+    connect(shell_.silence, &QAction::triggered, this, [this] {
+        pages_.stopPlaying(); // otherwise their next notes would sound
         application_.silenceAll();
     });
-    connect(commands_.transposeUp, &QAction::triggered, this, [this] { transpose(1); });
-    connect(commands_.transposeDown, &QAction::triggered, this, [this] { transpose(-1); });
+    connect(shell_.transposeUp, &QAction::triggered, this, [this] { transpose(1); });
+    connect(shell_.transposeDown, &QAction::triggered, this, [this] { transpose(-1); });
     const auto allowTransposing = [this] {
-        for (QAction* action : {commands_.transposeUp, commands_.transposeDown})
+        for (QAction* action : {shell_.transposeUp, shell_.transposeDown})
             action->setEnabled(!application_.playing().settings().isPlain);
     };
     connect(&application_.playing(), &PlayingOptions::changed, this, allowTransposing);
     allowTransposing();
     // The windows are not closed one by one, so that the open ones are reopened next time.
-    connect(commands_.quit, &QAction::triggered, this, [this] {
-        if (sequenceWindows_.closeAll())
+    connect(shell_.quit, &QAction::triggered, this, [this] {
+        if (pages_.closeAll())
             QApplication::exit();
     });
-    connect(&commands_, &Commands::recentFileChosen, this,
+    connect(&shell_, &ShellActions::recentFileChosen, this,
             [this](const QString& path) { open({path}); });
-    connect(&commands_, &Commands::instrumentChosen, this, &Desktop::selectInstrument);
-    connect(&commands_, &Commands::guideRequested, this, [this] { present(guideWindow_); });
-    connect(&commands_, &Commands::aboutRequested, this, [this] { showAbout(keyboardWindow_); });
+    connect(&shell_, &ShellActions::instrumentChosen, this, &Desktop::selectInstrument);
+    shell_.noteNames->setChecked(getPrefBool("KeyNames"));
+    connect(shell_.noteNames, &QAction::toggled, this, [this](bool on) {
+        setPrefBool("KeyNames", on);
+        updateAllViews();
+    });
+}
+
+void Desktop::connectWindows()
+{
+    const auto presents = [this](QAction* action, QWidget& window) {
+        connect(action, &QAction::triggered, this, [&window] { present(window); });
+    };
+    presents(shell_.instrumentsWindow, instrumentsWindow_);
+    presents(shell_.metersWindow, metersWindow_);
+    presents(shell_.preferences, preferencesWindow_);
+    presents(shell_.guide, guideWindow_);
+    connect(shell_.about, &QAction::triggered, this, [this] { showAbout(workspace_); });
     connect(&instrumentsWindow_, &InstrumentsWindow::openRequested, this, &Desktop::askForFiles);
     connect(&instrumentsWindow_, &InstrumentsWindow::instrumentChosen, this,
             &Desktop::selectInstrument);
     connect(&instrumentsWindow_, &InstrumentsWindow::refused, this, &Desktop::showError);
-    commands_.noteNames->setChecked(getPrefBool("KeyNames"));
-    connect(commands_.noteNames, &QAction::toggled, this, [this](bool on) {
-        setPrefBool("KeyNames", on);
-        updateAllViews();
-    });
 }
 
 void Desktop::connectProgress()
@@ -125,21 +123,44 @@ void Desktop::connectProgress()
             &AppDelegate::cancelImport);
 }
 
-void Desktop::connectSequences()
+void Desktop::connectPieces()
 {
-    connect(commands_.newSequence, &QAction::triggered, &sequenceWindows_,
-            &SequenceWindows::create);
-    connect(&sequenceWindows_, &SequenceWindows::opened, this,
-            [this](SequenceWindow& window) { fileDrop_.watch(window); });
-    connect(&sequenceWindows_, &SequenceWindows::zoomed, this, &Desktop::updateAllViews);
-    connect(&keyboardWindow_, &KeyboardWindow::keyForwarded, &sequenceWindows_,
-            [this](const QKeyEvent* event) { sequenceWindows_.handleKey(*event); });
+    connect(shell_.newSequence, &QAction::triggered, this, [this] { pages_.create(); });
+    connect(&sequenceActions_, &SequenceActions::pieceWanted, this, [this] { pages_.create(); });
+    // These are enabled only while there is a current piece.
+    connect(shell_.save, &QAction::triggered, this, [this] { pages_.current()->saver().save(); });
+    connect(shell_.saveAs, &QAction::triggered, this,
+            [this] { pages_.current()->saver().saveAs(); });
+    connect(shell_.exportAudio, &QAction::triggered, this,
+            [this] { pages_.current()->exportAudio(); });
+    connect(shell_.close, &QAction::triggered, this, [this] { pages_.close(*pages_.current()); });
+    connect(shell_.ownWindow, &QAction::triggered, this,
+            [this](bool own) { pages_.setOwnWindow(*pages_.current(), own); });
+    connect(&pages_, &SequencePages::opened, this,
+            [this](SequencePage& page) { fileDrop_.watch(page); });
+    connect(&pages_, &SequencePages::zoomed, this, &Desktop::updateAllViews);
+    connect(&pages_, &SequencePages::currentChanged, this, &Desktop::showPiece);
+    connect(&pages_, &SequencePages::message, this, [this](const QString& text) {
+        workspace_.status().showMessage(text, kReportMilliseconds);
+    });
+}
+
+void Desktop::showPiece()
+{
+    SequencePage* piece = pages_.current();
+    workspace_.setDocument(piece == nullptr ? nullptr : &piece->document());
+    workspace_.setWindowTitle(piece == nullptr ? tr("Velmora") : piece->windowTitle());
+    workspace_.setWindowModified(piece != nullptr && piece->isWindowModified());
+    for (QAction* action :
+         {shell_.save, shell_.saveAs, shell_.exportAudio, shell_.close, shell_.ownWindow})
+        action->setEnabled(piece != nullptr);
+    shell_.ownWindow->setChecked(piece != nullptr && piece->isWindow());
 }
 
 void Desktop::open(const QStringList& paths)
 {
     if (paths.isEmpty())
-        present(keyboardWindow_);
+        present(workspace_);
     waiting_ += paths;
     openWaiting();
 }
@@ -181,7 +202,7 @@ void Desktop::openTuning(const QString& path, TuningFormat format)
     const std::string name = tuning->name();
     application_.putTuning(std::move(tuning));
     application_.selectTuning(name);
-    commands_.addRecent(path);
+    shell_.addRecent(path);
 }
 
 void Desktop::openInstrument(const QString& path, InstrumentFormat format)
@@ -201,19 +222,18 @@ void Desktop::openInstrument(const QString& path, InstrumentFormat format)
     }
     const std::size_t skipped = document->report().skipped.size();
     application_.addInstrument(std::move(document));
-    commands_.addRecent(path);
+    shell_.addRecent(path);
     if (skipped > 0)
-        keyboardWindow_.status().showMessage(
-            tr("%1: %2; see Import Report in the Instruments window")
-                .arg(name, leftOutText(skipped)),
-            kReportMilliseconds);
+        workspace_.status().showMessage(tr("%1: %2; see Import Report in the Instruments window")
+                                            .arg(name, leftOutText(skipped)),
+                                        kReportMilliseconds);
 }
 
 void Desktop::openSequence(const QString& path)
 {
-    const std::string error = sequenceWindows_.open(path);
+    const std::string error = pages_.open(path);
     if (error.empty())
-        commands_.addRecent(path);
+        shell_.addRecent(path);
     else
         showError(QString::fromStdString(error));
 }
@@ -254,31 +274,37 @@ void Desktop::transpose(int semitones)
 {
     PlayingOptions& playing = application_.playing();
     playing.setTransposition(playing.settings().transposition + semitones);
-    keyboardWindow_.status().showMessage(
+    workspace_.status().showMessage(
         tr("Transposition: %1").arg(transpositionText(playing.settings().transposition)),
         kTransposedMilliseconds);
 }
 
 void Desktop::perform(LearnedAction::Kind action)
 {
-    if (action == LearnedAction::Kind::Silence)
-        commands_.silence->trigger();
-    else
-        sequenceWindows_.perform(action);
+    using Kind = LearnedAction::Kind;
+    using Mode = Transport::Mode;
+    const Mode mode = pages_.current() == nullptr ? Mode::Stopped
+                                                  : pages_.current()->document().transport().mode();
+    if (action == Kind::Silence)
+        shell_.silence->trigger();
+    if (action == Kind::Play || (action == Kind::Stop && mode == Mode::Playing))
+        sequenceActions_.play->trigger();
+    if (action == Kind::Record || (action == Kind::Stop && mode == Mode::Recording))
+        sequenceActions_.record->trigger();
 }
 
 void Desktop::updateAllViews()
 {
-    keyboardWindow_.keyboard().update();
-    sequenceWindows_.updateRollSizes();
-    commands_.noteNames->setChecked(getPrefBool("KeyNames"));
+    workspace_.keyboard().update();
+    pages_.updateRollSizes();
+    shell_.noteNames->setChecked(getPrefBool("KeyNames"));
 }
 
 void Desktop::showBank()
 {
     const QString wanted = QString::fromStdString(getPrefString("GMBank"));
     const QString bank = QString::fromStdString(application_.bank().string());
-    StatusLine& status = keyboardWindow_.status();
+    StatusLine& status = workspace_.status();
     status.removeNotice(bankNotice_);
     if (bank.isEmpty())
         bankNotice_ = tr("The General MIDI player is silent because there is no SoundFont for it. "
@@ -294,7 +320,10 @@ void Desktop::showBank()
 
 void Desktop::showError(const QString& message)
 {
-    QMessageBox::warning(QApplication::activeWindow(), tr("Velmora"), message);
+    if (workspace_.layout() == Workspace::Layout::Stage) // nothing must cover the keyboard
+        workspace_.status().addNotice(message);
+    else
+        QMessageBox::warning(QApplication::activeWindow(), tr("Velmora"), message);
 }
 
 } // namespace velmora

@@ -1,16 +1,18 @@
 #pragma once
 
 #include "app/AppDelegate.h"
-#include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/instruments/InstrumentsWindow.h"
 #include "desktop/instruments/ProgressWindow.h"
-#include "desktop/shell/Commands.h"
+#include "desktop/roll/SequenceActions.h"
 #include "desktop/shell/FileDrop.h"
 #include "desktop/shell/GuideWindow.h"
-#include "desktop/shell/KeyboardWindow.h"
+#include "desktop/shell/KeyRouter.h"
 #include "desktop/shell/MetersWindow.h"
 #include "desktop/shell/PreferencesWindow.h"
-#include "desktop/shell/SequenceWindows.h"
+#include "desktop/shell/SequencePages.h"
+#include "desktop/shell/ShellActions.h"
+#include "desktop/shell/Workspace.h"
+#include "desktop/widgets/Commands.h"
 
 #include <QObject>
 #include <QStringList>
@@ -24,7 +26,7 @@ class Desktop : public QObject {
     Q_OBJECT
 
 public:
-    /// Creates the windows and shows the keyboard.
+    /// Creates the windows and shows the workspace.
     Desktop();
     ~Desktop() override;
 
@@ -32,21 +34,25 @@ public:
     /// devices are missing.
     void launch(const OutputSettings& output = preferredOutput());
 
-    /// Opens files one after the other; a message box explains each failure. Brings the keyboard
-    /// to the front if there are no files.
+    /// Opens files one after the other; a message box explains each failure. Brings the
+    /// workspace to the front if there are no files.
     void open(const QStringList& paths);
 
     AppDelegate& application() { return application_; }
-    KeyboardWindow& keyboardWindow() { return keyboardWindow_; }
-    InstrumentPanel& instrumentPanel() { return instrumentPanel_; }
+    Commands& commands() { return commands_; }
+    ShellActions& shell() { return shell_; }
+    Workspace& workspace() { return workspace_; }
+    InstrumentPanel& instrumentPanel() { return workspace_.instrumentPanel(); }
     InstrumentsWindow& instrumentsWindow() { return instrumentsWindow_; }
     PreferencesWindow& preferencesWindow() { return preferencesWindow_; }
-    SequenceWindows& sequenceWindows() { return sequenceWindows_; }
+    SequencePages& pages() { return pages_; }
 
 private:
     void connectCommands();
+    void connectWindows();
     void connectProgress();
-    void connectSequences();
+    void connectPieces();
+    void showPiece();
     void openWaiting();
     void openFile(const QString& path);
     void openTuning(const QString& path, TuningFormat format);
@@ -62,15 +68,18 @@ private:
 
     AppDelegate application_;
     Commands commands_;
+    ShellActions shell_{application_, commands_};
+    SequenceActions sequenceActions_{commands_};
     FileDrop fileDrop_;
-    KeyboardWindow keyboardWindow_;
-    InstrumentPanel instrumentPanel_;
+    Workspace workspace_{application_, commands_, shell_, sequenceActions_};
     InstrumentsWindow instrumentsWindow_;
     PreferencesWindow preferencesWindow_{application_};
     ProgressWindow progressWindow_;
     GuideWindow guideWindow_;
     MetersWindow metersWindow_;
-    SequenceWindows sequenceWindows_;
+    SequencePages pages_{application_, shell_, sequenceActions_, workspace_.tabs(),
+                         workspace_.keyboard()};
+    KeyRouter router_{workspace_, pages_};
     QString bankNotice_;  ///< The current notice about the General MIDI bank; may be empty.
     QStringList waiting_; ///< Files to open after the current one.
     bool isOpening_ = false;

@@ -1,20 +1,19 @@
 #include "desktop/shell/SequenceSaver.h"
 
-#include "desktop/shell/Commands.h"
+#include "desktop/shell/ShellActions.h"
 #include "desktop/shell/askWhereToSave.h"
 #include "desktop/shell/exportAudio.h"
 #include "sequencer/SequenceFile.h"
 
 #include <QFileInfo>
-#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 
 namespace velmora {
 
-SequenceSaver::SequenceSaver(QMainWindow& window, SequenceDocument& document, Commands& commands,
+SequenceSaver::SequenceSaver(QWidget& page, SequenceDocument& document, ShellActions& actions,
                              const QString& name)
-    : window_(window), document_(document), commands_(commands), name_(name)
+    : page_(page), document_(document), actions_(actions), name_(name)
 {
 }
 
@@ -26,12 +25,12 @@ QString SequenceSaver::displayName() const
 
 bool SequenceSaver::isBusyOrModified() const
 {
-    return document_.isModified() || isExportingAudio(window_);
+    return document_.isModified() || isExportingAudio(page_);
 }
 
 bool SequenceSaver::askToClose()
 {
-    return (!isExportingAudio(window_) || askToCancelExport()) &&
+    return (!isExportingAudio(page_) || askToCancelExport()) &&
            (!document_.isModified() || askToSave());
 }
 
@@ -39,7 +38,7 @@ bool SequenceSaver::askToCancelExport()
 {
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
                     tr("%1 is still being exported. Stop the export?").arg(displayName()),
-                    QMessageBox::Cancel, &window_);
+                    QMessageBox::Cancel, &page_);
     box.setInformativeText(tr("If you stop it, no sound file is written."));
     const QPushButton* stop = box.addButton(tr("Stop Export"), QMessageBox::DestructiveRole);
     box.exec();
@@ -50,7 +49,7 @@ bool SequenceSaver::askToSave()
 {
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
                     tr("Save the changes to %1?").arg(displayName()),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window_);
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &page_);
     box.setInformativeText(tr("If you do not save them, they are lost."));
     box.setDefaultButton(QMessageBox::Save);
     switch (box.exec()) {
@@ -75,12 +74,12 @@ bool SequenceSaver::saveAs()
 {
     const QString saved = QString::fromStdString(document_.path().string());
     const QString path = askWhereToSave(
-        window_, {.title = tr("Save As"),
-                  .kinds = {{QString::fromStdString(typeName(SequenceFormat::MidiFile)),
-                             {"mid", "midi", "smf", "kar"}},
-                            {QString::fromStdString(typeName(SequenceFormat::IMelody)), {"imy"}}},
-                  .proposal = saved.isEmpty() ? name_ + ".mid" : saved,
-                  .folderKey = "saveFolder"});
+        page_, {.title = tr("Save As"),
+                .kinds = {{QString::fromStdString(typeName(SequenceFormat::MidiFile)),
+                           {"mid", "midi", "smf", "kar"}},
+                          {QString::fromStdString(typeName(SequenceFormat::IMelody)), {"imy"}}},
+                .proposal = saved.isEmpty() ? name_ + ".mid" : saved,
+                .folderKey = "saveFolder"});
     if (path.isEmpty())
         return false;
     const bool losesVoices = sequenceFormatOf(path.toStdString()) == SequenceFormat::IMelody;
@@ -92,7 +91,7 @@ bool SequenceSaver::askToLoseVoices()
 {
     QMessageBox box(QMessageBox::Question, tr("Velmora"),
                     tr("An iMelody file holds a single voice and no dynamics. Save it anyway?"),
-                    QMessageBox::Save | QMessageBox::Cancel, &window_);
+                    QMessageBox::Save | QMessageBox::Cancel, &page_);
     box.setInformativeText(
         tr("Velmora cannot open iMelody files. A MIDI file keeps everything that you see."));
     box.setDefaultButton(QMessageBox::Cancel);
@@ -106,12 +105,12 @@ bool SequenceSaver::write(const QString& path, SequenceDocument::SaveOperation o
     if (isWritten) {
         emit saved();
         if (format == SequenceFormat::MidiFile)
-            commands_.addRecent(path); // Velmora cannot open other types
+            actions_.addRecent(path); // Velmora cannot open other types
         return true;
     }
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
                     tr("%1 was not saved.").arg(QFileInfo(path).fileName()), QMessageBox::Cancel,
-                    &window_);
+                    &page_);
     box.setInformativeText(QString::fromStdString(document_.errorString()));
     const QPushButton* saveAsButton = box.addButton(tr("Save As…"), QMessageBox::AcceptRole);
     box.exec();

@@ -5,20 +5,20 @@
 #include <QObject>
 #include <QString>
 
-class QMainWindow;
+class QWidget;
 
 namespace velmora {
 
-class Commands;
+class ShellActions;
 
-/// Saves the document of a sequence window, and asks the user before anything is lost.
+/// Saves the document of a page, and asks the user before anything is lost.
 class SequenceSaver : public QObject {
     Q_OBJECT
 
 public:
-    /// `window` is the parent of the dialogs. `name` is shown until the document has a file. The
-    /// window, the document and the commands must outlive the saver.
-    SequenceSaver(QMainWindow& window, SequenceDocument& document, Commands& commands,
+    /// `page` is the parent of the dialogs. `name` is shown until the document has a file. The
+    /// page, the document and the actions must outlive the saver.
+    SequenceSaver(QWidget& page, SequenceDocument& document, ShellActions& actions,
                   const QString& name);
 
     /// The name of the document's file, or the given name if it has none.
@@ -27,7 +27,7 @@ public:
     /// Returns whether there are unsaved changes or an export is running.
     bool isBusyOrModified() const;
 
-    /// Asks the user about unsaved changes and a running export. Returns false if the window must
+    /// Asks the user about unsaved changes and a running export. Returns false if the page must
     /// stay open.
     bool askToClose();
 
@@ -46,9 +46,9 @@ private:
     bool askToSave();
     bool askToLoseVoices();
 
-    QMainWindow& window_;
+    QWidget& page_;
     SequenceDocument& document_;
-    Commands& commands_;
+    ShellActions& actions_;
     QString name_;
 };
 

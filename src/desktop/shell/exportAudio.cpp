@@ -6,29 +6,27 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QMainWindow>
 #include <QMessageBox>
 #include <QProgressDialog>
-#include <QStatusBar>
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 namespace velmora {
 
 namespace {
 
 constexpr int kProgressSteps = 1000;
-constexpr int kExportedMilliseconds = 8000;
 
 /// An export with its progress dialog; deletes itself when it is done.
 class ExportProgress : public QProgressDialog {
     Q_DECLARE_TR_FUNCTIONS(velmora::ExportProgress)
 
 public:
-    ExportProgress(QMainWindow& window, const QString& path)
-        : QProgressDialog(tr("Loading the instrument"), tr("Cancel"), 0, kProgressSteps, &window),
-          window_(window), path_(path)
+    ExportProgress(QWidget& page, const QString& path, std::function<void(const QString&)> tell)
+        : QProgressDialog(tr("Loading the instrument"), tr("Cancel"), 0, kProgressSteps, &page),
+          page_(page), path_(path), tell_(std::move(tell))
     {
         setWindowTitle(tr("Export Audio"));
         setWindowModality(Qt::WindowModal);
@@ -62,36 +60,38 @@ private:
         hide();
         const QString name = QFileInfo(path_).fileName();
         if (isWritten)
-            window_.statusBar()->showMessage(tr("Exported %1").arg(name), kExportedMilliseconds);
+            tell_(tr("Exported %1").arg(name));
         else if (!error.isEmpty())
-            QMessageBox::warning(&window_, tr("Velmora"),
+            QMessageBox::warning(&page_, tr("Velmora"),
                                  tr("%1 was not exported. %2").arg(name, error));
     }
 
-    QMainWindow& window_;
+    QWidget& page_;
     QString path_;
+    std::function<void(const QString&)> tell_;
     AudioExport export_;
 };
 
 } // namespace
 
-void exportAudio(QMainWindow& window, const SequenceDocument& document, AppDelegate& application)
+void exportAudio(QWidget& page, const SequenceDocument& document, AppDelegate& application,
+                 const std::function<void(const QString&)>& tell)
 {
     const auto& saved = document.path();
     const QString proposal = QString::fromStdString(
         saved.empty() ? "" : std::filesystem::path(saved).replace_extension("wav").string());
     const QString path = askWhereToSave(
-        window, {.title = ExportProgress::tr("Export Audio"),
-                 .kinds = {{"WAV", {"wav"}}, {"FLAC", {"flac"}}, {"Ogg Vorbis", {"ogg"}}},
-                 .proposal = proposal,
-                 .folderKey = "exportFolder"});
+        page, {.title = ExportProgress::tr("Export Audio"),
+               .kinds = {{"WAV", {"wav"}}, {"FLAC", {"flac"}}, {"Ogg Vorbis", {"ogg"}}},
+               .proposal = proposal,
+               .folderKey = "exportFolder"});
     if (!path.isEmpty())
-        (new ExportProgress(window, path))->start(document, application);
+        (new ExportProgress(page, path, tell))->start(document, application);
 }
 
-bool isExportingAudio(const QMainWindow& window)
+bool isExportingAudio(const QWidget& page)
 {
-    const auto exports = window.findChildren<QProgressDialog*>();
+    const auto exports = page.findChildren<QProgressDialog*>();
     return std::ranges::any_of(exports, &QWidget::isVisible);
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
-class QMainWindow;
+#include <functional>
+
+class QString;
+class QWidget;
 
 namespace velmora {
 
@@ -8,11 +11,12 @@ class AppDelegate;
 class SequenceDocument;
 
 /// Asks where to save a sound file and renders a sequence as it would sound now. A dialog on
-/// `window` shows the progress, and its status bar says when the file is complete. The rest of the
-/// program can be used meanwhile.
-void exportAudio(QMainWindow& window, const SequenceDocument& document, AppDelegate& application);
+/// `page` shows the progress, and `tell` is called with a sentence when the file is complete. The
+/// rest of the program can be used meanwhile.
+void exportAudio(QWidget& page, const SequenceDocument& document, AppDelegate& application,
+                 const std::function<void(const QString&)>& tell);
 
-/// Returns whether an export from this window is running.
-bool isExportingAudio(const QMainWindow& window);
+/// Returns whether an export from this page is running.
+bool isExportingAudio(const QWidget& page);
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #include "app/LiveDevice.h"
+#include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/shell/Desktop.h"
-#include "desktop/shell/SequenceWindow.h"
+#include "desktop/shell/SequencePage.h"
 #include "preferences/Preferences.h"
 
 #include <QApplication>
@@ -107,27 +108,22 @@ TEST_F(MidiLearnTest, ASliderLearnsTheNextController)
 
 TEST_F(MidiLearnTest, ButtonsLearnKeys)
 {
-    desktop.sequenceWindows().create();
-    SequenceWindow* window = nullptr;
-    ASSERT_TRUE(QTest::qWaitFor([&] {
-        window = qobject_cast<SequenceWindow*>(QApplication::activeWindow());
-        return window != nullptr;
-    }));
-    const Transport& transport = window->document().transport();
+    SequencePage& page = desktop.pages().create();
+    const Transport& transport = page.document().transport();
     const auto press = [&](std::uint8_t key) {
         send({0x90, key, 1});
         send({0x80, key, 0});
     };
-    const auto teach = [&](QWidget& in, const char* button, const char* entry, std::uint8_t key) {
-        for (QToolButton* one : in.findChildren<QToolButton*>())
+    const auto teach = [&](const char* button, const char* entry, std::uint8_t key) {
+        for (QToolButton* one : desktop.workspace().findChildren<QToolButton*>())
             if (one->text() == button)
                 choose(*one, entry);
         press(key);
     };
-    teach(*window, "Record", "Learn MIDI Controller for Record…", 36);
-    teach(*window, "Play", "Learn MIDI Controller for Play…", 37);
-    teach(*window, "Play", "Learn MIDI Controller for Stop…", 38);
-    teach(desktop.keyboardWindow(), "Silence Everything", "Learn MIDI Controller…", 39);
+    teach("Record", "Learn MIDI Controller for Record…", 36);
+    teach("Play", "Learn MIDI Controller for Play…", 37);
+    teach("Play", "Learn MIDI Controller for Stop…", 38);
+    teach("Silence Everything", "Learn MIDI Controller…", 39);
     EXPECT_EQ(transport.mode(), Transport::Mode::Stopped);
     press(36);
     EXPECT_EQ(transport.mode(), Transport::Mode::Recording);
@@ -146,7 +142,7 @@ TEST_F(MidiLearnTest, ButtonsLearnKeys)
     press(39);
     EXPECT_EQ(keys.state(60), 0);
     EXPECT_EQ(transport.mode(), Transport::Mode::Stopped) << "silence stops the sequence too";
-    window->closeWithoutAsking();
+    page.settle();
 }
 
 TEST_F(MidiLearnTest, ThePanelAndThePreferencesShowTheSameSettings)
@@ -157,10 +153,10 @@ TEST_F(MidiLearnTest, ThePanelAndThePreferencesShowTheSameSettings)
     const auto* transposition = desktop.instrumentPanel().findChild<QLabel*>("Transposition");
     preferences.findChild<QSpinBox*>("Transposition")->setValue(3);
     EXPECT_EQ(transposition->text(), "+3");
-    desktop.keyboardWindow().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
+    desktop.workspace().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.workspace()));
     for (int i = 0; i < 4; ++i)
-        QTest::keyClick(&desktop.keyboardWindow(), Qt::Key_Down,
+        QTest::keyClick(&desktop.workspace(), Qt::Key_Down,
                         Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(transposition->text(), "−1");
     auto& touch = *desktop.instrumentPanel().findChild<QComboBox*>("VelocityCurve");
@@ -173,10 +169,9 @@ TEST_F(MidiLearnTest, ThePanelAndThePreferencesShowTheSameSettings)
               "20 Church Organ");
     preferences.findChild<QAbstractButton*>("PlainReading")->click();
     EXPECT_FALSE(touch.isEnabled()) << "the plain reading ignores the touch";
-    desktop.keyboardWindow().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
-    QTest::keyClick(&desktop.keyboardWindow(), Qt::Key_Down,
-                    Qt::ControlModifier | Qt::ShiftModifier);
+    desktop.workspace().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.workspace()));
+    QTest::keyClick(&desktop.workspace(), Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(transposition->text(), "−1");
     send({0x90, 60, 127});
     EXPECT_NE(desktop.application().player().liveKeys().state(60), 0) << "and the transposition";

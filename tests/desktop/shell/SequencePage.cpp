@@ -1,11 +1,12 @@
-#include "desktop/shell/SequenceWindow.h"
+#include "desktop/shell/SequencePage.h"
 
+#include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/roll/SequenceScrollView.h"
 #include "desktop/roll/SequenceView.h"
+#include "desktop/roll/TransportBar.h"
 #include "desktop/shell/Desktop.h"
 #include "desktop/shell/StatusLine.h"
-#include "desktop/tuning/TuningStrip.h"
 #include "preferences/Preferences.h"
 
 #include <QApplication>
@@ -17,11 +18,12 @@
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QSlider>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QToolBar>
 #include <QtTest>
 #include <gmock/gmock.h>
 
@@ -34,29 +36,30 @@ using testing::StartsWith;
 namespace {
 
 /// The desktop program with sequence windows, but without devices.
-class SequenceWindowTest : public testing::Test {
+class SequencePageTest : public testing::Test {
 protected:
-    SequenceWindowTest()
+    SequencePageTest()
     {
-        QObject::connect(&desktop.sequenceWindows(), &SequenceWindows::opened,
-                         [this](SequenceWindow& window) { last = &window; });
+        QObject::connect(&desktop.pages(), &SequencePages::opened,
+                         [this](SequencePage& window) { last = &window; });
     }
 
-    SequenceWindow& open(const char* file = nullptr)
+    SequencePage& open(const char* file = nullptr)
     {
         if (file != nullptr)
             desktop.open({QString(VELMORA_EXAMPLES "/") + file});
         else
-            desktop.sequenceWindows().create();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(last));
+            desktop.pages().create();
+        last->window()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(last->window()));
         return *last;
     }
 
-    static SequenceView& view(SequenceWindow& window) { return *window.findChild<SequenceView*>(); }
+    static SequenceView& view(SequencePage& window) { return *window.findChild<SequenceView*>(); }
 
-    static QAction& action(SequenceWindow& window, const QString& text)
+    QAction& action(const QString& text)
     {
-        QList<QAction*> actions = window.menuBar()->actions();
+        QList<QAction*> actions = desktop.workspace().menuBar()->actions();
         for (qsizetype i = 0; i < actions.size(); ++i) {
             if (actions[i]->iconText() == text)
                 return *actions[i];
@@ -67,10 +70,10 @@ protected:
     }
 
     /// The texts of the status bar that are not empty.
-    static std::vector<std::string> statusTexts(SequenceWindow& window)
+    static std::vector<std::string> statusTexts(SequencePage& window)
     {
         std::vector<std::string> texts;
-        for (const QLabel* label : window.statusBar()->findChildren<QLabel*>())
+        for (const QLabel* label : window.findChild<QStatusBar*>()->findChildren<QLabel*>())
             if (!label->text().isEmpty())
                 texts.push_back(label->text().toStdString());
         return texts;
@@ -119,42 +122,34 @@ protected:
         act();
     }
 
-    void draw(SequenceWindow& window, QPoint place = {200, 200})
+    void draw(SequencePage& window, QPoint place = {200, 200})
     {
         QTest::mouseClick(&view(window), Qt::RightButton, {}, place);
     }
 
-    bool closes(SequenceWindow& window)
-    {
-        const QPointer<SequenceWindow> watched(&window);
-        window.close();
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return watched.isNull();
-    }
+    bool closes(SequencePage& window) { return desktop.pages().close(window); }
 
     Desktop desktop;
-    SequenceWindow* last = nullptr;
-    KeyboardView& keyboard = desktop.keyboardWindow().keyboard();
+    SequencePage* last = nullptr;
+    KeyboardView& keyboard = desktop.workspace().keyboard();
 };
 
 } // namespace
 
-TEST_F(SequenceWindowTest, ControlsTheTransportByKeysAndToolbar)
+TEST_F(SequencePageTest, ControlsTheTransportByKeysAndToolbar)
 {
-    SequenceWindow& window = open();
-    QAction& play = action(window, "Play");
-    QAction& record = action(window, "Record");
+    SequencePage& window = open();
+    QAction& play = action("Play");
+    QAction& record = action("Record");
     SequenceDocument& document = window.document();
     draw(window);
     QTest::keyClick(&view(window), Qt::Key_Space);
     EXPECT_EQ(document.transport().mode(), Transport::Mode::Playing) << "the key acts only once";
     EXPECT_EQ(play.iconText(), "Stop");
     EXPECT_FALSE(record.isEnabled());
-    desktop.keyboardWindow().status().addNotice("Something is missing");
-    desktop.keyboardWindow().activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
+    desktop.workspace().instrumentPanel().findChild<QComboBox*>()->setFocus(Qt::MouseFocusReason);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    EXPECT_EQ(play.iconText(), "Play") << "the notice button must not take the key";
+    EXPECT_EQ(play.iconText(), "Play") << "a menu that was clicked does not take the key";
     play.trigger();
     QTest::keyClick(&window, Qt::Key_Period, Qt::ControlModifier);
     EXPECT_EQ(play.iconText(), "Play");
@@ -166,64 +161,66 @@ TEST_F(SequenceWindowTest, ControlsTheTransportByKeysAndToolbar)
     EXPECT_EQ(document.transport().mode(), Transport::Mode::Stopped);
     EXPECT_TRUE(play.isEnabled());
 
-    window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-    auto& tempo = *window.findChild<QSpinBox*>();
+    auto& tempo = *desktop.workspace().findChild<TransportBar*>()->findChild<QSpinBox*>();
     tempo.setFocus();
     tempo.selectAll();
     QTest::keyClicks(&tempo, "90");
     QTest::keyClick(&tempo, Qt::Key_Return);
     EXPECT_EQ(document.transport().tempo(), 90);
-    EXPECT_EQ(window.focusWidget(), &view(window)) << "the roll has the focus again";
+    EXPECT_EQ(document.transport().mode(), Transport::Mode::Stopped) << "the field keeps its keys";
+    EXPECT_EQ(QApplication::focusWidget(), &view(window)) << "the roll has the focus again";
     tempo.setFocus();
     QTest::keyClick(&tempo, Qt::Key_Tab);
-    EXPECT_NE(window.focusWidget(), &view(window)) << "the focus moves to the next field";
-    action(window, "Snap to Grid").trigger();
-    action(window, "Loop").trigger();
-    action(window, "5").trigger();
+    EXPECT_NE(QApplication::focusWidget(), &view(window)) << "the focus moves to the next field";
+    action("Snap to Grid").trigger();
+    action("Loop").trigger();
+    action("5").trigger();
     EXPECT_TRUE(document.recorder().snapToGrid() && document.transport().loops());
     EXPECT_EQ(document.recorder().channel(), 4);
     answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
 }
 
-TEST_F(SequenceWindowTest, EditsFromMenusAndAcrossWindows)
+TEST_F(SequencePageTest, EditsFromMenusAndAcrossWindows)
 {
-    SequenceWindow& window = open();
-    SequenceWindow& other = open();
+    SequencePage& other = open();
+    SequencePage& window = open();
     draw(window);
     draw(window, {300, 100});
-    action(window, "Select All").trigger();
+    action("Select All").trigger();
     EXPECT_THAT(statusTexts(window), ElementsAre("2 notes selected", "2 notes in all"));
-    action(window, "Cut").trigger();
+    action("Cut").trigger();
     EXPECT_THAT(statusTexts(window), ElementsAre("0 notes in all"));
-    EXPECT_EQ(window.menuBar()->actions()[1]->menu()->actions()[0]->text(), "&Undo Cut 2 Notes");
-    action(other, "Paste").trigger();
+    EXPECT_NO_THROW(action("Undo Cut 2 Notes"));
+    desktop.pages().select(other);
+    action("Paste").trigger();
     EXPECT_EQ(other.document().sequence().notes().size(), 2);
-    window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    desktop.pages().select(window);
     QTest::mousePress(&view(window), Qt::LeftButton, {}, {200, 200});
     QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
     QTest::mouseRelease(&view(window), Qt::LeftButton, {}, {200, 200});
     EXPECT_THAT(window.document().sequence().notes(), IsEmpty()) << "no undo during a drag";
     QTest::keyClick(&view(window), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(window.document().sequence().notes().size(), 2);
-    answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
+    answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.pages().closeAll()); });
 }
 
-TEST_F(SequenceWindowTest, TheKeyboardShowsTheSequenceThatWasActiveLast)
+TEST_F(SequencePageTest, TheKeyboardShowsTheSequenceThatWasActiveLast)
 {
-    const auto showsKeysOf = [&](SequenceWindow& window) {
+    const auto showsKeysOf = [&](SequencePage& window) {
         return QTest::qWaitFor(
             [&] { return keyboard.document() == &window.document().practice(); });
     };
-    SequenceWindow& first = open();
+    SequencePage& first = open();
     EXPECT_TRUE(showsKeysOf(first));
-    SequenceWindow& second = open();
+    SequencePage& second = open();
     EXPECT_TRUE(showsKeysOf(second));
-    desktop.keyboardWindow().activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop.keyboardWindow()));
-    EXPECT_EQ(keyboard.document(), &second.document().practice());
-    first.activateWindow();
+    desktop.pages().setOwnWindow(first, true);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&first));
+    EXPECT_TRUE(showsKeysOf(first));
+    desktop.workspace().activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop.workspace()));
+    EXPECT_TRUE(showsKeysOf(second));
+    desktop.pages().setOwnWindow(first, false);
     EXPECT_TRUE(showsKeysOf(first));
     EXPECT_TRUE(closes(second));
     EXPECT_EQ(keyboard.document(), &first.document().practice());
@@ -231,9 +228,9 @@ TEST_F(SequenceWindowTest, TheKeyboardShowsTheSequenceThatWasActiveLast)
     EXPECT_EQ(keyboard.document(), nullptr);
 }
 
-TEST_F(SequenceWindowTest, ShowsWhichKeysPracticeWaitsFor)
+TEST_F(SequencePageTest, ShowsWhichKeysPracticeWaitsFor)
 {
-    SequenceWindow& window = open("wolf-fantasia.mid");
+    SequencePage& window = open("wolf-fantasia.mid");
     EXPECT_THAT(statusTexts(window), ElementsAre("Waiting for C3, G3", "156 notes in all"));
     desktop.application().keyOn(48, 1.0F);
     desktop.application().keyOn(50, 1.0F);
@@ -243,9 +240,9 @@ TEST_F(SequenceWindowTest, ShowsWhichKeysPracticeWaitsFor)
     EXPECT_TRUE(closes(window));
 }
 
-TEST_F(SequenceWindowTest, FollowsThePositionUnlessTheUserScrollsAway)
+TEST_F(SequencePageTest, FollowsThePositionUnlessTheUserScrollsAway)
 {
-    SequenceWindow& window = open("wolf-fantasia.mid");
+    SequencePage& window = open("wolf-fantasia.mid");
     auto& scrollView = *window.findChild<SequenceScrollView*>();
     EXPECT_EQ(scrollView.location().x(), getPrefInt("KeyRangeLo") * getPrefInt("KeyWidth"));
     const auto bottomAfter = [&](double step) {
@@ -267,26 +264,14 @@ TEST_F(SequenceWindowTest, FollowsThePositionUnlessTheUserScrollsAway)
     EXPECT_TRUE(closes(window));
 }
 
-TEST_F(SequenceWindowTest, ShowsTheTuningStripOnDemand)
+TEST_F(SequencePageTest, AsksBeforeItLosesChanges)
 {
-    SequenceWindow& window = open();
-    const auto& strip = *window.findChild<TuningStrip*>();
-    EXPECT_FALSE(strip.isVisible());
-    action(window, "Tuning Strip").trigger();
-    EXPECT_TRUE(strip.isVisible());
-    EXPECT_TRUE(action(window, "Tuning Strip").isChecked());
-    action(window, "Tuning Strip").trigger();
-    EXPECT_TRUE(closes(window));
-}
-
-TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
-{
-    SequenceWindow& window = open();
+    SequencePage& window = open();
     EXPECT_FALSE(window.isWindowModified());
     draw(window);
     EXPECT_TRUE(window.isWindowModified());
     answering({"Cancel"}, [&] { EXPECT_FALSE(closes(window)); });
-    answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.sequenceWindows().closeAll()); });
+    answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.pages().closeAll()); });
 
     const QTemporaryDir folder;
     const std::string path = folder.filePath("one.mid").toStdString();
@@ -300,7 +285,7 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
     reread.read(path);
     EXPECT_EQ(reread.sequence().notes().size(), 2);
 
-    SequenceWindow& imported = open("wolf-fantasia.mid");
+    SequencePage& imported = open("wolf-fantasia.mid");
     EXPECT_THAT(answering({"Cancel"}, [&] { EXPECT_FALSE(imported.saver().save()); }),
                 ElementsAre("The source file contains unprocessed MIDI information which cannot be "
                             "overwriten (multichannel, meta events,…). Use the 'Save As…' option "
@@ -311,16 +296,16 @@ TEST_F(SequenceWindowTest, AsksBeforeItLosesChanges)
     draw(open());
     draw(open());
     QTimer::singleShot(0, [&] { open("wolf-fantasia.mid"); });
-    answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.sequenceWindows().closeAll()); });
+    answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.pages().closeAll()); });
     EXPECT_EQ(keyboard.document(), nullptr) << "a window opened meanwhile is closed too";
     EXPECT_EQ(open().windowTitle(), "Untitled 4[*]") << "files do not use up names";
 }
 
-TEST_F(SequenceWindowTest, SavesAndExportsUnderTheChosenNames)
+TEST_F(SequencePageTest, SavesAndExportsUnderTheChosenNames)
 {
     desktop.launch();
     desktop.application().waitForBank();
-    SequenceWindow& window = open("wolf-fantasia.mid");
+    SequencePage& window = open("wolf-fantasia.mid");
     const QTemporaryDir folder;
     naming(folder.filePath("tune"), [&] { EXPECT_TRUE(window.saver().saveAs()); });
     EXPECT_EQ(window.document().path(), folder.filePath("tune.mid").toStdString());
@@ -341,9 +326,9 @@ TEST_F(SequenceWindowTest, SavesAndExportsUnderTheChosenNames)
     EXPECT_TRUE(melody.open(QIODevice::ReadOnly) && melody.readLine() == "BEGIN:IMELODY\r\n");
 
     naming(
-        folder.filePath("x.wav"), [&] { action(window, "Export Audio…").trigger(); }, 1);
+        folder.filePath("x.wav"), [&] { action("Export Audio…").trigger(); }, 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.saver().isBusyOrModified(); }));
-    answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.sequenceWindows().closeAll()); });
+    answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.pages().closeAll()); });
     auto& progress = *window.findChild<QProgressDialog*>();
     EXPECT_THAT(progress.labelText().toStdString(), StartsWith("x.flac"));
     progress.cancel();
@@ -352,31 +337,35 @@ TEST_F(SequenceWindowTest, SavesAndExportsUnderTheChosenNames)
     window.document().edit()->erase();
     window.document().transport().setTempo(400);
     draw(window);
-    naming(folder.filePath("tune.ogg"), [&] { action(window, "Export Audio…").trigger(); });
+    naming(folder.filePath("tune.ogg"), [&] { action("Export Audio…").trigger(); });
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return window.statusBar()->currentMessage() == "Exported tune.ogg"; }, 20'000));
+        [&] { return desktop.workspace().status().currentMessage() == "Exported tune.ogg"; },
+        20'000));
     EXPECT_GT(QFileInfo(folder.filePath("tune.ogg")).size(), 1000);
     answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
 }
 
-TEST_F(SequenceWindowTest, OffersToRecoverUnsavedSequences)
+TEST_F(SequencePageTest, OffersToRecoverUnsavedSequences)
 {
-    Commands commands(desktop.application());
+    Commands commands;
+    ShellActions shell(desktop.application(), commands);
+    SequenceActions actions(commands);
     const auto run = [&](const auto& act) {
-        SequenceWindows program(desktop.application(), commands, keyboard);
-        QObject::connect(&program, &SequenceWindows::opened,
-                         [this](SequenceWindow& window) { last = &window; });
+        QTabWidget tabs;
+        SequencePages program(desktop.application(), shell, actions, tabs, keyboard);
+        QObject::connect(&program, &SequencePages::opened,
+                         [this](SequencePage& window) { last = &window; });
         act(program);
     };
-    run([&](SequenceWindows& program) {
+    run([&](SequencePages& program) {
         program.create();
         draw(*last);
     });
-    run([&](SequenceWindows& program) {
+    run([&](SequencePages& program) {
         answering({"Ask Later"}, [&] { program.offerAbandoned(); });
         EXPECT_TRUE(program.closeAll());
     });
-    run([&](SequenceWindows& program) {
+    run([&](SequencePages& program) {
         answering({"Recover"}, [&] { program.offerAbandoned(); });
         EXPECT_TRUE(last->isWindowModified());
         EXPECT_EQ(last->document().sequence().notes().size(), 1);

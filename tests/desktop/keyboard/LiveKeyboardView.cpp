@@ -1,8 +1,6 @@
-#include "desktop/shell/KeyboardWindow.h"
+#include "desktop/keyboard/KeyboardView.h"
 
 #include "app/AppDelegate.h"
-#include "desktop/keyboard/KeyboardView.h"
-#include "desktop/shell/Commands.h"
 #include "midi/messages.h"
 #include "midi/midiRead.h"
 #include "sequencer/SequenceDocument.h"
@@ -16,7 +14,7 @@
 
 namespace velmora {
 
-TEST(LiveKeyboardWindow, PaintsWhileAMidiThreadPlays)
+TEST(LiveKeyboardView, PaintsWhileAMidiThreadPlays)
 {
     ALInstrument organ;
     AppDelegate application;
@@ -24,12 +22,10 @@ TEST(LiveKeyboardWindow, PaintsWhileAMidiThreadPlays)
     application.setInstrument(organ, "Organ");
     application.selectTuning("Dynamic");
     SequenceDocument document(application.player());
-    Commands commands(application);
-    KeyboardWindow window(application, commands);
-    KeyboardView& view = window.keyboard();
+    KeyboardView view(application);
     view.setDocument(&document.practice());
-    window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
     std::size_t frames = 0;
     QObject::connect(&view, &QOpenGLWidget::frameSwapped, [&] { ++frames; });
     QObject::connect(&application, &AppDelegate::midiInputReceived, &view, [&] {

@@ -1,0 +1,130 @@
+#include "desktop/shell/KeyRouter.h"
+
+#include "desktop/roll/SequenceView.h"
+#include "desktop/shell/SequencePage.h"
+#include "desktop/shell/SequencePages.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QKeyEvent>
+#include <QKeySequenceEdit>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTextEdit>
+#include <QWindow>
+
+namespace velmora {
+
+namespace {
+
+template <class... Types> bool isAny(const QWidget& widget)
+{
+    return (... || (qobject_cast<const Types*>(&widget) != nullptr));
+}
+
+bool isText(const QWidget& widget)
+{
+    const auto* combo = qobject_cast<const QComboBox*>(&widget);
+    return isAny<QLineEdit, QTextEdit, QAbstractSpinBox, QKeySequenceEdit>(widget) ||
+           (combo != nullptr && combo->isEditable());
+}
+
+bool movesFocus(int key)
+{
+    return key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_Menu ||
+           (key >= Qt::Key_F1 && key <= Qt::Key_F35);
+}
+
+bool isArrow(int key)
+{
+    return key >= Qt::Key_Home && key <= Qt::Key_PageDown;
+}
+
+bool isConfirming(int key)
+{
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// Returns whether the key belongs to a command by default. If the user has given the command
+/// another shortcut, the key does nothing.
+bool isOfCommand(int key)
+{
+    return isConfirming(key) || key == Qt::Key_Delete || key == Qt::Key_Backspace ||
+           key == Qt::Key_Escape || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+} // namespace
+
+KeyRouter::KeyRouter(QWidget& workspace, SequencePages& pages)
+    : workspace_(workspace), pages_(pages)
+{
+    qApp->installEventFilter(this);
+    // The release of a held key may now go to another program or to a dialog.
+    connect(qApp, &QApplication::focusWindowChanged, this, [this] {
+        const QWidget* active = QApplication::activeWindow();
+        if (active == nullptr || !isOurs(*active))
+            releaseKeys();
+    });
+}
+
+bool KeyRouter::isOurs(const QWidget& window) const
+{
+    return &window == &workspace_ || isAny<QDockWidget, SequencePage>(window);
+}
+
+bool KeyRouter::keeps(const QWidget& widget, const QKeyEvent& event) const
+{
+    const int key = event.key();
+    if (isText(widget))
+        return true;
+    if (isArrow(key))
+        return isAny<QAbstractSlider, QAbstractItemView, QComboBox, QTabBar>(widget) &&
+               !isAny<QScrollBar>(widget);
+    return isConfirming(key) && isFocusedByKeyboard_ &&
+           isAny<QAbstractButton, QAbstractItemView, QComboBox>(widget);
+}
+
+bool KeyRouter::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        isFocusedByKeyboard_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                               reason == Qt::ShortcutFocusReason;
+        return false;
+    }
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    if ((!isKey && event->type() != QEvent::ShortcutOverride) || widget == nullptr)
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier) ||
+        movesFocus(key.key()))
+        return false;
+    const bool isKept = QApplication::activePopupWidget() != nullptr ||
+                        QApplication::activeModalWidget() != nullptr ||
+                        !isOurs(*widget->window()) || keeps(*widget, key);
+    if (event->type() == QEvent::ShortcutOverride) {
+        if (isKept)
+            event->accept(); // the widget gets the key, and no command does
+        return isKept;
+    }
+    if (isKept || isAny<SequenceView>(*widget))
+        return !isKept && isOfCommand(key.key());
+    if (pages_.current() != nullptr && !isOfCommand(key.key()))
+        pages_.current()->handleKey(key);
+    return true;
+}
+
+void KeyRouter::releaseKeys()
+{
+    if (pages_.current() != nullptr)
+        pages_.current()->releaseKeys();
+}
+
+} // namespace velmora

@@ -1,0 +1,236 @@
+#include "desktop/shell/ShellActions.h"
+
+#include "app/AppDelegate.h"
+#include "desktop/widgets/Commands.h"
+#include "preferences/settings.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace velmora {
+
+namespace {
+
+constexpr qsizetype kRecentFiles = 10;
+constexpr const char* kRecentKey = "recentFiles";
+
+/// Escapes a menu text so that an ampersand is shown and does not mark a mnemonic.
+QString escaped(QString text)
+{
+    return text.replace("&", "&&");
+}
+
+QString escaped(const std::string& text)
+{
+    return escaped(QString::fromStdString(text));
+}
+
+/// The groups of commands, as the user sees them.
+QString fileGroup()
+{
+    return ShellActions::tr("File");
+}
+
+QString soundGroup()
+{
+    return ShellActions::tr("Sound");
+}
+
+QString viewGroup()
+{
+    return ShellActions::tr("View");
+}
+
+QString helpGroup()
+{
+    return ShellActions::tr("Help");
+}
+
+} // namespace
+
+ShellActions::ShellActions(AppDelegate& application, Commands& commands)
+    : newSequence(commands.add("file.new", fileGroup(), {tr("&New Piece"), {}, "new"},
+                               {QKeySequence(QKeySequence::New)})),
+      open(commands.add("file.open", fileGroup(),
+                        {tr("&Open…"), tr("Open pieces, instruments and tunings"), "open"},
+                        {QKeySequence(QKeySequence::Open)})),
+      save(commands.add("file.save", fileGroup(), {tr("&Save"), tr("Save the piece"), "save"},
+                        {QKeySequence(QKeySequence::Save)})),
+      saveAs(commands.add("file.saveAs", fileGroup(), {tr("Save &As…"), {}},
+                          {Qt::CTRL | Qt::SHIFT | Qt::Key_S})),
+      exportAudio(
+          commands.add("file.export", fileGroup(),
+                       {tr("&Export Audio…"), tr("Write a sound file of the piece"), "export"},
+                       {Qt::CTRL | Qt::Key_E})),
+      close(commands.add("file.close", fileGroup(), {tr("&Close Piece"), {}},
+                         {Qt::CTRL | Qt::Key_W})),
+      preferences(commands.add("file.preferences", fileGroup(),
+                               {tr("&Preferences…"), {}, "preferences-general"},
+                               {Qt::CTRL | Qt::Key_Comma})),
+      quit(commands.add("file.quit", fileGroup(), {tr("&Quit"), {}}, {Qt::CTRL | Qt::Key_Q})),
+      silence(commands.add(
+          "sound.silence", soundGroup(),
+          {tr("&Silence Everything"), tr("Stop every sound and release every key"), "panic"},
+          {Qt::CTRL | Qt::Key_Period})),
+      transposeUp(commands.add("sound.transposeUp", soundGroup(), {tr("Transpose &Up"), {}},
+                               {Qt::CTRL | Qt::SHIFT | Qt::Key_Up})),
+      transposeDown(commands.add("sound.transposeDown", soundGroup(), {tr("Transpose &Down"), {}},
+                                 {Qt::CTRL | Qt::SHIFT | Qt::Key_Down})),
+      keyboard(commands.add("view.keyboard", viewGroup(), {tr("&Keyboard"), {}, "keyboard"},
+                            {Qt::CTRL | Qt::Key_K})),
+      instrument(
+          commands.add("view.instrument", viewGroup(),
+                       {tr("&Instrument"), tr("Show the program or the stops"), "instrument"},
+                       {Qt::CTRL | Qt::Key_I})),
+      tuning(commands.add("view.tuning", viewGroup(), {tr("&Tuning"), {}, "tuning"},
+                          {Qt::CTRL | Qt::Key_T})),
+      playLayout(commands.add("view.play", viewGroup(),
+                              {tr("&Play"), tr("Arrange the window for playing"), nullptr},
+                              {Qt::ALT | Qt::Key_1})),
+      editLayout(commands.add("view.edit", viewGroup(),
+                              {tr("&Edit"), tr("Arrange the window for editing"), nullptr},
+                              {Qt::ALT | Qt::Key_2})),
+      stageLayout(
+          commands.add("view.stage", viewGroup(),
+                       {tr("&Stage"), tr("Fill the screen with what matters on stage"), nullptr},
+                       {Qt::Key_F11})),
+      resetLayout(commands.add("view.reset", viewGroup(), {tr("&Reset Layout"), {}})),
+      nextPanel(commands.add("view.nextPanel", viewGroup(), {tr("Ne&xt Panel"), {}}, {Qt::Key_F6})),
+      previousPanel(commands.add("view.previousPanel", viewGroup(), {tr("Previo&us Panel"), {}},
+                                 {Qt::SHIFT | Qt::Key_F6})),
+      ownWindow(commands.add("view.ownWindow", viewGroup(), {tr("Piece in Its &Own Window"), {}},
+                             {Qt::CTRL | Qt::SHIFT | Qt::Key_W})),
+      instrumentsWindow(commands.add("view.instruments", viewGroup(),
+                                     {tr("&Loaded Instruments…"), {}},
+                                     {Qt::CTRL | Qt::SHIFT | Qt::Key_I})),
+      metersWindow(commands.add(
+          "view.meters", viewGroup(),
+          {tr("&Meters"), tr("Show the delay, the load and the devices of live playing")},
+          {Qt::CTRL | Qt::SHIFT | Qt::Key_M})),
+      noteNames(
+          commands.add("view.noteNames", viewGroup(), {tr("Note &Names on the Keyboard"), {}})),
+      guide(commands.add("help.guide", helpGroup(), {tr("User &Guide"), {}, "help"}, {Qt::Key_F1})),
+      about(commands.add("help.about", helpGroup(), {tr("&About Velmora"), {}})),
+      application_(application), recent_(std::make_unique<QMenu>(tr("Open &Recent"))),
+      instruments_(std::make_unique<QMenu>(tr("&Instrument"))),
+      tunings_(std::make_unique<QMenu>(tr("&Tuning")))
+{
+    preferences->setMenuRole(QAction::PreferencesRole);
+    quit->setMenuRole(QAction::QuitRole);
+    about->setMenuRole(QAction::AboutRole);
+    auto* layouts = new QActionGroup(this);
+    for (QAction* action : {playLayout, editLayout, stageLayout})
+        layouts->addAction(action);
+    for (QAction* action :
+         {keyboard, instrument, tuning, playLayout, editLayout, stageLayout, ownWindow, noteNames})
+        action->setCheckable(true);
+    for (QAction* action : {save, saveAs, exportAudio, close, ownWindow})
+        action->setEnabled(false); // until there is a piece
+
+    connect(recent_.get(), &QMenu::aboutToShow, this, &ShellActions::showRecent);
+    connect(instruments_.get(), &QMenu::aboutToShow, this, &ShellActions::showInstruments);
+    connect(tunings_.get(), &QMenu::aboutToShow, this, &ShellActions::showTunings);
+    showRecent(); // disables the menu if there are none
+}
+
+ShellActions::~ShellActions() = default;
+
+void ShellActions::addFile(QMenu& file) const
+{
+    file.addActions({newSequence, open});
+    file.addMenu(recent_.get());
+    file.addSeparator();
+    file.addActions({save, saveAs, exportAudio});
+    file.addSeparator();
+    file.addActions({close, preferences, quit});
+}
+
+void ShellActions::addSound(QMenuBar& bar) const
+{
+    bar.addMenu(instruments_.get());
+    bar.addMenu(tunings_.get());
+}
+
+void ShellActions::addPanels(QMenu& view) const
+{
+    view.addActions({keyboard, instrument, tuning, nextPanel, previousPanel});
+    view.addSeparator();
+    view.addActions({playLayout, editLayout, stageLayout, resetLayout});
+    view.addSeparator();
+    view.addActions({ownWindow, noteNames});
+    view.addSeparator();
+    view.addActions({instrumentsWindow, metersWindow});
+}
+
+void ShellActions::addHelp(QMenu& help) const
+{
+    help.addActions({guide, about});
+}
+
+QStringList ShellActions::recentFiles()
+{
+    return preference(kRecentKey).toStringList();
+}
+
+void ShellActions::setRecentFiles(const QStringList& files)
+{
+    setPreference(kRecentKey, files);
+    showRecent();
+    emit recentFilesChanged();
+}
+
+void ShellActions::addRecent(const QString& path)
+{
+    QStringList files = recentFiles();
+    files.removeAll(path);
+    files.prepend(path);
+    setRecentFiles(files.mid(0, kRecentFiles));
+}
+
+void ShellActions::showRecent()
+{
+    recent_->clear();
+    for (const QString& path : recentFiles()) {
+        QAction* action = recent_->addAction(escaped(QFileInfo(path).fileName()), this,
+                                             [this, path] { emit recentFileChosen(path); });
+        action->setToolTip(path);
+        action->setEnabled(QFileInfo::exists(path));
+    }
+    recent_->setToolTipsVisible(true);
+    recent_->setEnabled(!recent_->isEmpty());
+    recent_->addSeparator();
+    recent_->addAction(tr("&Clear List"), this, [this] { setRecentFiles({}); });
+}
+
+void ShellActions::showInstruments()
+{
+    instruments_->clear();
+    std::size_t position = 0;
+    for (const auto& document : application_.instruments()) {
+        QAction* action = instruments_->addAction(
+            escaped(document->name()), this, [this, position] { emit instrumentChosen(position); });
+        action->setCheckable(true);
+        action->setChecked(application_.isCurrent(*document));
+        ++position;
+    }
+    instruments_->addSeparator();
+    instruments_->addActions({instrument, instrumentsWindow});
+    instruments_->addSeparator();
+    instruments_->addActions({transposeUp, transposeDown, silence});
+}
+
+void ShellActions::showTunings()
+{
+    tunings_->clear();
+    for (const std::string& name : application_.tuningNames()) {
+        QAction* action = tunings_->addAction(escaped(name), this,
+                                              [this, name] { application_.selectTuning(name); });
+        action->setCheckable(true);
+        action->setChecked(name == application_.tuningName());
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <cstddef>
+#include <memory>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace velmora {
+
+class AppDelegate;
+class Commands;
+
+/// The commands that do not depend on a piece, those that open, save and close one, and the menus
+/// whose content changes.
+class ShellActions : public QObject {
+    Q_OBJECT
+
+public:
+    ShellActions(AppDelegate& application, Commands& commands);
+    ~ShellActions() override;
+
+    QAction *const newSequence, *const open, *const save, *const saveAs, *const exportAudio;
+    QAction *const close, *const preferences, *const quit;
+    QAction* const silence;                                    ///< Stops every sound at once.
+    QAction *const transposeUp, *const transposeDown;          ///< By a semitone.
+    QAction *const keyboard, *const instrument, *const tuning; ///< Show or hide the panels.
+    QAction *const playLayout, *const editLayout, *const stageLayout, *const resetLayout;
+    QAction *const nextPanel, *const previousPanel; ///< Move the keyboard focus.
+    QAction* const ownWindow; ///< Checked while the current piece has a window of its own.
+    QAction *const instrumentsWindow, *const metersWindow;
+    QAction* const noteNames; ///< Checked while the keyboard shows note names.
+    QAction *const guide, *const about;
+
+    void addFile(QMenu& file) const;
+    void addSound(QMenuBar& bar) const;
+    void addPanels(QMenu& view) const;
+    void addHelp(QMenu& help) const;
+
+    /// Puts a file at the top of the recent files.
+    void addRecent(const QString& path);
+
+    /// The files opened last, the latest first; some may no longer exist.
+    static QStringList recentFiles();
+
+signals:
+    void recentFileChosen(const QString& path);
+    void recentFilesChanged();
+
+    /// The user wants the instrument at `position` of the list to be the current one.
+    void instrumentChosen(std::size_t position);
+
+private:
+    void setRecentFiles(const QStringList& files);
+    void showRecent();
+    void showInstruments();
+    void showTunings();
+
+    AppDelegate& application_;
+    std::unique_ptr<QMenu> recent_, instruments_, tunings_;
+};
+
+} // namespace velmora

@@ -1,0 +1,48 @@
+#include "desktop/shell/StageView.h"
+
+#include "app/AppDelegate.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace velmora {
+
+namespace {
+
+/// The size of the type relative to that of the program.
+constexpr double kInstrumentType = 4.0, kTuningType = 2.5;
+
+QLabel* addLine(QVBoxLayout& column, double size)
+{
+    auto* line = new QLabel;
+    QFont type = line->font();
+    type.setPointSizeF(type.pointSizeF() * size);
+    line->setFont(type);
+    line->setAlignment(Qt::AlignCenter);
+    line->setWordWrap(true);
+    line->setTextFormat(Qt::PlainText);
+    column.addWidget(line);
+    return line;
+}
+
+} // namespace
+
+StageView::StageView(AppDelegate& application) : application_(application)
+{
+    auto* column = new QVBoxLayout(this);
+    column->addStretch();
+    instrument_ = addLine(*column, kInstrumentType);
+    tuning_ = addLine(*column, kTuningType);
+    column->addStretch();
+    connect(&application_, &AppDelegate::instrumentChanged, this, &StageView::showSound);
+    connect(&application_, &AppDelegate::tuningChanged, this, &StageView::showSound);
+    connect(&application_, &AppDelegate::programSelected, this, &StageView::showSound);
+}
+
+void StageView::showSound()
+{
+    instrument_->setText(QString::fromStdString(application_.instrumentName()));
+    tuning_->setText(QString::fromStdString(application_.tuningName()));
+}
+
+} // namespace velmora

@@ -1,0 +1,263 @@
+#include "desktop/shell/Workspace.h"
+
+#include "app/AppDelegate.h"
+#include "desktop/instruments/InstrumentPanel.h"
+#include "desktop/keyboard/KeyboardView.h"
+#include "desktop/roll/SequenceActions.h"
+#include "desktop/roll/TransportBar.h"
+#include "desktop/shell/ShellActions.h"
+#include "desktop/shell/StageView.h"
+#include "desktop/shell/StatusLine.h"
+#include "desktop/tuning/TuningStrip.h"
+#include "desktop/widgets/Commands.h"
+#include "desktop/widgets/LearnMenu.h"
+#include "desktop/widgets/windowPlace.h"
+#include "preferences/settings.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+/// Counts up when stored arrangements would no longer fit.
+constexpr int kLayoutVersion = 1;
+constexpr const char* kLayoutKey = "layout";
+
+/// The first sizes of the panels in pixels.
+constexpr int kInstrumentWidth = 280, kTuningWidth = 250;
+constexpr int kKeyboardHeight = 150, kEditKeyboardHeight = 100, kStageKeyboardHeight = 300;
+constexpr QSize kFirstSize(1240, 760);
+
+/// How much larger the type is on stage.
+constexpr double kStageType = 1.5;
+
+std::string layoutKey(Workspace::Layout layout)
+{
+    constexpr std::array kNames = {"play", "edit", "stage"};
+    return std::string("layouts/") + kNames.at(static_cast<std::size_t>(layout));
+}
+
+} // namespace
+
+Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions& shell,
+                     SequenceActions& actions)
+    : application_(application), shell_(shell), keyboard_(new KeyboardView(application)),
+      instrument_(new InstrumentPanel(application)), status_(new StatusLine(application)),
+      transport_(new TransportBar(actions, application)), tabs_(new QTabWidget),
+      centre_(new QStackedWidget)
+{
+    setWindowTitle(tr("Velmora"));
+    setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the transport
+    setDockNestingEnabled(true);
+    setCorner(Qt::BottomLeftCorner, Qt::BottomDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::BottomDockWidgetArea);
+    tabs_->setDocumentMode(true);
+    tabs_->setTabsClosable(true);
+    tabs_->setMovable(true);
+    centre_->addWidget(new QWidget);
+    centre_->addWidget(tabs_);
+    centre_->addWidget(new StageView(application));
+    setCentralWidget(centre_);
+    setStatusBar(status_);
+    keyboardDock_ = addPanel("keyboard", tr("Keyboard"), keyboard_, *shell.keyboard);
+    instrumentDock_ = addPanel("instrument", tr("Instrument"), instrument_, *shell.instrument);
+    tuningDock_ = addPanel("tuning", tr("Tuning"), new TuningStrip(application), *shell.tuning);
+    makeMenus(actions);
+    makeTransport();
+    for (const Commands::Command& command : commands.all())
+        addAction(command.action); // for the shortcuts of those that are in no menu
+    connectCommands();
+
+    resize(kFirstSize.boundedTo(roomFor(*this)));
+    rememberPlace(*this, "workspace");
+    layout_ = static_cast<Layout>(std::clamp(preference(kLayoutKey).toInt(), 0, 1));
+    restoreLayout();
+    connect(qApp, &QApplication::aboutToQuit, this, &Workspace::saveLayout);
+}
+
+QDockWidget* Workspace::addPanel(const char* name, const QString& title, QWidget* panel,
+                                 QAction& toggle)
+{
+    auto* dock = new QDockWidget(title, this);
+    dock->setObjectName(name);
+    dock->setWidget(panel);
+    connect(&toggle, &QAction::triggered, this, [this, dock](bool on) {
+        if (on)
+            showPanel(*dock);
+        else
+            dock->hide();
+    });
+    connect(dock->toggleViewAction(), &QAction::toggled, &toggle, &QAction::setChecked);
+    return dock;
+}
+
+void Workspace::makeMenus(const SequenceActions& actions)
+{
+    shell_.addFile(*menuBar()->addMenu(tr("&File")));
+    actions.addEditing(*menuBar()->addMenu(tr("&Edit")));
+    actions.addTransport(*menuBar()->addMenu(tr("&Piece")));
+    shell_.addSound(*menuBar());
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    actions.addZoom(*view);
+    view->addSeparator();
+    shell_.addPanels(*view);
+    shell_.addHelp(*menuBar()->addMenu(tr("&Help")));
+}
+
+void Workspace::makeTransport()
+{
+    addToolBar(transport_);
+    connect(transport_, &TransportBar::done, this, [this] {
+        if (tabs_->currentWidget() != nullptr)
+            tabs_->currentWidget()->setFocus();
+    });
+    auto* space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    transport_->addWidget(space);
+    transport_->addAction(shell_.silence);
+    new LearnMenu(*transport_->widgetForAction(shell_.silence), application_,
+                  {{{LearnedAction::Kind::Silence}, tr("Silence Everything")}});
+    connect(tabs_, &QTabWidget::currentChanged, this, &Workspace::showCentre);
+}
+
+void Workspace::connectCommands()
+{
+    for (const auto& [action, layout] : {std::pair{shell_.playLayout, Layout::Play},
+                                         {shell_.editLayout, Layout::Edit},
+                                         {shell_.stageLayout, Layout::Stage}})
+        connect(action, &QAction::triggered, this, [this, layout] {
+            // The command for the stage also leaves it.
+            setLayout(layout == Layout::Stage && layout_ == layout ? Layout::Play : layout);
+        });
+    connect(shell_.resetLayout, &QAction::triggered, this, &Workspace::arrange);
+    connect(shell_.nextPanel, &QAction::triggered, this, [this] { movePanelFocus(1); });
+    connect(shell_.previousPanel, &QAction::triggered, this, [this] { movePanelFocus(-1); });
+}
+
+void Workspace::setDocument(SequenceDocument* document)
+{
+    transport_->setDocument(document);
+}
+
+void Workspace::setLayout(Layout layout)
+{
+    if (layout == layout_)
+        return;
+    saveLayout();
+    layout_ = layout;
+    restoreLayout();
+}
+
+void Workspace::saveLayout() const
+{
+    setPreference(layoutKey(layout_), saveState(kLayoutVersion));
+    // The program does not begin on stage, where a newcomer would miss the menus.
+    setPreference(kLayoutKey, static_cast<int>(layout_ == Layout::Stage ? Layout::Play : layout_));
+}
+
+void Workspace::restoreLayout()
+{
+    const QByteArray state = preference(layoutKey(layout_)).toByteArray();
+    if (state.isEmpty() || !restoreState(state, kLayoutVersion))
+        arrange();
+    showStage(layout_ == Layout::Stage);
+    const std::array actions = {shell_.playLayout, shell_.editLayout, shell_.stageLayout};
+    actions.at(static_cast<std::size_t>(layout_))->setChecked(true);
+}
+
+void Workspace::arrange()
+{
+    for (QDockWidget* dock : {keyboardDock_, instrumentDock_, tuningDock_}) {
+        dock->setFloating(false);
+        removeDockWidget(dock);
+    }
+    addDockWidget(Qt::LeftDockWidgetArea, instrumentDock_);
+    addDockWidget(Qt::RightDockWidgetArea, tuningDock_);
+    addDockWidget(Qt::BottomDockWidgetArea, keyboardDock_);
+    keyboardDock_->show();
+    instrumentDock_->setVisible(layout_ != Layout::Edit);
+    tuningDock_->setVisible(layout_ != Layout::Edit);
+    constexpr std::array kHeights = {kKeyboardHeight, kEditKeyboardHeight, kStageKeyboardHeight};
+    resizeDocks({instrumentDock_, tuningDock_}, {kInstrumentWidth, kTuningWidth}, Qt::Horizontal);
+    resizeDocks({keyboardDock_}, {kHeights.at(static_cast<std::size_t>(layout_))}, Qt::Vertical);
+}
+
+void Workspace::showStage(bool isStage)
+{
+    menuBar()->setVisible(!isStage);
+    transport_->setVisible(!isStage);
+    if (isStage != isFullScreen())
+        setWindowState(windowState() ^ Qt::WindowFullScreen);
+    QFont type = QApplication::font(this);
+    if (isStage)
+        type.setPointSizeF(type.pointSizeF() * kStageType);
+    setFont(type);
+    showCentre();
+}
+
+void Workspace::showCentre()
+{
+    centre_->setCurrentIndex(layout_ == Layout::Stage ? 2 : tabs_->count() > 0 ? 1 : 0);
+}
+
+void Workspace::showPanel(QDockWidget& dock)
+{
+    dock.show();
+    dock.raise();
+    QWidget* panel = dock.widget();
+    for (QWidget* next = panel; panel->isAncestorOf(next) || next == panel;
+         next = next->nextInFocusChain()) {
+        if (next->focusPolicy() & Qt::TabFocus && next->isVisible() && next->isEnabled()) {
+            next->setFocus(Qt::TabFocusReason);
+            return;
+        }
+        if (next->nextInFocusChain() == panel)
+            return;
+    }
+}
+
+void Workspace::movePanelFocus(int direction)
+{
+    std::vector<QWidget*> stops;
+    if (QWidget* centre = centre_->currentWidget(); centre->isVisible())
+        stops.push_back(centre);
+    for (QDockWidget* dock : {instrumentDock_, keyboardDock_, tuningDock_})
+        if (dock->isVisible())
+            stops.push_back(dock);
+    const auto here = std::ranges::find_if(
+        stops, [](QWidget* stop) { return stop->isAncestorOf(QApplication::focusWidget()); });
+    const auto count = static_cast<std::ptrdiff_t>(stops.size());
+    const std::ptrdiff_t from = here == stops.end() ? 0 : here - stops.begin();
+    QWidget* to = stops.at(static_cast<std::size_t>((from + direction + count) % count));
+    if (auto* dock = qobject_cast<QDockWidget*>(to))
+        showPanel(*dock);
+    else if (tabs_->currentWidget() != nullptr)
+        tabs_->currentWidget()->setFocus(Qt::TabFocusReason);
+    else
+        to->setFocus(Qt::TabFocusReason);
+}
+
+void Workspace::closeEvent(QCloseEvent* event)
+{
+    event->ignore(); // the user may cancel
+    shell_.quit->trigger();
+}
+
+void Workspace::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (!std::exchange(wasShown_, true) && !preference(layoutKey(layout_)).isValid())
+        arrange(); // the sizes of panels can only be set once the window has its own
+}
+
+} // namespace velmora

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <array>
+
+class QDockWidget;
+class QStackedWidget;
+class QTabWidget;
+
+namespace velmora {
+
+class AppDelegate;
+class Commands;
+class InstrumentPanel;
+class KeyboardView;
+class SequenceActions;
+class SequenceDocument;
+class ShellActions;
+class StatusLine;
+class TransportBar;
+
+/// The main window: the open pieces as tabs, around them the panels, which can be moved, floated
+/// and hidden, and the transport, the menus and the status line. It has three layouts, each of
+/// which remembers how the user has arranged it. Closing the window quits the program.
+class Workspace : public QMainWindow {
+    Q_OBJECT
+
+public:
+    enum class Layout { Play, Edit, Stage };
+
+    /// The arguments must outlive the window.
+    Workspace(AppDelegate& application, Commands& commands, ShellActions& shell,
+              SequenceActions& actions);
+
+    KeyboardView& keyboard() { return *keyboard_; }
+    InstrumentPanel& instrumentPanel() { return *instrument_; }
+    StatusLine& status() { return *status_; }
+    QTabWidget& tabs() { return *tabs_; }
+
+    Layout layout() const { return layout_; }
+
+    /// Arranges the window as the user has left this layout.
+    void setLayout(Layout layout);
+
+    /// Shows a document in the transport bar; null for none.
+    void setDocument(SequenceDocument* document);
+
+    /// Shows a panel, and gives it the keyboard focus.
+    void showInstrument() { showPanel(*instrumentDock_); }
+    void showTuning() { showPanel(*tuningDock_); }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QDockWidget* addPanel(const char* name, const QString& title, QWidget* panel, QAction& toggle);
+    void makeMenus(const SequenceActions& actions);
+    void makeTransport();
+    void connectCommands();
+    void saveLayout() const;
+    void restoreLayout();
+
+    /// Arranges the panels as they are at first.
+    void arrange();
+    void showStage(bool isStage);
+    void showCentre();
+    void showPanel(QDockWidget& dock);
+    void movePanelFocus(int direction);
+
+    AppDelegate& application_;
+    ShellActions& shell_;
+    Layout layout_ = Layout::Play;
+    KeyboardView* keyboard_;
+    InstrumentPanel* instrument_;
+    StatusLine* status_;
+    TransportBar* transport_;
+    QTabWidget* tabs_;
+    QStackedWidget* centre_; ///< The start page, the tabs, or what is shown on stage.
+    QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_;
+    bool wasShown_ = false;
+};
+
+} // namespace velmora
