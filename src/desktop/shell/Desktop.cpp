@@ -4,6 +4,7 @@
 #include "desktop/instruments/importReport.h"
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/SequencePage.h"
+#include "desktop/shell/StartPage.h"
 #include "desktop/shell/StatusLine.h"
 #include "desktop/shell/aboutBox.h"
 #include "desktop/widgets/windowPlace.h"
@@ -37,6 +38,7 @@ Desktop::Desktop() : instrumentsWindow_(application_), metersWindow_(application
     connectWindows();
     connectProgress();
     connectPieces();
+    connectStartPage();
     for (QWidget* window :
          std::initializer_list<QWidget*>{&workspace_, &instrumentsWindow_, &preferencesWindow_})
         fileDrop_.watch(*window);
@@ -143,6 +145,18 @@ void Desktop::connectPieces()
     connect(&pages_, &SequencePages::message, this, [this](const QString& text) {
         workspace_.status().showMessage(text, kReportMilliseconds);
     });
+}
+
+void Desktop::connectStartPage()
+{
+    StartPage& page = workspace_.startPage();
+    connect(&page, &StartPage::chordRequested, &exampleChord_, &ExampleChord::play);
+    connect(&page, &StartPage::tuningsRequested, &workspace_, &Workspace::showTuning);
+    connect(&page, &StartPage::instrumentRequested, this, &Desktop::askForFiles);
+    connect(&page, &StartPage::recordingRequested, sequenceActions_.record, &QAction::trigger);
+    connect(&page, &StartPage::fileChosen, this, [this](const QString& path) { open({path}); });
+    connect(&page, &StartPage::guideRequested, shell_.guide, &QAction::trigger);
+    connect(&shell_, &ShellActions::recentFilesChanged, &page, &StartPage::showRecentFiles);
 }
 
 void Desktop::showPiece()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "app/ExampleChord.h"
 #include "desktop/instruments/InstrumentsWindow.h"
 #include "desktop/instruments/ProgressWindow.h"
 #include "desktop/roll/SequenceActions.h"
@@ -52,6 +53,7 @@ private:
     void connectWindows();
     void connectProgress();
     void connectPieces();
+    void connectStartPage();
     void showPiece();
     void openWaiting();
     void openFile(const QString& path);
@@ -80,6 +82,7 @@ private:
     SequencePages pages_{application_, shell_, sequenceActions_, workspace_.tabs(),
                          workspace_.keyboard()};
     KeyRouter router_{workspace_, pages_};
+    ExampleChord exampleChord_{application_};
     QString bankNotice_;  ///< The current notice about the General MIDI bank; may be empty.
     QStringList waiting_; ///< Files to open after the current one.
     bool isOpening_ = false;

@@ -7,6 +7,7 @@
 #include "desktop/roll/TransportBar.h"
 #include "desktop/shell/ShellActions.h"
 #include "desktop/shell/StageView.h"
+#include "desktop/shell/StartPage.h"
 #include "desktop/shell/StatusLine.h"
 #include "desktop/tuning/TuningStrip.h"
 #include "desktop/widgets/Commands.h"
@@ -51,10 +52,11 @@ std::string layoutKey(Workspace::Layout layout)
 
 Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions& shell,
                      SequenceActions& actions)
-    : application_(application), shell_(shell), keyboard_(new KeyboardView(application)),
+    : application_(application), shell_(shell),
+      keyboard_(new KeyboardView(application, application.player().liveKeys())),
       instrument_(new InstrumentPanel(application)), status_(new StatusLine(application)),
-      transport_(new TransportBar(actions, application)), tabs_(new QTabWidget),
-      centre_(new QStackedWidget)
+      transport_(new TransportBar(actions, application)), startPage_(new StartPage),
+      tabs_(new QTabWidget), centre_(new QStackedWidget)
 {
     setWindowTitle(tr("Velmora"));
     setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the transport
@@ -64,7 +66,7 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     tabs_->setDocumentMode(true);
     tabs_->setTabsClosable(true);
     tabs_->setMovable(true);
-    centre_->addWidget(new QWidget);
+    centre_->addWidget(startPage_);
     centre_->addWidget(tabs_);
     centre_->addWidget(new StageView(application));
     setCentralWidget(centre_);

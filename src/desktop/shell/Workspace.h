@@ -17,6 +17,7 @@ class KeyboardView;
 class SequenceActions;
 class SequenceDocument;
 class ShellActions;
+class StartPage;
 class StatusLine;
 class TransportBar;
 
@@ -35,6 +36,7 @@ public:
 
     KeyboardView& keyboard() { return *keyboard_; }
     InstrumentPanel& instrumentPanel() { return *instrument_; }
+    StartPage& startPage() { return *startPage_; }
     StatusLine& status() { return *status_; }
     QTabWidget& tabs() { return *tabs_; }
 
@@ -76,6 +78,7 @@ private:
     InstrumentPanel* instrument_;
     StatusLine* status_;
     TransportBar* transport_;
+    StartPage* startPage_;
     QTabWidget* tabs_;
     QStackedWidget* centre_; ///< The start page, the tabs, or what is shown on stage.
     QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_;

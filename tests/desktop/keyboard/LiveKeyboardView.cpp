@@ -22,16 +22,14 @@ TEST(LiveKeyboardView, PaintsWhileAMidiThreadPlays)
     application.setInstrument(organ, "Organ");
     application.selectTuning("Dynamic");
     SequenceDocument document(application.player());
-    KeyboardView view(application);
+    KeyboardView view(application, application.player().liveKeys());
     view.setDocument(&document.practice());
     view.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
     std::size_t frames = 0;
     QObject::connect(&view, &QOpenGLWidget::frameSwapped, [&] { ++frames; });
-    QObject::connect(&application, &AppDelegate::midiInputReceived, &view, [&] {
-        document.practice().midiInput();
-        view.refresh();
-    });
+    QObject::connect(&application, &AppDelegate::midiInputReceived, &view,
+                     &KeyboardView::midiInput);
 
     std::atomic<bool> isDone{false};
     std::thread device([&] {
