@@ -22,6 +22,7 @@ namespace {
 
 constexpr int kMinTempo = 20;
 constexpr int kMaxTempo = 400;
+constexpr int kFirstTempo = 120; // that of a new piece
 
 /// Returns the time of a step in minutes, seconds and tenths, such as "1:05.3".
 QString timeText(double step, double tempo)
@@ -99,6 +100,7 @@ void TransportBar::addTempo()
     label->setBuddy(tempo_);
     addWidget(label);
     tempo_->setRange(kMinTempo, kMaxTempo);
+    tempo_->setValue(kFirstTempo);
     tempo_->setSuffix(tr(" bpm"));
     tempo_->setKeyboardTracking(false);
     tempo_->setAccessibleName(tr("Tempo"));

@@ -25,7 +25,7 @@ namespace {
 
 constexpr const char* kFolderKey = "openFolder";
 constexpr int kReportMilliseconds = 15000;
-constexpr int kTransposedMilliseconds = 3000;
+constexpr int kShortMilliseconds = 3000;
 constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ";
 constexpr const char* kTunings = "*.scl *.mtx";
 constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
@@ -47,6 +47,9 @@ Desktop::Desktop() : instrumentsWindow_(application_), metersWindow_(application
     connect(&application_, &AppDelegate::bankLoaded, this, &Desktop::showBank);
     connect(&application_, &AppDelegate::midiInputReceived, &workspace_.keyboard(),
             &KeyboardView::midiInput);
+    connect(
+        &computerKeyboard_, &ComputerKeyboard::octaveMoved, &workspace_.status(),
+        [this](const QString& text) { workspace_.status().showMessage(text, kShortMilliseconds); });
     connect(&application_, &AppDelegate::controlUsed, this, &Desktop::perform);
     connect(&preferencesWindow_, &PreferencesWindow::changed, this, &Desktop::updateAllViews);
     connect(&preferencesWindow_, &PreferencesWindow::changed, &application_.playing(),
@@ -290,7 +293,7 @@ void Desktop::transpose(int semitones)
     playing.setTransposition(playing.settings().transposition + semitones);
     workspace_.status().showMessage(
         tr("Transposition: %1").arg(transpositionText(playing.settings().transposition)),
-        kTransposedMilliseconds);
+        kShortMilliseconds);
 }
 
 void Desktop::perform(LearnedAction::Kind action)

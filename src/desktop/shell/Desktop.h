@@ -4,6 +4,7 @@
 #include "app/ExampleChord.h"
 #include "desktop/instruments/InstrumentsWindow.h"
 #include "desktop/instruments/ProgressWindow.h"
+#include "desktop/keyboard/ComputerKeyboard.h"
 #include "desktop/roll/SequenceActions.h"
 #include "desktop/shell/FileDrop.h"
 #include "desktop/shell/GuideWindow.h"
@@ -81,7 +82,8 @@ private:
     MetersWindow metersWindow_;
     SequencePages pages_{application_, shell_, sequenceActions_, workspace_.tabs(),
                          workspace_.keyboard()};
-    KeyRouter router_{workspace_, pages_};
+    ComputerKeyboard computerKeyboard_{application_};
+    KeyRouter router_{workspace_, pages_, computerKeyboard_};
     ExampleChord exampleChord_{application_};
     QString bankNotice_;  ///< The current notice about the General MIDI bank; may be empty.
     QStringList waiting_; ///< Files to open after the current one.

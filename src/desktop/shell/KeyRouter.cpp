@@ -1,5 +1,6 @@
 #include "desktop/shell/KeyRouter.h"
 
+#include "desktop/keyboard/ComputerKeyboard.h"
 #include "desktop/roll/SequenceView.h"
 #include "desktop/shell/SequencePage.h"
 #include "desktop/shell/SequencePages.h"
@@ -61,15 +62,15 @@ bool isOfCommand(int key)
 
 } // namespace
 
-KeyRouter::KeyRouter(QWidget& workspace, SequencePages& pages)
-    : workspace_(workspace), pages_(pages)
+KeyRouter::KeyRouter(QWidget& workspace, SequencePages& pages, ComputerKeyboard& keyboard)
+    : workspace_(workspace), pages_(pages), keyboard_(keyboard)
 {
     qApp->installEventFilter(this);
     // The release of a held key may now go to another program or to a dialog.
     connect(qApp, &QApplication::focusWindowChanged, this, [this] {
         const QWidget* active = QApplication::activeWindow();
         if (active == nullptr || !isOurs(*active))
-            releaseKeys();
+            keyboard_.releaseKeys();
     });
 }
 
@@ -114,17 +115,16 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event)
             event->accept(); // the widget gets the key, and no command does
         return isKept;
     }
+    // A letter is released even if the focus has moved to a text field meanwhile.
+    const bool isPlayed = event->type() == QEvent::KeyRelease ? keyboard_.keyUp(key)
+                                                              : !isKept && keyboard_.keyDown(key);
+    if (isPlayed && !isKept)
+        return true;
     if (isKept || isAny<SequenceView>(*widget))
         return !isKept && isOfCommand(key.key());
     if (pages_.current() != nullptr && !isOfCommand(key.key()))
         pages_.current()->handleKey(key);
     return true;
-}
-
-void KeyRouter::releaseKeys()
-{
-    if (pages_.current() != nullptr)
-        pages_.current()->releaseKeys();
 }
 
 } // namespace velmora
