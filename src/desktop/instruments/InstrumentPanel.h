@@ -3,44 +3,47 @@
 #include <QWidget>
 
 #include <cstddef>
-#include <vector>
 
-class QComboBox;
 class QLabel;
-class QScrollArea;
-class QSlider;
 
 namespace velmora {
 
 class AppDelegate;
+class ProgramList;
+class StopList;
 
-/// The controls of the current instrument: its General MIDI program or its memory use, the tuning,
-/// and a volume slider for each stop.
+/// The controls of the current instrument: its name with a menu of all instruments, its General
+/// MIDI programs or its memory use, its stops, and how MIDI devices play it. It can be docked: it
+/// is narrow, and scrolls if it is not high enough.
 class InstrumentPanel : public QWidget {
     Q_OBJECT
 
 public:
     explicit InstrumentPanel(AppDelegate& application, QWidget* parent = nullptr);
 
-private:
-    void showTunings();
+    QSize sizeHint() const override;
 
-    /// Fits the panel to the current instrument and shows its volumes.
+signals:
+    /// The user wants to open an instrument.
+    void openRequested();
+
+    /// The user wants the instrument at `position` of the list to be the current one.
+    void instrumentChosen(std::size_t position);
+
+    /// A request of the user was refused; `message` says why and what to do.
+    void refused(const QString& message);
+
+private:
+    /// Shows the current instrument with its volumes.
     void showInstrument();
-    void fitWidth(std::size_t stops);
-    void makeSliders(std::size_t count);
-    void showVolume(std::size_t stop, float volume);
-    void showVolumeTip(std::size_t stop) const;
+
+    /// Moves the focus to the field that searches the programs or the stops.
+    void find();
 
     AppDelegate& application_;
-    QComboBox* programs_;
+    ProgramList* programs_;
     QLabel* usage_;
-    QComboBox* tunings_;
-    QScrollArea* stops_;
-
-    /// Slider i controls stop i. Sliders without a stop in the current instrument are hidden
-    /// (docs/decisions.md, 113).
-    std::vector<QSlider*> sliders_;
+    StopList* stops_;
 };
 
 } // namespace velmora

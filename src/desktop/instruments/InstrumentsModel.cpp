@@ -41,7 +41,7 @@ QVariant InstrumentsModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return QString::fromStdString(
-            index.column() == kName ? document.name()
+            index.column() == kName ? document.title()
                                     : sizeString(static_cast<std::uint64_t>(document.size())));
     case Qt::TextAlignmentRole:
         return index.column() == kSize ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();

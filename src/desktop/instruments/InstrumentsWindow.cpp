@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "desktop/instruments/InstrumentsModel.h"
 #include "desktop/instruments/importReport.h"
+#include "desktop/instruments/unloadInstrument.h"
 #include "desktop/widgets/closeByKeys.h"
 #include "desktop/widgets/icons.h"
 
@@ -93,10 +94,9 @@ void InstrumentsWindow::updateButtons()
 
 void InstrumentsWindow::unload()
 {
-    const std::string name = application_.instruments().at(selectedRow())->name();
-    if (!application_.unloadInstrument(selectedRow()))
-        emit refused(tr("%1 is still sounding. Silence everything, then unload it.")
-                         .arg(QString::fromStdString(name)));
+    const QString problem = unloadInstrument(application_, selectedRow());
+    if (!problem.isEmpty())
+        emit refused(problem);
 }
 
 void InstrumentsWindow::showReport()

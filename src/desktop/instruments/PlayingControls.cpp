@@ -1,11 +1,13 @@
 #include "desktop/instruments/PlayingControls.h"
 
 #include "app/PlayingOptions.h"
+#include "desktop/widgets/scrolling.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <cstdlib>
 
@@ -29,6 +31,7 @@ PlayingControls::PlayingControls(PlayingOptions& options)
     touch_->setToolTip(tr("How loud your touch on a MIDI keyboard sounds: soft makes a light touch "
                           "louder, hard asks for a strong one, fixed ignores the touch"));
     touch_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    touch_->setFocusPolicy(Qt::TabFocus);
     connect(touch_, &QComboBox::activated, this,
             [this](int index) { options_.setVelocityCurve(static_cast<VelocityCurve>(index)); });
     transposition_->setObjectName("Transposition");
@@ -37,12 +40,19 @@ PlayingControls::PlayingControls(PlayingOptions& options)
     transposition_->setAlignment(Qt::AlignCenter);
     transposition_->setMinimumWidth(fontMetrics().horizontalAdvance(transpositionText(-24)));
 
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins({});
-    row->addWidget(touch_, 1);
+    auto* semitones = new QLabel(tr("semitones"));
+    semitones->setToolTip(transposition_->toolTip());
+    leaveWheelToScrolling(*touch_);
+
+    auto* row = new QHBoxLayout;
     row->addWidget(lower_);
     row->addWidget(transposition_);
+    row->addWidget(semitones, 1);
     row->addWidget(higher_);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->addWidget(touch_);
+    column->addLayout(row);
     connect(&options_, &PlayingOptions::changed, this, &PlayingControls::showOptions);
     showOptions();
 }
@@ -54,6 +64,7 @@ QToolButton* PlayingControls::makeButton(const QString& text, const QString& nam
     button->setAccessibleName(name);
     button->setToolTip(name);
     button->setAutoRepeat(true);
+    button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QToolButton::clicked, this, [this, semitones] {
         options_.setTransposition(options_.settings().transposition + semitones);
     });

@@ -17,7 +17,7 @@ void showImportReport(QWidget& parent, const InstrumentDocument& document)
 {
     const ImportReport& report = document.report();
     QMessageBox box(QMessageBox::Information, QObject::tr("Import Report"),
-                    QString::fromStdString(document.name()), QMessageBox::Close, &parent);
+                    QString::fromStdString(document.title()), QMessageBox::Close, &parent);
     QString summary = QObject::tr("Stops: %1, keys: %2, samples: %3.")
                           .arg(report.ranks)
                           .arg(report.pipes)

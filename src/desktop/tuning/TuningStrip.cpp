@@ -18,6 +18,9 @@ namespace {
 
 constexpr int kReadsPerSecond = 30;
 constexpr int kStripHeight = 40;
+constexpr double kSmallScale = 0.85; ///< The size of the cents relative to the names.
+constexpr int kRowSpacing = 8;
+constexpr int kBarRoom = 20; ///< Between the two texts.
 
 /// The deviation at which a bar reaches the edge of the strip.
 constexpr double kFullCents = 50.0;
@@ -29,11 +32,19 @@ double cents(double pitch, double reference)
     return 1200.0 * std::log2(pitch / reference);
 }
 
+QFont smallFont(const QWidget& widget)
+{
+    QFont font = widget.font();
+    font.setPointSizeF(font.pointSizeF() * kSmallScale);
+    return font;
+}
+
 QString centsText(double cents)
 {
+    const double shown = std::round(cents * 10) / 10;
     const QLocale locale;
-    const QString text = locale.toString(cents, 'f', cents == 0 ? 0 : 1);
-    return cents > 0 ? locale.positiveSign() + text : text;
+    const QString text = locale.toString(shown, 'f', shown == 0 ? 0 : 1);
+    return shown > 0 ? locale.positiveSign() + text : text;
 }
 
 } // namespace
@@ -81,38 +92,83 @@ void TuningStrip::read()
     if (tones == tones_)
         return;
     tones_ = tones;
+    describe();
     update();
+    emit changed();
+}
+
+void TuningStrip::describe()
+{
+    QStringList texts;
+    for (const Tone& tone : tones_)
+        texts += tr("%1: %2 cents").arg(toneText(tone.name), centsText(tone.cents));
+    setAccessibleDescription(texts.join(", "));
+}
+
+int TuningStrip::nameWidth() const
+{
+    return fontMetrics().horizontalAdvance(toneText("F##"));
+}
+
+int TuningStrip::centsWidth() const
+{
+    return QFontMetrics(smallFont(*this)).horizontalAdvance("+88.8");
+}
+
+int TuningStrip::columns() const
+{
+    for (const int columns : {12, 6, 4, 3, 2})
+        if (width() >= columns * (nameWidth() + kBarRoom + centsWidth()))
+            return columns;
+    return 1;
+}
+
+QSize TuningStrip::minimumSizeHint() const
+{
+    return {nameWidth() + kBarRoom + centsWidth(), minimumHeight()};
+}
+
+void TuningStrip::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const int rows = 12 / columns();
+    setFixedHeight(rows == 1 ? kStripHeight : rows * (fontMetrics().height() + kRowSpacing));
 }
 
 void TuningStrip::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.85);
+    const int columns = this->columns();
+    const QSizeF cell(width() / static_cast<double>(columns), height() * columns / 12.0);
+    for (int tone = 0; const Tone& each : tones_) {
+        const QPointF corner(tone % columns * cell.width(), tone / columns * cell.height());
+        paintTone(painter, each, {corner, cell});
+        ++tone;
+    }
+}
+
+void TuningStrip::paintTone(QPainter& painter, const Tone& tone, const QRectF& place) const
+{
     QColor line = palette().color(QPalette::WindowText);
     line.setAlphaF(kLineOpacity);
-    const double cell = width() / 12.0;
-    for (unsigned tone = 0; tone < tones_.size(); ++tone) {
-        const QRectF place(tone * cell, 0, cell, height());
-        const double middle = place.center().y();
-        painter.setPen(line);
-        painter.drawLine(place.topRight(), place.bottomRight());
+    painter.setPen(line);
+    painter.drawLine(place.topRight(), place.bottomRight());
 
-        // The bar starts in the middle and points up if the note is sharp.
-        const double deviation = std::clamp(tones_[tone].cents / kFullCents, -1.0, 1.0);
-        const QRectF bar(place.left() + cell / 2 - 3, middle, 6, -deviation * (height() / 2.0 - 2));
-        painter.fillRect(bar.normalized(), palette().color(QPalette::Highlight));
-        painter.drawLine(QPointF(bar.left() - 4, middle), QPointF(bar.right() + 4, middle));
+    // The bar starts in the middle and points up if the note is sharp.
+    const QSizeF room(nameWidth() + kBarRoom + centsWidth(), place.height());
+    const QPointF left(place.center().x() - room.width() / 2, place.top());
+    const QPointF middle(left.x() + nameWidth() + kBarRoom / 2.0, place.center().y());
+    const double deviation = std::clamp(tone.cents / kFullCents, -1.0, 1.0);
+    const QRectF bar(middle.x() - 3, middle.y(), 6, -deviation * (place.height() / 2.0 - 2));
+    painter.fillRect(bar.normalized(), palette().color(QPalette::Highlight));
+    painter.drawLine(middle - QPointF(7, 0), middle + QPointF(7, 0));
 
-        painter.setPen(palette().color(QPalette::WindowText));
-        painter.setFont(font());
-        painter.drawText(QRectF(place.left(), 0, cell / 2 - 8, height()),
-                         Qt::AlignRight | Qt::AlignVCenter, toneText(tones_[tone].name));
-        painter.setFont(small);
-        const double shown = std::round(tones_[tone].cents * 10) / 10;
-        painter.drawText(QRectF(place.left() + cell / 2 + 8, 0, cell / 2 - 8, height()),
-                         Qt::AlignLeft | Qt::AlignVCenter, centsText(shown));
-    }
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setFont(font());
+    painter.drawText(QRectF(left, QSizeF(nameWidth(), place.height())),
+                     Qt::AlignRight | Qt::AlignVCenter, toneText(tone.name));
+    painter.setFont(smallFont(*this));
+    painter.drawText(QRectF(left, room), Qt::AlignRight | Qt::AlignVCenter, centsText(tone.cents));
 }
 
 } // namespace velmora

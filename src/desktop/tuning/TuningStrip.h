@@ -6,12 +6,14 @@
 #include <array>
 #include <string>
 
+class QPainter;
+
 namespace velmora {
 
 class AppDelegate;
 
 /// Shows by how many cents each pitch class of the current temperament deviates from equal
-/// temperament, and follows every change.
+/// temperament, and follows every change. It is a single row if it is wide enough.
 class TuningStrip : public QWidget {
     Q_OBJECT
 
@@ -29,13 +31,27 @@ public:
     /// The tones shown, indexed by pitch class.
     const Tones& tones() const { return tones_; }
 
+    QSize minimumSizeHint() const override;
+
+signals:
+    /// Other tones are shown.
+    void changed();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
     void read();
+    void describe();
+
+    /// The widths in pixels that the name of a tone and its cents need.
+    int nameWidth() const;
+    int centsWidth() const;
+    int columns() const;
+    void paintTone(QPainter& painter, const Tone& tone, const QRectF& place) const;
 
     AppDelegate& application_;
     Tones tones_;

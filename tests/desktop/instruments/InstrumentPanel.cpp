@@ -50,8 +50,8 @@ TEST(InstrumentPanel, ShowsVolumesWhileAMidiThreadSetsThem)
     QCoreApplication::processEvents();
     const auto sliders = panel.findChildren<QSlider*>();
     ASSERT_EQ(sliders.size(), 2);
-    EXPECT_NEAR(sliders[0]->value(), 1000.0 * 104 / 127, 0.5);
-    EXPECT_NEAR(sliders[1]->value(), 1000.0 * 64 / 127, 0.5);
+    EXPECT_NEAR(sliders[0]->value(), 100.0 * 104 / 127, 0.5);
+    EXPECT_NEAR(sliders[1]->value(), 100.0 * 64 / 127, 0.5);
 }
 
 } // namespace velmora

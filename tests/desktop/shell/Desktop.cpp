@@ -6,17 +6,14 @@
 #include "preferences/Preferences.h"
 #include "support/Bank.h"
 #include "support/OrganFolder.h"
-#include "support/RecordingInstrument.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QSlider>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
@@ -29,19 +26,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 namespace {
-
-class InstrumentWithStops : public RecordingInstrument {
-public:
-    InstrumentWithStops(std::size_t stops, Calls& calls) : RecordingInstrument(calls), stops_(stops)
-    {
-    }
-    std::size_t numStops() const override { return stops_; }
-    float getVolume(std::size_t stop) const override { return 0.25F * static_cast<float>(stop); }
-    std::string stopName(std::size_t stop) const override { return stop == 1 ? "Flute 4'" : ""; }
-
-private:
-    std::size_t stops_;
-};
 
 /// The desktop program on a machine that has no device but the sound output of OpenAL.
 class DesktopTest : public testing::Test {
@@ -59,20 +43,6 @@ protected:
             if (widget->accessibleName() == accessibleName)
                 return *widget;
         throw std::runtime_error(accessibleName);
-    }
-
-    std::vector<std::string> items(const QComboBox& menu)
-    {
-        std::vector<std::string> texts;
-        for (int i = 0; i < menu.count(); ++i)
-            texts.push_back(menu.itemText(i).toStdString());
-        return texts;
-    }
-
-    void choose(QComboBox& menu, int index)
-    {
-        menu.setCurrentIndex(index);
-        emit menu.activated(index);
     }
 
     /// Returns the texts of the message boxes that open during `action`.
@@ -115,90 +85,12 @@ protected:
                                            "Pipe001=c.wav\nPipe002=none.wav\n");
     }
 
-    Calls calls;
     Desktop desktop;
     AppDelegate& application = desktop.application();
     InstrumentPanel& panel = desktop.instrumentPanel();
 };
 
 } // namespace
-
-TEST_F(DesktopTest, ThePanelShowsProgramsOrMemoryUse)
-{
-    auto& programs = named<QComboBox>(panel, "Program");
-    auto& usage = named<QLabel>(panel, "Memory use");
-    EXPECT_EQ(programs.count(), 128);
-    EXPECT_EQ(programs.currentText(), "3 Electric Grand Piano") << "the default program";
-    EXPECT_TRUE(programs.isVisible() && !usage.isVisible());
-    programs.setFocus();
-    QTest::keyClick(&programs, Qt::Key_Down);
-    EXPECT_EQ(application.midiProgram(), 3);
-
-    InstrumentWithStops sampled(2, calls);
-    sampled.usage = 1 << 20;
-    application.setInstrument(sampled, "Organ");
-    EXPECT_TRUE(!programs.isVisible() && usage.isVisible());
-    EXPECT_EQ(usage.text(), "Usage:  1.00MB");
-    EXPECT_EQ(panel.windowTitle(), "Organ");
-    application.selectInstrument(0);
-    EXPECT_EQ(programs.currentIndex(), 3);
-}
-
-TEST_F(DesktopTest, ThePanelHasASliderForEachStop)
-{
-    InstrumentWithStops seven(7, calls);
-    InstrumentWithStops three(3, calls);
-    application.setInstrument(seven, "Seven");
-    application.setInstrument(three, "Three");
-    const auto sliders = panel.findChildren<QSlider*>();
-    ASSERT_EQ(sliders.size(), 7);
-    for (int i = 0; i < 7; ++i) {
-        EXPECT_EQ(sliders[i]->isHidden(), i >= 3) << i;
-    }
-    EXPECT_EQ(sliders[2]->value(), 500);
-    EXPECT_EQ(sliders[1]->toolTip(), "Flute 4'");
-
-    calls.clear();
-    sliders[1]->setFocus();
-    QTest::keyClick(sliders[1], Qt::Key_End);
-    std::thread([&] { application.setVolume(0.5F, 0); }).join();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return sliders[0]->value() == 500; }));
-    std::erase(calls, "fade 0.9");
-    EXPECT_THAT(calls, ElementsAre("volume 1 1.00", "volume 0 0.50")) << "each is set once";
-    application.setVolume(0.5F, 4);
-    QApplication::processEvents();
-    application.selectInstrument(0);
-}
-
-TEST_F(DesktopTest, TheTuningMenuKeepsItsOrderAndDuplicateNames)
-{
-    auto& menu = named<QComboBox>(panel, "Tuning");
-    EXPECT_THAT(items(menu), ElementsAre("Equal", "Quartercomma Meantone", "Dynamic"));
-    auto loaded = std::make_unique<TuningDocument>();
-    std::string scale = "bent\n12\n";
-    for (int i = 1; i <= 12; ++i)
-        scale += std::to_string(99 * i) + ".\n";
-    ASSERT_TRUE(loaded->read(folder.write("Equal", scale), TuningFormat::Scale));
-    application.putTuning(std::move(loaded));
-    EXPECT_THAT(items(menu), ElementsAre("Equal", "Quartercomma Meantone", "Equal", "Dynamic"));
-    const auto centsOfCSharp = [&] {
-        double cents = 0.0;
-        application.player().with([&](Instrument&, Temperament& temperament) {
-            cents = temperament.getTuning(1).cent();
-        });
-        return cents;
-    };
-    for (const int entry : {0, 2}) {
-        choose(menu, 1);
-        choose(menu, entry);
-        EXPECT_EQ(menu.currentIndex(), entry);
-        EXPECT_EQ(centsOfCSharp(), 99.0) << entry;
-    }
-    choose(menu, 3);
-    EXPECT_THAT(items(menu), ElementsAre("Equal", "Quartercomma Meantone", "Equal", "Dynamic"));
-    EXPECT_EQ(menu.currentText(), "Dynamic");
-    EXPECT_NEAR(centsOfCSharp(), 76.049, 1e-9);
-}
 
 TEST_F(DesktopTest, OpensDroppedFilesByType)
 {

@@ -1,0 +1,23 @@
+#include "desktop/tuning/tuningText.h"
+
+#include "app/AppDelegate.h"
+#include "desktop/tuning/TuningPanel.h"
+
+namespace velmora {
+
+TuningText tuningText(const AppDelegate& application, const std::string& name)
+{
+    const QString file = QString::fromStdString(name);
+    const QString description = QString::fromStdString(application.getTuningDescription(name));
+    if (!description.isEmpty())
+        return {description, file};
+    if (name == "Equal")
+        return {TuningPanel::tr("Equal"), TuningPanel::tr("Twelve equal semitones")};
+    if (name == "Quartercomma Meantone")
+        return {TuningPanel::tr("Quartercomma Meantone"), TuningPanel::tr("Pure major thirds")};
+    if (name == "Dynamic")
+        return {TuningPanel::tr("Dynamic"), TuningPanel::tr("Adapts its thirds to what you play")};
+    return {file, {}};
+}
+
+} // namespace velmora
