@@ -34,8 +34,6 @@ StopRow::StopRow(AppDelegate& application, std::size_t stop)
     slider_->setMinimumWidth(kLeastSlider);
     slider_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     percent_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    percent_->setMinimumWidth(
-        percent_->fontMetrics().horizontalAdvance(tr("%1 %").arg(kFullVolume)));
     leaveWheelToScrolling(*slider_);
     new LearnMenu(*slider_, application_,
                   {{{LearnedAction::Kind::Volume, static_cast<std::uint16_t>(stop)}, {}}});
@@ -60,7 +58,7 @@ void StopRow::showStop(const QString& name, float volume)
     switch_->setToolTip(tr("%1: turn on or off (Space)").arg(name));
     slider_->setAccessibleName(name);
     slider_->setToolTip(name);
-    elideName();
+    fitTexts();
     showVolume(volume);
 }
 
@@ -104,11 +102,13 @@ void StopRow::setReachable(bool isReachable)
 void StopRow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    elideName();
+    fitTexts();
 }
 
-void StopRow::elideName()
+void StopRow::fitTexts()
 {
+    percent_->setMinimumWidth(
+        percent_->fontMetrics().horizontalAdvance(tr("%1 %").arg(kFullVolume)));
     const QStyle& style = *switch_->style();
     const int room = switch_->width() - style.pixelMetric(QStyle::PM_IndicatorWidth) -
                      2 * style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing);

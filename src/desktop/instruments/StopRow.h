@@ -50,7 +50,7 @@ private:
     void turn(bool isOn);
     void moveTo(int percent);
     void showPercent();
-    void elideName();
+    void fitTexts();
 
     AppDelegate& application_;
     std::size_t stop_;

@@ -1,5 +1,6 @@
 #include "desktop/shell/Desktop.h"
 
+#include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/instruments/PlayingControls.h"
 #include "desktop/instruments/importReport.h"
 #include "desktop/keyboard/KeyboardView.h"
@@ -7,6 +8,7 @@
 #include "desktop/shell/StartPage.h"
 #include "desktop/shell/StatusLine.h"
 #include "desktop/shell/aboutBox.h"
+#include "desktop/tuning/TuningPanel.h"
 #include "desktop/widgets/windowPlace.h"
 #include "preferences/Preferences.h"
 #include "preferences/settings.h"
@@ -112,6 +114,11 @@ void Desktop::connectWindows()
     presents(shell_.preferences, preferencesWindow_);
     presents(shell_.guide, guideWindow_);
     connect(shell_.about, &QAction::triggered, this, [this] { showAbout(workspace_); });
+    const InstrumentPanel& panel = workspace_.instrumentPanel();
+    connect(&panel, &InstrumentPanel::openRequested, this, &Desktop::askForFiles);
+    connect(&panel, &InstrumentPanel::instrumentChosen, this, &Desktop::selectInstrument);
+    connect(&panel, &InstrumentPanel::refused, this, &Desktop::showError);
+    connect(&workspace_.tuningPanel(), &TuningPanel::openRequested, this, &Desktop::askForFiles);
     connect(&instrumentsWindow_, &InstrumentsWindow::openRequested, this, &Desktop::askForFiles);
     connect(&instrumentsWindow_, &InstrumentsWindow::instrumentChosen, this,
             &Desktop::selectInstrument);

@@ -1,6 +1,7 @@
 #include "desktop/shell/ShellActions.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/Commands.h"
 #include "preferences/settings.h"
 
@@ -23,9 +24,10 @@ QString escaped(QString text)
     return text.replace("&", "&&");
 }
 
-QString escaped(const std::string& text)
+/// Returns a menu text in a list, with a digit as its mnemonic for the first nine positions.
+QString numbered(std::size_t position, const QString& text)
 {
-    return escaped(QString::fromStdString(text));
+    return position < 9 ? QString("&%1 %2").arg(position + 1).arg(escaped(text)) : escaped(text);
 }
 
 /// The groups of commands, as the user sees them.
@@ -133,6 +135,7 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
     connect(recent_.get(), &QMenu::aboutToShow, this, &ShellActions::showRecent);
     connect(instruments_.get(), &QMenu::aboutToShow, this, &ShellActions::showInstruments);
     connect(tunings_.get(), &QMenu::aboutToShow, this, &ShellActions::showTunings);
+    tunings_->setToolTipsVisible(true);
     showRecent(); // disables the menu if there are none
 }
 
@@ -210,8 +213,9 @@ void ShellActions::showInstruments()
     instruments_->clear();
     std::size_t position = 0;
     for (const auto& document : application_.instruments()) {
-        QAction* action = instruments_->addAction(
-            escaped(document->name()), this, [this, position] { emit instrumentChosen(position); });
+        QAction* action =
+            instruments_->addAction(numbered(position, QString::fromStdString(document->title())),
+                                    this, [this, position] { emit instrumentChosen(position); });
         action->setCheckable(true);
         action->setChecked(application_.isCurrent(*document));
         ++position;
@@ -225,9 +229,11 @@ void ShellActions::showInstruments()
 void ShellActions::showTunings()
 {
     tunings_->clear();
-    for (const std::string& name : application_.tuningNames()) {
-        QAction* action = tunings_->addAction(escaped(name), this,
+    for (std::size_t position = 0; const std::string& name : application_.tuningNames()) {
+        const TuningText text = tuningText(application_, name);
+        QAction* action = tunings_->addAction(numbered(position++, text.title), this,
                                               [this, name] { application_.selectTuning(name); });
+        action->setToolTip(text.detail);
         action->setCheckable(true);
         action->setChecked(name == application_.tuningName());
     }

@@ -9,7 +9,7 @@
 #include "desktop/shell/StageView.h"
 #include "desktop/shell/StartPage.h"
 #include "desktop/shell/StatusLine.h"
-#include "desktop/tuning/TuningStrip.h"
+#include "desktop/tuning/TuningPanel.h"
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/LearnMenu.h"
 #include "desktop/widgets/windowPlace.h"
@@ -54,9 +54,9 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
                      SequenceActions& actions)
     : application_(application), shell_(shell),
       keyboard_(new KeyboardView(application, application.player().liveKeys())),
-      instrument_(new InstrumentPanel(application)), status_(new StatusLine(application)),
-      transport_(new TransportBar(actions, application)), startPage_(new StartPage),
-      tabs_(new QTabWidget), centre_(new QStackedWidget)
+      instrument_(new InstrumentPanel(application)), tuning_(new TuningPanel(application)),
+      status_(new StatusLine(application)), transport_(new TransportBar(actions, application)),
+      startPage_(new StartPage), tabs_(new QTabWidget), centre_(new QStackedWidget)
 {
     setWindowTitle(tr("Velmora"));
     setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the transport
@@ -73,7 +73,7 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     setStatusBar(status_);
     keyboardDock_ = addPanel("keyboard", tr("Keyboard"), keyboard_, *shell.keyboard);
     instrumentDock_ = addPanel("instrument", tr("Instrument"), instrument_, *shell.instrument);
-    tuningDock_ = addPanel("tuning", tr("Tuning"), new TuningStrip(application), *shell.tuning);
+    tuningDock_ = addPanel("tuning", tr("Tuning"), tuning_, *shell.tuning);
     makeMenus(actions);
     makeTransport();
     for (const Commands::Command& command : commands.all())

@@ -20,6 +20,7 @@ class ShellActions;
 class StartPage;
 class StatusLine;
 class TransportBar;
+class TuningPanel;
 
 /// The main window: the open pieces as tabs, around them the panels, which can be moved, floated
 /// and hidden, and the transport, the menus and the status line. It has three layouts, each of
@@ -36,6 +37,7 @@ public:
 
     KeyboardView& keyboard() { return *keyboard_; }
     InstrumentPanel& instrumentPanel() { return *instrument_; }
+    TuningPanel& tuningPanel() { return *tuning_; }
     StartPage& startPage() { return *startPage_; }
     StatusLine& status() { return *status_; }
     QTabWidget& tabs() { return *tabs_; }
@@ -76,6 +78,7 @@ private:
     Layout layout_ = Layout::Play;
     KeyboardView* keyboard_;
     InstrumentPanel* instrument_;
+    TuningPanel* tuning_;
     StatusLine* status_;
     TransportBar* transport_;
     StartPage* startPage_;
