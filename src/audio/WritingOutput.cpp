@@ -18,7 +18,9 @@ namespace velmora {
 
 namespace {
 
-constexpr std::chrono::seconds kPatience{1};
+/// How long the end of an output waits for its thread. A new stream of PulseAudio may keep the
+/// thread for two seconds, and the end of the program should not wait for that.
+constexpr std::chrono::milliseconds kPatience{250};
 
 /// The lowest useful priority; the servers' own threads have higher ones.
 constexpr int kPriority = 5;
