@@ -87,6 +87,11 @@ void setPreference(const std::string& key, const QVariant& value)
     settings().setValue(QString::fromStdString(key), value);
 }
 
+std::filesystem::path settingsFolder()
+{
+    return std::filesystem::path(settings().fileName().toStdString()).parent_path();
+}
+
 bool arePreferencesWritable()
 {
     return settings().isWritable();

@@ -2,6 +2,7 @@
 
 #include <QVariant>
 
+#include <filesystem>
 #include <string>
 
 namespace velmora {
@@ -14,6 +15,9 @@ QVariant preference(const std::string& key);
 QVariant defaultPreference(const std::string& key);
 
 void setPreference(const std::string& key, const QVariant& value);
+
+/// Returns the folder of the preferences, in which other settings of the user can be stored too.
+std::filesystem::path settingsFolder();
 
 /// Returns whether changed preferences can be saved.
 bool arePreferencesWritable();

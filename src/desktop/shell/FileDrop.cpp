@@ -1,5 +1,7 @@
 #include "desktop/shell/FileDrop.h"
 
+#include "platform/pathNames.h"
+
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -9,12 +11,18 @@ namespace velmora {
 
 namespace {
 
+/// Returns the path of a file, whose name may not be UTF-8.
+std::filesystem::path localPath(const QUrl& url)
+{
+    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()).toStdString();
+}
+
 QStringList localFiles(const QMimeData& data)
 {
     QStringList paths;
     for (const QUrl& url : data.urls())
         if (url.isLocalFile())
-            paths += url.toLocalFile();
+            paths += textOf(localPath(url));
     return paths;
 }
 

@@ -16,7 +16,7 @@ public:
     void watch(QWidget& window);
 
 signals:
-    /// One or more local files were dropped.
+    /// One or more local files were dropped. The paths are those of `textOf`.
     void dropped(const QStringList& paths);
 
 private:

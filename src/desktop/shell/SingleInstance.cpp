@@ -1,5 +1,8 @@
 #include "desktop/shell/SingleInstance.h"
 
+#include "base/escapedPath.h"
+#include "platform/pathNames.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -23,8 +26,19 @@ bool SingleInstance::handOver(const QStringList& paths)
     if (bus.registerService(kService))
         return false;
     QDBusMessage call = QDBusMessage::createMethodCall(kService, kPath, kService, "open");
-    call << paths;
+    QStringList names; // D-Bus takes UTF-8 only
+    for (const QString& path : paths)
+        names += QString::fromStdString(escapePath(pathOf(path)));
+    call << names;
     return bus.call(call, QDBus::Block, kAnswerMilliseconds).type() == QDBusMessage::ReplyMessage;
+}
+
+void SingleInstance::open(const QStringList& names)
+{
+    QStringList paths;
+    for (const QString& name : names)
+        paths += textOf(unescapePath(name.toStdString()));
+    emit opened(paths);
 }
 
 } // namespace velmora

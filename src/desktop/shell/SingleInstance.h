@@ -13,15 +13,16 @@ class SingleInstance : public QObject {
     Q_CLASSINFO("D-Bus Interface", "org.velmora.Velmora")
 
 public:
-    /// Hands absolute paths to the running instance. Returns false if there is none or it does not
-    /// answer; this process must then open the files itself.
+    /// Hands absolute paths, as `textOf` returns them, to the running instance. Returns false if
+    /// there is none or it does not answer; this process must then open the files itself.
     bool handOver(const QStringList& paths);
 
 public slots:
-    /// Called over the bus by a later start.
-    Q_SCRIPTABLE void open(const QStringList& paths) { emit opened(paths); }
+    /// Called over the bus by a later start. The names are those of `escapePath`.
+    Q_SCRIPTABLE void open(const QStringList& names);
 
 signals:
+    /// The paths are those of `textOf`.
     void opened(const QStringList& paths);
 };
 

@@ -2,9 +2,11 @@
 
 #include "preferences/settings.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -48,6 +50,16 @@ bool mayReplace(QWidget& parent, const QString& path)
 
 } // namespace
 
+QString dialogFolder(const std::string& key)
+{
+    QStringList folders{preference(key).toString()};
+    for (const auto kind : {QStandardPaths::MusicLocation, QStandardPaths::DocumentsLocation})
+        folders += QStandardPaths::writableLocation(kind);
+    const auto folder = std::ranges::find_if(
+        folders, [](const QString& path) { return !path.isEmpty() && QFileInfo(path).isDir(); });
+    return folder == folders.end() ? QDir::homePath() : *folder;
+}
+
 QString askWhereToSave(QWidget& parent, const SaveQuestion& question)
 {
     const std::vector<FileKind>& kinds = question.kinds;
@@ -64,7 +76,7 @@ QString askWhereToSave(QWidget& parent, const SaveQuestion& question)
 
     const QFileInfo proposal(question.proposal);
     dialog.setDirectory(proposal.isAbsolute() ? proposal.absolutePath()
-                                              : preference(question.folderKey).toString());
+                                              : dialogFolder(question.folderKey));
     dialog.setDefaultSuffix(kinds.front().extensions.front());
     for (const FileKind& kind : kinds) {
         if (!isOf(kind, question.proposal))

@@ -15,6 +15,10 @@ struct FileKind {
     QStringList extensions;
 };
 
+/// Returns the folder in which a dialog opens: the one that was last chosen and stored under `key`,
+/// or else the user's folder for music, for documents, or the home folder.
+QString dialogFolder(const std::string& key);
+
 struct SaveQuestion {
     QString title;
     std::vector<FileKind> kinds; ///< At least one.

@@ -6,10 +6,10 @@
 #include "desktop/widgets/graphics.h"
 #include "desktop/widgets/languages.h"
 #include "platform/SignalNotifier.h"
+#include "platform/pathNames.h"
 #include "platform/terminationSignals.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QTimer>
 
 #include <cstdio>
@@ -59,8 +59,9 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files, boo
     installTranslators();
 
     QStringList paths;
+    std::error_code error;
     for (const std::string& file : files)
-        paths += QFileInfo(QString::fromStdString(file)).absoluteFilePath();
+        paths += textOf(std::filesystem::absolute(file, error).lexically_normal());
     SingleInstance instance;
     if (instance.handOver(paths))
         return 0;
