@@ -71,6 +71,11 @@ QString textOf(const std::filesystem::path& path)
     return text;
 }
 
+QString displayName(const std::filesystem::path& path)
+{
+    return QString::fromStdString(toUtf8(path.filename().string()));
+}
+
 std::filesystem::path pathOf(const QString& text)
 {
     std::filesystem::path path = bytesOf(text);

@@ -13,6 +13,10 @@ namespace velmora {
 /// surrogate U+DC00 + byte.
 QString textOf(const std::filesystem::path& path);
 
+/// Returns the name of a file without its folder, for display. A name that is not UTF-8 is taken
+/// for Latin-1.
+QString displayName(const std::filesystem::path& path);
+
 /// Returns the path that `textOf` has turned into text, or that comes from Qt, as from a file
 /// dialog. Qt replaces what is not UTF-8 by U+FFFD: such a name stands for the file that looks so.
 std::filesystem::path pathOf(const QString& text);

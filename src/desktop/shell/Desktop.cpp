@@ -8,8 +8,10 @@
 #include "desktop/shell/StartPage.h"
 #include "desktop/shell/StatusLine.h"
 #include "desktop/shell/aboutBox.h"
+#include "desktop/shell/askWhereToSave.h"
 #include "desktop/tuning/TuningPanel.h"
 #include "desktop/widgets/windowPlace.h"
+#include "platform/pathNames.h"
 #include "preferences/Preferences.h"
 #include "preferences/settings.h"
 #include "sequencer/SequenceFile.h"
@@ -44,7 +46,6 @@ Desktop::Desktop() : instrumentsWindow_(application_), metersWindow_(application
     for (QWidget* window :
          std::initializer_list<QWidget*>{&workspace_, &instrumentsWindow_, &preferencesWindow_})
         fileDrop_.watch(*window);
-    progressWindow_.addAction(shell_.silence); // it is modal and blocks other windows' shortcuts
     connect(&fileDrop_, &FileDrop::dropped, this, &Desktop::open, Qt::QueuedConnection);
     connect(&application_, &AppDelegate::bankLoaded, this, &Desktop::showBank);
     connect(&application_, &AppDelegate::midiInputReceived, &workspace_.keyboard(),
@@ -201,7 +202,7 @@ void Desktop::openWaiting()
 
 void Desktop::openFile(const QString& path)
 {
-    const std::filesystem::path file(path.toStdString());
+    const std::filesystem::path file = pathOf(path);
     const auto tuning = tuningFormatOf(file);
     const auto instrument = instrumentFormatOf(file);
     if (tuning)
@@ -213,13 +214,13 @@ void Desktop::openFile(const QString& path)
     else
         showError(tr("%1: unrecognised file type. Velmora recognises files by their extensions, "
                      "such as .mid, .scl or .sf2.")
-                      .arg(QFileInfo(path).fileName()));
+                      .arg(displayName(file)));
 }
 
 void Desktop::openTuning(const QString& path, TuningFormat format)
 {
     auto tuning = std::make_unique<TuningDocument>();
-    if (!tuning->read(path.toStdString(), format)) {
+    if (!tuning->read(pathOf(path), format)) {
         showError(QString::fromStdString(tuning->errorString()));
         return;
     }
@@ -231,9 +232,9 @@ void Desktop::openTuning(const QString& path, TuningFormat format)
 
 void Desktop::openInstrument(const QString& path, InstrumentFormat format)
 {
-    const QString name = QFileInfo(path).fileName();
+    const QString name = displayName(pathOf(path));
     auto document = std::make_unique<InstrumentDocument>();
-    const bool isRead = document->read(path.toStdString(), format, application_);
+    const bool isRead = document->read(pathOf(path), format, application_);
     progressWindow_.endProgress();
     if (!isRead) {
         if (!document->errorString().empty())
@@ -281,7 +282,7 @@ void Desktop::selectInstrument(std::size_t position)
 void Desktop::askForFiles()
 {
     const QStringList paths = QFileDialog::getOpenFileNames(
-        QApplication::activeWindow(), tr("Open"), preference(kFolderKey).toString(),
+        QApplication::activeWindow(), tr("Open"), dialogFolder(kFolderKey),
         tr("All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;All files "
            "(*)")
             .arg(QString(kInstruments) + " " + kTunings + " " + kSequences)

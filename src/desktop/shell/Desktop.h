@@ -6,6 +6,7 @@
 #include "desktop/instruments/ProgressWindow.h"
 #include "desktop/keyboard/ComputerKeyboard.h"
 #include "desktop/roll/SequenceActions.h"
+#include "desktop/shell/DialogCommands.h"
 #include "desktop/shell/FileDrop.h"
 #include "desktop/shell/GuideWindow.h"
 #include "desktop/shell/KeyRouter.h"
@@ -84,6 +85,7 @@ private:
                          workspace_.keyboard()};
     ComputerKeyboard computerKeyboard_{application_};
     KeyRouter router_{workspace_, pages_, computerKeyboard_};
+    DialogCommands dialogCommands_{*shell_.silence};
     ExampleChord exampleChord_{application_};
     QString bankNotice_;  ///< The current notice about the General MIDI bank; may be empty.
     QStringList waiting_; ///< Files to open after the current one.

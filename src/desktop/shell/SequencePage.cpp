@@ -112,7 +112,7 @@ void SequencePage::setTransport(SequenceActions* actions)
 
 void SequencePage::exportAudio()
 {
-    velmora::exportAudio(*this, document_, application_,
+    velmora::exportAudio(*this, document_, saver_.displayName(), application_,
                          [this](const QString& text) { emit message(text); });
 }
 

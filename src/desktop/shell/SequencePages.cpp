@@ -5,6 +5,7 @@
 #include "desktop/shell/SequencePage.h"
 #include "desktop/shell/ShellActions.h"
 #include "desktop/widgets/windowPlace.h"
+#include "platform/pathNames.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -31,8 +32,7 @@ QString listOf(const std::vector<Abandoned>& found)
             QDateTime::fromMSecsSinceEpoch(one.sequence.time.time_since_epoch().count());
         const std::size_t notes = one.sequence.notes.size();
         lines += SequencePages::tr("%1, %2, %3")
-                     .arg(path.empty() ? SequencePages::tr("Untitled")
-                                       : QString::fromStdString(path.filename().string()),
+                     .arg(path.empty() ? SequencePages::tr("Untitled") : displayName(path),
                           notes == 1 ? SequencePages::tr("1 note")
                                      : SequencePages::tr("%1 notes").arg(notes),
                           QLocale().toString(time, QLocale::ShortFormat));
@@ -115,13 +115,13 @@ SequencePage& SequencePages::create()
 std::string SequencePages::open(const QString& path)
 {
     for (SequencePage* page : pages_) {
-        if (page->document().path() == path.toStdString()) {
+        if (page->document().path() == pathOf(path)) {
             select(*page);
             return {};
         }
     }
     SequencePage& page = makePage({});
-    page.document().read(path.toStdString());
+    page.document().read(pathOf(path));
     std::string error = page.document().errorString();
     if (error.empty())
         show(page);
@@ -217,7 +217,7 @@ void SequencePages::showTitle(SequencePage& page)
     if (const int index = tabs_.indexOf(&page); index >= 0) {
         QString name = page.saver().displayName().replace("&", "&&");
         tabs_.setTabText(index, page.isWindowModified() ? tr("%1 •").arg(name) : name);
-        tabs_.setTabToolTip(index, QString::fromStdString(page.document().path().string()));
+        tabs_.setTabToolTip(index, textOf(page.document().path()));
     }
     if (&page == current_)
         emit currentChanged();

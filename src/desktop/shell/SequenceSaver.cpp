@@ -3,9 +3,9 @@
 #include "desktop/shell/ShellActions.h"
 #include "desktop/shell/askWhereToSave.h"
 #include "desktop/shell/exportAudio.h"
+#include "platform/pathNames.h"
 #include "sequencer/SequenceFile.h"
 
-#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -19,8 +19,7 @@ SequenceSaver::SequenceSaver(QWidget& page, SequenceDocument& document, ShellAct
 
 QString SequenceSaver::displayName() const
 {
-    return document_.path().empty() ? name_
-                                    : QString::fromStdString(document_.path().filename().string());
+    return document_.path().empty() ? name_ : velmora::displayName(document_.path());
 }
 
 bool SequenceSaver::isBusyOrModified() const
@@ -66,13 +65,12 @@ bool SequenceSaver::save()
 {
     if (document_.path().empty())
         return saveAs();
-    return write(QString::fromStdString(document_.path().string()),
-                 SequenceDocument::SaveOperation::Save);
+    return write(textOf(document_.path()), SequenceDocument::SaveOperation::Save);
 }
 
 bool SequenceSaver::saveAs()
 {
-    const QString saved = QString::fromStdString(document_.path().string());
+    const QString saved = textOf(document_.path());
     const QString path = askWhereToSave(
         page_, {.title = tr("Save As"),
                 .kinds = {{QString::fromStdString(typeName(SequenceFormat::MidiFile)),
@@ -82,7 +80,7 @@ bool SequenceSaver::saveAs()
                 .folderKey = "saveFolder"});
     if (path.isEmpty())
         return false;
-    const bool losesVoices = sequenceFormatOf(path.toStdString()) == SequenceFormat::IMelody;
+    const bool losesVoices = sequenceFormatOf(pathOf(path)) == SequenceFormat::IMelody;
     return (!losesVoices || askToLoseVoices()) &&
            write(path, SequenceDocument::SaveOperation::SaveAs);
 }
@@ -100,8 +98,8 @@ bool SequenceSaver::askToLoseVoices()
 
 bool SequenceSaver::write(const QString& path, SequenceDocument::SaveOperation operation)
 {
-    const auto format = sequenceFormatOf(path.toStdString());
-    const bool isWritten = format && document_.save(path.toStdString(), *format, operation);
+    const auto format = sequenceFormatOf(pathOf(path));
+    const bool isWritten = format && document_.save(pathOf(path), *format, operation);
     if (isWritten) {
         emit saved();
         if (format == SequenceFormat::MidiFile)
@@ -109,8 +107,8 @@ bool SequenceSaver::write(const QString& path, SequenceDocument::SaveOperation o
         return true;
     }
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
-                    tr("%1 was not saved.").arg(QFileInfo(path).fileName()), QMessageBox::Cancel,
-                    &page_);
+                    tr("%1 was not saved.").arg(velmora::displayName(pathOf(path))),
+                    QMessageBox::Cancel, &page_);
     box.setInformativeText(QString::fromStdString(document_.errorString()));
     const QPushButton* saveAsButton = box.addButton(tr("Save As…"), QMessageBox::AcceptRole);
     box.exec();

@@ -3,11 +3,11 @@
 #include "app/AppDelegate.h"
 #include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/Commands.h"
+#include "platform/pathNames.h"
 #include "preferences/settings.h"
 
 #include <QAction>
 #include <QActionGroup>
-#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -197,10 +197,11 @@ void ShellActions::showRecent()
 {
     recent_->clear();
     for (const QString& path : recentFiles()) {
-        QAction* action = recent_->addAction(escaped(QFileInfo(path).fileName()), this,
+        QAction* action = recent_->addAction(escaped(displayName(pathOf(path))), this,
                                              [this, path] { emit recentFileChosen(path); });
         action->setToolTip(path);
-        action->setEnabled(QFileInfo::exists(path));
+        std::error_code error;
+        action->setEnabled(std::filesystem::exists(pathOf(path), error));
     }
     recent_->setToolTipsVisible(true);
     recent_->setEnabled(!recent_->isEmpty());

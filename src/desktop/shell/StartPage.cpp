@@ -1,6 +1,7 @@
 #include "desktop/shell/StartPage.h"
 
 #include "desktop/widgets/icons.h"
+#include "platform/pathNames.h"
 #include "preferences/settings.h"
 
 #include <QCoreApplication>
@@ -211,9 +212,10 @@ void StartPage::showRecentFiles()
         delete item;
     }
     recentList_->addWidget(makeHeading(tr("Recent files"), 1.0));
+    std::error_code error;
     for (const QString& path : preference("recentFiles").toStringList().mid(0, kShownFiles))
-        if (QFileInfo::exists(path))
-            addFile(*recentList_, path, QFileInfo(path).fileName());
+        if (const auto file = pathOf(path); std::filesystem::exists(file, error))
+            addFile(*recentList_, path, displayName(file));
     recent_->setVisible(recentList_->count() > 1);
 }
 

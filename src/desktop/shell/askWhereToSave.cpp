@@ -1,5 +1,6 @@
 #include "desktop/shell/askWhereToSave.h"
 
+#include "platform/pathNames.h"
 #include "preferences/settings.h"
 
 #include <QDir>
@@ -40,12 +41,13 @@ void chooseKind(QFileDialog& dialog, const std::vector<FileKind>& kinds, const F
     dialog.selectFile(path.chopped(QFileInfo(path).suffix().size()) + kind.extensions.front());
 }
 
-bool mayReplace(QWidget& parent, const QString& path)
+bool mayReplace(QWidget& parent, const std::filesystem::path& path)
 {
-    return !QFileInfo::exists(path) ||
+    std::error_code error;
+    return !std::filesystem::exists(path, error) ||
            QMessageBox::question(&parent, QObject::tr("Velmora"),
                                  QObject::tr("%1 already exists. Do you want to replace it?")
-                                     .arg(QFileInfo(path).fileName())) == QMessageBox::Yes;
+                                     .arg(displayName(path))) == QMessageBox::Yes;
 }
 
 } // namespace
@@ -89,13 +91,15 @@ QString askWhereToSave(QWidget& parent, const SaveQuestion& question)
 
     while (dialog.exec() == QDialog::Accepted) {
         QString path = dialog.selectedFiles().front();
+        // The dialog has asked whether to replace the file, unless it could not see it: it takes
+        // any text after a dot for an extension, and does not find names that are not UTF-8.
+        bool wasAsked = QFileInfo::exists(path);
         if (!isOfAny(kinds, path)) {
-            // The dialog takes any text after a dot for an extension, so it has not yet asked
-            // whether to replace a file with the complete name.
             path += '.' + dialog.defaultSuffix();
-            if (!mayReplace(parent, path))
-                continue;
+            wasAsked = false;
         }
+        if (!wasAsked && !mayReplace(parent, pathOf(path)))
+            continue;
         setPreference(question.folderKey, QFileInfo(path).absolutePath());
         return path;
     }

@@ -2,6 +2,7 @@
 
 #include "app/AudioExport.h"
 #include "desktop/shell/askWhereToSave.h"
+#include "platform/pathNames.h"
 #include "sequencer/SequenceDocument.h"
 
 #include <QCoreApplication>
@@ -42,7 +43,7 @@ public:
     void start(const SequenceDocument& document, AppDelegate& application)
     {
         export_.start(currentSettings(application), document.snapshot(),
-                      document.transport().tempo(), path_.toStdString());
+                      document.transport().tempo(), pathOf(path_));
     }
 
 private:
@@ -50,7 +51,7 @@ private:
     {
         if (wasCanceled())
             return;
-        setLabelText(tr("%1: %2").arg(QFileInfo(path_).fileName(), what));
+        setLabelText(tr("%1: %2").arg(displayName(pathOf(path_)), what));
         setValue(static_cast<int>(done * kProgressSteps));
     }
 
@@ -58,7 +59,7 @@ private:
     {
         deleteLater();
         hide();
-        const QString name = QFileInfo(path_).fileName();
+        const QString name = displayName(pathOf(path_));
         if (isWritten)
             tell_(tr("Exported %1").arg(name));
         else if (!error.isEmpty())
@@ -74,12 +75,14 @@ private:
 
 } // namespace
 
-void exportAudio(QWidget& page, const SequenceDocument& document, AppDelegate& application,
-                 const std::function<void(const QString&)>& tell)
+void exportAudio(QWidget& page, const SequenceDocument& document, const QString& name,
+                 AppDelegate& application, const std::function<void(const QString&)>& tell)
 {
-    const auto& saved = document.path();
-    const QString proposal = QString::fromStdString(
-        saved.empty() ? "" : std::filesystem::path(saved).replace_extension("wav").string());
+    const auto beside = std::filesystem::path(document.path()).replace_extension("wav");
+    QString proposal = name + ".wav";
+    if (!document.path().empty())
+        proposal = QFileInfo(textOf(beside.parent_path())).isWritable() ? textOf(beside)
+                                                                        : displayName(beside);
     const QString path = askWhereToSave(
         page, {.title = ExportProgress::tr("Export Audio"),
                .kinds = {{"WAV", {"wav"}}, {"FLAC", {"flac"}}, {"Ogg Vorbis", {"ogg"}}},

@@ -13,8 +13,9 @@ class SequenceDocument;
 /// Asks where to save a sound file and renders a sequence as it would sound now. A dialog on
 /// `page` shows the progress, and `tell` is called with a sentence when the file is complete. The
 /// rest of the program can be used meanwhile.
-void exportAudio(QWidget& page, const SequenceDocument& document, AppDelegate& application,
-                 const std::function<void(const QString&)>& tell);
+/// Proposes a file beside that of the piece, or called `name` if it has none.
+void exportAudio(QWidget& page, const SequenceDocument& document, const QString& name,
+                 AppDelegate& application, const std::function<void(const QString&)>& tell);
 
 /// Returns whether an export from this page is running.
 bool isExportingAudio(const QWidget& page);

@@ -7,6 +7,7 @@
 #include "desktop/roll/TransportBar.h"
 #include "desktop/shell/Desktop.h"
 #include "desktop/shell/StatusLine.h"
+#include "platform/pathNames.h"
 #include "preferences/Preferences.h"
 
 #include <QApplication>
@@ -111,6 +112,7 @@ protected:
             if (dialog != nullptr) {
                 timer.stop();
                 auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+                proposal = dialog->directory().filePath(name->text());
                 name->setFocus();
                 name->setText(path);
                 for (int i = 0; i < kind; ++i)
@@ -131,6 +133,7 @@ protected:
 
     Desktop desktop;
     SequencePage* last = nullptr;
+    QString proposal; ///< What the last file dialog has proposed.
     KeyboardView& keyboard = desktop.workspace().keyboard();
 };
 
@@ -327,6 +330,7 @@ TEST_F(SequencePageTest, SavesAndExportsUnderTheChosenNames)
 
     naming(
         folder.filePath("x.wav"), [&] { action("Export Audio…").trigger(); }, 1);
+    EXPECT_EQ(proposal, folder.filePath("tune.wav"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.saver().isBusyOrModified(); }));
     answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.pages().closeAll()); });
     auto& progress = *window.findChild<QProgressDialog*>();
@@ -343,6 +347,28 @@ TEST_F(SequencePageTest, SavesAndExportsUnderTheChosenNames)
         20'000));
     EXPECT_GT(QFileInfo(folder.filePath("tune.ogg")).size(), 1000);
     answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
+}
+
+TEST_F(SequencePageTest, SavesAFileWhoseNameIsNotUtf8)
+{
+    const QTemporaryDir folder;
+    const auto file = std::filesystem::path(folder.path().toStdString()) / "f\xFCr.mid";
+    std::filesystem::copy_file(VELMORA_EXAMPLES "/wolf-fantasia.mid", file);
+    desktop.open({textOf(file)});
+    draw(*last);
+    const auto size = std::filesystem::file_size(file);
+    EXPECT_EQ(last->saver().displayName(), QString("für.mid"));
+    naming(folder.filePath("g.mid"), [&] { EXPECT_TRUE(last->saver().saveAs()); });
+    draw(*last, {300, 300});
+    naming(QFile::decodeName(file.c_str()),
+           [&] { answering({"Yes"}, [&] { EXPECT_TRUE(last->saver().saveAs()); }); });
+    draw(*last, {400, 300});
+    EXPECT_TRUE(last->saver().save());
+    EXPECT_EQ(last->document().path(), file);
+    EXPECT_NE(std::filesystem::file_size(file), size);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(file.parent_path()), {}), 2);
+    EXPECT_EQ(pathOf(ShellActions::recentFiles().value(0)), file);
+    std::filesystem::remove(file); // Qt's temporary folder cannot
 }
 
 TEST_F(SequencePageTest, OffersToRecoverUnsavedSequences)
