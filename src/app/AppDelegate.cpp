@@ -73,7 +73,7 @@ void AppDelegate::keepPlaying(const OutputSettings& output)
         silenceAll(); // a note that was held when the sound was lost would go on
         const bool changes = rate != engine_.rate();
         engine_.setRate(rate);
-        // FluidSynth cannot change its rate.
+        // FluidSynth cannot change its rate. Until then, the synthesizer keeps its pitch.
         if (changes)
             QMetaObject::invokeMethod(this, &AppDelegate::loadBank, Qt::QueuedConnection);
     };
@@ -124,7 +124,9 @@ void AppDelegate::takeSynthesizer()
 {
     if (!loading_.valid())
         return;
-    if (auto synthesizer = loading_.get())
+    auto synthesizer = loading_.get();
+    // A silent one never takes the place of one that plays.
+    if (synthesizer && (bank_.empty() || !synthesizer->bank().empty()))
         playThrough(std::move(synthesizer));
     emit bankLoaded();
     if (loadsAgain_)

@@ -189,8 +189,7 @@ signals:
     /// The held keys have changed. Emitted on the main thread, after the keys have sounded.
     void midiInputReceived();
 
-    /// Loading has ended. `bank()` is empty if the bank could not be loaded, and unchanged if no
-    /// synthesizer could be created.
+    /// Loading has ended. `bank()` is unchanged if no bank could be loaded.
     void bankLoaded();
 
     /// A MIDI device was connected or has vanished.

@@ -2,6 +2,7 @@
 
 #include "app/KeyHolders.h"
 #include "base/Clock.h"
+#include "base/fading.h"
 #include "platform/PriorityMutex.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceHost.h"
@@ -9,17 +10,10 @@
 #include "tuning/Temperament.h"
 
 #include <atomic>
-#include <chrono>
 #include <mutex>
 #include <vector>
 
 namespace velmora {
-
-/// The interval at which released keys and the spellings of a temperament fade: 60 times a second.
-constexpr std::chrono::nanoseconds kFadeInterval{16'666'000};
-
-/// The factor by which each fade multiplies them.
-constexpr double kFadeFactor = 0.9;
 
 /// Owns what sounds: which instrument and temperament are current, which instrument sounds each
 /// key, the keys of live input, and the lock that guards them all. Every function may be called on

@@ -22,8 +22,9 @@ public:
 
     FractionalResampler();
 
-    /// Sets the number of input frames per output frame, which must not be much above 1.
-    /// 2^(cents / 1200) raises the pitch by `cents`.
+    /// Sets the number of input frames per output frame, at most kTaps. What lies
+    /// above half of the output's rate is not removed. 2^(cents / 1200) raises the pitch by
+    /// `cents`.
     void setStep(double step) { step_ = step; }
 
     /// Forgets the input, so that the next output frame asks for a block that begins there.

@@ -124,7 +124,8 @@ std::unique_ptr<OpenALDevice> OpenALDevice::open(double rate)
         alcCloseDevice(device);
         return nullptr;
     }
-    auto result = std::unique_ptr<OpenALDevice>(new OpenALDevice(device, context));
+    auto result =
+        std::unique_ptr<OpenALDevice>(new OpenALDevice(device, context, std::round(rate)));
     const Scope scope(*result);
     setListener();
     result->best_ = alGetInteger(AL_DEFAULT_RESAMPLER_SOFT);
@@ -132,8 +133,8 @@ std::unique_ptr<OpenALDevice> OpenALDevice::open(double rate)
     return result;
 }
 
-OpenALDevice::OpenALDevice(ALCdevice* device, ALCcontext* context)
-    : device_(device), context_(context)
+OpenALDevice::OpenALDevice(ALCdevice* device, ALCcontext* context, double rate)
+    : device_(device), context_(context), rate_(rate)
 {
 }
 
@@ -143,11 +144,14 @@ OpenALDevice::~OpenALDevice()
     alcCloseDevice(device_);
 }
 
-void OpenALDevice::setRate(double rate)
+double OpenALDevice::setRate(double rate)
 {
-    if (extensions().reset(device_, attributesAt(rate).data()) == ALC_FALSE)
-        logger("audio").error("OpenAL cannot render at {:g} Hz (error {})", rate,
-                              alcGetError(device_));
+    if (extensions().reset(device_, attributesAt(rate).data()) == ALC_TRUE)
+        rate_ = std::round(rate);
+    else
+        logger("audio").error("OpenAL cannot render at {:g} Hz (error {}) and goes on at {:g} Hz",
+                              rate, alcGetError(device_), rate_);
+    return rate_;
 }
 
 // OpenAL doubles its list of voices whenever a start finds no room behind all voices that have ever

@@ -34,8 +34,10 @@ public:
     OpenALDevice(const OpenALDevice&) = delete;
     OpenALDevice& operator=(const OpenALDevice&) = delete;
 
-    /// Sets the rate in hertz. Must not be called while the device renders.
-    void setRate(double rate);
+    /// Sets the rate in hertz, and returns the one at which it renders from now on: rounded to a
+    /// whole number, or still the former one if OpenAL refuses, which is logged. Must not be called
+    /// while the device renders.
+    double setRate(double rate);
 
     /// Makes room for the voices of `sources`, of which up to `batch` are started at once, so that
     /// starting and rendering them neither allocates nor takes long. Their gains become 0. Needs
@@ -52,10 +54,11 @@ public:
     void render(float* interleaved, std::size_t frames);
 
 private:
-    OpenALDevice(ALCdevice_struct* device, ALCcontext_struct* context);
+    OpenALDevice(ALCdevice_struct* device, ALCcontext_struct* context, double rate);
 
     ALCdevice_struct* device_;
     ALCcontext_struct* context_;
+    double rate_;
     int best_ = 0, linear_ = 0; ///< OpenAL's numbers of the resamplers.
 };
 

@@ -32,9 +32,8 @@ constexpr double kLowLoad = 0.5;
 
 } // namespace
 
-SampleRenderer::SampleRenderer() : rate_(kFirstRate), queue_(kQueued)
+SampleRenderer::SampleRenderer() : rate_(kFirstRate), queue_(kQueued), pending_(kQueued)
 {
-    pending_.reserve(kQueued + 1); // and the end after an overrun
     busy_.reserve(kMaximumDevices);
 }
 
@@ -86,6 +85,7 @@ void SampleRenderer::setPitch(SampleId sample, float pitch)
 
 void SampleRenderer::bend(float pitch)
 {
+    bend_ = pitch;
     send({SampleEvent::Kind::Bend, SampleEvent::kAll, 0.0F, pitch, due_});
 }
 
@@ -112,50 +112,38 @@ void SampleRenderer::render(float* left, float* right, std::size_t frames, doubl
     }
 }
 
-// See docs/decisions.md, 130.
 void SampleRenderer::receive()
 {
-    const bool isOverrun = isOverrun_.exchange(false);
-    if (isOverrun)
-        take({});
-    while (const SampleEvent* event = queue_.front()) {
-        if (pending_.size() >= kQueued)
-            break;
-        // A bend that is overlooked would leave every key out of tune.
-        if (!isOverrun || event->kind == SampleEvent::Kind::Bend)
-            take(*event);
+    if (isOverrun_.exchange(false))
+        endAfterOverrun();
+    for (; queue_.front() != nullptr && !pending_.isFull(); queue_.pop())
+        take(*queue_.front());
+}
+
+// See docs/decisions.md, 130.
+void SampleRenderer::endAfterOverrun()
+{
+    pending_.clear();
+    while (queue_.front() != nullptr)
         queue_.pop();
-    }
+    take({});
+    take({SampleEvent::Kind::Bend, SampleEvent::kAll, 0.0F, bend_, 0.0});
 }
 
 void SampleRenderer::take(const SampleEvent& event)
 {
     SampleEvent taken = event;
     if (event.kind == SampleEvent::Kind::End)
-        std::erase_if(pending_,
-                      [](const SampleEvent& one) { return one.kind != SampleEvent::Kind::Bend; });
+        pending_.removeIf(
+            [](const SampleEvent& one) { return one.kind != SampleEvent::Kind::Bend; });
     else if (event.kind != SampleEvent::Kind::Bend)
         taken.due = devices_[event.id.device]->order(event.id.number, event.due);
-    const auto place = std::ranges::upper_bound(pending_, taken.due, {}, &SampleEvent::due);
-    pending_.insert(place, taken);
-}
-
-std::span<const SampleEvent> SampleRenderer::eventsUntil(std::size_t frames, double start)
-{
-    std::size_t count = 0;
-    for (; count < pending_.size(); ++count) {
-        SampleEvent& event = pending_[count];
-        const double ahead = start == kOffline ? 0.0 : (event.due - start) * rate_;
-        if (ahead >= static_cast<double>(frames))
-            break;
-        event.frame = static_cast<std::size_t>(std::max(ahead, 0.0)) / kGrid * kGrid;
-    }
-    return std::span(pending_).first(count);
+    pending_.add(taken);
 }
 
 void SampleRenderer::renderBlock(float* left, float* right, std::size_t frames, double start)
 {
-    const std::span<const SampleEvent> events = eventsUntil(frames, start);
+    const std::span<const SampleEvent> events = pending_.find(frames, start, rate_, kGrid);
     std::size_t voices = events.size();
     busy_.clear();
     for (std::uint32_t i = 0; i < devices_.size(); ++i) {
@@ -173,7 +161,7 @@ void SampleRenderer::renderBlock(float* left, float* right, std::size_t frames, 
         for (std::size_t i = 0; i < busy_.size(); ++i)
             renderOne(i);
     }
-    pending_.erase(pending_.begin(), pending_.begin() + static_cast<std::ptrdiff_t>(events.size()));
+    pending_.removeFirst(events.size());
 
     std::fill_n(left, frames, 0.0F);
     std::fill_n(right, frames, 0.0F);
@@ -201,14 +189,6 @@ std::size_t SampleRenderer::voices() const
     std::size_t count = 0;
     for (const auto& device : devices_)
         count += device->sounding();
-    return count;
-}
-
-std::size_t SampleRenderer::fading() const
-{
-    std::size_t count = 0;
-    for (const auto& device : devices_)
-        count += device->fading();
     return count;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/AudioSource.h"
+#include "audio/DueEvents.h"
 #include "audio/SampleVoices.h"
 #include "base/LockFreeQueue.h"
 #include "platform/WorkerPool.h"
@@ -69,16 +70,13 @@ public:
     std::size_t voices() const override;
     bool savesWork() const override { return relief() != Relief::None; }
 
-    /// How many of the voices have been released.
-    std::size_t fading() const;
-
     Relief relief() const { return relief_.load(std::memory_order_relaxed); }
 
 private:
     void send(const SampleEvent& event);
     void receive();
     void take(const SampleEvent& event);
-    std::span<const SampleEvent> eventsUntil(std::size_t frames, double start);
+    void endAfterOverrun();
     void renderBlock(float* left, float* right, std::size_t frames, double start);
 
     double rate_;
@@ -89,10 +87,11 @@ private:
 
     LockFreeQueue<SampleEvent> queue_;
     std::atomic<bool> isOverrun_{false}; ///< The queue was full, so events are missing.
+    std::atomic<float> bend_{1.0F};      ///< The last one, which may be among them.
 
     // For the audio thread:
-    std::vector<SampleEvent> pending_; ///< Received and not yet due, by the time that they are due.
-    std::vector<std::uint32_t> busy_;  ///< The devices that take part in the block.
+    DueEvents<SampleEvent> pending_;
+    std::vector<std::uint32_t> busy_; ///< The devices that take part in the block.
     std::atomic<Relief> relief_{Relief::None};
 };
 

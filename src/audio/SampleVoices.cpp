@@ -1,6 +1,7 @@
 #include "audio/SampleVoices.h"
 
 #include "base/FormatError.h"
+#include "base/fading.h"
 
 #include <al.h>
 
@@ -15,11 +16,9 @@ namespace {
 // See docs/decisions.md, 27.
 constexpr float kFirstGain = 0.4F;
 
-/// A released sample ends below this gain.
-constexpr float kSilentGain = 0.02F;
-
-/// A released sample loses a tenth of its gain in a sixtieth of a second.
-const double kDecayPerSecond = 60.0 * std::log(0.9);
+/// The natural logarithm of what a second leaves of the gain of a released sample.
+const double kDecayPerSecond =
+    std::log(kFadeFactor) / std::chrono::duration<double>(kFadeInterval).count();
 
 /// What ends at once fades this long, so that it does not click.
 constexpr double kEndSeconds = 0.005;
@@ -123,7 +122,10 @@ void SampleVoices::setRate(double rate)
         return;
     rate_ = rate;
     step_ = stepAt(rate);
-    device_->setRate(rate);
+    tuning_ = static_cast<float>(device_->setRate(rate) / rate);
+    const auto here = scope();
+    for (const std::uint32_t index : active_)
+        setPitch(voices_[index]);
 }
 
 double SampleVoices::order(std::uint32_t number, double due)
@@ -164,7 +166,7 @@ void SampleVoices::render(std::span<const SampleEvent> events, std::uint32_t dev
         done = advance(done, end);
     }
     findEnded();
-    count();
+    sounding_.store(active_.size(), std::memory_order_relaxed);
 }
 
 std::size_t SampleVoices::advance(std::size_t done, std::size_t end)
@@ -203,7 +205,7 @@ void SampleVoices::fade(Voice& voice, float decay, std::size_t frames)
         return;
     case Phase::Tail:
         voice.gain *= decay;
-        if (voice.gain < kSilentGain)
+        if (voice.gain < static_cast<float>(kFaded))
             end(voice);
         break;
     case Phase::Ending:
@@ -228,14 +230,6 @@ void SampleVoices::findEnded()
         if (state != AL_PLAYING)
             stop(voice);
     }
-}
-
-void SampleVoices::count()
-{
-    const auto held = std::ranges::count_if(
-        active_, [this](std::uint32_t index) { return voices_[index].phase == Phase::Held; });
-    sounding_.store(active_.size(), std::memory_order_relaxed);
-    fading_.store(active_.size() - static_cast<std::size_t>(held), std::memory_order_relaxed);
 }
 
 void SampleVoices::apply(const SampleEvent& event)
@@ -359,7 +353,7 @@ void SampleVoices::endOldestTails()
 
 void SampleVoices::setPitch(const Voice& voice)
 {
-    alSourcef(voice.source, AL_PITCH, voice.pitch * bend_);
+    alSourcef(voice.source, AL_PITCH, voice.pitch * bend_ * tuning_);
 }
 
 void SampleVoices::setCheap(Voice& voice, bool cheap)

@@ -65,10 +65,8 @@ public:
     const float* left() const { return left_.data(); }
     const float* right() const { return right_.data(); }
 
-    /// The number of voices that sound, and how many of them have been released. Safe to call on
-    /// any thread.
+    /// The number of voices that sound. May be called on any thread.
     std::size_t sounding() const { return sounding_.load(std::memory_order_relaxed); }
-    std::size_t fading() const { return fading_.load(std::memory_order_relaxed); }
 
 private:
     enum class Phase : std::uint8_t { Silent, Held, Tail, Ending };
@@ -106,11 +104,11 @@ private:
     void fade(std::size_t frames);
     void fade(Voice& voice, float decay, std::size_t frames);
     void findEnded();
-    void count();
 
     std::unique_ptr<OpenALDevice> device_;
     double rate_;
-    std::size_t step_; ///< The most frames for which a gain changes evenly.
+    float tuning_ = 1.0F; ///< The rate of the device divided by `rate_`.
+    std::size_t step_;    ///< The most frames for which a gain changes evenly.
 
     std::vector<Voice> voices_;        ///< Two for each sample.
     std::vector<std::uint8_t> second_; ///< By sample: 1 if the second voice was started last.
@@ -129,7 +127,7 @@ private:
 
     std::array<float, 2 * kBlock> interleaved_{};
     std::array<float, kBlock> left_{}, right_{};
-    std::atomic<std::size_t> sounding_{0}, fading_{0};
+    std::atomic<std::size_t> sounding_{0};
 };
 
 } // namespace velmora

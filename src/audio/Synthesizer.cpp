@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
+#include <span>
 
 namespace velmora {
 
@@ -74,23 +74,34 @@ void Synthesizer::midiEvent(int status, int data1, int data2)
         return;
     }
     // Retuning sends the bends of all channels, and most of them are unchanged.
-    double& last = lastBend_[channelOf(status)];
     const double cents = centsOf(data1, data2);
-    if (cents != last && send({due_, status, data1, data2, cents}))
-        last = cents;
+    if (sentBends_[channelOf(status)].exchange(cents) != cents)
+        send({due_, status, data1, data2, cents});
 }
 
 void Synthesizer::bend(double cents)
 {
+    sentBends_.back() = cents;
     send({due_, kWheel, 0, 0, cents});
 }
 
-bool Synthesizer::send(const Event& event)
+void Synthesizer::send(const Event& event)
 {
-    if (queue_.push(event))
-        return true;
-    overflowed_.store(true, std::memory_order_release);
-    return false;
+    if (!queue_.push(event))
+        overflowed_.store(true, std::memory_order_release);
+}
+
+// Messages of a channel keep their order.
+void Synthesizer::receive()
+{
+    if (overflowed_.exchange(false, std::memory_order_acquire))
+        silenceAfterOverflow();
+    for (; queue_.front() != nullptr && !pending_.isFull(); queue_.pop()) {
+        Event event = *queue_.front();
+        double& due = event.status == kWheel ? dues_.back() : dues_[channelOf(event.status)];
+        due = event.due = std::max(due, event.due);
+        pending_.add(event);
+    }
 }
 
 void Synthesizer::apply(const Event& event)
@@ -161,51 +172,60 @@ void Synthesizer::applyBends(std::size_t own)
 void Synthesizer::silence(std::size_t own)
 {
     forLanes(own, [](SynthesizerLane& lane) { lane.allSoundsOff(); });
-    reverb_.silence();
+    reverb_->silence();
 }
 
+// See docs/decisions.md, 130.
 void Synthesizer::silenceAfterOverflow()
 {
-    // The lost message may have been a note-off: see docs/decisions.md, 130.
-    for (const Event* event = queue_.front(); event != nullptr; event = queue_.front()) {
-        const int kind = event->status & midi::kKindMask;
+    // The lost message may have been a note-off.
+    const auto applyUnlessNote = [this](const Event& event) {
+        const int kind = event.status & midi::kKindMask;
         if (kind != midi::kNoteOn && kind != midi::kNoteOff)
-            apply(*event);
-        queue_.pop();
+            apply(event);
+    };
+    std::ranges::for_each(pending_.all(), applyUnlessNote);
+    pending_.clear();
+    for (; queue_.front() != nullptr; queue_.pop())
+        applyUnlessNote(*queue_.front());
+    // It may also have been a bend.
+    wheel_ = sentBends_.back();
+    for (std::size_t channel = 0; channel < midi::kChannels; ++channel) {
+        if (const auto own = ownLaneOf(channel)) {
+            bends_[*own] = sentBends_[channel];
+            applyBends(*own);
+            silence(*own);
+        }
     }
-    for (std::size_t own = 0; own < kOwnLanes; ++own)
-        silence(own);
 }
 
-std::size_t Synthesizer::frameOf(const Event& event, double start, std::size_t frames) const
+void Synthesizer::setRate(double rate)
 {
-    const double frame = std::round((event.due - start) * rate_);
-    return start == kOffline || frame <= 0.0
-               ? 0
-               : static_cast<std::size_t>(std::min(frame, static_cast<double>(frames)));
+    if (rate == rate_)
+        return;
+    rate_ = rate;
+    reverb_.emplace(rate);
+    for (const auto& lane : lanes_)
+        lane->setRate(rate);
 }
 
 void Synthesizer::render(float* left, float* right, std::size_t frames, double start)
 {
     std::fill_n(left, frames, 0.0F);
     std::fill_n(right, frames, 0.0F);
-    if (overflowed_.exchange(false, std::memory_order_acquire))
-        silenceAfterOverflow();
+    receive();
+    const std::span<const Event> events = pending_.find(frames, start, rate_);
+    auto event = events.begin();
     for (std::size_t done = 0; done < frames;) {
-        std::size_t next = frames;
-        for (const Event* event = queue_.front(); event != nullptr; event = queue_.front()) {
-            next = std::max(done, frameOf(*event, start, frames));
-            if (next > done)
-                break;
+        for (; event != events.end() && event->frame <= done; ++event)
             apply(*event);
-            queue_.pop();
-            next = frames;
-        }
+        const std::size_t next = event == events.end() ? frames : event->frame;
         for (const auto& lane : lanes_)
             lane->mix(left + done, right + done, next - done);
         done = next;
     }
-    reverb_.process(left, right, frames);
+    pending_.removeFirst(events.size());
+    reverb_->process(left, right, frames);
     std::size_t voices = 0;
     for (const auto& lane : lanes_)
         voices += lane->voices();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/AudioSource.h"
+#include "audio/DueEvents.h"
 #include "audio/MusicDevice.h"
 #include "audio/Reverb.h"
 #include "audio/SynthesizerLane.h"
@@ -10,6 +11,7 @@
 #include <atomic>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace velmora {
@@ -39,6 +41,10 @@ public:
     AudioSource* source() override { return this; }
     std::size_t voices() const override { return voices_; }
 
+    /// Keeps the pitch. A synthesizer that is created at the rate sounds cleaner, because
+    /// FluidSynth itself cannot change its rate.
+    void setRate(double rate) override;
+
     void render(float* left, float* right, std::size_t frames, double start) override;
 
 private:
@@ -46,10 +52,14 @@ private:
         double due;
         int status; ///< kWheel for a bend of all channels.
         int data1, data2;
-        double cents; ///< Of a bend.
+        double cents;          ///< Of a bend.
+        std::size_t frame = 0; ///< Its place in the block, once that is known.
     };
 
     static constexpr int kWheel = 0;
+
+    /// The channels, and one more for the wheel.
+    static constexpr std::size_t kOrders = 17;
 
     /// A busy block has dozens of messages; the rest is for a renderer that has stalled.
     static constexpr std::size_t kQueue = 1 << 14;
@@ -58,8 +68,8 @@ private:
     static constexpr std::size_t kOwnLanes = 12;
     static constexpr std::size_t kLanes = kOwnLanes + 24;
 
-    bool send(const Event& event);
-    std::size_t frameOf(const Event& event, double start, std::size_t frames) const;
+    void send(const Event& event);
+    void receive();
     void apply(const Event& event);
     void noteOn(std::size_t own, int key, int velocity);
     SynthesizerLane& laneForNote(std::size_t own);
@@ -80,12 +90,15 @@ private:
     std::array<std::size_t, kLanes> ownLanes_{}; ///< Whose channel each lane plays.
     std::array<double, kOwnLanes> bends_{};      ///< Cents, of each channel.
     double wheel_ = 0.0;                         ///< Cents, of all channels.
-    Reverb reverb_;
+    std::optional<Reverb> reverb_;
     std::filesystem::path bank_;
 
-    double due_ = 0.0;                  ///< Of the next messages.
-    std::array<double, 16> lastBend_{}; ///< The last bend sent on each channel.
+    double due_ = 0.0; ///< Of the next messages.
+    /// The last bend, in cents, of each channel and of the wheel.
+    std::array<std::atomic<double>, kOrders> sentBends_{};
     LockFreeQueue<Event> queue_{kQueue};
+    DueEvents<Event> pending_{kQueue};
+    std::array<double, kOrders> dues_{}; ///< When the last message of each channel is due.
     std::atomic<bool> overflowed_{false};
     std::atomic<std::size_t> voices_{0};
 };

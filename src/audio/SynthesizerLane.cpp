@@ -32,10 +32,10 @@ constexpr double kHighestRate = 96000.0;
 } // namespace
 
 SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
-    : divisor_(std::max(1.0, std::ceil(rate / kHighestRate))),
+    : synthRate_(rate / std::max(1.0, std::ceil(rate / kHighestRate))), divisor_(rate / synthRate_),
       settings_(new_fluid_settings(), delete_fluid_settings), synth_(nullptr, delete_fluid_synth)
 {
-    if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate / divisor_) != FLUID_OK)
+    if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", synthRate_) != FLUID_OK)
         throw std::runtime_error(
             fmt::format("FluidSynth does not support a sample rate of {:g} Hz", rate));
     fluid_settings_setint(settings_.get(), "synth.polyphony", kQueuedVoices);
@@ -65,6 +65,12 @@ SynthesizerLane::~SynthesizerLane()
     // Otherwise the synthesizer would delete the bank.
     if (borrowedBank_ != nullptr)
         fluid_synth_remove_sfont(synth_.get(), borrowedBank_);
+}
+
+void SynthesizerLane::setRate(double rate)
+{
+    divisor_ = rate / synthRate_;
+    applyCents();
 }
 
 bool SynthesizerLane::loadBank(const char* path)

@@ -26,6 +26,10 @@ public:
     SynthesizerLane(const SynthesizerLane&) = delete;
     SynthesizerLane& operator=(const SynthesizerLane&) = delete;
 
+    /// Sets the rate of the output, at the same pitch. What the synthesizer plays above half of a
+    /// lower rate is heard as other tones.
+    void setRate(double rate);
+
     /// Loads the SoundFont that the lanes share. Returns false if FluidSynth cannot read it.
     bool loadBank(const char* path);
 
@@ -76,7 +80,8 @@ private:
     /// Writes the next block, or silence if there are no voices.
     void renderBlock(float* left, float* right);
 
-    double divisor_; ///< The output's rate divided by the synthesizer's.
+    double synthRate_; ///< In hertz; fixed, because FluidSynth cannot change it.
+    double divisor_;   ///< The output's rate divided by the synthesizer's.
     Owned<fluid_settings_t> settings_;
     Owned<fluid_synth_t> synth_;
     fluid_sfont_t* borrowedBank_ = nullptr;

@@ -1,15 +1,9 @@
 #include "sound/Sample.h"
 
 #include "audio/SampleRenderer.h"
+#include "base/fading.h"
 
 namespace velmora {
-
-namespace {
-
-/// A released sample stops below this gain.
-constexpr double kSilentGain = 0.02;
-
-} // namespace
 
 void Sample::setBuffer(const Sound& sound, double rootPitch)
 {
@@ -54,7 +48,7 @@ void Sample::fade(double factor)
     if (!released_)
         return;
     gain_ *= factor;
-    if (gain_ < kSilentGain)
+    if (gain_ < kFaded)
         silence();
 }
 

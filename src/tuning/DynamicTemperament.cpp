@@ -1,6 +1,7 @@
 #include "tuning/DynamicTemperament.h"
 
 #include "base/Log.h"
+#include "base/fading.h"
 #include "tuning/Tunable.h"
 
 #include <algorithm>
@@ -15,9 +16,6 @@ constexpr std::array<std::uint8_t, 12> kHome = {1, 3, 6, 9, 11, 14, 16, 19, 21, 
 
 /// The score of a spelling whose last note has not faded.
 constexpr float kHold = 12.0F;
-
-/// A pitch class whose weight falls below this has faded.
-constexpr double kFaded = 0.02;
 
 } // namespace
 

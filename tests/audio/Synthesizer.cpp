@@ -115,15 +115,49 @@ TEST(Synthesizer, StartsEachNoteExactlyAtItsFrame)
     }
 }
 
+TEST(Synthesizer, PlaysInTheOrderInWhichMessagesAreDue)
+{
+    constexpr double kStart = 1000.0;
+    Synthesizer synthesizer(kRate, {kBank});
+    const auto send = [&](double frame, int status, int key) {
+        synthesizer.setDue(kStart + frame / kRate);
+        synthesizer.midiEvent(status, key, 100);
+    };
+    send(0, 0xC0, kSteadyProgram);
+    send(0, 0xC1, kSteadyProgram);
+    send(3000, 0x90, 60);
+    send(1000, 0x91, 61); // from another device
+    synthesizer.setDue(0.0);
+    synthesizer.midiEvent(0x80, 60, 0); // such as from a window
+    Stereo sound(4000);
+    synthesizer.render(sound.left.data(), sound.right.data(), sound.left.size(), kStart);
+    EXPECT_EQ(peak(std::span(sound.left).first(1000)), 0.0F);
+    EXPECT_GT(peak(std::span(sound.left).subspan(1000, 500)), 0.0F);
+    send(4000, 0x81, 61);
+    rendered(synthesizer, 3 * kRate);
+    EXPECT_EQ(nextPeak(synthesizer), 0.0F) << "a key is not released before it is struck";
+}
+
 TEST(Synthesizer, PlaysInTuneAtEveryRateAndBend)
 {
-    const auto hertz = [](double rate, double cents) {
-        Synthesizer synthesizer(rate, {kBank});
+    const auto hertz = [](double rate, double cents, double firstRate = 0.0, int lost = 0) {
+        Synthesizer synthesizer(firstRate > 0.0 ? firstRate : rate, {kBank});
+        synthesizer.setRate(rate);
+        const auto bend = [&] {
+            synthesizer.midiEvent(0xE4, 0, 32); // -100 cents
+            synthesizer.bend(cents + 100.0);
+        };
+        for (int i = 0; i < lost; ++i)
+            synthesizer.midiEvent(0xB0, midi::kChannelVolume, 100);
+        if (lost > 0) {
+            bend();
+            rendered(synthesizer, 100);
+        }
         synthesizer.midiEvent(0xC4, kSteadyProgram, 0);
         synthesizer.midiEvent(0x94, 64, 100);
         rendered(synthesizer, static_cast<std::size_t>(rate) / 2);
-        synthesizer.midiEvent(0xE4, 0, 32); // -100 cents
-        synthesizer.bend(cents + 100.0);
+        if (lost == 0)
+            bend();
         return measuredHertz(rendered(synthesizer, static_cast<std::size_t>(rate)).left, rate,
                              329.6 * std::exp2(cents / 1200.0));
     };
@@ -131,7 +165,10 @@ TEST(Synthesizer, PlaysInTuneAtEveryRateAndBend)
     for (const double rate : {22050.0, 44123.4, 96000.0, 96001.0, 192000.0, 384000.0}) {
         for (const double bend : {-431.7, 0.0, 19.3, 350.5})
             EXPECT_NEAR(cents(hertz(rate, bend), reference), bend, 0.05) << rate << " Hz";
+        EXPECT_NEAR(cents(hertz(rate, 0.0, kRate), reference), 0.0, 0.05) << rate << " Hz later";
     }
+    EXPECT_NEAR(cents(hertz(kRate, 19.3, kRate, 20000), reference), 19.3, 0.05)
+        << "although the queue was full";
 }
 
 TEST(Synthesizer, ReverberatesEquallyLongAtEveryRate)
