@@ -120,6 +120,13 @@ void Desktop::connectWindows()
     connect(&panel, &InstrumentPanel::instrumentChosen, this, &Desktop::selectInstrument);
     connect(&panel, &InstrumentPanel::refused, this, &Desktop::showError);
     connect(&workspace_.tuningPanel(), &TuningPanel::openRequested, this, &Desktop::askForFiles);
+    const StatusLine& status = workspace_.status();
+    connect(&status, &StatusLine::instrumentClicked, &workspace_, &Workspace::showInstrument);
+    connect(&status, &StatusLine::tuningClicked, &workspace_, &Workspace::showTuning);
+    connect(&status, &StatusLine::soundClicked, &preferencesWindow_,
+            [this] { preferencesWindow_.presentPane(PreferencesWindow::Pane::Sound); });
+    connect(&status, &StatusLine::midiClicked, &preferencesWindow_,
+            [this] { preferencesWindow_.presentPane(PreferencesWindow::Pane::Midi); });
     connect(&instrumentsWindow_, &InstrumentsWindow::openRequested, this, &Desktop::askForFiles);
     connect(&instrumentsWindow_, &InstrumentsWindow::instrumentChosen, this,
             &Desktop::selectInstrument);

@@ -10,6 +10,7 @@
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QKeyEvent>
@@ -85,8 +86,9 @@ bool KeyRouter::keeps(const QWidget& widget, const QKeyEvent& event) const
     if (isText(widget))
         return true;
     if (isArrow(key))
-        return isAny<QAbstractSlider, QAbstractItemView, QComboBox, QTabBar>(widget) &&
-               !isAny<QScrollBar>(widget);
+        return (isAny<QAbstractSlider, QAbstractItemView, QComboBox, QTabBar>(widget) &&
+                !isAny<QScrollBar>(widget)) ||
+               (isFocusedByKeyboard_ && isAny<QCheckBox>(widget)); // moves between stops
     return isConfirming(key) && isFocusedByKeyboard_ &&
            isAny<QAbstractButton, QAbstractItemView, QComboBox>(widget);
 }

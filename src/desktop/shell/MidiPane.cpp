@@ -1,6 +1,7 @@
 #include "desktop/shell/MidiPane.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/widgets/deviceText.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -25,9 +26,8 @@ enum Column { kNameColumn, kOnColumn, kChannelColumn, kKeysColumn, kColumns };
 /// Names a widget for tests and for screen readers.
 void setNames(QWidget& widget, const char* setting, const std::string& device)
 {
-    const QString name = QString::fromStdString(device);
-    widget.setObjectName(QString("%1 %2").arg(setting, name));
-    widget.setAccessibleName(MidiPane::tr("%1 of %2").arg(widget.toolTip(), name));
+    widget.setObjectName(QString("%1 %2").arg(setting, QString::fromStdString(device)));
+    widget.setAccessibleName(MidiPane::tr("%1 of %2").arg(widget.toolTip(), deviceText(device)));
 }
 
 } // namespace
@@ -69,11 +69,11 @@ void MidiPane::read()
 
 void MidiPane::addRow(int row, const KnownDevice& device)
 {
-    const QString name = QString::fromStdString(device.name);
+    const QString text = deviceText(device.name);
     auto* label =
-        new QTableWidgetItem(device.isConnected ? name : tr("%1 (not connected)").arg(name));
+        new QTableWidgetItem(device.isConnected ? text : tr("%1 (not connected)").arg(text));
     label->setFlags(device.isConnected ? Qt::ItemIsEnabled : Qt::NoItemFlags);
-    label->setToolTip(name);
+    label->setToolTip(QString::fromStdString(device.name));
     table_->setItem(row, kNameColumn, label);
     table_->setCellWidget(row, kOnColumn, makeSwitch(device));
     table_->setCellWidget(row, kChannelColumn, makeChannel(device));

@@ -68,6 +68,12 @@ PreferencesWindow::PreferencesWindow(AppDelegate& application)
     rememberPlace(*this, "preferences");
 }
 
+void PreferencesWindow::presentPane(Pane pane)
+{
+    paneActions_->actions().at(static_cast<int>(pane))->trigger();
+    present(*this);
+}
+
 void PreferencesWindow::addPane(const QString& name, const char* iconName, QWidget* pane)
 {
     panes_->addWidget(pane);

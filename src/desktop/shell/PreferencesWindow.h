@@ -20,7 +20,12 @@ class PreferencesWindow : public QMainWindow {
     Q_OBJECT
 
 public:
+    enum class Pane { General, Colors, Midi, Sound };
+
     explicit PreferencesWindow(AppDelegate& application);
+
+    /// Brings the window to the front with a pane.
+    void presentPane(Pane pane);
 
 signals:
     /// A preference has changed that affects the size or the look of the views, or how MIDI devices

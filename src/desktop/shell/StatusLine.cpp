@@ -2,18 +2,19 @@
 
 #include "app/AppDelegate.h"
 #include "audio/outputDrivers.h"
+#include "desktop/instruments/PlayingControls.h"
+#include "desktop/shell/StatusItem.h"
+#include "desktop/tuning/tuningText.h"
+#include "desktop/widgets/deviceText.h"
 #include "desktop/widgets/icons.h"
 #include "preferences/settings.h"
 
-#include <QLabel>
 #include <QMessageBox>
 #include <QToolButton>
 
 namespace velmora {
 
 namespace {
-
-constexpr int kPartMargin = 6;
 
 QString describe(const OutputStatus& output)
 {
@@ -27,33 +28,58 @@ QString describe(const OutputStatus& output)
 } // namespace
 
 StatusLine::StatusLine(AppDelegate& application)
-    : application_(application), instrument_(new QLabel), tuning_(new QLabel), output_(new QLabel),
-      inputs_(new QLabel), noticesButton_(new QToolButton)
+    : application_(application), noticesButton_(new QToolButton)
 {
     noticesButton_->setIcon(icon("warning"));
     noticesButton_->setAutoRaise(true);
+    noticesButton_->setFocusPolicy(Qt::TabFocus);
     noticesButton_->hide();
     connect(noticesButton_, &QToolButton::clicked, this, &StatusLine::showNotices);
     // A temporary message hides these widgets. The empty widget pushes the others to the right.
     addWidget(new QWidget, 1);
     addWidget(noticesButton_);
-    instrument_->setToolTip(tr("The current instrument"));
-    tuning_->setToolTip(tr("The current tuning"));
-    output_->setToolTip(tr("The sound output: its driver, sample rate and period"));
-    for (QLabel* label : {instrument_, tuning_, output_, inputs_}) {
-        label->setTextFormat(Qt::PlainText);
-        label->setContentsMargins(kPartMargin, 0, kPartMargin, 0);
-        addWidget(label);
-    }
+    instrument_ = addItem(&StatusLine::instrumentClicked);
+    tuning_ = addItem(&StatusLine::tuningClicked);
+    reading_ = addItem(&StatusLine::midiClicked);
+    output_ = addItem(&StatusLine::soundClicked);
+    inputs_ = addItem(&StatusLine::midiClicked);
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::tuningChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::outputChanged, this, &StatusLine::showOutput);
+    connect(&application_.playing(), &PlayingOptions::changed, this, &StatusLine::showReading);
+    showReading();
+}
+
+StatusItem* StatusLine::addItem(void (StatusLine::*clicked)())
+{
+    auto* item = new StatusItem;
+    addWidget(item);
+    connect(item, &QToolButton::clicked, this, clicked);
+    return item;
 }
 
 void StatusLine::showSound()
 {
-    instrument_->setText(QString::fromStdString(application_.instrumentName()));
-    tuning_->setText(QString::fromStdString(application_.tuningName()));
+    const QString instrument = QString::fromStdString(application_.instrumentName());
+    instrument_->show(instrument,
+                      tr("Instrument: %1\nClick to show its programs or stops").arg(instrument));
+    const auto [title, detail] = tuningText(application_, application_.tuningName());
+    tuning_->show(title, tr("Tuning: %1 (%2)\nClick to show all tunings").arg(title, detail));
+}
+
+void StatusLine::showReading()
+{
+    const PlayingSettings& settings = application_.playing().settings();
+    const int semitones = settings.transposition;
+    if (settings.isPlain)
+        reading_->show(tr("Plain reading"),
+                       tr("MIDI devices are read plainly: no pedals, no touch, no transposition"));
+    else if (semitones != 0)
+        reading_->show(tr("Transposed %1").arg(transpositionText(semitones)),
+                       tr("MIDI keyboards sound %1 semitones away from their keys")
+                           .arg(transpositionText(semitones)));
+    else
+        reading_->hide();
 }
 
 void StatusLine::showDevices()
@@ -72,19 +98,22 @@ void StatusLine::showDevices()
 
 void StatusLine::showMidiInputs()
 {
-    QStringList names;
-    for (const std::string& name : application_.midiInputs()->names())
+    QStringList names, texts;
+    for (const std::string& name : application_.midiInputs()->names()) {
         names += QString::fromStdString(name);
-    inputs_->setText(names.isEmpty()     ? tr("No MIDI input")
-                     : names.size() == 1 ? names.front()
-                                         : tr("%1 MIDI inputs").arg(names.size()));
-    inputs_->setToolTip(names.isEmpty() ? tr("A MIDI device is used as soon as it is connected")
-                                        : names.join("\n"));
+        texts += deviceText(name);
+    }
     const QString notice = tr("There is no MIDI device. Connect one, or play with the mouse.");
-    if (names.isEmpty())
+    if (names.isEmpty()) {
+        inputs_->show(tr("No MIDI input"), tr("A MIDI device is used as soon as it is connected"),
+                      StatusItem::Kind::Missing);
         addNotice(notice);
-    else
-        removeNotice(notice);
+        return;
+    }
+    const auto count = static_cast<int>(names.size());
+    inputs_->show(count == 1 ? texts.front() : tr("%n MIDI input(s)", nullptr, count),
+                  tr("MIDI devices:\n%1").arg(names.join("\n")));
+    removeNotice(notice);
 }
 
 void StatusLine::showOutput()
@@ -94,12 +123,13 @@ void StatusLine::showOutput()
         return; // the next one is about to play
     removeNotice(missingOutput_);
     missingOutput_ = QString::fromStdString(output.missing);
-    if (!missingOutput_.isEmpty()) {
-        output_->setText(missingOutput_);
+    if (!missingOutput_.isEmpty())
         addNotice(missingOutput_);
-    } else {
-        output_->setText(output.driver == "none" ? tr("No sound output") : describe(output));
-    }
+    const bool isMissing = !missingOutput_.isEmpty();
+    output_->show(output.driver == "none" ? tr("No sound output") : describe(output),
+                  isMissing ? missingOutput_
+                            : tr("The sound output: its driver, sample rate and period"),
+                  isMissing ? StatusItem::Kind::Missing : StatusItem::Kind::Normal);
 }
 
 void StatusLine::addNotice(const QString& notice)

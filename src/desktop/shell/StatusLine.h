@@ -2,15 +2,15 @@
 
 #include <QStatusBar>
 
-class QLabel;
 class QToolButton;
 
 namespace velmora {
 
 class AppDelegate;
+class StatusItem;
 
-/// Shows the instrument, the tuning, the sound output and the MIDI inputs, and notices about
-/// anything that is missing.
+/// Shows the instrument, the tuning, how MIDI devices are read, the sound output and the MIDI
+/// inputs, which can all be clicked, and notices about anything that is missing.
 class StatusLine : public QStatusBar {
     Q_OBJECT
 
@@ -27,15 +27,24 @@ public:
     /// Removes a notice whose cause is gone.
     void removeNotice(const QString& notice);
 
+signals:
+    // The user wants to change what an item shows.
+    void instrumentClicked();
+    void tuningClicked();
+    void soundClicked();
+    void midiClicked();
+
 private:
+    StatusItem* addItem(void (StatusLine::*clicked)());
     void showSound();
+    void showReading();
     void showOutput();
     void showMidiInputs();
     void updateNotices();
     void showNotices();
 
     AppDelegate& application_;
-    QLabel *instrument_, *tuning_, *output_, *inputs_;
+    StatusItem *instrument_, *tuning_, *reading_, *output_, *inputs_;
     QToolButton* noticesButton_;
     QStringList notices_;
     QString missingOutput_; ///< The notice about the output; empty if none is missing.

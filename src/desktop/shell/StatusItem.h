@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QToolButton>
+
+namespace velmora {
+
+/// An item of the status line: a text that can be clicked. A long text is cut off, but screen
+/// readers read it whole.
+class StatusItem : public QToolButton {
+    Q_OBJECT
+
+public:
+    enum class Kind {
+        Normal,
+        Missing, ///< Stands out: something is not there.
+    };
+
+    explicit StatusItem(QWidget* parent = nullptr);
+
+    /// Shows a text; hides the item if it is empty. `help` is the tooltip.
+    void show(const QString& text, const QString& help, Kind kind = Kind::Normal);
+};
+
+} // namespace velmora

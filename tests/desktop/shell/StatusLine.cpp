@@ -1,0 +1,112 @@
+#include "desktop/shell/StatusLine.h"
+
+#include "desktop/instruments/InstrumentPanel.h"
+#include "desktop/shell/Desktop.h"
+#include "desktop/shell/StatusItem.h"
+#include "desktop/tuning/TuningPanel.h"
+#include "desktop/widgets/deviceText.h"
+#include "preferences/Preferences.h"
+#include "support/RecordingInstrument.h"
+
+#include <QCheckBox>
+#include <QtTest>
+#include <gmock/gmock.h>
+
+namespace velmora {
+
+using testing::ElementsAre;
+
+namespace {
+
+class StatusLineTest : public testing::Test {
+protected:
+    StatusLineTest()
+    {
+        desktop.launch({"none", {}, 0.0, 0});
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&desktop.workspace()));
+    }
+
+    /// The visible items as screen readers read them; "!" marks those that stand out.
+    std::vector<std::string> items()
+    {
+        std::vector<std::string> texts;
+        for (const auto* item : desktop.workspace().status().findChildren<StatusItem*>())
+            if (!item->isHidden())
+                texts.push_back((item->icon().isNull() || !item->font().bold() ? "" : "!") +
+                                item->accessibleName().toStdString());
+        return texts;
+    }
+
+    void click(int item)
+    {
+        desktop.workspace().status().findChildren<StatusItem*>().at(item)->click();
+    }
+
+    Desktop desktop;
+};
+
+} // namespace
+
+TEST_F(StatusLineTest, ShowsWhatPlaysAndWhatIsMissing)
+{
+    EXPECT_TRUE(QTest::qWaitFor([&] { return items().size() == 4; }));
+    EXPECT_THAT(items(), ElementsAre("MIDI Player", "Equal", "No sound output", "!No MIDI input"));
+    desktop.application().playing().setTransposition(-2);
+    EXPECT_THAT(items(), ElementsAre("MIDI Player", "Equal", "Transposed −2", "No sound output",
+                                     "!No MIDI input"));
+    desktop.application().playing().usePlainReading();
+    EXPECT_EQ(items().at(2), "Plain reading");
+    desktop.application().playing().setTransposition(0);
+    const std::string name = "An instrument with a name that is too long for the status line";
+    Calls calls;
+    RecordingInstrument instrument(calls);
+    desktop.application().setInstrument(instrument, name);
+    EXPECT_EQ(items().at(0), name);
+    EXPECT_LT(desktop.workspace().status().findChild<StatusItem*>()->text().size(), 40);
+    desktop.application().selectInstrument(0);
+}
+
+TEST_F(StatusLineTest, LeadsToWhatItShows)
+{
+    Workspace& workspace = desktop.workspace();
+    workspace.tuningPanel().parentWidget()->hide();
+    click(1);
+    EXPECT_TRUE(workspace.tuningPanel().isAncestorOf(workspace.focusWidget()));
+    click(0);
+    EXPECT_TRUE(workspace.instrumentPanel().isAncestorOf(workspace.focusWidget()));
+    click(3);
+    EXPECT_TRUE(desktop.preferencesWindow().findChild<QWidget*>("OutputStatus")->isVisible());
+    click(4);
+    EXPECT_TRUE(desktop.preferencesWindow().findChild<QWidget*>("PlainReading")->isVisible());
+}
+
+TEST_F(StatusLineTest, ArrowsMoveBetweenStopsThatTabHasReached)
+{
+    Calls calls;
+    RecordingInstrument organ(calls);
+    desktop.application().setInstrument(organ, "Organ");
+    desktop.workspace().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.workspace()));
+    const auto names = desktop.instrumentPanel().findChildren<QCheckBox*>();
+    names[0]->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(names[0], Qt::Key_Down);
+    EXPECT_TRUE(names[1]->hasFocus());
+    desktop.application().selectInstrument(0);
+}
+
+TEST(DeviceText, NamesDevicesAsPeopleDo)
+{
+    for (const auto& [name, text] : {
+             std::pair("a2j:USB Keystation [20] (capture): USB Keystation MIDI 1",
+                       "USB Keystation"),
+             {"Midi-Bridge:Keystation 49:(capture_0) Keystation 49 MIDI 1", "Keystation 49"},
+             {"system:midi_capture_2", "MIDI port 2"},
+             {"jack-keyboard:midi_out", "jack-keyboard"},
+             {"Arturia KeyStep 32", "Arturia KeyStep 32"},
+             {"Launchkey: DAW", "Launchkey: DAW"},
+             {"[1]", "[1]"},
+         })
+        EXPECT_EQ(deviceText(name), text);
+}
+
+} // namespace velmora
