@@ -9,11 +9,21 @@
 #include "preferences/Preferences.h"
 
 #include <QApplication>
+#include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace velmora {
+
+namespace {
+
+/// The key in the middle of an empty piece.
+constexpr int kEmptyMiddle = 60;
+
+} // namespace
 
 SequencePage::SequencePage(AppDelegate& application, ShellActions& actions, const QString& name,
                            RecoveryFile recovery)
@@ -140,7 +150,17 @@ void SequencePage::showEvent(QShowEvent* event)
     if (std::exchange(wasShown_, true))
         return;
     updateRollSize();
-    scrollView_->scrollTo({getPrefInt("KeyRangeLo") * getPrefInt("KeyWidth"), 0});
+    // The page gets its size once the window is laid out.
+    QTimer::singleShot(0, this, &SequencePage::scrollToNotes);
+}
+
+void SequencePage::scrollToNotes()
+{
+    const auto& notes = document_.sequence().notes();
+    const auto [lowest, highest] = std::ranges::minmax_element(notes, {}, &Note::key);
+    const double middle = notes.empty() ? kEmptyMiddle : (lowest->key + highest->key) / 2.0;
+    const auto left = std::lround((middle + 0.5) * getPrefInt("KeyWidth") - width() / 2.0);
+    scrollView_->scrollTo({static_cast<int>(left), 0});
 }
 
 } // namespace velmora

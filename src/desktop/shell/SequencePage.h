@@ -85,6 +85,9 @@ private:
     void showTitle();
     void scrollTo(double step);
 
+    /// Scrolls to the beginning, with the keys that the notes use in the middle.
+    void scrollToNotes();
+
     AppDelegate& application_;
     SequenceDocument document_;
     SequenceEditor editor_;

@@ -1,0 +1,162 @@
+#include "desktop/shell/Workspace.h"
+
+#include "desktop/instruments/InstrumentPanel.h"
+#include "desktop/keyboard/KeyboardView.h"
+#include "desktop/shell/Desktop.h"
+#include "desktop/shell/SequencePage.h"
+#include "desktop/shell/StatusLine.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTimer>
+#include <QtTest>
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace velmora {
+
+namespace {
+
+class WorkspaceTest : public testing::Test {
+protected:
+    WorkspaceTest()
+    {
+        workspace.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&workspace));
+    }
+
+    QDockWidget& panel(const char* name) { return *workspace.findChild<QDockWidget*>(name); }
+
+    Desktop desktop;
+    Workspace& workspace = desktop.workspace();
+    ShellActions& shell = desktop.shell();
+};
+
+} // namespace
+
+TEST_F(WorkspaceTest, EachLayoutRemembersItsPanels)
+{
+    EXPECT_TRUE(panel("instrument").isVisible() && panel("tuning").isVisible());
+    panel("instrument").close();
+    EXPECT_FALSE(shell.instrument->isChecked());
+    shell.editLayout->trigger();
+    EXPECT_FALSE(panel("tuning").isVisible());
+    EXPECT_TRUE(panel("keyboard").isVisible());
+    shell.tuning->trigger();
+    EXPECT_TRUE(panel("tuning").isVisible());
+    shell.playLayout->trigger();
+    EXPECT_FALSE(panel("instrument").isVisible());
+    shell.editLayout->trigger();
+    EXPECT_TRUE(panel("tuning").isVisible());
+    shell.resetLayout->trigger();
+    EXPECT_FALSE(panel("tuning").isVisible());
+    shell.playLayout->trigger();
+    shell.resetLayout->trigger();
+    EXPECT_TRUE(panel("instrument").isVisible() && shell.instrument->isChecked());
+    panel("keyboard").close();
+    EXPECT_TRUE(workspace.isVisible()) << "closing the keyboard does not quit";
+}
+
+TEST_F(WorkspaceTest, TheStageFillsTheScreenAndShowsNoDialogs)
+{
+    QTest::keyClick(&workspace, Qt::Key_F11);
+    EXPECT_TRUE(workspace.isFullScreen());
+    EXPECT_FALSE(workspace.menuBar()->isVisible());
+    bool hadDialog = false;
+    QTimer::singleShot(0, [&] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            hadDialog = true;
+            dialog->close();
+        }
+    });
+    desktop.open({"/no/such.scl"});
+    QApplication::processEvents();
+    EXPECT_FALSE(hadDialog);
+    EXPECT_TRUE(workspace.status().findChild<QAbstractButton*>()->toolTip().contains("such.scl"));
+    QTest::keyClick(&workspace, Qt::Key_F11);
+    EXPECT_FALSE(workspace.isFullScreen());
+    EXPECT_TRUE(workspace.menuBar()->isVisible());
+}
+
+TEST_F(WorkspaceTest, KeysReachThePieceWhateverWasClicked)
+{
+    const Transport& transport = desktop.pages().create().document().transport();
+    const auto startsWith = [&](QWidget& place) {
+        QTest::keyClick(&place, Qt::Key_Space);
+        const bool isPlaying = transport.mode() == Transport::Mode::Playing;
+        if (isPlaying)
+            desktop.pages().stopPlaying();
+        return isPlaying;
+    };
+    QTest::mouseClick(&workspace.keyboard(), Qt::LeftButton);
+    EXPECT_TRUE(startsWith(*QApplication::focusWidget()));
+    auto& menu = *workspace.instrumentPanel().findChild<QComboBox*>();
+    menu.setFocus(Qt::MouseFocusReason);
+    EXPECT_TRUE(startsWith(menu));
+    menu.clearFocus();
+    menu.setFocus(Qt::TabFocusReason);
+    EXPECT_FALSE(startsWith(menu)) << "the space bar opens the menu";
+    menu.hidePopup();
+    auto& tempo = *workspace.findChild<QSpinBox*>();
+    tempo.setFocus(Qt::MouseFocusReason);
+    EXPECT_FALSE(startsWith(tempo)) << "a field keeps its keys";
+
+    const LiveKeys& keys = desktop.application().player().liveKeys();
+    QTest::keyPress(&workspace.keyboard(), Qt::Key_A);
+    EXPECT_NE(keys.state(60), 0);
+    tempo.setFocus();
+    QTest::keyRelease(&tempo, Qt::Key_A);
+    EXPECT_EQ(keys.state(60), 0) << "released although the focus has moved";
+    QTest::keyPress(&workspace.keyboard(), Qt::Key_A);
+    desktop.preferencesWindow().show();
+    desktop.preferencesWindow().activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&desktop.preferencesWindow()));
+    EXPECT_EQ(keys.state(60), 0) << "its release goes to another window";
+    EXPECT_FALSE(startsWith(desktop.preferencesWindow()));
+    QTest::keyClick(&desktop.preferencesWindow(), Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(desktop.pages().all().size(), 2) << "shortcuts work in every window";
+    desktop.preferencesWindow().close();
+    for (SequencePage* page : desktop.pages().all())
+        page->settle();
+}
+
+TEST_F(WorkspaceTest, RecordingWithoutAPieceBeginsOne)
+{
+    QTest::keyClick(&workspace, Qt::Key_Return);
+    ASSERT_NE(desktop.pages().current(), nullptr);
+    EXPECT_EQ(desktop.pages().current()->document().transport().mode(), Transport::Mode::Recording);
+    desktop.pages().current()->settle();
+}
+
+TEST_F(WorkspaceTest, ShortcutsCanBeChangedAndRestored)
+{
+    Commands& commands = desktop.commands();
+    const QKeySequence key(Qt::CTRL | Qt::Key_J);
+    commands.setShortcut(*shell.newSequence, key);
+    EXPECT_EQ(commands.userOf(key, *shell.open), shell.newSequence);
+    EXPECT_EQ(commands.userOf(key, *shell.newSequence), nullptr);
+    EXPECT_TRUE(shell.newSequence->toolTip().endsWith("(Ctrl+J)"));
+    QTest::keyClick(&workspace, Qt::Key_J, Qt::ControlModifier);
+    EXPECT_EQ(workspace.tabs().count(), 1);
+    {
+        Commands later;
+        const ShellActions others(desktop.application(), later);
+        EXPECT_EQ(others.newSequence->shortcut(), key) << "remembered";
+    }
+    commands.restoreDefaults();
+    EXPECT_EQ(shell.newSequence->shortcut(), QKeySequence(QKeySequence::New));
+    std::set<QKeySequence> used;
+    for (const Commands::Command& command : commands.all())
+        for (const QKeySequence& shortcut : command.action->shortcuts())
+            EXPECT_TRUE(used.insert(shortcut).second) << shortcut.toString().toStdString();
+}
+
+} // namespace velmora
