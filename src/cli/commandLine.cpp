@@ -5,6 +5,7 @@
 #include "base/Log.h"
 #include "cli/commands.h"
 #include "cli/names.h"
+#include "cli/version.h"
 #include "desktop/shell/runDesktop.h"
 
 #include <CLI/CLI.hpp>
@@ -181,7 +182,7 @@ int runWindows(int argc, char** argv, const Arguments& arguments)
 int run(CLI::App& program, int argc, char** argv)
 {
     Arguments arguments;
-    program.set_version_flag("--version", "velmora " VELMORA_VERSION);
+    program.set_version_flag("--version", "velmora " + version());
     program.require_subcommand(0, 1);
     program.add_option("files", arguments.files, "MIDI files, instruments and tunings to open");
     CLI::App* renderCommand = addRender(program, arguments);
@@ -201,6 +202,8 @@ int run(CLI::App& program, int argc, char** argv)
     devicesCommand->add_flag(
         "--watch", arguments.watches,
         "Print the delay, the load and the messages of live playing each second");
+    CLI::App* doctorCommand =
+        addJson(program.add_subcommand("doctor", "Show what a report of a fault needs"), arguments);
     program.parse(argc, argv);
     if (program.get_subcommands().empty())
         return runWindows(argc, argv, arguments);
@@ -208,6 +211,10 @@ int run(CLI::App& program, int argc, char** argv)
         if (program.count(option) > 0)
             throw CLI::ValidationError(option, "must follow the command");
 
+    if (*doctorCommand) {
+        doctor(arguments.json);
+        return 0;
+    }
     const QCoreApplication application(argc, argv);
     arguments.selection.instrument = arguments.instrument;
     if (arguments.program)

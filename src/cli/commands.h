@@ -37,4 +37,9 @@ void devices(bool json);
 /// lines of JSON. Needs a QCoreApplication.
 void watchDevices(bool json);
 
+/// Prints what a report of a fault needs: the versions, what the machine has, and what would help
+/// where something is missing. Must be called while the program has only one thread, without a
+/// QCoreApplication.
+void doctor(bool json);
+
 } // namespace velmora

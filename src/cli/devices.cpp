@@ -1,9 +1,5 @@
 #include "cli/commands.h"
-
-#include "app/preferredOutput.h"
-#include "audio/Synthesizer.h"
-#include "audio/outputDrivers.h"
-#include "platform/quiet.h"
+#include "cli/deviceInfo.h"
 
 #include <nlohmann/json.hpp>
 #include <spdlog/fmt/fmt.h>
@@ -13,44 +9,6 @@ namespace velmora {
 using Json = nlohmann::ordered_json;
 
 namespace {
-
-Json describeMidi()
-{
-    class Deaf : public MidiReceiver {
-        void arrived(const MidiDevice& /*device*/) override {}
-        void departed(const MidiDevice& /*device*/) override {}
-        void received(std::size_t /*device*/, MidiPacket /*message*/, double /*time*/) override {}
-    } receiver;
-    const MidiInputs inputs(receiver);
-    return {{"service", inputs.services()}, {"inputs", inputs.names()}};
-}
-
-Json describeAudio()
-{
-    quietSoundLibraries();
-    const auto output = AudioOutput::open(preferredOutput());
-    if (!output || output->driver() == "none")
-        return nullptr;
-    const std::size_t period = output->period();
-    return {{"driver", output->driver()},
-            {"rate", output->rate()},
-            {"periodFrames", period},
-            {"periodMilliseconds", 1000.0 * static_cast<double>(period) / output->rate()}};
-}
-
-/// Describes the drivers that are available, and their devices.
-Json describeOutputs()
-{
-    Json outputs = Json::array();
-    for (const OutputDriver& driver : listOutputs()) {
-        Json devices = Json::array();
-        for (const OutputDevice& device : driver.devices)
-            devices.push_back({{"name", device.name}, {"title", device.title}});
-        if (driver.isAvailable)
-            outputs.push_back({{"driver", driver.name}, {"devices", devices}});
-    }
-    return outputs;
-}
 
 void printOutputs(const Json& outputs)
 {
@@ -71,7 +29,7 @@ void devices(bool json)
     const Json midi = describeMidi();
     const Json audio = describeAudio();
     const Json outputs = describeOutputs();
-    const std::string bank = Synthesizer(48000.0, generalMidiBanks()).bank().string();
+    const std::string bank = usableBank();
     if (json) {
         const Json all = {{"midi", midi},
                           {"audio", audio},

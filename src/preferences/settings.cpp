@@ -87,9 +87,14 @@ void setPreference(const std::string& key, const QVariant& value)
     settings().setValue(QString::fromStdString(key), value);
 }
 
+std::filesystem::path settingsFile()
+{
+    return settings().fileName().toStdString();
+}
+
 std::filesystem::path settingsFolder()
 {
-    return std::filesystem::path(settings().fileName().toStdString()).parent_path();
+    return settingsFile().parent_path();
 }
 
 bool arePreferencesWritable()

@@ -16,7 +16,10 @@ QVariant defaultPreference(const std::string& key);
 
 void setPreference(const std::string& key, const QVariant& value);
 
-/// Returns the folder of the preferences, in which other settings of the user can be stored too.
+/// Returns the path of the file in which the preferences are stored.
+std::filesystem::path settingsFile();
+
+/// Returns its folder, in which other settings of the user can be stored too.
 std::filesystem::path settingsFolder();
 
 /// Returns whether changed preferences can be saved.

@@ -12,6 +12,7 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
+#include <map>
 #include <set>
 
 namespace velmora {
@@ -229,6 +230,23 @@ TEST_F(CommandLine, DescribesFiles)
         << "continues with the next file";
     EXPECT_THAT(text.out, HasSubstr("Test: Organ instrument of 2 stops, 384000 bytes of sound\n"));
     EXPECT_THAT(text.out, HasSubstr("Loaded 2 ranks, 2 pipes, 2 samples; left out 1\n"));
+}
+
+TEST_F(CommandLine, ReportsWhatIsMissing)
+{
+    qputenv("DISPLAY", ":65000");
+    qunsetenv("WAYLAND_DISPLAY");
+    qputenv("XDG_CONFIG_HOME", "/dev/null");
+    std::map<std::string, Json> findings;
+    for (const Json& finding : Json::parse(run({"doctor", "--json"}).out))
+        findings[finding["topic"]] = finding;
+    EXPECT_EQ("velmora " + findings["Velmora"]["found"].get<std::string>() + "\n",
+              run({"--version"}).out);
+    EXPECT_THAT(findings["OpenAL"]["found"].get<std::string>(), HasSubstr("ALSOFT"));
+    EXPECT_EQ(findings["Display"]["found"], "");
+    EXPECT_THAT(run({"doctor"}).out,
+                HasSubstr("missing  Preferences: /dev/null/velmora/velmora.conf, not writable; "
+                          "make the file"));
 }
 
 } // namespace velmora
