@@ -1,0 +1,50 @@
+# Completion of velmora for bash.
+
+_velmora()
+{
+    local word=$2 previous=$3 command=${COMP_WORDS[1]} options
+    case $command in
+        render) options="--help --output --tuning --program --instrument --stop --rate --tail
+            --loop-start --loop-end --loops" ;;
+        live) options="--help --tuning --program --instrument --stop --plain --output --period" ;;
+        info | doctor) options="--help --json" ;;
+        devices) options="--help --json --watch" ;;
+        *)
+            command=
+            options="--help --version --plain --output --period"
+            ;;
+    esac
+
+    local files=
+    COMPREPLY=()
+    case $command:$previous in
+        *:--tuning)
+            COMPREPLY=($(compgen -W "Equal meantone Dynamic" -- "$word"))
+            files='scl|mtx'
+            ;;
+        *:--instrument) files='sf2|gig|organ_hauptwerk_xml|xml|organ' ;;
+        render:-o | render:--output) files='wav|flac|ogg' ;;
+        *:--output) COMPREPLY=($(compgen -W "jack pulseaudio alsa none" -- "$word")) ;;
+        *:--program | *:--stop | *:--rate | *:--tail | *:--loop-* | *:--loops | *:--period) ;;
+        *)
+            if [[ $word == -* ]]; then
+                COMPREPLY=($(compgen -W "$options" -- "$word"))
+            else
+                ((COMP_CWORD > 1)) ||
+                    COMPREPLY=($(compgen -W "render live info devices doctor" -- "$word"))
+                case $command in
+                    render) files='mid|midi|smf|kar' ;;
+                    '' | info) files='*' ;;
+                esac
+            fi
+            ;;
+    esac
+    if [[ $files ]]; then
+        compopt -o filenames
+        local file
+        while IFS= read -r file; do
+            [[ ! -d $file && $files != '*' && ! ${file,,} =~ \.($files)$ ]] || COMPREPLY+=("$file")
+        done < <(compgen -f -- "$word")
+    fi
+}
+complete -F _velmora velmora
