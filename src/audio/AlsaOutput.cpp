@@ -22,7 +22,7 @@ constexpr std::size_t kCardPeriod = 256;
 constexpr unsigned kCardPeriods = 2;
 
 /// How long opening a device that is there may take.
-constexpr std::chrono::seconds kPatience{2};
+constexpr std::chrono::seconds kLongestOpening{2};
 
 class AlsaWriter : public SoundWriter {
 public:
@@ -130,7 +130,7 @@ std::unique_ptr<AlsaWriter> openPatiently(const OutputSettings& settings)
     });
     auto opened = task.get_future();
     std::thread thread(std::move(task));
-    if (opened.wait_for(kPatience) == std::future_status::timeout) {
+    if (opened.wait_for(kLongestOpening) == std::future_status::timeout) {
         thread.detach();
         return nullptr;
     }
