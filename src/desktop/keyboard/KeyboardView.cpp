@@ -1,10 +1,12 @@
 #include "desktop/keyboard/KeyboardView.h"
 
+#include "desktop/keyboard/KeyboardAccessible.h"
 #include "midi/midiRead.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyboardDocument.h"
 #include "sequencer/LiveKeys.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -23,6 +25,7 @@ constexpr int kMinHeight = 48;
 KeyboardView::KeyboardView(LiveInput& input, const LiveKeys& keys, QWidget* parent)
     : QOpenGLWidget(parent), input_(input), keys_(keys)
 {
+    QAccessible::installFactory(makeKeyboardAccessible);
     setAccessibleName(tr("Piano keyboard"));
     setFocusPolicy(Qt::TabFocus);
 }
@@ -81,7 +84,9 @@ int KeyboardView::stateOf(unsigned key) const
 
 void KeyboardView::paintGL()
 {
-    painted_ = picture();
+    const KeyboardPicture next = picture();
+    announceKeys(*this, painted_.value_or(next), next);
+    painted_ = next;
     // Painted in memory, where edges are smooth with every driver.
     const double ratio = devicePixelRatioF();
     QImage image(QSizeF(width() * ratio, height() * ratio).toSize(), QImage::Format_RGB32);

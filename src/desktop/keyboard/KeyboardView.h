@@ -34,6 +34,9 @@ public:
     /// Schedules a repaint if the picture has changed.
     void refresh();
 
+    /// The keys as they are to be shown now.
+    KeyboardPicture picture() const;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -46,7 +49,6 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    KeyboardPicture picture() const;
     int stateOf(unsigned key) const;
 
     /// Releases the key that the mouse holds and presses another one, if it is not `kNoKey`.

@@ -15,6 +15,8 @@
 #include <QMimeData>
 #include <QUndoStack>
 
+#include <utility>
+
 namespace velmora {
 
 namespace {
@@ -49,12 +51,16 @@ SequenceActions::SequenceActions(Commands& commands)
                      Qt::Key_Delete)),
       selectAll_(add("edit.selectAll", nullptr, tr("Select &All"), {Qt::CTRL | Qt::Key_A})),
       deselect_(addKey("edit.selectNone", tr("Select &None"), {Qt::Key_Escape}, Qt::Key_Escape)),
+      nextNote_(add("edit.nextNote", nullptr, tr("Select Ne&xt Note"), {Qt::CTRL | Qt::Key_Right})),
+      previousNote_(add("edit.previousNote", nullptr, tr("Select Pre&vious Note"),
+                        {Qt::CTRL | Qt::Key_Left})),
       start_(addKey("piece.start", tr("Go to &Start"), {Qt::CTRL | Qt::Key_Down}, Qt::Key_Down,
                     Qt::ControlModifier)),
       end_(addKey("piece.end", tr("Go to &End"), {Qt::CTRL | Qt::Key_Up}, Qt::Key_Up,
                   Qt::ControlModifier)),
       previous_(addKey("piece.previous", tr("Pre&vious Notes"), {Qt::Key_Down}, Qt::Key_Down)),
       next_(addKey("piece.next", tr("&Next Notes"), {Qt::Key_Up}, Qt::Key_Up)),
+      corrections_(std::make_unique<QMenu>(tr("&Selected Notes"))),
       channelMenu_(std::make_unique<QMenu>(tr("&Channel"))), channels_(new QActionGroup(this))
 {
     commands_.add("edit.undo", tr("Edit"), *undo_, {QKeySequence(QKeySequence::Undo)});
@@ -65,14 +71,15 @@ SequenceActions::SequenceActions(Commands& commands)
     for (QAction* action : {record, play}) // a key that is held down must not stop it again
         action->setAutoRepeat(false);
     using View = SequenceScrollView;
-    addZoom("view.zoomIn", "zoom-in", tr("Zoo&m In"),
+    addZoom("view.zoomIn", "zoom-in", tr("&Zoom In"),
             QKeySequence::keyBindings(QKeySequence::ZoomIn), &View::zoomSteps, 1);
-    addZoom("view.zoomOut", "zoom-out", tr("Zoom &Out"),
+    addZoom("view.zoomOut", "zoom-out", tr("Zoom O&ut"),
             QKeySequence::keyBindings(QKeySequence::ZoomOut), &View::zoomSteps, -1);
     addZoom("view.widerKeys", "zoom-in", tr("&Wider Keys"), {Qt::CTRL | Qt::ALT | Qt::Key_Plus},
             &View::zoomKeys, 1);
-    addZoom("view.narrowerKeys", "zoom-out", tr("Narrowe&r Keys"),
+    addZoom("view.narrowerKeys", "zoom-out", tr("N&arrower Keys"),
             {Qt::CTRL | Qt::ALT | Qt::Key_Minus}, &View::zoomKeys, -1);
+    makeCorrections();
     makeChannels();
     connectCommands();
     setTarget({});
@@ -92,7 +99,8 @@ void SequenceActions::setTarget(const Target& target)
     if (target_.document != nullptr)
         connectTarget();
     const bool isAny = target_.document != nullptr;
-    for (QAction* action : {play, loop, snap, selectAll_, start_, end_, previous_, next_})
+    for (QAction* action :
+         {play, loop, snap, selectAll_, nextNote_, previousNote_, start_, end_, previous_, next_})
         action->setEnabled(isAny);
     for (QAction* action : zooms_)
         action->setEnabled(isAny);
@@ -145,6 +153,32 @@ void SequenceActions::addZoom(const char* id, const char* icon, const QString& t
     });
 }
 
+void SequenceActions::addCorrection(const char* id, const QString& text,
+                                    const QKeySequence& shortcut,
+                                    std::function<void(SequenceEditor&)> correct)
+{
+    QAction* action = add(id, nullptr, text, {shortcut});
+    corrections_->addAction(action);
+    connect(action, &QAction::triggered, this,
+            [this, correct = std::move(correct)] { correct(*target_.editor); });
+}
+
+void SequenceActions::makeCorrections()
+{
+    addCorrection("edit.noteUp", tr("Move Notes &Up a Semitone"), Qt::ALT | Qt::Key_Right,
+                  [](SequenceEditor& editor) { editor.moveSelection(1, 0); });
+    addCorrection("edit.noteDown", tr("Move Notes &Down a Semitone"), Qt::ALT | Qt::Key_Left,
+                  [](SequenceEditor& editor) { editor.moveSelection(-1, 0); });
+    addCorrection("edit.noteLater", tr("Move Notes &Later"), Qt::ALT | Qt::Key_Up,
+                  [](SequenceEditor& editor) { editor.moveSelection(0, 1); });
+    addCorrection("edit.noteEarlier", tr("Move Notes &Earlier"), Qt::ALT | Qt::Key_Down,
+                  [](SequenceEditor& editor) { editor.moveSelection(0, -1); });
+    addCorrection("edit.noteLonger", tr("Make Notes Lon&ger"), Qt::ALT | Qt::SHIFT | Qt::Key_Up,
+                  [](SequenceEditor& editor) { editor.resizeSelection(1); });
+    addCorrection("edit.noteShorter", tr("Make Notes &Shorter"), Qt::ALT | Qt::SHIFT | Qt::Key_Down,
+                  [](SequenceEditor& editor) { editor.resizeSelection(-1); });
+}
+
 void SequenceActions::makeChannels()
 {
     for (int channel = 0; channel < midi::kChannels; ++channel) {
@@ -164,6 +198,11 @@ void SequenceActions::connectCommands()
     connect(copy_, &QAction::triggered, this, [this] { copyNotes(target_.editor->copy()); });
     connect(paste_, &QAction::triggered, this, &SequenceActions::pasteNotes);
     connect(selectAll_, &QAction::triggered, this, [this] { target_.editor->selectAll(); });
+    using enum SequenceEditor::Direction;
+    connect(nextNote_, &QAction::triggered, this,
+            [this] { target_.editor->selectNeighbour(Forward); });
+    connect(previousNote_, &QAction::triggered, this,
+            [this] { target_.editor->selectNeighbour(Backward); });
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
             &SequenceActions::showClipboard);
     connect(record, &QAction::triggered, this, [this] {
@@ -185,7 +224,8 @@ void SequenceActions::addEditing(QMenu& edit) const
     edit.addSeparator();
     edit.addActions({cut_, copy_, paste_, delete_});
     edit.addSeparator();
-    edit.addActions({selectAll_, deselect_});
+    edit.addActions({selectAll_, deselect_, nextNote_, previousNote_});
+    edit.addMenu(corrections_.get());
 }
 
 void SequenceActions::addTransport(QMenu& sequence) const
@@ -239,6 +279,8 @@ void SequenceActions::showSelection()
     const bool isAny =
         target_.document != nullptr && !target_.document->sequence().selection().empty();
     for (QAction* action : {cut_, copy_, delete_, deselect_})
+        action->setEnabled(isAny);
+    for (QAction* action : corrections_->actions())
         action->setEnabled(isAny);
 }
 

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QUndoGroup>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -57,6 +58,9 @@ private:
     void addZoom(const char* id, const char* icon, const QString& text,
                  const QList<QKeySequence>& shortcuts, void (SequenceScrollView::*zoom)(int),
                  int notches);
+    void addCorrection(const char* id, const QString& text, const QKeySequence& shortcut,
+                       std::function<void(SequenceEditor&)> correct);
+    void makeCorrections();
     void makeChannels();
     void connectCommands();
     void connectTarget();
@@ -72,8 +76,10 @@ private:
     QUndoGroup undoStacks_;
     QAction *const undo_, *const redo_, *const cut_, *const copy_, *const paste_;
     QAction *const delete_, *const selectAll_, *const deselect_;
+    QAction *const nextNote_, *const previousNote_;
     QAction *const start_, *const end_, *const previous_, *const next_;
     std::vector<QAction*> zooms_;
+    const std::unique_ptr<QMenu> corrections_; ///< What can be done to the selected notes.
     const std::unique_ptr<QMenu> channelMenu_;
     QActionGroup* const channels_;
 };

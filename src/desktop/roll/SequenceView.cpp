@@ -1,10 +1,12 @@
 #include "desktop/roll/SequenceView.h"
 
+#include "desktop/roll/RollAccessible.h"
 #include "desktop/widgets/graphics.h"
 #include "preferences/Preferences.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QMouseEvent>
 
@@ -25,6 +27,7 @@ constexpr double kAutoScrollFraction = 0.25;
 
 SequenceView::SequenceView(QWidget* parent) : QOpenGLWidget(parent)
 {
+    QAccessible::installFactory(makeRollAccessible);
     setAccessibleName(tr("Piano roll"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
@@ -44,6 +47,7 @@ void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor*
     autoScrollTimer_.stop();
     if (document_ != nullptr) {
         connect(document_, &SequenceDocument::changed, this, &SequenceView::redraw);
+        connect(document_, &SequenceDocument::changed, this, [this] { announceNotes(*this); });
         connect(&document_->transport(), &Transport::moved, this,
                 qOverload<>(&SequenceView::update));
     }

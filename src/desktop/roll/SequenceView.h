@@ -20,6 +20,7 @@ public:
     /// Sets the document to show and the editor for it; two null pointers leave the view empty.
     /// Both must be replaced before they are destroyed.
     void setDocument(const SequenceDocument* document, SequenceEditor* editor);
+    const SequenceDocument* document() const { return document_; }
 
     /// Moves a point of the roll, in pixels, to the lower left corner of the view.
     void scrollTo(QPoint point);

@@ -2,6 +2,7 @@
 
 #include "desktop/roll/SequenceActions.h"
 #include "desktop/widgets/LearnMenu.h"
+#include "desktop/widgets/nameExtension.h"
 #include "midi/messages.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceTime.h"
@@ -44,6 +45,7 @@ TransportBar::TransportBar(SequenceActions& actions, AppDelegate& application)
     setObjectName("transport");
     setWindowTitle(tr("Transport"));
     setMovable(false);
+    nameExtension(*this);
     using Kind = LearnedAction::Kind;
     addButton(*actions.record, tr("Stop"), {{Kind::Record}, tr("Record")});
     addButton(*actions.play, tr("Stop"), {{Kind::Play}, tr("Play")});

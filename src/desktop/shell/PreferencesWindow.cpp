@@ -9,6 +9,7 @@
 #include "desktop/widgets/NoteSpinBox.h"
 #include "desktop/widgets/closeByKeys.h"
 #include "desktop/widgets/icons.h"
+#include "desktop/widgets/nameExtension.h"
 #include "desktop/widgets/windowPlace.h"
 #include "preferences/Color.h"
 #include "preferences/Preferences.h"
@@ -56,6 +57,7 @@ PreferencesWindow::PreferencesWindow(AppDelegate& application)
     setCentralWidget(panes_);
     auto* toolBar = addToolBar(tr("Panes"));
     toolBar->setMovable(false);
+    nameExtension(*toolBar);
     toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     addPane(tr("&General"), "preferences-general", makeGeneralPane());
     addPane(tr("C&olors"), "preferences-colors", makeColorsPane());

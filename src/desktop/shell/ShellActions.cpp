@@ -101,7 +101,7 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
                        {Qt::Key_F11})),
       resetLayout(commands.add("view.reset", viewGroup(), {tr("&Reset Layout"), {}})),
       nextPanel(commands.add("view.nextPanel", viewGroup(), {tr("Ne&xt Panel"), {}}, {Qt::Key_F6})),
-      previousPanel(commands.add("view.previousPanel", viewGroup(), {tr("Previo&us Panel"), {}},
+      previousPanel(commands.add("view.previousPanel", viewGroup(), {tr("Pre&vious Panel"), {}},
                                  {Qt::SHIFT | Qt::Key_F6})),
       ownWindow(commands.add("view.ownWindow", viewGroup(), {tr("Piece in Its &Own Window"), {}},
                              {Qt::CTRL | Qt::SHIFT | Qt::Key_W})),

@@ -64,6 +64,7 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     setCorner(Qt::BottomLeftCorner, Qt::BottomDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::BottomDockWidgetArea);
     tabs_->setDocumentMode(true);
+    tabs_->setAccessibleName(tr("Open pieces"));
     tabs_->setTabsClosable(true);
     tabs_->setMovable(true);
     centre_->addWidget(startPage_);

@@ -40,7 +40,7 @@ TuningPanel::TuningPanel(AppDelegate& application, QWidget* parent)
     list_->setItemDelegate(new TwoLineDelegate(list_));
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setMinimumHeight(kLeastHeight);
-    auto* openButton = new QPushButton(icon("open"), tr("Open &Tuning…"));
+    auto* openButton = new QPushButton(icon("open"), tr("Open T&uning…"));
     openButton->setToolTip(tr("Open a tuning file: a scale (.scl) or frequencies (.mtx)"));
     openButton->setFocusPolicy(Qt::TabFocus);
     pitches_->setToolTip(tr("The pitches of middle C and of the A above it in this tuning"));
