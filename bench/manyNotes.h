@@ -36,7 +36,6 @@ class SilentHost : public SequenceHost {
 public:
     void play(int /*key*/, float /*velocity*/, double /*time*/) override {}
     void stop(int /*key*/, double /*time*/) override {}
-    void isomorph(int /*n*/) override {}
     LiveKeys& liveKeys() override { return liveKeys_; }
 
 private:

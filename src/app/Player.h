@@ -70,9 +70,12 @@ public:
     /// Releases every key and pedal of a source, such as a device that has vanished.
     void releaseAll(KeySource source);
 
+    /// Forces a spelling in the current temperament and plays its key, as `Temperament::isomorph`
+    /// does. `stop` releases it.
+    void isomorph(int n);
+
     void play(int key, float velocity, double time) override;
     void stop(int key, double time) override;
-    void isomorph(int n) override;
     LiveKeys& liveKeys() override { return liveKeys_; }
 
     /// Ends every sound of every instrument at once and releases every live key.

@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 
 #include <cstdint>
-#include <map>
 #include <vector>
 
 namespace velmora {
@@ -48,13 +47,9 @@ public:
     void mouseDragged(RollPoint point);
     void mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers);
 
-    /// Keys are identified by their position, whatever the keyboard layout.
+    /// Handles a key that was pressed. Digits are identified by their position, whatever the
+    /// keyboard layout.
     void keyDown(const QKeyEvent& event);
-    void keyUp(const QKeyEvent& event);
-
-    /// Releases the pressed keys. Call this when the focus is lost, because another window will
-    /// receive their release.
-    void releaseKeys();
 
     void selectAll();
     void deleteSelection();
@@ -89,8 +84,6 @@ private:
     double snapped(double step) const;
 
     bool takeNamedKey(int key, bool command);
-    void isomorph(int number);
-    void release(int number);
     void setChannel(unsigned char channel, bool ofSelection);
     std::vector<Note> remove(const char* text);
 
@@ -101,7 +94,6 @@ private:
     bool hitNote_ = false;          ///< True if the last press hit or created a note.
     bool isNewNote_ = false;        ///< True if the drag draws a new note.
     std::uint64_t newNote_ = 0;     ///< The note that is being resized or drawn; 0 if none is.
-    std::map<char, int> isomorphs_; ///< The numbers of the pressed isomorphic keys.
 };
 
 } // namespace velmora

@@ -19,10 +19,6 @@ public:
     /// user holds it as well, it sounds on.
     virtual void stop(int key, double time) = 0;
 
-    /// Forces a spelling in the current temperament and plays its key, as `Temperament::isomorph`
-    /// does.
-    virtual void isomorph(int n) = 0;
-
     /// The keys of live input.
     virtual LiveKeys& liveKeys() = 0;
 };

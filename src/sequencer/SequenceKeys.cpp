@@ -1,12 +1,10 @@
 // The editor's keyboard and the commands of the Edit menu.
 
-#include "base/Clock.h"
 #include "base/Log.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyPosition.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
-#include "tuning/Temperament.h"
 
 #include <algorithm>
 #include <utility>
@@ -15,8 +13,8 @@ namespace velmora {
 
 namespace {
 
-/// What Shift adds to a channel and to an isomorphic number.
-constexpr int kShiftedChannel = 10, kShiftedOctave = 36;
+/// What Shift adds to a channel.
+constexpr int kShiftedChannel = 10;
 
 bool isModifier(int key)
 {
@@ -39,13 +37,7 @@ void SequenceEditor::keyDown(const QKeyEvent& event)
         return;
     const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
     const bool command = event.modifiers().testFlag(Qt::ControlModifier);
-    // With one of these modifiers the key is a shortcut that is currently disabled.
-    const bool isShortcut =
-        event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    const char character = usCharacter(event);
-    if (const auto number = isomorphNumber(character); number && !isShortcut)
-        isomorph(isomorphs_[character] = *number + (shift ? kShiftedOctave : 0));
-    else if (const auto channel = channelNumber(character))
+    if (const auto channel = channelNumber(usCharacter(event)))
         // See docs/decisions.md, 89.
         setChannel(static_cast<unsigned char>(*channel + (shift ? kShiftedChannel : 0)), command);
     else if (!takeNamedKey(event.key(), command))
@@ -91,36 +83,6 @@ bool SequenceEditor::takeNamedKey(int key, bool command)
     default:
         return false;
     }
-}
-
-void SequenceEditor::keyUp(const QKeyEvent& event)
-{
-    const char character = usCharacter(event);
-    const auto number = isomorphNumber(character);
-    if (!number || event.isAutoRepeat())
-        return;
-    // Release the key that was pressed, even if Shift has changed since.
-    if (auto pressed = isomorphs_.extract(character))
-        release(pressed.mapped());
-    else
-        release(*number + (event.modifiers().testFlag(Qt::ShiftModifier) ? kShiftedOctave : 0));
-    emit transport_.frame();
-}
-
-void SequenceEditor::releaseKeys()
-{
-    for (const auto& [character, number] : std::exchange(isomorphs_, {}))
-        release(number);
-}
-
-void SequenceEditor::release(int number)
-{
-    transport_.host().stop(Temperament::isomorphKey(number), getTime());
-}
-
-void SequenceEditor::isomorph(int number)
-{
-    transport_.host().isomorph(number);
 }
 
 void SequenceEditor::setChannel(unsigned char channel, bool ofSelection)

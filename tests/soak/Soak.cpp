@@ -194,15 +194,13 @@ private:
 
     void pressKey(OpenSequence& open)
     {
-        static const std::string kTyped = "1234567890QWERTYUIOP[]ASDFGHJKL;'`\\ZXCVBNM,./";
+        static const std::string kTyped = "1234567890";
         constexpr std::array kOthers = {Qt::Key_Space, Qt::Key_Return, Qt::Key_Up,
                                         Qt::Key_Down,  Qt::Key_Escape, Qt::Key_Delete};
         const int key =
             chance(2) ? int{kTyped[pick(kTyped.size())]} : int{kOthers[pick(kOthers.size())]};
-        const auto held = modifiers();
-        open.editor.keyDown(QKeyEvent(QEvent::KeyPress, key, held));
+        open.editor.keyDown(QKeyEvent(QEvent::KeyPress, key, modifiers()));
         advance(pick(64));
-        open.editor.keyUp(QKeyEvent(QEvent::KeyRelease, key, held));
     }
 
     void command(OpenSequence& open)

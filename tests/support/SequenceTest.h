@@ -27,7 +27,6 @@ protected:
             onPlay_();
     }
     void stop(int key, double /*time*/) override { called(fmt::format("stop {}", key)); }
-    void isomorph(int n) override { called(fmt::format("isomorph {}", n)); }
     LiveKeys& liveKeys() override { return liveKeys_; }
 
     /// Adds a committed note and measures the extent.

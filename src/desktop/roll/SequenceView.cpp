@@ -219,11 +219,10 @@ void SequenceView::handleKey(const QKeyEvent& event)
     const bool isPress = event.type() == QEvent::KeyPress;
     if (editor_ == nullptr || (isPress && button_ != Qt::NoButton))
         return;
-    if (isPress)
+    if (isPress) {
         editor_->keyDown(event);
-    else
-        editor_->keyUp(event);
-    redraw();
+        redraw();
+    }
     updateCursor(QGuiApplication::queryKeyboardModifiers());
 }
 

@@ -106,6 +106,9 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event)
     if ((!isKey && event->type() != QEvent::ShortcutOverride) || widget == nullptr)
         return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
+    // A letter is released even if the focus or Ctrl has changed since it was pressed.
+    if (event->type() == QEvent::KeyRelease && keyboard_.keyUp(key))
+        return true;
     if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier) ||
         movesFocus(key.key()))
         return false;
@@ -117,10 +120,7 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event)
             event->accept(); // the widget gets the key, and no command does
         return isKept;
     }
-    // A letter is released even if the focus has moved to a text field meanwhile.
-    const bool isPlayed = event->type() == QEvent::KeyRelease ? keyboard_.keyUp(key)
-                                                              : !isKept && keyboard_.keyDown(key);
-    if (isPlayed && !isKept)
+    if (!isKept && event->type() == QEvent::KeyPress && keyboard_.keyDown(key))
         return true;
     if (isKept || isAny<SequenceView>(*widget))
         return !isKept && isOfCommand(key.key());

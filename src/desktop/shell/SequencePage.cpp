@@ -45,7 +45,6 @@ SequencePage::~SequencePage()
         keeper_.keepForNextStart();
     // The widgets are destroyed after the document and must not receive its last signals.
     transport_.reset();
-    editor_.releaseKeys();
     scrollView_->view().setDocument(nullptr, nullptr);
     document_.transport().stop();
     document_.disconnect();

@@ -55,9 +55,6 @@ public:
     /// Handles a key that was pressed or released anywhere in the workspace.
     void handleKey(const QKeyEvent& event);
 
-    /// Releases the pressed keys of the computer keyboard.
-    void releaseKeys() { editor_.releaseKeys(); }
-
     /// Shows a transport bar of its own above the roll, for a page that is a window. Null hides it.
     void setTransport(SequenceActions* actions);
 

@@ -227,8 +227,6 @@ void SequencePages::setCurrent(SequencePage* page)
 {
     if (page == current_)
         return;
-    if (current_ != nullptr)
-        current_->releaseKeys();
     current_ = page;
     actions_.setTarget(page == nullptr ? SequenceActions::Target{} : page->target());
     keyboard_.setDocument(page == nullptr ? nullptr : &page->document().practice());

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
@@ -129,6 +130,26 @@ TEST_F(DesktopTest, OpensDroppedFilesByType)
     EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
     EXPECT_EQ(application.instrumentName(), "Small");
     EXPECT_GT(application.instruments()[1]->size(), 0);
+}
+
+TEST_F(DesktopTest, LettersPlayWhateverWasClicked)
+{
+    const LiveKeys& keys = application.player().liveKeys();
+    QLineEdit field(&panel);
+    QTest::keyPress(&desktop.workspace(), Qt::Key_A);
+    EXPECT_EQ(keys.state(60), kPressed) << "without a piece";
+    QTest::keyPress(&panel, Qt::Key_D);
+    field.setFocus();
+    QTest::keyRelease(&field, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(keys.state(60), 0) << "the release may go anywhere";
+    QTest::keyPress(&field, Qt::Key_S);
+    EXPECT_EQ(keys.state(62), 0) << "fields keep their letters";
+    EXPECT_EQ(keys.state(64), kPressed);
+    QMessageBox box(&desktop.workspace());
+    box.open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return keys.state(64) == 0; })) << "a dialog opens";
+    QTest::keyPress(&box, Qt::Key_F);
+    EXPECT_EQ(keys.state(65), 0);
 }
 
 TEST_F(DesktopTest, AppliesPreferencesImmediately)
