@@ -6,6 +6,7 @@
 #include "platform/quiet.h"
 #include "preferences/Preferences.h"
 
+#include <algorithm>
 #include <cassert>
 #include <chrono>
 
@@ -32,11 +33,15 @@ std::vector<std::filesystem::path> generalMidiBanks()
     const std::string preferred = getPrefString("GMBank");
     if (!preferred.empty())
         banks.emplace_back(preferred);
-    for (const char* name : {"default-GM.sf2", "TimGM6mb.sf2"}) {
-        const auto path = std::filesystem::path("/usr/share/sounds/sf2") / name;
-        std::error_code error;
-        if (std::filesystem::exists(path, error))
-            banks.push_back(path);
+    // A bundle of the program contains a bank of its own.
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    for (const auto& root : {std::filesystem::path("/usr"), program.parent_path().parent_path()}) {
+        for (const char* name : {"default-GM.sf2", "TimGM6mb.sf2"}) {
+            const auto path = root / "share/sounds/sf2" / name;
+            if (std::filesystem::exists(path, error) && std::ranges::count(banks, path) == 0)
+                banks.push_back(path);
+        }
     }
     return banks;
 }

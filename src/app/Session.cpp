@@ -145,7 +145,8 @@ InstrumentFormat readFormat(const Field& field)
     constexpr std::array kFormats = {InstrumentFormat::HauptwerkXml, InstrumentFormat::Hauptwerk1,
                                      InstrumentFormat::SoundFont, InstrumentFormat::GigaSampler};
     const std::string name = field.text();
-    const auto format = std::ranges::find(kFormats, name, &typeName);
+    const auto format = std::ranges::find_if(
+        kFormats, [&](InstrumentFormat each) { return typeName(each) == name; });
     if (format == kFormats.end())
         field.refuse("a kind of instrument that Velmora knows");
     return *format;
