@@ -35,6 +35,7 @@ const QVariantMap& defaults()
         {"Scheme", "Calm"},
         {"GMBank", ""},
         {"PlainReading", false},
+        {"StartAsLastTime", true},
         {"VelocityCurve", 0}, // linear
         {"Transposition", 0},
         {"BendRange", 2},

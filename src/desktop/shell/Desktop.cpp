@@ -1,5 +1,6 @@
 #include "desktop/shell/Desktop.h"
 
+#include "base/Text.h"
 #include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/instruments/PlayingControls.h"
 #include "desktop/instruments/importReport.h"
@@ -8,7 +9,7 @@
 #include "desktop/shell/StartPage.h"
 #include "desktop/shell/StatusLine.h"
 #include "desktop/shell/aboutBox.h"
-#include "desktop/shell/askWhereToSave.h"
+#include "desktop/shell/askForFiles.h"
 #include "desktop/tuning/TuningPanel.h"
 #include "desktop/widgets/windowPlace.h"
 #include "platform/pathNames.h"
@@ -18,7 +19,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileDialog>
 #include <QMessageBox>
 
 #include <utility>
@@ -27,12 +27,9 @@ namespace velmora {
 
 namespace {
 
-constexpr const char* kFolderKey = "openFolder";
 constexpr int kReportMilliseconds = 15000;
 constexpr int kShortMilliseconds = 3000;
-constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ";
-constexpr const char* kTunings = "*.scl *.mtx";
-constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
+constexpr const char* kSessionExtension = ".velmora";
 
 } // namespace
 
@@ -78,6 +75,12 @@ void Desktop::launch(const OutputSettings& output)
 void Desktop::connectCommands()
 {
     connect(shell_.open, &QAction::triggered, this, &Desktop::askForFiles);
+    connect(shell_.openSession, &QAction::triggered, this, [this] {
+        const QString path = askForSession(QApplication::activeWindow());
+        if (!path.isEmpty())
+            open({path});
+    });
+    connect(shell_.saveSession, &QAction::triggered, this, &Desktop::saveSession);
     connect(shell_.silence, &QAction::triggered, this, [this] {
         pages_.stopPlaying(); // otherwise their next notes would sound
         application_.silenceAll();
@@ -160,6 +163,11 @@ void Desktop::connectPieces()
             [this](SequencePage& page) { fileDrop_.watch(page); });
     connect(&pages_, &SequencePages::zoomed, this, &Desktop::updateAllViews);
     connect(&pages_, &SequencePages::currentChanged, this, &Desktop::showPiece);
+    connect(&pages_, &SequencePages::closingAll, &session_, &SessionKeeper::finish);
+    connect(&pages_, &SequencePages::unprotected, this, [this](const QString& why) {
+        workspace_.status().addNotice(
+            tr("Unsaved changes are not protected against a crash: %1").arg(why));
+    });
     connect(&pages_, &SequencePages::message, this, [this](const QString& text) {
         workspace_.status().showMessage(text, kReportMilliseconds);
     });
@@ -218,6 +226,8 @@ void Desktop::openFile(const QString& path)
         openInstrument(path, *instrument);
     else if (sequenceFormatOf(file))
         openSequence(path);
+    else if (lowerCase(file.extension().string()) == kSessionExtension)
+        openSession(path);
     else
         showError(tr("%1: unrecognised file type. Velmora recognises files by their extensions, "
                      "such as .mid, .scl or .sf2.")
@@ -270,6 +280,46 @@ void Desktop::openSequence(const QString& path)
         showError(QString::fromStdString(error));
 }
 
+void Desktop::openSession(const QString& path)
+{
+    const QString errors = session_.open(pathOf(path), SessionKeeper::Arrangement::Wanted);
+    progressWindow_.endProgress();
+    if (errors.isEmpty())
+        shell_.addRecent(path);
+    else
+        showError(errors);
+}
+
+void Desktop::openLastSession()
+{
+    const bool isWanted = getPrefBool("StartAsLastTime") && SessionKeeper::hasLast() &&
+                          (!SessionKeeper::wasInterrupted() || askToOpenAgain(&workspace_));
+    if (isWanted) {
+        const bool wasOpening = std::exchange(isOpening_, true); // see selectInstrument
+        const QString errors = session_.openLast();
+        progressWindow_.endProgress();
+        if (!errors.isEmpty())
+            workspace_.status().addNotice(
+                tr("Not everything that was open last time could be opened.\n%1").arg(errors));
+        isOpening_ = wasOpening;
+        openWaiting();
+    }
+    session_.startRemembering();
+}
+
+void Desktop::saveSession()
+{
+    const QString path = askWhereToSaveSession(workspace_);
+    if (path.isEmpty())
+        return;
+    try {
+        session_.save(pathOf(path));
+        shell_.addRecent(path);
+    } catch (const std::runtime_error& error) {
+        showError(QString::fromUtf8(error.what()));
+    }
+}
+
 void Desktop::selectInstrument(std::size_t position)
 {
     // Reading an unloaded instrument again processes events; files opened meanwhile must wait.
@@ -288,18 +338,9 @@ void Desktop::selectInstrument(std::size_t position)
 
 void Desktop::askForFiles()
 {
-    const QStringList paths = QFileDialog::getOpenFileNames(
-        QApplication::activeWindow(), tr("Open"), dialogFolder(kFolderKey),
-        tr("All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;All files "
-           "(*)")
-            .arg(QString(kInstruments) + " " + kTunings + " " + kSequences)
-            .arg(kInstruments)
-            .arg(kTunings)
-            .arg(kSequences));
-    if (paths.isEmpty())
-        return;
-    setPreference(kFolderKey, QFileInfo(paths.front()).absolutePath());
-    open(paths);
+    const QStringList paths = velmora::askForFiles(QApplication::activeWindow());
+    if (!paths.isEmpty())
+        open(paths);
 }
 
 void Desktop::transpose(int semitones)

@@ -13,6 +13,7 @@
 #include "desktop/shell/MetersWindow.h"
 #include "desktop/shell/PreferencesWindow.h"
 #include "desktop/shell/SequencePages.h"
+#include "desktop/shell/SessionKeeper.h"
 #include "desktop/shell/ShellActions.h"
 #include "desktop/shell/Workspace.h"
 #include "desktop/widgets/Commands.h"
@@ -36,6 +37,10 @@ public:
     /// Starts sound and MIDI, and offers to recover unsaved sequences. The status line shows which
     /// devices are missing.
     void launch(const OutputSettings& output = preferredOutput());
+
+    /// Opens again what was open when the program ended last time, if the user wants that, and
+    /// remembers from now on what is open.
+    void openLastSession();
 
     /// Opens files one after the other; a message box explains each failure. Brings the
     /// workspace to the front if there are no files.
@@ -62,6 +67,8 @@ private:
     void openTuning(const QString& path, TuningFormat format);
     void openInstrument(const QString& path, InstrumentFormat format);
     void openSequence(const QString& path);
+    void openSession(const QString& path);
+    void saveSession();
     void selectInstrument(std::size_t position);
     void askForFiles();
     void transpose(int semitones);
@@ -86,6 +93,7 @@ private:
     ComputerKeyboard computerKeyboard_{application_};
     KeyRouter router_{workspace_, pages_, computerKeyboard_};
     DialogCommands dialogCommands_{*shell_.silence};
+    SessionKeeper session_{application_, workspace_, pages_};
     ExampleChord exampleChord_{application_};
     QString bankNotice_;  ///< The current notice about the General MIDI bank; may be empty.
     QStringList waiting_; ///< Files to open after the current one.

@@ -16,6 +16,7 @@
 
 #include <QActionGroup>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QEvent>
 #include <QFileDialog>
 #include <QFormLayout>
@@ -118,7 +119,23 @@ QWidget* PreferencesWindow::makeGeneralPane()
     });
     readers_.emplace_back([language] { language->read(); });
     form->addRow(tr("General MIDI bank:"), makeBankRow());
+    form->addRow(tr("A&t the start:"), makeStartBox());
     return pane;
+}
+
+QComboBox* PreferencesWindow::makeStartBox()
+{
+    auto* start = new QComboBox;
+    start->addItems({tr("Start empty"), tr("Start as last time")});
+    start->setObjectName("StartAsLastTime");
+    start->setToolTip(
+        tr("Whether the instruments, the tuning and the pieces that are open when you "
+           "quit are opened again"));
+    connect(start, &QComboBox::activated, this,
+            [](int index) { setPrefBool("StartAsLastTime", index == 1); });
+    readers_.emplace_back(
+        [start] { start->setCurrentIndex(getPrefBool("StartAsLastTime") ? 1 : 0); });
+    return start;
 }
 
 QWidget* PreferencesWindow::makeMidiPane(AppDelegate& application)

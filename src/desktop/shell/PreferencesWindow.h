@@ -6,6 +6,7 @@
 #include <vector>
 
 class QActionGroup;
+class QComboBox;
 class QFormLayout;
 class QSpinBox;
 class QStackedWidget;
@@ -47,6 +48,7 @@ private:
                    const QString& help);
     void addColor(QFormLayout& form, const QString& label, const char* key, const QString& help);
     QLayout* makeBankRow();
+    QComboBox* makeStartBox();
     void chooseBank();
     void setBank(const QString& path);
 

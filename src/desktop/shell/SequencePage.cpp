@@ -34,6 +34,7 @@ SequencePage::SequencePage(AppDelegate& application, ShellActions& actions, cons
     makeView();
     connect(&document_, &SequenceDocument::changed, this, &SequencePage::showTitle);
     connect(&document_.transport(), &Transport::frame, this, &SequencePage::showTitle);
+    connect(&keeper_, &RecoveryKeeper::failed, this, &SequencePage::unprotected);
     connect(&document_.undoStack(), &QUndoStack::cleanChanged, this, &SequencePage::showTitle);
     connect(&saver_, &SequenceSaver::saved, this, &SequencePage::showTitle);
     showTitle();
@@ -160,6 +161,8 @@ void SequencePage::scrollToNotes()
     const double middle = notes.empty() ? kEmptyMiddle : (lowest->key + highest->key) / 2.0;
     const auto left = std::lround((middle + 0.5) * getPrefInt("KeyWidth") - width() / 2.0);
     scrollView_->scrollTo({static_cast<int>(left), 0});
+    if (document_.transport().position() > 0.0) // it was open before
+        document_.transport().revealPosition();
 }
 
 } // namespace velmora

@@ -74,6 +74,9 @@ signals:
     /// A sentence for the status line.
     void message(const QString& text);
 
+    /// Unsaved changes are not protected against a crash, for the reason that `why` gives.
+    void unprotected(const QString& why);
+
 protected:
     void showEvent(QShowEvent* event) override;
 

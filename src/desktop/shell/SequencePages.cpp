@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QSessionManager>
 #include <QTabWidget>
 #include <QWindow>
 
@@ -50,6 +51,8 @@ SequencePages::SequencePages(AppDelegate& application, ShellActions& shell,
             [this] { setCurrent(static_cast<SequencePage*>(tabs_.currentWidget())); });
     connect(&tabs_, &QTabWidget::tabCloseRequested, this,
             [this](int index) { close(*static_cast<SequencePage*>(tabs_.widget(index))); });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &SequencePages::answerLogout,
+            Qt::DirectConnection);
     connect(qApp, &QApplication::focusWindowChanged, this, [this] {
         const QWidget* active = QApplication::activeWindow();
         for (SequencePage* page : pages_)
@@ -78,6 +81,10 @@ SequencePage& SequencePages::makePage(const QString& name, RecoveryFile recovery
     connect(page, &SequencePage::titleChanged, this, [this, page] { showTitle(*page); });
     connect(page, &SequencePage::zoomed, this, &SequencePages::zoomed);
     connect(page, &SequencePage::message, this, &SequencePages::message);
+    connect(page, &SequencePage::unprotected, this, [this](const QString& why) {
+        if (!std::exchange(wasUnprotected_, true))
+            emit unprotected(why);
+    });
     connect(&page->document().transport(), &Transport::frame, page, [this, page] {
         keyboard_.refresh();
         if (current_ == page)
@@ -163,7 +170,17 @@ bool SequencePages::close(SequencePage& page)
     return true;
 }
 
-bool SequencePages::closeAll()
+void SequencePages::answerLogout(QSessionManager& manager)
+{
+    if (!manager.allowsInteraction())
+        return; // unsaved changes are kept for recovery
+    if (askToCloseAll())
+        manager.release();
+    else
+        manager.cancel();
+}
+
+bool SequencePages::askToCloseAll()
 {
     // Files, and thus pages, may be opened from outside while a question is open.
     const std::vector<QPointer<SequencePage>> asked(pages_.begin(), pages_.end());
@@ -174,6 +191,14 @@ bool SequencePages::closeAll()
         if (!page->saver().askToClose())
             return false;
     }
+    return true;
+}
+
+bool SequencePages::closeAll()
+{
+    if (!askToCloseAll())
+        return false;
+    emit closingAll();
     while (!pages_.empty())
         remove(*pages_.back());
     return true;

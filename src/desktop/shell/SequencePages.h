@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+class QSessionManager;
 class QTabWidget;
 
 namespace velmora {
@@ -19,7 +20,8 @@ class ShellActions;
 
 /// The open pieces. Each is a tab, or has a window of its own. The current piece is the one that
 /// was active last, even while a panel is active: the commands act on it, and the keyboard shows
-/// the keys that it plays, or that its practice waits for.
+/// the keys that it plays, or that its practice waits for. Before the user's session ends, the user
+/// is asked what to do with unsaved changes.
 class SequencePages : public QObject {
     Q_OBJECT
 
@@ -52,8 +54,11 @@ public:
     /// cancels.
     bool close(SequencePage& page);
 
-    /// Asks for each page what to do with its unsaved changes, then closes all pages. Returns false
-    /// if the user cancels; then all of them stay open.
+    /// Asks for each page what to do with its unsaved changes. Returns false if the user cancels.
+    bool askToCloseAll();
+
+    /// Asks like `askToCloseAll`, then closes all pages. Returns false if the user cancels; then
+    /// all of them stay open.
     bool closeAll();
 
     /// Gives a piece a window of its own, or makes it a tab again.
@@ -75,14 +80,22 @@ signals:
     /// The scale in the preferences has changed; every view that shows keys must be updated.
     void zoomed();
 
+    /// The user has agreed to close all pages, which are still open.
+    void closingAll();
+
     /// A sentence for the status line.
     void message(const QString& text);
+
+    /// Unsaved changes are not protected against a crash, for the reason that `why` gives. Emitted
+    /// only once.
+    void unprotected(const QString& why);
 
 private:
     SequencePage& makePage(const QString& name, RecoveryFile recovery = RecoveryFile());
     void show(SequencePage& page);
     void showTitle(SequencePage& page);
     void setCurrent(SequencePage* page);
+    void answerLogout(QSessionManager& manager);
     void remove(SequencePage& page);
     QString unusedName();
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -94,6 +107,7 @@ private:
     KeyboardView& keyboard_;
     std::vector<SequencePage*> pages_; ///< Each is owned by the tabs or by its window.
     SequencePage* current_ = nullptr;
+    bool wasUnprotected_ = false;
     int names_ = 0; ///< How many names `unusedName` has returned.
 };
 

@@ -59,6 +59,13 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
       open(commands.add("file.open", fileGroup(),
                         {tr("&Open…"), tr("Open pieces, instruments and tunings"), "open"},
                         {QKeySequence(QKeySequence::Open)})),
+      openSession(
+          commands.add("file.openSession", fileGroup(),
+                       {tr("Open Sess&ion…"),
+                        tr("Open the instruments, the tuning and the pieces of a session")})),
+      saveSession(commands.add(
+          "file.saveSession", fileGroup(),
+          {tr("Sa&ve Session…"), tr("Save which instruments, tuning and pieces are open")})),
       save(commands.add("file.save", fileGroup(), {tr("&Save"), tr("Save the piece"), "save"},
                         {QKeySequence(QKeySequence::Save)})),
       saveAs(commands.add("file.saveAs", fileGroup(), {tr("Save &As…"), {}},
@@ -147,6 +154,8 @@ void ShellActions::addFile(QMenu& file) const
     file.addMenu(recent_.get());
     file.addSeparator();
     file.addActions({save, saveAs, exportAudio});
+    file.addSeparator();
+    file.addActions({openSession, saveSession});
     file.addSeparator();
     file.addActions({close, preferences, quit});
 }

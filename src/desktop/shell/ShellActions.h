@@ -24,7 +24,9 @@ public:
     ShellActions(AppDelegate& application, Commands& commands);
     ~ShellActions() override;
 
-    QAction *const newSequence, *const open, *const save, *const saveAs, *const exportAudio;
+    QAction *const newSequence,
+        *const open, *const openSession, *const saveSession, *const save, *const saveAs,
+                                                                              *const exportAudio;
     QAction *const close, *const preferences, *const quit;
     QAction* const silence;                                    ///< Stops every sound at once.
     QAction *const transposeUp, *const transposeDown;          ///< By a semitone.

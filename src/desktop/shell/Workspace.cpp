@@ -161,6 +161,19 @@ void Workspace::setLayout(Layout layout)
     restoreLayout();
 }
 
+std::string Workspace::arrangement() const
+{
+    return static_cast<char>(layout_) + saveState(kLayoutVersion).toStdString();
+}
+
+void Workspace::restoreArrangement(const std::string& bytes)
+{
+    if (bytes.empty() || bytes.front() > static_cast<char>(Layout::Stage))
+        return;
+    setLayout(static_cast<Layout>(bytes.front()));
+    restoreState(QByteArray::fromStdString(bytes.substr(1)), kLayoutVersion);
+}
+
 void Workspace::saveLayout() const
 {
     setPreference(layoutKey(layout_), saveState(kLayoutVersion));

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 #include <array>
+#include <string>
 
 class QDockWidget;
 class QStackedWidget;
@@ -46,6 +47,12 @@ public:
 
     /// Arranges the window as the user has left this layout.
     void setLayout(Layout layout);
+
+    /// The layout and how the window is arranged, for `restoreArrangement`.
+    std::string arrangement() const;
+
+    /// Arranges the window again. Ignores bytes that are not of this version.
+    void restoreArrangement(const std::string& bytes);
 
     /// Shows a document in the transport bar; null for none.
     void setDocument(SequenceDocument* document);

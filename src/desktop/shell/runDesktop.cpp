@@ -77,6 +77,7 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files, boo
     launching.setSingleShot(true);
     QObject::connect(&launching, &QTimer::timeout, [&] {
         desktop.launch(output);
+        desktop.openLastSession();
         if (!paths.isEmpty())
             desktop.open(paths);
     });

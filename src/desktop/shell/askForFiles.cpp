@@ -1,0 +1,74 @@
+#include "desktop/shell/askForFiles.h"
+
+#include "desktop/shell/askWhereToSave.h"
+#include "preferences/settings.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace velmora {
+
+namespace {
+
+constexpr const char* kFolderKey = "openFolder";
+constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ";
+constexpr const char* kTunings = "*.scl *.mtx";
+constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
+constexpr const char* kSessions = "*.velmora";
+
+struct Opening {
+    Q_DECLARE_TR_FUNCTIONS(velmora::Desktop)
+};
+
+void rememberFolderOf(const QString& path)
+{
+    if (!path.isEmpty())
+        setPreference(kFolderKey, QFileInfo(path).absolutePath());
+}
+
+} // namespace
+
+QStringList askForFiles(QWidget* parent)
+{
+    const QString every = QStringList{kInstruments, kTunings, kSequences, kSessions}.join(' ');
+    QStringList paths = QFileDialog::getOpenFileNames(
+        parent, Opening::tr("Open"), dialogFolder(kFolderKey),
+        Opening::tr("All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;"
+                    "Sessions (%5);;All files (*)")
+            .arg(every, kInstruments, kTunings, kSequences, kSessions));
+    rememberFolderOf(paths.value(0));
+    return paths;
+}
+
+QString askForSession(QWidget* parent)
+{
+    QString path =
+        QFileDialog::getOpenFileName(parent, Opening::tr("Open Session"), dialogFolder(kFolderKey),
+                                     Opening::tr("Sessions (%1)").arg(kSessions));
+    rememberFolderOf(path);
+    return path;
+}
+
+QString askWhereToSaveSession(QWidget& parent)
+{
+    return askWhereToSave(parent, {.title = Opening::tr("Save Session"),
+                                   .kinds = {{Opening::tr("Session"), {"velmora"}}},
+                                   .proposal = Opening::tr("Session") + ".velmora",
+                                   .folderKey = "saveFolder"});
+}
+
+bool askToOpenAgain(QWidget* parent)
+{
+    QMessageBox box(QMessageBox::Question, Opening::tr("Velmora"),
+                    Opening::tr("Velmora ended while it was opening what was open last time. Open "
+                                "it again?"),
+                    QMessageBox::NoButton, parent);
+    const QPushButton* again = box.addButton(Opening::tr("Open Again"), QMessageBox::AcceptRole);
+    box.setEscapeButton(box.addButton(Opening::tr("Start Empty"), QMessageBox::RejectRole));
+    box.exec();
+    return box.clickedButton() == again;
+}
+
+} // namespace velmora

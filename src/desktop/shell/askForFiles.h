@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QStringList>
+
+class QWidget;
+
+namespace velmora {
+
+// Dialogs that ask what to open. Each begins in the folder that was chosen last.
+
+/// Asks for files of every kind. Returns an empty list if the user cancels.
+QStringList askForFiles(QWidget* parent);
+
+/// Asks for a session file. Returns an empty path if the user cancels.
+QString askForSession(QWidget* parent);
+
+/// Asks where to save a session. Returns an empty path if the user cancels.
+QString askWhereToSaveSession(QWidget& parent);
+
+/// Asks whether to open the last session again, although the program has ended while it did that.
+bool askToOpenAgain(QWidget* parent);
+
+} // namespace velmora
