@@ -35,6 +35,8 @@ public:
         require(volume >= 0 && volume <= 1 && slider < 6);
     }
     void toggleVolume(std::size_t slider) override { require(slider == 5); }
+    void setMasterVolume(float volume) override { require(volume >= 0 && volume <= 1); }
+    void toggleMasterVolume() override {}
     void perform(LearnedAction::Kind /*action*/) override { require(false); }
     void learned(MidiControl control) override
     {
@@ -57,7 +59,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (std::size_t at = 0; at < size;) {
         const std::uint8_t first = data[at++];
         if (first >= 0xC0) {
-            learned.listen({LearnedAction::Kind::Volume, 5});
+            learned.listen(first % 2 == 0 ? LearnedAction{LearnedAction::Kind::Volume, 5}
+                                          : LearnedAction{LearnedAction::Kind::MasterVolume, 0});
         } else if (first >= 0x80) {
             settings.transposition = first % 49 - kMaxTransposition;
         } else {

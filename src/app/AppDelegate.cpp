@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cassert>
 #include <chrono>
+#include <cmath>
 
 namespace velmora {
 
@@ -320,6 +321,12 @@ void AppDelegate::toggleVolume(std::size_t stop)
     });
 }
 
+void AppDelegate::moveMasterVolume(float volume)
+{
+    engine_.setVolume(volume);
+    queue_.post({.kind = InputEvent::Kind::MasterVolume, .volume = volume});
+}
+
 void AppDelegate::midiInput()
 {
     queue_.post({});
@@ -338,6 +345,10 @@ void AppDelegate::handle(const InputEvent& event)
         break;
     case InputEvent::Kind::Volume:
         emit volumeMoved(event.slider, event.volume);
+        break;
+    case InputEvent::Kind::MasterVolume:
+        setPrefInt("MasterVolume", static_cast<int>(std::lround(100.0F * event.volume)));
+        emit masterVolumeMoved();
         break;
     case InputEvent::Kind::Program:
         emit programSelected(event.program);

@@ -121,6 +121,10 @@ public:
     /// `volumeMoved` follows. Any thread may call it.
     void toggleVolume(std::size_t stop);
 
+    /// Sets the master volume, from 0 to 1, and remembers it; `masterVolumeMoved` follows. Any
+    /// thread may call it.
+    void moveMasterVolume(float volume);
+
     /// Passes an event to the main thread. Any thread may call it.
     void post(const InputEvent& event) { queue_.post(event); }
 
@@ -218,6 +222,9 @@ signals:
 
     /// A MIDI controller has moved the slider of a stop. Emitted on the main thread.
     void volumeMoved(std::size_t slider, float volume);
+
+    /// A control of a MIDI device has moved the master volume, whose preference has changed.
+    void masterVolumeMoved();
 
     /// An import of `steps` steps begins.
     void progressStarted(long steps);

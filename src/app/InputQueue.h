@@ -18,11 +18,12 @@ namespace velmora {
 /// the event loop.
 struct InputEvent {
     enum class Kind {
-        MidiInput, ///< The held keys have changed.
-        Volume,    ///< A controller has moved a slider.
-        Program,   ///< A General MIDI program was selected.
-        Action,    ///< A learned control was used.
-        Learned    ///< A control has learned an action.
+        MidiInput,    ///< The held keys have changed.
+        Volume,       ///< A controller has moved a slider.
+        MasterVolume, ///< A learned control has moved it.
+        Program,      ///< A General MIDI program was selected.
+        Action,       ///< A learned control was used.
+        Learned       ///< A control has learned an action.
     };
 
     Kind kind = Kind::MidiInput;

@@ -18,8 +18,6 @@ void LiveDevice::receive(MidiPacket message, double time)
     const bool isPlain = application_.playing().settings().isPlain;
     if (isPlain != std::exchange(wasPlain_, isPlain))
         releaseKeys(); // the other reading does not know what is held
-    if (isForgetful_.exchange(false))
-        translator_.reset();
     if (isPlain)
         midiRead({&message, 1}, *this);
     else
@@ -28,13 +26,13 @@ void LiveDevice::receive(MidiPacket message, double time)
 
 void LiveDevice::releaseKeys()
 {
-    isForgetful_ = true;
+    translator_.reset();
     Player& player = application_.player();
     for (int channel = 0; channel < midi::kChannels; ++channel)
         player.releaseAll(source(channel));
-    if (isSoft_.exchange(false))
+    if (std::exchange(isSoft_, false))
         player.setSoft(false);
-    if (isBent_.exchange(false))
+    if (std::exchange(isBent_, false))
         player.bend(0.0, getTime());
     application_.midiInput();
 }
@@ -66,7 +64,7 @@ void LiveDevice::setSostenuto(bool isDown, int channel)
 
 void LiveDevice::setSoft(bool isDown)
 {
-    if (isSoft_.exchange(isDown) != isDown)
+    if (std::exchange(isSoft_, isDown) != isDown)
         application_.player().setSoft(isDown);
 }
 
@@ -94,6 +92,16 @@ void LiveDevice::setVolume(float volume, std::size_t slider)
 void LiveDevice::toggleVolume(std::size_t slider)
 {
     application_.toggleVolume(slider);
+}
+
+void LiveDevice::setMasterVolume(float volume)
+{
+    application_.moveMasterVolume(volume);
+}
+
+void LiveDevice::toggleMasterVolume()
+{
+    application_.moveMasterVolume(application_.engine().volume() > 0.0F ? 0.0F : 1.0F);
 }
 
 void LiveDevice::perform(LearnedAction::Kind action)

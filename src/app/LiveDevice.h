@@ -3,7 +3,6 @@
 #include "app/KeyHolders.h"
 #include "midi/MidiTranslator.h"
 
-#include <atomic>
 #include <cstddef>
 
 namespace velmora {
@@ -21,8 +20,8 @@ public:
     /// the device's receive thread.
     void receive(MidiPacket message, double time);
 
-    /// Releases the keys and pedals that the device holds, and centres the pitch wheel. May be
-    /// called on any thread.
+    /// Releases the keys and pedals that the device holds, and centres the pitch wheel. Must not
+    /// be called while another thread is in `receive`.
     void releaseKeys();
 
 private:
@@ -40,6 +39,8 @@ private:
     void silence() override;
     void setProgram(std::uint8_t program) override;
     void toggleVolume(std::size_t slider) override;
+    void setMasterVolume(float volume) override;
+    void toggleMasterVolume() override;
     void perform(LearnedAction::Kind action) override;
     void learned(MidiControl control) override;
 
@@ -53,9 +54,8 @@ private:
     std::size_t number_;
     MidiTranslator translator_;
     bool wasPlain_ = false;
-    std::atomic<bool> isForgetful_{false};            ///< The translator must forget what is held.
-    std::atomic<bool> isSoft_{false}, isBent_{false}; ///< By this device.
-    double time_ = 0.0; ///< When the message that is being read was received.
+    bool isSoft_ = false, isBent_ = false; ///< By this device.
+    double time_ = 0.0;                    ///< When the message that is being read was received.
 };
 
 } // namespace velmora

@@ -64,6 +64,7 @@ void LiveDevices::setSettings(const std::string& name, DeviceSettings settings)
     for (const auto& slot : slots_) {
         if (!slot || slot->name != name)
             continue;
+        const std::lock_guard playing(slot->playing);
         const DeviceSettings before = slot->filter.settings();
         slot->filter.setSettings(settings);
         // Keys that are still held are released as they were pressed, but a pedal is not, or a key
@@ -99,6 +100,7 @@ void LiveDevices::arrived(const MidiDevice& device)
             slot->messages = 0;
         slot->name = device.name;
         slot->isConnected = true;
+        const std::lock_guard playing(slot->playing);
         slot->filter.setSettings(settingsOf(device.name));
     }
     application_.announceMidiDevices();
@@ -107,8 +109,11 @@ void LiveDevices::arrived(const MidiDevice& device)
 void LiveDevices::departed(const MidiDevice& device)
 {
     Slot& slot = *slots_[device.number];
-    slot.filter.reset();
-    slot.device.releaseKeys();
+    {
+        const std::lock_guard playing(slot.playing);
+        slot.filter.reset();
+        slot.device.releaseKeys();
+    }
     {
         const std::lock_guard lock(mutex_);
         slot.isConnected = false;
@@ -121,6 +126,7 @@ void LiveDevices::received(std::size_t device, MidiPacket message, double time)
     Slot& slot = *slots_[device];
     slot.messages.fetch_add(1, std::memory_order_relaxed);
     application_.noteActivity();
+    const std::lock_guard playing(slot.playing);
     const MidiPacket wanted = slot.filter.read(message);
     if (!wanted.empty())
         slot.device.receive(wanted, time);

@@ -3,6 +3,7 @@
 #include "app/LiveDevice.h"
 #include "midi/DeviceFilter.h"
 #include "midi/MidiReceiver.h"
+#include "platform/PriorityMutex.h"
 
 #include <array>
 #include <atomic>
@@ -47,6 +48,7 @@ private:
         std::string name;
         bool isConnected = false;
         std::atomic<std::uint64_t> messages{0};
+        PriorityMutex playing; ///< Guards the members below. Held for one message at most.
         DeviceFilter filter;
         LiveDevice device;
     };

@@ -15,8 +15,8 @@ namespace {
 
 constexpr const char* kLearnedKey = "LearnedControls";
 
-constexpr std::array<const char*, 6> kActionNames{"",       "volume", "play",
-                                                  "record", "stop",   "silence"};
+constexpr std::array<const char*, 7> kActionNames{"",     "volume",  "play",  "record",
+                                                  "stop", "silence", "master"};
 constexpr const char* kKeyName = "key";
 constexpr const char* kControllerName = "controller";
 

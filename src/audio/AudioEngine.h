@@ -44,6 +44,7 @@ public:
 
     /// Sets the master volume, a factor from 0 to 1.
     void setVolume(float volume) { volume_ = volume; }
+    float volume() const { return volume_; }
 
     /// Returns the highest absolute sample of each channel since the last call.
     std::array<float, 2> takePeaks();

@@ -29,7 +29,8 @@ struct alignas(4) LearnedAction {
         Play,
         Record,
         Stop,
-        Silence ///< Ends every sound.
+        Silence,      ///< Ends every sound.
+        MasterVolume, ///< As `Volume`, for everything that sounds.
     };
 
     Kind kind = Kind::None;

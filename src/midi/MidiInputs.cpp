@@ -148,8 +148,12 @@ void MidiInputs::connect(const MidiPort& port)
     std::vector<MidiDevice> present;
     for (const Input& input : inputs_)
         present.push_back(input.device);
-    if (present.size() == kMidiDevices)
+    if (present.size() == kMidiDevices) {
+        if (failed_.insert(port.name).second)
+            logger("midi").warn("{} is left out, because {} MIDI inputs are connected already",
+                                port.name, kMidiDevices);
         return;
+    }
     const MidiDevice device = numbers_.add(port.name, present);
     try {
         Input input{port, device, port.service->connect(port, receiver_, device.number)};

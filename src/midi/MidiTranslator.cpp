@@ -96,6 +96,8 @@ void MidiTranslator::readNote(int channel, std::uint8_t key, std::uint8_t veloci
         action.kind != LearnedAction::Kind::None) {
         if (action.kind == LearnedAction::Kind::Volume)
             input_.toggleVolume(action.slider);
+        else if (action.kind == LearnedAction::Kind::MasterVolume)
+            input_.toggleMasterVolume();
         else
             input_.perform(action.kind);
         return;
@@ -146,8 +148,11 @@ void MidiTranslator::readController(int channel, std::uint8_t number, std::uint8
 
 void MidiTranslator::useLearned(LearnedAction action, std::uint8_t value, bool wentHigh)
 {
+    const float volume = static_cast<float>(value) / 127.0F;
     if (action.kind == LearnedAction::Kind::Volume)
-        input_.setVolume(static_cast<float>(value) / 127.0F, action.slider);
+        input_.setVolume(volume, action.slider);
+    else if (action.kind == LearnedAction::Kind::MasterVolume)
+        input_.setMasterVolume(volume);
     else if (wentHigh)
         input_.perform(action.kind);
 }

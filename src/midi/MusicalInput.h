@@ -42,6 +42,12 @@ public:
     /// A learned key switches the volume of a stop between 0 and 1.
     virtual void toggleVolume(std::size_t slider) = 0;
 
+    /// A learned controller moved the master volume to a value from 0 to 1.
+    virtual void setMasterVolume(float volume) = 0;
+
+    /// A learned key switches the master volume between 0 and 1.
+    virtual void toggleMasterVolume() = 0;
+
     /// A learned control asks for `Play`, `Record`, `Stop` or `Silence`.
     virtual void perform(LearnedAction::Kind action) = 0;
 

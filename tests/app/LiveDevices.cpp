@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <thread>
+
 namespace velmora {
 
 namespace {
@@ -73,6 +76,23 @@ TEST_F(LiveDevicesTest, SettingsApplyAtOnceAndAreRememberedByName)
     EXPECT_EQ(remembered.settings, (DeviceSettings{.keyOffset = -12, .channel = 0, .isOn = false}));
     later.midiDevices().setSettings("Keys", {});
     EXPECT_EQ(later.midiDevices().devices().size(), 0) << "nothing to remember";
+}
+
+TEST_F(LiveDevicesTest, ADeviceThatIsSwitchedOffWhileItPlaysHoldsNoKey)
+{
+    std::atomic<int> messages{0};
+    const std::jthread playing([&](const std::stop_token& stop) {
+        for (const std::vector<std::uint8_t> press{0x90, 60, 127}; !stop.stop_requested();
+             ++messages)
+            devices_.received(keys_.number, press, 1.0);
+    });
+    for (int i = 0; i < 300; ++i) {
+        devices_.setSettings("Keys", {.isOn = true});
+        devices_.setSettings("Keys", {.isOn = false});
+        for (const int before = messages; messages < before + 2;)
+            std::this_thread::yield();
+        ASSERT_EQ(app_.player().liveKeys().state(60), 0) << i;
+    }
 }
 
 } // namespace velmora

@@ -48,6 +48,8 @@ private:
         calls_ += fmt::format("volume {} {:.3f}, ", slider, volume);
     }
     void toggleVolume(std::size_t slider) override { calls_ += fmt::format("toggle {}, ", slider); }
+    void setMasterVolume(float volume) override { calls_ += fmt::format("all {:.3f}, ", volume); }
+    void toggleMasterVolume() override { calls_ += "toggle all, "; }
     void perform(LearnedAction::Kind action) override
     {
         calls_ += fmt::format("perform {}, ", static_cast<int>(action));
@@ -158,6 +160,9 @@ TEST_F(MidiTranslatorTest, ALearnedControlDoesOnlyItsAction)
     EXPECT_EQ(read({{0x80, 60, 0}, {0x90, 60, 1}, {0x80, 60, 0}, {0x91, 60, 127}}),
               "off 60 ch0, told, perform 5, on 60 1.000 ch1, told, ");
     EXPECT_EQ(read({{0x90, 61, 1}, {0x80, 61, 0}}), "toggle 2, ");
+    learned_.set({MidiControl::Kind::Key, 0, 61}, {Kind::MasterVolume});
+    learned_.set({MidiControl::Kind::Controller, 3, 22}, {Kind::MasterVolume});
+    EXPECT_EQ(read({{0x90, 61, 1}, {0xB3, 22, 127}}), "toggle all, all 1.000, ");
     learned_.set({MidiControl::Kind::Controller, 3, 21}, {});
     EXPECT_EQ(read({{0xB3, 21, 127}, {0xB0, 7, 127}}), "volume 0 1.000, ") << "forgotten";
 }

@@ -1,6 +1,7 @@
 #include "desktop/shell/SoundPane.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/widgets/LearnMenu.h"
 #include "desktop/widgets/LevelMeter.h"
 #include "preferences/Preferences.h"
 
@@ -69,6 +70,8 @@ SoundPane::SoundPane(AppDelegate& application)
         showStatus();
     });
     connect(&application_, &AppDelegate::outputChanged, this, &SoundPane::showStatus);
+    connect(&application_, &AppDelegate::masterVolumeMoved, this,
+            [this] { volume_->setValue(getPrefInt("MasterVolume")); });
     application_.engine().add(tone_);
     read();
 }
@@ -95,6 +98,7 @@ QLayout* SoundPane::makeVolumeRow()
     volume_->setObjectName("MasterVolume");
     volume_->setAccessibleName(tr("Master volume"));
     volume_->setRange(0, 100);
+    new LearnMenu(*volume_, application_, {{{LearnedAction::Kind::MasterVolume}, {}}});
     percent_->setMinimumWidth(percent_->fontMetrics().horizontalAdvance("100 %"));
     connect(volume_, &QSlider::valueChanged, this, &SoundPane::setVolume);
     auto* row = new QHBoxLayout;

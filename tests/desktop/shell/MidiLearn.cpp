@@ -36,7 +36,7 @@ protected:
     ~MidiLearnTest() override
     {
         for (const char* key :
-             {"LearnedControls", "Transposition", "VelocityCurve", "PlainReading"})
+             {"LearnedControls", "MasterVolume", "Transposition", "VelocityCurve", "PlainReading"})
             resetPref(key);
     }
 
@@ -103,6 +103,26 @@ TEST_F(MidiLearnTest, ASliderLearnsTheNextController)
     EXPECT_EQ(toolTip(volume), "Volume");
     choose(volume, "Learn MIDI Controller…");
     send({0x90, 36, 1});
+    send({0x90, 36, 1});
+    EXPECT_EQ(volume.value(), 100) << "a key switches it";
+}
+
+TEST_F(MidiLearnTest, TheMasterVolumeLearnsAController)
+{
+    PreferencesWindow& window = desktop.preferencesWindow();
+    window.show();
+    auto& volume = *window.findChild<QSlider*>("MasterVolume");
+    choose(volume, "Learn MIDI Controller…");
+    send({0xB0, 22, 100});
+    EXPECT_EQ(volume.value(), 100) << "is not moved yet";
+    send({0xB0, 22, 32});
+    EXPECT_EQ(volume.value(), 25);
+    EXPECT_EQ(getPrefInt("MasterVolume"), 25);
+    EXPECT_NEAR(desktop.application().engine().volume(), 0.25F, 0.01F);
+    choose(volume, "Learn MIDI Controller…");
+    send({0x90, 36, 1});
+    send({0x90, 36, 1});
+    EXPECT_EQ(volume.value(), 0);
     send({0x90, 36, 1});
     EXPECT_EQ(volume.value(), 100) << "a key switches it";
 }
