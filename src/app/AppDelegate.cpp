@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "app/programNames.h"
 #include "audio/Synthesizer.h"
 #include "audio/openALSettings.h"
 #include "base/Log.h"
@@ -209,6 +210,18 @@ bool AppDelegate::unloadInstrument(std::size_t position)
 void AppDelegate::setMIDIProgram(std::uint8_t program)
 {
     player_.with([&](Instrument& instrument, Temperament&) { instrument.setInstrument(program); });
+    emit programSelected(program);
+}
+
+std::string AppDelegate::soundName()
+{
+    bool hasPrograms = false;
+    player_.with(
+        [&](const Instrument& instrument, Temperament&) { hasPrograms = instrument.hasSubMenu(); });
+    if (!hasPrograms)
+        return instrumentName_;
+    const std::string name = kMIDIInstrumentNames.at(midiProgram());
+    return name.substr(name.find(' ') + 1); // behind its number
 }
 
 std::uint8_t AppDelegate::midiProgram()

@@ -107,11 +107,15 @@ public:
     /// The name of the current instrument; empty if there is none.
     const std::string& instrumentName() const { return instrumentName_; }
 
-    /// Selects a General MIDI program, 0…127, on the current instrument.
+    /// Selects a General MIDI program, 0…127, on the current instrument; `programSelected` follows.
     void setMIDIProgram(std::uint8_t program);
 
     /// The program of the General MIDI player, 0…127.
     std::uint8_t midiProgram();
+
+    /// What a listener would call the current sound: the name of the General MIDI program, or that
+    /// of the instrument if it has no programs.
+    std::string soundName();
 
     /// Selects a General MIDI program as `setMIDIProgram` does; `programSelected` follows if the
     /// current instrument has programs. Any thread may call it.
@@ -202,7 +206,7 @@ signals:
     /// The thread that loads a bank has finished, successfully or not.
     void loadingFinished();
 
-    /// A MIDI device has selected a General MIDI program of the current instrument.
+    /// A General MIDI program of the current instrument was selected.
     void programSelected(int program);
 
     /// A control that has learned `Play`, `Record`, `Stop` or `Silence` was used.

@@ -1,6 +1,7 @@
 #include "desktop/shell/StageView.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/tuning/tuningText.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -41,8 +42,8 @@ StageView::StageView(AppDelegate& application) : application_(application)
 
 void StageView::showSound()
 {
-    instrument_->setText(QString::fromStdString(application_.instrumentName()));
-    tuning_->setText(QString::fromStdString(application_.tuningName()));
+    instrument_->setText(QString::fromStdString(application_.soundName()));
+    tuning_->setText(tuningText(application_, application_.tuningName()).title);
 }
 
 } // namespace velmora

@@ -44,6 +44,7 @@ StatusLine::StatusLine(AppDelegate& application)
     output_ = addItem(&StatusLine::soundClicked);
     inputs_ = addItem(&StatusLine::midiClicked);
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
+    connect(&application_, &AppDelegate::programSelected, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::tuningChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::outputChanged, this, &StatusLine::showOutput);
     connect(&application_.playing(), &PlayingOptions::changed, this, &StatusLine::showReading);
@@ -60,7 +61,7 @@ StatusItem* StatusLine::addItem(void (StatusLine::*clicked)())
 
 void StatusLine::showSound()
 {
-    const QString instrument = QString::fromStdString(application_.instrumentName());
+    const QString instrument = QString::fromStdString(application_.soundName());
     instrument_->show(instrument,
                       tr("Instrument: %1\nClick to show its programs or stops").arg(instrument));
     const auto [title, detail] = tuningText(application_, application_.tuningName());

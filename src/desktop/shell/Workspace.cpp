@@ -204,7 +204,10 @@ void Workspace::arrange()
     instrumentDock_->setVisible(layout_ != Layout::Edit);
     tuningDock_->setVisible(layout_ != Layout::Edit);
     constexpr std::array kHeights = {kKeyboardHeight, kEditKeyboardHeight, kStageKeyboardHeight};
-    resizeDocks({instrumentDock_, tuningDock_}, {kInstrumentWidth, kTuningWidth}, Qt::Horizontal);
+    const double type = layout_ == Layout::Stage ? kStageType : 1.0;
+    resizeDocks({instrumentDock_, tuningDock_},
+                {static_cast<int>(kInstrumentWidth * type), static_cast<int>(kTuningWidth * type)},
+                Qt::Horizontal);
     resizeDocks({keyboardDock_}, {kHeights.at(static_cast<std::size_t>(layout_))}, Qt::Vertical);
 }
 

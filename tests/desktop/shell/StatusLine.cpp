@@ -50,10 +50,11 @@ protected:
 TEST_F(StatusLineTest, ShowsWhatPlaysAndWhatIsMissing)
 {
     EXPECT_TRUE(QTest::qWaitFor([&] { return items().size() == 4; }));
-    EXPECT_THAT(items(), ElementsAre("MIDI Player", "Equal", "No sound output", "!No MIDI input"));
+    EXPECT_THAT(items(),
+                ElementsAre("Electric Grand Piano", "Equal", "No sound output", "!No MIDI input"));
     desktop.application().playing().setTransposition(-2);
-    EXPECT_THAT(items(), ElementsAre("MIDI Player", "Equal", "Transposed −2", "No sound output",
-                                     "!No MIDI input"));
+    EXPECT_THAT(items(), ElementsAre("Electric Grand Piano", "Equal", "Transposed −2",
+                                     "No sound output", "!No MIDI input"));
     desktop.application().playing().usePlainReading();
     EXPECT_EQ(items().at(2), "Plain reading");
     desktop.application().playing().setTransposition(0);
