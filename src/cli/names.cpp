@@ -58,6 +58,7 @@ std::optional<std::size_t> findName(const std::vector<std::string>& names, const
         return std::nullopt;
     if (candidates.size() > 1) {
         std::vector<std::string> titles;
+        titles.reserve(candidates.size());
         for (const std::size_t i : candidates)
             titles.push_back(names[i]);
         throw UsageError(
