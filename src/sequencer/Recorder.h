@@ -38,6 +38,9 @@ public:
     /// True if notes were recorded since the last call of `endTake`.
     bool hasTake() const { return !taken_.empty(); }
 
+    /// True if a note was recorded or lengthened since the last call of `endTake`.
+    bool isTaken(std::uint64_t id) const { return taken_.contains(id); }
+
     /// Ends the current take, but not the recording. Returns the notes of the take as they were
     /// before it.
     std::vector<NoteState> endTake();

@@ -4,6 +4,11 @@
 
 namespace velmora {
 
+/// The steps of a beat and of a bar as the piano roll draws them. Sequences have no time signature:
+/// a bar has four beats.
+constexpr int kStepsPerBeat = 8;
+constexpr int kStepsPerBar = 4 * kStepsPerBeat;
+
 /// The time between two ticks while a sequence plays or records.
 constexpr std::chrono::duration<double> kTick{1.0 / 1024.0};
 

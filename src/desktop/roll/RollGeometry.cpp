@@ -14,6 +14,13 @@ constexpr double kMinHalfWidth = 2.0;
 /// two pixels of its column free on each side.
 constexpr double kColumnMargin = 4.0;
 
+/// In a column of this many pixels, notes leave room beside them.
+constexpr int kNarrowColumn = 8;
+
+/// The gap after a note, and the height of the shortest one, in pixels.
+constexpr double kNoteGap = 1.0;
+constexpr double kLowestNote = 2.0;
+
 } // namespace
 
 int RollGeometry::firstKey() const
@@ -47,6 +54,15 @@ RollQuad RollGeometry::note(const Note& note) const
         note.velocity * std::max(0.0, keyWidth * 0.5 - kColumnMargin) + kMinHalfWidth;
     const double centre = xOf(note.key + 0.5);
     return {centre - half, centre + half - 1.0, yOf(note.start), yOf(note.start + note.length)};
+}
+
+RollQuad RollGeometry::block(const Note& note) const
+{
+    const double left = xOf(note.key), bottom = yOf(note.start);
+    const double margin = keyWidth < kNarrowColumn ? 0.0 : 1.0;
+    const double top = yOf(note.start + note.length) - kNoteGap;
+    return {left + 1 + margin, left + keyWidth - margin, bottom,
+            std::max(top, bottom + kLowestNote)};
 }
 
 RollPoint RollGeometry::pointAt(double mouseX, double mouseY) const

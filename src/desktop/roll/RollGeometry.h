@@ -56,6 +56,9 @@ struct RollGeometry {
     /// are wider.
     RollQuad note(const Note& note) const;
 
+    /// The rectangle of a note that fills its column and leaves a gap to the next note of its key.
+    RollQuad block(const Note& note) const;
+
     /// The key, 0…127, and the step at a mouse position, which is relative to the upper left
     /// corner of the view.
     RollPoint pointAt(double mouseX, double mouseY) const;

@@ -2,126 +2,170 @@
 
 #include "desktop/keyboard/KeyboardGeometry.h"
 #include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceTime.h"
 #include "sound/keys.h"
 
-#include <QPalette>
-
-#include <cmath>
+#include <algorithm>
+#include <array>
 
 namespace velmora {
 
 namespace {
 
-constexpr float kEndOpacity = 0.05F;
-constexpr float kIntervalOpacity = 0.5F;
+/// The opacity of a note's end in the classic scheme.
+constexpr std::uint8_t kEndOpacity = 13; // 5 %
 
-/// The distance between the darker grid lines.
-constexpr int kStepsPerBar = 8;
-
-/// If a step is lower than this many pixels, only the darker grid lines are drawn, because all the
+/// If a step is lower than this many pixels, only the lines of the beats are drawn, because all the
 /// lines together would cover the roll.
 constexpr int kMinGridStep = 3;
 
-using Shade = decltype(RollVertex::color);
+/// The largest radius of a note's corners in pixels, and the width of the outline of a selected
+/// note.
+constexpr double kCorner = 3.0;
+constexpr double kOutline = 2.0;
 
-Shade shade(const Color& color, float alpha)
-{
-    const auto byte = [](float part) { return static_cast<std::uint8_t>(std::lround(255 * part)); };
-    return {byte(color.red), byte(color.green), byte(color.blue), byte(alpha)};
-}
+/// A note that is lower or narrower than this many pixels is a plain rectangle.
+constexpr double kSmallest = 5.0;
 
-/// Returns a gray of level 0, black, to 255, white.
-constexpr Shade gray(std::uint8_t level)
-{
-    return {level, level, level, 255};
-}
-
-constexpr Shade kWhiteKey = gray(255);
-constexpr Shade kBlackKey = gray(179); // 70 %
-constexpr Shade kMiddleCKey{255, 255, 179, 255};
-constexpr Shade kColumnLine = gray(77); // 30 %
-constexpr Shade kStepLine = gray(204);  // 80 %
-constexpr Shade kBarLine = gray(153);   // 60 %
-
-Shade columnShade(int key)
+RollShade columnShade(int key, const RollColors& colors)
 {
     if (key == kMiddleC)
-        return kMiddleCKey;
-    return isBlackKey(key) ? kBlackKey : kWhiteKey;
+        return colors.middleC;
+    return isBlackKey(key) ? colors.blackColumn : colors.whiteColumn;
 }
 
-/// Returns the colour half-way between `color` and white.
-QColor light(const QColor& color)
+RollQuad inset(const RollQuad& quad, double pixels)
 {
-    return QColor::fromRgbF((color.redF() + 1) / 2, (color.greenF() + 1) / 2,
-                            (color.blueF() + 1) / 2);
+    return {quad.left + pixels, quad.right - pixels, quad.bottom + pixels, quad.top - pixels};
 }
 
 } // namespace
-
-// The roll is white in every theme, so the selected time is a light tint of the selection colour,
-// against which selected notes stand out.
-RollColors::RollColors(const QPalette& palette)
-    : note("NoteColor"), playing("NoteColorPlaying"),
-      selected(palette.color(QPalette::Active, QPalette::Highlight)),
-      interval(light(palette.color(QPalette::Active, QPalette::Highlight)))
-{
-}
 
 void RollPicture::draw(const RollGeometry& geometry, const RollColors& colors, double line,
                        const SequenceDocument& document, const RollIndex& index)
 {
     vertices_.clear();
     for (int key = geometry.firstKey(); key < geometry.endKey(); ++key)
-        if (const Shade color = columnShade(key); color != kWhiteKey)
+        if (const RollShade color = columnShade(key, colors); color != colors.whiteColumn)
             add(geometry.column(key), color);
     blendedBegin_ = vertices_.size();
     if (const Interval& interval = document.transport().interval(); !interval.isEmpty())
         add({0.0, geometry.width, geometry.yOf(interval.start), geometry.yOf(interval.end)},
-            shade(colors.interval, kIntervalOpacity));
-    addNotes(geometry, colors, document, index);
+            colors.interval);
+    if (colors.scheme == Scheme::Classic)
+        addFadingNotes(geometry, colors, document, index);
     blendedEnd_ = vertices_.size();
-    addGrid(geometry, line);
-    const double position = geometry.yOf(document.transport().position());
-    add({0.0, geometry.width, position, position + line}, shade(colors.selected, 1.0F));
+    addGrid(geometry, colors, line);
+    if (colors.scheme == Scheme::Calm)
+        addBlocks(geometry, colors, document, index);
+    addPosition(geometry, colors, line, document);
 }
 
-void RollPicture::addNotes(const RollGeometry& geometry, const RollColors& colors,
-                           const SequenceDocument& document, const RollIndex& index)
+void RollPicture::addFadingNotes(const RollGeometry& geometry, const RollColors& colors,
+                                 const SequenceDocument& document, const RollIndex& index)
 {
-    struct Gradient {
-        explicit Gradient(const Color& color)
-            : onset(shade(color, color.alpha)), end(shade(color, kEndOpacity))
-        {
-        }
-        Shade onset, end;
+    index.visit(document.sequence().notes(), geometry.bottomStep(), geometry.topStep(),
+                [&](const Note& note) {
+                    const RollShade onset = note.selected ? colors.selected
+                                            : note.active ? colors.playing
+                                                          : colors.atRest(note);
+                    RollShade end = onset;
+                    end[3] = kEndOpacity;
+                    add(geometry.note(note), onset, end);
+                });
+}
+
+void RollPicture::addBlocks(const RollGeometry& geometry, const RollColors& colors,
+                            const SequenceDocument& document, const RollIndex& index)
+{
+    const bool isRecording = document.transport().mode() == Transport::Mode::Recording;
+    index.visit(document.sequence().notes(), geometry.bottomStep(), geometry.topStep(),
+                [&](const Note& note) {
+                    RollQuad block = geometry.block(note);
+                    if (note.selected) {
+                        addBlock(block, colors.outline, colors.outline);
+                        block = inset(block, std::min(kOutline, (block.right - block.left) / 4));
+                        if (block.top <= block.bottom)
+                            return;
+                    }
+                    const bool isTaken = isRecording && document.recorder().isTaken(note.id);
+                    const RollShade color = note.selected ? colors.selected
+                                            : isTaken     ? colors.recorded
+                                            : note.active ? colors.playing
+                                                          : colors.atRest(note);
+                    addBlock(block, colors.onset(color), color);
+                });
+}
+
+void RollPicture::addBlock(const RollQuad& quad, RollShade bottom, RollShade color)
+{
+    if (quad.top - quad.bottom < kSmallest || quad.right - quad.left < kSmallest) {
+        add(quad, color);
+        return;
+    }
+    const double corner =
+        std::min({kCorner, (quad.right - quad.left) / 4, (quad.top - quad.bottom) / 4});
+    const auto [left, right, low, high, edge] = std::array{
+        static_cast<float>(quad.left), static_cast<float>(quad.right),
+        static_cast<float>(quad.bottom), static_cast<float>(quad.top), static_cast<float>(corner)};
+    vertices_.insert(vertices_.end(), {{left + edge, low, bottom},
+                                       {right - edge, low, bottom},
+                                       {right, low + edge, bottom},
+                                       {left, low + edge, bottom},
+                                       {left, low + edge, color},
+                                       {right, low + edge, color},
+                                       {right, high - edge, color},
+                                       {left, high - edge, color},
+                                       {left, high - edge, color},
+                                       {right, high - edge, color},
+                                       {right - edge, high, color},
+                                       {left + edge, high, color}});
+}
+
+void RollPicture::addPosition(const RollGeometry& geometry, const RollColors& colors, double line,
+                              const SequenceDocument& document)
+{
+    const Transport& transport = document.transport();
+    const auto across = [&](double step, double height) {
+        const double bottom = geometry.yOf(step);
+        add({0.0, geometry.width, bottom, bottom + height}, colors.selected);
     };
-    const Gradient selected(colors.selected), playing(colors.playing), plain(colors.note);
-    index.visit(
-        document.sequence().notes(), geometry.bottomStep(), geometry.topStep(),
-        [&](const Note& note) {
-            const Gradient& gradient = note.selected ? selected : note.active ? playing : plain;
-            add(geometry.note(note), gradient.onset, gradient.end);
-        });
+    if (colors.scheme == Scheme::Classic) {
+        across(transport.position(), line);
+        return;
+    }
+    if (const Interval& interval = transport.interval(); !interval.isEmpty()) {
+        const double height = transport.loops() ? 2 * line : line;
+        across(interval.start, height);
+        across(interval.end, height);
+    }
+    across(transport.position(), 2 * line);
 }
 
 // Lines are narrow quads, so that they cover the same pixels with every driver.
-void RollPicture::addGrid(const RollGeometry& geometry, double line)
+void RollPicture::addGrid(const RollGeometry& geometry, const RollColors& colors, double line)
 {
-    for (int key = geometry.firstKey(); key <= geometry.endKey(); ++key) {
-        const double left = geometry.xOf(key);
-        add({left, left + line, 0.0, geometry.height}, kColumnLine);
-    }
-    const int stride = geometry.keyHeight < kMinGridStep ? kStepsPerBar : 1;
+    const auto addColumns = [&](RollShade color, int first, int keys) {
+        for (int key = first; key <= geometry.endKey(); key += keys) {
+            const double left = geometry.xOf(key);
+            add({left, left + line, 0.0, geometry.height}, color);
+        }
+    };
+    addColumns(colors.columnLine, geometry.firstKey(), 1);
+    const int stride = geometry.keyHeight < kMinGridStep ? kStepsPerBeat : 1;
     for (int step = geometry.firstStep() / stride * stride; step < geometry.endStep();
          step += stride) {
         const double bottom = geometry.yOf(step);
-        add({0.0, geometry.width, bottom, bottom + line},
-            step % kStepsPerBar == 0 ? kBarLine : kStepLine);
+        add({0.0, geometry.width, bottom, bottom + line}, step % kStepsPerBar == 0 ? colors.barLine
+                                                          : step % kStepsPerBeat == 0
+                                                              ? colors.beatLine
+                                                              : colors.stepLine);
     }
+    if (colors.octaveLine != colors.columnLine)
+        addColumns(colors.octaveLine, (geometry.firstKey() + 11) / 12 * 12, 12);
 }
 
-void RollPicture::add(const RollQuad& quad, Shade bottom, Shade top)
+void RollPicture::add(const RollQuad& quad, RollShade bottom, RollShade top)
 {
     const auto [left, right, low, high] =
         std::array{static_cast<float>(quad.left), static_cast<float>(quad.right),

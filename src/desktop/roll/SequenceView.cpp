@@ -82,7 +82,9 @@ void SequenceView::updateIndex()
 
 void SequenceView::paintGL()
 {
-    glClearColor(1, 1, 1, 1);
+    const RollColors colors(palette());
+    const auto [red, green, blue, opacity] = colors.whiteColumn;
+    glClearColor(red / 255.0F, green / 255.0F, blue / 255.0F, 1);
     glClear(GL_COLOR_BUFFER_BIT);
     if (document_ == nullptr)
         return;
@@ -93,7 +95,7 @@ void SequenceView::paintGL()
     updateIndex();
     const double ratio = devicePixelRatioF();
     const double line = std::max(1.0, std::floor(ratio)) / ratio;
-    picture_.draw(rollGeometry(), RollColors(palette()), line, *document_, index_);
+    picture_.draw(rollGeometry(), colors, line, *document_, index_);
     const auto& vertices = picture_.vertices();
     glEnableClientState(GL_VERTEX_ARRAY);
     glEnableClientState(GL_COLOR_ARRAY);

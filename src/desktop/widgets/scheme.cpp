@@ -25,7 +25,7 @@ constexpr std::array<CalmColor, 6> kCalmColors = {{
     {"KeyColorSustain", 0xff8069c0, 0xff8069c0},
     {"KeyColorWrong", 0xffd9423a, 0xffd9423a},
     {"NoteColor", 0xff3b6ea5, 0xff6fa8dc},
-    {"NoteColorPlaying", 0xffb4560e, 0xffffb454},
+    {"NoteColorPlaying", 0xffcf4f00, 0xffffa54a},
 }};
 
 /// Returns the relative luminance of a colour, 0 to 1.

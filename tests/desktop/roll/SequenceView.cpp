@@ -27,6 +27,7 @@ class SequenceViewTest : public SequenceTest {
 protected:
     SequenceViewTest()
     {
+        setPrefString("Scheme", "Classic");
         QPalette palette;
         palette.setColor(QPalette::Highlight, Qt::blue);
         scrollView.setPalette(palette);
@@ -41,7 +42,7 @@ protected:
     ~SequenceViewTest() override
     {
         view.setDocument(nullptr, nullptr);
-        for (const char* key : {"KeyWidth", "KeyHeight"})
+        for (const char* key : {"KeyWidth", "KeyHeight", "Scheme"})
             resetPref(key);
     }
 

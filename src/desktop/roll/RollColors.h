@@ -1,0 +1,50 @@
+#pragma once
+
+#include "desktop/widgets/scheme.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace velmora {
+
+struct Note;
+
+/// Red, green, blue and opacity.
+using RollShade = std::array<std::uint8_t, 4>;
+
+/// The colours of the piano roll, from the scheme, the preferences and the theme. In the calm
+/// scheme every note differs from the columns behind it by at least 3 : 1.
+struct RollColors {
+    explicit RollColors(const QPalette& palette);
+
+    Scheme scheme;
+    RollShade whiteColumn; ///< Also the background.
+    RollShade blackColumn;
+    RollShade middleC;
+    RollShade columnLine, octaveLine;
+    RollShade stepLine, beatLine, barLine;
+    RollShade selected; ///< Selected notes and the play position.
+    RollShade interval; ///< Translucent.
+    RollShade outline;  ///< Of selected notes.
+    RollShade recorded; ///< Notes of the running take.
+    RollShade playing;
+
+    /// The colour of a note that is at rest: its channel's, paler if it is soft, or the user's.
+    RollShade atRest(const Note& note) const;
+
+    /// The darker or lighter colour of a note's onset.
+    RollShade onset(RollShade note) const;
+
+private:
+    static constexpr std::size_t kChannels = 16, kVelocities = 8;
+
+    void setCalm(const QPalette& palette);
+
+    RollShade text_;
+    std::optional<RollShade> note_; ///< The colour of every note, if it is not the channel's.
+    std::array<std::array<RollShade, kVelocities>, kChannels> notes_;
+};
+
+} // namespace velmora
