@@ -17,7 +17,7 @@ namespace {
 /// With more stops than this, there is a field to search them.
 constexpr std::size_t kSearchedStops = 8;
 
-constexpr int kLeastHeight = 120;
+constexpr int kLeastSearchedHeight = 120;
 
 } // namespace
 
@@ -54,7 +54,7 @@ void StopList::showStops(const std::vector<std::pair<QString, float>>& stops)
     column_->activate();
     // A few stops are all in sight, and take no more room than they need.
     const int height = column_->sizeHint().height();
-    scrollArea_->setMinimumHeight(isSearched ? kLeastHeight : height);
+    scrollArea_->setMinimumHeight(isSearched ? kLeastSearchedHeight : height);
     scrollArea_->setMaximumHeight(isSearched ? QWIDGETSIZE_MAX : height);
     content.show();
 }
