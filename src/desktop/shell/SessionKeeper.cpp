@@ -120,14 +120,13 @@ QString SessionKeeper::openLast()
 {
     std::ofstream mark(markFile());
     mark.close();
-    QString errors = open(lastFile(), Arrangement::Kept);
-    std::error_code error;
-    std::filesystem::remove(markFile(), error);
-    return errors;
+    return open(lastFile(), Arrangement::Kept);
 }
 
 void SessionKeeper::startRemembering()
 {
+    std::error_code error;
+    std::filesystem::remove(markFile(), error);
     isRemembering_ = true;
     timer_.start();
 }

@@ -44,7 +44,8 @@ public:
     /// as `open` does.
     QString openLast();
 
-    /// From now on remembers what is open, every half a minute if it has changed.
+    /// Says that the program has started well, and from now on remembers what is open, every half a
+    /// minute if it has changed.
     void startRemembering();
 
     /// Remembers what is open for the last time.
