@@ -133,13 +133,13 @@ void fill(ALInstrument& organ, int stops, int channels, double seconds)
 }
 
 /// Renders a block and returns the microseconds that it took.
-double renderBlock(AudioSource& source, std::vector<float>& left)
+double renderBlock(AudioSource& source, std::vector<float>& left, std::size_t frames = kBlock)
 {
-    std::vector<float> right(kBlock);
-    left.resize(kBlock);
+    std::vector<float> right(frames);
+    left.resize(frames);
     const double began = getTime();
     isRendering = true;
-    source.render(left.data(), right.data(), kBlock, AudioSource::kOffline);
+    source.render(left.data(), right.data(), frames, AudioSource::kOffline);
     isRendering = false;
     return (getTime() - began) * kMicroseconds;
 }
@@ -153,22 +153,24 @@ void measureVoices(int channels, int stops)
     for (int key = 0; key < kLastKey; ++key)
         organ.play(key, 1.0F);
     std::vector<float> left;
-    const auto measure = [&](const char* what, int blocks) {
+    const auto measure = [&](const char* what, std::size_t frames, int blocks) {
         std::vector<double> times;
         for (int i = 0; i < blocks; ++i)
-            times.push_back(renderBlock(source, left));
+            times.push_back(renderBlock(source, left, frames));
         const auto voices = static_cast<double>(source.voices());
         std::ranges::sort(times);
-        const double period = static_cast<double>(kBlock) / kRate * kMicroseconds;
-        fmt::print("{} {} voices of {} channels: {:.0f} in real time (median), {:.0f} (best)\n",
-                   voices, what, channels, voices * period / times[times.size() / 2],
+        const double period = static_cast<double>(frames) / kRate * kMicroseconds;
+        fmt::print("{} {} voices of {} channels in blocks of {} frames: {:.0f} in real time "
+                   "(median), {:.0f} (best)\n",
+                   voices, what, channels, frames, voices * period / times[times.size() / 2],
                    voices * period / times.front());
     };
     renderBlock(source, left);
-    measure("held", 400);
+    measure("held", kBlock, 400);
+    measure("held", SampleVoices::kBlock, 50);
     for (int key = 0; key < kLastKey; ++key)
         organ.stop(key);
-    measure("released", 30);
+    measure("released", kBlock, 30);
 }
 
 /// Prints the cost of pressing and of sounding one key after another.

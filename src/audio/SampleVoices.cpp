@@ -176,7 +176,12 @@ std::size_t SampleVoices::advance(std::size_t done, std::size_t end)
         std::fill(right_.begin() + done, right_.begin() + end, 0.0F);
         return end;
     }
-    const std::size_t frames = std::min(step_, end - done);
+    // Long blocks take less time, so only a changing gain is stepped.
+    const bool isFading = std::ranges::any_of(active_, [this](std::uint32_t index) {
+        const Phase phase = voices_[index].phase;
+        return phase == Phase::Tail || phase == Phase::Ending;
+    });
+    const std::size_t frames = isFading ? std::min(step_, end - done) : end - done;
     fade(frames);
     for (std::size_t i = 0; i < starting_.size(); i += kBatch)
         alSourcePlayv(static_cast<ALsizei>(std::min(kBatch, starting_.size() - i)), &starting_[i]);
