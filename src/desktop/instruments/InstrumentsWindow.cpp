@@ -4,6 +4,7 @@
 #include "desktop/instruments/InstrumentsModel.h"
 #include "desktop/instruments/importReport.h"
 #include "desktop/instruments/unloadInstrument.h"
+#include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/closeByKeys.h"
 #include "desktop/widgets/icons.h"
 
@@ -43,6 +44,7 @@ InstrumentsWindow::InstrumentsWindow(AppDelegate& application, QWidget* parent)
     buttons->addWidget(unloadButton_);
     buttons->addStretch();
     buttons->addWidget(reportButton_);
+    buttons->addWidget(new HelpButton("instruments", *this));
     auto* column = new QVBoxLayout(this);
     column->addWidget(table_);
     column->addLayout(buttons);

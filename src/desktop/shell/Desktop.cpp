@@ -11,6 +11,7 @@
 #include "desktop/shell/aboutBox.h"
 #include "desktop/shell/askForFiles.h"
 #include "desktop/tuning/TuningPanel.h"
+#include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/windowPlace.h"
 #include "platform/pathNames.h"
 #include "preferences/Preferences.h"
@@ -116,7 +117,11 @@ void Desktop::connectWindows()
     presents(shell_.instrumentsWindow, instrumentsWindow_);
     presents(shell_.metersWindow, metersWindow_);
     presents(shell_.preferences, preferencesWindow_);
-    presents(shell_.guide, guideWindow_);
+    connect(shell_.guide, &QAction::triggered, this,
+            [this] { guideWindow_.showSection(guideSectionOf(QApplication::focusWidget())); });
+    for (QWidget* window : std::initializer_list<QWidget*>{&workspace_, &instrumentsWindow_,
+                                                           &preferencesWindow_, &metersWindow_})
+        guideWindow_.serve(*window);
     connect(shell_.about, &QAction::triggered, this, [this] { showAbout(workspace_); });
     const InstrumentPanel& panel = workspace_.instrumentPanel();
     connect(&panel, &InstrumentPanel::openRequested, this, &Desktop::askForFiles);

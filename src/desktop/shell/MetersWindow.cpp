@@ -1,11 +1,13 @@
 #include "desktop/shell/MetersWindow.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/closeByKeys.h"
 #include "desktop/widgets/windowPlace.h"
 
 #include <QFormLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
 namespace velmora {
 
@@ -25,10 +27,13 @@ QLabel* newLabel()
 } // namespace
 
 MetersWindow::MetersWindow(AppDelegate& application)
-    : application_(application), lines_(new QFormLayout(this))
+    : application_(application), lines_(new QFormLayout)
 {
     setWindowTitle(tr("Meters"));
     lines_->setLabelAlignment(Qt::AlignRight);
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(lines_);
+    column->addWidget(new HelpButton("meters", *this), 0, Qt::AlignRight);
     timer_.setInterval(kReadingMilliseconds);
     connect(&timer_, &QTimer::timeout, this, &MetersWindow::update);
     closeByKeys(*this);

@@ -6,6 +6,7 @@
 #include "desktop/shell/PlayingPane.h"
 #include "desktop/shell/SoundPane.h"
 #include "desktop/widgets/ColorButton.h"
+#include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/NoteSpinBox.h"
 #include "desktop/widgets/closeByKeys.h"
 #include "desktop/widgets/icons.h"
@@ -51,7 +52,8 @@ QSpinBox* makePixelBox()
 } // namespace
 
 PreferencesWindow::PreferencesWindow(AppDelegate& application)
-    : paneActions_(new QActionGroup(this)), panes_(new QStackedWidget(this))
+    : paneActions_(new QActionGroup(this)), panes_(new QStackedWidget(this)),
+      help_(new HelpButton("preferences", *this))
 {
     setWindowTitle(tr("Preferences"));
     setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the toolbar
@@ -60,13 +62,17 @@ PreferencesWindow::PreferencesWindow(AppDelegate& application)
     toolBar->setMovable(false);
     nameExtension(*toolBar);
     toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    addPane(tr("&General"), "preferences-general", makeGeneralPane());
-    addPane(tr("C&olors"), "preferences-colors", makeColorsPane());
-    addPane(tr("&MIDI"), "midi", makeMidiPane(application));
-    addPane(tr("So&und"), "preferences-sound", new SoundPane(application));
+    addPane(tr("&General"), "preferences-general", "preferences", makeGeneralPane());
+    addPane(tr("C&olors"), "preferences-colors", "colours-and-schemes", makeColorsPane());
+    addPane(tr("&MIDI"), "midi", "midi-and-sound", makeMidiPane(application));
+    addPane(tr("So&und"), "preferences-sound", "midi-and-sound", new SoundPane(application));
     toolBar->addActions(paneActions_->actions());
     for (QAction* action : paneActions_->actions())
         toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+    auto* space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    toolBar->addWidget(space);
+    toolBar->addWidget(help_);
     closeByKeys(*this);
     rememberPlace(*this, "preferences");
 }
@@ -77,14 +83,18 @@ void PreferencesWindow::presentPane(Pane pane)
     present(*this);
 }
 
-void PreferencesWindow::addPane(const QString& name, const char* iconName, QWidget* pane)
+void PreferencesWindow::addPane(const QString& name, const char* iconName, const char* guideSection,
+                                QWidget* pane)
 {
     panes_->addWidget(pane);
     auto* action = paneActions_->addAction(icon(iconName), plainText(name));
     action->setCheckable(true);
     action->setChecked(panes_->currentWidget() == pane);
     action->setShortcut(QKeySequence::mnemonic(name));
-    connect(action, &QAction::triggered, panes_, [this, pane] { panes_->setCurrentWidget(pane); });
+    connect(action, &QAction::triggered, panes_, [this, pane, guideSection] {
+        panes_->setCurrentWidget(pane);
+        help_->setSection(guideSection);
+    });
 }
 
 QWidget* PreferencesWindow::makeGeneralPane()

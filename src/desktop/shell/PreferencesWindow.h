@@ -14,6 +14,7 @@ class QStackedWidget;
 namespace velmora {
 
 class AppDelegate;
+class HelpButton;
 
 /// Edits the preferences in the panes "General", "Colors", "MIDI" and "Sound". Each change is
 /// stored immediately.
@@ -43,7 +44,8 @@ private:
     QWidget* makeGeneralPane();
     QWidget* makeColorsPane();
     QWidget* makeMidiPane(AppDelegate& application);
-    void addPane(const QString& name, const char* iconName, QWidget* pane);
+    void addPane(const QString& name, const char* iconName, const char* guideSection,
+                 QWidget* pane);
     void addNumber(QFormLayout& form, const QString& label, const char* key, QSpinBox* box,
                    const QString& help);
     void addColor(QFormLayout& form, const QString& label, const char* key, const QString& help);
@@ -57,6 +59,7 @@ private:
 
     QActionGroup* paneActions_;
     QStackedWidget* panes_;
+    HelpButton* help_;                           ///< About the current pane.
     std::vector<std::function<void()>> readers_; ///< Each one shows a preference in its widget.
 };
 

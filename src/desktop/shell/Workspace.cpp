@@ -11,6 +11,7 @@
 #include "desktop/shell/StatusLine.h"
 #include "desktop/tuning/TuningPanel.h"
 #include "desktop/widgets/Commands.h"
+#include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/LearnMenu.h"
 #include "desktop/widgets/windowPlace.h"
 #include "preferences/settings.h"
@@ -75,6 +76,7 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     keyboardDock_ = addPanel("keyboard", tr("Keyboard"), keyboard_, *shell.keyboard);
     instrumentDock_ = addPanel("instrument", tr("Instrument"), instrument_, *shell.instrument);
     tuningDock_ = addPanel("tuning", tr("Tuning"), tuning_, *shell.tuning);
+    addHelpButton(*keyboardDock_, "playing");
     makeMenus(actions);
     makeTransport();
     for (const Commands::Command& command : commands.all())
