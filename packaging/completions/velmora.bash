@@ -8,7 +8,7 @@ _velmora()
             --loop-start --loop-end --loops" ;;
         live) options="--help --tuning --program --instrument --stop --plain --output --period" ;;
         info | doctor) options="--help --json" ;;
-        devices) options="--help --json --watch" ;;
+        devices) options="--help --json --watch --output --period" ;;
         *)
             command=
             options="--help --version --plain --output --period"

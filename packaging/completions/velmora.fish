@@ -5,6 +5,7 @@ set -l none "not __fish_seen_subcommand_from $commands"
 set -l playing "__fish_seen_subcommand_from render live"
 set -l render "__fish_seen_subcommand_from render"
 set -l live "__fish_seen_subcommand_from live; or $none"
+set -l sound "__fish_seen_subcommand_from live devices; or $none"
 
 complete -c velmora -s h -l help -d "Print a summary"
 complete -c velmora -n $none -l version -d "Print the version"
@@ -29,8 +30,8 @@ complete -c velmora -n $render -l loop-end -x -d "End of the interval"
 complete -c velmora -n $render -l loops -x -d "How many times to play the interval"
 
 complete -c velmora -n $live -l plain -d "Read MIDI devices plainly"
-complete -c velmora -n $live -l output -x -a "jack pulseaudio alsa none" -d "Sound output"
-complete -c velmora -n $live -l period -x -d "Frames in a period"
+complete -c velmora -n $sound -l output -x -a "jack pulseaudio alsa none" -d "Sound output"
+complete -c velmora -n $sound -l period -x -d "Frames in a period"
 
 complete -c velmora -n "__fish_seen_subcommand_from info devices doctor" -l json -d "Print JSON"
 complete -c velmora -n "__fish_seen_subcommand_from devices" -l watch -d "Print the load each second"

@@ -13,6 +13,7 @@
 #include <spdlog/fmt/fmt.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <optional>
 
@@ -100,7 +101,7 @@ CLI::App* addRender(CLI::App& program, Arguments& arguments)
     addSelection(*command, arguments);
     command->add_option("--rate", arguments.options.rate, "Frames per second")
         ->capture_default_str()
-        ->check(range(8000.0, 96000.0));
+        ->check(range(8000.0, 192000.0));
     command
         ->add_option("--tail", arguments.options.tailSeconds, "Seconds to continue after the end")
         ->capture_default_str()
@@ -130,15 +131,20 @@ CLI::App* addJson(CLI::App* command, Arguments& arguments)
     return command;
 }
 
-void addOutput(CLI::App& command, Arguments& arguments)
+/// Returns the options that it adds.
+std::array<CLI::Option*, 2> addOutput(CLI::App& command, Arguments& arguments)
 {
-    command
-        .add_option("--output", arguments.device,
-                    fmt::format("The sound output, for this time only: {}, or one of their devices",
-                                fmt::join(outputDrivers(), ", ")))
-        ->type_name("DRIVER[:DEVICE]");
-    command.add_option("--period", arguments.period, "Frames in a period, for this time only")
-        ->check(CLI::Range(16, 8192));
+    CLI::Option* output =
+        command
+            .add_option(
+                "--output", arguments.device,
+                fmt::format("The sound output, for this time only: {}, or one of their devices",
+                            fmt::join(outputDrivers(), ", ")))
+            ->type_name("DRIVER[:DEVICE]");
+    CLI::Option* period =
+        command.add_option("--period", arguments.period, "Frames in a period, for this time only")
+            ->check(CLI::Range(16, 8192));
+    return {output, period};
 }
 
 /// Returns the preferred output, as far as the command line does not name another one.
@@ -199,9 +205,11 @@ int run(CLI::App& program, int argc, char** argv)
         addJson(program.add_subcommand(
                     "devices", "List the MIDI inputs, the sound outputs and the General MIDI bank"),
                 arguments);
-    devicesCommand->add_flag(
+    CLI::Option* watch = devicesCommand->add_flag(
         "--watch", arguments.watches,
         "Print the delay, the load and the messages of live playing each second");
+    for (CLI::Option* option : addOutput(*devicesCommand, arguments))
+        option->needs(watch);
     CLI::App* doctorCommand =
         addJson(program.add_subcommand("doctor", "Show what a report of a fault needs"), arguments);
     program.parse(argc, argv);
@@ -229,7 +237,7 @@ int run(CLI::App& program, int argc, char** argv)
     if (*liveCommand)
         live(arguments.selection, arguments.plain, chosenOutput(arguments));
     if (*devicesCommand && arguments.watches)
-        watchDevices(arguments.json);
+        watchDevices(arguments.json, chosenOutput(arguments));
     else if (*devicesCommand)
         devices(arguments.json);
     return 0;

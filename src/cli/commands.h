@@ -35,7 +35,7 @@ void devices(bool json);
 
 /// Plays from the MIDI inputs and prints the meters once a second until interrupted, as text or as
 /// lines of JSON. Needs a QCoreApplication.
-void watchDevices(bool json);
+void watchDevices(bool json, const OutputSettings& output);
 
 /// Prints what a report of a fault needs: the versions, what the machine has, and what would help
 /// where something is missing. Must be called while the program has only one thread, without a

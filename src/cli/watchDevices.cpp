@@ -58,12 +58,12 @@ void print(const MeterReading& reading, bool json)
 
 } // namespace
 
-void watchDevices(bool json)
+void watchDevices(bool json, const OutputSettings& output)
 {
     SignalNotifier quitOnSignal(terminationSignals());
     quitOnSignal.watch([] { QCoreApplication::quit(); });
     AppDelegate application;
-    application.start();
+    application.start(output);
     Meters meters(application);
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] { print(meters.read(), json); });

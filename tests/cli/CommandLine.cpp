@@ -81,6 +81,7 @@ TEST_F(CommandLine, RendersTheSameBytesForTheSameSelectionOnly)
         {"out.wav", {"--tuning", "pure.scl"}},
         {"out.wav", {"--program", "19"}},
         {"out.wav", {"--rate", "44100", "--stop", "0=0.5"}},
+        {"out.wav", {"--rate", "192000"}},
         {"out.wav", {"--loop-start", "0", "--loop-end", "8", "--loops", "7"}}};
     std::set<decltype(content({}))> sounds;
     for (const auto& [name, options] : rows) {
@@ -153,6 +154,7 @@ TEST_F(CommandLine, ReportsErrorsInOneSentence)
         {{"--tail", "nan"}, 2, "--tail"},
         {{"live", "--output", "oss:dsp"}, 2, "no output \"oss\""},
         {{"live", "--period", "0"}, 2, "--period"},
+        {{"devices", "--output", "none"}, 2, "--output requires --watch"},
         {{"info", "song.txt"}, 1, "song.txt: unrecognised file type"},
         {{"info", "broken.mid", "--json"}, 1, "velmora: broken.mid, byte 4: "},
     };
