@@ -2,1569 +2,2496 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
-    <name>HelpButton</name>
-    <message>
-        <source>Help</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show what the guide says about this</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>QObject</name>
     <message>
-        <source>1 file or sample was left out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 files or samples were left out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Import Report</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Importbericht</translation>
     </message>
     <message>
         <source>Stops: %1, keys: %2, samples: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Register: %1, Tasten: %2, Samples: %3.</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 ist schon vorhanden. Möchten Sie die Datei ersetzen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) or sample(s) were left out</source>
+        <translation type="unfinished">
+            <numerusform>%n Datei oder Sample wurde ausgelassen</numerusform>
+            <numerusform>%n Dateien oder Samples wurden ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is still sounding. Silence everything (Ctrl+.), then unload it.</source>
+        <translation type="unfinished">%1 klingt noch. Stellen Sie alles still (Strg+.) und entladen Sie es dann.</translation>
+    </message>
+</context>
+<context>
+    <name>deviceText</name>
+    <message>
+        <source>MIDI port %1</source>
+        <translation type="unfinished">MIDI-Anschluss %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::AboutBox</name>
     <message>
         <source>About Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Über Velmora</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Velmora %1&lt;/h3&gt;&lt;p&gt;Plays keyboard instruments in historical and adaptive tunings.&lt;/p&gt;&lt;p&gt;Velmora uses FluidSynth, the Synthesis ToolKit and OpenAL Soft for sound, libsndfile and WavPack for samples, RtMidi for MIDI, and Qt %2 for its windows.&lt;/p&gt;&lt;p&gt;It is available under the MIT licence.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&lt;h3&gt;Velmora %1&lt;/h3&gt;&lt;p&gt;Spielt Tasteninstrumente in historischen und anpassungsfähigen Stimmungen.&lt;/p&gt;&lt;p&gt;Velmora verwendet FluidSynth, das Synthesis ToolKit und OpenAL Soft für den Klang, libsndfile und WavPack für Samples, RtMidi für MIDI und Qt %2 für seine Fenster.&lt;/p&gt;&lt;p&gt;Es steht unter der MIT-Lizenz.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>velmora::AudioExport</name>
     <message>
         <source>Loading the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrument wird geladen</translation>
     </message>
     <message>
         <source>Rendering</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Klang wird berechnet</translation>
     </message>
     <message>
         <source>There is not enough memory to load the instrument a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Der Speicher reicht nicht aus, um das Instrument ein zweites Mal zu laden.</translation>
     </message>
 </context>
 <context>
     <name>velmora::Commands</name>
     <message>
-        <source>&amp;New Sequence</source>
-        <translation type="unfinished"></translation>
+        <source>%1 (%2)</source>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
+</context>
+<context>
+    <name>velmora::ComputerKeyboard</name>
     <message>
-        <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Silence Everything</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Transpose &amp;Up</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Transpose &amp;Down</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Keyboard</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Instrument &amp;Panel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Instruments…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Meters</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Note &amp;Names on the Keyboard</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Instrument</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Tuning</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open sequences, instruments and tunings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stop every sound and release every key (Ctrl+.)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the program, the tuning and the stops (Ctrl+I)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the delay, the load and the devices of live playing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>User &amp;Guide</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;About Velmora</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Clear List</source>
-        <translation type="unfinished"></translation>
+        <source>Letters play from %1</source>
+        <translation type="unfinished">Die Buchstaben spielen ab %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::Desktop</name>
     <message>
         <source>%1: unrecognised file type. Velmora recognises files by their extensions, such as .mid, .scl or .sf2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: unbekannter Dateityp. Velmora erkennt Dateien an ihrer Endung wie .mid, .scl oder .sf2.</translation>
     </message>
     <message>
         <source>%1: contains no instrument that Velmora can play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: enthält kein Instrument, das Velmora spielen kann</translation>
     </message>
     <message>
         <source>%1: %2; see Import Report in the Instruments window</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2; siehe „Importbericht“ im Fenster „Instrumente“</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Öffnen</translation>
     </message>
     <message>
         <source>Transposition: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transposition: %1</translation>
     </message>
     <message>
         <source>The General MIDI player is silent because there is no SoundFont for it. Choose one in the preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Der General-MIDI-Spieler ist stumm, weil es keinen SoundFont für ihn gibt. Wählen Sie einen in den Einstellungen.</translation>
     </message>
     <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 lässt sich nicht als General-MIDI-Bank verwenden. Stattdessen wird %2 verwendet.</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;Sessions (%5);;All files (*)</source>
+        <translation type="unfinished">Alle unterstützten Dateien (%1);;Instrumente (%2);;Stimmungen (%3);;Stücke (%4);;Sitzungen (%5);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open Session</source>
+        <translation type="unfinished">Sitzung öffnen</translation>
+    </message>
+    <message>
+        <source>Sessions (%1)</source>
+        <translation type="unfinished">Sitzungen (%1)</translation>
+    </message>
+    <message>
+        <source>Save Session</source>
+        <translation type="unfinished">Sitzung speichern</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation type="unfinished">Sitzung</translation>
+    </message>
+    <message>
+        <source>Velmora ended while it was opening what was open last time. Open it again?</source>
+        <translation type="unfinished">Velmora wurde beendet, während es öffnete, was beim letzten Mal offen war. Noch einmal öffnen?</translation>
+    </message>
+    <message>
+        <source>Open Again</source>
+        <translation type="unfinished">Noch einmal öffnen</translation>
+    </message>
+    <message>
+        <source>Start Empty</source>
+        <translation type="unfinished">Leer beginnen</translation>
+    </message>
+    <message>
+        <source>Unsaved changes are not protected against a crash: %1</source>
+        <translation type="unfinished">Nicht gespeicherte Änderungen sind nicht gegen einen Absturz gesichert: %1</translation>
+    </message>
+    <message>
+        <source>Not everything that was open last time could be opened.
+%1</source>
+        <translation type="unfinished">Nicht alles, was beim letzten Mal offen war, ließ sich öffnen.
+%1</translation>
     </message>
 </context>
 <context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrument wird geladen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abbrechen</translation>
     </message>
     <message>
         <source>Export Audio</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Audio exportieren</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>Exported %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 wurde exportiert</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 was not exported. %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 wurde nicht exportiert. %2</translation>
     </message>
 </context>
 <context>
     <name>velmora::GuideWindow</name>
     <message>
         <source>User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Handbuch</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Handbuch</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Inhalt</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zurück</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vor</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vorherige Stelle</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nächste Stelle</translation>
     </message>
     <message>
         <source>&amp;Find:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Suchen:</translation>
     </message>
     <message>
         <source>Find words in the guide (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wörter im Handbuch suchen (%1)</translation>
     </message>
     <message>
         <source>“%1” is not in the guide.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">„%1“ steht nicht im Handbuch.</translation>
     </message>
     <message>
         <source>No program could open %1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kein Programm konnte %1 öffnen.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::HelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished">Hilfe</translation>
+    </message>
+    <message>
+        <source>Show what the guide says about this</source>
+        <translation type="unfinished">Zeigt, was das Handbuch dazu sagt</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::InstrumentMenu</name>
+    <message>
+        <source>Instrument: %1</source>
+        <translation type="unfinished">Instrument: %1</translation>
+    </message>
+    <message>
+        <source>%1
+Choose another instrument, open or unload one</source>
+        <translation type="unfinished">%1
+Ein anderes Instrument wählen, öffnen oder entladen</translation>
+    </message>
+    <message>
+        <source>&amp;Open Instrument…</source>
+        <translation type="unfinished">Instrument ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Unload %1</source>
+        <translation type="unfinished">%1 &amp;entladen</translation>
+    </message>
+    <message>
+        <source>Import &amp;Report of %1…</source>
+        <translation type="unfinished">&amp;Importbericht zu %1…</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentPanel</name>
     <message>
         <source>Stop %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Register %1</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Program</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>General MIDI program</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Memory use</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lautstärke</translation>
     </message>
     <message>
         <source>Memory used by the samples of this instrument</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tuning</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The tuning that you play in</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Speicher, den die Samples dieses Instruments belegen</translation>
     </message>
     <message>
         <source>Usage:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Belegt:  %1</translation>
     </message>
     <message>
-        <source>%1: %2 %</source>
-        <translation type="unfinished"></translation>
+        <source>Instrument</source>
+        <translation type="unfinished">Instrument</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentsModel</name>
     <message>
         <source>Unloaded: select it to load it again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Entladen: wählen Sie es, um es wieder zu laden</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrument</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Größe</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentsWindow</name>
     <message>
         <source>&amp;Unload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Entladen</translation>
     </message>
     <message>
         <source>Import &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Importbericht…</translation>
     </message>
     <message>
         <source>Instruments</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrumente</translation>
     </message>
     <message>
         <source>Loaded instruments</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Geladene Instrumente</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ö&amp;ffnen…</translation>
     </message>
     <message>
         <source>Open a SoundFont, a GigaSampler bank or an organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Einen SoundFont, eine GigaSampler-Bank oder eine Orgel öffnen</translation>
     </message>
     <message>
         <source>Free the memory that the samples of this instrument use</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Den Speicher freigeben, den die Samples dieses Instruments belegen</translation>
     </message>
     <message>
         <source>Show what was imported and what was left out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is still sounding. Silence everything, then unload it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zeigt, was importiert und was ausgelassen wurde</translation>
     </message>
 </context>
 <context>
     <name>velmora::KeyRuler</name>
     <message>
         <source>Key names</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tastennamen</translation>
     </message>
 </context>
 <context>
     <name>velmora::KeyboardView</name>
     <message>
         <source>Piano keyboard</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>velmora::KeyboardWindow</name>
-    <message>
-        <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Klaviatur</translation>
     </message>
     <message>
-        <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <source>wrong</source>
+        <translation type="unfinished">falsch</translation>
     </message>
     <message>
-        <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <source>to be played</source>
+        <translation type="unfinished">zu spielen</translation>
     </message>
     <message>
-        <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <source>right</source>
+        <translation type="unfinished">richtig</translation>
     </message>
     <message>
-        <source>Silence Everything</source>
-        <translation type="unfinished"></translation>
+        <source>held</source>
+        <translation type="unfinished">gehalten</translation>
     </message>
 </context>
 <context>
     <name>velmora::LanguageFields</name>
     <message>
         <source>The language changes when you start Velmora again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Sprache wechselt, wenn Sie Velmora neu starten.</translation>
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wie die Arbeitsumgebung</translation>
     </message>
     <message>
         <source>The language of all menus and windows</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Sprache aller Menüs und Fenster</translation>
     </message>
     <message>
         <source>As usual in the language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wie in der Sprache üblich</translation>
     </message>
     <message>
         <source>International: C D E F G A B</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">International: C D E F G A B</translation>
     </message>
     <message>
         <source>German: C D E F G A H</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Deutsch: C D E F G A H</translation>
     </message>
     <message>
         <source>Solfège: Do Re Mi Fa Sol La Si</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Solmisation: Do Re Mi Fa Sol La Si</translation>
     </message>
     <message>
         <source>The names of the keys and notes in all windows</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Namen der Tasten und Noten in allen Fenstern</translation>
     </message>
     <message>
         <source>L&amp;anguage:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">S&amp;prache:</translation>
     </message>
     <message>
         <source>Not&amp;e names:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">N&amp;otennamen:</translation>
     </message>
 </context>
 <context>
     <name>velmora::LearnMenu</name>
     <message>
-        <source>channel %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>MIDI key %1, %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>MIDI controller %1, %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Learn MIDI Controller…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI-Regler &amp;lernen…</translation>
     </message>
     <message>
         <source>Learn MIDI Controller for %1…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI-Regler für %1 lernen…</translation>
     </message>
     <message>
         <source>&amp;Forget MIDI Controller</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI-Regler &amp;vergessen</translation>
     </message>
     <message>
         <source>Forget MIDI Controller for %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI-Regler für %1 vergessen</translation>
     </message>
     <message>
         <source>Learn MIDI Controller</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI-Regler lernen</translation>
     </message>
     <message>
         <source>Waiting for a MIDI controller for “%1”.
 Move a controller, or press a button or a key, on a MIDI device.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Warte auf einen MIDI-Regler für „%1“.
+Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf oder eine Taste.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>MIDI key %1 on channel %2</source>
+        <translation type="unfinished">MIDI-Taste %1 auf Kanal %2</translation>
+    </message>
+    <message>
+        <source>MIDI controller %1 on channel %2</source>
+        <translation type="unfinished">MIDI-Regler %1 auf Kanal %2</translation>
     </message>
 </context>
 <context>
     <name>velmora::LevelMeter</name>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pegel</translation>
     </message>
 </context>
 <context>
     <name>velmora::MetersWindow</name>
     <message>
         <source>Meters</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Messwerte</translation>
     </message>
 </context>
 <context>
     <name>velmora::MidiPane</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 von %2</translation>
     </message>
     <message>
         <source>Connect a MIDI device, and it appears here.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Schließen Sie ein MIDI-Gerät an, dann erscheint es hier.</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Gerät</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">An</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kanal</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasten</translation>
     </message>
     <message>
         <source>MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI-Geräte</translation>
     </message>
     <message>
         <source>%1 (not connected)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (nicht verbunden)</translation>
     </message>
     <message>
         <source>Whether the device is heard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ob das Gerät zu hören ist</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alle</translation>
     </message>
     <message>
         <source>The MIDI channel to listen to</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Der MIDI-Kanal, auf den gehört wird</translation>
     </message>
     <message>
         <source> semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> Halbtöne</translation>
     </message>
     <message>
         <source>How much higher the keys sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Um wie viel höher die Tasten klingen</translation>
     </message>
 </context>
 <context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tiefer transponieren (Strg+Umschalt+Ab)</translation>
     </message>
     <message>
         <source>Transpose up (Ctrl+Shift+Up)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Höher transponieren (Strg+Umschalt+Auf)</translation>
     </message>
     <message>
         <source>Linear touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Linearer Anschlag</translation>
     </message>
     <message>
         <source>Soft touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Weicher Anschlag</translation>
     </message>
     <message>
         <source>Hard touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Harter Anschlag</translation>
     </message>
     <message>
         <source>Fixed touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fester Anschlag</translation>
     </message>
     <message>
         <source>Touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anschlag</translation>
     </message>
     <message>
         <source>How loud your touch on a MIDI keyboard sounds: soft makes a light touch louder, hard asks for a strong one, fixed ignores the touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wie laut Ihr Anschlag auf einem MIDI-Keyboard klingt: Weich macht einen leichten Anschlag lauter, hart verlangt einen kräftigen, fest beachtet den Anschlag nicht</translation>
     </message>
     <message>
         <source>Transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transposition</translation>
     </message>
     <message>
         <source>The transposition of the MIDI keyboards in semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Transposition der MIDI-Keyboards in Halbtönen</translation>
+    </message>
+    <message>
+        <source>semitones</source>
+        <translation type="unfinished">Halbtöne</translation>
     </message>
 </context>
 <context>
     <name>velmora::PlayingPane</name>
     <message>
         <source>How much higher than written the keys of MIDI devices sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Um wie viel höher als notiert die Tasten der MIDI-Geräte klingen</translation>
     </message>
     <message>
         <source>How far the pitch wheel bends up and down; with 0 it does nothing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wie weit das Tonhöhenrad nach oben und unten zieht; mit 0 bewirkt es nichts</translation>
     </message>
     <message>
         <source>Pl&amp;ain reading of MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI-Geräte s&amp;chlicht lesen</translation>
     </message>
     <message>
         <source>Linear: as the keyboard sends it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Linear: wie das Keyboard ihn sendet</translation>
     </message>
     <message>
         <source>Soft: a light touch is louder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Weich: ein leichter Anschlag ist lauter</translation>
     </message>
     <message>
         <source>Hard: only a strong touch is loud</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hart: nur ein kräftiger Anschlag ist laut</translation>
     </message>
     <message>
         <source>Fixed: always the same</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fest: immer gleich</translation>
     </message>
     <message>
         <source>Touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anschlag</translation>
     </message>
     <message>
         <source>Only notes and volumes count: no pedals, wheels, programs or learned controllers, no touch and no transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nur Noten und Lautstärken zählen: keine Pedale, Räder, Programme oder gelernten Regler, kein Anschlag und keine Transposition</translation>
     </message>
     <message>
         <source>&amp;Touch:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;nschlag:</translation>
     </message>
     <message>
         <source>T&amp;ransposition (semitones):</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">T&amp;ransposition (Halbtöne):</translation>
     </message>
     <message>
         <source>Pitch &amp;wheel (semitones):</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tonhöhenra&amp;d (Halbtöne):</translation>
     </message>
 </context>
 <context>
     <name>velmora::PreferencesWindow</name>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> px</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Einstellungen</translation>
     </message>
     <message>
         <source>Panes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bereiche</translation>
     </message>
     <message>
         <source>&amp;General</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Allgemein</translation>
     </message>
     <message>
         <source>C&amp;olors</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Farben</translation>
     </message>
     <message>
         <source>&amp;MIDI</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;MIDI</translation>
     </message>
     <message>
         <source>So&amp;und</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Klang</translation>
     </message>
     <message>
         <source>Key &amp;width:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasten&amp;breite:</translation>
     </message>
     <message>
         <source>The width of a semitone on the keyboard and in the piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Breite eines Halbtons auf der Klaviatur und in der Pianorolle</translation>
     </message>
     <message>
         <source>&amp;Step height:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Schritt&amp;höhe:</translation>
     </message>
     <message>
         <source>The height of a step, the distance between grid lines, in the piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Höhe eines Schritts, des Abstands der Rasterlinien, in der Pianorolle</translation>
     </message>
     <message>
         <source>&amp;Lowest key:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tiefste Taste:</translation>
     </message>
     <message>
         <source>The first key of the keyboard: a note name, such as A0, or a MIDI key number</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die erste Taste der Klaviatur: ein Notenname wie A0 oder die Nummer einer MIDI-Taste</translation>
     </message>
     <message>
         <source>&amp;Highest key:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hö&amp;chste Taste:</translation>
     </message>
     <message>
         <source>The last key of the keyboard: a note name, such as C8, or a MIDI key number</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die letzte Taste der Klaviatur: ein Notenname wie C8 oder die Nummer einer MIDI-Taste</translation>
     </message>
     <message>
         <source>Show note &amp;names on the C keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Notennamen auf den C-Tasten zeigen</translation>
     </message>
     <message>
         <source>General MIDI bank:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">General-MIDI-Bank:</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vorgabe des Systems</translation>
     </message>
     <message>
         <source>General MIDI bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">General-MIDI-Bank</translation>
     </message>
     <message>
         <source>&amp;Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Wählen…</translation>
     </message>
     <message>
         <source>Choose a SoundFont for the General MIDI player</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Einen SoundFont für den General-MIDI-Spieler wählen</translation>
     </message>
     <message>
         <source>Use &amp;Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Vorgabe verwenden</translation>
     </message>
     <message>
         <source>Use the system&apos;s General MIDI bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die General-MIDI-Bank des Systems verwenden</translation>
     </message>
     <message>
         <source>Choose a General MIDI Bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">General-MIDI-Bank wählen</translation>
     </message>
     <message>
         <source>SoundFont banks (*.sf2 *.sf3)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">SoundFont-Bänke (*.sf2 *.sf3)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Keyboard keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasten der Klaviatur</translation>
     </message>
     <message>
         <source>&amp;Played:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ge&amp;spielt:</translation>
     </message>
     <message>
         <source>Keys that the sequence plays, or waits for in practice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasten, die das Stück spielt oder auf die es beim Üben wartet</translation>
     </message>
     <message>
         <source>&amp;Right:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">R&amp;ichtig:</translation>
     </message>
     <message>
         <source>Keys that you struck correctly</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasten, die Sie richtig angeschlagen haben</translation>
     </message>
     <message>
         <source>&amp;Held:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Gehalten:</translation>
     </message>
     <message>
         <source>Keys that you keep holding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasten, die Sie weiter halten</translation>
     </message>
     <message>
         <source>&amp;Wrong:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fals&amp;ch:</translation>
     </message>
     <message>
         <source>Keys that you struck by mistake</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasten, die Sie versehentlich angeschlagen haben</translation>
     </message>
     <message>
         <source>Piano roll notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten der Pianorolle</translation>
     </message>
     <message>
         <source>&amp;At rest:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In R&amp;uhe:</translation>
     </message>
     <message>
         <source>Notes that are not sounding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten, die nicht klingen</translation>
     </message>
     <message>
         <source>&amp;Sounding:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">K&amp;lingend:</translation>
     </message>
     <message>
         <source>Notes at the play position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten an der Spielposition</translation>
     </message>
     <message>
         <source>Reset to &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Auf Vorgaben &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>A&amp;t the start:</source>
+        <translation type="unfinished">Beim Sta&amp;rt:</translation>
+    </message>
+    <message>
+        <source>Start empty</source>
+        <translation type="unfinished">Leer beginnen</translation>
+    </message>
+    <message>
+        <source>Start as last time</source>
+        <translation type="unfinished">Wie beim letzten Mal beginnen</translation>
+    </message>
+    <message>
+        <source>Whether the instruments, the tuning and the pieces that are open when you quit are opened again</source>
+        <translation type="unfinished">Ob die Instrumente, die Stimmung und die Stücke, die beim Beenden offen sind, wieder geöffnet werden</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgramList</name>
+    <message>
+        <source>Piano</source>
+        <translation type="unfinished">Klavier</translation>
+    </message>
+    <message>
+        <source>Chromatic Percussion</source>
+        <translation type="unfinished">Stabspiele und Glocken</translation>
+    </message>
+    <message>
+        <source>Organ</source>
+        <translation type="unfinished">Orgel</translation>
+    </message>
+    <message>
+        <source>Guitar</source>
+        <translation type="unfinished">Gitarre</translation>
+    </message>
+    <message>
+        <source>Bass</source>
+        <translation type="unfinished">Bass</translation>
+    </message>
+    <message>
+        <source>Strings</source>
+        <translation type="unfinished">Streicher</translation>
+    </message>
+    <message>
+        <source>Ensemble</source>
+        <translation type="unfinished">Ensemble</translation>
+    </message>
+    <message>
+        <source>Brass</source>
+        <translation type="unfinished">Blechbläser</translation>
+    </message>
+    <message>
+        <source>Reed</source>
+        <translation type="unfinished">Rohrblattinstrumente</translation>
+    </message>
+    <message>
+        <source>Pipe</source>
+        <translation type="unfinished">Flöten</translation>
+    </message>
+    <message>
+        <source>Synth Lead</source>
+        <translation type="unfinished">Synthesizer-Soli</translation>
+    </message>
+    <message>
+        <source>Synth Pad</source>
+        <translation type="unfinished">Synthesizer-Flächen</translation>
+    </message>
+    <message>
+        <source>Synth Effects</source>
+        <translation type="unfinished">Synthesizer-Effekte</translation>
+    </message>
+    <message>
+        <source>Ethnic</source>
+        <translation type="unfinished">Volksinstrumente</translation>
+    </message>
+    <message>
+        <source>Percussive</source>
+        <translation type="unfinished">Schlaginstrumente</translation>
+    </message>
+    <message>
+        <source>Sound Effects</source>
+        <translation type="unfinished">Geräusche</translation>
+    </message>
+    <message>
+        <source>Find a program</source>
+        <translation type="unfinished">Programm suchen</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation type="unfinished">Programm</translation>
+    </message>
+    <message>
+        <source>General MIDI program</source>
+        <translation type="unfinished">General-MIDI-Programm</translation>
     </message>
 </context>
 <context>
     <name>velmora::ProgressWindow</name>
     <message>
         <source>Loading</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Laden</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fortschritt</translation>
     </message>
     <message>
         <source>Cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wird abgebrochen…</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SearchField</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceActions</name>
     <message>
         <source>&amp;Loop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Schleife</translation>
     </message>
     <message>
         <source>Repeat the selected time, or the whole sequence</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wiederholt den gewählten Zeitraum oder das ganze Stück</translation>
     </message>
     <message>
         <source>Snap to &amp;Grid</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Am &amp;Raster ausrichten</translation>
     </message>
     <message>
         <source>Align notes and times with whole steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Richtet Noten und Zeiten an ganzen Schritten aus</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ausschneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Einfügen</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Löschen</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alle&amp;s auswählen</translation>
     </message>
     <message>
         <source>Select &amp;None</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Nichts auswählen</translation>
     </message>
     <message>
         <source>Go to &amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zum An&amp;fang</translation>
     </message>
     <message>
         <source>Pre&amp;vious Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Vorherige Noten</translation>
     </message>
     <message>
         <source>&amp;Next Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Nächste Noten</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Kanal</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Record</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Return</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Stopp</translation>
     </message>
     <message>
         <source>Record what you play, starting at the position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Play</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nimmt auf, was Sie spielen, ab der Position</translation>
     </message>
     <message>
         <source>Play from the position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spielt ab der Position</translation>
+    </message>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Stück</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation type="unfinished">&amp;Aufnehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished">S&amp;pielen</translation>
+    </message>
+    <message>
+        <source>Select Ne&amp;xt Note</source>
+        <translation type="unfinished">Nä&amp;chste Note auswählen</translation>
+    </message>
+    <message>
+        <source>Select Pre&amp;vious Note</source>
+        <translation type="unfinished">&amp;Vorherige Note auswählen</translation>
+    </message>
+    <message>
+        <source>Go to &amp;End</source>
+        <translation type="unfinished">Zum &amp;Ende</translation>
+    </message>
+    <message>
+        <source>&amp;Selected Notes</source>
+        <translation type="unfinished">Ausgewählte N&amp;oten</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished">Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom In</source>
+        <translation type="unfinished">Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom O&amp;ut</source>
+        <translation type="unfinished">Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Wider Keys</source>
+        <translation type="unfinished">B&amp;reitere Tasten</translation>
+    </message>
+    <message>
+        <source>N&amp;arrower Keys</source>
+        <translation type="unfinished">S&amp;chmalere Tasten</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation type="unfinished">Ansicht</translation>
+    </message>
+    <message>
+        <source>Move Notes &amp;Up a Semitone</source>
+        <translation type="unfinished">Noten einen Halbton &amp;höher</translation>
+    </message>
+    <message>
+        <source>Move Notes &amp;Down a Semitone</source>
+        <translation type="unfinished">Noten einen Halbton &amp;tiefer</translation>
+    </message>
+    <message>
+        <source>Move Notes &amp;Later</source>
+        <translation type="unfinished">Noten &amp;später</translation>
+    </message>
+    <message>
+        <source>Move Notes &amp;Earlier</source>
+        <translation type="unfinished">Noten &amp;früher</translation>
+    </message>
+    <message>
+        <source>Make Notes Lon&amp;ger</source>
+        <translation type="unfinished">Noten &amp;länger</translation>
+    </message>
+    <message>
+        <source>Make Notes &amp;Shorter</source>
+        <translation type="unfinished">Noten &amp;kürzer</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
     <message>
         <source>Draw Note</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zeichnen einer Note</translation>
     </message>
     <message numerus="yes">
         <source>Record %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Aufnahme von %n Note</numerusform>
+            <numerusform>Aufnahme von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Löschen von %n Note</numerusform>
+            <numerusform>Löschen von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Resize %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Längenänderung von %n Note</numerusform>
+            <numerusform>Längenänderung von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Move %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Verschieben von %n Note</numerusform>
+            <numerusform>Verschieben von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Set Channel of %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Kanalwechsel von %n Note</numerusform>
+            <numerusform>Kanalwechsel von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Cut %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Ausschneiden von %n Note</numerusform>
+            <numerusform>Ausschneiden von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Paste %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Einfügen von %n Note</numerusform>
+            <numerusform>Einfügen von %n Noten</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequencePages</name>
+    <message numerus="yes">
+        <source>%1, %n note(s), %2</source>
+        <translation type="unfinished">
+            <numerusform>%1, %n Note, %2</numerusform>
+            <numerusform>%1, %n Noten, %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Unbenannt</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>Velmora was not closed properly. Recover the unsaved sequences?</source>
+        <translation type="unfinished">Velmora wurde nicht richtig beendet. Nicht gespeicherte Stücke wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation type="unfinished">Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished">Verwerfen</translation>
+    </message>
+    <message>
+        <source>Ask Later</source>
+        <translation type="unfinished">Später fragen</translation>
+    </message>
+    <message>
+        <source>%1 •</source>
+        <translation type="unfinished">%1 •</translation>
+    </message>
+    <message>
+        <source>Untitled %1</source>
+        <translation type="unfinished">Unbenannt %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceSaver</name>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 is still being exported. Stop the export?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 wird noch exportiert. Export beenden?</translation>
     </message>
     <message>
         <source>If you stop it, no sound file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wenn Sie ihn beenden, wird keine Audiodatei geschrieben.</translation>
     </message>
     <message>
         <source>Stop Export</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Export beenden</translation>
     </message>
     <message>
         <source>Save the changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Änderungen an %1 speichern?</translation>
     </message>
     <message>
         <source>If you do not save them, they are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wenn Sie sie nicht speichern, gehen sie verloren.</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Speichern unter</translation>
     </message>
     <message>
         <source>An iMelody file holds a single voice and no dynamics. Save it anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Eine iMelody-Datei enthält nur eine Stimme und keine Dynamik. Trotzdem speichern?</translation>
     </message>
     <message>
         <source>Velmora cannot open iMelody files. A MIDI file keeps everything that you see.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora kann iMelody-Dateien nicht öffnen. Eine MIDI-Datei behält alles, was Sie sehen.</translation>
     </message>
     <message>
         <source>%1 was not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 wurde nicht gespeichert.</translation>
     </message>
     <message>
         <source>Save As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Speichern unter…</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceScrollView</name>
     <message>
         <source>Keys shown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sichtbare Tasten</translation>
     </message>
     <message>
         <source>Time shown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sichtbare Zeit</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceStatus</name>
     <message>
-        <source>1 note</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 notes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Playing, recording or practising</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Practice: play the notes at the position to move on to the next ones</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 selected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Üben: Spielen Sie die Noten an der Position, um zu den nächsten zu kommen</translation>
     </message>
     <message>
         <source>Steps %1 to %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 in all</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Schritte %1 bis %2</translation>
     </message>
     <message>
         <source>Playing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spielt</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nimmt auf</translation>
     </message>
     <message>
         <source>Waiting for %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wartet auf %1</translation>
     </message>
     <message>
         <source>; release %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">; lassen Sie %1 los</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) selected</source>
+        <translation type="unfinished">
+            <numerusform>%n Note ausgewählt</numerusform>
+            <numerusform>%n Noten ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) in all</source>
+        <translation type="unfinished">
+            <numerusform>%n Note insgesamt</numerusform>
+            <numerusform>%n Noten insgesamt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceView</name>
     <message>
         <source>Piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pianorolle</translation>
+    </message>
+    <message>
+        <source>%1, step %2, length %3, channel %4</source>
+        <translation type="unfinished">%1, Schritt %2, Länge %3, Kanal %4</translation>
+    </message>
+    <message>
+        <source>Velocity %1 %</source>
+        <translation type="unfinished">Anschlag %1 %</translation>
     </message>
 </context>
 <context>
-    <name>velmora::SequenceWindow</name>
+    <name>velmora::ShellActions</name>
     <message>
-        <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <source>File</source>
+        <translation type="unfinished">Datei</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation type="unfinished">Klang</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation type="unfinished">Ansicht</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished">Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;New Piece</source>
+        <translation type="unfinished">&amp;Neues Stück</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation type="unfinished">Ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Open pieces, instruments and tunings</source>
+        <translation type="unfinished">Stücke, Instrumente und Stimmungen öffnen</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save the piece</source>
+        <translation type="unfinished">Das Stück speichern</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Speichern &amp;unter…</translation>
     </message>
     <message>
         <source>&amp;Export Audio…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Audio e&amp;xportieren…</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <source>Write a sound file of the piece</source>
+        <translation type="unfinished">Schreibt eine Audiodatei des Stücks</translation>
+    </message>
+    <message>
+        <source>&amp;Close Piece</source>
+        <translation type="unfinished">Stück s&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences…</source>
+        <translation type="unfinished">&amp;Einstellungen…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished">&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Silence Everything</source>
+        <translation type="unfinished">Alles &amp;still</translation>
+    </message>
+    <message>
+        <source>Stop every sound and release every key</source>
+        <translation type="unfinished">Beendet jeden Klang und lässt jede Taste los</translation>
+    </message>
+    <message>
+        <source>Transpose &amp;Up</source>
+        <translation type="unfinished">&amp;Höher transponieren</translation>
+    </message>
+    <message>
+        <source>Transpose &amp;Down</source>
+        <translation type="unfinished">&amp;Tiefer transponieren</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation type="unfinished">Klavia&amp;tur</translation>
+    </message>
+    <message>
+        <source>&amp;Instrument</source>
+        <translation type="unfinished">&amp;Instrument</translation>
+    </message>
+    <message>
+        <source>Show the program or the stops</source>
+        <translation type="unfinished">Zeigt das Programm oder die Register</translation>
+    </message>
+    <message>
+        <source>&amp;Tuning</source>
+        <translation type="unfinished">Sti&amp;mmung</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished">&amp;Spielen</translation>
+    </message>
+    <message>
+        <source>Arrange the window for playing</source>
+        <translation type="unfinished">Richtet das Fenster zum Spielen ein</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Bearbeiten</translation>
     </message>
     <message>
-        <source>&amp;Sequence</source>
-        <translation type="unfinished"></translation>
+        <source>Arrange the window for editing</source>
+        <translation type="unfinished">Richtet das Fenster zum Bearbeiten ein</translation>
     </message>
     <message>
-        <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <source>&amp;Stage</source>
+        <translation type="unfinished">Bü&amp;hne</translation>
     </message>
     <message>
-        <source>Zoo&amp;m In</source>
-        <translation type="unfinished"></translation>
+        <source>Fill the screen with what matters on stage</source>
+        <translation type="unfinished">Füllt den Bildschirm mit dem, was auf der Bühne zählt</translation>
     </message>
     <message>
-        <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <source>&amp;Reset Layout</source>
+        <translation type="unfinished">Anordnung &amp;zurücksetzen</translation>
     </message>
     <message>
-        <source>&amp;Wider Keys</source>
-        <translation type="unfinished"></translation>
+        <source>Ne&amp;xt Panel</source>
+        <translation type="unfinished">&amp;Nächster Bereich</translation>
     </message>
     <message>
-        <source>Narrowe&amp;r Keys</source>
-        <translation type="unfinished"></translation>
+        <source>Pre&amp;vious Panel</source>
+        <translation type="unfinished">&amp;Vorheriger Bereich</translation>
     </message>
     <message>
-        <source>&amp;Tuning Strip</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>velmora::SequenceWindows</name>
-    <message>
-        <source>%1, %2, %3</source>
-        <translation type="unfinished"></translation>
+        <source>Piece in Its &amp;Own Window</source>
+        <translation type="unfinished">Stück in eigenem &amp;Fenster</translation>
     </message>
     <message>
-        <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <source>&amp;Loaded Instruments…</source>
+        <translation type="unfinished">Ge&amp;ladene Instrumente…</translation>
     </message>
     <message>
-        <source>1 note</source>
-        <translation type="unfinished"></translation>
+        <source>&amp;Meters</source>
+        <translation type="unfinished">Mess&amp;werte</translation>
     </message>
     <message>
-        <source>%1 notes</source>
-        <translation type="unfinished"></translation>
+        <source>Show the delay, the load and the devices of live playing</source>
+        <translation type="unfinished">Zeigt Verzögerung, Last und Geräte beim Spielen</translation>
     </message>
     <message>
-        <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <source>Note &amp;Names on the Keyboard</source>
+        <translation type="unfinished">N&amp;otennamen auf der Klaviatur</translation>
     </message>
     <message>
-        <source>Velmora was not closed properly. Recover the unsaved sequences?</source>
-        <translation type="unfinished"></translation>
+        <source>User &amp;Guide</source>
+        <translation type="unfinished">&amp;Handbuch</translation>
     </message>
     <message>
-        <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <source>&amp;About Velmora</source>
+        <translation type="unfinished">Ü&amp;ber Velmora</translation>
     </message>
     <message>
-        <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <source>Open &amp;Recent</source>
+        <translation type="unfinished">&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
-        <source>Ask Later</source>
-        <translation type="unfinished"></translation>
+        <source>&amp;Clear List</source>
+        <translation type="unfinished">Liste &amp;leeren</translation>
     </message>
     <message>
-        <source>Untitled %1</source>
-        <translation type="unfinished"></translation>
+        <source>Open Sess&amp;ion…</source>
+        <translation type="unfinished">S&amp;itzung öffnen…</translation>
+    </message>
+    <message>
+        <source>Open the instruments, the tuning and the pieces of a session</source>
+        <translation type="unfinished">Die Instrumente, die Stimmung und die Stücke einer Sitzung öffnen</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Session…</source>
+        <translation type="unfinished">Sitzung s&amp;peichern…</translation>
+    </message>
+    <message>
+        <source>Save which instruments, tuning and pieces are open</source>
+        <translation type="unfinished">Speichern, welche Instrumente, Stimmung und Stücke offen sind</translation>
     </message>
 </context>
 <context>
     <name>velmora::SoundPane</name>
     <message>
         <source>Ou&amp;tput:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;usgabe:</translation>
     </message>
     <message>
         <source>The sound server or driver that Velmora plays through</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Der Klangserver oder Treiber, über den Velmora spielt</translation>
     </message>
     <message>
         <source>&amp;Device:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Gerät:</translation>
     </message>
     <message>
         <source>The device that is heard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Das Gerät, das zu hören ist</translation>
     </message>
     <message>
         <source>Sample &amp;rate:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abtast&amp;rate:</translation>
     </message>
     <message>
         <source>A JACK server determines the sample rate itself</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ein JACK-Server bestimmt die Abtastrate selbst</translation>
     </message>
     <message>
         <source>&amp;Period:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Periode:</translation>
     </message>
     <message>
         <source>The shorter the period, the sooner a key sounds, and the more the machine has to do. With JACK, it applies to all programs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Je kürzer die Periode, desto früher klingt eine Taste und desto mehr hat der Rechner zu tun. Mit JACK gilt sie für alle Programme</translation>
     </message>
     <message>
         <source>Playing:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spielt:</translation>
     </message>
     <message>
         <source>Master &amp;volume:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Gesamt&amp;lautstärke:</translation>
     </message>
     <message>
         <source>Level:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pegel:</translation>
     </message>
     <message>
         <source>Master volume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Gesamtlautstärke</translation>
     </message>
     <message>
         <source>Play Test To&amp;ne</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Testton spielen</translation>
     </message>
     <message>
         <source>Plays a short, quiet tone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spielt einen kurzen, leisen Ton</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Automatisch</translation>
     </message>
     <message>
         <source>%1 (missing)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 kHz</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (fehlt)</translation>
     </message>
     <message>
         <source>%1 frames</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 Frames</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vorgabe</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 %</translation>
     </message>
     <message>
-        <source>%1, %2 kHz, %3 frames (%4 ms)</source>
-        <translation type="unfinished"></translation>
+        <source>%L1 kHz</source>
+        <translation type="unfinished">%L1 kHz</translation>
+    </message>
+    <message>
+        <source>%1, %L2 kHz, %L3 frames (%L4 ms)</source>
+        <translation type="unfinished">%1, %L2 kHz, %L3 Frames (%L4 ms)</translation>
     </message>
     <message>
         <source>
-To the sound card: %1 ms. Lost periods: %2.</source>
-        <translation type="unfinished"></translation>
+To the sound card: %L1 ms. Lost periods: %L2.</source>
+        <translation type="unfinished">
+Bis zur Soundkarte: %L1 ms. Verlorene Perioden: %L2.</translation>
     </message>
 </context>
 <context>
     <name>velmora::StartPage</name>
     <message>
         <source>First steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Erste Schritte</translation>
     </message>
     <message>
         <source>User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Handbuch</translation>
     </message>
     <message>
         <source>Open the user guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Das Handbuch öffnen</translation>
     </message>
     <message>
         <source>What would you like to do?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Was möchten Sie tun?</translation>
     </message>
     <message>
         <source>Welcome to Velmora! Each card does something at once, and nothing can break.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Willkommen bei Velmora! Jede Karte tut sofort etwas, und nichts kann kaputtgehen.</translation>
     </message>
     <message>
         <source>Hear it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hören</translation>
     </message>
     <message>
         <source>C major, whose third beats in equal temperament and is pure in meantone. The tuning that you hear stays selected.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">C-Dur: Die Terz schwebt in gleichstufiger Stimmung und ist mitteltönig rein. Die Stimmung, die Sie hören, bleibt gewählt.</translation>
     </message>
     <message>
         <source>Equal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Gleichstufig</translation>
     </message>
     <message>
         <source>Hear the chord in equal temperament</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Den Akkord in gleichstufiger Stimmung hören</translation>
     </message>
     <message>
         <source>Meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mitteltönig</translation>
     </message>
     <message>
         <source>Hear the chord in quarter-comma meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Den Akkord in Viertelkomma-mitteltöniger Stimmung hören</translation>
     </message>
     <message>
         <source>Choose a Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Stimmung wählen</translation>
     </message>
     <message>
         <source>Choose a tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Eine Stimmung wählen</translation>
     </message>
     <message>
         <source>Tune it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Stimmen</translation>
     </message>
     <message>
         <source>Choose a historical tuning, or one that adapts to what you play.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wählen Sie eine historische Stimmung oder eine, die sich Ihrem Spiel anpasst.</translation>
     </message>
     <message>
         <source>Open an Instrument…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrument öffnen…</translation>
     </message>
     <message>
         <source>Open an instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ein Instrument öffnen</translation>
     </message>
     <message>
         <source>Play it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spielen</translation>
     </message>
     <message>
         <source>Use a MIDI keyboard, the keys below, or the letters of the computer keyboard, from A on.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spielen Sie auf einem MIDI-Keyboard, auf den Tasten unten oder mit den Buchstaben der Computertastatur ab A.</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aufnehmen</translation>
     </message>
     <message>
         <source>Record a new sequence</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ein neues Stück aufnehmen</translation>
     </message>
     <message>
         <source>Record it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aufnehmen</translation>
     </message>
     <message>
         <source>Play, correct the notes in the piano roll, and export the sound.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spielen Sie, berichtigen Sie die Noten in der Pianorolle und exportieren Sie den Klang.</translation>
     </message>
     <message>
         <source>Open %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 öffnen</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Beispiele</translation>
     </message>
     <message>
         <source>%1 (tuning)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (Stimmung)</translation>
     </message>
     <message>
         <source>%1 (piece)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (Stück)</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Zuletzt geöffnet</translation>
     </message>
 </context>
 <context>
     <name>velmora::StatusLine</name>
     <message>
-        <source>%1, %2 kHz, %3 ms</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The current instrument</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The current tuning</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The sound output: its driver, sample rate and period</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Tonausgabe: Treiber, Abtastrate und Periode</translation>
     </message>
     <message>
         <source>The display may go to sleep while you play because there is no D-Bus session bus.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Der Bildschirm kann sich beim Spielen abschalten, weil es keinen D-Bus-Sitzungsbus gibt.</translation>
     </message>
     <message>
         <source>Changed preferences are lost when you quit because they cannot be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Geänderte Einstellungen gehen beim Beenden verloren, weil sie sich nicht speichern lassen.</translation>
     </message>
     <message>
         <source>No MIDI input</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 MIDI inputs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kein MIDI-Eingang</translation>
     </message>
     <message>
         <source>A MIDI device is used as soon as it is connected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ein MIDI-Gerät wird verwendet, sobald es angeschlossen ist</translation>
     </message>
     <message>
         <source>There is no MIDI device. Connect one, or play with the mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Es gibt kein MIDI-Gerät. Schließen Sie eines an, oder spielen Sie mit der Maus.</translation>
     </message>
     <message>
         <source>No sound output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Keine Tonausgabe</translation>
     </message>
     <message>
         <source>Notices: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hinweise: %1</translation>
     </message>
     <message>
         <source>Notices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Hinweise</translation>
+    </message>
+    <message>
+        <source>%1, %L2 kHz, %L3 ms</source>
+        <translation type="unfinished">%1, %L2 kHz, %L3 ms</translation>
+    </message>
+    <message>
+        <source>Instrument: %1
+Click to show its programs or stops</source>
+        <translation type="unfinished">Instrument: %1
+Ein Klick zeigt Programme oder Register</translation>
+    </message>
+    <message>
+        <source>Tuning: %1 (%2)
+Click to show all tunings</source>
+        <translation type="unfinished">Stimmung: %1 (%2)
+Ein Klick zeigt alle Stimmungen</translation>
+    </message>
+    <message>
+        <source>Plain reading</source>
+        <translation type="unfinished">Schlichtes Lesen</translation>
+    </message>
+    <message>
+        <source>MIDI devices are read plainly: no pedals, no touch, no transposition</source>
+        <translation type="unfinished">MIDI-Geräte werden schlicht gelesen: keine Pedale, kein Anschlag, keine Transposition</translation>
+    </message>
+    <message>
+        <source>Transposed %1</source>
+        <translation type="unfinished">Transponiert %1</translation>
+    </message>
+    <message>
+        <source>MIDI keyboards sound %1 semitones away from their keys</source>
+        <translation type="unfinished">MIDI-Keyboards klingen %1 Halbtöne neben ihren Tasten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n MIDI input(s)</source>
+        <translation type="unfinished">
+            <numerusform>%n MIDI-Eingang</numerusform>
+            <numerusform>%n MIDI-Eingänge</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>MIDI devices:
+%1</source>
+        <translation type="unfinished">MIDI-Geräte:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StopList</name>
+    <message>
+        <source>Find a stop</source>
+        <translation type="unfinished">Register suchen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StopRow</name>
+    <message>
+        <source>%1: turn on or off (Space)</source>
+        <translation type="unfinished">%1: ein- oder ausschalten (Leertaste)</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1 %</translation>
     </message>
 </context>
 <context>
     <name>velmora::TransportBar</name>
     <message>
         <source>Transport</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transport</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Stopp</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aufnehmen</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Spielen</translation>
     </message>
     <message>
         <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Position in Minuten und Sekunden bei diesem Tempo und in Schritten</translation>
     </message>
     <message>
         <source>Te&amp;mpo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Temp&amp;o</translation>
     </message>
     <message>
         <source>Tempo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tempo</translation>
     </message>
     <message>
         <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Das Tempo beim Spielen und Aufnehmen in Schlägen pro Minute</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Kanal</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kanal</translation>
     </message>
     <message>
         <source>The channel of notes that you record or draw. A digit key chooses a channel and selects its notes; with Ctrl it moves the selected notes to that channel.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Der Kanal der Noten, die Sie aufnehmen oder zeichnen. Eine Zifferntaste wählt einen Kanal und seine Noten; mit Strg versetzt sie die ausgewählten Noten auf diesen Kanal.</translation>
     </message>
     <message>
         <source>%1  ·  step %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1  ·  Schritt %2</translation>
+    </message>
+    <message>
+        <source> bpm</source>
+        <translation type="unfinished"> bpm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningPanel</name>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Stimmung</translation>
+    </message>
+    <message>
+        <source>Open T&amp;uning…</source>
+        <translation type="unfinished">Stimmung ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Open a tuning file: a scale (.scl) or frequencies (.mtx)</source>
+        <translation type="unfinished">Eine Stimmungsdatei öffnen: eine Skala (.scl) oder Frequenzen (.mtx)</translation>
+    </message>
+    <message>
+        <source>The pitches of middle C and of the A above it in this tuning</source>
+        <translation type="unfinished">Die Tonhöhen des eingestrichenen C und des A darüber in dieser Stimmung</translation>
+    </message>
+    <message>
+        <source>%1 (middle C): %2 Hz
+%3: %4 Hz</source>
+        <translation type="unfinished">%1 (eingestrichenes C): %2 Hz
+%3: %4 Hz</translation>
+    </message>
+    <message>
+        <source>Equal</source>
+        <translation type="unfinished">Gleichstufig</translation>
+    </message>
+    <message>
+        <source>Twelve equal semitones</source>
+        <translation type="unfinished">Zwölf gleiche Halbtöne</translation>
+    </message>
+    <message>
+        <source>Quartercomma Meantone</source>
+        <translation type="unfinished">Viertelkomma-mitteltönig</translation>
+    </message>
+    <message>
+        <source>Pure major thirds</source>
+        <translation type="unfinished">Reine große Terzen</translation>
+    </message>
+    <message>
+        <source>Dynamic</source>
+        <translation type="unfinished">Dynamisch</translation>
+    </message>
+    <message>
+        <source>Adapts its thirds to what you play</source>
+        <translation type="unfinished">Passt seine Terzen Ihrem Spiel an</translation>
     </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
     <message>
         <source>Tuning strip</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Stimmungsleiste</translation>
     </message>
     <message>
         <source>How many cents each note of the tuning lies above or below equal temperament</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Um wie viele Cent jeder Ton der Stimmung über oder unter der gleichstufigen liegt</translation>
+    </message>
+    <message>
+        <source>%1: %2 cents</source>
+        <translation type="unfinished">%1: %2 Cent</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Workspace</name>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>Open pieces</source>
+        <translation type="unfinished">Offene Stücke</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation type="unfinished">Klaviatur</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation type="unfinished">Instrument</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Stimmung</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished">&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished">&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Piece</source>
+        <translation type="unfinished">&amp;Stück</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished">&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished">&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Silence Everything</source>
+        <translation type="unfinished">Alles still</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::nameParts</name>
+    <message>
+        <source>More</source>
+        <translation type="unfinished">Mehr</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished">Leeren</translation>
     </message>
 </context>
 <context>
     <name>velmora::noteNames</name>
     <message>
         <source>La</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La</translation>
     </message>
     <message>
         <source>Si</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Si</translation>
     </message>
     <message>
         <source>Do</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Do</translation>
     </message>
     <message>
         <source>Re</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Re</translation>
     </message>
     <message>
         <source>Mi</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mi</translation>
     </message>
     <message>
         <source>Fa</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fa</translation>
     </message>
     <message>
         <source>Sol</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sol</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::programNames</name>
+    <message>
+        <source>1 Acoustic Grand Piano</source>
+        <translation type="unfinished">1 Konzertflügel</translation>
+    </message>
+    <message>
+        <source>2 Bright Acoustic Piano</source>
+        <translation type="unfinished">2 Helles Klavier</translation>
+    </message>
+    <message>
+        <source>3 Electric Grand Piano</source>
+        <translation type="unfinished">3 E-Flügel</translation>
+    </message>
+    <message>
+        <source>4 Honky-Tonk Piano</source>
+        <translation type="unfinished">4 Honky-Tonk-Klavier</translation>
+    </message>
+    <message>
+        <source>5 Rhodes Piano</source>
+        <translation type="unfinished">5 Rhodes-Piano</translation>
+    </message>
+    <message>
+        <source>6 Chorus Piano</source>
+        <translation type="unfinished">6 Chorus-Piano</translation>
+    </message>
+    <message>
+        <source>7 Harpsichord</source>
+        <translation type="unfinished">7 Cembalo</translation>
+    </message>
+    <message>
+        <source>8 Clavinet</source>
+        <translation type="unfinished">8 Clavinet</translation>
+    </message>
+    <message>
+        <source>9 Celesta</source>
+        <translation type="unfinished">9 Celesta</translation>
+    </message>
+    <message>
+        <source>10 Glockenspiel</source>
+        <translation type="unfinished">10 Glockenspiel</translation>
+    </message>
+    <message>
+        <source>11 Music Box</source>
+        <translation type="unfinished">11 Spieldose</translation>
+    </message>
+    <message>
+        <source>12 Vibraphone</source>
+        <translation type="unfinished">12 Vibraphon</translation>
+    </message>
+    <message>
+        <source>13 Marimba</source>
+        <translation type="unfinished">13 Marimba</translation>
+    </message>
+    <message>
+        <source>14 Xylophone</source>
+        <translation type="unfinished">14 Xylophon</translation>
+    </message>
+    <message>
+        <source>15 Tubular Bells</source>
+        <translation type="unfinished">15 Röhrenglocken</translation>
+    </message>
+    <message>
+        <source>16 Dulcimer</source>
+        <translation type="unfinished">16 Hackbrett</translation>
+    </message>
+    <message>
+        <source>17 Hammond Organ</source>
+        <translation type="unfinished">17 Hammond-Orgel</translation>
+    </message>
+    <message>
+        <source>18 Percusive Organ</source>
+        <translation type="unfinished">18 Perkussive Orgel</translation>
+    </message>
+    <message>
+        <source>19 Rock Organ</source>
+        <translation type="unfinished">19 Rockorgel</translation>
+    </message>
+    <message>
+        <source>20 Church Organ</source>
+        <translation type="unfinished">20 Kirchenorgel</translation>
+    </message>
+    <message>
+        <source>21 Reed Organ</source>
+        <translation type="unfinished">21 Harmonium</translation>
+    </message>
+    <message>
+        <source>22 Accordion</source>
+        <translation type="unfinished">22 Akkordeon</translation>
+    </message>
+    <message>
+        <source>23 Harmonica</source>
+        <translation type="unfinished">23 Mundharmonika</translation>
+    </message>
+    <message>
+        <source>24 Tango Accordion</source>
+        <translation type="unfinished">24 Bandoneon</translation>
+    </message>
+    <message>
+        <source>25 Nylon Guitar</source>
+        <translation type="unfinished">25 Nylongitarre</translation>
+    </message>
+    <message>
+        <source>26 Steel String Guitar</source>
+        <translation type="unfinished">26 Stahlsaitengitarre</translation>
+    </message>
+    <message>
+        <source>27 Jazz Guitar</source>
+        <translation type="unfinished">27 Jazzgitarre</translation>
+    </message>
+    <message>
+        <source>28 Clean E. Guitar</source>
+        <translation type="unfinished">28 Unverzerrte E-Gitarre</translation>
+    </message>
+    <message>
+        <source>29 Mute E. Guitar</source>
+        <translation type="unfinished">29 Gedämpfte E-Gitarre</translation>
+    </message>
+    <message>
+        <source>30 Overdrive Guitar</source>
+        <translation type="unfinished">30 Overdrive-Gitarre</translation>
+    </message>
+    <message>
+        <source>31 Distort Guitar</source>
+        <translation type="unfinished">31 Verzerrte Gitarre</translation>
+    </message>
+    <message>
+        <source>32 Harmonics</source>
+        <translation type="unfinished">32 Flageolett</translation>
+    </message>
+    <message>
+        <source>33 Acoustic Bass</source>
+        <translation type="unfinished">33 Akustischer Bass</translation>
+    </message>
+    <message>
+        <source>34 Finger E. Bass</source>
+        <translation type="unfinished">34 E-Bass (Finger)</translation>
+    </message>
+    <message>
+        <source>35 Picked E. Bass</source>
+        <translation type="unfinished">35 E-Bass (Plektrum)</translation>
+    </message>
+    <message>
+        <source>36 Fretless Bass</source>
+        <translation type="unfinished">36 Bundloser Bass</translation>
+    </message>
+    <message>
+        <source>37 Slap Bass 1</source>
+        <translation type="unfinished">37 Slap-Bass 1</translation>
+    </message>
+    <message>
+        <source>38 Slap Bass 2</source>
+        <translation type="unfinished">38 Slap-Bass 2</translation>
+    </message>
+    <message>
+        <source>39 Synth Bass1</source>
+        <translation type="unfinished">39 Synthesizer-Bass 1</translation>
+    </message>
+    <message>
+        <source>40 Synth Bass2</source>
+        <translation type="unfinished">40 Synthesizer-Bass 2</translation>
+    </message>
+    <message>
+        <source>41 Violin</source>
+        <translation type="unfinished">41 Violine</translation>
+    </message>
+    <message>
+        <source>42 Viola</source>
+        <translation type="unfinished">42 Viola</translation>
+    </message>
+    <message>
+        <source>43 Cello</source>
+        <translation type="unfinished">43 Violoncello</translation>
+    </message>
+    <message>
+        <source>44 Contrabass</source>
+        <translation type="unfinished">44 Kontrabass</translation>
+    </message>
+    <message>
+        <source>45 Tremolo Strings</source>
+        <translation type="unfinished">45 Streichertremolo</translation>
+    </message>
+    <message>
+        <source>46 Pizzicato Strings</source>
+        <translation type="unfinished">46 Streicherpizzicato</translation>
+    </message>
+    <message>
+        <source>47 Orchestral Harp</source>
+        <translation type="unfinished">47 Konzertharfe</translation>
+    </message>
+    <message>
+        <source>48 Timpani</source>
+        <translation type="unfinished">48 Pauken</translation>
+    </message>
+    <message>
+        <source>49 String Ensemble 1</source>
+        <translation type="unfinished">49 Streichensemble 1</translation>
+    </message>
+    <message>
+        <source>50 String Ensemble 2</source>
+        <translation type="unfinished">50 Streichensemble 2</translation>
+    </message>
+    <message>
+        <source>51 Synth Strings 1</source>
+        <translation type="unfinished">51 Synthesizer-Streicher 1</translation>
+    </message>
+    <message>
+        <source>52 Synth Strings 2</source>
+        <translation type="unfinished">52 Synthesizer-Streicher 2</translation>
+    </message>
+    <message>
+        <source>53 Choir Aahs</source>
+        <translation type="unfinished">53 Chor „Aah“</translation>
+    </message>
+    <message>
+        <source>54 Voice Oohs</source>
+        <translation type="unfinished">54 Stimmen „Ooh“</translation>
+    </message>
+    <message>
+        <source>55 Synth Voice</source>
+        <translation type="unfinished">55 Synthesizer-Stimme</translation>
+    </message>
+    <message>
+        <source>56 Orchestra Hit</source>
+        <translation type="unfinished">56 Orchesterschlag</translation>
+    </message>
+    <message>
+        <source>57 Trumpet</source>
+        <translation type="unfinished">57 Trompete</translation>
+    </message>
+    <message>
+        <source>58 Trombone</source>
+        <translation type="unfinished">58 Posaune</translation>
+    </message>
+    <message>
+        <source>59 Tuba</source>
+        <translation type="unfinished">59 Tuba</translation>
+    </message>
+    <message>
+        <source>60 Mute Trumpet</source>
+        <translation type="unfinished">60 Gedämpfte Trompete</translation>
+    </message>
+    <message>
+        <source>61 French Horn</source>
+        <translation type="unfinished">61 Horn</translation>
+    </message>
+    <message>
+        <source>62 Brass Section</source>
+        <translation type="unfinished">62 Blechbläser</translation>
+    </message>
+    <message>
+        <source>63 Synth Brass 1</source>
+        <translation type="unfinished">63 Synthesizer-Blech 1</translation>
+    </message>
+    <message>
+        <source>64 Synth Brass 2</source>
+        <translation type="unfinished">64 Synthesizer-Blech 2</translation>
+    </message>
+    <message>
+        <source>65 Soprano Sax</source>
+        <translation type="unfinished">65 Sopransaxophon</translation>
+    </message>
+    <message>
+        <source>66 Alto Sax</source>
+        <translation type="unfinished">66 Altsaxophon</translation>
+    </message>
+    <message>
+        <source>67 Tenor Sax</source>
+        <translation type="unfinished">67 Tenorsaxophon</translation>
+    </message>
+    <message>
+        <source>68 Baritone Sax</source>
+        <translation type="unfinished">68 Baritonsaxophon</translation>
+    </message>
+    <message>
+        <source>69 Oboe</source>
+        <translation type="unfinished">69 Oboe</translation>
+    </message>
+    <message>
+        <source>70 English Horn</source>
+        <translation type="unfinished">70 Englischhorn</translation>
+    </message>
+    <message>
+        <source>71 Bassoon</source>
+        <translation type="unfinished">71 Fagott</translation>
+    </message>
+    <message>
+        <source>72 Clarinet</source>
+        <translation type="unfinished">72 Klarinette</translation>
+    </message>
+    <message>
+        <source>73 Piccolo</source>
+        <translation type="unfinished">73 Piccoloflöte</translation>
+    </message>
+    <message>
+        <source>74 Flute</source>
+        <translation type="unfinished">74 Querflöte</translation>
+    </message>
+    <message>
+        <source>75 Recorder</source>
+        <translation type="unfinished">75 Blockflöte</translation>
+    </message>
+    <message>
+        <source>76 Pan Flute</source>
+        <translation type="unfinished">76 Panflöte</translation>
+    </message>
+    <message>
+        <source>77 Bottle Blow</source>
+        <translation type="unfinished">77 Flaschenblasen</translation>
+    </message>
+    <message>
+        <source>78 Shakuhachi</source>
+        <translation type="unfinished">78 Shakuhachi</translation>
+    </message>
+    <message>
+        <source>79 Whistle</source>
+        <translation type="unfinished">79 Pfeifen</translation>
+    </message>
+    <message>
+        <source>80 Ocarina</source>
+        <translation type="unfinished">80 Okarina</translation>
+    </message>
+    <message>
+        <source>81 Square Wave</source>
+        <translation type="unfinished">81 Rechteckwelle</translation>
+    </message>
+    <message>
+        <source>82 Saw Tooth</source>
+        <translation type="unfinished">82 Sägezahn</translation>
+    </message>
+    <message>
+        <source>83 Syn Calliope</source>
+        <translation type="unfinished">83 Synthesizer-Kalliope</translation>
+    </message>
+    <message>
+        <source>84 Chiffer Lead</source>
+        <translation type="unfinished">84 Chiffer-Solo</translation>
+    </message>
+    <message>
+        <source>85 Charang</source>
+        <translation type="unfinished">85 Charango-Solo</translation>
+    </message>
+    <message>
+        <source>86 Solo Vox</source>
+        <translation type="unfinished">86 Solostimme</translation>
+    </message>
+    <message>
+        <source>87 5th Saw Wave</source>
+        <translation type="unfinished">87 Sägezahn in Quinten</translation>
+    </message>
+    <message>
+        <source>88 Brass &amp; Lead</source>
+        <translation type="unfinished">88 Blech und Solo</translation>
+    </message>
+    <message>
+        <source>89 Fantasia</source>
+        <translation type="unfinished">89 Fantasia</translation>
+    </message>
+    <message>
+        <source>90 Warm Pad</source>
+        <translation type="unfinished">90 Warme Fläche</translation>
+    </message>
+    <message>
+        <source>91 Polysynth</source>
+        <translation type="unfinished">91 Polysynthesizer</translation>
+    </message>
+    <message>
+        <source>92 Space Vox</source>
+        <translation type="unfinished">92 Weltraumstimmen</translation>
+    </message>
+    <message>
+        <source>93 Bowed Glass</source>
+        <translation type="unfinished">93 Gestrichenes Glas</translation>
+    </message>
+    <message>
+        <source>94 Metal Pad</source>
+        <translation type="unfinished">94 Metallfläche</translation>
+    </message>
+    <message>
+        <source>95 Halo Pad</source>
+        <translation type="unfinished">95 Heiligenschein</translation>
+    </message>
+    <message>
+        <source>96 Sweep Pad</source>
+        <translation type="unfinished">96 Gleitende Fläche</translation>
+    </message>
+    <message>
+        <source>97 Ice Rain</source>
+        <translation type="unfinished">97 Eisregen</translation>
+    </message>
+    <message>
+        <source>98 Soundtrack</source>
+        <translation type="unfinished">98 Filmmusik</translation>
+    </message>
+    <message>
+        <source>99 Crystal</source>
+        <translation type="unfinished">99 Kristall</translation>
+    </message>
+    <message>
+        <source>100 Atmosphere</source>
+        <translation type="unfinished">100 Atmosphäre</translation>
+    </message>
+    <message>
+        <source>101 Brightness</source>
+        <translation type="unfinished">101 Helligkeit</translation>
+    </message>
+    <message>
+        <source>102 Goblin</source>
+        <translation type="unfinished">102 Kobold</translation>
+    </message>
+    <message>
+        <source>103 Echo Drops</source>
+        <translation type="unfinished">103 Echotropfen</translation>
+    </message>
+    <message>
+        <source>104 Star Theme</source>
+        <translation type="unfinished">104 Sternenthema</translation>
+    </message>
+    <message>
+        <source>105 Sitar</source>
+        <translation type="unfinished">105 Sitar</translation>
+    </message>
+    <message>
+        <source>106 Banjo</source>
+        <translation type="unfinished">106 Banjo</translation>
+    </message>
+    <message>
+        <source>107 Shamisen</source>
+        <translation type="unfinished">107 Shamisen</translation>
+    </message>
+    <message>
+        <source>108 Koto</source>
+        <translation type="unfinished">108 Koto</translation>
+    </message>
+    <message>
+        <source>109 Kalimba</source>
+        <translation type="unfinished">109 Kalimba</translation>
+    </message>
+    <message>
+        <source>110 Bag Pipe</source>
+        <translation type="unfinished">110 Dudelsack</translation>
+    </message>
+    <message>
+        <source>111 Fiddle</source>
+        <translation type="unfinished">111 Fiedel</translation>
+    </message>
+    <message>
+        <source>112 Shanai</source>
+        <translation type="unfinished">112 Shanai</translation>
+    </message>
+    <message>
+        <source>113 Tinkle Bell</source>
+        <translation type="unfinished">113 Glöckchen</translation>
+    </message>
+    <message>
+        <source>114 Agogo</source>
+        <translation type="unfinished">114 Agogo</translation>
+    </message>
+    <message>
+        <source>115 Steel Drums</source>
+        <translation type="unfinished">115 Steel Drums</translation>
+    </message>
+    <message>
+        <source>116 Woodblock</source>
+        <translation type="unfinished">116 Holzblock</translation>
+    </message>
+    <message>
+        <source>117 Taiko Drum</source>
+        <translation type="unfinished">117 Taikotrommel</translation>
+    </message>
+    <message>
+        <source>118 Melodic Tom</source>
+        <translation type="unfinished">118 Melodisches Tomtom</translation>
+    </message>
+    <message>
+        <source>119 Synth Drum</source>
+        <translation type="unfinished">119 Synthesizer-Trommel</translation>
+    </message>
+    <message>
+        <source>120 Reverse Cymbal</source>
+        <translation type="unfinished">120 Becken rückwärts</translation>
+    </message>
+    <message>
+        <source>121 Guitar Fret Noise</source>
+        <translation type="unfinished">121 Gitarrenbund-Geräusch</translation>
+    </message>
+    <message>
+        <source>122 Breath Noise</source>
+        <translation type="unfinished">122 Atemgeräusch</translation>
+    </message>
+    <message>
+        <source>123 Sea Shore</source>
+        <translation type="unfinished">123 Meeresrauschen</translation>
+    </message>
+    <message>
+        <source>124 Bird Tweet</source>
+        <translation type="unfinished">124 Vogelgezwitscher</translation>
+    </message>
+    <message>
+        <source>125 Telephone Ring</source>
+        <translation type="unfinished">125 Telefonklingeln</translation>
+    </message>
+    <message>
+        <source>126 Helicopter</source>
+        <translation type="unfinished">126 Hubschrauber</translation>
+    </message>
+    <message>
+        <source>127 Applause</source>
+        <translation type="unfinished">127 Applaus</translation>
+    </message>
+    <message>
+        <source>128 Gun Shot</source>
+        <translation type="unfinished">128 Gewehrschuss</translation>
     </message>
 </context>
 </TS>

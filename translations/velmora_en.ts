@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>QObject</name>
+    <message numerus="yes">
+        <source>%n file(s) or sample(s) were left out</source>
+        <translation>
+            <numerusform>%n file or sample was left out</numerusform>
+            <numerusform>%n files or samples were left out</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceDocument</name>
     <message numerus="yes">
         <source>Record %n Note(s)</source>
@@ -50,6 +60,43 @@
         <translation>
             <numerusform>Paste %n Note</numerusform>
             <numerusform>Paste %n Notes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequencePages</name>
+    <message numerus="yes">
+        <source>%1, %n note(s), %2</source>
+        <translation>
+            <numerusform>%1, %n note, %2</numerusform>
+            <numerusform>%1, %n notes, %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequenceStatus</name>
+    <message numerus="yes">
+        <source>%n note(s) selected</source>
+        <translation>
+            <numerusform>%n note selected</numerusform>
+            <numerusform>%n notes selected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) in all</source>
+        <translation>
+            <numerusform>%n note in all</numerusform>
+            <numerusform>%n notes in all</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StatusLine</name>
+    <message numerus="yes">
+        <source>%n MIDI input(s)</source>
+        <translation>
+            <numerusform>%n MIDI input</numerusform>
+            <numerusform>%n MIDI inputs</numerusform>
         </translation>
     </message>
 </context>

@@ -2,26 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en">
 <context>
-    <name>HelpButton</name>
-    <message>
-        <source>Help</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show what the guide says about this</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>QObject</name>
-    <message>
-        <source>1 file or sample was left out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 files or samples were left out</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>Import Report</source>
         <translation type="unfinished"></translation>
@@ -36,6 +17,23 @@
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) or sample(s) were left out</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is still sounding. Silence everything (Ctrl+.), then unload it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>deviceText</name>
+    <message>
+        <source>MIDI port %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -68,95 +66,14 @@
 <context>
     <name>velmora::Commands</name>
     <message>
-        <source>&amp;New Sequence</source>
+        <source>%1 (%2)</source>
         <translation type="unfinished"></translation>
     </message>
+</context>
+<context>
+    <name>velmora::ComputerKeyboard</name>
     <message>
-        <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Silence Everything</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Transpose &amp;Up</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Transpose &amp;Down</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Keyboard</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Instrument &amp;Panel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Instruments…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Meters</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Note &amp;Names on the Keyboard</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Instrument</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Tuning</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open sequences, instruments and tunings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stop every sound and release every key (Ctrl+.)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the program, the tuning and the stops (Ctrl+I)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show the delay, the load and the devices of live playing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>User &amp;Guide</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;About Velmora</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Clear List</source>
+        <source>Letters play from %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -179,10 +96,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;All files (*)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Transposition: %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -196,6 +109,47 @@
     </message>
     <message>
         <source>Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;Sessions (%5);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sessions (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velmora ended while it was opening what was open last time. Open it again?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsaved changes are not protected against a crash: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not everything that was open last time could be opened.
+%1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -282,6 +236,41 @@
     </message>
 </context>
 <context>
+    <name>velmora::HelpButton</name>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show what the guide says about this</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::InstrumentMenu</name>
+    <message>
+        <source>Instrument: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1
+Choose another instrument, open or unload one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open Instrument…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Unload %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import &amp;Report of %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::InstrumentPanel</name>
     <message>
         <source>Stop %1</source>
@@ -292,27 +281,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Program</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>General MIDI program</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Memory use</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Memory used by the samples of this instrument</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tuning</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The tuning that you play in</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -320,7 +289,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1: %2 %</source>
+        <source>Instrument</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -373,10 +342,6 @@
         <source>Show what was imported and what was left out</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%1 is still sounding. Silence everything, then unload it.</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>velmora::KeyRuler</name>
@@ -391,27 +356,20 @@
         <source>Piano keyboard</source>
         <translation type="unfinished"></translation>
     </message>
-</context>
-<context>
-    <name>velmora::KeyboardWindow</name>
     <message>
-        <source>Velmora</source>
+        <source>wrong</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;File</source>
+        <source>to be played</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;View</source>
+        <source>right</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tools</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Silence Everything</source>
+        <source>held</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -461,18 +419,6 @@
 <context>
     <name>velmora::LearnMenu</name>
     <message>
-        <source>channel %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>MIDI key %1, %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>MIDI controller %1, %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Learn MIDI Controller…</source>
         <translation type="unfinished"></translation>
     </message>
@@ -499,6 +445,14 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
     </message>
     <message>
         <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MIDI key %1 on channel %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MIDI controller %1 on channel %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -611,6 +565,10 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
     </message>
     <message>
         <source>The transposition of the MIDI keyboards in semitones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>semitones</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -831,6 +789,101 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <source>Reset to &amp;Defaults</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>A&amp;t the start:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start as last time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the instruments, the tuning and the pieces that are open when you quit are opened again</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ProgramList</name>
+    <message>
+        <source>Piano</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chromatic Percussion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Organ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guitar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ensemble</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pipe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Synth Lead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Synth Pad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Synth Effects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ethnic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percussive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound Effects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find a program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General MIDI program</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>velmora::ProgressWindow</name>
@@ -844,6 +897,13 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
     </message>
     <message>
         <source>Cancelling…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SearchField</name>
+    <message>
+        <source>%1 (%2)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -918,27 +978,87 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Record</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Return</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Record what you play, starting at the position</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Play</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Play from the position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Ne&amp;xt Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Pre&amp;vious Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to &amp;End</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Selected Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Zoom In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom O&amp;ut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Wider Keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;arrower Keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Notes &amp;Up a Semitone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Notes &amp;Down a Semitone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Notes &amp;Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Notes &amp;Earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make Notes Lon&amp;ger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make Notes &amp;Shorter</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -989,6 +1109,47 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <translation type="unfinished">
             <numerusform></numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SequencePages</name>
+    <message numerus="yes">
+        <source>%1, %n note(s), %2</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velmora was not closed properly. Recover the unsaved sequences?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 •</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untitled %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1052,31 +1213,11 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
 <context>
     <name>velmora::SequenceStatus</name>
     <message>
-        <source>1 note</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 notes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Playing, recording or practising</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Practice: play the notes at the position to move on to the next ones</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 selected</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Steps %1 to %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 in all</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1095,6 +1236,18 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <source>; release %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>%n note(s) selected</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) in all</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceView</name>
@@ -1102,15 +1255,51 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <source>Piano roll</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1, step %2, length %3, channel %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velocity %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
-    <name>velmora::SequenceWindow</name>
+    <name>velmora::ShellActions</name>
     <message>
-        <source>&amp;File</source>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New Piece</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open pieces, instruments and tunings</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the piece</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1122,7 +1311,59 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Close</source>
+        <source>Write a sound file of the piece</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close Piece</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Preferences…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Silence Everything</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop every sound and release every key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transpose &amp;Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transpose &amp;Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the program or the stops</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tuning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arrange the window for playing</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1130,74 +1371,79 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Sequence</source>
+        <source>Arrange the window for editing</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;View</source>
+        <source>&amp;Stage</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Zoo&amp;m In</source>
+        <source>Fill the screen with what matters on stage</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Zoom &amp;Out</source>
+        <source>&amp;Reset Layout</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Wider Keys</source>
+        <source>Ne&amp;xt Panel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Narrowe&amp;r Keys</source>
+        <source>Pre&amp;vious Panel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Tuning Strip</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>velmora::SequenceWindows</name>
-    <message>
-        <source>%1, %2, %3</source>
+        <source>Piece in Its &amp;Own Window</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Untitled</source>
+        <source>&amp;Loaded Instruments…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>1 note</source>
+        <source>&amp;Meters</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 notes</source>
+        <source>Show the delay, the load and the devices of live playing</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Velmora</source>
+        <source>Note &amp;Names on the Keyboard</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Velmora was not closed properly. Recover the unsaved sequences?</source>
+        <source>User &amp;Guide</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Recover</source>
+        <source>&amp;About Velmora</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Discard</source>
+        <source>Open &amp;Recent</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Ask Later</source>
+        <source>&amp;Clear List</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Untitled %1</source>
+        <source>Open Sess&amp;ion…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the instruments, the tuning and the pieces of a session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Session…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save which instruments, tuning and pieces are open</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1268,10 +1514,6 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 kHz</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 frames</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1284,12 +1526,16 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1, %2 kHz, %3 frames (%4 ms)</source>
+        <source>%L1 kHz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %L2 kHz, %L3 frames (%L4 ms)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>
-To the sound card: %1 ms. Lost periods: %2.</source>
+To the sound card: %L1 ms. Lost periods: %L2.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1411,18 +1657,6 @@ To the sound card: %1 ms. Lost periods: %2.</source>
 <context>
     <name>velmora::StatusLine</name>
     <message>
-        <source>%1, %2 kHz, %3 ms</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The current instrument</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The current tuning</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The sound output: its driver, sample rate and period</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1436,10 +1670,6 @@ To the sound card: %1 ms. Lost periods: %2.</source>
     </message>
     <message>
         <source>No MIDI input</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 MIDI inputs</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1462,6 +1692,65 @@ To the sound card: %1 ms. Lost periods: %2.</source>
         <source>Notices</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1, %L2 kHz, %L3 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instrument: %1
+Click to show its programs or stops</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tuning: %1 (%2)
+Click to show all tunings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plain reading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MIDI devices are read plainly: no pedals, no touch, no transposition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transposed %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MIDI keyboards sound %1 semitones away from their keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n MIDI input(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>MIDI devices:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StopList</name>
+    <message>
+        <source>Find a stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StopRow</name>
+    <message>
+        <source>%1: turn on or off (Space)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>velmora::TransportBar</name>
@@ -1479,10 +1768,6 @@ To the sound card: %1 ms. Lost periods: %2.</source>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Position</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1517,6 +1802,58 @@ To the sound card: %1 ms. Lost periods: %2.</source>
         <source>%1  ·  step %2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source> bpm</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningPanel</name>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open T&amp;uning…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a tuning file: a scale (.scl) or frequencies (.mtx)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pitches of middle C and of the A above it in this tuning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (middle C): %2 Hz
+%3: %4 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Equal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Twelve equal semitones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quartercomma Meantone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pure major thirds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dynamic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adapts its thirds to what you play</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -1526,6 +1863,68 @@ To the sound card: %1 ms. Lost periods: %2.</source>
     </message>
     <message>
         <source>How many cents each note of the tuning lies above or below equal temperament</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 cents</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Workspace</name>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open pieces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Piece</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Silence Everything</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::nameParts</name>
+    <message>
+        <source>More</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1557,6 +1956,521 @@ To the sound card: %1 ms. Lost periods: %2.</source>
     </message>
     <message>
         <source>Sol</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::programNames</name>
+    <message>
+        <source>1 Acoustic Grand Piano</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2 Bright Acoustic Piano</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3 Electric Grand Piano</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4 Honky-Tonk Piano</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>5 Rhodes Piano</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>6 Chorus Piano</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>7 Harpsichord</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>8 Clavinet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>9 Celesta</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>10 Glockenspiel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>11 Music Box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>12 Vibraphone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>13 Marimba</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>14 Xylophone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>15 Tubular Bells</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>16 Dulcimer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>17 Hammond Organ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>18 Percusive Organ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>19 Rock Organ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>20 Church Organ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>21 Reed Organ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>22 Accordion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>23 Harmonica</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>24 Tango Accordion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>25 Nylon Guitar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>26 Steel String Guitar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>27 Jazz Guitar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>28 Clean E. Guitar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>29 Mute E. Guitar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>30 Overdrive Guitar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>31 Distort Guitar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>32 Harmonics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>33 Acoustic Bass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>34 Finger E. Bass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>35 Picked E. Bass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>36 Fretless Bass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>37 Slap Bass 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>38 Slap Bass 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>39 Synth Bass1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>40 Synth Bass2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>41 Violin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>42 Viola</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>43 Cello</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>44 Contrabass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>45 Tremolo Strings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>46 Pizzicato Strings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>47 Orchestral Harp</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>48 Timpani</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>49 String Ensemble 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>50 String Ensemble 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>51 Synth Strings 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>52 Synth Strings 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>53 Choir Aahs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>54 Voice Oohs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>55 Synth Voice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>56 Orchestra Hit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>57 Trumpet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>58 Trombone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>59 Tuba</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>60 Mute Trumpet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>61 French Horn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>62 Brass Section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>63 Synth Brass 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>64 Synth Brass 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>65 Soprano Sax</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>66 Alto Sax</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>67 Tenor Sax</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>68 Baritone Sax</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>69 Oboe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>70 English Horn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>71 Bassoon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>72 Clarinet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>73 Piccolo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>74 Flute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>75 Recorder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>76 Pan Flute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>77 Bottle Blow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>78 Shakuhachi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>79 Whistle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>80 Ocarina</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>81 Square Wave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>82 Saw Tooth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>83 Syn Calliope</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>84 Chiffer Lead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>85 Charang</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>86 Solo Vox</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>87 5th Saw Wave</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>88 Brass &amp; Lead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>89 Fantasia</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>90 Warm Pad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>91 Polysynth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>92 Space Vox</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>93 Bowed Glass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>94 Metal Pad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>95 Halo Pad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>96 Sweep Pad</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>97 Ice Rain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>98 Soundtrack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>99 Crystal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 Atmosphere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>101 Brightness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>102 Goblin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>103 Echo Drops</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>104 Star Theme</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>105 Sitar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>106 Banjo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>107 Shamisen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>108 Koto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>109 Kalimba</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>110 Bag Pipe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>111 Fiddle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>112 Shanai</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>113 Tinkle Bell</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>114 Agogo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>115 Steel Drums</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>116 Woodblock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>117 Taiko Drum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>118 Melodic Tom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>119 Synth Drum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>120 Reverse Cymbal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>121 Guitar Fret Noise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>122 Breath Noise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>123 Sea Shore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>124 Bird Tweet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>125 Telephone Ring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>126 Helicopter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>127 Applause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>128 Gun Shot</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

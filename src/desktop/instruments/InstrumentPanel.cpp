@@ -1,7 +1,6 @@
 #include "desktop/instruments/InstrumentPanel.h"
 
 #include "app/AppDelegate.h"
-#include "app/sizeString.h"
 #include "desktop/instruments/InstrumentMenu.h"
 #include "desktop/instruments/PlayingControls.h"
 #include "desktop/instruments/ProgramList.h"
@@ -9,6 +8,7 @@
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/SearchField.h"
 #include "desktop/widgets/scrolling.h"
+#include "desktop/widgets/sizeText.h"
 
 #include <QLabel>
 #include <QScrollArea>
@@ -89,7 +89,7 @@ void InstrumentPanel::showInstrument()
         programs_->showProgram(application_.midiProgram());
     usage_->setVisible(!hasPrograms);
     // docs/decisions.md, 114
-    usage_->setText(tr("Usage:  %1").arg(QString::fromStdString(sizeString(usage))));
+    usage_->setText(tr("Usage:  %1").arg(sizeText(usage)));
     // Either the programs or the stops take the room that is left.
     stops_->setSizePolicy(QSizePolicy::Preferred,
                           hasPrograms ? QSizePolicy::Fixed : QSizePolicy::Expanding);

@@ -1,7 +1,7 @@
 #include "desktop/instruments/InstrumentsModel.h"
 
 #include "app/AppDelegate.h"
-#include "app/sizeString.h"
+#include "desktop/widgets/sizeText.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -40,9 +40,8 @@ QVariant InstrumentsModel::data(const QModelIndex& index, int role) const
     const bool isUnloaded = document.instrument() == nullptr;
     switch (role) {
     case Qt::DisplayRole:
-        return QString::fromStdString(
-            index.column() == kName ? document.title()
-                                    : sizeString(static_cast<std::uint64_t>(document.size())));
+        return index.column() == kName ? QString::fromStdString(document.title())
+                                       : sizeText(static_cast<std::uint64_t>(document.size()));
     case Qt::TextAlignmentRole:
         return index.column() == kSize ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     case Qt::ForegroundRole:

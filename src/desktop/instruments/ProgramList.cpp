@@ -3,6 +3,7 @@
 #include "app/programNames.h"
 #include "desktop/widgets/SearchField.h"
 
+#include <QCoreApplication>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -57,7 +58,9 @@ ProgramList::ProgramList() : search_(new SearchField(tr("Find a program"))), tre
             group->setFlags(Qt::ItemIsEnabled);
             group->setFont(0, bold);
         }
-        auto* item = new QTreeWidgetItem(tree_->topLevelItem(program / kGroupSize), {name});
+        auto* item =
+            new QTreeWidgetItem(tree_->topLevelItem(program / kGroupSize),
+                                {QCoreApplication::translate("velmora::programNames", name)});
         item->setData(0, kProgramRole, program++);
     }
     tree_->expandAll();

@@ -9,8 +9,7 @@ namespace velmora {
 
 QString leftOutText(std::size_t count)
 {
-    return count == 1 ? QObject::tr("1 file or sample was left out")
-                      : QObject::tr("%1 files or samples were left out").arg(count);
+    return QObject::tr("%n file(s) or sample(s) were left out", nullptr, static_cast<int>(count));
 }
 
 void showImportReport(QWidget& parent, const InstrumentDocument& document)

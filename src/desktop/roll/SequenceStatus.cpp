@@ -5,6 +5,7 @@
 #include "sequencer/SequenceDocument.h"
 
 #include <QLabel>
+#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -13,14 +14,9 @@ namespace velmora {
 
 namespace {
 
-QString countText(std::size_t notes)
-{
-    return notes == 1 ? SequenceStatus::tr("1 note") : SequenceStatus::tr("%1 notes").arg(notes);
-}
-
 QString stepText(double step)
 {
-    return QString::number(step, 'f', step == std::trunc(step) ? 0 : 1);
+    return QLocale().toString(step, 'f', step == std::trunc(step) ? 0 : 1);
 }
 
 } // namespace
@@ -29,7 +25,6 @@ SequenceStatus::SequenceStatus(const SequenceDocument& document)
     : document_(document), mode_(new QLabel), selection_(new QLabel), interval_(new QLabel),
       notes_(new QLabel)
 {
-    mode_->setAccessibleName(tr("Playing, recording or practising"));
     mode_->setToolTip(tr("Practice: play the notes at the position to move on to the next ones"));
     // A long chord must not widen the window.
     mode_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -50,15 +45,15 @@ SequenceStatus::SequenceStatus(const SequenceDocument& document)
 void SequenceStatus::showNotes()
 {
     const auto& notes = document_.sequence().notes();
-    const auto selected = static_cast<std::size_t>(
+    const auto selected = static_cast<int>(
         std::count_if(notes.begin(), notes.end(), [](const Note& note) { return note.selected; }));
-    selection_->setText(selected == 0 ? QString() : tr("%1 selected").arg(countText(selected)));
+    selection_->setText(selected == 0 ? QString() : tr("%n note(s) selected", nullptr, selected));
     const Interval& interval = document_.transport().interval();
     interval_->setText(
         interval.isEmpty()
             ? QString()
             : tr("Steps %1 to %2").arg(stepText(interval.start), stepText(interval.end)));
-    notes_->setText(tr("%1 in all").arg(countText(notes.size())));
+    notes_->setText(tr("%n note(s) in all", nullptr, static_cast<int>(notes.size())));
 }
 
 void SequenceStatus::showMode()

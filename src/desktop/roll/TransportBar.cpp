@@ -2,7 +2,7 @@
 
 #include "desktop/roll/SequenceActions.h"
 #include "desktop/widgets/LearnMenu.h"
-#include "desktop/widgets/nameExtension.h"
+#include "desktop/widgets/nameParts.h"
 #include "midi/messages.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceTime.h"
@@ -45,7 +45,7 @@ TransportBar::TransportBar(SequenceActions& actions, AppDelegate& application)
     setObjectName("transport");
     setWindowTitle(tr("Transport"));
     setMovable(false);
-    nameExtension(*this);
+    nameParts(*this);
     using Kind = LearnedAction::Kind;
     addButton(*actions.record, tr("Stop"), {{Kind::Record}, tr("Record")});
     addButton(*actions.play, tr("Stop"), {{Kind::Play}, tr("Play")});

@@ -2,6 +2,7 @@
 
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/closeByKeys.h"
+#include "desktop/widgets/nameParts.h"
 #include "desktop/widgets/windowPlace.h"
 
 #include <QAction>
@@ -153,6 +154,7 @@ QWidget* GuideWindow::makeBar()
     auto* label = new QLabel(tr("&Find:"));
     label->setBuddy(wanted_);
     wanted_->setClearButtonEnabled(true);
+    nameParts(*wanted_);
     connect(wanted_, &QLineEdit::textEdited, this, &GuideWindow::findWhileTyping);
     connect(wanted_, &QLineEdit::returnPressed, this, [this] { find(); });
     const auto focusField = [this] {

@@ -10,7 +10,7 @@
 #include "desktop/widgets/NoteSpinBox.h"
 #include "desktop/widgets/closeByKeys.h"
 #include "desktop/widgets/icons.h"
-#include "desktop/widgets/nameExtension.h"
+#include "desktop/widgets/nameParts.h"
 #include "desktop/widgets/windowPlace.h"
 #include "preferences/Color.h"
 #include "preferences/Preferences.h"
@@ -60,7 +60,7 @@ PreferencesWindow::PreferencesWindow(AppDelegate& application)
     setCentralWidget(panes_);
     auto* toolBar = addToolBar(tr("Panes"));
     toolBar->setMovable(false);
-    nameExtension(*toolBar);
+    nameParts(*toolBar);
     toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     addPane(tr("&General"), "preferences-general", "preferences", makeGeneralPane());
     addPane(tr("C&olors"), "preferences-colors", "colours-and-schemes", makeColorsPane());

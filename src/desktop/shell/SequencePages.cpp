@@ -31,11 +31,9 @@ QString listOf(const std::vector<Abandoned>& found)
         const auto& path = one.sequence.path;
         const QDateTime time =
             QDateTime::fromMSecsSinceEpoch(one.sequence.time.time_since_epoch().count());
-        const std::size_t notes = one.sequence.notes.size();
-        lines += SequencePages::tr("%1, %2, %3")
+        lines += SequencePages::tr("%1, %n note(s), %2", nullptr,
+                                   static_cast<int>(one.sequence.notes.size()))
                      .arg(path.empty() ? SequencePages::tr("Untitled") : displayName(path),
-                          notes == 1 ? SequencePages::tr("1 note")
-                                     : SequencePages::tr("%1 notes").arg(notes),
                           QLocale().toString(time, QLocale::ShortFormat));
     }
     return lines.join('\n');

@@ -163,8 +163,8 @@ void SoundPane::fillChoices()
 
     rate_->addItem(tr("Automatic"), 0);
     for (const int rate : kRates)
-        rate_->addItem(tr("%1 kHz").arg(rate / 1000.0), rate);
-    select(*rate_, static_cast<int>(output.rate), tr("%1 kHz").arg(output.rate / 1000.0));
+        rate_->addItem(tr("%L1 kHz").arg(rate / 1000.0), rate);
+    select(*rate_, static_cast<int>(output.rate), tr("%L1 kHz").arg(output.rate / 1000.0));
     period_->addItem(tr("Automatic"), 0);
     for (int period = kLeastPeriod; period <= kGreatestPeriod; period *= 2)
         period_->addItem(tr("%1 frames").arg(period), period);
@@ -240,13 +240,13 @@ void SoundPane::showStatus()
     const OutputStatus output = application_.output()->status();
     if (output.driver.empty())
         return; // the next one is about to play
-    QString text = tr("%1, %2 kHz, %3 frames (%4 ms)")
+    QString text = tr("%1, %L2 kHz, %L3 frames (%L4 ms)")
                        .arg(QString::fromStdString(driverTitle(output.driver)))
                        .arg(output.rate / 1000.0)
                        .arg(output.period)
                        .arg(1000.0 * static_cast<double>(output.period) / output.rate, 0, 'f', 1);
     if (output.driver != "none")
-        text += tr("\nTo the sound card: %1 ms. Lost periods: %2.")
+        text += tr("\nTo the sound card: %L1 ms. Lost periods: %L2.")
                     .arg(1000.0 * output.latency, 0, 'f', 1)
                     .arg(output.lostPeriods);
     if (!output.missing.empty())

@@ -16,6 +16,7 @@ StatusItem::StatusItem(QWidget* parent) : QToolButton(parent)
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    hide(); // until it has a text
 }
 
 void StatusItem::show(const QString& text, const QString& help, Kind kind)

@@ -19,7 +19,7 @@ namespace {
 QString describe(const OutputStatus& output)
 {
     const auto period = static_cast<double>(output.period);
-    return StatusLine::tr("%1, %2 kHz, %3 ms")
+    return StatusLine::tr("%1, %L2 kHz, %L3 ms")
         .arg(QString::fromStdString(driverTitle(output.driver)))
         .arg(output.rate / 1000.0, 0, 'g', 4)
         .arg(1000.0 * period / output.rate, 0, 'f', 1);

@@ -17,10 +17,13 @@ namespace {
 
 QString describe(MidiControl control)
 {
-    const QString channel = LearnMenu::tr("channel %1").arg(control.channel + 1);
     if (control.kind == MidiControl::Kind::Key)
-        return LearnMenu::tr("MIDI key %1, %2").arg(noteText(control.number), channel);
-    return LearnMenu::tr("MIDI controller %1, %2").arg(control.number).arg(channel);
+        return LearnMenu::tr("MIDI key %1 on channel %2")
+            .arg(noteText(control.number))
+            .arg(control.channel + 1);
+    return LearnMenu::tr("MIDI controller %1 on channel %2")
+        .arg(control.number)
+        .arg(control.channel + 1);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "desktop/widgets/SearchField.h"
 
 #include "desktop/widgets/icons.h"
+#include "desktop/widgets/nameParts.h"
 
 #include <QKeyEvent>
 
@@ -15,7 +16,8 @@ SearchField::SearchField(const QString& hint, QWidget* parent) : QLineEdit(paren
     setToolTip(tr("%1 (%2)").arg(
         hint, QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText)));
     setClearButtonEnabled(true);
-    addAction(icon("find"), LeadingPosition);
+    addAction(icon("find"), LeadingPosition)->setText(hint);
+    nameParts(*this);
 }
 
 bool SearchField::finds(const QString& text) const

@@ -96,7 +96,7 @@ TEST_F(MidiLearnTest, ASliderLearnsTheNextController)
     EXPECT_EQ(waiting(), nullptr);
     send({0xB2, 21, 0});
     EXPECT_EQ(volume.value(), 0);
-    EXPECT_EQ(toolTip(volume), "Volume\nMIDI controller 21, channel 3");
+    EXPECT_EQ(toolTip(volume), "Volume\nMIDI controller 21 on channel 3");
     choose(volume, "Forget MIDI Controller");
     send({0xB2, 21, 127});
     EXPECT_EQ(volume.value(), 0);

@@ -4,16 +4,16 @@
 #include "desktop/widgets/noteNames.h"
 #include "preferences/Preferences.h"
 
-#include <QAction>
+#include <QDir>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QTest>
-#include <QTranslator>
 #include <QXmlStreamReader>
 #include <gmock/gmock.h>
 
-namespace velmora {
+#include <algorithm>
 
-using testing::Contains;
+namespace velmora {
 
 namespace {
 
@@ -41,6 +41,18 @@ QString tones()
     for (const char* spelling : {"C", "C#", "Eb", "E#", "F##", "Abb", "Bb", "B", "B#", "Bbb"})
         names += toneText(spelling);
     return names.join(' ');
+}
+
+/// What a translation has in common with its text: the placeholders, a mnemonic, and whether it
+/// begins or ends with a space, a colon or an ellipsis. The number may be a word in the singular.
+std::vector<std::string> signsOf(const QString& text)
+{
+    static const QRegularExpression sign("%L?[1-9]|&(?=[^ &])|^ | $|:$|…$|\\n");
+    std::vector<std::string> signs;
+    for (const QRegularExpressionMatch& match : sign.globalMatch(text))
+        signs.push_back(match.captured().remove('L').toStdString());
+    std::ranges::sort(signs);
+    return signs;
 }
 
 } // namespace
@@ -91,6 +103,36 @@ TEST(Languages, HaveNames)
     EXPECT_EQ(nativeName("de"), "Deutsch");
     EXPECT_EQ(nativeName("en"), "English");
     EXPECT_EQ(nativeName("fr"), "Français");
+}
+
+TEST(Languages, TranslationsKeepPlaceholdersAndMnemonics)
+{
+    const QFileInfoList files = QDir(VELMORA_TRANSLATIONS).entryInfoList({"*.ts"});
+    EXPECT_EQ(files.size(), languages().size());
+    for (const QFileInfo& info : files) {
+        QFile file(info.filePath());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        QXmlStreamReader xml(&file);
+        QString source, text;
+        while (!xml.atEnd()) {
+            xml.readNext();
+            if (xml.isStartElement())
+                text.clear();
+            else if (xml.isCharacters())
+                text += xml.text();
+            if (xml.isEndElement() && xml.name() == u"source")
+                source = text;
+            const bool isTranslation = xml.isEndElement() && (xml.name() == u"translation" ||
+                                                              xml.name() == u"numerusform");
+            if (isTranslation && !text.trimmed().isEmpty()) {
+                EXPECT_EQ(signsOf(text), signsOf(source))
+                    << info.fileName().toStdString() << ": " << text.toStdString();
+            }
+            if (xml.isEndElement())
+                text.clear();
+        }
+        EXPECT_FALSE(xml.hasError()) << info.fileName().toStdString();
+    }
 }
 
 } // namespace velmora
