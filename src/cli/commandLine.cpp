@@ -190,7 +190,8 @@ int run(CLI::App& program, int argc, char** argv)
     Arguments arguments;
     program.set_version_flag("--version", "velmora " + version());
     program.require_subcommand(0, 1);
-    program.add_option("files", arguments.files, "MIDI files, instruments and tunings to open");
+    program.add_option("files", arguments.files,
+                       "MIDI files, instruments, tunings and sessions to open");
     CLI::App* renderCommand = addRender(program, arguments);
     CLI::App* infoCommand = addJson(
         program.add_subcommand("info", "Describe tuning, instrument and MIDI files"), arguments);
