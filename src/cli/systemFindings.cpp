@@ -40,8 +40,10 @@ void addLibraries(std::vector<Finding>& findings)
         runInChild([] { return nlohmann::json(soundLibraryVersions()).dump(); }, kLongestSearch);
     if (!versions)
         findings.push_back({"Sound libraries", "", "reinstall OpenAL Soft, FluidSynth and JACK"});
-    for (const auto& pair : nlohmann::json::parse(versions.value_or("[]")))
-        findings.push_back({pair[0], pair[1], ""});
+    for (const auto& pair : nlohmann::json::parse(versions.value_or("[]"))) {
+        const std::string version = pair[1];
+        findings.push_back({pair[0], version, version.empty() ? "reinstall it" : ""});
+    }
 }
 
 /// Opens a display, and returns a line about it and a line about its OpenGL.
@@ -87,10 +89,11 @@ void addDisplay(std::vector<Finding>& findings)
                                        : ""});
 }
 
-std::string limit(int resource, const std::function<std::string(rlim_t)>& show)
+/// Returns a limit of this process as `show` writes it.
+template <class Resource, class Show> std::string limit(Resource resource, const Show& show)
 {
     rlimit value{};
-    getrlimit(static_cast<__rlimit_resource_t>(resource), &value);
+    getrlimit(resource, &value);
     return value.rlim_cur == RLIM_INFINITY ? "unlimited" : show(value.rlim_cur);
 }
 

@@ -63,7 +63,7 @@ std::optional<std::string> runInChild(const std::function<std::string()>& work,
     close(ends[0]);
     if (child < 0)
         return std::nullopt;
-    kill(child, SIGKILL); // in case that it hangs; one that has ended keeps its status
+    kill(child, SIGKILL); // in case it hangs; one that has ended keeps its status
     int status = 0;
     waitpid(child, &status, 0);
     return WIFEXITED(status) && WEXITSTATUS(status) == 0 ? std::optional(text) : std::nullopt;
