@@ -10,7 +10,7 @@ namespace velmora {
 namespace {
 
 constexpr const char* kSectionProperty = "guideSection";
-constexpr int kGap = 2;
+constexpr int kCornerGap = 2;
 
 /// Keeps a help button beside another button of the same title bar.
 class BesideKeeper : public QObject {
@@ -39,7 +39,7 @@ public:
 private:
     void place()
     {
-        const int distance = button_.width() + kGap;
+        const int distance = button_.width() + kCornerGap;
         help_.setGeometry(
             button_.geometry().translated(button_.isRightToLeft() ? distance : -distance, 0));
         help_.setVisible(button_.isVisibleTo(button_.parentWidget()));
