@@ -30,18 +30,18 @@ void ExampleChord::play(const std::string& tuning)
         stop();
     if (!application_.selectTuning(tuning))
         return;
-    const double now = getTime();
     for (const int key : kChord)
-        application_.player().play(key, kVelocity, now);
+        application_.keyOn(key, kVelocity);
+    application_.midiInput();
     end_.start(kDuration);
 }
 
 void ExampleChord::stop()
 {
     end_.stop();
-    const double now = getTime();
     for (const int key : kChord)
-        application_.player().stop(key, now);
+        application_.keyOff(key);
+    application_.midiInput();
 }
 
 } // namespace velmora

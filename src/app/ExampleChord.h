@@ -15,7 +15,8 @@ public:
     explicit ExampleChord(AppDelegate& application);
 
     /// Selects the tuning of that name and sounds the chord in it for two seconds on the current
-    /// instrument. A chord that still sounds ends first. Does nothing if there is no such tuning.
+    /// instrument, as if its keys were clicked. A chord that still sounds ends first. Does nothing
+    /// if there is no such tuning.
     void play(const std::string& tuning);
 
 private:

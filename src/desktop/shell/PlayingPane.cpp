@@ -39,8 +39,8 @@ PlayingPane::PlayingPane()
 
     auto* form = new QFormLayout(this);
     form->addRow(tr("&Touch:"), touch_);
-    form->addRow(tr("T&ransposition (semitones):"), transposition_);
-    form->addRow(tr("Pitch &wheel (semitones):"), bendRange_);
+    form->addRow(tr("T&ransposition:"), transposition_);
+    form->addRow(tr("Pitch &wheel:"), bendRange_);
     form->addRow(QString(), plain_);
 }
 
@@ -49,6 +49,7 @@ QSpinBox* PlayingPane::makeSemitones(const char* key, const QString& help)
     auto* box = new QSpinBox;
     const PrefRange range = prefRange(key);
     box->setRange(range.least, range.greatest);
+    box->setSuffix(tr(" semitones"));
     box->setObjectName(key);
     box->setToolTip(help);
     box->setKeyboardTracking(false); // store only complete numbers

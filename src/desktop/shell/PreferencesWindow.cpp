@@ -6,6 +6,7 @@
 #include "desktop/shell/PlayingPane.h"
 #include "desktop/shell/SoundPane.h"
 #include "desktop/widgets/ColorButton.h"
+#include "desktop/widgets/Commands.h"
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/NoteSpinBox.h"
 #include "desktop/widgets/closeByKeys.h"
@@ -67,8 +68,10 @@ PreferencesWindow::PreferencesWindow(AppDelegate& application)
     addPane(tr("&MIDI"), "midi", "midi-and-sound", makeMidiPane(application));
     addPane(tr("So&und"), "preferences-sound", "midi-and-sound", new SoundPane(application));
     toolBar->addActions(paneActions_->actions());
-    for (QAction* action : paneActions_->actions())
+    for (QAction* action : paneActions_->actions()) {
+        Commands::setTip(*action, action->text());
         toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+    }
     auto* space = new QWidget;
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     toolBar->addWidget(space);

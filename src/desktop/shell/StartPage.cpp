@@ -56,6 +56,8 @@ QWidget* makeCard(const QString& title, const QString& text, const QList<QPushBu
     card->setFrameShape(QFrame::StyledPanel);
     card->setAutoFillBackground(true);
     card->setBackgroundRole(QPalette::Base);
+    // All cards are equally wide, whatever their texts.
+    card->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     card->setAccessibleName(title);
     card->setAccessibleDescription(text);
     auto* layout = new QVBoxLayout(card);

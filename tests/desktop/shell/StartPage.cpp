@@ -50,6 +50,7 @@ TEST(StartPage, SoundsAChordInTheChosenTuning)
     named(page, "Hear the chord in quarter-comma meantone").click();
     EXPECT_EQ(application.tuningName(), "Quartercomma Meantone");
     EXPECT_THAT(std::exchange(calls, {}), Contains("play 64 0.80"));
+    EXPECT_EQ(application.player().liveKeys().state(64), kPressed) << "for the keyboard";
     named(page, "Hear the chord in equal temperament").click();
     EXPECT_EQ(application.tuningName(), "Equal");
     EXPECT_THAT(calls, ElementsAre("stop 48", "stop 55", "stop 64", "stop 72", "tune 0 127",
