@@ -1,6 +1,7 @@
 // Live playing through a JACK server that dies and comes back.
 
 #include "app/AppDelegate.h"
+#include "support/Bank.h"
 #include "support/JackListener.h"
 #include "support/JackServer.h"
 #include "support/Stereo.h"
@@ -72,6 +73,22 @@ TEST(Healing, SoundsAgainOnceTheServerIsBack)
         std::printf("heard %.2f s after the start of the server\n", getTime() - restarted);
         EXPECT_EQ(app.output()->status().missing, "");
     }
+}
+
+TEST(Healing, PlaysAnInstrumentThatWasOpenedBeforeThereWasSound)
+{
+    JackServer server;
+    server.crash();
+    AppDelegate app;
+    app.start({"jack", {}, 0.0, 0});
+    EXPECT_TRUE(waitUntil([&] { return app.output()->status().driver == "none"; }));
+    EXPECT_EQ(app.output()->status().missing, "JACK is missing; waiting for it.");
+    auto bank = std::make_unique<InstrumentDocument>();
+    ASSERT_TRUE(bank->read(kBank, InstrumentFormat::SoundFont, app)) << bank->errorString();
+    app.addInstrument(std::move(bank));
+    const Trill trill(app);
+    server.restart();
+    EXPECT_TRUE(isHeard());
 }
 
 } // namespace velmora

@@ -7,6 +7,7 @@
 #include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/deviceText.h"
 #include "desktop/widgets/icons.h"
+#include "platform/pathNames.h"
 #include "preferences/settings.h"
 
 #include <QMessageBox>
@@ -92,9 +93,11 @@ void StatusLine::showDevices()
 
     if (!application_.keepsDisplayAwake())
         addNotice(tr("The display may go to sleep while you play because there is no D-Bus session "
-                     "bus."));
+                     "bus. Start Velmora from the desktop, or with dbus-run-session."));
     if (!arePreferencesWritable())
-        addNotice(tr("Changed preferences are lost when you quit because they cannot be saved."));
+        addNotice(tr("What you change in the preferences, and what is open, is forgotten when you "
+                     "quit because nothing can be written to %1. Make that folder writable.")
+                      .arg(textOf(settingsFolder())));
 }
 
 void StatusLine::showMidiInputs()

@@ -10,6 +10,7 @@
 #include "platform/terminationSignals.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QTimer>
 
 #include <cstdio>
@@ -41,6 +42,16 @@ void logMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QSt
     }
 }
 
+/// Says on the screen and on standard error that nothing can be drawn. Qt would crash later.
+void refuseToStart()
+{
+    const QString text =
+        QObject::tr("Velmora cannot draw its windows because OpenGL does not work "
+                    "here. Install libgl1-mesa-dri, which needs no graphics card.");
+    std::fputs(("velmora: " + text.toStdString() + '\n').c_str(), stderr);
+    QMessageBox::critical(nullptr, QObject::tr("Velmora"), text);
+}
+
 } // namespace
 
 int runDesktop(int argc, char** argv, const std::vector<std::string>& files, bool plain,
@@ -58,6 +69,11 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files, boo
     QApplication::setQuitOnLastWindowClosed(false);
     installTranslators();
 
+    quitOnSignal.watch([] { QApplication::exit(); });
+    if (!hasOpenGL()) {
+        refuseToStart();
+        return 1;
+    }
     QStringList paths;
     std::error_code error;
     for (const std::string& file : files)
@@ -69,7 +85,6 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files, boo
     Desktop desktop;
     if (plain)
         desktop.application().playing().usePlainReading();
-    quitOnSignal.watch([] { QApplication::exit(); });
     QObject::connect(&instance, &SingleInstance::opened, &desktop, &Desktop::open,
                      Qt::QueuedConnection);
     // The window appears first; opening devices and files may take some time.

@@ -1,5 +1,6 @@
 #include "desktop/widgets/graphics.h"
 
+#include <QOpenGLContext>
 #include <QOpenGLWidget>
 #include <QSurfaceFormat>
 
@@ -13,6 +14,12 @@ void requestOpenGL()
     format.setProfile(QSurfaceFormat::CompatibilityProfile);
     format.setDepthBufferSize(24);
     QSurfaceFormat::setDefaultFormat(format);
+}
+
+bool hasOpenGL()
+{
+    QOpenGLContext context;
+    return context.create();
 }
 
 void setPixelCoordinates(const QOpenGLWidget& view, int left)
