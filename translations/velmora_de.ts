@@ -30,6 +30,10 @@
         <source>%1 is still sounding. Silence everything (Ctrl+.), then unload it.</source>
         <translation type="unfinished">%1 klingt noch. Stellen Sie alles still (Strg+.) und entladen Sie es dann.</translation>
     </message>
+    <message>
+        <source>Velmora cannot draw its windows because OpenGL does not work here. Install libgl1-mesa-dri, which needs no graphics card.</source>
+        <translation type="unfinished">Velmora kann seine Fenster nicht zeichnen, weil OpenGL hier nicht funktioniert. Installieren Sie libgl1-mesa-dri, das keine Grafikkarte braucht.</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -619,12 +623,16 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">A&amp;nschlag:</translation>
     </message>
     <message>
-        <source>T&amp;ransposition (semitones):</source>
-        <translation type="unfinished">T&amp;ransposition (Halbtöne):</translation>
+        <source>T&amp;ransposition:</source>
+        <translation type="unfinished">T&amp;ransposition:</translation>
     </message>
     <message>
-        <source>Pitch &amp;wheel (semitones):</source>
-        <translation type="unfinished">Tonhöhenra&amp;d (Halbtöne):</translation>
+        <source>Pitch &amp;wheel:</source>
+        <translation type="unfinished">Tonhöhenra&amp;d:</translation>
+    </message>
+    <message>
+        <source> semitones</source>
+        <translation type="unfinished"> Halbtöne</translation>
     </message>
 </context>
 <context>
@@ -1270,12 +1278,12 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">Pianorolle</translation>
     </message>
     <message>
-        <source>%1, step %2, length %3, channel %4</source>
-        <translation type="unfinished">%1, Schritt %2, Länge %3, Kanal %4</translation>
-    </message>
-    <message>
         <source>Velocity %1 %</source>
         <translation type="unfinished">Anschlag %1 %</translation>
+    </message>
+    <message>
+        <source>%1, bar %2, beat %3, length in beats %4, channel %5</source>
+        <translation type="unfinished">%1, Takt %2, Schlag %3, Länge in Schlägen %4, Kanal %5</translation>
     </message>
 </context>
 <context>
@@ -1676,14 +1684,6 @@ Bis zur Soundkarte: %L1 ms. Verlorene Perioden: %L2.</translation>
         <translation type="unfinished">Die Tonausgabe: Treiber, Abtastrate und Periode</translation>
     </message>
     <message>
-        <source>The display may go to sleep while you play because there is no D-Bus session bus.</source>
-        <translation type="unfinished">Der Bildschirm kann sich beim Spielen abschalten, weil es keinen D-Bus-Sitzungsbus gibt.</translation>
-    </message>
-    <message>
-        <source>Changed preferences are lost when you quit because they cannot be saved.</source>
-        <translation type="unfinished">Geänderte Einstellungen gehen beim Beenden verloren, weil sie sich nicht speichern lassen.</translation>
-    </message>
-    <message>
         <source>No MIDI input</source>
         <translation type="unfinished">Kein MIDI-Eingang</translation>
     </message>
@@ -1751,6 +1751,14 @@ Ein Klick zeigt alle Stimmungen</translation>
 %1</source>
         <translation type="unfinished">MIDI-Geräte:
 %1</translation>
+    </message>
+    <message>
+        <source>The display may go to sleep while you play because there is no D-Bus session bus. Start Velmora from the desktop, or with dbus-run-session.</source>
+        <translation type="unfinished">Der Bildschirm kann sich beim Spielen abschalten, weil es keinen D-Bus-Sitzungsbus gibt. Starten Sie Velmora aus der Arbeitsumgebung oder mit dbus-run-session.</translation>
+    </message>
+    <message>
+        <source>What you change in the preferences, and what is open, is forgotten when you quit because nothing can be written to %1. Make that folder writable.</source>
+        <translation type="unfinished">Was Sie in den Einstellungen ändern und was offen ist, wird beim Beenden vergessen, weil sich nichts nach %1 schreiben lässt. Machen Sie diesen Ordner beschreibbar.</translation>
     </message>
 </context>
 <context>

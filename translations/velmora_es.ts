@@ -30,6 +30,10 @@
         <source>%1 is still sounding. Silence everything (Ctrl+.), then unload it.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Velmora cannot draw its windows because OpenGL does not work here. Install libgl1-mesa-dri, which needs no graphics card.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -616,11 +620,15 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>T&amp;ransposition (semitones):</source>
+        <source>T&amp;ransposition:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Pitch &amp;wheel (semitones):</source>
+        <source>Pitch &amp;wheel:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> semitones</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1267,11 +1275,11 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1, step %2, length %3, channel %4</source>
+        <source>Velocity %1 %</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Velocity %1 %</source>
+        <source>%1, bar %2, beat %3, length in beats %4, channel %5</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1672,14 +1680,6 @@ To the sound card: %L1 ms. Lost periods: %L2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The display may go to sleep while you play because there is no D-Bus session bus.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Changed preferences are lost when you quit because they cannot be saved.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>No MIDI input</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1743,6 +1743,14 @@ Click to show all tunings</source>
     <message>
         <source>MIDI devices:
 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The display may go to sleep while you play because there is no D-Bus session bus. Start Velmora from the desktop, or with dbus-run-session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you change in the preferences, and what is open, is forgotten when you quit because nothing can be written to %1. Make that folder writable.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

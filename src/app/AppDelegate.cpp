@@ -7,6 +7,8 @@
 #include "platform/quiet.h"
 #include "preferences/Preferences.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cassert>
 #include <chrono>
@@ -220,8 +222,9 @@ std::string AppDelegate::soundName()
         [&](const Instrument& instrument, Temperament&) { hasPrograms = instrument.hasSubMenu(); });
     if (!hasPrograms)
         return instrumentName_;
-    const std::string name = kMIDIInstrumentNames.at(midiProgram());
-    return name.substr(name.find(' ') + 1); // behind its number
+    const QString name =
+        QCoreApplication::translate("velmora::programNames", kMIDIInstrumentNames.at(midiProgram()));
+    return name.section(' ', 1).toStdString(); // behind its number
 }
 
 std::uint8_t AppDelegate::midiProgram()

@@ -113,8 +113,8 @@ public:
     /// The program of the General MIDI player, 0…127.
     std::uint8_t midiProgram();
 
-    /// What a listener would call the current sound: the name of the General MIDI program, or that
-    /// of the instrument if it has no programs.
+    /// What a listener would call the current sound: the name of the General MIDI program in the
+    /// user's language, or that of the instrument if it has no programs.
     std::string soundName();
 
     /// Selects a General MIDI program as `setMIDIProgram` does; `programSelected` follows if the

@@ -70,7 +70,8 @@ private:
     int stateAt(int index) const
     {
         const KeyboardPicture picture = view_.picture();
-        return picture.states[static_cast<std::size_t>(picture.geometry.lo + index)];
+        const int key = picture.geometry.lo + index;
+        return picture.states[static_cast<std::size_t>(key)];
     }
 
     KeyboardView& view_;

@@ -4,10 +4,12 @@
 #include "desktop/widgets/AccessibleList.h"
 #include "desktop/widgets/noteNames.h"
 #include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceTime.h"
 
 #include <QLocale>
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmora {
 
@@ -23,9 +25,13 @@ public:
     {
         const Note& note = noteAt(index);
         const QLocale locale;
-        return SequenceView::tr("%1, step %2, length %3, channel %4")
-            .arg(noteText(note.key), locale.toString(note.start, 'g', 6),
-                 locale.toString(note.length, 'g', 3), locale.toString(note.channel + 1));
+        const double bar = std::floor(note.start / kStepsPerBar);
+        const double beat = (note.start - bar * kStepsPerBar) / kStepsPerBeat;
+        return SequenceView::tr("%1, bar %2, beat %3, length in beats %4, channel %5")
+            .arg(noteText(note.key), locale.toString(bar + 1, 'f', 0),
+                 locale.toString(beat + 1, 'g', 3),
+                 locale.toString(note.length / kStepsPerBeat, 'g', 3),
+                 locale.toString(note.channel + 1));
     }
 
     QString itemDescription(int index) const override
