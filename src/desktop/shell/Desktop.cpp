@@ -122,6 +122,7 @@ void Desktop::connectWindows()
     for (QWidget* window : std::initializer_list<QWidget*>{&workspace_, &instrumentsWindow_,
                                                            &preferencesWindow_, &metersWindow_})
         guideWindow_.serve(*window);
+    connect(shell_.commandPalette, &QAction::triggered, &palette_, &CommandPalette::open);
     connect(shell_.about, &QAction::triggered, this, [this] { showAbout(workspace_); });
     const InstrumentPanel& panel = workspace_.instrumentPanel();
     connect(&panel, &InstrumentPanel::openRequested, this, &Desktop::askForFiles);

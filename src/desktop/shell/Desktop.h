@@ -6,6 +6,7 @@
 #include "desktop/instruments/ProgressWindow.h"
 #include "desktop/keyboard/ComputerKeyboard.h"
 #include "desktop/roll/SequenceActions.h"
+#include "desktop/shell/CommandPalette.h"
 #include "desktop/shell/DialogCommands.h"
 #include "desktop/shell/FileDrop.h"
 #include "desktop/shell/GuideWindow.h"
@@ -83,8 +84,9 @@ private:
     SequenceActions sequenceActions_{commands_};
     FileDrop fileDrop_;
     Workspace workspace_{application_, commands_, shell_, sequenceActions_};
+    CommandPalette palette_{commands_, &workspace_};
     InstrumentsWindow instrumentsWindow_;
-    PreferencesWindow preferencesWindow_{application_};
+    PreferencesWindow preferencesWindow_{application_, commands_};
     ProgressWindow progressWindow_;
     GuideWindow guideWindow_;
     MetersWindow metersWindow_;

@@ -1,19 +1,20 @@
 #include "desktop/shell/PreferencesWindow.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/shell/ColorsPane.h"
 #include "desktop/shell/LanguageFields.h"
 #include "desktop/shell/MidiPane.h"
 #include "desktop/shell/PlayingPane.h"
+#include "desktop/shell/ShortcutsPane.h"
 #include "desktop/shell/SoundPane.h"
-#include "desktop/widgets/ColorButton.h"
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/NoteSpinBox.h"
 #include "desktop/widgets/closeByKeys.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/nameParts.h"
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/windowPlace.h"
-#include "preferences/Color.h"
 #include "preferences/Preferences.h"
 
 #include <QActionGroup>
@@ -22,9 +23,10 @@
 #include <QEvent>
 #include <QFileDialog>
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QToolBar>
@@ -34,7 +36,7 @@ namespace velmora {
 namespace {
 
 constexpr int kNumberWidth = 120;
-constexpr int kPathWidth = 220;
+constexpr int kPathWidth = 120;
 
 /// Removes the mnemonic and the colon from a label, for use as an accessible name.
 QString plainText(QString label)
@@ -52,7 +54,7 @@ QSpinBox* makePixelBox()
 
 } // namespace
 
-PreferencesWindow::PreferencesWindow(AppDelegate& application)
+PreferencesWindow::PreferencesWindow(AppDelegate& application, Commands& commands)
     : paneActions_(new QActionGroup(this)), panes_(new QStackedWidget(this)),
       help_(new HelpButton("preferences", *this))
 {
@@ -67,6 +69,7 @@ PreferencesWindow::PreferencesWindow(AppDelegate& application)
     addPane(tr("C&olors"), "preferences-colors", "colours-and-schemes", makeColorsPane());
     addPane(tr("&MIDI"), "midi", "midi-and-sound", makeMidiPane(application));
     addPane(tr("So&und"), "preferences-sound", "midi-and-sound", new SoundPane(application));
+    addPane(tr("Short&cuts"), "keyboard", "all-shortcuts", new ShortcutsPane(commands));
     toolBar->addActions(paneActions_->actions());
     for (QAction* action : paneActions_->actions()) {
         Commands::setTip(*action, action->text());
@@ -89,13 +92,19 @@ void PreferencesWindow::presentPane(Pane pane)
 void PreferencesWindow::addPane(const QString& name, const char* iconName, const char* guideSection,
                                 QWidget* pane)
 {
-    panes_->addWidget(pane);
+    for (auto* field : pane->findChildren<QWidget*>())
+        if (qobject_cast<QComboBox*>(field) != nullptr ||
+            qobject_cast<QAbstractSpinBox*>(field) != nullptr ||
+            qobject_cast<QAbstractSlider*>(field) != nullptr)
+            leaveWheelToScrolling(*field);
+    QScrollArea* area = newScrollArea(pane); // for small screens and large fonts
+    panes_->addWidget(area);
     auto* action = paneActions_->addAction(icon(iconName), plainText(name));
     action->setCheckable(true);
-    action->setChecked(panes_->currentWidget() == pane);
+    action->setChecked(panes_->currentWidget() == area);
     action->setShortcut(QKeySequence::mnemonic(name));
-    connect(action, &QAction::triggered, panes_, [this, pane, guideSection] {
-        panes_->setCurrentWidget(pane);
+    connect(action, &QAction::triggered, areas_, [this, pane, guideSection] {
+        panes_->setCurrentWidget(area);
         help_->setSection(guideSection);
     });
 }
@@ -200,7 +209,7 @@ QLayout* PreferencesWindow::makeBankRow()
     path->setPlaceholderText(tr("System default"));
     path->setAccessibleName(tr("General MIDI bank"));
     path->setMinimumWidth(kPathWidth);
-    auto* choose = new QPushButton(tr("&Choose…"));
+    auto* choose = new QPushButton(tr("Choos&e…"));
     choose->setObjectName("ChooseBank");
     choose->setToolTip(tr("Choose a SoundFont for the General MIDI player"));
     connect(choose, &QPushButton::clicked, this, &PreferencesWindow::chooseBank);
@@ -248,49 +257,10 @@ void PreferencesWindow::setBank(const QString& path)
 
 QWidget* PreferencesWindow::makeColorsPane()
 {
-    auto* keyboard = new QGroupBox(tr("Keyboard keys"));
-    auto* keys = new QFormLayout(keyboard);
-    addColor(*keys, tr("&Played:"), "KeyColor",
-             tr("Keys that the sequence plays, or waits for in practice"));
-    addColor(*keys, tr("&Right:"), "KeyColorCorrect", tr("Keys that you struck correctly"));
-    addColor(*keys, tr("&Held:"), "KeyColorSustain", tr("Keys that you keep holding"));
-    addColor(*keys, tr("&Wrong:"), "KeyColorWrong", tr("Keys that you struck by mistake"));
-    auto* roll = new QGroupBox(tr("Piano roll notes"));
-    auto* notes = new QFormLayout(roll);
-    addColor(*notes, tr("&At rest:"), "NoteColor", tr("Notes that are not sounding"));
-    addColor(*notes, tr("&Sounding:"), "NoteColorPlaying", tr("Notes at the play position"));
-
-    auto* reset = new QPushButton(tr("Reset to &Defaults"));
-    reset->setObjectName("ResetColors");
-    connect(reset, &QPushButton::clicked, this, [this] {
-        for (const auto* button : findChildren<ColorButton*>())
-            resetPref(button->objectName().toStdString());
-        read();
-        emit changed();
-    });
-
-    auto* pane = new QWidget;
-    auto* layout = new QGridLayout(pane);
-    layout->addWidget(keyboard, 0, 0);
-    layout->addWidget(roll, 0, 1);
-    layout->addWidget(reset, 1, 1, Qt::AlignRight);
-    layout->setRowStretch(2, 1);
+    auto* pane = new ColorsPane;
+    connect(pane, &ColorsPane::changed, this, &PreferencesWindow::changed);
+    readers_.emplace_back([pane] { pane->read(); });
     return pane;
-}
-
-void PreferencesWindow::addColor(QFormLayout& form, const QString& label, const char* key,
-                                 const QString& help)
-{
-    auto* button = new ColorButton(help);
-    button->setObjectName(key);
-    button->setToolTip(help);
-    form.addRow(label, button);
-    connect(button, &ColorButton::chosen, this, [this, key](const QColor& color) {
-        setPrefColor(key, Color(color));
-        read();
-        emit changed();
-    });
-    readers_.emplace_back([button, key] { button->setColor(Color(key).toQColor()); });
 }
 
 void PreferencesWindow::read() const

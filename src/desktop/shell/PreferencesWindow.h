@@ -14,17 +14,18 @@ class QStackedWidget;
 namespace velmora {
 
 class AppDelegate;
+class Commands;
 class HelpButton;
 
-/// Edits the preferences in the panes "General", "Colors", "MIDI" and "Sound". Each change is
-/// stored immediately.
+/// Edits the preferences in the panes "General", "Colors", "MIDI", "Sound" and "Shortcuts".
+/// Each change is stored immediately.
 class PreferencesWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    enum class Pane { General, Colors, Midi, Sound };
+    enum class Pane { General, Colors, Midi, Sound, Shortcuts };
 
-    explicit PreferencesWindow(AppDelegate& application);
+    PreferencesWindow(AppDelegate& application, Commands& commands);
 
     /// Brings the window to the front with a pane.
     void presentPane(Pane pane);
@@ -48,7 +49,6 @@ private:
                  QWidget* pane);
     void addNumber(QFormLayout& form, const QString& label, const char* key, QSpinBox* box,
                    const QString& help);
-    void addColor(QFormLayout& form, const QString& label, const char* key, const QString& help);
     QLayout* makeBankRow();
     QComboBox* makeStartBox();
     void chooseBank();

@@ -122,6 +122,10 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
       noteNames(
           commands.add("view.noteNames", viewGroup(), {tr("Note &Names on the Keyboard"), {}})),
       guide(commands.add("help.guide", helpGroup(), {tr("User &Guide"), {}, "help"}, {Qt::Key_F1})),
+      commandPalette(commands.add(
+          "help.commands", helpGroup(),
+          {tr("&Find a Command…"), tr("Find a command by its name and perform it"), "find"},
+          {Qt::CTRL | Qt::SHIFT | Qt::Key_P})),
       about(commands.add("help.about", helpGroup(), {tr("&About Velmora"), {}})),
       application_(application), recent_(std::make_unique<QMenu>(tr("Open &Recent"))),
       instruments_(std::make_unique<QMenu>(tr("&Instrument"))),
@@ -179,7 +183,7 @@ void ShellActions::addPanels(QMenu& view) const
 
 void ShellActions::addHelp(QMenu& help) const
 {
-    help.addActions({guide, about});
+    help.addActions({guide, commandPalette, about});
 }
 
 QStringList ShellActions::recentFiles()

@@ -36,7 +36,7 @@ public:
     QAction* const ownWindow; ///< Checked while the current piece has a window of its own.
     QAction *const instrumentsWindow, *const metersWindow;
     QAction* const noteNames; ///< Checked while the keyboard shows note names.
-    QAction *const guide, *const about;
+    QAction *const guide, *const commandPalette, *const about;
 
     void addFile(QMenu& file) const;
     void addSound(QMenuBar& bar) const;

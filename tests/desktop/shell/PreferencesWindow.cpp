@@ -1,6 +1,7 @@
 #include "desktop/shell/PreferencesWindow.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/widgets/Commands.h"
 #include "preferences/Color.h"
 #include "preferences/Preferences.h"
 #include "support/Bank.h"
@@ -52,7 +53,8 @@ protected:
     }
 
     AppDelegate app;
-    PreferencesWindow window{app};
+    Commands commands;
+    PreferencesWindow window{app, commands};
     QSignalSpy changed{&window, &PreferencesWindow::changed};
 };
 
