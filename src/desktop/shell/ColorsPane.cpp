@@ -36,7 +36,7 @@ ColorsPane::ColorsPane() : scheme_(new QComboBox)
         emit changed();
     });
     auto* scheme = new QFormLayout;
-    scheme->addRow(tr("S&cheme:"), scheme_);
+    scheme->addRow(tr("Sch&eme:"), scheme_);
 
     auto* standard = new QPushButton(tr("Reset to &Defaults"));
     standard->setObjectName("ResetColors");

@@ -209,7 +209,7 @@ QLayout* PreferencesWindow::makeBankRow()
     path->setPlaceholderText(tr("System default"));
     path->setAccessibleName(tr("General MIDI bank"));
     path->setMinimumWidth(kPathWidth);
-    auto* choose = new QPushButton(tr("Choos&e…"));
+    auto* choose = new QPushButton(tr("&Browse…"));
     choose->setObjectName("ChooseBank");
     choose->setToolTip(tr("Choose a SoundFont for the General MIDI player"));
     connect(choose, &QPushButton::clicked, this, &PreferencesWindow::chooseBank);

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeySequenceEdit>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTreeWidget>
@@ -55,7 +56,7 @@ protected:
 ShortcutsPane::ShortcutsPane(Commands& commands)
     : commands_(commands), search_(new SearchField(tr("Find a command"))), list_(new QTreeWidget),
       editor_(new StrokeEdit), take_(new QPushButton(tr("Use It &Here"))),
-      remove_(new QPushButton(tr("Re&move"))), problem_(new QLabel)
+      remove_(new QPushButton(tr("Remo&ve"))), problem_(new QLabel)
 {
     list_->setHeaderLabels({tr("Command"), tr("Shortcut")});
     list_->header()->setSectionResizeMode(kCommandColumn, QHeaderView::Stretch);
@@ -65,6 +66,7 @@ ShortcutsPane::ShortcutsPane(Commands& commands)
     list_->setItemsExpandable(false);
     list_->setAccessibleName(tr("Commands"));
     editor_->setToolTip(tr("Press the new keys for the selected command"));
+    editor_->findChild<QLineEdit*>()->setAccessibleName(tr("New shortcut"));
     auto* label = new QLabel(tr("&New shortcut:"));
     label->setBuddy(editor_);
     take_->setToolTip(tr("Take the shortcut from the other command"));

@@ -13,6 +13,7 @@ constexpr int kMostLetters = 28;
 
 StatusItem::StatusItem(QWidget* parent) : QToolButton(parent)
 {
+    hide(); // until it shows something
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
