@@ -11,8 +11,9 @@ constexpr int kMostLetters = 28;
 
 } // namespace
 
-StatusItem::StatusItem(QWidget* parent) : QToolButton(parent)
+StatusItem::StatusItem(const QString& subject)
 {
+    setAccessibleName(subject);
     hide(); // until it shows something
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
@@ -28,9 +29,10 @@ void StatusItem::show(const QString& text, const QString& help, Kind kind)
     setIcon(kind == Kind::Missing ? velmora::icon("warning") : QIcon());
     const int room = fontMetrics().averageCharWidth() * kMostLetters;
     setText(fontMetrics().elidedText(text, Qt::ElideRight, room).replace("&", "&&"));
-    setAccessibleName(text);
     setToolTip(help);
     setVisible(!text.isEmpty());
+    if (!text.isEmpty())
+        setAccessibleName(text);
 }
 
 } // namespace velmora

@@ -15,7 +15,8 @@ public:
         Missing, ///< Stands out: something is not there.
     };
 
-    explicit StatusItem(QWidget* parent = nullptr);
+    /// `subject` says what the item is about; it is the accessible name until there is a text.
+    explicit StatusItem(const QString& subject);
 
     /// Shows a text; hides the item if it is empty. `help` is the tooltip.
     void show(const QString& text, const QString& help, Kind kind = Kind::Normal);

@@ -39,11 +39,11 @@ StatusLine::StatusLine(AppDelegate& application)
     // A temporary message hides these widgets. The empty widget pushes the others to the right.
     addWidget(new QWidget, 1);
     addWidget(noticesButton_);
-    instrument_ = addItem(&StatusLine::instrumentClicked);
-    tuning_ = addItem(&StatusLine::tuningClicked);
-    reading_ = addItem(&StatusLine::midiClicked);
-    output_ = addItem(&StatusLine::soundClicked);
-    inputs_ = addItem(&StatusLine::midiClicked);
+    instrument_ = addItem(tr("Instrument"), &StatusLine::instrumentClicked);
+    tuning_ = addItem(tr("Tuning"), &StatusLine::tuningClicked);
+    reading_ = addItem(tr("Reading of MIDI devices"), &StatusLine::midiClicked);
+    output_ = addItem(tr("Sound output"), &StatusLine::soundClicked);
+    inputs_ = addItem(tr("MIDI inputs"), &StatusLine::midiClicked);
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::programSelected, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::tuningChanged, this, &StatusLine::showSound);
@@ -52,9 +52,9 @@ StatusLine::StatusLine(AppDelegate& application)
     showReading();
 }
 
-StatusItem* StatusLine::addItem(void (StatusLine::*clicked)())
+StatusItem* StatusLine::addItem(const QString& subject, void (StatusLine::*clicked)())
 {
-    auto* item = new StatusItem;
+    auto* item = new StatusItem(subject);
     addWidget(item);
     connect(item, &QToolButton::clicked, this, clicked);
     return item;

@@ -35,7 +35,7 @@ signals:
     void midiClicked();
 
 private:
-    StatusItem* addItem(void (StatusLine::*clicked)());
+    StatusItem* addItem(const QString& subject, void (StatusLine::*clicked)());
     void showSound();
     void showReading();
     void showOutput();
