@@ -103,7 +103,7 @@ void PreferencesWindow::addPane(const QString& name, const char* iconName, const
     action->setCheckable(true);
     action->setChecked(panes_->currentWidget() == area);
     action->setShortcut(QKeySequence::mnemonic(name));
-    connect(action, &QAction::triggered, areas_, [this, pane, guideSection] {
+    connect(action, &QAction::triggered, panes_, [this, area, guideSection] {
         panes_->setCurrentWidget(area);
         help_->setSection(guideSection);
     });
