@@ -69,6 +69,104 @@
     </message>
 </context>
 <context>
+    <name>velmora::ColorsPane</name>
+    <message>
+        <source>Keyboard keys</source>
+        <translation type="unfinished">Tasten der Klaviatur</translation>
+    </message>
+    <message>
+        <source>&amp;Played:</source>
+        <translation type="unfinished">Ge&amp;spielt:</translation>
+    </message>
+    <message>
+        <source>Keys that the sequence plays, or waits for in practice</source>
+        <translation type="unfinished">Tasten, die das Stück spielt oder auf die es beim Üben wartet</translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation type="unfinished">R&amp;ichtig:</translation>
+    </message>
+    <message>
+        <source>Keys that you struck correctly</source>
+        <translation type="unfinished">Tasten, die Sie richtig angeschlagen haben</translation>
+    </message>
+    <message>
+        <source>&amp;Held:</source>
+        <translation type="unfinished">&amp;Gehalten:</translation>
+    </message>
+    <message>
+        <source>Keys that you keep holding</source>
+        <translation type="unfinished">Tasten, die Sie weiter halten</translation>
+    </message>
+    <message>
+        <source>&amp;Wrong:</source>
+        <translation type="unfinished">Fals&amp;ch:</translation>
+    </message>
+    <message>
+        <source>Keys that you struck by mistake</source>
+        <translation type="unfinished">Tasten, die Sie versehentlich angeschlagen haben</translation>
+    </message>
+    <message>
+        <source>Piano roll notes</source>
+        <translation type="unfinished">Noten der Pianorolle</translation>
+    </message>
+    <message>
+        <source>&amp;At rest:</source>
+        <translation type="unfinished">In R&amp;uhe:</translation>
+    </message>
+    <message>
+        <source>Notes that are not sounding</source>
+        <translation type="unfinished">Noten, die nicht klingen</translation>
+    </message>
+    <message>
+        <source>&amp;Sounding:</source>
+        <translation type="unfinished">K&amp;lingend:</translation>
+    </message>
+    <message>
+        <source>Notes at the play position</source>
+        <translation type="unfinished">Noten an der Spielposition</translation>
+    </message>
+    <message>
+        <source>Calm</source>
+        <translation type="unfinished">Ruhig</translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation type="unfinished">Klassisch</translation>
+    </message>
+    <message>
+        <source>Calm: soft colours that suit the theme of the desktop. Classic: bright colours on white and black</source>
+        <translation type="unfinished">Ruhig: sanfte Farben, die zum Design des Desktops passen. Klassisch: kräftige Farben auf Weiß und Schwarz</translation>
+    </message>
+    <message>
+        <source>Sch&amp;eme:</source>
+        <translation type="unfinished">Far&amp;bschema:</translation>
+    </message>
+    <message>
+        <source>Reset to &amp;Defaults</source>
+        <translation type="unfinished">Auf Vorgaben &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Use the colours of the scheme again</source>
+        <translation type="unfinished">Wieder die Farben des Schemas verwenden</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::CommandPalette</name>
+    <message>
+        <source>Find a command</source>
+        <translation type="unfinished">Befehl suchen</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation type="unfinished">Befehle</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation type="unfinished">%1 – %2</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Commands</name>
     <message>
         <source>%1 (%2)</source>
@@ -714,10 +812,6 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">General-MIDI-Bank</translation>
     </message>
     <message>
-        <source>&amp;Choose…</source>
-        <translation type="unfinished">&amp;Wählen…</translation>
-    </message>
-    <message>
         <source>Choose a SoundFont for the General MIDI player</source>
         <translation type="unfinished">Einen SoundFont für den General-MIDI-Spieler wählen</translation>
     </message>
@@ -742,66 +836,6 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>Keyboard keys</source>
-        <translation type="unfinished">Tasten der Klaviatur</translation>
-    </message>
-    <message>
-        <source>&amp;Played:</source>
-        <translation type="unfinished">Ge&amp;spielt:</translation>
-    </message>
-    <message>
-        <source>Keys that the sequence plays, or waits for in practice</source>
-        <translation type="unfinished">Tasten, die das Stück spielt oder auf die es beim Üben wartet</translation>
-    </message>
-    <message>
-        <source>&amp;Right:</source>
-        <translation type="unfinished">R&amp;ichtig:</translation>
-    </message>
-    <message>
-        <source>Keys that you struck correctly</source>
-        <translation type="unfinished">Tasten, die Sie richtig angeschlagen haben</translation>
-    </message>
-    <message>
-        <source>&amp;Held:</source>
-        <translation type="unfinished">&amp;Gehalten:</translation>
-    </message>
-    <message>
-        <source>Keys that you keep holding</source>
-        <translation type="unfinished">Tasten, die Sie weiter halten</translation>
-    </message>
-    <message>
-        <source>&amp;Wrong:</source>
-        <translation type="unfinished">Fals&amp;ch:</translation>
-    </message>
-    <message>
-        <source>Keys that you struck by mistake</source>
-        <translation type="unfinished">Tasten, die Sie versehentlich angeschlagen haben</translation>
-    </message>
-    <message>
-        <source>Piano roll notes</source>
-        <translation type="unfinished">Noten der Pianorolle</translation>
-    </message>
-    <message>
-        <source>&amp;At rest:</source>
-        <translation type="unfinished">In R&amp;uhe:</translation>
-    </message>
-    <message>
-        <source>Notes that are not sounding</source>
-        <translation type="unfinished">Noten, die nicht klingen</translation>
-    </message>
-    <message>
-        <source>&amp;Sounding:</source>
-        <translation type="unfinished">K&amp;lingend:</translation>
-    </message>
-    <message>
-        <source>Notes at the play position</source>
-        <translation type="unfinished">Noten an der Spielposition</translation>
-    </message>
-    <message>
-        <source>Reset to &amp;Defaults</source>
-        <translation type="unfinished">Auf Vorgaben &amp;zurücksetzen</translation>
-    </message>
-    <message>
         <source>A&amp;t the start:</source>
         <translation type="unfinished">Beim Sta&amp;rt:</translation>
     </message>
@@ -816,6 +850,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Whether the instruments, the tuning and the pieces that are open when you quit are opened again</source>
         <translation type="unfinished">Ob die Instrumente, die Stimmung und die Stücke, die beim Beenden offen sind, wieder geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Short&amp;cuts</source>
+        <translation type="unfinished">Tast&amp;enkürzel</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation type="unfinished">&amp;Durchsuchen…</translation>
     </message>
 </context>
 <context>
@@ -1468,6 +1510,77 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Save which instruments, tuning and pieces are open</source>
         <translation type="unfinished">Speichern, welche Instrumente, Stimmung und Stücke offen sind</translation>
     </message>
+    <message>
+        <source>&amp;Find a Command…</source>
+        <translation type="unfinished">Be&amp;fehl suchen…</translation>
+    </message>
+    <message>
+        <source>Find a command by its name and perform it</source>
+        <translation type="unfinished">Einen Befehl nach seinem Namen suchen und ausführen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ShortcutsPane</name>
+    <message>
+        <source>Find a command</source>
+        <translation type="unfinished">Befehl suchen</translation>
+    </message>
+    <message>
+        <source>Use It &amp;Here</source>
+        <translation type="unfinished">&amp;Hier verwenden</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation type="unfinished">En&amp;tfernen</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation type="unfinished">Befehl</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation type="unfinished">Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation type="unfinished">Befehle</translation>
+    </message>
+    <message>
+        <source>Press the new keys for the selected command</source>
+        <translation type="unfinished">Die neuen Tasten für den gewählten Befehl drücken</translation>
+    </message>
+    <message>
+        <source>New shortcut</source>
+        <translation type="unfinished">Neues Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>&amp;New shortcut:</source>
+        <translation type="unfinished">Ne&amp;ues Tastenkürzel:</translation>
+    </message>
+    <message>
+        <source>Take the shortcut from the other command</source>
+        <translation type="unfinished">Das Tastenkürzel dem anderen Befehl wegnehmen</translation>
+    </message>
+    <message>
+        <source>Leave the selected command without a shortcut</source>
+        <translation type="unfinished">Den gewählten Befehl ohne Tastenkürzel lassen</translation>
+    </message>
+    <message>
+        <source>Restore &amp;Defaults</source>
+        <translation type="unfinished">&amp;Vorgaben wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Give every command the shortcuts that it had at first</source>
+        <translation type="unfinished">Jedem Befehl wieder die Tastenkürzel geben, die er anfangs hatte</translation>
+    </message>
+    <message>
+        <source>%1 plays a note. Add Ctrl or Alt, or use a function key.</source>
+        <translation type="unfinished">%1 spielt einen Ton. Nehmen Sie Strg oder Alt dazu, oder eine Funktionstaste.</translation>
+    </message>
+    <message>
+        <source>%1 belongs to “%2”. Press other keys, or use it here instead.</source>
+        <translation type="unfinished">%1 gehört zu „%2“. Drücken Sie andere Tasten, oder verwenden Sie es stattdessen hier.</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SoundPane</name>
@@ -1759,6 +1872,26 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>What you change in the preferences, and what is open, is forgotten when you quit because nothing can be written to %1. Make that folder writable.</source>
         <translation type="unfinished">Was Sie in den Einstellungen ändern und was offen ist, wird beim Beenden vergessen, weil sich nichts nach %1 schreiben lässt. Machen Sie diesen Ordner beschreibbar.</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation type="unfinished">Instrument</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Stimmung</translation>
+    </message>
+    <message>
+        <source>Reading of MIDI devices</source>
+        <translation type="unfinished">Lesart der MIDI-Geräte</translation>
+    </message>
+    <message>
+        <source>Sound output</source>
+        <translation type="unfinished">Tonausgabe</translation>
+    </message>
+    <message>
+        <source>MIDI inputs</source>
+        <translation type="unfinished">MIDI-Eingänge</translation>
     </message>
 </context>
 <context>

@@ -68,6 +68,104 @@
     </message>
 </context>
 <context>
+    <name>velmora::ColorsPane</name>
+    <message>
+        <source>Keyboard keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Played:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys that the sequence plays, or waits for in practice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Right:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys that you struck correctly</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Held:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys that you keep holding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Wrong:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys that you struck by mistake</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Piano roll notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;At rest:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes that are not sounding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sounding:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes at the play position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Classic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calm: soft colours that suit the theme of the desktop. Classic: bright colours on white and black</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sch&amp;eme:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset to &amp;Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use the colours of the scheme again</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::CommandPalette</name>
+    <message>
+        <source>Find a command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::Commands</name>
     <message>
         <source>%1 (%2)</source>
@@ -710,10 +808,6 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Choose…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Choose a SoundFont for the General MIDI player</source>
         <translation type="unfinished"></translation>
     </message>
@@ -738,66 +832,6 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Keyboard keys</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Played:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keys that the sequence plays, or waits for in practice</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Right:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keys that you struck correctly</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Held:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keys that you keep holding</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Wrong:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keys that you struck by mistake</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Piano roll notes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;At rest:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Notes that are not sounding</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Sounding:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Notes at the play position</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Reset to &amp;Defaults</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>A&amp;t the start:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -811,6 +845,14 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
     </message>
     <message>
         <source>Whether the instruments, the tuning and the pieces that are open when you quit are opened again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Short&amp;cuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1454,6 +1496,77 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <source>Save which instruments, tuning and pieces are open</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Find a Command…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find a command by its name and perform it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ShortcutsPane</name>
+    <message>
+        <source>Find a command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use It &amp;Here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press the new keys for the selected command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New shortcut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New shortcut:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the shortcut from the other command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave the selected command without a shortcut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore &amp;Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give every command the shortcuts that it had at first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 plays a note. Add Ctrl or Alt, or use a function key.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 belongs to “%2”. Press other keys, or use it here instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>velmora::SoundPane</name>
@@ -1739,6 +1852,26 @@ Click to show all tunings</source>
     </message>
     <message>
         <source>What you change in the preferences, and what is open, is forgotten when you quit because nothing can be written to %1. Make that folder writable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading of MIDI devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MIDI inputs</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
