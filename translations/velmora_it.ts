@@ -5,1167 +5,1170 @@
     <name>QObject</name>
     <message>
         <source>Import Report</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Rapporto di importazione</translation>
     </message>
     <message>
         <source>Stops: %1, keys: %2, samples: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Registri: %1, tasti: %2, campioni: %3.</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 esiste già. Vuoi sostituirlo?</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) or sample(s) were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n file o campione è stato tralasciato</numerusform>
+            <numerusform>%n file o campioni sono stati tralasciati</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 is still sounding. Silence everything (Ctrl+.), then unload it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 sta ancora suonando. Silenzia tutto (Ctrl+.), poi rimuovilo dalla memoria.</translation>
     </message>
     <message>
         <source>Velmora cannot draw its windows because OpenGL does not work here. Install libgl1-mesa-dri, which needs no graphics card.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora non può disegnare le sue finestre perché qui OpenGL non funziona. Installa libgl1-mesa-dri, che non richiede una scheda grafica.</translation>
     </message>
 </context>
 <context>
     <name>deviceText</name>
     <message>
         <source>MIDI port %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Porta MIDI %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::AboutBox</name>
     <message>
         <source>About Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Informazioni su Velmora</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Velmora %1&lt;/h3&gt;&lt;p&gt;Plays keyboard instruments in historical and adaptive tunings.&lt;/p&gt;&lt;p&gt;Velmora uses FluidSynth, the Synthesis ToolKit and OpenAL Soft for sound, libsndfile and WavPack for samples, RtMidi for MIDI, and Qt %2 for its windows.&lt;/p&gt;&lt;p&gt;It is available under the MIT licence.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&lt;h3&gt;Velmora %1&lt;/h3&gt;&lt;p&gt;Suona strumenti a tastiera in temperamenti storici e adattivi.&lt;/p&gt;&lt;p&gt;Velmora usa FluidSynth, il Synthesis ToolKit e OpenAL Soft per il suono, libsndfile e WavPack per i campioni, RtMidi per il MIDI e Qt %2 per le finestre.&lt;/p&gt;&lt;p&gt;È disponibile con licenza MIT.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>velmora::AudioExport</name>
     <message>
         <source>Loading the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Caricamento dello strumento</translation>
     </message>
     <message>
         <source>Rendering</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Calcolo del suono</translation>
     </message>
     <message>
         <source>There is not enough memory to load the instrument a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Non c’è abbastanza memoria per caricare lo strumento una seconda volta.</translation>
     </message>
 </context>
 <context>
     <name>velmora::ColorsPane</name>
     <message>
         <source>Keyboard keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasti della tastiera</translation>
     </message>
     <message>
         <source>&amp;Played:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suo&amp;nati:</translation>
     </message>
     <message>
         <source>Keys that the sequence plays, or waits for in practice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasti che il brano suona, o che attende durante lo studio</translation>
     </message>
     <message>
         <source>&amp;Right:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">G&amp;iusti:</translation>
     </message>
     <message>
         <source>Keys that you struck correctly</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasti che hai premuto correttamente</translation>
     </message>
     <message>
         <source>&amp;Held:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tenuti:</translation>
     </message>
     <message>
         <source>Keys that you keep holding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasti che continui a tenere premuti</translation>
     </message>
     <message>
         <source>&amp;Wrong:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">S&amp;bagliati:</translation>
     </message>
     <message>
         <source>Keys that you struck by mistake</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasti che hai premuto per errore</translation>
     </message>
     <message>
         <source>Piano roll notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Note del piano roll</translation>
     </message>
     <message>
         <source>&amp;At rest:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A ri&amp;poso:</translation>
     </message>
     <message>
         <source>Notes that are not sounding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Note che non suonano</translation>
     </message>
     <message>
         <source>&amp;Sounding:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In esecu&amp;zione:</translation>
     </message>
     <message>
         <source>Notes at the play position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Note alla posizione di riproduzione</translation>
     </message>
     <message>
         <source>Calm</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sobrio</translation>
     </message>
     <message>
         <source>Classic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Classico</translation>
     </message>
     <message>
         <source>Calm: soft colours that suit the theme of the desktop. Classic: bright colours on white and black</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sobrio: colori tenui, in armonia con il tema del desktop. Classico: colori vivaci su bianco e nero</translation>
     </message>
     <message>
         <source>Sch&amp;eme:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sch&amp;ema:</translation>
     </message>
     <message>
         <source>Reset to &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ripristina valori pre&amp;definiti</translation>
     </message>
     <message>
         <source>Use the colours of the scheme again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Torna ai colori dello schema</translation>
     </message>
 </context>
 <context>
     <name>velmora::CommandPalette</name>
     <message>
         <source>Find a command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trova un comando</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Comandi</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 – %2</translation>
     </message>
 </context>
 <context>
     <name>velmora::Commands</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>velmora::ComputerKeyboard</name>
     <message>
         <source>Letters play from %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le lettere suonano a partire da %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::Desktop</name>
     <message>
         <source>%1: unrecognised file type. Velmora recognises files by their extensions, such as .mid, .scl or .sf2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: tipo di file sconosciuto. Velmora riconosce i file dall’estensione, come .mid, .scl o .sf2.</translation>
     </message>
     <message>
         <source>%1: contains no instrument that Velmora can play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: non contiene strumenti che Velmora possa suonare</translation>
     </message>
     <message>
         <source>%1: %2; see Import Report in the Instruments window</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2; vedi «Rapporto di importazione» nella finestra «Strumenti»</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri</translation>
     </message>
     <message>
         <source>Transposition: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trasposizione: %1</translation>
     </message>
     <message>
         <source>The General MIDI player is silent because there is no SoundFont for it. Choose one in the preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Il sintetizzatore General MIDI è muto perché non ha un SoundFont. Scegline uno nelle preferenze.</translation>
     </message>
     <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 non può servire da banco General MIDI. Al suo posto si usa %2.</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;Sessions (%5);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tutti i file supportati (%1);;Strumenti (%2);;Temperamenti (%3);;Brani (%4);;Sessioni (%5);;Tutti i file (*)</translation>
     </message>
     <message>
         <source>Open Session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri sessione</translation>
     </message>
     <message>
         <source>Sessions (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sessioni (%1)</translation>
     </message>
     <message>
         <source>Save Session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Salva sessione</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sessione</translation>
     </message>
     <message>
         <source>Velmora ended while it was opening what was open last time. Open it again?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora si è chiuso mentre riapriva ciò che era aperto l’ultima volta. Riaprirlo?</translation>
     </message>
     <message>
         <source>Open Again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Riapri</translation>
     </message>
     <message>
         <source>Start Empty</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Inizia da zero</translation>
     </message>
     <message>
         <source>Unsaved changes are not protected against a crash: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le modifiche non salvate non sono protette da un arresto anomalo: %1</translation>
     </message>
     <message>
         <source>Not everything that was open last time could be opened.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Non è stato possibile riaprire tutto ciò che era aperto l’ultima volta.
+%1</translation>
     </message>
 </context>
 <context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Caricamento dello strumento</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annulla</translation>
     </message>
     <message>
         <source>Export Audio</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Esporta audio</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>Exported %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 esportato</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 was not exported. %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 non è stato esportato. %2</translation>
     </message>
 </context>
 <context>
     <name>velmora::GuideWindow</name>
     <message>
         <source>User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guida utente</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guida utente</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Indice</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Indietro</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Avanti</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Occorrenza precedente</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Occorrenza successiva</translation>
     </message>
     <message>
         <source>&amp;Find:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Trova:</translation>
     </message>
     <message>
         <source>Find words in the guide (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cerca parole nella guida (%1)</translation>
     </message>
     <message>
         <source>“%1” is not in the guide.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">«%1» non compare nella guida.</translation>
     </message>
     <message>
         <source>No program could open %1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nessun programma ha potuto aprire %1.</translation>
     </message>
 </context>
 <context>
     <name>velmora::HelpButton</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aiuto</translation>
     </message>
     <message>
         <source>Show what the guide says about this</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostra che cosa ne dice la guida</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentMenu</name>
     <message>
         <source>Instrument: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Strumento: %1</translation>
     </message>
     <message>
         <source>%1
 Choose another instrument, open or unload one</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1
+Scegli un altro strumento, aprine uno o rimuovilo dalla memoria</translation>
     </message>
     <message>
         <source>&amp;Open Instrument…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Apri strumento…</translation>
     </message>
     <message>
         <source>&amp;Unload %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Rimuovi %1 dalla memoria</translation>
     </message>
     <message>
         <source>Import &amp;Report of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Rapporto di &amp;importazione di %1…</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentPanel</name>
     <message>
         <source>Stop %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Registro %1</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Volume</translation>
     </message>
     <message>
         <source>Memory used by the samples of this instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Memoria occupata dai campioni di questo strumento</translation>
     </message>
     <message>
         <source>Usage:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Memoria:  %1</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Strumento</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentsModel</name>
     <message>
         <source>Unloaded: select it to load it again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Non in memoria: selezionalo per ricaricarlo</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Strumento</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dimensione</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentsWindow</name>
     <message>
         <source>&amp;Unload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Rimuovi dalla memoria</translation>
     </message>
     <message>
         <source>Import &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Rapporto di &amp;importazione…</translation>
     </message>
     <message>
         <source>Instruments</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Strumenti</translation>
     </message>
     <message>
         <source>Loaded instruments</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Strumenti caricati</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Apri…</translation>
     </message>
     <message>
         <source>Open a SoundFont, a GigaSampler bank or an organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri un SoundFont, un banco GigaSampler o un organo</translation>
     </message>
     <message>
         <source>Free the memory that the samples of this instrument use</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Libera la memoria occupata dai campioni di questo strumento</translation>
     </message>
     <message>
         <source>Show what was imported and what was left out</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostra che cosa è stato importato e che cosa tralasciato</translation>
     </message>
 </context>
 <context>
     <name>velmora::KeyRuler</name>
     <message>
         <source>Key names</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nomi dei tasti</translation>
     </message>
 </context>
 <context>
     <name>velmora::KeyboardView</name>
     <message>
         <source>Piano keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tastiera di pianoforte</translation>
     </message>
     <message>
         <source>wrong</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">sbagliato</translation>
     </message>
     <message>
         <source>to be played</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">da suonare</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">giusto</translation>
     </message>
     <message>
         <source>held</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">tenuto</translation>
     </message>
 </context>
 <context>
     <name>velmora::LanguageFields</name>
     <message>
         <source>The language changes when you start Velmora again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La lingua cambierà al prossimo avvio di Velmora.</translation>
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Quella del desktop</translation>
     </message>
     <message>
         <source>The language of all menus and windows</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La lingua di tutti i menu e di tutte le finestre</translation>
     </message>
     <message>
         <source>As usual in the language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Secondo l’uso della lingua</translation>
     </message>
     <message>
         <source>International: C D E F G A B</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Internazionali: C D E F G A B</translation>
     </message>
     <message>
         <source>German: C D E F G A H</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tedeschi: C D E F G A H</translation>
     </message>
     <message>
         <source>Solfège: Do Re Mi Fa Sol La Si</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Solfeggio: Do Re Mi Fa Sol La Si</translation>
     </message>
     <message>
         <source>The names of the keys and notes in all windows</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">I nomi dei tasti e delle note in tutte le finestre</translation>
     </message>
     <message>
         <source>L&amp;anguage:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L&amp;ingua:</translation>
     </message>
     <message>
         <source>Not&amp;e names:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nomi delle no&amp;te:</translation>
     </message>
 </context>
 <context>
     <name>velmora::LearnMenu</name>
     <message>
         <source>&amp;Learn MIDI Controller…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Apprendi controller MIDI…</translation>
     </message>
     <message>
         <source>Learn MIDI Controller for %1…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apprendi controller MIDI per %1…</translation>
     </message>
     <message>
         <source>&amp;Forget MIDI Controller</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Dimentica controller MIDI</translation>
     </message>
     <message>
         <source>Forget MIDI Controller for %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dimentica controller MIDI di %1</translation>
     </message>
     <message>
         <source>Learn MIDI Controller</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apprendi controller MIDI</translation>
     </message>
     <message>
         <source>Waiting for a MIDI controller for “%1”.
 Move a controller, or press a button or a key, on a MIDI device.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In attesa di un controller MIDI per «%1».
+Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>MIDI key %1 on channel %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasto MIDI %1 sul canale %2</translation>
     </message>
     <message>
         <source>MIDI controller %1 on channel %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Controller MIDI %1 sul canale %2</translation>
     </message>
 </context>
 <context>
     <name>velmora::LevelMeter</name>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Livello</translation>
     </message>
 </context>
 <context>
     <name>velmora::MetersWindow</name>
     <message>
         <source>Meters</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Indicatori</translation>
     </message>
 </context>
 <context>
     <name>velmora::MidiPane</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
     <message>
         <source>Connect a MIDI device, and it appears here.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Collega un dispositivo MIDI e comparirà qui.</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dispositivo</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Attivo</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Canale</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasti</translation>
     </message>
     <message>
         <source>MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dispositivi MIDI</translation>
     </message>
     <message>
         <source>%1 (not connected)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (non collegato)</translation>
     </message>
     <message>
         <source>Whether the device is heard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Determina se il dispositivo viene ascoltato</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tutti</translation>
     </message>
     <message>
         <source>The MIDI channel to listen to</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Il canale MIDI da ascoltare</translation>
     </message>
     <message>
         <source> semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> semitoni</translation>
     </message>
     <message>
         <source>How much higher the keys sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Di quanto i tasti suonano più in alto</translation>
     </message>
 </context>
 <context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trasponi più in basso (Ctrl+Maiusc+Giù)</translation>
     </message>
     <message>
         <source>Transpose up (Ctrl+Shift+Up)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trasponi più in alto (Ctrl+Maiusc+Su)</translation>
     </message>
     <message>
         <source>Linear touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tocco lineare</translation>
     </message>
     <message>
         <source>Soft touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tocco morbido</translation>
     </message>
     <message>
         <source>Hard touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tocco duro</translation>
     </message>
     <message>
         <source>Fixed touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tocco fisso</translation>
     </message>
     <message>
         <source>Touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tocco</translation>
     </message>
     <message>
         <source>How loud your touch on a MIDI keyboard sounds: soft makes a light touch louder, hard asks for a strong one, fixed ignores the touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L’intensità prodotta dal tuo tocco su una tastiera MIDI: morbido rinforza un tocco leggero, duro ne richiede uno energico, fisso ignora il tocco</translation>
     </message>
     <message>
         <source>Transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trasposizione</translation>
     </message>
     <message>
         <source>The transposition of the MIDI keyboards in semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La trasposizione delle tastiere MIDI in semitoni</translation>
     </message>
     <message>
         <source>semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">semitoni</translation>
     </message>
 </context>
 <context>
     <name>velmora::PlayingPane</name>
     <message>
         <source>How much higher than written the keys of MIDI devices sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Di quanto i tasti dei dispositivi MIDI suonano più in alto della nota scritta</translation>
     </message>
     <message>
         <source>How far the pitch wheel bends up and down; with 0 it does nothing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Di quanto la rotella del pitch bend alza e abbassa le note; con 0 non ha effetto</translation>
     </message>
     <message>
         <source>Pl&amp;ain reading of MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Lettura semplice dei dispositivi MIDI</translation>
     </message>
     <message>
         <source>Linear: as the keyboard sends it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lineare: come lo invia la tastiera</translation>
     </message>
     <message>
         <source>Soft: a light touch is louder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Morbido: un tocco leggero suona più forte</translation>
     </message>
     <message>
         <source>Hard: only a strong touch is loud</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Duro: solo un tocco energico suona forte</translation>
     </message>
     <message>
         <source>Fixed: always the same</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fisso: sempre uguale</translation>
     </message>
     <message>
         <source>Touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tocco</translation>
     </message>
     <message>
         <source>Only notes and volumes count: no pedals, wheels, programs or learned controllers, no touch and no transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Contano solo note e volumi: niente pedali, rotelle, programmi o controller appresi, niente tocco né trasposizione</translation>
     </message>
     <message>
         <source>&amp;Touch:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Tocco:</translation>
     </message>
     <message>
         <source>T&amp;ransposition:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tr&amp;asposizione:</translation>
     </message>
     <message>
         <source>Pitch &amp;wheel:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Rotella del &amp;pitch bend:</translation>
     </message>
     <message>
         <source> semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> semitoni</translation>
     </message>
 </context>
 <context>
     <name>velmora::PreferencesWindow</name>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> px</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Preferenze</translation>
     </message>
     <message>
         <source>Panes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pannelli</translation>
     </message>
     <message>
         <source>&amp;General</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Generale</translation>
     </message>
     <message>
         <source>C&amp;olors</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Colori</translation>
     </message>
     <message>
         <source>&amp;MIDI</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;MIDI</translation>
     </message>
     <message>
         <source>So&amp;und</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Suono</translation>
     </message>
     <message>
         <source>Key &amp;width:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Larghezza dei tasti:</translation>
     </message>
     <message>
         <source>The width of a semitone on the keyboard and in the piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La larghezza di un semitono sulla tastiera e nel piano roll</translation>
     </message>
     <message>
         <source>&amp;Step height:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Altezza dei passi:</translation>
     </message>
     <message>
         <source>The height of a step, the distance between grid lines, in the piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L’altezza di un passo, cioè la distanza fra le linee della griglia, nel piano roll</translation>
     </message>
     <message>
         <source>&amp;Lowest key:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasto più gra&amp;ve:</translation>
     </message>
     <message>
         <source>The first key of the keyboard: a note name, such as A0, or a MIDI key number</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Il primo tasto della tastiera: il nome di una nota, come La0, o il numero di un tasto MIDI</translation>
     </message>
     <message>
         <source>&amp;Highest key:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasto più ac&amp;uto:</translation>
     </message>
     <message>
         <source>The last key of the keyboard: a note name, such as C8, or a MIDI key number</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L’ultimo tasto della tastiera: il nome di una nota, come Do8, o il numero di un tasto MIDI</translation>
     </message>
     <message>
         <source>Show note &amp;names on the C keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostra i &amp;nomi delle note sui tasti del Do</translation>
     </message>
     <message>
         <source>General MIDI bank:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Banco General MIDI:</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Predefinito di sistema</translation>
     </message>
     <message>
         <source>General MIDI bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Banco General MIDI</translation>
     </message>
     <message>
         <source>Choose a SoundFont for the General MIDI player</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Scegli un SoundFont per il sintetizzatore General MIDI</translation>
     </message>
     <message>
         <source>Use &amp;Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Usa pre&amp;definito</translation>
     </message>
     <message>
         <source>Use the system&apos;s General MIDI bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Usa il banco General MIDI del sistema</translation>
     </message>
     <message>
         <source>Choose a General MIDI Bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Scegli un banco General MIDI</translation>
     </message>
     <message>
         <source>SoundFont banks (*.sf2 *.sf3)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Banchi SoundFont (*.sf2 *.sf3)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tutti i file (*)</translation>
     </message>
     <message>
         <source>A&amp;t the start:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">All’avvi&amp;o:</translation>
     </message>
     <message>
         <source>Start empty</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Inizia da zero</translation>
     </message>
     <message>
         <source>Start as last time</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Riprendi dall’ultima volta</translation>
     </message>
     <message>
         <source>Whether the instruments, the tuning and the pieces that are open when you quit are opened again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Determina se riaprire gli strumenti, il temperamento e i brani aperti all’uscita</translation>
     </message>
     <message>
         <source>Short&amp;cuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sco&amp;rciatoie</translation>
     </message>
     <message>
         <source>&amp;Browse…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">S&amp;foglia…</translation>
     </message>
 </context>
 <context>
     <name>velmora::ProgramList</name>
     <message>
         <source>Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pianoforti</translation>
     </message>
     <message>
         <source>Chromatic Percussion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Percussioni cromatiche</translation>
     </message>
     <message>
         <source>Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Organi</translation>
     </message>
     <message>
         <source>Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chitarre</translation>
     </message>
     <message>
         <source>Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bassi</translation>
     </message>
     <message>
         <source>Strings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Archi</translation>
     </message>
     <message>
         <source>Ensemble</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ensemble</translation>
     </message>
     <message>
         <source>Brass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ottoni</translation>
     </message>
     <message>
         <source>Reed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ance</translation>
     </message>
     <message>
         <source>Pipe</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Flauti</translation>
     </message>
     <message>
         <source>Synth Lead</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Solisti synth</translation>
     </message>
     <message>
         <source>Synth Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pad synth</translation>
     </message>
     <message>
         <source>Synth Effects</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Effetti synth</translation>
     </message>
     <message>
         <source>Ethnic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Strumenti etnici</translation>
     </message>
     <message>
         <source>Percussive</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Percussioni</translation>
     </message>
     <message>
         <source>Sound Effects</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Effetti sonori</translation>
     </message>
     <message>
         <source>Find a program</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cerca un programma</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Programma</translation>
     </message>
     <message>
         <source>General MIDI program</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Programma General MIDI</translation>
     </message>
 </context>
 <context>
     <name>velmora::ProgressWindow</name>
     <message>
         <source>Loading</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Caricamento</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Avanzamento</translation>
     </message>
     <message>
         <source>Cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annullamento…</translation>
     </message>
 </context>
 <context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceActions</name>
     <message>
         <source>&amp;Loop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Loop</translation>
     </message>
     <message>
         <source>Repeat the selected time, or the whole sequence</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ripeti l’intervallo selezionato o l’intero brano</translation>
     </message>
     <message>
         <source>Snap to &amp;Grid</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aggancia alla &amp;griglia</translation>
     </message>
     <message>
         <source>Align notes and times with whole steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Allinea note e tempi ai passi interi</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Annulla</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Rifai</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Taglia</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Copia</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Incolla</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Elimina</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Seleziona tutto</translation>
     </message>
     <message>
         <source>Select &amp;None</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Deseleziona tutto</translation>
     </message>
     <message>
         <source>Go to &amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vai all’&amp;inizio</translation>
     </message>
     <message>
         <source>Pre&amp;vious Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Note pr&amp;ecedenti</translation>
     </message>
     <message>
         <source>&amp;Next Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Note &amp;successive</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Canale</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ferma</translation>
     </message>
     <message>
         <source>Record what you play, starting at the position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Registra ciò che suoni a partire dalla posizione</translation>
     </message>
     <message>
         <source>Play from the position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Riproduci dalla posizione</translation>
     </message>
     <message>
         <source>Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Brano</translation>
     </message>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Registra</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ri&amp;produci</translation>
     </message>
     <message>
         <source>Select Ne&amp;xt Note</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seleziona nota s&amp;uccessiva</translation>
     </message>
     <message>
         <source>Select Pre&amp;vious Note</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seleziona nota &amp;precedente</translation>
     </message>
     <message>
         <source>Go to &amp;End</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vai alla &amp;fine</translation>
     </message>
     <message>
         <source>&amp;Selected Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Note selezionate</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Modifica</translation>
     </message>
     <message>
         <source>&amp;Zoom In</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In&amp;grandisci</translation>
     </message>
     <message>
         <source>Zoom O&amp;ut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Rimpicciolisci</translation>
     </message>
     <message>
         <source>&amp;Wider Keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasti più &amp;larghi</translation>
     </message>
     <message>
         <source>N&amp;arrower Keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasti p&amp;iù stretti</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Visualizza</translation>
     </message>
     <message>
         <source>Move Notes &amp;Up a Semitone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Alza le note di un semitono</translation>
     </message>
     <message>
         <source>Move Notes &amp;Down a Semitone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;bbassa le note di un semitono</translation>
     </message>
     <message>
         <source>Move Notes &amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Posticipa le note</translation>
     </message>
     <message>
         <source>Move Notes &amp;Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anti&amp;cipa le note</translation>
     </message>
     <message>
         <source>Make Notes Lon&amp;ger</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;llunga le note</translation>
     </message>
     <message>
         <source>Make Notes &amp;Shorter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Acco&amp;rcia le note</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
     <message>
         <source>Draw Note</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">disegno di una nota</translation>
     </message>
     <message numerus="yes">
         <source>Record %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>registrazione di %n nota</numerusform>
+            <numerusform>registrazione di %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>eliminazione di %n nota</numerusform>
+            <numerusform>eliminazione di %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Resize %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>cambio di durata di %n nota</numerusform>
+            <numerusform>cambio di durata di %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Move %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>spostamento di %n nota</numerusform>
+            <numerusform>spostamento di %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Set Channel of %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>cambio di canale di %n nota</numerusform>
+            <numerusform>cambio di canale di %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Cut %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>taglio di %n nota</numerusform>
+            <numerusform>taglio di %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Paste %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>inserimento di %n nota</numerusform>
+            <numerusform>inserimento di %n note</numerusform>
         </translation>
     </message>
 </context>
@@ -1174,139 +1177,139 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
     <message numerus="yes">
         <source>%1, %n note(s), %2</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%1, %n nota, %2</numerusform>
+            <numerusform>%1, %n note, %2</numerusform>
         </translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Senza titolo</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>Velmora was not closed properly. Recover the unsaved sequences?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora non è stato chiuso correttamente. Recuperare i brani non salvati?</translation>
     </message>
     <message>
         <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Recupera</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Scarta</translation>
     </message>
     <message>
         <source>Ask Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chiedi più tardi</translation>
     </message>
     <message>
         <source>%1 •</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 •</translation>
     </message>
     <message>
         <source>Untitled %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Senza titolo %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceSaver</name>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 is still being exported. Stop the export?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L’esportazione di %1 è ancora in corso. Interromperla?</translation>
     </message>
     <message>
         <source>If you stop it, no sound file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Se la interrompi, non verrà creato nessun file audio.</translation>
     </message>
     <message>
         <source>Stop Export</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Interrompi esportazione</translation>
     </message>
     <message>
         <source>Save the changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Salvare le modifiche a %1?</translation>
     </message>
     <message>
         <source>If you do not save them, they are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Se non le salvi, andranno perse.</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Salva con nome</translation>
     </message>
     <message>
         <source>An iMelody file holds a single voice and no dynamics. Save it anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Un file iMelody contiene una sola voce e nessuna dinamica. Salvarlo comunque?</translation>
     </message>
     <message>
         <source>Velmora cannot open iMelody files. A MIDI file keeps everything that you see.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora non può aprire i file iMelody. Un file MIDI conserva tutto ciò che vedi.</translation>
     </message>
     <message>
         <source>%1 was not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 non è stato salvato.</translation>
     </message>
     <message>
         <source>Save As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Salva con nome…</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceScrollView</name>
     <message>
         <source>Keys shown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tasti visibili</translation>
     </message>
     <message>
         <source>Time shown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tempo visibile</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceStatus</name>
     <message>
         <source>Practice: play the notes at the position to move on to the next ones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Studio: suona le note alla posizione per passare alle successive</translation>
     </message>
     <message>
         <source>Steps %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Passi da %1 a %2</translation>
     </message>
     <message>
         <source>Playing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Riproduzione</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Registrazione</translation>
     </message>
     <message>
         <source>Waiting for %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In attesa di %1</translation>
     </message>
     <message>
         <source>; release %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">; rilascia %1</translation>
     </message>
     <message numerus="yes">
         <source>%n note(s) selected</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n nota selezionata</numerusform>
+            <numerusform>%n note selezionate</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n note(s) in all</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n nota in tutto</numerusform>
+            <numerusform>%n note in tutto</numerusform>
         </translation>
     </message>
 </context>
@@ -1314,1317 +1317,1322 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
     <name>velmora::SequenceView</name>
     <message>
         <source>Piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Piano roll</translation>
     </message>
     <message>
         <source>Velocity %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velocity %1%</translation>
     </message>
     <message>
         <source>%1, bar %2, beat %3, length in beats %4, channel %5</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1, battuta %2, movimento %3, durata in movimenti %4, canale %5</translation>
     </message>
 </context>
 <context>
     <name>velmora::ShellActions</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">File</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suono</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Visualizza</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aiuto</translation>
     </message>
     <message>
         <source>&amp;New Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Nuovo brano</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Apri…</translation>
     </message>
     <message>
         <source>Open pieces, instruments and tunings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri brani, strumenti e temperamenti</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Salva</translation>
     </message>
     <message>
         <source>Save the piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Salva il brano</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Salva &amp;con nome…</translation>
     </message>
     <message>
         <source>&amp;Export Audio…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Esporta au&amp;dio…</translation>
     </message>
     <message>
         <source>Write a sound file of the piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Crea un file audio del brano</translation>
     </message>
     <message>
         <source>&amp;Close Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Chi&amp;udi brano</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Preferenze…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Esci</translation>
     </message>
     <message>
         <source>&amp;Silence Everything</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Silenzia &amp;tutto</translation>
     </message>
     <message>
         <source>Stop every sound and release every key</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ferma tutti i suoni e rilascia tutti i tasti</translation>
     </message>
     <message>
         <source>Transpose &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trasponi più in &amp;alto</translation>
     </message>
     <message>
         <source>Transpose &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trasponi più in &amp;basso</translation>
     </message>
     <message>
         <source>&amp;Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">T&amp;astiera</translation>
     </message>
     <message>
         <source>&amp;Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Strumento</translation>
     </message>
     <message>
         <source>Show the program or the stops</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostra il programma o i registri</translation>
     </message>
     <message>
         <source>&amp;Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Temperamento</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Esecu&amp;zione</translation>
     </message>
     <message>
         <source>Arrange the window for playing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Disponi la finestra per suonare</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Modifica</translation>
     </message>
     <message>
         <source>Arrange the window for editing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Disponi la finestra per modificare</translation>
     </message>
     <message>
         <source>&amp;Stage</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Palco</translation>
     </message>
     <message>
         <source>Fill the screen with what matters on stage</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Riempi lo schermo con ciò che conta sul palco</translation>
     </message>
     <message>
         <source>&amp;Reset Layout</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Reimposta &amp;disposizione</translation>
     </message>
     <message>
         <source>Ne&amp;xt Panel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pannello s&amp;uccessivo</translation>
     </message>
     <message>
         <source>Pre&amp;vious Panel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pannello pr&amp;ecedente</translation>
     </message>
     <message>
         <source>Piece in Its &amp;Own Window</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Brano in &amp;finestra propria</translation>
     </message>
     <message>
         <source>&amp;Loaded Instruments…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Strumenti &amp;caricati…</translation>
     </message>
     <message>
         <source>&amp;Meters</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Indicat&amp;ori</translation>
     </message>
     <message>
         <source>Show the delay, the load and the devices of live playing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostra il ritardo, il carico e i dispositivi dell’esecuzione dal vivo</translation>
     </message>
     <message>
         <source>Note &amp;Names on the Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Nomi delle note sulla tastiera</translation>
     </message>
     <message>
         <source>User &amp;Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Guida utente</translation>
     </message>
     <message>
         <source>&amp;About Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Informazioni su Velmora</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri &amp;recenti</translation>
     </message>
     <message>
         <source>&amp;Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Svuota elenco</translation>
     </message>
     <message>
         <source>Open Sess&amp;ion…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri sess&amp;ione…</translation>
     </message>
     <message>
         <source>Open the instruments, the tuning and the pieces of a session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri gli strumenti, il temperamento e i brani di una sessione</translation>
     </message>
     <message>
         <source>Sa&amp;ve Session…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sal&amp;va sessione…</translation>
     </message>
     <message>
         <source>Save which instruments, tuning and pieces are open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Salva quali strumenti, temperamento e brani sono aperti</translation>
     </message>
     <message>
         <source>&amp;Find a Command…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Trova un comando…</translation>
     </message>
     <message>
         <source>Find a command by its name and perform it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trova un comando per nome ed eseguilo</translation>
     </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
     <message>
         <source>Find a command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trova un comando</translation>
     </message>
     <message>
         <source>Use It &amp;Here</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Usa qui</translation>
     </message>
     <message>
         <source>Remo&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">R&amp;imuovi</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Comando</translation>
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Scorciatoia</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Comandi</translation>
     </message>
     <message>
         <source>Press the new keys for the selected command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Premi i nuovi tasti per il comando selezionato</translation>
     </message>
     <message>
         <source>New shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nuova scorciatoia</translation>
     </message>
     <message>
         <source>&amp;New shortcut:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Nuova scorciatoia:</translation>
     </message>
     <message>
         <source>Take the shortcut from the other command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Togli la scorciatoia all’altro comando</translation>
     </message>
     <message>
         <source>Leave the selected command without a shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lascia il comando selezionato senza scorciatoia</translation>
     </message>
     <message>
         <source>Restore &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ripristina valori pre&amp;definiti</translation>
     </message>
     <message>
         <source>Give every command the shortcuts that it had at first</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ridai a ogni comando le scorciatoie originali</translation>
     </message>
     <message>
         <source>%1 plays a note. Add Ctrl or Alt, or use a function key.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 suona una nota. Aggiungi Ctrl o Alt, o usa un tasto funzione.</translation>
     </message>
     <message>
         <source>%1 belongs to “%2”. Press other keys, or use it here instead.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 appartiene a «%2». Premi altri tasti, o usalo qui al suo posto.</translation>
     </message>
 </context>
 <context>
     <name>velmora::SoundPane</name>
     <message>
         <source>Ou&amp;tput:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Uscita:</translation>
     </message>
     <message>
         <source>The sound server or driver that Velmora plays through</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Il server audio o il driver attraverso cui Velmora suona</translation>
     </message>
     <message>
         <source>&amp;Device:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Dispositivo:</translation>
     </message>
     <message>
         <source>The device that is heard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Il dispositivo da cui esce il suono</translation>
     </message>
     <message>
         <source>Sample &amp;rate:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Frequenza di campionamento:</translation>
     </message>
     <message>
         <source>A JACK server determines the sample rate itself</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Un server JACK stabilisce da sé la frequenza di campionamento</translation>
     </message>
     <message>
         <source>&amp;Period:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Periodo:</translation>
     </message>
     <message>
         <source>The shorter the period, the sooner a key sounds, and the more the machine has to do. With JACK, it applies to all programs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Più breve è il periodo, prima suona un tasto e più lavora il computer. Con JACK vale per tutti i programmi</translation>
     </message>
     <message>
         <source>Playing:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In uso:</translation>
     </message>
     <message>
         <source>Master &amp;volume:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Volume generale:</translation>
     </message>
     <message>
         <source>Level:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Livello:</translation>
     </message>
     <message>
         <source>Master volume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Volume generale</translation>
     </message>
     <message>
         <source>Play Test To&amp;ne</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suona una n&amp;ota di prova</translation>
     </message>
     <message>
         <source>Plays a short, quiet tone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suona una nota breve e piano</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Automatico</translation>
     </message>
     <message>
         <source>%1 (missing)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (assente)</translation>
     </message>
     <message>
         <source>%1 frames</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 frame</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Predefinito</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1%</translation>
     </message>
     <message>
         <source>%L1 kHz</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%L1&#xa0;kHz</translation>
     </message>
     <message>
         <source>%1, %L2 kHz, %L3 frames (%L4 ms)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1, %L2&#xa0;kHz, %L3 frame (%L4&#xa0;ms)</translation>
     </message>
     <message>
         <source>
 To the sound card: %L1 ms. Lost periods: %L2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+Fino alla scheda audio: %L1&#xa0;ms. Periodi persi: %L2.</translation>
     </message>
 </context>
 <context>
     <name>velmora::StartPage</name>
     <message>
         <source>First steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Primi passi</translation>
     </message>
     <message>
         <source>User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guida utente</translation>
     </message>
     <message>
         <source>Open the user guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri la guida utente</translation>
     </message>
     <message>
         <source>What would you like to do?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Che cosa vuoi fare?</translation>
     </message>
     <message>
         <source>Welcome to Velmora! Each card does something at once, and nothing can break.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Benvenuto in Velmora! Ogni scheda fa subito qualcosa, e non puoi rompere nulla.</translation>
     </message>
     <message>
         <source>Hear it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ascoltare</translation>
     </message>
     <message>
         <source>C major, whose third beats in equal temperament and is pure in meantone. The tuning that you hear stays selected.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Do maggiore: la terza batte nel temperamento equabile ed è pura nel mesotonico. Il temperamento che ascolti resta selezionato.</translation>
     </message>
     <message>
         <source>Equal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Equabile</translation>
     </message>
     <message>
         <source>Hear the chord in equal temperament</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ascolta l’accordo nel temperamento equabile</translation>
     </message>
     <message>
         <source>Meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mesotonico</translation>
     </message>
     <message>
         <source>Hear the chord in quarter-comma meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ascolta l’accordo nel mesotonico a un quarto di comma</translation>
     </message>
     <message>
         <source>Choose a Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Scegli un temperamento</translation>
     </message>
     <message>
         <source>Choose a tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Scegli un temperamento</translation>
     </message>
     <message>
         <source>Tune it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Accordare</translation>
     </message>
     <message>
         <source>Choose a historical tuning, or one that adapts to what you play.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Scegli un temperamento storico, o uno che si adatta a ciò che suoni.</translation>
     </message>
     <message>
         <source>Open an Instrument…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri uno strumento…</translation>
     </message>
     <message>
         <source>Open an instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri uno strumento</translation>
     </message>
     <message>
         <source>Play it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suonare</translation>
     </message>
     <message>
         <source>Use a MIDI keyboard, the keys below, or the letters of the computer keyboard, from A on.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Usa una tastiera MIDI, i tasti qui sotto o le lettere della tastiera del computer, a partire dalla A.</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Registra</translation>
     </message>
     <message>
         <source>Record a new sequence</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Registra un nuovo brano</translation>
     </message>
     <message>
         <source>Record it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Registrare</translation>
     </message>
     <message>
         <source>Play, correct the notes in the piano roll, and export the sound.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suona, correggi le note nel piano roll ed esporta il suono.</translation>
     </message>
     <message>
         <source>Open %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri %1</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Esempi</translation>
     </message>
     <message>
         <source>%1 (tuning)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (temperamento)</translation>
     </message>
     <message>
         <source>%1 (piece)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (brano)</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">File recenti</translation>
     </message>
 </context>
 <context>
     <name>velmora::StatusLine</name>
     <message>
         <source>The sound output: its driver, sample rate and period</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">L’uscita audio: driver, frequenza di campionamento e periodo</translation>
     </message>
     <message>
         <source>No MIDI input</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nessun ingresso MIDI</translation>
     </message>
     <message>
         <source>A MIDI device is used as soon as it is connected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Un dispositivo MIDI viene usato appena lo colleghi</translation>
     </message>
     <message>
         <source>There is no MIDI device. Connect one, or play with the mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Non ci sono dispositivi MIDI. Collegane uno o suona con il mouse.</translation>
     </message>
     <message>
         <source>No sound output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nessuna uscita audio</translation>
     </message>
     <message>
         <source>Notices: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Avvisi: %1</translation>
     </message>
     <message>
         <source>Notices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Avvisi</translation>
     </message>
     <message>
         <source>%1, %L2 kHz, %L3 ms</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1, %L2&#xa0;kHz, %L3&#xa0;ms</translation>
     </message>
     <message>
         <source>Instrument: %1
 Click to show its programs or stops</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Strumento: %1
+Fai clic per mostrarne i programmi o i registri</translation>
     </message>
     <message>
         <source>Tuning: %1 (%2)
 Click to show all tunings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Temperamento: %1 (%2)
+Fai clic per mostrare tutti i temperamenti</translation>
     </message>
     <message>
         <source>Plain reading</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lettura semplice</translation>
     </message>
     <message>
         <source>MIDI devices are read plainly: no pedals, no touch, no transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">I dispositivi MIDI sono letti in modo semplice: niente pedali, niente tocco, niente trasposizione</translation>
     </message>
     <message>
         <source>Transposed %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trasposizione %1</translation>
     </message>
     <message>
         <source>MIDI keyboards sound %1 semitones away from their keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le tastiere MIDI suonano a %1 semitoni dai loro tasti</translation>
     </message>
     <message numerus="yes">
         <source>%n MIDI input(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n ingresso MIDI</numerusform>
+            <numerusform>%n ingressi MIDI</numerusform>
         </translation>
     </message>
     <message>
         <source>MIDI devices:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dispositivi MIDI:
+%1</translation>
     </message>
     <message>
         <source>The display may go to sleep while you play because there is no D-Bus session bus. Start Velmora from the desktop, or with dbus-run-session.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lo schermo potrebbe spegnersi mentre suoni perché manca il bus di sessione D-Bus. Avvia Velmora dal desktop, o con dbus-run-session.</translation>
     </message>
     <message>
         <source>What you change in the preferences, and what is open, is forgotten when you quit because nothing can be written to %1. Make that folder writable.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le preferenze modificate e ciò che è aperto andranno persi all’uscita perché non si può scrivere in %1. Rendi scrivibile quella cartella.</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Strumento</translation>
     </message>
     <message>
         <source>Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Temperamento</translation>
     </message>
     <message>
         <source>Reading of MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lettura dei dispositivi MIDI</translation>
     </message>
     <message>
         <source>Sound output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Uscita audio</translation>
     </message>
     <message>
         <source>MIDI inputs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ingressi MIDI</translation>
     </message>
 </context>
 <context>
     <name>velmora::StopList</name>
     <message>
         <source>Find a stop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cerca un registro</translation>
     </message>
 </context>
 <context>
     <name>velmora::StopRow</name>
     <message>
         <source>%1: turn on or off (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: attiva o disattiva (Spazio)</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1%</translation>
     </message>
 </context>
 <context>
     <name>velmora::TransportBar</name>
     <message>
         <source>Transport</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trasporto</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ferma</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Registra</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Riproduci</translation>
     </message>
     <message>
         <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La posizione in minuti e secondi a questo tempo, e in passi</translation>
     </message>
     <message>
         <source>Te&amp;mpo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Temp&amp;o</translation>
     </message>
     <message>
         <source>Tempo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tempo</translation>
     </message>
     <message>
         <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Il tempo di riproduzione e registrazione in battiti al minuto (Alt+O)</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Canale</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Canale</translation>
     </message>
     <message>
         <source>The channel of notes that you record or draw. A digit key chooses a channel and selects its notes; with Ctrl it moves the selected notes to that channel.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Il canale delle note che registri o disegni. Un tasto numerico sceglie un canale e ne seleziona le note; con Ctrl sposta le note selezionate su quel canale.</translation>
     </message>
     <message>
         <source>%1  ·  step %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1  ·  passo %2</translation>
     </message>
     <message>
         <source> bpm</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> bpm</translation>
     </message>
 </context>
 <context>
     <name>velmora::TuningPanel</name>
     <message>
         <source>Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Temperamento</translation>
     </message>
     <message>
         <source>Open T&amp;uning…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri t&amp;emperamento…</translation>
     </message>
     <message>
         <source>Open a tuning file: a scale (.scl) or frequencies (.mtx)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Apri un file di temperamento: una scala (.scl) o frequenze (.mtx)</translation>
     </message>
     <message>
         <source>The pitches of middle C and of the A above it in this tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Le altezze del Do centrale e del La soprastante in questo temperamento</translation>
     </message>
     <message>
         <source>%1 (middle C): %2 Hz
 %3: %4 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (Do centrale): %2&#xa0;Hz
+%3: %4&#xa0;Hz</translation>
     </message>
     <message>
         <source>Equal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Equabile</translation>
     </message>
     <message>
         <source>Twelve equal semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dodici semitoni uguali</translation>
     </message>
     <message>
         <source>Quartercomma Meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mesotonico a un quarto di comma</translation>
     </message>
     <message>
         <source>Pure major thirds</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Terze maggiori pure</translation>
     </message>
     <message>
         <source>Dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dinamico</translation>
     </message>
     <message>
         <source>Adapts its thirds to what you play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Adatta le terze a ciò che suoni</translation>
     </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
     <message>
         <source>Tuning strip</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Striscia del temperamento</translation>
     </message>
     <message>
         <source>How many cents each note of the tuning lies above or below equal temperament</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Di quanti cent ogni nota del temperamento sta sopra o sotto quello equabile</translation>
     </message>
     <message>
         <source>%1: %2 cents</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2 cent</translation>
     </message>
 </context>
 <context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>Open pieces</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Brani aperti</translation>
     </message>
     <message>
         <source>Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tastiera</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Strumento</translation>
     </message>
     <message>
         <source>Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Temperamento</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;File</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Modifica</translation>
     </message>
     <message>
         <source>&amp;Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Brano</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Visualizza</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Aiuto</translation>
     </message>
     <message>
         <source>Silence Everything</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Silenzia tutto</translation>
     </message>
 </context>
 <context>
     <name>velmora::nameParts</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Altro</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancella</translation>
     </message>
 </context>
 <context>
     <name>velmora::noteNames</name>
     <message>
         <source>La</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La</translation>
     </message>
     <message>
         <source>Si</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Si</translation>
     </message>
     <message>
         <source>Do</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Do</translation>
     </message>
     <message>
         <source>Re</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Re</translation>
     </message>
     <message>
         <source>Mi</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mi</translation>
     </message>
     <message>
         <source>Fa</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fa</translation>
     </message>
     <message>
         <source>Sol</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sol</translation>
     </message>
 </context>
 <context>
     <name>velmora::programNames</name>
     <message>
         <source>1 Acoustic Grand Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">1 Pianoforte a coda</translation>
     </message>
     <message>
         <source>2 Bright Acoustic Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">2 Pianoforte brillante</translation>
     </message>
     <message>
         <source>3 Electric Grand Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">3 Pianoforte a coda elettrico</translation>
     </message>
     <message>
         <source>4 Honky-Tonk Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">4 Pianoforte honky-tonk</translation>
     </message>
     <message>
         <source>5 Rhodes Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">5 Piano Rhodes</translation>
     </message>
     <message>
         <source>6 Chorus Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">6 Piano con chorus</translation>
     </message>
     <message>
         <source>7 Harpsichord</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">7 Clavicembalo</translation>
     </message>
     <message>
         <source>8 Clavinet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">8 Clavinet</translation>
     </message>
     <message>
         <source>9 Celesta</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">9 Celesta</translation>
     </message>
     <message>
         <source>10 Glockenspiel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">10 Glockenspiel</translation>
     </message>
     <message>
         <source>11 Music Box</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">11 Carillon</translation>
     </message>
     <message>
         <source>12 Vibraphone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">12 Vibrafono</translation>
     </message>
     <message>
         <source>13 Marimba</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">13 Marimba</translation>
     </message>
     <message>
         <source>14 Xylophone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">14 Xilofono</translation>
     </message>
     <message>
         <source>15 Tubular Bells</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">15 Campane tubolari</translation>
     </message>
     <message>
         <source>16 Dulcimer</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">16 Salterio</translation>
     </message>
     <message>
         <source>17 Hammond Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">17 Organo Hammond</translation>
     </message>
     <message>
         <source>18 Percusive Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">18 Organo percussivo</translation>
     </message>
     <message>
         <source>19 Rock Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">19 Organo rock</translation>
     </message>
     <message>
         <source>20 Church Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">20 Organo da chiesa</translation>
     </message>
     <message>
         <source>21 Reed Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">21 Armonium</translation>
     </message>
     <message>
         <source>22 Accordion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">22 Fisarmonica</translation>
     </message>
     <message>
         <source>23 Harmonica</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">23 Armonica a bocca</translation>
     </message>
     <message>
         <source>24 Tango Accordion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">24 Bandoneon</translation>
     </message>
     <message>
         <source>25 Nylon Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">25 Chitarra con corde di nylon</translation>
     </message>
     <message>
         <source>26 Steel String Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">26 Chitarra con corde d’acciaio</translation>
     </message>
     <message>
         <source>27 Jazz Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">27 Chitarra jazz</translation>
     </message>
     <message>
         <source>28 Clean E. Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">28 Chitarra elettrica pulita</translation>
     </message>
     <message>
         <source>29 Mute E. Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">29 Chitarra elettrica stoppata</translation>
     </message>
     <message>
         <source>30 Overdrive Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">30 Chitarra overdrive</translation>
     </message>
     <message>
         <source>31 Distort Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">31 Chitarra distorta</translation>
     </message>
     <message>
         <source>32 Harmonics</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">32 Armonici</translation>
     </message>
     <message>
         <source>33 Acoustic Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">33 Basso acustico</translation>
     </message>
     <message>
         <source>34 Finger E. Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">34 Basso elettrico (dita)</translation>
     </message>
     <message>
         <source>35 Picked E. Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">35 Basso elettrico (plettro)</translation>
     </message>
     <message>
         <source>36 Fretless Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">36 Basso fretless</translation>
     </message>
     <message>
         <source>37 Slap Bass 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">37 Basso slap 1</translation>
     </message>
     <message>
         <source>38 Slap Bass 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">38 Basso slap 2</translation>
     </message>
     <message>
         <source>39 Synth Bass1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">39 Basso synth 1</translation>
     </message>
     <message>
         <source>40 Synth Bass2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">40 Basso synth 2</translation>
     </message>
     <message>
         <source>41 Violin</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">41 Violino</translation>
     </message>
     <message>
         <source>42 Viola</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">42 Viola</translation>
     </message>
     <message>
         <source>43 Cello</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">43 Violoncello</translation>
     </message>
     <message>
         <source>44 Contrabass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">44 Contrabbasso</translation>
     </message>
     <message>
         <source>45 Tremolo Strings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">45 Archi in tremolo</translation>
     </message>
     <message>
         <source>46 Pizzicato Strings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">46 Archi in pizzicato</translation>
     </message>
     <message>
         <source>47 Orchestral Harp</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">47 Arpa</translation>
     </message>
     <message>
         <source>48 Timpani</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">48 Timpani</translation>
     </message>
     <message>
         <source>49 String Ensemble 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">49 Ensemble d’archi 1</translation>
     </message>
     <message>
         <source>50 String Ensemble 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">50 Ensemble d’archi 2</translation>
     </message>
     <message>
         <source>51 Synth Strings 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">51 Archi synth 1</translation>
     </message>
     <message>
         <source>52 Synth Strings 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">52 Archi synth 2</translation>
     </message>
     <message>
         <source>53 Choir Aahs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">53 Coro «aah»</translation>
     </message>
     <message>
         <source>54 Voice Oohs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">54 Voci «ooh»</translation>
     </message>
     <message>
         <source>55 Synth Voice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">55 Voce synth</translation>
     </message>
     <message>
         <source>56 Orchestra Hit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">56 Colpo d’orchestra</translation>
     </message>
     <message>
         <source>57 Trumpet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">57 Tromba</translation>
     </message>
     <message>
         <source>58 Trombone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">58 Trombone</translation>
     </message>
     <message>
         <source>59 Tuba</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">59 Tuba</translation>
     </message>
     <message>
         <source>60 Mute Trumpet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">60 Tromba con sordina</translation>
     </message>
     <message>
         <source>61 French Horn</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">61 Corno</translation>
     </message>
     <message>
         <source>62 Brass Section</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">62 Ottoni</translation>
     </message>
     <message>
         <source>63 Synth Brass 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">63 Ottoni synth 1</translation>
     </message>
     <message>
         <source>64 Synth Brass 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">64 Ottoni synth 2</translation>
     </message>
     <message>
         <source>65 Soprano Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">65 Sax soprano</translation>
     </message>
     <message>
         <source>66 Alto Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">66 Sax contralto</translation>
     </message>
     <message>
         <source>67 Tenor Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">67 Sax tenore</translation>
     </message>
     <message>
         <source>68 Baritone Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">68 Sax baritono</translation>
     </message>
     <message>
         <source>69 Oboe</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">69 Oboe</translation>
     </message>
     <message>
         <source>70 English Horn</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">70 Corno inglese</translation>
     </message>
     <message>
         <source>71 Bassoon</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">71 Fagotto</translation>
     </message>
     <message>
         <source>72 Clarinet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">72 Clarinetto</translation>
     </message>
     <message>
         <source>73 Piccolo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">73 Ottavino</translation>
     </message>
     <message>
         <source>74 Flute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">74 Flauto traverso</translation>
     </message>
     <message>
         <source>75 Recorder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">75 Flauto dolce</translation>
     </message>
     <message>
         <source>76 Pan Flute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">76 Flauto di Pan</translation>
     </message>
     <message>
         <source>77 Bottle Blow</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">77 Soffio di bottiglia</translation>
     </message>
     <message>
         <source>78 Shakuhachi</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">78 Shakuhachi</translation>
     </message>
     <message>
         <source>79 Whistle</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">79 Fischio</translation>
     </message>
     <message>
         <source>80 Ocarina</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">80 Ocarina</translation>
     </message>
     <message>
         <source>81 Square Wave</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">81 Onda quadra</translation>
     </message>
     <message>
         <source>82 Saw Tooth</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">82 Dente di sega</translation>
     </message>
     <message>
         <source>83 Syn Calliope</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">83 Calliope synth</translation>
     </message>
     <message>
         <source>84 Chiffer Lead</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">84 Chiff solista</translation>
     </message>
     <message>
         <source>85 Charang</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">85 Charang</translation>
     </message>
     <message>
         <source>86 Solo Vox</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">86 Voce solista</translation>
     </message>
     <message>
         <source>87 5th Saw Wave</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">87 Dente di sega in quinte</translation>
     </message>
     <message>
         <source>88 Brass &amp; Lead</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">88 Ottoni e solista</translation>
     </message>
     <message>
         <source>89 Fantasia</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">89 Fantasia</translation>
     </message>
     <message>
         <source>90 Warm Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">90 Pad caldo</translation>
     </message>
     <message>
         <source>91 Polysynth</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">91 Polysynth</translation>
     </message>
     <message>
         <source>92 Space Vox</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">92 Voci spaziali</translation>
     </message>
     <message>
         <source>93 Bowed Glass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">93 Vetro strofinato</translation>
     </message>
     <message>
         <source>94 Metal Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">94 Pad metallico</translation>
     </message>
     <message>
         <source>95 Halo Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">95 Pad aureola</translation>
     </message>
     <message>
         <source>96 Sweep Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">96 Pad sweep</translation>
     </message>
     <message>
         <source>97 Ice Rain</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">97 Pioggia di ghiaccio</translation>
     </message>
     <message>
         <source>98 Soundtrack</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">98 Colonna sonora</translation>
     </message>
     <message>
         <source>99 Crystal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">99 Cristallo</translation>
     </message>
     <message>
         <source>100 Atmosphere</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">100 Atmosfera</translation>
     </message>
     <message>
         <source>101 Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">101 Brillantezza</translation>
     </message>
     <message>
         <source>102 Goblin</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">102 Folletto</translation>
     </message>
     <message>
         <source>103 Echo Drops</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">103 Gocce d’eco</translation>
     </message>
     <message>
         <source>104 Star Theme</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">104 Tema stellare</translation>
     </message>
     <message>
         <source>105 Sitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">105 Sitar</translation>
     </message>
     <message>
         <source>106 Banjo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">106 Banjo</translation>
     </message>
     <message>
         <source>107 Shamisen</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">107 Shamisen</translation>
     </message>
     <message>
         <source>108 Koto</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">108 Koto</translation>
     </message>
     <message>
         <source>109 Kalimba</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">109 Kalimba</translation>
     </message>
     <message>
         <source>110 Bag Pipe</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">110 Cornamusa</translation>
     </message>
     <message>
         <source>111 Fiddle</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">111 Violino folk</translation>
     </message>
     <message>
         <source>112 Shanai</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">112 Shehnai</translation>
     </message>
     <message>
         <source>113 Tinkle Bell</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">113 Campanellini</translation>
     </message>
     <message>
         <source>114 Agogo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">114 Agogô</translation>
     </message>
     <message>
         <source>115 Steel Drums</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">115 Steel drum</translation>
     </message>
     <message>
         <source>116 Woodblock</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">116 Wood block</translation>
     </message>
     <message>
         <source>117 Taiko Drum</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">117 Taiko</translation>
     </message>
     <message>
         <source>118 Melodic Tom</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">118 Tom melodico</translation>
     </message>
     <message>
         <source>119 Synth Drum</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">119 Tamburo synth</translation>
     </message>
     <message>
         <source>120 Reverse Cymbal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">120 Piatto inverso</translation>
     </message>
     <message>
         <source>121 Guitar Fret Noise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">121 Rumore di tasti di chitarra</translation>
     </message>
     <message>
         <source>122 Breath Noise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">122 Respiro</translation>
     </message>
     <message>
         <source>123 Sea Shore</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">123 Riva del mare</translation>
     </message>
     <message>
         <source>124 Bird Tweet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">124 Cinguettio</translation>
     </message>
     <message>
         <source>125 Telephone Ring</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">125 Squillo di telefono</translation>
     </message>
     <message>
         <source>126 Helicopter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">126 Elicottero</translation>
     </message>
     <message>
         <source>127 Applause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">127 Applauso</translation>
     </message>
     <message>
         <source>128 Gun Shot</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">128 Sparo</translation>
     </message>
 </context>
 </TS>
