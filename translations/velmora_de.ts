@@ -187,10 +187,6 @@
         <translation type="unfinished">%1: unbekannter Dateityp. Velmora erkennt Dateien an ihrer Endung wie .mid, .scl oder .sf2.</translation>
     </message>
     <message>
-        <source>%1: contains no instrument that Velmora can play</source>
-        <translation type="unfinished">%1: enthält kein Instrument, das Velmora spielen kann</translation>
-    </message>
-    <message>
         <source>%1: %2; see Import Report in the Instruments window</source>
         <translation type="unfinished">%1: %2; siehe „Importbericht“ im Fenster „Instrumente“</translation>
     </message>
@@ -205,10 +201,6 @@
     <message>
         <source>The General MIDI player is silent because there is no SoundFont for it. Choose one in the preferences.</source>
         <translation type="unfinished">Der General-MIDI-Spieler ist stumm, weil es keinen SoundFont für ihn gibt. Wählen Sie einen in den Einstellungen.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be used as the General MIDI bank. %2 is used instead.</source>
-        <translation type="unfinished">%1 lässt sich nicht als General-MIDI-Bank verwenden. Stattdessen wird %2 verwendet.</translation>
     </message>
     <message>
         <source>Velmora</source>
@@ -255,6 +247,14 @@
 %1</source>
         <translation type="unfinished">Nicht alles, was beim letzten Mal offen war, ließ sich öffnen.
 %1</translation>
+    </message>
+    <message>
+        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
+        <translation type="unfinished">%1: Velmora kann Instrumente dieses Formats nicht spielen. Wandeln Sie es in einen SoundFont (.sf2) um, und öffnen Sie diesen.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
+        <translation type="unfinished">%1 kann nicht als General-MIDI-Bank dienen. Stattdessen wird %2 verwendet. Wählen Sie in den Einstellungen einen anderen SoundFont.</translation>
     </message>
 </context>
 <context>

@@ -187,10 +187,6 @@
         <translation type="unfinished">%1&#x202f;: type de fichier inconnu. Velmora reconnaît les fichiers à leur extension, telle que .mid, .scl ou .sf2.</translation>
     </message>
     <message>
-        <source>%1: contains no instrument that Velmora can play</source>
-        <translation type="unfinished">%1&#x202f;: ne contient aucun instrument que Velmora puisse jouer</translation>
-    </message>
-    <message>
         <source>%1: %2; see Import Report in the Instruments window</source>
         <translation type="unfinished">%1&#x202f;: %2&#x202f;; voir «&#x202f;Rapport d’importation&#x202f;» dans la fenêtre «&#x202f;Instruments&#x202f;»</translation>
     </message>
@@ -205,10 +201,6 @@
     <message>
         <source>The General MIDI player is silent because there is no SoundFont for it. Choose one in the preferences.</source>
         <translation type="unfinished">Le synthétiseur General MIDI est muet, faute de SoundFont. Choisissez-en une dans les préférences.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be used as the General MIDI bank. %2 is used instead.</source>
-        <translation type="unfinished">%1 ne peut pas servir de banque General MIDI. %2 est utilisé à la place.</translation>
     </message>
     <message>
         <source>Velmora</source>
@@ -255,6 +247,14 @@
 %1</source>
         <translation type="unfinished">Tout ce qui était ouvert la dernière fois n’a pas pu être rouvert.
 %1</translation>
+    </message>
+    <message>
+        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

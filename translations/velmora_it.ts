@@ -187,10 +187,6 @@
         <translation type="unfinished">%1: tipo di file sconosciuto. Velmora riconosce i file dall’estensione, come .mid, .scl o .sf2.</translation>
     </message>
     <message>
-        <source>%1: contains no instrument that Velmora can play</source>
-        <translation type="unfinished">%1: non contiene strumenti che Velmora possa suonare</translation>
-    </message>
-    <message>
         <source>%1: %2; see Import Report in the Instruments window</source>
         <translation type="unfinished">%1: %2; vedi «Rapporto di importazione» nella finestra «Strumenti»</translation>
     </message>
@@ -205,10 +201,6 @@
     <message>
         <source>The General MIDI player is silent because there is no SoundFont for it. Choose one in the preferences.</source>
         <translation type="unfinished">Il sintetizzatore General MIDI è muto perché non ha un SoundFont. Scegline uno nelle preferenze.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be used as the General MIDI bank. %2 is used instead.</source>
-        <translation type="unfinished">%1 non può servire da banco General MIDI. Al suo posto si usa %2.</translation>
     </message>
     <message>
         <source>Velmora</source>
@@ -255,6 +247,14 @@
 %1</source>
         <translation type="unfinished">Non è stato possibile riaprire tutto ciò che era aperto l’ultima volta.
 %1</translation>
+    </message>
+    <message>
+        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

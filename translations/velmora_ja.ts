@@ -186,10 +186,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1: contains no instrument that Velmora can play</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1: %2; see Import Report in the Instruments window</source>
         <translation type="unfinished"></translation>
     </message>
@@ -203,10 +199,6 @@
     </message>
     <message>
         <source>The General MIDI player is silent because there is no SoundFont for it. Choose one in the preferences.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 cannot be used as the General MIDI bank. %2 is used instead.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -252,6 +244,14 @@
     <message>
         <source>Not everything that was open last time could be opened.
 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -113,7 +113,9 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
         errorString_ = error.inFile(path.filename().string());
     } catch (const std::bad_alloc&) {
         errorString_ =
-            FormatError("is too large to be read into memory").inFile(path.filename().string());
+            FormatError(
+                "is too large for the free memory; unload other instruments, then open it again")
+                .inFile(path.filename().string());
     }
     logger("import").info("{}", errorString_);
     return false;

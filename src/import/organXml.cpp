@@ -93,7 +93,8 @@ private:
         }
         // See docs/decisions.md, 55.
         if (file->second.licensed)
-            throw FormatError("cannot be loaded: its samples are encrypted and need a licence");
+            throw FormatError("cannot be loaded: its samples are encrypted and need a licence; "
+                              "open an organ without encryption");
         added.key = pipe.note;
         added.file = fileIndex(file->second);
     }

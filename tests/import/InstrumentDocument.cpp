@@ -166,7 +166,7 @@ TEST_F(InstrumentDocumentTest, IsUnchangedIfAFileCannotBeRead)
         {folder_.write("b/bare.xml", xmlOrganDefinition({{"_General", {}}})),
          "bare.xml: has no object list of the type Pipe_SoundEngine01_Layer"},
         {writeXml("123", "1"), "anne.Organ_Hauptwerk_xml: cannot be loaded: its samples are "
-                               "encrypted and need a licence"},
+                               "encrypted and need a licence; open an organ without encryption"},
     };
     for (const auto& [path, sentence] : rows) {
         EXPECT_FALSE(read(path)) << path;

@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -27,10 +28,13 @@ ProgressWindow::ProgressWindow() : bar_(new QProgressBar), label_(new QLabel)
     setWindowModality(Qt::ApplicationModal);
     setMinimumWidth(kWidth);
     bar_->setAccessibleName(tr("Progress"));
+    bar_->setFocusPolicy(Qt::TabFocus); // so that screen readers say how far it is
     label_->setTextFormat(Qt::PlainText);
     // A long name must not widen the window.
     label_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    // Space and Return were meant for the piece when the window opened.
+    buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
     connect(buttons, &QDialogButtonBox::rejected, this, &ProgressWindow::reject);
 
     auto* column = new QVBoxLayout(this);
@@ -45,6 +49,7 @@ void ProgressWindow::startProgress(long steps)
     bar_->setValue(0);
     label_->clear();
     sinceEvents_.start();
+    bar_->setFocus();
     show();
     QCoreApplication::processEvents();
 }

@@ -265,7 +265,10 @@ void Desktop::openInstrument(const QString& path, InstrumentFormat format)
         return;
     }
     if (document->instrument() == nullptr) {
-        showError(tr("%1: contains no instrument that Velmora can play").arg(name));
+        showError(
+            tr("%1: Velmora cannot play instruments of this format. Convert it to a SoundFont "
+               "(.sf2), then open that.")
+                .arg(name));
         return;
     }
     const std::size_t skipped = document->report().skipped.size();
@@ -390,7 +393,9 @@ void Desktop::showBank()
                          "Choose one in the preferences.");
     else if (!wanted.isEmpty() && wanted != bank)
         bankNotice_ =
-            tr("%1 cannot be used as the General MIDI bank. %2 is used instead.").arg(wanted, bank);
+            tr("%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another "
+               "SoundFont in the preferences.")
+                .arg(wanted, bank);
     else
         bankNotice_.clear();
     if (!bankNotice_.isEmpty())

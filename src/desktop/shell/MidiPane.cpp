@@ -19,7 +19,7 @@ namespace velmora {
 namespace {
 
 constexpr int kPaneWidth = 520;
-constexpr int kPaneHeight = 220;
+constexpr int kPaneHeight = 120;
 
 enum Column { kNameColumn, kOnColumn, kChannelColumn, kKeysColumn, kColumns };
 
