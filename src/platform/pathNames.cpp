@@ -4,6 +4,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <string>
 #include <system_error>
 
@@ -48,7 +49,7 @@ std::filesystem::path findAlike(const std::filesystem::path& folder, const QStri
     std::error_code error;
     auto entry = std::filesystem::directory_iterator(folder, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        const std::filesystem::path found = entry->path().filename();
+        std::filesystem::path found = entry->path().filename();
         if (QFile::decodeName(found.c_str()) == name)
             return found;
     }

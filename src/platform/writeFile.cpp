@@ -17,7 +17,7 @@ namespace {
 /// Writes the file. Returns the reason for a failure, or an empty text on success.
 std::string tryToWrite(const std::filesystem::path& path, std::string_view bytes)
 {
-    const std::string reason = reasonNotToReplace(path);
+    std::string reason = reasonNotToReplace(path);
     if (!reason.empty())
         return reason;
     try {

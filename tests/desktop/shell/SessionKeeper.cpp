@@ -105,7 +105,7 @@ TEST_F(SessionKeeperTest, AsksAfterAnEndWhileItOpenedTheLastSession)
     run([&](Desktop& desktop) { desktop.open({piece()}); });
     for (const auto& [answer, pieces] :
          {std::pair("Start Empty", 0U), std::pair("Open Again", 1U)}) {
-        std::ofstream(settingsFolder() / "last.opening");
+        std::ofstream(settingsFolder() / "last.opening") << "as after a crash";
         Desktop desktop;
         desktop.launch();
         EXPECT_THAT(answering(answer, [&] { desktop.openLastSession(); }),
