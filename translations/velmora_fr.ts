@@ -250,11 +250,11 @@
     </message>
     <message>
         <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1&#x202f;: Velmora ne peut pas jouer les instruments de ce format. Convertissez-le en SoundFont (.sf2), puis ouvrez celle-ci.</translation>
     </message>
     <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 ne peut pas servir de banque General MIDI. %2 est utilisé à la place. Choisissez une autre SoundFont dans les préférences.</translation>
     </message>
 </context>
 <context>

@@ -250,11 +250,11 @@
     </message>
     <message>
         <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: Velmora non può suonare strumenti in questo formato. Convertilo in un SoundFont (.sf2), poi apri quello.</translation>
     </message>
     <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 non può servire da banco General MIDI. Al suo posto si usa %2. Scegli un altro SoundFont nelle preferenze.</translation>
     </message>
 </context>
 <context>
