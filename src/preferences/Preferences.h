@@ -27,7 +27,7 @@ PrefRange prefRange(const std::string& key);
 
 /// Returns a boolean preference: "KeyNames" shows the names of the C keys on the keyboard;
 /// "PlainReading" reads MIDI devices with `midiRead`, without the translator; "StartAsLastTime"
-/// opens at the start what was open at the end.
+/// opens at the start what was open at the end; "ReduceMotion" scrolls at once instead of gliding.
 bool getPrefBool(const std::string& key);
 void setPrefBool(const std::string& key, bool value);
 

@@ -33,6 +33,7 @@ const QVariantMap& defaults()
         {"NoteNames", 0}, // by language
         {"Language", ""},
         {"Scheme", "Calm"},
+        {"ReduceMotion", false},
         {"GMBank", ""},
         {"PlainReading", false},
         {"StartAsLastTime", true},

@@ -94,12 +94,17 @@ void Practice::advance()
     if (std::any_of(states.begin(), states.end(), isUnanswered))
         return;
 
+    const bool isAnswered =
+        std::ranges::any_of(states, [](int state) { return state == (kWanted | kPressed); });
     LiveKeys& keys = transport_.host().liveKeys();
     for (std::size_t key = 0; key < kKeys; ++key) {
         const int before = keys.take(key);
         states[key] = before == kPressed ? kHeld : before;
     }
+    const double answered = transport_.position();
     nextNote();
+    if (isAnswered)
+        done_ = transport_.position() == answered ? std::optional(answered) : std::nullopt;
     const Interval& interval = transport_.interval();
     if (transport_.loops() && interval.start < interval.end &&
         interval.end <= transport_.position()) {
@@ -111,6 +116,14 @@ void Practice::advance()
     for (auto i = static_cast<std::size_t>(std::max(transport_.cursor(), 0));
          i < notes.size() && notes[i].start - transport_.position() <= kTolerance; ++i)
         states[notes[i].key] |= kWanted;
+}
+
+bool Practice::isDone() const
+{
+    const auto& notes = sequence_.notes();
+    return done_ == transport_.position() && !transport_.loops() &&
+           std::none_of(notes.begin(), notes.end(),
+                        [this](const Note& note) { return note.start - *done_ > kTolerance; });
 }
 
 // See docs/decisions.md, 93.

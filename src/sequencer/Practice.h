@@ -4,6 +4,8 @@
 #include "sequencer/Sequence.h"
 #include "sequencer/Transport.h"
 
+#include <optional>
+
 namespace velmora {
 
 /// Moves from chord to chord, on command or when the user has struck every key of the chord at the
@@ -32,6 +34,9 @@ public:
     /// other.
     void advance();
 
+    /// True if the user has struck the last chord and the position is still there.
+    bool isDone() const;
+
     /// Shows the keys after live input, and advances if the transport is stopped.
     void midiInput() override;
     int stateOfNote(unsigned key) const override { return transport_.playback().states[key]; }
@@ -39,6 +44,7 @@ public:
 private:
     Transport& transport_;
     const Sequence& sequence_;
+    std::optional<double> done_; ///< The position of the last chord, once it was struck.
 };
 
 } // namespace velmora

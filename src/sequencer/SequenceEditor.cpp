@@ -212,6 +212,20 @@ void SequenceEditor::selectUpTo(double end)
             edit->select(note);
 }
 
+void SequenceEditor::movePosition(double step)
+{
+    transport_.stop();
+    document_.registerTake();
+    recorder_.waitAt(snapped(step));
+    document_.practice().showKeys();
+    emit transport_.frame();
+}
+
+void SequenceEditor::selectInterval(double one, double other)
+{
+    transport_.selectInterval(snapped(std::min(one, other)), snapped(std::max(one, other)));
+}
+
 double SequenceEditor::snapped(double step) const
 {
     return recorder_.snapToGrid() ? std::floor(step) : step;

@@ -51,6 +51,13 @@ public:
     /// keyboard layout.
     void keyDown(const QKeyEvent& event);
 
+    /// Moves the play position; a recording waits there for the next key. With the grid
+    /// switched on, it moves to a whole step.
+    void movePosition(double step);
+
+    /// Selects the interval between two steps in either order.
+    void selectInterval(double one, double other);
+
     void selectAll();
     void deleteSelection();
 
@@ -90,10 +97,10 @@ private:
     SequenceDocument& document_;
     Transport& transport_;
     Recorder& recorder_;
-    RollPoint click_{};             ///< The point of the last press.
-    bool hitNote_ = false;          ///< True if the last press hit or created a note.
-    bool isNewNote_ = false;        ///< True if the drag draws a new note.
-    std::uint64_t newNote_ = 0;     ///< The note that is being resized or drawn; 0 if none is.
+    RollPoint click_{};         ///< The point of the last press.
+    bool hitNote_ = false;      ///< True if the last press hit or created a note.
+    bool isNewNote_ = false;    ///< True if the drag draws a new note.
+    std::uint64_t newNote_ = 0; ///< The note that is being resized or drawn; 0 if none is.
 };
 
 } // namespace velmora

@@ -17,6 +17,32 @@ protected:
 
 } // namespace
 
+TEST_F(PracticeTest, IsDoneAfterTheLastChord)
+{
+    add(60, 2.0, 1.0);
+    add(62, 4.0, 1.0);
+    practice_.advance();
+    const auto strike = [&](unsigned key) {
+        press(key);
+        practice_.midiInput();
+        release(key);
+        practice_.midiInput();
+        return practice_.isDone();
+    };
+    EXPECT_FALSE(strike(60));
+    EXPECT_FALSE(strike(64)) << "wrong";
+    EXPECT_TRUE(strike(62));
+    add(64, 6.0, 1.0);
+    EXPECT_FALSE(practice_.isDone()) << "there is more to play";
+    practice_.nextNote();
+    EXPECT_TRUE(strike(64));
+    practice_.prevNote();
+    EXPECT_FALSE(practice_.isDone());
+    practice_.nextNote();
+    transport_.setLoop(true);
+    EXPECT_FALSE(strike(64)) << "it begins again";
+}
+
 TEST_F(PracticeTest, AdvancesWhenTheWantedChordIsStruck)
 {
     for (const unsigned key : {60U, 64U})

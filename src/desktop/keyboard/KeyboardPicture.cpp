@@ -4,6 +4,7 @@
 #include "desktop/keyboard/keyMark.h"
 #include "desktop/widgets/noteNames.h"
 #include "preferences/Preferences.h"
+#include "sequencer/KeyboardDocument.h"
 #include "sequencer/LiveKeys.h"
 
 #include <QPainter>
@@ -55,6 +56,20 @@ QRectF classicRect(const KeyQuad& quad, double height)
 }
 
 } // namespace
+
+std::array<int, 128> keyStates(const KeyboardDocument* document, const LiveKeys& keys)
+{
+    std::array<int, 128> states{};
+    bool isAnyWanted = false;
+    for (unsigned key = 0; key < states.size(); ++key) {
+        const int state = document != nullptr ? document->stateOfNote(key) : 0;
+        states[key] = state == 0 && keys.state(key) != 0 ? kHeld : state;
+        isAnyWanted = isAnyWanted || (state & kWanted) != 0;
+    }
+    if (!isAnyWanted && preferredScheme() == Scheme::Calm)
+        std::ranges::replace(states, kPressed, kHeld);
+    return states;
+}
 
 KeyboardPicture::KeyboardPicture(QSize viewSize, const QPalette& palette)
     : scheme(preferredScheme()), geometry{static_cast<double>(getPrefInt("KeyWidth")),
@@ -152,6 +167,8 @@ void KeyboardPicture::paintCalm(QPainter& painter) const
                 continue;
             const Color* fill = color(state(quad));
             const QRectF rect = sharpRect(quad, origin, size.height(), ratio);
+            if (rect.right() < 0 || rect.left() > size.width())
+                continue;
             if (isBlack) // its frame
                 painter.fillPath(keyPath(rect), QColor(kBed));
             const QRectF face = isBlack ? rect.adjusted(1, 0, -1, -1.5) : rect;

@@ -12,6 +12,14 @@ class QPalette;
 
 namespace velmora {
 
+class KeyboardDocument;
+class LiveKeys;
+
+/// Returns the state of each key as it is shown: as the document says or, where it says nothing, as
+/// the user holds the key. In the calm scheme a key is only wrong while another one is wanted. See
+/// docs/decisions.md, 112.
+std::array<int, 128> keyStates(const KeyboardDocument* document, const LiveKeys& keys);
+
 /// Everything that the picture of the keyboard depends on.
 struct KeyboardPicture {
     Scheme scheme;

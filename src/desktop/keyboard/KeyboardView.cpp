@@ -10,7 +10,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -65,21 +64,8 @@ QSize KeyboardView::minimumSizeHint() const
 KeyboardPicture KeyboardView::picture() const
 {
     KeyboardPicture picture(size(), palette());
-    for (int key = picture.geometry.lo; key <= picture.geometry.hi; ++key)
-        picture.states[static_cast<std::size_t>(key)] = stateOf(static_cast<unsigned>(key));
-    const bool isWaiting =
-        std::ranges::any_of(picture.states, [](int state) { return (state & kWanted) != 0; });
-    // Where no key is wanted, none is wrong.
-    if (picture.scheme == Scheme::Calm && !isWaiting)
-        std::ranges::replace(picture.states, kPressed, kHeld);
+    picture.states = keyStates(document_, keys_);
     return picture;
-}
-
-// See docs/decisions.md, 112.
-int KeyboardView::stateOf(unsigned key) const
-{
-    const int state = document_ != nullptr ? document_->stateOfNote(key) : 0;
-    return state == 0 && keys_.state(key) != 0 ? kHeld : state;
 }
 
 void KeyboardView::paintGL()

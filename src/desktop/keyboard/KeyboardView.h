@@ -49,8 +49,6 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    int stateOf(unsigned key) const;
-
     /// Releases the key that the mouse holds and presses another one, if it is not `kNoKey`.
     void press(int key);
 

@@ -1,23 +1,16 @@
 #include "desktop/roll/KeyRuler.h"
 
-#include "desktop/keyboard/KeyboardGeometry.h"
-#include "desktop/widgets/noteNames.h"
+#include "desktop/keyboard/KeyboardPicture.h"
 #include "preferences/Preferences.h"
+#include "sequencer/SequenceDocument.h"
 
 #include <QPainter>
-
-#include <algorithm>
 
 namespace velmora {
 
 namespace {
 
-constexpr int kRulerHeight = 30;
-
-/// The range of the letters' height in pixels. No names are shown if the keys are too narrow for
-/// the smallest letters.
-constexpr int kMinRulerLetter = 6;
-constexpr int kMaxRulerLetter = 11;
+constexpr int kRulerHeight = 34;
 
 } // namespace
 
@@ -28,6 +21,27 @@ KeyRuler::KeyRuler(QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+void KeyRuler::setDocument(const SequenceDocument* document)
+{
+    if (document_ != nullptr)
+        disconnect(&document_->transport(), nullptr, this, nullptr);
+    document_ = document;
+    if (document_ != nullptr)
+        connect(&document_->transport(), &Transport::frame, this, &KeyRuler::refresh);
+    refresh();
+}
+
+void KeyRuler::refresh()
+{
+    std::array<int, 128> states{};
+    if (document_ != nullptr && preferredScheme() == Scheme::Calm)
+        states = keyStates(&document_->practice(), document_->transport().host().liveKeys());
+    if (states == states_)
+        return;
+    states_ = states;
+    update();
+}
+
 void KeyRuler::scrollTo(int x)
 {
     x_ = x;
@@ -36,26 +50,13 @@ void KeyRuler::scrollTo(int x)
 
 void KeyRuler::paintEvent(QPaintEvent* /*event*/)
 {
-    QPainter painter(this);
-    painter.fillRect(rect(), Qt::black);
-    painter.translate(-x_, 0);
+    KeyboardPicture picture(size(), palette());
     // A keyboard that starts at a C is aligned with the columns.
-    const KeyboardGeometry geometry{static_cast<double>(getPrefInt("KeyWidth")), 0, 127};
-    QFont font = painter.font();
-    const int letter = std::min(getPrefInt("KeyWidth") * 2 / 3, kMaxRulerLetter);
-    font.setPixelSize(std::max(letter, 1));
-    painter.setFont(font);
-    painter.setPen(QColor(64, 64, 64));
-    for (const KeyQuad& key : geometry.keys(kRulerHeight)) {
-        if (key.right < static_cast<float>(x_) || key.left > static_cast<float>(x_ + width()))
-            continue;
-        const QRectF place(key.left, kRulerHeight - key.top, key.right - key.left,
-                           key.top - key.bottom);
-        painter.fillRect(place, key.isBlack ? Qt::black : Qt::white);
-        if (key.key % 12 == 0 && letter >= kMinRulerLetter)
-            painter.drawText(place, Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip,
-                             noteText(static_cast<unsigned>(key.key)));
-    }
+    picture.geometry = {static_cast<double>(getPrefInt("KeyWidth")), 0, 127};
+    picture.origin = -x_;
+    picture.states = states_;
+    QPainter painter(this);
+    picture.paint(painter);
 }
 
 } // namespace velmora

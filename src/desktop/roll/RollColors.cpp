@@ -131,6 +131,14 @@ RollShade RollColors::atRest(const Note& note) const
     return notes_[note.channel % kChannels][static_cast<std::size_t>(level)];
 }
 
+QColor RollColors::of(const Note& note) const
+{
+    const auto [red, green, blue, opacity] = note.selected ? selected
+                                             : note.active ? playing
+                                                           : atRest(note);
+    return {red, green, blue};
+}
+
 RollShade RollColors::onset(RollShade note) const
 {
     return mixed(note, text_, kOnset);

@@ -34,6 +34,9 @@ struct RollColors {
     /// The colour of a note that is at rest: its channel's, paler if it is soft, or the user's.
     RollShade atRest(const Note& note) const;
 
+    /// The colour of a note in its state, as text behind it needs it.
+    QColor of(const Note& note) const;
+
     /// The darker or lighter colour of a note's onset.
     RollShade onset(RollShade note) const;
 

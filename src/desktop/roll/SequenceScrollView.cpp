@@ -2,6 +2,9 @@
 
 #include "desktop/roll/KeyRuler.h"
 #include "desktop/roll/SequenceView.h"
+#include "desktop/roll/TimeRuler.h"
+#include "desktop/widgets/motion.h"
+#include "desktop/widgets/scheme.h"
 #include "preferences/Preferences.h"
 
 #include <QGridLayout>
@@ -18,6 +21,8 @@ namespace {
 /// A notch of the wheel in eighths of a degree, and the pixels that it scrolls.
 constexpr int kNotch = 120;
 constexpr int kPixelsPerNotch = 64;
+
+constexpr int kGlideMilliseconds = 120;
 
 /// A notch changes the scale by an eighth, but at least by one pixel.
 constexpr int kZoomDivisor = 8;
@@ -40,16 +45,20 @@ int rescaled(int value, double anchor, int before, int after)
 
 SequenceScrollView::SequenceScrollView(QWidget* parent)
     : QWidget(parent), view_(new SequenceView), ruler_(new KeyRuler),
-      horizontal_(new QScrollBar(Qt::Horizontal)), vertical_(new QScrollBar(Qt::Vertical)),
-      keyWidth_(getPrefInt("KeyWidth")), keyHeight_(getPrefInt("KeyHeight"))
+      timeRuler_(new TimeRuler(*view_)), horizontal_(new QScrollBar(Qt::Horizontal)),
+      vertical_(new QScrollBar(Qt::Vertical)), keyWidth_(getPrefInt("KeyWidth")),
+      keyHeight_(getPrefInt("KeyHeight"))
 {
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
-    layout->addWidget(view_, 0, 0);
-    layout->addWidget(vertical_, 0, 1);
-    layout->addWidget(ruler_, 1, 0);
-    layout->addWidget(horizontal_, 2, 0);
+    layout->addWidget(timeRuler_, 0, 0);
+    layout->addWidget(view_, 0, 1);
+    layout->addWidget(vertical_, 0, 2);
+    layout->addWidget(ruler_, 1, 1);
+    layout->addWidget(horizontal_, 2, 1);
+    layout->setColumnStretch(1, 1);
+    timeRuler_->setVisible(preferredScheme() == Scheme::Calm);
     setFocusProxy(view_);
 
     vertical_->setInvertedAppearance(true); // time runs upwards
@@ -61,6 +70,14 @@ SequenceScrollView::SequenceScrollView(QWidget* parent)
         bar->installEventFilter(this);
     }
     view_->installEventFilter(this);
+    glide_.setDuration(kGlideMilliseconds);
+    glide_.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&glide_, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& place) { setBars(place.toPoint()); });
+    connect(view_, &SequenceView::documentChanged, this, [this] {
+        ruler_->setDocument(view_->document());
+        timeRuler_->setDocument(view_->document(), view_->editor());
+    });
     connect(view_, &SequenceView::draggedBeyondEdge, this, [this](QPoint pixels) {
         scrollTo(location() + pixels);
         emit scrolledByUser();
@@ -81,6 +98,8 @@ void SequenceScrollView::updateSize(double steps)
     fitBars();
     if (isScaled)
         scrollTo(place);
+    timeRuler_->setVisible(preferredScheme() == Scheme::Calm);
+    timeRuler_->update();
     view_->redraw();
     ruler_->update();
 }
@@ -101,9 +120,34 @@ void SequenceScrollView::follow()
 {
     view_->scrollTo(location());
     ruler_->scrollTo(location().x());
+    timeRuler_->update();
 }
 
 void SequenceScrollView::scrollTo(QPoint point)
+{
+    glide_.stop();
+    setBars(point);
+}
+
+void SequenceScrollView::glideTo(QPoint point)
+{
+    if (reducesMotion(*this)) {
+        scrollTo(point);
+        return;
+    }
+    glide_.stop();
+    glide_.setStartValue(location());
+    glide_.setEndValue(QPoint(std::clamp(point.x(), 0, horizontal_->maximum()),
+                              std::clamp(point.y(), 0, vertical_->maximum())));
+    glide_.start();
+}
+
+QPoint SequenceScrollView::destination() const
+{
+    return glide_.state() == QAbstractAnimation::Running ? glide_.endValue().toPoint() : location();
+}
+
+void SequenceScrollView::setBars(QPoint point)
 {
     horizontal_->setValue(point.x());
     vertical_->setValue(point.y());
@@ -111,7 +155,7 @@ void SequenceScrollView::scrollTo(QPoint point)
 
 void SequenceScrollView::scrollVertically(double y)
 {
-    vertical_->setValue(barValue(y));
+    scrollTo({destination().x(), barValue(y)});
 }
 
 QPoint SequenceScrollView::location() const
@@ -145,27 +189,54 @@ void SequenceScrollView::wheelEvent(QWheelEvent* event)
 {
     event->accept();
     const bool isZoom = event->modifiers().testFlag(Qt::ControlModifier);
-    wheelRemainder_ += event->angleDelta();
+    wheelRemainder_ += event->angleDelta().isNull() ? event->pixelDelta() * kNotch / kPixelsPerNotch
+                                                    : event->angleDelta();
     if (isZoom) {
         const int notches = wheelRemainder_.y() / kNotch;
         wheelRemainder_.ry() %= kNotch;
-        const QPointF place = view_->mapFrom(this, event->position().toPoint());
-        anchor_ = QPointF(place.x(), view_->height() - place.y());
-        if (event->modifiers().testFlag(Qt::ShiftModifier))
-            zoomKeys(notches);
-        else
-            zoomSteps(notches);
-        anchor_.reset();
+        zoomAround(event->position(), notches, event->modifiers().testFlag(Qt::ShiftModifier));
         return;
     }
     QPoint pixels = event->pixelDelta();
-    if (pixels.isNull())
+    const bool isTouchpad = !pixels.isNull(); // it moves smoothly itself
+    if (!isTouchpad)
         pixels = event->angleDelta() * kPixelsPerNotch / kNotch;
     wheelRemainder_ = {};
     if (event->modifiers().testFlag(Qt::ShiftModifier))
         pixels = pixels.transposed();
-    scrollTo({horizontal_->value() - pixels.x(), vertical_->value() + pixels.y()});
+    const QPoint place = destination() + QPoint(-pixels.x(), pixels.y());
+    if (isTouchpad)
+        scrollTo(place);
+    else
+        glideTo(place);
     emit scrolledByUser();
+}
+
+void SequenceScrollView::zoomAround(QPointF place, int notches, bool keys)
+{
+    const QPoint inView = view_->mapFrom(this, place.toPoint());
+    anchor_ = QPointF(inView.x(), view_->height() - inView.y());
+    if (keys)
+        zoomKeys(notches);
+    else
+        zoomSteps(notches);
+    anchor_.reset();
+}
+
+bool SequenceScrollView::event(QEvent* event)
+{
+    if (event->type() != QEvent::NativeGesture)
+        return QWidget::event(event);
+    const auto* gesture = static_cast<QNativeGestureEvent*>(event);
+    if (gesture->gestureType() == Qt::BeginNativeGesture)
+        pinch_ = 0.0;
+    if (gesture->gestureType() != Qt::ZoomNativeGesture)
+        return QWidget::event(event);
+    pinch_ += gesture->value() * kZoomDivisor;
+    const int notches = static_cast<int>(pinch_);
+    pinch_ -= notches;
+    zoomAround(gesture->position(), notches, false);
+    return true;
 }
 
 bool SequenceScrollView::scrollByKey(int key)
@@ -182,7 +253,12 @@ bool SequenceScrollView::scrollByKey(int key)
                                  {Qt::Key_Home, vertical_, QScrollBar::SliderToMinimum},
                                  {Qt::Key_End, vertical_, QScrollBar::SliderToMaximum}}) {
         if (scroll.key == key) {
+            const QPoint before = location();
+            setBars(destination());
             scroll.bar->triggerAction(scroll.action);
+            const QPoint after = location();
+            setBars(before);
+            glideTo(after);
             return true;
         }
     }

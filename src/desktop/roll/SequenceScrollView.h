@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QVariantAnimation>
 #include <QWidget>
 
 #include <optional>
@@ -10,9 +11,10 @@ namespace velmora {
 
 class KeyRuler;
 class SequenceView;
+class TimeRuler;
 
-/// The piano roll with its scroll bars and a ruler of key names. Points of the roll are in pixels
-/// from its lower left corner; step 0 is at the bottom.
+/// The piano roll with its scroll bars, a ruler of key names and, in the calm scheme, one of bars.
+/// Points of the roll are in pixels from its lower left corner; step 0 is at the bottom.
 class SequenceScrollView : public QWidget {
     Q_OBJECT
 
@@ -50,13 +52,23 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool event(QEvent* event) override;
     bool scrollByKey(int key);
+
+    /// Scrolls as `scrollTo` does, but gliding if the user likes motion.
+    void glideTo(QPoint point);
+
+    /// Where the roll will be at the end of a glide.
+    QPoint destination() const;
+    void setBars(QPoint point);
+    void zoomAround(QPointF place, int notches, bool keys);
     void zoom(const char* preference, int notches);
     void fitBars();
     void follow();
 
     SequenceView* view_;
     KeyRuler* ruler_;
+    TimeRuler* timeRuler_;
     QScrollBar *horizontal_, *vertical_;
     double steps_ = 0.0;
 
@@ -67,6 +79,8 @@ private:
     /// view; the middle of the view if it is empty.
     std::optional<QPointF> anchor_;
 
+    QVariantAnimation glide_;
+    double pinch_ = 0.0;    ///< The part of a pinch that is less than a notch.
     QPoint wheelRemainder_; ///< Rotation towards the next notch, in eighths of a degree.
 };
 

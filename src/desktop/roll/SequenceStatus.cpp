@@ -4,6 +4,7 @@
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceDocument.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 
@@ -13,6 +14,8 @@
 namespace velmora {
 
 namespace {
+
+constexpr int kMargin = 6;
 
 QString stepText(double step)
 {
@@ -28,9 +31,12 @@ SequenceStatus::SequenceStatus(const SequenceDocument& document)
     mode_->setToolTip(tr("Practice: play the notes at the position to move on to the next ones"));
     // A long chord must not widen the window.
     mode_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    addWidget(mode_, 1);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(kMargin, 2, kMargin, 2);
+    layout->setSpacing(2 * kMargin);
+    layout->addWidget(mode_, 1);
     for (QLabel* label : {selection_, interval_, notes_})
-        addPermanentWidget(label);
+        layout->addWidget(label);
     const Transport& transport = document_.transport();
     connect(&document_, &SequenceDocument::changed, this, &SequenceStatus::showNotes);
     connect(&transport, &Transport::moved, this, &SequenceStatus::showNotes);
@@ -74,18 +80,25 @@ void SequenceStatus::showMode()
 
 QString SequenceStatus::practiceText() const
 {
+    if (document_.practice().isDone())
+        return tr("Done: all notes played");
     QStringList missing, wrong;
+    bool isAnyWanted = false;
     for (unsigned key = 0; key < kKeys; ++key) {
         const int state = document_.practice().stateOfNote(key);
+        isAnyWanted = isAnyWanted || (state & kWanted) != 0;
         if (state == kWanted || state == (kWanted | kHeld))
             missing += noteText(key);
         else if (state == kPressed)
             wrong += noteText(key);
     }
-    QString text = missing.isEmpty() ? QString() : tr("Waiting for %1").arg(missing.join(", "));
-    if (!missing.isEmpty() && !wrong.isEmpty())
-        text += tr("; release %1").arg(wrong.join(", "));
-    return text;
+    if (!isAnyWanted)
+        return {};
+    if (missing.isEmpty())
+        return wrong.isEmpty() ? QString() : tr("Release %1").arg(wrong.join(' '));
+    if (wrong.isEmpty())
+        return tr("Waiting for %1").arg(missing.join(' '));
+    return tr("Waiting for %1; not %2").arg(missing.join(' '), wrong.join(' '));
 }
 
 } // namespace velmora

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStatusBar>
+#include <QWidget>
 
 class QLabel;
 
@@ -8,13 +8,13 @@ namespace velmora {
 
 class SequenceDocument;
 
-/// The status bar of a sequence window. It shows whether the sequence is playing or being recorded,
+/// A strip below a piano roll. It shows whether the sequence is playing or being recorded,
 /// which keys practice waits for, what is selected, and the number of notes.
-class SequenceStatus : public QStatusBar {
+class SequenceStatus : public QWidget {
     Q_OBJECT
 
 public:
-    /// The document must outlive the status bar.
+    /// The document must outlive the strip.
     explicit SequenceStatus(const SequenceDocument& document);
 
 private:

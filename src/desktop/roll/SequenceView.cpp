@@ -2,6 +2,7 @@
 
 #include "desktop/roll/RollAccessible.h"
 #include "desktop/widgets/graphics.h"
+#include "desktop/widgets/noteNames.h"
 #include "preferences/Preferences.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
@@ -9,6 +10,7 @@
 #include <QAccessible>
 #include <QGuiApplication>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
@@ -22,6 +24,13 @@ constexpr int kAutoScrollMilliseconds = 16;
 
 /// The part of the mouse's distance from the edge by which the roll scrolls each time.
 constexpr double kAutoScrollFraction = 0.25;
+
+/// The range of the letters' height in pixels. No names are shown in columns that are too narrow
+/// for the name of C sharp, which is among the widest.
+constexpr int kMinName = 9;
+constexpr int kMaxName = 13;
+constexpr unsigned kWidestKey = 61;
+constexpr double kNameMargin = 4.0;
 
 } // namespace
 
@@ -51,6 +60,7 @@ void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor*
         connect(&document_->transport(), &Transport::moved, this,
                 qOverload<>(&SequenceView::update));
     }
+    emit documentChanged();
     redraw();
 }
 
@@ -111,6 +121,32 @@ void SequenceView::paintGL()
     drawQuads(picture_.blendedEnd(), vertices.size());
     glDisableClientState(GL_COLOR_ARRAY);
     glDisableClientState(GL_VERTEX_ARRAY);
+    if (colors.scheme == Scheme::Calm && getPrefBool("KeyNames"))
+        drawNames(colors);
+}
+
+void SequenceView::drawNames(const RollColors& colors)
+{
+    const RollGeometry geometry = rollGeometry();
+    QFont small = font();
+    small.setPixelSize(std::clamp(geometry.keyWidth / 3, kMinName, kMaxName));
+    const QFontMetricsF metrics(small);
+    if (metrics.horizontalAdvance(noteText(kWidestKey)) > geometry.keyWidth - 4)
+        return;
+    QPainter painter(this);
+    painter.setFont(small);
+    index_.visit(document_->sequence().notes(), geometry.bottomStep(), geometry.topStep(),
+                 [&](const Note& note) {
+                     const RollQuad block = geometry.block(note);
+                     const double room = block.top - std::max(block.bottom, 0.0);
+                     if (room < metrics.height() + 2 * kNameMargin)
+                         return;
+                     painter.setPen(inkOn(colors.of(note)));
+                     const double bottom = height() - std::max(block.bottom, 0.0) - kNameMargin;
+                     painter.drawText(QRectF(block.left, bottom - metrics.height(),
+                                             block.right - block.left, metrics.height()),
+                                      Qt::AlignCenter, noteText(note.key));
+                 });
 }
 
 RollPoint SequenceView::rollPoint(const QPointF& point) const

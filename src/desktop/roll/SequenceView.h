@@ -21,6 +21,7 @@ public:
     /// Both must be replaced before they are destroyed.
     void setDocument(const SequenceDocument* document, SequenceEditor* editor);
     const SequenceDocument* document() const { return document_; }
+    SequenceEditor* editor() const { return editor_; }
 
     /// Moves a point of the roll, in pixels, to the lower left corner of the view.
     void scrollTo(QPoint point);
@@ -36,6 +37,9 @@ public:
     void handleKey(const QKeyEvent& event);
 
 signals:
+    /// Another document is shown.
+    void documentChanged();
+
     /// The mouse is being dragged beyond the edge of the view; the roll should scroll by `pixels`
     /// to the right and up.
     void draggedBeyondEdge(QPoint pixels);
@@ -51,6 +55,7 @@ protected:
 
 private:
     void updateIndex();
+    void drawNames(const RollColors& colors);
     RollPoint rollPoint(const QPointF& point) const;
     RollHit hitAt(const QPointF& point);
 

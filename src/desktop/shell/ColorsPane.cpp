@@ -5,13 +5,15 @@
 #include "preferences/Color.h"
 #include "preferences/Preferences.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QSignalBlocker>
 
 namespace velmora {
 
-ColorsPane::ColorsPane() : scheme_(new QComboBox)
+ColorsPane::ColorsPane() : scheme_(new QComboBox), motion_(new QCheckBox(tr("Red&uce motion")))
 {
     auto* keyboard = new QGroupBox(tr("Keyboard keys"));
     auto* keys = new QFormLayout(keyboard);
@@ -37,6 +39,11 @@ ColorsPane::ColorsPane() : scheme_(new QComboBox)
     });
     auto* scheme = new QFormLayout;
     scheme->addRow(tr("Sch&eme:"), scheme_);
+    motion_->setObjectName("ReduceMotion");
+    motion_->setToolTip(tr("Scroll the piano roll at once instead of gliding"));
+    connect(motion_, &QCheckBox::toggled, this,
+            [](bool isOn) { setPrefBool("ReduceMotion", isOn); });
+    scheme->addRow(QString(), motion_);
 
     auto* standard = new QPushButton(tr("Reset to &Defaults"));
     standard->setObjectName("ResetColors");
@@ -76,6 +83,8 @@ void ColorsPane::reset()
 void ColorsPane::read() const
 {
     scheme_->setCurrentIndex(static_cast<int>(preferredScheme()));
+    const QSignalBlocker blocker(motion_);
+    motion_->setChecked(getPrefBool("ReduceMotion"));
     for (auto* button : findChildren<ColorButton*>()) {
         const QByteArray key = button->objectName().toLatin1();
         button->setColor(schemeColor(key.constData(), palette()).toQColor());

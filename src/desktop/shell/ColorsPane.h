@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QCheckBox;
 class QComboBox;
 class QFormLayout;
 
@@ -26,6 +27,7 @@ private:
     void reset();
 
     QComboBox* scheme_;
+    QCheckBox* motion_;
 };
 
 } // namespace velmora

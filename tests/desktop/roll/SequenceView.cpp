@@ -28,6 +28,7 @@ protected:
     SequenceViewTest()
     {
         setPrefString("Scheme", "Classic");
+        setPrefBool("ReduceMotion", true);
         QPalette palette;
         palette.setColor(QPalette::Highlight, Qt::blue);
         scrollView.setPalette(palette);
@@ -36,13 +37,14 @@ protected:
         scrollView.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&scrollView));
         scrollView.updateSize(1000);
+        QApplication::processEvents(); // the ruler of bars has gone
         scrollView.scrollTo({54 * 14, 0});
     }
 
     ~SequenceViewTest() override
     {
         view.setDocument(nullptr, nullptr);
-        for (const char* key : {"KeyWidth", "KeyHeight", "Scheme"})
+        for (const char* key : {"KeyWidth", "KeyHeight", "Scheme", "ReduceMotion"})
             resetPref(key);
     }
 

@@ -1,0 +1,167 @@
+#include "desktop/roll/TimeRuler.h"
+
+#include "desktop/roll/SequenceView.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
+#include "sequencer/SequenceTime.h"
+
+#include <QLocale>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+/// A handle can be grabbed this many pixels beside it.
+constexpr double kReach = 6.0;
+
+constexpr double kBeatTick = 6.0;
+constexpr double kIntervalEdge = 3.0;
+constexpr int kLoopOpacity = 130, kPlainOpacity = 60; // of 255
+
+} // namespace
+
+TimeRuler::TimeRuler(const SequenceView& view, QWidget* parent) : QWidget(parent), view_(view)
+{
+    setAccessibleName(tr("Bars"));
+    setToolTip(
+        tr("Drag the arrow to move the play position. Drag over the ruler to select the time "
+           "that is looped."));
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+}
+
+void TimeRuler::setDocument(const SequenceDocument* document, SequenceEditor* editor)
+{
+    if (document_ != nullptr)
+        disconnect(&document_->transport(), nullptr, this, nullptr);
+    document_ = document;
+    editor_ = editor;
+    dragged_ = Handle::None;
+    if (document_ != nullptr) {
+        const Transport& transport = document_->transport();
+        connect(&transport, &Transport::moved, this, qOverload<>(&TimeRuler::update));
+        connect(&transport, &Transport::frame, this, qOverload<>(&TimeRuler::update));
+        connect(&transport, &Transport::optionsChanged, this, qOverload<>(&TimeRuler::update));
+    }
+    update();
+}
+
+QSize TimeRuler::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance("0000") + 12, 0};
+}
+
+double TimeRuler::yOf(double step) const
+{
+    return height() - view_.rollGeometry().yOf(step);
+}
+
+double TimeRuler::stepAt(double y) const
+{
+    return std::max(0.0, view_.rollGeometry().pointAt(0, y).step);
+}
+
+TimeRuler::Handle TimeRuler::handleAt(double y) const
+{
+    const Transport& transport = document_->transport();
+    const Interval& interval = transport.interval();
+    const auto isNear = [&](double step) { return std::abs(yOf(step) - y) <= kReach; };
+    if (isNear(transport.position()))
+        return Handle::Position;
+    if (!interval.isEmpty() && isNear(interval.start))
+        return Handle::Start;
+    return !interval.isEmpty() && isNear(interval.end) ? Handle::End : Handle::None;
+}
+
+void TimeRuler::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    if (document_ == nullptr)
+        return;
+    paintBars(painter);
+    paintHandles(painter);
+}
+
+void TimeRuler::paintBars(QPainter& painter) const
+{
+    const RollGeometry geometry = view_.rollGeometry();
+    painter.setPen(palette().color(QPalette::WindowText));
+    for (int beat = geometry.firstStep() / kStepsPerBeat; beat * kStepsPerBeat < geometry.endStep();
+         ++beat) {
+        const double y = std::floor(yOf(beat * kStepsPerBeat)) - 0.5;
+        const bool isBar = beat * kStepsPerBeat % kStepsPerBar == 0;
+        painter.drawLine(QPointF(isBar ? 0 : width() - kBeatTick, y), QPointF(width(), y));
+        if (isBar)
+            painter.drawText(
+                QRectF(4, y - fontMetrics().height() - 1, width(), fontMetrics().height()),
+                Qt::AlignLeft | Qt::AlignBottom,
+                locale().toString(beat * kStepsPerBeat / kStepsPerBar + 1));
+    }
+}
+
+void TimeRuler::paintHandles(QPainter& painter) const
+{
+    const Transport& transport = document_->transport();
+    const QColor color = palette().color(QPalette::Active, QPalette::Highlight);
+    if (const Interval& interval = transport.interval(); !interval.isEmpty()) {
+        QColor band = color;
+        band.setAlpha(transport.loops() ? kLoopOpacity : kPlainOpacity);
+        const double top = yOf(interval.end), bottom = yOf(interval.start);
+        painter.fillRect(QRectF(0, top, width(), bottom - top), band);
+        for (const double edge : {top, bottom - kIntervalEdge})
+            painter.fillRect(QRectF(0, edge, width(), kIntervalEdge), color);
+    }
+    // At an edge of the view the arrow stays in sight.
+    double y = yOf(transport.position());
+    if (y > -kReach && y < height() + kReach)
+        y = std::clamp(y, kReach, std::max(kReach, height() - kReach));
+    const std::array arrow{QPointF(width() - 12, y - kReach), QPointF(width() - 1, y),
+                           QPointF(width() - 12, y + kReach)};
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setBrush(color);
+    painter.drawPolygon(arrow.data(), static_cast<int>(arrow.size()));
+}
+
+void TimeRuler::mousePressEvent(QMouseEvent* event)
+{
+    if (editor_ == nullptr || event->button() != Qt::LeftButton)
+        return;
+    const Interval interval = document_->transport().interval();
+    dragged_ = handleAt(event->position().y());
+    fixed_ = dragged_ == Handle::Start ? interval.end : interval.start;
+    if (dragged_ != Handle::None)
+        return;
+    fixed_ = stepAt(event->position().y());
+    editor_->movePosition(fixed_);
+    editor_->selectInterval(fixed_, fixed_);
+    dragged_ = Handle::End;
+}
+
+void TimeRuler::mouseMoveEvent(QMouseEvent* event)
+{
+    if (editor_ == nullptr)
+        return;
+    const double y = event->position().y();
+    if (dragged_ == Handle::None)
+        setCursor(handleAt(y) == Handle::None ? Qt::ArrowCursor : Qt::SizeVerCursor);
+    else if (dragged_ == Handle::Position)
+        editor_->movePosition(stepAt(y));
+    else
+        editor_->selectInterval(fixed_, stepAt(y));
+}
+
+void TimeRuler::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        dragged_ = Handle::None;
+}
+
+} // namespace velmora
