@@ -1,24 +1,30 @@
 #include "desktop/widgets/closeByKeys.h"
 
 #include <QKeyEvent>
-#include <QShortcut>
 #include <QWidget>
 
 namespace velmora {
 
 namespace {
 
-/// Closes the watched window if Esc is pressed and no widget in it handles the key. A shortcut
-/// would take precedence over the open list of a combo box, and close the window instead of the
-/// list.
-class EscapeFilter : public QObject {
+/// Closes the watched window if Esc or the standard shortcut is pressed and no widget in it handles
+/// the key. A shortcut for Esc would take precedence over the open list of a combo box, and one for
+/// closing would be ambiguous, because it also closes the current piece.
+class ClosingFilter : public QObject {
 public:
     using QObject::QObject;
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        return event->type() == QEvent::KeyPress &&
-               static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel) &&
+        if (event->type() == QEvent::ShortcutOverride &&
+            static_cast<QKeyEvent*>(event)->matches(QKeySequence::Close)) {
+            event->accept(); // so that it comes as a key
+            return true;
+        }
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        return (key.matches(QKeySequence::Cancel) || key.matches(QKeySequence::Close)) &&
                static_cast<QWidget*>(watched)->close();
     }
 };
@@ -27,8 +33,7 @@ public:
 
 void closeByKeys(QWidget& window)
 {
-    new QShortcut(QKeySequence(QKeySequence::Close), &window, [&window] { window.close(); });
-    window.installEventFilter(new EscapeFilter(&window));
+    window.installEventFilter(new ClosingFilter(&window));
 }
 
 } // namespace velmora

@@ -171,17 +171,22 @@ TEST_F(DesktopTest, AppliesPreferencesImmediately)
     setPrefString("GMBank", kBank.string());
 }
 
-TEST_F(DesktopTest, EscapeClosesSecondaryWindows)
+TEST_F(DesktopTest, KeysCloseSecondaryWindowsAndNoPiece)
 {
+    desktop.open({VELMORA_EXAMPLES "/wolf-fantasia.mid"});
     GuideWindow guide;
     for (QWidget* window : std::initializer_list<QWidget*>{&desktop.instrumentsWindow(),
                                                            &desktop.preferencesWindow(), &guide}) {
-        window->show();
-        window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        EXPECT_FALSE(window->isVisible()) << window->windowTitle().toStdString();
+        for (const auto& [key, modifiers] :
+             {std::pair{Qt::Key_Escape, Qt::NoModifier}, {Qt::Key_W, Qt::ControlModifier}}) {
+            window->show();
+            window->activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+            EXPECT_FALSE(window->isVisible()) << window->windowTitle().toStdString();
+        }
     }
+    EXPECT_EQ(desktop.workspace().tabs().count(), 1);
 }
 
 TEST(ProgressWindow, ClosesWithTheStepThatReachesTheMaximumExactly)
