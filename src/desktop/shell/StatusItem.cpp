@@ -2,12 +2,15 @@
 
 #include "desktop/widgets/icons.h"
 
+#include <algorithm>
+
 namespace velmora {
 
 namespace {
 
-/// The longest text that is shown whole, in letters of average width.
-constexpr int kMostLetters = 28;
+/// The longest text that is shown whole, and what is left of it in a narrow window, in letters of
+/// average width.
+constexpr int kMostLetters = 28, kLeastLetters = 6;
 
 } // namespace
 
@@ -18,6 +21,7 @@ StatusItem::StatusItem(const QString& subject)
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     hide(); // until it has a text
 }
 
@@ -27,12 +31,39 @@ void StatusItem::show(const QString& text, const QString& help, Kind kind)
     weight.setBold(kind == Kind::Missing);
     setFont(weight);
     setIcon(kind == Kind::Missing ? velmora::icon("warning") : QIcon());
-    const int room = fontMetrics().averageCharWidth() * kMostLetters;
-    setText(fontMetrics().elidedText(text, Qt::ElideRight, room).replace("&", "&&"));
+    text_ = text;
+    setText(QString(text).replace("&", "&&"));
+    updateGeometry();
     setToolTip(help);
     setVisible(!text.isEmpty());
     if (!text.isEmpty())
         setAccessibleName(text);
+}
+
+QSize StatusItem::sizeWith(int letters) const
+{
+    const int whole = fontMetrics().horizontalAdvance(text_);
+    const int wanted = std::min(whole, fontMetrics().averageCharWidth() * letters);
+    const int present = fontMetrics().horizontalAdvance(text());
+    const QSize size = QToolButton::sizeHint();
+    return {size.width() - present + wanted, size.height()};
+}
+
+QSize StatusItem::sizeHint() const
+{
+    return sizeWith(kMostLetters);
+}
+
+QSize StatusItem::minimumSizeHint() const
+{
+    return sizeWith(kLeastLetters);
+}
+
+void StatusItem::resizeEvent(QResizeEvent* event)
+{
+    QToolButton::resizeEvent(event);
+    const int borders = sizeWith(0).width();
+    setText(fontMetrics().elidedText(text_, Qt::ElideRight, width() - borders).replace("&", "&&"));
 }
 
 } // namespace velmora

@@ -4,8 +4,8 @@
 
 namespace velmora {
 
-/// An item of the status line: a text that can be clicked. A long text is cut off, but screen
-/// readers read it whole.
+/// An item of the status line: a text that can be clicked. A long text is cut off, and
+/// more of it in a narrow window, but screen readers read it whole.
 class StatusItem : public QToolButton {
     Q_OBJECT
 
@@ -20,6 +20,18 @@ public:
 
     /// Shows a text; hides the item if it is empty. `help` is the tooltip.
     void show(const QString& text, const QString& help, Kind kind = Kind::Normal);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    /// The size of the button with a text that is cut off after some letters of average width.
+    QSize sizeWith(int letters) const;
+
+    QString text_; ///< The whole text.
 };
 
 } // namespace velmora

@@ -37,6 +37,14 @@ public:
         return {contentWidth + verticalScrollBar()->sizeHint().width(),
                 QScrollArea::minimumSizeHint().height()};
     }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            updateGeometry(); // its content may need another width now
+        return QScrollArea::eventFilter(watched, event);
+    }
 };
 
 } // namespace

@@ -63,7 +63,10 @@ TEST_F(StatusLineTest, ShowsWhatPlaysAndWhatIsMissing)
     RecordingInstrument instrument(calls);
     desktop.application().setInstrument(instrument, name);
     EXPECT_EQ(items().at(0), name);
-    EXPECT_LT(desktop.workspace().status().findChild<StatusItem*>()->text().size(), 40);
+    EXPECT_LT(desktop.workspace().status().minimumSizeHint().width(), 500);
+    desktop.workspace().resize(640, 400);
+    const auto& item = *desktop.workspace().status().findChild<StatusItem*>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return item.text().endsWith(QChar(0x2026)); }));
     desktop.application().selectInstrument(0);
 }
 
