@@ -36,7 +36,7 @@ public:
 
     QVariant loadResource(int type, const QUrl& name) override
     {
-        const QVariant resource = QTextBrowser::loadResource(type, name);
+        QVariant resource = QTextBrowser::loadResource(type, name);
         if (type != QTextDocument::ImageResource)
             return resource;
         QImage picture = QImage::fromData(resource.toByteArray());
