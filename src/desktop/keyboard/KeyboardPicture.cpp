@@ -32,6 +32,9 @@ constexpr QRgb kWhiteKeyFaceInDark = 0xffdedcd7;
 constexpr double kCorner = 0.15;
 constexpr double kMaxCorner = 4.0;
 
+/// On keys that are lower than this many pixels, a mark takes the place of the name.
+constexpr int kLowKeys = 60;
+
 /// Returns the rectangle of a key from the top of the view, with its sides on whole pixels of the
 /// screen, so that all gaps are equally wide.
 QRectF sharpRect(const KeyQuad& quad, double origin, double height, double ratio)
@@ -160,6 +163,7 @@ void KeyboardPicture::paintCalm(QPainter& painter) const
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(QRect({}, size), QColor(kBed));
     const double ratio = painter.device()->devicePixelRatioF();
+    const bool isLow = size.height() < kLowKeys;
     const QColor white(isDark ? kWhiteKeyFaceInDark : kWhiteKeyFace);
     for (const bool isBlack : {false, true}) {
         for (const KeyQuad& quad : geometry.keys(static_cast<float>(size.height()))) {
@@ -176,7 +180,7 @@ void KeyboardPicture::paintCalm(QPainter& painter) const
             painter.fillPath(keyPath(face), fill != nullptr ? fill->toQColor() : plain);
             if (fill != nullptr)
                 paintKeyMark(painter, state(quad), inkOn(fill->toQColor()),
-                             face.adjusted(0, 0, 0, isBlack ? 0 : -nameHeight()));
+                             face.adjusted(0, 0, 0, isBlack || isLow ? 0 : -nameHeight()));
         }
     }
 }
@@ -198,6 +202,8 @@ void KeyboardPicture::paintNames(QPainter& painter) const
         if (quad.key % 12 != 0 || isCut)
             continue;
         const Color* fill = color(state(quad));
+        if (scheme == Scheme::Calm && fill != nullptr && size.height() < kLowKeys)
+            continue;
         if (scheme == Scheme::Calm)
             painter.setPen(fill != nullptr ? inkOn(fill->toQColor()) : QColor(kClassicName));
         else

@@ -11,9 +11,10 @@ namespace velmora {
 
 namespace {
 
-/// The size of a mark as fractions of a key's face, and its maximum in pixels.
+/// The size of a mark as fractions of a key's face, and its range in pixels.
 constexpr double kMarkWidth = 0.6;
 constexpr double kMarkHeight = 0.18;
+constexpr double kMinMark = 9.0; ///< Unless the key is narrower.
 constexpr double kMaxMark = 14.0;
 
 /// The thickness of a line and the radius of a dot, as fractions of the mark.
@@ -25,10 +26,10 @@ constexpr double kSmallDot = 0.16;
 
 void paintKeyMark(QPainter& painter, int state, const QColor& ink, const QRectF& face)
 {
-    const double size =
-        std::min({face.width() * kMarkWidth, face.height() * kMarkHeight, kMaxMark});
+    const double size = std::min(
+        {face.width() * kMarkWidth, std::max(face.height() * kMarkHeight, kMinMark), kMaxMark});
     const double half = size / 2;
-    const QPointF centre(face.center().x(), face.bottom() - size);
+    const QPointF centre(face.center().x(), face.bottom() - std::min(size, face.height() / 4));
     const auto at = [&](double x, double y) { return centre + QPointF(x, y) * half; };
     const auto dot = [&](double radius) {
         painter.setBrush(ink);

@@ -116,7 +116,9 @@ void SequenceView::paintGL()
     };
     drawQuads(0, picture_.blendedBegin());
     glEnable(GL_BLEND);
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_FALSE); // the picture stays opaque
     drawQuads(picture_.blendedBegin(), picture_.blendedEnd());
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glDisable(GL_BLEND);
     drawQuads(picture_.blendedEnd(), vertices.size());
     glDisableClientState(GL_COLOR_ARRAY);
