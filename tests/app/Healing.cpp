@@ -71,7 +71,7 @@ TEST(Healing, SoundsAgainOnceTheServerIsBack)
         const double restarted = getTime();
         ASSERT_TRUE(isHeard());
         std::printf("heard %.2f s after the start of the server\n", getTime() - restarted);
-        EXPECT_EQ(app.output()->status().missing, "");
+        EXPECT_TRUE(waitUntil([&] { return app.output()->status().missing.empty(); }));
     }
 }
 
