@@ -19,6 +19,9 @@ namespace {
 
 constexpr std::chrono::seconds kPatience{1};
 
+/// A client that seems lost interrupts the sound, so a busy server gets more time for requests.
+constexpr std::chrono::seconds kRequestPatience{3};
+
 /// What the clients of the process have in common.
 struct JackClients {
     std::mutex mutex;
@@ -45,7 +48,8 @@ void loseAllClients(void* /*data*/)
 
 /// Makes a call into libjack, which may never return, on a thread of its own. Returns false if it
 /// has not returned in time. Needs the lock.
-bool callWithPatience(std::unique_lock<std::mutex>& lock, std::function<void()> call)
+bool callWithPatience(std::unique_lock<std::mutex>& lock, std::function<void()> call,
+                      std::chrono::seconds patience = kPatience)
 {
     JackClients& clients = jackClients();
     ++clients.callCount;
@@ -58,7 +62,7 @@ bool callWithPatience(std::unique_lock<std::mutex>& lock, std::function<void()> 
         *hasReturned = true;
         clients.callEnded.notify_all();
     });
-    if (!clients.callEnded.wait_for(lock, kPatience, [&] { return *hasReturned; })) {
+    if (!clients.callEnded.wait_for(lock, patience, [&] { return *hasReturned; })) {
         thread.detach();
         return false;
     }
@@ -128,7 +132,8 @@ bool JackClient::call(std::function<void(jack_client_t*)> function)
 {
     std::unique_lock lock(jackClients().mutex);
     const bool hasReturned = callWithPatience(
-        lock, [state = state_, function = std::move(function)] { function(state->client); });
+        lock, [state = state_, function = std::move(function)] { function(state->client); },
+        kRequestPatience);
     if (!hasReturned)
         state_->isLost = true;
     return hasReturned;
