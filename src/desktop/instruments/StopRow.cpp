@@ -19,7 +19,7 @@ namespace velmora {
 namespace {
 
 constexpr int kFullVolume = 100; ///< In per cent.
-constexpr int kLeastSlider = 50, kLeastName = 60;
+constexpr int kLeastSlider = 36, kLeastName = 50;
 
 } // namespace
 
