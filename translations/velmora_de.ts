@@ -150,6 +150,14 @@
         <source>Use the colours of the scheme again</source>
         <translation type="unfinished">Wieder die Farben des Schemas verwenden</translation>
     </message>
+    <message>
+        <source>Reduce motion</source>
+        <translation type="unfinished">Weniger Bewegung</translation>
+    </message>
+    <message>
+        <source>Scroll the piano roll at once instead of gliding</source>
+        <translation type="unfinished">Die Pianorolle springt, statt zu gleiten</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CommandPalette</name>
@@ -1294,10 +1302,6 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Waiting for %1</source>
         <translation type="unfinished">Wartet auf %1</translation>
     </message>
-    <message>
-        <source>; release %1</source>
-        <translation type="unfinished">; lassen Sie %1 los</translation>
-    </message>
     <message numerus="yes">
         <source>%n note(s) selected</source>
         <translation type="unfinished">
@@ -1311,6 +1315,18 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
             <numerusform>%n Note insgesamt</numerusform>
             <numerusform>%n Noten insgesamt</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Done: all notes played</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Release %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for %1; not %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1910,6 +1926,17 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>%1 %</source>
         <translation type="unfinished">%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeRuler</name>
+    <message>
+        <source>Bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

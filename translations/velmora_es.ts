@@ -150,6 +150,14 @@
         <source>Use the colours of the scheme again</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Reduce motion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scroll the piano roll at once instead of gliding</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>velmora::CommandPalette</name>
@@ -1291,10 +1299,6 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
         <source>Waiting for %1</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>; release %1</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>%n note(s) selected</source>
         <translation type="unfinished">
@@ -1308,6 +1312,18 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
             <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Done: all notes played</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Release %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for %1; not %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1902,6 +1918,17 @@ Click to show all tunings</source>
     </message>
     <message>
         <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeRuler</name>
+    <message>
+        <source>Bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -150,6 +150,14 @@
         <source>Use the colours of the scheme again</source>
         <translation type="unfinished">Revenir aux couleurs de la palette</translation>
     </message>
+    <message>
+        <source>Reduce motion</source>
+        <translation type="unfinished">Réduire les animations</translation>
+    </message>
+    <message>
+        <source>Scroll the piano roll at once instead of gliding</source>
+        <translation type="unfinished">Faire défiler le rouleau d’un coup plutôt qu’en glissant</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CommandPalette</name>
@@ -1294,10 +1302,6 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Waiting for %1</source>
         <translation type="unfinished">En attente de %1</translation>
     </message>
-    <message>
-        <source>; release %1</source>
-        <translation type="unfinished">&#x202f;; relâchez %1</translation>
-    </message>
     <message numerus="yes">
         <source>%n note(s) selected</source>
         <translation type="unfinished">
@@ -1311,6 +1315,18 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
             <numerusform>%n note en tout</numerusform>
             <numerusform>%n notes en tout</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Done: all notes played</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Release %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for %1; not %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1910,6 +1926,17 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>%1 %</source>
         <translation type="unfinished">%1&#x202f;%</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeRuler</name>
+    <message>
+        <source>Bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -150,6 +150,14 @@
         <source>Use the colours of the scheme again</source>
         <translation type="unfinished">Torna ai colori dello schema</translation>
     </message>
+    <message>
+        <source>Reduce motion</source>
+        <translation type="unfinished">Riduci il movimento</translation>
+    </message>
+    <message>
+        <source>Scroll the piano roll at once instead of gliding</source>
+        <translation type="unfinished">Il rullo salta invece di scorrere</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CommandPalette</name>
@@ -1294,10 +1302,6 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Waiting for %1</source>
         <translation type="unfinished">In attesa di %1</translation>
     </message>
-    <message>
-        <source>; release %1</source>
-        <translation type="unfinished">; rilascia %1</translation>
-    </message>
     <message numerus="yes">
         <source>%n note(s) selected</source>
         <translation type="unfinished">
@@ -1311,6 +1315,18 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
             <numerusform>%n nota in tutto</numerusform>
             <numerusform>%n note in tutto</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Done: all notes played</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Release %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for %1; not %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1910,6 +1926,17 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>%1 %</source>
         <translation type="unfinished">%1%</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeRuler</name>
+    <message>
+        <source>Bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,7 @@
 
 namespace velmora {
 
-ColorsPane::ColorsPane() : scheme_(new QComboBox), motion_(new QCheckBox(tr("Red&uce motion")))
+ColorsPane::ColorsPane() : scheme_(new QComboBox), motion_(new QCheckBox(tr("Reduce motion")))
 {
     auto* keyboard = new QGroupBox(tr("Keyboard keys"));
     auto* keys = new QFormLayout(keyboard);
