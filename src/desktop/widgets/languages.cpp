@@ -40,7 +40,7 @@ QStringList languages()
 QString nativeName(const QString& language)
 {
     const QLocale locale(QLocale(language).language(), QLocale::World);
-    const QString name = locale.nativeLanguageName();
+    const QString name = locale.nativeLanguageName().section(' ', 0, 0); // without the country
     return locale.toUpper(name.left(1)) + name.mid(1);
 }
 

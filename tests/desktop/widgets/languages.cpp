@@ -103,6 +103,7 @@ TEST(Languages, HaveNames)
     EXPECT_EQ(nativeName("de"), "Deutsch");
     EXPECT_EQ(nativeName("en"), "English");
     EXPECT_EQ(nativeName("fr"), "Français");
+    EXPECT_EQ(nativeName("es"), "Español");
 }
 
 TEST(Languages, TranslationsKeepPlaceholdersAndMnemonics)
