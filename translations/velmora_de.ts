@@ -152,7 +152,7 @@
     </message>
     <message>
         <source>Reduce motion</source>
-        <translation type="unfinished">Weniger Bewegung</translation>
+        <translation type="unfinished">Bewegung verringern</translation>
     </message>
     <message>
         <source>Scroll the piano roll at once instead of gliding</source>
@@ -1318,15 +1318,15 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
     <message>
         <source>Done: all notes played</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fertig: alle Noten gespielt</translation>
     </message>
     <message>
         <source>Release %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lassen Sie %1 los</translation>
     </message>
     <message>
         <source>Waiting for %1; not %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wartet auf %1; nicht %2</translation>
     </message>
 </context>
 <context>
@@ -1932,11 +1932,11 @@ Ein Klick zeigt alle Stimmungen</translation>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Takte</translation>
     </message>
     <message>
         <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ziehen Sie den Pfeil, um die Spielposition zu bewegen. Ziehen Sie über das Lineal, um die Zeit zu wählen, die sich wiederholt.</translation>
     </message>
 </context>
 <context>

@@ -152,11 +152,11 @@
     </message>
     <message>
         <source>Reduce motion</source>
-        <translation type="unfinished">Réduire les animations</translation>
+        <translation type="unfinished">Réduire les mouvements</translation>
     </message>
     <message>
         <source>Scroll the piano roll at once instead of gliding</source>
-        <translation type="unfinished">Faire défiler le rouleau d’un coup plutôt qu’en glissant</translation>
+        <translation type="unfinished">Faire défiler le piano roll d’un coup au lieu de glisser</translation>
     </message>
 </context>
 <context>
@@ -1318,15 +1318,15 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>Done: all notes played</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Terminé : toutes les notes sont jouées</translation>
     </message>
     <message>
         <source>Release %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Relâchez %1</translation>
     </message>
     <message>
         <source>Waiting for %1; not %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">En attente de %1 ; pas %2</translation>
     </message>
 </context>
 <context>
@@ -1932,11 +1932,11 @@ Cliquez pour afficher tous les tempéraments</translation>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mesures</translation>
     </message>
     <message>
         <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Faites glisser la flèche pour déplacer la position de lecture. Faites glisser sur la règle pour choisir le temps joué en boucle.</translation>
     </message>
 </context>
 <context>

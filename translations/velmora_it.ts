@@ -152,11 +152,11 @@
     </message>
     <message>
         <source>Reduce motion</source>
-        <translation type="unfinished">Riduci il movimento</translation>
+        <translation type="unfinished">Riduci i movimenti</translation>
     </message>
     <message>
         <source>Scroll the piano roll at once instead of gliding</source>
-        <translation type="unfinished">Il rullo salta invece di scorrere</translation>
+        <translation type="unfinished">Fa scorrere il piano roll di colpo invece che gradualmente</translation>
     </message>
 </context>
 <context>
@@ -1318,15 +1318,15 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
     <message>
         <source>Done: all notes played</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fatto: tutte le note suonate</translation>
     </message>
     <message>
         <source>Release %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Rilasciare %1</translation>
     </message>
     <message>
         <source>Waiting for %1; not %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">In attesa di %1; non %2</translation>
     </message>
 </context>
 <context>
@@ -1932,11 +1932,11 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Battute</translation>
     </message>
     <message>
         <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trascinare la freccia per spostare la posizione. Trascinare sul righello per scegliere il tempo ripetuto.</translation>
     </message>
 </context>
 <context>
