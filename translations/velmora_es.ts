@@ -5,1175 +5,1178 @@
     <name>QObject</name>
     <message>
         <source>Import Report</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Informe de importación</translation>
     </message>
     <message>
         <source>Stops: %1, keys: %2, samples: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Registros: %1, teclas: %2, muestras: %3.</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 ya existe. ¿Desea reemplazarlo?</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) or sample(s) were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Se omitió %n archivo o muestra</numerusform>
+            <numerusform>Se omitieron %n archivos o muestras</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 is still sounding. Silence everything (Ctrl+.), then unload it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 todavía suena. Silencie todo (Ctrl+.) y retírelo después.</translation>
     </message>
     <message>
         <source>Velmora cannot draw its windows because OpenGL does not work here. Install libgl1-mesa-dri, which needs no graphics card.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora no puede dibujar sus ventanas porque OpenGL no funciona aquí. Instale libgl1-mesa-dri, que no necesita tarjeta gráfica.</translation>
     </message>
 </context>
 <context>
     <name>deviceText</name>
     <message>
         <source>MIDI port %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Puerto MIDI %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::AboutBox</name>
     <message>
         <source>About Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Acerca de Velmora</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Velmora %1&lt;/h3&gt;&lt;p&gt;Plays keyboard instruments in historical and adaptive tunings.&lt;/p&gt;&lt;p&gt;Velmora uses FluidSynth, the Synthesis ToolKit and OpenAL Soft for sound, libsndfile and WavPack for samples, RtMidi for MIDI, and Qt %2 for its windows.&lt;/p&gt;&lt;p&gt;It is available under the MIT licence.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&lt;h3&gt;Velmora %1&lt;/h3&gt;&lt;p&gt;Toca instrumentos de teclado en afinaciones históricas y adaptativas.&lt;/p&gt;&lt;p&gt;Velmora usa FluidSynth, Synthesis ToolKit y OpenAL Soft para el sonido, libsndfile y WavPack para las muestras, RtMidi para MIDI y Qt %2 para sus ventanas.&lt;/p&gt;&lt;p&gt;Está disponible bajo la licencia MIT.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>velmora::AudioExport</name>
     <message>
         <source>Loading the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cargando el instrumento</translation>
     </message>
     <message>
         <source>Rendering</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Generando el sonido</translation>
     </message>
     <message>
         <source>There is not enough memory to load the instrument a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">No hay memoria suficiente para cargar el instrumento por segunda vez.</translation>
     </message>
 </context>
 <context>
     <name>velmora::ColorsPane</name>
     <message>
         <source>Keyboard keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Teclas del teclado</translation>
     </message>
     <message>
         <source>&amp;Played:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">To&amp;cadas:</translation>
     </message>
     <message>
         <source>Keys that the sequence plays, or waits for in practice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Teclas que la pieza toca, o que espera al practicar</translation>
     </message>
     <message>
         <source>&amp;Right:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Co&amp;rrectas:</translation>
     </message>
     <message>
         <source>Keys that you struck correctly</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Teclas que usted tocó correctamente</translation>
     </message>
     <message>
         <source>&amp;Held:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">M&amp;antenidas:</translation>
     </message>
     <message>
         <source>Keys that you keep holding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Teclas que usted sigue manteniendo</translation>
     </message>
     <message>
         <source>&amp;Wrong:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Erróneas:</translation>
     </message>
     <message>
         <source>Keys that you struck by mistake</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Teclas que usted tocó por error</translation>
     </message>
     <message>
         <source>Piano roll notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Notas del piano roll</translation>
     </message>
     <message>
         <source>&amp;At rest:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">En re&amp;poso:</translation>
     </message>
     <message>
         <source>Notes that are not sounding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Notas que no suenan</translation>
     </message>
     <message>
         <source>&amp;Sounding:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Sonando:</translation>
     </message>
     <message>
         <source>Notes at the play position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Notas en la posición de reproducción</translation>
     </message>
     <message>
         <source>Calm</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sereno</translation>
     </message>
     <message>
         <source>Classic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Clásico</translation>
     </message>
     <message>
         <source>Calm: soft colours that suit the theme of the desktop. Classic: bright colours on white and black</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sereno: colores suaves que combinan con el tema del escritorio. Clásico: colores vivos sobre blanco y negro</translation>
     </message>
     <message>
         <source>Sch&amp;eme:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Es&amp;quema:</translation>
     </message>
     <message>
         <source>Reset to &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Restab&amp;lecer los valores predeterminados</translation>
     </message>
     <message>
         <source>Use the colours of the scheme again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Volver a usar los colores del esquema</translation>
     </message>
     <message>
         <source>Reduce motion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Reducir el movimiento</translation>
     </message>
     <message>
         <source>Scroll the piano roll at once instead of gliding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Desplazar el piano roll de golpe en lugar de deslizarlo</translation>
     </message>
 </context>
 <context>
     <name>velmora::CommandPalette</name>
     <message>
         <source>Find a command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Buscar una orden</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Órdenes</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 – %2</translation>
     </message>
 </context>
 <context>
     <name>velmora::Commands</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>velmora::ComputerKeyboard</name>
     <message>
         <source>Letters play from %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Las letras tocan a partir de %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::Desktop</name>
     <message>
         <source>%1: unrecognised file type. Velmora recognises files by their extensions, such as .mid, .scl or .sf2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: tipo de archivo desconocido. Velmora reconoce los archivos por su extensión, como .mid, .scl o .sf2.</translation>
     </message>
     <message>
         <source>%1: %2; see Import Report in the Instruments window</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2; consulte el informe de importación en la ventana Instrumentos</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir</translation>
     </message>
     <message>
         <source>Transposition: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transposición: %1</translation>
     </message>
     <message>
         <source>The General MIDI player is silent because there is no SoundFont for it. Choose one in the preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El reproductor General MIDI está en silencio porque no tiene SoundFont. Elija uno en las preferencias.</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;Sessions (%5);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Todos los archivos compatibles (%1);;Instrumentos (%2);;Afinaciones (%3);;Piezas (%4);;Sesiones (%5);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Open Session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir sesión</translation>
     </message>
     <message>
         <source>Sessions (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sesiones (%1)</translation>
     </message>
     <message>
         <source>Save Session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar sesión</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sesión</translation>
     </message>
     <message>
         <source>Velmora ended while it was opening what was open last time. Open it again?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora se cerró mientras abría lo que estaba abierto la última vez. ¿Abrirlo de nuevo?</translation>
     </message>
     <message>
         <source>Open Again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir de nuevo</translation>
     </message>
     <message>
         <source>Start Empty</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Empezar sin nada</translation>
     </message>
     <message>
         <source>Unsaved changes are not protected against a crash: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Los cambios sin guardar no están protegidos contra un fallo: %1</translation>
     </message>
     <message>
         <source>Not everything that was open last time could be opened.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">No se pudo abrir todo lo que estaba abierto la última vez.
+%1</translation>
     </message>
     <message>
         <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: Velmora no puede tocar instrumentos de este formato. Conviértalo en un SoundFont (.sf2) y abra este.</translation>
     </message>
     <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 no se puede usar como banco General MIDI. En su lugar se usa %2. Elija otro SoundFont en las preferencias.</translation>
     </message>
 </context>
 <context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cargando el instrumento</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelar</translation>
     </message>
     <message>
         <source>Export Audio</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Exportar audio</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>Exported %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Se exportó %1</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 was not exported. %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">No se exportó %1. %2</translation>
     </message>
 </context>
 <context>
     <name>velmora::GuideWindow</name>
     <message>
         <source>User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guía de usuario</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guía de usuario</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Contenido</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Atrás</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Adelante</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anterior</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Siguiente</translation>
     </message>
     <message>
         <source>&amp;Find:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Buscar:</translation>
     </message>
     <message>
         <source>Find words in the guide (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Buscar palabras en la guía (%1)</translation>
     </message>
     <message>
         <source>“%1” is not in the guide.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">«%1» no aparece en la guía.</translation>
     </message>
     <message>
         <source>No program could open %1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ningún programa pudo abrir %1.</translation>
     </message>
 </context>
 <context>
     <name>velmora::HelpButton</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ayuda</translation>
     </message>
     <message>
         <source>Show what the guide says about this</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostrar lo que dice la guía sobre esto</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentMenu</name>
     <message>
         <source>Instrument: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrumento: %1</translation>
     </message>
     <message>
         <source>%1
 Choose another instrument, open or unload one</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1
+Elegir otro instrumento, abrir uno o retirarlo</translation>
     </message>
     <message>
         <source>&amp;Open Instrument…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Abrir instrumento…</translation>
     </message>
     <message>
         <source>&amp;Unload %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Retirar %1</translation>
     </message>
     <message>
         <source>Import &amp;Report of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Informe de importación de %1…</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentPanel</name>
     <message>
         <source>Stop %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Registro %1</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Volumen</translation>
     </message>
     <message>
         <source>Memory used by the samples of this instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Memoria que usan las muestras de este instrumento</translation>
     </message>
     <message>
         <source>Usage:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">En uso:  %1</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrumento</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentsModel</name>
     <message>
         <source>Unloaded: select it to load it again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Retirado: selecciónelo para volver a cargarlo</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrumento</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tamaño</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentsWindow</name>
     <message>
         <source>&amp;Unload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Retirar</translation>
     </message>
     <message>
         <source>Import &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Informe de importación…</translation>
     </message>
     <message>
         <source>Instruments</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrumentos</translation>
     </message>
     <message>
         <source>Loaded instruments</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrumentos cargados</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Abrir…</translation>
     </message>
     <message>
         <source>Open a SoundFont, a GigaSampler bank or an organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir un SoundFont, un banco GigaSampler o un órgano</translation>
     </message>
     <message>
         <source>Free the memory that the samples of this instrument use</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Liberar la memoria que usan las muestras de este instrumento</translation>
     </message>
     <message>
         <source>Show what was imported and what was left out</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostrar lo que se importó y lo que se omitió</translation>
     </message>
 </context>
 <context>
     <name>velmora::KeyRuler</name>
     <message>
         <source>Key names</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nombres de las teclas</translation>
     </message>
 </context>
 <context>
     <name>velmora::KeyboardView</name>
     <message>
         <source>Piano keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Teclado de piano</translation>
     </message>
     <message>
         <source>wrong</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">errónea</translation>
     </message>
     <message>
         <source>to be played</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">por tocar</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">correcta</translation>
     </message>
     <message>
         <source>held</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">mantenida</translation>
     </message>
 </context>
 <context>
     <name>velmora::LanguageFields</name>
     <message>
         <source>The language changes when you start Velmora again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El idioma cambia cuando vuelva a iniciar Velmora.</translation>
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El del escritorio</translation>
     </message>
     <message>
         <source>The language of all menus and windows</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El idioma de todos los menús y ventanas</translation>
     </message>
     <message>
         <source>As usual in the language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Como es habitual en el idioma</translation>
     </message>
     <message>
         <source>International: C D E F G A B</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Internacional: C D E F G A B</translation>
     </message>
     <message>
         <source>German: C D E F G A H</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alemán: C D E F G A H</translation>
     </message>
     <message>
         <source>Solfège: Do Re Mi Fa Sol La Si</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Solfeo: Do Re Mi Fa Sol La Si</translation>
     </message>
     <message>
         <source>The names of the keys and notes in all windows</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Los nombres de las teclas y las notas en todas las ventanas</translation>
     </message>
     <message>
         <source>L&amp;anguage:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Idioma:</translation>
     </message>
     <message>
         <source>Not&amp;e names:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nombres de la&amp;s notas:</translation>
     </message>
 </context>
 <context>
     <name>velmora::LearnMenu</name>
     <message>
         <source>&amp;Learn MIDI Controller…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;prender controlador MIDI…</translation>
     </message>
     <message>
         <source>Learn MIDI Controller for %1…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aprender controlador MIDI para %1…</translation>
     </message>
     <message>
         <source>&amp;Forget MIDI Controller</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Olvidar controlador MIDI</translation>
     </message>
     <message>
         <source>Forget MIDI Controller for %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Olvidar controlador MIDI de %1</translation>
     </message>
     <message>
         <source>Learn MIDI Controller</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Aprender controlador MIDI</translation>
     </message>
     <message>
         <source>Waiting for a MIDI controller for “%1”.
 Move a controller, or press a button or a key, on a MIDI device.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Esperando un controlador MIDI para «%1».
+Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>MIDI key %1 on channel %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tecla MIDI %1 en el canal %2</translation>
     </message>
     <message>
         <source>MIDI controller %1 on channel %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Controlador MIDI %1 en el canal %2</translation>
     </message>
 </context>
 <context>
     <name>velmora::LevelMeter</name>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nivel</translation>
     </message>
 </context>
 <context>
     <name>velmora::MetersWindow</name>
     <message>
         <source>Meters</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Medidores</translation>
     </message>
 </context>
 <context>
     <name>velmora::MidiPane</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 de %2</translation>
     </message>
     <message>
         <source>Connect a MIDI device, and it appears here.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Conecte un dispositivo MIDI y aparecerá aquí.</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dispositivo</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Activo</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Canal</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Teclas</translation>
     </message>
     <message>
         <source>MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dispositivos MIDI</translation>
     </message>
     <message>
         <source>%1 (not connected)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (no conectado)</translation>
     </message>
     <message>
         <source>Whether the device is heard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Si se escucha el dispositivo</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Todos</translation>
     </message>
     <message>
         <source>The MIDI channel to listen to</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El canal MIDI que se escucha</translation>
     </message>
     <message>
         <source> semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> semitonos</translation>
     </message>
     <message>
         <source>How much higher the keys sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cuánto más agudas suenan las teclas</translation>
     </message>
 </context>
 <context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transponer hacia abajo (Ctrl+Mayús+Abajo)</translation>
     </message>
     <message>
         <source>Transpose up (Ctrl+Shift+Up)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transponer hacia arriba (Ctrl+Mayús+Arriba)</translation>
     </message>
     <message>
         <source>Linear touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pulsación lineal</translation>
     </message>
     <message>
         <source>Soft touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pulsación suave</translation>
     </message>
     <message>
         <source>Hard touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pulsación dura</translation>
     </message>
     <message>
         <source>Fixed touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pulsación fija</translation>
     </message>
     <message>
         <source>Touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pulsación</translation>
     </message>
     <message>
         <source>How loud your touch on a MIDI keyboard sounds: soft makes a light touch louder, hard asks for a strong one, fixed ignores the touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La intensidad con que suena su pulsación en un teclado MIDI: la suave hace más fuerte una pulsación ligera, la dura exige una enérgica, la fija no tiene en cuenta la pulsación</translation>
     </message>
     <message>
         <source>Transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transposición</translation>
     </message>
     <message>
         <source>The transposition of the MIDI keyboards in semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La transposición de los teclados MIDI en semitonos</translation>
     </message>
     <message>
         <source>semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">semitonos</translation>
     </message>
 </context>
 <context>
     <name>velmora::PlayingPane</name>
     <message>
         <source>How much higher than written the keys of MIDI devices sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cuánto más agudas que lo escrito suenan las teclas de los dispositivos MIDI</translation>
     </message>
     <message>
         <source>How far the pitch wheel bends up and down; with 0 it does nothing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cuánto sube y baja el tono la rueda; con 0 no hace nada</translation>
     </message>
     <message>
         <source>Pl&amp;ain reading of MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Lectura simple de los dispositivos MIDI</translation>
     </message>
     <message>
         <source>Linear: as the keyboard sends it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lineal: tal como la envía el teclado</translation>
     </message>
     <message>
         <source>Soft: a light touch is louder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suave: una pulsación ligera suena más fuerte</translation>
     </message>
     <message>
         <source>Hard: only a strong touch is loud</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dura: solo una pulsación enérgica suena fuerte</translation>
     </message>
     <message>
         <source>Fixed: always the same</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fija: siempre igual</translation>
     </message>
     <message>
         <source>Touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pulsación</translation>
     </message>
     <message>
         <source>Only notes and volumes count: no pedals, wheels, programs or learned controllers, no touch and no transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Solo cuentan las notas y los volúmenes: ni pedales, ruedas, programas o controladores aprendidos, ni pulsación ni transposición</translation>
     </message>
     <message>
         <source>&amp;Touch:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Pulsación:</translation>
     </message>
     <message>
         <source>T&amp;ransposition:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">T&amp;ransposición:</translation>
     </message>
     <message>
         <source>Pitch &amp;wheel:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">R&amp;ueda de tono:</translation>
     </message>
     <message>
         <source> semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> semitonos</translation>
     </message>
 </context>
 <context>
     <name>velmora::PreferencesWindow</name>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> px</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Preferencias</translation>
     </message>
     <message>
         <source>Panes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Paneles</translation>
     </message>
     <message>
         <source>&amp;General</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;General</translation>
     </message>
     <message>
         <source>C&amp;olors</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">C&amp;olores</translation>
     </message>
     <message>
         <source>&amp;MIDI</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;MIDI</translation>
     </message>
     <message>
         <source>So&amp;und</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">So&amp;nido</translation>
     </message>
     <message>
         <source>Key &amp;width:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ancho de tecla:</translation>
     </message>
     <message>
         <source>The width of a semitone on the keyboard and in the piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El ancho de un semitono en el teclado y en el piano roll</translation>
     </message>
     <message>
         <source>&amp;Step height:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alt&amp;ura de paso:</translation>
     </message>
     <message>
         <source>The height of a step, the distance between grid lines, in the piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La altura de un paso, la distancia entre las líneas de la cuadrícula, en el piano roll</translation>
     </message>
     <message>
         <source>&amp;Lowest key:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tecla más gra&amp;ve:</translation>
     </message>
     <message>
         <source>The first key of the keyboard: a note name, such as A0, or a MIDI key number</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La primera tecla del teclado: un nombre de nota, como A0, o un número de tecla MIDI</translation>
     </message>
     <message>
         <source>&amp;Highest key:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tecla más agu&amp;da:</translation>
     </message>
     <message>
         <source>The last key of the keyboard: a note name, such as C8, or a MIDI key number</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La última tecla del teclado: un nombre de nota, como C8, o un número de tecla MIDI</translation>
     </message>
     <message>
         <source>Show note &amp;names on the C keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostrar los nombres de las notas en las te&amp;clas do</translation>
     </message>
     <message>
         <source>General MIDI bank:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Banco General MIDI:</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El predeterminado del sistema</translation>
     </message>
     <message>
         <source>General MIDI bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Banco General MIDI</translation>
     </message>
     <message>
         <source>Choose a SoundFont for the General MIDI player</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir un SoundFont para el reproductor General MIDI</translation>
     </message>
     <message>
         <source>Use &amp;Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Usar el &amp;predeterminado</translation>
     </message>
     <message>
         <source>Use the system&apos;s General MIDI bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Usar el banco General MIDI del sistema</translation>
     </message>
     <message>
         <source>Choose a General MIDI Bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir un banco General MIDI</translation>
     </message>
     <message>
         <source>SoundFont banks (*.sf2 *.sf3)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bancos SoundFont (*.sf2 *.sf3)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Todos los archivos (*)</translation>
     </message>
     <message>
         <source>A&amp;t the start:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Al inicia&amp;r:</translation>
     </message>
     <message>
         <source>Start empty</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Empezar sin nada</translation>
     </message>
     <message>
         <source>Start as last time</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Empezar como la última vez</translation>
     </message>
     <message>
         <source>Whether the instruments, the tuning and the pieces that are open when you quit are opened again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Si se vuelven a abrir los instrumentos, la afinación y las piezas que están abiertos al salir</translation>
     </message>
     <message>
         <source>Short&amp;cuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;tajos</translation>
     </message>
     <message>
         <source>&amp;Browse…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">E&amp;xaminar…</translation>
     </message>
 </context>
 <context>
     <name>velmora::ProgramList</name>
     <message>
         <source>Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Piano</translation>
     </message>
     <message>
         <source>Chromatic Percussion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Percusión cromática</translation>
     </message>
     <message>
         <source>Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Órgano</translation>
     </message>
     <message>
         <source>Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guitarra</translation>
     </message>
     <message>
         <source>Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bajo</translation>
     </message>
     <message>
         <source>Strings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cuerdas</translation>
     </message>
     <message>
         <source>Ensemble</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Conjunto</translation>
     </message>
     <message>
         <source>Brass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Metales</translation>
     </message>
     <message>
         <source>Reed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lengüeta</translation>
     </message>
     <message>
         <source>Pipe</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Flautas</translation>
     </message>
     <message>
         <source>Synth Lead</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Solista sintético</translation>
     </message>
     <message>
         <source>Synth Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fondo sintético</translation>
     </message>
     <message>
         <source>Synth Effects</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Efectos sintéticos</translation>
     </message>
     <message>
         <source>Ethnic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Étnicos</translation>
     </message>
     <message>
         <source>Percussive</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Percusivos</translation>
     </message>
     <message>
         <source>Sound Effects</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Efectos de sonido</translation>
     </message>
     <message>
         <source>Find a program</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Buscar un programa</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Programa</translation>
     </message>
     <message>
         <source>General MIDI program</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Programa General MIDI</translation>
     </message>
 </context>
 <context>
     <name>velmora::ProgressWindow</name>
     <message>
         <source>Loading</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Carga</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Progreso</translation>
     </message>
     <message>
         <source>Cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelando…</translation>
     </message>
 </context>
 <context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceActions</name>
     <message>
         <source>&amp;Loop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Bucle</translation>
     </message>
     <message>
         <source>Repeat the selected time, or the whole sequence</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Repetir el tiempo seleccionado o toda la pieza</translation>
     </message>
     <message>
         <source>Snap to &amp;Grid</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ajustar a la &amp;cuadrícula</translation>
     </message>
     <message>
         <source>Align notes and times with whole steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alinear las notas y los tiempos con pasos enteros</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Rehacer</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cor&amp;tar</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Copiar</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Pegar</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Eliminar</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Seleccionar todo</translation>
     </message>
     <message>
         <source>Select &amp;None</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;No seleccionar nada</translation>
     </message>
     <message>
         <source>Go to &amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ir al &amp;inicio</translation>
     </message>
     <message>
         <source>Pre&amp;vious Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Notas &amp;anteriores</translation>
     </message>
     <message>
         <source>&amp;Next Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Notas &amp;siguientes</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ca&amp;nal</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Detener</translation>
     </message>
     <message>
         <source>Record what you play, starting at the position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Grabar lo que toque, a partir de la posición</translation>
     </message>
     <message>
         <source>Play from the position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Reproducir a partir de la posición</translation>
     </message>
     <message>
         <source>Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pieza</translation>
     </message>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Grabar</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Reproducir</translation>
     </message>
     <message>
         <source>Select Ne&amp;xt Note</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seleccionar la nota s&amp;iguiente</translation>
     </message>
     <message>
         <source>Select Pre&amp;vious Note</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seleccionar la nota &amp;anterior</translation>
     </message>
     <message>
         <source>Go to &amp;End</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ir al &amp;final</translation>
     </message>
     <message>
         <source>&amp;Selected Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Notas selecci&amp;onadas</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Editar</translation>
     </message>
     <message>
         <source>&amp;Zoom In</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ampliar</translation>
     </message>
     <message>
         <source>Zoom O&amp;ut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Reducir</translation>
     </message>
     <message>
         <source>&amp;Wider Keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Teclas más anc&amp;has</translation>
     </message>
     <message>
         <source>N&amp;arrower Keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tec&amp;las más estrechas</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ver</translation>
     </message>
     <message>
         <source>Move Notes &amp;Up a Semitone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Subir las notas un semitono</translation>
     </message>
     <message>
         <source>Move Notes &amp;Down a Semitone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Bajar las notas un semitono</translation>
     </message>
     <message>
         <source>Move Notes &amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Retrasar las notas</translation>
     </message>
     <message>
         <source>Move Notes &amp;Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Adelantar las notas</translation>
     </message>
     <message>
         <source>Make Notes Lon&amp;ger</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Alar&amp;gar las notas</translation>
     </message>
     <message>
         <source>Make Notes &amp;Shorter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;cortar las notas</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
     <message>
         <source>Draw Note</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dibujar nota</translation>
     </message>
     <message numerus="yes">
         <source>Record %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Grabar %n nota</numerusform>
+            <numerusform>Grabar %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Eliminar %n nota</numerusform>
+            <numerusform>Eliminar %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Resize %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Cambiar la duración de %n nota</numerusform>
+            <numerusform>Cambiar la duración de %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Move %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Mover %n nota</numerusform>
+            <numerusform>Mover %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Set Channel of %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Cambiar el canal de %n nota</numerusform>
+            <numerusform>Cambiar el canal de %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Cut %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Cortar %n nota</numerusform>
+            <numerusform>Cortar %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Paste %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Pegar %n nota</numerusform>
+            <numerusform>Pegar %n notas</numerusform>
         </translation>
     </message>
 </context>
@@ -1182,1476 +1185,1481 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
     <message numerus="yes">
         <source>%1, %n note(s), %2</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%1, %n nota, %2</numerusform>
+            <numerusform>%1, %n notas, %2</numerusform>
         </translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sin título</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>Velmora was not closed properly. Recover the unsaved sequences?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora no se cerró correctamente. ¿Recuperar las piezas sin guardar?</translation>
     </message>
     <message>
         <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Recuperar</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Descartar</translation>
     </message>
     <message>
         <source>Ask Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Preguntar más tarde</translation>
     </message>
     <message>
         <source>%1 •</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 •</translation>
     </message>
     <message>
         <source>Untitled %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sin título %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceSaver</name>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 is still being exported. Stop the export?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 todavía se está exportando. ¿Detener la exportación?</translation>
     </message>
     <message>
         <source>If you stop it, no sound file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Si la detiene, no se escribe ningún archivo de sonido.</translation>
     </message>
     <message>
         <source>Stop Export</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Detener la exportación</translation>
     </message>
     <message>
         <source>Save the changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">¿Guardar los cambios de %1?</translation>
     </message>
     <message>
         <source>If you do not save them, they are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Si no los guarda, se pierden.</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar como</translation>
     </message>
     <message>
         <source>An iMelody file holds a single voice and no dynamics. Save it anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Un archivo iMelody contiene una sola voz y ninguna dinámica. ¿Guardarlo de todos modos?</translation>
     </message>
     <message>
         <source>Velmora cannot open iMelody files. A MIDI file keeps everything that you see.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora no puede abrir archivos iMelody. Un archivo MIDI conserva todo lo que ve.</translation>
     </message>
     <message>
         <source>%1 was not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">No se guardó %1.</translation>
     </message>
     <message>
         <source>Save As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar como…</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceScrollView</name>
     <message>
         <source>Keys shown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Teclas visibles</translation>
     </message>
     <message>
         <source>Time shown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tiempo visible</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceStatus</name>
     <message>
         <source>Practice: play the notes at the position to move on to the next ones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Práctica: toque las notas de la posición para pasar a las siguientes</translation>
     </message>
     <message>
         <source>Steps %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pasos %1 a %2</translation>
     </message>
     <message>
         <source>Playing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Reproduciendo</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Grabando</translation>
     </message>
     <message>
         <source>Waiting for %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Esperando %1</translation>
     </message>
     <message numerus="yes">
         <source>%n note(s) selected</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n nota seleccionada</numerusform>
+            <numerusform>%n notas seleccionadas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n note(s) in all</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n nota en total</numerusform>
+            <numerusform>%n notas en total</numerusform>
         </translation>
     </message>
     <message>
         <source>Done: all notes played</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Listo: ha tocado todas las notas</translation>
     </message>
     <message>
         <source>Release %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Suelte %1</translation>
     </message>
     <message>
         <source>Waiting for %1; not %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Esperando %1; no %2</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceView</name>
     <message>
         <source>Piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Piano roll</translation>
     </message>
     <message>
         <source>Velocity %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Intensidad %1 %</translation>
     </message>
     <message>
         <source>%1, bar %2, beat %3, length in beats %4, channel %5</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1, compás %2, tiempo %3, duración en tiempos %4, canal %5</translation>
     </message>
 </context>
 <context>
     <name>velmora::ShellActions</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Archivo</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sonido</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ver</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ayuda</translation>
     </message>
     <message>
         <source>&amp;New Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Nueva pieza</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Abrir…</translation>
     </message>
     <message>
         <source>Open pieces, instruments and tunings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir piezas, instrumentos y afinaciones</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Guardar</translation>
     </message>
     <message>
         <source>Save the piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar la pieza</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar &amp;como…</translation>
     </message>
     <message>
         <source>&amp;Export Audio…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Exportar audio…</translation>
     </message>
     <message>
         <source>Write a sound file of the piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Escribir un archivo de sonido de la pieza</translation>
     </message>
     <message>
         <source>&amp;Close Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cerrar pie&amp;za</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Preferencias…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Salir</translation>
     </message>
     <message>
         <source>&amp;Silence Everything</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Silenciar todo</translation>
     </message>
     <message>
         <source>Stop every sound and release every key</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Detener todos los sonidos y soltar todas las teclas</translation>
     </message>
     <message>
         <source>Transpose &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transponer hacia a&amp;rriba</translation>
     </message>
     <message>
         <source>Transpose &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transponer hacia a&amp;bajo</translation>
     </message>
     <message>
         <source>&amp;Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Teclado</translation>
     </message>
     <message>
         <source>&amp;Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Instrumento</translation>
     </message>
     <message>
         <source>Show the program or the stops</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostrar el programa o los registros</translation>
     </message>
     <message>
         <source>&amp;Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Afi&amp;nación</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">T&amp;ocar</translation>
     </message>
     <message>
         <source>Arrange the window for playing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Disponer la ventana para tocar</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Editar</translation>
     </message>
     <message>
         <source>Arrange the window for editing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Disponer la ventana para editar</translation>
     </message>
     <message>
         <source>&amp;Stage</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Es&amp;cenario</translation>
     </message>
     <message>
         <source>Fill the screen with what matters on stage</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Llenar la pantalla con lo que importa en el escenario</translation>
     </message>
     <message>
         <source>&amp;Reset Layout</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Restablecer la &amp;disposición</translation>
     </message>
     <message>
         <source>Ne&amp;xt Panel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Panel &amp;siguiente</translation>
     </message>
     <message>
         <source>Pre&amp;vious Panel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Panel anterior</translation>
     </message>
     <message>
         <source>Piece in Its &amp;Own Window</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pieza en su propia &amp;ventana</translation>
     </message>
     <message>
         <source>&amp;Loaded Instruments…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrumentos car&amp;gados…</translation>
     </message>
     <message>
         <source>&amp;Meters</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Medidores</translation>
     </message>
     <message>
         <source>Show the delay, the load and the devices of live playing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mostrar el retardo, la carga y los dispositivos al tocar en vivo</translation>
     </message>
     <message>
         <source>Note &amp;Names on the Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nom&amp;bres de las notas en el teclado</translation>
     </message>
     <message>
         <source>User &amp;Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Guía de usuario</translation>
     </message>
     <message>
         <source>&amp;About Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Acerca de Velmora</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir &amp;reciente</translation>
     </message>
     <message>
         <source>&amp;Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Borrar lista</translation>
     </message>
     <message>
         <source>Open Sess&amp;ion…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;brir sesión…</translation>
     </message>
     <message>
         <source>Open the instruments, the tuning and the pieces of a session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir los instrumentos, la afinación y las piezas de una sesión</translation>
     </message>
     <message>
         <source>Sa&amp;ve Session…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">G&amp;uardar sesión…</translation>
     </message>
     <message>
         <source>Save which instruments, tuning and pieces are open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar qué instrumentos, afinación y piezas están abiertos</translation>
     </message>
     <message>
         <source>&amp;Find a Command…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Buscar una orden…</translation>
     </message>
     <message>
         <source>Find a command by its name and perform it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Buscar una orden por su nombre y ejecutarla</translation>
     </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
     <message>
         <source>Find a command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Buscar una orden</translation>
     </message>
     <message>
         <source>Use It &amp;Here</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Usar a&amp;quí</translation>
     </message>
     <message>
         <source>Remo&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Quita&amp;r</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Orden</translation>
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Atajo</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Órdenes</translation>
     </message>
     <message>
         <source>Press the new keys for the selected command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Pulse las teclas nuevas para la orden seleccionada</translation>
     </message>
     <message>
         <source>New shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Atajo nuevo</translation>
     </message>
     <message>
         <source>&amp;New shortcut:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Atajo nue&amp;vo:</translation>
     </message>
     <message>
         <source>Take the shortcut from the other command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Quitar el atajo a la otra orden</translation>
     </message>
     <message>
         <source>Leave the selected command without a shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dejar sin atajo la orden seleccionada</translation>
     </message>
     <message>
         <source>Restore &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Restaurar los pre&amp;determinados</translation>
     </message>
     <message>
         <source>Give every command the shortcuts that it had at first</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Devolver a cada orden los atajos que tenía al principio</translation>
     </message>
     <message>
         <source>%1 plays a note. Add Ctrl or Alt, or use a function key.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 toca una nota. Añada Ctrl o Alt, o use una tecla de función.</translation>
     </message>
     <message>
         <source>%1 belongs to “%2”. Press other keys, or use it here instead.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 pertenece a «%2». Pulse otras teclas o úselo aquí en su lugar.</translation>
     </message>
 </context>
 <context>
     <name>velmora::SoundPane</name>
     <message>
         <source>Ou&amp;tput:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Salida:</translation>
     </message>
     <message>
         <source>The sound server or driver that Velmora plays through</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El servidor de sonido o el controlador con el que suena Velmora</translation>
     </message>
     <message>
         <source>&amp;Device:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Dispositivo:</translation>
     </message>
     <message>
         <source>The device that is heard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El dispositivo que se oye</translation>
     </message>
     <message>
         <source>Sample &amp;rate:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Frecuencia de muestreo:</translation>
     </message>
     <message>
         <source>A JACK server determines the sample rate itself</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Un servidor JACK determina por sí mismo la frecuencia de muestreo</translation>
     </message>
     <message>
         <source>&amp;Period:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">P&amp;eriodo:</translation>
     </message>
     <message>
         <source>The shorter the period, the sooner a key sounds, and the more the machine has to do. With JACK, it applies to all programs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cuanto más corto es el periodo, antes suena una tecla y más trabaja el equipo. Con JACK, se aplica a todos los programas</translation>
     </message>
     <message>
         <source>Playing:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">En uso:</translation>
     </message>
     <message>
         <source>Master &amp;volume:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Volumen general:</translation>
     </message>
     <message>
         <source>Level:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nivel:</translation>
     </message>
     <message>
         <source>Master volume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Volumen general</translation>
     </message>
     <message>
         <source>Play Test To&amp;ne</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tocar un tono de pr&amp;ueba</translation>
     </message>
     <message>
         <source>Plays a short, quiet tone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Toca un tono breve y suave</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Automático</translation>
     </message>
     <message>
         <source>%1 (missing)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (no disponible)</translation>
     </message>
     <message>
         <source>%1 frames</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 tramas</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Predeterminado</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 %</translation>
     </message>
     <message>
         <source>%L1 kHz</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%L1 kHz</translation>
     </message>
     <message>
         <source>%1, %L2 kHz, %L3 frames (%L4 ms)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1, %L2 kHz, %L3 tramas (%L4 ms)</translation>
     </message>
     <message>
         <source>
 To the sound card: %L1 ms. Lost periods: %L2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+Hasta la tarjeta de sonido: %L1 ms. Periodos perdidos: %L2.</translation>
     </message>
 </context>
 <context>
     <name>velmora::StartPage</name>
     <message>
         <source>First steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Primeros pasos</translation>
     </message>
     <message>
         <source>User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guía de usuario</translation>
     </message>
     <message>
         <source>Open the user guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir la guía de usuario</translation>
     </message>
     <message>
         <source>What would you like to do?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">¿Qué le gustaría hacer?</translation>
     </message>
     <message>
         <source>Welcome to Velmora! Each card does something at once, and nothing can break.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">¡Le damos la bienvenida a Velmora! Cada tarjeta hace algo al instante y nada puede estropearse.</translation>
     </message>
     <message>
         <source>Hear it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Escuchar</translation>
     </message>
     <message>
         <source>C major, whose third beats in equal temperament and is pure in meantone. The tuning that you hear stays selected.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Do mayor, cuya tercera bate en el temperamento igual y es pura en el mesotónico. La afinación que oye queda seleccionada.</translation>
     </message>
     <message>
         <source>Equal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Igual</translation>
     </message>
     <message>
         <source>Hear the chord in equal temperament</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Escuchar el acorde en temperamento igual</translation>
     </message>
     <message>
         <source>Meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mesotónico</translation>
     </message>
     <message>
         <source>Hear the chord in quarter-comma meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Escuchar el acorde en temperamento mesotónico de un cuarto de coma</translation>
     </message>
     <message>
         <source>Choose a Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir una afinación</translation>
     </message>
     <message>
         <source>Choose a tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir una afinación</translation>
     </message>
     <message>
         <source>Tune it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Afinar</translation>
     </message>
     <message>
         <source>Choose a historical tuning, or one that adapts to what you play.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elija una afinación histórica o una que se adapte a lo que toca.</translation>
     </message>
     <message>
         <source>Open an Instrument…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir un instrumento…</translation>
     </message>
     <message>
         <source>Open an instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir un instrumento</translation>
     </message>
     <message>
         <source>Play it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tocar</translation>
     </message>
     <message>
         <source>Use a MIDI keyboard, the keys below, or the letters of the computer keyboard, from A on.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Use un teclado MIDI, las teclas de abajo o las letras del teclado del ordenador, a partir de la A.</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Grabar</translation>
     </message>
     <message>
         <source>Record a new sequence</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Grabar una pieza nueva</translation>
     </message>
     <message>
         <source>Record it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Grabar</translation>
     </message>
     <message>
         <source>Play, correct the notes in the piano roll, and export the sound.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Toque, corrija las notas en el piano roll y exporte el sonido.</translation>
     </message>
     <message>
         <source>Open %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir %1</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ejemplos</translation>
     </message>
     <message>
         <source>%1 (tuning)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (afinación)</translation>
     </message>
     <message>
         <source>%1 (piece)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (pieza)</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Archivos recientes</translation>
     </message>
 </context>
 <context>
     <name>velmora::StatusLine</name>
     <message>
         <source>The sound output: its driver, sample rate and period</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La salida de sonido: su controlador, frecuencia de muestreo y periodo</translation>
     </message>
     <message>
         <source>No MIDI input</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sin entrada MIDI</translation>
     </message>
     <message>
         <source>A MIDI device is used as soon as it is connected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Los dispositivos MIDI se usan en cuanto se conectan</translation>
     </message>
     <message>
         <source>There is no MIDI device. Connect one, or play with the mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">No hay ningún dispositivo MIDI. Conecte uno o toque con el ratón.</translation>
     </message>
     <message>
         <source>No sound output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sin salida de sonido</translation>
     </message>
     <message>
         <source>Notices: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Avisos: %1</translation>
     </message>
     <message>
         <source>Notices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Avisos</translation>
     </message>
     <message>
         <source>%1, %L2 kHz, %L3 ms</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1, %L2 kHz, %L3 ms</translation>
     </message>
     <message>
         <source>Instrument: %1
 Click to show its programs or stops</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrumento: %1
+Haga clic para ver sus programas o registros</translation>
     </message>
     <message>
         <source>Tuning: %1 (%2)
 Click to show all tunings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Afinación: %1 (%2)
+Haga clic para ver todas las afinaciones</translation>
     </message>
     <message>
         <source>Plain reading</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lectura simple</translation>
     </message>
     <message>
         <source>MIDI devices are read plainly: no pedals, no touch, no transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Los dispositivos MIDI se leen de forma simple: sin pedales, pulsación ni transposición</translation>
     </message>
     <message>
         <source>Transposed %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transposición: %1</translation>
     </message>
     <message>
         <source>MIDI keyboards sound %1 semitones away from their keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Los teclados MIDI suenan a %1 semitonos de sus teclas</translation>
     </message>
     <message numerus="yes">
         <source>%n MIDI input(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>%n entrada MIDI</numerusform>
+            <numerusform>%n entradas MIDI</numerusform>
         </translation>
     </message>
     <message>
         <source>MIDI devices:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dispositivos MIDI:
+%1</translation>
     </message>
     <message>
         <source>The display may go to sleep while you play because there is no D-Bus session bus. Start Velmora from the desktop, or with dbus-run-session.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La pantalla puede apagarse mientras toca porque no hay bus de sesión D-Bus. Inicie Velmora desde el escritorio o con dbus-run-session.</translation>
     </message>
     <message>
         <source>What you change in the preferences, and what is open, is forgotten when you quit because nothing can be written to %1. Make that folder writable.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lo que cambie en las preferencias y lo que esté abierto se olvida al salir porque no se puede escribir en %1. Permita la escritura en esa carpeta.</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrumento</translation>
     </message>
     <message>
         <source>Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Afinación</translation>
     </message>
     <message>
         <source>Reading of MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lectura de los dispositivos MIDI</translation>
     </message>
     <message>
         <source>Sound output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Salida de sonido</translation>
     </message>
     <message>
         <source>MIDI inputs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Entradas MIDI</translation>
     </message>
 </context>
 <context>
     <name>velmora::StopList</name>
     <message>
         <source>Find a stop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Buscar un registro</translation>
     </message>
 </context>
 <context>
     <name>velmora::StopRow</name>
     <message>
         <source>%1: turn on or off (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: activar o desactivar (Espacio)</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 %</translation>
     </message>
 </context>
 <context>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Compases</translation>
     </message>
     <message>
         <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Arrastre la flecha para mover la posición de reproducción. Arrastre sobre la regla para seleccionar el tiempo que se repite en bucle.</translation>
     </message>
 </context>
 <context>
     <name>velmora::TransportBar</name>
     <message>
         <source>Transport</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Transporte</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Detener</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Grabar</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Reproducir</translation>
     </message>
     <message>
         <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La posición en minutos y segundos con este tempo, y en pasos</translation>
     </message>
     <message>
         <source>Te&amp;mpo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Te&amp;mpo</translation>
     </message>
     <message>
         <source>Tempo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tempo</translation>
     </message>
     <message>
         <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El tempo de reproducción y grabación en pulsos por minuto (Alt+M)</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Canal</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Canal</translation>
     </message>
     <message>
         <source>The channel of notes that you record or draw. A digit key chooses a channel and selects its notes; with Ctrl it moves the selected notes to that channel.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">El canal de las notas que graba o dibuja. Una tecla numérica elige un canal y selecciona sus notas; con Ctrl traslada las notas seleccionadas a ese canal.</translation>
     </message>
     <message>
         <source>%1  ·  step %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1  ·  paso %2</translation>
     </message>
     <message>
         <source> bpm</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> ppm</translation>
     </message>
 </context>
 <context>
     <name>velmora::TuningPanel</name>
     <message>
         <source>Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Afinación</translation>
     </message>
     <message>
         <source>Open T&amp;uning…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir a&amp;finación…</translation>
     </message>
     <message>
         <source>Open a tuning file: a scale (.scl) or frequencies (.mtx)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abrir un archivo de afinación: una escala (.scl) o frecuencias (.mtx)</translation>
     </message>
     <message>
         <source>The pitches of middle C and of the A above it in this tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La altura del do central y del la superior en esta afinación</translation>
     </message>
     <message>
         <source>%1 (middle C): %2 Hz
 %3: %4 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (do central): %2 Hz
+%3: %4 Hz</translation>
     </message>
     <message>
         <source>Equal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Igual</translation>
     </message>
     <message>
         <source>Twelve equal semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Doce semitonos iguales</translation>
     </message>
     <message>
         <source>Quartercomma Meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mesotónico de un cuarto de coma</translation>
     </message>
     <message>
         <source>Pure major thirds</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Terceras mayores puras</translation>
     </message>
     <message>
         <source>Dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dinámico</translation>
     </message>
     <message>
         <source>Adapts its thirds to what you play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Adapta sus terceras a lo que usted toca</translation>
     </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
     <message>
         <source>Tuning strip</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tira de afinación</translation>
     </message>
     <message>
         <source>How many cents each note of the tuning lies above or below equal temperament</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cuántos cents está cada nota de la afinación por encima o por debajo del temperamento igual</translation>
     </message>
     <message>
         <source>%1: %2 cents</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2 cents</translation>
     </message>
 </context>
 <context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>Open pieces</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Piezas abiertas</translation>
     </message>
     <message>
         <source>Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Teclado</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Instrumento</translation>
     </message>
     <message>
         <source>Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Afinación</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Archivo</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Editar</translation>
     </message>
     <message>
         <source>&amp;Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Pieza</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;yuda</translation>
     </message>
     <message>
         <source>Silence Everything</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Silenciar todo</translation>
     </message>
 </context>
 <context>
     <name>velmora::nameParts</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Más</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Borrar</translation>
     </message>
 </context>
 <context>
     <name>velmora::noteNames</name>
     <message>
         <source>La</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">La</translation>
     </message>
     <message>
         <source>Si</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Si</translation>
     </message>
     <message>
         <source>Do</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Do</translation>
     </message>
     <message>
         <source>Re</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Re</translation>
     </message>
     <message>
         <source>Mi</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mi</translation>
     </message>
     <message>
         <source>Fa</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Fa</translation>
     </message>
     <message>
         <source>Sol</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sol</translation>
     </message>
 </context>
 <context>
     <name>velmora::programNames</name>
     <message>
         <source>1 Acoustic Grand Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">1 Piano de cola</translation>
     </message>
     <message>
         <source>2 Bright Acoustic Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">2 Piano brillante</translation>
     </message>
     <message>
         <source>3 Electric Grand Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">3 Piano de cola eléctrico</translation>
     </message>
     <message>
         <source>4 Honky-Tonk Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">4 Piano honky-tonk</translation>
     </message>
     <message>
         <source>5 Rhodes Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">5 Piano Rhodes</translation>
     </message>
     <message>
         <source>6 Chorus Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">6 Piano con chorus</translation>
     </message>
     <message>
         <source>7 Harpsichord</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">7 Clave</translation>
     </message>
     <message>
         <source>8 Clavinet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">8 Clavinet</translation>
     </message>
     <message>
         <source>9 Celesta</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">9 Celesta</translation>
     </message>
     <message>
         <source>10 Glockenspiel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">10 Glockenspiel</translation>
     </message>
     <message>
         <source>11 Music Box</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">11 Caja de música</translation>
     </message>
     <message>
         <source>12 Vibraphone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">12 Vibráfono</translation>
     </message>
     <message>
         <source>13 Marimba</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">13 Marimba</translation>
     </message>
     <message>
         <source>14 Xylophone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">14 Xilófono</translation>
     </message>
     <message>
         <source>15 Tubular Bells</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">15 Campanas tubulares</translation>
     </message>
     <message>
         <source>16 Dulcimer</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">16 Dulcémele</translation>
     </message>
     <message>
         <source>17 Hammond Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">17 Órgano Hammond</translation>
     </message>
     <message>
         <source>18 Percusive Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">18 Órgano percusivo</translation>
     </message>
     <message>
         <source>19 Rock Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">19 Órgano de rock</translation>
     </message>
     <message>
         <source>20 Church Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">20 Órgano de iglesia</translation>
     </message>
     <message>
         <source>21 Reed Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">21 Armonio</translation>
     </message>
     <message>
         <source>22 Accordion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">22 Acordeón</translation>
     </message>
     <message>
         <source>23 Harmonica</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">23 Armónica</translation>
     </message>
     <message>
         <source>24 Tango Accordion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">24 Bandoneón</translation>
     </message>
     <message>
         <source>25 Nylon Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">25 Guitarra de nailon</translation>
     </message>
     <message>
         <source>26 Steel String Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">26 Guitarra de cuerdas de acero</translation>
     </message>
     <message>
         <source>27 Jazz Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">27 Guitarra de jazz</translation>
     </message>
     <message>
         <source>28 Clean E. Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">28 Guitarra eléctrica limpia</translation>
     </message>
     <message>
         <source>29 Mute E. Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">29 Guitarra eléctrica apagada</translation>
     </message>
     <message>
         <source>30 Overdrive Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">30 Guitarra saturada</translation>
     </message>
     <message>
         <source>31 Distort Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">31 Guitarra distorsionada</translation>
     </message>
     <message>
         <source>32 Harmonics</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">32 Armónicos de guitarra</translation>
     </message>
     <message>
         <source>33 Acoustic Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">33 Contrabajo pulsado</translation>
     </message>
     <message>
         <source>34 Finger E. Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">34 Bajo eléctrico (dedos)</translation>
     </message>
     <message>
         <source>35 Picked E. Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">35 Bajo eléctrico (púa)</translation>
     </message>
     <message>
         <source>36 Fretless Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">36 Bajo sin trastes</translation>
     </message>
     <message>
         <source>37 Slap Bass 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">37 Bajo slap 1</translation>
     </message>
     <message>
         <source>38 Slap Bass 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">38 Bajo slap 2</translation>
     </message>
     <message>
         <source>39 Synth Bass1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">39 Bajo sintético 1</translation>
     </message>
     <message>
         <source>40 Synth Bass2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">40 Bajo sintético 2</translation>
     </message>
     <message>
         <source>41 Violin</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">41 Violín</translation>
     </message>
     <message>
         <source>42 Viola</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">42 Viola</translation>
     </message>
     <message>
         <source>43 Cello</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">43 Violonchelo</translation>
     </message>
     <message>
         <source>44 Contrabass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">44 Contrabajo</translation>
     </message>
     <message>
         <source>45 Tremolo Strings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">45 Cuerdas en trémolo</translation>
     </message>
     <message>
         <source>46 Pizzicato Strings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">46 Cuerdas en pizzicato</translation>
     </message>
     <message>
         <source>47 Orchestral Harp</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">47 Arpa</translation>
     </message>
     <message>
         <source>48 Timpani</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">48 Timbales</translation>
     </message>
     <message>
         <source>49 String Ensemble 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">49 Conjunto de cuerdas 1</translation>
     </message>
     <message>
         <source>50 String Ensemble 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">50 Conjunto de cuerdas 2</translation>
     </message>
     <message>
         <source>51 Synth Strings 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">51 Cuerdas sintéticas 1</translation>
     </message>
     <message>
         <source>52 Synth Strings 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">52 Cuerdas sintéticas 2</translation>
     </message>
     <message>
         <source>53 Choir Aahs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">53 Coro «aah»</translation>
     </message>
     <message>
         <source>54 Voice Oohs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">54 Voces «ooh»</translation>
     </message>
     <message>
         <source>55 Synth Voice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">55 Voz sintética</translation>
     </message>
     <message>
         <source>56 Orchestra Hit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">56 Golpe de orquesta</translation>
     </message>
     <message>
         <source>57 Trumpet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">57 Trompeta</translation>
     </message>
     <message>
         <source>58 Trombone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">58 Trombón</translation>
     </message>
     <message>
         <source>59 Tuba</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">59 Tuba</translation>
     </message>
     <message>
         <source>60 Mute Trumpet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">60 Trompeta con sordina</translation>
     </message>
     <message>
         <source>61 French Horn</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">61 Trompa</translation>
     </message>
     <message>
         <source>62 Brass Section</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">62 Sección de metales</translation>
     </message>
     <message>
         <source>63 Synth Brass 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">63 Metales sintéticos 1</translation>
     </message>
     <message>
         <source>64 Synth Brass 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">64 Metales sintéticos 2</translation>
     </message>
     <message>
         <source>65 Soprano Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">65 Saxofón soprano</translation>
     </message>
     <message>
         <source>66 Alto Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">66 Saxofón alto</translation>
     </message>
     <message>
         <source>67 Tenor Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">67 Saxofón tenor</translation>
     </message>
     <message>
         <source>68 Baritone Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">68 Saxofón barítono</translation>
     </message>
     <message>
         <source>69 Oboe</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">69 Oboe</translation>
     </message>
     <message>
         <source>70 English Horn</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">70 Corno inglés</translation>
     </message>
     <message>
         <source>71 Bassoon</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">71 Fagot</translation>
     </message>
     <message>
         <source>72 Clarinet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">72 Clarinete</translation>
     </message>
     <message>
         <source>73 Piccolo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">73 Flautín</translation>
     </message>
     <message>
         <source>74 Flute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">74 Flauta travesera</translation>
     </message>
     <message>
         <source>75 Recorder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">75 Flauta dulce</translation>
     </message>
     <message>
         <source>76 Pan Flute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">76 Flauta de Pan</translation>
     </message>
     <message>
         <source>77 Bottle Blow</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">77 Soplo de botella</translation>
     </message>
     <message>
         <source>78 Shakuhachi</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">78 Shakuhachi</translation>
     </message>
     <message>
         <source>79 Whistle</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">79 Silbido</translation>
     </message>
     <message>
         <source>80 Ocarina</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">80 Ocarina</translation>
     </message>
     <message>
         <source>81 Square Wave</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">81 Onda cuadrada</translation>
     </message>
     <message>
         <source>82 Saw Tooth</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">82 Diente de sierra</translation>
     </message>
     <message>
         <source>83 Syn Calliope</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">83 Calíope sintético</translation>
     </message>
     <message>
         <source>84 Chiffer Lead</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">84 Solista chiffer</translation>
     </message>
     <message>
         <source>85 Charang</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">85 Solista charang</translation>
     </message>
     <message>
         <source>86 Solo Vox</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">86 Voz solista</translation>
     </message>
     <message>
         <source>87 5th Saw Wave</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">87 Sierra en quintas</translation>
     </message>
     <message>
         <source>88 Brass &amp; Lead</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">88 Metales y solista</translation>
     </message>
     <message>
         <source>89 Fantasia</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">89 Fantasía</translation>
     </message>
     <message>
         <source>90 Warm Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">90 Fondo cálido</translation>
     </message>
     <message>
         <source>91 Polysynth</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">91 Polisintetizador</translation>
     </message>
     <message>
         <source>92 Space Vox</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">92 Voces espaciales</translation>
     </message>
     <message>
         <source>93 Bowed Glass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">93 Cristal frotado</translation>
     </message>
     <message>
         <source>94 Metal Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">94 Fondo metálico</translation>
     </message>
     <message>
         <source>95 Halo Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">95 Fondo de halo</translation>
     </message>
     <message>
         <source>96 Sweep Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">96 Fondo de barrido</translation>
     </message>
     <message>
         <source>97 Ice Rain</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">97 Lluvia de hielo</translation>
     </message>
     <message>
         <source>98 Soundtrack</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">98 Banda sonora</translation>
     </message>
     <message>
         <source>99 Crystal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">99 Cristal</translation>
     </message>
     <message>
         <source>100 Atmosphere</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">100 Atmósfera</translation>
     </message>
     <message>
         <source>101 Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">101 Brillo</translation>
     </message>
     <message>
         <source>102 Goblin</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">102 Duende</translation>
     </message>
     <message>
         <source>103 Echo Drops</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">103 Gotas de eco</translation>
     </message>
     <message>
         <source>104 Star Theme</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">104 Tema estelar</translation>
     </message>
     <message>
         <source>105 Sitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">105 Sitar</translation>
     </message>
     <message>
         <source>106 Banjo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">106 Banjo</translation>
     </message>
     <message>
         <source>107 Shamisen</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">107 Shamisen</translation>
     </message>
     <message>
         <source>108 Koto</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">108 Koto</translation>
     </message>
     <message>
         <source>109 Kalimba</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">109 Kalimba</translation>
     </message>
     <message>
         <source>110 Bag Pipe</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">110 Gaita</translation>
     </message>
     <message>
         <source>111 Fiddle</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">111 Violín folclórico</translation>
     </message>
     <message>
         <source>112 Shanai</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">112 Shanai</translation>
     </message>
     <message>
         <source>113 Tinkle Bell</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">113 Campanilla</translation>
     </message>
     <message>
         <source>114 Agogo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">114 Agogó</translation>
     </message>
     <message>
         <source>115 Steel Drums</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">115 Tambores metálicos</translation>
     </message>
     <message>
         <source>116 Woodblock</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">116 Caja china</translation>
     </message>
     <message>
         <source>117 Taiko Drum</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">117 Tambor taiko</translation>
     </message>
     <message>
         <source>118 Melodic Tom</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">118 Tom melódico</translation>
     </message>
     <message>
         <source>119 Synth Drum</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">119 Tambor sintético</translation>
     </message>
     <message>
         <source>120 Reverse Cymbal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">120 Platillo invertido</translation>
     </message>
     <message>
         <source>121 Guitar Fret Noise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">121 Ruido de trastes de guitarra</translation>
     </message>
     <message>
         <source>122 Breath Noise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">122 Ruido de respiración</translation>
     </message>
     <message>
         <source>123 Sea Shore</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">123 Orilla del mar</translation>
     </message>
     <message>
         <source>124 Bird Tweet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">124 Canto de pájaro</translation>
     </message>
     <message>
         <source>125 Telephone Ring</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">125 Timbre de teléfono</translation>
     </message>
     <message>
         <source>126 Helicopter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">126 Helicóptero</translation>
     </message>
     <message>
         <source>127 Applause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">127 Aplausos</translation>
     </message>
     <message>
         <source>128 Gun Shot</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">128 Disparo</translation>
     </message>
 </context>
 </TS>

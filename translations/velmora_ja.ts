@@ -5,1167 +5,1170 @@
     <name>QObject</name>
     <message>
         <source>Import Report</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">インポートの報告</translation>
     </message>
     <message>
         <source>Stops: %1, keys: %2, samples: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ストップ: %1、鍵: %2、サンプル: %3。</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 はすでに存在します。置き換えますか？</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) or sample(s) were left out</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個のファイルまたはサンプルを除外しました</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 is still sounding. Silence everything (Ctrl+.), then unload it.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 はまだ鳴っています。すべて消音 (Ctrl+.) してから解放してください。</translation>
     </message>
     <message>
         <source>Velmora cannot draw its windows because OpenGL does not work here. Install libgl1-mesa-dri, which needs no graphics card.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">OpenGL が動作しないため、Velmora はウィンドウを描画できません。グラフィックカードの要らない libgl1-mesa-dri をインストールしてください。</translation>
     </message>
 </context>
 <context>
     <name>deviceText</name>
     <message>
         <source>MIDI port %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI ポート %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::AboutBox</name>
     <message>
         <source>About Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora について</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Velmora %1&lt;/h3&gt;&lt;p&gt;Plays keyboard instruments in historical and adaptive tunings.&lt;/p&gt;&lt;p&gt;Velmora uses FluidSynth, the Synthesis ToolKit and OpenAL Soft for sound, libsndfile and WavPack for samples, RtMidi for MIDI, and Qt %2 for its windows.&lt;/p&gt;&lt;p&gt;It is available under the MIT licence.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&lt;h3&gt;Velmora %1&lt;/h3&gt;&lt;p&gt;鍵盤楽器を歴史的な調律や適応型の調律で演奏します。&lt;/p&gt;&lt;p&gt;Velmora は、音に FluidSynth、Synthesis ToolKit、OpenAL Soft を、サンプルに libsndfile と WavPack を、MIDI に RtMidi を、ウィンドウに Qt %2 を使用しています。&lt;/p&gt;&lt;p&gt;MIT ライセンスで提供されています。&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>velmora::AudioExport</name>
     <message>
         <source>Loading the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器を読み込んでいます</translation>
     </message>
     <message>
         <source>Rendering</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音声を生成しています</translation>
     </message>
     <message>
         <source>There is not enough memory to load the instrument a second time.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器をもう一つ読み込むためのメモリーが足りません。</translation>
     </message>
 </context>
 <context>
     <name>velmora::ColorsPane</name>
     <message>
         <source>Keyboard keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵盤の鍵</translation>
     </message>
     <message>
         <source>&amp;Played:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">演奏(&amp;P):</translation>
     </message>
     <message>
         <source>Keys that the sequence plays, or waits for in practice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">曲が弾いている鍵、または練習中に待っている鍵</translation>
     </message>
     <message>
         <source>&amp;Right:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">正解(&amp;R):</translation>
     </message>
     <message>
         <source>Keys that you struck correctly</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">正しく弾いた鍵</translation>
     </message>
     <message>
         <source>&amp;Held:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">保持(&amp;H):</translation>
     </message>
     <message>
         <source>Keys that you keep holding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">押さえ続けている鍵</translation>
     </message>
     <message>
         <source>&amp;Wrong:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">間違い(&amp;W):</translation>
     </message>
     <message>
         <source>Keys that you struck by mistake</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">間違って弾いた鍵</translation>
     </message>
     <message>
         <source>Piano roll notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ピアノロールの音符</translation>
     </message>
     <message>
         <source>&amp;At rest:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">待機中(&amp;A):</translation>
     </message>
     <message>
         <source>Notes that are not sounding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鳴っていない音符</translation>
     </message>
     <message>
         <source>&amp;Sounding:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">発音中(&amp;S):</translation>
     </message>
     <message>
         <source>Notes at the play position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">再生位置の音符</translation>
     </message>
     <message>
         <source>Calm</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">穏やか</translation>
     </message>
     <message>
         <source>Classic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">クラシック</translation>
     </message>
     <message>
         <source>Calm: soft colours that suit the theme of the desktop. Classic: bright colours on white and black</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">穏やか: デスクトップのテーマに合う柔らかい色。クラシック: 白と黒に鮮やかな色</translation>
     </message>
     <message>
         <source>Sch&amp;eme:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">配色(&amp;E):</translation>
     </message>
     <message>
         <source>Reset to &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">既定値に戻す(&amp;D)</translation>
     </message>
     <message>
         <source>Use the colours of the scheme again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">配色の元の色に戻します</translation>
     </message>
     <message>
         <source>Reduce motion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">動きを減らす</translation>
     </message>
     <message>
         <source>Scroll the piano roll at once instead of gliding</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ピアノロールを滑らかに動かさず、一度にスクロールします</translation>
     </message>
 </context>
 <context>
     <name>velmora::CommandPalette</name>
     <message>
         <source>Find a command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">コマンドを検索</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">コマンド</translation>
     </message>
     <message>
         <source>%1 – %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 – %2</translation>
     </message>
 </context>
 <context>
     <name>velmora::Commands</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>velmora::ComputerKeyboard</name>
     <message>
         <source>Letters play from %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">文字キーは %1 から始まります</translation>
     </message>
 </context>
 <context>
     <name>velmora::Desktop</name>
     <message>
         <source>%1: unrecognised file type. Velmora recognises files by their extensions, such as .mid, .scl or .sf2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: 不明なファイル形式です。Velmora は .mid、.scl、.sf2 などの拡張子でファイルを見分けます。</translation>
     </message>
     <message>
         <source>%1: %2; see Import Report in the Instruments window</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2。「楽器」ウィンドウの「インポートの報告」を見てください</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">開く</translation>
     </message>
     <message>
         <source>Transposition: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">移調: %1</translation>
     </message>
     <message>
         <source>The General MIDI player is silent because there is no SoundFont for it. Choose one in the preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">SoundFont がないため、General MIDI プレーヤーは鳴りません。設定で選択してください。</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;Sessions (%5);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">対応するすべてのファイル (%1);;楽器 (%2);;調律 (%3);;曲 (%4);;セッション (%5);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Open Session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">セッションを開く</translation>
     </message>
     <message>
         <source>Sessions (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">セッション (%1)</translation>
     </message>
     <message>
         <source>Save Session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">セッションを保存</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">セッション</translation>
     </message>
     <message>
         <source>Velmora ended while it was opening what was open last time. Open it again?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前回開いていたものを開いている途中で Velmora が終了しました。もう一度開きますか？</translation>
     </message>
     <message>
         <source>Open Again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">もう一度開く</translation>
     </message>
     <message>
         <source>Start Empty</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">何も開かずに始める</translation>
     </message>
     <message>
         <source>Unsaved changes are not protected against a crash: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">保存していない変更は、異常終了から保護されていません: %1</translation>
     </message>
     <message>
         <source>Not everything that was open last time could be opened.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前回開いていたものの一部を開けませんでした。
+%1</translation>
     </message>
     <message>
         <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: Velmora はこの形式の楽器を演奏できません。SoundFont (.sf2) に変換してから開いてください。</translation>
     </message>
     <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は General MIDI バンクとして使用できません。代わりに %2 を使用します。設定で別の SoundFont を選択してください。</translation>
     </message>
 </context>
 <context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器を読み込んでいます</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">キャンセル</translation>
     </message>
     <message>
         <source>Export Audio</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">オーディオのエクスポート</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>Exported %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 をエクスポートしました</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 was not exported. %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 をエクスポートできませんでした。%2</translation>
     </message>
 </context>
 <context>
     <name>velmora::GuideWindow</name>
     <message>
         <source>User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ユーザーガイド</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ユーザーガイド</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">目次</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">戻る</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">進む</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前へ</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">次へ</translation>
     </message>
     <message>
         <source>&amp;Find:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">検索(&amp;F):</translation>
     </message>
     <message>
         <source>Find words in the guide (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ガイド内の語句を検索 (%1)</translation>
     </message>
     <message>
         <source>“%1” is not in the guide.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」はガイドに見つかりません。</translation>
     </message>
     <message>
         <source>No program could open %1.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 を開けるプログラムがありませんでした。</translation>
     </message>
 </context>
 <context>
     <name>velmora::HelpButton</name>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ヘルプ</translation>
     </message>
     <message>
         <source>Show what the guide says about this</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">これについてのガイドの説明を表示します</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentMenu</name>
     <message>
         <source>Instrument: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器: %1</translation>
     </message>
     <message>
         <source>%1
 Choose another instrument, open or unload one</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1
+別の楽器を選択、または楽器を開く・解放する</translation>
     </message>
     <message>
         <source>&amp;Open Instrument…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器を開く(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Unload %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 を解放(&amp;U)</translation>
     </message>
     <message>
         <source>Import &amp;Report of %1…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 のインポートの報告(&amp;R)…</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentPanel</name>
     <message>
         <source>Stop %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ストップ %1</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音量</translation>
     </message>
     <message>
         <source>Memory used by the samples of this instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この楽器のサンプルが使用しているメモリー</translation>
     </message>
     <message>
         <source>Usage:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">使用量:  %1</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentsModel</name>
     <message>
         <source>Unloaded: select it to load it again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">解放済み: 選択すると再び読み込みます</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">サイズ</translation>
     </message>
 </context>
 <context>
     <name>velmora::InstrumentsWindow</name>
     <message>
         <source>&amp;Unload</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">解放(&amp;U)</translation>
     </message>
     <message>
         <source>Import &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">インポートの報告(&amp;R)…</translation>
     </message>
     <message>
         <source>Instruments</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器</translation>
     </message>
     <message>
         <source>Loaded instruments</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">読み込まれた楽器</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">開く(&amp;O)…</translation>
     </message>
     <message>
         <source>Open a SoundFont, a GigaSampler bank or an organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">SoundFont、GigaSampler バンク、またはオルガンを開きます</translation>
     </message>
     <message>
         <source>Free the memory that the samples of this instrument use</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この楽器のサンプルが使用しているメモリーを解放します</translation>
     </message>
     <message>
         <source>Show what was imported and what was left out</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">インポートしたものと除外したものを表示します</translation>
     </message>
 </context>
 <context>
     <name>velmora::KeyRuler</name>
     <message>
         <source>Key names</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵の名前</translation>
     </message>
 </context>
 <context>
     <name>velmora::KeyboardView</name>
     <message>
         <source>Piano keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ピアノ鍵盤</translation>
     </message>
     <message>
         <source>wrong</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">間違い</translation>
     </message>
     <message>
         <source>to be played</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">弾く鍵</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">正解</translation>
     </message>
     <message>
         <source>held</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">保持</translation>
     </message>
 </context>
 <context>
     <name>velmora::LanguageFields</name>
     <message>
         <source>The language changes when you start Velmora again.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">言語は Velmora を再起動すると切り替わります。</translation>
     </message>
     <message>
         <source>As the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">デスクトップに合わせる</translation>
     </message>
     <message>
         <source>The language of all menus and windows</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべてのメニューとウィンドウの言語</translation>
     </message>
     <message>
         <source>As usual in the language</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">言語の慣習に従う</translation>
     </message>
     <message>
         <source>International: C D E F G A B</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">国際式: C D E F G A B</translation>
     </message>
     <message>
         <source>German: C D E F G A H</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ドイツ式: C D E F G A H</translation>
     </message>
     <message>
         <source>Solfège: Do Re Mi Fa Sol La Si</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">階名式: ド レ ミ ファ ソ ラ シ</translation>
     </message>
     <message>
         <source>The names of the keys and notes in all windows</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべてのウィンドウでの鍵と音の名前</translation>
     </message>
     <message>
         <source>L&amp;anguage:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">言語(&amp;A):</translation>
     </message>
     <message>
         <source>Not&amp;e names:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音名(&amp;E):</translation>
     </message>
 </context>
 <context>
     <name>velmora::LearnMenu</name>
     <message>
         <source>&amp;Learn MIDI Controller…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI コントローラーを学習(&amp;L)…</translation>
     </message>
     <message>
         <source>Learn MIDI Controller for %1…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 の MIDI コントローラーを学習…</translation>
     </message>
     <message>
         <source>&amp;Forget MIDI Controller</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI コントローラーの割り当てを解除(&amp;F)</translation>
     </message>
     <message>
         <source>Forget MIDI Controller for %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 の MIDI コントローラーの割り当てを解除</translation>
     </message>
     <message>
         <source>Learn MIDI Controller</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI コントローラーの学習</translation>
     </message>
     <message>
         <source>Waiting for a MIDI controller for “%1”.
 Move a controller, or press a button or a key, on a MIDI device.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">「%1」の MIDI コントローラーを待っています。
+MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押してください。</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2</translation>
     </message>
     <message>
         <source>MIDI key %1 on channel %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI キー %1 (チャンネル %2)</translation>
     </message>
     <message>
         <source>MIDI controller %1 on channel %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI コントローラー %1 (チャンネル %2)</translation>
     </message>
 </context>
 <context>
     <name>velmora::LevelMeter</name>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">レベル</translation>
     </message>
 </context>
 <context>
     <name>velmora::MetersWindow</name>
     <message>
         <source>Meters</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">メーター</translation>
     </message>
 </context>
 <context>
     <name>velmora::MidiPane</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%2 の %1</translation>
     </message>
     <message>
         <source>Connect a MIDI device, and it appears here.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 機器を接続すると、ここに表示されます。</translation>
     </message>
     <message>
         <source>Device</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">機器</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">オン</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">チャンネル</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵</translation>
     </message>
     <message>
         <source>MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 機器</translation>
     </message>
     <message>
         <source>%1 (not connected)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (未接続)</translation>
     </message>
     <message>
         <source>Whether the device is heard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この機器の演奏を受け取るかどうか</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべて</translation>
     </message>
     <message>
         <source>The MIDI channel to listen to</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">受信する MIDI チャンネル</translation>
     </message>
     <message>
         <source> semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> 半音</translation>
     </message>
     <message>
         <source>How much higher the keys sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵をどれだけ高く鳴らすか</translation>
     </message>
 </context>
 <context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">下へ移調 (Ctrl+Shift+下)</translation>
     </message>
     <message>
         <source>Transpose up (Ctrl+Shift+Up)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">上へ移調 (Ctrl+Shift+上)</translation>
     </message>
     <message>
         <source>Linear touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">リニアタッチ</translation>
     </message>
     <message>
         <source>Soft touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ソフトタッチ</translation>
     </message>
     <message>
         <source>Hard touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ハードタッチ</translation>
     </message>
     <message>
         <source>Fixed touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">固定タッチ</translation>
     </message>
     <message>
         <source>Touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">タッチ</translation>
     </message>
     <message>
         <source>How loud your touch on a MIDI keyboard sounds: soft makes a light touch louder, hard asks for a strong one, fixed ignores the touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI キーボードのタッチに対する音の強さ: ソフトは弱いタッチを大きくし、ハードは強いタッチを必要とし、固定はタッチを無視します</translation>
     </message>
     <message>
         <source>Transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">移調</translation>
     </message>
     <message>
         <source>The transposition of the MIDI keyboards in semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI キーボードの移調 (半音単位)</translation>
     </message>
     <message>
         <source>semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">半音</translation>
     </message>
 </context>
 <context>
     <name>velmora::PlayingPane</name>
     <message>
         <source>How much higher than written the keys of MIDI devices sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 機器の鍵を記譜よりどれだけ高く鳴らすか</translation>
     </message>
     <message>
         <source>How far the pitch wheel bends up and down; with 0 it does nothing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ピッチホイールで上下する幅。0 では何も起こりません</translation>
     </message>
     <message>
         <source>Pl&amp;ain reading of MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 機器をシンプルに読み取る(&amp;A)</translation>
     </message>
     <message>
         <source>Linear: as the keyboard sends it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">リニア: キーボードが送るとおり</translation>
     </message>
     <message>
         <source>Soft: a light touch is louder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ソフト: 弱いタッチが大きくなる</translation>
     </message>
     <message>
         <source>Hard: only a strong touch is loud</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ハード: 強いタッチだけが大きく鳴る</translation>
     </message>
     <message>
         <source>Fixed: always the same</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">固定: 常に同じ</translation>
     </message>
     <message>
         <source>Touch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">タッチ</translation>
     </message>
     <message>
         <source>Only notes and volumes count: no pedals, wheels, programs or learned controllers, no touch and no transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符と音量だけを使います: ペダル、ホイール、プログラム、学習したコントローラー、タッチ、移調は使いません</translation>
     </message>
     <message>
         <source>&amp;Touch:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">タッチ(&amp;T):</translation>
     </message>
     <message>
         <source>T&amp;ransposition:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">移調(&amp;R):</translation>
     </message>
     <message>
         <source>Pitch &amp;wheel:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ピッチホイール(&amp;W):</translation>
     </message>
     <message>
         <source> semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> 半音</translation>
     </message>
 </context>
 <context>
     <name>velmora::PreferencesWindow</name>
     <message>
         <source> px</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> px</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">設定</translation>
     </message>
     <message>
         <source>Panes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ページ</translation>
     </message>
     <message>
         <source>&amp;General</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">全般(&amp;G)</translation>
     </message>
     <message>
         <source>C&amp;olors</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">色(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;MIDI</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI(&amp;M)</translation>
     </message>
     <message>
         <source>So&amp;und</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">サウンド(&amp;U)</translation>
     </message>
     <message>
         <source>Key &amp;width:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵の幅(&amp;W):</translation>
     </message>
     <message>
         <source>The width of a semitone on the keyboard and in the piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵盤とピアノロールでの半音の幅</translation>
     </message>
     <message>
         <source>&amp;Step height:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ステップの高さ(&amp;S):</translation>
     </message>
     <message>
         <source>The height of a step, the distance between grid lines, in the piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ピアノロールでのステップ (グリッド線の間隔) の高さ</translation>
     </message>
     <message>
         <source>&amp;Lowest key:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">最低音の鍵(&amp;L):</translation>
     </message>
     <message>
         <source>The first key of the keyboard: a note name, such as A0, or a MIDI key number</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵盤の最初の鍵: A0 のような音名、または MIDI キー番号</translation>
     </message>
     <message>
         <source>&amp;Highest key:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">最高音の鍵(&amp;H):</translation>
     </message>
     <message>
         <source>The last key of the keyboard: a note name, such as C8, or a MIDI key number</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵盤の最後の鍵: C8 のような音名、または MIDI キー番号</translation>
     </message>
     <message>
         <source>Show note &amp;names on the C keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">C の鍵に音名を表示(&amp;N)</translation>
     </message>
     <message>
         <source>General MIDI bank:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">General MIDI バンク:</translation>
     </message>
     <message>
         <source>System default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">システムの既定</translation>
     </message>
     <message>
         <source>General MIDI bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">General MIDI バンク</translation>
     </message>
     <message>
         <source>Choose a SoundFont for the General MIDI player</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">General MIDI プレーヤーの SoundFont を選択します</translation>
     </message>
     <message>
         <source>Use &amp;Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">既定を使用(&amp;D)</translation>
     </message>
     <message>
         <source>Use the system&apos;s General MIDI bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">システムの General MIDI バンクを使用します</translation>
     </message>
     <message>
         <source>Choose a General MIDI Bank</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">General MIDI バンクの選択</translation>
     </message>
     <message>
         <source>SoundFont banks (*.sf2 *.sf3)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">SoundFont バンク (*.sf2 *.sf3)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべてのファイル (*)</translation>
     </message>
     <message>
         <source>A&amp;t the start:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">起動時(&amp;T):</translation>
     </message>
     <message>
         <source>Start empty</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">何も開かずに始める</translation>
     </message>
     <message>
         <source>Start as last time</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前回の状態で始める</translation>
     </message>
     <message>
         <source>Whether the instruments, the tuning and the pieces that are open when you quit are opened again</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">終了時に開いていた楽器、調律、曲をもう一度開くかどうか</translation>
     </message>
     <message>
         <source>Short&amp;cuts</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ショートカット(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Browse…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">参照(&amp;B)…</translation>
     </message>
 </context>
 <context>
     <name>velmora::ProgramList</name>
     <message>
         <source>Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ピアノ</translation>
     </message>
     <message>
         <source>Chromatic Percussion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">クロマチックパーカッション</translation>
     </message>
     <message>
         <source>Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">オルガン</translation>
     </message>
     <message>
         <source>Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ギター</translation>
     </message>
     <message>
         <source>Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ベース</translation>
     </message>
     <message>
         <source>Strings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ストリングス</translation>
     </message>
     <message>
         <source>Ensemble</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">アンサンブル</translation>
     </message>
     <message>
         <source>Brass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ブラス</translation>
     </message>
     <message>
         <source>Reed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">リード</translation>
     </message>
     <message>
         <source>Pipe</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">パイプ</translation>
     </message>
     <message>
         <source>Synth Lead</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">シンセリード</translation>
     </message>
     <message>
         <source>Synth Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">シンセパッド</translation>
     </message>
     <message>
         <source>Synth Effects</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">シンセエフェクト</translation>
     </message>
     <message>
         <source>Ethnic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">エスニック</translation>
     </message>
     <message>
         <source>Percussive</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">パーカッシブ</translation>
     </message>
     <message>
         <source>Sound Effects</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">効果音</translation>
     </message>
     <message>
         <source>Find a program</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">プログラムを検索</translation>
     </message>
     <message>
         <source>Program</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">プログラム</translation>
     </message>
     <message>
         <source>General MIDI program</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">General MIDI プログラム</translation>
     </message>
 </context>
 <context>
     <name>velmora::ProgressWindow</name>
     <message>
         <source>Loading</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">読み込み</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">進行状況</translation>
     </message>
     <message>
         <source>Cancelling…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">キャンセルしています…</translation>
     </message>
 </context>
 <context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceActions</name>
     <message>
         <source>&amp;Loop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ループ(&amp;L)</translation>
     </message>
     <message>
         <source>Repeat the selected time, or the whole sequence</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">選択した範囲、または曲全体を繰り返します</translation>
     </message>
     <message>
         <source>Snap to &amp;Grid</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">グリッドに合わせる(&amp;G)</translation>
     </message>
     <message>
         <source>Align notes and times with whole steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符と時刻をステップの区切りに揃えます</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">元に戻す(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">やり直す(&amp;R)</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">切り取り(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">コピー(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">貼り付け(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">削除(&amp;D)</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべて選択(&amp;A)</translation>
     </message>
     <message>
         <source>Select &amp;None</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">選択を解除(&amp;N)</translation>
     </message>
     <message>
         <source>Go to &amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">先頭へ(&amp;S)</translation>
     </message>
     <message>
         <source>Pre&amp;vious Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前の音符(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Next Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">次の音符(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">チャンネル(&amp;C)</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">停止</translation>
     </message>
     <message>
         <source>Record what you play, starting at the position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">現在の位置から演奏を録音します</translation>
     </message>
     <message>
         <source>Play from the position</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">現在の位置から再生します</translation>
     </message>
     <message>
         <source>Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">曲</translation>
     </message>
     <message>
         <source>&amp;Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">録音(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">再生(&amp;P)</translation>
     </message>
     <message>
         <source>Select Ne&amp;xt Note</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">次の音符を選択(&amp;X)</translation>
     </message>
     <message>
         <source>Select Pre&amp;vious Note</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前の音符を選択(&amp;V)</translation>
     </message>
     <message>
         <source>Go to &amp;End</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">末尾へ(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Selected Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">選択した音符(&amp;S)</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">編集</translation>
     </message>
     <message>
         <source>&amp;Zoom In</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">拡大(&amp;Z)</translation>
     </message>
     <message>
         <source>Zoom O&amp;ut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">縮小(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Wider Keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵を広く(&amp;W)</translation>
     </message>
     <message>
         <source>N&amp;arrower Keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵を狭く(&amp;A)</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">表示</translation>
     </message>
     <message>
         <source>Move Notes &amp;Up a Semitone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を半音上げる(&amp;U)</translation>
     </message>
     <message>
         <source>Move Notes &amp;Down a Semitone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を半音下げる(&amp;D)</translation>
     </message>
     <message>
         <source>Move Notes &amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を後へ移動(&amp;L)</translation>
     </message>
     <message>
         <source>Move Notes &amp;Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を前へ移動(&amp;E)</translation>
     </message>
     <message>
         <source>Make Notes Lon&amp;ger</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を長くする(&amp;G)</translation>
     </message>
     <message>
         <source>Make Notes &amp;Shorter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を短くする(&amp;S)</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
     <message>
         <source>Draw Note</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符の描画</translation>
     </message>
     <message numerus="yes">
         <source>Record %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の録音</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の削除</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Resize %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の長さの変更</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Move %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の移動</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Set Channel of %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符のチャンネルの変更</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Cut %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の切り取り</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Paste %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の貼り付け</numerusform>
         </translation>
     </message>
 </context>
@@ -1174,1472 +1177,1477 @@ Move a controller, or press a button or a key, on a MIDI device.</source>
     <message numerus="yes">
         <source>%1, %n note(s), %2</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%1、%n 個の音符、%2</numerusform>
         </translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">無題</translation>
     </message>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>Velmora was not closed properly. Recover the unsaved sequences?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora は正しく終了されませんでした。保存していない曲を復元しますか？</translation>
     </message>
     <message>
         <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">復元</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">破棄</translation>
     </message>
     <message>
         <source>Ask Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">後で確認</translation>
     </message>
     <message>
         <source>%1 •</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 •</translation>
     </message>
     <message>
         <source>Untitled %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">無題 %1</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceSaver</name>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>%1 is still being exported. Stop the export?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 をまだエクスポートしています。エクスポートを中止しますか？</translation>
     </message>
     <message>
         <source>If you stop it, no sound file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">中止すると、サウンドファイルは書き出されません。</translation>
     </message>
     <message>
         <source>Stop Export</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">エクスポートを中止</translation>
     </message>
     <message>
         <source>Save the changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 への変更を保存しますか？</translation>
     </message>
     <message>
         <source>If you do not save them, they are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">保存しないと、変更は失われます。</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">名前を付けて保存</translation>
     </message>
     <message>
         <source>An iMelody file holds a single voice and no dynamics. Save it anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">iMelody ファイルには単声しか保存できず、強弱も保存できません。それでも保存しますか？</translation>
     </message>
     <message>
         <source>Velmora cannot open iMelody files. A MIDI file keeps everything that you see.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora は iMelody ファイルを開けません。MIDI ファイルなら、表示されているすべてが保たれます。</translation>
     </message>
     <message>
         <source>%1 was not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は保存されませんでした。</translation>
     </message>
     <message>
         <source>Save As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">名前を付けて保存…</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceScrollView</name>
     <message>
         <source>Keys shown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">表示する鍵</translation>
     </message>
     <message>
         <source>Time shown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">表示する時間</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceStatus</name>
     <message>
         <source>Practice: play the notes at the position to move on to the next ones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">練習: 現在の位置の音を弾くと、次の音へ進みます</translation>
     </message>
     <message>
         <source>Steps %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ステップ %1〜%2</translation>
     </message>
     <message>
         <source>Playing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">再生中</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">録音中</translation>
     </message>
     <message>
         <source>Waiting for %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 を待っています</translation>
     </message>
     <message numerus="yes">
         <source>%n note(s) selected</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符を選択</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n note(s) in all</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>全 %n 個の音符</numerusform>
         </translation>
     </message>
     <message>
         <source>Done: all notes played</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">完了: すべての音を弾きました</translation>
     </message>
     <message>
         <source>Release %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 を離してください</translation>
     </message>
     <message>
         <source>Waiting for %1; not %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 を待っています (%2 ではありません)</translation>
     </message>
 </context>
 <context>
     <name>velmora::SequenceView</name>
     <message>
         <source>Piano roll</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ピアノロール</translation>
     </message>
     <message>
         <source>Velocity %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ベロシティ %1 %</translation>
     </message>
     <message>
         <source>%1, bar %2, beat %3, length in beats %4, channel %5</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1、小節 %2、拍 %3、長さ (拍) %4、チャンネル %5</translation>
     </message>
 </context>
 <context>
     <name>velmora::ShellActions</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイル</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">サウンド</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">表示</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ヘルプ</translation>
     </message>
     <message>
         <source>&amp;New Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">新しい曲(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">開く(&amp;O)…</translation>
     </message>
     <message>
         <source>Open pieces, instruments and tunings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">曲、楽器、調律を開きます</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">保存(&amp;S)</translation>
     </message>
     <message>
         <source>Save the piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">曲を保存します</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">名前を付けて保存(&amp;A)…</translation>
     </message>
     <message>
         <source>&amp;Export Audio…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">オーディオのエクスポート(&amp;E)…</translation>
     </message>
     <message>
         <source>Write a sound file of the piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">曲をサウンドファイルに書き出します</translation>
     </message>
     <message>
         <source>&amp;Close Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">曲を閉じる(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">設定(&amp;P)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">終了(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Silence Everything</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべて消音(&amp;S)</translation>
     </message>
     <message>
         <source>Stop every sound and release every key</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべての音を止め、すべての鍵を離します</translation>
     </message>
     <message>
         <source>Transpose &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">上へ移調(&amp;U)</translation>
     </message>
     <message>
         <source>Transpose &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">下へ移調(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵盤(&amp;K)</translation>
     </message>
     <message>
         <source>&amp;Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器(&amp;I)</translation>
     </message>
     <message>
         <source>Show the program or the stops</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">プログラムまたはストップを表示します</translation>
     </message>
     <message>
         <source>&amp;Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">演奏(&amp;P)</translation>
     </message>
     <message>
         <source>Arrange the window for playing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ウィンドウを演奏用に配置します</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">編集(&amp;E)</translation>
     </message>
     <message>
         <source>Arrange the window for editing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ウィンドウを編集用に配置します</translation>
     </message>
     <message>
         <source>&amp;Stage</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ステージ(&amp;S)</translation>
     </message>
     <message>
         <source>Fill the screen with what matters on stage</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ステージで必要なものを画面いっぱいに表示します</translation>
     </message>
     <message>
         <source>&amp;Reset Layout</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">配置を元に戻す(&amp;R)</translation>
     </message>
     <message>
         <source>Ne&amp;xt Panel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">次のパネル(&amp;X)</translation>
     </message>
     <message>
         <source>Pre&amp;vious Panel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">前のパネル(&amp;V)</translation>
     </message>
     <message>
         <source>Piece in Its &amp;Own Window</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">曲を別のウィンドウで表示(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Loaded Instruments…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">読み込まれた楽器(&amp;L)…</translation>
     </message>
     <message>
         <source>&amp;Meters</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">メーター(&amp;M)</translation>
     </message>
     <message>
         <source>Show the delay, the load and the devices of live playing</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">演奏時の遅延、負荷、機器を表示します</translation>
     </message>
     <message>
         <source>Note &amp;Names on the Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵盤に音名を表示(&amp;N)</translation>
     </message>
     <message>
         <source>User &amp;Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ユーザーガイド(&amp;G)</translation>
     </message>
     <message>
         <source>&amp;About Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora について(&amp;A)</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">最近使ったファイルを開く(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">一覧を消去(&amp;C)</translation>
     </message>
     <message>
         <source>Open Sess&amp;ion…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">セッションを開く(&amp;I)…</translation>
     </message>
     <message>
         <source>Open the instruments, the tuning and the pieces of a session</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">セッションの楽器、調律、曲を開きます</translation>
     </message>
     <message>
         <source>Sa&amp;ve Session…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">セッションを保存(&amp;V)…</translation>
     </message>
     <message>
         <source>Save which instruments, tuning and pieces are open</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">開いている楽器、調律、曲の組み合わせを保存します</translation>
     </message>
     <message>
         <source>&amp;Find a Command…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">コマンドを検索(&amp;F)…</translation>
     </message>
     <message>
         <source>Find a command by its name and perform it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">コマンドを名前で検索して実行します</translation>
     </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
     <message>
         <source>Find a command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">コマンドを検索</translation>
     </message>
     <message>
         <source>Use It &amp;Here</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ここで使う(&amp;H)</translation>
     </message>
     <message>
         <source>Remo&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">削除(&amp;V)</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">コマンド</translation>
     </message>
     <message>
         <source>Shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ショートカット</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">コマンド</translation>
     </message>
     <message>
         <source>Press the new keys for the selected command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">選択したコマンドの新しいキーを押してください</translation>
     </message>
     <message>
         <source>New shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">新しいショートカット</translation>
     </message>
     <message>
         <source>&amp;New shortcut:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">新しいショートカット(&amp;N):</translation>
     </message>
     <message>
         <source>Take the shortcut from the other command</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">もう一方のコマンドからショートカットを移します</translation>
     </message>
     <message>
         <source>Leave the selected command without a shortcut</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">選択したコマンドのショートカットをなくします</translation>
     </message>
     <message>
         <source>Restore &amp;Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">既定値に戻す(&amp;D)</translation>
     </message>
     <message>
         <source>Give every command the shortcuts that it had at first</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべてのコマンドを最初のショートカットに戻します</translation>
     </message>
     <message>
         <source>%1 plays a note. Add Ctrl or Alt, or use a function key.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は音を鳴らすキーです。Ctrl か Alt を加えるか、ファンクションキーを使ってください。</translation>
     </message>
     <message>
         <source>%1 belongs to “%2”. Press other keys, or use it here instead.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 は「%2」に割り当てられています。別のキーを押すか、代わりにここで使ってください。</translation>
     </message>
 </context>
 <context>
     <name>velmora::SoundPane</name>
     <message>
         <source>Ou&amp;tput:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">出力(&amp;T):</translation>
     </message>
     <message>
         <source>The sound server or driver that Velmora plays through</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora が音を出すサウンドサーバーまたはドライバー</translation>
     </message>
     <message>
         <source>&amp;Device:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">デバイス(&amp;D):</translation>
     </message>
     <message>
         <source>The device that is heard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音が出るデバイス</translation>
     </message>
     <message>
         <source>Sample &amp;rate:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">サンプルレート(&amp;R):</translation>
     </message>
     <message>
         <source>A JACK server determines the sample rate itself</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">JACK サーバーはサンプルレートを自ら決めます</translation>
     </message>
     <message>
         <source>&amp;Period:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ピリオド(&amp;P):</translation>
     </message>
     <message>
         <source>The shorter the period, the sooner a key sounds, and the more the machine has to do. With JACK, it applies to all programs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ピリオドが短いほど鍵は早く鳴り、コンピューターの負荷は高くなります。JACK ではすべてのプログラムに適用されます</translation>
     </message>
     <message>
         <source>Playing:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">使用中:</translation>
     </message>
     <message>
         <source>Master &amp;volume:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">マスター音量(&amp;V):</translation>
     </message>
     <message>
         <source>Level:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">レベル:</translation>
     </message>
     <message>
         <source>Master volume</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">マスター音量</translation>
     </message>
     <message>
         <source>Play Test To&amp;ne</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">テスト音を鳴らす(&amp;N)</translation>
     </message>
     <message>
         <source>Plays a short, quiet tone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">短く小さな音を鳴らします</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">自動</translation>
     </message>
     <message>
         <source>%1 (missing)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (見つかりません)</translation>
     </message>
     <message>
         <source>%1 frames</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 フレーム</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">既定</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 %</translation>
     </message>
     <message>
         <source>%L1 kHz</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%L1 kHz</translation>
     </message>
     <message>
         <source>%1, %L2 kHz, %L3 frames (%L4 ms)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1、%L2 kHz、%L3 フレーム (%L4 ms)</translation>
     </message>
     <message>
         <source>
 To the sound card: %L1 ms. Lost periods: %L2.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">
+サウンドカードまで: %L1 ms。失われたピリオド: %L2。</translation>
     </message>
 </context>
 <context>
     <name>velmora::StartPage</name>
     <message>
         <source>First steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">はじめに</translation>
     </message>
     <message>
         <source>User Guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ユーザーガイド</translation>
     </message>
     <message>
         <source>Open the user guide</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ユーザーガイドを開きます</translation>
     </message>
     <message>
         <source>What would you like to do?</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">何をしますか？</translation>
     </message>
     <message>
         <source>Welcome to Velmora! Each card does something at once, and nothing can break.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora へようこそ！どのカードもすぐに動作し、何かが壊れる心配はありません。</translation>
     </message>
     <message>
         <source>Hear it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">聴く</translation>
     </message>
     <message>
         <source>C major, whose third beats in equal temperament and is pure in meantone. The tuning that you hear stays selected.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ハ長調の和音です。第 3 音は平均律ではうなり、中全音律では純正に響きます。聴いた調律がそのまま選択されます。</translation>
     </message>
     <message>
         <source>Equal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">平均律</translation>
     </message>
     <message>
         <source>Hear the chord in equal temperament</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">和音を平均律で聴きます</translation>
     </message>
     <message>
         <source>Meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">中全音律</translation>
     </message>
     <message>
         <source>Hear the chord in quarter-comma meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">和音を 1/4 コンマ中全音律で聴きます</translation>
     </message>
     <message>
         <source>Choose a Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律を選択</translation>
     </message>
     <message>
         <source>Choose a tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律を選択します</translation>
     </message>
     <message>
         <source>Tune it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律する</translation>
     </message>
     <message>
         <source>Choose a historical tuning, or one that adapts to what you play.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">歴史的な調律、または演奏に合わせて変わる調律を選びます。</translation>
     </message>
     <message>
         <source>Open an Instrument…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器を開く…</translation>
     </message>
     <message>
         <source>Open an instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器を開きます</translation>
     </message>
     <message>
         <source>Play it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">弾く</translation>
     </message>
     <message>
         <source>Use a MIDI keyboard, the keys below, or the letters of the computer keyboard, from A on.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI キーボード、下の鍵盤、またはコンピューターのキーボードの A から始まる文字キーで弾けます。</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">録音</translation>
     </message>
     <message>
         <source>Record a new sequence</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">新しい曲を録音します</translation>
     </message>
     <message>
         <source>Record it</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">録音する</translation>
     </message>
     <message>
         <source>Play, correct the notes in the piano roll, and export the sound.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">演奏し、ピアノロールで音符を直し、音声をエクスポートします。</translation>
     </message>
     <message>
         <source>Open %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 を開く</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">例</translation>
     </message>
     <message>
         <source>%1 (tuning)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (調律)</translation>
     </message>
     <message>
         <source>%1 (piece)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (曲)</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">最近使ったファイル</translation>
     </message>
 </context>
 <context>
     <name>velmora::StatusLine</name>
     <message>
         <source>The sound output: its driver, sample rate and period</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">サウンド出力: ドライバー、サンプルレート、ピリオド</translation>
     </message>
     <message>
         <source>No MIDI input</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 入力なし</translation>
     </message>
     <message>
         <source>A MIDI device is used as soon as it is connected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 機器は接続するとすぐに使えます</translation>
     </message>
     <message>
         <source>There is no MIDI device. Connect one, or play with the mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 機器がありません。接続するか、マウスで演奏してください。</translation>
     </message>
     <message>
         <source>No sound output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">サウンド出力なし</translation>
     </message>
     <message>
         <source>Notices: %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">お知らせ: %1</translation>
     </message>
     <message>
         <source>Notices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">お知らせ</translation>
     </message>
     <message>
         <source>%1, %L2 kHz, %L3 ms</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1、%L2 kHz、%L3 ms</translation>
     </message>
     <message>
         <source>Instrument: %1
 Click to show its programs or stops</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器: %1
+クリックするとプログラムまたはストップを表示します</translation>
     </message>
     <message>
         <source>Tuning: %1 (%2)
 Click to show all tunings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律: %1 (%2)
+クリックするとすべての調律を表示します</translation>
     </message>
     <message>
         <source>Plain reading</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">シンプル読み取り</translation>
     </message>
     <message>
         <source>MIDI devices are read plainly: no pedals, no touch, no transposition</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 機器をシンプルに読み取ります: ペダル、タッチ、移調は使いません</translation>
     </message>
     <message>
         <source>Transposed %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">移調 %1</translation>
     </message>
     <message>
         <source>MIDI keyboards sound %1 semitones away from their keys</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI キーボードは鍵から %1 半音ずれて鳴ります</translation>
     </message>
     <message numerus="yes">
         <source>%n MIDI input(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>MIDI 入力 %n 個</numerusform>
         </translation>
     </message>
     <message>
         <source>MIDI devices:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 機器:
+%1</translation>
     </message>
     <message>
         <source>The display may go to sleep while you play because there is no D-Bus session bus. Start Velmora from the desktop, or with dbus-run-session.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">D-Bus のセッションバスがないため、演奏中に画面が消えることがあります。Velmora をデスクトップから、または dbus-run-session で起動してください。</translation>
     </message>
     <message>
         <source>What you change in the preferences, and what is open, is forgotten when you quit because nothing can be written to %1. Make that folder writable.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 に書き込めないため、設定の変更や開いているものは終了時に失われます。このフォルダーを書き込み可能にしてください。</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器</translation>
     </message>
     <message>
         <source>Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律</translation>
     </message>
     <message>
         <source>Reading of MIDI devices</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 機器の読み取り</translation>
     </message>
     <message>
         <source>Sound output</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">サウンド出力</translation>
     </message>
     <message>
         <source>MIDI inputs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">MIDI 入力</translation>
     </message>
 </context>
 <context>
     <name>velmora::StopList</name>
     <message>
         <source>Find a stop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ストップを検索</translation>
     </message>
 </context>
 <context>
     <name>velmora::StopRow</name>
     <message>
         <source>%1: turn on or off (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: オン/オフ (スペース)</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 %</translation>
     </message>
 </context>
 <context>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">小節</translation>
     </message>
     <message>
         <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">矢印をドラッグすると再生位置が動きます。ルーラー上をドラッグすると、ループする範囲を選択します。</translation>
     </message>
 </context>
 <context>
     <name>velmora::TransportBar</name>
     <message>
         <source>Transport</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">トランスポート</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">停止</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">録音</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">再生</translation>
     </message>
     <message>
         <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">このテンポでの位置 (分、秒) とステップ</translation>
     </message>
     <message>
         <source>Te&amp;mpo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">テンポ(&amp;M)</translation>
     </message>
     <message>
         <source>Tempo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">テンポ</translation>
     </message>
     <message>
         <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">再生と録音のテンポ (1 分あたりの拍数) (Alt+M)</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">チャンネル(&amp;C)</translation>
     </message>
     <message>
         <source>Channel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">チャンネル</translation>
     </message>
     <message>
         <source>The channel of notes that you record or draw. A digit key chooses a channel and selects its notes; with Ctrl it moves the selected notes to that channel.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">録音または描画する音符のチャンネル。数字キーでチャンネルを選び、その音符を選択します。Ctrl と一緒に押すと、選択した音符をそのチャンネルへ移します。</translation>
     </message>
     <message>
         <source>%1  ·  step %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1  ·  ステップ %2</translation>
     </message>
     <message>
         <source> bpm</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished"> bpm</translation>
     </message>
 </context>
 <context>
     <name>velmora::TuningPanel</name>
     <message>
         <source>Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律</translation>
     </message>
     <message>
         <source>Open T&amp;uning…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律を開く(&amp;U)…</translation>
     </message>
     <message>
         <source>Open a tuning file: a scale (.scl) or frequencies (.mtx)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律ファイルを開きます: 音階 (.scl) または周波数 (.mtx)</translation>
     </message>
     <message>
         <source>The pitches of middle C and of the A above it in this tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">この調律での中央の C とその上の A の音高</translation>
     </message>
     <message>
         <source>%1 (middle C): %2 Hz
 %3: %4 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 (中央の C): %2 Hz
+%3: %4 Hz</translation>
     </message>
     <message>
         <source>Equal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">平均律</translation>
     </message>
     <message>
         <source>Twelve equal semitones</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">12 の等しい半音</translation>
     </message>
     <message>
         <source>Quartercomma Meantone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">1/4 コンマ中全音律</translation>
     </message>
     <message>
         <source>Pure major thirds</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">純正な長三度</translation>
     </message>
     <message>
         <source>Dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ダイナミック</translation>
     </message>
     <message>
         <source>Adapts its thirds to what you play</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">演奏に合わせて三度を調整します</translation>
     </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
     <message>
         <source>Tuning strip</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律ストリップ</translation>
     </message>
     <message>
         <source>How many cents each note of the tuning lies above or below equal temperament</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律の各音が平均律より何セント高いか、または低いか</translation>
     </message>
     <message>
         <source>%1: %2 cents</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1: %2 セント</translation>
     </message>
 </context>
 <context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velmora</translation>
     </message>
     <message>
         <source>Open pieces</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">開いている曲</translation>
     </message>
     <message>
         <source>Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">鍵盤</translation>
     </message>
     <message>
         <source>Instrument</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">楽器</translation>
     </message>
     <message>
         <source>Tuning</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">調律</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">編集(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Piece</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">曲(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">表示(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>Silence Everything</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">すべて消音</translation>
     </message>
 </context>
 <context>
     <name>velmora::nameParts</name>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">その他</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">クリア</translation>
     </message>
 </context>
 <context>
     <name>velmora::noteNames</name>
     <message>
         <source>La</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ラ</translation>
     </message>
     <message>
         <source>Si</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">シ</translation>
     </message>
     <message>
         <source>Do</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ド</translation>
     </message>
     <message>
         <source>Re</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">レ</translation>
     </message>
     <message>
         <source>Mi</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ミ</translation>
     </message>
     <message>
         <source>Fa</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ファ</translation>
     </message>
     <message>
         <source>Sol</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ソ</translation>
     </message>
 </context>
 <context>
     <name>velmora::programNames</name>
     <message>
         <source>1 Acoustic Grand Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">1 アコースティックグランドピアノ</translation>
     </message>
     <message>
         <source>2 Bright Acoustic Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">2 ブライトピアノ</translation>
     </message>
     <message>
         <source>3 Electric Grand Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">3 エレクトリックグランドピアノ</translation>
     </message>
     <message>
         <source>4 Honky-Tonk Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">4 ホンキートンクピアノ</translation>
     </message>
     <message>
         <source>5 Rhodes Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">5 ローズピアノ</translation>
     </message>
     <message>
         <source>6 Chorus Piano</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">6 コーラスピアノ</translation>
     </message>
     <message>
         <source>7 Harpsichord</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">7 ハープシコード</translation>
     </message>
     <message>
         <source>8 Clavinet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">8 クラビネット</translation>
     </message>
     <message>
         <source>9 Celesta</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">9 チェレスタ</translation>
     </message>
     <message>
         <source>10 Glockenspiel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">10 グロッケンシュピール</translation>
     </message>
     <message>
         <source>11 Music Box</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">11 オルゴール</translation>
     </message>
     <message>
         <source>12 Vibraphone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">12 ビブラフォン</translation>
     </message>
     <message>
         <source>13 Marimba</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">13 マリンバ</translation>
     </message>
     <message>
         <source>14 Xylophone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">14 シロフォン</translation>
     </message>
     <message>
         <source>15 Tubular Bells</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">15 チューブラーベル</translation>
     </message>
     <message>
         <source>16 Dulcimer</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">16 ダルシマー</translation>
     </message>
     <message>
         <source>17 Hammond Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">17 ハモンドオルガン</translation>
     </message>
     <message>
         <source>18 Percusive Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">18 パーカッシブオルガン</translation>
     </message>
     <message>
         <source>19 Rock Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">19 ロックオルガン</translation>
     </message>
     <message>
         <source>20 Church Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">20 チャーチオルガン</translation>
     </message>
     <message>
         <source>21 Reed Organ</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">21 リードオルガン</translation>
     </message>
     <message>
         <source>22 Accordion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">22 アコーディオン</translation>
     </message>
     <message>
         <source>23 Harmonica</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">23 ハーモニカ</translation>
     </message>
     <message>
         <source>24 Tango Accordion</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">24 タンゴアコーディオン</translation>
     </message>
     <message>
         <source>25 Nylon Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">25 ナイロン弦ギター</translation>
     </message>
     <message>
         <source>26 Steel String Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">26 スチール弦ギター</translation>
     </message>
     <message>
         <source>27 Jazz Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">27 ジャズギター</translation>
     </message>
     <message>
         <source>28 Clean E. Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">28 クリーンエレキギター</translation>
     </message>
     <message>
         <source>29 Mute E. Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">29 ミュートエレキギター</translation>
     </message>
     <message>
         <source>30 Overdrive Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">30 オーバードライブギター</translation>
     </message>
     <message>
         <source>31 Distort Guitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">31 ディストーションギター</translation>
     </message>
     <message>
         <source>32 Harmonics</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">32 ギターハーモニクス</translation>
     </message>
     <message>
         <source>33 Acoustic Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">33 アコースティックベース</translation>
     </message>
     <message>
         <source>34 Finger E. Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">34 エレキベース (指弾き)</translation>
     </message>
     <message>
         <source>35 Picked E. Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">35 エレキベース (ピック弾き)</translation>
     </message>
     <message>
         <source>36 Fretless Bass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">36 フレットレスベース</translation>
     </message>
     <message>
         <source>37 Slap Bass 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">37 スラップベース 1</translation>
     </message>
     <message>
         <source>38 Slap Bass 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">38 スラップベース 2</translation>
     </message>
     <message>
         <source>39 Synth Bass1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">39 シンセベース 1</translation>
     </message>
     <message>
         <source>40 Synth Bass2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">40 シンセベース 2</translation>
     </message>
     <message>
         <source>41 Violin</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">41 バイオリン</translation>
     </message>
     <message>
         <source>42 Viola</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">42 ビオラ</translation>
     </message>
     <message>
         <source>43 Cello</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">43 チェロ</translation>
     </message>
     <message>
         <source>44 Contrabass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">44 コントラバス</translation>
     </message>
     <message>
         <source>45 Tremolo Strings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">45 トレモロストリングス</translation>
     </message>
     <message>
         <source>46 Pizzicato Strings</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">46 ピチカートストリングス</translation>
     </message>
     <message>
         <source>47 Orchestral Harp</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">47 オーケストラハープ</translation>
     </message>
     <message>
         <source>48 Timpani</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">48 ティンパニ</translation>
     </message>
     <message>
         <source>49 String Ensemble 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">49 ストリングアンサンブル 1</translation>
     </message>
     <message>
         <source>50 String Ensemble 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">50 ストリングアンサンブル 2</translation>
     </message>
     <message>
         <source>51 Synth Strings 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">51 シンセストリングス 1</translation>
     </message>
     <message>
         <source>52 Synth Strings 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">52 シンセストリングス 2</translation>
     </message>
     <message>
         <source>53 Choir Aahs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">53 合唱「アー」</translation>
     </message>
     <message>
         <source>54 Voice Oohs</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">54 声「ウー」</translation>
     </message>
     <message>
         <source>55 Synth Voice</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">55 シンセボイス</translation>
     </message>
     <message>
         <source>56 Orchestra Hit</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">56 オーケストラヒット</translation>
     </message>
     <message>
         <source>57 Trumpet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">57 トランペット</translation>
     </message>
     <message>
         <source>58 Trombone</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">58 トロンボーン</translation>
     </message>
     <message>
         <source>59 Tuba</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">59 チューバ</translation>
     </message>
     <message>
         <source>60 Mute Trumpet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">60 ミュートトランペット</translation>
     </message>
     <message>
         <source>61 French Horn</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">61 フレンチホルン</translation>
     </message>
     <message>
         <source>62 Brass Section</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">62 ブラスセクション</translation>
     </message>
     <message>
         <source>63 Synth Brass 1</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">63 シンセブラス 1</translation>
     </message>
     <message>
         <source>64 Synth Brass 2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">64 シンセブラス 2</translation>
     </message>
     <message>
         <source>65 Soprano Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">65 ソプラノサックス</translation>
     </message>
     <message>
         <source>66 Alto Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">66 アルトサックス</translation>
     </message>
     <message>
         <source>67 Tenor Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">67 テナーサックス</translation>
     </message>
     <message>
         <source>68 Baritone Sax</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">68 バリトンサックス</translation>
     </message>
     <message>
         <source>69 Oboe</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">69 オーボエ</translation>
     </message>
     <message>
         <source>70 English Horn</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">70 イングリッシュホルン</translation>
     </message>
     <message>
         <source>71 Bassoon</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">71 ファゴット</translation>
     </message>
     <message>
         <source>72 Clarinet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">72 クラリネット</translation>
     </message>
     <message>
         <source>73 Piccolo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">73 ピッコロ</translation>
     </message>
     <message>
         <source>74 Flute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">74 フルート</translation>
     </message>
     <message>
         <source>75 Recorder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">75 リコーダー</translation>
     </message>
     <message>
         <source>76 Pan Flute</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">76 パンフルート</translation>
     </message>
     <message>
         <source>77 Bottle Blow</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">77 ボトルブロー</translation>
     </message>
     <message>
         <source>78 Shakuhachi</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">78 尺八</translation>
     </message>
     <message>
         <source>79 Whistle</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">79 口笛</translation>
     </message>
     <message>
         <source>80 Ocarina</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">80 オカリナ</translation>
     </message>
     <message>
         <source>81 Square Wave</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">81 矩形波</translation>
     </message>
     <message>
         <source>82 Saw Tooth</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">82 のこぎり波</translation>
     </message>
     <message>
         <source>83 Syn Calliope</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">83 シンセカリオペ</translation>
     </message>
     <message>
         <source>84 Chiffer Lead</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">84 チファーリード</translation>
     </message>
     <message>
         <source>85 Charang</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">85 チャラング</translation>
     </message>
     <message>
         <source>86 Solo Vox</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">86 ソロボイス</translation>
     </message>
     <message>
         <source>87 5th Saw Wave</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">87 5 度のこぎり波</translation>
     </message>
     <message>
         <source>88 Brass &amp; Lead</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">88 ブラスとリード</translation>
     </message>
     <message>
         <source>89 Fantasia</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">89 ファンタジア</translation>
     </message>
     <message>
         <source>90 Warm Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">90 ウォームパッド</translation>
     </message>
     <message>
         <source>91 Polysynth</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">91 ポリシンセ</translation>
     </message>
     <message>
         <source>92 Space Vox</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">92 スペースボイス</translation>
     </message>
     <message>
         <source>93 Bowed Glass</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">93 ボウグラス</translation>
     </message>
     <message>
         <source>94 Metal Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">94 メタルパッド</translation>
     </message>
     <message>
         <source>95 Halo Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">95 ハローパッド</translation>
     </message>
     <message>
         <source>96 Sweep Pad</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">96 スイープパッド</translation>
     </message>
     <message>
         <source>97 Ice Rain</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">97 アイスレイン</translation>
     </message>
     <message>
         <source>98 Soundtrack</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">98 サウンドトラック</translation>
     </message>
     <message>
         <source>99 Crystal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">99 クリスタル</translation>
     </message>
     <message>
         <source>100 Atmosphere</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">100 アトモスフィア</translation>
     </message>
     <message>
         <source>101 Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">101 ブライトネス</translation>
     </message>
     <message>
         <source>102 Goblin</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">102 ゴブリン</translation>
     </message>
     <message>
         <source>103 Echo Drops</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">103 エコードロップ</translation>
     </message>
     <message>
         <source>104 Star Theme</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">104 スターテーマ</translation>
     </message>
     <message>
         <source>105 Sitar</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">105 シタール</translation>
     </message>
     <message>
         <source>106 Banjo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">106 バンジョー</translation>
     </message>
     <message>
         <source>107 Shamisen</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">107 三味線</translation>
     </message>
     <message>
         <source>108 Koto</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">108 箏</translation>
     </message>
     <message>
         <source>109 Kalimba</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">109 カリンバ</translation>
     </message>
     <message>
         <source>110 Bag Pipe</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">110 バグパイプ</translation>
     </message>
     <message>
         <source>111 Fiddle</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">111 フィドル</translation>
     </message>
     <message>
         <source>112 Shanai</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">112 シャナイ</translation>
     </message>
     <message>
         <source>113 Tinkle Bell</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">113 ティンクルベル</translation>
     </message>
     <message>
         <source>114 Agogo</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">114 アゴゴ</translation>
     </message>
     <message>
         <source>115 Steel Drums</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">115 スチールドラム</translation>
     </message>
     <message>
         <source>116 Woodblock</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">116 ウッドブロック</translation>
     </message>
     <message>
         <source>117 Taiko Drum</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">117 太鼓</translation>
     </message>
     <message>
         <source>118 Melodic Tom</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">118 メロディックタム</translation>
     </message>
     <message>
         <source>119 Synth Drum</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">119 シンセドラム</translation>
     </message>
     <message>
         <source>120 Reverse Cymbal</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">120 リバースシンバル</translation>
     </message>
     <message>
         <source>121 Guitar Fret Noise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">121 ギターフレットノイズ</translation>
     </message>
     <message>
         <source>122 Breath Noise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">122 ブレスノイズ</translation>
     </message>
     <message>
         <source>123 Sea Shore</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">123 海岸</translation>
     </message>
     <message>
         <source>124 Bird Tweet</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">124 鳥のさえずり</translation>
     </message>
     <message>
         <source>125 Telephone Ring</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">125 電話のベル</translation>
     </message>
     <message>
         <source>126 Helicopter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">126 ヘリコプター</translation>
     </message>
     <message>
         <source>127 Applause</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">127 拍手</translation>
     </message>
     <message>
         <source>128 Gun Shot</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">128 銃声</translation>
     </message>
 </context>
 </TS>
