@@ -152,11 +152,11 @@
     </message>
     <message>
         <source>Reduce motion</source>
-        <translation type="unfinished">Réduire les mouvements</translation>
+        <translation type="unfinished">Réduire les animations</translation>
     </message>
     <message>
         <source>Scroll the piano roll at once instead of gliding</source>
-        <translation type="unfinished">Faire défiler le piano roll d’un coup au lieu de glisser</translation>
+        <translation type="unfinished">Faire défiler le piano roll d’un coup au lieu de le faire glisser</translation>
     </message>
 </context>
 <context>
@@ -1318,7 +1318,7 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>Done: all notes played</source>
-        <translation type="unfinished">Terminé : toutes les notes sont jouées</translation>
+        <translation type="unfinished">Terminé&#x202f;: toutes les notes ont été jouées</translation>
     </message>
     <message>
         <source>Release %1</source>
@@ -1326,7 +1326,7 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>Waiting for %1; not %2</source>
-        <translation type="unfinished">En attente de %1 ; pas %2</translation>
+        <translation type="unfinished">En attente de %1&#x202f;; pas %2</translation>
     </message>
 </context>
 <context>
@@ -1936,7 +1936,7 @@ Cliquez pour afficher tous les tempéraments</translation>
     </message>
     <message>
         <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
-        <translation type="unfinished">Faites glisser la flèche pour déplacer la position de lecture. Faites glisser sur la règle pour choisir le temps joué en boucle.</translation>
+        <translation type="unfinished">Faites glisser la flèche pour déplacer la position de lecture. Glissez sur la règle pour sélectionner le passage à lire en boucle.</translation>
     </message>
 </context>
 <context>

@@ -152,11 +152,11 @@
     </message>
     <message>
         <source>Reduce motion</source>
-        <translation type="unfinished">Riduci i movimenti</translation>
+        <translation type="unfinished">Riduci le animazioni</translation>
     </message>
     <message>
         <source>Scroll the piano roll at once instead of gliding</source>
-        <translation type="unfinished">Fa scorrere il piano roll di colpo invece che gradualmente</translation>
+        <translation type="unfinished">Fai scorrere il piano roll di scatto anziché gradualmente</translation>
     </message>
 </context>
 <context>
@@ -643,11 +643,11 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>
-        <translation type="unfinished">Trasponi più in basso (Ctrl+Maiusc+Giù)</translation>
+        <translation type="unfinished">Trasponi più in basso (Ctrl+Shift+Giù)</translation>
     </message>
     <message>
         <source>Transpose up (Ctrl+Shift+Up)</source>
-        <translation type="unfinished">Trasponi più in alto (Ctrl+Maiusc+Su)</translation>
+        <translation type="unfinished">Trasponi più in alto (Ctrl+Shift+Su)</translation>
     </message>
     <message>
         <source>Linear touch</source>
@@ -1318,11 +1318,11 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
     <message>
         <source>Done: all notes played</source>
-        <translation type="unfinished">Fatto: tutte le note suonate</translation>
+        <translation type="unfinished">Finito: tutte le note sono state suonate</translation>
     </message>
     <message>
         <source>Release %1</source>
-        <translation type="unfinished">Rilasciare %1</translation>
+        <translation type="unfinished">Rilascia %1</translation>
     </message>
     <message>
         <source>Waiting for %1; not %2</source>
@@ -1936,7 +1936,7 @@ Fai clic per mostrare tutti i temperamenti</translation>
     </message>
     <message>
         <source>Drag the arrow to move the play position. Drag over the ruler to select the time that is looped.</source>
-        <translation type="unfinished">Trascinare la freccia per spostare la posizione. Trascinare sul righello per scegliere il tempo ripetuto.</translation>
+        <translation type="unfinished">Trascina la freccia per spostare la posizione di riproduzione. Trascina sul righello per selezionare il passaggio da ripetere in loop.</translation>
     </message>
 </context>
 <context>
