@@ -184,15 +184,19 @@ void SequenceDocument::swap(std::vector<NoteState>& notes)
     ids.reserve(notes.size());
     for (const NoteState& state : notes)
         ids.push_back(state.id);
-    const Edit edit(*this, ids);
-    edit->swap(notes);
+    {
+        const Edit edit(*this, ids);
+        edit->swap(notes);
 
-    // A restored note can lie beyond the end.
-    double extent = transport_.extent();
-    for (const std::uint64_t id : ids)
-        if (const Note* note = edit->find(id))
-            extent = std::max(extent, extentOf(*note));
-    transport_.setExtent(extent);
+        // A restored note can lie beyond the end.
+        double extent = transport_.extent();
+        for (const std::uint64_t id : ids)
+            if (const Note* note = edit->find(id))
+                extent = std::max(extent, extentOf(*note));
+        transport_.setExtent(extent);
+    }
+    practice_.showKeys(); // other notes may be wanted now
+    emit transport_.frame();
 }
 
 void SequenceDocument::perform(std::vector<NoteState> notes, const QString& text)

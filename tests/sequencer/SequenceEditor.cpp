@@ -222,6 +222,7 @@ TEST_F(SequenceEditorTest, ChoosesAndCorrectsNotesByCommands)
     for (int edit = 0; edit < 3; ++edit)
         undo();
     EXPECT_EQ(notes(), before);
+    EXPECT_EQ(document_.practice().stateOfNote(60), kWanted) << "again";
 
     editor_.selectAll();
     recorder_.setSnapToGrid(true);

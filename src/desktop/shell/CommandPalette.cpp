@@ -15,7 +15,7 @@ namespace velmora {
 
 namespace {
 
-constexpr int kActionRole = Qt::UserRole;
+constexpr int kCommandRole = Qt::UserRole;
 
 /// The size of the palette in letters of average width and in lines, and the least distance from
 /// the edges of the window, in pixels.
@@ -62,7 +62,7 @@ void CommandPalette::fill()
             action->iconText() + '\n' +
                 (shortcut.isEmpty() ? group : tr("%1 – %2").arg(group, shortcut)),
             list_);
-        item->setData(kActionRole, QVariant::fromValue(action));
+        item->setData(kCommandRole, QVariant::fromValue(action));
         if (!action->isEnabled())
             item->setFlags(Qt::NoItemFlags);
     }
@@ -109,7 +109,7 @@ void CommandPalette::perform()
     if (item == nullptr || (item->flags() & Qt::ItemIsEnabled) == 0)
         return;
     close(); // so that the command finds the focus where it was
-    item->data(kActionRole).value<QAction*>()->trigger();
+    item->data(kCommandRole).value<QAction*>()->trigger();
 }
 
 } // namespace velmora
