@@ -27,14 +27,15 @@ constexpr RollShade gray(std::uint8_t level)
     return {level, level, level, 255};
 }
 
-/// Returns an opaque colour between two; `part` is the share of the second one.
+/// Returns an opaque colour between two; `part` is the share of the second one. Uses whole numbers,
+/// because it is called for every visible note.
 RollShade mixed(RollShade one, RollShade other, float part)
 {
-    RollShade result{0, 0, 0, 255};
-    for (std::size_t i = 0; i < 3; ++i)
-        result[i] = static_cast<std::uint8_t>(std::lround(static_cast<float>(one[i]) * (1 - part) +
-                                                          static_cast<float>(other[i]) * part));
-    return result;
+    const int share = static_cast<int>(part * 256);
+    const auto mix = [&](std::size_t i) {
+        return static_cast<std::uint8_t>((one[i] * (256 - share) + other[i] * share) / 256);
+    };
+    return {mix(0), mix(1), mix(2), 255};
 }
 
 /// Returns the colour half-way between `color` and white.
@@ -127,7 +128,7 @@ RollShade RollColors::atRest(const Note& note) const
 {
     if (note_)
         return *note_;
-    const auto level = std::lround(std::clamp(note.velocity, 0.0F, 1.0F) * (kVelocities - 1));
+    const float level = std::clamp(note.velocity, 0.0F, 1.0F) * (kVelocities - 1) + 0.5F;
     return notes_[note.channel % kChannels][static_cast<std::size_t>(level)];
 }
 

@@ -78,6 +78,7 @@ void RollPicture::addFadingNotes(const RollGeometry& geometry, const RollColors&
 void RollPicture::addBlocks(const RollGeometry& geometry, const RollColors& colors,
                             const SequenceDocument& document, const RollIndex& index)
 {
+    const bool isPlain = geometry.keyHeight < kMinGridStep; // thousands of notes are in sight
     const bool isRecording = document.transport().mode() == Transport::Mode::Recording;
     index.visit(document.sequence().notes(), geometry.bottomStep(), geometry.topStep(),
                 [&](const Note& note) {
@@ -93,7 +94,10 @@ void RollPicture::addBlocks(const RollGeometry& geometry, const RollColors& colo
                                             : isTaken     ? colors.recorded
                                             : note.active ? colors.playing
                                                           : colors.atRest(note);
-                    addBlock(block, colors.onset(color), color);
+                    if (isPlain)
+                        add(block, color);
+                    else
+                        addBlock(block, colors.onset(color), color);
                 });
 }
 
