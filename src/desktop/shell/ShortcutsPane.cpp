@@ -18,13 +18,13 @@ namespace velmora {
 
 namespace {
 
-enum Column { kCommandColumn, kShortcutColumn };
+enum ShortcutsColumn { kCommandColumn, kShortcutColumn };
 
-constexpr int kActionRole = Qt::UserRole;
+constexpr int kShortcutActionRole = Qt::UserRole;
 
 QAction* actionOf(const QTreeWidgetItem& item)
 {
-    return item.data(kCommandColumn, kActionRole).value<QAction*>();
+    return item.data(kCommandColumn, kShortcutActionRole).value<QAction*>();
 }
 
 /// Returns whether a shortcut would take a key from the keys that play notes.
@@ -117,7 +117,7 @@ void ShortcutsPane::fill()
         }
         QTreeWidgetItem* title = list_->topLevelItem(list_->topLevelItemCount() - 1);
         auto* item = new QTreeWidgetItem(title, {command.action->iconText()});
-        item->setData(kCommandColumn, kActionRole, QVariant::fromValue(command.action));
+        item->setData(kCommandColumn, kShortcutActionRole, QVariant::fromValue(command.action));
     }
     list_->expandAll();
     showShortcuts();
