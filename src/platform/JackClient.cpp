@@ -128,15 +128,20 @@ jack_client_t* JackClient::get() const
     return state_->client;
 }
 
+// Two requests at a time can make a synchronous server wait five seconds for one of the clients.
 bool JackClient::call(std::function<void(jack_client_t*)> function)
 {
-    std::unique_lock lock(jackClients().mutex);
-    const bool hasReturned = callWithPatience(
-        lock, [state = state_, function = std::move(function)] { function(state->client); },
-        kRequestPatience);
-    if (!hasReturned)
-        state_->isLost = true;
-    return hasReturned;
+    JackClients& clients = jackClients();
+    std::unique_lock lock(clients.mutex);
+    const bool isFree =
+        clients.callEnded.wait_for(lock, kRequestPatience, [&] { return clients.callCount == 0; });
+    if (isFree &&
+        callWithPatience(
+            lock, [state = state_, function = std::move(function)] { function(state->client); },
+            kRequestPatience))
+        return true;
+    state_->isLost = true;
+    return false;
 }
 
 void JackClient::keep(std::shared_ptr<void> data)

@@ -30,8 +30,8 @@ public:
     jack_client_t* get() const;
 
     /// Calls a function that asks the server for something, on a thread of its own. Returns false
-    /// if it has not returned within three seconds; the client is lost then. Since the function may
-    /// still run, it must own what it uses.
+    /// if the server does not answer within a few seconds; the client is lost then. Since the
+    /// function may still run, it must own what it uses.
     bool call(std::function<void(jack_client_t*)> function);
 
     /// Keeps what the callbacks use until none can run any more.
