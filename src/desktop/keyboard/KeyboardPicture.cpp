@@ -77,7 +77,7 @@ std::array<int, 128> keyStates(const KeyboardDocument* document, const LiveKeys&
 KeyboardPicture::KeyboardPicture(QSize viewSize, const QPalette& palette)
     : scheme(preferredScheme()), geometry{static_cast<double>(getPrefInt("KeyWidth")),
                                           getPrefInt("KeyRangeLo"), getPrefInt("KeyRangeHi")},
-      origin(0), size(viewSize), played(schemeColor("KeyColor", palette)),
+      size(viewSize), played(schemeColor("KeyColor", palette)),
       correct(schemeColor("KeyColorCorrect", palette)),
       sustained(schemeColor("KeyColorSustain", palette)),
       wrong(schemeColor("KeyColorWrong", palette)), hasNames(getPrefBool("KeyNames")),

@@ -24,8 +24,8 @@ std::array<int, 128> keyStates(const KeyboardDocument* document, const LiveKeys&
 struct KeyboardPicture {
     Scheme scheme;
     KeyboardGeometry geometry;
-    double origin; ///< The x coordinate of the first white key in the view.
-    QSize size;    ///< Of the view.
+    double origin = 0.0; ///< The x coordinate of the first white key in the view.
+    QSize size;          ///< Of the view.
     Color played;
     Color correct;
     Color sustained;
