@@ -14,6 +14,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <fstream>
 #include <random>
 
@@ -46,13 +47,17 @@ protected:
         return sequence.notes().size();
     }
 
-    /// Runs the event loop until the recovery folder has a number of files. Returns false if it
-    /// never has.
+    /// Runs the event loop until the recovery folder has a number of files, without those that are
+    /// being written. Returns false if it never has.
     bool waitFor(int files) const
     {
         std::error_code none;
         const auto count = [&] {
-            return std::distance(std::filesystem::directory_iterator(kept_, none), {});
+            const std::filesystem::directory_iterator entries(kept_, none);
+            return std::count_if(begin(entries), end(entries), [](const auto& entry) {
+                const auto extension = entry.path().extension();
+                return extension == ".unsaved" || extension == ".lock";
+            });
         };
         for (int i = 0; i < 5000 && count() != files; ++i) {
             QCoreApplication::processEvents();
