@@ -112,9 +112,12 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event)
     if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier) ||
         movesFocus(key.key()))
         return false;
+    // A key that the focused widget has kept but ignored goes on to its parents.
+    const QWidget* focus = QApplication::focusWidget();
+    const QWidget& keeper = focus != nullptr && widget->isAncestorOf(focus) ? *focus : *widget;
     const bool isKept = QApplication::activePopupWidget() != nullptr ||
                         QApplication::activeModalWidget() != nullptr ||
-                        !isOurs(*widget->window()) || keeps(*widget, key);
+                        !isOurs(*widget->window()) || keeps(keeper, key);
     if (event->type() == QEvent::ShortcutOverride) {
         if (isKept)
             event->accept(); // the widget gets the key, and no command does

@@ -108,6 +108,7 @@ TEST_F(WorkspaceTest, KeysReachThePieceWhateverWasClicked)
     auto& tempo = *workspace.findChild<QSpinBox*>();
     tempo.setFocus(Qt::MouseFocusReason);
     EXPECT_FALSE(startsWith(tempo)) << "a field keeps its keys";
+    EXPECT_FALSE(startsWith(*tempo.parentWidget())) << "also those that it ignores";
 
     const LiveKeys& keys = desktop.application().player().liveKeys();
     QTest::keyPress(&workspace.keyboard(), Qt::Key_A);
