@@ -137,13 +137,15 @@ void Workspace::makeTransport()
 
 void Workspace::connectCommands()
 {
-    for (const auto& [action, layout] : {std::pair{shell_.playLayout, Layout::Play},
-                                         {shell_.editLayout, Layout::Edit},
-                                         {shell_.stageLayout, Layout::Stage}})
+    const auto arranges = [this](QAction* action, Layout layout) {
         connect(action, &QAction::triggered, this, [this, layout] {
             // The command for the stage also leaves it.
             setLayout(layout == Layout::Stage && layout_ == layout ? Layout::Play : layout);
         });
+    };
+    arranges(shell_.playLayout, Layout::Play);
+    arranges(shell_.editLayout, Layout::Edit);
+    arranges(shell_.stageLayout, Layout::Stage);
     connect(shell_.resetLayout, &QAction::triggered, this, &Workspace::arrange);
     connect(shell_.nextPanel, &QAction::triggered, this, [this] { movePanelFocus(1); });
     connect(shell_.previousPanel, &QAction::triggered, this, [this] { movePanelFocus(-1); });
