@@ -172,7 +172,8 @@ std::string Workspace::arrangement() const
 
 void Workspace::restoreArrangement(const std::string& bytes)
 {
-    if (bytes.empty() || bytes.front() > static_cast<char>(Layout::Stage))
+    constexpr auto kLast = static_cast<unsigned char>(Layout::Stage);
+    if (bytes.empty() || static_cast<unsigned char>(bytes.front()) > kLast)
         return;
     setLayout(static_cast<Layout>(bytes.front()));
     restoreState(QByteArray::fromStdString(bytes.substr(1)), kLayoutVersion);

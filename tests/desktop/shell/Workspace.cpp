@@ -63,6 +63,9 @@ TEST_F(WorkspaceTest, EachLayoutRemembersItsPanels)
     EXPECT_TRUE(panel("instrument").isVisible() && shell.instrument->isChecked());
     panel("keyboard").close();
     EXPECT_TRUE(workspace.isVisible()) << "closing the keyboard does not quit";
+    for (const std::string damaged : {"", "\x03", "\xFF"})
+        workspace.restoreArrangement(damaged);
+    EXPECT_EQ(workspace.layout(), Workspace::Layout::Play);
 }
 
 TEST_F(WorkspaceTest, TheStageFillsTheScreenAndShowsNoDialogs)
