@@ -2,6 +2,8 @@
 
 #include "desktop/widgets/icons.h"
 
+#include <QStatusBar>
+
 #include <algorithm>
 
 namespace velmora {
@@ -14,10 +16,18 @@ constexpr int kMostLetters = 28, kLeastLetters = 6;
 
 } // namespace
 
+void showItem(QWidget& item, bool isShown)
+{
+    const auto* bar = qobject_cast<const QStatusBar*>(item.parentWidget());
+    if (isShown && bar != nullptr && !bar->currentMessage().isEmpty())
+        item.setAttribute(Qt::WA_WState_ExplicitShowHide, false); // as the bar marks what it hides
+    else
+        item.setVisible(isShown);
+}
+
 StatusItem::StatusItem(const QString& subject)
 {
     setAccessibleName(subject);
-    hide(); // until it shows something
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -32,10 +42,10 @@ void StatusItem::show(const QString& text, const QString& help, Kind kind)
     setFont(weight);
     setIcon(kind == Kind::Missing ? velmora::icon("warning") : QIcon());
     text_ = text;
-    setText(QString(text).replace("&", "&&"));
+    cutOff(); // the item may keep its width
     updateGeometry();
     setToolTip(help);
-    setVisible(!text.isEmpty());
+    showItem(*this, !text.isEmpty());
     if (!text.isEmpty())
         setAccessibleName(text);
 }
@@ -44,7 +54,7 @@ QSize StatusItem::sizeWith(int letters) const
 {
     const int whole = fontMetrics().horizontalAdvance(text_);
     const int wanted = std::min(whole, fontMetrics().averageCharWidth() * letters);
-    const int present = fontMetrics().horizontalAdvance(text());
+    const int present = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
     const QSize size = QToolButton::sizeHint();
     return {size.width() - present + wanted, size.height()};
 }
@@ -62,6 +72,11 @@ QSize StatusItem::minimumSizeHint() const
 void StatusItem::resizeEvent(QResizeEvent* event)
 {
     QToolButton::resizeEvent(event);
+    cutOff();
+}
+
+void StatusItem::cutOff()
+{
     const int borders = sizeWith(0).width();
     setText(fontMetrics().elidedText(text_, Qt::ElideRight, width() - borders).replace("&", "&&"));
 }

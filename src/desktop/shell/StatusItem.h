@@ -4,8 +4,12 @@
 
 namespace velmora {
 
-/// An item of the status line: a text that can be clicked. A long text is cut off, and
-/// more of it in a narrow window, but screen readers read it whole.
+/// Shows or hides an item of a status bar. While the bar shows a message, which the item would
+/// cover, the item appears only when the message is gone.
+void showItem(QWidget& item, bool isShown);
+
+/// An item of the status line: a text that can be clicked. A long text is cut off, the more so in a
+/// narrow window, but screen readers read it whole.
 class StatusItem : public QToolButton {
     Q_OBJECT
 
@@ -28,6 +32,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// Fits the shown text into the width.
+    void cutOff();
+
     /// The size of the button with a text that is cut off after some letters of average width.
     QSize sizeWith(int letters) const;
 

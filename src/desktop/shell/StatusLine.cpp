@@ -127,8 +127,7 @@ void StatusLine::showOutput()
         return; // the next one is about to play
     removeNotice(missingOutput_);
     missingOutput_ = QString::fromStdString(output.missing);
-    if (!missingOutput_.isEmpty())
-        addNotice(missingOutput_);
+    addNotice(missingOutput_);
     const bool isMissing = !missingOutput_.isEmpty();
     output_->show(output.driver == "none" ? tr("No sound output") : describe(output),
                   isMissing ? missingOutput_
@@ -138,7 +137,7 @@ void StatusLine::showOutput()
 
 void StatusLine::addNotice(const QString& notice)
 {
-    if (notices_.contains(notice))
+    if (notice.isEmpty() || notices_.contains(notice))
         return;
     notices_ += notice;
     updateNotices();
@@ -156,7 +155,7 @@ void StatusLine::updateNotices()
     noticesButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     noticesButton_->setToolTip(notices_.join("\n"));
     noticesButton_->setAccessibleName(tr("Notices: %1").arg(notices_.size()));
-    noticesButton_->setVisible(!notices_.isEmpty());
+    showItem(*noticesButton_, !notices_.isEmpty());
 }
 
 void StatusLine::showNotices()

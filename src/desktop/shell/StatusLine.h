@@ -21,7 +21,7 @@ public:
     void showDevices();
 
     /// Adds a notice: a sentence that says what is missing, what does not work for that reason, and
-    /// what to do.
+    /// what to do. Does nothing if it is empty.
     void addNotice(const QString& notice);
 
     /// Removes a notice whose cause is gone.

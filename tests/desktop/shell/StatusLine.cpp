@@ -66,7 +66,15 @@ TEST_F(StatusLineTest, ShowsWhatPlaysAndWhatIsMissing)
     EXPECT_LT(desktop.workspace().status().minimumSizeHint().width(), 500);
     desktop.workspace().resize(640, 400);
     const auto& item = *desktop.workspace().status().findChild<StatusItem*>();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return item.text().endsWith(QChar(0x2026)); }));
+    const auto isCutOff = [&] { return item.text().endsWith(QChar(0x2026)); };
+    EXPECT_TRUE(QTest::qWaitFor(isCutOff));
+    desktop.application().setInstrument(instrument, name + "!");
+    EXPECT_TRUE(isCutOff()) << "although the item keeps its width";
+    desktop.workspace().status().showMessage("A message");
+    desktop.application().setInstrument(instrument, name);
+    EXPECT_FALSE(item.isVisible()) << "it would cover the message";
+    desktop.workspace().status().clearMessage();
+    EXPECT_TRUE(item.isVisible());
     desktop.application().selectInstrument(0);
 }
 
