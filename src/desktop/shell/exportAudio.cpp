@@ -30,7 +30,6 @@ public:
           page_(page), path_(path), tell_(std::move(tell))
     {
         setWindowTitle(tr("Export Audio"));
-        setWindowModality(Qt::WindowModal);
         setAutoClose(false);
         setAutoReset(false);
         setMinimumDuration(0);

@@ -31,7 +31,7 @@ private:
     void save()
     {
         // A window that has never been shown has no position yet.
-        if (window_.testAttribute(Qt::WA_WState_Created))
+        if (window_.isWindow() && window_.testAttribute(Qt::WA_WState_Created))
             setPreference(key_, window_.saveGeometry());
     }
 
@@ -50,7 +50,9 @@ void rememberPlace(QWidget& window, const std::string& name)
 {
     const std::string key = "windows/" + name;
     window.restoreGeometry(preference(key).toByteArray());
-    new PlaceKeeper(window, key); // owned by the window
+    const QString keeper = QString::fromStdString(key);
+    if (window.findChild<QObject*>(keeper, Qt::FindDirectChildrenOnly) == nullptr)
+        (new PlaceKeeper(window, key))->setObjectName(keeper); // owned by the window
 }
 
 void reopen(QWidget& window, const std::string& name)

@@ -11,8 +11,9 @@ namespace velmora {
 /// Returns the largest size for a window that opens for the first time: most of its screen.
 QSize roomFor(const QWidget& window);
 
-/// Restores the size and position that a window had when the program last ran. Stores them under
-/// `name` when the window is hidden or the program ends. Call it once, before the window is shown.
+/// Restores the size and position that were last stored under `name`. From now on stores them when
+/// the window is hidden or the program ends, but not while the widget is a part of another window.
+/// Call it before the window is shown.
 void rememberPlace(QWidget& window, const std::string& name);
 
 /// Shows a window if it was open when the program last ended. Stores under `name` whether it is

@@ -10,6 +10,7 @@
 #include "desktop/shell/StatusLine.h"
 #include "platform/pathNames.h"
 #include "preferences/Preferences.h"
+#include "preferences/settings.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -225,6 +226,9 @@ TEST_F(SequencePageTest, TheKeyboardShowsTheSequenceThatWasActiveLast)
     EXPECT_TRUE(showsKeysOf(second));
     desktop.pages().setOwnWindow(first, false);
     EXPECT_TRUE(showsKeysOf(first));
+    const QVariant place = preference("windows/sequence");
+    desktop.pages().select(second);
+    EXPECT_EQ(preference("windows/sequence"), place) << "a tab has no place on the screen";
     EXPECT_TRUE(closes(second));
     EXPECT_EQ(keyboard.document(), &first.document().practice());
     EXPECT_TRUE(closes(first));
@@ -340,6 +344,7 @@ TEST_F(SequencePageTest, SavesAndExportsUnderTheChosenNames)
     answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.pages().closeAll()); });
     auto& progress = *window.findChild<QProgressDialog*>();
     EXPECT_THAT(progress.labelText().toStdString(), StartsWith("x.flac"));
+    EXPECT_FALSE(progress.isModal()) << "one can play meanwhile";
     progress.cancel();
 
     window.document().edit()->select();
