@@ -64,6 +64,7 @@ GuideWindow::GuideWindow()
 {
     setWindowTitle(tr("User Guide"));
     text_->setAccessibleName(tr("User guide"));
+    message_->setTextFormat(Qt::PlainText);
     text_->setOpenLinks(false);
     text_->setSearchPaths({":/guide"});
     // What is found stays visible while the search field has the focus.

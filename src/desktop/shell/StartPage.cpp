@@ -1,5 +1,6 @@
 #include "desktop/shell/StartPage.h"
 
+#include "desktop/shell/ShellActions.h"
 #include "desktop/widgets/icons.h"
 #include "platform/pathNames.h"
 #include "preferences/settings.h"
@@ -193,10 +194,12 @@ void StartPage::addFile(QVBoxLayout& list, const QString& path, const QString& t
 
 void StartPage::addExamples(QVBoxLayout& list)
 {
+    const QString folder = exampleFolder();
+    if (folder.isEmpty())
+        return;
     list.addWidget(makeHeading(tr("Examples"), 1.0));
-    const QDir folder(exampleFolder());
     for (const QFileInfo& file :
-         folder.entryInfoList({"*.mid", "*.scl"}, QDir::Files, QDir::Type)) {
+         QDir(folder).entryInfoList({"*.mid", "*.scl"}, QDir::Files, QDir::Type)) {
         QString name = file.completeBaseName().replace('-', ' ');
         name[0] = name[0].toUpper();
         const bool isTuning = file.suffix() == "scl";
@@ -215,7 +218,7 @@ void StartPage::showRecentFiles()
     }
     recentList_->addWidget(makeHeading(tr("Recent files"), 1.0));
     std::error_code error;
-    for (const QString& path : preference("recentFiles").toStringList().mid(0, kShownFiles))
+    for (const QString& path : ShellActions::recentFiles().mid(0, kShownFiles))
         if (const auto file = pathOf(path); std::filesystem::exists(file, error))
             addFile(*recentList_, path, displayName(file));
     recent_->setVisible(recentList_->count() > 1);

@@ -31,8 +31,9 @@ void TwoLineDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     (view != nullptr ? view->style() : QApplication::style())
         ->drawControl(QStyle::CE_ItemViewItem, &item, painter, view);
 
-    const auto group =
-        (item.state & QStyle::State_Active) != 0 ? QPalette::Active : QPalette::Inactive;
+    const auto group = (item.state & QStyle::State_Enabled) == 0  ? QPalette::Disabled
+                       : (item.state & QStyle::State_Active) != 0 ? QPalette::Active
+                                                                  : QPalette::Inactive;
     const auto role =
         (item.state & QStyle::State_Selected) != 0 ? QPalette::HighlightedText : QPalette::Text;
     QColor color = item.palette.color(group, role);
