@@ -10,6 +10,7 @@
 #include "desktop/shell/StatusLine.h"
 #include "desktop/shell/aboutBox.h"
 #include "desktop/shell/askForFiles.h"
+#include "desktop/shell/bankNotice.h"
 #include "desktop/tuning/TuningPanel.h"
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/windowPlace.h"
@@ -77,8 +78,7 @@ void Desktop::connectCommands()
 {
     connect(shell_.open, &QAction::triggered, this, &Desktop::askForFiles);
     connect(shell_.openSession, &QAction::triggered, this, [this] {
-        const QString path = askForSession(QApplication::activeWindow());
-        if (!path.isEmpty())
+        if (const QString path = askForSession(QApplication::activeWindow()); !path.isEmpty())
             open({path});
     });
     connect(shell_.saveSession, &QAction::triggered, this, &Desktop::saveSession);
@@ -384,22 +384,9 @@ void Desktop::updateAllViews()
 
 void Desktop::showBank()
 {
-    const QString wanted = QString::fromStdString(getPrefString("GMBank"));
-    const QString bank = QString::fromStdString(application_.bank().string());
-    StatusLine& status = workspace_.status();
-    status.removeNotice(bankNotice_);
-    if (bank.isEmpty())
-        bankNotice_ = tr("The General MIDI player is silent because there is no SoundFont for it. "
-                         "Choose one in the preferences.");
-    else if (!wanted.isEmpty() && wanted != bank)
-        bankNotice_ =
-            tr("%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another "
-               "SoundFont in the preferences.")
-                .arg(wanted, bank);
-    else
-        bankNotice_.clear();
-    if (!bankNotice_.isEmpty())
-        status.addNotice(bankNotice_);
+    workspace_.status().removeNotice(bankNotice_);
+    bankNotice_ = bankNotice(application_.bank());
+    workspace_.status().addNotice(bankNotice_);
 }
 
 void Desktop::showError(const QString& message)

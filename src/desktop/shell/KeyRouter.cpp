@@ -37,7 +37,7 @@ bool isText(const QWidget& widget)
            (combo != nullptr && combo->isEditable());
 }
 
-bool movesFocus(int key)
+bool isNeverRouted(int key)
 {
     return key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_Menu ||
            (key >= Qt::Key_F1 && key <= Qt::Key_F35);
@@ -110,7 +110,7 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::KeyRelease && keyboard_.keyUp(key))
         return true;
     if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier) ||
-        movesFocus(key.key()))
+        isNeverRouted(key.key()))
         return false;
     // A key that the focused widget has kept but ignored goes on to its parents.
     const QWidget* focus = QApplication::focusWidget();

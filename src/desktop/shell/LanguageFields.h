@@ -20,7 +20,7 @@ public:
     void read();
 
 signals:
-    /// Notes have other names now. A new language counts from the next start on.
+    /// Notes have other names now. A new language takes effect at the next start.
     void noteNamesChanged();
 
 private:

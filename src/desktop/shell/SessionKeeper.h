@@ -37,14 +37,15 @@ public:
     /// Returns whether something was open when the program ended.
     static bool hasLast();
 
-    /// Returns whether the program ended while it opened that again, which may be the reason.
+    /// Returns whether the program ended while it was opening that again, which may be why it
+    /// ended.
     static bool wasInterrupted();
 
     /// Opens what was open when the program ended, but does not arrange the window. Returns lines
     /// as `open` does.
     QString openLast();
 
-    /// Says that the program has started well, and from now on remembers what is open, every half a
+    /// Says that the program has started well, and from now on remembers what is open, every half
     /// minute if it has changed.
     void startRemembering();
 

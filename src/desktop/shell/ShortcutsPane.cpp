@@ -36,8 +36,8 @@ bool playsNotes(const QKeySequence& shortcut)
            ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9));
 }
 
-/// Takes the first stroke as the shortcut and does not wait for further ones, which would be no use
-/// while playing.
+/// Takes the first stroke as the shortcut and does not wait for further ones, which would be of no
+/// use while playing.
 class StrokeEdit : public QKeySequenceEdit {
 protected:
     void keyPressEvent(QKeyEvent* event) override

@@ -14,8 +14,8 @@ namespace velmora {
 class Commands;
 class SearchField;
 
-/// The pane of the preferences for the shortcuts of all commands. Each change counts at once and is
-/// stored.
+/// The pane of the preferences for the shortcuts of all commands. Each change takes effect at once
+/// and is stored.
 class ShortcutsPane : public QWidget {
     Q_OBJECT
 

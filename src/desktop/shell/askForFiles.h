@@ -17,7 +17,7 @@ QString askForSession(QWidget* parent);
 /// Asks where to save a session. Returns an empty path if the user cancels.
 QString askWhereToSaveSession(QWidget& parent);
 
-/// Asks whether to open the last session again, although the program has ended while it did that.
+/// Asks whether to open the last session again, although the program ended while doing so.
 bool askToOpenAgain(QWidget* parent);
 
 } // namespace velmora

@@ -5,8 +5,8 @@ class QWidget;
 
 namespace velmora {
 
-/// Keeps the wheel from changing the value of a slider, a menu or a spin box that has not the
-/// focus. What the widget lies in is scrolled instead.
+/// Keeps the wheel from changing the value of a slider, a menu or a spin box that does
+/// not have the focus. What the widget lies in is scrolled instead.
 void leaveWheelToScrolling(QWidget& widget);
 
 /// Returns a scroll area without a frame around a widget, which it owns. It scrolls vertically
