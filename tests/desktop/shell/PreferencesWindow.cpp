@@ -133,6 +133,11 @@ TEST_F(PreferencesWindowTest, PlaysThroughTheChosenOutputAtTheChosenVolume)
     EXPECT_EQ(preferredVolume(), 0.5F);
     EXPECT_TRUE(QTest::qWaitFor([&] { return app.output()->status().period == 4096; }));
 
+    // The volume glides during the first block that begins after it was set.
+    for (int block = 0; block < 2; ++block) {
+        app.engine().takeLoad();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return app.engine().takeLoad().worst > 0.0; }));
+    }
     app.engine().takePeaks();
     window.findChild<QAbstractButton*>("TestTone")->click();
     float peak = 0.0F;
