@@ -107,8 +107,10 @@ void TransportBar::addTempo()
     tempo_->setKeyboardTracking(false);
     tempo_->setAccessibleName(tr("Tempo"));
     tempo_->setToolTip(tr("The tempo of playing and recording in beats per minute (Alt+M)"));
-    connect(tempo_, &QSpinBox::valueChanged, this,
-            [this](int tempo) { document_->transport().setTempo(tempo); });
+    connect(tempo_, &QSpinBox::valueChanged, this, [this](int tempo) {
+        if (document_ != nullptr) // what was typed is reported when the last piece closes, too
+            document_->transport().setTempo(tempo);
+    });
     connect(tempo_, &QSpinBox::editingFinished, this, [this] {
         if (tempo_->hasFocus()) // otherwise the user has already moved the focus
             emit done();

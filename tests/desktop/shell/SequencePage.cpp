@@ -181,6 +181,9 @@ TEST_F(SequencePageTest, ControlsTheTransportByKeysAndToolbar)
     action("5").trigger();
     EXPECT_TRUE(document.recorder().snapToGrid() && document.transport().loops());
     EXPECT_EQ(document.recorder().channel(), 4);
+    tempo.setFocus();
+    tempo.selectAll();
+    QTest::keyClicks(&tempo, "77"); // which the field reports when it loses the focus
     answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
 }
 
