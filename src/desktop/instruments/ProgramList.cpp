@@ -71,12 +71,11 @@ ProgramList::ProgramList() : search_(new SearchField(tr("Find a program"))), tre
     layout->addWidget(tree_, 1);
     connect(tree_, &QTreeWidget::currentItemChanged, this, &ProgramList::choose);
     connect(search_, &QLineEdit::textChanged, this, &ProgramList::filter);
-    connect(search_, &QLineEdit::returnPressed, this,
-            [this] { tree_->setCurrentItem(firstFound()); });
+    connect(search_, &QLineEdit::returnPressed, this, &ProgramList::chooseFirstFound);
     connect(search_, &SearchField::left, this, [this] {
         tree_->setFocus(Qt::TabFocusReason);
         if (tree_->currentItem() == nullptr || tree_->currentItem()->isHidden())
-            tree_->setCurrentItem(firstFound());
+            chooseFirstFound();
     });
 }
 
@@ -108,13 +107,16 @@ void ProgramList::filter()
         tree_->scrollToItem(tree_->currentItem());
 }
 
-QTreeWidgetItem* ProgramList::firstFound() const
+void ProgramList::chooseFirstFound()
 {
-    for (int i = 0; i < tree_->topLevelItemCount(); ++i)
-        for (int j = 0; j < kGroupSize; ++j)
-            if (QTreeWidgetItem* item = tree_->topLevelItem(i)->child(j); !item->isHidden())
-                return item;
-    return nullptr;
+    for (int i = 0; i < tree_->topLevelItemCount(); ++i) {
+        for (int j = 0; j < kGroupSize; ++j) {
+            if (QTreeWidgetItem* item = tree_->topLevelItem(i)->child(j); !item->isHidden()) {
+                tree_->setCurrentItem(item);
+                return;
+            }
+        }
+    }
 }
 
 } // namespace velmora

@@ -28,7 +28,9 @@ signals:
 private:
     void filter();
     void choose(const QTreeWidgetItem* item);
-    QTreeWidgetItem* firstFound() const;
+
+    /// Does nothing if the search finds no program, so that the current one stays marked.
+    void chooseFirstFound();
 
     SearchField* search_;
     QTreeWidget* tree_;
