@@ -47,7 +47,7 @@ void loseAllClients(void* /*data*/)
 }
 
 /// Makes a call into libjack, which may never return, on a thread of its own. Returns false if it
-/// has not returned in time. Needs the lock.
+/// has not returned in time. Needs the lock and gives it up.
 bool callWithPatience(std::unique_lock<std::mutex>& lock, std::function<void()> call,
                       std::chrono::seconds patience = kPatience)
 {
@@ -62,13 +62,13 @@ bool callWithPatience(std::unique_lock<std::mutex>& lock, std::function<void()> 
         *hasReturned = true;
         clients.callEnded.notify_all();
     });
-    if (!clients.callEnded.wait_for(lock, patience, [&] { return *hasReturned; })) {
-        thread.detach();
-        return false;
-    }
+    const bool isInTime = clients.callEnded.wait_for(lock, patience, [&] { return *hasReturned; });
     lock.unlock();
-    thread.join();
-    return true;
+    if (isInTime)
+        thread.join();
+    else
+        thread.detach();
+    return isInTime;
 }
 
 } // namespace

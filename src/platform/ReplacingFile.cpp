@@ -37,7 +37,7 @@ std::filesystem::path followLinks(std::filesystem::path path)
 /// Returns an unlikely name in the same folder, short enough for any file system.
 std::filesystem::path randomNameBeside(const std::filesystem::path& path)
 {
-    static std::random_device random;
+    std::random_device random; // not shared, because files are written on several threads
     return path.parent_path() / (".velmora-" + std::to_string(random()));
 }
 
