@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <csignal>
 #include <span>
+#include <utility>
 
 namespace velmora {
 
@@ -28,10 +29,11 @@ PanicKey::~PanicKey() = default;
 
 void PanicKey::readInput()
 {
-    constexpr int kPause = 1000; ///< In milliseconds.
+    constexpr int kPause = 1000;             ///< In milliseconds.
+    constexpr std::size_t kLongestLine = 16; ///< What follows is dropped: input may have no lines.
     std::array<char, 256> buffer{};
     const ssize_t count = read(STDIN_FILENO, buffer.data(), buffer.size());
-    if (count < 0 && errno == EINTR)
+    if (count < 0 && (errno == EINTR || errno == EAGAIN))
         return;
     if (count <= 0) {
         notifier_->setEnabled(false);
@@ -41,7 +43,8 @@ void PanicKey::readInput()
     }
     for (const char c : std::span(buffer).first(static_cast<std::size_t>(count))) {
         if (c != '\n') {
-            line_ += c;
+            if (line_.size() < kLongestLine)
+                line_ += c;
             continue;
         }
         if (lowerCase(line_) == "p")

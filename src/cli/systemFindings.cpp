@@ -84,8 +84,8 @@ void addDisplay(std::vector<Finding>& findings)
                                        "work without a display"
                                      : ""});
     findings.push_back({"OpenGL", openGL,
-                        openGL.empty() ? "it needs a display and a graphics driver, on Debian of "
-                                         "the package libgl1-mesa-dri"
+                        openGL.empty() ? "it needs a display and a graphics driver, on Debian "
+                                         "from the package libgl1-mesa-dri"
                                        : ""});
 }
 
@@ -112,7 +112,7 @@ Finding findRealTime()
     if (isAllowed == "yes")
         return {"Real-time priority", "allowed, " + limits, ""};
     return {"Real-time priority", "not allowed, " + limits,
-            "allow it to the group audio, on Debian with dpkg-reconfigure -p high jackd2, join the "
+            "grant it to the group audio, on Debian with dpkg-reconfigure -p high jackd2, join the "
             "group, and log in again; or use PipeWire with rtkit"};
 }
 
