@@ -279,8 +279,9 @@ QString SequencePages::unusedName()
 
 bool SequencePages::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* page = static_cast<SequencePage*>(watched);
-    if (event->type() != QEvent::Close || !page->isWindow())
+    // A page that is being destroyed still has other events.
+    auto* page = event->type() == QEvent::Close ? static_cast<SequencePage*>(watched) : nullptr;
+    if (page == nullptr || !page->isWindow())
         return QObject::eventFilter(watched, event);
     // The page decides in the event loop, because it may be destroyed.
     event->ignore();
