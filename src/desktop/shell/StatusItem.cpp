@@ -5,6 +5,7 @@
 #include <QStatusBar>
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmora {
 
@@ -52,7 +53,8 @@ void StatusItem::show(const QString& text, const QString& help, Kind kind)
 
 QSize StatusItem::sizeWith(int letters) const
 {
-    const int whole = fontMetrics().horizontalAdvance(text_);
+    // Rounded up: a text that needs a fraction of a pixel more than it has is cut off.
+    const auto whole = static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text_)));
     const int wanted = std::min(whole, fontMetrics().averageCharWidth() * letters);
     const int present = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
     const QSize size = QToolButton::sizeHint();

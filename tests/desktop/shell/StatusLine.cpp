@@ -106,6 +106,20 @@ TEST_F(StatusLineTest, ArrowsMoveBetweenStopsThatTabHasReached)
     desktop.application().selectInstrument(0);
 }
 
+TEST(StatusItem, ShowsAShortTextWholeWhereThereIsRoom)
+{
+    const QString text = "Werckmeister III (1691)";
+    StatusItem item("Tuning");
+    for (const double size : {9.0, 10.0, 11.0, 12.0, 13.5, 15.0, 16.5}) {
+        QFont type = item.font();
+        type.setPointSizeF(size);
+        item.setFont(type);
+        item.show(text, {});
+        item.resize(item.sizeHint());
+        EXPECT_EQ(item.text(), text) << size;
+    }
+}
+
 TEST(DeviceText, NamesDevicesAsPeopleDo)
 {
     for (const auto& [name, text] : {
