@@ -37,6 +37,9 @@ struct KeyboardGeometry {
     /// The smallest width that `filling` can fill.
     static double minWidth(int lo, int hi);
 
+    /// The width of a white key.
+    double whiteWidth() const { return 12.0 * keyWidth / 7.0; }
+
     /// The width of all keys if each were a semitone wide.
     double width() const { return keyWidth * (hi - lo + 1); }
 
@@ -61,9 +64,6 @@ struct KeyboardGeometry {
     int drawnKeyAt(double x, double y, double height) const;
 
     bool operator==(const KeyboardGeometry&) const = default;
-
-private:
-    double whiteWidth() const { return 12.0 * keyWidth / 7.0; }
 };
 
 } // namespace velmora

@@ -17,8 +17,8 @@ namespace velmora {
 
 namespace {
 
-/// The range of the letters' height in pixels. No names are shown if the keys are too narrow for
-/// the smallest letters.
+/// The range of the letters' height in pixels. No names are shown if the white keys are narrower
+/// than twice the smallest letters.
 constexpr int kMinLetter = 7;
 constexpr int kMaxLetter = 13;
 
@@ -187,8 +187,9 @@ void KeyboardPicture::paintCalm(QPainter& painter) const
 
 int KeyboardPicture::nameHeight() const
 {
-    const int letter = std::min(static_cast<int>(geometry.keyWidth * 3 / 4), kMaxLetter);
-    return hasNames && letter >= kMinLetter ? letter : 0;
+    if (!hasNames || geometry.whiteWidth() < 2 * kMinLetter)
+        return 0;
+    return std::clamp(static_cast<int>(geometry.keyWidth * 3 / 4), kMinLetter, kMaxLetter);
 }
 
 void KeyboardPicture::paintNames(QPainter& painter) const
