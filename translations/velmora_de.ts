@@ -2104,6 +2104,10 @@ Ein Klick zeigt alle Stimmungen</translation>
         <source>Silence Everything</source>
         <translation type="unfinished">Alles still</translation>
     </message>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 verlässt die Bühne</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

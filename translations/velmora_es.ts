@@ -2104,6 +2104,10 @@ Haga clic para ver todas las afinaciones</translation>
         <source>Silence Everything</source>
         <translation type="unfinished">Silenciar todo</translation>
     </message>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 sale del escenario</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

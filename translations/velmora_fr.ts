@@ -2104,6 +2104,10 @@ Cliquez pour afficher tous les tempéraments</translation>
         <source>Silence Everything</source>
         <translation type="unfinished">Couper tous les sons</translation>
     </message>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 quitte la scène</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

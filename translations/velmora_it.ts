@@ -2104,6 +2104,10 @@ Fai clic per mostrare tutti i temperamenti</translation>
         <source>Silence Everything</source>
         <translation type="unfinished">Silenzia tutto</translation>
     </message>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 lascia il palco</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

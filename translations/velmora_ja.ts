@@ -2092,6 +2092,10 @@ Click to show all tunings</source>
         <source>Silence Everything</source>
         <translation type="unfinished">すべて消音</translation>
     </message>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 でステージを終了</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

@@ -43,6 +43,8 @@ constexpr QSize kFirstSize(1240, 760);
 /// How much larger the type is on stage.
 constexpr double kStageType = 1.5;
 
+constexpr int kHintMilliseconds = 4000;
+
 std::string layoutKey(Workspace::Layout layout)
 {
     constexpr std::array kNames = {"play", "edit", "stage"};
@@ -161,8 +163,15 @@ void Workspace::setLayout(Layout layout)
     if (layout == layout_)
         return;
     saveLayout();
+    const bool wasStage = layout_ == Layout::Stage;
     layout_ = layout;
     restoreLayout();
+    const QKeySequence key = shell_.stageLayout->shortcut();
+    if (wasStage)
+        status_->clearMessage();
+    else if (layout == Layout::Stage && !key.isEmpty()) // there is no menu that says so
+        status_->showMessage(tr("%1 leaves the stage").arg(key.toString(QKeySequence::NativeText)),
+                             kHintMilliseconds);
 }
 
 std::string Workspace::arrangement() const
