@@ -120,6 +120,7 @@ StartPage::StartPage(QWidget* parent) : QScrollArea(parent)
     auto* examples = new QWidget;
     auto* exampleList = new QVBoxLayout(examples);
     addExamples(*exampleList);
+    examples->setVisible(!exampleList->isEmpty());
     recent_ = new QWidget;
     recentList_ = new QVBoxLayout(recent_);
     for (QWidget* list : {examples, recent_}) {

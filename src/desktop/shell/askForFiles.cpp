@@ -37,7 +37,8 @@ QStringList askForFiles(QWidget* parent)
         parent, Opening::tr("Open"), dialogFolder(kFolderKey),
         Opening::tr("All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;"
                     "Sessions (%5);;All files (*)")
-            .arg(every, kInstruments, kTunings, kSequences, kSessions));
+            .arg(every, kInstruments, kTunings, kSequences, kSessions),
+        nullptr, QFileDialog::HideNameFilterDetails); // they are too long to be read
     rememberFolderOf(paths.value(0));
     return paths;
 }
