@@ -5,6 +5,7 @@
 #include "desktop/widgets/SearchField.h"
 #include "desktop/widgets/scrolling.h"
 
+#include <QEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -47,16 +48,28 @@ void StopList::showStops(const std::vector<std::pair<QString, float>>& stops)
     count_ = stops.size();
     for (std::size_t i = 0; i < count_; ++i)
         rows_[i]->showStop(stops[i].first, stops[i].second);
-    const bool isSearched = count_ > kSearchedStops;
-    search_->setVisible(isSearched);
+    search_->setVisible(count_ > kSearchedStops);
     search_->clear();
     filter();
+    fitHeight();
+    content.show();
+}
+
+void StopList::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitHeight();
+}
+
+void StopList::fitHeight()
+{
     column_->activate();
+    const bool isSearched = count_ > kSearchedStops;
     // A few stops are all in sight, and take no more room than they need.
     const int height = column_->sizeHint().height();
     scrollArea_->setMinimumHeight(isSearched ? kLeastSearchedHeight : height);
     scrollArea_->setMaximumHeight(isSearched ? QWIDGETSIZE_MAX : height);
-    content.show();
 }
 
 void StopList::makeRows(std::size_t count)

@@ -29,8 +29,12 @@ public:
     /// Shows the volume of a stop. Does nothing if there is no such stop.
     void showVolume(std::size_t stop, float volume);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void makeRows(std::size_t count);
+    void fitHeight();
     void filter();
     void enter(std::size_t stop);
     void step(int stop, int rows);

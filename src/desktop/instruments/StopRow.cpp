@@ -20,6 +20,7 @@ namespace {
 
 constexpr int kFullVolume = 100; ///< In per cent.
 constexpr int kLeastSlider = 36, kLeastName = 50;
+constexpr int kEdge = 4; ///< Between the volume and the scroll bar.
 
 } // namespace
 
@@ -42,7 +43,7 @@ StopRow::StopRow(AppDelegate& application, std::size_t stop)
         widget->installEventFilter(this);
 
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins({});
+    row->setContentsMargins(0, 0, kEdge, 0);
     row->addWidget(switch_, 5);
     row->addWidget(slider_, 2);
     row->addWidget(percent_);
@@ -103,6 +104,13 @@ void StopRow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     fitTexts();
+}
+
+void StopRow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitTexts();
 }
 
 void StopRow::fitTexts()

@@ -6,6 +6,7 @@
 #include "tuning/keyName.h"
 #include "tuning/spelling.h"
 
+#include <QEvent>
 #include <QLocale>
 #include <QPainter>
 
@@ -23,7 +24,7 @@ constexpr int kRowSpacing = 8;
 constexpr int kBarRoom = 20; ///< Between the two texts.
 
 /// The deviation at which a bar reaches the edge of the strip.
-constexpr double kFullCents = 50.0;
+constexpr double kFullCents = 30.0;
 
 constexpr float kLineOpacity = 0.3F;
 
@@ -43,8 +44,8 @@ QString centsText(double cents)
 {
     const double shown = std::round(cents * 10) / 10;
     const QLocale locale;
-    const QString text = locale.toString(shown, 'f', shown == 0 ? 0 : 1);
-    return shown > 0 ? locale.positiveSign() + text : text;
+    const QString sign = shown > 0 ? locale.positiveSign() : shown < 0 ? "−" : "";
+    return sign + locale.toString(std::abs(shown), 'f', shown == 0 ? 0 : 1);
 }
 
 } // namespace
@@ -131,6 +132,18 @@ QSize TuningStrip::minimumSizeHint() const
 void TuningStrip::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    fitHeight();
+}
+
+void TuningStrip::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) // the width may stay the same
+        fitHeight();
+}
+
+void TuningStrip::fitHeight()
+{
     const int rows = 12 / columns();
     setFixedHeight(rows == 1 ? kStripHeight : rows * (fontMetrics().height() + kRowSpacing));
 }
@@ -152,7 +165,8 @@ void TuningStrip::paintTone(QPainter& painter, const Tone& tone, const QRectF& p
     QColor line = palette().color(QPalette::WindowText);
     line.setAlphaF(kLineOpacity);
     painter.setPen(line);
-    painter.drawLine(place.topRight(), place.bottomRight());
+    if (place.left() > 0) // between two columns
+        painter.drawLine(place.topLeft(), place.bottomLeft());
 
     // The bar starts in the middle and points up if the note is sharp.
     const QSizeF room(nameWidth() + kBarRoom + centsWidth(), place.height());

@@ -40,11 +40,13 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
     void read();
+    void fitHeight();
     void describe();
 
     /// The widths in pixels that the name of a tone and its cents need.

@@ -1,3 +1,4 @@
+#include "desktop/instruments/StopList.h"
 #include "app/AppDelegate.h"
 #include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/instruments/StopRow.h"
@@ -6,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QScrollArea>
 #include <QSlider>
 #include <QTreeWidget>
 #include <QtTest>
@@ -145,6 +147,19 @@ TEST_F(StopListTest, ScrollsWithTheWheelAndMovesNoSlider)
     slider->setFocus();
     turn();
     EXPECT_EQ(calls.size(), 1);
+}
+
+TEST_F(StopListTest, ShowsAFewStopsWholeInLargerType)
+{
+    InstrumentWithStops organ(2, calls);
+    application.setInstrument(organ, "Organ");
+    QFont type = panel.font();
+    type.setPointSizeF(type.pointSizeF() * 2);
+    panel.setFont(type);
+    const auto& list = *panel.findChild<StopList*>();
+    const auto& area = *list.findChild<QScrollArea*>();
+    EXPECT_GE(area.minimumHeight(), area.widget()->sizeHint().height());
+    application.selectInstrument(0);
 }
 
 TEST_F(StopListTest, OffersProgramsOrShowsTheMemoryUse)

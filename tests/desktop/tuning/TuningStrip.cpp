@@ -31,4 +31,20 @@ TEST(TuningStrip, FollowsTheTuning)
     EXPECT_NEAR(strip.tones()[3].cents, 51.32, 0.01);
 }
 
+TEST(TuningStrip, FitsItsHeightToTheTypeAtTheSameWidth)
+{
+    AppDelegate application;
+    TuningStrip strip(application);
+    const QFont type = strip.font();
+    strip.resize(230, strip.height());
+    strip.show();
+    const int height = strip.height();
+    QFont large = type;
+    large.setPointSizeF(type.pointSizeF() * 1.5);
+    strip.setFont(large);
+    EXPECT_GT(strip.height(), height);
+    strip.setFont(type);
+    EXPECT_EQ(strip.height(), height);
+}
+
 } // namespace velmora
