@@ -222,8 +222,8 @@ std::string AppDelegate::soundName()
         [&](const Instrument& instrument, Temperament&) { hasPrograms = instrument.hasSubMenu(); });
     if (!hasPrograms)
         return instrumentName_;
-    const QString name =
-        QCoreApplication::translate("velmora::programNames", kMIDIInstrumentNames.at(midiProgram()));
+    const QString name = QCoreApplication::translate("velmora::programNames",
+                                                     kMIDIInstrumentNames.at(midiProgram()));
     return name.section(' ', 1).toStdString(); // behind its number
 }
 
