@@ -69,7 +69,7 @@ std::string InstrumentDocument::title() const
 {
     if (!isFromFile())
         return name_;
-    const std::string fileTitle = toUtf8(path_.stem().string());
+    std::string fileTitle = toUtf8(path_.stem().string());
     const bool isFileName = instrumentFormatOf(name_).has_value();
     const std::string title = isFileName ? std::filesystem::path(name_).stem().string() : name_;
     if (title.find_first_not_of(' ') == std::string::npos)

@@ -94,7 +94,8 @@ void SequenceView::paintGL()
 {
     const RollColors colors(palette());
     const auto [red, green, blue, opacity] = colors.whiteColumn;
-    glClearColor(red / 255.0F, green / 255.0F, blue / 255.0F, 1);
+    const auto part = [](int value) { return static_cast<float>(value) / 255.0F; };
+    glClearColor(part(red), part(green), part(blue), 1);
     glClear(GL_COLOR_BUFFER_BIT);
     if (document_ == nullptr)
         return;

@@ -154,7 +154,8 @@ void TuningStrip::paintEvent(QPaintEvent* /*event*/)
     const int columns = this->columns();
     const QSizeF cell(width() / static_cast<double>(columns), height() * columns / 12.0);
     for (int tone = 0; const Tone& each : tones_) {
-        const QPointF corner(tone % columns * cell.width(), tone / columns * cell.height());
+        const int row = tone / columns;
+        const QPointF corner(tone % columns * cell.width(), row * cell.height());
         paintTone(painter, each, {corner, cell});
         ++tone;
     }
