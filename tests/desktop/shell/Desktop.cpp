@@ -6,11 +6,11 @@
 #include "preferences/Preferences.h"
 #include "support/Bank.h"
 #include "support/OrganFolder.h"
+#include "support/answering.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
@@ -44,22 +44,6 @@ protected:
             if (widget->accessibleName() == accessibleName)
                 return *widget;
         throw std::runtime_error(accessibleName);
-    }
-
-    /// Returns the texts of the message boxes that open during `action`.
-    template <class Action> std::vector<std::string> messagesOf(const Action& action)
-    {
-        std::vector<std::string> texts;
-        QTimer closing;
-        QObject::connect(&closing, &QTimer::timeout, [&] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                texts.push_back(box->text().toStdString());
-                box->accept();
-            }
-        });
-        closing.start(5);
-        action();
-        return texts;
     }
 
     void drop(QWidget& window, const std::vector<std::filesystem::path>& paths)
@@ -105,9 +89,10 @@ TEST_F(DesktopTest, OpensDroppedFilesByType)
     EXPECT_THAT(desktop.workspace().status().currentMessage().toStdString(),
                 HasSubstr("1 file or sample was left out"));
 
-    EXPECT_THAT(messagesOf([&] {
-                    desktop.open({"/no/such.scl", "/no/such.sf2", "/no/such.txt"});
-                }),
+    EXPECT_THAT(answering({"OK", "OK", "OK"},
+                          [&] {
+                              desktop.open({"/no/such.scl", "/no/such.sf2", "/no/such.txt"});
+                          }),
                 ElementsAre(HasSubstr("such.scl"), HasSubstr("such.sf2"),
                             HasSubstr("unrecognised file type")));
     EXPECT_EQ(application.instrumentName(), "Small") << "unchanged";
@@ -116,7 +101,8 @@ TEST_F(DesktopTest, OpensDroppedFilesByType)
     // Unload the organ, then select it again.
     auto* unload = desktop.instrumentsWindow().findChildren<QPushButton*>().at(1);
     application.keyOn(36, 1.0F);
-    EXPECT_THAT(messagesOf([&] { unload->click(); }), ElementsAre(HasSubstr("Silence everything")));
+    EXPECT_THAT(answering({"OK"}, [&] { unload->click(); }),
+                ElementsAre(HasSubstr("Silence everything")));
     application.silenceAll();
     unload->click();
     EXPECT_EQ(application.instrumentName(), "MIDI Player");

@@ -5,6 +5,7 @@
 #include "desktop/roll/SequenceView.h"
 #include "desktop/shell/Desktop.h"
 #include "desktop/shell/SequencePage.h"
+#include "support/answering.h"
 
 #include <QAction>
 #include <QApplication>
@@ -13,8 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTimer>
 #include <QtTest>
 #include <gmock/gmock.h>
@@ -66,28 +65,6 @@ protected:
         for (const QLabel* label : window.findChild<SequenceStatus*>()->findChildren<QLabel*>())
             if (!label->text().isEmpty())
                 texts.push_back(label->text().toStdString());
-        return texts;
-    }
-
-    /// Clicks these buttons, one in each message box that opens during `act`. Returns the
-    /// informative texts of the boxes.
-    template <class Act>
-    std::vector<std::string> answering(const std::vector<QString>& answers, const Act& act)
-    {
-        std::vector<std::string> texts;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr || texts.size() >= answers.size())
-                return;
-            texts.push_back(box->informativeText().toStdString());
-            for (QAbstractButton* button : box->buttons())
-                if (button->text().remove('&') == answers[texts.size() - 1])
-                    button->click();
-        });
-        timer.start(5);
-        act();
-        EXPECT_EQ(texts.size(), answers.size());
         return texts;
     }
 

@@ -8,9 +8,9 @@
 #include "preferences/settings.h"
 #include "support/Bank.h"
 #include "support/OrganFolder.h"
+#include "support/answering.h"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 #include <QtTest>
@@ -18,6 +18,7 @@
 
 namespace velmora {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
 
 namespace {
@@ -39,25 +40,6 @@ protected:
         desktop.openLastSession();
         use(desktop);
         EXPECT_TRUE(desktop.pages().closeAll());
-    }
-
-    /// Clicks a button of the next message box. Returns the text of the box.
-    template <class Act> static std::string answering(const QString& answer, const Act& act)
-    {
-        std::string text;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr || !text.empty())
-                return;
-            text = box->text().toStdString();
-            for (QAbstractButton* button : box->buttons())
-                if (button->text().remove('&') == answer)
-                    button->click();
-        });
-        timer.start(5);
-        act();
-        return text;
     }
 
     OrganFolder folder;
@@ -108,8 +90,8 @@ TEST_F(SessionKeeperTest, AsksAfterAnEndWhileItOpenedTheLastSession)
         std::ofstream(settingsFolder() / "last.opening") << "as after a crash";
         Desktop desktop;
         desktop.launch();
-        EXPECT_THAT(answering(answer, [&] { desktop.openLastSession(); }),
-                    HasSubstr("ended while"));
+        EXPECT_THAT(answering({answer}, [&] { desktop.openLastSession(); }),
+                    ElementsAre(HasSubstr("ended while")));
         EXPECT_EQ(desktop.pages().all().size(), pieces) << answer;
         EXPECT_FALSE(SessionKeeper::wasInterrupted()) << "it does not ask again";
     }
@@ -129,15 +111,15 @@ TEST_F(SessionKeeperTest, OpensSessionFilesBesideWhatIsOpen)
     run([&](Desktop& desktop) {
         desktop.pages().create();
         desktop.workspace().setLayout(Workspace::Layout::Play);
-        EXPECT_EQ(answering("OK", [&] { desktop.open({file}); }),
-                  "a.mid: cannot be read (No such file or directory)");
+        EXPECT_THAT(answering({"OK"}, [&] { desktop.open({file}); }),
+                    ElementsAre("a.mid: cannot be read (No such file or directory)"));
         EXPECT_EQ(desktop.pages().all().size(), 1U);
         EXPECT_EQ(desktop.application().tuningName(), "kirnberger-3.scl");
         EXPECT_EQ(desktop.workspace().layout(), Workspace::Layout::Edit);
 
         std::ofstream(pathOf(file)) << R"({"velmoraSession": 1, "tuning": "Equal", "program": -1})";
-        EXPECT_EQ(answering("OK", [&] { desktop.open({file}); }),
-                  R"(s.velmora: "program" is not a whole number from 0 to 127)");
+        EXPECT_THAT(answering({"OK"}, [&] { desktop.open({file}); }),
+                    ElementsAre(R"(s.velmora: "program" is not a whole number from 0 to 127)"));
         EXPECT_EQ(desktop.application().tuningName(), "kirnberger-3.scl") << "nothing has changed";
     });
 }
