@@ -37,7 +37,7 @@ inline void importBank(void (*reader)(const RIFF::File&, Import&),
         return;
     setLogLevel(spdlog::level::off);
     CheckingHost host;
-    Import import(host);
+    Import import(host, {Reading::Plain});
     try {
         reader(RIFF::File(std::as_bytes(bytes)), import);
     } catch (const FormatError&) {

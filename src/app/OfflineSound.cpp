@@ -34,6 +34,7 @@ SoundSettings currentSettings(AppDelegate& application)
         if (application.isCurrent(*document)) {
             settings.instrument = document->path();
             settings.format = document->format();
+            settings.options = document->options();
         }
     }
     return settings;
@@ -58,7 +59,7 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
         document_->instrument()->setInstrument(settings.program);
     } else {
         document_ = std::make_unique<InstrumentDocument>();
-        if (!document_->read(settings.instrument, settings.format, host))
+        if (!document_->read(settings.instrument, settings.format, settings.options, host))
             throw std::runtime_error(document_->errorString());
     }
     Instrument& instrument = *document_->instrument();

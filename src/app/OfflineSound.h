@@ -21,6 +21,7 @@ struct SoundSettings {
     std::unique_ptr<Temperament> temperament;
     std::filesystem::path instrument; ///< A file; empty for the General MIDI player.
     InstrumentFormat format = InstrumentFormat::SoundFont; ///< The format of that file.
+    ImportOptions options;                                 ///< How it was read.
     std::vector<float> gains;                              ///< The gain of each stop.
     std::uint8_t program = 0;                              ///< The General MIDI program.
     std::vector<std::filesystem::path> banks;              ///< The SoundFonts to try.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/ImportOptions.h"
 #include "midi/PlayingSettings.h"
 
 #include <QObject>
@@ -18,6 +19,9 @@ public:
 
     /// The settings, for the MIDI receive threads.
     const PlayingSettings& settings() const { return settings_; }
+
+    /// How instruments are read unless the user asks for another reading.
+    Reading reading() const { return settings_.isPlain ? Reading::Plain : Reading::Musical; }
 
     /// Reads the preferences again.
     void read();

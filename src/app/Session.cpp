@@ -20,6 +20,9 @@ using Json = nlohmann::ordered_json;
 
 constexpr int kSessionVersion = 1;
 constexpr int kLastProgram = 127;
+/// No file holds more instruments.
+constexpr int kLastChoice = 65535;
+
 constexpr const char* kGeneralMidi = "General MIDI";
 
 /// The latest position of a piece in steps, as in recovery files.
@@ -36,8 +39,12 @@ Json describe(const Session::Instrument& instrument, const std::filesystem::path
 {
     Json file = Json::object();
     file["kind"] = instrument.path.empty() ? kGeneralMidi : typeName(instrument.format);
-    if (!instrument.path.empty())
+    if (!instrument.path.empty()) {
         addPath(file, instrument.path, folder);
+        file["plain"] = instrument.options.reading == Reading::Plain;
+        file["asStops"] = instrument.options.asStops;
+        file["choice"] = instrument.options.choice;
+    }
     file["volumes"] = Json::array();
     for (const float gain : instrument.gains)
         file["volumes"].push_back(std::clamp(gain, 0.0F, 1.0F));
@@ -88,6 +95,13 @@ struct Field {
         if (!value.is_string())
             refuse("a text in quotation marks");
         return value.get<std::string>();
+    }
+
+    bool boolean() const
+    {
+        if (!value.is_boolean())
+            refuse("true or false");
+        return value.get<bool>();
     }
 
     double number(double least, double greatest) const
@@ -152,6 +166,18 @@ InstrumentFormat readFormat(const Field& field)
     return *format;
 }
 
+ImportOptions readOptions(const Field& instrument)
+{
+    ImportOptions options;
+    if (const auto isPlain = instrument.find("plain"); isPlain && isPlain->boolean())
+        options.reading = Reading::Plain;
+    if (const auto asStops = instrument.find("asStops"))
+        options.asStops = asStops->boolean();
+    if (const auto choice = instrument.find("choice"))
+        options.choice = static_cast<std::size_t>(choice->integer(0, kLastChoice));
+    return options;
+}
+
 Session::Instrument readInstrument(const Field& file, const std::filesystem::path& folder)
 {
     Session::Instrument instrument;
@@ -161,6 +187,7 @@ Session::Instrument readInstrument(const Field& file, const std::filesystem::pat
     if (kind->text() != kGeneralMidi) {
         instrument.format = readFormat(*kind);
         instrument.path = readPath(file, folder);
+        instrument.options = readOptions(file);
     }
     if (const auto volumes = file.find("volumes"))
         for (const Field& volume : volumes->elements())

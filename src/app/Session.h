@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/ImportOptions.h"
 #include "import/InstrumentFormat.h"
 
 #include <cstddef>
@@ -16,6 +17,7 @@ struct Session {
     struct Instrument {
         std::filesystem::path path; ///< Absolute; empty for the General MIDI player.
         InstrumentFormat format = InstrumentFormat::SoundFont; ///< The format of that file.
+        ImportOptions options;                                 ///< How it was read.
         std::vector<float> gains;                              ///< The gain of each stop, 0…1.
     };
 

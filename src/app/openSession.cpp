@@ -55,7 +55,7 @@ Opened openInstrument(const Session::Instrument& wanted, AppDelegate& applicatio
     if (listed)
         return {std::nullopt, application.instruments()[*listed]->errorString()};
     auto document = std::make_unique<InstrumentDocument>();
-    if (!document->read(wanted.path, wanted.format, application))
+    if (!document->read(wanted.path, wanted.format, wanted.options, application))
         return {std::nullopt, document->errorString()};
     application.addInstrument(std::move(document));
     return {application.instruments().size() - 1, {}};
@@ -71,7 +71,7 @@ Session currentSession(AppDelegate& application)
             continue; // it was unloaded
         if (application.isCurrent(*document))
             session.currentInstrument = session.instruments.size();
-        Session::Instrument entry{document->path(), document->format(), {}};
+        Session::Instrument entry{document->path(), document->format(), document->options(), {}};
         application.player().with([&](const Instrument&, const Temperament&) {
             entry.gains = gainsOf(*document->instrument());
         });

@@ -51,7 +51,7 @@ std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& 
             application.cancelImport();
     });
     auto document = std::make_unique<InstrumentDocument>();
-    if (!document->read(path, *format, application))
+    if (!document->read(path, *format, {application.playing().reading()}, application))
         throw std::runtime_error(document->errorString().empty() ? "interrupted"
                                                                  : document->errorString());
     if (document->instrument() == nullptr)

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "import/ImportOptions.h"
 #include "import/ImportReport.h"
 #include "import/InstrumentHost.h"
 #include "sound/ALInstrument.h"
+#include "sound/ConsoleDefinition.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace velmora {
@@ -12,8 +15,8 @@ namespace velmora {
 /// The result of an import while it is being built. Importers throw FormatError if the file cannot
 /// be used and Cancelled if the host cancels; the unfinished result is then discarded.
 struct Import {
-    explicit Import(InstrumentHost& importHost)
-        : instrument(std::make_unique<ALInstrument>()), host(importHost)
+    Import(InstrumentHost& importHost, const ImportOptions& importOptions)
+        : instrument(std::make_unique<ALInstrument>()), options(importOptions), host(importHost)
     {
     }
 
@@ -21,8 +24,13 @@ struct Import {
     void finish();
 
     std::unique_ptr<ALInstrument> instrument; ///< Never null; starts without stops.
-    std::string name;                         ///< The display name; empty if the file has none.
+
+    /// The console of an organ whose ranks are the stops of `instrument`.
+    std::optional<ConsoleDefinition> console;
+
+    std::string name; ///< The display name; empty if the file has none.
     ImportReport report;
+    ImportOptions options;
     InstrumentHost& host;
 };
 

@@ -88,7 +88,7 @@ bool InstrumentDocument::canUnload() const
 }
 
 bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentFormat format,
-                              InstrumentHost& host)
+                              const ImportOptions& options, InstrumentHost& host)
 {
     errorString_.clear();
     try {
@@ -98,7 +98,7 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
                 throw FormatError("cannot be read");
             return true;
         }
-        Import import(host);
+        Import import(host, options);
         readInto(import, path, format);
         cleanNames(import);
         instrument_ = std::move(import.instrument);
@@ -106,6 +106,7 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
         report_ = std::move(import.report);
         path_ = path;
         format_ = format;
+        options_ = options;
         return true;
     } catch (const Cancelled&) {
         return false;

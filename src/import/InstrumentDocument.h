@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/MusicDevice.h"
+#include "import/ImportOptions.h"
 #include "import/ImportReport.h"
 #include "import/InstrumentFormat.h"
 #include "import/InstrumentHost.h"
@@ -26,10 +27,11 @@ public:
     /// Reads an instrument from a file. On failure the document stays as it was and the result is
     /// false; `errorString()` says why, and is empty if the host cancelled the import. A file of
     /// the format `Exs` is accepted but holds no instrument. Needs a current OpenAL context.
-    bool read(const std::filesystem::path& path, InstrumentFormat format, InstrumentHost& host);
+    bool read(const std::filesystem::path& path, InstrumentFormat format,
+              const ImportOptions& options, InstrumentHost& host);
 
-    /// Reads the last file again, like `read`.
-    bool reload(InstrumentHost& host) { return read(path_, format_, host); }
+    /// Reads the last file again with the same options, like `read`.
+    bool reload(InstrumentHost& host) { return read(path_, format_, options_, host); }
 
     /// True if the instrument was read from a file.
     bool isFromFile() const { return !path_.empty(); }
@@ -61,6 +63,9 @@ public:
     /// The format of that file.
     InstrumentFormat format() const { return format_; }
 
+    /// How that file was read.
+    const ImportOptions& options() const { return options_; }
+
     /// Size of the samples in bytes; 0 without an instrument.
     std::int64_t size() const { return instrument_ ? instrument_->usage : 0; }
 
@@ -71,6 +76,7 @@ private:
     std::string name_;
     std::filesystem::path path_;
     InstrumentFormat format_ = InstrumentFormat::SoundFont;
+    ImportOptions options_;
     std::string errorString_;
     ImportReport report_;
 };

@@ -29,7 +29,7 @@ protected:
             "test.organ", "[Organ]\nChurchName=Test\n[Manual001]\n"
                           "FirstAccessibleKeyMIDINoteNumber=48\n[Stop001]\nPipe001=a.wav\n");
         auto document = std::make_unique<InstrumentDocument>();
-        EXPECT_TRUE(document->read(organ, InstrumentFormat::Hauptwerk1, app_));
+        EXPECT_TRUE(document->read(organ, InstrumentFormat::Hauptwerk1, {Reading::Plain}, app_));
         app_.addInstrument(std::move(document));
     }
 

@@ -61,7 +61,9 @@ TEST(Session, KeepsEveryFieldInItsFile)
 {
     const std::filesystem::path odd = "/organs/100%25 f\xFCr \"Anna\"/a.organ";
     Session session;
-    session.instruments = {{{}, {}, {0.5F}}, {odd, InstrumentFormat::Hauptwerk1, {0.25F, 1.0F}}};
+    session.instruments = {
+        {{}, {}, {}, {0.5F}},
+        {odd, InstrumentFormat::Hauptwerk1, {Reading::Plain, true, 3}, {0.25F, 1.0F}}};
     session.currentInstrument = 1;
     session.program = 19;
     session.tunings = {"/t/für.scl"};
@@ -76,6 +78,7 @@ TEST(Session, KeepsEveryFieldInItsFile)
     EXPECT_EQ(encodeSession(read, "/t"), text);
     EXPECT_EQ(read.instruments.at(1).path, odd);
     EXPECT_THAT(read.instruments[1].gains, ElementsAre(0.25F, 1.0F));
+    EXPECT_EQ(read.instruments[1].options, session.instruments[1].options);
     EXPECT_EQ(read.layout, session.layout);
 
     EXPECT_TRUE(decodeSession(R"({"velmoraSession": 1, "later": {}})", "/").pieces.empty());
@@ -138,10 +141,11 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
                                                                      "500.\n600.\n700.\n800.\n"
                                                                      "900.\n1000.\n1100.\n2/1\n"));
     Session session;
-    session.instruments = {{{}, {}, {0.5F}},
-                           {first, InstrumentFormat::Hauptwerk1, {0.25F, 0.75F}},
-                           {folder.path() / "gone.organ", InstrumentFormat::Hauptwerk1, {}},
-                           {second, InstrumentFormat::Hauptwerk1, {}}};
+    constexpr auto kOrgan = InstrumentFormat::Hauptwerk1;
+    session.instruments = {{{}, {}, {}, {0.5F}},
+                           {first, kOrgan, {Reading::Plain}, {0.25F, 0.75F}},
+                           {folder.path() / "gone.organ", kOrgan, {}, {}},
+                           {second, kOrgan, {Reading::Plain}, {}}};
     session.currentInstrument = 1;
     session.program = 19;
     session.tunings = {scale, folder.path() / "gone.scl"};

@@ -78,7 +78,7 @@ public:
     std::string error = "none";
     std::string sounds;  ///< The name, channels, sample rate and bytes of each sound.
     std::string skipped; ///< What was skipped, and why.
-    Import import{host};
+    Import import{host, {Reading::Plain}};
 };
 
 } // namespace velmora

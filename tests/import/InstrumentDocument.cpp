@@ -66,7 +66,7 @@ protected:
 
     bool read(const std::filesystem::path& path)
     {
-        return document_.read(path, instrumentFormatOf(path).value(), host_);
+        return document_.read(path, instrumentFormatOf(path).value(), {Reading::Plain}, host_);
     }
 
     /// Describes the document in one line.

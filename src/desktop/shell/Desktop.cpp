@@ -257,7 +257,8 @@ void Desktop::openInstrument(const QString& path, InstrumentFormat format)
 {
     const QString name = displayName(pathOf(path));
     auto document = std::make_unique<InstrumentDocument>();
-    const bool isRead = document->read(pathOf(path), format, application_);
+    const bool isRead =
+        document->read(pathOf(path), format, {application_.playing().reading()}, application_);
     progressWindow_.endProgress();
     if (!isRead) {
         if (!document->errorString().empty())

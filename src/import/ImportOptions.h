@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace velmora {
+
+/// How the files of an instrument are understood.
+enum class Reading : std::uint8_t {
+    Plain,   ///< One sample for each key, as the file lists them.
+    Musical, ///< What the maker of the file meant: loops, releases, layers, presets, a console.
+};
+
+/// What a user can choose about an import.
+struct ImportOptions {
+    Reading reading = Reading::Musical;
+
+    /// Lays out the instruments of a SoundFont as stops instead of playing its presets. The plain
+    /// reading always does.
+    bool asStops = false;
+
+    /// Which instrument of a file that holds several: its position in
+    /// `InstrumentDocument::choices`.
+    std::size_t choice = 0;
+
+    bool operator==(const ImportOptions&) const = default;
+};
+
+} // namespace velmora
