@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace velmora {
 
@@ -29,6 +30,11 @@ struct Import {
     std::optional<ConsoleDefinition> console;
 
     std::string name; ///< The display name; empty if the file has none.
+
+    /// The names of the instruments that the file holds, if it holds several;
+    /// `ImportOptions::choice` is a position in it.
+    std::vector<std::string> choices;
+
     ImportReport report;
     ImportOptions options;
     InstrumentHost& host;

@@ -44,6 +44,8 @@ void cleanNames(Import& import)
     import.name = toUtf8(import.name);
     for (InstrumentStop& stop : import.instrument->stops())
         stop.name = toUtf8(stop.name);
+    for (std::string& choice : import.choices)
+        choice = toUtf8(choice);
     for (auto& [file, why] : import.report.skipped) {
         file = toUtf8(file);
         why = toUtf8(why);
@@ -104,6 +106,7 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
         instrument_ = std::move(import.instrument);
         name_ = std::move(import.name);
         report_ = std::move(import.report);
+        choices_ = std::move(import.choices);
         path_ = path;
         format_ = format;
         options_ = options;

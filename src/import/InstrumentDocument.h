@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace velmora {
 
@@ -48,6 +49,10 @@ public:
     /// What the last successful import loaded and skipped.
     const ImportReport& report() const { return report_; }
 
+    /// The instruments that the last file holds, if it holds several. `ImportOptions::choice` is
+    /// the position of the one to read.
+    const std::vector<std::string>& choices() const { return choices_; }
+
     /// Null until an instrument has been read, and after it is unloaded.
     Instrument* instrument() const { return instrument_.get(); }
 
@@ -79,6 +84,7 @@ private:
     ImportOptions options_;
     std::string errorString_;
     ImportReport report_;
+    std::vector<std::string> choices_;
 };
 
 } // namespace velmora

@@ -51,14 +51,19 @@ struct PipeOrgan {
         /// How it sounds when it is played as recorded, in hertz. Without it, `unityNote` of the
         /// attack's file counts, or else the pitch that is expected of the key.
         std::optional<double> hertz;
-        double cents = 0.0;          ///< By how much it is meant to differ from the temperament.
+        double cents = 0.0; ///< By how much it is meant to differ from the temperament.
+
+        /// By how many cents the definition raises the recording to make this pipe of it, as where
+        /// a recording serves several keys. Tells which pitch to expect of the recording.
+        double retuning = 0.0;
         double harmonicNumber = 8.0; ///< 8 for an 8′ pipe, 16 for a 4′ one, 24 for a 2⅔′ one.
         bool isPercussive = false;   ///< It plays to its end, whenever the key is released.
     };
 
     struct Rank {
         std::string name;
-        std::size_t division = 0; ///< Whose swell it stands in; an index in the console's list.
+        /// Whose swell it stands in; an index in the console's list. Empty if in none.
+        std::optional<std::size_t> division;
         std::vector<Pipe> pipes;
     };
 
