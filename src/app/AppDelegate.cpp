@@ -229,9 +229,9 @@ std::string AppDelegate::soundName()
 
 std::uint8_t AppDelegate::midiProgram()
 {
-    std::uint8_t program = 0;
+    std::size_t program = 0;
     player_.with([&](Instrument&, Temperament&) { program = midiPlayer_->program(); });
-    return program;
+    return static_cast<std::uint8_t>(program);
 }
 
 void AppDelegate::receiveProgram(std::uint8_t program)

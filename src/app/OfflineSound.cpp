@@ -26,7 +26,7 @@ SoundSettings currentSettings(AppDelegate& application)
         settings.temperament = temperament.fresh();
         settings.gains = gainsOf(instrument);
         if (const auto* player = dynamic_cast<const MIDIInstrument*>(&instrument)) {
-            settings.program = player->program();
+            settings.program = static_cast<std::uint8_t>(player->program());
             settings.banks = generalMidiBanks();
         }
     });

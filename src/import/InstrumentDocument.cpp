@@ -85,8 +85,7 @@ std::string InstrumentDocument::title() const
 
 bool InstrumentDocument::canUnload() const
 {
-    const auto* sampled = dynamic_cast<const ALInstrument*>(instrument_.get());
-    return sampled != nullptr && !sampled->isSounding();
+    return isFromFile() && instrument_ && !instrument_->isSounding();
 }
 
 bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentFormat format,

@@ -57,7 +57,7 @@ public:
     SampleRenderer& renderer() { return renderer_; }
 
     /// Returns whether any sample has been started and has not yet died away.
-    bool isSounding() const;
+    bool isSounding() const override;
 
 private:
     std::vector<InstrumentStop> stops_;

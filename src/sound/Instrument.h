@@ -1,9 +1,11 @@
 #pragma once
 
+#include "sound/Program.h"
 #include "tuning/Tunable.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 
 namespace velmora {
@@ -50,8 +52,21 @@ public:
     /// Fades released keys by one step. Must be called 60 times a second.
     virtual void fade(double /*factor*/) {}
 
-    /// Selects a General MIDI program, 0…127.
+    /// Selects a program by its number, 0…127: a General MIDI program, or that of a bank. Does
+    /// nothing if there is no such program.
     virtual void setInstrument(std::uint8_t /*program*/) {}
+
+    /// The programs to choose from; empty if there is no choice. They never change.
+    virtual std::span<const Program> programs() const { return {}; }
+
+    /// Selects one of `programs()` by its position. Does nothing if there is no such program.
+    virtual void setProgram(std::size_t /*position*/) {}
+
+    /// The position of the selected program.
+    virtual std::size_t program() const { return 0; }
+
+    /// True if a key sounds or dies away.
+    virtual bool isSounding() const { return false; }
 
     /// The sample memory in use, in bytes.
     std::int64_t usage = 0;

@@ -1,11 +1,13 @@
 #include "sound/MIDIInstrument.h"
 
+#include "audio/AudioSource.h"
 #include "midi/messages.h"
 #include "sound/keys.h"
 #include "tuning/Temperament.h"
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace velmora {
 
@@ -14,17 +16,40 @@ namespace {
 /// How much of its velocity the soft pedal leaves to a note.
 constexpr float kSoftness = 0.7F;
 
-/// The channel of a pitch class. Channel 9 is General MIDI's percussion, so A moves to channel 12.
+constexpr int kPercussionChannel = 9;
+
+/// The channel of a pitch class. A moves to channel 12.
 int channelOf(int key)
 {
     const int pitchClass = key % 12;
     // See docs/decisions.md, 32.
-    return pitchClass == 9 ? 12 : pitchClass;
+    return pitchClass == kPercussionChannel ? 12 : pitchClass;
+}
+
+std::vector<Program> generalMidiPrograms()
+{
+    std::vector<Program> programs(128);
+    for (int number = 0; Program & program : programs)
+        program.number = number++;
+    return programs;
 }
 
 } // namespace
 
 MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device)
+    // See docs/decisions.md, 39.
+    : MIDIInstrument(std::move(device), generalMidiPrograms(), 2, true)
+{
+}
+
+MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device, std::vector<Program> programs)
+    : MIDIInstrument(std::move(device), std::move(programs), 0, false)
+{
+}
+
+MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device, std::vector<Program> programs,
+                               std::size_t first, bool isGeneralMidi)
+    : programs_(std::move(programs)), program_(first), isGeneralMidi_(isGeneralMidi)
 {
     exchangeDevice(std::move(device));
 }
@@ -32,17 +57,18 @@ MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device)
 std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<MusicDevice> device)
 {
     device_.swap(device);
-    // See docs/decisions.md, 38.
-    for (int channel = 0; channel < midi::kChannels; ++channel)
-        device_->midiEvent(midi::kControlChange | channel, midi::kBankSelect, 0);
-    setInstrument(program_);
+    bank_ = programs_[program_].bank;
+    send(midi::kControlChange, midi::kBankSelect, bank_);
+    setProgram(program_);
     device_->bend(bend_);
     return device;
 }
 
-bool MIDIInstrument::hasSubMenu() const
+// See docs/decisions.md, 38.
+void MIDIInstrument::send(int kind, int data1, int data2)
 {
-    return true;
+    for (int channel = 0; channel < midi::kChannels; ++channel)
+        device_->midiEvent(kind | channel, data1, data2);
 }
 
 float MIDIInstrument::getVolume(std::size_t stop) const
@@ -68,12 +94,15 @@ void MIDIInstrument::play(int key, float velocity)
     // The pedal never silences a note.
     if (isSoft_ && value > 0)
         value = std::max(1, static_cast<int>(kSoftness * static_cast<float>(value)));
-    device_->midiEvent(midi::kNoteOn | channelOf(key), key, value);
+    const bool isDrum = programs_[program_].isPercussion;
+    struckDrums_.set(static_cast<std::size_t>(key), isDrum);
+    device_->midiEvent(midi::kNoteOn | (isDrum ? kPercussionChannel : channelOf(key)), key, value);
 }
 
 void MIDIInstrument::stop(int key)
 {
-    device_->midiEvent(midi::kNoteOff | channelOf(key), key, 0);
+    const bool isDrum = struckDrums_.test(static_cast<std::size_t>(key));
+    device_->midiEvent(midi::kNoteOff | (isDrum ? kPercussionChannel : channelOf(key)), key, 0);
 }
 
 void MIDIInstrument::bend(double cents)
@@ -84,8 +113,7 @@ void MIDIInstrument::bend(double cents)
 
 void MIDIInstrument::silence()
 {
-    for (int channel = 0; channel < midi::kChannels; ++channel)
-        device_->midiEvent(midi::kControlChange | channel, midi::kAllSoundOff, 0);
+    send(midi::kControlChange, midi::kAllSoundOff, 0);
 }
 
 // See docs/decisions.md, 33 and 37.
@@ -104,11 +132,34 @@ void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/
     }
 }
 
-void MIDIInstrument::setInstrument(std::uint8_t program)
+void MIDIInstrument::setProgram(std::size_t position)
 {
-    program_ = program;
-    for (int channel = 0; channel < midi::kChannels; ++channel)
-        device_->midiEvent(midi::kProgramChange | channel, program, 0);
+    if (position >= programs_.size())
+        return;
+    program_ = position;
+    const Program& program = programs_[position];
+    if (bank_ != program.bank)
+        send(midi::kControlChange, midi::kBankSelect, program.bank);
+    bank_ = program.bank;
+    send(midi::kProgramChange, program.number, 0);
+}
+
+// The bank that is played comes first, then the lowest.
+void MIDIInstrument::setInstrument(std::uint8_t number)
+{
+    std::optional<std::size_t> found;
+    for (std::size_t i = 0; i < programs_.size(); ++i) {
+        if (programs_[i].number == number && (!found || programs_[i].bank == bank_))
+            found = i;
+    }
+    if (found)
+        setProgram(*found);
+}
+
+bool MIDIInstrument::isSounding() const
+{
+    const AudioSource* source = device_->source();
+    return source != nullptr && source->voices() > 0;
 }
 
 } // namespace velmora

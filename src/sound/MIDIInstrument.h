@@ -3,18 +3,24 @@
 #include "audio/MusicDevice.h"
 #include "sound/Instrument.h"
 
+#include <bitset>
 #include <memory>
+#include <vector>
 
 namespace velmora {
 
-/// Plays a General MIDI synthesizer in any temperament: each pitch class has a MIDI channel of its
-/// own, bent to its pitch. Pitch class 0 is the reference and is never bent.
+/// Plays a synthesizer in any temperament: each pitch class has a MIDI channel of its own, bent to
+/// its pitch. Pitch class 0 is the reference and is never bent. Percussion is played untempered on
+/// its own channel.
 class MIDIInstrument : public Instrument {
 public:
-    /// Selects the start-up program on the device.
+    /// Plays the General MIDI programs and selects the start-up program on the device.
     explicit MIDIInstrument(std::unique_ptr<MusicDevice> device);
 
-    bool hasSubMenu() const override;
+    /// Plays the programs of a bank, at least one, and selects the first.
+    MIDIInstrument(std::unique_ptr<MusicDevice> device, std::vector<Program> programs);
+
+    bool hasSubMenu() const override { return isGeneralMidi_; }
     float getVolume(std::size_t stop) const override;
     void setVolume(std::size_t stop, float volume) override;
     std::size_t numStops() const override;
@@ -27,20 +33,28 @@ public:
     void bend(double cents) override;
     void setSoft(bool soft) override { isSoft_ = soft; }
     AudioSource* source() override { return device_->source(); }
-
-    /// The selected General MIDI program, 0…127.
-    std::uint8_t program() const { return program_; }
+    std::span<const Program> programs() const override { return programs_; }
+    void setProgram(std::size_t position) override;
+    std::size_t program() const override { return program_; }
+    bool isSounding() const override;
 
     /// Replaces the device and selects the current program and bend on the new one, which the
     /// caller must tune. Returns the old device, with whatever still sounds on it.
     std::unique_ptr<MusicDevice> exchangeDevice(std::unique_ptr<MusicDevice> device);
 
 private:
-    // See docs/decisions.md, 39.
-    static constexpr std::uint8_t kStartUpProgram = 2;
+    MIDIInstrument(std::unique_ptr<MusicDevice> device, std::vector<Program> programs,
+                   std::size_t first, bool isGeneralMidi);
+
+    /// Sends a message on all channels.
+    void send(int kind, int data1, int data2);
 
     std::unique_ptr<MusicDevice> device_;
-    std::uint8_t program_ = kStartUpProgram;
+    std::vector<Program> programs_;
+    std::size_t program_;
+    bool isGeneralMidi_;
+    int bank_ = 0;                 ///< The one that is selected on the device.
+    std::bitset<128> struckDrums_; ///< The keys that sound on the percussion channel.
     float volume_ = 1.0F;
     double bend_ = 0.0; ///< In cents.
     bool isSoft_ = false;
