@@ -14,7 +14,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kWatchInterval = 100ms;
-constexpr auto kRetryInterval = 500ms;
+constexpr auto kRetryInterval = 1s;
 
 /// How often an output is closed in case it keeps a device busy that is wanted more.
 constexpr auto kBusyInterval = 5s;

@@ -29,7 +29,9 @@ constexpr int kPriority = 5;
 constexpr double kDelayInterval = 0.5;
 
 constexpr double kUsualRate = 48000.0;
-constexpr std::size_t kUsualPeriod = 256;
+
+/// The period of an output that nobody hears. A longer one lets the machine rest.
+constexpr std::size_t kSilentPeriod = 2048;
 
 /// What the thread that writes shares with the output.
 struct WritingPlayback : Playback {
@@ -116,7 +118,7 @@ class SilentWriter : public SoundWriter {
 public:
     explicit SilentWriter(const OutputSettings& settings)
         : rate_(settings.rate > 0.0 ? settings.rate : kUsualRate),
-          period_(settings.period > 0 ? settings.period : kUsualPeriod)
+          period_(settings.period > 0 ? settings.period : kSilentPeriod)
     {
     }
 
