@@ -4,6 +4,7 @@
 #include "desktop/instruments/importReport.h"
 #include "desktop/instruments/unloadInstrument.h"
 #include "desktop/widgets/icons.h"
+#include "desktop/widgets/messages.h"
 
 #include <QMenu>
 
@@ -41,7 +42,7 @@ QSize InstrumentMenu::minimumSizeHint() const
 
 void InstrumentMenu::showName()
 {
-    name_ = QString::fromStdString(application_.instrumentName());
+    name_ = translatedTitle(application_.instrumentName());
     setAccessibleName(tr("Instrument: %1").arg(name_));
     setToolTip(tr("%1\nChoose another instrument, open or unload one").arg(name_));
     // Room for the arrow of the menu and the borders.
@@ -63,7 +64,7 @@ void InstrumentMenu::fillMenu()
     std::size_t currentPosition = 0;
     for (std::size_t position = 0; const auto& document : application_.instruments()) {
         QAction* action =
-            menu.addAction(QString::fromStdString(document->title()).replace("&", "&&"), this,
+            menu.addAction(translatedTitle(document->title()).replace("&", "&&"), this,
                            [this, position] { emit instrumentChosen(position); });
         action->setCheckable(true);
         if (application_.isCurrent(*document)) {

@@ -1,6 +1,7 @@
 #include "desktop/instruments/InstrumentsModel.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/widgets/messages.h"
 #include "desktop/widgets/sizeText.h"
 
 #include <QGuiApplication>
@@ -40,7 +41,7 @@ QVariant InstrumentsModel::data(const QModelIndex& index, int role) const
     const bool isUnloaded = document.instrument() == nullptr;
     switch (role) {
     case Qt::DisplayRole:
-        return index.column() == kName ? QString::fromStdString(document.title())
+        return index.column() == kName ? translatedTitle(document.title())
                                        : sizeText(static_cast<std::uint64_t>(document.size()));
     case Qt::TextAlignmentRole:
         return index.column() == kSize ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();

@@ -1,5 +1,7 @@
 #include "desktop/instruments/ProgressWindow.h"
 
+#include "desktop/widgets/messages.h"
+
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -60,7 +62,7 @@ void ProgressWindow::updateProgress(unsigned steps, const std::string& text)
         return;
     const long long done = static_cast<long long>(bar_->value()) + steps;
     bar_->setValue(static_cast<int>(std::min<long long>(done, bar_->maximum())));
-    label_->setText(QString::fromStdString(text));
+    label_->setText(translated(text));
     if (done == bar_->maximum())
         endProgress();
     if (sinceEvents_.elapsed() < kEventMilliseconds)

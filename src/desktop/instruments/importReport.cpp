@@ -1,9 +1,9 @@
 #include "desktop/instruments/importReport.h"
 
+#include "desktop/widgets/messages.h"
 #include "import/InstrumentDocument.h"
 
 #include <QMessageBox>
-#include <spdlog/fmt/fmt.h>
 
 namespace velmora {
 
@@ -16,7 +16,7 @@ void showImportReport(QWidget& parent, const InstrumentDocument& document)
 {
     const ImportReport& report = document.report();
     QMessageBox box(QMessageBox::Information, QObject::tr("Import Report"),
-                    QString::fromStdString(document.title()), QMessageBox::Close, &parent);
+                    translatedTitle(document.title()), QMessageBox::Close, &parent);
     QString summary = QObject::tr("Stops: %1, keys: %2, samples: %3.")
                           .arg(report.ranks)
                           .arg(report.pipes)
@@ -27,7 +27,7 @@ void showImportReport(QWidget& parent, const InstrumentDocument& document)
 
     QString details;
     for (const auto& [file, reason] : report.skipped)
-        details += QString::fromStdString(fmt::format("{}: {}\n", file, reason));
+        details += QString::fromStdString(file) + ": " + translated(reason) + "\n";
     box.setDetailedText(details);
     box.exec();
 }

@@ -13,6 +13,7 @@
 #include "desktop/shell/bankNotice.h"
 #include "desktop/tuning/TuningPanel.h"
 #include "desktop/widgets/HelpButton.h"
+#include "desktop/widgets/messages.h"
 #include "desktop/widgets/windowPlace.h"
 #include "platform/pathNames.h"
 #include "preferences/Preferences.h"
@@ -244,7 +245,7 @@ void Desktop::openTuning(const QString& path, TuningFormat format)
 {
     auto tuning = std::make_unique<TuningDocument>();
     if (!tuning->read(pathOf(path), format)) {
-        showError(QString::fromStdString(tuning->errorString()));
+        showError(translated(tuning->errorString()));
         return;
     }
     const std::string name = tuning->name();
@@ -262,7 +263,7 @@ void Desktop::openInstrument(const QString& path, InstrumentFormat format)
     progressWindow_.endProgress();
     if (!isRead) {
         if (!document->errorString().empty())
-            showError(QString::fromStdString(document->errorString()));
+            showError(translated(document->errorString()));
         return;
     }
     if (document->instrument() == nullptr) {
@@ -287,7 +288,7 @@ void Desktop::openSequence(const QString& path)
     if (error.empty())
         shell_.addRecent(path);
     else
-        showError(QString::fromStdString(error));
+        showError(translated(error));
 }
 
 void Desktop::openSession(const QString& path)
@@ -340,7 +341,7 @@ void Desktop::selectInstrument(std::size_t position)
         instrumentsWindow_.showCurrent();
         const std::string& error = application_.instruments().at(position)->errorString();
         if (!error.empty())
-            showError(QString::fromStdString(error));
+            showError(translated(error));
     }
     isOpening_ = wasOpening;
     openWaiting();

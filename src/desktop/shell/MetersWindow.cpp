@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/closeByKeys.h"
+#include "desktop/widgets/messages.h"
 #include "desktop/widgets/windowPlace.h"
 
 #include <QFormLayout>
@@ -66,13 +67,14 @@ void MetersWindow::update()
         text->setMinimumWidth(kTextWidth);
         lines_->addRow(newLabel(), text);
     }
-    const auto show = [&](int row, QFormLayout::ItemRole role, const std::string& text) {
+    const auto show = [&](int row, QFormLayout::ItemRole role, const QString& text) {
         auto* label = static_cast<QLabel*>(lines_->itemAt(row, role)->widget());
-        label->setText(QString::fromStdString(text));
+        label->setText(text);
     };
     for (int row = 0; row < count; ++row) {
-        show(row, QFormLayout::LabelRole, reading[static_cast<std::size_t>(row)].first + ":");
-        show(row, QFormLayout::FieldRole, reading[static_cast<std::size_t>(row)].second);
+        const auto& [title, text] = reading[static_cast<std::size_t>(row)];
+        show(row, QFormLayout::LabelRole, tr("%1:").arg(translatedTitle(title)));
+        show(row, QFormLayout::FieldRole, translated(text));
     }
 }
 

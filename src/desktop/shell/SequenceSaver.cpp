@@ -3,6 +3,7 @@
 #include "desktop/shell/ShellActions.h"
 #include "desktop/shell/askWhereToSave.h"
 #include "desktop/shell/exportAudio.h"
+#include "desktop/widgets/messages.h"
 #include "platform/pathNames.h"
 #include "sequencer/SequenceFile.h"
 
@@ -109,7 +110,7 @@ bool SequenceSaver::write(const QString& path, SequenceDocument::SaveOperation o
     QMessageBox box(QMessageBox::Warning, tr("Velmora"),
                     tr("%1 was not saved.").arg(velmora::displayName(pathOf(path))),
                     QMessageBox::Cancel, &page_);
-    box.setInformativeText(QString::fromStdString(document_.errorString()));
+    box.setInformativeText(translated(document_.errorString()));
     const QPushButton* saveAsButton = box.addButton(tr("Save As…"), QMessageBox::AcceptRole);
     box.exec();
     return box.clickedButton() == saveAsButton && saveAs();

@@ -7,6 +7,7 @@
 #include "desktop/shell/SequencePage.h"
 #include "desktop/shell/SequencePages.h"
 #include "desktop/shell/Workspace.h"
+#include "desktop/widgets/messages.h"
 #include "platform/pathNames.h"
 #include "platform/writeFile.h"
 #include "preferences/settings.h"
@@ -61,15 +62,15 @@ QString SessionKeeper::open(const std::filesystem::path& file, Arrangement arran
     try {
         session = decodeSession(readTextFile(file), std::filesystem::absolute(file).parent_path());
     } catch (const FormatError& error) {
-        return QString::fromStdString(error.inFile(file.filename().string()));
+        return translated(error.inFile(file.filename().string()));
     }
     QStringList errors;
     for (const std::string& error : openSession(session, application_))
-        errors += QString::fromStdString(error);
+        errors += translated(error);
     SequencePage* current = nullptr;
     for (const Session::Piece& piece : session.pieces) {
         if (const std::string error = pages_.open(textOf(piece.path)); !error.empty()) {
-            errors += QString::fromStdString(error);
+            errors += translated(error);
             continue;
         }
         Transport& transport = pages_.current()->document().transport();

@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/Commands.h"
+#include "desktop/widgets/messages.h"
 #include "platform/pathNames.h"
 #include "preferences/settings.h"
 
@@ -228,8 +229,8 @@ void ShellActions::showInstruments()
     std::size_t position = 0;
     for (const auto& document : application_.instruments()) {
         QAction* action =
-            instruments_->addAction(numbered(position, QString::fromStdString(document->title())),
-                                    this, [this, position] { emit instrumentChosen(position); });
+            instruments_->addAction(numbered(position, translatedTitle(document->title())), this,
+                                    [this, position] { emit instrumentChosen(position); });
         action->setCheckable(true);
         action->setChecked(application_.isCurrent(*document));
         ++position;

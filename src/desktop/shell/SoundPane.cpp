@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "desktop/widgets/LearnMenu.h"
 #include "desktop/widgets/LevelMeter.h"
+#include "desktop/widgets/messages.h"
 #include "preferences/Preferences.h"
 
 #include <QAbstractItemView>
@@ -153,7 +154,7 @@ void SoundPane::fillChoices()
         const auto found =
             std::find_if(outputs_.begin(), outputs_.end(),
                          [&](const OutputDriver& each) { return each.name == name; });
-        const QString title = QString::fromStdString(driverTitle(name));
+        const QString title = translated(driverTitle(name));
         driver_->addItem(
             found == outputs_.end() || found->isAvailable ? title : tr("%1 (missing)").arg(title),
             QString::fromStdString(name));
@@ -250,7 +251,7 @@ void SoundPane::showStatus()
                     .arg(1000.0 * output.latency, 0, 'f', 1)
                     .arg(output.lostPeriods);
     if (!output.missing.empty())
-        text += "\n" + QString::fromStdString(output.missing);
+        text += "\n" + translated(output.missing);
     status_->setText(text);
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "desktop/tuning/tuningText.h"
+#include "desktop/widgets/messages.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -42,7 +43,7 @@ StageView::StageView(AppDelegate& application) : application_(application)
 
 void StageView::showSound()
 {
-    instrument_->setText(QString::fromStdString(application_.soundName()));
+    instrument_->setText(translatedTitle(application_.soundName()));
     tuning_->setText(tuningText(application_, application_.tuningName()).title);
 }
 

@@ -7,6 +7,7 @@
 #include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/deviceText.h"
 #include "desktop/widgets/icons.h"
+#include "desktop/widgets/messages.h"
 #include "platform/pathNames.h"
 #include "preferences/settings.h"
 
@@ -62,7 +63,7 @@ StatusItem* StatusLine::addItem(const QString& subject, void (StatusLine::*click
 
 void StatusLine::showSound()
 {
-    const QString instrument = QString::fromStdString(application_.soundName());
+    const QString instrument = translatedTitle(application_.soundName());
     instrument_->show(instrument,
                       tr("Instrument: %1\nClick to show its programs or stops").arg(instrument));
     const auto [title, detail] = tuningText(application_, application_.tuningName());
@@ -126,7 +127,7 @@ void StatusLine::showOutput()
     if (output.driver.empty())
         return; // the next one is about to play
     removeNotice(missingOutput_);
-    missingOutput_ = QString::fromStdString(output.missing);
+    missingOutput_ = translated(output.missing);
     addNotice(missingOutput_);
     const bool isMissing = !missingOutput_.isEmpty();
     output_->show(output.driver == "none" ? tr("No sound output") : describe(output),

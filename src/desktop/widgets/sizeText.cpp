@@ -1,6 +1,7 @@
 #include "desktop/widgets/sizeText.h"
 
 #include "app/sizeString.h"
+#include "desktop/widgets/messages.h"
 
 #include <QLocale>
 
@@ -8,7 +9,7 @@ namespace velmora {
 
 QString sizeText(std::uint64_t bytes)
 {
-    return QString::fromStdString(sizeString(bytes)).replace(".", QLocale().decimalPoint());
+    return translated(sizeString(bytes)).replace(".", QLocale().decimalPoint());
 }
 
 } // namespace velmora

@@ -1,13 +1,17 @@
 #include "desktop/widgets/languages.h"
 
 #include "desktop/widgets/NoteSpinBox.h"
+#include "desktop/widgets/messages.h"
 #include "desktop/widgets/noteNames.h"
 #include "preferences/Preferences.h"
+#include "tuning/TuningDocument.h"
 
 #include <QDir>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 #include <QXmlStreamReader>
 #include <gmock/gmock.h>
 
@@ -55,6 +59,19 @@ std::vector<std::string> signsOf(const QString& text)
     return signs;
 }
 
+/// A language that names the line before the file.
+class LineFirst : public QTranslator {
+public:
+    QString translate(const char* context, const char* text, const char* /*disambiguation*/,
+                      int /*n*/) const override
+    {
+        if (QString(context) != "velmora::messages")
+            return {};
+        return text == QString("%1, line %2: %3") ? QString("%2, %1: %3") : QString(text).toUpper();
+    }
+    bool isEmpty() const override { return false; }
+};
+
 } // namespace
 
 TEST(NoteNames, FollowThePreferenceOrElseTheLanguage)
@@ -95,6 +112,28 @@ TEST(NoteNames, AreAcceptedAsTheyAreShown)
     }
     EXPECT_EQ(box.text(), "72");
     box.clearFocus();
+}
+
+TEST(Languages, ReachMessagesFromBelowTheDesktop)
+{
+    LineFirst language;
+    QCoreApplication::installTranslator(&language);
+    TuningDocument document;
+    QTemporaryDir folder;
+    QFile file(folder.filePath("100%3 line.scl"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("!\nA scale\ntwelve\n");
+    file.close();
+    EXPECT_FALSE(document.read(file.fileName().toStdString(), TuningFormat::Scale));
+    EXPECT_EQ(translated(document.errorString()), "3, 100%3 line.scl: \"twelve\" IS THE NUMBER OF "
+                                                  "NOTES; ONLY SCALES OF 12 NOTES ARE SUPPORTED");
+    EXPECT_FALSE(document.read("/nowhere/none.scl", TuningFormat::Scale));
+    EXPECT_THAT(translated(document.errorString()).toStdString(),
+                testing::StartsWith("none.scl: CANNOT BE READ ("));
+    EXPECT_EQ(translated("The output \"none.1\" has gone; playing through JACK until it is back."),
+              "THE OUTPUT \"none.1\" HAS GONE; PLAYING THROUGH JACK UNTIL IT IS BACK.");
+    EXPECT_EQ(translated("something new"), "something new");
+    QCoreApplication::removeTranslator(&language);
 }
 
 TEST(Languages, HaveNames)

@@ -1,0 +1,160 @@
+#include "desktop/widgets/messages.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <vector>
+
+namespace velmora {
+
+namespace {
+
+/// The messages with their arguments, those with a fixed text first.
+constexpr const char* kMessages[] = {
+    // Instruments and their progress
+    QT_TRANSLATE_NOOP("velmora::messages", "MIDI Player"),
+    QT_TRANSLATE_NOOP("velmora::messages", "Sample %1"),
+    // Meters
+    QT_TRANSLATE_NOOP("velmora::messages", "Output"),
+    QT_TRANSLATE_NOOP("velmora::messages", "Sample rate"),
+    QT_TRANSLATE_NOOP("velmora::messages", "Period"),
+    QT_TRANSLATE_NOOP("velmora::messages", "From MIDI to sound"),
+    QT_TRANSLATE_NOOP("velmora::messages", "Voices"),
+    QT_TRANSLATE_NOOP("velmora::messages", "Load"),
+    QT_TRANSLATE_NOOP("velmora::messages", "Lost periods"),
+    QT_TRANSLATE_NOOP("velmora::messages", "Instruments in memory"),
+    QT_TRANSLATE_NOOP("velmora::messages", "none"),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1 frames, %2 ms"),
+    QT_TRANSLATE_NOOP("velmora::messages",
+                      "%1 ms (input %2 ms, period and limiter %3 ms, sound server %4 ms)"),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1, released keys are shortened"),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1 % of the period, at worst %2 %"),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1, the last at %2"),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1 messages a second"),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1GB"),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1MB"),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1KB"),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1 bytes"),
+    // Outputs
+    QT_TRANSLATE_NOOP("velmora::messages", "No sound"),
+    QT_TRANSLATE_NOOP("velmora::messages", "The sound card"),
+    QT_TRANSLATE_NOOP("velmora::messages", "The output \"%1\""),
+    QT_TRANSLATE_NOOP("velmora::messages", "No sound output was found; looking for one."),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1 has gone; waiting for it."),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1 is missing; waiting for it."),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1 has gone; playing through %2 until it is back."),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1 is missing; playing through %2 until it is back."),
+    // Files of any kind
+    QT_TRANSLATE_NOOP("velmora::messages", "cannot be read"),
+    QT_TRANSLATE_NOOP("velmora::messages", "cannot be read (%1)"),
+    QT_TRANSLATE_NOOP("velmora::messages", "is empty"),
+    QT_TRANSLATE_NOOP("velmora::messages", "is too large"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the file does not contain its data"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the file has too many chunks"),
+    QT_TRANSLATE_NOOP("velmora::messages", "lists are nested too deeply"),
+    QT_TRANSLATE_NOOP("velmora::messages", "is not a RIFF file"),
+    QT_TRANSLATE_NOOP("velmora::messages", "has no \"%1\""),
+    // Tunings
+    QT_TRANSLATE_NOOP("velmora::messages", "this is not a tuning file"),
+    QT_TRANSLATE_NOOP("velmora::messages", "\"%1\" is not a number"),
+    QT_TRANSLATE_NOOP("velmora::messages", "\"%1\" is not a finite number"),
+    QT_TRANSLATE_NOOP("velmora::messages", "\"%1\" is not a playable pitch"),
+    QT_TRANSLATE_NOOP("velmora::messages", "\"%1\" has a zero denominator"),
+    QT_TRANSLATE_NOOP("velmora::messages",
+                      "\"%1\" is the number of notes; only scales of 12 notes are supported"),
+    // Pieces and sessions
+    QT_TRANSLATE_NOOP("velmora::messages", "this is not a Standard MIDI File: \"MThd\" is missing"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the header is too short"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the header announces no tracks"),
+    QT_TRANSLATE_NOOP("velmora::messages", "an event exceeds the end of its track"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the file ends after %1 of %2 tracks"),
+    QT_TRANSLATE_NOOP("velmora::messages",
+                      "a chunk of %1 bytes is truncated: the file has only %2 more"),
+    QT_TRANSLATE_NOOP("velmora::messages", "this is not a session of Velmora"),
+    QT_TRANSLATE_NOOP("velmora::messages", "a later version of Velmora has written this session"),
+    // Instruments
+    QT_TRANSLATE_NOOP(
+        "velmora::messages",
+        "is too large for the free memory; unload other instruments, then open it again"),
+    QT_TRANSLATE_NOOP("velmora::messages", "has no instruments"),
+    QT_TRANSLATE_NOOP("velmora::messages", "has no samples"),
+    QT_TRANSLATE_NOOP("velmora::messages", "is not a sound file in a supported format"),
+    QT_TRANSLATE_NOOP("velmora::messages", "is a damaged WavPack file (%1)"),
+    QT_TRANSLATE_NOOP("velmora::messages", "lies outside the folder of the instrument"),
+    QT_TRANSLATE_NOOP("velmora::messages", "cannot be loaded: its samples are encrypted and need a "
+                                           "licence; open an organ without encryption"),
+    QT_TRANSLATE_NOOP("velmora::messages", "cannot be played: no pipe has a sample file"),
+    QT_TRANSLATE_NOOP(
+        "velmora::messages",
+        "cannot be played: none of the %1 sample files can be decoded, for example %2"),
+    QT_TRANSLATE_NOOP("velmora::messages",
+                      "is not an organ definition: its root element is not \"Hauptwerk\""),
+    // Places in files
+    QT_TRANSLATE_NOOP("velmora::messages", "%1, line %2: %3"),
+    QT_TRANSLATE_NOOP("velmora::messages", "%1, byte %2: %3"),
+};
+
+QString translation(const char* message)
+{
+    return QCoreApplication::translate("velmora::messages", message);
+}
+
+/// Returns what finds a message, with a group for each argument. Arguments follow each other in
+/// English.
+QRegularExpression patternOf(const char* message)
+{
+    QString pattern = QRegularExpression::escape(message);
+    for (int argument = 1; argument <= 4; ++argument)
+        pattern.replace(QString("\\%%1").arg(argument), "(.+?)");
+    return QRegularExpression(QRegularExpression::anchoredPattern(pattern),
+                              QRegularExpression::DotMatchesEverythingOption);
+}
+
+const std::vector<QRegularExpression>& patterns()
+{
+    static const auto patterns = [] {
+        std::vector<QRegularExpression> result;
+        for (const char* message : kMessages)
+            result.push_back(patternOf(message));
+        return result;
+    }();
+    return patterns;
+}
+
+QString translatedText(const QString& text)
+{
+    for (std::size_t i = 0; i < patterns().size(); ++i) {
+        const QRegularExpressionMatch match = patterns()[i].match(text);
+        if (!match.hasMatch())
+            continue;
+        QString result;
+        const QString form = translation(kMessages[i]);
+        for (qsizetype at = 0; at < form.size(); ++at) {
+            const int argument = form[at] == '%' ? form.mid(at + 1, 1).toInt() : 0;
+            if (argument > 0 && argument <= match.lastCapturedIndex()) {
+                result += translatedText(match.captured(argument));
+                ++at;
+            } else {
+                result += form[at];
+            }
+        }
+        return result;
+    }
+    // A file or a device with what there is to say about it
+    const qsizetype colon = text.indexOf(": ");
+    return colon < 0 ? text : text.left(colon + 2) + translatedText(text.mid(colon + 2));
+}
+
+} // namespace
+
+QString translated(const std::string& message)
+{
+    return translatedText(QString::fromStdString(message));
+}
+
+QString translatedTitle(const std::string& title)
+{
+    return translation(title.c_str());
+}
+
+} // namespace velmora
