@@ -46,6 +46,39 @@ WavpackStreamReader64 memoryReader()
     return reader;
 }
 
+using Context = std::unique_ptr<WavpackContext, decltype(&WavpackCloseFile)>;
+
+/// Returns null and the reason if the file cannot be opened.
+Context open(FileImage& file, int flags, std::string& error)
+{
+    static WavpackStreamReader64 reader = memoryReader(); // the context keeps a pointer to it
+    std::array<char, 128> text{};                         // libwavpack requires 80
+    Context context(WavpackOpenFileInputEx64(&reader, &file, nullptr, text.data(), flags, 0),
+                    WavpackCloseFile);
+    error = text.data();
+    return context;
+}
+
+void appendWrapper(WavpackContext* context, std::vector<std::byte>& bytes)
+{
+    const auto* data = reinterpret_cast<const std::byte*>(WavpackGetWrapperData(context));
+    if (data != nullptr)
+        bytes.insert(bytes.end(), data, data + WavpackGetWrapperBytes(context));
+    WavpackFreeWrapper(context);
+}
+
+bool hasId(std::span<const std::byte> bytes, std::string_view id)
+{
+    return bytes.size() >= id.size() && std::memcmp(bytes.data(), id.data(), id.size()) == 0;
+}
+
+/// Writes the size of a chunk, which stands behind its identifier.
+void setSize(std::span<std::byte> chunk, std::size_t size)
+{
+    for (std::size_t i = 0; i < 4; ++i)
+        chunk[4 + i] = static_cast<std::byte>(size >> 8 * i & 0xFF);
+}
+
 /// How libwavpack returns samples: integers in the low bytes of each word, or the bits of floats
 /// with a full scale of 1.
 struct Words {
@@ -85,21 +118,16 @@ void add(PcmBuilder& builder, std::span<const std::int32_t> samples, Words words
 
 bool isWavPack(std::span<const std::byte> start)
 {
-    constexpr std::string_view kMagic = "wvpk";
-    return start.size() >= kMagic.size() &&
-           std::memcmp(start.data(), kMagic.data(), kMagic.size()) == 0;
+    return hasId(start, "wvpk");
 }
 
 Pcm decodeWavPack(std::span<const std::byte> bytes, const std::string& name)
 {
     FileImage file(bytes);
-    WavpackStreamReader64 reader = memoryReader();
-    std::array<char, 128> error{}; // libwavpack requires 80
-    const std::unique_ptr<WavpackContext, decltype(&WavpackCloseFile)> context(
-        WavpackOpenFileInputEx64(&reader, &file, nullptr, error.data(), OPEN_NORMALIZE, 0),
-        WavpackCloseFile);
+    std::string error;
+    const Context context = open(file, OPEN_NORMALIZE, error);
     if (!context)
-        throw FormatError(std::string("is a damaged WavPack file (") + error.data() + ")");
+        throw FormatError("is a damaged WavPack file (" + error + ")");
 
     const int channels = WavpackGetNumChannels(context.get());
     const Words words{(WavpackGetMode(context.get()) & MODE_FLOAT) != 0,
@@ -113,6 +141,32 @@ Pcm decodeWavPack(std::span<const std::byte> bytes, const std::string& name)
     if (const int errors = WavpackGetNumErrors(context.get()))
         builder.logReadError(errors);
     return builder.take();
+}
+
+std::vector<std::byte> wavPackRiff(std::span<const std::byte> bytes)
+{
+    constexpr std::size_t kRiffHeader = 12;
+    constexpr std::size_t kChunkHeader = 8;
+    FileImage file(bytes);
+    std::string error;
+    const Context context = open(file, OPEN_WRAPPER, error);
+    std::vector<std::byte> riff;
+    if (!context)
+        return riff;
+    appendWrapper(context.get(), riff);
+    // The header ends with that of the "data" chunk, whose samples come next.
+    if (riff.size() < kRiffHeader + kChunkHeader || !hasId(riff, "RIFF") ||
+        !hasId(std::span(riff).last(kChunkHeader), "data"))
+        return {};
+    const bool isOdd = (riff[riff.size() - 4] & std::byte{1}) != std::byte{0};
+    setSize(std::span(riff).last(kChunkHeader), 0);
+    const std::size_t end = riff.size();
+    WavpackSeekTrailingWrapper(context.get());
+    appendWrapper(context.get(), riff);
+    if (isOdd && riff.size() > end && riff[end] == std::byte{0})
+        riff.erase(riff.begin() + static_cast<std::ptrdiff_t>(end)); // the pad byte of the samples
+    setSize(riff, riff.size() - kChunkHeader);
+    return riff;
 }
 
 } // namespace velmora

@@ -1,5 +1,6 @@
 #include "import/sampleChunks.h"
 
+#include "audio/WavPackDecoder.h"
 #include "import/RIFF.h"
 
 #include <algorithm>
@@ -90,7 +91,9 @@ std::optional<std::uint32_t> releaseMarker(const RIFF::Chunk& chunk,
 SampleChunks readSampleChunks(std::span<const std::byte> bytes)
 {
     SampleChunks result;
-    const RIFF::File file(bytes);
+    const std::vector<std::byte> unwrapped =
+        isWavPack(bytes) ? wavPackRiff(bytes) : std::vector<std::byte>();
+    const RIFF::File file(unwrapped.empty() ? bytes : unwrapped);
     if (file.id() != RIFF::code("RIFF"))
         return result;
     if (const auto* sampler = file.get<RIFF::Chunk>(RIFF::code("smpl")))

@@ -24,8 +24,9 @@ struct SampleChunks {
     std::optional<std::uint32_t> cue;
 };
 
-/// Reads the chunks of a file in memory; all are absent if it is not a RIFF file. Positions are not
-/// checked against the length of the sound. Throws FormatError as `RIFF::File` does.
+/// Reads the chunks of a file in memory; all are absent if it is not a RIFF file, nor a WavPack
+/// file that was made of one. Positions are not checked against the length of the sound. Throws
+/// FormatError as `RIFF::File` does.
 SampleChunks readSampleChunks(std::span<const std::byte> bytes);
 
 } // namespace velmora

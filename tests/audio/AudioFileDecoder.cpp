@@ -1,6 +1,7 @@
 #include "audio/AudioFileDecoder.h"
 
 #include "audio/PcmBuilder.h"
+#include "audio/WavPackDecoder.h"
 #include "base/File.h"
 #include "base/FormatError.h"
 #include "support/Log.h"
@@ -36,7 +37,9 @@ const Samples kCut = {0, 32767, -32768, 0x1234, 0x1234, -0x1235, -1, 0};
 const Words kFloats = {0x3f000000, -0x41000000, 0x3f800000, -0x40800000, 0x41000000, 0x7fc00000};
 const Floats kFinite = {0.5F, -0.5F, 1.0F, -1.0F, 8.0F, 0.0F};
 
-std::string writeWavPack(const std::string& path, bool floats, int channels, Words words)
+/// Writes a WavPack file that keeps what stood before and behind the samples of another file.
+std::string writeWavPack(const std::string& path, bool floats, int channels, Words words,
+                         std::string before = "", std::string after = "")
 {
     std::ofstream file(path, std::ios::binary);
     const auto append = [](void* id, void* data, std::int32_t count) {
@@ -54,8 +57,13 @@ std::string writeWavPack(const std::string& path, bool floats, int channels, Wor
     const auto frames = static_cast<unsigned>(words.size()) / static_cast<unsigned>(channels);
     WavpackContext* context = WavpackOpenFileOutput(append, &file, nullptr);
     WavpackSetConfiguration64(context, &config, frames, nullptr);
+    if (!before.empty())
+        WavpackAddWrapper(context, before.data(), static_cast<unsigned>(before.size()));
     WavpackPackInit(context);
     WavpackPackSamples(context, words.data(), frames);
+    WavpackFlushSamples(context);
+    if (!after.empty())
+        WavpackAddWrapper(context, after.data(), static_cast<unsigned>(after.size()));
     WavpackFlushSamples(context);
     WavpackCloseFile(context);
     return path;
@@ -100,6 +108,27 @@ TEST(AudioFileDecoder, KeepsSamplesWhole)
     std::fill_n(file.begin() + 22, 4, std::byte{0x7f}); // the length in the first metadata block
     EXPECT_LE(decodeAudio(file).floats.capacity(), 8 * file.size())
         << "a false length reserves memory only in proportion to the file";
+}
+
+TEST(AudioFileDecoder, FindsTheRiffChunksThatWavPackKeeps)
+{
+    const std::string before = riff::chunk("fmt ", "0123456789abcdef") + riff::chunk("smpl", "s");
+    const std::string after = riff::chunk("cue ", "cc");
+    for (const std::string& pad : {std::string(), std::string(1, 0)}) {
+        const std::string frames(1, static_cast<char>(3 * kWords.size() + pad.size()));
+        const auto path = writeWavPack(
+            (OrganFolder().path().string() + "x.wv"), false, 1, kWords,
+            "RIFF\1\2\3\4WAVE" + before + "data" + frames + std::string(3, 0), pad + after);
+        const auto riff = wavPackRiff(readFile(path));
+        EXPECT_EQ(std::string(reinterpret_cast<const char*>(riff.data()), riff.size()),
+                  riff::file("WAVE", before + riff::chunk("data", "") + after));
+        EXPECT_EQ(decodeAudioFile(path).floats, kWhole);
+        std::filesystem::remove(path);
+    }
+    auto cut = readFile(write(kWavPack, 1, kWords));
+    EXPECT_FALSE(wavPackRiff(cut).empty());
+    cut.resize(40);
+    EXPECT_TRUE(wavPackRiff(cut).empty());
 }
 
 TEST(AudioFileDecoder, SaysAndLogsWhyASoundCannotBeDecoded)
