@@ -3,17 +3,15 @@
 #include "audio/FileImage.h"
 #include "audio/PcmBuilder.h"
 #include "audio/WavPackDecoder.h"
+#include "audio/wholeness.h"
 #include "base/File.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
+#include "base/OpenFile.h"
 
-#include <fcntl.h>
 #include <sndfile.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <array>
-#include <cerrno>
 #include <memory>
 #include <system_error>
 
@@ -42,16 +40,18 @@ template <class Sample> void decodeWith(sf_count_t (*read)(SNDFILE*, Sample*, sf
         builder.add(
             std::span<const Sample>(block.data(), static_cast<std::size_t>(frames * channels)));
     if (const int status = sf_error(file))
-        builder.logReadError(status);
+        builder.readError(status);
 }
 
 /// Decodes an open file of `size` bytes. The sample type is the smallest that loses no precision;
 /// lossy formats have none that 16 bits do not hold.
-Pcm decode(SNDFILE* file, const SF_INFO& info, const std::string& name, std::size_t size)
+Pcm decode(SNDFILE* file, const SF_INFO& info, const std::string& name, std::size_t size,
+           const DecodingOptions& options)
 {
     using Precision = PcmBuilder::Precision;
     const auto decoded = [&](auto read, Precision precision) {
-        PcmBuilder builder(name, info.channels, info.samplerate, info.frames, size, precision);
+        PcmBuilder builder(name, info.channels, info.samplerate, info.frames, size, precision,
+                           options);
         decodeWith(read, file, info.channels, builder);
         return builder.take();
     };
@@ -102,37 +102,16 @@ try {
     throw;
 }
 
-/// A file descriptor that is closed on destruction.
-class Descriptor {
-public:
-    explicit Descriptor(const std::filesystem::path& path)
-        : descriptor_(open(path.c_str(), O_RDONLY | O_CLOEXEC))
-    {
-    }
-    ~Descriptor()
-    {
-        if (descriptor_ >= 0)
-            close(descriptor_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int value() const { return descriptor_; }
-
-private:
-    int descriptor_;
-};
-
-Pcm decodeOpenFile(int descriptor, const std::string& name, std::size_t size)
+Pcm decodeOpenFile(const OpenFile& opened, const std::string& name, const DecodingOptions& options)
 {
     SF_INFO info{};
-    const SoundFile file(sf_open_fd(descriptor, SFM_READ, &info, SF_FALSE), sf_close);
+    const SoundFile file(sf_open_fd(opened.descriptor(), SFM_READ, &info, SF_FALSE), sf_close);
     if (!file)
         throw openError("ExtAudioFileOpenURL");
-    return decode(file.get(), info, name, size);
+    return decode(file.get(), info, name, static_cast<std::size_t>(opened.size()), options);
 }
 
-Pcm decodeImage(std::span<const std::byte> image)
+Pcm decodeImage(std::span<const std::byte> image, const DecodingOptions& options)
 {
     SF_VIRTUAL_IO callbacks{};
     callbacks.get_filelen = [](void* data) -> sf_count_t {
@@ -153,37 +132,39 @@ Pcm decodeImage(std::span<const std::byte> image)
     const SoundFile file(sf_open_virtual(&callbacks, SFM_READ, &info, &reader), sf_close);
     if (!file)
         throw openError("ExtAudioFileWrapAudioFileID");
-    return decode(file.get(), info, kEmbedded, image.size());
+    return decode(file.get(), info, kEmbedded, image.size(), options);
 }
 
 } // namespace
 
-Pcm decodeAudioFile(const std::filesystem::path& path)
-{
-    const Descriptor descriptor(path);
+Pcm decodeAudioFile(const std::filesystem::path& path, const DecodingOptions& options)
+try {
+    const OpenFile file(path);
     std::array<std::byte, 4> magic{};
-    struct stat status {};
-    if (descriptor.value() < 0 || fstat(descriptor.value(), &status) != 0 ||
-        pread(descriptor.value(), magic.data(), magic.size(), 0) < 0) {
-        const int error = errno;
-        const std::string reason = std::generic_category().message(error);
-        const Logger log = logger("audio");
-        // See docs/decisions.md, 125.
-        log.debug("ERROR : ExtAudioFileOpenURL, {}", error);
-        log.warn("cannot open {}: {}", path.string(), reason);
-        throw FormatError("cannot be read (" + reason + ")");
-    }
+    file.read(0, magic);
     return logErrors(path.string(), [&] {
-        return isWavPack(magic) ? decodeWavPack(readFile(path), path.string())
-                                : decodeOpenFile(descriptor.value(), path.string(),
-                                                 static_cast<std::size_t>(status.st_size));
+        if (isWavPack(magic))
+            return decodeWavPack(readFile(path), path.string(), options);
+        if (options.damage == Damage::Refused)
+            checkWholeness(readFile(path));
+        return decodeOpenFile(file, path.string(), options);
     });
+} catch (const std::system_error& error) {
+    const Logger log = logger("audio");
+    // See docs/decisions.md, 125.
+    log.debug("ERROR : ExtAudioFileOpenURL, {}", error.code().value());
+    log.warn("cannot open {}: {}", path.string(), error.code().message());
+    throw FormatError("cannot be read (" + error.code().message() + ")");
 }
 
-Pcm decodeAudio(std::span<const std::byte> image)
+Pcm decodeAudio(std::span<const std::byte> image, const DecodingOptions& options)
 {
     return logErrors(kEmbedded, [&] {
-        return isWavPack(image) ? decodeWavPack(image, kEmbedded) : decodeImage(image);
+        if (isWavPack(image))
+            return decodeWavPack(image, kEmbedded, options);
+        if (options.damage == Damage::Refused)
+            checkWholeness(image);
+        return decodeImage(image, options);
     });
 }
 

@@ -121,7 +121,8 @@ bool isWavPack(std::span<const std::byte> start)
     return hasId(start, "wvpk");
 }
 
-Pcm decodeWavPack(std::span<const std::byte> bytes, const std::string& name)
+Pcm decodeWavPack(std::span<const std::byte> bytes, const std::string& name,
+                  const DecodingOptions& options)
 {
     FileImage file(bytes);
     std::string error;
@@ -133,13 +134,14 @@ Pcm decodeWavPack(std::span<const std::byte> bytes, const std::string& name)
     const Words words{(WavpackGetMode(context.get()) & MODE_FLOAT) != 0,
                       WavpackGetBytesPerSample(context.get())};
     PcmBuilder builder(name, channels, WavpackGetSampleRate(context.get()),
-                       WavpackGetNumSamples64(context.get()), bytes.size(), words.precision());
+                       WavpackGetNumSamples64(context.get()), bytes.size(), words.precision(),
+                       options);
     std::vector<std::int32_t> block(kUnpackedFrames * static_cast<std::size_t>(channels));
     while (const std::uint32_t frames =
                WavpackUnpackSamples(context.get(), block.data(), kUnpackedFrames))
         add(builder, std::span(block).first(frames * static_cast<std::size_t>(channels)), words);
     if (const int errors = WavpackGetNumErrors(context.get()))
-        builder.logReadError(errors);
+        builder.readError(errors);
     return builder.take();
 }
 

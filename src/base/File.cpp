@@ -1,45 +1,34 @@
 #include "base/File.h"
 
 #include "base/FormatError.h"
+#include "base/MemoryGuard.h"
+#include "base/OpenFile.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <memory>
 #include <system_error>
 
 namespace velmora {
 
 namespace {
 
-FormatError systemError(int code)
-{
-    return FormatError("cannot be read (" + std::generic_category().message(code) + ")");
-}
-
 template <class Bytes> Bytes readBytes(const std::filesystem::path& path)
-{
-    std::error_code error;
-    if (std::filesystem::is_directory(path, error))
-        throw systemError(EISDIR);
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
-                                                               std::fclose);
-    if (!file)
-        throw systemError(errno);
+try {
+    const OpenFile file(path);
+    MemoryGuard::machine().require(file.size());
 
-    // The size is only a hint, since pipes have none. So the file is read in blocks until its end.
+    // The size is only a hint: the system's own files have none, and others may still grow.
     Bytes bytes;
     constexpr std::size_t kBlock = 1 << 16;
-    if (const std::uintmax_t size = std::filesystem::file_size(path, error); !error)
-        bytes.reserve(size + 2 * kBlock);
+    bytes.reserve(file.size() + 2 * kBlock);
     std::size_t length = 0;
     do {
-        bytes.resize(bytes.size() + kBlock);
-        length = std::fread(bytes.data() + bytes.size() - kBlock, 1, kBlock, file.get());
-        bytes.resize(bytes.size() - kBlock + length);
+        const std::size_t end = bytes.size();
+        bytes.resize(end + kBlock);
+        length = file.read(end, std::as_writable_bytes(std::span(bytes).subspan(end)));
+        bytes.resize(end + length);
     } while (length == kBlock);
-    if (std::ferror(file.get()) != 0)
-        throw systemError(errno);
     return bytes;
+} catch (const std::system_error& error) {
+    throw FormatError("cannot be read (" + error.code().message() + ")");
 }
 
 } // namespace

@@ -175,4 +175,54 @@ TEST(AudioFileDecoder, SaysAndLogsWhyASoundCannotBeDecoded)
                    "audio: cannot open /no.wav: No such file or directory\n");
 }
 
+TEST(AudioFileDecoder, RefusesDamagedFilesIfAsked)
+{
+    constexpr int kOgg = SF_FORMAT_OGG | SF_FORMAT_VORBIS;
+    const std::string damaged = "is damaged or cut short";
+    const struct {
+        int format;
+        bool isCut; // or else a byte in the middle is changed
+        std::string why;
+    } rows[] = {{kWav, true, "is cut short"}, {kFlac, true, damaged}, {kFlac, false, damaged},
+                {kOgg, true, damaged},        {kOgg, false, damaged}, {kWavPack, true, damaged},
+                {kWavPack, false, damaged}};
+    Words noise(100'000);
+    std::ranges::generate(noise, [value = 1U]() mutable {
+        return static_cast<std::int32_t>((value = value * 1'664'525U + 1'013'904'223U) / 8);
+    });
+    for (const auto& row : rows) {
+        auto file = readFile(write(row.format, 2, noise));
+        const DecodingOptions refusing{.damage = Damage::Refused};
+        EXPECT_EQ(decodeAudio(file, refusing).size(), noise.size()) << "undamaged";
+        if (row.isCut)
+            file.resize(file.size() * 2 / 3);
+        else
+            file[file.size() / 2] ^= std::byte{0x55};
+        const auto what =
+            row.why + (row.isCut ? ", cut " : ", changed ") + std::to_string(row.format);
+        EXPECT_NO_THROW(decodeAudio(file)) << what << ": usually a shorter sound";
+        try {
+            decodeAudio(file, refusing);
+            ADD_FAILURE() << what;
+        } catch (const FormatError& error) {
+            EXPECT_EQ(error.what(), row.why) << what;
+        }
+    }
+}
+
+TEST(AudioFileDecoder, SavesMemory)
+{
+    for (const int format : {kWav, kFlac, kWavPack}) {
+        const std::string path = write(format, 2, {1 << 30, 1 << 28, -1 << 30, -1 << 29});
+        const Pcm mono = decodeAudioFile(path, {.to16Bit = true, .toMono = true});
+        EXPECT_EQ(mono.channels, 1);
+        EXPECT_THAT(mono.samples, testing::ElementsAre(5 << 11, -3 << 12)) << format;
+    }
+    MemoryGuard full([] { return 16U; });
+    DecodingOptions options{.memory = &full};
+    EXPECT_THROW(decodeAudioFile(write(kFlac, 1, Words(5)), options), MemoryShortage);
+    options.to16Bit = true;
+    EXPECT_NO_THROW(decodeAudioFile(write(kFlac, 1, Words(5)), options));
+}
+
 } // namespace velmora
