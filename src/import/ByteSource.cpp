@@ -1,11 +1,8 @@
 #include "import/ByteSource.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "base/OpenFile.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <system_error>
 
 namespace velmora {
@@ -14,49 +11,19 @@ namespace {
 
 class FileSource : public ByteSource {
 public:
-    explicit FileSource(const std::filesystem::path& path)
-        : descriptor_(open(path.c_str(), O_RDONLY | O_CLOEXEC))
-    {
-        struct stat status = {};
-        if (descriptor_ < 0 || fstat(descriptor_, &status) != 0)
-            fail(errno);
-        if (S_ISDIR(status.st_mode))
-            fail(EISDIR);
-        size_ = static_cast<std::uint64_t>(status.st_size);
-    }
+    explicit FileSource(const std::filesystem::path& path) : file_(path) {}
 
-    FileSource(const FileSource&) = delete;
-    FileSource& operator=(const FileSource&) = delete;
-    ~FileSource() override { close(descriptor_); }
-
-    std::uint64_t size() const override { return size_; }
+    std::uint64_t size() const override { return file_.size(); }
 
     std::size_t read(std::uint64_t offset, std::span<std::byte> destination) const override
-    {
-        std::size_t done = 0;
-        while (done < destination.size()) {
-            const ssize_t count =
-                pread(descriptor_, destination.data() + done, destination.size() - done,
-                      static_cast<off_t>(offset + done));
-            if (count < 0 && errno == EINTR)
-                continue;
-            if (count <= 0)
-                break;
-            done += static_cast<std::size_t>(count);
-        }
-        return done;
+    try {
+        return file_.read(offset, destination);
+    } catch (const std::system_error&) {
+        return 0;
     }
 
 private:
-    [[noreturn]] void fail(int code) const
-    {
-        if (descriptor_ >= 0)
-            close(descriptor_);
-        throw std::system_error(code, std::generic_category());
-    }
-
-    int descriptor_;
-    std::uint64_t size_ = 0;
+    OpenFile file_;
 };
 
 class MemorySource : public ByteSource {

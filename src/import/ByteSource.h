@@ -21,7 +21,7 @@ public:
     virtual std::size_t read(std::uint64_t offset, std::span<std::byte> destination) const = 0;
 };
 
-/// Opens a file without loading it. Throws std::system_error if it cannot be opened.
+/// Opens a file without loading it. Throws as OpenFile does.
 std::unique_ptr<ByteSource> openFile(const std::filesystem::path& path);
 
 /// Opens bytes in memory, which must outlive the source.

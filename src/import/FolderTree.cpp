@@ -10,39 +10,28 @@ namespace velmora {
 
 namespace {
 
-/// True if a component of the name is "..".
-bool leadsUpwards(std::string_view name)
-{
-    while (true) {
-        const std::size_t end = name.find_first_of("/\\");
-        if (name.substr(0, end) == "..")
-            return true;
-        if (end == std::string_view::npos)
-            return false;
-        name.remove_prefix(end + 1);
-    }
-}
-
 class FolderTree : public FileTree {
 public:
     explicit FolderTree(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
     std::vector<std::byte> read(const std::string& name) const override
     {
-        if (leadsUpwards(name))
+        const auto path = pathOf(name);
+        if (SampleFiles::leaves(folder_, path))
             throw FormatError("lies outside the folder of the instrument");
-        return readFile(pathOf(name));
+        return readFile(path);
     }
 
     bool contains(const std::string& name) const override
     {
         std::error_code error;
-        return !leadsUpwards(name) && std::filesystem::is_regular_file(pathOf(name), error);
+        const auto path = pathOf(name);
+        return std::filesystem::is_regular_file(path, error) && !SampleFiles::leaves(folder_, path);
     }
 
     std::string displayName(const std::string& name) const override
     {
-        return leadsUpwards(name) ? name : pathOf(name).string();
+        return pathOf(name).string();
     }
 
 private:

@@ -14,4 +14,10 @@ void Import::finish()
     stops.front().volume = kDrawn;
 }
 
+DecodingOptions Import::decoding() const
+{
+    const bool isMusical = options.reading == Reading::Musical;
+    return {isMusical ? Damage::Refused : Damage::Kept, options.to16Bit, options.toMono, memory};
+}
+
 } // namespace velmora

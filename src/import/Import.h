@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/DecodingOptions.h"
 #include "import/ImportOptions.h"
 #include "import/ImportReport.h"
 #include "import/InstrumentHost.h"
@@ -24,6 +25,9 @@ struct Import {
     /// Counts the ranks for the report and draws the first stop, which must exist.
     void finish();
 
+    /// How the sound files of the instrument are to be decoded.
+    DecodingOptions decoding() const;
+
     std::unique_ptr<ALInstrument> instrument; ///< Never null; starts without stops.
 
     /// The console of an organ whose ranks are the stops of `instrument`.
@@ -38,6 +42,9 @@ struct Import {
     ImportReport report;
     ImportOptions options;
     InstrumentHost& host;
+
+    /// What grants the memory for the samples.
+    MemoryGuard* memory = &MemoryGuard::machine();
 };
 
 /// Thrown by an importer when the host has cancelled the import.

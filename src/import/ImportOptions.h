@@ -23,6 +23,10 @@ struct ImportOptions {
     /// `InstrumentDocument::choices`.
     std::size_t choice = 0;
 
+    // To take less memory:
+    bool to16Bit = false; ///< Rounds all samples to 16 bits.
+    bool toMono = false;  ///< Mixes the channels of stereo samples.
+
     bool operator==(const ImportOptions&) const = default;
 };
 

@@ -1,5 +1,6 @@
 #include "import/InstrumentDocument.h"
 
+#include "base/File.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
 #include "base/Text.h"
@@ -11,7 +12,6 @@
 #include "sound/ALInstrument.h"
 #include "sound/MIDIInstrument.h"
 
-#include <fstream>
 #include <new>
 
 namespace velmora {
@@ -95,8 +95,7 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
     try {
         // See docs/decisions.md, 53.
         if (format == InstrumentFormat::Exs) {
-            if (!std::ifstream(path, std::ios::binary))
-                throw FormatError("cannot be read");
+            readFile(path);
             return true;
         }
         Import import(host, options);
@@ -114,6 +113,8 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
         return false;
     } catch (const FormatError& error) {
         errorString_ = error.inFile(path.filename().string());
+    } catch (const MemoryShortage& shortage) {
+        errorString_ = FormatError(shortage.what()).inFile(path.filename().string());
     } catch (const std::bad_alloc&) {
         errorString_ =
             FormatError(

@@ -53,7 +53,7 @@ std::map<std::size_t, std::size_t> lastPipes(const Organ& organ)
 class Loading {
 public:
     Loading(const Organ& organ, Import& import)
-        : organ_(organ), import_(import), loader_(pathsOf(organ))
+        : organ_(organ), import_(import), loader_(pathsOf(organ), import.decoding())
     {
     }
 

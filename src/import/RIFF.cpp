@@ -133,6 +133,8 @@ OpenedSource openOrExplain(const std::filesystem::path& path)
         return {openFile(path), ""};
     } catch (const std::system_error& error) {
         return {openMemory({}), "cannot be read (" + error.code().message() + ")"};
+    } catch (const FormatError& error) {
+        return {openMemory({}), error.what()};
     }
 }
 

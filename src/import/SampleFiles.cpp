@@ -21,6 +21,16 @@ std::filesystem::path SampleFiles::find(const std::filesystem::path& folder,
     return result;
 }
 
+bool SampleFiles::leaves(const std::filesystem::path& folder, const std::filesystem::path& path)
+{
+    std::error_code error;
+    const auto inside = std::filesystem::weakly_canonical(folder, error);
+    const auto target = std::filesystem::weakly_canonical(path, error);
+    return error ||
+           std::mismatch(inside.begin(), inside.end(), target.begin(), target.end()).first !=
+               inside.end();
+}
+
 std::filesystem::path SampleFiles::numbered(const std::filesystem::path& folder, int number)
 {
     std::filesystem::path result;

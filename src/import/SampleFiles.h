@@ -17,6 +17,9 @@ public:
     /// there is no such file, returns the path that it should have.
     std::filesystem::path find(const std::filesystem::path& folder, std::string_view relative);
 
+    /// Returns true if a path inside `folder` leads out of it, by ".." or by a symbolic link.
+    static bool leaves(const std::filesystem::path& folder, const std::filesystem::path& path);
+
     /// Returns the folder inside `folder` whose name starts with `number`, as in "000123". If
     /// several names match, each further one is appended to the path if it exists there. Empty if
     /// there is none, and for the number 0.

@@ -1,10 +1,8 @@
 #include "import/SoundLoader.h"
 
 #include "audio/AudioFileDecoder.h"
-#include "base/FormatError.h"
 
 #include <algorithm>
-#include <new>
 
 namespace velmora {
 
@@ -25,8 +23,10 @@ std::uintmax_t sizeOf(const std::filesystem::path& file)
 
 } // namespace
 
-SoundLoader::SoundLoader(std::vector<std::filesystem::path> files, unsigned threads)
-    : files_(std::move(files)), window_(kFilesAhead * std::max(threads, 1U)), slots_(files_.size())
+SoundLoader::SoundLoader(std::vector<std::filesystem::path> files, const DecodingOptions& options,
+                         unsigned threads)
+    : files_(std::move(files)), options_(options), window_(kFilesAhead * std::max(threads, 1U)),
+      slots_(files_.size())
 {
     const std::size_t useful = std::min<std::size_t>(std::max(threads, 1U), files_.size());
     for (std::size_t i = 0; i < useful; ++i)
@@ -50,10 +50,8 @@ Pcm SoundLoader::next()
         ++taken_;
     }
     changed_.notify_all();
-    if (slot.reason)
-        throw FormatError(*slot.reason);
-    if (!slot.pcm)
-        throw std::bad_alloc();
+    if (slot.error)
+        std::rethrow_exception(slot.error);
     return std::move(*slot.pcm);
 }
 
@@ -83,17 +81,15 @@ void SoundLoader::work(const std::stop_token& stop)
     }
 }
 
-SoundLoader::Slot SoundLoader::decode(const std::filesystem::path& file)
+SoundLoader::Slot SoundLoader::decode(const std::filesystem::path& file) const
 {
     Slot slot;
     slot.done = true;
     try {
-        slot.pcm = decodeAudioFile(file);
+        slot.pcm = decodeAudioFile(file, options_);
         slot.bytes = slot.pcm->bytes();
-    } catch (const std::bad_alloc&) {
-        slot.pcm.reset();
-    } catch (const std::exception& error) {
-        slot.reason = error.what();
+    } catch (const std::exception&) {
+        slot.error = std::current_exception();
     }
     return slot;
 }

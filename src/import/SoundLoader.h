@@ -1,14 +1,15 @@
 #pragma once
 
+#include "audio/DecodingOptions.h"
 #include "audio/Pcm.h"
 
 #include <condition_variable>
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <filesystem>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <thread>
 #include <vector>
 
@@ -19,8 +20,8 @@ namespace velmora {
 class SoundLoader {
 public:
     /// Starts decoding. Uses at least one thread.
-    explicit SoundLoader(std::vector<std::filesystem::path> files,
-                         unsigned threads = std::thread::hardware_concurrency());
+    SoundLoader(std::vector<std::filesystem::path> files, const DecodingOptions& options,
+                unsigned threads = std::thread::hardware_concurrency());
 
     /// Waits for the files that are being decoded and skips the rest.
     ~SoundLoader();
@@ -34,14 +35,15 @@ private:
     struct Slot {
         bool done = false;
         std::optional<Pcm> pcm;
-        std::optional<std::string> reason; ///< Why decoding failed; empty if memory ran out.
-        std::uintmax_t bytes = 0;          ///< This file's share of `ahead_`.
+        std::exception_ptr error; ///< Why decoding failed.
+        std::uintmax_t bytes = 0; ///< This file's share of `ahead_`.
     };
 
     void work(const std::stop_token& stop);
-    static Slot decode(const std::filesystem::path& file);
+    Slot decode(const std::filesystem::path& file) const;
 
     const std::vector<std::filesystem::path> files_;
+    const DecodingOptions options_;
     const std::size_t window_; ///< The most files that may be started and not yet taken.
 
     std::mutex mutex_; ///< Guards the members below.

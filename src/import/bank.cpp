@@ -3,6 +3,10 @@
 #include "base/Log.h"
 #include "import/Import.h"
 
+#include <spdlog/fmt/fmt.h>
+
+#include <algorithm>
+
 namespace velmora {
 
 namespace bank {
@@ -12,6 +16,17 @@ void reportDone(std::size_t steps, const std::string& text, const Import& import
     // See docs/decisions.md, 76.
     logger("import").debug("Done %k");
     import.host.updateProgress(static_cast<unsigned>(steps), text);
+}
+
+void requireMemory(std::uint64_t soundBytes, std::uint64_t poolBytes, const Import& import)
+{
+    // See docs/decisions.md, 148.
+    constexpr std::uint64_t kMostOften = 8, kSmall = std::uint64_t{64} << 20U;
+    if (soundBytes > std::max(kMostOften * poolBytes, kSmall))
+        throw FormatError(fmt::format("is damaged: its samples would take {}, but the file holds "
+                                      "only {}",
+                                      memoryText(soundBytes), memoryText(poolBytes)));
+    import.memory->require(soundBytes);
 }
 
 void finish(Import& import)

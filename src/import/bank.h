@@ -3,6 +3,7 @@
 #include "base/FormatError.h"
 #include "import/RIFF.h"
 
+#include <cstdint>
 #include <string>
 
 namespace velmora {
@@ -22,6 +23,10 @@ template <class Element> const Element& require(const RIFF::List& list, const ch
 
 /// Reports the last `steps` steps of reading sounds, with a text for the user.
 void reportDone(std::size_t steps, const std::string& text, const Import& import);
+
+/// Throws FormatError if the sounds that share a pool of `poolBytes` have so many bytes that no
+/// real bank could need them, and MemoryShortage if they do not fit into the free memory.
+void requireMemory(std::uint64_t soundBytes, std::uint64_t poolBytes, const Import& import);
 
 /// Completes the report and draws the first stop. Throws FormatError if no key sounds.
 void finish(Import& import);

@@ -58,7 +58,7 @@ void logArticulation(const RIFF::List& instrument)
 
 /// Decodes a wave. Its list becomes a complete WAVE file when its header is replaced.
 std::unique_ptr<Sound> readWave(const RIFF::List* wave, std::vector<std::byte>& image,
-                                SampleRenderer& renderer)
+                                const Import& import)
 {
     if (wave == nullptr)
         throw FormatError("is not a list of chunks");
@@ -68,7 +68,8 @@ std::unique_ptr<Sound> readWave(const RIFF::List* wave, std::vector<std::byte>& 
     const std::uint32_t head[] = {RIFF::code("RIFF"), wave->size(), RIFF::code("WAVE")};
     static_assert(sizeof(head) == kHead);
     std::ranges::copy(std::as_bytes(std::span(head)), image.begin());
-    return std::make_unique<Sound>(renderer, decodeAudio(image));
+    return std::make_unique<Sound>(import.instrument->renderer(),
+                                   decodeAudio(image, import.decoding()));
 }
 
 void readWaves(const std::vector<const RIFF::List*>& waves, Import& import)
@@ -82,7 +83,7 @@ void readWaves(const std::vector<const RIFF::List*>& waves, Import& import)
             throw Cancelled{};
         const std::string name = std::to_string(count);
         try {
-            auto sound = readWave(wave, image, import.instrument->renderer());
+            auto sound = readWave(wave, image, import);
             import.instrument->usage += sound->size();
             import.instrument->sounds[name] = std::move(sound);
         } catch (const FormatError& error) {

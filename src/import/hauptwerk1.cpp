@@ -151,16 +151,19 @@ private:
         } else if (key < 0 || key >= static_cast<long>(kKeys)) {
             organ_.skipped.emplace_back(place, "is for MIDI note " + std::to_string(key) +
                                                    ", which is outside 0 to 127");
+        } else if (const auto path = files_.find(folder_, value);
+                   SampleFiles::leaves(folder_, path)) {
+            organ_.skipped.emplace_back(place, "names a file outside the folder of the organ: \"" +
+                                                   value + '"');
         } else {
             pipe.stop = stop;
             pipe.key = static_cast<int>(key);
-            pipe.file = fileIndex(value);
+            pipe.file = fileIndex(path);
         }
     }
 
-    std::size_t fileIndex(const std::string& value)
+    std::size_t fileIndex(const std::filesystem::path& path)
     {
-        const auto path = files_.find(folder_, value);
         const auto [index, isNew] = indices_.try_emplace(path.native(), organ_.files.size());
         if (isNew)
             organ_.files.push_back({path.native(), path});

@@ -36,13 +36,24 @@ public:
 
     std::filesystem::path pathOf(const OrganDefinition::SampleFile& file)
     {
-        if (!organFolder_.empty())
-            return files_.find(organFolder_, file.name);
-        const auto& package = packageFolder(file.package);
-        return files_.find(package.empty() ? folder_ : package, file.name);
+        return files_.find(folderOf(file), file.name);
+    }
+
+    /// Returns true if the name of a file leads out of the folder that it belongs to.
+    bool isOutside(const OrganDefinition::SampleFile& file)
+    {
+        return SampleFiles::leaves(folderOf(file), pathOf(file));
     }
 
 private:
+    const std::filesystem::path& folderOf(const OrganDefinition::SampleFile& file)
+    {
+        if (!organFolder_.empty())
+            return organFolder_;
+        const auto& package = packageFolder(file.package);
+        return package.empty() ? folder_ : package;
+    }
+
     const std::filesystem::path& packageFolder(int package)
     {
         const auto [found, isNew] = packageFolders_.try_emplace(package);
@@ -95,6 +106,11 @@ private:
         if (file->second.licensed)
             throw FormatError("cannot be loaded: its samples are encrypted and need a licence; "
                               "open an organ without encryption");
+        if (packages_.isOutside(file->second)) {
+            skip(pipe,
+                 "names a file outside the folder of its package: \"" + file->second.name + '"');
+            return;
+        }
         added.key = pipe.note;
         added.file = fileIndex(file->second);
     }

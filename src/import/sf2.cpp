@@ -107,6 +107,7 @@ private:
 void readSamples(const std::vector<sfSample>& samples, const RIFF::Chunk& pool, Import& import)
 {
     const std::size_t count = samples.size() - 1;
+    bank::requireMemory(sf2::bytesOf(samples, pool.length()), pool.length(), import);
     const auto step = static_cast<unsigned>(samples.size() / 2 / 25 + 1);
     import.host.startProgress(static_cast<long>(count));
     SampleReader reader(pool, import);
@@ -207,6 +208,28 @@ private:
 
 } // namespace
 
+void sf2::checkVersion(const RIFF::List& info)
+{
+    std::uint16_t version = 2;
+    if (const auto* chunk = info.get<RIFF::Chunk>(RIFF::code("ifil")))
+        chunk->read(0, std::as_writable_bytes(std::span(&version, 1)));
+    if (version > 2)
+        throw FormatError(fmt::format("is a SoundFont {} bank with compressed samples; convert it "
+                                      "to SoundFont 2",
+                                      version));
+}
+
+std::uint64_t sf2::bytesOf(std::span<const sfSample> samples, std::uint32_t poolLength)
+{
+    constexpr std::uint64_t kPoint = sizeof(std::int16_t);
+    std::uint64_t points = 0;
+    for (const sfSample& sample : samples) {
+        const std::uint64_t end = std::min<std::uint64_t>(sample.dwEnd, poolLength / kPoint);
+        points += end - std::min<std::uint64_t>(end, sample.dwStart);
+    }
+    return points * kPoint;
+}
+
 void readSoundFont(const std::filesystem::path& path, Import& import)
 {
     readSoundFont(RIFF::File(path), import);
@@ -218,6 +241,7 @@ void readSoundFont(const RIFF::File& file, Import& import)
     const auto& pool = bank::require<RIFF::Chunk>(bank::require<RIFF::List>(file, "sdta"), "smpl");
     const auto& pdta = bank::require<RIFF::List>(file, "pdta");
     const auto& info = bank::require<RIFF::List>(file, "INFO");
+    sf2::checkVersion(info);
     const auto samples = readRecords<sfSample>(pdta, "shdr");
     const auto instruments = readRecords(pdta, "inst", &sfInst::wInstBagNdx);
     if (samples.size() < 2 || instruments.size() < 2)

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <span>
 
 namespace velmora {
 
@@ -9,7 +10,8 @@ struct Import;
 
 namespace RIFF {
 class File;
-}
+class List;
+} // namespace RIFF
 
 /// Records of a SoundFont 2 bank as they are stored in the file ("SoundFont Technical
 /// Specification", version 2.04, E-mu Systems). The names are those of the standard.
@@ -56,6 +58,14 @@ struct sfInstGenList {
 
 static_assert(sizeof(sfSample) == 46 && sizeof(sfInst) == 22);
 static_assert(sizeof(sfPresetBag) == 4 && sizeof(sfInstGenList) == 4);
+
+/// Throws FormatError if the bank's "INFO" list tells a version above 2. The samples of such banks
+/// are compressed, and would be noise.
+void checkVersion(const RIFF::List& info);
+
+/// Returns how many bytes the sounds take in all; the pool "smpl" has `poolLength` bytes. Samples
+/// may overlap, so that a small file could ask for any amount of memory.
+std::uint64_t bytesOf(std::span<const sfSample> samples, std::uint32_t poolLength);
 
 } // namespace sf2
 

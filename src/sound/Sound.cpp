@@ -2,6 +2,7 @@
 
 #include "audio/SampleRenderer.h"
 #include "base/FormatError.h"
+#include "base/MemoryGuard.h"
 
 #include <al.h>
 #include <alext.h>
@@ -54,6 +55,7 @@ Sound::Sound(SampleRenderer& renderer, std::span<const std::byte> data, std::siz
 {
     if (data.size() > std::numeric_limits<ALsizei>::max())
         throw FormatError("a sound of more than 2 GB cannot be played");
+    MemoryGuard::machine().require(data.size());
     device_ = renderer.emptiestDevice();
     SampleVoices& device = renderer.device(device_);
     const auto here = device.scope();

@@ -135,6 +135,21 @@ TEST_F(InstrumentDocumentTest, LoadsAVersion1OrganWithAnyLineEnds)
     EXPECT_NEAR(centsOff(instrument(), 45, hertzOfA(45)), 0.0, 0.25);
 }
 
+TEST_F(InstrumentDocumentTest, ReadsNoSamplesOutsideTheFolderOfTheOrgan)
+{
+    folder_.writeSine("outside.wav", 500.0);
+    folder_.writeSine("set/inside.wav", 500.0);
+    folder_.write("set/x/other", "");
+    std::filesystem::create_symlink(folder_.path(), folder_.path() / "set" / "link");
+    const std::string names = "[Stop001]\r\nPipe001=link\\outside.wav\r\n"
+                              "Pipe002=x/../inside.wav\r\nPipe003=..\\Outside.wav\r\n[Organ]";
+    ASSERT_TRUE(read(folder_.write("set/anne.organ", names))) << document_.errorString();
+    EXPECT_THAT(document_.report().skipped,
+                ElementsAre(Pair("Stop001 Pipe001", HasSubstr("outside the folder of the organ")),
+                            Pair("Stop001 Pipe003", HasSubstr("outside the folder of the organ"))));
+    EXPECT_EQ(document_.report().samples, 1U);
+}
+
 TEST_F(InstrumentDocumentTest, HasATitleForPeople)
 {
     writeFlute("flute/");

@@ -74,6 +74,24 @@ TEST(SoundFont, ReadsSamples)
     EXPECT_EQ(font.import.instrument->usage, 20 + 40 + 20 + 4 + 60 + 10);
 }
 
+TEST(SoundFont, LimitsTheMemoryOfItsSamples)
+{
+    std::string headers;
+    for (int i = 0; i < 40; ++i)
+        headers += sample(std::to_string(i), 0, 1'000'000);
+    const SoundFont bomb(soundFont(headers, std::string(2'000'000, 'p')));
+    EXPECT_EQ(bomb.error, "f: is damaged: its samples would take 77 MB, but the file holds only "
+                          "2 MB");
+    EXPECT_EQ(bomb.import.instrument->usage, 0);
+
+    auto compressed = soundFont(sample("a", 0, 10));
+    compressed.replace(compressed.find("INFO") - 4, 4, numbers({4 + 18 + 12}, 4));
+    compressed.insert(compressed.find("INAM"), chunk("ifil", numbers({3, 1}, 2)));
+    compressed.replace(4, 4, numbers({compressed.size() - 8}, 4));
+    EXPECT_EQ(SoundFont(compressed).error,
+              "f: is a SoundFont 3 bank with compressed samples; convert it to SoundFont 2");
+}
+
 TEST(SoundFont, ReportsProgress)
 {
     for (const auto& [samples, step] : {std::pair{1U, 1U}, {48U, 1U}, {49U, 2U}, {104U, 3U}}) {
