@@ -212,16 +212,35 @@ bool AppDelegate::unloadInstrument(std::size_t position)
 void AppDelegate::setMIDIProgram(std::uint8_t program)
 {
     player_.with([&](Instrument& instrument, Temperament&) { instrument.setInstrument(program); });
-    emit programSelected(program);
+    announceProgram();
+}
+
+void AppDelegate::selectProgram(std::size_t position)
+{
+    player_.with([&](Instrument& instrument, Temperament&) { instrument.setProgram(position); });
+    announceProgram();
+}
+
+void AppDelegate::announceProgram()
+{
+    int position = 0;
+    player_.with([&](const Instrument& instrument, Temperament&) {
+        position = static_cast<int>(instrument.program());
+    });
+    emit programSelected(position);
 }
 
 std::string AppDelegate::soundName()
 {
-    bool hasPrograms = false;
-    player_.with(
-        [&](const Instrument& instrument, Temperament&) { hasPrograms = instrument.hasSubMenu(); });
-    if (!hasPrograms)
-        return instrumentName_;
+    bool isGeneralMidi = false;
+    std::string preset;
+    player_.with([&](const Instrument& instrument, Temperament&) {
+        isGeneralMidi = instrument.hasSubMenu();
+        if (const auto programs = instrument.programs(); !programs.empty())
+            preset = programs[instrument.program()].name;
+    });
+    if (!isGeneralMidi)
+        return preset.empty() ? instrumentName_ : preset;
     const QString name = QCoreApplication::translate("velmora::programNames",
                                                      kMIDIInstrumentNames.at(midiProgram()));
     return name.section(' ', 1).toStdString(); // behind its number
@@ -237,7 +256,7 @@ std::uint8_t AppDelegate::midiProgram()
 void AppDelegate::receiveProgram(std::uint8_t program)
 {
     player_.with([&](Instrument& instrument, Temperament&) {
-        if (!instrument.hasSubMenu())
+        if (instrument.programs().empty())
             return;
         queue_.post({.kind = InputEvent::Kind::Program, .program = program});
         instrument.setInstrument(program);
@@ -367,7 +386,7 @@ void AppDelegate::handle(const InputEvent& event)
         emit masterVolumeMoved();
         break;
     case InputEvent::Kind::Program:
-        emit programSelected(event.program);
+        announceProgram();
         break;
     case InputEvent::Kind::Action:
         emit controlUsed(event.action);

@@ -110,11 +110,15 @@ public:
     /// Selects a General MIDI program, 0…127, on the current instrument; `programSelected` follows.
     void setMIDIProgram(std::uint8_t program);
 
+    /// Selects one of the programs of the current instrument by its position; `programSelected`
+    /// follows.
+    void selectProgram(std::size_t position);
+
     /// The program of the General MIDI player, 0…127.
     std::uint8_t midiProgram();
 
-    /// What a listener would call the current sound: the name of the General MIDI program in the
-    /// user's language, or that of the instrument if it has no programs.
+    /// What a listener would call the current sound: the name of its program, in the user's
+    /// language if that is a General MIDI one, or that of the instrument if it has no programs.
     std::string soundName();
 
     /// Selects a General MIDI program as `setMIDIProgram` does; `programSelected` follows if the
@@ -206,8 +210,8 @@ signals:
     /// The thread that loads a bank has finished, successfully or not.
     void loadingFinished();
 
-    /// A General MIDI program of the current instrument was selected.
-    void programSelected(int program);
+    /// The program at a position of the current instrument's list was selected.
+    void programSelected(int position);
 
     /// A control that has learned `Play`, `Record`, `Stop` or `Silence` was used.
     void controlUsed(LearnedAction::Kind action);
@@ -242,6 +246,7 @@ private:
     void playThrough(std::unique_ptr<Synthesizer> synthesizer);
     void handle(const InputEvent& event);
     void useTuning(const TuningDocument& document);
+    void announceProgram();
 
     std::string instrumentName_, tuningName_;
     bool isCancelled_ = false;

@@ -62,7 +62,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     connect(menu, &InstrumentMenu::openRequested, this, &InstrumentPanel::openRequested);
     connect(menu, &InstrumentMenu::instrumentChosen, this, &InstrumentPanel::instrumentChosen);
     connect(menu, &InstrumentMenu::refused, this, &InstrumentPanel::refused);
-    connect(programs_, &ProgramList::programChosen, &application_, &AppDelegate::setMIDIProgram);
+    connect(programs_, &ProgramList::programChosen, &application_, &AppDelegate::selectProgram);
     connect(&application_, &AppDelegate::programSelected, programs_, &ProgramList::showProgram);
     connect(&application_, &AppDelegate::instrumentChanged, this, &InstrumentPanel::showInstrument);
     connect(&application_, &AppDelegate::volumeMoved, stops_, &StopList::showVolume);
@@ -75,19 +75,24 @@ QSize InstrumentPanel::sizeHint() const
 
 void InstrumentPanel::showInstrument()
 {
-    bool hasPrograms = false;
+    std::span<const Program> programs; // which never change
+    std::size_t program = 0;
     std::uint64_t usage = 0;
     std::vector<std::pair<QString, float>> stops;
     application_.player().with([&](const Instrument& instrument, const Temperament&) {
-        hasPrograms = instrument.hasSubMenu();
+        programs = instrument.programs();
+        program = instrument.program();
         usage = static_cast<std::uint64_t>(instrument.usage);
         for (std::size_t i = 0; i < instrument.numStops(); ++i)
             stops.emplace_back(stopTitle(instrument, i), instrument.getVolume(i));
     });
+    const bool hasPrograms = !programs.empty();
     programs_->setVisible(hasPrograms);
-    if (hasPrograms)
-        programs_->showProgram(application_.midiProgram());
-    usage_->setVisible(!hasPrograms);
+    if (hasPrograms) {
+        programs_->showPrograms(programs);
+        programs_->showProgram(static_cast<int>(program));
+    }
+    usage_->setVisible(usage > 0);
     // docs/decisions.md, 114
     usage_->setText(tr("Usage:  %1").arg(sizeText(usage)));
     // Either the programs or the stops take the room that is left.

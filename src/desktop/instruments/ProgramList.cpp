@@ -2,12 +2,14 @@
 
 #include "app/programNames.h"
 #include "desktop/widgets/SearchField.h"
+#include "sound/Program.h"
 
 #include <QCoreApplication>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace velmora {
@@ -16,7 +18,7 @@ namespace {
 
 constexpr int kGroupSize = 8;
 constexpr int kLeastHeight = 120;
-constexpr int kProgramRole = Qt::UserRole;
+constexpr int kPositionRole = Qt::UserRole;
 
 /// The groups of the General MIDI standard.
 constexpr std::array kGroups = {QT_TRANSLATE_NOOP("velmora::ProgramList", "Piano"),
@@ -36,6 +38,25 @@ constexpr std::array kGroups = {QT_TRANSLATE_NOOP("velmora::ProgramList", "Piano
                                 QT_TRANSLATE_NOOP("velmora::ProgramList", "Percussive"),
                                 QT_TRANSLATE_NOOP("velmora::ProgramList", "Sound Effects")};
 
+QString groupOf(const Program& program)
+{
+    if (program.isPercussion)
+        return ProgramList::tr("Drum kits");
+    if (program.name.empty())
+        return ProgramList::tr(kGroups.at(static_cast<std::size_t>(program.number / kGroupSize)));
+    return ProgramList::tr("Bank %1").arg(program.bank);
+}
+
+/// Returns the name of a program behind its number, which counts from 1 as on keyboards.
+QString textOf(const Program& program)
+{
+    if (program.name.empty())
+        return QCoreApplication::translate(
+            "velmora::programNames",
+            kMIDIInstrumentNames.at(static_cast<std::size_t>(program.number)));
+    return QString("%1 %2").arg(program.number + 1).arg(QString::fromStdString(program.name));
+}
+
 } // namespace
 
 ProgramList::ProgramList() : search_(new SearchField(tr("Find a program"))), tree_(new QTreeWidget)
@@ -48,22 +69,6 @@ ProgramList::ProgramList() : search_(new SearchField(tr("Find a program"))), tre
     tree_->setFocusPolicy(Qt::TabFocus);
     tree_->setMinimumHeight(kLeastHeight);
     tree_->setAccessibleName(tr("Program"));
-    tree_->setToolTip(tr("General MIDI program"));
-    QFont bold = tree_->font();
-    bold.setBold(true);
-    for (int program = 0; const char* name : kMIDIInstrumentNames) {
-        if (program % kGroupSize == 0) {
-            auto* group = new QTreeWidgetItem(
-                tree_, {tr(kGroups.at(static_cast<std::size_t>(program / kGroupSize)))});
-            group->setFlags(Qt::ItemIsEnabled);
-            group->setFont(0, bold);
-        }
-        auto* item =
-            new QTreeWidgetItem(tree_->topLevelItem(program / kGroupSize),
-                                {QCoreApplication::translate("velmora::programNames", name)});
-        item->setData(0, kProgramRole, program++);
-    }
-    tree_->expandAll();
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -79,16 +84,44 @@ ProgramList::ProgramList() : search_(new SearchField(tr("Find a program"))), tre
     });
 }
 
-void ProgramList::showProgram(int program)
+void ProgramList::showPrograms(std::span<const Program> programs)
+{
+    if (std::ranges::equal(programs, programs_))
+        return;
+    programs_.assign(programs.begin(), programs.end());
+    const QSignalBlocker blocker(tree_);
+    tree_->clear();
+    items_.clear();
+    QFont bold = tree_->font();
+    bold.setBold(true);
+    QTreeWidgetItem* group = nullptr;
+    for (const Program& program : programs_) {
+        const QString title = groupOf(program);
+        if (group == nullptr || group->text(0) != title) {
+            const auto found = tree_->findItems(title, Qt::MatchExactly);
+            group = found.isEmpty() ? new QTreeWidgetItem(tree_, {title}) : found.first();
+            group->setFlags(Qt::ItemIsEnabled);
+            group->setFont(0, bold);
+        }
+        auto* item = new QTreeWidgetItem(group, {textOf(program)});
+        item->setData(0, kPositionRole, static_cast<int>(items_.size()));
+        items_.push_back(item);
+    }
+    tree_->expandAll();
+    search_->clear();
+}
+
+void ProgramList::showProgram(int position)
 {
     const QSignalBlocker blocker(tree_);
-    tree_->setCurrentItem(tree_->topLevelItem(program / kGroupSize)->child(program % kGroupSize));
+    if (static_cast<std::size_t>(position) < items_.size())
+        tree_->setCurrentItem(items_[static_cast<std::size_t>(position)]);
 }
 
 void ProgramList::choose(const QTreeWidgetItem* item)
 {
     if (item != nullptr && item->parent() != nullptr)
-        emit programChosen(static_cast<std::uint8_t>(item->data(0, kProgramRole).toInt()));
+        emit programChosen(static_cast<std::size_t>(item->data(0, kPositionRole).toInt()));
 }
 
 void ProgramList::filter()
@@ -96,7 +129,7 @@ void ProgramList::filter()
     for (int i = 0; i < tree_->topLevelItemCount(); ++i) {
         QTreeWidgetItem& group = *tree_->topLevelItem(i);
         bool isAnyFound = false;
-        for (int j = 0; j < kGroupSize; ++j) {
+        for (int j = 0; j < group.childCount(); ++j) {
             const bool isFound = search_->finds(group.text(0) + ' ' + group.child(j)->text(0));
             group.child(j)->setHidden(!isFound);
             isAnyFound |= isFound;
@@ -109,14 +142,10 @@ void ProgramList::filter()
 
 void ProgramList::chooseFirstFound()
 {
-    for (int i = 0; i < tree_->topLevelItemCount(); ++i) {
-        for (int j = 0; j < kGroupSize; ++j) {
-            if (QTreeWidgetItem* item = tree_->topLevelItem(i)->child(j); !item->isHidden()) {
-                tree_->setCurrentItem(item);
-                return;
-            }
-        }
-    }
+    const auto found =
+        std::ranges::find_if(items_, [](const QTreeWidgetItem* item) { return !item->isHidden(); });
+    if (found != items_.end())
+        tree_->setCurrentItem(*found);
 }
 
 } // namespace velmora

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "sound/Program.h"
+
 #include <QWidget>
 
-#include <cstdint>
+#include <cstddef>
+#include <span>
+#include <vector>
 
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -11,19 +15,23 @@ namespace velmora {
 
 class SearchField;
 
-/// The 128 General MIDI programs in their groups, with a field to find one by its name or number.
+/// The programs of an instrument in their groups, with a field to find one by its name or number:
+/// the families of General MIDI, or the banks and drum kits of a SoundFont.
 class ProgramList : public QWidget {
     Q_OBJECT
 
 public:
     ProgramList();
 
-    /// Marks a program, 0…127, as the current one.
-    void showProgram(int program);
+    /// Lists the programs of an instrument. Those without a name are General MIDI's.
+    void showPrograms(std::span<const Program> programs);
+
+    /// Marks the program at a position as the current one.
+    void showProgram(int position);
 
 signals:
-    /// The user has chosen a program, 0…127.
-    void programChosen(std::uint8_t program);
+    /// The user has chosen the program at a position.
+    void programChosen(std::size_t position);
 
 private:
     void filter();
@@ -34,6 +42,8 @@ private:
 
     SearchField* search_;
     QTreeWidget* tree_;
+    std::vector<Program> programs_;
+    std::vector<QTreeWidgetItem*> items_; ///< By the position of the program.
 };
 
 } // namespace velmora
