@@ -5,6 +5,7 @@
 #include "import/Import.h"
 #include "import/RIFF.h"
 #include "import/bank.h"
+#include "import/sf2Bank.h"
 #include "sound/ALInstrument.h"
 #include "tuning/Temperament.h"
 
@@ -18,38 +19,11 @@ namespace velmora {
 
 namespace {
 
+using sf2::fieldText;
 using sf2::sfInst;
 using sf2::sfInstGenList;
 using sf2::sfPresetBag;
 using sf2::sfSample;
-
-template <class Record>
-std::vector<Record> readRecords(const RIFF::List& list, const char (&name)[5])
-{
-    return bank::require<RIFF::Chunk>(list, name).read<Record>();
-}
-
-/// Reads records that refer to a range of other records, from their own `index` to that of the next
-/// record. Throws FormatError if the indices decrease: the standard calls such a bank corrupt, and
-/// a small file of this kind could keep the importer busy for hours.
-template <class Record> std::vector<Record>
-readRecords(const RIFF::List& list, const char (&name)[5], std::uint16_t Record::*index)
-{
-    auto records = readRecords<Record>(list, name);
-    const auto broken = std::adjacent_find(
-        records.begin(), records.end(),
-        [index](const auto& one, const auto& next) { return next.*index < one.*index; });
-    if (broken != records.end())
-        throw FormatError::atByte(bank::require<RIFF::Chunk>(list, name).offset(),
-                                  fmt::format("the indices in \"{}\" decrease", name));
-    return records;
-}
-
-/// Returns a text field up to its first NUL byte.
-std::string fieldText(std::span<const char> field)
-{
-    return {field.begin(), std::find(field.begin(), field.end(), '\0')};
-}
 
 /// Loads samples into OpenAL, one at a time.
 class SampleReader {
@@ -130,12 +104,11 @@ struct KeySound {
 /// Assigns the zones of instruments to the keys of stops.
 class ZoneReader {
 public:
-    ZoneReader(const std::vector<sfSample>& samples, const RIFF::List& pdta, Import& import)
-        : samples_(samples), bags_(readRecords(pdta, "ibag", &sfPresetBag::wGenNdx)),
-          generators_(readRecords<sfInstGenList>(pdta, "igen")), import_(import)
+    ZoneReader(const sf2::Bank& bank, Import& import)
+        : samples_(bank.samples), bags_(bank.bags), generators_(bank.generators), import_(import)
     {
-        sounds_.reserve(samples.size() - 1);
-        std::for_each(samples.begin(), samples.end() - 1, [this](const sfSample& sample) {
+        sounds_.reserve(samples_.size() - 1);
+        std::for_each(samples_.begin(), samples_.end() - 1, [this](const sfSample& sample) {
             const auto found = import_.instrument->sounds.find(fieldText(sample.achSampleName));
             sounds_.push_back(found == import_.instrument->sounds.end() ? nullptr
                                                                         : found->second.get());
@@ -201,34 +174,12 @@ private:
 
     const std::vector<sfSample>& samples_;
     std::vector<const Sound*> sounds_; ///< By sample; null for skipped ones.
-    std::vector<sfPresetBag> bags_;
-    std::vector<sfInstGenList> generators_;
+    const std::vector<sfPresetBag>& bags_;
+    const std::vector<sfInstGenList>& generators_;
     Import& import_;
 };
 
 } // namespace
-
-void sf2::checkVersion(const RIFF::List& info)
-{
-    std::uint16_t version = 2;
-    if (const auto* chunk = info.get<RIFF::Chunk>(RIFF::code("ifil")))
-        chunk->read(0, std::as_writable_bytes(std::span(&version, 1)));
-    if (version > 2)
-        throw FormatError(fmt::format("is a SoundFont {} bank with compressed samples; convert it "
-                                      "to SoundFont 2",
-                                      version));
-}
-
-std::uint64_t sf2::bytesOf(std::span<const sfSample> samples, std::uint32_t poolLength)
-{
-    constexpr std::uint64_t kPoint = sizeof(std::int16_t);
-    std::uint64_t points = 0;
-    for (const sfSample& sample : samples) {
-        const std::uint64_t end = std::min<std::uint64_t>(sample.dwEnd, poolLength / kPoint);
-        points += end - std::min<std::uint64_t>(end, sample.dwStart);
-    }
-    return points * kPoint;
-}
 
 void readSoundFont(const std::filesystem::path& path, Import& import)
 {
@@ -237,22 +188,14 @@ void readSoundFont(const std::filesystem::path& path, Import& import)
 
 void readSoundFont(const RIFF::File& file, Import& import)
 {
-    file.check();
-    const auto& pool = bank::require<RIFF::Chunk>(bank::require<RIFF::List>(file, "sdta"), "smpl");
-    const auto& pdta = bank::require<RIFF::List>(file, "pdta");
-    const auto& info = bank::require<RIFF::List>(file, "INFO");
-    sf2::checkVersion(info);
-    const auto samples = readRecords<sfSample>(pdta, "shdr");
-    const auto instruments = readRecords(pdta, "inst", &sfInst::wInstBagNdx);
-    if (samples.size() < 2 || instruments.size() < 2)
-        throw FormatError("has no instruments");
-
-    readSamples(samples, pool, import);
-    ZoneReader zones(samples, pdta, import);
+    const sf2::Bank bank = sf2::readBank(file);
+    readSamples(bank.samples, bank.pool, import);
+    ZoneReader zones(bank, import);
+    const auto& instruments = bank.instruments;
     for (std::size_t i = 0; i + 1 < instruments.size(); ++i)
         // See docs/decisions.md, 67.
         zones.read(instruments[i], instruments[i].wInstBagNdx, instruments[i + 1].wInstBagNdx);
-    import.name = RIFF::readText(info.get<RIFF::Chunk>(RIFF::code("INAM")));
+    import.name = bank.name;
     bank::finish(import);
 }
 

@@ -1,6 +1,7 @@
 #include "import/sf2.h"
 
 #include "import/ImportedBank.h"
+#include "import/soundFontBytes.h"
 #include "support/Sine.h"
 
 namespace velmora {
@@ -10,36 +11,6 @@ using namespace riff;
 namespace {
 
 using SoundFont = ImportedBank<readSoundFont>;
-using Zone = std::vector<std::size_t>; // pairs of a generator and its amount
-using Instruments = std::vector<std::pair<std::string, std::vector<Zone>>>;
-enum : std::size_t { kRange = 43, kSample = 53, kRoot = 58 };
-const auto range = [](std::size_t lo, std::size_t hi) { return lo | hi << 8; };
-const auto field = [](const std::string& s) { return s + std::string(20 - s.size(), '\0'); };
-
-/// A sample header for the points from `start` to `end` of the pool.
-std::string sample(const std::string& name, std::size_t start, std::size_t end,
-                   std::size_t pitch = 60, std::size_t type = 1, std::size_t rate = 8000)
-{
-    return field(name) + numbers({start, end, 0, 0, rate}, 4) + numbers({pitch, 0, type}, 2);
-}
-
-std::string soundFont(const std::string& headers, const std::string& pool = std::string(200, 'p'),
-                      Instruments instruments = {{"i", {{kRange, range(0, 127)}}}})
-{
-    instruments.push_back({"EOI", {{}}});
-    std::string inst, ibag, igen;
-    for (const auto& [name, zones] : instruments) {
-        inst += field(name) + numbers({ibag.size() / 4}, 2);
-        for (const Zone& zone : zones) {
-            ibag += numbers({igen.size() / 4, 0}, 2);
-            igen += numbers(zone, 2);
-        }
-    }
-    const std::string pdta = chunk("inst", inst) + chunk("ibag", ibag) + chunk("igen", igen) +
-                             chunk("shdr", headers + sample("EOS", 0, 0));
-    return file("sfbk", list("INFO", chunk("INAM", "The Bank")) +
-                            list("sdta", chunk("smpl", pool)) + list("pdta", pdta));
-}
 
 } // namespace
 
@@ -84,12 +55,12 @@ TEST(SoundFont, LimitsTheMemoryOfItsSamples)
                           "2 MB");
     EXPECT_EQ(bomb.import.instrument->usage, 0);
 
-    auto compressed = soundFont(sample("a", 0, 10));
-    compressed.replace(compressed.find("INFO") - 4, 4, numbers({4 + 18 + 12}, 4));
-    compressed.insert(compressed.find("INAM"), chunk("ifil", numbers({3, 1}, 2)));
-    compressed.replace(4, 4, numbers({compressed.size() - 8}, 4));
-    EXPECT_EQ(SoundFont(compressed).error,
-              "f: is a SoundFont 3 bank with compressed samples; convert it to SoundFont 2");
+    const auto compressed =
+        soundFont(sample("a", 0, 10), "pool", {{"i", {{}}}}, numbers({3, 1}, 2));
+    const std::string why =
+        "f: is a SoundFont 3 bank with compressed samples; convert it to SoundFont 2";
+    EXPECT_EQ(SoundFont(compressed).error, why);
+    EXPECT_EQ(SoundFont(soundFont(sample("a", 0, 9, 60, 0x11))).error, why) << "an Ogg sample";
 }
 
 TEST(SoundFont, ReportsProgress)
