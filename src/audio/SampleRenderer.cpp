@@ -30,27 +30,53 @@ constexpr std::size_t kSharedVoices = 400;
 constexpr double kHighLoad = 0.75;
 constexpr double kLowLoad = 0.5;
 
+std::size_t usefulDevices()
+{
+    return std::min<std::size_t>(std::max(std::thread::hardware_concurrency(), 1U),
+                                 kMaximumDevices);
+}
+
 } // namespace
 
 SampleRenderer::SampleRenderer() : rate_(kFirstRate), queue_(kQueued), pending_(kQueued)
 {
     busy_.reserve(kMaximumDevices);
+    for (std::atomic<float>& gain : swells_)
+        gain = 1.0F;
 }
 
 std::uint32_t SampleRenderer::emptiestDevice()
 {
-    const std::size_t useful =
-        std::min<std::size_t>(std::max(std::thread::hardware_concurrency(), 1U), kMaximumDevices);
-    if (devices_.size() < useful && sounds_++ >= devices_.size() * kSoundsPerDevice) {
-        auto device = OpenALDevice::open(rate_);
-        if (device)
-            devices_.push_back(std::make_unique<SampleVoices>(std::move(device), rate_));
-        else if (devices_.empty())
-            throw FormatError("there is no OpenAL device to play sampled instruments with");
-    }
+    if (!isReserved_ && devices_.size() < usefulDevices() &&
+        sounds_++ >= devices_.size() * kSoundsPerDevice)
+        openDevice();
     const auto emptiest =
         std::ranges::min_element(devices_, {}, [](const auto& device) { return device->bytes; });
     return static_cast<std::uint32_t>(emptiest - devices_.begin());
+}
+
+bool SampleRenderer::openDevice()
+{
+    auto device = OpenALDevice::open(rate_);
+    if (!device) {
+        if (devices_.empty())
+            throw FormatError("there is no OpenAL device to play sampled instruments with");
+        return false;
+    }
+    devices_.push_back(std::make_unique<SampleVoices>(std::move(device), rate_));
+    return true;
+}
+
+void SampleRenderer::reserve(std::size_t sounds, std::size_t bytes)
+{
+    const std::size_t wanted =
+        std::clamp<std::size_t>(sounds / kSoundsPerDevice + 1, 1, usefulDevices());
+    while (devices_.size() < wanted && openDevice()) {
+    }
+    for (const auto& device : devices_)
+        device->reserve(bytes / devices_.size());
+    isReserved_ = true;
+    prepare();
 }
 
 void SampleRenderer::prepare()
@@ -68,25 +94,36 @@ void SampleRenderer::setRate(double rate)
         device->setRate(rate);
 }
 
-void SampleRenderer::start(SampleId sample, float gain, float pitch)
+void SampleRenderer::start(SampleId sample, float gain, float pitch, std::uint8_t swell)
 {
-    send({SampleEvent::Kind::Start, sample, gain, pitch, due_});
+    send({SampleEvent::Kind::Start, sample, gain, pitch, swell, due_});
 }
 
-void SampleRenderer::release(SampleId sample)
+void SampleRenderer::release(SampleId sample, std::span<const FollowingSound> following)
 {
-    send({SampleEvent::Kind::Release, sample, 0.0F, 1.0F, due_});
+    send({SampleEvent::Kind::Release, sample, 0.0F, 1.0F, 0, due_, 0, following});
+}
+
+void SampleRenderer::cut(SampleId sample)
+{
+    send({SampleEvent::Kind::Cut, sample, 0.0F, 1.0F, 0, due_});
 }
 
 void SampleRenderer::setPitch(SampleId sample, float pitch)
 {
-    send({SampleEvent::Kind::Pitch, sample, 0.0F, pitch, due_});
+    send({SampleEvent::Kind::Pitch, sample, 0.0F, pitch, 0, due_});
 }
 
 void SampleRenderer::bend(float pitch)
 {
     bend_ = pitch;
-    send({SampleEvent::Kind::Bend, SampleEvent::kAll, 0.0F, pitch, due_});
+    send({SampleEvent::Kind::Bend, SampleEvent::kAll, 0.0F, pitch, 0, due_});
+}
+
+void SampleRenderer::setSwell(std::uint8_t swell, float gain)
+{
+    swells_[swell] = gain;
+    send({SampleEvent::Kind::Swell, SampleEvent::kAll, gain, 1.0F, swell, due_});
 }
 
 void SampleRenderer::end()
@@ -127,16 +164,20 @@ void SampleRenderer::endAfterOverrun()
     while (queue_.front() != nullptr)
         queue_.pop();
     take({});
-    take({SampleEvent::Kind::Bend, SampleEvent::kAll, 0.0F, bend_, 0.0});
+    take({SampleEvent::Kind::Bend, SampleEvent::kAll, 0.0F, bend_});
+    for (std::size_t i = 0; i < kSwells; ++i)
+        take({SampleEvent::Kind::Swell, SampleEvent::kAll, swells_[i], 1.0F,
+              static_cast<std::uint8_t>(i)});
 }
 
 void SampleRenderer::take(const SampleEvent& event)
 {
     SampleEvent taken = event;
     if (event.kind == SampleEvent::Kind::End)
-        pending_.removeIf(
-            [](const SampleEvent& one) { return one.kind != SampleEvent::Kind::Bend; });
-    else if (event.kind != SampleEvent::Kind::Bend)
+        pending_.removeIf([](const SampleEvent& one) {
+            return one.kind != SampleEvent::Kind::Bend && one.kind != SampleEvent::Kind::Swell;
+        });
+    else if (event.id.device != SampleEvent::kAll.device)
         taken.due = devices_[event.id.device]->order(event.id.number, event.due);
     pending_.add(taken);
 }

@@ -1,5 +1,6 @@
 #include "audio/SampleVoices.h"
 
+#include "audio/ReleaseAlignment.h"
 #include "base/FormatError.h"
 #include "base/fading.h"
 
@@ -7,6 +8,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <mutex>
 #include <utility>
 
 namespace velmora {
@@ -22,6 +25,18 @@ const double kDecayPerSecond =
 
 /// What ends at once fades this long, so that it does not click.
 constexpr double kEndSeconds = 0.005;
+
+/// A release that begins again fades this long, so that a room's sound does not stop abruptly.
+constexpr double kReleaseEndSeconds = 0.15;
+
+/// After this time about two thirds of a change of a swell have been made.
+constexpr double kGlideSeconds = 0.02;
+
+/// A swell that is so near to its target has arrived.
+constexpr float kGlided = 1e-4F;
+
+/// OpenAL allows no more.
+constexpr float kMaximumGain = 16.0F;
 
 /// The steps of a decay in a second, and the frames of a step at low rates. OpenAL changes a gain
 /// evenly over the frames that it renders.
@@ -49,6 +64,12 @@ std::size_t stepAt(double rate)
     return static_cast<std::size_t>(std::max(kShortestStep, std::round(rate / kStepsPerSecond)));
 }
 
+/// Returns how many voices an instrument of so many bytes on the device may sound together.
+std::size_t usefulVoices(std::size_t bytes)
+{
+    return std::clamp(bytes / kBytesPerVoice, kFewVoices, kManyVoices);
+}
+
 } // namespace
 
 SampleVoices::SampleVoices(std::unique_ptr<OpenALDevice> device, double rate)
@@ -56,8 +77,9 @@ SampleVoices::SampleVoices(std::unique_ptr<OpenALDevice> device, double rate)
 {
 }
 
-std::uint32_t SampleVoices::add(unsigned buffer)
+std::uint32_t SampleVoices::add(unsigned buffer, bool loops, Gains gains)
 {
+    const std::lock_guard lock(mutex_);
     const auto here = scope();
     std::array<unsigned, 2> sources{};
     alGenSources(2, sources.data());
@@ -68,6 +90,9 @@ std::uint32_t SampleVoices::add(unsigned buffer)
         alSource3f(source, AL_POSITION, 0.0F, 0.0F, 0.0F);
         alSourcef(source, AL_PITCH, 1.0F);
         alSourcei(source, AL_BUFFER, static_cast<ALint>(buffer));
+        if (gains == Gains::UpTo16)
+            alSourcef(source, AL_MAX_GAIN, kMaximumGain);
+        alSourcei(source, AL_LOOPING, loops ? AL_TRUE : AL_FALSE);
     }
     if (free_.empty()) {
         free_.push_back(static_cast<std::uint32_t>(second_.size()));
@@ -75,7 +100,7 @@ std::uint32_t SampleVoices::add(unsigned buffer)
         second_.push_back(0);
         dues_.push_back(0.0);
     }
-    isPrepared_ = false;
+    isPrepared_ = isReserved_;
     const std::uint32_t number = free_.back();
     free_.pop_back();
     for (std::uint32_t which = 0; which < 2; ++which)
@@ -85,9 +110,10 @@ std::uint32_t SampleVoices::add(unsigned buffer)
 
 void SampleVoices::remove(std::uint32_t number)
 {
+    const std::lock_guard lock(mutex_);
     const auto here = scope();
     for (std::uint32_t which = 0; which < 2; ++which) {
-        Voice& voice = voices_[indexOf(number, which)];
+        SampleVoice& voice = voices_[indexOf(number, which)];
         alDeleteSources(1, &voice.source);
         voice = {};
     }
@@ -99,13 +125,35 @@ void SampleVoices::prepare()
     if (std::exchange(isPrepared_, true))
         return;
     std::vector<unsigned> sources;
-    for (const Voice& voice : voices_)
+    for (const SampleVoice& voice : voices_)
         if (voice.source != 0)
             sources.push_back(voice.source);
-    sources.resize(
-        std::min(sources.size(), std::clamp(bytes / kBytesPerVoice, kFewVoices, kManyVoices)));
-    if (sources.size() <= limit_)
-        return;
+    sources.resize(std::min(sources.size(), usefulVoices(bytes)));
+    if (sources.size() > limit_)
+        makeLimit(sources);
+}
+
+void SampleVoices::reserve(std::size_t expectedBytes)
+{
+    const auto here = scope();
+    const std::vector<std::int16_t> silence(kBlock);
+    unsigned buffer = 0;
+    alGenBuffers(1, &buffer);
+    alBufferData(buffer, AL_FORMAT_MONO16, silence.data(),
+                 static_cast<ALsizei>(silence.size() * sizeof silence.front()),
+                 static_cast<ALsizei>(rate_));
+    std::vector<unsigned> sources(usefulVoices(expectedBytes));
+    alGenSources(static_cast<ALsizei>(sources.size()), sources.data());
+    for (const unsigned source : sources)
+        alSourcei(source, AL_BUFFER, static_cast<ALint>(buffer));
+    makeLimit(sources);
+    alDeleteSources(static_cast<ALsizei>(sources.size()), sources.data());
+    alDeleteBuffers(1, &buffer);
+    isReserved_ = isPrepared_ = true;
+}
+
+void SampleVoices::makeLimit(std::span<const unsigned> sources)
+{
     limit_ = sources.size();
     active_.reserve(limit_);
     starting_.reserve(2 * limit_);
@@ -120,6 +168,7 @@ void SampleVoices::setRate(double rate)
 {
     if (rate == rate_)
         return;
+    const std::lock_guard lock(mutex_);
     rate_ = rate;
     step_ = stepAt(rate);
     tuning_ = static_cast<float>(device_->setRate(rate) / rate);
@@ -130,16 +179,19 @@ void SampleVoices::setRate(double rate)
 
 double SampleVoices::order(std::uint32_t number, double due)
 {
-    dues_[number] = std::max(dues_[number], due);
-    return dues_[number];
+    const std::lock_guard lock(mutex_);
+    double& last = dues_[number];
+    last = std::max(last, due);
+    return last;
 }
 
 void SampleVoices::setRelief(Relief relief)
 {
+    const std::lock_guard lock(mutex_);
     if (relief != Relief::None && relief_ == Relief::None) {
         const auto here = scope();
         for (const std::uint32_t index : active_)
-            if (voices_[index].phase == Phase::Tail)
+            if (voices_[index].isTail())
                 setCheap(voices_[index], true);
     }
     relief_ = relief;
@@ -150,6 +202,7 @@ void SampleVoices::setRelief(Relief relief)
 void SampleVoices::render(std::span<const SampleEvent> events, std::uint32_t device,
                           std::size_t frames)
 {
+    const std::lock_guard lock(mutex_);
     const auto here = scope();
     auto event = events.begin();
     for (std::size_t done = 0; done < frames;) {
@@ -177,12 +230,12 @@ std::size_t SampleVoices::advance(std::size_t done, std::size_t end)
         return end;
     }
     // Long blocks take less time, so only a changing gain is stepped.
-    const bool isFading = std::ranges::any_of(active_, [this](std::uint32_t index) {
-        const Phase phase = voices_[index].phase;
-        return phase == Phase::Tail || phase == Phase::Ending;
-    });
-    const std::size_t frames = isFading ? std::min(step_, end - done) : end - done;
-    fade(frames);
+    const bool isChanging = isGliding_ || std::ranges::any_of(active_, [this](std::uint32_t index) {
+                                return voices_[index].isChanging();
+                            });
+    const std::size_t frames = isChanging ? std::min(step_, end - done) : end - done;
+    if (isChanging)
+        fade(frames);
     for (std::size_t i = 0; i < starting_.size(); i += kBatch)
         alSourcePlayv(static_cast<ALsizei>(std::min(kBatch, starting_.size() - i)), &starting_[i]);
     starting_.clear();
@@ -191,6 +244,7 @@ std::size_t SampleVoices::advance(std::size_t done, std::size_t end)
         left_[done + i] = interleaved_[2 * i];
         right_[done + i] = interleaved_[2 * i + 1];
     }
+    frame_ += frames;
     return done + frames;
 }
 
@@ -198,30 +252,32 @@ void SampleVoices::fade(std::size_t frames)
 {
     const auto decay =
         static_cast<float>(std::exp(kDecayPerSecond * static_cast<double>(frames) / rate_));
-    for (std::size_t i = active_.size(); i-- > 0;) // a voice that ends leaves its place to the last
-        fade(voices_[active_[i]], decay, frames);
+    if (isGliding_)
+        glide(frames);
+    for (std::size_t i = active_.size(); i-- > 0;) { // the last takes the place of one that ends
+        SampleVoice& voice = voices_[active_[i]];
+        const bool isChanging = voice.isChanging();
+        if (!voice.step(decay, frames)) {
+            stop(voice);
+            continue;
+        }
+        if (voice.phase == Phase::Decaying && voice.gain < static_cast<float>(kFaded))
+            end(voice, kEndSeconds);
+        if (isChanging || isGliding_)
+            setGain(voice);
+    }
+    isGliding_ = std::ranges::any_of(swells_, &Swell::isGliding);
 }
 
-void SampleVoices::fade(Voice& voice, float decay, std::size_t frames)
+void SampleVoices::glide(std::size_t frames)
 {
-    switch (voice.phase) {
-    case Phase::Silent:
-    case Phase::Held:
-        return;
-    case Phase::Tail:
-        voice.gain *= decay;
-        if (voice.gain < static_cast<float>(kFaded))
-            end(voice);
-        break;
-    case Phase::Ending:
-        if (voice.gain == 0.0F) {
-            stop(voice);
-            return;
-        }
-        voice.gain = std::max(0.0F, voice.gain - voice.fall * static_cast<float>(frames));
-        break;
+    const auto part =
+        static_cast<float>(1.0 - std::exp(-static_cast<double>(frames) / (kGlideSeconds * rate_)));
+    for (Swell& swell : swells_) {
+        swell.gain += part * (swell.target - swell.gain);
+        if (std::fabs(swell.target - swell.gain) < kGlided)
+            swell.gain = swell.target;
     }
-    alSourcef(voice.source, AL_GAIN, voice.gain);
 }
 
 void SampleVoices::findEnded()
@@ -229,7 +285,7 @@ void SampleVoices::findEnded()
     for (std::size_t checks = active_.size() / kChecks + 1; checks > 0 && !active_.empty();
          --checks) {
         nextToCheck_ = (nextToCheck_ + 1) % active_.size();
-        Voice& voice = voices_[active_[nextToCheck_]];
+        SampleVoice& voice = voices_[active_[nextToCheck_]];
         ALint state = AL_PLAYING;
         alGetSourcei(voice.source, AL_SOURCE_STATE, &state);
         if (state != AL_PLAYING)
@@ -244,7 +300,11 @@ void SampleVoices::apply(const SampleEvent& event)
         start(event);
         break;
     case SampleEvent::Kind::Release:
-        release(current(event.id.number));
+        release(event);
+        break;
+    case SampleEvent::Kind::Cut:
+        if (current(event.id.number).phase != Phase::Silent)
+            end(current(event.id.number), kEndSeconds);
         break;
     case SampleEvent::Kind::Pitch:
         current(event.id.number).pitch = event.pitch;
@@ -256,57 +316,116 @@ void SampleVoices::apply(const SampleEvent& event)
         for (const std::uint32_t index : active_)
             setPitch(voices_[index]);
         break;
+    case SampleEvent::Kind::Swell:
+        swells_[event.swell].target = event.gain;
+        if (active_.empty())
+            swells_[event.swell].gain = event.gain;
+        isGliding_ = isGliding_ || swells_[event.swell].isGliding();
+        break;
     case SampleEvent::Kind::End:
         for (const std::uint32_t index : active_)
-            end(voices_[index]);
+            end(voices_[index], kEndSeconds);
         break;
     }
 }
 
-// See docs/decisions.md, 26.
 void SampleVoices::start(const SampleEvent& event)
 {
-    const std::uint32_t number = event.id.number;
+    SampleVoice& voice = begin(event.id.number, kEndSeconds);
+    voice.phase = Phase::Held;
+    voice.gain = event.gain;
+    voice.pitch = event.pitch;
+    voice.swell = event.swell;
+    setCheap(voice, false);
+    setGain(voice);
+    setPitch(voice);
+}
+
+/// Returns the voice of a sample that is to be started, while the other one, if it still sounds,
+/// ends within `endSeconds`. See docs/decisions.md, 26.
+SampleVoice& SampleVoices::begin(std::uint32_t number, double endSeconds)
+{
     if (current(number).phase != Phase::Silent) {
-        end(current(number));
+        end(current(number), endSeconds);
         second_[number] ^= 1;
         if (current(number).phase != Phase::Silent)
             stop(current(number));
     }
     makeRoom();
-    Voice& voice = current(number);
-    setCheap(voice, false);
-    voice.phase = Phase::Held;
+    SampleVoice& voice = current(number);
     voice.age = ++age_;
-    voice.gain = event.gain;
-    voice.pitch = event.pitch;
+    voice.began = frame_;
     voice.place = static_cast<std::uint32_t>(active_.size());
     active_.push_back(indexOf(number, second_[number]));
-    alSourcef(voice.source, AL_GAIN, voice.gain);
-    setPitch(voice);
     starting_.push_back(voice.source);
+    return voice;
 }
 
-void SampleVoices::release(Voice& voice)
+void SampleVoices::release(const SampleEvent& event)
 {
+    SampleVoice& voice = current(event.id.number);
     if (voice.phase != Phase::Held)
         return;
-    voice.phase = Phase::Tail;
+    if (event.following.empty()) {
+        decay(voice);
+        return;
+    }
+    ALint state = AL_PLAYING;
+    if (voice.began != frame_)
+        alGetSourcei(voice.source, AL_SOURCE_STATE, &state);
+    if (state != AL_PLAYING)
+        return; // what has come to its end has nothing to release
+    const double held = static_cast<double>(frame_ - voice.began) / rate_;
+    const auto next = std::ranges::find_if(
+        event.following, [held](const FollowingSound& one) { return held <= one.longestHeld; });
+    follow(voice, next == event.following.end() ? event.following.back() : *next);
+}
+
+/// Starts the release of a voice that is held.
+void SampleVoices::follow(SampleVoice& voice, const FollowingSound& next)
+{
+    ReleaseAlignment::Entry entry{0.0F, next.gain};
+    double seconds = 0.0;
+    if (next.alignment != nullptr) {
+        float position = 0.0F;
+        if (voice.began != frame_)
+            alGetSourcef(voice.source, AL_SAMPLE_OFFSET, &position);
+        entry = next.alignment->at(position);
+        seconds = next.alignment->crossfadeSeconds();
+    }
+    const float full = voice.gain * entry.gain;
+    const float pitch = voice.pitch * next.pitch;
+    const std::uint8_t swell = voice.swell;
+    if (next.alignment != nullptr)
+        end(voice, seconds);
+    else
+        decay(voice);
+
+    SampleVoice& ringing = begin(next.number, kReleaseEndSeconds);
+    ringing.ring(full, seconds * rate_);
+    ringing.pitch = pitch;
+    ringing.swell = swell;
+    setCheap(ringing, relief_ != Relief::None);
+    setGain(ringing);
+    setPitch(ringing);
+    alSourcef(ringing.source, AL_SAMPLE_OFFSET, entry.frame);
+}
+
+void SampleVoices::decay(SampleVoice& voice)
+{
+    voice.phase = Phase::Decaying;
     voice.age = ++age_;
     if (relief_ != Relief::None)
         setCheap(voice, true);
 }
 
-void SampleVoices::end(Voice& voice)
+void SampleVoices::end(SampleVoice& voice, double seconds)
 {
-    if (voice.phase == Phase::Ending)
-        return;
-    voice.phase = Phase::Ending;
+    voice.end(seconds * rate_);
     voice.age = ++age_;
-    voice.fall = voice.gain / static_cast<float>(kEndSeconds * rate_);
 }
 
-void SampleVoices::stop(Voice& voice)
+void SampleVoices::stop(SampleVoice& voice)
 {
     alSourceStop(voice.source);
     std::erase(starting_, voice.source);
@@ -319,24 +438,25 @@ void SampleVoices::stop(Voice& voice)
 void SampleVoices::makeRoom()
 {
     if (active_.size() + limit_ / kReserve >= limit_)
-        if (Voice* tail = oldest(Phase::Tail))
-            end(*tail);
+        if (SampleVoice* tail = oldest(&SampleVoice::isTail))
+            end(*tail, kEndSeconds);
     if (active_.size() < limit_)
         return;
-    for (const Phase phase : {Phase::Ending, Phase::Held}) {
-        if (Voice* voice = oldest(phase)) {
+    for (const Phase phase : {Phase::Ending, Phase::Ringing, Phase::Held}) {
+        const auto isIn = [phase](const SampleVoice& voice) { return voice.phase == phase; };
+        if (SampleVoice* voice = oldest(isIn)) {
             stop(*voice);
             return;
         }
     }
 }
 
-SampleVoices::Voice* SampleVoices::oldest(Phase phase)
+template <class Condition> SampleVoice* SampleVoices::oldest(const Condition& condition)
 {
-    Voice* result = nullptr;
+    SampleVoice* result = nullptr;
     for (const std::uint32_t index : active_) {
-        Voice& voice = voices_[index];
-        if (voice.phase == phase && (result == nullptr || voice.age < result->age))
+        SampleVoice& voice = voices_[index];
+        if (std::invoke(condition, voice) && (result == nullptr || voice.age < result->age))
             result = &voice;
     }
     return result;
@@ -346,22 +466,27 @@ void SampleVoices::endOldestTails()
 {
     tails_.clear();
     for (const std::uint32_t index : active_)
-        if (voices_[index].phase == Phase::Tail)
+        if (voices_[index].isTail())
             tails_.push_back(&voices_[index]);
     constexpr std::size_t kPart = 8;
     const std::size_t count = (tails_.size() + kPart - 1) / kPart;
     std::ranges::nth_element(tails_, tails_.begin() + static_cast<std::ptrdiff_t>(count), {},
-                             &Voice::age);
+                             &SampleVoice::age);
     for (std::size_t i = 0; i < count; ++i)
-        end(*tails_[i]);
+        end(*tails_[i], kEndSeconds);
 }
 
-void SampleVoices::setPitch(const Voice& voice)
+void SampleVoices::setGain(const SampleVoice& voice)
+{
+    alSourcef(voice.source, AL_GAIN, voice.gain * swells_[voice.swell].gain);
+}
+
+void SampleVoices::setPitch(const SampleVoice& voice)
 {
     alSourcef(voice.source, AL_PITCH, voice.pitch * bend_ * tuning_);
 }
 
-void SampleVoices::setCheap(Voice& voice, bool cheap)
+void SampleVoices::setCheap(SampleVoice& voice, bool cheap)
 {
     if (voice.isCheap == cheap)
         return;

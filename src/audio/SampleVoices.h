@@ -2,11 +2,15 @@
 
 #include "audio/OpenALDevice.h"
 #include "audio/SampleEvent.h"
+#include "audio/SampleVoice.h"
+#include "platform/PriorityMutex.h"
 
 #include <array>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <deque>
+#include <limits>
 #include <memory>
 #include <span>
 #include <vector>
@@ -21,8 +25,10 @@ enum class Relief : std::uint8_t {
 };
 
 /// The samples on one OpenAL device, and those of them that sound. A sample has two sources, so
-/// that a restart does not cut off what still sounds: that fades in 5 ms. Apart from the counts,
-/// use it on one thread at a time.
+/// that a restart does not cut off what still sounds: that fades in 5 ms.
+///
+/// Samples may be added and removed on one thread while another one renders. A mutex lends the
+/// rendering thread's priority to the other one for that short time.
 class SampleVoices {
 public:
     /// The longest block that can be rendered.
@@ -36,9 +42,12 @@ public:
     /// The bytes of the sounds in the device's buffers, which the caller keeps.
     std::size_t bytes = 0;
 
-    /// Adds a sample that plays an OpenAL buffer, and returns its number. Throws FormatError if
-    /// there are no sources left.
-    std::uint32_t add(unsigned buffer);
+    /// The gains that a sample can have.
+    enum class Gains : std::uint8_t { UpTo1, UpTo16 };
+
+    /// Adds a sample that plays an OpenAL buffer, whose loop it repeats if `loops` is true, and
+    /// returns its number. Throws FormatError if there are no sources left.
+    std::uint32_t add(unsigned buffer, bool loops = false, Gains gains = Gains::UpTo1);
 
     /// Removes a sample, which must be silent.
     void remove(std::uint32_t number);
@@ -47,8 +56,11 @@ public:
     unsigned source(std::uint32_t number) const { return voices_[indexOf(number, 0)].source; }
 
     /// Prepares for as many voices as may sound together, so that rendering neither allocates nor
-    /// hesitates. Must be called after samples have been added.
+    /// hesitates. Must be called after samples have been added, unless `reserve` was.
     void prepare();
+
+    /// Prepares for samples of about so many bytes that will be added while the device renders.
+    void reserve(std::size_t expectedBytes);
 
     void setRate(double rate);
 
@@ -69,18 +81,14 @@ public:
     std::size_t sounding() const { return sounding_.load(std::memory_order_relaxed); }
 
 private:
-    enum class Phase : std::uint8_t { Silent, Held, Tail, Ending };
+    using Phase = SampleVoice::Phase;
 
-    /// One source and what it does.
-    struct Voice {
-        unsigned source = 0;
-        Phase phase = Phase::Silent;
-        bool isCheap = false; ///< Resampled by linear interpolation.
-        float gain = 0.0F;
-        float fall = 0.0F;       ///< What an ending voice loses in each frame.
-        float pitch = 1.0F;      ///< Without the bend.
-        std::uint32_t place = 0; ///< In `active_`.
-        std::uint64_t age = 0;   ///< Voices that have changed their phase before.
+    /// The gain of a group of samples, which glides so that it does not step audibly.
+    struct Swell {
+        bool isGliding() const { return gain != target; }
+
+        float gain = 1.0F;
+        float target = 1.0F;
     };
 
     static std::uint32_t indexOf(std::uint32_t number, std::uint32_t which)
@@ -88,42 +96,53 @@ private:
         return 2 * number + which;
     }
 
-    Voice& current(std::uint32_t number) { return voices_[indexOf(number, second_[number])]; }
+    SampleVoice& current(std::uint32_t number) { return voices_[indexOf(number, second_[number])]; }
+
+    void makeLimit(std::span<const unsigned> sources);
     void apply(const SampleEvent& event);
     void start(const SampleEvent& event);
-    void release(Voice& voice);
-    void end(Voice& voice);
-    void stop(Voice& voice);
+    void release(const SampleEvent& event);
+    void follow(SampleVoice& voice, const FollowingSound& next);
+    SampleVoice& begin(std::uint32_t number, double endSeconds);
+    void decay(SampleVoice& voice);
+    void end(SampleVoice& voice, double seconds);
+    void stop(SampleVoice& voice);
     void makeRoom();
-    Voice* oldest(Phase phase);
+    template <class Condition> SampleVoice* oldest(const Condition& condition);
     void endOldestTails();
-    void setPitch(const Voice& voice);
-    void setCheap(Voice& voice, bool cheap);
+    void setGain(const SampleVoice& voice);
+    void setPitch(const SampleVoice& voice);
+    void setCheap(SampleVoice& voice, bool cheap);
 
     std::size_t advance(std::size_t done, std::size_t end);
     void fade(std::size_t frames);
-    void fade(Voice& voice, float decay, std::size_t frames);
+    void glide(std::size_t frames);
     void findEnded();
 
+    mutable PriorityMutex mutex_;
     std::unique_ptr<OpenALDevice> device_;
     double rate_;
     float tuning_ = 1.0F; ///< The rate of the device divided by `rate_`.
     std::size_t step_;    ///< The most frames for which a gain changes evenly.
 
-    std::vector<Voice> voices_;        ///< Two for each sample.
-    std::vector<std::uint8_t> second_; ///< By sample: 1 if the second voice was started last.
-    std::vector<double> dues_;         ///< By sample: when its last event was due.
-    std::vector<std::uint32_t> free_;  ///< Numbers of removed samples.
+    std::deque<SampleVoice> voices_;  ///< Two for each sample.
+    std::deque<std::uint8_t> second_; ///< By sample: 1 if the second voice was started last.
+    std::deque<double> dues_;         ///< By sample: when its last event was due.
+    std::vector<std::uint32_t> free_; ///< Numbers of removed samples.
 
     bool isPrepared_ = true;
+    bool isReserved_ = false;
     std::size_t limit_ = 0;             ///< The number of voices that may sound together.
     std::vector<std::uint32_t> active_; ///< The voices that sound.
     std::vector<unsigned> starting_;    ///< Sources to be started before the next block.
-    std::vector<Voice*> tails_;         ///< Scratch.
+    std::vector<SampleVoice*> tails_;   ///< Scratch.
     std::size_t nextToCheck_ = 0;
     std::uint64_t age_ = 0;
+    std::uint64_t frame_ = 0; ///< That is rendered next. It stands still while nothing sounds.
     float bend_ = 1.0F;
     Relief relief_ = Relief::None;
+    std::array<Swell, std::numeric_limits<std::uint8_t>::max() + 1> swells_{};
+    bool isGliding_ = false; ///< Some swell is.
 
     std::array<float, 2 * kBlock> interleaved_{};
     std::array<float, kBlock> left_{}, right_{};

@@ -62,20 +62,30 @@ std::string ALInstrument::stopName(std::size_t stop) const
 }
 
 // See docs/decisions.md, 23 and 24.
-void ALInstrument::play(int key, float /*velocity*/)
+void ALInstrument::play(int key, float velocity)
 {
-    for (InstrumentStop& stop : stops_) {
-        if (stop.volume > 0.0F)
-            stop.samples[static_cast<std::size_t>(key)].play(isSoft_ ? kSoftGain * stop.volume
-                                                                     : stop.volume);
-    }
+    for (std::size_t i = 0; i < stops_.size(); ++i)
+        if (stops_[i].volume > 0.0F)
+            startPipe(i, key, velocity, stops_[i].volume);
 }
 
 void ALInstrument::stop(int key)
 {
+    for (std::size_t i = 0; i < stops_.size(); ++i)
+        stopPipe(i, key);
+}
+
+void ALInstrument::startPipe(std::size_t stop, int key, float velocity, float gain)
+{
+    const InstrumentStop& rank = stops_[stop];
+    stops_[stop].samples[static_cast<std::size_t>(key)].play(isSoft_ ? kSoftGain * gain : gain,
+                                                             velocity, rank.swell);
+}
+
+void ALInstrument::stopPipe(std::size_t stop, int key)
+{
     const auto slot = static_cast<std::size_t>(key);
-    for (InstrumentStop& stop : stops_)
-        stop.samples[slot].stop();
+    stops_[stop].samples[slot].stop();
     released_.set(slot);
 }
 

@@ -14,8 +14,8 @@
 
 namespace velmora {
 
-/// Plays recorded samples through OpenAL: a key sounds in every stop whose volume is above zero,
-/// and its velocity is ignored.
+/// Plays recorded samples through OpenAL: a key sounds in every stop whose volume is above zero.
+/// Its velocity only chooses between the sounds of a sample.
 class ALInstrument : public Instrument {
     SampleRenderer renderer_; // first, so that it outlives the sounds
 
@@ -50,7 +50,18 @@ public:
     void bend(double cents) override;
     void setSoft(bool soft) override { isSoft_ = soft; }
 
-    /// The instrument's sound. Nothing may be added to the instrument while it is played.
+    /// Starts a key of one stop, whose volume does not count, with a gain of its own.
+    void startPipe(std::size_t stop, int key, float velocity, float gain);
+
+    /// Releases a key of one stop.
+    void stopPipe(std::size_t stop, int key);
+
+    /// Lets the gain of a group of stops, `InstrumentStop::swell`, glide to `gain`. It is 1 at
+    /// first.
+    void setSwell(std::uint8_t swell, float gain) { renderer_.setSwell(swell, gain); }
+
+    /// The instrument's sound. Unless the renderer was told beforehand what will be added, nothing
+    /// may be added to the instrument while it is played.
     AudioSource* source() override;
 
     /// What plays the samples, for which the sounds are created.

@@ -23,8 +23,9 @@ struct InstrumentStop {
     /// The number of keys that have a sample.
     std::size_t keysWithSamples() const;
 
-    std::string name;    ///< Empty if the file gives none.
-    float volume = 0.0F; ///< The gain; a stop at 0 is silent.
+    std::string name;       ///< Empty if the file gives none.
+    float volume = 0.0F;    ///< The gain; a stop at 0 is silent.
+    std::uint8_t swell = 0; ///< The group of stops whose gain it follows.
     std::array<Sample, kKeys> samples;
     std::bitset<kKeys> extended; ///< The keys whose sound was set by `extend`.
 };

@@ -8,6 +8,7 @@
 #include <alext.h>
 #include <spdlog/fmt/fmt.h>
 
+#include <array>
 #include <limits>
 #include <new>
 
@@ -36,32 +37,37 @@ std::span<const std::byte> bytesOf(const Pcm& pcm)
 
 } // namespace
 
-Sound::Sound(SampleRenderer& renderer, const Pcm& pcm)
-    : Sound(renderer, bytesOf(pcm), pcm.size(), formatOf(pcm), pcm.channels, pcm.rate)
+Sound::Sound(SampleRenderer& renderer, const Pcm& pcm, std::optional<Loop> loop,
+             const Sound* beside)
+    : Sound(renderer, bytesOf(pcm), pcm.size(), formatOf(pcm), pcm.channels, pcm.rate, loop, beside)
 {
 }
 
 Sound::Sound(SampleRenderer& renderer, std::span<const std::int16_t> data, int format, double rate)
     : Sound(renderer, std::as_bytes(data), data.size(), format,
-            format == AL_FORMAT_STEREO16 ? 2 : 1, rate)
+            format == AL_FORMAT_STEREO16 ? 2 : 1, rate, {}, nullptr)
 {
 }
 
 Sound::Sound(SampleRenderer& renderer, std::span<const std::byte> data, std::size_t samples,
-             int format, int channels, double rate)
+             int format, int channels, double rate, std::optional<Loop> loop, const Sound* beside)
     : renderer_(renderer), size_(static_cast<std::uint32_t>(data.size())),
       frames_(static_cast<std::uint32_t>(samples / static_cast<unsigned>(channels))),
-      channels_(channels), rate_(wholeHertz(rate))
+      channels_(channels), rate_(wholeHertz(rate)), loop_(loop)
 {
     if (data.size() > std::numeric_limits<ALsizei>::max())
         throw FormatError("a sound of more than 2 GB cannot be played");
     MemoryGuard::machine().require(data.size());
-    device_ = renderer.emptiestDevice();
+    device_ = beside != nullptr ? beside->device() : renderer.emptiestDevice();
     SampleVoices& device = renderer.device(device_);
     const auto here = device.scope();
     alGetError();
     alGenBuffers(1, &buffer_);
     alBufferData(buffer_, format, data.data(), static_cast<ALsizei>(data.size()), rate_);
+    if (loop_) {
+        const std::array points{static_cast<ALint>(loop_->begin), static_cast<ALint>(loop_->end)};
+        alBufferiv(buffer_, AL_LOOP_POINTS_SOFT, points.data());
+    }
     const ALenum error = alGetError();
     if (error == AL_NO_ERROR) {
         device.bytes += data.size();

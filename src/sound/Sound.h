@@ -1,9 +1,11 @@
 #pragma once
 
+#include "audio/Loop.h"
 #include "audio/Pcm.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 namespace velmora {
@@ -13,9 +15,11 @@ class SampleRenderer;
 /// One sound in an OpenAL buffer, which a renderer holds as long as it exists.
 class Sound {
 public:
-    /// Copies the sound to one of the renderer's devices. Throws std::bad_alloc if OpenAL is out of
-    /// memory, and FormatError if it rejects the sound or if there is no device.
-    Sound(SampleRenderer& renderer, const Pcm& pcm);
+    /// Copies the sound to one of the renderer's devices: to that of `beside`, if there is one.
+    /// With a loop, it repeats that part until it is ended. Throws std::bad_alloc if OpenAL is out
+    /// of memory, and FormatError if it rejects the sound or if there is no device.
+    Sound(SampleRenderer& renderer, const Pcm& pcm, std::optional<Loop> loop = {},
+          const Sound* beside = nullptr);
 
     /// `format` is AL_FORMAT_MONO16 or AL_FORMAT_STEREO16; `rate` is truncated to whole hertz.
     /// Throws as above.
@@ -38,9 +42,11 @@ public:
     /// Frames per second.
     int rate() const { return rate_; }
 
+    const std::optional<Loop>& loop() const { return loop_; }
+
 private:
     Sound(SampleRenderer& renderer, std::span<const std::byte> data, std::size_t samples,
-          int format, int channels, double rate);
+          int format, int channels, double rate, std::optional<Loop> loop, const Sound* beside);
 
     SampleRenderer& renderer_;
     std::uint32_t device_ = 0;
@@ -49,6 +55,7 @@ private:
     std::uint32_t frames_;
     int channels_;
     int rate_;
+    std::optional<Loop> loop_;
 };
 
 } // namespace velmora

@@ -1,0 +1,44 @@
+#include "audio/SampleVoice.h"
+
+#include <algorithm>
+
+namespace velmora {
+
+void SampleVoice::ring(float full, double frames)
+{
+    phase = Phase::Ringing;
+    fullGain = full;
+    gain = frames > 0.0 ? 0.0F : full;
+    slope = frames > 0.0 ? full / static_cast<float>(frames) : 0.0F;
+}
+
+void SampleVoice::end(double frames)
+{
+    const float fall = gain / static_cast<float>(frames);
+    slope = phase == Phase::Ending ? std::max(slope, fall) : fall;
+    phase = Phase::Ending;
+}
+
+bool SampleVoice::step(float decay, std::size_t frames)
+{
+    const float change = slope * static_cast<float>(frames);
+    switch (phase) {
+    case Phase::Silent:
+    case Phase::Held:
+        break;
+    case Phase::Decaying:
+        gain *= decay;
+        break;
+    case Phase::Ringing:
+        gain = std::min(fullGain, gain + change);
+        break;
+    case Phase::Ending:
+        if (gain == 0.0F)
+            return false;
+        gain = std::max(0.0F, gain - change);
+        break;
+    }
+    return true;
+}
+
+} // namespace velmora
