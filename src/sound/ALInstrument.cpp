@@ -77,13 +77,17 @@ void ALInstrument::stop(int key)
 
 void ALInstrument::startPipe(std::size_t stop, int key, float velocity, float gain)
 {
-    const InstrumentStop& rank = stops_[stop];
-    stops_[stop].samples[static_cast<std::size_t>(key)].play(isSoft_ ? kSoftGain * gain : gain,
-                                                             velocity, rank.swell);
+    if (stop >= stops_.size())
+        return;
+    InstrumentStop& rank = stops_[stop];
+    rank.samples[static_cast<std::size_t>(key)].play(isSoft_ ? kSoftGain * gain : gain, velocity,
+                                                     rank.swell);
 }
 
 void ALInstrument::stopPipe(std::size_t stop, int key)
 {
+    if (stop >= stops_.size())
+        return;
     const auto slot = static_cast<std::size_t>(key);
     stops_[stop].samples[slot].stop();
     released_.set(slot);

@@ -50,10 +50,11 @@ public:
     void bend(double cents) override;
     void setSoft(bool soft) override { isSoft_ = soft; }
 
-    /// Starts a key of one stop, whose volume does not count, with a gain of its own.
+    /// Starts a key of one stop, whose volume does not count, with a gain of its own. Does
+    /// nothing if there is no such stop.
     void startPipe(std::size_t stop, int key, float velocity, float gain);
 
-    /// Releases a key of one stop.
+    /// Releases a key of one stop, if there is one.
     void stopPipe(std::size_t stop, int key);
 
     /// Lets the gain of a group of stops, `InstrumentStop::swell`, glide to `gain`. It is 1 at

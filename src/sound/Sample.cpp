@@ -165,9 +165,15 @@ void Sample::fade(double factor)
         silence();
 }
 
+void Sample::fixPitch(double pitch)
+{
+    tune(pitch);
+    hasFixedPitch_ = true;
+}
+
 void Sample::tune(double pitch)
 {
-    if (attacks_.empty())
+    if (attacks_.empty() || hasFixedPitch_)
         return;
     const auto factor = static_cast<float>(pitch / rootPitch());
     if (factor == factor_)

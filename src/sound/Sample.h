@@ -57,6 +57,10 @@ public:
     /// Lets every sound play to its end, whenever the key is released.
     void setPercussive() { isPercussive_ = true; }
 
+    /// Sets the pitch in hertz for good, whatever the temperament, as for drums. Must be called
+    /// after an attack was added.
+    void fixPitch(double pitch);
+
     /// Starts a sound for the velocity with the gain `volume`; what is already playing ends. The
     /// gain of `swell`, a group of samples, is applied to it.
     void play(float volume, float velocity = 1.0F, std::uint8_t swell = 0);
@@ -124,6 +128,7 @@ private:
     bool released_ = false;
     bool isPlaying_ = false;
     bool isPercussive_ = false;
+    bool hasFixedPitch_ = false;
     float factor_ = 1.0F;
     double gain_ = 0.0;
     double tail_ = 0.0; ///< Seconds for which a released sound may go on without a fade.
