@@ -50,8 +50,8 @@ std::uint32_t SampleRenderer::emptiestDevice()
     if (!isReserved_ && devices_.size() < usefulDevices() &&
         sounds_++ >= devices_.size() * kSoundsPerDevice)
         openDevice();
-    const auto emptiest =
-        std::ranges::min_element(devices_, {}, [](const auto& device) { return device->bytes; });
+    const auto emptiest = std::ranges::min_element(
+        devices_, {}, [](const auto& device) { return device->sources().bytes; });
     return static_cast<std::uint32_t>(emptiest - devices_.begin());
 }
 
@@ -74,7 +74,7 @@ void SampleRenderer::reserve(std::size_t sounds, std::size_t bytes)
     while (devices_.size() < wanted && openDevice()) {
     }
     for (const auto& device : devices_)
-        device->reserve(bytes / devices_.size());
+        device->sources().reserve(bytes / devices_.size());
     isReserved_ = true;
     prepare();
 }
@@ -178,7 +178,7 @@ void SampleRenderer::take(const SampleEvent& event)
             return one.kind != SampleEvent::Kind::Bend && one.kind != SampleEvent::Kind::Swell;
         });
     else if (event.id.device != SampleEvent::kAll.device)
-        taken.due = devices_[event.id.device]->order(event.id.number, event.due);
+        taken.due = device(event.id.device).order(event.id.number, event.due);
     pending_.add(taken);
 }
 

@@ -34,7 +34,7 @@ public:
     /// FormatError if OpenAL cannot open any.
     std::uint32_t emptiestDevice();
 
-    SampleVoices& device(std::uint32_t number) { return *devices_[number]; }
+    SampleSources& device(std::uint32_t number) { return devices_[number]->sources(); }
 
     /// Prepares the devices for playing. Must be called after samples have been added.
     void prepare();

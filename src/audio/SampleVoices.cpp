@@ -1,7 +1,6 @@
 #include "audio/SampleVoices.h"
 
 #include "audio/ReleaseAlignment.h"
-#include "base/FormatError.h"
 #include "base/fading.h"
 
 #include <al.h>
@@ -9,15 +8,11 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <mutex>
 #include <utility>
 
 namespace velmora {
 
 namespace {
-
-// See docs/decisions.md, 27.
-constexpr float kFirstGain = 0.4F;
 
 /// The natural logarithm of what a second leaves of the gain of a released sample.
 const double kDecayPerSecond =
@@ -35,9 +30,6 @@ constexpr double kGlideSeconds = 0.02;
 /// A swell that is so near to its target has arrived.
 constexpr float kGlided = 1e-4F;
 
-/// OpenAL allows no more.
-constexpr float kMaximumGain = 16.0F;
-
 /// The steps of a decay in a second, and the frames of a step at low rates. OpenAL changes a gain
 /// evenly over the frames that it renders.
 constexpr double kStepsPerSecond = 375.0;
@@ -45,16 +37,6 @@ constexpr double kShortestStep = 128.0;
 
 /// Each block looks at this part of the voices for those whose sound has come to its end.
 constexpr std::size_t kChecks = 32;
-
-/// This many sources are started at once. OpenAL enlarges its list of voices if that has no room
-/// for them behind all voices that have ever been used.
-constexpr std::size_t kBatch = 64;
-
-/// OpenAL doubles the list and takes 32 KB for each voice, so small instruments get fewer voices
-/// than a processor can render.
-constexpr std::size_t kFewVoices = 512 - kBatch;
-constexpr std::size_t kManyVoices = 2048 - kBatch;
-constexpr std::size_t kBytesPerVoice = 1 << 15;
 
 /// The part of the voices that is left free by ending released ones.
 constexpr std::size_t kReserve = 16;
@@ -64,135 +46,43 @@ std::size_t stepAt(double rate)
     return static_cast<std::size_t>(std::max(kShortestStep, std::round(rate / kStepsPerSecond)));
 }
 
-/// Returns how many voices an instrument of so many bytes on the device may sound together.
-std::size_t usefulVoices(std::size_t bytes)
-{
-    return std::clamp(bytes / kBytesPerVoice, kFewVoices, kManyVoices);
-}
-
 } // namespace
 
 SampleVoices::SampleVoices(std::unique_ptr<OpenALDevice> device, double rate)
-    : device_(std::move(device)), rate_(rate), step_(stepAt(rate))
+    : sources_(std::move(device)), rate_(rate), step_(stepAt(rate))
 {
-}
-
-std::uint32_t SampleVoices::add(unsigned buffer, bool loops, Gains gains)
-{
-    const std::lock_guard lock(mutex_);
-    const auto here = scope();
-    std::array<unsigned, 2> sources{};
-    alGenSources(2, sources.data());
-    if (sources[1] == 0)
-        throw FormatError("OpenAL has no source left for it: unload another instrument first");
-    for (const unsigned source : sources) {
-        alSourcef(source, AL_GAIN, kFirstGain);
-        alSource3f(source, AL_POSITION, 0.0F, 0.0F, 0.0F);
-        alSourcef(source, AL_PITCH, 1.0F);
-        alSourcei(source, AL_BUFFER, static_cast<ALint>(buffer));
-        if (gains == Gains::UpTo16)
-            alSourcef(source, AL_MAX_GAIN, kMaximumGain);
-        alSourcei(source, AL_LOOPING, loops ? AL_TRUE : AL_FALSE);
-    }
-    if (free_.empty()) {
-        free_.push_back(static_cast<std::uint32_t>(second_.size()));
-        voices_.resize(voices_.size() + 2);
-        second_.push_back(0);
-        dues_.push_back(0.0);
-    }
-    isPrepared_ = isReserved_;
-    const std::uint32_t number = free_.back();
-    free_.pop_back();
-    for (std::uint32_t which = 0; which < 2; ++which)
-        voices_[indexOf(number, which)].source = sources[which];
-    return number;
-}
-
-void SampleVoices::remove(std::uint32_t number)
-{
-    const std::lock_guard lock(mutex_);
-    const auto here = scope();
-    for (std::uint32_t which = 0; which < 2; ++which) {
-        SampleVoice& voice = voices_[indexOf(number, which)];
-        alDeleteSources(1, &voice.source);
-        voice = {};
-    }
-    free_.push_back(number);
 }
 
 void SampleVoices::prepare()
 {
-    if (std::exchange(isPrepared_, true))
+    if (!sources_.prepare())
         return;
-    std::vector<unsigned> sources;
-    for (const SampleVoice& voice : voices_)
-        if (voice.source != 0)
-            sources.push_back(voice.source);
-    sources.resize(std::min(sources.size(), usefulVoices(bytes)));
-    if (sources.size() > limit_)
-        makeLimit(sources);
-}
-
-void SampleVoices::reserve(std::size_t expectedBytes)
-{
-    const auto here = scope();
-    const std::vector<std::int16_t> silence(kBlock);
-    unsigned buffer = 0;
-    alGenBuffers(1, &buffer);
-    alBufferData(buffer, AL_FORMAT_MONO16, silence.data(),
-                 static_cast<ALsizei>(silence.size() * sizeof silence.front()),
-                 static_cast<ALsizei>(rate_));
-    std::vector<unsigned> sources(usefulVoices(expectedBytes));
-    alGenSources(static_cast<ALsizei>(sources.size()), sources.data());
-    for (const unsigned source : sources)
-        alSourcei(source, AL_BUFFER, static_cast<ALint>(buffer));
-    makeLimit(sources);
-    alDeleteSources(static_cast<ALsizei>(sources.size()), sources.data());
-    alDeleteBuffers(1, &buffer);
-    isReserved_ = isPrepared_ = true;
-}
-
-void SampleVoices::makeLimit(std::span<const unsigned> sources)
-{
-    limit_ = sources.size();
-    active_.reserve(limit_);
-    starting_.reserve(2 * limit_);
-    tails_.reserve(limit_);
-    const auto here = scope();
-    device_->prepare(sources, kBatch);
-    for (const unsigned source : sources)
-        alSourcef(source, AL_GAIN, kFirstGain);
+    active_.reserve(sources_.limit());
+    starting_.reserve(2 * sources_.limit());
+    tails_.reserve(sources_.limit());
 }
 
 void SampleVoices::setRate(double rate)
 {
     if (rate == rate_)
         return;
-    const std::lock_guard lock(mutex_);
+    const auto lock = sources_.lock();
     rate_ = rate;
     step_ = stepAt(rate);
-    tuning_ = static_cast<float>(device_->setRate(rate) / rate);
-    const auto here = scope();
+    tuning_ = static_cast<float>(sources_.device().setRate(rate) / rate);
+    const auto here = sources_.scope();
     for (const std::uint32_t index : active_)
-        setPitch(voices_[index]);
-}
-
-double SampleVoices::order(std::uint32_t number, double due)
-{
-    const std::lock_guard lock(mutex_);
-    double& last = dues_[number];
-    last = std::max(last, due);
-    return last;
+        setPitch(sources_.voice(index));
 }
 
 void SampleVoices::setRelief(Relief relief)
 {
-    const std::lock_guard lock(mutex_);
+    const auto lock = sources_.lock();
     if (relief != Relief::None && relief_ == Relief::None) {
-        const auto here = scope();
+        const auto here = sources_.scope();
         for (const std::uint32_t index : active_)
-            if (voices_[index].isTail())
-                setCheap(voices_[index], true);
+            if (sources_.voice(index).isTail())
+                setCheap(sources_.voice(index), true);
     }
     relief_ = relief;
     if (relief == Relief::FewerTails)
@@ -202,8 +92,8 @@ void SampleVoices::setRelief(Relief relief)
 void SampleVoices::render(std::span<const SampleEvent> events, std::uint32_t device,
                           std::size_t frames)
 {
-    const std::lock_guard lock(mutex_);
-    const auto here = scope();
+    const auto lock = sources_.lock();
+    const auto here = sources_.scope();
     auto event = events.begin();
     for (std::size_t done = 0; done < frames;) {
         std::size_t end = frames;
@@ -231,15 +121,16 @@ std::size_t SampleVoices::advance(std::size_t done, std::size_t end)
     }
     // Long blocks take less time, so only a changing gain is stepped.
     const bool isChanging = isGliding_ || std::ranges::any_of(active_, [this](std::uint32_t index) {
-                                return voices_[index].isChanging();
+                                return sources_.voice(index).isChanging();
                             });
     const std::size_t frames = isChanging ? std::min(step_, end - done) : end - done;
     if (isChanging)
         fade(frames);
-    for (std::size_t i = 0; i < starting_.size(); i += kBatch)
-        alSourcePlayv(static_cast<ALsizei>(std::min(kBatch, starting_.size() - i)), &starting_[i]);
+    for (std::size_t i = 0; i < starting_.size(); i += SampleSources::kBatch)
+        alSourcePlayv(static_cast<ALsizei>(std::min(SampleSources::kBatch, starting_.size() - i)),
+                      &starting_[i]);
     starting_.clear();
-    device_->render(interleaved_.data(), frames);
+    sources_.device().render(interleaved_.data(), frames);
     for (std::size_t i = 0; i < frames; ++i) {
         left_[done + i] = interleaved_[2 * i];
         right_[done + i] = interleaved_[2 * i + 1];
@@ -255,7 +146,7 @@ void SampleVoices::fade(std::size_t frames)
     if (isGliding_)
         glide(frames);
     for (std::size_t i = active_.size(); i-- > 0;) { // the last takes the place of one that ends
-        SampleVoice& voice = voices_[active_[i]];
+        SampleVoice& voice = sources_.voice(active_[i]);
         const bool isChanging = voice.isChanging();
         if (!voice.step(decay, frames)) {
             stop(voice);
@@ -285,7 +176,7 @@ void SampleVoices::findEnded()
     for (std::size_t checks = active_.size() / kChecks + 1; checks > 0 && !active_.empty();
          --checks) {
         nextToCheck_ = (nextToCheck_ + 1) % active_.size();
-        SampleVoice& voice = voices_[active_[nextToCheck_]];
+        SampleVoice& voice = sources_.voice(active_[nextToCheck_]);
         ALint state = AL_PLAYING;
         alGetSourcei(voice.source, AL_SOURCE_STATE, &state);
         if (state != AL_PLAYING)
@@ -314,7 +205,7 @@ void SampleVoices::apply(const SampleEvent& event)
     case SampleEvent::Kind::Bend:
         bend_ = event.pitch;
         for (const std::uint32_t index : active_)
-            setPitch(voices_[index]);
+            setPitch(sources_.voice(index));
         break;
     case SampleEvent::Kind::Swell:
         swells_[event.swell].target = event.gain;
@@ -324,7 +215,7 @@ void SampleVoices::apply(const SampleEvent& event)
         break;
     case SampleEvent::Kind::End:
         for (const std::uint32_t index : active_)
-            end(voices_[index], kEndSeconds);
+            end(sources_.voice(index), kEndSeconds);
         break;
     }
 }
@@ -347,7 +238,7 @@ SampleVoice& SampleVoices::begin(std::uint32_t number, double endSeconds)
 {
     if (current(number).phase != Phase::Silent) {
         end(current(number), endSeconds);
-        second_[number] ^= 1;
+        sources_.swap(number);
         if (current(number).phase != Phase::Silent)
             stop(current(number));
     }
@@ -356,7 +247,7 @@ SampleVoice& SampleVoices::begin(std::uint32_t number, double endSeconds)
     voice.age = ++age_;
     voice.began = frame_;
     voice.place = static_cast<std::uint32_t>(active_.size());
-    active_.push_back(indexOf(number, second_[number]));
+    active_.push_back(sources_.current(number));
     starting_.push_back(voice.source);
     return voice;
 }
@@ -431,16 +322,16 @@ void SampleVoices::stop(SampleVoice& voice)
     std::erase(starting_, voice.source);
     voice.phase = Phase::Silent;
     active_[voice.place] = active_.back();
-    voices_[active_[voice.place]].place = voice.place;
+    sources_.voice(active_[voice.place]).place = voice.place;
     active_.pop_back();
 }
 
 void SampleVoices::makeRoom()
 {
-    if (active_.size() + limit_ / kReserve >= limit_)
+    if (active_.size() + sources_.limit() / kReserve >= sources_.limit())
         if (SampleVoice* tail = oldest(&SampleVoice::isTail))
             end(*tail, kEndSeconds);
-    if (active_.size() < limit_)
+    if (active_.size() < sources_.limit())
         return;
     for (const Phase phase : {Phase::Ending, Phase::Ringing, Phase::Held}) {
         const auto isIn = [phase](const SampleVoice& voice) { return voice.phase == phase; };
@@ -455,7 +346,7 @@ template <class Condition> SampleVoice* SampleVoices::oldest(const Condition& co
 {
     SampleVoice* result = nullptr;
     for (const std::uint32_t index : active_) {
-        SampleVoice& voice = voices_[index];
+        SampleVoice& voice = sources_.voice(index);
         if (std::invoke(condition, voice) && (result == nullptr || voice.age < result->age))
             result = &voice;
     }
@@ -466,8 +357,8 @@ void SampleVoices::endOldestTails()
 {
     tails_.clear();
     for (const std::uint32_t index : active_)
-        if (voices_[index].isTail())
-            tails_.push_back(&voices_[index]);
+        if (sources_.voice(index).isTail())
+            tails_.push_back(&sources_.voice(index));
     constexpr std::size_t kPart = 8;
     const std::size_t count = (tails_.size() + kPart - 1) / kPart;
     std::ranges::nth_element(tails_, tails_.begin() + static_cast<std::ptrdiff_t>(count), {},
@@ -491,8 +382,8 @@ void SampleVoices::setCheap(SampleVoice& voice, bool cheap)
     if (voice.isCheap == cheap)
         return;
     voice.isCheap = cheap;
-    device_->setResampler(voice.source,
-                          cheap ? OpenALDevice::Resampler::Linear : OpenALDevice::Resampler::Best);
+    sources_.device().setResampler(voice.source, cheap ? OpenALDevice::Resampler::Linear
+                                                       : OpenALDevice::Resampler::Best);
 }
 
 } // namespace velmora

@@ -2,14 +2,13 @@
 
 #include "audio/OpenALDevice.h"
 #include "audio/SampleEvent.h"
+#include "audio/SampleSources.h"
 #include "audio/SampleVoice.h"
-#include "platform/PriorityMutex.h"
 
 #include <array>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <limits>
 #include <memory>
 #include <span>
@@ -24,11 +23,8 @@ enum class Relief : std::uint8_t {
     FewerTails, ///< The oldest of them also fade in 5 ms.
 };
 
-/// The samples on one OpenAL device, and those of them that sound. A sample has two sources, so
-/// that a restart does not cut off what still sounds: that fades in 5 ms.
-///
-/// Samples may be added and removed on one thread while another one renders. A mutex lends the
-/// rendering thread's priority to the other one for that short time.
+/// Those samples on one OpenAL device that sound. Apart from the sources and the counts, use it on
+/// one thread at a time.
 class SampleVoices {
 public:
     /// The longest block that can be rendered.
@@ -36,39 +32,16 @@ public:
 
     SampleVoices(std::unique_ptr<OpenALDevice> device, double rate);
 
-    /// Makes the device's context current as long as the result exists.
-    OpenALDevice::Scope scope() const { return OpenALDevice::Scope(*device_); }
+    SampleSources& sources() { return sources_; }
 
-    /// The bytes of the sounds in the device's buffers, which the caller keeps.
-    std::size_t bytes = 0;
-
-    /// The gains that a sample can have.
-    enum class Gains : std::uint8_t { UpTo1, UpTo16 };
-
-    /// Adds a sample that plays an OpenAL buffer, whose loop it repeats if `loops` is true, and
-    /// returns its number. Throws FormatError if there are no sources left.
-    std::uint32_t add(unsigned buffer, bool loops = false, Gains gains = Gains::UpTo1);
-
-    /// Removes a sample, which must be silent.
-    void remove(std::uint32_t number);
-
-    /// The first OpenAL source of a sample.
-    unsigned source(std::uint32_t number) const { return voices_[indexOf(number, 0)].source; }
-
-    /// Prepares for as many voices as may sound together, so that rendering neither allocates nor
-    /// hesitates. Must be called after samples have been added, unless `reserve` was.
+    /// Prepares for the samples that have been added, or for which the sources were reserved, so
+    /// that rendering neither allocates nor hesitates.
     void prepare();
-
-    /// Prepares for samples of about so many bytes that will be added while the device renders.
-    void reserve(std::size_t expectedBytes);
 
     void setRate(double rate);
 
     /// Limits the work on released samples in the blocks that follow.
     void setRelief(Relief relief);
-
-    /// Returns when a sample's event happens that is due at `due`: not before earlier ones.
-    double order(std::uint32_t number, double due);
 
     /// Renders the next `frames` frames into `left()` and `right()`, with those of the `events`, in
     /// the order of their frames, that are for the device with the number `device`.
@@ -91,14 +64,7 @@ private:
         float target = 1.0F;
     };
 
-    static std::uint32_t indexOf(std::uint32_t number, std::uint32_t which)
-    {
-        return 2 * number + which;
-    }
-
-    SampleVoice& current(std::uint32_t number) { return voices_[indexOf(number, second_[number])]; }
-
-    void makeLimit(std::span<const unsigned> sources);
+    SampleVoice& current(std::uint32_t number) { return sources_.voice(sources_.current(number)); }
     void apply(const SampleEvent& event);
     void start(const SampleEvent& event);
     void release(const SampleEvent& event);
@@ -119,20 +85,11 @@ private:
     void glide(std::size_t frames);
     void findEnded();
 
-    mutable PriorityMutex mutex_;
-    std::unique_ptr<OpenALDevice> device_;
+    SampleSources sources_;
     double rate_;
     float tuning_ = 1.0F; ///< The rate of the device divided by `rate_`.
     std::size_t step_;    ///< The most frames for which a gain changes evenly.
 
-    std::deque<SampleVoice> voices_;  ///< Two for each sample.
-    std::deque<std::uint8_t> second_; ///< By sample: 1 if the second voice was started last.
-    std::deque<double> dues_;         ///< By sample: when its last event was due.
-    std::vector<std::uint32_t> free_; ///< Numbers of removed samples.
-
-    bool isPrepared_ = true;
-    bool isReserved_ = false;
-    std::size_t limit_ = 0;             ///< The number of voices that may sound together.
     std::vector<std::uint32_t> active_; ///< The voices that sound.
     std::vector<unsigned> starting_;    ///< Sources to be started before the next block.
     std::vector<SampleVoice*> tails_;   ///< Scratch.

@@ -41,15 +41,15 @@ void Sample::setBuffer(const Sound& sound, double rootPitch)
     }
     *this = Sample();
     // See docs/decisions.md, 25.
-    add({&sound, rootPitch}, SampleVoices::Gains::UpTo1);
+    add({&sound, rootPitch}, SampleSources::Gains::UpTo1);
 }
 
 void Sample::addAttack(const Attack& attack)
 {
-    add(attack, SampleVoices::Gains::UpTo16);
+    add(attack, SampleSources::Gains::UpTo16);
 }
 
-void Sample::add(const Attack& attack, SampleVoices::Gains gains)
+void Sample::add(const Attack& attack, SampleSources::Gains gains)
 {
     assert(releases_.empty());
     sources_.push_back(sourceFor(*attack.sound, gains));
@@ -57,9 +57,9 @@ void Sample::add(const Attack& attack, SampleVoices::Gains gains)
     following_.emplace_back();
 }
 
-Sample::Source Sample::sourceFor(const Sound& sound, SampleVoices::Gains gains)
+Sample::Source Sample::sourceFor(const Sound& sound, SampleSources::Gains gains)
 {
-    SampleVoices& device = sound.renderer().device(sound.device());
+    SampleSources& device = sound.renderer().device(sound.device());
     const bool loops = sound.loop().has_value();
     return {{sound.device(), device.add(sound.buffer(), loops, gains)}};
 }
@@ -69,7 +69,7 @@ void Sample::addRelease(const Release& release)
     assert(std::ranges::all_of(attacks_, [&](const Attack& attack) {
         return attack.sound->device() == release.sound->device();
     }));
-    sources_.push_back(sourceFor(*release.sound, SampleVoices::Gains::UpTo16));
+    sources_.push_back(sourceFor(*release.sound, SampleSources::Gains::UpTo16));
     releases_.push_back(release);
     for (std::size_t i = 0; i < attacks_.size(); ++i)
         following_[i] = releasesOf(i);

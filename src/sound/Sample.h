@@ -2,7 +2,7 @@
 
 #include "audio/ReleaseAlignment.h"
 #include "audio/SampleEvent.h"
-#include "audio/SampleVoices.h"
+#include "audio/SampleSources.h"
 #include "sound/Sound.h"
 
 #include <cstddef>
@@ -108,8 +108,8 @@ private:
         std::uint64_t lastStart = 0; ///< Of an attack: the starts before its last one.
     };
 
-    static Source sourceFor(const Sound& sound, SampleVoices::Gains gains);
-    void add(const Attack& attack, SampleVoices::Gains gains);
+    static Source sourceFor(const Sound& sound, SampleSources::Gains gains);
+    void add(const Attack& attack, SampleSources::Gains gains);
     std::vector<FollowingSound> releasesOf(std::size_t attack) const;
     std::size_t attackFor(float velocity) const;
     float factorOf(double rootPitch) const;

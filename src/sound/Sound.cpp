@@ -59,7 +59,7 @@ Sound::Sound(SampleRenderer& renderer, std::span<const std::byte> data, std::siz
         throw FormatError("a sound of more than 2 GB cannot be played");
     MemoryGuard::machine().require(data.size());
     device_ = beside != nullptr ? beside->device() : renderer.emptiestDevice();
-    SampleVoices& device = renderer.device(device_);
+    SampleSources& device = renderer.device(device_);
     const auto here = device.scope();
     alGetError();
     alGenBuffers(1, &buffer_);
