@@ -1,5 +1,6 @@
 #include "audio/AudioFileDecoder.h"
 
+#include "audio/DecodedCache.h"
 #include "audio/FileImage.h"
 #include "audio/PcmBuilder.h"
 #include "audio/WavPackDecoder.h"
@@ -11,8 +12,10 @@
 
 #include <sndfile.h>
 
+#include <algorithm>
 #include <array>
 #include <memory>
+#include <string_view>
 #include <system_error>
 
 namespace velmora {
@@ -111,7 +114,8 @@ Pcm decodeOpenFile(const OpenFile& opened, const std::string& name, const Decodi
     return decode(file.get(), info, name, static_cast<std::size_t>(opened.size()), options);
 }
 
-Pcm decodeImage(std::span<const std::byte> image, const DecodingOptions& options)
+Pcm decodeImage(std::span<const std::byte> image, const std::string& name,
+                const DecodingOptions& options)
 {
     SF_VIRTUAL_IO callbacks{};
     callbacks.get_filelen = [](void* data) -> sf_count_t {
@@ -132,7 +136,37 @@ Pcm decodeImage(std::span<const std::byte> image, const DecodingOptions& options
     const SoundFile file(sf_open_virtual(&callbacks, SFM_READ, &info, &reader), sf_close);
     if (!file)
         throw openError("ExtAudioFileWrapAudioFileID");
-    return decode(file.get(), info, kEmbedded, image.size(), options);
+    return decode(file.get(), info, name, image.size(), options);
+}
+
+/// True for the formats whose decoding takes time.
+bool isCompressed(std::span<const std::byte> start)
+{
+    const auto begins = [start](std::string_view magic) {
+        return std::ranges::equal(start.first(std::min(start.size(), magic.size())),
+                                  std::as_bytes(std::span(magic)));
+    };
+    return begins("fLaC") || begins("OggS") || isWavPack(start);
+}
+
+/// Decodes a file, or takes its samples from the cache. What a damaged file gives is not cached,
+/// since another time the damage may be refused.
+Pcm decodeBytes(std::span<const std::byte> image, const std::string& name,
+                const DecodingOptions& options)
+{
+    const bool mustBeWhole = options.damage == Damage::Refused;
+    DecodedCache* cache = mustBeWhole && isCompressed(image) ? options.cache : nullptr;
+    const DecodedCache::Form form{options.to16Bit, options.toMono};
+    if (cache != nullptr)
+        if (auto pcm = cache->find(image, form, *options.memory))
+            return std::move(*pcm);
+    if (mustBeWhole)
+        checkWholeness(image);
+    Pcm pcm =
+        isWavPack(image) ? decodeWavPack(image, name, options) : decodeImage(image, name, options);
+    if (cache != nullptr)
+        cache->store(image, form, pcm);
+    return pcm;
 }
 
 } // namespace
@@ -143,11 +177,9 @@ try {
     std::array<std::byte, 4> magic{};
     file.read(0, magic);
     return logErrors(path.string(), [&] {
-        if (isWavPack(magic))
-            return decodeWavPack(readFile(path), path.string(), options);
-        if (options.damage == Damage::Refused)
-            checkWholeness(readFile(path));
-        return decodeOpenFile(file, path.string(), options);
+        return isWavPack(magic) || options.damage == Damage::Refused
+                   ? decodeBytes(readFile(path), path.string(), options)
+                   : decodeOpenFile(file, path.string(), options);
     });
 } catch (const std::system_error& error) {
     const Logger log = logger("audio");
@@ -159,13 +191,7 @@ try {
 
 Pcm decodeAudio(std::span<const std::byte> image, const DecodingOptions& options)
 {
-    return logErrors(kEmbedded, [&] {
-        if (isWavPack(image))
-            return decodeWavPack(image, kEmbedded, options);
-        if (options.damage == Damage::Refused)
-            checkWholeness(image);
-        return decodeImage(image, options);
-    });
+    return logErrors(kEmbedded, [&] { return decodeBytes(image, kEmbedded, options); });
 }
 
 } // namespace velmora

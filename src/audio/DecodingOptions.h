@@ -6,6 +6,8 @@
 
 namespace velmora {
 
+class DecodedCache;
+
 /// What becomes of a damaged sound file.
 enum class Damage : std::uint8_t {
     Kept,    ///< What can be decoded is the sound.
@@ -20,6 +22,9 @@ struct DecodingOptions {
 
     /// What grants the memory for the samples; must outlive the decoding.
     MemoryGuard* memory = &MemoryGuard::machine();
+
+    /// Where the samples of compressed files are kept; null if they are not.
+    DecodedCache* cache = nullptr;
 };
 
 } // namespace velmora

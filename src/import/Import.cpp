@@ -1,5 +1,9 @@
 #include "import/Import.h"
 
+#include "audio/DecodedCache.h"
+
+#include <QStandardPaths>
+
 #include <algorithm>
 
 namespace velmora {
@@ -14,10 +18,19 @@ void Import::finish()
     stops.front().volume = kDrawn;
 }
 
+DecodedCache& decodedSamples()
+{
+    constexpr std::uint64_t kMostBytes = std::uint64_t{8} << 30U;
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+    static DecodedCache cache(folder.toStdString() + "/velmora/samples", kMostBytes);
+    return cache;
+}
+
 DecodingOptions Import::decoding() const
 {
     const bool isMusical = options.reading == Reading::Musical;
-    return {isMusical ? Damage::Refused : Damage::Kept, options.to16Bit, options.toMono, memory};
+    return {isMusical ? Damage::Refused : Damage::Kept, options.to16Bit, options.toMono, memory,
+            isMusical ? &decodedSamples() : nullptr};
 }
 
 } // namespace velmora

@@ -14,6 +14,11 @@
 
 namespace velmora {
 
+class DecodedCache;
+
+/// The samples of this user's compressed sound files, at most 8 GB of them.
+DecodedCache& decodedSamples();
+
 /// The result of an import while it is being built. Importers throw FormatError if the file cannot
 /// be used and Cancelled if the host cancels; the unfinished result is then discarded.
 struct Import {

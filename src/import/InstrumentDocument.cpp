@@ -1,5 +1,6 @@
 #include "import/InstrumentDocument.h"
 
+#include "audio/DecodedCache.h"
 #include "base/File.h"
 #include "base/FormatError.h"
 #include "base/Log.h"
@@ -100,6 +101,7 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
         }
         Import import(host, options);
         readInto(import, path, format);
+        decodedSamples().trim();
         cleanNames(import);
         instrument_ = std::move(import.instrument);
         name_ = std::move(import.name);

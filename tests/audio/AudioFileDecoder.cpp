@@ -1,5 +1,6 @@
 #include "audio/AudioFileDecoder.h"
 
+#include "audio/DecodedCache.h"
 #include "audio/PcmBuilder.h"
 #include "audio/WavPackDecoder.h"
 #include "base/File.h"
@@ -223,6 +224,52 @@ TEST(AudioFileDecoder, SavesMemory)
     EXPECT_THROW(decodeAudioFile(write(kFlac, 1, Words(5)), options), MemoryShortage);
     options.to16Bit = true;
     EXPECT_NO_THROW(decodeAudioFile(write(kFlac, 1, Words(5)), options));
+}
+
+TEST(DecodedCache, KeepsTheSamplesOfCompressedFiles)
+{
+    const OrganFolder folder;
+    constexpr std::uint64_t kSize = 40 + 4 * 8; // of an entry with a header and eight floats
+    const auto entries = [&] {
+        const std::filesystem::directory_iterator all(folder.path());
+        return std::vector<std::filesystem::directory_entry>(begin(all), end(all));
+    };
+    DecodedCache cache(folder.path(), 2 * kSize);
+    const DecodingOptions options{.damage = Damage::Refused, .cache = &cache};
+    const auto file = readFile(write(kFlac, 2, kWords));
+    decodeAudio(readFile(write(kWav, 2, kWords)), options);
+    EXPECT_TRUE(entries().empty()) << "reading it is fast already";
+    EXPECT_EQ(decodeAudio(file, options).floats, kWhole);
+    ASSERT_EQ(entries().size(), 1U);
+
+    const auto found = cache.find(file, {}, *options.memory);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->floats, kWhole);
+    EXPECT_EQ(std::pair(found->channels, found->rate), std::pair(2, 44100.0));
+    EXPECT_FALSE(cache.find(file, {.is16Bit = true}, *options.memory));
+
+    const auto entry = entries().front().path();
+    for (const std::size_t at : {std::size_t{3}, std::size_t{12}, std::size_t{20}, kSize - 1}) {
+        const auto whole = readTextFile(entry);
+        auto changed = whole;
+        changed[at] ^= 1;
+        for (const auto& damaged : {changed, whole.substr(0, at)}) {
+            std::ofstream(entry, std::ios::binary) << damaged;
+            EXPECT_FALSE(cache.find(file, {}, *options.memory)) << at;
+            cache.trim();
+            EXPECT_EQ(decodeAudio(file, options).floats, kWhole) << at;
+        }
+    }
+
+    for (const int other : {1, 2}) {
+        cache.trim();
+        cache.find(file, {}, *options.memory); // used last
+        decodeAudio(readFile(write(kFlac, 1, Words(8, other << 20))), options);
+    }
+    EXPECT_EQ(entries().size(), 3U);
+    cache.trim();
+    EXPECT_EQ(entries().size(), 2U);
+    EXPECT_TRUE(std::filesystem::exists(entry)) << "what was used last is kept";
 }
 
 } // namespace velmora
