@@ -21,6 +21,7 @@ namespace {
 
 void readInto(Import& import, const std::filesystem::path& path, InstrumentFormat format)
 {
+    const bool isMusical = import.options.reading == Reading::Musical;
     switch (format) {
     case InstrumentFormat::HauptwerkXml:
         readXML(path, import);
@@ -29,10 +30,16 @@ void readInto(Import& import, const std::filesystem::path& path, InstrumentForma
         readHauptwerk1(path, import);
         break;
     case InstrumentFormat::SoundFont:
-        readSoundFont(path, import);
+        if (isMusical && import.options.asStops)
+            readSoundFontStops(path, import);
+        else
+            readSoundFont(path, import);
         break;
     case InstrumentFormat::GigaSampler:
-        readGigaSampler(path, import);
+        if (isMusical)
+            readGigaInstrument(path, import);
+        else
+            readGigaSampler(path, import);
         break;
     case InstrumentFormat::Exs:
         break;

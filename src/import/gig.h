@@ -40,4 +40,12 @@ void readGigaSampler(const std::filesystem::path& path, Import& import);
 /// Imports a bank that is already open.
 void readGigaSampler(const RIFF::File& file, Import& import);
 
+/// Imports an instrument of a GigaSampler bank as its maker meant it: its regions lie on their own
+/// keys, with tuning, loops, stereo, velocity layers and releases. Which one is the import's choice
+/// if there are several. Each layer becomes a stop. Throws as above.
+void readGigaInstrument(const std::filesystem::path& path, Import& import);
+
+/// Imports an instrument of a bank that is already open.
+void readGigaInstrument(const RIFF::File& file, Import& import);
+
 } // namespace velmora

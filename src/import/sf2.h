@@ -18,4 +18,12 @@ void readSoundFont(const std::filesystem::path& path, Import& import);
 /// Imports a bank that is already open.
 void readSoundFont(const RIFF::File& file, Import& import);
 
+/// Imports a SoundFont 2 bank as its maker meant the sounds: each of its instruments becomes a stop
+/// with loops, tuning, stereo and velocity layers. Envelopes, filters and modulators are ignored.
+/// Throws as above.
+void readSoundFontStops(const std::filesystem::path& path, Import& import);
+
+/// Imports a bank that is already open.
+void readSoundFontStops(const RIFF::File& file, Import& import);
+
 } // namespace velmora
