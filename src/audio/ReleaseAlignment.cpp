@@ -28,7 +28,7 @@ constexpr double kCrossfadePeriods = 2.0;
 constexpr double kShortestCrossfade = 0.006;
 constexpr double kLongestCrossfade = 0.03;
 
-constexpr double kMaximumGain = 4.0;
+constexpr double kHighestRatio = 4.0;
 
 /// The sum of the products of two sounds, and of the squares of the second.
 struct Match {
@@ -195,7 +195,7 @@ ReleaseAlignment::ReleaseAlignment(const Pcm& attack, double attackPitch, const 
         const double other = from.compare(first, to, static_cast<std::size_t>(best), points).energy;
         entries_[i] = {static_cast<float>(best + shift),
                        other > 0.0
-                           ? static_cast<float>(std::min(std::sqrt(energy / other), kMaximumGain))
+                           ? static_cast<float>(std::min(std::sqrt(energy / other), kHighestRatio))
                            : 1.0F};
     }
 }

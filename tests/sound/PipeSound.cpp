@@ -7,16 +7,21 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <atomic>
+#include <chrono>
 #include <cmath>
 #include <functional>
 #include <numbers>
 #include <span>
+#include <string>
+#include <thread>
 
 namespace velmora {
 
 namespace {
 
-constexpr double kRate = 48000.0;
+constexpr double kPipeRate = 48000.0;
 constexpr int kKey = 60;
 
 double turn(double turns)
@@ -78,7 +83,7 @@ protected:
 
     std::vector<float> render(double seconds)
     {
-        return rendered(*instrument_.source(), static_cast<std::size_t>(seconds * kRate)).left;
+        return rendered(*instrument_.source(), static_cast<std::size_t>(seconds * kPipeRate)).left;
     }
 
     ALInstrument instrument_;
@@ -106,14 +111,14 @@ TEST_F(PipeTest, ReleasesInPhaseAndAtTheLevelOfTheNote)
             sample().play(0.5F);
             render(held);
             const auto window =
-                static_cast<std::size_t>(kRate * std::ceil(0.004 * hertz) / hertz / 1.03);
+                static_cast<std::size_t>(kPipeRate * std::ceil(0.004 * hertz) / hertz / 1.03);
             const std::vector<float> before = render(0.1);
             const double heldLevel = level(std::span(before).last(window));
             sample().stop();
             const std::vector<float> after = render(0.5);
             EXPECT_LT(sharpness(std::span(after).first(4800)), 1.15 * sharpness(before));
             for (std::size_t i = 0; i < 4800; i += 20) {
-                const double time = static_cast<double>(i + window / 2) / kRate;
+                const double time = static_cast<double>(i + window / 2) / kPipeRate;
                 ASSERT_NEAR(level(std::span(after).subspan(i, window)) * std::exp(1.03 * time),
                             heldLevel, 0.1 * heldLevel)
                     << "after " << time << " s";
@@ -141,11 +146,126 @@ TEST_F(PipeTest, LoopsWithoutAClickAndInTune)
         EXPECT_LT(sharpness(std::span(heard).subspan(24000)),
                   1.1 * sharpness(std::span(heard).subspan(4800, 9600)))
             << hertz;
-        const double pitch = measuredHertz(std::span(heard).last(48000), kRate, hertz);
+        const double pitch = measuredHertz(std::span(heard).last(48000), kPipeRate, hertz);
         EXPECT_NEAR(cents(pitch, hertz), 0.0, 0.25) << hertz;
         instrument_.silence();
         render(0.1);
     }
+}
+
+/// A steady sound, so that the level tells which one is heard.
+Pcm steady(double level, double seconds = 10.0)
+{
+    return recorded(static_cast<std::size_t>(seconds * kPipeRate), kPipeRate,
+                    [level](double) { return level; });
+}
+
+TEST_F(PipeTest, ChoosesAttacksByVelocityAndInTurn)
+{
+    const std::array levels{&add(steady(0.1)), &add(steady(0.2)), &add(steady(0.3))};
+    sample().addAttack({levels[0], 440.0, 1.0F, 0.0F, 0.4F});
+    sample().addAttack({levels[1], 440.0, 1.0F, 0.6F, 1.0F});
+    sample().addAttack({levels[2], 440.0, 8.0F, 0.6F, 1.0F});
+    float unit = 0.0F;
+    std::string heard;
+    for (const float velocity : {0.2F, 0.8F, 0.3F, 0.8F, 0.8F, 0.45F, 0.55F}) {
+        instrument_.play(kKey, velocity);
+        const std::vector<float> sound = render(0.05);
+        if (unit == 0.0F)
+            unit = sound.back();
+        heard += " " + std::to_string(std::lround(sound.back() / unit));
+        EXPECT_EQ(instrument_.renderer().voices(), 1U) << "what sounded before has ended";
+    }
+    EXPECT_EQ(heard, " 1 2 1 24 2 1 24");
+}
+
+TEST_F(PipeTest, ReleasesByHowLongTheKeyWasHeld)
+{
+    const Sound& attack = add(steady(0.1), Loop{1000, 20000});
+    const Sound& brief = add(steady(0.2, 2.0), {}, &attack);
+    const Sound& lasting = add(steady(0.3, 2.0), {}, &attack);
+    sample().addAttack({&attack, 440.0, 0.5F});
+    sample().addRelease({&lasting, 440.0});
+    sample().addRelease({&brief, 440.0, 2.0F, 0.5});
+    instrument_.play(kKey, 1.0F);
+    const float unit = 2.0F * render(0.4).back();
+    instrument_.stop(kKey);
+    EXPECT_NEAR(render(1.5).back(), 4.0F * unit, 0.01F * unit) << "does not fade";
+    render(0.6);
+    EXPECT_EQ(peak(render(0.01)), 0.0F);
+    instrument_.play(kKey, 1.0F);
+    render(0.6);
+    instrument_.stop(kKey);
+    EXPECT_NEAR(render(1.5).back(), 3.0F * unit, 0.01F * unit);
+    for (int tick = 0; tick < 2 * 60 - 1; ++tick)
+        instrument_.fade(0.9);
+    EXPECT_TRUE(instrument_.isSounding());
+    for (int tick = 0; tick < 3; ++tick)
+        instrument_.fade(0.9);
+    EXPECT_FALSE(instrument_.isSounding());
+}
+
+TEST_F(PipeTest, PlaysPercussionToItsEnd)
+{
+    sample().addAttack({&add(steady(0.1, 1.0)), 440.0});
+    sample().setPercussive();
+    instrument_.play(kKey, 1.0F);
+    const float unit = render(0.1).back();
+    instrument_.stop(kKey);
+    EXPECT_NEAR(render(0.85).back(), unit, 0.001F * unit);
+    render(0.2);
+    EXPECT_EQ(peak(render(0.01)), 0.0F);
+}
+
+TEST_F(PipeTest, SwellsWithoutSteps)
+{
+    sample().addAttack({&add(steady(0.1)), 440.0});
+    instrument_.stops()[0].swell = 1;
+    instrument_.play(kKey, 1.0F);
+    const float unit = render(0.1).back();
+    instrument_.setSwell(1, 0.25F);
+    instrument_.setSwell(2, 0.0F); // of other stops
+    std::vector<float> heard = render(0.3);
+    EXPECT_NEAR(heard.back(), 0.25F * unit, 0.001F * unit);
+    for (std::size_t i = 1; i < heard.size(); ++i)
+        ASSERT_LT(std::fabs(heard[i] - heard[i - 1]), 0.002F * unit) << "at frame " << i;
+    instrument_.stop(kKey);
+    EXPECT_NEAR(render(1.0 / 60.0).back(), 0.9F * 0.25F * unit, 0.005F * unit);
+    instrument_.silence();
+    render(0.1);
+    instrument_.setSwell(1, 0.5F);
+    instrument_.play(kKey, 1.0F);
+    EXPECT_NEAR(render(0.001).back(), 0.5F * unit, 0.001F * unit) << "moved in silence";
+}
+
+TEST_F(PipeTest, GrowsWhileItSounds)
+{
+    constexpr int kAdded = 100;
+    instrument_.renderer().reserve(kAdded, 1 << 20);
+    AudioSource& source = *instrument_.source();
+    std::atomic<bool> isDone{false};
+    std::jthread player([&] {
+        while (!isDone) {
+            rendered(source, 128);
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    });
+    const Pcm sound = steady(0.01, 0.1);
+    for (int key = 0; key < kAdded; ++key) {
+        const Sound& attack = add(sound, Loop{100, 4800});
+        const Sound& release = add(sound, {}, &attack);
+        Sample& sample = instrument_.stops()[0].samples[static_cast<std::size_t>(key)];
+        sample.addAttack({&attack, 440.0});
+        sample.addRelease({&release, 440.0});
+        instrument_.source();
+        instrument_.play(key, 1.0F);
+        if (key % 2 == 1)
+            instrument_.stop(key - 1);
+    }
+    isDone = true;
+    player.join();
+    rendered(source, 48000);
+    EXPECT_EQ(instrument_.renderer().voices(), kAdded / 2U) << "the held keys";
 }
 
 } // namespace
