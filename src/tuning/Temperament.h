@@ -31,9 +31,15 @@ public:
     /// Returns the current tuning of a MIDI key's pitch class.
     virtual const Tuning& getTuning(unsigned long key) const;
 
+    /// Sets the time of the calls that follow, in seconds; only differences count.
+    virtual void setTime(double /*seconds*/) {}
+
     /// Prepares for a key that is about to be played. An adaptive temperament retunes the
     /// instrument here.
     virtual void setup(Tunable& instrument, unsigned char key, float velocity);
+
+    /// Notes that a key that was prepared no longer sounds.
+    virtual void release(unsigned char /*key*/) {}
 
     /// Forces a spelling of a pitch class and plays it. DynamicTemperament defines the meaning of
     /// `n`; other temperaments do nothing.

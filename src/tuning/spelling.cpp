@@ -1,16 +1,12 @@
 #include "tuning/spelling.h"
 
+#include "tuning/meantoneGamut.h"
+
 #include <cmath>
 
 namespace velmora {
 
 namespace {
-
-/// The meantone fifth in cents. Four of them make two octaves and a pure third.
-constexpr double kFifth = 696.5784284662087;
-
-/// The length of the chain of fifths on either side of C.
-constexpr int kFarthest = 15;
 
 constexpr double kTolerance = 2.0; ///< In cents.
 
@@ -28,8 +24,8 @@ std::string nameOf(int fifths)
 
 std::string spelling(double cents)
 {
-    for (int fifths = -kFarthest; fifths <= kFarthest; ++fifths)
-        if (std::abs(std::remainder(fifths * kFifth - cents, 1200.0)) < kTolerance)
+    for (int fifths = -meantone::kFarthest; fifths <= meantone::kFarthest; ++fifths)
+        if (std::abs(std::remainder(fifths * meantone::kFifth - cents, 1200.0)) < kTolerance)
             return nameOf(fifths);
     return {};
 }
