@@ -18,8 +18,6 @@ namespace velmora {
 
 namespace {
 
-constexpr const char* kDynamic = "Dynamic";
-
 /// The rate of the engine if there is no output.
 constexpr double kDefaultRate = 48000.0;
 
@@ -299,8 +297,9 @@ std::vector<std::string> AppDelegate::tuningNames() const
     std::vector<std::string> names;
     for (const auto& document : tuningDocuments_)
         names.push_back(document->name());
-    if (!tunings_.contains(kDynamic))
-        names.emplace_back(kDynamic);
+    for (std::string& name : TuningDocument::adaptiveNames())
+        if (!tunings_.contains(name))
+            names.push_back(std::move(name));
     return names;
 }
 
@@ -312,7 +311,7 @@ std::string AppDelegate::getTuningDescription(const std::string& name) const
 
 bool AppDelegate::selectTuning(const std::string& name)
 {
-    if (name == kDynamic && !tunings_.contains(name))
+    if (!tunings_.contains(name) && TuningDocument::isBuiltin(name))
         putTuning(TuningDocument::makeBuiltin(name));
     const auto found = tunings_.find(name);
     if (found != tunings_.end())

@@ -152,7 +152,8 @@ public:
     /// The name of the current tuning.
     const std::string& tuningName() const { return tuningName_; }
 
-    /// The names of all listed tunings in the order in which they were added, and "Dynamic". A name
+    /// The names of all listed tunings in the order in which they were added, and those of the
+    /// adaptive ones. A name
     /// that was added twice appears twice.
     std::vector<std::string> tuningNames() const;
 
@@ -160,8 +161,8 @@ public:
     std::string getTuningDescription(const std::string& name) const;
 
     /// Makes the tuning of that name the current one and retunes the instrument, including sounding
-    /// keys. "Dynamic" is created and listed when it is first selected. Returns false, and keeps
-    /// the current one, if there is no tuning of that name.
+    /// keys. An adaptive or historical tuning is created and listed when it is first selected.
+    /// Returns false, and keeps the current one, if there is no tuning of that name.
     bool selectTuning(const std::string& name);
 
     void keyOn(int key, float velocity) override { player_.keyOn(key, velocity); }

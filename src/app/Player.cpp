@@ -152,6 +152,9 @@ void Player::silence()
     const std::lock_guard lock(mutex_);
     liveKeys_.clear();
     holders_.clear();
+    if (temperament_ != nullptr)
+        for (std::size_t key = 0; key < kKeys; ++key)
+            temperament_->release(static_cast<unsigned char>(key));
     for (auto& [instrument, keys] : instruments_) {
         instrument->silence();
         keys.reset();
@@ -177,6 +180,7 @@ void Player::start(int key, float velocity, double time)
     if (instrument_ == nullptr || temperament_ == nullptr)
         return;
     instrument_->setDue(time);
+    temperament_->setTime(time);
     temperament_->setup(*instrument_, static_cast<unsigned char>(key), velocity);
     instrument_->play(key, velocity);
     markCurrent(key);
@@ -185,6 +189,10 @@ void Player::start(int key, float velocity, double time)
 // See docs/decisions.md, 30.
 void Player::stopEverywhere(std::size_t key, double time)
 {
+    if (temperament_ != nullptr) {
+        temperament_->setTime(time);
+        temperament_->release(static_cast<unsigned char>(key));
+    }
     for (auto& [instrument, keys] : instruments_) {
         if (instrument == instrument_ || keys[key]) {
             instrument->setDue(time);

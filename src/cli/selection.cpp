@@ -5,6 +5,7 @@
 #include "cli/ProgressLine.h"
 #include "cli/commands.h"
 #include "cli/names.h"
+#include "tuning/historicalTemperaments.h"
 
 #include <algorithm>
 
@@ -14,14 +15,19 @@ namespace {
 
 std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
 {
-    static const std::vector<std::string> kBuiltins = {"Equal", "Quartercomma Meantone", "Dynamic"};
     const auto format = tuningFormatOf(name);
     if (!format) {
-        if (const auto builtin = findName(kBuiltins, name))
-            return TuningDocument::makeBuiltin(kBuiltins[*builtin]);
+        // "meantone" alone stands for the first of them.
+        std::vector<std::string> historical;
+        for (const HistoricalTemperament& each : historicalTemperaments())
+            historical.emplace_back(each.name);
+        for (const auto& names : {std::vector<std::string>{"Equal", "Quartercomma Meantone"},
+                                  TuningDocument::adaptiveNames(), historical})
+            if (const auto builtin = findName(names, name))
+                return TuningDocument::makeBuiltin(names[*builtin]);
         throw UsageError("there is no tuning \"" + name +
-                         "\"; use Equal, \"Quartercomma Meantone\", Dynamic, or a .scl or .mtx "
-                         "file");
+                         "\"; use the name of one, such as Equal, \"Following Meantone\" or "
+                         "\"Werckmeister III\", or a .scl or .mtx file");
     }
     auto document = std::make_unique<TuningDocument>();
     if (!document->read(name, *format))

@@ -5,7 +5,10 @@
 #include "base/Log.h"
 #include "base/Text.h"
 #include "tuning/DynamicTemperament.h"
+#include "tuning/PureTemperament.h"
+#include "tuning/historicalTemperaments.h"
 
+#include <algorithm>
 #include <new>
 
 namespace velmora {
@@ -19,11 +22,31 @@ std::unique_ptr<TuningDocument> TuningDocument::makeBuiltin(const std::string& n
     document->name_ = name;
     if (name == "Dynamic")
         document->temperament_ = std::make_unique<DynamicTemperament>();
+    else if (name == "Following Meantone")
+        document->temperament_ = std::make_unique<FollowingMeantone>();
+    else if (name == "Pure")
+        document->temperament_ = std::make_unique<PureTemperament>();
     else if (name == "Equal")
         document->temperament_ = std::make_unique<Temperament>(Temperament::Equal());
-    else
+    else if (const auto* historical = findHistoricalTemperament(name)) {
+        document->temperament_ = std::make_unique<Temperament>(historical->make());
+        document->description_ = historical->source;
+    } else {
         document->temperament_ = std::make_unique<Temperament>(Temperament::Meantone());
+    }
     return document;
+}
+
+std::vector<std::string> TuningDocument::adaptiveNames()
+{
+    return {"Dynamic", "Following Meantone", "Pure"};
+}
+
+bool TuningDocument::isBuiltin(const std::string& name)
+{
+    const auto adaptive = adaptiveNames();
+    return std::ranges::find(adaptive, name) != adaptive.end() ||
+           findHistoricalTemperament(name) != nullptr;
 }
 
 bool TuningDocument::read(const std::filesystem::path& path, TuningFormat format)

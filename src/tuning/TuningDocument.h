@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace velmora {
 
@@ -15,8 +16,15 @@ public:
     /// Creates a document whose temperament has no tunings until `read` succeeds.
     TuningDocument();
 
-    /// Creates "Equal", "Dynamic", or quarter-comma meantone under any other name.
+    /// Creates "Equal", "Dynamic", "Following Meantone", "Pure", a historical temperament by its
+    /// name, or quarter-comma meantone under any other name.
     static std::unique_ptr<TuningDocument> makeBuiltin(const std::string& name);
+
+    /// The names of the adaptive tunings that `makeBuiltin` can create.
+    static std::vector<std::string> adaptiveNames();
+
+    /// True for the name of an adaptive or a historical tuning.
+    static bool isBuiltin(const std::string& name);
 
     /// Reads a tuning file (see `readTuning`) and takes its file name as the document's name.
     /// Returns false on failure; `errorString` then says why, and the temperament is unchanged.
@@ -30,7 +38,8 @@ public:
 
     const std::string& name() const { return name_; }
 
-    /// What a scale file says about itself; empty for every other tuning.
+    /// What a scale file says about itself, or the source of a historical temperament; empty for
+    /// every other tuning.
     const std::string& description() const { return description_; }
 
     /// The file of the last successful `read`; empty for a built-in tuning.

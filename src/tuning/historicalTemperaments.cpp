@@ -1,6 +1,5 @@
 #include "tuning/historicalTemperaments.h"
 
-#include "base/Text.h"
 #include "tuning/Tuning.h"
 
 #include <algorithm>
@@ -96,11 +95,8 @@ Temperament HistoricalTemperament::make() const
 
 const HistoricalTemperament* findHistoricalTemperament(std::string_view name)
 {
-    const std::string wanted = lowerCase(std::string(name));
     const auto all = historicalTemperaments();
-    const auto found = std::ranges::find_if(all, [&](const HistoricalTemperament& each) {
-        return lowerCase(std::string(each.name)) == wanted;
-    });
+    const auto found = std::ranges::find(all, name, &HistoricalTemperament::name);
     return found == all.end() ? nullptr : &*found;
 }
 

@@ -47,7 +47,7 @@ struct HistoricalTemperament {
 /// All of them, group by group.
 std::span<const HistoricalTemperament> historicalTemperaments();
 
-/// Returns the one of that name, in any letter case; null if there is none.
+/// Returns the one of that name; null if there is none.
 const HistoricalTemperament* findHistoricalTemperament(std::string_view name);
 
 } // namespace velmora

@@ -9,6 +9,7 @@
 #include "support/Sine.h"
 #include "support/Stereo.h"
 #include "tuning/DynamicTemperament.h"
+#include "tuning/FollowingMeantone.h"
 
 #include <gtest/gtest.h>
 
@@ -193,6 +194,28 @@ TEST_F(PlayerTest, AKeySoundsUntilItsLastHolderReleasesIt)
     player_.keyOn(kKey + 1, 0.5F, piano);
     player_.keyOff(kKey + 1, piano);
     EXPECT_EQ(calls_, (Calls{"stop 60", "play 61 0.50", "stop 61"})) << "its pedals are up";
+}
+
+TEST_F(PlayerTest, TheTemperamentKnowsWhichKeysSound)
+{
+    FollowingMeantone following;
+    const auto isHeld = [&] { return following.follower().isHeld(kKey % 12); };
+    player_.setInstrument(other_);
+    player_.setTemperament(following);
+    player_.keyOn(kKey, 0.5F, kMouse, 1.0);
+    player_.play(kKey, 0.5F, 2.0);
+    player_.keyOff(kKey, kMouse, 3.0);
+    EXPECT_TRUE(isHeld()) << "the sequence still holds it";
+    player_.stop(kKey, 4.0);
+    EXPECT_FALSE(isHeld());
+    const double before = following.follower().centre();
+    player_.keyOn(kKey + 2, 0.5F, kMouse, 9.0);
+    player_.keyOff(kKey + 2, kMouse, 60.0);
+    EXPECT_NE(following.follower().centre(), before) << "time makes it forget";
+    player_.keyOn(kKey, 0.5F, kMouse, 61.0);
+    player_.silence();
+    EXPECT_FALSE(isHeld());
+    player_.setTemperament(temperament_);
 }
 
 } // namespace velmora

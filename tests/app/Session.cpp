@@ -21,8 +21,8 @@ public:
 };
 
 /// An application with the built-in tunings and the General MIDI player.
-struct Program : AppDelegate {
-    Program()
+struct SessionProgram : AppDelegate {
+    SessionProgram()
     {
         makeBuiltinTunings();
         makeMIDIPlayer(std::make_unique<SilentSynthesizer>());
@@ -151,7 +151,7 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
     session.tunings = {scale, folder.path() / "gone.scl"};
     session.tuning = "a.scl";
     session.transposition = -2;
-    Program program;
+    SessionProgram program;
     for (const char* time : {"the first time", "and again, beside itself"}) {
         EXPECT_THAT(openSession(session, program),
                     ElementsAre("gone.scl: cannot be read (No such file or directory)",

@@ -9,6 +9,8 @@ TuningText tuningText(const AppDelegate& application, const std::string& name)
 {
     const QString file = QString::fromStdString(name);
     const QString description = QString::fromStdString(application.getTuningDescription(name));
+    if (TuningDocument::isBuiltin(name) && !description.isEmpty())
+        return {file, description};
     if (!description.isEmpty())
         return {description, file};
     if (name == "Equal")
@@ -17,6 +19,11 @@ TuningText tuningText(const AppDelegate& application, const std::string& name)
         return {TuningPanel::tr("Quartercomma Meantone"), TuningPanel::tr("Pure major thirds")};
     if (name == "Dynamic")
         return {TuningPanel::tr("Dynamic"), TuningPanel::tr("Adapts its thirds to what you play")};
+    if (name == "Following Meantone")
+        return {TuningPanel::tr("Following Meantone"),
+                TuningPanel::tr("Spells each key as the music asks for, with pure thirds")};
+    if (name == "Pure")
+        return {TuningPanel::tr("Pure"), TuningPanel::tr("Makes the chords that you play pure")};
     return {file, {}};
 }
 
