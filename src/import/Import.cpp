@@ -12,10 +12,16 @@ void Import::finish()
 {
     // See docs/decisions.md, 22.
     constexpr float kDrawn = 0.5F; // shown as 1: `getVolume` doubles it
-    auto& stops = instrument->stops();
-    report.ranks = static_cast<std::size_t>(std::ranges::count_if(
-        stops, [](const InstrumentStop& stop) { return stop.keysWithSamples() > 0; }));
-    stops.front().volume = kDrawn;
+    countRanks();
+    instrument->stops().front().volume = kDrawn;
+}
+
+void Import::countRanks()
+{
+    report.ranks = static_cast<std::size_t>(
+        std::ranges::count_if(instrument->stops(), [](const InstrumentStop& stop) {
+            return stop.keysWithSamples() > 0;
+        }));
 }
 
 DecodedCache& decodedSamples()

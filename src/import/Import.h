@@ -33,6 +33,9 @@ struct Import {
     /// How the sound files of the instrument are to be decoded.
     DecodingOptions decoding() const;
 
+    /// Counts the ranks for the report.
+    void countRanks();
+
     std::unique_ptr<ALInstrument> instrument; ///< Never null; starts without stops.
 
     /// The console of an organ whose ranks are the stops of `instrument`.

@@ -6,10 +6,12 @@
 #include "base/Log.h"
 #include "base/Text.h"
 #include "import/Import.h"
+#include "import/PipeOrgan.h"
 #include "import/gig.h"
 #include "import/hauptwerk1.h"
 #include "import/organXml.h"
 #include "import/sf2.h"
+#include "import/xmlPipeOrgan.h"
 #include "sound/ALInstrument.h"
 #include "sound/MIDIInstrument.h"
 
@@ -24,7 +26,10 @@ void readInto(Import& import, const std::filesystem::path& path, InstrumentForma
     const bool isMusical = import.options.reading == Reading::Musical;
     switch (format) {
     case InstrumentFormat::HauptwerkXml:
-        readXML(path, import);
+        if (isMusical)
+            loadPipeOrgan(readXmlPipeOrgan(path), import);
+        else
+            readXML(path, import);
         break;
     case InstrumentFormat::Hauptwerk1:
         readHauptwerk1(path, import);
@@ -52,6 +57,14 @@ void cleanNames(Import& import)
     import.name = toUtf8(import.name);
     for (InstrumentStop& stop : import.instrument->stops())
         stop.name = toUtf8(stop.name);
+    if (import.console) {
+        for (ConsoleDefinition::Division& division : import.console->divisions)
+            division.name = toUtf8(division.name);
+        for (ConsoleDefinition::Stop& stop : import.console->stops)
+            stop.name = toUtf8(stop.name);
+        for (ConsoleDefinition::Coupler& coupler : import.console->couplers)
+            coupler.name = toUtf8(coupler.name);
+    }
     for (std::string& choice : import.choices)
         choice = toUtf8(choice);
     for (auto& [file, why] : import.report.skipped) {

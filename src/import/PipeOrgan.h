@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/Loop.h"
 #include "import/FileTree.h"
 #include "sound/ConsoleDefinition.h"
 
@@ -17,12 +18,6 @@ struct Import;
 
 /// An organ definition in any format, as its maker meant it.
 struct PipeOrgan {
-    /// Sustain loop in frames; `end` is the frame behind the last one of the loop.
-    struct Loop {
-        std::uint32_t begin = 0;
-        std::uint32_t end = 0;
-    };
-
     /// A recording that a pipe starts with. What the definition does not say is taken from the
     /// sample file's own chunks.
     struct Attack {
@@ -32,6 +27,7 @@ struct PipeOrgan {
         bool hasOwnRelease = true;        ///< False if what follows the loops must not be used.
         float softest = 0.0F;             ///< The velocities that it is for.
         float loudest = 1.0F;
+        std::optional<double> hertz{}; ///< How it sounds as recorded, if that is not `Pipe::hertz`.
     };
 
     /// A recording of how a pipe dies away.
@@ -40,6 +36,7 @@ struct PipeOrgan {
         std::optional<std::uint32_t> cue; ///< Its first frame in the file.
         /// It is for keys that were held at most so long, in seconds.
         double longestHeld = std::numeric_limits<double>::infinity();
+        std::optional<double> hertz{}; ///< As for an attack. Without any, it is that of the attack.
     };
 
     struct Pipe {

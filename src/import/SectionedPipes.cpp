@@ -37,9 +37,9 @@ double longestHeld(const OrganSection& section, const std::string& prefix)
     return milliseconds < 0 ? std::numeric_limits<double>::infinity() : milliseconds / 1000.0;
 }
 
-std::vector<PipeOrgan::Loop> loops(const OrganSection& section, const std::string& prefix)
+std::vector<Loop> loops(const OrganSection& section, const std::string& prefix)
 {
-    std::vector<PipeOrgan::Loop> result;
+    std::vector<Loop> result;
     for (int i = 1; i <= count(section, prefix + "loopcount"); ++i) {
         const auto begin = frame(section, fmt::format("{}loop{}start", prefix, i));
         const auto last = frame(section, fmt::format("{}loop{}end", prefix, i));

@@ -69,10 +69,10 @@ void readSampler(const RIFF::Chunk& chunk, SampleChunks& result)
 }
 
 std::optional<std::uint32_t> releaseMarker(const RIFF::Chunk& chunk,
-                                           const std::vector<PipeOrgan::Loop>& loops)
+                                           const std::vector<Loop>& loops)
 {
     std::uint32_t loopsEnd = 0;
-    for (const PipeOrgan::Loop& loop : loops)
+    for (const Loop& loop : loops)
         loopsEnd = std::max(loopsEnd, loop.end);
     const auto counts = recordsAt<std::uint32_t>(chunk, 0, 1);
     std::vector<std::uint32_t> frames;

@@ -17,7 +17,7 @@ struct SampleChunks {
     /// fraction is that of a semitone. Empty without a sampler chunk.
     std::optional<double> note;
 
-    std::vector<PipeOrgan::Loop> loops; ///< The forward loops, none of them empty.
+    std::vector<Loop> loops; ///< The forward loops, none of them empty.
 
     /// The frame at which the release is marked: the first marker at or behind the end of the
     /// loops, or else the last one.
