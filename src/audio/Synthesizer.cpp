@@ -19,15 +19,6 @@ std::size_t channelOf(int status)
     return static_cast<std::size_t>(status & midi::kChannelMask);
 }
 
-/// The index of a channel's own lane. Channel 9 is General MIDI's percussion, and nothing is played
-/// on channels 13 to 15.
-std::optional<std::size_t> ownLaneOf(std::size_t channel)
-{
-    if (channel < 9)
-        return channel;
-    return channel >= 10 && channel <= 12 ? std::optional(channel - 1) : std::nullopt;
-}
-
 /// Returns the cents of a pitch bend, whose value is clamped to 14 bits.
 double centsOf(int data1, int data2)
 {
@@ -41,36 +32,46 @@ Synthesizer::Synthesizer(double rate, const std::vector<std::filesystem::path>& 
     : rate_(rate), reverb_(rate)
 {
     quietSoundLibraries();
-    auto first = std::make_unique<SynthesizerLane>(rate);
-    const auto loaded = std::ranges::find_if(banks, [&](const std::filesystem::path& path) {
-        if (first->loadBank(path.c_str()))
-            return true;
-        logger("audio").warn("cannot load the SoundFont {}", path.string());
-        return false;
-    });
-    if (loaded == banks.end()) {
+    for (auto path = banks.begin(); path != banks.end() && !bank_; ++path) {
+        try {
+            bank_.emplace(*path);
+        } catch (const std::runtime_error&) {
+            logger("audio").warn("cannot load the SoundFont {}", path->string());
+        }
+    }
+    if (!bank_) {
         logger("audio").warn("no SoundFont: the General MIDI synthesizer is silent");
         return;
     }
-    bank_ = *loaded;
-    lanes_.push_back(std::move(first));
     while (lanes_.size() < kLanes)
-        lanes_.push_back(std::make_unique<SynthesizerLane>(rate, lanes_.front().get()));
+        lanes_.push_back(std::make_unique<SynthesizerLane>(rate, *bank_));
     for (std::size_t i = 0; i < kOwnLanes; ++i)
         ownLanes_[i] = i;
 }
 
-Synthesizer::~Synthesizer()
+/// The index of a channel's own lane. Nothing is played on channels 13 to 15.
+std::optional<std::size_t> Synthesizer::ownLaneOf(std::size_t channel)
 {
-    // The first lane owns the bank that the others borrow.
-    while (!lanes_.empty())
-        lanes_.pop_back();
+    constexpr std::size_t kPercussion = 9;
+    if (channel == kPercussion)
+        return kPercussionLane;
+    if (channel >= kOwnLanes)
+        return std::nullopt;
+    return channel < kPercussion ? channel : channel - 1;
+}
+
+std::vector<Program> Synthesizer::programs() const
+{
+    return bank_ ? bank_->programs() : std::vector<Program>();
 }
 
 void Synthesizer::midiEvent(int status, int data1, int data2)
 {
-    if ((status & midi::kKindMask) != midi::kPitchBend) {
-        send({due_, status, data1, data2, 0.0});
+    const int kind = status & midi::kKindMask;
+    if (kind != midi::kPitchBend) {
+        const auto key = static_cast<std::size_t>(data1);
+        const bool isCorrected = kind == midi::kNoteOn && key < corrections_.size();
+        send({due_, status, data1, data2, isCorrected ? corrections_[key] : 0.0});
         return;
     }
     // Retuning sends the bends of all channels, and most of them are unchanged.
@@ -120,7 +121,7 @@ void Synthesizer::apply(const Event& event)
         forLanes(*own, [&](SynthesizerLane& lane) { lane.noteOff(event.data1); });
         break;
     case midi::kNoteOn:
-        noteOn(*own, event.data1, event.data2);
+        noteOn(*own, event);
         break;
     case midi::kControlChange:
         if (event.data1 == midi::kAllSoundOff)
@@ -141,12 +142,16 @@ void Synthesizer::apply(const Event& event)
     }
 }
 
-void Synthesizer::noteOn(std::size_t own, int key, int velocity)
+void Synthesizer::noteOn(std::size_t own, const Event& event)
 {
     // A key that is struck again is released first, as on a single lane.
-    forLanes(own, [&](SynthesizerLane& lane) { lane.noteOff(key); });
-    if (velocity > 0)
-        laneForNote(own).noteOn(key, velocity);
+    forLanes(own, [&](SynthesizerLane& lane) { lane.noteOff(event.data1); });
+    if (event.data2 == 0)
+        return;
+    if (own == kPercussionLane)
+        lanes_[own]->noteOn(event.data1, event.data2, 0.0);
+    else
+        laneForNote(own).noteOn(event.data1, event.data2, event.cents);
 }
 
 SynthesizerLane& Synthesizer::laneForNote(std::size_t own)
@@ -205,8 +210,13 @@ void Synthesizer::setRate(double rate)
         return;
     rate_ = rate;
     reverb_.emplace(rate);
-    for (const auto& lane : lanes_)
-        lane->setRate(rate);
+    // FluidSynth cannot change its rate.
+    rate = std::max(rate, SynthesizerLane::kLowestRate);
+    for (auto& lane : lanes_) {
+        auto next = std::make_unique<SynthesizerLane>(rate, *bank_);
+        next->follow(*lane);
+        lane = std::move(next);
+    }
 }
 
 void Synthesizer::render(float* left, float* right, std::size_t frames, double start)

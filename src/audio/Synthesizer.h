@@ -27,22 +27,26 @@ public:
     /// Loads the first of `banks` that can be loaded; logs those that cannot. `rate` is in hertz.
     /// Throws std::runtime_error if it is below 8000.
     Synthesizer(double rate, const std::vector<std::filesystem::path>& banks);
-    ~Synthesizer() override;
 
     /// The SoundFont in use; empty if there is none.
-    const std::filesystem::path& bank() const { return bank_; }
+    std::filesystem::path bank() const { return bank_ ? bank_->path() : std::filesystem::path(); }
+
+    /// The programs of that bank.
+    std::vector<Program> programs() const;
 
     /// Plays note-ons, note-offs, controllers, program changes and pitch bends (±200 cents for
-    /// ±8192) on the channels 0…8 and 10…12, when they are due.
+    /// ±8192) on the channels 0…12, when they are due. Channel 9 is for percussion: its notes can
+    /// cut each other off, as those of a hi-hat do.
     void midiEvent(int status, int data1, int data2) override;
 
     void setDue(double time) override { due_ = time; }
     void bend(double cents) override;
+    void setCorrections(const KeyCorrections& corrections) override { corrections_ = corrections; }
     AudioSource* source() override { return this; }
     std::size_t voices() const override { return voices_; }
 
-    /// Keeps the pitch. A synthesizer that is created at the rate sounds cleaner, because
-    /// FluidSynth itself cannot change its rate.
+    /// Ends every note and renders at another rate from now on; takes about 0.1 s. Keeps the
+    /// programs, controllers and bends. The pitch is wrong below 8000 Hz.
     void setRate(double rate) override;
 
     void render(float* left, float* right, std::size_t frames, double start) override;
@@ -52,11 +56,13 @@ private:
         double due;
         int status; ///< kWheel for a bend of all channels.
         int data1, data2;
-        double cents;          ///< Of a bend.
+        double cents;          ///< Of a bend; the correction of a note.
         std::size_t frame = 0; ///< Its place in the block, once that is known.
     };
 
     static constexpr int kWheel = 0;
+
+    static std::optional<std::size_t> ownLaneOf(std::size_t channel);
 
     /// The channels, and one more for the wheel.
     static constexpr std::size_t kOrders = 17;
@@ -65,13 +71,14 @@ private:
     static constexpr std::size_t kQueue = 1 << 14;
 
     /// One for each channel with notes; these come first.
-    static constexpr std::size_t kOwnLanes = 12;
+    static constexpr std::size_t kOwnLanes = 13;
+    static constexpr std::size_t kPercussionLane = kOwnLanes - 1;
     static constexpr std::size_t kLanes = kOwnLanes + 24;
 
     void send(const Event& event);
     void receive();
     void apply(const Event& event);
-    void noteOn(std::size_t own, int key, int velocity);
+    void noteOn(std::size_t own, const Event& event);
     SynthesizerLane& laneForNote(std::size_t own);
     void applyBends(std::size_t own);
     void silence(std::size_t own);
@@ -86,14 +93,15 @@ private:
     }
 
     double rate_;
+    std::optional<SoundFontBank> bank_; ///< The lanes borrow it.
     std::vector<std::unique_ptr<SynthesizerLane>> lanes_;
     std::array<std::size_t, kLanes> ownLanes_{}; ///< Whose channel each lane plays.
     std::array<double, kOwnLanes> bends_{};      ///< Cents, of each channel.
     double wheel_ = 0.0;                         ///< Cents, of all channels.
     std::optional<Reverb> reverb_;
-    std::filesystem::path bank_;
 
-    double due_ = 0.0; ///< Of the next messages.
+    double due_ = 0.0;             ///< Of the next messages.
+    KeyCorrections corrections_{}; ///< Of the next notes.
     /// The last bend, in cents, of each channel and of the wheel.
     std::array<std::atomic<double>, kOrders> sentBends_{};
     LockFreeQueue<Event> queue_{kQueue};

@@ -31,11 +31,13 @@ constexpr double kHighestRate = 96000.0;
 
 } // namespace
 
-SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
-    : synthRate_(rate / std::max(1.0, std::ceil(rate / kHighestRate))), divisor_(rate / synthRate_),
-      settings_(new_fluid_settings(), delete_fluid_settings), synth_(nullptr, delete_fluid_synth)
+SynthesizerLane::SynthesizerLane(double rate, const SoundFontBank& bank)
+    : divisor_(std::max(1.0, std::ceil(rate / kHighestRate))),
+      settings_(new_fluid_settings(), delete_fluid_settings), synth_(nullptr, delete_fluid_synth),
+      soundFont_(bank)
 {
-    if (fluid_settings_setnum(settings_.get(), "synth.sample-rate", synthRate_) != FLUID_OK)
+    if (rate < kLowestRate ||
+        fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate / divisor_) != FLUID_OK)
         throw std::runtime_error(
             fmt::format("FluidSynth does not support a sample rate of {:g} Hz", rate));
     fluid_settings_setint(settings_.get(), "synth.polyphony", kQueuedVoices);
@@ -51,11 +53,8 @@ SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
     // The first block allocates memory for the new polyphony.
     std::array<float, FractionalResampler::kBlock> ignored{};
     process(ignored.data(), ignored.data());
-    if (bankOwner != nullptr) {
-        borrowedBank_ = fluid_synth_get_sfont(bankOwner->synth_.get(), 0);
-        if (borrowedBank_ != nullptr)
-            fluid_synth_add_sfont(synth_.get(), borrowedBank_);
-    }
+    fluid_synth_add_sfont(synth_.get(), bank.handle());
+    programChange(0);
     readControllers();
     applyCents();
 }
@@ -63,33 +62,43 @@ SynthesizerLane::SynthesizerLane(double rate, SynthesizerLane* bankOwner)
 SynthesizerLane::~SynthesizerLane()
 {
     // Otherwise the synthesizer would delete the bank.
-    if (borrowedBank_ != nullptr)
-        fluid_synth_remove_sfont(synth_.get(), borrowedBank_);
+    fluid_synth_remove_sfont(synth_.get(), soundFont_.handle());
 }
 
-void SynthesizerLane::setRate(double rate)
-{
-    divisor_ = rate / synthRate_;
-    applyCents();
-}
-
-bool SynthesizerLane::loadBank(const char* path)
-{
-    return fluid_is_soundfont(path) != 0 &&
-           fluid_synth_sfload(synth_.get(), path, 1) != FLUID_FAILED;
-}
-
-void SynthesizerLane::noteOn(int key, int velocity)
+void SynthesizerLane::noteOn(int key, int velocity, double correction)
 {
     const auto index = static_cast<std::size_t>(key);
     if (index >= held_.size() || notesInBlock_ == kMostNotesInBlock)
         return;
     ++notesInBlock_;
-    if (isIdle())
+    const bool isFirst = isIdle();
+    if (isFirst) {
         resampler_.clear();
+        correction_ = correction;
+    }
     fluid_synth_noteon(synth_.get(), kChannel, key, velocity);
+    if (!isFirst)
+        raiseNewest(key, std::round(correction - correction_));
     held_.set(index);
     silentBlocks_ = 0;
+}
+
+void SynthesizerLane::raiseNewest(int key, double cents)
+{
+    if (cents == 0.0)
+        return;
+    std::array<fluid_voice_t*, kPolyphony + 1> voices{}; // ends with null
+    fluid_synth_get_voicelist(synth_.get(), voices.data(), kPolyphony, -1);
+    unsigned newest = 0;
+    for (auto* const* voice = voices.begin(); *voice != nullptr; ++voice)
+        if (fluid_voice_get_key(*voice) == key)
+            newest = std::max(newest, fluid_voice_get_id(*voice));
+    for (auto* const* voice = voices.begin(); *voice != nullptr; ++voice) {
+        if (fluid_voice_get_key(*voice) != key || fluid_voice_get_id(*voice) != newest)
+            continue;
+        fluid_voice_gen_incr(*voice, GEN_FINETUNE, static_cast<float>(cents));
+        fluid_voice_update_param(*voice, GEN_FINETUNE);
+    }
 }
 
 void SynthesizerLane::noteOff(int key)
@@ -103,6 +112,10 @@ void SynthesizerLane::noteOff(int key)
 
 void SynthesizerLane::controlChange(int number, int value)
 {
+    if (number == midi::kBankSelect) {
+        selectedBank_ = value;
+        return;
+    }
     fluid_synth_cc(synth_.get(), kChannel, number, value);
     readControllers();
 }
@@ -115,19 +128,22 @@ void SynthesizerLane::readControllers()
 
 void SynthesizerLane::programChange(int program)
 {
-    fluid_synth_program_change(synth_.get(), kChannel, program);
-    bank_ = controllers_[midi::kBankSelect];
+    bank_ = selectedBank_;
     program_ = program;
+    // A program change by itself never reaches the drum kits of a melodic channel.
+    if (fluid_synth_program_select(synth_.get(), kChannel, fluid_sfont_get_id(soundFont_.handle()),
+                                   bank_, program) != FLUID_OK)
+        fluid_synth_program_change(synth_.get(), kChannel, program);
 }
 
 void SynthesizerLane::follow(const SynthesizerLane& other)
 {
     cents_ = other.cents_;
     if (bank_ != other.bank_ || program_ != other.program_) {
-        fluid_synth_cc(synth_.get(), kChannel, midi::kBankSelect, other.bank_);
+        selectedBank_ = other.bank_;
         programChange(other.program_);
-        bank_ = other.bank_;
     }
+    selectedBank_ = other.selectedBank_;
     for (std::size_t i = 0; i < kControllers; ++i) {
         if (controllers_[i] != other.controllers_[i])
             fluid_synth_cc(synth_.get(), kChannel, static_cast<int>(i), other.controllers_[i]);
@@ -143,11 +159,12 @@ void SynthesizerLane::allSoundsOff()
 
 void SynthesizerLane::applyCents()
 {
-    const double whole = std::round(cents_);
+    const double wanted = wantedCents();
+    const double whole = std::round(wanted);
     // Aim for the middle of a cent: see docs/decisions.md, 128.
     fluid_synth_set_gen(synth_.get(), kChannel, GEN_FINETUNE, static_cast<float>(whole + 0.5));
-    resampler_.setStep(std::exp2((cents_ - whole) / 1200.0) / divisor_);
-    appliedCents_ = cents_;
+    resampler_.setStep(std::exp2((wanted - whole) / 1200.0) / divisor_);
+    appliedCents_ = wanted;
 }
 
 void SynthesizerLane::mix(float* left, float* right, std::size_t frames)
@@ -170,7 +187,7 @@ void SynthesizerLane::renderBlock(float* left, float* right)
     std::fill_n(right, kBlock, 0.0F);
     notesInBlock_ = 0;
     // See docs/decisions.md, 129.
-    if (cents_ != appliedCents_)
+    if (wantedCents() != appliedCents_)
         applyCents();
     // A held note may start with silence, so only a block without voices is a silent one.
     voices_ = static_cast<std::size_t>(fluid_synth_get_active_voice_count(synth_.get()));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/FractionalResampler.h"
+#include "audio/SoundFontBank.h"
 
 #include <fluidsynth.h>
 
@@ -18,29 +19,28 @@ namespace velmora {
 /// only be used on the thread that renders.
 class SynthesizerLane {
 public:
-    /// Creates a lane, optionally with the bank of another lane, which must outlive it. `rate` is
-    /// in hertz; above 96000, the highest that FluidSynth supports, the lane runs at a fraction of
-    /// it. Throws std::runtime_error if it is below 8000, the lowest.
-    SynthesizerLane(double rate, SynthesizerLane* bankOwner = nullptr);
+    /// The lowest rate of a lane in hertz.
+    static constexpr double kLowestRate = 8000.0;
+
+    /// Creates a lane that plays a bank, which must outlive it. `rate` is in hertz; above 96000,
+    /// the highest that FluidSynth supports, the lane runs at a fraction of it. Throws
+    /// std::runtime_error if it is below `kLowestRate`.
+    SynthesizerLane(double rate, const SoundFontBank& bank);
     ~SynthesizerLane();
     SynthesizerLane(const SynthesizerLane&) = delete;
     SynthesizerLane& operator=(const SynthesizerLane&) = delete;
 
-    /// Sets the rate of the output, at the same pitch. What the synthesizer plays above half of a
-    /// lower rate is heard as other tones.
-    void setRate(double rate);
-
-    /// Loads the SoundFont that the lanes share. Returns false if FluidSynth cannot read it.
-    bool loadBank(const char* path);
-
-    /// Starts a note. It begins with the next frame if the lane is idle, otherwise with the next
-    /// block of the synthesizer.
-    void noteOn(int key, int velocity);
+    /// Starts a note, `correction` cents higher than the bank has it. It begins with the next frame
+    /// if the lane is idle; otherwise it begins with the next block of the synthesizer, and its
+    /// correction is rounded to a whole cent beside those that sound.
+    void noteOn(int key, int velocity, double correction);
 
     /// Releases a note. Does nothing if it has not been started.
     void noteOff(int key);
 
     void controlChange(int number, int value);
+
+    /// Selects a program of the bank that was selected last, or the one that is nearest to it.
     void programChange(int program);
 
     /// Silences every note at once.
@@ -72,7 +72,11 @@ private:
     static constexpr std::size_t kControllers = 120;
 
     void readControllers();
+    double wantedCents() const { return cents_ + correction_; }
     void applyCents();
+
+    /// Raises the note that was started last.
+    void raiseNewest(int key, double cents);
 
     /// Adds the next block of the synthesizer.
     void process(float* left, float* right);
@@ -80,20 +84,22 @@ private:
     /// Writes the next block, or silence if there are no voices.
     void renderBlock(float* left, float* right);
 
-    double synthRate_; ///< In hertz; fixed, because FluidSynth cannot change it.
-    double divisor_;   ///< The output's rate divided by the synthesizer's.
+    double divisor_; ///< The output's rate divided by the synthesizer's.
     Owned<fluid_settings_t> settings_;
     Owned<fluid_synth_t> synth_;
-    fluid_sfont_t* borrowedBank_ = nullptr;
+    const SoundFontBank& soundFont_;
     FractionalResampler resampler_;
     int silentBlocks_ = kSilentBlocksToIdle;
     std::size_t voices_ = 0;
     int notesInBlock_ = 0; ///< Started since the latest block.
 
-    std::bitset<128> held_; ///< The keys whose notes have not been released.
-    double cents_ = 0.0, appliedCents_ = 0.0;
+    std::bitset<128> held_;   ///< The keys whose notes have not been released.
+    double cents_ = 0.0;      ///< Of all notes.
+    double correction_ = 0.0; ///< Of the note that started on the idle lane.
+    double appliedCents_ = 0.0;
     std::array<int, kControllers> controllers_{};
-    int bank_ = 0, program_ = 0; ///< The bank is that of the time when the program was selected.
+    int selectedBank_ = 0;       ///< For the next program.
+    int bank_ = 0, program_ = 0; ///< What is played.
 };
 
 } // namespace velmora

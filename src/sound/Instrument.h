@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sound/Program.h"
+#include "audio/Program.h"
 #include "tuning/Tunable.h"
 
 #include <cstddef>
