@@ -78,11 +78,7 @@ void AppDelegate::keepPlaying(const OutputSettings& output)
     engine_.setVolume(preferredVolume());
     const auto prepare = [this](double rate) {
         silenceAll(); // a note that was held when the sound was lost would go on
-        const bool changes = rate != engine_.rate();
         engine_.setRate(rate);
-        // FluidSynth cannot change its rate. Until then, the synthesizer keeps its pitch.
-        if (changes)
-            QMetaObject::invokeMethod(this, &AppDelegate::loadBank, Qt::QueuedConnection);
     };
     output_ = std::make_unique<OutputKeeper>(
         engine_, output, OutputKeeper::Callbacks{prepare, [this] { emit outputChanged(); }});

@@ -2,7 +2,6 @@
 
 #include "app/AppDelegate.h"
 #include "sound/ALInstrument.h"
-#include "sound/MIDIInstrument.h"
 
 #include <stdexcept>
 #include <utility>
@@ -25,11 +24,9 @@ SoundSettings currentSettings(AppDelegate& application)
     application.player().with([&](const Instrument& instrument, const Temperament& temperament) {
         settings.temperament = temperament.fresh();
         settings.gains = gainsOf(instrument);
-        if (const auto* player = dynamic_cast<const MIDIInstrument*>(&instrument)) {
-            settings.program = static_cast<std::uint8_t>(player->program());
-            settings.banks = generalMidiBanks();
-        }
+        settings.program = instrument.program();
     });
+    settings.banks = generalMidiBanks();
     for (const auto& document : application.instruments()) {
         if (application.isCurrent(*document)) {
             settings.instrument = document->path();
@@ -56,7 +53,6 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
     if (settings.instrument.empty()) {
         document_ =
             InstrumentDocument::makeMIDIPlayer(makeOfflineSynthesizer(rate, settings.banks));
-        document_->instrument()->setInstrument(settings.program);
     } else {
         document_ = std::make_unique<InstrumentDocument>();
         if (!document_->read(settings.instrument, settings.format, settings.options, host))
@@ -64,6 +60,7 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
     }
     Instrument& instrument = *document_->instrument();
     engine_.add(*instrument.source());
+    instrument.setProgram(settings.program);
     for (std::size_t stop = 0; stop < settings.gains.size(); ++stop)
         instrument.setVolume(stop, settings.gains[stop]);
     player_.setTemperament(*temperament_);

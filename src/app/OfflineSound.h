@@ -23,8 +23,8 @@ struct SoundSettings {
     InstrumentFormat format = InstrumentFormat::SoundFont; ///< The format of that file.
     ImportOptions options;                                 ///< How it was read.
     std::vector<float> gains;                              ///< The gain of each stop.
-    std::uint8_t program = 0;                              ///< The General MIDI program.
-    std::vector<std::filesystem::path> banks;              ///< The SoundFonts to try.
+    std::size_t program = 0;                               ///< The position of the program.
+    std::vector<std::filesystem::path> banks; ///< The SoundFonts for the General MIDI player.
 };
 
 /// Returns the gain of each stop, 0…1, as `setVolume` takes it. For a sampled instrument,

@@ -20,6 +20,7 @@ using Json = nlohmann::ordered_json;
 
 constexpr int kSessionVersion = 1;
 constexpr int kLastProgram = 127;
+constexpr int kLastBank = 65535;
 /// No file holds more instruments.
 constexpr int kLastChoice = 65535;
 
@@ -44,6 +45,8 @@ Json describe(const Session::Instrument& instrument, const std::filesystem::path
         file["plain"] = instrument.options.reading == Reading::Plain;
         file["asStops"] = instrument.options.asStops;
         file["choice"] = instrument.options.choice;
+        file["bank"] = instrument.bank;
+        file["program"] = instrument.program;
     }
     file["volumes"] = Json::array();
     for (const float gain : instrument.gains)
@@ -188,6 +191,10 @@ Session::Instrument readInstrument(const Field& file, const std::filesystem::pat
         instrument.format = readFormat(*kind);
         instrument.path = readPath(file, folder);
         instrument.options = readOptions(file);
+        if (const auto bank = file.find("bank"))
+            instrument.bank = bank->integer(0, kLastBank);
+        if (const auto program = file.find("program"))
+            instrument.program = program->integer(0, kLastProgram);
     }
     if (const auto volumes = file.find("volumes"))
         for (const Field& volume : volumes->elements())

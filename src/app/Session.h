@@ -19,6 +19,8 @@ struct Session {
         InstrumentFormat format = InstrumentFormat::SoundFont; ///< The format of that file.
         ImportOptions options;                                 ///< How it was read.
         std::vector<float> gains;                              ///< The gain of each stop, 0…1.
+        int bank = 0;    ///< The bank of the selected program, if the file has programs.
+        int program = 0; ///< Its number.
     };
 
     struct Piece {

@@ -61,6 +61,16 @@ Opened openInstrument(const Session::Instrument& wanted, AppDelegate& applicatio
     return {application.instruments().size() - 1, {}};
 }
 
+/// Selects a program, unless the bank has changed and no longer has it.
+void selectProgram(Instrument& instrument, int bank, int number)
+{
+    const auto programs = instrument.programs();
+    const auto found = std::ranges::find_if(programs, [&](const Program& program) {
+        return program.bank == bank && program.number == number;
+    });
+    instrument.setProgram(static_cast<std::size_t>(found - programs.begin()));
+}
+
 } // namespace
 
 Session currentSession(AppDelegate& application)
@@ -73,7 +83,13 @@ Session currentSession(AppDelegate& application)
             session.currentInstrument = session.instruments.size();
         Session::Instrument entry{document->path(), document->format(), document->options(), {}};
         application.player().with([&](const Instrument&, const Temperament&) {
-            entry.gains = gainsOf(*document->instrument());
+            const Instrument& instrument = *document->instrument();
+            entry.gains = gainsOf(instrument);
+            if (!instrument.programs().empty()) {
+                const Program& program = instrument.programs()[instrument.program()];
+                entry.bank = program.bank;
+                entry.program = program.number;
+            }
         });
         session.instruments.push_back(std::move(entry));
     }
@@ -107,6 +123,8 @@ std::vector<std::string> openSession(const Session& session, AppDelegate& applic
                 instrument.setVolume(stop, wanted.gains[stop]);
             if (wanted.path.empty())
                 instrument.setInstrument(session.program);
+            else
+                selectProgram(instrument, wanted.bank, wanted.program);
         });
         if (&wanted == &session.instruments[session.currentInstrument])
             current = opened.position;

@@ -24,12 +24,14 @@ namespace {
 constexpr int kFailure = 1;
 constexpr int kUsageError = 2;
 
+constexpr const char* kAsStops =
+    "Lay out the instruments of a SoundFont as stops instead of playing its presets";
+
 constexpr double kLastStep = 1e7; ///< About a week of music.
 
 /// The values of the command line's arguments.
 struct Arguments {
     std::string sequence, output, instrument;
-    std::optional<std::string> program;
     Selection selection;
     std::vector<std::string> stops;
     RenderOptions options;
@@ -38,7 +40,6 @@ struct Arguments {
     std::string device; ///< "DRIVER" or "DRIVER:DEVICE" of the sound output.
     std::size_t period = 0;
     bool json = false;
-    bool plain = false;
     bool watches = false;
 };
 
@@ -68,6 +69,24 @@ std::pair<std::size_t, float> parseStop(const std::string& text)
     return {stop, gain};
 }
 
+/// Adds the options for how the instrument is read.
+void addReading(CLI::App& command, Arguments& arguments)
+{
+    command.add_flag("--as-stops", arguments.selection.asStops, kAsStops);
+    command.add_flag("--plain", arguments.selection.plain,
+                     "Read the instrument plainly: each key has one sample, without loops and "
+                     "releases");
+}
+
+/// Adds the option for how both MIDI devices and instruments are read.
+void addPlain(CLI::App& command, Arguments& arguments)
+{
+    command.add_flag(
+        "--plain", arguments.selection.plain,
+        "Read MIDI devices plainly, without pedals, wheels, learned controllers, velocity curve "
+        "and transposition, and instruments plainly, one sample for each key");
+}
+
 void addSelection(CLI::App& command, Arguments& arguments)
 {
     command
@@ -76,16 +95,17 @@ void addSelection(CLI::App& command, Arguments& arguments)
                     "name may be shortened to the beginning of one of its words")
         ->type_name("NAME|FILE")
         ->capture_default_str();
-    CLI::Option* program =
-        command
-            .add_option("--program", arguments.program,
-                        "General MIDI program: its number from 0 to 127, or its name, as in "
-                        "\"Church Organ\"")
-            ->type_name("NUMBER|NAME");
     command
-        .add_option("--instrument", arguments.instrument,
-                    "The .sf2, .gig, .organ_hauptwerk_xml or .organ file to play")
-        ->excludes(program);
+        .add_option("--program", arguments.selection.program,
+                    "Program of the General MIDI player or of a SoundFont: its number from 0 to "
+                    "127, or its name, as in \"Church Organ\"")
+        ->type_name("NUMBER|NAME");
+    command
+        .add_option("--bank", arguments.selection.bank,
+                    "Bank of that program in a SoundFont; 128 for drum kits")
+        ->check(CLI::NonNegativeNumber);
+    command.add_option("--instrument", arguments.instrument,
+                       "The .sf2, .gig, .organ_hauptwerk_xml or .organ file to play");
     command.add_option("--stop", arguments.stops, "Gain of a stop, as in 0=0.8; may be repeated")
         ->take_all()
         ->allow_extra_args(false)
@@ -99,6 +119,7 @@ CLI::App* addRender(CLI::App& program, Arguments& arguments)
     command->add_option("-o,--output", arguments.output, "The .wav, .flac or .ogg file to write")
         ->required();
     addSelection(*command, arguments);
+    addReading(*command, arguments);
     command->add_option("--rate", arguments.options.rate, "Frames per second")
         ->capture_default_str()
         ->check(range(8000.0, 192000.0));
@@ -115,14 +136,6 @@ CLI::App* addRender(CLI::App& program, Arguments& arguments)
     end->needs(start)->check(range(0.0, kLastStep));
     times->needs(start)->capture_default_str()->check(CLI::Range(1, 10000));
     return command;
-}
-
-void addPlain(CLI::App& command, Arguments& arguments)
-{
-    command.add_flag(
-        "--plain", arguments.plain,
-        "Read MIDI devices plainly: notes and volumes, without pedals, wheels, learned "
-        "controllers, velocity curve and transposition");
 }
 
 CLI::App* addJson(CLI::App* command, Arguments& arguments)
@@ -182,7 +195,8 @@ int runWindows(int argc, char** argv, const Arguments& arguments)
         if (!std::filesystem::exists(file))
             throw UsageError("\"" + file + "\" is neither a file nor a command");
     }
-    return runDesktop(argc, argv, arguments.files, arguments.plain, chosenOutput(arguments));
+    return runDesktop(argc, argv, arguments.files, arguments.selection.plain,
+                      chosenOutput(arguments));
 }
 
 int run(CLI::App& program, int argc, char** argv)
@@ -196,8 +210,10 @@ int run(CLI::App& program, int argc, char** argv)
     CLI::App* infoCommand = addJson(
         program.add_subcommand("info", "Describe tuning, instrument and MIDI files"), arguments);
     infoCommand->add_option("files", arguments.files, "The files")->required();
+    addReading(*infoCommand, arguments);
     CLI::App* liveCommand = program.add_subcommand("live", "Play from the MIDI inputs");
     addSelection(*liveCommand, arguments);
+    liveCommand->add_flag("--as-stops", arguments.selection.asStops, kAsStops);
     addPlain(program, arguments);
     addPlain(*liveCommand, arguments);
     addOutput(program, arguments);
@@ -226,17 +242,17 @@ int run(CLI::App& program, int argc, char** argv)
     }
     const QCoreApplication application(argc, argv);
     arguments.selection.instrument = arguments.instrument;
-    if (arguments.program)
-        arguments.selection.program = programNamed(*arguments.program);
     for (const std::string& stop : arguments.stops)
         arguments.selection.stops.push_back(parseStop(stop));
     if (*renderCommand)
         runRender(*renderCommand, arguments);
     if (*infoCommand)
-        return info({arguments.files.begin(), arguments.files.end()}, arguments.json) ? 0
-                                                                                      : kFailure;
+        return info({arguments.files.begin(), arguments.files.end()}, arguments.selection,
+                    arguments.json)
+                   ? 0
+                   : kFailure;
     if (*liveCommand)
-        live(arguments.selection, arguments.plain, chosenOutput(arguments));
+        live(arguments.selection, chosenOutput(arguments));
     if (*devicesCommand && arguments.watches)
         watchDevices(arguments.json, chosenOutput(arguments));
     else if (*devicesCommand)

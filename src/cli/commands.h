@@ -22,13 +22,13 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
             const Selection& selection, const RenderOptions& options);
 
 /// Prints descriptions of tuning, instrument and sequence files, as text or as one JSON document
-/// per file. Prints a sentence on standard error for each file that cannot be read. Returns true if
-/// all could be read.
-bool info(const std::vector<std::filesystem::path>& files, bool json);
+/// per file. Instruments are read as the selection says. Prints a sentence on standard error for
+/// each file that cannot be read. Returns true if all could be read.
+bool info(const std::vector<std::filesystem::path>& files, const Selection& selection, bool json);
 
-/// Plays from the MIDI inputs until interrupted, in the plain reading if `plain` or the preference
-/// says so. Prints which output plays and which is missing. Needs a QCoreApplication.
-void live(const Selection& selection, bool plain, const OutputSettings& output);
+/// Plays from the MIDI inputs until interrupted. Prints which output plays and which is missing.
+/// Needs a QCoreApplication.
+void live(const Selection& selection, const OutputSettings& output);
 
 /// Prints the MIDI inputs, the sound outputs and the General MIDI bank in use.
 void devices(bool json);

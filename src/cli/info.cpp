@@ -97,15 +97,18 @@ void printSequence(const Json& sequence)
                    note["channel"].get<int>());
 }
 
-Json describeInstrument(const std::filesystem::path& path)
+Json describeInstrument(const std::filesystem::path& path, const Selection& selection)
 {
     AppDelegate application;
-    return describe(*readInstrument(path, application));
+    if (selection.plain)
+        application.playing().usePlainReading();
+    return describe(*readInstrument(path, selection.asStops, application));
 }
 
 /// Returns a description of a file and the function that prints it as text. Throws
 /// std::runtime_error with a sentence if the file cannot be read.
-std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path& path)
+std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path& path,
+                                                    const Selection& selection)
 {
     if (const auto format = tuningFormatOf(path)) {
         TuningDocument document;
@@ -122,13 +125,13 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
         return {describe(document, path.filename().string()), printSequence};
     }
     if (instrumentFormatOf(path))
-        return {describeInstrument(path), printInstrument};
+        return {describeInstrument(path, selection), printInstrument};
     throw std::runtime_error(path.filename().string() + ": unrecognised file type");
 }
 
-void printFile(const std::filesystem::path& path, bool json)
+void printFile(const std::filesystem::path& path, const Selection& selection, bool json)
 {
-    const auto [description, print] = describeFile(path);
+    const auto [description, print] = describeFile(path, selection);
     if (json)
         // Names may contain invalid UTF-8.
         fmt::print("{}\n", description.dump(2, ' ', false, Json::error_handler_t::replace));
@@ -138,12 +141,12 @@ void printFile(const std::filesystem::path& path, bool json)
 
 } // namespace
 
-bool info(const std::vector<std::filesystem::path>& files, bool json)
+bool info(const std::vector<std::filesystem::path>& files, const Selection& selection, bool json)
 {
     bool allRead = true;
     for (const auto& path : files) {
         try {
-            printFile(path, json);
+            printFile(path, selection, json);
         } catch (const std::runtime_error& error) {
             fmt::print(stderr, "velmora: {}\n", error.what());
             allRead = false;

@@ -46,6 +46,14 @@ Json describe(const InstrumentStop& stop, const Uses& uses)
     return result;
 }
 
+Json describe(const Program& program)
+{
+    return {{"bank", program.bank},
+            {"program", program.number},
+            {"name", program.name},
+            {"isPercussion", program.isPercussion}};
+}
+
 Json describe(const ImportReport& report)
 {
     Json result = {{"ranks", report.ranks},
@@ -68,24 +76,51 @@ void printStop(std::size_t index, const Json& stop)
                stop["name"].get<std::string>());
 }
 
+void printSkipped(const Json& report)
+{
+    for (const Json& skipped : report["skipped"])
+        fmt::print("  {}: {}\n", skipped["file"].get<std::string>(),
+                   skipped["why"].get<std::string>());
+}
+
+void printBank(const Json& bank)
+{
+    fmt::print("{}: {} of {}, {} bytes of sound\n", bank["name"].get<std::string>(),
+               bank["kind"].get<std::string>(), counted(bank["programs"].size(), "program"),
+               bank["usage"].get<std::int64_t>());
+    for (const Json& program : bank["programs"])
+        fmt::print("  bank {:>3}  program {:>3}  {}\n", program["bank"].get<int>(),
+                   program["program"].get<int>(), program["name"].get<std::string>());
+    printSkipped(bank["report"]);
+}
+
 } // namespace
 
 Json describe(const InstrumentDocument& document)
 {
-    const auto& instrument = dynamic_cast<const ALInstrument&>(*document.instrument());
     Json result = {{"name", document.name()},
                    {"kind", typeName(document.format())},
-                   {"usage", document.size()},
-                   {"stops", Json::array()}};
-    const Uses uses = countUses(instrument);
-    for (const InstrumentStop& stop : instrument.stops())
-        result["stops"].push_back(describe(stop, uses));
+                   {"usage", document.size()}};
+    if (const auto* sampled = dynamic_cast<const ALInstrument*>(document.instrument())) {
+        result["stops"] = Json::array();
+        const Uses uses = countUses(*sampled);
+        for (const InstrumentStop& stop : sampled->stops())
+            result["stops"].push_back(describe(stop, uses));
+    } else {
+        result["programs"] = Json::array();
+        for (const Program& program : document.instrument()->programs())
+            result["programs"].push_back(describe(program));
+    }
     result["report"] = describe(document.report());
     return result;
 }
 
 void printInstrument(const Json& instrument)
 {
+    if (instrument.contains("programs")) {
+        printBank(instrument);
+        return;
+    }
     const Json& report = instrument["report"];
     fmt::print("{}: {} instrument of {}, {} bytes of sound\n",
                instrument["name"].get<std::string>(), instrument["kind"].get<std::string>(),
@@ -97,9 +132,7 @@ void printInstrument(const Json& instrument)
                counted(report["ranks"].get<std::size_t>(), "rank"),
                counted(report["pipes"].get<std::size_t>(), "pipe"),
                counted(report["samples"].get<std::size_t>(), "sample"), report["skipped"].size());
-    for (const Json& skipped : report["skipped"])
-        fmt::print("  {}: {}\n", skipped["file"].get<std::string>(),
-                   skipped["why"].get<std::string>());
+    printSkipped(report);
 }
 
 } // namespace velmora

@@ -6,8 +6,8 @@
 
 namespace velmora {
 
-/// Describes a sampled instrument: its stops with the sound of each key, and the report of its
-/// import.
+/// Describes an instrument: its programs, or its stops with the sound of each key, and the report
+/// of its import.
 nlohmann::ordered_json describe(const InstrumentDocument& document);
 
 /// Prints the description of an instrument as text.

@@ -33,6 +33,18 @@ void printMissingOutput(const OutputStatus& output)
     std::fflush(stdout);
 }
 
+std::string soundTitle(AppDelegate& application)
+{
+    std::string title = application.instrumentName();
+    application.player().with([&](const Instrument& instrument, const Temperament&) {
+        if (instrument.hasSubMenu())
+            title = programTitle(instrument);
+        else if (!instrument.programs().empty())
+            title += ", " + programTitle(instrument);
+    });
+    return title;
+}
+
 sigset_t signalsForPanic()
 {
     sigset_t result;
@@ -43,13 +55,13 @@ sigset_t signalsForPanic()
 
 } // namespace
 
-void live(const Selection& selection, bool plain, const OutputSettings& wanted)
+void live(const Selection& selection, const OutputSettings& wanted)
 {
     SignalNotifier quitOnSignal(terminationSignals());
     quitOnSignal.watch([] { QCoreApplication::quit(); });
     SignalNotifier panicSignal(signalsForPanic());
     AppDelegate application;
-    if (plain)
+    if (selection.plain)
         application.playing().usePlainReading();
     application.start(wanted);
     application.waitForBank();
@@ -57,9 +69,7 @@ void live(const Selection& selection, bool plain, const OutputSettings& wanted)
 
     Names names = application.midiInputs()->names();
     OutputStatus output = application.output()->waitForOutput();
-    fmt::print("Playing {} in {} from {} on {}.\n",
-               selection.instrument.empty() ? programTitle(application.midiProgram())
-                                            : application.instrumentName(),
+    fmt::print("Playing {} in {} from {} on {}.\n", soundTitle(application),
                application.tuningName(),
                names.empty() ? "no MIDI input" : fmt::format("{}", fmt::join(names, ", ")),
                output.driver == "none" ? "no sound output" : output.driver);

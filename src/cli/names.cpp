@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "cli/commands.h"
+#include "sound/Instrument.h"
 
 #include <spdlog/fmt/fmt.h>
 
@@ -37,6 +38,13 @@ std::vector<std::string> wordsToEnd(const std::string& text)
     return ends;
 }
 
+std::string nameOf(const Instrument& instrument, const Program& program)
+{
+    return instrument.hasSubMenu()
+               ? kMIDIInstrumentNames.at(static_cast<std::size_t>(program.number))
+               : program.name;
+}
+
 } // namespace
 
 std::optional<std::size_t> findName(const std::vector<std::string>& names, const std::string& text)
@@ -67,24 +75,49 @@ std::optional<std::size_t> findName(const std::vector<std::string>& names, const
     return candidates.front();
 }
 
-std::uint8_t programNamed(const std::string& text)
+std::size_t findProgram(const Instrument& instrument, std::optional<int> bank,
+                        const std::string& text)
 {
-    std::optional<std::size_t> program;
-    if (!text.empty() && text.find_first_not_of("0123456789") == std::string::npos)
-        program = static_cast<std::size_t>(leadingInteger(text).value_or(-1));
-    else
-        program = findName({kMIDIInstrumentNames.begin(), kMIDIInstrumentNames.end()}, text);
-    if (!program || *program >= kMIDIInstrumentNames.size())
-        throw UsageError("there is no General MIDI program \"" + text +
-                         "\"; --program takes a number from 0 to 127 or a name, as in \"Church "
-                         "Organ\"");
-    return static_cast<std::uint8_t>(*program);
+    const auto programs = instrument.programs();
+    if (programs.empty())
+        throw UsageError("the instrument has no programs, so --program and --bank do not apply");
+    std::vector<std::size_t> candidates;
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < programs.size(); ++i) {
+        if (bank && programs[i].bank != *bank)
+            continue;
+        candidates.push_back(i);
+        names.push_back(nameOf(instrument, programs[i]));
+    }
+    std::optional<std::size_t> found;
+    if (text.find_first_not_of("0123456789") == std::string::npos) {
+        const long number = text.empty() ? 0 : leadingInteger(text).value_or(-1);
+        const auto matches = [&](std::size_t i) {
+            return text.empty() || programs[i].number == number;
+        };
+        const auto candidate = std::ranges::find_if(candidates, matches);
+        if (candidate != candidates.end())
+            return *candidate;
+    } else {
+        found = findName(names, text);
+    }
+    if (found)
+        return candidates[*found];
+    if (candidates.empty())
+        throw UsageError(fmt::format("the instrument has no bank {}", *bank));
+    throw UsageError(fmt::format("there is no {}program \"{}\"; --program takes a number from 0 to "
+                                 "127 or a name, as in \"{}\"",
+                                 instrument.hasSubMenu() ? "General MIDI " : "", text,
+                                 instrument.hasSubMenu() ? "Church Organ" : names.front()));
 }
 
 // See docs/decisions.md, 42.
-std::string programTitle(std::uint8_t program)
+std::string programTitle(const Instrument& instrument)
 {
-    return fmt::format("{} (program {})", kMIDIInstrumentNames.at(program), program);
+    const Program& program = instrument.programs()[instrument.program()];
+    return fmt::format("{} ({}program {})", nameOf(instrument, program),
+                       program.bank == 0 ? "" : fmt::format("bank {}, ", program.bank),
+                       program.number);
 }
 
 } // namespace velmora

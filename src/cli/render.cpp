@@ -13,6 +13,8 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
     const Interruption interruption;
     AudioFileWriter file(output, options.rate); // first, to fail early if it cannot be written
     AppDelegate application;
+    if (selection.plain)
+        application.playing().usePlainReading();
     application.makeBuiltinTunings();
     application.engine().setRate(options.rate);
     if (selection.instrument.empty())

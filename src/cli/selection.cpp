@@ -37,7 +37,7 @@ std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
 
 } // namespace
 
-std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path,
+std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& path, bool asStops,
                                                    AppDelegate& application)
 {
     const auto format = instrumentFormatOf(path);
@@ -57,7 +57,8 @@ std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& 
             application.cancelImport();
     });
     auto document = std::make_unique<InstrumentDocument>();
-    if (!document->read(path, *format, {application.playing().reading()}, application))
+    const ImportOptions options{.reading = application.playing().reading(), .asStops = asStops};
+    if (!document->read(path, *format, options, application))
         throw std::runtime_error(document->errorString().empty() ? "interrupted"
                                                                  : document->errorString());
     if (document->instrument() == nullptr)
@@ -69,14 +70,16 @@ void select(const Selection& selection, AppDelegate& application)
 {
     auto tuning = tuningNamed(selection.tuning);
     if (!selection.instrument.empty())
-        application.addInstrument(readInstrument(selection.instrument, application));
+        application.addInstrument(
+            readInstrument(selection.instrument, selection.asStops, application));
     const std::string name = tuning->name();
     application.putTuning(std::move(tuning));
     application.selectTuning(name);
 
     application.player().with([&](Instrument& instrument, Temperament&) {
-        if (selection.program)
-            instrument.setInstrument(*selection.program);
+        if (selection.program || selection.bank)
+            instrument.setProgram(
+                findProgram(instrument, selection.bank, selection.program.value_or("")));
         for (const auto& [stop, gain] : selection.stops) {
             if (stop >= instrument.numStops())
                 throw UsageError("the instrument has no stop " + std::to_string(stop) +

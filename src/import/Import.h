@@ -6,6 +6,7 @@
 #include "import/InstrumentHost.h"
 #include "sound/ALInstrument.h"
 #include "sound/ConsoleDefinition.h"
+#include "sound/MIDIInstrument.h"
 
 #include <memory>
 #include <optional>
@@ -37,6 +38,9 @@ struct Import {
     void countRanks();
 
     std::unique_ptr<ALInstrument> instrument; ///< Never null; starts without stops.
+
+    /// Takes the place of `instrument` if it is not null.
+    std::unique_ptr<MIDIInstrument> presets;
 
     /// The console of an organ whose ranks are the stops of `instrument`.
     std::optional<ConsoleDefinition> console;

@@ -11,6 +11,7 @@
 #include "import/hauptwerk1.h"
 #include "import/organXml.h"
 #include "import/sf2.h"
+#include "import/sf2Presets.h"
 #include "import/xmlPipeOrgan.h"
 #include "sound/ALInstrument.h"
 #include "sound/MIDIInstrument.h"
@@ -37,6 +38,8 @@ void readInto(Import& import, const std::filesystem::path& path, InstrumentForma
     case InstrumentFormat::SoundFont:
         if (isMusical && import.options.asStops)
             readSoundFontStops(path, import);
+        else if (isMusical)
+            readSoundFontPresets(path, import);
         else
             readSoundFont(path, import);
         break;
@@ -123,7 +126,10 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
         readInto(import, path, format);
         decodedSamples().trim();
         cleanNames(import);
-        instrument_ = std::move(import.instrument);
+        if (import.presets)
+            instrument_ = std::move(import.presets);
+        else
+            instrument_ = std::move(import.instrument);
         name_ = std::move(import.name);
         report_ = std::move(import.report);
         choices_ = std::move(import.choices);

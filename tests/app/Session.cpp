@@ -4,6 +4,7 @@
 #include "app/OfflineSound.h"
 #include "app/openSession.h"
 #include "base/FormatError.h"
+#include "support/Bank.h"
 #include "support/OrganFolder.h"
 
 #include <gmock/gmock.h>
@@ -63,7 +64,7 @@ TEST(Session, KeepsEveryFieldInItsFile)
     Session session;
     session.instruments = {
         {{}, {}, {}, {0.5F}},
-        {odd, InstrumentFormat::Hauptwerk1, {Reading::Plain, true, 3}, {0.25F, 1.0F}}};
+        {odd, InstrumentFormat::Hauptwerk1, {Reading::Plain, true, 3}, {0.25F, 1.0F}, 128, 25}};
     session.currentInstrument = 1;
     session.program = 19;
     session.tunings = {"/t/für.scl"};
@@ -145,7 +146,8 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
     session.instruments = {{{}, {}, {}, {0.5F}},
                            {first, kOrgan, {Reading::Plain}, {0.25F, 0.75F}},
                            {folder.path() / "gone.organ", kOrgan, {}, {}},
-                           {second, kOrgan, {Reading::Plain}, {}}};
+                           {second, kOrgan, {Reading::Plain}, {}},
+                           {kBank, InstrumentFormat::SoundFont, {}, {0.5F}, 128, 25}};
     session.currentInstrument = 1;
     session.program = 19;
     session.tunings = {scale, folder.path() / "gone.scl"};
@@ -156,7 +158,7 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
         EXPECT_THAT(openSession(session, program),
                     ElementsAre("gone.scl: cannot be read (No such file or directory)",
                                 "gone.organ: cannot be read (No such file or directory)"));
-        EXPECT_EQ(program.instruments().size(), 3U) << time;
+        EXPECT_EQ(program.instruments().size(), 4U) << time;
         EXPECT_EQ(program.tunings().size(), 3U) << time;
         EXPECT_EQ(program.instrumentName(), "first");
         EXPECT_THAT(program.gains(), ElementsAre(0.25F, 0.75F));
@@ -164,6 +166,8 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
         EXPECT_EQ(program.tuningName(), "a.scl");
         EXPECT_EQ(program.playing().settings().transposition, -2);
     }
+    const Instrument& bank = *program.instruments().back()->instrument();
+    EXPECT_TRUE(bank.programs()[bank.program()].isPercussion);
     const Session current = currentSession(program);
     session.instruments.erase(session.instruments.begin() + 2);
     session.instruments[2].gains = current.instruments.at(2).gains;

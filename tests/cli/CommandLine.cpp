@@ -37,6 +37,7 @@ protected:
         folder_.write("broken.mid", "MThd");
         folder_.write("pure.scl",
                       "Pure\n12\n16/15\n9/8\n6/5\n5/4\n4/3\n7/5\n3/2\n8/5\n5/3\n9/5\n15/8\n2/1\n");
+        folder_.write("cut.sf2", readTextFile(kBank).substr(0, 2'000'000));
         folder_.write("broken.scl", "Broken\n12\n16/15\nabc\n");
         folder_.writeSine("a.wav", kRoot);
         folder_.writeSine("b.wav", 3.0 * kRoot); // a twelfth
@@ -109,6 +110,7 @@ TEST_F(CommandLine, TakesNamesInAnyCaseAndShortened)
         {"19", {"Church Organ", "church", "20 church organ"}},
         {"73", {"FLUTE", "0073"}}, // also the second word of another name
         {"3", {"honky tonk"}}};
+    std::set<decltype(content({}))> sounds;
     for (const auto& [number, names] : rows) {
         render("out.wav", {"--program", number});
         const auto bytes = content("out.wav");
@@ -116,6 +118,15 @@ TEST_F(CommandLine, TakesNamesInAnyCaseAndShortened)
             EXPECT_EQ(render("out.wav", {"--program", name}).code, 0);
             EXPECT_EQ(content("out.wav"), bytes) << name;
         }
+        render("out.wav", {"--instrument", kBank.c_str(), "--program", number});
+        EXPECT_EQ(content("out.wav"), bytes) << "the same bank as an instrument";
+        EXPECT_TRUE(sounds.insert(bytes).second);
+    }
+    const QString bank = kBank.c_str();
+    for (const QStringList& options :
+         {QStringList{"--bank", "128"}, {"--program", "brush"}, {"--as-stops"}, {"--plain"}}) {
+        EXPECT_EQ(render("out.wav", QStringList{"--instrument", bank} + options).code, 0);
+        EXPECT_TRUE(sounds.insert(content("out.wav")).second) << options.front().toStdString();
     }
     render("out.wav", {"--tuning", "Quartercomma Meantone"});
     const auto bytes = content("out.wav");
@@ -142,12 +153,15 @@ TEST_F(CommandLine, ReportsErrorsInOneSentence)
         {{"--tuning", "broken.scl"}, 1, "broken.scl, line 4: "},
         {{"--tuning", "Pure Equal"}, 2, "no tuning \"Pure Equal\""},
         {{"--program", "128"}, 2, "no General MIDI program \"128\"; --program takes"},
+        {{"--instrument", kBank.c_str(), "--bank", "7"}, 2, "the instrument has no bank 7"},
+        {{"--instrument", kBank.c_str(), "--bank", "128", "--program", "1"}, 2, "program \"1\""},
+        {{"--instrument", "cut.sf2"}, 1, "cut.sf2: is cut short"},
         {{"--program", "-"}, 2, "no General MIDI program \"-\""},
         {{"--program", "harp"}, 2, "\"harp\" may mean any of these: 7 Harpsichord, 47 Orch"},
         {{"--stop", "0=loud"}, 2, "\"0=loud\""},
         {{"--instrument", "missing.sf2"}, 1, "velmora: missing.sf2: cannot be read"},
         {{"--instrument", "song.mid"}, 2, "\"song.mid\" is not an instrument"},
-        {{"--instrument", "test.organ", "--program", "3"}, 2, "--program"},
+        {{"--instrument", "test.organ", "--program", "3"}, 2, "the instrument has no programs"},
         {{"--instrument", "test.organ", "--stop", "2=1"}, 2, "numbered from 0 to 1"},
         {{"--loop-start", "4", "--loop-end", "4"}, 2, "--loop-end"},
         {{"--loop-start", "4", "--loop-end", "inf"}, 2, "--loop-end"},
@@ -224,6 +238,12 @@ TEST_F(CommandLine, DescribesFiles)
     const Json organ = info("test.organ");
     EXPECT_EQ(organ["stops"].at(0)["keys"].at(48)["rootPitch"], kRoot);
     EXPECT_THAT(organ["report"]["skipped"].at(0)["file"], HasSubstr("missing.wav"));
+
+    const Json bank = info(kBank.c_str());
+    EXPECT_EQ(bank["usage"], 5764336);
+    EXPECT_EQ(bank["programs"].at(19).dump(),
+              R"({"bank":0,"isPercussion":false,"name":"Church Organ 1","program":19})");
+    EXPECT_EQ(bank["programs"].back()["isPercussion"], true);
 
     EXPECT_THAT(run({"info", "pure.scl"}).out,
                 HasSubstr("pure.scl: tuning, base frequency 261.625565 Hz at C4\n  Pure\n  C5 "));
