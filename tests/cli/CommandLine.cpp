@@ -2,6 +2,7 @@
 
 #include "audio/AudioFileDecoder.h"
 #include "base/File.h"
+#include "support/Bank.h"
 #include "support/MidiBytes.h"
 #include "support/OrganFolder.h"
 #include "support/Pitch.h"
@@ -124,7 +125,7 @@ TEST_F(CommandLine, TakesNamesInAnyCaseAndShortened)
     }
     const QString bank = kBank.c_str();
     for (const QStringList& options :
-         {QStringList{"--bank", "128"}, {"--program", "brush"}, {"--as-stops"}, {"--plain"}}) {
+         {QStringList{"--bank", "128"}, {"--program", "brush"}, {"--as-stops"}}) {
         EXPECT_EQ(render("out.wav", QStringList{"--instrument", bank} + options).code, 0);
         EXPECT_TRUE(sounds.insert(content("out.wav")).second) << options.front().toStdString();
     }
@@ -242,7 +243,7 @@ TEST_F(CommandLine, DescribesFiles)
     const Json bank = info(kBank.c_str());
     EXPECT_EQ(bank["usage"], 5764336);
     EXPECT_EQ(bank["programs"].at(19).dump(),
-              R"({"bank":0,"isPercussion":false,"name":"Church Organ 1","program":19})");
+              R"({"bank":0,"isPercussion":false,"name":"Church Organ","program":19})");
     EXPECT_EQ(bank["programs"].back()["isPercussion"], true);
 
     EXPECT_THAT(run({"info", "pure.scl"}).out,

@@ -2,7 +2,7 @@
 
 #include "app/programNames.h"
 #include "desktop/widgets/SearchField.h"
-#include "sound/Program.h"
+#include "audio/Program.h"
 
 #include <QCoreApplication>
 #include <QSignalBlocker>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sound/Program.h"
+#include "audio/Program.h"
 
 #include <QWidget>
 

@@ -54,6 +54,9 @@ constexpr const char* kMessages[] = {
                                            "unload other instruments or close other programs"),
     QT_TRANSLATE_NOOP("velmora::messages", "is damaged or cut short"),
     QT_TRANSLATE_NOOP("velmora::messages", "is cut short"),
+    QT_TRANSLATE_NOOP("velmora::messages", "is damaged and its presets cannot be played; opening "
+                                           "it as stops may work"),
+    QT_TRANSLATE_NOOP("velmora::messages", "has no presets"),
     QT_TRANSLATE_NOOP("velmora::messages", "the file does not contain its data"),
     QT_TRANSLATE_NOOP("velmora::messages", "the file has too many chunks"),
     QT_TRANSLATE_NOOP("velmora::messages", "lists are nested too deeply"),
