@@ -16,6 +16,7 @@
 #include <span>
 #include <string>
 #include <thread>
+#include <utility>
 
 namespace velmora {
 
@@ -42,11 +43,14 @@ Pcm recorded(std::size_t frames, double rate, const std::function<double(double)
 /// A pipe that speaks for 50 ms, sounds until two seconds have passed, and then rings for another.
 Pcm pipe(double hertz, double rate)
 {
-    return recorded(static_cast<std::size_t>(3.5 * rate), rate, [hertz](double time) {
+    Pcm pcm = recorded(static_cast<std::size_t>(3.5 * rate), rate, [hertz](double time) {
         const double level = std::min(time / 0.05, 1.0) * std::exp(std::min(0.0, 2.0 - time));
         return level * (0.5 * turn(hertz * time) + 0.3 * turn(2.0 * hertz * time + 0.1) +
                         0.2 * turn(5.0 * hertz * time + 0.3));
     });
+    for (const std::int16_t sample : std::exchange(pcm.samples, {}))
+        pcm.floats.push_back(static_cast<float>(sample) / 32768.0F);
+    return pcm;
 }
 
 double level(std::span<const float> sound)
@@ -96,8 +100,10 @@ TEST_F(PipeTest, ReleasesInPhaseAndAtTheLevelOfTheNote)
     for (const double hertz : {33.0, 110.0, 523.0, 2093.0, 4186.0}) {
         PipeRecording recording{pipe(hertz, kRecordedRate), hertz * kClaimed};
         recording.loops = {{44100, 88200}, {44100, 66150}, {66150, 99999999}};
-        const PipeSound made = makePipeSound(std::move(recording));
+        PipeSound made = makePipeSound(std::move(recording));
         EXPECT_EQ(made.loop, (Loop{44100, 88200})) << "the longest that the file has";
+        for (float& sample : made.release.floats)
+            sample *= 0.5F; // as if recorded at another level
         const auto alignment = std::make_shared<ReleaseAlignment>(made.attack, hertz * kClaimed,
                                                                   made.release, hertz * kClaimed);
         const Sound& attack = add(made.attack, made.loop);
