@@ -272,7 +272,7 @@ void SampleVoices::release(const SampleEvent& event)
     follow(voice, next == event.following.end() ? event.following.back() : *next);
 }
 
-/// Starts the release of a voice that is held.
+/// Starts the release of a voice that is held. See docs/decisions.md, 149.
 void SampleVoices::follow(SampleVoice& voice, const FollowingSound& next)
 {
     ReleaseAlignment::Entry entry{0.0F, next.gain};
