@@ -208,6 +208,12 @@ bool ArchiveTree::contains(const std::string& name) const
     return find(name) != nullptr;
 }
 
+std::uint64_t ArchiveTree::size(const std::string& name) const
+{
+    const Member* member = find(name);
+    return member == nullptr ? 0 : member->size;
+}
+
 std::string ArchiveTree::displayName(const std::string& name) const
 {
     return name_ + '/' + normalized(name);

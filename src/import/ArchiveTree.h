@@ -28,6 +28,7 @@ public:
 
     std::vector<std::byte> read(const std::string& name) const override;
     bool contains(const std::string& name) const override;
+    std::uint64_t size(const std::string& name) const override;
     std::string displayName(const std::string& name) const override;
 
 private:

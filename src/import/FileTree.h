@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -19,6 +20,9 @@ public:
 
     /// True if `read` would find the file. May be called on any thread.
     virtual bool contains(const std::string& name) const = 0;
+
+    /// The number of bytes of a file; 0 if there is no such file. May be called on any thread.
+    virtual std::uint64_t size(const std::string& name) const = 0;
 
     /// How a message names a file to the user.
     virtual std::string displayName(const std::string& name) const = 0;

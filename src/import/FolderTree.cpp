@@ -29,6 +29,13 @@ public:
         return std::filesystem::is_regular_file(path, error) && !SampleFiles::leaves(folder_, path);
     }
 
+    std::uint64_t size(const std::string& name) const override
+    {
+        std::error_code error;
+        const std::uint64_t size = std::filesystem::file_size(pathOf(name), error);
+        return error ? 0 : size;
+    }
+
     std::string displayName(const std::string& name) const override
     {
         return pathOf(name).string();
