@@ -27,20 +27,22 @@ private:
     long done_ = 0;
 };
 
+using BankReader = void(const RIFF::File&, Import&);
+
 /// Imports a bank from memory. If it is accepted, the instrument must be playable.
-inline void importBank(void (*reader)(const RIFF::File&, Import&),
-                       std::span<const std::uint8_t> bytes)
+inline void importBank(BankReader* reader, Reading reading, std::span<const std::uint8_t> bytes)
 {
-    // Larger inputs take longer and find nothing more.
-    constexpr std::size_t kMaximumSize = 1 << 14;
-    if (bytes.size() > kMaximumSize)
-        return;
     setLogLevel(spdlog::level::off);
     CheckingHost host;
-    Import import(host, {Reading::Plain});
+    Import import(host, {reading});
+    constexpr std::uint64_t kMemory = std::uint64_t{512} << 20U;
+    MemoryGuard memory([] { return kMemory; });
+    import.memory = &memory;
     try {
         reader(RIFF::File(std::as_bytes(bytes)), import);
     } catch (const FormatError&) {
+        return;
+    } catch (const MemoryShortage&) {
         return;
     }
     const auto& stops = import.instrument->stops();

@@ -1,4 +1,4 @@
-// Imports the input as a SoundFont bank.
+// Imports the input as a SoundFont bank, plainly and as its maker meant it.
 
 #include "import/sf2.h"
 
@@ -8,7 +8,8 @@ namespace velmora {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    importBank(readSoundFont, {data, size});
+    importBank(readSoundFont, Reading::Plain, {data, size});
+    importBank(readSoundFontStops, Reading::Musical, {data, size});
     return 0;
 }
 
