@@ -2,6 +2,7 @@
 
 #include "base/FormatError.h"
 #include "import/Import.h"
+#include "import/MemoryNeeds.h"
 #include "import/ParallelLoader.h"
 #include "import/PipeVoice.h"
 #include "import/pipePitch.h"
@@ -332,6 +333,7 @@ void loadPipeOrgan(const PipeOrgan& organ, Import& import)
 {
     if (organ.files.empty())
         throw FormatError("cannot be played: no pipe has a sample file");
+    requireMemory(organ, import);
     import.name = organ.name;
     import.report.skipped = organ.skipped;
     for (const PipeOrgan::Rank& rank : organ.ranks) {
