@@ -44,10 +44,13 @@ struct CuePoint {
 template <class Record>
 std::vector<Record> recordsAt(const RIFF::Chunk& chunk, std::size_t at, std::size_t count)
 {
-    const std::size_t available = chunk.length() > at ? chunk.length() - at : 0;
-    std::vector<Record> records(std::min(count, available / sizeof(Record)));
-    const std::size_t bytes = chunk.read(at, std::as_writable_bytes(std::span(records)));
-    records.resize(bytes / sizeof(Record));
+    std::vector<Record> records;
+    Record record{};
+    while (records.size() < count &&
+           chunk.read(at, std::as_writable_bytes(std::span(&record, 1))) == sizeof(Record)) {
+        records.push_back(record);
+        at += sizeof(Record);
+    }
     return records;
 }
 
@@ -68,8 +71,7 @@ void readSampler(const RIFF::Chunk& chunk, SampleChunks& result)
     }
 }
 
-std::optional<std::uint32_t> releaseMarker(const RIFF::Chunk& chunk,
-                                           const std::vector<Loop>& loops)
+std::optional<std::uint32_t> releaseMarker(const RIFF::Chunk& chunk, const std::vector<Loop>& loops)
 {
     std::uint32_t loopsEnd = 0;
     for (const Loop& loop : loops)

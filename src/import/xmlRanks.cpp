@@ -81,7 +81,7 @@ std::vector<OrganRow> atRest(const std::vector<OrganRow>& rows, const OrganColum
     return result;
 }
 
-double gainOf(double decibels)
+double linearGain(double decibels)
 {
     return std::pow(10.0, std::clamp(decibels, -96.0, 40.0) / 20.0);
 }
@@ -165,7 +165,7 @@ PipeOrgan::Pipe XmlRanks::pipeOf(const OrganRow& row, const OrganRow& layer)
     PipeOrgan::Pipe pipe;
     pipe.key = row.integer(kPipeNote).value_or(kDefaultNote);
     pipe.gain =
-        static_cast<float>(gainOf(organDecibels_ + layer.number(kLayerLevel).value_or(0.0)));
+        static_cast<float>(linearGain(organDecibels_ + layer.number(kLayerLevel).value_or(0.0)));
     pipe.cents = layer.number(kLayerDetuning).value_or(0.0);
     pipe.isPercussive = !layer.flag(kLayerSustains, true);
     const auto attacks = attacksOf(layer.id(kLayerId));
