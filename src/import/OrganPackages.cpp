@@ -57,7 +57,8 @@ std::optional<OrganPackages::Sample> OrganPackages::find(int id)
                           "an organ without encryption");
     const std::optional<std::string>& folder = folderOf(row.id(kSamplePackage));
     // Some organs keep everything in the folder of one package.
-    const std::string name = folder.value_or(organFolder_) + '/' + row.text(kFilename);
+    const std::string name =
+        fmt::format("{}/{}", folder.value_or(organFolder_), row.text(kFilename));
     if (!folder && !tree_->contains(name))
         return std::nullopt;
     const auto [index, isNew] = indices_.try_emplace(lowerCase(name), files_.size());

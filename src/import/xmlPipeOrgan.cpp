@@ -6,6 +6,8 @@
 #include "import/xmlConsole.h"
 #include "import/xmlRanks.h"
 
+#include <spdlog/fmt/fmt.h>
+
 #include <algorithm>
 #include <map>
 #include <optional>
@@ -93,7 +95,8 @@ PipeOrgan readXmlPipeOrgan(const std::filesystem::path& path)
     organ.files = packages.files();
     organ.tree = packages.tree();
     organ.console = std::move(console.definition);
-    organ.console.identity = number.empty() ? path.filename().string() : number + ' ' + organ.name;
+    organ.console.identity =
+        number.empty() ? path.filename().string() : fmt::format("{} {}", number, organ.name);
     organ.skipped = packages.missing();
     organ.skipped.insert(organ.skipped.end(), console.skipped.begin(), console.skipped.end());
     organ.skipped.insert(organ.skipped.end(), ranks.skipped().begin(), ranks.skipped().end());
