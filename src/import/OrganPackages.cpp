@@ -35,7 +35,6 @@ OrganPackages::OrganPackages(const std::filesystem::path& definition, const Orga
     if (!std::filesystem::is_directory(root_, error))
         throw FormatError("cannot be loaded without its samples: there is no folder " +
                           root_.string());
-    organFolder_ = ".";
     for (const OrganRow& general : tables.rows("_General")) {
         const auto folder = folders_.numbered(root_, general.id(kOrganNumber));
         if (!folder.empty())

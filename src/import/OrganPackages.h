@@ -55,7 +55,8 @@ private:
     SampleFiles folders_; ///< Before `root_`, which it finds.
     std::filesystem::path root_;
     std::shared_ptr<const FileTree> tree_;
-    std::string organFolder_; ///< Of the package with the organ's own number; "." if there is none.
+    std::string organFolder_ =
+        "."; ///< Of the package with the organ's own number; "." if there is none.
     std::map<int, std::optional<std::string>> packages_;
     std::unordered_map<int, OrganRow> samples_;
     std::vector<std::string> files_;
