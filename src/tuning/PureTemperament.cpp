@@ -11,7 +11,7 @@ namespace velmora {
 
 namespace {
 
-constexpr unsigned kClasses = 12;
+constexpr unsigned kPureClasses = 12;
 
 // How stiff the springs are that pull at a pitch class.
 constexpr double kIntervalSpring = 1.0; ///< Towards a pure interval with another one.
@@ -65,7 +65,7 @@ public:
 
     /// Returns where the points rest. Each of them must have been pulled to a place, so that the
     /// matrix is positive definite and needs no pivoting.
-    std::array<double, kClasses> rest()
+    std::array<double, kPureClasses> rest()
     {
         for (unsigned row = 0; row < points_; ++row) {
             for (unsigned below = row + 1; below < points_; ++below) {
@@ -85,8 +85,8 @@ public:
 
 private:
     unsigned points_;
-    std::array<std::array<double, kClasses>, kClasses> matrix_{};
-    std::array<double, kClasses> right_{};
+    std::array<std::array<double, kPureClasses>, kPureClasses> matrix_{};
+    std::array<double, kPureClasses> right_{};
 };
 
 } // namespace
@@ -107,8 +107,8 @@ std::unique_ptr<Temperament> PureTemperament::fresh() const
 
 void PureTemperament::setup(Tunable& instrument, unsigned char key, float /*velocity*/)
 {
-    std::array<bool, kClasses> wasHeld{};
-    for (unsigned i = 0; i < kClasses; ++i)
+    std::array<bool, kPureClasses> wasHeld{};
+    for (unsigned i = 0; i < kPureClasses; ++i)
         wasHeld[i] = follower().isHeld(i);
     if (policy_ == Drift::Returns && std::ranges::find(wasHeld, true) == wasHeld.end())
         drift_ *= std::exp(std::min(silence_ - time(), 0.0) / kReturnSeconds);
@@ -126,9 +126,9 @@ void PureTemperament::release(unsigned char key)
 
 void PureTemperament::adjust(const std::array<bool, 12>& wasHeld)
 {
-    std::array<unsigned, kClasses> sounding{};
+    std::array<unsigned, kPureClasses> sounding{};
     unsigned count = 0;
-    for (unsigned i = 0; i < kClasses; ++i)
+    for (unsigned i = 0; i < kPureClasses; ++i)
         if (follower().isHeld(i))
             sounding[count++] = i;
     Springs springs(count);
@@ -151,7 +151,7 @@ void PureTemperament::adjust(const std::array<bool, 12>& wasHeld)
 
 void PureTemperament::updatePitches()
 {
-    for (unsigned i = 0; i < kClasses; ++i)
+    for (unsigned i = 0; i < kPureClasses; ++i)
         current_[i] = Cent(FollowingMeantone::getTuning(i).cent() + offsets_[i]);
 }
 

@@ -7,10 +7,10 @@ namespace velmora {
 
 namespace {
 
-constexpr unsigned kPitchClasses = 12;
+constexpr unsigned kSpelledClasses = 12;
 
 /// Stands for no pitch class.
-constexpr unsigned kNone = kPitchClasses;
+constexpr unsigned kNone = kSpelledClasses;
 
 /// Returns the spelling of a pitch class that is nearest to a place; of two, its home.
 int nearestPlace(unsigned pitchClass, double centre)
@@ -29,7 +29,7 @@ int nearestPlace(unsigned pitchClass, double centre)
 std::array<SpellingFollower::PitchClass, 12> SpellingFollower::atHome()
 {
     std::array<PitchClass, 12> classes;
-    for (unsigned i = 0; i < kPitchClasses; ++i)
+    for (unsigned i = 0; i < kSpelledClasses; ++i)
         classes[i].place = meantone::kHomePlaces[i];
     return classes;
 }
@@ -37,7 +37,7 @@ std::array<SpellingFollower::PitchClass, 12> SpellingFollower::atHome()
 void SpellingFollower::strike(unsigned key, double time)
 {
     forgetUntil(time);
-    const unsigned pitchClass = key % kPitchClasses;
+    const unsigned pitchClass = key % kSpelledClasses;
     PitchClass& struck = classes_[pitchClass];
     if (pressed_[key])
         return;
@@ -57,7 +57,7 @@ void SpellingFollower::release(unsigned key, double time)
         return;
     forgetUntil(time);
     pressed_.reset(key);
-    PitchClass& released = classes_[key % kPitchClasses];
+    PitchClass& released = classes_[key % kSpelledClasses];
     --released.held;
     released_.add(1.0, released.place);
 }
@@ -71,7 +71,7 @@ double SpellingFollower::centreWithout(unsigned pitchClass) const
 {
     Weight sum = released_;
     sum.add(settings_.anchorWeight, settings_.anchor);
-    for (unsigned i = 0; i < kPitchClasses; ++i)
+    for (unsigned i = 0; i < kSpelledClasses; ++i)
         if (i != pitchClass)
             sum.add(classes_[i].held, classes_[i].place);
     return sum.places / sum.notes;
@@ -91,7 +91,7 @@ void SpellingFollower::correct()
 {
     // A second pass lets the first notes of a chord follow what the others have become.
     for (int pass = 0; pass < 2; ++pass)
-        for (unsigned i = 0; i < kPitchClasses; ++i)
+        for (unsigned i = 0; i < kSpelledClasses; ++i)
             if (PitchClass& recent = classes_[i];
                 recent.held > 0 && time_ - recent.struck < settings_.correction)
                 recent.place = nearestPlace(i, centreWithout(i));

@@ -14,8 +14,6 @@ using Fifths = HistoricalTemperament::Fifths;
 using Ratios = HistoricalTemperament::Ratios;
 using Division = HistoricalTemperament::Division;
 
-constexpr int kRest = Fifths::kRest;
-
 constexpr std::size_t kClasses = 12;
 
 const double kPureFifth = 1200.0 * std::log2(3.0 / 2.0);
@@ -35,14 +33,14 @@ std::array<double, kClasses> narrowings(const Fifths& fifths)
     double rest = kPythagoreanComma;
     int shares = 0;
     for (const int narrowed : fifths.narrowed) {
-        if (narrowed == kRest)
+        if (narrowed == Fifths::kRest)
             ++shares;
         else
             rest -= unit * narrowed;
     }
     std::array<double, kClasses> result{};
     std::ranges::transform(fifths.narrowed, result.begin(), [&](int narrowed) {
-        return narrowed == kRest ? rest / shares : unit * narrowed;
+        return narrowed == Fifths::kRest ? rest / shares : unit * narrowed;
     });
     return result;
 }

@@ -62,8 +62,9 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     connect(menu, &InstrumentMenu::openRequested, this, &InstrumentPanel::openRequested);
     connect(menu, &InstrumentMenu::instrumentChosen, this, &InstrumentPanel::instrumentChosen);
     connect(menu, &InstrumentMenu::refused, this, &InstrumentPanel::refused);
-    connect(programs_, &ProgramList::programChosen, &application_, &AppDelegate::selectProgram);
-    connect(&application_, &AppDelegate::programSelected, programs_, &ProgramList::showProgram);
+    connect(programs_, &ProgramList::chosen, &application_, &AppDelegate::selectProgram);
+    connect(&application_, &AppDelegate::programSelected, programs_,
+            [this](int program) { programs_->showCurrent(static_cast<std::size_t>(program)); });
     connect(&application_, &AppDelegate::instrumentChanged, this, &InstrumentPanel::showInstrument);
     connect(&application_, &AppDelegate::volumeMoved, stops_, &StopList::showVolume);
 }
@@ -90,7 +91,7 @@ void InstrumentPanel::showInstrument()
     programs_->setVisible(hasPrograms);
     if (hasPrograms) {
         programs_->showPrograms(programs);
-        programs_->showProgram(static_cast<int>(program));
+        programs_->showCurrent(static_cast<std::size_t>(program));
     }
     usage_->setVisible(usage > 0);
     // docs/decisions.md, 114

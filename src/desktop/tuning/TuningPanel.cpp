@@ -3,43 +3,42 @@
 #include "app/AppDelegate.h"
 #include "desktop/tuning/TuningStrip.h"
 #include "desktop/tuning/tuningText.h"
+#include "desktop/widgets/GroupedList.h"
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/TwoLineDelegate.h"
 #include "desktop/widgets/icons.h"
 #include "desktop/widgets/noteNames.h"
 #include "desktop/widgets/scrolling.h"
 #include "sound/keys.h"
+#include "tuning/historicalTemperaments.h"
 
 #include <QLabel>
-#include <QListWidget>
 #include <QLocale>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSignalBlocker>
+#include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace velmora {
 
 namespace {
 
-constexpr int kNameRole = Qt::UserRole;
-constexpr int kLeastHeight = 120;
 constexpr int kUsualHeight = 430, kUsualLetters = 40;
 constexpr int kA4 = 69;
 
 } // namespace
 
 TuningPanel::TuningPanel(AppDelegate& application, QWidget* parent)
-    : QWidget(parent), application_(application), list_(new QListWidget),
+    : QWidget(parent), application_(application),
+      list_(new GroupedList(tr("Find a tuning"), tr("Tuning"))),
       strip_(new TuningStrip(application)), pitches_(new QLabel)
 {
     setObjectName("tuningPanel");
     setWindowTitle(tr("Tuning"));
-    list_->setAccessibleName(tr("Tuning"));
-    list_->setFocusPolicy(Qt::TabFocus);
-    list_->setItemDelegate(new TwoLineDelegate(list_));
-    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list_->setMinimumHeight(kLeastHeight);
+    list_->tree().setItemDelegate(new TwoLineDelegate(list_));
+    list_->tree().setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* openButton = new QPushButton(icon("open"), tr("Open T&uning…"));
     openButton->setToolTip(tr("Open a tuning file: a scale (.scl) or frequencies (.mtx)"));
     openButton->setFocusPolicy(Qt::TabFocus);
@@ -61,8 +60,7 @@ TuningPanel::TuningPanel(AppDelegate& application, QWidget* parent)
 
     connect(openButton, &QPushButton::clicked, this, &TuningPanel::openRequested);
     // Queued, because choosing a tuning can fill the list again.
-    connect(list_, &QListWidget::currentRowChanged, this, &TuningPanel::select,
-            Qt::QueuedConnection);
+    connect(list_, &GroupedList::chosen, this, &TuningPanel::select, Qt::QueuedConnection);
     connect(strip_, &TuningStrip::changed, this, &TuningPanel::showPitches);
     connect(&application_, &AppDelegate::tuningsChanged, this, &TuningPanel::showTunings);
     connect(&application_, &AppDelegate::tuningChanged, this, &TuningPanel::markCurrent);
@@ -76,42 +74,35 @@ QSize TuningPanel::sizeHint() const
 
 void TuningPanel::showTunings()
 {
-    const QSignalBlocker blocker(list_);
-    const int before = list_->currentRow();
-    list_->clear();
-    for (const std::string& name : application_.tuningNames()) {
-        const auto [title, detail] = tuningText(application_, name);
-        auto* item = new QListWidgetItem(detail.isEmpty() ? title : title + '\n' + detail, list_);
-        item->setData(kNameRole, QString::fromStdString(name));
-        item->setToolTip(item->text());
-    }
-    list_->setCurrentRow(before);
+    std::vector<GroupedList::Entry> entries;
+    names_.clear();
+    const auto add = [&](const QString& group, const std::string& name, const TuningText& text) {
+        const QString both = text.detail.isEmpty() ? text.title : text.title + '\n' + text.detail;
+        entries.push_back({group, both, both});
+        names_.push_back(name);
+    };
+    for (const std::string& name : application_.tuningNames())
+        if (findHistoricalTemperament(name) == nullptr)
+            add(tr("Tunings"), name, tuningText(application_, name));
+    for (const HistoricalTemperament& each : historicalTemperaments())
+        add(groupText(each), std::string(each.name), tuningText(each));
+    list_->showEntries(std::move(entries));
     markCurrent();
 }
 
 void TuningPanel::markCurrent()
 {
-    const QSignalBlocker blocker(list_);
-    const QString current = QString::fromStdString(application_.tuningName());
-    const auto isCurrent = [&](int row) {
-        return row >= 0 && list_->item(row)->data(kNameRole) == current;
-    };
     // If two tunings have the same name, the one that was chosen stays marked.
-    int marked = list_->currentRow();
-    for (int row = 0; !isCurrent(marked) && row < list_->count(); ++row)
-        marked = row;
-    list_->setCurrentRow(isCurrent(marked) ? marked : -1);
-    for (int row = 0; row < list_->count(); ++row) {
-        QFont font = list_->font();
-        font.setBold(row == list_->currentRow());
-        list_->item(row)->setFont(font);
-    }
+    if (chosen_ >= names_.size() || names_[chosen_] != application_.tuningName())
+        chosen_ = static_cast<std::size_t>(std::ranges::find(names_, application_.tuningName()) -
+                                           names_.begin());
+    list_->showCurrent(chosen_);
 }
 
-void TuningPanel::select(int row)
+void TuningPanel::select(std::size_t position)
 {
-    if (const QListWidgetItem* item = list_->item(row))
-        application_.selectTuning(item->data(kNameRole).toString().toStdString());
+    chosen_ = position;
+    application_.selectTuning(names_.at(position));
 }
 
 void TuningPanel::showPitches()

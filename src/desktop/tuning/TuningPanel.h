@@ -2,16 +2,20 @@
 
 #include <QWidget>
 
+#include <string>
+#include <vector>
+
 class QLabel;
-class QListWidget;
 
 namespace velmora {
 
 class AppDelegate;
+class GroupedList;
 class TuningStrip;
 
-/// Lists the tunings with their descriptions, and shows the pitches of the current one. It can be
-/// docked: it is narrow, and scrolls if it is not high enough.
+/// Lists the tunings with their descriptions, then those of the literature, with a field to search
+/// them all, and shows the pitches of the current one. It can be docked: it is narrow, and scrolls
+/// if it is not high enough.
 class TuningPanel : public QWidget {
     Q_OBJECT
 
@@ -27,11 +31,13 @@ signals:
 private:
     void showTunings();
     void markCurrent();
-    void select(int row);
+    void select(std::size_t position);
     void showPitches();
 
     AppDelegate& application_;
-    QListWidget* list_;
+    GroupedList* list_;
+    std::vector<std::string> names_; ///< Of the listed tunings.
+    std::size_t chosen_ = 0;         ///< The position of the tuning that was chosen last.
     TuningStrip* strip_;
     QLabel* pitches_;
 };

@@ -7,6 +7,7 @@
 namespace velmora {
 
 class AppDelegate;
+struct HistoricalTemperament;
 
 /// What the user reads about a tuning.
 struct TuningText {
@@ -17,5 +18,9 @@ struct TuningText {
 
 /// Returns the text about the tuning of that name.
 TuningText tuningText(const AppDelegate& application, const std::string& name);
+TuningText tuningText(const HistoricalTemperament& temperament);
+
+/// Returns the name of the group of a historical temperament in the user's language.
+QString groupText(const HistoricalTemperament& temperament);
 
 } // namespace velmora

@@ -20,7 +20,7 @@ TEST(ProgramList, KeepsTheProgramIfTheSearchFindsNone)
     list.showPrograms(programs);
     auto& search = *list.findChild<SearchField*>();
     auto& tree = *list.findChild<QTreeWidget*>();
-    list.showProgram(19);
+    list.showCurrent(19);
     const QTreeWidgetItem* organ = tree.currentItem();
     search.setText("no such program");
     emit search.returnPressed();
@@ -35,7 +35,7 @@ TEST(ProgramList, GroupsThePresetsOfASoundFontByBanksAndDrumKits)
 {
     ProgramList list;
     std::vector<std::size_t> chosen;
-    QObject::connect(&list, &ProgramList::programChosen,
+    QObject::connect(&list, &ProgramList::chosen,
                      [&](std::size_t position) { chosen.push_back(position); });
     list.showPrograms(std::vector<Program>{{0, 0, "Grand", false},
                                            {8, 4, "Detuned", false},
@@ -47,7 +47,7 @@ TEST(ProgramList, GroupsThePresetsOfASoundFontByBanksAndDrumKits)
         texts += (*item)->text(0);
     EXPECT_EQ(texts, QStringList({"Bank 0", "1 Grand", "20 Church Organ", "Bank 8", "5 Detuned",
                                   "Drum kits", "1 Standard"}));
-    list.showProgram(3);
+    list.showCurrent(3);
     EXPECT_EQ(tree.currentItem()->text(0), "20 Church Organ");
     EXPECT_TRUE(chosen.empty()) << "showing is not choosing";
     auto& search = *list.findChild<SearchField*>();

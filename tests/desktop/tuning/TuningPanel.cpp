@@ -1,25 +1,29 @@
 #include "desktop/tuning/TuningPanel.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/widgets/SearchField.h"
 #include "support/OrganFolder.h"
 #include "support/RecordingInstrument.h"
 
 #include <QLabel>
-#include <QListWidget>
+#include <QTreeWidget>
 #include <QtTest>
 #include <gmock/gmock.h>
 
 namespace velmora {
 
 using testing::ElementsAre;
+using testing::StartsWith;
 
 namespace {
 
-std::vector<std::string> items(const QListWidget& list)
+/// Returns the tunings of the first group.
+std::vector<std::string> items(const QTreeWidget& tree)
 {
     std::vector<std::string> texts;
-    for (int row = 0; row < list.count(); ++row)
-        texts.push_back(list.item(row)->text().toStdString());
+    const QTreeWidgetItem& group = *tree.topLevelItem(0);
+    for (int row = 0; row < group.childCount(); ++row)
+        texts.push_back(group.child(row)->text(0).toStdString());
     return texts;
 }
 
@@ -34,10 +38,11 @@ TEST(TuningPanel, KeepsTheOrderAndDuplicateNames)
     application.setInstrument(instrument, "Recorder");
     TuningPanel panel(application);
     panel.show();
-    auto& list = *panel.findChild<QListWidget*>();
+    auto& list = *panel.findChild<QTreeWidget*>();
     EXPECT_THAT(items(list), ElementsAre("Equal\nTwelve equal semitones",
                                          "Quartercomma Meantone\nPure major thirds",
-                                         "Dynamic\nAdapts its thirds to what you play"));
+                                         "Dynamic\nAdapts its thirds to what you play",
+                                         StartsWith("Following Meantone\n"), StartsWith("Pure\n")));
     const OrganFolder folder;
     auto loaded = std::make_unique<TuningDocument>();
     std::string scale = "bent\n12\n";
@@ -52,29 +57,38 @@ TEST(TuningPanel, KeepsTheOrderAndDuplicateNames)
         });
         return cents;
     };
+    const auto currentRow = [&] { return list.topLevelItem(0)->indexOfChild(list.currentItem()); };
     const auto choose = [&](int row) {
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
-                          list.visualItemRect(list.item(row)).center());
+                          list.visualItemRect(list.topLevelItem(0)->child(row)).center());
         QApplication::processEvents();
     };
     for (const int row : {0, 2}) {
         choose(1);
         choose(row);
-        EXPECT_EQ(list.currentRow(), row);
+        EXPECT_EQ(currentRow(), row);
         EXPECT_EQ(centsOfCSharp(), 99.0) << row;
     }
     choose(3);
     EXPECT_THAT(items(list),
                 ElementsAre("bent\nEqual", "Quartercomma Meantone\nPure major thirds",
-                            "bent\nEqual", "Dynamic\nAdapts its thirds to what you play"));
-    EXPECT_EQ(list.currentRow(), 3);
+                            "bent\nEqual", "Dynamic\nAdapts its thirds to what you play",
+                            StartsWith("Following Meantone\n"), StartsWith("Pure\n")));
+    EXPECT_EQ(currentRow(), 3);
     EXPECT_NEAR(centsOfCSharp(), 76.049, 1e-9);
 
     EXPECT_TRUE(application.selectTuning("Quartercomma Meantone"));
-    EXPECT_EQ(list.currentRow(), 1);
+    EXPECT_EQ(currentRow(), 1);
     EXPECT_TRUE(QTest::qWaitFor([&] {
         return panel.findChild<QLabel*>()->text() == "C4 (middle C): 261.63 Hz\nA4: 437.40 Hz";
     })) << panel.findChild<QLabel*>()->text().toStdString();
+
+    auto& search = *panel.findChild<SearchField*>();
+    search.setText("1779 kirnberger");
+    emit search.returnPressed();
+    QApplication::processEvents();
+    EXPECT_EQ(application.tuningName(), "Kirnberger III");
+    EXPECT_EQ(items(list).size(), 6U) << "it stays in its group";
 }
 
 } // namespace velmora
