@@ -15,8 +15,9 @@ namespace sf2 {
 
 namespace {
 
-/// Sides whose tuning differs less than this are played as one sound, in the middle between them.
-constexpr double kAlike = 5.0;
+/// Sides whose tuning differs at most so many cents, which makes them sound wider, are played as
+/// one sound, in the middle between them.
+constexpr double kAlike = 10.0;
 
 /// Banks list the sides of a sound next to each other, or at most as far apart as they have layers.
 constexpr std::size_t kFarthest = 16;
@@ -48,7 +49,7 @@ bool areSides(const Bank& bank, const Zone& left, const Zone& right)
         return std::tuple(zone.rate, zone.mode, zone.root, zone.centsPerKey, zone.pitchOf);
     };
     return keysOf(left) == keysOf(right) && traits(left) == traits(right) &&
-           std::abs(left.cents - right.cents) < kAlike &&
+           std::abs(left.cents - right.cents) <= kAlike &&
            (areLinked(bank, left, right) || arePanned(left, right));
 }
 
@@ -103,8 +104,9 @@ std::vector<Layer> layersOf(const std::vector<Sides>& zones, int key)
     for (std::size_t i = 0; i < zones.size(); ++i)
         if (zones[i].left.lowestKey <= key && key <= zones[i].left.highestKey)
             order.push_back(i);
-    std::ranges::stable_sort(order, std::ranges::greater(),
-                             [&](std::size_t i) { return zones[i].left.decibels; });
+    std::ranges::stable_sort(order, std::ranges::greater(), [&](std::size_t i) {
+        return std::pair(zones[i].left.decibels, zones[i].right.has_value());
+    });
     constexpr int kVelocities = 128;
     std::array<std::optional<std::size_t>, kVelocities> byVelocity;
     for (const std::size_t i : order)

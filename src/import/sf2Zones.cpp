@@ -98,12 +98,12 @@ Zone placeOf(const sfSample& header, const Amounts& amounts, std::int64_t points
     constexpr unsigned kLoop = 1;
     constexpr unsigned kLoopWhileHeld = 3;
     const unsigned mode = amounts.word(kSampleModes) & 3;
-    if (zone.loopEnd == zone.loopBegin)
-        zone.loopBegin = zone.loopEnd = zone.end;
-    else if (mode == kLoop)
+    if (zone.loopEnd > zone.loopBegin && mode == kLoop)
         zone.mode = Zone::Mode::Loop;
-    else if (mode == kLoopWhileHeld)
+    else if (zone.loopEnd > zone.loopBegin && mode == kLoopWhileHeld)
         zone.mode = Zone::Mode::LoopWhileHeld;
+    else
+        zone.loopBegin = zone.loopEnd = zone.end;
     return zone;
 }
 

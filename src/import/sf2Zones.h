@@ -70,7 +70,8 @@ struct Layer {
     int loudest = 0;
 };
 
-/// Returns what sounds on a key: one zone for each velocity, the loudest if there are several.
+/// Returns what sounds on a key: one zone for each velocity. If there are several, it is the
+/// loudest one, and of equal ones rather a stereo sound.
 std::vector<Layer> layersOf(const std::vector<Sides>& zones, int key);
 
 } // namespace sf2

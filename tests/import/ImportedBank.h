@@ -36,6 +36,30 @@ inline std::string keysOf(const ALInstrument& instrument, std::size_t stop)
     return result;
 }
 
+/// Describes what a key of a stop starts, as in "Flute 60.5 -6dB 0-63 stereo 10~90;": the sound,
+/// the key at which it sounds as recorded, its gain, velocities, channels and loop.
+inline std::string attacksOf(const ALInstrument& instrument, std::size_t stop, std::size_t key)
+{
+    std::map<const Sound*, std::string> names;
+    for (const auto& [name, sound] : instrument.sounds)
+        names[sound.get()] = name;
+    std::string result;
+    for (const Sample::Attack& one : instrument.stops().at(stop).samples.at(key).attacks()) {
+        const double root = 12 * std::log2(one.rootPitch / equal.getPitch(0));
+        result += fmt::format("{} {:.6g}", names.at(one.sound), root);
+        if (one.gain != 1.0F)
+            result += fmt::format(" {:.3g}dB", 20 * std::log10(one.gain));
+        if (one.softest > 0.0F || one.loudest < 1.0F)
+            result += fmt::format(" {}-{}", std::lround(127 * one.softest + 0.01F),
+                                  std::lround(127 * one.loudest - 0.01F));
+        result += one.sound->channels() == 2 ? " stereo" : "";
+        if (const auto loop = one.sound->loop())
+            result += fmt::format(" {}~{}", loop->begin, loop->end);
+        result += ";";
+    }
+    return result;
+}
+
 /// Returns the error, in cents, of a key of the first stop in meantone. In equal temperament key 69
 /// should sound at `hertzOfA`.
 inline double centsOff(ALInstrument& instrument, std::size_t key, double hertzOfA)
@@ -68,6 +92,11 @@ public:
     }
 
     std::string keys(std::size_t stop) const { return keysOf(*import.instrument, stop); }
+
+    std::string attacks(std::size_t stop, std::size_t key) const
+    {
+        return attacksOf(*import.instrument, stop, key);
+    }
 
     double centsOff(std::size_t key, double hertzOfA)
     {
