@@ -19,6 +19,9 @@ public:
         const auto path = pathOf(name);
         if (SampleFiles::leaves(folder_, path))
             throw FormatError("lies outside the folder of the instrument");
+        std::error_code error;
+        if (!std::filesystem::exists(path, error))
+            throw FormatError("is missing");
         return readFile(path);
     }
 

@@ -2,7 +2,6 @@
 
 #include "base/FormatError.h"
 #include "base/Text.h"
-#include "import/FolderTree.h"
 
 #include <spdlog/fmt/fmt.h>
 
@@ -28,8 +27,7 @@ constexpr double kLowestHertz = 4.0; ///< Lower than any pipe sounds.
 OrganPackages::OrganPackages(const std::filesystem::path& definition, const OrganTables& tables)
     : tables_(tables),
       root_(folders_.find(std::filesystem::absolute(definition).parent_path().parent_path(),
-                          "OrganInstallationPackages")),
-      tree_(openFolder(root_))
+                          "OrganInstallationPackages"))
 {
     std::error_code error;
     if (!std::filesystem::is_directory(root_, error))
@@ -38,8 +36,10 @@ OrganPackages::OrganPackages(const std::filesystem::path& definition, const Orga
     for (const OrganRow& general : tables.rows("_General")) {
         const auto folder = folders_.numbered(root_, general.id(kOrganNumber));
         if (!folder.empty())
-            organFolder_ = folder.lexically_relative(root_).string();
+            organFolder_ = add(folder);
     }
+    if (organFolder_ == ".")
+        add(root_);
     for (const OrganRow& row : tables.rows("Sample"))
         samples_.insert_or_assign(row.id(kSample), row);
 }
@@ -78,11 +78,19 @@ const std::optional<std::string>& OrganPackages::folderOf(int package)
     if (isNew) {
         const std::filesystem::path folder = folders_.numbered(root_, package);
         if (!folder.empty())
-            found->second = folder.lexically_relative(root_).string();
+            found->second = add(folder);
         else if (package == 0)
             found->second = organFolder_;
     }
     return found->second;
+}
+
+/// Makes the files of a package part of the tree and returns how their names begin.
+std::string OrganPackages::add(const std::filesystem::path& folder)
+{
+    std::string name = folder.lexically_relative(root_).string();
+    tree_->add(name, folder);
+    return name;
 }
 
 std::string OrganPackages::nameOf(int package) const

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "import/FileTree.h"
 #include "import/OrganTables.h"
+#include "import/PackageTree.h"
 #include "import/SampleFiles.h"
 
 #include <filesystem>
@@ -49,14 +49,15 @@ public:
 private:
     /// The folder of a package inside the tree; nothing if it is missing.
     const std::optional<std::string>& folderOf(int package);
+    std::string add(const std::filesystem::path& folder);
     std::string nameOf(int package) const;
 
     const OrganTables& tables_;
     SampleFiles folders_; ///< Before `root_`, which it finds.
     std::filesystem::path root_;
-    std::shared_ptr<const FileTree> tree_;
-    std::string organFolder_ =
-        "."; ///< Of the package with the organ's own number; "." if there is none.
+    std::shared_ptr<PackageTree> tree_ = std::make_shared<PackageTree>();
+    /// The folder of the package with the organ's own number, if there is one.
+    std::string organFolder_ = ".";
     std::map<int, std::optional<std::string>> packages_;
     std::unordered_map<int, OrganRow> samples_;
     std::vector<std::string> files_;

@@ -27,7 +27,8 @@ struct RecordedPitch {
 
 /// Understands the notes in the sample files of a rank. They may be written for the key instead of
 /// the sound, and the organ may be up to three semitones from A at 440 Hz. Notes that do not fit
-/// the others, such as a default that was never changed, count as missing.
+/// the others, such as a default that was never changed, count as missing. See docs/decisions.md,
+/// 170.
 class RankPitch {
 public:
     /// Starts with what is known about the whole rank.

@@ -53,7 +53,7 @@ std::vector<std::size_t> divisionsOf(const XmlConsole& console)
 }
 
 /// Sets whose swell each rank stands in. A rank that several divisions play stands with the others
-/// of its enclosure.
+/// of its enclosure. See docs/decisions.md, 172.
 void enclose(PipeOrgan& organ, const XmlConsole& console, const XmlRanks& ranks, bool hasEnclosures)
 {
     const std::vector<std::size_t> divisions = divisionsOf(console);

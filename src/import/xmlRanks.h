@@ -26,7 +26,7 @@ public:
     int enclosure(int rank) const;
 
     /// Returns a rank with its pipes, which start with their plain sustained recordings, not those
-    /// with a tremulant or for quick repetition.
+    /// with a tremulant or for quick repetition. See docs/decisions.md, 171.
     PipeOrgan::Rank read(int rank);
 
     /// What `read` has left out, and why.

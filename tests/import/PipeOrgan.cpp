@@ -96,26 +96,27 @@ TEST(RankPitch, UnderstandsTheNotesInTheFiles)
         << "the file is that of another key";
 }
 
-/// An organ of sines in two packages. The Great has an 8' stop, the Swell borrows it and has a 4'
-/// stop; all pipes are out of tune.
+/// An organ of sines in two packages. The Great has an 8' stop, the Swell a 4' stop and a rank that
+/// borrows the samples of the 8' stop; all pipes are out of tune. The first stop has no files.
 class SineOrgan {
 public:
     SineOrgan()
     {
         for (int key = kLowest; key <= kHighest; ++key)
             addPipes(key);
-        tables_.insert(tables_.end(),
-                       {{"_General", {"Identification_Name=Sines,Identification_UniqueOrganID=7"}},
-                        {"Division", {"a=1,b=Great", "a=2,b=Swell"}},
-                        {"Stop",
-                         {"a=1,b=Principal 8',c=1", "a=2,b=Gone,c=1", "a=3,b=Borrowed 8',c=2",
-                          "a=4,b=Octave 4',c=2"}},
-                        {"StopRank", {"a=1,d=3", "a=1,d=1", "a=2,d=3", "a=3,d=1", "a=4,d=2"}},
-                        {"Rank", {"a=1,b=Principal", "a=2,b=Octave", "a=3,b=Gone"}},
-                        {"Pipe_SoundEngine01", pipes_},
-                        {"Pipe_SoundEngine01_Layer", layers_},
-                        {"Pipe_SoundEngine01_AttackSample", attacks_},
-                        {"Sample", samples_}});
+        tables_.insert(
+            tables_.end(),
+            {{"_General", {"Identification_Name=Sines,Identification_UniqueOrganID=7"}},
+             {"Division", {"a=1,b=Great", "a=2,b=Swell"}},
+             {"Stop",
+              {"a=2,b=Gone,c=1", "a=1,b=Principal 8',c=1", "a=3,b=Octave 4',c=2",
+               "a=4,b=Borrowed 8',c=2"}},
+             {"StopRank", {"a=1,d=1", "a=2,d=3", "a=3,d=2", "a=4,d=4"}},
+             {"Rank", {"a=1,b=Principal", "a=2,b=Octave", "a=3,b=Gone", "a=4,b=Borrowed"}},
+             {"Pipe_SoundEngine01", pipes_},
+             {"Pipe_SoundEngine01_Layer", layers_},
+             {"Pipe_SoundEngine01_AttackSample", attacks_},
+             {"Sample", samples_}});
     }
 
     std::filesystem::path write() const
@@ -132,20 +133,23 @@ private:
     {
         add(key, 1, 8, 10, "p8");
         add(key, 2, 16, 20, "p4");
-        add(key, 3, 8, 10, "none");
+        add(key, 3, 8, 10, key == kLowest ? "../outside" : "none");
+        add(key, 4, 8, 10, "");
     }
 
-    /// Adds a pipe, and its file: a second of sound with a loop of about 0.2 s and a release from
-    /// 0.8 s, which is half as loud.
+    /// Adds a pipe. If `folder` is empty, its sample is that of the first rank. Its own file has a
+    /// second of sound with a loop of about 0.2 s, and from 0.8 s a release that is half as loud.
     void add(int key, int rank, int harmonic, int package, const std::string& folder)
     {
         const int id = 1000 * rank + key;
         const std::string file = fmt::format("{}/{}.wav", folder, key);
         pipes_.push_back(fmt::format("a={},b={},d={},f={}", id, rank, key, harmonic));
         layers_.push_back(fmt::format("a={0},b={0}", id));
-        attacks_.push_back(fmt::format("b={0},c={0}", id));
+        attacks_.push_back(fmt::format("b={},c={}", id, folder.empty() ? 1000 + key : id));
+        if (folder.empty())
+            return;
         samples_.push_back(fmt::format("a={},b={},c={}", id, package, file));
-        if (folder == "none")
+        if (rank == 3)
             return;
         const double note = key + 12.0 * std::log2(harmonic / 8.0) + 0.01 * (key % 7 - 3);
         const double period = kRate / hertzOfNote(note);
@@ -191,10 +195,13 @@ TEST(PipeOrgan, SoundsInTuneForAsLongAsItsKeysAreHeld)
     ASSERT_TRUE(document.read(organ.write(), InstrumentFormat::HauptwerkXml, {}, host))
         << document.errorString();
     EXPECT_EQ(document.name(), "Sines");
-    EXPECT_EQ(document.report().ranks, 2U);
-    EXPECT_EQ(document.report().pipes, 32U);
-    EXPECT_THAT(document.report().skipped,
-                ElementsAre(Pair(HasSubstr("Gone: "), HasSubstr("the same holds for 15 other"))));
+    EXPECT_EQ(document.report().ranks, 3U);
+    EXPECT_EQ(document.report().pipes, 3U * 16U);
+    EXPECT_EQ(document.report().samples, 2U * 32U) << "an attack and a release for each file";
+    EXPECT_THAT(
+        document.report().skipped,
+        ElementsAre(Pair(HasSubstr("Gone: "), HasSubstr("is missing; the same holds for 14 other")),
+                    Pair(HasSubstr("Gone: "), HasSubstr("lies outside the folder"))));
 
     const Temperament meantone = Temperament::Meantone();
     Instrument& instrument = *document.instrument();
