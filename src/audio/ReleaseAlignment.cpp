@@ -21,6 +21,10 @@ constexpr double kMaximumEntries = 1024.0;
 /// By how far the pitch that is claimed for a sound may be wrong.
 constexpr double kPitchTolerance = 0.06;
 
+/// What a pitch may mean in frames.
+constexpr double kShortestPeriod = 2.0;
+constexpr double kLongestPeriod = 1e6;
+
 /// The period is measured over this many periods.
 constexpr int kMeasuredPeriods = 64;
 
@@ -129,6 +133,13 @@ double findBest(std::size_t low, std::size_t high, std::size_t step, const Score
     return static_cast<double>(best) + summit(score(best - 1), highest, score(best + 1));
 }
 
+/// Returns the period in frames that a pitch stands for, or one near to it that can be measured.
+double claimedPeriod(const Pcm& pcm, double pitch)
+{
+    return pitch > 0.0 ? std::clamp(pcm.rate / pitch, kShortestPeriod, kLongestPeriod)
+                       : kLongestPeriod;
+}
+
 /// Returns the period of the end of a sound in frames, which is near to `claimed`.
 double measuredPeriod(const Pcm& pcm, double claimed)
 {
@@ -161,10 +172,11 @@ double measuredPeriod(const Pcm& pcm, double claimed)
 
 ReleaseAlignment::ReleaseAlignment(const Pcm& attack, double attackPitch, const Pcm& release,
                                    double releasePitch)
-    : entries_(1), attackPeriod_(measuredPeriod(attack, attack.rate / attackPitch)),
-      releasePeriod_(release.rate / releasePitch * attackPeriod_ * attackPitch / attack.rate),
-      crossfadeSeconds_(
-          std::clamp(kCrossfadePeriods / attackPitch, kShortestCrossfade, kLongestCrossfade))
+    : attackPeriod_(measuredPeriod(attack, claimedPeriod(attack, attackPitch))),
+      releasePeriod_(claimedPeriod(release, releasePitch) * attackPeriod_ /
+                     claimedPeriod(attack, attackPitch)),
+      crossfadeSeconds_(std::clamp(kCrossfadePeriods * attackPeriod_ / attack.rate,
+                                   kShortestCrossfade, kLongestCrossfade))
 {
     const Strided from(attack, attackPeriod_);
     // Both must step by the same time.
@@ -202,6 +214,8 @@ ReleaseAlignment::ReleaseAlignment(const Pcm& attack, double attackPitch, const 
 
 ReleaseAlignment::Entry ReleaseAlignment::at(double position) const
 {
+    if (entries_.empty())
+        return {};
     const double place =
         std::clamp(position / spacing_, 0.0, static_cast<double>(entries_.size() - 1));
     const auto nearest = static_cast<std::size_t>(std::lround(place));

@@ -28,7 +28,8 @@ public:
     double crossfadeSeconds() const { return crossfadeSeconds_; }
 
 private:
-    std::vector<Entry> entries_; ///< For every `spacing_` frames of the attack; never empty.
+    /// For every `spacing_` frames of the attack; empty if a sound is too short to be compared.
+    std::vector<Entry> entries_;
     double spacing_ = 1.0;
     double attackPeriod_;
     double releasePeriod_; ///< In frames of the release.

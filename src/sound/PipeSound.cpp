@@ -126,9 +126,12 @@ double jointSharpness(std::span<const Value> samples, std::size_t channels, Loop
 template <class Value> std::uint32_t bestEnd(std::span<const Value> samples, std::size_t channels,
                                              Loop loop, double period)
 {
+    const bool mayShrink = period >= 1.0 && loop.length() >= kPeriodsToSpare * period;
     const auto compared =
-        std::min<std::size_t>(loop.begin, static_cast<std::size_t>(kComparedPeriods * period));
-    if (loop.length() < kPeriodsToSpare * period || compared == 0)
+        mayShrink
+            ? std::min<std::size_t>(loop.begin, static_cast<std::size_t>(kComparedPeriods * period))
+            : 0;
+    if (compared == 0)
         return loop.end;
     double least = std::numeric_limits<double>::infinity();
     std::uint32_t best = loop.end;

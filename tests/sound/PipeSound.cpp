@@ -135,6 +135,28 @@ TEST_F(PipeTest, ReleasesInPhaseAndAtTheLevelOfTheNote)
     }
 }
 
+TEST(PipeSound, IsMadeWhateverAFileClaims)
+{
+    constexpr std::uint32_t kFrames = 9600;
+    const auto tone = [](double time) { return turn(440.0 * time); };
+    for (const double pitch : {0.0, -1.0, 1e-12, 1e12, std::nan("")}) {
+        for (const Loop loop : {Loop{0, 9600}, Loop{0, 4}, Loop{9590, 9600}, Loop{9000, 100},
+                                Loop{4000, 9601}, Loop{7, 8000}}) {
+            SCOPED_TRACE(testing::Message() << pitch << " Hz, loop from " << loop.begin);
+            const PipeSound made =
+                makePipeSound({recorded(kFrames, kPipeRate, tone), pitch, {loop}, loop.end / 2});
+            const bool isWithin = loop.begin < loop.end && loop.end <= kFrames;
+            EXPECT_EQ(made.loop.has_value(), isWithin);
+            ASSERT_FALSE(made.attack.samples.empty());
+            const Pcm release = made.release.samples.empty() ? made.attack : made.release;
+            const ReleaseAlignment::Entry entry =
+                ReleaseAlignment(made.attack, pitch, release, pitch).at(loop.end);
+            EXPECT_GE(entry.frame, 1.0F);
+            EXPECT_LT(entry.frame, release.samples.size());
+        }
+    }
+}
+
 TEST_F(PipeTest, LoopsWithoutAClickAndInTune)
 {
     // 4410 frames are 44 periods of the first tone, and half a period too many of the second.
