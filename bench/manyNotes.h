@@ -34,8 +34,8 @@ inline void selectTenth(Sequence& sequence)
 /// A host without an instrument, so that only the cost of finding the notes is measured.
 class SilentHost : public SequenceHost {
 public:
-    void play(int /*key*/, float /*velocity*/, double /*time*/) override {}
-    void stop(int /*key*/, double /*time*/) override {}
+    void play(int /*key*/, float /*velocity*/, int /*channel*/, double /*time*/) override {}
+    void stop(int /*key*/, int /*channel*/, double /*time*/) override {}
     LiveKeys& liveKeys() override { return liveKeys_; }
 
 private:

@@ -164,6 +164,7 @@ void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
 void AppDelegate::setInstrument(Instrument& instrument, const std::string& name)
 {
     player_.setInstrument(instrument);
+    organ_.takeInstrument(instrument);
     instrumentName_ = name;
     emit instrumentChanged();
 }
@@ -249,6 +250,8 @@ std::uint8_t AppDelegate::midiProgram()
 
 void AppDelegate::receiveProgram(std::uint8_t program)
 {
+    if (organ_.receiveProgram(program))
+        return;
     player_.with([&](Instrument& instrument, Temperament&) {
         if (instrument.programs().empty())
             return;
@@ -375,6 +378,11 @@ void AppDelegate::handle(const InputEvent& event)
         break;
     case InputEvent::Kind::Volume:
         emit volumeMoved(event.slider, event.volume);
+        if (organ_.definition() != nullptr)
+            organ_.announceMove();
+        break;
+    case InputEvent::Kind::Console:
+        organ_.announceMove();
         break;
     case InputEvent::Kind::MasterVolume:
         setPrefInt("MasterVolume", static_cast<int>(std::lround(100.0F * event.volume)));

@@ -3,6 +3,7 @@
 #include "app/InputQueue.h"
 #include "app/LiveDevices.h"
 #include "app/MidiLearning.h"
+#include "app/OrganConsole.h"
 #include "app/Player.h"
 #include "app/PlayingOptions.h"
 #include "app/preferredOutput.h"
@@ -74,6 +75,9 @@ public:
 
     /// How the MIDI devices are played.
     PlayingOptions& playing() { return playing_; }
+
+    /// The console of the current instrument, if it is an organ.
+    OrganConsole& organ() { return organ_; }
 
     /// What controls of the MIDI devices have learned.
     MidiLearning& learning() { return learning_; }
@@ -265,6 +269,7 @@ private:
     MidiLearning learning_;
     Player player_;
     InputQueue queue_;
+    OrganConsole organ_{player_, [this] { queue_.post({.kind = InputEvent::Kind::Console}); }};
     LiveDevices devices_{*this};
     DisplayWake displayWake_;
     std::atomic<bool> userIsActive_{false};

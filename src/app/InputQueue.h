@@ -22,6 +22,7 @@ struct InputEvent {
         Volume,       ///< A controller has moved a slider.
         MasterVolume, ///< A learned control has moved it.
         Program,      ///< A General MIDI program was selected.
+        Console,      ///< A stop or a swell of an organ was moved.
         Action,       ///< A learned control was used.
         Learned       ///< A control has learned an action.
     };

@@ -13,6 +13,12 @@ namespace velmora {
 
 using KeySet = std::bitset<kKeys>;
 
+/// How many divisions of an organ can be played.
+constexpr std::size_t kDivisions = 16;
+
+/// The keys of each division. Those of an instrument without divisions are the first.
+using DivisionKeys = std::array<KeySet, kDivisions>;
+
 /// Numbers whatever can hold a key: the mouse, the sequencer, the letters of the computer keyboard,
 /// and each channel of each MIDI device.
 using KeySource = std::size_t;
@@ -32,47 +38,58 @@ constexpr KeySource deviceSource(std::size_t device, std::size_t channel)
     return kFirstDevice + device * midi::kChannels + channel;
 }
 
-/// Knows who holds each key, by hand or with a pedal. A key sounds until nobody holds it.
+/// Knows who holds each key of each division, by hand or with a pedal. A key sounds until nobody
+/// holds it.
 class KeyHolders {
 public:
-    void press(std::size_t key, KeySource source);
+    void press(std::size_t division, std::size_t key, KeySource source);
 
     /// Releases a key by hand. The source's sustain pedal goes on holding it if it is down.
-    void release(std::size_t key, KeySource source);
+    void release(std::size_t division, std::size_t key, KeySource source);
 
     /// Moves the sustain pedal of a source, which holds every key that the source releases while it
     /// is down. Returns the keys that nobody holds any more.
-    KeySet setSustain(KeySource source, bool down);
+    DivisionKeys setSustain(KeySource source, bool down);
 
     /// Moves the sostenuto pedal of a source, which holds the keys that are down when it is
     /// pressed. Returns the keys that nobody holds any more.
-    KeySet setSostenuto(KeySource source, bool down);
+    DivisionKeys setSostenuto(KeySource source, bool down);
 
     /// Releases every key and pedal of a source. Returns the keys that nobody holds any more.
-    KeySet releaseAll(KeySource source);
+    DivisionKeys releaseAll(KeySource source);
 
     /// Releases every key. Pedals that are down stay down.
     void clear();
 
     /// True if anybody holds a key, by hand or with a pedal.
-    bool isHeld(std::size_t key) const { return held_[key] > 0; }
+    bool isHeld(std::size_t division, std::size_t key) const { return held_[division][key] > 0; }
 
-    /// True if the user holds a key by hand.
+    /// True if anybody holds a key of any division.
+    bool isHeld(std::size_t key) const;
+
+    /// True if a source holds a key by hand.
+    bool isPressed(std::size_t division, std::size_t key, KeySource source) const
+    {
+        return holders_[source].pressed[division][key];
+    }
+
+    /// True if the user holds a key by hand on any division.
     bool isPressed(std::size_t key) const { return pressed_[key] > 0; }
 
 private:
     struct Holder {
-        KeySet pressed, sustained, sostenuto;
+        DivisionKeys pressed, sustained, sostenuto;
         bool sustainIsDown = false;
         bool sostenutoIsDown = false;
     };
 
-    void hold(KeySet& keys, std::size_t key);
-    /// Clears a set. Returns the keys that nobody holds any more.
-    KeySet drop(KeySet& keys);
+    void hold(DivisionKeys& keys, std::size_t division, std::size_t key);
+    /// Removes all keys. Adds those that nobody holds any more to `free`.
+    void drop(DivisionKeys& keys, DivisionKeys& free);
 
     std::array<Holder, kKeySources> holders_;
-    std::array<std::uint16_t, kKeys> held_{};    ///< How many sets contain each key.
+    /// How many sets contain each key.
+    std::array<std::array<std::uint16_t, kKeys>, kDivisions> held_{};
     std::array<std::uint16_t, kKeys> pressed_{}; ///< How many live sources press each key.
 };
 

@@ -89,6 +89,11 @@ void LiveDevice::setVolume(float volume, std::size_t slider)
     application_.setVolume(volume, slider);
 }
 
+bool LiveDevice::moveConsole(std::uint8_t controller, float value, int channel)
+{
+    return application_.organ().receiveVolume(controller, value, source(channel));
+}
+
 void LiveDevice::toggleVolume(std::size_t slider)
 {
     application_.toggleVolume(slider);

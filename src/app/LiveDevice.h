@@ -38,6 +38,7 @@ private:
     void bend(double cents) override;
     void silence() override;
     void setProgram(std::uint8_t program) override;
+    bool moveConsole(std::uint8_t controller, float value, int channel) override;
     void toggleVolume(std::size_t slider) override;
     void setMasterVolume(float volume) override;
     void toggleMasterVolume() override;

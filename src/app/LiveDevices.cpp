@@ -103,6 +103,7 @@ void LiveDevices::arrived(const MidiDevice& device)
         const std::lock_guard playing(slot->playing);
         slot->filter.setSettings(settingsOf(device.name));
     }
+    application_.organ().nameDevice(device.number, device.name);
     application_.announceMidiDevices();
 }
 

@@ -12,6 +12,11 @@ bool isKey(int key)
     return key >= 0 && key <= kLastKey;
 }
 
+std::uint8_t playable(std::size_t division)
+{
+    return static_cast<std::uint8_t>(std::min(division, kDivisions - 1));
+}
+
 /// A recording has gone past the moments before the present.
 double momentForRecorder(double time)
 {
@@ -26,10 +31,28 @@ void Player::setInstrument(Instrument& instrument)
     if (std::ranges::find(instruments_, &instrument, &Sounding::instrument) == instruments_.end())
         instruments_.push_back({&instrument, {}});
     instrument_ = &instrument;
+    const std::uint8_t main = playable(instrument.mainDivision());
+    divisions_.ofSources.fill(main);
+    divisions_.ofChannels.fill(main);
     instrument_->bend(bend_);
     instrument_->setSoft(softPedals_ > 0);
     if (temperament_ != nullptr)
         instrument_->tune(*temperament_, 0, kLastKey);
+}
+
+void Player::setDivisions(const Instrument& instrument, const Divisions& divisions)
+{
+    const std::lock_guard lock(mutex_);
+    if (instrument_ != &instrument)
+        return;
+    std::ranges::transform(divisions.ofSources, divisions_.ofSources.begin(), playable);
+    std::ranges::transform(divisions.ofChannels, divisions_.ofChannels.begin(), playable);
+}
+
+std::size_t Player::divisionOf(KeySource source) const
+{
+    const std::lock_guard lock(mutex_);
+    return divisions_.ofSources[source];
 }
 
 void Player::setTemperament(Temperament& temperament)
@@ -60,9 +83,10 @@ void Player::keyOn(int key, float velocity, KeySource source, double time)
     velocity = std::clamp(velocity, 0.0F, 1.0F);
     const std::lock_guard lock(mutex_);
     inputDelay_ = std::max(inputDelay_.load(), getTime() - time);
-    holders_.press(static_cast<std::size_t>(key), source);
+    const std::size_t division = divisions_.ofSources[source];
+    holders_.press(division, static_cast<std::size_t>(key), source);
     liveKeys_.press(static_cast<std::size_t>(key), velocity, momentForRecorder(time));
-    start(key, velocity, time);
+    start(division, key, velocity, time);
 }
 
 void Player::keyOff(int key, KeySource source, double time)
@@ -71,11 +95,12 @@ void Player::keyOff(int key, KeySource source, double time)
         return;
     const auto slot = static_cast<std::size_t>(key);
     const std::lock_guard lock(mutex_);
-    holders_.release(slot, source);
+    // The source may have pressed the key while it played another division.
+    for (std::size_t division = 0; division < kDivisions; ++division)
+        if (division == divisions_.ofSources[source] || holders_.isPressed(division, slot, source))
+            release(division, slot, source, time);
     if (!holders_.isPressed(slot))
         liveKeys_.release(slot, momentForRecorder(time));
-    if (!holders_.isHeld(slot))
-        stopEverywhere(slot, time);
 }
 
 void Player::setSustain(KeySource source, bool down, double time)
@@ -112,27 +137,34 @@ void Player::releaseAll(KeySource source)
 {
     const double time = getTime();
     const std::lock_guard lock(mutex_);
-    const KeySet free = holders_.releaseAll(source);
+    const DivisionKeys free = holders_.releaseAll(source);
     for (std::size_t key = 0; key < kKeys; ++key)
         if (liveKeys_.state(key) != 0 && !holders_.isPressed(key))
             liveKeys_.release(key, time);
     stopEverywhere(free, time);
 }
 
-void Player::play(int key, float velocity, double time)
+void Player::play(int key, float velocity, int channel, double time)
 {
+    const auto slot = static_cast<std::size_t>(key);
+    const auto part = static_cast<std::size_t>(channel);
     const std::lock_guard lock(mutex_);
-    holders_.press(static_cast<std::size_t>(key), kSequencer);
-    start(key, velocity, time);
+    const std::uint8_t division = divisions_.ofChannels[part];
+    startedOn_[part][slot] = division;
+    holders_.press(division, slot, kSequencer);
+    start(division, key, velocity, time);
 }
 
-void Player::stop(int key, double time)
+void Player::stop(int key, int channel, double time)
 {
     const auto slot = static_cast<std::size_t>(key);
     const std::lock_guard lock(mutex_);
-    holders_.release(slot, kSequencer);
-    if (!holders_.isHeld(slot))
-        stopEverywhere(slot, time);
+    if (channel != kEveryChannel) {
+        release(startedOn_[static_cast<std::size_t>(channel)][slot], slot, kSequencer, time);
+        return;
+    }
+    for (std::size_t division = 0; division < kDivisions; ++division)
+        release(division, slot, kSequencer, time);
 }
 
 void Player::isomorph(int n)
@@ -143,8 +175,9 @@ void Player::isomorph(int n)
     instrument_->setDue(getTime());
     temperament_->isomorph(*instrument_, n);
     const int key = Temperament::isomorphKey(n);
-    holders_.press(static_cast<std::size_t>(key), kSequencer);
-    markCurrent(key);
+    const std::size_t division = playable(instrument_->mainDivision());
+    holders_.press(division, static_cast<std::size_t>(key), kSequencer);
+    markCurrent(division, key);
 }
 
 void Player::silence()
@@ -157,7 +190,7 @@ void Player::silence()
             temperament_->release(static_cast<unsigned char>(key));
     for (auto& [instrument, keys] : instruments_) {
         instrument->silence();
-        keys.reset();
+        keys = {};
     }
 }
 
@@ -175,44 +208,56 @@ void Player::fade()
             instrument->fade(kFadeFactor);
 }
 
-void Player::start(int key, float velocity, double time)
+void Player::start(std::size_t division, int key, float velocity, double time)
 {
     if (instrument_ == nullptr || temperament_ == nullptr)
         return;
     instrument_->setDue(time);
     temperament_->setTime(time);
     temperament_->setup(*instrument_, static_cast<unsigned char>(key), velocity);
-    instrument_->play(key, velocity);
-    markCurrent(key);
+    instrument_->playOn(division, key, velocity);
+    markCurrent(division, key);
+}
+
+void Player::release(std::size_t division, std::size_t key, KeySource source, double time)
+{
+    holders_.release(division, key, source);
+    if (!holders_.isHeld(division, key))
+        stopEverywhere(division, key, time);
 }
 
 // See docs/decisions.md, 30.
-void Player::stopEverywhere(std::size_t key, double time)
+void Player::stopEverywhere(std::size_t division, std::size_t key, double time)
 {
-    if (temperament_ != nullptr) {
+    if (temperament_ != nullptr && !holders_.isHeld(key)) {
         temperament_->setTime(time);
         temperament_->release(static_cast<unsigned char>(key));
     }
     for (auto& [instrument, keys] : instruments_) {
-        if (instrument == instrument_ || keys[key]) {
+        // Another division of the current instrument would be stopped by a key that it never had.
+        const bool isOwn =
+            instrument == instrument_ && division == playable(instrument->mainDivision());
+        if (isOwn || keys[division][key]) {
             instrument->setDue(time);
-            instrument->stop(static_cast<int>(key));
+            instrument->stopOn(division, static_cast<int>(key));
         }
-        keys.reset(key);
+        keys[division].reset(key);
     }
 }
 
-void Player::stopEverywhere(const KeySet& keys, double time)
+void Player::stopEverywhere(const DivisionKeys& keys, double time)
 {
-    for (std::size_t key = 0; key < kKeys; ++key)
-        if (keys[key])
-            stopEverywhere(key, time);
+    for (std::size_t division = 0; division < kDivisions; ++division)
+        for (std::size_t key = 0; key < kKeys && keys[division].any(); ++key)
+            if (keys[division][key])
+                stopEverywhere(division, key, time);
 }
 
-void Player::markCurrent(int key)
+void Player::markCurrent(std::size_t division, int key)
 {
     std::ranges::find(instruments_, instrument_, &Sounding::instrument)
-        ->keys.set(static_cast<std::size_t>(key));
+        ->keys[division]
+        .set(static_cast<std::size_t>(key));
 }
 
 } // namespace velmora

@@ -3,13 +3,16 @@
 #include "app/KeyHolders.h"
 #include "base/Clock.h"
 #include "base/fading.h"
+#include "midi/messages.h"
 #include "platform/PriorityMutex.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceHost.h"
 #include "sound/Instrument.h"
 #include "tuning/Temperament.h"
 
+#include <array>
 #include <atomic>
+#include <cstdint>
 #include <mutex>
 #include <vector>
 
@@ -24,9 +27,22 @@ namespace velmora {
 /// destroyed.
 class Player : public SequenceHost {
 public:
-    /// Makes an instrument the current one and tunes it. Keys that sound on the previous one go on
-    /// until they are released.
+    /// Which division of the current instrument each source and each channel of a sequence plays.
+    struct Divisions {
+        std::array<std::uint8_t, kKeySources> ofSources{};
+        std::array<std::uint8_t, midi::kChannels> ofChannels{};
+    };
+
+    /// Makes an instrument the current one and tunes it; everything plays its main division. Keys
+    /// that sound on the previous one go on until they are released.
     void setInstrument(Instrument& instrument);
+
+    /// Chooses the divisions of the current instrument from now on. Keys that are held stay on
+    /// theirs. Does nothing if `instrument` is not the current one.
+    void setDivisions(const Instrument& instrument, const Divisions& divisions);
+
+    /// The division that a source plays.
+    std::size_t divisionOf(KeySource source) const;
 
     /// Makes a temperament the current one and retunes the instrument, including sounding keys.
     void setTemperament(Temperament& temperament);
@@ -74,8 +90,8 @@ public:
     /// does. `stop` releases it.
     void isomorph(int n);
 
-    void play(int key, float velocity, double time) override;
-    void stop(int key, double time) override;
+    void play(int key, float velocity, int channel, double time) override;
+    void stop(int key, int channel, double time) override;
     LiveKeys& liveKeys() override { return liveKeys_; }
 
     /// Ends every sound of every instrument at once and releases every live key.
@@ -92,20 +108,24 @@ private:
     /// An instrument and the keys that were started and not yet stopped on it.
     struct Sounding {
         Instrument* instrument;
-        KeySet keys;
+        DivisionKeys keys;
     };
 
     // Called with the lock held:
-    void start(int key, float velocity, double time);
-    void stopEverywhere(std::size_t key, double time);
-    void stopEverywhere(const KeySet& keys, double time);
-    void markCurrent(int key);
+    void start(std::size_t division, int key, float velocity, double time);
+    void release(std::size_t division, std::size_t key, KeySource source, double time);
+    void stopEverywhere(std::size_t division, std::size_t key, double time);
+    void stopEverywhere(const DivisionKeys& keys, double time);
+    void markCurrent(std::size_t division, int key);
 
     mutable PriorityMutex mutex_;
     Instrument* instrument_ = nullptr;
     Temperament* temperament_ = nullptr;
     std::vector<Sounding> instruments_; ///< All that have been current and were not removed.
     KeyHolders holders_;
+    Divisions divisions_;
+    /// The division on which each channel of a sequence last started each key.
+    std::array<std::array<std::uint8_t, kKeys>, midi::kChannels> startedOn_{};
     LiveKeys liveKeys_;
     std::atomic<double> inputDelay_{0.0};
     double bend_ = 0.0;  ///< In cents.

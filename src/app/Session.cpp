@@ -1,22 +1,18 @@
 #include "app/Session.h"
 
+#include "app/JsonField.h"
 #include "base/FormatError.h"
 #include "base/escapedPath.h"
 #include "midi/PlayingSettings.h"
-
-#include <nlohmann/json.hpp>
 
 #include <QByteArray>
 
 #include <algorithm>
 #include <array>
-#include <optional>
 
 namespace velmora {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr int kSessionVersion = 1;
 constexpr int kLastProgram = 127;
@@ -54,84 +50,7 @@ Json describe(const Session::Instrument& instrument, const std::filesystem::path
     return file;
 }
 
-/// A value of the file and the name that a sentence gives to it, such as "pieces[2].path".
-struct Field {
-    const Json& value;
-    std::string name;
-
-    [[noreturn]] void refuse(const std::string& expected) const
-    {
-        throw FormatError('"' + name + "\" is not " + expected);
-    }
-
-    std::optional<Field> find(const char* key) const
-    {
-        const auto found = value.find(key);
-        if (found == value.end())
-            return std::nullopt;
-        return Field{*found, name.empty() ? key : name + '.' + key};
-    }
-
-    /// The elements of a list.
-    std::vector<Field> elements() const
-    {
-        if (!value.is_array())
-            refuse("a list");
-        std::vector<Field> fields;
-        for (const Json& element : value)
-            fields.push_back({element, name + '[' + std::to_string(fields.size()) + ']'});
-        return fields;
-    }
-
-    /// The elements of a list of records.
-    std::vector<Field> records() const
-    {
-        std::vector<Field> fields = elements();
-        for (const Field& field : fields)
-            if (!field.value.is_object())
-                field.refuse("a record in braces");
-        return fields;
-    }
-
-    std::string text() const
-    {
-        if (!value.is_string())
-            refuse("a text in quotation marks");
-        return value.get<std::string>();
-    }
-
-    bool boolean() const
-    {
-        if (!value.is_boolean())
-            refuse("true or false");
-        return value.get<bool>();
-    }
-
-    double number(double least, double greatest) const
-    {
-        const double number = value.is_number() ? value.get<double>() : least - 1.0;
-        if (!(number >= least && number <= greatest))
-            refuse("a number from " + Json(least).dump() + " to " + Json(greatest).dump());
-        return number;
-    }
-
-    int integer(int least, int greatest) const
-    {
-        const double number = value.is_number_integer() ? value.get<double>() : least - 1.0;
-        if (number < least || number > greatest)
-            refuse("a whole number from " + std::to_string(least) + " to " +
-                   std::to_string(greatest));
-        return static_cast<int>(number);
-    }
-
-    /// A position in a list of `count` entries; 0 if the list is empty.
-    std::size_t index(std::size_t count) const
-    {
-        return static_cast<std::size_t>(integer(0, std::max(static_cast<int>(count) - 1, 0)));
-    }
-};
-
-std::filesystem::path readPath(const Field& field)
+std::filesystem::path readPath(const JsonField& field)
 {
     std::filesystem::path path = unescapePath(field.text());
     if (path.empty() || path.native().find('\0') != std::string::npos)
@@ -140,7 +59,7 @@ std::filesystem::path readPath(const Field& field)
 }
 
 /// Reads the path of a file, which is absolute.
-std::filesystem::path readPath(const Field& file, const std::filesystem::path& folder)
+std::filesystem::path readPath(const JsonField& file, const std::filesystem::path& folder)
 {
     const auto field = file.find("path");
     if (!field)
@@ -157,7 +76,7 @@ std::filesystem::path readPath(const Field& file, const std::filesystem::path& f
     return path;
 }
 
-InstrumentFormat readFormat(const Field& field)
+InstrumentFormat readFormat(const JsonField& field)
 {
     constexpr std::array kFormats = {InstrumentFormat::HauptwerkXml, InstrumentFormat::Hauptwerk1,
                                      InstrumentFormat::SoundFont, InstrumentFormat::GigaSampler};
@@ -169,7 +88,7 @@ InstrumentFormat readFormat(const Field& field)
     return *format;
 }
 
-ImportOptions readOptions(const Field& instrument)
+ImportOptions readOptions(const JsonField& instrument)
 {
     ImportOptions options;
     if (const auto isPlain = instrument.find("plain"); isPlain && isPlain->boolean())
@@ -181,7 +100,7 @@ ImportOptions readOptions(const Field& instrument)
     return options;
 }
 
-Session::Instrument readInstrument(const Field& file, const std::filesystem::path& folder)
+Session::Instrument readInstrument(const JsonField& file, const std::filesystem::path& folder)
 {
     Session::Instrument instrument;
     const auto kind = file.find("kind");
@@ -197,25 +116,12 @@ Session::Instrument readInstrument(const Field& file, const std::filesystem::pat
             instrument.program = program->integer(0, kLastProgram);
     }
     if (const auto volumes = file.find("volumes"))
-        for (const Field& volume : volumes->elements())
+        for (const JsonField& volume : volumes->elements())
             instrument.gains.push_back(static_cast<float>(volume.number(0.0, 1.0)));
     return instrument;
 }
 
-Json parse(std::string_view text)
-{
-    try {
-        return Json::parse(text);
-    } catch (const Json::parse_error& error) {
-        const std::string_view read = text.substr(0, error.byte);
-        const auto line = static_cast<std::size_t>(std::ranges::count(read, '\n')) + 1;
-        throw FormatError::atLine(line, "this is not valid JSON");
-    } catch (const Json::exception&) {
-        throw FormatError("contains a number that is too large");
-    }
-}
-
-void requireSession(const Field& file)
+void requireSession(const JsonField& file)
 {
     const auto version = file.value.is_object() ? file.find("velmoraSession") : std::nullopt;
     if (!version || !version->value.is_number_unsigned())
@@ -253,26 +159,26 @@ std::string encodeSession(const Session& session, const std::filesystem::path& f
 
 Session decodeSession(std::string_view text, const std::filesystem::path& folder)
 {
-    const Json json = parse(text);
-    const Field file{json, {}};
+    const Json json = parseJson(text);
+    const JsonField file{json, {}};
     requireSession(file);
     Session session;
     if (const auto instruments = file.find("instruments"))
-        for (const Field& instrument : instruments->records())
+        for (const JsonField& instrument : instruments->records())
             session.instruments.push_back(readInstrument(instrument, folder));
     if (const auto current = file.find("currentInstrument"))
         session.currentInstrument = current->index(session.instruments.size());
     if (const auto program = file.find("program"))
         session.program = static_cast<std::uint8_t>(program->integer(0, kLastProgram));
     if (const auto tunings = file.find("tunings"))
-        for (const Field& tuning : tunings->records())
+        for (const JsonField& tuning : tunings->records())
             session.tunings.push_back(readPath(tuning, folder));
     if (const auto tuning = file.find("tuning"))
         session.tuning = tuning->text();
     if (const auto transposition = file.find("transposition"))
         session.transposition = transposition->integer(-kMaxTransposition, kMaxTransposition);
     if (const auto pieces = file.find("pieces"))
-        for (const Field& piece : pieces->records()) {
+        for (const JsonField& piece : pieces->records()) {
             const auto position = piece.find("position");
             session.pieces.push_back(
                 {readPath(piece, folder), position ? position->number(0.0, kLastStep) : 0.0});

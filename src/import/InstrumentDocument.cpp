@@ -15,6 +15,7 @@
 #include "import/xmlPipeOrgan.h"
 #include "sound/ALInstrument.h"
 #include "sound/MIDIInstrument.h"
+#include "sound/OrganInstrument.h"
 
 #include <new>
 
@@ -128,6 +129,9 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
         cleanNames(import);
         if (import.presets)
             instrument_ = std::move(import.presets);
+        else if (import.console)
+            instrument_ = std::make_unique<OrganInstrument>(std::move(import.instrument),
+                                                            std::move(*import.console));
         else
             instrument_ = std::move(import.instrument);
         name_ = std::move(import.name);

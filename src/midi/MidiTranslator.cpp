@@ -142,7 +142,9 @@ void MidiTranslator::readController(int channel, std::uint8_t number, std::uint8
     } else if (isPedal(number)) {
         setPedal(channel, number, isHigh);
     } else if (const auto slider = sliderOf(number)) {
-        input_.setVolume(static_cast<float>(value) / 127.0F, *slider);
+        const float volume = static_cast<float>(value) / 127.0F;
+        if (!input_.moveConsole(number, volume, channel))
+            input_.setVolume(volume, *slider);
     }
 }
 

@@ -36,6 +36,10 @@ public:
     /// A General MIDI program, 0…127, was selected.
     virtual void setProgram(std::uint8_t program) = 0;
 
+    /// A volume controller that has learned nothing was moved to a value from 0 to 1. Returns false
+    /// if it is to move a volume slider, as it is for instruments without a console.
+    virtual bool moveConsole(std::uint8_t controller, float value, int channel) = 0;
+
     /// A controller moved the volume slider of a stop to a volume from 0 to 1.
     virtual void setVolume(float volume, std::size_t slider) = 0;
 

@@ -24,9 +24,9 @@ void perform(SequenceHost& host, const KeyAction& action)
 {
     const int key = static_cast<int>(action.key);
     if (action.starts)
-        host.play(key, action.velocity, action.time);
+        host.play(key, action.velocity, action.channel, action.time);
     else
-        host.stop(key, action.time);
+        host.stop(key, action.channel, action.time);
 }
 
 AheadPlayer::AheadPlayer(SequenceHost& host) : host_(host), thread_([this] { run(); }) {}

@@ -15,6 +15,7 @@ namespace velmora {
 struct KeyAction {
     bool starts;
     std::uint32_t key;
+    int channel;
     float velocity;
     double time; ///< When it is due, in the seconds of `getTime`; 0 for at once.
     double step; ///< The position at that time.

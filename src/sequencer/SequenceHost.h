@@ -4,20 +4,23 @@ namespace velmora {
 
 class LiveKeys;
 
+/// In place of a channel, to stop a key on all of them.
+constexpr int kEveryChannel = -1;
+
 /// The application as the sequencer sees it: plays notes and knows which keys the user holds. May
 /// be called on any thread.
 class SequenceHost {
 public:
     virtual ~SequenceHost() = default;
 
-    /// Starts a key on the current instrument at the pitch of the current temperament. `time` is
-    /// the moment that is meant, in the seconds of `getTime`; it sounds a constant delay later, or
+    /// Starts a key on the current instrument at the pitch of the current temperament. `channel`,
+    /// 0…15, chooses the division of an organ. `time` is the moment that is meant, in the seconds of `getTime`; it sounds a constant delay later, or
     /// as soon as possible if `time` is 0. Does nothing if there is no instrument.
-    virtual void play(int key, float velocity, double time) = 0;
+    virtual void play(int key, float velocity, int channel, double time) = 0;
 
-    /// Stops a key that was started with `play`, on every instrument that still sounds it. If the
-    /// user holds it as well, it sounds on.
-    virtual void stop(int key, double time) = 0;
+    /// Stops a key that was started with `play` for a channel or `kEveryChannel`, on every
+    /// instrument that still sounds it. If the user holds it as well, it sounds on.
+    virtual void stop(int key, int channel, double time) = 0;
 
     /// The keys of live input.
     virtual LiveKeys& liveKeys() = 0;

@@ -1,5 +1,6 @@
 #include "sequencer/SequencePlayback.h"
 
+#include "midi/messages.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceTime.h"
 
@@ -17,6 +18,12 @@ constexpr int kTicksPlanned = 256;
 /// The delay of planned notes in seconds. It ensures that the position is past everything that has
 /// sounded, whatever the rounding.
 constexpr double kBehindPosition = 1e-6;
+
+/// The channel of a note as a file has it, which has four bits.
+int channelOf(const Note& note)
+{
+    return static_cast<int>(note.channel % midi::kChannels);
+}
 
 // See docs/decisions.md, 96.
 bool startsBetween(const Note& note, double from, double to)
@@ -54,7 +61,7 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
             states[note.key] = kWanted;
             lastKey = note.key;
             if (sounds)
-                perform(host_, {true, note.key, note.velocity, 0.0, 0.0});
+                perform(host_, {true, note.key, channelOf(note), note.velocity, 0.0, 0.0});
         }
         if (endsBetween(note, from, to)) {
             // See docs/decisions.md, 97.
@@ -62,7 +69,7 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
             note.playing = note.active = false;
             silenced = true;
             if (sounds)
-                stopOnInstrument(note.key);
+                stopOnInstrument(note.key, channelOf(note));
         }
     }
     if (silenced)
@@ -76,9 +83,9 @@ void SequencePlayback::collect(double from, double to, double time)
         const Note& note = sequence_.at(noteIndex);
         if (startsBetween(note, from, to))
             // See docs/decisions.md, 90.
-            actions_.push_back({true, note.key, note.velocity, time, to});
+            actions_.push_back({true, note.key, channelOf(note), note.velocity, time, to});
         if (endsBetween(note, from, to))
-            actions_.push_back({false, note.key, 0.0F, time, to});
+            actions_.push_back({false, note.key, channelOf(note), 0.0F, time, to});
     }
 }
 
@@ -121,7 +128,7 @@ void SequencePlayback::silence(Note& note)
 {
     states[note.key] = 0;
     note.playing = note.active = false;
-    stopOnInstrument(note.key);
+    stopOnInstrument(note.key, channelOf(note));
 }
 
 // See docs/decisions.md, 98.
@@ -131,7 +138,7 @@ void SequencePlayback::silenceAll()
     soundedTo_.reset();
     for (const std::uint32_t key : index().keys()) {
         states[key] = 0;
-        stopOnInstrument(key);
+        stopOnInstrument(key, kEveryChannel);
     }
     for (const std::uint32_t noteIndex : marked_)
         sequence_.at(noteIndex).playing = sequence_.at(noteIndex).active = false;
@@ -143,7 +150,7 @@ void SequencePlayback::stop()
     for (std::size_t i = 0; i < sequence_.notes().size(); ++i) {
         Note& note = sequence_.at(i);
         if (note.playing)
-            stopOnInstrument(note.key);
+            stopOnInstrument(note.key, channelOf(note));
         note.playing = false;
     }
 }
@@ -165,9 +172,9 @@ void SequencePlayback::markAt(double step, double tolerance, int state)
     }
 }
 
-void SequencePlayback::stopOnInstrument(std::uint32_t key)
+void SequencePlayback::stopOnInstrument(std::uint32_t key, int channel)
 {
-    perform(host_, {false, key, 0.0F, 0.0, 0.0});
+    perform(host_, {false, key, channel, 0.0F, 0.0, 0.0});
 }
 
 SequenceIndex& SequencePlayback::index()

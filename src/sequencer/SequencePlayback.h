@@ -59,7 +59,7 @@ public:
     std::array<int, kKeys> states{};
 
 private:
-    void stopOnInstrument(std::uint32_t key);
+    void stopOnInstrument(std::uint32_t key, int channel);
     void collect(double from, double to, double time);
     SequenceIndex& index();
     bool isMarked(std::uint32_t noteIndex) const;

@@ -34,6 +34,17 @@ public:
     /// Releases a key. Does nothing if the key does not sound.
     virtual void stop(int key) = 0;
 
+    /// The number of divisions, each of which has keys of its own: the manuals and the pedal of an
+    /// organ. Instruments without manuals have one.
+    virtual std::size_t numDivisions() const { return 1; }
+
+    /// The division that `play` and `stop` play.
+    virtual std::size_t mainDivision() const { return 0; }
+
+    /// Like `play` and `stop`, for a division, numbered from 0.
+    virtual void playOn(std::size_t /*division*/, int key, float velocity) { play(key, velocity); }
+    virtual void stopOn(std::size_t /*division*/, int key) { stop(key); }
+
     /// Sets when the operations that follow are due, in the seconds of `getTime`; 0 for at once.
     virtual void setDue(double /*time*/) {}
 

@@ -95,7 +95,7 @@ TEST_F(PlayerTest, AKeyStopsOnTheInstrumentThatSoundsIt)
     expectToStopOverThreeChanges([&] { player_.keyOn(kKey, 1.0F); }, [&] { player_.keyOff(kKey); });
     player_.setTemperament(dynamic_);
     expectToStopOverThreeChanges([&] { player_.isomorph(3 * (kKey - 48)); },
-                                 [&] { player_.stop(kKey, 0.0); });
+                                 [&] { player_.stop(kKey, 0, 0.0); });
 }
 
 TEST_F(PlayerTest, ANoteOfAPlayingSequenceStopsOnTheInstrumentThatSoundsIt)
@@ -162,13 +162,13 @@ TEST_F(PlayerTest, AKeySoundsUntilItsLastHolderReleasesIt)
 
     player_.keyOn(kKey, 0.5F, piano);
     player_.keyOn(kKey, 0.5F, pedals);
-    player_.play(kKey, 0.5F, 0.0);
+    player_.play(kKey, 0.5F, 0, 0.0);
     player_.keyOn(kKey, 0.5F);
     player_.keyOff(kKey, piano);
     player_.keyOff(kKey);
     EXPECT_NE(player_.liveKeys().state(kKey), 0);
     player_.keyOff(kKey, pedals);
-    expectToEndWith([&] { player_.stop(kKey, 0.0); });
+    expectToEndWith([&] { player_.stop(kKey, 0, 0.0); });
 
     player_.setSustain(piano, true, 0.0);
     player_.setSustain(pedals, true, 0.0);
@@ -203,10 +203,10 @@ TEST_F(PlayerTest, TheTemperamentKnowsWhichKeysSound)
     player_.setInstrument(other_);
     player_.setTemperament(following);
     player_.keyOn(kKey, 0.5F, kMouse, 1.0);
-    player_.play(kKey, 0.5F, 2.0);
+    player_.play(kKey, 0.5F, 0, 2.0);
     player_.keyOff(kKey, kMouse, 3.0);
     EXPECT_TRUE(isHeld()) << "the sequence still holds it";
-    player_.stop(kKey, 4.0);
+    player_.stop(kKey, 0, 4.0);
     EXPECT_FALSE(isHeld());
     const double before = following.follower().centre();
     player_.keyOn(kKey + 2, 0.5F, kMouse, 9.0);

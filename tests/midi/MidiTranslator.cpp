@@ -24,6 +24,7 @@ protected:
 
     PlayingSettings settings_;
     LearnedControls learned_;
+    bool hasConsole_ = false;
 
 private:
     void keyOn(int key, float velocity, int channel) override
@@ -42,6 +43,12 @@ private:
     void setProgram(std::uint8_t program) override
     {
         calls_ += fmt::format("program {}, ", program);
+    }
+    bool moveConsole(std::uint8_t controller, float value, int channel) override
+    {
+        if (hasConsole_)
+            calls_ += fmt::format("console {} {:.3f} ch{}, ", controller, value, channel);
+        return hasConsole_;
     }
     void setVolume(float volume, std::size_t slider) override
     {

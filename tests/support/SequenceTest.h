@@ -20,13 +20,13 @@ using Calls = std::vector<std::string>;
 /// steps in a file, but 15 steps in playback at tempo 120: see docs/decisions.md, 83.
 class SequenceTest : public testing::Test, public SequenceHost {
 protected:
-    void play(int key, float velocity, double /*time*/) override
+    void play(int key, float velocity, int /*channel*/, double /*time*/) override
     {
         called(fmt::format("play {} {:.2f}", key, velocity));
         if (onPlay_)
             onPlay_();
     }
-    void stop(int key, double /*time*/) override { called(fmt::format("stop {}", key)); }
+    void stop(int key, int /*channel*/, double /*time*/) override { called(fmt::format("stop {}", key)); }
     LiveKeys& liveKeys() override { return liveKeys_; }
 
     /// Adds a committed note and measures the extent.

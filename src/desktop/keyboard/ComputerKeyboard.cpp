@@ -85,7 +85,7 @@ void ComputerKeyboard::releaseKeys()
 void ComputerKeyboard::release(const Pressed& pressed)
 {
     if (pressed.isSpelling) {
-        application_.player().stop(pressed.key, getTime());
+        application_.player().stop(pressed.key, kEveryChannel, getTime());
         return;
     }
     application_.player().keyOff(pressed.key, kLetters);
