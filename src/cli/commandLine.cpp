@@ -91,7 +91,8 @@ void addSelection(CLI::App& command, Arguments& arguments)
 {
     command
         .add_option("--tuning", arguments.selection.tuning,
-                    "Equal, \"Quartercomma Meantone\", Dynamic, or a .scl or .mtx file; a "
+                    "Equal, \"Quartercomma Meantone\", Dynamic, \"Following Meantone\", Pure, a "
+                    "temperament of the literature such as Vallotti, or a .scl or .mtx file; a "
                     "name may be shortened to the beginning of one of its words")
         ->type_name("NAME|FILE")
         ->capture_default_str();
