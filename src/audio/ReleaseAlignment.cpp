@@ -8,8 +8,10 @@ namespace velmora {
 
 namespace {
 
-/// Sounds are compared over this many periods, at about this many points of each.
+/// Sounds are compared over this many periods and this time, at about this many points of each
+/// period. In a shorter time, the noise of a high pipe would count too much.
 constexpr double kWindowPeriods = 2.0;
+constexpr double kWindowSeconds = 0.008;
 constexpr double kPointsPerPeriod = 32.0;
 
 /// Between two entries the phase is carried on by the period. So long it stays true: a pipe's pitch
@@ -181,8 +183,9 @@ ReleaseAlignment::ReleaseAlignment(const Pcm& attack, double attackPitch, const 
     const Strided from(attack, attackPeriod_);
     // Both must step by the same time.
     const Strided to(release, releasePeriod_);
-    const auto points = static_cast<std::size_t>(kWindowPeriods * attackPeriod_ /
-                                                 static_cast<double>(from.stride()));
+    const auto points = static_cast<std::size_t>(
+        std::max(kWindowPeriods * attackPeriod_, kWindowSeconds * attack.rate) /
+        static_cast<double>(from.stride()));
     const std::size_t window = points * from.stride();
     const auto last = static_cast<std::size_t>(1.0 + releasePeriod_);
     if (from.frames() <= window || to.frames() <= last + points * to.stride())
