@@ -22,7 +22,7 @@ _velmora()
             COMPREPLY=($(compgen -W "Equal meantone Dynamic" -- "$word"))
             files='scl|mtx'
             ;;
-        *:--instrument) files='sf2|gig|organ_hauptwerk_xml|xml|organ' ;;
+        *:--instrument) files='sf2|gig|organ_hauptwerk_xml|xml|organ|orgue' ;;
         render:-o | render:--output) files='wav|flac|ogg' ;;
         *:--output) COMPREPLY=($(compgen -W "jack pulseaudio alsa none" -- "$word")) ;;
         *:--program | *:--stop | *:--rate | *:--tail | *:--loop-* | *:--loops | *:--period) ;;

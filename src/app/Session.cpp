@@ -79,7 +79,8 @@ std::filesystem::path readPath(const JsonField& file, const std::filesystem::pat
 InstrumentFormat readFormat(const JsonField& field)
 {
     constexpr std::array kFormats = {InstrumentFormat::HauptwerkXml, InstrumentFormat::Hauptwerk1,
-                                     InstrumentFormat::SoundFont, InstrumentFormat::GigaSampler};
+                                     InstrumentFormat::OrganPackage, InstrumentFormat::SoundFont,
+                                     InstrumentFormat::GigaSampler};
     const std::string name = field.text();
     const auto format = std::ranges::find_if(
         kFormats, [&](InstrumentFormat each) { return typeName(each) == name; });

@@ -106,7 +106,7 @@ void addSelection(CLI::App& command, Arguments& arguments)
                     "Bank of that program in a SoundFont; 128 for drum kits")
         ->check(CLI::NonNegativeNumber);
     command.add_option("--instrument", arguments.instrument,
-                       "The .sf2, .gig, .organ_hauptwerk_xml or .organ file to play");
+                       "The .sf2, .gig, .organ_hauptwerk_xml, .organ or .orgue file to play");
     command.add_option("--stop", arguments.stops, "Gain of a stop, as in 0=0.8; may be repeated")
         ->take_all()
         ->allow_extra_args(false)

@@ -43,8 +43,8 @@ std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& 
     const auto format = instrumentFormatOf(path);
     if (!format)
         throw UsageError("\"" + path.string() +
-                         "\" is not an instrument; use a .sf2, .gig, .organ_hauptwerk_xml, .xml or "
-                         ".organ file");
+                         "\" is not an instrument; use a .sf2, .gig, .organ_hauptwerk_xml, .xml, "
+                         ".organ or .orgue file");
     ProgressLine progress("Loading");
     double steps = 1.0;
     double done = 0.0;

@@ -117,6 +117,7 @@ private:
 };
 
 /// Returns where the header begins that ends at a position. Throws FormatError if there is none.
+/// See docs/decisions.md, 153.
 std::uint64_t headerBefore(const ByteSource& source, std::uint64_t end)
 {
     constexpr std::size_t kHeader = 30; // and then the name and more, each with a 16-bit length

@@ -9,6 +9,7 @@
 #include "import/PipeOrgan.h"
 #include "import/gig.h"
 #include "import/hauptwerk1.h"
+#include "import/organFile.h"
 #include "import/organXml.h"
 #include "import/sf2.h"
 #include "import/sf2Presets.h"
@@ -34,7 +35,11 @@ void readInto(Import& import, const std::filesystem::path& path, InstrumentForma
             readXML(path, import);
         break;
     case InstrumentFormat::Hauptwerk1:
-        readHauptwerk1(path, import);
+        import.options.reading == Reading::Plain ? readHauptwerk1(path, import)
+                                                 : readOrganFile(path, import);
+        break;
+    case InstrumentFormat::OrganPackage:
+        readOrganPackage(path, import);
         break;
     case InstrumentFormat::SoundFont:
         if (isMusical && import.options.asStops)

@@ -14,6 +14,8 @@ std::string_view typeName(InstrumentFormat format)
         return "XML";
     case InstrumentFormat::Hauptwerk1:
         return "Organ";
+    case InstrumentFormat::OrganPackage:
+        return "Organ Package";
     case InstrumentFormat::SoundFont:
         return "SoundFont";
     case InstrumentFormat::GigaSampler:
@@ -30,6 +32,7 @@ std::optional<InstrumentFormat> instrumentFormatOf(const std::filesystem::path& 
         {".organ_hauptwerk_xml", InstrumentFormat::HauptwerkXml},
         {".xml", InstrumentFormat::HauptwerkXml},
         {".organ", InstrumentFormat::Hauptwerk1},
+        {".orgue", InstrumentFormat::OrganPackage},
         {".sf2", InstrumentFormat::SoundFont},
         {".gig", InstrumentFormat::GigaSampler},
         {".exs", InstrumentFormat::Exs}};

@@ -10,7 +10,8 @@ namespace velmora {
 /// The kinds of file that hold an instrument.
 enum class InstrumentFormat : std::uint8_t {
     HauptwerkXml, ///< Organ definition of Hauptwerk 2 and later.
-    Hauptwerk1,   ///< Organ definition of Hauptwerk 1.
+    Hauptwerk1,   ///< Organ definition of Hauptwerk 1, and what has grown out of it.
+    OrganPackage, ///< Archive of an organ definition of that kind with its samples.
     SoundFont,
     GigaSampler,
     Exs, ///< Recognised but not imported, since the format has no public description.
@@ -20,7 +21,7 @@ enum class InstrumentFormat : std::uint8_t {
 std::string_view typeName(InstrumentFormat format);
 
 /// The format that a file's extension stands for, in any letter case: .organ_hauptwerk_xml or .xml,
-/// .organ, .sf2, .gig, .exs. Empty for any other extension.
+/// .organ, .orgue, .sf2, .gig, .exs. Empty for any other extension.
 std::optional<InstrumentFormat> instrumentFormatOf(const std::filesystem::path& path);
 
 } // namespace velmora

@@ -143,8 +143,8 @@ void SectionedConsole::addStop(const OrganSection& section, const OrganManual& m
 {
     if (isHidden(section))
         return;
-    const int pipes = section.integer("numberofaccessiblepipes", 0);
-    if (pipes == 1) {
+    // See docs/decisions.md, 150.
+    if (section.integer("numberofaccessiblepipes", 0) == 1) {
         omissions_.add(section, "is a noise or an effect that sounds when its knob is drawn, not "
                                 "when keys are pressed");
         return;

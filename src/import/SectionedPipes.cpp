@@ -1,7 +1,7 @@
 #include "import/SectionedPipes.h"
 
 #include "base/Text.h"
-#include "tuning/Temperament.h"
+#include "import/pipePitch.h"
 
 #include <spdlog/fmt/fmt.h>
 
@@ -15,7 +15,7 @@ namespace {
 
 constexpr double kFullAmplitude = 100.0; // percent
 constexpr int kMaximumTakes = 999;       // the numbers have three digits
-constexpr double kCentsPerOctave = 1200.0;
+constexpr double kCents = 100.0;         // in a semitone
 constexpr float kLoudest = 127.0F;
 
 /// Returns a frame number of a key, or nothing if the key says that the sample file knows it.
@@ -136,16 +136,15 @@ void SectionedPipes::setPitch(const OrganSection& section, const std::string& pr
 {
     const Voicing voicing = this->voicing(section, prefix);
     pipe.gain = static_cast<float>(std::min(voicing.gain, 1e6));
+    // See docs/decisions.md, 151.
     pipe.retuning = voicing.retuning;
     pipe.cents = voicing.correction;
     const int recordedKey = section.integer(prefix + "midikeynumber", -1);
     if (!section.isTrue(prefix + "acceptsretuning", section.isTrue("acceptsretuning", true))) {
-        pipe.hertz = equal.getPitch(static_cast<unsigned long>(pipe.key)) * pipe.harmonicNumber /
-                     8.0 * std::exp2(-pipe.retuning / kCentsPerOctave);
+        pipe.hertz = hertzOfNote(pipe.key - pipe.retuning / kCents) * pipe.harmonicNumber / 8.0;
     } else if (recordedKey >= 0 && recordedKey < static_cast<int>(kKeys)) {
-        const double fraction = section.number(prefix + "midipitchfraction", 0.0);
-        pipe.hertz = equal.getPitch(static_cast<unsigned long>(recordedKey)) *
-                     std::exp2(fraction / kCentsPerOctave);
+        pipe.hertz =
+            hertzOfNote(recordedKey + section.number(prefix + "midipitchfraction", 0.0) / kCents);
     }
 }
 
@@ -187,7 +186,7 @@ PipeOrgan::Attack SectionedPipes::attack(const OrganSection& section, const std:
     // An attack whose own release is for short notes only is a release of its own for them.
     if (const double held = longestHeld(section, prefix);
         attack.hasOwnRelease && std::isfinite(held)) {
-        pipe.releases.push_back({attack.file, attack.cue, held});
+        pipe.releases.push_back({attack.file, attack.cue, held, {}});
         attack.hasOwnRelease = false;
     }
     return attack;
@@ -204,8 +203,10 @@ void SectionedPipes::addReleases(const OrganSection& section, int number, PipeOr
             break;
         }
         if (takeOf(section, prefix) != Take::Tremulant)
-            pipe.releases.push_back({fileIndex(file), frame(section, prefix + "cuepoint"),
-                                     longestHeld(section, prefix)});
+            pipe.releases.push_back({fileIndex(file),
+                                     frame(section, prefix + "cuepoint"),
+                                     longestHeld(section, prefix),
+                                     {}});
     }
 }
 

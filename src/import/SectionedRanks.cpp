@@ -77,8 +77,7 @@ SectionedRanks::SectionedRanks(const OrganSections& sections,
     for (const int number : sections.numbers("windchestgroup"))
         hasSwells_ |=
             !sections.find(fmt::format("windchestgroup{}", number))->numbers("enclosure").empty();
-    // A rank that manuals and the pedal share belongs to the manual, and so does its swell. The
-    // pedal is number 0, so it comes last here.
+    // The pedal is number 0, so it comes last here. See docs/decisions.md, 152.
     for (auto manual = manuals.rbegin(); manual != manuals.rend(); ++manual) {
         for (const auto& [number, stop] : manual->second.stops) {
             divisions_[stop] = manual->second.division;

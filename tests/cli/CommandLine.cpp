@@ -218,8 +218,8 @@ TEST_F(CommandLine, KeepsWhatHasTheNameIfRenderingFails)
 
 TEST_F(CommandLine, RendersAnInstrumentInTune)
 {
-    render("out.wav",
-           {"--instrument", "test.organ", "--tuning", "Quartercomma Meantone", "--stop", "1=0.25"});
+    render("out.wav", {"--instrument", "test.organ", "--plain", "--tuning", "Quartercomma Meantone",
+                       "--stop", "1=0.25"});
     const Pcm heard = decodeAudio(content("out.wav"));
     std::vector<float> left;
     for (std::size_t i = 4800; i < 52800; ++i)
@@ -236,7 +236,7 @@ TEST_F(CommandLine, DescribesFiles)
     EXPECT_EQ(third["note"], "E5");
     EXPECT_EQ(info("song.mid")["notes"].at(0).dump(),
               R"({"channel":0,"key":52,"length":24.0,"start":0.0,"velocity":1.0})");
-    const Json organ = info("test.organ");
+    const Json organ = Json::parse(run({"info", "test.organ", "--json", "--plain"}).out);
     EXPECT_EQ(organ["stops"].at(0)["keys"].at(48)["rootPitch"], kRoot);
     EXPECT_THAT(organ["report"]["skipped"].at(0)["file"], HasSubstr("missing.wav"));
 
@@ -248,7 +248,7 @@ TEST_F(CommandLine, DescribesFiles)
 
     EXPECT_THAT(run({"info", "pure.scl"}).out,
                 HasSubstr("pure.scl: tuning, base frequency 261.625565 Hz at C4\n  Pure\n  C5 "));
-    const Result text = run({"info", "broken.mid", "song.mid", "test.organ"});
+    const Result text = run({"info", "--plain", "broken.mid", "song.mid", "test.organ"});
     EXPECT_EQ(text.code, 1);
     EXPECT_THAT(text.out, HasSubstr("song.mid: sequence of 1 note"))
         << "continues with the next file";

@@ -13,7 +13,7 @@ namespace velmora {
 namespace {
 
 constexpr const char* kFolderKey = "openFolder";
-constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ";
+constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ *.orgue";
 constexpr const char* kTunings = "*.scl *.mtx";
 constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
 constexpr const char* kSessions = "*.velmora";
