@@ -1,5 +1,6 @@
 #include "import/sf2Points.h"
 
+#include "import/ImportOptions.h"
 #include "import/RIFF.h"
 #include "import/sf2Bank.h"
 #include "import/sf2Zones.h"
@@ -15,9 +16,9 @@ namespace sf2 {
 
 namespace {
 
-bool has24Bits(const Bank& bank)
+bool has24Bits(const Bank& bank, const ImportOptions& options)
 {
-    return bank.lowBytes != nullptr &&
+    return !options.to16Bit && bank.lowBytes != nullptr &&
            bank.lowBytes->length() >= bank.pool.length() / sizeof(std::int16_t);
 }
 
@@ -77,28 +78,42 @@ void fill(const Bank& bank, const Zone& zone, std::size_t channel, Pcm& pcm)
     repeat(pcm.floats, channels, channel, own, loop);
 }
 
+/// Mixes both channels.
+template <class Value> void mix(std::vector<Value>& values)
+{
+    for (std::size_t i = 0; i + 1 < values.size(); i += 2)
+        values[i / 2] = static_cast<Value>((values[i] + values[i + 1]) / 2);
+    values.resize(values.size() / 2);
+    values.shrink_to_fit();
+}
+
 } // namespace
 
-Pcm readPoints(const Bank& bank, const Sides& sides)
+Pcm readPoints(const Bank& bank, const Sides& sides, const ImportOptions& options)
 {
     Pcm pcm;
     pcm.rate = sides.left.rate;
     pcm.channels = sides.right ? 2 : 1;
     const std::size_t size = framesOf(sides) * static_cast<std::size_t>(pcm.channels);
-    if (has24Bits(bank))
+    if (has24Bits(bank, options))
         pcm.floats.resize(size);
     else
         pcm.samples.resize(size);
     fill(bank, sides.left, 0, pcm);
     if (sides.right)
         fill(bank, *sides.right, 1, pcm);
+    if (sides.right && options.toMono) {
+        mix(pcm.samples);
+        mix(pcm.floats);
+        pcm.channels = 1;
+    }
     return pcm;
 }
 
-std::size_t bytesOf(const Bank& bank, const Sides& sides)
+std::size_t bytesOf(const Bank& bank, const Sides& sides, const ImportOptions& options)
 {
-    return framesOf(sides) * (sides.right ? 2 : 1) *
-           (has24Bits(bank) ? sizeof(float) : sizeof(std::int16_t));
+    return framesOf(sides) * (sides.right && !options.toMono ? 2 : 1) *
+           (has24Bits(bank, options) ? sizeof(float) : sizeof(std::int16_t));
 }
 
 } // namespace sf2

@@ -52,7 +52,7 @@ public:
             stops_.push_back(resolved(i));
             for (const Sides& sides : heardOf(stops_.back()))
                 if (places.insert(placeOf(sides)).second)
-                    bytes += sf2::bytesOf(bank, sides);
+                    bytes += sf2::bytesOf(bank, sides, import.options);
         }
         bank::requireMemory(bytes, bank.pool.length(), import);
     }
@@ -165,7 +165,7 @@ private:
             recording.loops = {{leader.loopBegin - leader.begin, leader.loopEnd - leader.begin}};
         recording.hasOwnRelease = leader.mode == Zone::Mode::LoopWhileHeld;
         try {
-            recording.pcm = sf2::readPoints(bank_, sides);
+            recording.pcm = sf2::readPoints(bank_, sides, import_.options);
             return addBankSound(std::move(recording), name, nullptr, import_);
         } catch (const FormatError& error) {
             import_.report.skipped.emplace_back(name, error.what());

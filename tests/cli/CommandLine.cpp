@@ -3,9 +3,11 @@
 #include "audio/AudioFileDecoder.h"
 #include "base/File.h"
 #include "support/Bank.h"
+#include "support/GigBytes.h"
 #include "support/MidiBytes.h"
 #include "support/OrganFolder.h"
 #include "support/Pitch.h"
+#include "support/Sine.h"
 #include "support/Stereo.h"
 #include "tuning/Temperament.h"
 
@@ -135,6 +137,26 @@ TEST_F(CommandLine, TakesNamesInAnyCaseAndShortened)
         EXPECT_EQ(render("out.wav", {"--tuning", name}).code, 0);
         EXPECT_EQ(content("out.wav"), bytes) << name;
     }
+}
+
+TEST_F(CommandLine, RendersBanksForAsLongAsTheirNotes)
+{
+    // A fifth of a second, whose loop has whole periods; the note lasts for eight fifths.
+    using namespace riff;
+    const double hertz = 176.4;
+    const std::string tone = wave(points(sine(hertz, 0.2, 44'100)), 44'100);
+    const std::string links = riff::links({}, {0}) + tuning(52, 0, 0, 1'000, 4'000);
+    folder_.write("bank.gig",
+                  bankOf(list("wave", tone), instrumentOf("Reed", regionOf(0, 127, links))));
+    ASSERT_EQ(render("out.wav", {"--instrument", "bank.gig"}).error, "");
+    const Pcm sound = decodeAudio(content("out.wav"));
+    std::vector<float> held;
+    for (std::size_t i = 0; i < sound.floats.size(); i += 2)
+        held.push_back(sound.floats[i]);
+    held.resize(72'000);
+    const double measured = measuredHertz(std::span(held).last(60'000), 48'000, hertz);
+    EXPECT_NEAR(cents(measured, hertz), 0.0, 0.25);
+    EXPECT_NEAR(peak(std::span(held).last(4'800)), peak(std::span(held).first(9'600)), 0.01F);
 }
 
 TEST_F(CommandLine, ReportsErrorsInOneSentence)

@@ -76,8 +76,9 @@ inline double centsOff(ALInstrument& instrument, std::size_t key, double hertzOf
 /// The result of importing a sample bank from memory.
 template <void (*reader)(const RIFF::File&, Import&)> class ImportedBank {
 public:
-    explicit ImportedBank(const std::string& bytes, std::size_t cancelAfter = SIZE_MAX)
-        : host(cancelAfter)
+    explicit ImportedBank(const std::string& bytes, std::size_t cancelAfter = SIZE_MAX,
+                          const ImportOptions& options = {Reading::Plain})
+        : host(cancelAfter), import(host, options)
     {
         try {
             reader(RIFF::File(std::as_bytes(std::span(bytes))), import);
@@ -107,7 +108,7 @@ public:
     std::string error = "none";
     std::string sounds;  ///< The name, channels, sample rate and bytes of each sound.
     std::string skipped; ///< What was skipped, and why.
-    Import import{host, {Reading::Plain}};
+    Import import;
 };
 
 } // namespace velmora

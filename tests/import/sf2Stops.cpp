@@ -150,16 +150,23 @@ TEST(SoundFontStops, SoundsInTuneAndOnBothSidesWhileAKeyIsHeld)
         *point = static_cast<std::int16_t>(*point / 2);
     }
     const std::size_t right = 100 + 48'510;
-    Stops font(soundFont(
+    const std::string bytes = soundFont(
         sample("L", 100, 6'000, 69, 4, 44'100, {1'000, 5'000, 0, 1}) +
             sample("R", right, right + 4'000, 69, 2, 44'100, {right + 1'000, right + 3'000, 0, 0}),
-        kTone + half, {{"i", {{kModes, 1, kSample, 0}, {kModes, 1, kSample, 1}}}}));
+        kTone + half, {{"i", {{kModes, 1, kSample, 0}, {kModes, 1, kSample, 1}}}});
+    Stops font(bytes);
     EXPECT_NEAR(font.centsOff(76, kHertzOfTone), 0.0, 0.25);
     const Stereo sound = held(font, 69);
     const auto late = std::span(sound.left).last(48'000);
     EXPECT_NEAR(peak(late), peak(std::span(sound.left).subspan(4'000, 4'000)), 0.005F);
     EXPECT_NEAR(peak(std::span(sound.right).last(48'000)), peak(late) / 2, 0.005F);
     EXPECT_NEAR(cents(measuredHertz(late, 48'000, kHertzOfTone), kHertzOfTone), 0.0, 0.25);
+
+    Stops mono(bytes, SIZE_MAX, {.toMono = true});
+    EXPECT_EQ(2 * mono.import.instrument->usage, font.import.instrument->usage);
+    const Stereo mixed = held(mono, 69);
+    EXPECT_NEAR(peak(mixed.left), peak(mixed.right), 0.001F);
+    EXPECT_GT(peak(mixed.left), 0.05F);
 }
 
 TEST(SoundFontStops, ReadsSamplesOf24Bits)
@@ -172,10 +179,13 @@ TEST(SoundFontStops, ReadsSamplesOf24Bits)
         high += numbers({static_cast<std::size_t>(soft >> 8)}, 2);
         low += static_cast<char>(soft);
     }
-    Stops font(soundFont(sample("A", 0, tone.samples.size(), 69, 1, 44'100), high,
-                         {{"i", {{kSample, 0}}}}, "", low));
+    const std::string bytes = soundFont(sample("A", 0, tone.samples.size(), 69, 1, 44'100), high,
+                                        {{"i", {{kSample, 0}}}}, "", low);
+    Stops font(bytes);
     EXPECT_NEAR(font.centsOff(69, kHertzOfTone), 0.0, 0.25);
     EXPECT_EQ(font.import.instrument->usage, static_cast<std::int64_t>(4 * tone.samples.size()));
+    EXPECT_EQ(Stops(bytes, SIZE_MAX, {.to16Bit = true}).import.instrument->usage,
+              static_cast<std::int64_t>(2 * tone.samples.size()));
 }
 
 TEST(SoundFontStops, LetsSoundsEndAsTheBankSays)
