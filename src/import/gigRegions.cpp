@@ -136,6 +136,7 @@ public:
                 recording.softest = zone > 0 ? loudestOf(lower, i) + 1 : 0;
                 recording.loudest = loudestOf(number, i);
             } else if (zone > 0 && !takesTurns(dimension.choice)) {
+                // See docs/decisions.md, 175.
                 return std::nullopt;
             }
             if (dimension.choice == Choice::Side && dimension.zones > 1)

@@ -17,6 +17,7 @@ namespace {
 
 /// Sides whose tuning differs at most so many cents, which makes them sound wider, are played as
 /// one sound, in the middle between them.
+/// See docs/decisions.md, 174.
 constexpr double kAlike = 10.0;
 
 /// Banks list the sides of a sound next to each other, or at most as far apart as they have layers.
