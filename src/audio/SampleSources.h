@@ -50,7 +50,7 @@ public:
     void remove(std::uint32_t number);
 
     /// The first OpenAL source of a sample.
-    unsigned source(std::uint32_t number) const { return voices_[2 * number].source; }
+    unsigned source(std::uint32_t number) const { return voices_[std::size_t{2} * number].source; }
 
     /// Prepares for as many voices as may sound together, so that playing neither allocates nor
     /// hesitates. Must be called after samples have been added, unless `reserve` was. Returns

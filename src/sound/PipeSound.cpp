@@ -89,7 +89,8 @@ void fadeEnd(Pcm& pcm)
         using Value = typename std::decay_t<decltype(samples)>::value_type;
         for (std::size_t i = 0; i < fading * channels; ++i) {
             Value& sample = samples[(frames - fading) * channels + i];
-            const double left = static_cast<double>(fading - 1 - i / channels);
+            const std::size_t frame = i / channels;
+            const auto left = static_cast<double>(fading - 1 - frame);
             sample = rounded<Value>(sample * left / static_cast<double>(fading));
         }
     });
@@ -164,8 +165,9 @@ void mend(std::span<Value> samples, std::size_t channels, Loop loop, std::size_t
     const std::size_t target = usesBefore ? loop.end - fading : loop.begin;
     const std::size_t other = usesBefore ? loop.begin - fading : loop.end;
     for (std::size_t i = 0; i < fading * channels; ++i) {
+        const std::size_t frame = i / channels;
         const double part =
-            (static_cast<double>(i / channels) + 1.0) / (static_cast<double>(fading) + 1.0);
+            (static_cast<double>(frame) + 1.0) / (static_cast<double>(fading) + 1.0);
         const double late = 0.5 - 0.5 * std::cos(std::numbers::pi * part);
         Value& sample = samples[target * channels + i];
         const auto added = static_cast<double>(samples[other * channels + i]);
