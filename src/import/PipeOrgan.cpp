@@ -298,7 +298,8 @@ bool canSound(const ConsoleDefinition::Stop& stop, const std::vector<InstrumentS
 {
     return std::ranges::any_of(stop.pipes, [&](const ConsoleDefinition::Pipes& pipes) {
         for (int i = 0; i < pipes.count; ++i) {
-            const auto key = static_cast<std::size_t>(pipes.firstPipe + i);
+            const auto key =
+                static_cast<std::size_t>(pipes.firstPipe) + static_cast<std::size_t>(i);
             if (key < kKeys && ranks.at(pipes.rank).samples[key].source() != 0)
                 return true;
         }

@@ -47,6 +47,7 @@ std::vector<std::size_t> divisionsOf(const XmlConsole& console)
         }
     }
     std::vector<std::size_t> result;
+    result.reserve(found.size());
     for (const auto& division : found)
         result.push_back(division.value_or(0));
     return result;
