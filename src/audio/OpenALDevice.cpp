@@ -130,12 +130,34 @@ std::unique_ptr<OpenALDevice> OpenALDevice::open(double rate)
     setListener();
     result->best_ = alGetInteger(AL_DEFAULT_RESAMPLER_SOFT);
     result->linear_ = linearResampler();
+    result->monoLevel_ = result->measureMonoLevel();
     return result;
 }
 
 OpenALDevice::OpenALDevice(ALCdevice* device, ALCcontext* context, double rate)
     : device_(device), context_(context), rate_(rate)
 {
+}
+
+float OpenALDevice::measureMonoLevel()
+{
+    constexpr std::size_t kFrames = 256;
+    constexpr int kAnyRate = 48000;
+    const std::vector<float> steady(kFrames, 1.0F);
+    unsigned buffer = 0;
+    alGenBuffers(1, &buffer);
+    alBufferData(buffer, AL_FORMAT_MONO_FLOAT32, steady.data(),
+                 static_cast<ALsizei>(kFrames * sizeof(float)), kAnyRate);
+    unsigned source = 0;
+    alGenSources(1, &source);
+    alSourcei(source, AL_BUFFER, static_cast<ALint>(buffer));
+    alSourcei(source, AL_LOOPING, AL_TRUE);
+    alSourcePlay(source);
+    std::vector<float> heard(2 * kFrames);
+    render(heard.data(), kFrames);
+    alDeleteSources(1, &source);
+    alDeleteBuffers(1, &buffer);
+    return heard.back() > 0.0F ? heard.back() : 1.0F;
 }
 
 OpenALDevice::~OpenALDevice()

@@ -49,6 +49,9 @@ public:
     /// Sets how a source is resampled. Needs the scope.
     void setResampler(unsigned source, Resampler resampler) const;
 
+    /// How loud a mono sound is in each channel; a stereo sound is as loud as it is recorded.
+    float monoLevel() const { return monoLevel_; }
+
     /// Writes the next `frames` frames, left and right samples in turn. The scope of the device is
     /// not needed.
     void render(float* interleaved, std::size_t frames);
@@ -56,10 +59,13 @@ public:
 private:
     OpenALDevice(ALCdevice_struct* device, ALCcontext_struct* context, double rate);
 
+    float measureMonoLevel();
+
     ALCdevice_struct* device_;
     ALCcontext_struct* context_;
     double rate_;
     int best_ = 0, linear_ = 0; ///< OpenAL's numbers of the resamplers.
+    float monoLevel_ = 1.0F;
 };
 
 } // namespace velmora

@@ -35,7 +35,7 @@ std::size_t usefulVoices(std::size_t bytes)
 
 } // namespace
 
-std::uint32_t SampleSources::add(unsigned buffer, bool loops, Gains gains)
+std::uint32_t SampleSources::add(unsigned buffer, bool loops, Use use)
 {
     const std::lock_guard lock(mutex_);
     const auto here = scope();
@@ -48,7 +48,7 @@ std::uint32_t SampleSources::add(unsigned buffer, bool loops, Gains gains)
         alSource3f(source, AL_POSITION, 0.0F, 0.0F, 0.0F);
         alSourcef(source, AL_PITCH, 1.0F);
         alSourcei(source, AL_BUFFER, static_cast<ALint>(buffer));
-        if (gains == Gains::UpTo16)
+        if (use == Use::Musical)
             alSourcef(source, AL_MAX_GAIN, kMaximumGain);
         alSourcei(source, AL_LOOPING, loops ? AL_TRUE : AL_FALSE);
     }
@@ -62,8 +62,13 @@ std::uint32_t SampleSources::add(unsigned buffer, bool loops, Gains gains)
         isPrepared_ = false;
     const std::uint32_t number = free_.back();
     free_.pop_back();
-    for (std::uint32_t which = 0; which < 2; ++which)
-        voices_[2 * number + which].source = sources[which];
+    ALint channels = 0;
+    alGetBufferi(buffer, AL_CHANNELS, &channels);
+    for (std::uint32_t which = 0; which < 2; ++which) {
+        SampleVoice& voice = voices_[2 * number + which];
+        voice.source = sources[which];
+        voice.level = use == Use::Musical && channels == 1 ? 1.0F / device_->monoLevel() : 1.0F;
+    }
     return number;
 }
 

@@ -39,12 +39,15 @@ public:
     /// The bytes of the sounds in the device's buffers, which the caller keeps.
     std::size_t bytes = 0;
 
-    /// The gains that a sample can have.
-    enum class Gains : std::uint8_t { UpTo1, UpTo16 };
+    /// How loud a sample can be.
+    enum class Use : std::uint8_t {
+        Plain,   ///< A gain of at most 1, and mono softer than stereo, as OpenAL plays them.
+        Musical, ///< A gain of at most 16, and mono as loud as stereo.
+    };
 
     /// Adds a sample that plays an OpenAL buffer, whose loop it repeats if `loops` is true, and
     /// returns its number. Throws FormatError if there are no sources left.
-    std::uint32_t add(unsigned buffer, bool loops = false, Gains gains = Gains::UpTo1);
+    std::uint32_t add(unsigned buffer, bool loops = false, Use use = Use::Plain);
 
     /// Removes a sample, which must be silent.
     void remove(std::uint32_t number);

@@ -38,6 +38,7 @@ struct SampleVoice {
     Phase phase = Phase::Silent;
     bool isCheap = false;   ///< Resampled by linear interpolation.
     std::uint8_t swell = 0; ///< The group of samples whose gain is applied too.
+    float level = 1.0F;     ///< What the gain is multiplied by, so that mono is as loud as stereo.
     float gain = 0.0F;
     float fullGain = 0.0F;   ///< What a ringing voice grows to.
     float slope = 0.0F;      ///< What the gain grows or falls by in each frame.

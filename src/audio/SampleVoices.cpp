@@ -369,7 +369,7 @@ void SampleVoices::endOldestTails()
 
 void SampleVoices::setGain(const SampleVoice& voice)
 {
-    alSourcef(voice.source, AL_GAIN, voice.gain * swells_[voice.swell].gain);
+    alSourcef(voice.source, AL_GAIN, voice.level * voice.gain * swells_[voice.swell].gain);
 }
 
 void SampleVoices::setPitch(const SampleVoice& voice)

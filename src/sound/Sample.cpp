@@ -41,27 +41,27 @@ void Sample::setBuffer(const Sound& sound, double rootPitch)
     }
     *this = Sample();
     // See docs/decisions.md, 25.
-    add({&sound, rootPitch}, SampleSources::Gains::UpTo1);
+    add({&sound, rootPitch}, SampleSources::Use::Plain);
 }
 
 void Sample::addAttack(const Attack& attack)
 {
-    add(attack, SampleSources::Gains::UpTo16);
+    add(attack, SampleSources::Use::Musical);
 }
 
-void Sample::add(const Attack& attack, SampleSources::Gains gains)
+void Sample::add(const Attack& attack, SampleSources::Use use)
 {
     assert(releases_.empty());
-    sources_.push_back(sourceFor(*attack.sound, gains));
+    sources_.push_back(sourceFor(*attack.sound, use));
     attacks_.push_back(attack);
     following_.emplace_back();
 }
 
-Sample::Source Sample::sourceFor(const Sound& sound, SampleSources::Gains gains)
+Sample::Source Sample::sourceFor(const Sound& sound, SampleSources::Use use)
 {
     SampleSources& device = sound.renderer().device(sound.device());
     const bool loops = sound.loop().has_value();
-    return {{sound.device(), device.add(sound.buffer(), loops, gains)}};
+    return {{sound.device(), device.add(sound.buffer(), loops, use)}};
 }
 
 void Sample::addRelease(const Release& release)
@@ -69,7 +69,7 @@ void Sample::addRelease(const Release& release)
     assert(std::ranges::all_of(attacks_, [&](const Attack& attack) {
         return attack.sound->device() == release.sound->device();
     }));
-    sources_.push_back(sourceFor(*release.sound, SampleSources::Gains::UpTo16));
+    sources_.push_back(sourceFor(*release.sound, SampleSources::Use::Musical));
     releases_.push_back(release);
     for (std::size_t i = 0; i < attacks_.size(); ++i)
         following_[i] = releasesOf(i);

@@ -108,8 +108,8 @@ private:
         std::uint64_t lastStart = 0; ///< Of an attack: the starts before its last one.
     };
 
-    static Source sourceFor(const Sound& sound, SampleSources::Gains gains);
-    void add(const Attack& attack, SampleSources::Gains gains);
+    static Source sourceFor(const Sound& sound, SampleSources::Use use);
+    void add(const Attack& attack, SampleSources::Use use);
     std::vector<FollowingSound> releasesOf(std::size_t attack) const;
     std::size_t attackFor(float velocity) const;
     float factorOf(double rootPitch) const;

@@ -207,6 +207,19 @@ TEST_F(PipeTest, ChoosesAttacksByVelocityAndInTurn)
     EXPECT_EQ(heard, " 1 2 1 24 2 1 24");
 }
 
+TEST_F(PipeTest, SoundsMonoAsLoudAsStereo)
+{
+    Pcm stereo = steady(0.1);
+    stereo.channels = 2;
+    const std::array sounds{&add(steady(0.1)), &add(stereo)};
+    sample().addAttack({sounds[0], 440.0});
+    sample().addAttack({sounds[1], 440.0});
+    for (int i = 0; i < 2; ++i) {
+        instrument_.play(kKey, 1.0F);
+        EXPECT_NEAR(render(0.1).back(), 0.5 * 1000.0 / 32768.0, 1e-6);
+    }
+}
+
 TEST_F(PipeTest, ReleasesByHowLongTheKeyWasHeld)
 {
     const Sound& attack = add(steady(0.1), Loop{1000, 20000});
