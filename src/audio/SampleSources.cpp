@@ -62,6 +62,7 @@ std::uint32_t SampleSources::add(unsigned buffer, bool loops, Use use)
         isPrepared_ = false;
     const std::uint32_t number = free_.back();
     free_.pop_back();
+    // See docs/decisions.md, 176.
     ALint channels = 0;
     alGetBufferi(buffer, AL_CHANNELS, &channels);
     for (std::uint32_t which = 0; which < 2; ++which) {
