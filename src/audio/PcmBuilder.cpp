@@ -82,15 +82,19 @@ PcmBuilder::PcmBuilder(std::string name, int channels, double rate, std::int64_t
 
 void PcmBuilder::reserve(std::size_t samples)
 {
-    const bool areFloats = precision_ == Precision::Float;
-    const std::size_t bytes = samples * (areFloats ? sizeof(float) : sizeof(std::int16_t));
+    const std::size_t bytes = samples * sampleSize();
     if (bytes > kMaximumBytes)
         throw FormatError("is longer than a sound may be: it has more than 2 GB of samples");
     options_.memory->require(bytes);
-    if (areFloats)
+    if (precision_ == Precision::Float)
         pcm_.floats.reserve(samples);
     else
         pcm_.samples.reserve(samples);
+}
+
+std::size_t PcmBuilder::sampleSize() const
+{
+    return precision_ == Precision::Float ? sizeof(float) : sizeof(std::int16_t);
 }
 
 void PcmBuilder::makeRoom(std::size_t added)
@@ -101,7 +105,7 @@ void PcmBuilder::makeRoom(std::size_t added)
     const std::size_t needed = pcm_.size() + added / mixed_;
     const std::size_t capacity = std::max(pcm_.samples.capacity(), pcm_.floats.capacity());
     if (needed > capacity)
-        reserve(std::max(needed, std::min(2 * capacity, kMaximumBytes / sizeof(float))));
+        reserve(std::max(needed, std::min(2 * capacity, kMaximumBytes / sampleSize())));
 }
 
 void PcmBuilder::add(std::span<const std::int16_t> samples)

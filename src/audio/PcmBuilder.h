@@ -40,6 +40,7 @@ public:
     Pcm take();
 
 private:
+    std::size_t sampleSize() const;
     void makeRoom(std::size_t added);
     void reserve(std::size_t samples);
 

@@ -52,6 +52,14 @@ constexpr const char* kMessages[] = {
     QT_TRANSLATE_NOOP("velmora::messages", "is a pipe or a device, not a file"),
     QT_TRANSLATE_NOOP("velmora::messages", "needs %1 more of memory, but only %2 are free; "
                                            "unload other instruments or close other programs"),
+    QT_TRANSLATE_NOOP("velmora::messages", "needs about %1 of memory, but only %2 are free; "
+                                           "load it with 16 bits, which takes %3"),
+    QT_TRANSLATE_NOOP("velmora::messages", "needs about %1 of memory, but only %2 are free; "
+                                           "load it in mono, which takes %3"),
+    QT_TRANSLATE_NOOP("velmora::messages", "needs about %1 of memory, but only %2 are free; "
+                                           "load it with 16 bits and in mono, which takes %3"),
+    QT_TRANSLATE_NOOP("velmora::messages", "needs about %1 of memory, but only %2 are free; "
+                                           "unload other instruments or close other programs"),
     QT_TRANSLATE_NOOP("velmora::messages", "is damaged or cut short"),
     QT_TRANSLATE_NOOP("velmora::messages", "is cut short"),
     QT_TRANSLATE_NOOP("velmora::messages", "is damaged and its presets cannot be played; opening "
