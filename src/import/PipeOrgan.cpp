@@ -125,8 +125,6 @@ public:
         import_.host.updateProgress(static_cast<unsigned>(voices_.size() % step()), organ_.name);
     }
 
-    std::size_t voices() const { return list_.pipes.size(); }
-
 private:
     void loadRank(std::size_t rank)
     {

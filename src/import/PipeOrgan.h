@@ -45,8 +45,8 @@ struct PipeOrgan {
         std::vector<Release> releases;
         float gain = 1.0F;
 
-        /// How it sounds when it is played as recorded, in hertz. Without it, `unityNote` of the
-        /// attack's file counts, or else the pitch that is expected of the key.
+        /// How it sounds when it is played as recorded, in hertz. Without it, the note in the
+        /// sample file counts, or else the pitch that is expected of the key.
         std::optional<double> hertz;
         double cents = 0.0; ///< By how much it is meant to differ from the temperament.
 
