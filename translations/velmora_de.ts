@@ -34,6 +34,50 @@
         <source>Velmora cannot draw its windows because OpenGL does not work here. Install libgl1-mesa-dri, which needs no graphics card.</source>
         <translation type="unfinished">Velmora kann seine Fenster nicht zeichnen, weil OpenGL hier nicht funktioniert. Installieren Sie libgl1-mesa-dri, das keine Grafikkarte braucht.</translation>
     </message>
+    <message>
+        <source>Instrument in the &amp;File</source>
+        <translation type="unfinished">Instrument in der &amp;Datei</translation>
+    </message>
+    <message>
+        <source>Lay out the instruments of the bank as stops with volumes of their own, instead of its presets</source>
+        <translation type="unfinished">Die Instrumente der Bank als Register mit eigener Lautstärke anordnen, statt ihrer Presets</translation>
+    </message>
+    <message>
+        <source>&amp;Plain Reading</source>
+        <translation type="unfinished">&amp;Wörtlich lesen</translation>
+    </message>
+    <message>
+        <source>One sample for each key, as the file lists them</source>
+        <translation type="unfinished">Ein Sample je Taste, wie die Datei sie aufführt</translation>
+    </message>
+    <message>
+        <source>Samples with more bits take less memory</source>
+        <translation type="unfinished">Samples mit mehr Bits brauchen weniger Speicher</translation>
+    </message>
+    <message>
+        <source>Load in &amp;Mono</source>
+        <translation type="unfinished">In &amp;Mono laden</translation>
+    </message>
+    <message>
+        <source>Stereo samples take half the memory</source>
+        <translation type="unfinished">Stereo-Samples brauchen die Hälfte des Speichers</translation>
+    </message>
+    <message>
+        <source>Stop %1</source>
+        <translation type="unfinished">Register %1</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished">Lautstärke</translation>
+    </message>
+    <message>
+        <source>Open as S&amp;tops</source>
+        <translation type="unfinished">Als &amp;Register öffnen</translation>
+    </message>
+    <message>
+        <source>Load with 16 &amp;Bits</source>
+        <translation type="unfinished">Mit 16 &amp;Bit laden</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -189,14 +233,115 @@
     </message>
 </context>
 <context>
+    <name>velmora::ConsoleActions</name>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished">Spieltisch</translation>
+    </message>
+    <message>
+        <source>&amp;Set</source>
+        <translation type="unfinished">&amp;Setzer</translation>
+    </message>
+    <message>
+        <source>Keep what is drawn under the registration button that is pressed next</source>
+        <translation type="unfinished">Legt, was gezogen ist, auf den Registrierknopf, der als nächster gedrückt wird</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Auslöser</translation>
+    </message>
+    <message>
+        <source>Push in every stop and coupler</source>
+        <translation type="unfinished">Stößt alle Register und Koppeln ab</translation>
+    </message>
+    <message>
+        <source>&amp;Tutti</source>
+        <translation type="unfinished">&amp;Tutti</translation>
+    </message>
+    <message>
+        <source>Draw everything; the next press returns to what was drawn before</source>
+        <translation type="unfinished">Zieht alles; der nächste Druck kehrt zu dem zurück, was vorher gezogen war</translation>
+    </message>
+    <message>
+        <source>&amp;Manuals…</source>
+        <translation type="unfinished">&amp;Manuale…</translation>
+    </message>
+    <message>
+        <source>Choose which MIDI channels and devices play the manuals and the pedals</source>
+        <translation type="unfinished">Wählt, welche MIDI-Kanäle und Geräte die Manuale und das Pedal spielen</translation>
+    </message>
+    <message>
+        <source>&amp;Registrations</source>
+        <translation type="unfinished">&amp;Registrierungen</translation>
+    </message>
+    <message>
+        <source>Registration %1</source>
+        <translation type="unfinished">Registrierung %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep as…</source>
+        <translation type="unfinished">&amp;Merken als…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished">&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Keep Registration</source>
+        <translation type="unfinished">Registrierung merken</translation>
+    </message>
+    <message>
+        <source>Name of the registration:</source>
+        <translation type="unfinished">Name der Registrierung:</translation>
+    </message>
+    <message>
+        <source>Rename Registration</source>
+        <translation type="unfinished">Registrierung umbenennen</translation>
+    </message>
+    <message>
+        <source>New name of “%1”:</source>
+        <translation type="unfinished">Neuer Name von „%1“:</translation>
+    </message>
+    <message>
+        <source>There is another registration with the name “%1”.</source>
+        <translation type="unfinished">Es gibt eine andere Registrierung mit dem Namen „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ConsolePanel</name>
+    <message>
+        <source>Stops</source>
+        <translation type="unfinished">Register</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ConsoleView</name>
+    <message>
+        <source>Find a stop</source>
+        <translation type="unfinished">Register suchen</translation>
+    </message>
+    <message>
+        <source>Swell:</source>
+        <translation type="unfinished">Schweller:</translation>
+    </message>
+    <message>
+        <source>Swell of %1</source>
+        <translation type="unfinished">Schweller: %1</translation>
+    </message>
+    <message>
+        <source>How far the swell of %1 is open</source>
+        <translation type="unfinished">Wie weit der Schweller von %1 offen ist</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Desktop</name>
     <message>
         <source>%1: unrecognised file type. Velmora recognises files by their extensions, such as .mid, .scl or .sf2.</source>
         <translation type="unfinished">%1: unbekannter Dateityp. Velmora erkennt Dateien an ihrer Endung wie .mid, .scl oder .sf2.</translation>
-    </message>
-    <message>
-        <source>%1: %2; see Import Report in the Instruments window</source>
-        <translation type="unfinished">%1: %2; siehe „Importbericht“ im Fenster „Instrumente“</translation>
     </message>
     <message>
         <source>Open</source>
@@ -257,12 +402,46 @@
 %1</translation>
     </message>
     <message>
-        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
-        <translation type="unfinished">%1: Velmora kann Instrumente dieses Formats nicht spielen. Wandeln Sie es in einen SoundFont (.sf2) um, und öffnen Sie diesen.</translation>
-    </message>
-    <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished">%1 kann nicht als General-MIDI-Bank dienen. Stattdessen wird %2 verwendet. Wählen Sie in den Einstellungen einen anderen SoundFont.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DivisionChooser</name>
+    <message>
+        <source>This &amp;keyboard plays:</source>
+        <translation type="unfinished">Diese &amp;Klaviatur spielt:</translation>
+    </message>
+    <message>
+        <source>The manual that the keyboard on the screen and the letter keys play</source>
+        <translation type="unfinished">Das Manual, das die Klaviatur auf dem Bildschirm und die Buchstabentasten spielen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Drawknob</name>
+    <message>
+        <source>%1, volume %2 %
+A click draws it or pushes it in, a right click changes its volume</source>
+        <translation type="unfinished">%1, Lautstärke %2 %
+Ein Klick zieht es oder stößt es ab, ein Rechtsklick ändert die Lautstärke</translation>
+    </message>
+    <message>
+        <source>%1
+A click draws it or pushes it in</source>
+        <translation type="unfinished">%1
+Ein Klick zieht es oder stößt es ab</translation>
+    </message>
+    <message>
+        <source>&amp;Volume:</source>
+        <translation type="unfinished">&amp;Lautstärke:</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1 %</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Lautstärke von %1</translation>
     </message>
 </context>
 <context>
@@ -384,15 +563,25 @@ Ein anderes Instrument wählen, öffnen oder entladen</translation>
     </message>
 </context>
 <context>
+    <name>velmora::InstrumentOpener</name>
+    <message>
+        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
+        <translation type="unfinished">%1: Velmora kann Instrumente dieses Formats nicht spielen. Wandeln Sie es in einen SoundFont (.sf2) um, und öffnen Sie diesen.</translation>
+    </message>
+    <message>
+        <source>%1: %2; see Import Report in the Instruments window</source>
+        <translation type="unfinished">%1: %2; siehe „Importbericht“ im Fenster „Instrumente“</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holds %n instrument(s). The Instrument menu lists them.</source>
+        <translation type="unfinished">
+            <numerusform>%1 enthält %n Instrument. Das Menü Instrument führt es auf.</numerusform>
+            <numerusform>%1 enthält %n Instrumente. Das Menü Instrument führt sie auf.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::InstrumentPanel</name>
-    <message>
-        <source>Stop %1</source>
-        <translation type="unfinished">Register %1</translation>
-    </message>
-    <message>
-        <source>Volume</source>
-        <translation type="unfinished">Lautstärke</translation>
-    </message>
     <message>
         <source>Memory used by the samples of this instrument</source>
         <translation type="unfinished">Speicher, den die Samples dieses Instruments belegen</translation>
@@ -578,10 +767,57 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
 </context>
 <context>
+    <name>velmora::ManualsDialog</name>
+    <message>
+        <source>Manuals</source>
+        <translation type="unfinished">Manuale</translation>
+    </message>
+    <message>
+        <source>What no line names plays the lowest manual. The channels of pieces count as those of all devices.</source>
+        <translation type="unfinished">Was keine Zeile nennt, spielt das unterste Manual. Die Kanäle von Stücken zählen wie die aller Geräte.</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation type="unfinished">Gerät</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation type="unfinished">Kanal</translation>
+    </message>
+    <message>
+        <source>Plays</source>
+        <translation type="unfinished">Spielt</translation>
+    </message>
+    <message>
+        <source>&amp;Add Line</source>
+        <translation type="unfinished">Zeile &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>All devices</source>
+        <translation type="unfinished">Alle Geräte</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Entfernen</translation>
+    </message>
+    <message>
+        <source>All channels</source>
+        <translation type="unfinished">Alle Kanäle</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation type="unfinished">Kanal %1</translation>
+    </message>
+</context>
+<context>
     <name>velmora::MetersWindow</name>
     <message>
         <source>Meters</source>
         <translation type="unfinished">Messwerte</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation type="unfinished">%1:</translation>
     </message>
 </context>
 <context>
@@ -943,8 +1179,12 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">Programm</translation>
     </message>
     <message>
-        <source>General MIDI program</source>
-        <translation type="unfinished">General-MIDI-Programm</translation>
+        <source>Drum kits</source>
+        <translation type="unfinished">Schlagzeuge</translation>
+    </message>
+    <message>
+        <source>Bank %1</source>
+        <translation type="unfinished">Bank %1</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1774,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Find a command by its name and perform it</source>
         <translation type="unfinished">Einen Befehl nach seinem Namen suchen und ausführen</translation>
     </message>
+    <message>
+        <source>&amp;Console</source>
+        <translation type="unfinished">&amp;Spieltisch</translation>
+    </message>
+    <message>
+        <source>Show the stops of the organ</source>
+        <translation type="unfinished">Die Register der Orgel zeigen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -1911,13 +2159,6 @@ Ein Klick zeigt alle Stimmungen</translation>
     </message>
 </context>
 <context>
-    <name>velmora::StopList</name>
-    <message>
-        <source>Find a stop</source>
-        <translation type="unfinished">Register suchen</translation>
-    </message>
-</context>
-<context>
     <name>velmora::StopRow</name>
     <message>
         <source>%1: turn on or off (Space)</source>
@@ -2042,6 +2283,62 @@ Ein Klick zeigt alle Stimmungen</translation>
         <source>Adapts its thirds to what you play</source>
         <translation type="unfinished">Passt seine Terzen Ihrem Spiel an</translation>
     </message>
+    <message>
+        <source>Find a tuning</source>
+        <translation type="unfinished">Stimmung suchen</translation>
+    </message>
+    <message>
+        <source>Tunings</source>
+        <translation type="unfinished">Stimmungen</translation>
+    </message>
+    <message>
+        <source>Pythagorean</source>
+        <translation type="unfinished">Pythagoreisch</translation>
+    </message>
+    <message>
+        <source>Meantone</source>
+        <translation type="unfinished">Mitteltönig</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">Französisch</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">Englisch</translation>
+    </message>
+    <message>
+        <source>Well temperaments</source>
+        <translation type="unfinished">Wohltemperierungen</translation>
+    </message>
+    <message>
+        <source>Just intonation</source>
+        <translation type="unfinished">Reine Stimmung</translation>
+    </message>
+    <message>
+        <source>Equal divisions</source>
+        <translation type="unfinished">Gleichmäßige Teilungen</translation>
+    </message>
+    <message>
+        <source>Outside Europe</source>
+        <translation type="unfinished">Außerhalb Europas</translation>
+    </message>
+    <message>
+        <source>Following Meantone</source>
+        <translation type="unfinished">Folgende Mitteltönigkeit</translation>
+    </message>
+    <message>
+        <source>Spells each key as the music asks for, with pure thirds</source>
+        <translation type="unfinished">Deutet jede Taste so, wie die Musik es verlangt, mit reinen Terzen</translation>
+    </message>
+    <message>
+        <source>Pure</source>
+        <translation type="unfinished">Rein</translation>
+    </message>
+    <message>
+        <source>Makes the chords that you play pure</source>
+        <translation type="unfinished">Macht die gespielten Akkorde rein</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -2107,6 +2404,453 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>%1 leaves the stage</source>
         <translation type="unfinished">%1 verlässt die Bühne</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished">Spieltisch</translation>
+    </message>
+    <message>
+        <source>C&amp;onsole</source>
+        <translation type="unfinished">Sp&amp;ieltisch</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::messages</name>
+    <message>
+        <source>MIDI Player</source>
+        <translation type="unfinished">MIDI-Spieler</translation>
+    </message>
+    <message>
+        <source>Sample %1</source>
+        <translation type="unfinished">Sample %1</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation type="unfinished">Ausgabe</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation type="unfinished">Abtastrate</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation type="unfinished">Periode</translation>
+    </message>
+    <message>
+        <source>From MIDI to sound</source>
+        <translation type="unfinished">Von MIDI zum Klang</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Stimmen</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished">Last</translation>
+    </message>
+    <message>
+        <source>Lost periods</source>
+        <translation type="unfinished">Verlorene Perioden</translation>
+    </message>
+    <message>
+        <source>Instruments in memory</source>
+        <translation type="unfinished">Instrumente im Speicher</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">keine</translation>
+    </message>
+    <message>
+        <source>%1 frames, %2 ms</source>
+        <translation type="unfinished">%1 Frames, %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms (input %2 ms, period and limiter %3 ms, sound server %4 ms)</source>
+        <translation type="unfinished">%1 ms (Eingang %2 ms, Periode und Limiter %3 ms, Soundserver %4 ms)</translation>
+    </message>
+    <message>
+        <source>%1, released keys are shortened</source>
+        <translation type="unfinished">%1, losgelassene Tasten werden gekürzt</translation>
+    </message>
+    <message>
+        <source>%1 % of the period, at worst %2 %</source>
+        <translation type="unfinished">%1 % der Periode, höchstens %2 %</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2</source>
+        <translation type="unfinished">%1, die letzte um %2</translation>
+    </message>
+    <message>
+        <source>%1 messages a second</source>
+        <translation type="unfinished">%1 Nachrichten je Sekunde</translation>
+    </message>
+    <message>
+        <source>%1GB</source>
+        <translation type="unfinished">%1 GB</translation>
+    </message>
+    <message>
+        <source>%1MB</source>
+        <translation type="unfinished">%1 MB</translation>
+    </message>
+    <message>
+        <source>%1KB</source>
+        <translation type="unfinished">%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished">%1 Byte</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation type="unfinished">Kein Ton</translation>
+    </message>
+    <message>
+        <source>The sound card</source>
+        <translation type="unfinished">Die Soundkarte</translation>
+    </message>
+    <message>
+        <source>The output &quot;%1&quot;</source>
+        <translation type="unfinished">Die Ausgabe „%1“</translation>
+    </message>
+    <message>
+        <source>No sound output was found; looking for one.</source>
+        <translation type="unfinished">Es wurde keine Tonausgabe gefunden; es wird weiter gesucht.</translation>
+    </message>
+    <message>
+        <source>%1 has gone; waiting for it.</source>
+        <translation type="unfinished">%1 ist weg; Velmora wartet darauf.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; waiting for it.</source>
+        <translation type="unfinished">%1 fehlt; Velmora wartet darauf.</translation>
+    </message>
+    <message>
+        <source>%1 has gone; playing through %2 until it is back.</source>
+        <translation type="unfinished">%1 ist weg; bis zur Rückkehr spielt %2.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; playing through %2 until it is back.</source>
+        <translation type="unfinished">%1 fehlt; bis zur Rückkehr spielt %2.</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation type="unfinished">kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>cannot be read (%1)</source>
+        <translation type="unfinished">kann nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation type="unfinished">ist leer</translation>
+    </message>
+    <message>
+        <source>is too large</source>
+        <translation type="unfinished">ist zu groß</translation>
+    </message>
+    <message>
+        <source>is a pipe or a device, not a file</source>
+        <translation type="unfinished">ist eine Pipe oder ein Gerät, keine Datei</translation>
+    </message>
+    <message>
+        <source>needs %1 more of memory, but only %2 are free; unload other instruments or close other programs</source>
+        <translation type="unfinished">braucht %1 mehr Speicher, aber nur %2 sind frei; entladen Sie andere Instrumente oder schließen Sie andere Programme</translation>
+    </message>
+    <message>
+        <source>is damaged or cut short</source>
+        <translation type="unfinished">ist beschädigt oder abgeschnitten</translation>
+    </message>
+    <message>
+        <source>is cut short</source>
+        <translation type="unfinished">ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>is damaged and its presets cannot be played; opening it as stops may work</source>
+        <translation type="unfinished">ist beschädigt, und die Presets können nicht gespielt werden; als Register geöffnet geht es vielleicht</translation>
+    </message>
+    <message>
+        <source>has no presets</source>
+        <translation type="unfinished">hat keine Presets</translation>
+    </message>
+    <message>
+        <source>the file does not contain its data</source>
+        <translation type="unfinished">die Datei enthält ihre Daten nicht</translation>
+    </message>
+    <message>
+        <source>the file has too many chunks</source>
+        <translation type="unfinished">die Datei hat zu viele Blöcke</translation>
+    </message>
+    <message>
+        <source>lists are nested too deeply</source>
+        <translation type="unfinished">Listen sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>is not a RIFF file</source>
+        <translation type="unfinished">ist keine RIFF-Datei</translation>
+    </message>
+    <message>
+        <source>has no &quot;%1&quot;</source>
+        <translation type="unfinished">hat kein „%1“</translation>
+    </message>
+    <message>
+        <source>this is not a tuning file</source>
+        <translation type="unfinished">dies ist keine Stimmungsdatei</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation type="unfinished">„%1“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a finite number</source>
+        <translation type="unfinished">„%1“ ist keine endliche Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a playable pitch</source>
+        <translation type="unfinished">„%1“ ist keine spielbare Tonhöhe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a zero denominator</source>
+        <translation type="unfinished">„%1“ hat den Nenner null</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the number of notes; only scales of 12 notes are supported</source>
+        <translation type="unfinished">„%1“ ist die Zahl der Töne; nur Skalen mit 12 Tönen werden unterstützt</translation>
+    </message>
+    <message>
+        <source>this is not a Standard MIDI File: &quot;MThd&quot; is missing</source>
+        <translation type="unfinished">dies ist keine Standard-MIDI-Datei: „MThd“ fehlt</translation>
+    </message>
+    <message>
+        <source>the header is too short</source>
+        <translation type="unfinished">der Kopf ist zu kurz</translation>
+    </message>
+    <message>
+        <source>the header announces no tracks</source>
+        <translation type="unfinished">der Kopf kündigt keine Spuren an</translation>
+    </message>
+    <message>
+        <source>an event exceeds the end of its track</source>
+        <translation type="unfinished">ein Ereignis reicht über das Ende seiner Spur hinaus</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 tracks</source>
+        <translation type="unfinished">die Datei endet nach %1 von %2 Spuren</translation>
+    </message>
+    <message>
+        <source>a chunk of %1 bytes is truncated: the file has only %2 more</source>
+        <translation type="unfinished">ein Block von %1 Byte ist abgeschnitten: die Datei hat nur noch %2</translation>
+    </message>
+    <message>
+        <source>this is not a session of Velmora</source>
+        <translation type="unfinished">dies ist keine Sitzung von Velmora</translation>
+    </message>
+    <message>
+        <source>a later version of Velmora has written this session</source>
+        <translation type="unfinished">eine spätere Version von Velmora hat diese Sitzung geschrieben</translation>
+    </message>
+    <message>
+        <source>is too large for the free memory; unload other instruments, then open it again</source>
+        <translation type="unfinished">ist zu groß für den freien Speicher; entladen Sie andere Instrumente und öffnen Sie es dann wieder</translation>
+    </message>
+    <message>
+        <source>has no instruments</source>
+        <translation type="unfinished">hat keine Instrumente</translation>
+    </message>
+    <message>
+        <source>has no samples</source>
+        <translation type="unfinished">hat keine Samples</translation>
+    </message>
+    <message>
+        <source>is not a sound file in a supported format</source>
+        <translation type="unfinished">ist keine Klangdatei in einem unterstützten Format</translation>
+    </message>
+    <message>
+        <source>is a damaged WavPack file (%1)</source>
+        <translation type="unfinished">ist eine beschädigte WavPack-Datei (%1)</translation>
+    </message>
+    <message>
+        <source>lies outside the folder of the instrument</source>
+        <translation type="unfinished">liegt außerhalb des Ordners des Instruments</translation>
+    </message>
+    <message>
+        <source>names a file outside the folder of the organ: &quot;%1&quot;</source>
+        <translation type="unfinished">nennt eine Datei außerhalb des Ordners der Orgel: „%1“</translation>
+    </message>
+    <message>
+        <source>names a file outside the folder of its package: &quot;%1&quot;</source>
+        <translation type="unfinished">nennt eine Datei außerhalb des Ordners seines Pakets: „%1“</translation>
+    </message>
+    <message>
+        <source>is longer than a sound may be: it has more than 2 GB of samples</source>
+        <translation type="unfinished">ist länger, als ein Klang sein darf: mehr als 2 GB Samples</translation>
+    </message>
+    <message>
+        <source>is damaged: its samples would take %1, but the file holds only %2</source>
+        <translation type="unfinished">ist beschädigt: die Samples bräuchten %1, aber die Datei hat nur %2</translation>
+    </message>
+    <message>
+        <source>is a SoundFont %1 bank with compressed samples; convert it to SoundFont 2</source>
+        <translation type="unfinished">ist eine SoundFont-%1-Bank mit komprimierten Samples; wandeln Sie sie in SoundFont 2 um</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: its samples are encrypted and need a licence; open an organ without encryption</source>
+        <translation type="unfinished">kann nicht geladen werden: die Samples sind verschlüsselt und brauchen eine Lizenz; öffnen Sie eine Orgel ohne Verschlüsselung</translation>
+    </message>
+    <message>
+        <source>cannot be played: no pipe has a sample file</source>
+        <translation type="unfinished">kann nicht gespielt werden: keine Pfeife hat eine Sample-Datei</translation>
+    </message>
+    <message>
+        <source>cannot be played: none of the %1 sample files can be decoded, for example %2</source>
+        <translation type="unfinished">kann nicht gespielt werden: keine der %1 Sample-Dateien kann dekodiert werden, zum Beispiel %2</translation>
+    </message>
+    <message>
+        <source>is not an organ definition: its root element is not &quot;Hauptwerk&quot;</source>
+        <translation type="unfinished">ist keine Orgeldefinition: das Wurzelelement ist nicht „Hauptwerk“</translation>
+    </message>
+    <message>
+        <source>is written in UTF-16; save it as UTF-8 in a text editor</source>
+        <translation type="unfinished">ist in UTF-16 geschrieben; speichern Sie es in einem Texteditor als UTF-8</translation>
+    </message>
+    <message>
+        <source>cannot be played: it has no stop with pipes</source>
+        <translation type="unfinished">kann nicht gespielt werden: kein Register hat Pfeifen</translation>
+    </message>
+    <message>
+        <source>holds no organ definition (a file with the extension .organ)</source>
+        <translation type="unfinished">enthält keine Orgeldefinition (eine Datei mit der Endung .organ)</translation>
+    </message>
+    <message>
+        <source>this package is not in the folder of the organ</source>
+        <translation type="unfinished">dieses Paket ist nicht im Ordner der Orgel</translation>
+    </message>
+    <message>
+        <source>is not a zip archive, or is damaged</source>
+        <translation type="unfinished">ist kein Zip-Archiv oder ist beschädigt</translation>
+    </message>
+    <message>
+        <source>is a damaged archive</source>
+        <translation type="unfinished">ist ein beschädigtes Archiv</translation>
+    </message>
+    <message>
+        <source>is encrypted; only archives without a password can be opened</source>
+        <translation type="unfinished">ist verschlüsselt; nur Archive ohne Passwort können geöffnet werden</translation>
+    </message>
+    <message>
+        <source>holds a file whose name leads out of the archive: &quot;%1&quot;</source>
+        <translation type="unfinished">enthält eine Datei, deren Name aus dem Archiv hinausführt: „%1“</translation>
+    </message>
+    <message>
+        <source>is not in the archive</source>
+        <translation type="unfinished">ist nicht im Archiv</translation>
+    </message>
+    <message>
+        <source>is damaged in the archive</source>
+        <translation type="unfinished">ist im Archiv beschädigt</translation>
+    </message>
+    <message>
+        <source>is larger than the archive says</source>
+        <translation type="unfinished">ist größer, als das Archiv sagt</translation>
+    </message>
+    <message>
+        <source>is cut short in the archive</source>
+        <translation type="unfinished">ist im Archiv abgeschnitten</translation>
+    </message>
+    <message>
+        <source>an attack has no sample file</source>
+        <translation type="unfinished">ein Einschwingen hat keine Sample-Datei</translation>
+    </message>
+    <message>
+        <source>a release has no sample file</source>
+        <translation type="unfinished">ein Ausklang hat keine Sample-Datei</translation>
+    </message>
+    <message>
+        <source>recordings with the tremulant are not played</source>
+        <translation type="unfinished">Aufnahmen mit dem Tremulanten werden nicht gespielt</translation>
+    </message>
+    <message>
+        <source>recordings for quick repetitions are not played</source>
+        <translation type="unfinished">Aufnahmen für schnelle Wiederholungen werden nicht gespielt</translation>
+    </message>
+    <message>
+        <source>borrowed from pipes that are borrowed from each other</source>
+        <translation type="unfinished">von Pfeifen geliehen, die voneinander geliehen sind</translation>
+    </message>
+    <message>
+        <source>does not say from which manual, stop and pipe it is borrowed</source>
+        <translation type="unfinished">sagt nicht, von welchem Manual, Register und von welcher Pfeife es geliehen ist</translation>
+    </message>
+    <message>
+        <source>borrowed from stop %1 of manual %2, which does not exist</source>
+        <translation type="unfinished">von Register %1 des Manuals %2 geliehen, das es nicht gibt</translation>
+    </message>
+    <message>
+        <source>borrowed from a pipe that does not sound</source>
+        <translation type="unfinished">von einer Pfeife geliehen, die nicht klingt</translation>
+    </message>
+    <message>
+        <source>is outside the MIDI keys 0 to 127</source>
+        <translation type="unfinished">liegt außerhalb der MIDI-Tasten 0 bis 127</translation>
+    </message>
+    <message>
+        <source>its stop %1 does not exist</source>
+        <translation type="unfinished">sein Register %1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>its rank %1 does not exist</source>
+        <translation type="unfinished">seine Pfeifenreihe %1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>belongs to no manual</source>
+        <translation type="unfinished">gehört zu keinem Manual</translation>
+    </message>
+    <message>
+        <source>has no pipe that sounds</source>
+        <translation type="unfinished">hat keine Pfeife, die klingt</translation>
+    </message>
+    <message>
+        <source>is a noise or an effect that sounds when its knob is drawn, not when keys are pressed</source>
+        <translation type="unfinished">ist ein Geräusch oder Effekt, der beim Ziehen des Knopfes klingt, nicht bei Tasten</translation>
+    </message>
+    <message>
+        <source>silences its own keys (&quot;unison off&quot;), which is not supported</source>
+        <translation type="unfinished">bringt die eigenen Tasten zum Schweigen („Unison off“), was nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>couples only the lowest or the highest key, which is not supported</source>
+        <translation type="unfinished">koppelt nur die tiefste oder höchste Taste, was nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>couples to a manual that does not exist</source>
+        <translation type="unfinished">koppelt an ein Manual, das es nicht gibt</translation>
+    </message>
+    <message>
+        <source>tremulants are not supported</source>
+        <translation type="unfinished">Tremulanten werden nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation type="unfinished">%1, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>%1, byte %2: %3</source>
+        <translation type="unfinished">%1, Byte %2: %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it with 16 bits, which takes %3</source>
+        <translation type="unfinished">braucht etwa %1 Speicher, aber nur %2 sind frei; laden Sie es mit 16 Bit, was %3 braucht</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it in mono, which takes %3</source>
+        <translation type="unfinished">braucht etwa %1 Speicher, aber nur %2 sind frei; laden Sie es in Mono, was %3 braucht</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it with 16 bits and in mono, which takes %3</source>
+        <translation type="unfinished">braucht etwa %1 Speicher, aber nur %2 sind frei; laden Sie es mit 16 Bit und in Mono, was %3 braucht</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; unload other instruments or close other programs</source>
+        <translation type="unfinished">braucht etwa %1 Speicher, aber nur %2 sind frei; entladen Sie andere Instrumente oder schließen Sie andere Programme</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,16 @@
     </message>
 </context>
 <context>
+    <name>velmora::InstrumentOpener</name>
+    <message numerus="yes">
+        <source>%1 holds %n instrument(s). The Instrument menu lists them.</source>
+        <translation type="unfinished">
+            <numerusform>%1 holds %n instrument. The Instrument menu lists it.</numerusform>
+            <numerusform>%1 holds %n instruments. The Instrument menu lists them.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceDocument</name>
     <message numerus="yes">
         <source>Record %n Note(s)</source>

@@ -34,6 +34,50 @@
         <source>Velmora cannot draw its windows because OpenGL does not work here. Install libgl1-mesa-dri, which needs no graphics card.</source>
         <translation type="unfinished">Velmora no puede dibujar sus ventanas porque OpenGL no funciona aquí. Instale libgl1-mesa-dri, que no necesita tarjeta gráfica.</translation>
     </message>
+    <message>
+        <source>Instrument in the &amp;File</source>
+        <translation type="unfinished">Instrumento del &amp;archivo</translation>
+    </message>
+    <message>
+        <source>Lay out the instruments of the bank as stops with volumes of their own, instead of its presets</source>
+        <translation type="unfinished">Disponer los instrumentos del banco como registros con volumen propio, en vez de sus ajustes</translation>
+    </message>
+    <message>
+        <source>&amp;Plain Reading</source>
+        <translation type="unfinished">Lectura &amp;literal</translation>
+    </message>
+    <message>
+        <source>One sample for each key, as the file lists them</source>
+        <translation type="unfinished">Una muestra por tecla, como las lista el archivo</translation>
+    </message>
+    <message>
+        <source>Samples with more bits take less memory</source>
+        <translation type="unfinished">Las muestras con más bits ocupan menos memoria</translation>
+    </message>
+    <message>
+        <source>Load in &amp;Mono</source>
+        <translation type="unfinished">Cargar en &amp;mono</translation>
+    </message>
+    <message>
+        <source>Stereo samples take half the memory</source>
+        <translation type="unfinished">Las muestras estéreo ocupan la mitad de memoria</translation>
+    </message>
+    <message>
+        <source>Stop %1</source>
+        <translation type="unfinished">Registro %1</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished">Volumen</translation>
+    </message>
+    <message>
+        <source>Open as S&amp;tops</source>
+        <translation type="unfinished">Abrir como &amp;registros</translation>
+    </message>
+    <message>
+        <source>Load with 16 &amp;Bits</source>
+        <translation type="unfinished">Cargar con 16 &amp;bits</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -189,14 +233,115 @@
     </message>
 </context>
 <context>
+    <name>velmora::ConsoleActions</name>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished">Consola</translation>
+    </message>
+    <message>
+        <source>&amp;Set</source>
+        <translation type="unfinished">&amp;Fijar</translation>
+    </message>
+    <message>
+        <source>Keep what is drawn under the registration button that is pressed next</source>
+        <translation type="unfinished">Guarda lo que está sacado en el siguiente botón de registración que se pulse</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Anulador</translation>
+    </message>
+    <message>
+        <source>Push in every stop and coupler</source>
+        <translation type="unfinished">Cierra todos los registros y acoplamientos</translation>
+    </message>
+    <message>
+        <source>&amp;Tutti</source>
+        <translation type="unfinished">&amp;Tutti</translation>
+    </message>
+    <message>
+        <source>Draw everything; the next press returns to what was drawn before</source>
+        <translation type="unfinished">Saca todo; la siguiente pulsación vuelve a lo que estaba sacado antes</translation>
+    </message>
+    <message>
+        <source>&amp;Manuals…</source>
+        <translation type="unfinished">&amp;Manuales…</translation>
+    </message>
+    <message>
+        <source>Choose which MIDI channels and devices play the manuals and the pedals</source>
+        <translation type="unfinished">Elige qué canales y dispositivos MIDI tocan los manuales y el pedal</translation>
+    </message>
+    <message>
+        <source>&amp;Registrations</source>
+        <translation type="unfinished">&amp;Registraciones</translation>
+    </message>
+    <message>
+        <source>Registration %1</source>
+        <translation type="unfinished">Registración %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep as…</source>
+        <translation type="unfinished">&amp;Guardar como…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished">Cambiar &amp;nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>Keep Registration</source>
+        <translation type="unfinished">Guardar registración</translation>
+    </message>
+    <message>
+        <source>Name of the registration:</source>
+        <translation type="unfinished">Nombre de la registración:</translation>
+    </message>
+    <message>
+        <source>Rename Registration</source>
+        <translation type="unfinished">Cambiar el nombre de la registración</translation>
+    </message>
+    <message>
+        <source>New name of “%1”:</source>
+        <translation type="unfinished">Nuevo nombre de «%1»:</translation>
+    </message>
+    <message>
+        <source>There is another registration with the name “%1”.</source>
+        <translation type="unfinished">Hay otra registración con el nombre «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ConsolePanel</name>
+    <message>
+        <source>Stops</source>
+        <translation type="unfinished">Registros</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ConsoleView</name>
+    <message>
+        <source>Find a stop</source>
+        <translation type="unfinished">Buscar un registro</translation>
+    </message>
+    <message>
+        <source>Swell:</source>
+        <translation type="unfinished">Expresión:</translation>
+    </message>
+    <message>
+        <source>Swell of %1</source>
+        <translation type="unfinished">Expresión de %1</translation>
+    </message>
+    <message>
+        <source>How far the swell of %1 is open</source>
+        <translation type="unfinished">Cuánto está abierta la expresión de %1</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Desktop</name>
     <message>
         <source>%1: unrecognised file type. Velmora recognises files by their extensions, such as .mid, .scl or .sf2.</source>
         <translation type="unfinished">%1: tipo de archivo desconocido. Velmora reconoce los archivos por su extensión, como .mid, .scl o .sf2.</translation>
-    </message>
-    <message>
-        <source>%1: %2; see Import Report in the Instruments window</source>
-        <translation type="unfinished">%1: %2; consulte el informe de importación en la ventana Instrumentos</translation>
     </message>
     <message>
         <source>Open</source>
@@ -257,12 +402,46 @@
 %1</translation>
     </message>
     <message>
-        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
-        <translation type="unfinished">%1: Velmora no puede tocar instrumentos de este formato. Conviértalo en un SoundFont (.sf2) y abra este.</translation>
-    </message>
-    <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished">%1 no se puede usar como banco General MIDI. En su lugar se usa %2. Elija otro SoundFont en las preferencias.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DivisionChooser</name>
+    <message>
+        <source>This &amp;keyboard plays:</source>
+        <translation type="unfinished">Este te&amp;clado toca:</translation>
+    </message>
+    <message>
+        <source>The manual that the keyboard on the screen and the letter keys play</source>
+        <translation type="unfinished">El manual que tocan el teclado de la pantalla y las teclas de letras</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Drawknob</name>
+    <message>
+        <source>%1, volume %2 %
+A click draws it or pushes it in, a right click changes its volume</source>
+        <translation type="unfinished">%1, volumen %2 %
+Un clic lo saca o lo cierra, un clic derecho cambia su volumen</translation>
+    </message>
+    <message>
+        <source>%1
+A click draws it or pushes it in</source>
+        <translation type="unfinished">%1
+Un clic lo saca o lo cierra</translation>
+    </message>
+    <message>
+        <source>&amp;Volume:</source>
+        <translation type="unfinished">&amp;Volumen:</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1 %</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Volumen de %1</translation>
     </message>
 </context>
 <context>
@@ -384,15 +563,25 @@ Elegir otro instrumento, abrir uno o retirarlo</translation>
     </message>
 </context>
 <context>
+    <name>velmora::InstrumentOpener</name>
+    <message>
+        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
+        <translation type="unfinished">%1: Velmora no puede tocar instrumentos de este formato. Conviértalo en un SoundFont (.sf2) y abra este.</translation>
+    </message>
+    <message>
+        <source>%1: %2; see Import Report in the Instruments window</source>
+        <translation type="unfinished">%1: %2; consulte el informe de importación en la ventana Instrumentos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holds %n instrument(s). The Instrument menu lists them.</source>
+        <translation type="unfinished">
+            <numerusform>%1 contiene %n instrumento. El menú Instrumento lo muestra.</numerusform>
+            <numerusform>%1 contiene %n instrumentos. El menú Instrumento los muestra.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::InstrumentPanel</name>
-    <message>
-        <source>Stop %1</source>
-        <translation type="unfinished">Registro %1</translation>
-    </message>
-    <message>
-        <source>Volume</source>
-        <translation type="unfinished">Volumen</translation>
-    </message>
     <message>
         <source>Memory used by the samples of this instrument</source>
         <translation type="unfinished">Memoria que usan las muestras de este instrumento</translation>
@@ -578,10 +767,57 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
 </context>
 <context>
+    <name>velmora::ManualsDialog</name>
+    <message>
+        <source>Manuals</source>
+        <translation type="unfinished">Manuales</translation>
+    </message>
+    <message>
+        <source>What no line names plays the lowest manual. The channels of pieces count as those of all devices.</source>
+        <translation type="unfinished">Lo que ninguna línea nombra toca el manual más bajo. Los canales de las piezas cuentan como los de todos los dispositivos.</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation type="unfinished">Dispositivo</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation type="unfinished">Canal</translation>
+    </message>
+    <message>
+        <source>Plays</source>
+        <translation type="unfinished">Toca</translation>
+    </message>
+    <message>
+        <source>&amp;Add Line</source>
+        <translation type="unfinished">&amp;Añadir línea</translation>
+    </message>
+    <message>
+        <source>All devices</source>
+        <translation type="unfinished">Todos los dispositivos</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Quitar</translation>
+    </message>
+    <message>
+        <source>All channels</source>
+        <translation type="unfinished">Todos los canales</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation type="unfinished">Canal %1</translation>
+    </message>
+</context>
+<context>
     <name>velmora::MetersWindow</name>
     <message>
         <source>Meters</source>
         <translation type="unfinished">Medidores</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation type="unfinished">%1:</translation>
     </message>
 </context>
 <context>
@@ -943,8 +1179,12 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <translation type="unfinished">Programa</translation>
     </message>
     <message>
-        <source>General MIDI program</source>
-        <translation type="unfinished">Programa General MIDI</translation>
+        <source>Drum kits</source>
+        <translation type="unfinished">Baterías</translation>
+    </message>
+    <message>
+        <source>Bank %1</source>
+        <translation type="unfinished">Banco %1</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1774,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Find a command by its name and perform it</source>
         <translation type="unfinished">Buscar una orden por su nombre y ejecutarla</translation>
     </message>
+    <message>
+        <source>&amp;Console</source>
+        <translation type="unfinished">&amp;Consola</translation>
+    </message>
+    <message>
+        <source>Show the stops of the organ</source>
+        <translation type="unfinished">Mostrar los registros del órgano</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -1911,13 +2159,6 @@ Haga clic para ver todas las afinaciones</translation>
     </message>
 </context>
 <context>
-    <name>velmora::StopList</name>
-    <message>
-        <source>Find a stop</source>
-        <translation type="unfinished">Buscar un registro</translation>
-    </message>
-</context>
-<context>
     <name>velmora::StopRow</name>
     <message>
         <source>%1: turn on or off (Space)</source>
@@ -2042,6 +2283,62 @@ Haga clic para ver todas las afinaciones</translation>
         <source>Adapts its thirds to what you play</source>
         <translation type="unfinished">Adapta sus terceras a lo que usted toca</translation>
     </message>
+    <message>
+        <source>Find a tuning</source>
+        <translation type="unfinished">Buscar una afinación</translation>
+    </message>
+    <message>
+        <source>Tunings</source>
+        <translation type="unfinished">Afinaciones</translation>
+    </message>
+    <message>
+        <source>Pythagorean</source>
+        <translation type="unfinished">Pitagórica</translation>
+    </message>
+    <message>
+        <source>Meantone</source>
+        <translation type="unfinished">Mesotónico</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">Francesas</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">Inglesas</translation>
+    </message>
+    <message>
+        <source>Well temperaments</source>
+        <translation type="unfinished">Buenos temperamentos</translation>
+    </message>
+    <message>
+        <source>Just intonation</source>
+        <translation type="unfinished">Entonación justa</translation>
+    </message>
+    <message>
+        <source>Equal divisions</source>
+        <translation type="unfinished">Divisiones iguales</translation>
+    </message>
+    <message>
+        <source>Outside Europe</source>
+        <translation type="unfinished">Fuera de Europa</translation>
+    </message>
+    <message>
+        <source>Following Meantone</source>
+        <translation type="unfinished">Mesotónico que sigue</translation>
+    </message>
+    <message>
+        <source>Spells each key as the music asks for, with pure thirds</source>
+        <translation type="unfinished">Escribe cada tecla según pide la música, con terceras puras</translation>
+    </message>
+    <message>
+        <source>Pure</source>
+        <translation type="unfinished">Pura</translation>
+    </message>
+    <message>
+        <source>Makes the chords that you play pure</source>
+        <translation type="unfinished">Hace puros los acordes que se tocan</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -2107,6 +2404,453 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>%1 leaves the stage</source>
         <translation type="unfinished">%1 sale del escenario</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished">Consola</translation>
+    </message>
+    <message>
+        <source>C&amp;onsole</source>
+        <translation type="unfinished">C&amp;onsola</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::messages</name>
+    <message>
+        <source>MIDI Player</source>
+        <translation type="unfinished">Reproductor MIDI</translation>
+    </message>
+    <message>
+        <source>Sample %1</source>
+        <translation type="unfinished">Muestra %1</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation type="unfinished">Salida</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation type="unfinished">Frecuencia de muestreo</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation type="unfinished">Periodo</translation>
+    </message>
+    <message>
+        <source>From MIDI to sound</source>
+        <translation type="unfinished">De MIDI al sonido</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voces</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished">Carga</translation>
+    </message>
+    <message>
+        <source>Lost periods</source>
+        <translation type="unfinished">Periodos perdidos</translation>
+    </message>
+    <message>
+        <source>Instruments in memory</source>
+        <translation type="unfinished">Instrumentos en memoria</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">ninguno</translation>
+    </message>
+    <message>
+        <source>%1 frames, %2 ms</source>
+        <translation type="unfinished">%1 tramas, %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms (input %2 ms, period and limiter %3 ms, sound server %4 ms)</source>
+        <translation type="unfinished">%1 ms (entrada %2 ms, periodo y limitador %3 ms, servidor de sonido %4 ms)</translation>
+    </message>
+    <message>
+        <source>%1, released keys are shortened</source>
+        <translation type="unfinished">%1, las teclas soltadas se acortan</translation>
+    </message>
+    <message>
+        <source>%1 % of the period, at worst %2 %</source>
+        <translation type="unfinished">%1 % del periodo, %2 % como máximo</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2</source>
+        <translation type="unfinished">%1, el último a las %2</translation>
+    </message>
+    <message>
+        <source>%1 messages a second</source>
+        <translation type="unfinished">%1 mensajes por segundo</translation>
+    </message>
+    <message>
+        <source>%1GB</source>
+        <translation type="unfinished">%1 GB</translation>
+    </message>
+    <message>
+        <source>%1MB</source>
+        <translation type="unfinished">%1 MB</translation>
+    </message>
+    <message>
+        <source>%1KB</source>
+        <translation type="unfinished">%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished">%1 bytes</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation type="unfinished">Sin sonido</translation>
+    </message>
+    <message>
+        <source>The sound card</source>
+        <translation type="unfinished">La tarjeta de sonido</translation>
+    </message>
+    <message>
+        <source>The output &quot;%1&quot;</source>
+        <translation type="unfinished">La salida «%1»</translation>
+    </message>
+    <message>
+        <source>No sound output was found; looking for one.</source>
+        <translation type="unfinished">No se encontró ninguna salida de sonido; se sigue buscando.</translation>
+    </message>
+    <message>
+        <source>%1 has gone; waiting for it.</source>
+        <translation type="unfinished">%1 ha desaparecido; se espera su regreso.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; waiting for it.</source>
+        <translation type="unfinished">%1 falta; se espera su llegada.</translation>
+    </message>
+    <message>
+        <source>%1 has gone; playing through %2 until it is back.</source>
+        <translation type="unfinished">%1 ha desaparecido; suena %2 hasta que vuelva.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; playing through %2 until it is back.</source>
+        <translation type="unfinished">%1 falta; suena %2 hasta que vuelva.</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation type="unfinished">no se puede leer</translation>
+    </message>
+    <message>
+        <source>cannot be read (%1)</source>
+        <translation type="unfinished">no se puede leer (%1)</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation type="unfinished">está vacío</translation>
+    </message>
+    <message>
+        <source>is too large</source>
+        <translation type="unfinished">es demasiado grande</translation>
+    </message>
+    <message>
+        <source>is a pipe or a device, not a file</source>
+        <translation type="unfinished">es una tubería o un dispositivo, no un archivo</translation>
+    </message>
+    <message>
+        <source>needs %1 more of memory, but only %2 are free; unload other instruments or close other programs</source>
+        <translation type="unfinished">necesita %1 más de memoria, pero solo hay %2 libres; retire otros instrumentos o cierre otros programas</translation>
+    </message>
+    <message>
+        <source>is damaged or cut short</source>
+        <translation type="unfinished">está dañado o cortado</translation>
+    </message>
+    <message>
+        <source>is cut short</source>
+        <translation type="unfinished">está cortado</translation>
+    </message>
+    <message>
+        <source>is damaged and its presets cannot be played; opening it as stops may work</source>
+        <translation type="unfinished">está dañado y sus ajustes no se pueden tocar; abrirlo como registros puede funcionar</translation>
+    </message>
+    <message>
+        <source>has no presets</source>
+        <translation type="unfinished">no tiene ajustes</translation>
+    </message>
+    <message>
+        <source>the file does not contain its data</source>
+        <translation type="unfinished">el archivo no contiene sus datos</translation>
+    </message>
+    <message>
+        <source>the file has too many chunks</source>
+        <translation type="unfinished">el archivo tiene demasiados bloques</translation>
+    </message>
+    <message>
+        <source>lists are nested too deeply</source>
+        <translation type="unfinished">las listas están anidadas con demasiada profundidad</translation>
+    </message>
+    <message>
+        <source>is not a RIFF file</source>
+        <translation type="unfinished">no es un archivo RIFF</translation>
+    </message>
+    <message>
+        <source>has no &quot;%1&quot;</source>
+        <translation type="unfinished">no tiene «%1»</translation>
+    </message>
+    <message>
+        <source>this is not a tuning file</source>
+        <translation type="unfinished">no es un archivo de afinación</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation type="unfinished">«%1» no es un número</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a finite number</source>
+        <translation type="unfinished">«%1» no es un número finito</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a playable pitch</source>
+        <translation type="unfinished">«%1» no es una altura que se pueda tocar</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a zero denominator</source>
+        <translation type="unfinished">«%1» tiene denominador cero</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the number of notes; only scales of 12 notes are supported</source>
+        <translation type="unfinished">«%1» es el número de notas; solo se admiten escalas de 12 notas</translation>
+    </message>
+    <message>
+        <source>this is not a Standard MIDI File: &quot;MThd&quot; is missing</source>
+        <translation type="unfinished">no es un archivo MIDI estándar: falta «MThd»</translation>
+    </message>
+    <message>
+        <source>the header is too short</source>
+        <translation type="unfinished">la cabecera es demasiado corta</translation>
+    </message>
+    <message>
+        <source>the header announces no tracks</source>
+        <translation type="unfinished">la cabecera no anuncia pistas</translation>
+    </message>
+    <message>
+        <source>an event exceeds the end of its track</source>
+        <translation type="unfinished">un evento rebasa el final de su pista</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 tracks</source>
+        <translation type="unfinished">el archivo termina tras %1 de %2 pistas</translation>
+    </message>
+    <message>
+        <source>a chunk of %1 bytes is truncated: the file has only %2 more</source>
+        <translation type="unfinished">un bloque de %1 bytes está cortado: al archivo solo le quedan %2</translation>
+    </message>
+    <message>
+        <source>this is not a session of Velmora</source>
+        <translation type="unfinished">no es una sesión de Velmora</translation>
+    </message>
+    <message>
+        <source>a later version of Velmora has written this session</source>
+        <translation type="unfinished">una versión posterior de Velmora escribió esta sesión</translation>
+    </message>
+    <message>
+        <source>is too large for the free memory; unload other instruments, then open it again</source>
+        <translation type="unfinished">no cabe en la memoria libre; retire otros instrumentos y ábralo de nuevo</translation>
+    </message>
+    <message>
+        <source>has no instruments</source>
+        <translation type="unfinished">no tiene instrumentos</translation>
+    </message>
+    <message>
+        <source>has no samples</source>
+        <translation type="unfinished">no tiene muestras</translation>
+    </message>
+    <message>
+        <source>is not a sound file in a supported format</source>
+        <translation type="unfinished">no es un archivo de sonido en un formato admitido</translation>
+    </message>
+    <message>
+        <source>is a damaged WavPack file (%1)</source>
+        <translation type="unfinished">es un archivo WavPack dañado (%1)</translation>
+    </message>
+    <message>
+        <source>lies outside the folder of the instrument</source>
+        <translation type="unfinished">está fuera de la carpeta del instrumento</translation>
+    </message>
+    <message>
+        <source>names a file outside the folder of the organ: &quot;%1&quot;</source>
+        <translation type="unfinished">nombra un archivo fuera de la carpeta del órgano: «%1»</translation>
+    </message>
+    <message>
+        <source>names a file outside the folder of its package: &quot;%1&quot;</source>
+        <translation type="unfinished">nombra un archivo fuera de la carpeta de su paquete: «%1»</translation>
+    </message>
+    <message>
+        <source>is longer than a sound may be: it has more than 2 GB of samples</source>
+        <translation type="unfinished">es más largo de lo que puede ser un sonido: más de 2 GB de muestras</translation>
+    </message>
+    <message>
+        <source>is damaged: its samples would take %1, but the file holds only %2</source>
+        <translation type="unfinished">está dañado: sus muestras ocuparían %1, pero el archivo solo tiene %2</translation>
+    </message>
+    <message>
+        <source>is a SoundFont %1 bank with compressed samples; convert it to SoundFont 2</source>
+        <translation type="unfinished">es un banco SoundFont %1 con muestras comprimidas; conviértalo a SoundFont 2</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: its samples are encrypted and need a licence; open an organ without encryption</source>
+        <translation type="unfinished">no se puede cargar: sus muestras están cifradas y necesitan una licencia; abra un órgano sin cifrar</translation>
+    </message>
+    <message>
+        <source>cannot be played: no pipe has a sample file</source>
+        <translation type="unfinished">no se puede tocar: ningún tubo tiene un archivo de muestra</translation>
+    </message>
+    <message>
+        <source>cannot be played: none of the %1 sample files can be decoded, for example %2</source>
+        <translation type="unfinished">no se puede tocar: ninguno de los %1 archivos de muestras se puede decodificar, por ejemplo %2</translation>
+    </message>
+    <message>
+        <source>is not an organ definition: its root element is not &quot;Hauptwerk&quot;</source>
+        <translation type="unfinished">no es una definición de órgano: su elemento raíz no es «Hauptwerk»</translation>
+    </message>
+    <message>
+        <source>is written in UTF-16; save it as UTF-8 in a text editor</source>
+        <translation type="unfinished">está escrito en UTF-16; guárdelo como UTF-8 en un editor de textos</translation>
+    </message>
+    <message>
+        <source>cannot be played: it has no stop with pipes</source>
+        <translation type="unfinished">no se puede tocar: ningún registro tiene tubos</translation>
+    </message>
+    <message>
+        <source>holds no organ definition (a file with the extension .organ)</source>
+        <translation type="unfinished">no contiene una definición de órgano (un archivo con la extensión .organ)</translation>
+    </message>
+    <message>
+        <source>this package is not in the folder of the organ</source>
+        <translation type="unfinished">este paquete no está en la carpeta del órgano</translation>
+    </message>
+    <message>
+        <source>is not a zip archive, or is damaged</source>
+        <translation type="unfinished">no es un archivo zip o está dañado</translation>
+    </message>
+    <message>
+        <source>is a damaged archive</source>
+        <translation type="unfinished">es un archivo comprimido dañado</translation>
+    </message>
+    <message>
+        <source>is encrypted; only archives without a password can be opened</source>
+        <translation type="unfinished">está cifrado; solo se pueden abrir archivos sin contraseña</translation>
+    </message>
+    <message>
+        <source>holds a file whose name leads out of the archive: &quot;%1&quot;</source>
+        <translation type="unfinished">contiene un archivo cuyo nombre lleva fuera: «%1»</translation>
+    </message>
+    <message>
+        <source>is not in the archive</source>
+        <translation type="unfinished">no está en el archivo comprimido</translation>
+    </message>
+    <message>
+        <source>is damaged in the archive</source>
+        <translation type="unfinished">está dañado en el archivo comprimido</translation>
+    </message>
+    <message>
+        <source>is larger than the archive says</source>
+        <translation type="unfinished">es mayor de lo que dice el archivo comprimido</translation>
+    </message>
+    <message>
+        <source>is cut short in the archive</source>
+        <translation type="unfinished">está cortado en el archivo comprimido</translation>
+    </message>
+    <message>
+        <source>an attack has no sample file</source>
+        <translation type="unfinished">un ataque no tiene archivo de muestra</translation>
+    </message>
+    <message>
+        <source>a release has no sample file</source>
+        <translation type="unfinished">una extinción no tiene archivo de muestra</translation>
+    </message>
+    <message>
+        <source>recordings with the tremulant are not played</source>
+        <translation type="unfinished">las grabaciones con trémolo no se tocan</translation>
+    </message>
+    <message>
+        <source>recordings for quick repetitions are not played</source>
+        <translation type="unfinished">las grabaciones para repeticiones rápidas no se tocan</translation>
+    </message>
+    <message>
+        <source>borrowed from pipes that are borrowed from each other</source>
+        <translation type="unfinished">tomado de tubos que se toman unos de otros</translation>
+    </message>
+    <message>
+        <source>does not say from which manual, stop and pipe it is borrowed</source>
+        <translation type="unfinished">no dice de qué manual, registro y tubo se toma</translation>
+    </message>
+    <message>
+        <source>borrowed from stop %1 of manual %2, which does not exist</source>
+        <translation type="unfinished">tomado del registro %1 del manual %2, que no existe</translation>
+    </message>
+    <message>
+        <source>borrowed from a pipe that does not sound</source>
+        <translation type="unfinished">tomado de un tubo que no suena</translation>
+    </message>
+    <message>
+        <source>is outside the MIDI keys 0 to 127</source>
+        <translation type="unfinished">está fuera de las teclas MIDI 0 a 127</translation>
+    </message>
+    <message>
+        <source>its stop %1 does not exist</source>
+        <translation type="unfinished">su registro %1 no existe</translation>
+    </message>
+    <message>
+        <source>its rank %1 does not exist</source>
+        <translation type="unfinished">su hilera %1 no existe</translation>
+    </message>
+    <message>
+        <source>belongs to no manual</source>
+        <translation type="unfinished">no pertenece a ningún manual</translation>
+    </message>
+    <message>
+        <source>has no pipe that sounds</source>
+        <translation type="unfinished">no tiene ningún tubo que suene</translation>
+    </message>
+    <message>
+        <source>is a noise or an effect that sounds when its knob is drawn, not when keys are pressed</source>
+        <translation type="unfinished">es un ruido o efecto que suena al sacar su tirador, no al pulsar teclas</translation>
+    </message>
+    <message>
+        <source>silences its own keys (&quot;unison off&quot;), which is not supported</source>
+        <translation type="unfinished">silencia sus propias teclas («unison off»), lo que no se admite</translation>
+    </message>
+    <message>
+        <source>couples only the lowest or the highest key, which is not supported</source>
+        <translation type="unfinished">acopla solo la tecla más grave o la más aguda, lo que no se admite</translation>
+    </message>
+    <message>
+        <source>couples to a manual that does not exist</source>
+        <translation type="unfinished">acopla a un manual que no existe</translation>
+    </message>
+    <message>
+        <source>tremulants are not supported</source>
+        <translation type="unfinished">los trémolos no se admiten</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation type="unfinished">%1, línea %2: %3</translation>
+    </message>
+    <message>
+        <source>%1, byte %2: %3</source>
+        <translation type="unfinished">%1, byte %2: %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it with 16 bits, which takes %3</source>
+        <translation type="unfinished">necesita unos %1 de memoria, pero solo hay %2 libres; cárguelo con 16 bits, que ocupa %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it in mono, which takes %3</source>
+        <translation type="unfinished">necesita unos %1 de memoria, pero solo hay %2 libres; cárguelo en mono, que ocupa %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it with 16 bits and in mono, which takes %3</source>
+        <translation type="unfinished">necesita unos %1 de memoria, pero solo hay %2 libres; cárguelo con 16 bits y en mono, que ocupa %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; unload other instruments or close other programs</source>
+        <translation type="unfinished">necesita unos %1 de memoria, pero solo hay %2 libres; retire otros instrumentos o cierre otros programas</translation>
     </message>
 </context>
 <context>

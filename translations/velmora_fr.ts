@@ -34,6 +34,50 @@
         <source>Velmora cannot draw its windows because OpenGL does not work here. Install libgl1-mesa-dri, which needs no graphics card.</source>
         <translation type="unfinished">Velmora ne peut pas dessiner ses fenêtres, car OpenGL ne fonctionne pas ici. Installez libgl1-mesa-dri, qui ne demande pas de carte graphique.</translation>
     </message>
+    <message>
+        <source>Instrument in the &amp;File</source>
+        <translation type="unfinished">Instrument du &amp;fichier</translation>
+    </message>
+    <message>
+        <source>Lay out the instruments of the bank as stops with volumes of their own, instead of its presets</source>
+        <translation type="unfinished">Disposer les instruments de la banque en jeux avec leur propre volume, au lieu de ses préréglages</translation>
+    </message>
+    <message>
+        <source>&amp;Plain Reading</source>
+        <translation type="unfinished">Lecture &amp;littérale</translation>
+    </message>
+    <message>
+        <source>One sample for each key, as the file lists them</source>
+        <translation type="unfinished">Un échantillon par touche, dans l’ordre du fichier</translation>
+    </message>
+    <message>
+        <source>Samples with more bits take less memory</source>
+        <translation type="unfinished">Les échantillons de plus de bits prennent moins de mémoire</translation>
+    </message>
+    <message>
+        <source>Load in &amp;Mono</source>
+        <translation type="unfinished">Charger en &amp;mono</translation>
+    </message>
+    <message>
+        <source>Stereo samples take half the memory</source>
+        <translation type="unfinished">Les échantillons stéréo prennent moitié moins de mémoire</translation>
+    </message>
+    <message>
+        <source>Stop %1</source>
+        <translation type="unfinished">Jeu %1</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished">Volume</translation>
+    </message>
+    <message>
+        <source>Open as S&amp;tops</source>
+        <translation type="unfinished">Ouvrir en &amp;jeux</translation>
+    </message>
+    <message>
+        <source>Load with 16 &amp;Bits</source>
+        <translation type="unfinished">Charger en 16 &amp;bits</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -189,14 +233,115 @@
     </message>
 </context>
 <context>
+    <name>velmora::ConsoleActions</name>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished">Console</translation>
+    </message>
+    <message>
+        <source>&amp;Set</source>
+        <translation type="unfinished">&amp;Fixer</translation>
+    </message>
+    <message>
+        <source>Keep what is drawn under the registration button that is pressed next</source>
+        <translation type="unfinished">Garder ce qui est tiré sous le prochain bouton de registration pressé</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Annulateur</translation>
+    </message>
+    <message>
+        <source>Push in every stop and coupler</source>
+        <translation type="unfinished">Repousser tous les jeux et accouplements</translation>
+    </message>
+    <message>
+        <source>&amp;Tutti</source>
+        <translation type="unfinished">&amp;Tutti</translation>
+    </message>
+    <message>
+        <source>Draw everything; the next press returns to what was drawn before</source>
+        <translation type="unfinished">Tirer tout ; la pression suivante revient à ce qui était tiré avant</translation>
+    </message>
+    <message>
+        <source>&amp;Manuals…</source>
+        <translation type="unfinished">&amp;Claviers…</translation>
+    </message>
+    <message>
+        <source>Choose which MIDI channels and devices play the manuals and the pedals</source>
+        <translation type="unfinished">Choisir quels canaux et appareils MIDI jouent les claviers et le pédalier</translation>
+    </message>
+    <message>
+        <source>&amp;Registrations</source>
+        <translation type="unfinished">&amp;Registrations</translation>
+    </message>
+    <message>
+        <source>Registration %1</source>
+        <translation type="unfinished">Registration %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep as…</source>
+        <translation type="unfinished">&amp;Garder sous…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished">Re&amp;nommer</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Keep Registration</source>
+        <translation type="unfinished">Garder la registration</translation>
+    </message>
+    <message>
+        <source>Name of the registration:</source>
+        <translation type="unfinished">Nom de la registration :</translation>
+    </message>
+    <message>
+        <source>Rename Registration</source>
+        <translation type="unfinished">Renommer la registration</translation>
+    </message>
+    <message>
+        <source>New name of “%1”:</source>
+        <translation type="unfinished">Nouveau nom de « %1 » :</translation>
+    </message>
+    <message>
+        <source>There is another registration with the name “%1”.</source>
+        <translation type="unfinished">Une autre registration porte le nom « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ConsolePanel</name>
+    <message>
+        <source>Stops</source>
+        <translation type="unfinished">Jeux</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ConsoleView</name>
+    <message>
+        <source>Find a stop</source>
+        <translation type="unfinished">Rechercher un jeu</translation>
+    </message>
+    <message>
+        <source>Swell:</source>
+        <translation type="unfinished">Expression :</translation>
+    </message>
+    <message>
+        <source>Swell of %1</source>
+        <translation type="unfinished">Expression : %1</translation>
+    </message>
+    <message>
+        <source>How far the swell of %1 is open</source>
+        <translation type="unfinished">Ouverture de la boîte expressive : %1</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Desktop</name>
     <message>
         <source>%1: unrecognised file type. Velmora recognises files by their extensions, such as .mid, .scl or .sf2.</source>
         <translation type="unfinished">%1&#x202f;: type de fichier inconnu. Velmora reconnaît les fichiers à leur extension, telle que .mid, .scl ou .sf2.</translation>
-    </message>
-    <message>
-        <source>%1: %2; see Import Report in the Instruments window</source>
-        <translation type="unfinished">%1&#x202f;: %2&#x202f;; voir «&#x202f;Rapport d’importation&#x202f;» dans la fenêtre «&#x202f;Instruments&#x202f;»</translation>
     </message>
     <message>
         <source>Open</source>
@@ -257,12 +402,46 @@
 %1</translation>
     </message>
     <message>
-        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
-        <translation type="unfinished">%1&#x202f;: Velmora ne peut pas jouer les instruments de ce format. Convertissez-le en SoundFont (.sf2), puis ouvrez celle-ci.</translation>
-    </message>
-    <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished">%1 ne peut pas servir de banque General MIDI. %2 est utilisé à la place. Choisissez une autre SoundFont dans les préférences.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DivisionChooser</name>
+    <message>
+        <source>This &amp;keyboard plays:</source>
+        <translation type="unfinished">Ce &amp;clavier joue :</translation>
+    </message>
+    <message>
+        <source>The manual that the keyboard on the screen and the letter keys play</source>
+        <translation type="unfinished">Le clavier que jouent le clavier à l’écran et les touches de lettres</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Drawknob</name>
+    <message>
+        <source>%1, volume %2 %
+A click draws it or pushes it in, a right click changes its volume</source>
+        <translation type="unfinished">%1, volume %2 %
+Un clic le tire ou le repousse, un clic droit change son volume</translation>
+    </message>
+    <message>
+        <source>%1
+A click draws it or pushes it in</source>
+        <translation type="unfinished">%1
+Un clic le tire ou le repousse</translation>
+    </message>
+    <message>
+        <source>&amp;Volume:</source>
+        <translation type="unfinished">&amp;Volume :</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1&#x202f;%</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Volume de %1</translation>
     </message>
 </context>
 <context>
@@ -384,15 +563,25 @@ Choisir un autre instrument, en ouvrir ou en décharger un</translation>
     </message>
 </context>
 <context>
+    <name>velmora::InstrumentOpener</name>
+    <message>
+        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
+        <translation type="unfinished">%1&#x202f;: Velmora ne peut pas jouer les instruments de ce format. Convertissez-le en SoundFont (.sf2), puis ouvrez celle-ci.</translation>
+    </message>
+    <message>
+        <source>%1: %2; see Import Report in the Instruments window</source>
+        <translation type="unfinished">%1&#x202f;: %2&#x202f;; voir «&#x202f;Rapport d’importation&#x202f;» dans la fenêtre «&#x202f;Instruments&#x202f;»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holds %n instrument(s). The Instrument menu lists them.</source>
+        <translation type="unfinished">
+            <numerusform>%1 contient %n instrument. Le menu Instrument le montre.</numerusform>
+            <numerusform>%1 contient %n instruments. Le menu Instrument les montre.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::InstrumentPanel</name>
-    <message>
-        <source>Stop %1</source>
-        <translation type="unfinished">Jeu %1</translation>
-    </message>
-    <message>
-        <source>Volume</source>
-        <translation type="unfinished">Volume</translation>
-    </message>
     <message>
         <source>Memory used by the samples of this instrument</source>
         <translation type="unfinished">Mémoire occupée par les échantillons de cet instrument</translation>
@@ -578,10 +767,57 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
 </context>
 <context>
+    <name>velmora::ManualsDialog</name>
+    <message>
+        <source>Manuals</source>
+        <translation type="unfinished">Claviers</translation>
+    </message>
+    <message>
+        <source>What no line names plays the lowest manual. The channels of pieces count as those of all devices.</source>
+        <translation type="unfinished">Ce qu’aucune ligne ne nomme joue le clavier le plus bas. Les canaux des morceaux comptent comme ceux de tous les appareils.</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation type="unfinished">Appareil</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation type="unfinished">Canal</translation>
+    </message>
+    <message>
+        <source>Plays</source>
+        <translation type="unfinished">Joue</translation>
+    </message>
+    <message>
+        <source>&amp;Add Line</source>
+        <translation type="unfinished">&amp;Ajouter une ligne</translation>
+    </message>
+    <message>
+        <source>All devices</source>
+        <translation type="unfinished">Tous les appareils</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Supprimer</translation>
+    </message>
+    <message>
+        <source>All channels</source>
+        <translation type="unfinished">Tous les canaux</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation type="unfinished">Canal %1</translation>
+    </message>
+</context>
+<context>
     <name>velmora::MetersWindow</name>
     <message>
         <source>Meters</source>
         <translation type="unfinished">Indicateurs</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation type="unfinished">%1 :</translation>
     </message>
 </context>
 <context>
@@ -943,8 +1179,12 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <translation type="unfinished">Programme</translation>
     </message>
     <message>
-        <source>General MIDI program</source>
-        <translation type="unfinished">Programme General MIDI</translation>
+        <source>Drum kits</source>
+        <translation type="unfinished">Batteries</translation>
+    </message>
+    <message>
+        <source>Bank %1</source>
+        <translation type="unfinished">Banque %1</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1774,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Find a command by its name and perform it</source>
         <translation type="unfinished">Rechercher une commande par son nom et l’exécuter</translation>
     </message>
+    <message>
+        <source>&amp;Console</source>
+        <translation type="unfinished">&amp;Console</translation>
+    </message>
+    <message>
+        <source>Show the stops of the organ</source>
+        <translation type="unfinished">Afficher les jeux de l’orgue</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -1911,13 +2159,6 @@ Cliquez pour afficher tous les tempéraments</translation>
     </message>
 </context>
 <context>
-    <name>velmora::StopList</name>
-    <message>
-        <source>Find a stop</source>
-        <translation type="unfinished">Rechercher un jeu</translation>
-    </message>
-</context>
-<context>
     <name>velmora::StopRow</name>
     <message>
         <source>%1: turn on or off (Space)</source>
@@ -2042,6 +2283,62 @@ Cliquez pour afficher tous les tempéraments</translation>
         <source>Adapts its thirds to what you play</source>
         <translation type="unfinished">Adapte ses tierces à votre jeu</translation>
     </message>
+    <message>
+        <source>Find a tuning</source>
+        <translation type="unfinished">Chercher un accord</translation>
+    </message>
+    <message>
+        <source>Tunings</source>
+        <translation type="unfinished">Accords</translation>
+    </message>
+    <message>
+        <source>Pythagorean</source>
+        <translation type="unfinished">Pythagoricien</translation>
+    </message>
+    <message>
+        <source>Meantone</source>
+        <translation type="unfinished">Mésotonique</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">Français</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">Anglais</translation>
+    </message>
+    <message>
+        <source>Well temperaments</source>
+        <translation type="unfinished">Tempéraments inégaux circulants</translation>
+    </message>
+    <message>
+        <source>Just intonation</source>
+        <translation type="unfinished">Intonation juste</translation>
+    </message>
+    <message>
+        <source>Equal divisions</source>
+        <translation type="unfinished">Divisions égales</translation>
+    </message>
+    <message>
+        <source>Outside Europe</source>
+        <translation type="unfinished">Hors d’Europe</translation>
+    </message>
+    <message>
+        <source>Following Meantone</source>
+        <translation type="unfinished">Mésotonique suiveur</translation>
+    </message>
+    <message>
+        <source>Spells each key as the music asks for, with pure thirds</source>
+        <translation type="unfinished">Orthographie chaque touche selon la musique, avec des tierces pures</translation>
+    </message>
+    <message>
+        <source>Pure</source>
+        <translation type="unfinished">Pur</translation>
+    </message>
+    <message>
+        <source>Makes the chords that you play pure</source>
+        <translation type="unfinished">Rend purs les accords joués</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -2107,6 +2404,453 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>%1 leaves the stage</source>
         <translation type="unfinished">%1 quitte la scène</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished">Console</translation>
+    </message>
+    <message>
+        <source>C&amp;onsole</source>
+        <translation type="unfinished">C&amp;onsole</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::messages</name>
+    <message>
+        <source>MIDI Player</source>
+        <translation type="unfinished">Lecteur MIDI</translation>
+    </message>
+    <message>
+        <source>Sample %1</source>
+        <translation type="unfinished">Échantillon %1</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation type="unfinished">Sortie</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation type="unfinished">Fréquence d’échantillonnage</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation type="unfinished">Période</translation>
+    </message>
+    <message>
+        <source>From MIDI to sound</source>
+        <translation type="unfinished">Du MIDI au son</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voix</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished">Charge</translation>
+    </message>
+    <message>
+        <source>Lost periods</source>
+        <translation type="unfinished">Périodes perdues</translation>
+    </message>
+    <message>
+        <source>Instruments in memory</source>
+        <translation type="unfinished">Instruments en mémoire</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">aucun</translation>
+    </message>
+    <message>
+        <source>%1 frames, %2 ms</source>
+        <translation type="unfinished">%1 trames, %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms (input %2 ms, period and limiter %3 ms, sound server %4 ms)</source>
+        <translation type="unfinished">%1 ms (entrée %2 ms, période et limiteur %3 ms, serveur de son %4 ms)</translation>
+    </message>
+    <message>
+        <source>%1, released keys are shortened</source>
+        <translation type="unfinished">%1, les touches relâchées sont écourtées</translation>
+    </message>
+    <message>
+        <source>%1 % of the period, at worst %2 %</source>
+        <translation type="unfinished">%1 % de la période, au pire %2 %</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2</source>
+        <translation type="unfinished">%1, la dernière à %2</translation>
+    </message>
+    <message>
+        <source>%1 messages a second</source>
+        <translation type="unfinished">%1 messages par seconde</translation>
+    </message>
+    <message>
+        <source>%1GB</source>
+        <translation type="unfinished">%1 Go</translation>
+    </message>
+    <message>
+        <source>%1MB</source>
+        <translation type="unfinished">%1 Mo</translation>
+    </message>
+    <message>
+        <source>%1KB</source>
+        <translation type="unfinished">%1 Ko</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished">%1 octets</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation type="unfinished">Pas de son</translation>
+    </message>
+    <message>
+        <source>The sound card</source>
+        <translation type="unfinished">La carte son</translation>
+    </message>
+    <message>
+        <source>The output &quot;%1&quot;</source>
+        <translation type="unfinished">La sortie « %1 »</translation>
+    </message>
+    <message>
+        <source>No sound output was found; looking for one.</source>
+        <translation type="unfinished">Aucune sortie son n’a été trouvée ; recherche en cours.</translation>
+    </message>
+    <message>
+        <source>%1 has gone; waiting for it.</source>
+        <translation type="unfinished">%1 a disparu ; en attente de son retour.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; waiting for it.</source>
+        <translation type="unfinished">%1 manque ; en attente.</translation>
+    </message>
+    <message>
+        <source>%1 has gone; playing through %2 until it is back.</source>
+        <translation type="unfinished">%1 a disparu ; %2 joue jusqu’à son retour.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; playing through %2 until it is back.</source>
+        <translation type="unfinished">%1 manque ; %2 joue jusqu’à son retour.</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation type="unfinished">lecture impossible</translation>
+    </message>
+    <message>
+        <source>cannot be read (%1)</source>
+        <translation type="unfinished">lecture impossible (%1)</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation type="unfinished">le fichier est vide</translation>
+    </message>
+    <message>
+        <source>is too large</source>
+        <translation type="unfinished">le fichier est trop grand</translation>
+    </message>
+    <message>
+        <source>is a pipe or a device, not a file</source>
+        <translation type="unfinished">c’est un tube ou un périphérique, pas un fichier</translation>
+    </message>
+    <message>
+        <source>needs %1 more of memory, but only %2 are free; unload other instruments or close other programs</source>
+        <translation type="unfinished">il faut %1 de mémoire en plus, mais seuls %2 sont libres ; retirez d’autres instruments ou fermez d’autres programmes</translation>
+    </message>
+    <message>
+        <source>is damaged or cut short</source>
+        <translation type="unfinished">le fichier est endommagé ou tronqué</translation>
+    </message>
+    <message>
+        <source>is cut short</source>
+        <translation type="unfinished">le fichier est tronqué</translation>
+    </message>
+    <message>
+        <source>is damaged and its presets cannot be played; opening it as stops may work</source>
+        <translation type="unfinished">le fichier est endommagé et ses préréglages ne peuvent pas être joués ; l’ouvrir en jeux peut réussir</translation>
+    </message>
+    <message>
+        <source>has no presets</source>
+        <translation type="unfinished">aucun préréglage</translation>
+    </message>
+    <message>
+        <source>the file does not contain its data</source>
+        <translation type="unfinished">le fichier ne contient pas ses données</translation>
+    </message>
+    <message>
+        <source>the file has too many chunks</source>
+        <translation type="unfinished">le fichier a trop de blocs</translation>
+    </message>
+    <message>
+        <source>lists are nested too deeply</source>
+        <translation type="unfinished">listes imbriquées trop profondément</translation>
+    </message>
+    <message>
+        <source>is not a RIFF file</source>
+        <translation type="unfinished">ce n’est pas un fichier RIFF</translation>
+    </message>
+    <message>
+        <source>has no &quot;%1&quot;</source>
+        <translation type="unfinished">« %1 » manque</translation>
+    </message>
+    <message>
+        <source>this is not a tuning file</source>
+        <translation type="unfinished">ce n’est pas un fichier d’accord</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation type="unfinished">« %1 » n’est pas un nombre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a finite number</source>
+        <translation type="unfinished">« %1 » n’est pas un nombre fini</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a playable pitch</source>
+        <translation type="unfinished">« %1 » n’est pas une hauteur jouable</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a zero denominator</source>
+        <translation type="unfinished">« %1 » a un dénominateur nul</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the number of notes; only scales of 12 notes are supported</source>
+        <translation type="unfinished">« %1 » est le nombre de notes ; seules les gammes de 12 notes sont acceptées</translation>
+    </message>
+    <message>
+        <source>this is not a Standard MIDI File: &quot;MThd&quot; is missing</source>
+        <translation type="unfinished">ce n’est pas un fichier MIDI standard : « MThd » manque</translation>
+    </message>
+    <message>
+        <source>the header is too short</source>
+        <translation type="unfinished">l’en-tête est trop court</translation>
+    </message>
+    <message>
+        <source>the header announces no tracks</source>
+        <translation type="unfinished">l’en-tête n’annonce aucune piste</translation>
+    </message>
+    <message>
+        <source>an event exceeds the end of its track</source>
+        <translation type="unfinished">un événement dépasse la fin de sa piste</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 tracks</source>
+        <translation type="unfinished">le fichier finit après %1 pistes sur %2</translation>
+    </message>
+    <message>
+        <source>a chunk of %1 bytes is truncated: the file has only %2 more</source>
+        <translation type="unfinished">un bloc de %1 octets est tronqué : le fichier n’en a plus que %2</translation>
+    </message>
+    <message>
+        <source>this is not a session of Velmora</source>
+        <translation type="unfinished">ce n’est pas une session de Velmora</translation>
+    </message>
+    <message>
+        <source>a later version of Velmora has written this session</source>
+        <translation type="unfinished">une version plus récente de Velmora a écrit cette session</translation>
+    </message>
+    <message>
+        <source>is too large for the free memory; unload other instruments, then open it again</source>
+        <translation type="unfinished">le fichier dépasse la mémoire libre ; retirez d’autres instruments, puis ouvrez-le de nouveau</translation>
+    </message>
+    <message>
+        <source>has no instruments</source>
+        <translation type="unfinished">aucun instrument</translation>
+    </message>
+    <message>
+        <source>has no samples</source>
+        <translation type="unfinished">aucun échantillon</translation>
+    </message>
+    <message>
+        <source>is not a sound file in a supported format</source>
+        <translation type="unfinished">ce n’est pas un fichier son d’un format accepté</translation>
+    </message>
+    <message>
+        <source>is a damaged WavPack file (%1)</source>
+        <translation type="unfinished">fichier WavPack endommagé (%1)</translation>
+    </message>
+    <message>
+        <source>lies outside the folder of the instrument</source>
+        <translation type="unfinished">hors du dossier de l’instrument</translation>
+    </message>
+    <message>
+        <source>names a file outside the folder of the organ: &quot;%1&quot;</source>
+        <translation type="unfinished">nomme un fichier hors du dossier de l’orgue : « %1 »</translation>
+    </message>
+    <message>
+        <source>names a file outside the folder of its package: &quot;%1&quot;</source>
+        <translation type="unfinished">nomme un fichier hors du dossier de son paquet : « %1 »</translation>
+    </message>
+    <message>
+        <source>is longer than a sound may be: it has more than 2 GB of samples</source>
+        <translation type="unfinished">plus long qu’un son ne peut l’être : plus de 2 Go d’échantillons</translation>
+    </message>
+    <message>
+        <source>is damaged: its samples would take %1, but the file holds only %2</source>
+        <translation type="unfinished">fichier endommagé : ses échantillons prendraient %1, mais il n’a que %2</translation>
+    </message>
+    <message>
+        <source>is a SoundFont %1 bank with compressed samples; convert it to SoundFont 2</source>
+        <translation type="unfinished">banque SoundFont %1 aux échantillons compressés ; convertissez-la en SoundFont 2</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: its samples are encrypted and need a licence; open an organ without encryption</source>
+        <translation type="unfinished">chargement impossible : ses échantillons sont chiffrés et exigent une licence ; ouvrez un orgue sans chiffrement</translation>
+    </message>
+    <message>
+        <source>cannot be played: no pipe has a sample file</source>
+        <translation type="unfinished">jeu impossible : aucun tuyau n’a de fichier d’échantillon</translation>
+    </message>
+    <message>
+        <source>cannot be played: none of the %1 sample files can be decoded, for example %2</source>
+        <translation type="unfinished">jeu impossible : aucun des %1 fichiers d’échantillons ne peut être décodé, par exemple %2</translation>
+    </message>
+    <message>
+        <source>is not an organ definition: its root element is not &quot;Hauptwerk&quot;</source>
+        <translation type="unfinished">ce n’est pas une définition d’orgue : l’élément racine n’est pas « Hauptwerk »</translation>
+    </message>
+    <message>
+        <source>is written in UTF-16; save it as UTF-8 in a text editor</source>
+        <translation type="unfinished">écrit en UTF-16 ; enregistrez-le en UTF-8 dans un éditeur de texte</translation>
+    </message>
+    <message>
+        <source>cannot be played: it has no stop with pipes</source>
+        <translation type="unfinished">jeu impossible : aucun jeu n’a de tuyaux</translation>
+    </message>
+    <message>
+        <source>holds no organ definition (a file with the extension .organ)</source>
+        <translation type="unfinished">aucune définition d’orgue (fichier d’extension .organ)</translation>
+    </message>
+    <message>
+        <source>this package is not in the folder of the organ</source>
+        <translation type="unfinished">ce paquet n’est pas dans le dossier de l’orgue</translation>
+    </message>
+    <message>
+        <source>is not a zip archive, or is damaged</source>
+        <translation type="unfinished">ce n’est pas une archive zip, ou elle est endommagée</translation>
+    </message>
+    <message>
+        <source>is a damaged archive</source>
+        <translation type="unfinished">archive endommagée</translation>
+    </message>
+    <message>
+        <source>is encrypted; only archives without a password can be opened</source>
+        <translation type="unfinished">archive chiffrée ; seules les archives sans mot de passe peuvent être ouvertes</translation>
+    </message>
+    <message>
+        <source>holds a file whose name leads out of the archive: &quot;%1&quot;</source>
+        <translation type="unfinished">contient un fichier dont le nom mène hors de l’archive : « %1 »</translation>
+    </message>
+    <message>
+        <source>is not in the archive</source>
+        <translation type="unfinished">absent de l’archive</translation>
+    </message>
+    <message>
+        <source>is damaged in the archive</source>
+        <translation type="unfinished">endommagé dans l’archive</translation>
+    </message>
+    <message>
+        <source>is larger than the archive says</source>
+        <translation type="unfinished">plus grand que ne le dit l’archive</translation>
+    </message>
+    <message>
+        <source>is cut short in the archive</source>
+        <translation type="unfinished">tronqué dans l’archive</translation>
+    </message>
+    <message>
+        <source>an attack has no sample file</source>
+        <translation type="unfinished">une attaque n’a pas de fichier d’échantillon</translation>
+    </message>
+    <message>
+        <source>a release has no sample file</source>
+        <translation type="unfinished">une extinction n’a pas de fichier d’échantillon</translation>
+    </message>
+    <message>
+        <source>recordings with the tremulant are not played</source>
+        <translation type="unfinished">les enregistrements avec tremblant ne sont pas joués</translation>
+    </message>
+    <message>
+        <source>recordings for quick repetitions are not played</source>
+        <translation type="unfinished">les enregistrements pour répétitions rapides ne sont pas joués</translation>
+    </message>
+    <message>
+        <source>borrowed from pipes that are borrowed from each other</source>
+        <translation type="unfinished">emprunté à des tuyaux empruntés l’un à l’autre</translation>
+    </message>
+    <message>
+        <source>does not say from which manual, stop and pipe it is borrowed</source>
+        <translation type="unfinished">ne dit pas à quel clavier, jeu et tuyau il est emprunté</translation>
+    </message>
+    <message>
+        <source>borrowed from stop %1 of manual %2, which does not exist</source>
+        <translation type="unfinished">emprunté au jeu %1 du clavier %2, qui n’existe pas</translation>
+    </message>
+    <message>
+        <source>borrowed from a pipe that does not sound</source>
+        <translation type="unfinished">emprunté à un tuyau qui ne sonne pas</translation>
+    </message>
+    <message>
+        <source>is outside the MIDI keys 0 to 127</source>
+        <translation type="unfinished">hors des touches MIDI 0 à 127</translation>
+    </message>
+    <message>
+        <source>its stop %1 does not exist</source>
+        <translation type="unfinished">son jeu %1 n’existe pas</translation>
+    </message>
+    <message>
+        <source>its rank %1 does not exist</source>
+        <translation type="unfinished">son rang %1 n’existe pas</translation>
+    </message>
+    <message>
+        <source>belongs to no manual</source>
+        <translation type="unfinished">n’appartient à aucun clavier</translation>
+    </message>
+    <message>
+        <source>has no pipe that sounds</source>
+        <translation type="unfinished">aucun tuyau qui sonne</translation>
+    </message>
+    <message>
+        <source>is a noise or an effect that sounds when its knob is drawn, not when keys are pressed</source>
+        <translation type="unfinished">bruit ou effet qui sonne quand on tire son bouton, non avec les touches</translation>
+    </message>
+    <message>
+        <source>silences its own keys (&quot;unison off&quot;), which is not supported</source>
+        <translation type="unfinished">rend muettes ses propres touches (« unison off »), ce qui n’est pas pris en charge</translation>
+    </message>
+    <message>
+        <source>couples only the lowest or the highest key, which is not supported</source>
+        <translation type="unfinished">n’accouple que la touche la plus grave ou la plus aiguë, ce qui n’est pas pris en charge</translation>
+    </message>
+    <message>
+        <source>couples to a manual that does not exist</source>
+        <translation type="unfinished">accouple à un clavier qui n’existe pas</translation>
+    </message>
+    <message>
+        <source>tremulants are not supported</source>
+        <translation type="unfinished">les tremblants ne sont pas pris en charge</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation type="unfinished">%1, ligne %2 : %3</translation>
+    </message>
+    <message>
+        <source>%1, byte %2: %3</source>
+        <translation type="unfinished">%1, octet %2 : %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it with 16 bits, which takes %3</source>
+        <translation type="unfinished">il faut environ %1 de mémoire, mais seuls %2 sont libres ; chargez-le en 16 bits, ce qui prend %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it in mono, which takes %3</source>
+        <translation type="unfinished">il faut environ %1 de mémoire, mais seuls %2 sont libres ; chargez-le en mono, ce qui prend %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it with 16 bits and in mono, which takes %3</source>
+        <translation type="unfinished">il faut environ %1 de mémoire, mais seuls %2 sont libres ; chargez-le en 16 bits et en mono, ce qui prend %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; unload other instruments or close other programs</source>
+        <translation type="unfinished">il faut environ %1 de mémoire, mais seuls %2 sont libres ; retirez d’autres instruments ou fermez d’autres programmes</translation>
     </message>
 </context>
 <context>

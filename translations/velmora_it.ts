@@ -34,6 +34,50 @@
         <source>Velmora cannot draw its windows because OpenGL does not work here. Install libgl1-mesa-dri, which needs no graphics card.</source>
         <translation type="unfinished">Velmora non può disegnare le sue finestre perché qui OpenGL non funziona. Installa libgl1-mesa-dri, che non richiede una scheda grafica.</translation>
     </message>
+    <message>
+        <source>Instrument in the &amp;File</source>
+        <translation type="unfinished">Strumento nel &amp;file</translation>
+    </message>
+    <message>
+        <source>Lay out the instruments of the bank as stops with volumes of their own, instead of its presets</source>
+        <translation type="unfinished">Disporre gli strumenti del banco come registri con un volume proprio, invece dei suoi preset</translation>
+    </message>
+    <message>
+        <source>&amp;Plain Reading</source>
+        <translation type="unfinished">Lettura &amp;letterale</translation>
+    </message>
+    <message>
+        <source>One sample for each key, as the file lists them</source>
+        <translation type="unfinished">Un campione per tasto, come li elenca il file</translation>
+    </message>
+    <message>
+        <source>Samples with more bits take less memory</source>
+        <translation type="unfinished">I campioni con più bit occupano meno memoria</translation>
+    </message>
+    <message>
+        <source>Load in &amp;Mono</source>
+        <translation type="unfinished">Carica in &amp;mono</translation>
+    </message>
+    <message>
+        <source>Stereo samples take half the memory</source>
+        <translation type="unfinished">I campioni stereo occupano metà memoria</translation>
+    </message>
+    <message>
+        <source>Stop %1</source>
+        <translation type="unfinished">Registro %1</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished">Volume</translation>
+    </message>
+    <message>
+        <source>Open as S&amp;tops</source>
+        <translation type="unfinished">Apri come &amp;registri</translation>
+    </message>
+    <message>
+        <source>Load with 16 &amp;Bits</source>
+        <translation type="unfinished">Carica a 16 &amp;bit</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -189,14 +233,115 @@
     </message>
 </context>
 <context>
+    <name>velmora::ConsoleActions</name>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished">Consolle</translation>
+    </message>
+    <message>
+        <source>&amp;Set</source>
+        <translation type="unfinished">&amp;Fissa</translation>
+    </message>
+    <message>
+        <source>Keep what is drawn under the registration button that is pressed next</source>
+        <translation type="unfinished">Conserva ciò che è tirato nel prossimo pulsante di registrazione premuto</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Annullatore</translation>
+    </message>
+    <message>
+        <source>Push in every stop and coupler</source>
+        <translation type="unfinished">Respinge tutti i registri e gli accoppiamenti</translation>
+    </message>
+    <message>
+        <source>&amp;Tutti</source>
+        <translation type="unfinished">&amp;Tutti</translation>
+    </message>
+    <message>
+        <source>Draw everything; the next press returns to what was drawn before</source>
+        <translation type="unfinished">Tira tutto; premuto di nuovo, torna a ciò che era tirato prima</translation>
+    </message>
+    <message>
+        <source>&amp;Manuals…</source>
+        <translation type="unfinished">&amp;Manuali…</translation>
+    </message>
+    <message>
+        <source>Choose which MIDI channels and devices play the manuals and the pedals</source>
+        <translation type="unfinished">Scegliere quali canali e dispositivi MIDI suonano i manuali e la pedaliera</translation>
+    </message>
+    <message>
+        <source>&amp;Registrations</source>
+        <translation type="unfinished">&amp;Registrazioni</translation>
+    </message>
+    <message>
+        <source>Registration %1</source>
+        <translation type="unfinished">Registrazione %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep as…</source>
+        <translation type="unfinished">&amp;Conserva come…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished">Ri&amp;nomina</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>Keep Registration</source>
+        <translation type="unfinished">Conserva registrazione</translation>
+    </message>
+    <message>
+        <source>Name of the registration:</source>
+        <translation type="unfinished">Nome della registrazione:</translation>
+    </message>
+    <message>
+        <source>Rename Registration</source>
+        <translation type="unfinished">Rinomina registrazione</translation>
+    </message>
+    <message>
+        <source>New name of “%1”:</source>
+        <translation type="unfinished">Nuovo nome di «%1»:</translation>
+    </message>
+    <message>
+        <source>There is another registration with the name “%1”.</source>
+        <translation type="unfinished">Esiste un’altra registrazione con il nome «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ConsolePanel</name>
+    <message>
+        <source>Stops</source>
+        <translation type="unfinished">Registri</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ConsoleView</name>
+    <message>
+        <source>Find a stop</source>
+        <translation type="unfinished">Cerca un registro</translation>
+    </message>
+    <message>
+        <source>Swell:</source>
+        <translation type="unfinished">Espressione:</translation>
+    </message>
+    <message>
+        <source>Swell of %1</source>
+        <translation type="unfinished">Espressione di %1</translation>
+    </message>
+    <message>
+        <source>How far the swell of %1 is open</source>
+        <translation type="unfinished">Quanto è aperta la cassa espressiva di %1</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Desktop</name>
     <message>
         <source>%1: unrecognised file type. Velmora recognises files by their extensions, such as .mid, .scl or .sf2.</source>
         <translation type="unfinished">%1: tipo di file sconosciuto. Velmora riconosce i file dall’estensione, come .mid, .scl o .sf2.</translation>
-    </message>
-    <message>
-        <source>%1: %2; see Import Report in the Instruments window</source>
-        <translation type="unfinished">%1: %2; vedi «Rapporto di importazione» nella finestra «Strumenti»</translation>
     </message>
     <message>
         <source>Open</source>
@@ -257,12 +402,46 @@
 %1</translation>
     </message>
     <message>
-        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
-        <translation type="unfinished">%1: Velmora non può suonare strumenti in questo formato. Convertilo in un SoundFont (.sf2), poi apri quello.</translation>
-    </message>
-    <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished">%1 non può servire da banco General MIDI. Al suo posto si usa %2. Scegli un altro SoundFont nelle preferenze.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DivisionChooser</name>
+    <message>
+        <source>This &amp;keyboard plays:</source>
+        <translation type="unfinished">&amp;Questa tastiera suona:</translation>
+    </message>
+    <message>
+        <source>The manual that the keyboard on the screen and the letter keys play</source>
+        <translation type="unfinished">Il manuale suonato dalla tastiera sullo schermo e dai tasti delle lettere</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Drawknob</name>
+    <message>
+        <source>%1, volume %2 %
+A click draws it or pushes it in, a right click changes its volume</source>
+        <translation type="unfinished">%1, volume %2 %
+Un clic lo tira o lo respinge, un clic destro ne cambia il volume</translation>
+    </message>
+    <message>
+        <source>%1
+A click draws it or pushes it in</source>
+        <translation type="unfinished">%1
+Un clic lo tira o lo respinge</translation>
+    </message>
+    <message>
+        <source>&amp;Volume:</source>
+        <translation type="unfinished">&amp;Volume:</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1%</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Volume di %1</translation>
     </message>
 </context>
 <context>
@@ -384,15 +563,25 @@ Scegli un altro strumento, aprine uno o rimuovilo dalla memoria</translation>
     </message>
 </context>
 <context>
+    <name>velmora::InstrumentOpener</name>
+    <message>
+        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
+        <translation type="unfinished">%1: Velmora non può suonare strumenti in questo formato. Convertilo in un SoundFont (.sf2), poi apri quello.</translation>
+    </message>
+    <message>
+        <source>%1: %2; see Import Report in the Instruments window</source>
+        <translation type="unfinished">%1: %2; vedi «Rapporto di importazione» nella finestra «Strumenti»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holds %n instrument(s). The Instrument menu lists them.</source>
+        <translation type="unfinished">
+            <numerusform>%1 contiene %n strumento. Il menu Strumento lo elenca.</numerusform>
+            <numerusform>%1 contiene %n strumenti. Il menu Strumento li elenca.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::InstrumentPanel</name>
-    <message>
-        <source>Stop %1</source>
-        <translation type="unfinished">Registro %1</translation>
-    </message>
-    <message>
-        <source>Volume</source>
-        <translation type="unfinished">Volume</translation>
-    </message>
     <message>
         <source>Memory used by the samples of this instrument</source>
         <translation type="unfinished">Memoria occupata dai campioni di questo strumento</translation>
@@ -578,10 +767,57 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
 </context>
 <context>
+    <name>velmora::ManualsDialog</name>
+    <message>
+        <source>Manuals</source>
+        <translation type="unfinished">Manuali</translation>
+    </message>
+    <message>
+        <source>What no line names plays the lowest manual. The channels of pieces count as those of all devices.</source>
+        <translation type="unfinished">Ciò che nessuna riga nomina suona il manuale più basso. I canali dei brani contano come quelli di tutti i dispositivi.</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation type="unfinished">Dispositivo</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation type="unfinished">Canale</translation>
+    </message>
+    <message>
+        <source>Plays</source>
+        <translation type="unfinished">Suona</translation>
+    </message>
+    <message>
+        <source>&amp;Add Line</source>
+        <translation type="unfinished">&amp;Aggiungi riga</translation>
+    </message>
+    <message>
+        <source>All devices</source>
+        <translation type="unfinished">Tutti i dispositivi</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">Rimuovi</translation>
+    </message>
+    <message>
+        <source>All channels</source>
+        <translation type="unfinished">Tutti i canali</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation type="unfinished">Canale %1</translation>
+    </message>
+</context>
+<context>
     <name>velmora::MetersWindow</name>
     <message>
         <source>Meters</source>
         <translation type="unfinished">Indicatori</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation type="unfinished">%1:</translation>
     </message>
 </context>
 <context>
@@ -943,8 +1179,12 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <translation type="unfinished">Programma</translation>
     </message>
     <message>
-        <source>General MIDI program</source>
-        <translation type="unfinished">Programma General MIDI</translation>
+        <source>Drum kits</source>
+        <translation type="unfinished">Batterie</translation>
+    </message>
+    <message>
+        <source>Bank %1</source>
+        <translation type="unfinished">Banco %1</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1774,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Find a command by its name and perform it</source>
         <translation type="unfinished">Trova un comando per nome ed eseguilo</translation>
     </message>
+    <message>
+        <source>&amp;Console</source>
+        <translation type="unfinished">&amp;Consolle</translation>
+    </message>
+    <message>
+        <source>Show the stops of the organ</source>
+        <translation type="unfinished">Mostrare i registri dell’organo</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -1911,13 +2159,6 @@ Fai clic per mostrare tutti i temperamenti</translation>
     </message>
 </context>
 <context>
-    <name>velmora::StopList</name>
-    <message>
-        <source>Find a stop</source>
-        <translation type="unfinished">Cerca un registro</translation>
-    </message>
-</context>
-<context>
     <name>velmora::StopRow</name>
     <message>
         <source>%1: turn on or off (Space)</source>
@@ -2042,6 +2283,62 @@ Fai clic per mostrare tutti i temperamenti</translation>
         <source>Adapts its thirds to what you play</source>
         <translation type="unfinished">Adatta le terze a ciò che suoni</translation>
     </message>
+    <message>
+        <source>Find a tuning</source>
+        <translation type="unfinished">Cerca un’accordatura</translation>
+    </message>
+    <message>
+        <source>Tunings</source>
+        <translation type="unfinished">Accordature</translation>
+    </message>
+    <message>
+        <source>Pythagorean</source>
+        <translation type="unfinished">Pitagorica</translation>
+    </message>
+    <message>
+        <source>Meantone</source>
+        <translation type="unfinished">Mesotonico</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">Francesi</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">Inglesi</translation>
+    </message>
+    <message>
+        <source>Well temperaments</source>
+        <translation type="unfinished">Buoni temperamenti</translation>
+    </message>
+    <message>
+        <source>Just intonation</source>
+        <translation type="unfinished">Intonazione giusta</translation>
+    </message>
+    <message>
+        <source>Equal divisions</source>
+        <translation type="unfinished">Divisioni uguali</translation>
+    </message>
+    <message>
+        <source>Outside Europe</source>
+        <translation type="unfinished">Fuori d’Europa</translation>
+    </message>
+    <message>
+        <source>Following Meantone</source>
+        <translation type="unfinished">Mesotonico che segue</translation>
+    </message>
+    <message>
+        <source>Spells each key as the music asks for, with pure thirds</source>
+        <translation type="unfinished">Interpreta ogni tasto come chiede la musica, con terze pure</translation>
+    </message>
+    <message>
+        <source>Pure</source>
+        <translation type="unfinished">Pura</translation>
+    </message>
+    <message>
+        <source>Makes the chords that you play pure</source>
+        <translation type="unfinished">Rende puri gli accordi suonati</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -2107,6 +2404,453 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>%1 leaves the stage</source>
         <translation type="unfinished">%1 lascia il palco</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished">Consolle</translation>
+    </message>
+    <message>
+        <source>C&amp;onsole</source>
+        <translation type="unfinished">C&amp;onsolle</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::messages</name>
+    <message>
+        <source>MIDI Player</source>
+        <translation type="unfinished">Lettore MIDI</translation>
+    </message>
+    <message>
+        <source>Sample %1</source>
+        <translation type="unfinished">Campione %1</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation type="unfinished">Uscita</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation type="unfinished">Frequenza di campionamento</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation type="unfinished">Periodo</translation>
+    </message>
+    <message>
+        <source>From MIDI to sound</source>
+        <translation type="unfinished">Dal MIDI al suono</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voci</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished">Carico</translation>
+    </message>
+    <message>
+        <source>Lost periods</source>
+        <translation type="unfinished">Periodi persi</translation>
+    </message>
+    <message>
+        <source>Instruments in memory</source>
+        <translation type="unfinished">Strumenti in memoria</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">nessuno</translation>
+    </message>
+    <message>
+        <source>%1 frames, %2 ms</source>
+        <translation type="unfinished">%1 frame, %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms (input %2 ms, period and limiter %3 ms, sound server %4 ms)</source>
+        <translation type="unfinished">%1 ms (ingresso %2 ms, periodo e limitatore %3 ms, server audio %4 ms)</translation>
+    </message>
+    <message>
+        <source>%1, released keys are shortened</source>
+        <translation type="unfinished">%1, i tasti rilasciati sono accorciati</translation>
+    </message>
+    <message>
+        <source>%1 % of the period, at worst %2 %</source>
+        <translation type="unfinished">%1 % del periodo, al massimo %2 %</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2</source>
+        <translation type="unfinished">%1, l’ultimo alle %2</translation>
+    </message>
+    <message>
+        <source>%1 messages a second</source>
+        <translation type="unfinished">%1 messaggi al secondo</translation>
+    </message>
+    <message>
+        <source>%1GB</source>
+        <translation type="unfinished">%1 GB</translation>
+    </message>
+    <message>
+        <source>%1MB</source>
+        <translation type="unfinished">%1 MB</translation>
+    </message>
+    <message>
+        <source>%1KB</source>
+        <translation type="unfinished">%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished">%1 byte</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation type="unfinished">Nessun suono</translation>
+    </message>
+    <message>
+        <source>The sound card</source>
+        <translation type="unfinished">La scheda audio</translation>
+    </message>
+    <message>
+        <source>The output &quot;%1&quot;</source>
+        <translation type="unfinished">L’uscita «%1»</translation>
+    </message>
+    <message>
+        <source>No sound output was found; looking for one.</source>
+        <translation type="unfinished">Non è stata trovata un’uscita audio; la ricerca continua.</translation>
+    </message>
+    <message>
+        <source>%1 has gone; waiting for it.</source>
+        <translation type="unfinished">%1 non c’è più; in attesa del ritorno.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; waiting for it.</source>
+        <translation type="unfinished">%1 manca; in attesa.</translation>
+    </message>
+    <message>
+        <source>%1 has gone; playing through %2 until it is back.</source>
+        <translation type="unfinished">%1 non c’è più; fino al ritorno suona %2.</translation>
+    </message>
+    <message>
+        <source>%1 is missing; playing through %2 until it is back.</source>
+        <translation type="unfinished">%1 manca; fino al ritorno suona %2.</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation type="unfinished">non può essere letto</translation>
+    </message>
+    <message>
+        <source>cannot be read (%1)</source>
+        <translation type="unfinished">non può essere letto (%1)</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation type="unfinished">è vuoto</translation>
+    </message>
+    <message>
+        <source>is too large</source>
+        <translation type="unfinished">è troppo grande</translation>
+    </message>
+    <message>
+        <source>is a pipe or a device, not a file</source>
+        <translation type="unfinished">è una pipe o un dispositivo, non un file</translation>
+    </message>
+    <message>
+        <source>needs %1 more of memory, but only %2 are free; unload other instruments or close other programs</source>
+        <translation type="unfinished">servono altri %1 di memoria, ma solo %2 sono liberi; rimuovere altri strumenti o chiudere altri programmi</translation>
+    </message>
+    <message>
+        <source>is damaged or cut short</source>
+        <translation type="unfinished">è danneggiato o troncato</translation>
+    </message>
+    <message>
+        <source>is cut short</source>
+        <translation type="unfinished">è troncato</translation>
+    </message>
+    <message>
+        <source>is damaged and its presets cannot be played; opening it as stops may work</source>
+        <translation type="unfinished">è danneggiato e i suoi preset non si possono suonare; aperto come registri potrebbe funzionare</translation>
+    </message>
+    <message>
+        <source>has no presets</source>
+        <translation type="unfinished">non ha preset</translation>
+    </message>
+    <message>
+        <source>the file does not contain its data</source>
+        <translation type="unfinished">il file non contiene i suoi dati</translation>
+    </message>
+    <message>
+        <source>the file has too many chunks</source>
+        <translation type="unfinished">il file ha troppi blocchi</translation>
+    </message>
+    <message>
+        <source>lists are nested too deeply</source>
+        <translation type="unfinished">le liste sono annidate troppo in profondità</translation>
+    </message>
+    <message>
+        <source>is not a RIFF file</source>
+        <translation type="unfinished">non è un file RIFF</translation>
+    </message>
+    <message>
+        <source>has no &quot;%1&quot;</source>
+        <translation type="unfinished">non ha «%1»</translation>
+    </message>
+    <message>
+        <source>this is not a tuning file</source>
+        <translation type="unfinished">questo non è un file di accordatura</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation type="unfinished">«%1» non è un numero</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a finite number</source>
+        <translation type="unfinished">«%1» non è un numero finito</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a playable pitch</source>
+        <translation type="unfinished">«%1» non è un’altezza suonabile</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a zero denominator</source>
+        <translation type="unfinished">«%1» ha denominatore zero</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the number of notes; only scales of 12 notes are supported</source>
+        <translation type="unfinished">«%1» è il numero di note; sono ammesse solo scale di 12 note</translation>
+    </message>
+    <message>
+        <source>this is not a Standard MIDI File: &quot;MThd&quot; is missing</source>
+        <translation type="unfinished">questo non è uno Standard MIDI File: manca «MThd»</translation>
+    </message>
+    <message>
+        <source>the header is too short</source>
+        <translation type="unfinished">l’intestazione è troppo corta</translation>
+    </message>
+    <message>
+        <source>the header announces no tracks</source>
+        <translation type="unfinished">l’intestazione non annuncia tracce</translation>
+    </message>
+    <message>
+        <source>an event exceeds the end of its track</source>
+        <translation type="unfinished">un evento supera la fine della sua traccia</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 tracks</source>
+        <translation type="unfinished">il file finisce dopo %1 di %2 tracce</translation>
+    </message>
+    <message>
+        <source>a chunk of %1 bytes is truncated: the file has only %2 more</source>
+        <translation type="unfinished">un blocco di %1 byte è troncato: il file ne ha solo altri %2</translation>
+    </message>
+    <message>
+        <source>this is not a session of Velmora</source>
+        <translation type="unfinished">questa non è una sessione di Velmora</translation>
+    </message>
+    <message>
+        <source>a later version of Velmora has written this session</source>
+        <translation type="unfinished">una versione successiva di Velmora ha scritto questa sessione</translation>
+    </message>
+    <message>
+        <source>is too large for the free memory; unload other instruments, then open it again</source>
+        <translation type="unfinished">è troppo grande per la memoria libera; rimuovere altri strumenti, poi riaprirlo</translation>
+    </message>
+    <message>
+        <source>has no instruments</source>
+        <translation type="unfinished">non ha strumenti</translation>
+    </message>
+    <message>
+        <source>has no samples</source>
+        <translation type="unfinished">non ha campioni</translation>
+    </message>
+    <message>
+        <source>is not a sound file in a supported format</source>
+        <translation type="unfinished">non è un file audio in un formato ammesso</translation>
+    </message>
+    <message>
+        <source>is a damaged WavPack file (%1)</source>
+        <translation type="unfinished">è un file WavPack danneggiato (%1)</translation>
+    </message>
+    <message>
+        <source>lies outside the folder of the instrument</source>
+        <translation type="unfinished">è fuori dalla cartella dello strumento</translation>
+    </message>
+    <message>
+        <source>names a file outside the folder of the organ: &quot;%1&quot;</source>
+        <translation type="unfinished">nomina un file fuori dalla cartella dell’organo: «%1»</translation>
+    </message>
+    <message>
+        <source>names a file outside the folder of its package: &quot;%1&quot;</source>
+        <translation type="unfinished">nomina un file fuori dalla cartella del suo pacchetto: «%1»</translation>
+    </message>
+    <message>
+        <source>is longer than a sound may be: it has more than 2 GB of samples</source>
+        <translation type="unfinished">è più lungo di quanto un suono possa essere: più di 2 GB di campioni</translation>
+    </message>
+    <message>
+        <source>is damaged: its samples would take %1, but the file holds only %2</source>
+        <translation type="unfinished">è danneggiato: i suoi campioni occuperebbero %1, ma il file ha solo %2</translation>
+    </message>
+    <message>
+        <source>is a SoundFont %1 bank with compressed samples; convert it to SoundFont 2</source>
+        <translation type="unfinished">è un banco SoundFont %1 con campioni compressi; convertirlo in SoundFont 2</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: its samples are encrypted and need a licence; open an organ without encryption</source>
+        <translation type="unfinished">non può essere caricato: i suoi campioni sono cifrati e richiedono una licenza; aprire un organo non cifrato</translation>
+    </message>
+    <message>
+        <source>cannot be played: no pipe has a sample file</source>
+        <translation type="unfinished">non può essere suonato: nessuna canna ha un file di campione</translation>
+    </message>
+    <message>
+        <source>cannot be played: none of the %1 sample files can be decoded, for example %2</source>
+        <translation type="unfinished">non può essere suonato: nessuno dei %1 file di campioni può essere decodificato, per esempio %2</translation>
+    </message>
+    <message>
+        <source>is not an organ definition: its root element is not &quot;Hauptwerk&quot;</source>
+        <translation type="unfinished">non è una definizione di organo: il suo elemento radice non è «Hauptwerk»</translation>
+    </message>
+    <message>
+        <source>is written in UTF-16; save it as UTF-8 in a text editor</source>
+        <translation type="unfinished">è scritto in UTF-16; salvarlo come UTF-8 in un editor di testo</translation>
+    </message>
+    <message>
+        <source>cannot be played: it has no stop with pipes</source>
+        <translation type="unfinished">non può essere suonato: nessun registro ha canne</translation>
+    </message>
+    <message>
+        <source>holds no organ definition (a file with the extension .organ)</source>
+        <translation type="unfinished">non contiene una definizione di organo (un file con estensione .organ)</translation>
+    </message>
+    <message>
+        <source>this package is not in the folder of the organ</source>
+        <translation type="unfinished">questo pacchetto non è nella cartella dell’organo</translation>
+    </message>
+    <message>
+        <source>is not a zip archive, or is damaged</source>
+        <translation type="unfinished">non è un archivio zip o è danneggiato</translation>
+    </message>
+    <message>
+        <source>is a damaged archive</source>
+        <translation type="unfinished">è un archivio danneggiato</translation>
+    </message>
+    <message>
+        <source>is encrypted; only archives without a password can be opened</source>
+        <translation type="unfinished">è cifrato; si possono aprire solo archivi senza password</translation>
+    </message>
+    <message>
+        <source>holds a file whose name leads out of the archive: &quot;%1&quot;</source>
+        <translation type="unfinished">contiene un file il cui nome porta fuori dall’archivio: «%1»</translation>
+    </message>
+    <message>
+        <source>is not in the archive</source>
+        <translation type="unfinished">non è nell’archivio</translation>
+    </message>
+    <message>
+        <source>is damaged in the archive</source>
+        <translation type="unfinished">è danneggiato nell’archivio</translation>
+    </message>
+    <message>
+        <source>is larger than the archive says</source>
+        <translation type="unfinished">è più grande di quanto dica l’archivio</translation>
+    </message>
+    <message>
+        <source>is cut short in the archive</source>
+        <translation type="unfinished">è troncato nell’archivio</translation>
+    </message>
+    <message>
+        <source>an attack has no sample file</source>
+        <translation type="unfinished">un attacco non ha file di campione</translation>
+    </message>
+    <message>
+        <source>a release has no sample file</source>
+        <translation type="unfinished">un rilascio non ha file di campione</translation>
+    </message>
+    <message>
+        <source>recordings with the tremulant are not played</source>
+        <translation type="unfinished">le registrazioni con il tremolo non vengono suonate</translation>
+    </message>
+    <message>
+        <source>recordings for quick repetitions are not played</source>
+        <translation type="unfinished">le registrazioni per ripetizioni veloci non vengono suonate</translation>
+    </message>
+    <message>
+        <source>borrowed from pipes that are borrowed from each other</source>
+        <translation type="unfinished">presa da canne prese l’una dall’altra</translation>
+    </message>
+    <message>
+        <source>does not say from which manual, stop and pipe it is borrowed</source>
+        <translation type="unfinished">non dice da quale manuale, registro e canna è presa</translation>
+    </message>
+    <message>
+        <source>borrowed from stop %1 of manual %2, which does not exist</source>
+        <translation type="unfinished">presa dal registro %1 del manuale %2, che non esiste</translation>
+    </message>
+    <message>
+        <source>borrowed from a pipe that does not sound</source>
+        <translation type="unfinished">presa da una canna che non suona</translation>
+    </message>
+    <message>
+        <source>is outside the MIDI keys 0 to 127</source>
+        <translation type="unfinished">è fuori dai tasti MIDI da 0 a 127</translation>
+    </message>
+    <message>
+        <source>its stop %1 does not exist</source>
+        <translation type="unfinished">il suo registro %1 non esiste</translation>
+    </message>
+    <message>
+        <source>its rank %1 does not exist</source>
+        <translation type="unfinished">la sua fila %1 non esiste</translation>
+    </message>
+    <message>
+        <source>belongs to no manual</source>
+        <translation type="unfinished">non appartiene a nessun manuale</translation>
+    </message>
+    <message>
+        <source>has no pipe that sounds</source>
+        <translation type="unfinished">non ha canne che suonano</translation>
+    </message>
+    <message>
+        <source>is a noise or an effect that sounds when its knob is drawn, not when keys are pressed</source>
+        <translation type="unfinished">è un rumore o un effetto che suona quando si tira il pomello, non con i tasti</translation>
+    </message>
+    <message>
+        <source>silences its own keys (&quot;unison off&quot;), which is not supported</source>
+        <translation type="unfinished">ammutolisce i propri tasti («unison off»), cosa non supportata</translation>
+    </message>
+    <message>
+        <source>couples only the lowest or the highest key, which is not supported</source>
+        <translation type="unfinished">accoppia solo il tasto più grave o più acuto, cosa non supportata</translation>
+    </message>
+    <message>
+        <source>couples to a manual that does not exist</source>
+        <translation type="unfinished">accoppia a un manuale che non esiste</translation>
+    </message>
+    <message>
+        <source>tremulants are not supported</source>
+        <translation type="unfinished">i tremoli non sono supportati</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation type="unfinished">%1, riga %2: %3</translation>
+    </message>
+    <message>
+        <source>%1, byte %2: %3</source>
+        <translation type="unfinished">%1, byte %2: %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it with 16 bits, which takes %3</source>
+        <translation type="unfinished">servono circa %1 di memoria, ma solo %2 sono liberi; caricarlo a 16 bit, che occupa %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it in mono, which takes %3</source>
+        <translation type="unfinished">servono circa %1 di memoria, ma solo %2 sono liberi; caricarlo in mono, che occupa %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it with 16 bits and in mono, which takes %3</source>
+        <translation type="unfinished">servono circa %1 di memoria, ma solo %2 sono liberi; caricarlo a 16 bit e in mono, che occupa %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; unload other instruments or close other programs</source>
+        <translation type="unfinished">servono circa %1 di memoria, ma solo %2 sono liberi; rimuovere altri strumenti o chiudere altri programmi</translation>
     </message>
 </context>
 <context>

@@ -33,6 +33,50 @@
         <source>Velmora cannot draw its windows because OpenGL does not work here. Install libgl1-mesa-dri, which needs no graphics card.</source>
         <translation type="unfinished">OpenGL が動作しないため、Velmora はウィンドウを描画できません。グラフィックカードの要らない libgl1-mesa-dri をインストールしてください。</translation>
     </message>
+    <message>
+        <source>Instrument in the &amp;File</source>
+        <translation type="unfinished">ファイル内の楽器(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Lay out the instruments of the bank as stops with volumes of their own, instead of its presets</source>
+        <translation type="unfinished">バンクのプリセットの代わりに、楽器をそれぞれ音量を持つストップとして並べます</translation>
+    </message>
+    <message>
+        <source>&amp;Plain Reading</source>
+        <translation type="unfinished">そのまま読む(&amp;P)</translation>
+    </message>
+    <message>
+        <source>One sample for each key, as the file lists them</source>
+        <translation type="unfinished">ファイルに並ぶとおり、鍵盤ごとにサンプル一つ</translation>
+    </message>
+    <message>
+        <source>Samples with more bits take less memory</source>
+        <translation type="unfinished">ビット数の多いサンプルの使用メモリが減ります</translation>
+    </message>
+    <message>
+        <source>Load in &amp;Mono</source>
+        <translation type="unfinished">モノラルで読み込む(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Stereo samples take half the memory</source>
+        <translation type="unfinished">ステレオのサンプルの使用メモリが半分になります</translation>
+    </message>
+    <message>
+        <source>Stop %1</source>
+        <translation type="unfinished">ストップ %1</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished">音量</translation>
+    </message>
+    <message>
+        <source>Open as S&amp;tops</source>
+        <translation type="unfinished">ストップとして開く(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Load with 16 &amp;Bits</source>
+        <translation type="unfinished">16 ビットで読み込む(&amp;B)</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -188,14 +232,115 @@
     </message>
 </context>
 <context>
+    <name>velmora::ConsoleActions</name>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished">コンソール</translation>
+    </message>
+    <message>
+        <source>&amp;Set</source>
+        <translation type="unfinished">セット(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Keep what is drawn under the registration button that is pressed next</source>
+        <translation type="unfinished">引かれているものを、次に押すレジストレーションのボタンに保存します</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Push in every stop and coupler</source>
+        <translation type="unfinished">すべてのストップとカプラーを戻します</translation>
+    </message>
+    <message>
+        <source>&amp;Tutti</source>
+        <translation type="unfinished">トゥッティ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Draw everything; the next press returns to what was drawn before</source>
+        <translation type="unfinished">すべて引きます。もう一度押すと前の状態に戻ります</translation>
+    </message>
+    <message>
+        <source>&amp;Manuals…</source>
+        <translation type="unfinished">手鍵盤(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>Choose which MIDI channels and devices play the manuals and the pedals</source>
+        <translation type="unfinished">手鍵盤とペダルを演奏する MIDI チャンネルと機器を選びます</translation>
+    </message>
+    <message>
+        <source>&amp;Registrations</source>
+        <translation type="unfinished">レジストレーション(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Registration %1</source>
+        <translation type="unfinished">レジストレーション %1</translation>
+    </message>
+    <message>
+        <source>&amp;Keep as…</source>
+        <translation type="unfinished">名前を付けて保存(&amp;K)…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation type="unfinished">名前の変更(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished">削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Keep Registration</source>
+        <translation type="unfinished">レジストレーションの保存</translation>
+    </message>
+    <message>
+        <source>Name of the registration:</source>
+        <translation type="unfinished">レジストレーションの名前:</translation>
+    </message>
+    <message>
+        <source>Rename Registration</source>
+        <translation type="unfinished">レジストレーションの名前の変更</translation>
+    </message>
+    <message>
+        <source>New name of “%1”:</source>
+        <translation type="unfinished">「%1」の新しい名前:</translation>
+    </message>
+    <message>
+        <source>There is another registration with the name “%1”.</source>
+        <translation type="unfinished">「%1」という名前のレジストレーションがほかにあります。</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ConsolePanel</name>
+    <message>
+        <source>Stops</source>
+        <translation type="unfinished">ストップ</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ConsoleView</name>
+    <message>
+        <source>Find a stop</source>
+        <translation type="unfinished">ストップを検索</translation>
+    </message>
+    <message>
+        <source>Swell:</source>
+        <translation type="unfinished">スウェル:</translation>
+    </message>
+    <message>
+        <source>Swell of %1</source>
+        <translation type="unfinished">%1 のスウェル</translation>
+    </message>
+    <message>
+        <source>How far the swell of %1 is open</source>
+        <translation type="unfinished">%1 のスウェルの開き具合</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Desktop</name>
     <message>
         <source>%1: unrecognised file type. Velmora recognises files by their extensions, such as .mid, .scl or .sf2.</source>
         <translation type="unfinished">%1: 不明なファイル形式です。Velmora は .mid、.scl、.sf2 などの拡張子でファイルを見分けます。</translation>
-    </message>
-    <message>
-        <source>%1: %2; see Import Report in the Instruments window</source>
-        <translation type="unfinished">%1: %2。「楽器」ウィンドウの「インポートの報告」を見てください</translation>
     </message>
     <message>
         <source>Open</source>
@@ -256,12 +401,46 @@
 %1</translation>
     </message>
     <message>
-        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
-        <translation type="unfinished">%1: Velmora はこの形式の楽器を演奏できません。SoundFont (.sf2) に変換してから開いてください。</translation>
-    </message>
-    <message>
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished">%1 は General MIDI バンクとして使用できません。代わりに %2 を使用します。設定で別の SoundFont を選択してください。</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::DivisionChooser</name>
+    <message>
+        <source>This &amp;keyboard plays:</source>
+        <translation type="unfinished">この鍵盤で弾く手鍵盤(&amp;K):</translation>
+    </message>
+    <message>
+        <source>The manual that the keyboard on the screen and the letter keys play</source>
+        <translation type="unfinished">画面の鍵盤と文字キーで弾く手鍵盤</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Drawknob</name>
+    <message>
+        <source>%1, volume %2 %
+A click draws it or pushes it in, a right click changes its volume</source>
+        <translation type="unfinished">%1、音量 %2 %
+クリックで引くか戻し、右クリックで音量を変えます</translation>
+    </message>
+    <message>
+        <source>%1
+A click draws it or pushes it in</source>
+        <translation type="unfinished">%1
+クリックで引くか戻します</translation>
+    </message>
+    <message>
+        <source>&amp;Volume:</source>
+        <translation type="unfinished">音量(&amp;V):</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished">%1 %</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">%1 の音量</translation>
     </message>
 </context>
 <context>
@@ -383,15 +562,24 @@ Choose another instrument, open or unload one</source>
     </message>
 </context>
 <context>
+    <name>velmora::InstrumentOpener</name>
+    <message>
+        <source>%1: Velmora cannot play instruments of this format. Convert it to a SoundFont (.sf2), then open that.</source>
+        <translation type="unfinished">%1: Velmora はこの形式の楽器を演奏できません。SoundFont (.sf2) に変換してから開いてください。</translation>
+    </message>
+    <message>
+        <source>%1: %2; see Import Report in the Instruments window</source>
+        <translation type="unfinished">%1: %2。「楽器」ウィンドウの「インポートの報告」を見てください</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 holds %n instrument(s). The Instrument menu lists them.</source>
+        <translation type="unfinished">
+            <numerusform>%1 には %n 個の楽器があります。楽器メニューで選べます。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::InstrumentPanel</name>
-    <message>
-        <source>Stop %1</source>
-        <translation type="unfinished">ストップ %1</translation>
-    </message>
-    <message>
-        <source>Volume</source>
-        <translation type="unfinished">音量</translation>
-    </message>
     <message>
         <source>Memory used by the samples of this instrument</source>
         <translation type="unfinished">この楽器のサンプルが使用しているメモリー</translation>
@@ -577,10 +765,57 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
 </context>
 <context>
+    <name>velmora::ManualsDialog</name>
+    <message>
+        <source>Manuals</source>
+        <translation type="unfinished">手鍵盤</translation>
+    </message>
+    <message>
+        <source>What no line names plays the lowest manual. The channels of pieces count as those of all devices.</source>
+        <translation type="unfinished">どの行にもないものは一番下の手鍵盤を弾きます。曲のチャンネルはすべての機器のものとして扱われます。</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation type="unfinished">機器</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation type="unfinished">チャンネル</translation>
+    </message>
+    <message>
+        <source>Plays</source>
+        <translation type="unfinished">弾くもの</translation>
+    </message>
+    <message>
+        <source>&amp;Add Line</source>
+        <translation type="unfinished">行を追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>All devices</source>
+        <translation type="unfinished">すべての機器</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished">削除</translation>
+    </message>
+    <message>
+        <source>All channels</source>
+        <translation type="unfinished">すべてのチャンネル</translation>
+    </message>
+    <message>
+        <source>Channel %1</source>
+        <translation type="unfinished">チャンネル %1</translation>
+    </message>
+</context>
+<context>
     <name>velmora::MetersWindow</name>
     <message>
         <source>Meters</source>
         <translation type="unfinished">メーター</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation type="unfinished">%1:</translation>
     </message>
 </context>
 <context>
@@ -942,8 +1177,12 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <translation type="unfinished">プログラム</translation>
     </message>
     <message>
-        <source>General MIDI program</source>
-        <translation type="unfinished">General MIDI プログラム</translation>
+        <source>Drum kits</source>
+        <translation type="unfinished">ドラムキット</translation>
+    </message>
+    <message>
+        <source>Bank %1</source>
+        <translation type="unfinished">バンク %1</translation>
     </message>
 </context>
 <context>
@@ -1523,6 +1762,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Find a command by its name and perform it</source>
         <translation type="unfinished">コマンドを名前で検索して実行します</translation>
     </message>
+    <message>
+        <source>&amp;Console</source>
+        <translation type="unfinished">コンソール(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Show the stops of the organ</source>
+        <translation type="unfinished">オルガンのストップを表示します</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -1899,13 +2146,6 @@ Click to show all tunings</source>
     </message>
 </context>
 <context>
-    <name>velmora::StopList</name>
-    <message>
-        <source>Find a stop</source>
-        <translation type="unfinished">ストップを検索</translation>
-    </message>
-</context>
-<context>
     <name>velmora::StopRow</name>
     <message>
         <source>%1: turn on or off (Space)</source>
@@ -2030,6 +2270,62 @@ Click to show all tunings</source>
         <source>Adapts its thirds to what you play</source>
         <translation type="unfinished">演奏に合わせて三度を調整します</translation>
     </message>
+    <message>
+        <source>Find a tuning</source>
+        <translation type="unfinished">調律を検索</translation>
+    </message>
+    <message>
+        <source>Tunings</source>
+        <translation type="unfinished">調律</translation>
+    </message>
+    <message>
+        <source>Pythagorean</source>
+        <translation type="unfinished">ピタゴラス</translation>
+    </message>
+    <message>
+        <source>Meantone</source>
+        <translation type="unfinished">中全音律</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation type="unfinished">フランス</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation type="unfinished">イギリス</translation>
+    </message>
+    <message>
+        <source>Well temperaments</source>
+        <translation type="unfinished">ウェルテンペラメント</translation>
+    </message>
+    <message>
+        <source>Just intonation</source>
+        <translation type="unfinished">純正律</translation>
+    </message>
+    <message>
+        <source>Equal divisions</source>
+        <translation type="unfinished">等分律</translation>
+    </message>
+    <message>
+        <source>Outside Europe</source>
+        <translation type="unfinished">ヨーロッパ以外</translation>
+    </message>
+    <message>
+        <source>Following Meantone</source>
+        <translation type="unfinished">追従する中全音律</translation>
+    </message>
+    <message>
+        <source>Spells each key as the music asks for, with pure thirds</source>
+        <translation type="unfinished">音楽に応じて各鍵盤の音名を決め、3度を純正にします</translation>
+    </message>
+    <message>
+        <source>Pure</source>
+        <translation type="unfinished">純正</translation>
+    </message>
+    <message>
+        <source>Makes the chords that you play pure</source>
+        <translation type="unfinished">弾いた和音を純正にします</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -2095,6 +2391,453 @@ Click to show all tunings</source>
     <message>
         <source>%1 leaves the stage</source>
         <translation type="unfinished">%1 でステージを終了</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation type="unfinished">コンソール</translation>
+    </message>
+    <message>
+        <source>C&amp;onsole</source>
+        <translation type="unfinished">コンソール(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::messages</name>
+    <message>
+        <source>MIDI Player</source>
+        <translation type="unfinished">MIDI プレーヤー</translation>
+    </message>
+    <message>
+        <source>Sample %1</source>
+        <translation type="unfinished">サンプル %1</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation type="unfinished">出力</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation type="unfinished">サンプルレート</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation type="unfinished">ピリオド</translation>
+    </message>
+    <message>
+        <source>From MIDI to sound</source>
+        <translation type="unfinished">MIDI から音まで</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">発音数</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished">負荷</translation>
+    </message>
+    <message>
+        <source>Lost periods</source>
+        <translation type="unfinished">失われたピリオド</translation>
+    </message>
+    <message>
+        <source>Instruments in memory</source>
+        <translation type="unfinished">メモリ内の楽器</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">なし</translation>
+    </message>
+    <message>
+        <source>%1 frames, %2 ms</source>
+        <translation type="unfinished">%1 フレーム、%2 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms (input %2 ms, period and limiter %3 ms, sound server %4 ms)</source>
+        <translation type="unfinished">%1 ms (入力 %2 ms、ピリオドとリミッター %3 ms、サウンドサーバー %4 ms)</translation>
+    </message>
+    <message>
+        <source>%1, released keys are shortened</source>
+        <translation type="unfinished">%1、離した鍵盤の音を短縮中</translation>
+    </message>
+    <message>
+        <source>%1 % of the period, at worst %2 %</source>
+        <translation type="unfinished">ピリオドの %1 %、最大 %2 %</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2</source>
+        <translation type="unfinished">%1、最後は %2</translation>
+    </message>
+    <message>
+        <source>%1 messages a second</source>
+        <translation type="unfinished">毎秒 %1 メッセージ</translation>
+    </message>
+    <message>
+        <source>%1GB</source>
+        <translation type="unfinished">%1 GB</translation>
+    </message>
+    <message>
+        <source>%1MB</source>
+        <translation type="unfinished">%1 MB</translation>
+    </message>
+    <message>
+        <source>%1KB</source>
+        <translation type="unfinished">%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished">%1 バイト</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation type="unfinished">音なし</translation>
+    </message>
+    <message>
+        <source>The sound card</source>
+        <translation type="unfinished">サウンドカード</translation>
+    </message>
+    <message>
+        <source>The output &quot;%1&quot;</source>
+        <translation type="unfinished">出力「%1」</translation>
+    </message>
+    <message>
+        <source>No sound output was found; looking for one.</source>
+        <translation type="unfinished">音声出力が見つかりません。探しています。</translation>
+    </message>
+    <message>
+        <source>%1 has gone; waiting for it.</source>
+        <translation type="unfinished">%1 がなくなりました。戻るのを待っています。</translation>
+    </message>
+    <message>
+        <source>%1 is missing; waiting for it.</source>
+        <translation type="unfinished">%1 がありません。待っています。</translation>
+    </message>
+    <message>
+        <source>%1 has gone; playing through %2 until it is back.</source>
+        <translation type="unfinished">%1 がなくなりました。戻るまで %2 で鳴らします。</translation>
+    </message>
+    <message>
+        <source>%1 is missing; playing through %2 until it is back.</source>
+        <translation type="unfinished">%1 がありません。戻るまで %2 で鳴らします。</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation type="unfinished">読み込めません</translation>
+    </message>
+    <message>
+        <source>cannot be read (%1)</source>
+        <translation type="unfinished">読み込めません (%1)</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation type="unfinished">空です</translation>
+    </message>
+    <message>
+        <source>is too large</source>
+        <translation type="unfinished">大きすぎます</translation>
+    </message>
+    <message>
+        <source>is a pipe or a device, not a file</source>
+        <translation type="unfinished">ファイルではなくパイプかデバイスです</translation>
+    </message>
+    <message>
+        <source>needs %1 more of memory, but only %2 are free; unload other instruments or close other programs</source>
+        <translation type="unfinished">メモリがさらに %1 必要ですが、空きは %2 だけです。ほかの楽器を解放するか、ほかのプログラムを閉じてください</translation>
+    </message>
+    <message>
+        <source>is damaged or cut short</source>
+        <translation type="unfinished">壊れているか途中で切れています</translation>
+    </message>
+    <message>
+        <source>is cut short</source>
+        <translation type="unfinished">途中で切れています</translation>
+    </message>
+    <message>
+        <source>is damaged and its presets cannot be played; opening it as stops may work</source>
+        <translation type="unfinished">壊れていてプリセットを演奏できません。ストップとして開けば動くかもしれません</translation>
+    </message>
+    <message>
+        <source>has no presets</source>
+        <translation type="unfinished">プリセットがありません</translation>
+    </message>
+    <message>
+        <source>the file does not contain its data</source>
+        <translation type="unfinished">ファイルにデータがありません</translation>
+    </message>
+    <message>
+        <source>the file has too many chunks</source>
+        <translation type="unfinished">ファイルのチャンクが多すぎます</translation>
+    </message>
+    <message>
+        <source>lists are nested too deeply</source>
+        <translation type="unfinished">リストの入れ子が深すぎます</translation>
+    </message>
+    <message>
+        <source>is not a RIFF file</source>
+        <translation type="unfinished">RIFF ファイルではありません</translation>
+    </message>
+    <message>
+        <source>has no &quot;%1&quot;</source>
+        <translation type="unfinished">「%1」がありません</translation>
+    </message>
+    <message>
+        <source>this is not a tuning file</source>
+        <translation type="unfinished">調律ファイルではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number</source>
+        <translation type="unfinished">「%1」は数ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a finite number</source>
+        <translation type="unfinished">「%1」は有限の数ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a playable pitch</source>
+        <translation type="unfinished">「%1」は演奏できる音高ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a zero denominator</source>
+        <translation type="unfinished">「%1」の分母が 0 です</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the number of notes; only scales of 12 notes are supported</source>
+        <translation type="unfinished">「%1」は音の数です。12 音の音階だけに対応しています</translation>
+    </message>
+    <message>
+        <source>this is not a Standard MIDI File: &quot;MThd&quot; is missing</source>
+        <translation type="unfinished">標準 MIDI ファイルではありません: 「MThd」がありません</translation>
+    </message>
+    <message>
+        <source>the header is too short</source>
+        <translation type="unfinished">ヘッダーが短すぎます</translation>
+    </message>
+    <message>
+        <source>the header announces no tracks</source>
+        <translation type="unfinished">ヘッダーにトラックがありません</translation>
+    </message>
+    <message>
+        <source>an event exceeds the end of its track</source>
+        <translation type="unfinished">イベントがトラックの終わりを越えています</translation>
+    </message>
+    <message>
+        <source>the file ends after %1 of %2 tracks</source>
+        <translation type="unfinished">ファイルが %2 トラック中 %1 トラックで終わっています</translation>
+    </message>
+    <message>
+        <source>a chunk of %1 bytes is truncated: the file has only %2 more</source>
+        <translation type="unfinished">%1 バイトのチャンクが切れています: 残りは %2 だけです</translation>
+    </message>
+    <message>
+        <source>this is not a session of Velmora</source>
+        <translation type="unfinished">Velmora のセッションではありません</translation>
+    </message>
+    <message>
+        <source>a later version of Velmora has written this session</source>
+        <translation type="unfinished">このセッションは新しい版の Velmora で書かれています</translation>
+    </message>
+    <message>
+        <source>is too large for the free memory; unload other instruments, then open it again</source>
+        <translation type="unfinished">空きメモリに入りません。ほかの楽器を解放してから開き直してください</translation>
+    </message>
+    <message>
+        <source>has no instruments</source>
+        <translation type="unfinished">楽器がありません</translation>
+    </message>
+    <message>
+        <source>has no samples</source>
+        <translation type="unfinished">サンプルがありません</translation>
+    </message>
+    <message>
+        <source>is not a sound file in a supported format</source>
+        <translation type="unfinished">対応する形式の音声ファイルではありません</translation>
+    </message>
+    <message>
+        <source>is a damaged WavPack file (%1)</source>
+        <translation type="unfinished">壊れた WavPack ファイルです (%1)</translation>
+    </message>
+    <message>
+        <source>lies outside the folder of the instrument</source>
+        <translation type="unfinished">楽器のフォルダーの外にあります</translation>
+    </message>
+    <message>
+        <source>names a file outside the folder of the organ: &quot;%1&quot;</source>
+        <translation type="unfinished">オルガンのフォルダー外のファイルを指しています: 「%1」</translation>
+    </message>
+    <message>
+        <source>names a file outside the folder of its package: &quot;%1&quot;</source>
+        <translation type="unfinished">パッケージのフォルダー外のファイルを指しています: 「%1」</translation>
+    </message>
+    <message>
+        <source>is longer than a sound may be: it has more than 2 GB of samples</source>
+        <translation type="unfinished">音が長すぎます: サンプルが 2 GB を超えています</translation>
+    </message>
+    <message>
+        <source>is damaged: its samples would take %1, but the file holds only %2</source>
+        <translation type="unfinished">壊れています: サンプルは %1 になるはずですが、ファイルには %2 しかありません</translation>
+    </message>
+    <message>
+        <source>is a SoundFont %1 bank with compressed samples; convert it to SoundFont 2</source>
+        <translation type="unfinished">圧縮サンプルの SoundFont %1 バンクです。SoundFont 2 に変換してください</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: its samples are encrypted and need a licence; open an organ without encryption</source>
+        <translation type="unfinished">読み込めません: サンプルが暗号化されていてライセンスが必要です。暗号化されていないオルガンを開いてください</translation>
+    </message>
+    <message>
+        <source>cannot be played: no pipe has a sample file</source>
+        <translation type="unfinished">演奏できません: サンプルファイルを持つパイプがありません</translation>
+    </message>
+    <message>
+        <source>cannot be played: none of the %1 sample files can be decoded, for example %2</source>
+        <translation type="unfinished">演奏できません: %1 個のサンプルファイルをどれもデコードできません。例: %2</translation>
+    </message>
+    <message>
+        <source>is not an organ definition: its root element is not &quot;Hauptwerk&quot;</source>
+        <translation type="unfinished">オルガンの定義ではありません: ルート要素が「Hauptwerk」ではありません</translation>
+    </message>
+    <message>
+        <source>is written in UTF-16; save it as UTF-8 in a text editor</source>
+        <translation type="unfinished">UTF-16 で書かれています。テキストエディターで UTF-8 として保存してください</translation>
+    </message>
+    <message>
+        <source>cannot be played: it has no stop with pipes</source>
+        <translation type="unfinished">演奏できません: パイプを持つストップがありません</translation>
+    </message>
+    <message>
+        <source>holds no organ definition (a file with the extension .organ)</source>
+        <translation type="unfinished">オルガンの定義 (.organ ファイル) が入っていません</translation>
+    </message>
+    <message>
+        <source>this package is not in the folder of the organ</source>
+        <translation type="unfinished">このパッケージはオルガンのフォルダーにありません</translation>
+    </message>
+    <message>
+        <source>is not a zip archive, or is damaged</source>
+        <translation type="unfinished">zip アーカイブではないか、壊れています</translation>
+    </message>
+    <message>
+        <source>is a damaged archive</source>
+        <translation type="unfinished">壊れたアーカイブです</translation>
+    </message>
+    <message>
+        <source>is encrypted; only archives without a password can be opened</source>
+        <translation type="unfinished">暗号化されています。パスワードのないアーカイブだけを開けます</translation>
+    </message>
+    <message>
+        <source>holds a file whose name leads out of the archive: &quot;%1&quot;</source>
+        <translation type="unfinished">アーカイブの外を指す名前のファイルがあります: 「%1」</translation>
+    </message>
+    <message>
+        <source>is not in the archive</source>
+        <translation type="unfinished">アーカイブにありません</translation>
+    </message>
+    <message>
+        <source>is damaged in the archive</source>
+        <translation type="unfinished">アーカイブの中で壊れています</translation>
+    </message>
+    <message>
+        <source>is larger than the archive says</source>
+        <translation type="unfinished">アーカイブの記載より大きいです</translation>
+    </message>
+    <message>
+        <source>is cut short in the archive</source>
+        <translation type="unfinished">アーカイブの中で途中で切れています</translation>
+    </message>
+    <message>
+        <source>an attack has no sample file</source>
+        <translation type="unfinished">アタックにサンプルファイルがありません</translation>
+    </message>
+    <message>
+        <source>a release has no sample file</source>
+        <translation type="unfinished">リリースにサンプルファイルがありません</translation>
+    </message>
+    <message>
+        <source>recordings with the tremulant are not played</source>
+        <translation type="unfinished">トレミュラント付きの録音は演奏されません</translation>
+    </message>
+    <message>
+        <source>recordings for quick repetitions are not played</source>
+        <translation type="unfinished">速い連打用の録音は演奏されません</translation>
+    </message>
+    <message>
+        <source>borrowed from pipes that are borrowed from each other</source>
+        <translation type="unfinished">互いに借り合っているパイプから借りています</translation>
+    </message>
+    <message>
+        <source>does not say from which manual, stop and pipe it is borrowed</source>
+        <translation type="unfinished">どの手鍵盤、ストップ、パイプから借りるのか書かれていません</translation>
+    </message>
+    <message>
+        <source>borrowed from stop %1 of manual %2, which does not exist</source>
+        <translation type="unfinished">存在しない手鍵盤 %2 のストップ %1 から借りています</translation>
+    </message>
+    <message>
+        <source>borrowed from a pipe that does not sound</source>
+        <translation type="unfinished">鳴らないパイプから借りています</translation>
+    </message>
+    <message>
+        <source>is outside the MIDI keys 0 to 127</source>
+        <translation type="unfinished">MIDI の鍵 0～127 の外です</translation>
+    </message>
+    <message>
+        <source>its stop %1 does not exist</source>
+        <translation type="unfinished">ストップ %1 がありません</translation>
+    </message>
+    <message>
+        <source>its rank %1 does not exist</source>
+        <translation type="unfinished">ランク %1 がありません</translation>
+    </message>
+    <message>
+        <source>belongs to no manual</source>
+        <translation type="unfinished">どの手鍵盤にも属していません</translation>
+    </message>
+    <message>
+        <source>has no pipe that sounds</source>
+        <translation type="unfinished">鳴るパイプがありません</translation>
+    </message>
+    <message>
+        <source>is a noise or an effect that sounds when its knob is drawn, not when keys are pressed</source>
+        <translation type="unfinished">鍵盤ではなくノブを引いたときに鳴る雑音または効果です</translation>
+    </message>
+    <message>
+        <source>silences its own keys (&quot;unison off&quot;), which is not supported</source>
+        <translation type="unfinished">自分の鍵盤を消音します (「unison off」)。これには対応していません</translation>
+    </message>
+    <message>
+        <source>couples only the lowest or the highest key, which is not supported</source>
+        <translation type="unfinished">最低または最高の鍵だけをカップリングします。これには対応していません</translation>
+    </message>
+    <message>
+        <source>couples to a manual that does not exist</source>
+        <translation type="unfinished">存在しない手鍵盤にカップリングします</translation>
+    </message>
+    <message>
+        <source>tremulants are not supported</source>
+        <translation type="unfinished">トレミュラントには対応していません</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation type="unfinished">%1、%2 行目: %3</translation>
+    </message>
+    <message>
+        <source>%1, byte %2: %3</source>
+        <translation type="unfinished">%1、%2 バイト目: %3</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it with 16 bits, which takes %3</source>
+        <translation type="unfinished">メモリが約 %1 必要ですが、空きは %2 だけです。16 ビットで読み込めば %3 で済みます</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it in mono, which takes %3</source>
+        <translation type="unfinished">メモリが約 %1 必要ですが、空きは %2 だけです。モノラルで読み込めば %3 で済みます</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load it with 16 bits and in mono, which takes %3</source>
+        <translation type="unfinished">メモリが約 %1 必要ですが、空きは %2 だけです。16 ビットとモノラルで読み込めば %3 で済みます</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; unload other instruments or close other programs</source>
+        <translation type="unfinished">メモリが約 %1 必要ですが、空きは %2 だけです。ほかの楽器を解放するか、ほかのプログラムを閉じてください</translation>
     </message>
 </context>
 <context>

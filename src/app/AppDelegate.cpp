@@ -189,6 +189,24 @@ bool AppDelegate::selectInstrument(std::size_t position)
     return true;
 }
 
+void AppDelegate::replaceInstrument(std::size_t position,
+                                    std::unique_ptr<InstrumentDocument> document)
+{
+    if (document->instrument() == nullptr)
+        return;
+    if (AudioSource* source = document->instrument()->source())
+        engine_.add(*source);
+    std::swap(instruments_.at(position), document);
+    const InstrumentDocument& added = *instruments_[position];
+    setInstrument(*added.instrument(), added.title());
+    if (Instrument* before = document->instrument()) {
+        player_.remove(*before);
+        if (AudioSource* source = before->source())
+            engine_.remove(*source);
+    }
+    emit instrumentsChanged();
+}
+
 bool AppDelegate::unloadInstrument(std::size_t position)
 {
     InstrumentDocument& document = *instruments_.at(position);

@@ -97,6 +97,10 @@ public:
     /// false if that fails or is cancelled; its document says why, and the current one stays.
     bool selectInstrument(std::size_t position);
 
+    /// Puts an instrument that was read again in the place of a listed one, and makes it the
+    /// current one. What sounds on the old one ends. Ignores a document without an instrument.
+    void replaceInstrument(std::size_t position, std::unique_ptr<InstrumentDocument> document);
+
     /// Unloads a listed instrument that was read from a file and does not sound. If it is the
     /// current one, the first of the list takes its place. Returns false if nothing was unloaded.
     bool unloadInstrument(std::size_t position);

@@ -1,6 +1,7 @@
 #include "desktop/instruments/InstrumentMenu.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/instruments/importChoices.h"
 #include "desktop/instruments/importReport.h"
 #include "desktop/instruments/unloadInstrument.h"
 #include "desktop/widgets/icons.h"
@@ -78,6 +79,13 @@ void InstrumentMenu::fillMenu()
     menu.addAction(velmora::icon("open"), tr("&Open Instrument…"), this,
                    &InstrumentMenu::openRequested);
     const bool isFromFile = current != nullptr && current->isFromFile();
+    if (isFromFile) {
+        menu.addSeparator();
+        addImportChoices(menu, *current, [this, currentPosition](const ImportOptions& options) {
+            emit reopenRequested(currentPosition, options);
+        });
+        menu.addSeparator();
+    }
     const QString name = QString(name_).replace("&", "&&");
     menu.addAction(velmora::icon("unload"), tr("&Unload %1").arg(name), this,
                    [this, currentPosition] { unload(currentPosition); })

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "import/ImportOptions.h"
+
 #include <QPushButton>
 
 #include <cstddef>
@@ -25,6 +27,9 @@ signals:
 
     /// The user wants the instrument at `position` of the list to be the current one.
     void instrumentChosen(std::size_t position);
+
+    /// The user wants the file of the instrument at `position` to be read with other options.
+    void reopenRequested(std::size_t position, const ImportOptions& options);
 
     /// A request of the user was refused; `message` says why and what to do.
     void refused(const QString& message);

@@ -9,6 +9,7 @@
 #include "desktop/widgets/SearchField.h"
 #include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/sizeText.h"
+#include "desktop/widgets/stopTitle.h"
 
 #include <QLabel>
 #include <QScrollArea>
@@ -20,15 +21,6 @@ namespace velmora {
 namespace {
 
 constexpr int kUsualHeight = 430, kUsualLetters = 40;
-
-QString stopTitle(const Instrument& instrument, std::size_t stop)
-{
-    QString name = QString::fromStdString(instrument.stopName(stop));
-    if (!name.isEmpty())
-        return name;
-    return instrument.numStops() > 1 ? InstrumentPanel::tr("Stop %1").arg(stop + 1)
-                                     : InstrumentPanel::tr("Volume");
-}
 
 } // namespace
 
@@ -52,6 +44,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     column->addWidget(programs_, 1);
     column->addWidget(stops_);
     column->addWidget(new PlayingControls(application_.playing()));
+    column->addStretch(); // the room that nothing needs
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(newScrollArea(content));
@@ -61,6 +54,7 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     connect(finding, &QShortcut::activated, this, &InstrumentPanel::find);
     connect(menu, &InstrumentMenu::openRequested, this, &InstrumentPanel::openRequested);
     connect(menu, &InstrumentMenu::instrumentChosen, this, &InstrumentPanel::instrumentChosen);
+    connect(menu, &InstrumentMenu::reopenRequested, this, &InstrumentPanel::reopenRequested);
     connect(menu, &InstrumentMenu::refused, this, &InstrumentPanel::refused);
     connect(programs_, &ProgramList::chosen, &application_, &AppDelegate::selectProgram);
     connect(&application_, &AppDelegate::programSelected, programs_,
@@ -87,6 +81,8 @@ void InstrumentPanel::showInstrument()
         for (std::size_t i = 0; i < instrument.numStops(); ++i)
             stops.emplace_back(stopTitle(instrument, i), instrument.getVolume(i));
     });
+    const bool hasConsole = isPlayedFromConsole(application_);
+    stops_->setVisible(!hasConsole);
     const bool hasPrograms = !programs.empty();
     programs_->setVisible(hasPrograms);
     if (hasPrograms) {
@@ -99,7 +95,8 @@ void InstrumentPanel::showInstrument()
     // Either the programs or the stops take the room that is left.
     stops_->setSizePolicy(QSizePolicy::Preferred,
                           hasPrograms ? QSizePolicy::Fixed : QSizePolicy::Expanding);
-    stops_->showStops(stops);
+    if (!hasConsole)
+        stops_->showStops(stops);
 }
 
 void InstrumentPanel::find()

@@ -2,6 +2,7 @@
 
 #include "app/programNames.h"
 #include "audio/Program.h"
+#include "desktop/widgets/SearchField.h"
 
 #include <QCoreApplication>
 #include <QTreeWidget>

@@ -2,28 +2,15 @@
 
 #include "app/AppDelegate.h"
 #include "desktop/instruments/StopRow.h"
-#include "desktop/widgets/SearchField.h"
 #include "desktop/widgets/scrolling.h"
 
 #include <QEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include <optional>
-
 namespace velmora {
 
-namespace {
-
-/// With more stops than this, there is a field to search them.
-constexpr std::size_t kSearchedStops = 8;
-
-constexpr int kLeastSearchedHeight = 120;
-
-} // namespace
-
-StopList::StopList(AppDelegate& application)
-    : application_(application), search_(new SearchField(tr("Find a stop")))
+StopList::StopList(AppDelegate& application) : application_(application)
 {
     auto* content = new QWidget;
     column_ = new QVBoxLayout(content);
@@ -33,11 +20,8 @@ StopList::StopList(AppDelegate& application)
     scrollArea_ = newScrollArea(content);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(search_);
     layout->addWidget(scrollArea_, 1);
     layout->addStretch();
-    connect(search_, &QLineEdit::textChanged, this, &StopList::filter);
-    connect(search_, &SearchField::left, this, [this] { step(-1, 1); });
 }
 
 void StopList::showStops(const std::vector<std::pair<QString, float>>& stops)
@@ -48,9 +32,10 @@ void StopList::showStops(const std::vector<std::pair<QString, float>>& stops)
     count_ = stops.size();
     for (std::size_t i = 0; i < count_; ++i)
         rows_[i]->showStop(stops[i].first, stops[i].second);
-    search_->setVisible(count_ > kSearchedStops);
-    search_->clear();
-    filter();
+    for (std::size_t i = 0; i < rows_.size(); ++i)
+        rows_[i]->setVisible(i < count_);
+    if (count_ > 0)
+        enter(0);
     fitHeight();
     content.show();
 }
@@ -65,11 +50,8 @@ void StopList::changeEvent(QEvent* event)
 void StopList::fitHeight()
 {
     column_->activate();
-    const bool isSearched = count_ > kSearchedStops;
-    // A few stops are all in sight, and take no more room than they need.
-    const int height = column_->sizeHint().height();
-    scrollArea_->setMinimumHeight(isSearched ? kLeastSearchedHeight : height);
-    scrollArea_->setMaximumHeight(isSearched ? QWIDGETSIZE_MAX : height);
+    // All stops are in sight, and take no more room than they need.
+    scrollArea_->setFixedHeight(column_->sizeHint().height());
 }
 
 void StopList::makeRows(std::size_t count)
@@ -91,19 +73,6 @@ void StopList::showVolume(std::size_t stop, float volume)
         rows_[stop]->showVolume(volume);
 }
 
-void StopList::filter()
-{
-    std::optional<std::size_t> first;
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        const bool isFound = i < count_ && search_->finds(rows_[i]->name());
-        rows_[i]->setVisible(isFound);
-        if (isFound && !first)
-            first = i;
-    }
-    if (first)
-        enter(*first);
-}
-
 void StopList::enter(std::size_t stop)
 {
     rows_[reachable_]->setReachable(false);
@@ -115,15 +84,9 @@ void StopList::enter(std::size_t stop)
 
 void StopList::step(int stop, int rows)
 {
-    for (int next = stop + rows; next >= 0 && next < static_cast<int>(count_); next += rows) {
-        StopRow& row = *rows_[static_cast<std::size_t>(next)];
-        if (row.isHidden())
-            continue;
-        row.focusName();
-        return;
-    }
-    if (rows < 0) // the field is above the first row
-        search_->setFocus();
+    const int next = stop + rows;
+    if (next >= 0 && next < static_cast<int>(count_))
+        rows_[static_cast<std::size_t>(next)]->focusName();
 }
 
 } // namespace velmora

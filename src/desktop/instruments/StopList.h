@@ -12,10 +12,9 @@ class QVBoxLayout;
 namespace velmora {
 
 class AppDelegate;
-class SearchField;
 class StopRow;
 
-/// The stops of the current instrument, a row for each, with a field to find one by its name.
+/// The few stops of the current instrument, a row for each. Many are shown in the console.
 class StopList : public QWidget {
     Q_OBJECT
 
@@ -35,12 +34,10 @@ protected:
 private:
     void makeRows(std::size_t count);
     void fitHeight();
-    void filter();
     void enter(std::size_t stop);
     void step(int stop, int rows);
 
     AppDelegate& application_;
-    SearchField* search_;
     QScrollArea* scrollArea_;
     QVBoxLayout* column_;
     std::vector<StopRow*> rows_;

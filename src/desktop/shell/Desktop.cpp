@@ -3,7 +3,6 @@
 #include "base/Text.h"
 #include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/instruments/PlayingControls.h"
-#include "desktop/instruments/importReport.h"
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/SequencePage.h"
 #include "desktop/shell/StartPage.h"
@@ -128,6 +127,12 @@ void Desktop::connectWindows()
     const InstrumentPanel& panel = workspace_.instrumentPanel();
     connect(&panel, &InstrumentPanel::openRequested, this, &Desktop::askForFiles);
     connect(&panel, &InstrumentPanel::instrumentChosen, this, &Desktop::selectInstrument);
+    connect(&opener_, &InstrumentOpener::failed, this, &Desktop::showError);
+    connect(&opener_, &InstrumentOpener::message, this, [this](const QString& text) {
+        workspace_.status().showMessage(text, kReportMilliseconds);
+    });
+    connect(&panel, &InstrumentPanel::reopenRequested, this, &Desktop::rereadInstrument);
+    connect(&shell_, &ShellActions::reopenRequested, this, &Desktop::rereadInstrument);
     connect(&panel, &InstrumentPanel::refused, this, &Desktop::showError);
     connect(&workspace_.tuningPanel(), &TuningPanel::openRequested, this, &Desktop::askForFiles);
     const StatusLine& status = workspace_.status();
@@ -256,30 +261,8 @@ void Desktop::openTuning(const QString& path, TuningFormat format)
 
 void Desktop::openInstrument(const QString& path, InstrumentFormat format)
 {
-    const QString name = displayName(pathOf(path));
-    auto document = std::make_unique<InstrumentDocument>();
-    const bool isRead =
-        document->read(pathOf(path), format, {application_.playing().reading()}, application_);
-    progressWindow_.endProgress();
-    if (!isRead) {
-        if (!document->errorString().empty())
-            showError(translated(document->errorString()));
-        return;
-    }
-    if (document->instrument() == nullptr) {
-        showError(
-            tr("%1: Velmora cannot play instruments of this format. Convert it to a SoundFont "
-               "(.sf2), then open that.")
-                .arg(name));
-        return;
-    }
-    const std::size_t skipped = document->report().skipped.size();
-    application_.addInstrument(std::move(document));
-    shell_.addRecent(path);
-    if (skipped > 0)
-        workspace_.status().showMessage(tr("%1: %2; see Import Report in the Instruments window")
-                                            .arg(name, leftOutText(skipped)),
-                                        kReportMilliseconds);
+    if (opener_.open(path, format))
+        shell_.addRecent(path);
 }
 
 void Desktop::openSequence(const QString& path)
@@ -331,20 +314,27 @@ void Desktop::saveSession()
     }
 }
 
-void Desktop::selectInstrument(std::size_t position)
+/// Does what may read an instrument again, which processes events. Files that are opened meanwhile
+/// wait.
+template <class Work> void Desktop::readAgain(Work work)
 {
-    // Reading an unloaded instrument again processes events; files opened meanwhile must wait.
     const bool wasOpening = std::exchange(isOpening_, true);
-    const bool isSelected = application_.selectInstrument(position);
-    progressWindow_.endProgress();
-    if (!isSelected) {
-        instrumentsWindow_.showCurrent();
-        const std::string& error = application_.instruments().at(position)->errorString();
-        if (!error.empty())
-            showError(translated(error));
-    }
+    work();
     isOpening_ = wasOpening;
     openWaiting();
+}
+
+void Desktop::selectInstrument(std::size_t position)
+{
+    readAgain([&] {
+        if (!opener_.select(position))
+            instrumentsWindow_.showCurrent();
+    });
+}
+
+void Desktop::rereadInstrument(std::size_t position, const ImportOptions& options)
+{
+    readAgain([&] { opener_.reopen(position, options); });
 }
 
 void Desktop::askForFiles()

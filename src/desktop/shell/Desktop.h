@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/ExampleChord.h"
+#include "desktop/console/ConsoleActions.h"
 #include "desktop/instruments/InstrumentsWindow.h"
 #include "desktop/instruments/ProgressWindow.h"
 #include "desktop/keyboard/ComputerKeyboard.h"
@@ -10,6 +11,7 @@
 #include "desktop/shell/DialogCommands.h"
 #include "desktop/shell/FileDrop.h"
 #include "desktop/shell/GuideWindow.h"
+#include "desktop/shell/InstrumentOpener.h"
 #include "desktop/shell/KeyRouter.h"
 #include "desktop/shell/MetersWindow.h"
 #include "desktop/shell/PreferencesWindow.h"
@@ -67,6 +69,8 @@ private:
     void openFile(const QString& path);
     void openTuning(const QString& path, TuningFormat format);
     void openInstrument(const QString& path, InstrumentFormat format);
+    void rereadInstrument(std::size_t position, const ImportOptions& options);
+    template <class Work> void readAgain(Work work);
     void openSequence(const QString& path);
     void openSession(const QString& path);
     void saveSession();
@@ -82,12 +86,14 @@ private:
     Commands commands_;
     ShellActions shell_{application_, commands_};
     SequenceActions sequenceActions_{commands_};
+    ConsoleActions consoleActions_{application_, commands_};
     FileDrop fileDrop_;
-    Workspace workspace_{application_, commands_, shell_, sequenceActions_};
+    Workspace workspace_{application_, commands_, shell_, sequenceActions_, consoleActions_};
     CommandPalette palette_{commands_, &workspace_};
     InstrumentsWindow instrumentsWindow_;
     PreferencesWindow preferencesWindow_{application_, commands_};
     ProgressWindow progressWindow_;
+    InstrumentOpener opener_{application_, progressWindow_};
     GuideWindow guideWindow_;
     MetersWindow metersWindow_;
     SequencePages pages_{application_, shell_, sequenceActions_, workspace_.tabs(),

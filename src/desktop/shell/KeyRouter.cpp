@@ -1,5 +1,6 @@
 #include "desktop/shell/KeyRouter.h"
 
+#include "desktop/console/Drawknob.h"
 #include "desktop/keyboard/ComputerKeyboard.h"
 #include "desktop/roll/SequenceView.h"
 #include "desktop/shell/SequencePage.h"
@@ -88,7 +89,7 @@ bool KeyRouter::keeps(const QWidget& widget, const QKeyEvent& event) const
     if (isArrow(key))
         return (isAny<QAbstractSlider, QAbstractItemView, QComboBox, QTabBar>(widget) &&
                 !isAny<QScrollBar>(widget)) ||
-               (isFocusedByKeyboard_ && isAny<QCheckBox>(widget)); // moves between stops
+               (isFocusedByKeyboard_ && isAny<QCheckBox, Drawknob>(widget)); // moves between stops
     return isConfirming(key) && isFocusedByKeyboard_ &&
            isAny<QAbstractButton, QAbstractItemView, QComboBox>(widget);
 }

@@ -1,6 +1,7 @@
 #include "desktop/shell/ShellActions.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/instruments/importChoices.h"
 #include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/messages.h"
@@ -97,6 +98,9 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
                        {Qt::CTRL | Qt::Key_I})),
       tuning(commands.add("view.tuning", viewGroup(), {tr("&Tuning"), {}, "tuning"},
                           {Qt::CTRL | Qt::Key_T})),
+      console(commands.add("view.console", viewGroup(),
+                           {tr("&Console"), tr("Show the stops of the organ"), "instrument"},
+                           {Qt::CTRL | Qt::SHIFT | Qt::Key_C})),
       playLayout(commands.add("view.play", viewGroup(),
                               {tr("&Play"), tr("Arrange the window for playing"), nullptr},
                               {Qt::ALT | Qt::Key_1})),
@@ -138,8 +142,8 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
     auto* layouts = new QActionGroup(this);
     for (QAction* action : {playLayout, editLayout, stageLayout})
         layouts->addAction(action);
-    for (QAction* action :
-         {keyboard, instrument, tuning, playLayout, editLayout, stageLayout, ownWindow, noteNames})
+    for (QAction* action : {keyboard, instrument, tuning, console, playLayout, editLayout,
+                            stageLayout, ownWindow, noteNames})
         action->setCheckable(true);
     for (QAction* action : {save, saveAs, exportAudio, close, ownWindow})
         action->setEnabled(false); // until there is a piece
@@ -173,7 +177,7 @@ void ShellActions::addSound(QMenuBar& bar) const
 
 void ShellActions::addPanels(QMenu& view) const
 {
-    view.addActions({keyboard, instrument, tuning, nextPanel, previousPanel});
+    view.addActions({keyboard, instrument, tuning, console, nextPanel, previousPanel});
     view.addSeparator();
     view.addActions({playLayout, editLayout, stageLayout, resetLayout});
     view.addSeparator();
@@ -226,6 +230,7 @@ void ShellActions::showRecent()
 void ShellActions::showInstruments()
 {
     instruments_->clear();
+    const InstrumentDocument* current = nullptr;
     std::size_t position = 0;
     for (const auto& document : application_.instruments()) {
         QAction* action =
@@ -233,7 +238,17 @@ void ShellActions::showInstruments()
                                     [this, position] { emit instrumentChosen(position); });
         action->setCheckable(true);
         action->setChecked(application_.isCurrent(*document));
+        if (application_.isCurrent(*document) && document->isFromFile())
+            current = document.get();
         ++position;
+    }
+    if (current != nullptr) {
+        instruments_->addSeparator();
+        addImportChoices(*instruments_, *current, [this](const ImportOptions& options) {
+            for (std::size_t i = 0; i < application_.instruments().size(); ++i)
+                if (application_.isCurrent(*application_.instruments()[i]))
+                    emit reopenRequested(i, options);
+        });
     }
     instruments_->addSeparator();
     instruments_->addActions({instrument, instrumentsWindow});

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "import/ImportOptions.h"
+
 #include <QObject>
 #include <QString>
 
@@ -28,9 +30,10 @@ public:
         *const open, *const openSession, *const saveSession, *const save, *const saveAs,
                                                                               *const exportAudio;
     QAction *const close, *const preferences, *const quit;
-    QAction* const silence;                                    ///< Stops every sound at once.
-    QAction *const transposeUp, *const transposeDown;          ///< By a semitone.
-    QAction *const keyboard, *const instrument, *const tuning; ///< Show or hide the panels.
+    QAction* const silence;                           ///< Stops every sound at once.
+    QAction *const transposeUp, *const transposeDown; ///< By a semitone.
+    QAction *const keyboard, *const instrument, *const tuning,
+                                                    *const console; ///< Show or hide the panels.
     QAction *const playLayout, *const editLayout, *const stageLayout, *const resetLayout;
     QAction *const nextPanel, *const previousPanel; ///< Move the keyboard focus.
     QAction* const ownWindow; ///< Checked while the current piece has a window of its own.
@@ -55,6 +58,9 @@ signals:
 
     /// The user wants the instrument at `position` of the list to be the current one.
     void instrumentChosen(std::size_t position);
+
+    /// The user wants the file of the instrument at `position` to be read with other options.
+    void reopenRequested(std::size_t position, const ImportOptions& options);
 
 private:
     void setRecentFiles(const QStringList& files);

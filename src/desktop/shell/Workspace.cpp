@@ -1,6 +1,9 @@
 #include "desktop/shell/Workspace.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/console/ConsoleActions.h"
+#include "desktop/console/ConsolePanel.h"
+#include "desktop/console/DivisionChooser.h"
 #include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/roll/SequenceActions.h"
@@ -23,6 +26,7 @@
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -32,11 +36,12 @@ namespace velmora {
 namespace {
 
 /// Counts up when stored arrangements would no longer fit.
-constexpr int kLayoutVersion = 1;
+constexpr int kLayoutVersion = 2;
 constexpr const char* kLayoutKey = "layout";
 
 /// The first sizes of the panels in pixels.
 constexpr int kInstrumentWidth = 280, kTuningWidth = 250;
+constexpr int kConsoleHeight = 330;
 constexpr int kKeyboardHeight = 150, kEditKeyboardHeight = 100, kStageKeyboardHeight = 300;
 constexpr QSize kFirstSize(1240, 760);
 
@@ -54,16 +59,19 @@ std::string layoutKey(Workspace::Layout layout)
 } // namespace
 
 Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions& shell,
-                     SequenceActions& actions)
+                     SequenceActions& actions, ConsoleActions& console)
     : application_(application), shell_(shell),
       keyboard_(new KeyboardView(application, application.player().liveKeys())),
       instrument_(new InstrumentPanel(application)), tuning_(new TuningPanel(application)),
-      status_(new StatusLine(application)), transport_(new TransportBar(actions, application)),
-      startPage_(new StartPage), tabs_(new QTabWidget), centre_(new QStackedWidget)
+      console_(new ConsolePanel(application, console)), status_(new StatusLine(application)),
+      transport_(new TransportBar(actions, application)), startPage_(new StartPage),
+      tabs_(new QTabWidget), centre_(new QStackedWidget)
 {
     setWindowTitle(tr("Velmora"));
     setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the transport
     setDockNestingEnabled(true);
+    setCorner(Qt::TopLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
     setCorner(Qt::BottomLeftCorner, Qt::BottomDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::BottomDockWidgetArea);
     tabs_->setDocumentMode(true);
@@ -75,11 +83,18 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     centre_->addWidget(new StageView(application));
     setCentralWidget(centre_);
     setStatusBar(status_);
-    keyboardDock_ = addPanel("keyboard", tr("Keyboard"), keyboard_, *shell.keyboard);
+    auto* keyboardPanel = new QWidget;
+    auto* keyboardColumn = new QVBoxLayout(keyboardPanel);
+    keyboardColumn->setContentsMargins({});
+    keyboardColumn->addWidget(new DivisionChooser(application));
+    keyboardColumn->addWidget(keyboard_, 1);
+    keyboardDock_ = addPanel("keyboard", tr("Keyboard"), keyboardPanel, *shell.keyboard);
     instrumentDock_ = addPanel("instrument", tr("Instrument"), instrument_, *shell.instrument);
     tuningDock_ = addPanel("tuning", tr("Tuning"), tuning_, *shell.tuning);
+    consoleDock_ = addPanel("console", tr("Console"), console_, *shell.console);
     addHelpButton(*keyboardDock_, "playing");
-    makeMenus(actions);
+    addHelpButton(*consoleDock_, "the-console");
+    makeMenus(actions, console);
     makeTransport();
     for (const Commands::Command& command : commands.all())
         addAction(command.action); // for the shortcuts of those that are in no menu
@@ -108,12 +123,17 @@ QDockWidget* Workspace::addPanel(const char* name, const QString& title, QWidget
     return dock;
 }
 
-void Workspace::makeMenus(const SequenceActions& actions)
+void Workspace::makeMenus(const SequenceActions& actions, ConsoleActions& console)
 {
     shell_.addFile(*menuBar()->addMenu(tr("&File")));
     actions.addEditing(*menuBar()->addMenu(tr("&Edit")));
     actions.addTransport(*menuBar()->addMenu(tr("&Piece")));
     shell_.addSound(*menuBar());
+    QMenu* consoleMenu = menuBar()->addMenu(tr("C&onsole"));
+    console.addTo(*consoleMenu);
+    consoleMenu->menuAction()->setVisible(false);
+    connect(&console, &ConsoleActions::enabledChanged, consoleMenu->menuAction(),
+            &QAction::setVisible);
     QMenu* view = menuBar()->addMenu(tr("&View"));
     actions.addZoom(*view);
     view->addSeparator();
@@ -149,6 +169,7 @@ void Workspace::connectCommands()
     arranges(shell_.editLayout, Layout::Edit);
     arranges(shell_.stageLayout, Layout::Stage);
     connect(shell_.resetLayout, &QAction::triggered, this, &Workspace::arrange);
+    connect(console_, &ConsolePanel::neededChanged, this, &Workspace::showConsole);
     connect(shell_.nextPanel, &QAction::triggered, this, [this] { movePanelFocus(1); });
     connect(shell_.previousPanel, &QAction::triggered, this, [this] { movePanelFocus(-1); });
 }
@@ -200,6 +221,7 @@ void Workspace::restoreLayout()
     const QByteArray state = preference(layoutKey(layout_)).toByteArray();
     if (state.isEmpty() || !restoreState(state, kLayoutVersion))
         arrange();
+    showConsole();
     showStage(layout_ == Layout::Stage);
     const std::array actions = {shell_.playLayout, shell_.editLayout, shell_.stageLayout};
     actions.at(static_cast<std::size_t>(layout_))->setChecked(true);
@@ -207,21 +229,24 @@ void Workspace::restoreLayout()
 
 void Workspace::arrange()
 {
-    for (QDockWidget* dock : {keyboardDock_, instrumentDock_, tuningDock_}) {
+    for (QDockWidget* dock : {keyboardDock_, instrumentDock_, tuningDock_, consoleDock_}) {
         dock->setFloating(false);
         removeDockWidget(dock);
     }
     addDockWidget(Qt::LeftDockWidgetArea, instrumentDock_);
     addDockWidget(Qt::RightDockWidgetArea, tuningDock_);
     addDockWidget(Qt::BottomDockWidgetArea, keyboardDock_);
+    addDockWidget(Qt::TopDockWidgetArea, consoleDock_);
     keyboardDock_->show();
     instrumentDock_->setVisible(layout_ != Layout::Edit);
     tuningDock_->setVisible(layout_ != Layout::Edit);
+    showConsole();
     constexpr std::array kHeights = {kKeyboardHeight, kEditKeyboardHeight, kStageKeyboardHeight};
     const double type = layout_ == Layout::Stage ? kStageType : 1.0;
     resizeDocks({instrumentDock_, tuningDock_},
                 {static_cast<int>(kInstrumentWidth * type), static_cast<int>(kTuningWidth * type)},
                 Qt::Horizontal);
+    resizeDocks({consoleDock_}, {static_cast<int>(kConsoleHeight * type)}, Qt::Vertical);
     resizeDocks({keyboardDock_}, {kHeights.at(static_cast<std::size_t>(layout_))}, Qt::Vertical);
 }
 
@@ -236,6 +261,12 @@ void Workspace::showStage(bool isStage)
         type.setPointSizeF(type.pointSizeF() * kStageType);
     setFont(type);
     showCentre();
+}
+
+void Workspace::showConsole()
+{
+    shell_.console->setEnabled(console_->isNeeded());
+    consoleDock_->setVisible(console_->isNeeded() && layout_ != Layout::Edit);
 }
 
 void Workspace::showCentre()
@@ -264,7 +295,7 @@ void Workspace::movePanelFocus(int direction)
     std::vector<QWidget*> stops;
     if (QWidget* centre = centre_->currentWidget(); centre->isVisible())
         stops.push_back(centre);
-    for (QDockWidget* dock : {instrumentDock_, keyboardDock_, tuningDock_})
+    for (QDockWidget* dock : {instrumentDock_, consoleDock_, keyboardDock_, tuningDock_})
         if (dock->isVisible())
             stops.push_back(dock);
     const auto here = std::ranges::find_if(

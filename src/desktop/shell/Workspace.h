@@ -13,6 +13,8 @@ namespace velmora {
 
 class AppDelegate;
 class Commands;
+class ConsoleActions;
+class ConsolePanel;
 class InstrumentPanel;
 class KeyboardView;
 class SequenceActions;
@@ -34,11 +36,12 @@ public:
 
     /// The arguments must outlive the window.
     Workspace(AppDelegate& application, Commands& commands, ShellActions& shell,
-              SequenceActions& actions);
+              SequenceActions& actions, ConsoleActions& console);
 
     KeyboardView& keyboard() { return *keyboard_; }
     InstrumentPanel& instrumentPanel() { return *instrument_; }
     TuningPanel& tuningPanel() { return *tuning_; }
+    ConsolePanel& consolePanel() { return *console_; }
     StartPage& startPage() { return *startPage_; }
     StatusLine& status() { return *status_; }
     QTabWidget& tabs() { return *tabs_; }
@@ -67,7 +70,7 @@ protected:
 
 private:
     QDockWidget* addPanel(const char* name, const QString& title, QWidget* panel, QAction& toggle);
-    void makeMenus(const SequenceActions& actions);
+    void makeMenus(const SequenceActions& actions, ConsoleActions& console);
     void makeTransport();
     void connectCommands();
     void saveLayout() const;
@@ -77,6 +80,7 @@ private:
     void arrange();
     void showStage(bool isStage);
     void showCentre();
+    void showConsole();
     void showPanel(QDockWidget& dock);
     void movePanelFocus(int direction);
 
@@ -86,12 +90,13 @@ private:
     KeyboardView* keyboard_;
     InstrumentPanel* instrument_;
     TuningPanel* tuning_;
+    ConsolePanel* console_;
     StatusLine* status_;
     TransportBar* transport_;
     StartPage* startPage_;
     QTabWidget* tabs_;
     QStackedWidget* centre_; ///< The start page, the tabs, or what is shown on stage.
-    QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_;
+    QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_, *consoleDock_;
     bool wasShown_ = false;
 };
 

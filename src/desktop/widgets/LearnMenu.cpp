@@ -28,9 +28,10 @@ QString describe(MidiControl control)
 
 } // namespace
 
-LearnMenu::LearnMenu(QWidget& widget, AppDelegate& application, std::vector<Learnable> learnables)
+LearnMenu::LearnMenu(QWidget& widget, AppDelegate& application, std::vector<Learnable> learnables,
+                     std::function<void(QMenu&)> addFirst)
     : QObject(&widget), widget_(widget), application_(application),
-      learnables_(std::move(learnables))
+      learnables_(std::move(learnables)), addFirst_(std::move(addFirst))
 {
     if (widget.focusPolicy() == Qt::NoFocus)
         widget.setFocusPolicy(Qt::TabFocus);
@@ -42,6 +43,8 @@ bool LearnMenu::eventFilter(QObject* /*watched*/, QEvent* event)
     if (event->type() == QEvent::ContextMenu) {
         auto* menu = new QMenu(&widget_);
         menu->setAttribute(Qt::WA_DeleteOnClose);
+        if (addFirst_)
+            addFirst_(*menu);
         for (const Learnable& learnable : learnables_)
             addTo(*menu, learnable);
         menu->popup(static_cast<QContextMenuEvent*>(event)->globalPos());

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 class QMenu;
@@ -27,7 +28,9 @@ class LearnMenu : public QObject {
     Q_OBJECT
 
 public:
-    LearnMenu(QWidget& widget, AppDelegate& application, std::vector<Learnable> learnables);
+    /// `addFirst` adds to the menu what stands above these actions.
+    LearnMenu(QWidget& widget, AppDelegate& application, std::vector<Learnable> learnables,
+              std::function<void(QMenu&)> addFirst = {});
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,6 +44,7 @@ private:
     QWidget& widget_;
     AppDelegate& application_;
     std::vector<Learnable> learnables_;
+    std::function<void(QMenu&)> addFirst_;
 };
 
 } // namespace velmora

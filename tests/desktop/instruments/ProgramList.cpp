@@ -1,7 +1,7 @@
 #include "desktop/instruments/ProgramList.h"
 
-#include "desktop/widgets/SearchField.h"
 #include "audio/Program.h"
+#include "desktop/widgets/SearchField.h"
 
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>

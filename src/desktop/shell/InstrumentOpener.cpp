@@ -1,0 +1,83 @@
+#include "desktop/shell/InstrumentOpener.h"
+
+#include "app/AppDelegate.h"
+#include "desktop/instruments/ProgressWindow.h"
+#include "desktop/instruments/importReport.h"
+#include "desktop/widgets/messages.h"
+#include "platform/pathNames.h"
+
+#include <utility>
+
+namespace velmora {
+
+InstrumentOpener::InstrumentOpener(AppDelegate& application, ProgressWindow& progress)
+    : application_(application), progress_(progress)
+{
+}
+
+std::unique_ptr<InstrumentDocument>
+InstrumentOpener::read(const QString& path, InstrumentFormat format, const ImportOptions& options)
+{
+    auto document = std::make_unique<InstrumentDocument>();
+    const bool isRead = document->read(pathOf(path), format, options, application_);
+    progress_.endProgress();
+    if (isRead && document->instrument() != nullptr)
+        return document;
+    if (isRead)
+        emit failed(
+            tr("%1: Velmora cannot play instruments of this format. Convert it to a SoundFont "
+               "(.sf2), then open that.")
+                .arg(displayName(pathOf(path))));
+    else if (!document->errorString().empty())
+        emit failed(translated(document->errorString()));
+    return nullptr;
+}
+
+bool InstrumentOpener::open(const QString& path, InstrumentFormat format)
+{
+    auto document = read(path, format, {application_.playing().reading()});
+    if (!document)
+        return false;
+    const InstrumentDocument& opened = *document;
+    application_.addInstrument(std::move(document));
+    describe(opened);
+    return true;
+}
+
+bool InstrumentOpener::reopen(std::size_t position, const ImportOptions& options)
+{
+    const InstrumentDocument& before = *application_.instruments().at(position);
+    auto document = read(textOf(before.path()), before.format(), options);
+    if (!document)
+        return false;
+    const InstrumentDocument& opened = *document;
+    application_.replaceInstrument(position, std::move(document));
+    describe(opened);
+    return true;
+}
+
+bool InstrumentOpener::select(std::size_t position)
+{
+    const bool isSelected = application_.selectInstrument(position);
+    progress_.endProgress();
+    const std::string& error = application_.instruments().at(position)->errorString();
+    if (!isSelected && !error.empty())
+        emit failed(translated(error));
+    return isSelected;
+}
+
+void InstrumentOpener::describe(const InstrumentDocument& document)
+{
+    const QString name = displayName(document.path());
+    const std::size_t skipped = document.report().skipped.size();
+    const int choices = static_cast<int>(document.choices().size());
+    if (skipped > 0)
+        emit message(tr("%1: %2; see Import Report in the Instruments window")
+                         .arg(name, leftOutText(skipped)));
+    else if (choices > 1)
+        emit message(
+            tr("%1 holds %n instrument(s). The Instrument menu lists them.", nullptr, choices)
+                .arg(name));
+}
+
+} // namespace velmora
