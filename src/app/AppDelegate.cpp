@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "app/TuningCorrector.h"
 #include "app/programNames.h"
 #include "audio/Synthesizer.h"
 #include "audio/openALSettings.h"
@@ -65,6 +66,7 @@ void AppDelegate::start(const OutputSettings& output)
     inputs_ = std::make_unique<MidiInputs>(devices_);
     makeBuiltinTunings();
     makeMIDIPlayer(std::make_unique<SilentDevice>());
+    tuningCorrector_ = std::make_unique<TuningCorrector>(*this);
     loadBank();
     fadeTimer_ = std::make_unique<IntervalTimer>(kFadeInterval, [this] {
         player_.fade();

@@ -31,6 +31,7 @@
 namespace velmora {
 
 class Synthesizer;
+class TuningCorrector;
 
 /// The SoundFonts to try for the General MIDI synthesizer; the user's choice comes first.
 std::vector<std::filesystem::path> generalMidiBanks();
@@ -283,6 +284,7 @@ private:
     std::unique_ptr<MidiInputs> inputs_;
     std::unique_ptr<IntervalTimer> fadeTimer_;
     std::future<std::unique_ptr<Synthesizer>> loading_;
+    std::unique_ptr<TuningCorrector> tuningCorrector_;
     bool loadsAgain_ = false; ///< True if the preference changed while a bank was loading.
 };
 

@@ -1,6 +1,7 @@
 #include "app/OfflineSound.h"
 
 #include "app/AppDelegate.h"
+#include "app/tuningCorrections.h"
 #include "sound/ALInstrument.h"
 
 #include <stdexcept>
@@ -27,6 +28,7 @@ SoundSettings currentSettings(AppDelegate& application)
         settings.program = instrument.program();
     });
     settings.banks = generalMidiBanks();
+    settings.correctsTuning = application.playing().correctsTuning();
     for (const auto& document : application.instruments()) {
         if (application.isCurrent(*document)) {
             settings.instrument = document->path();
@@ -50,9 +52,11 @@ std::unique_ptr<Synthesizer> makeOfflineSynthesizer(double rate,
 OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& host)
     : temperament_(std::move(settings.temperament)), engine_(rate)
 {
-    if (settings.instrument.empty()) {
-        document_ =
-            InstrumentDocument::makeMIDIPlayer(makeOfflineSynthesizer(rate, settings.banks));
+    std::filesystem::path bank = settings.instrument;
+    if (bank.empty()) {
+        auto synthesizer = makeOfflineSynthesizer(rate, settings.banks);
+        bank = synthesizer->bank();
+        document_ = InstrumentDocument::makeMIDIPlayer(std::move(synthesizer));
     } else {
         document_ = std::make_unique<InstrumentDocument>();
         if (!document_->read(settings.instrument, settings.format, settings.options, host))
@@ -61,6 +65,8 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
     Instrument& instrument = *document_->instrument();
     engine_.add(*instrument.source());
     instrument.setProgram(settings.program);
+    if (settings.correctsTuning)
+        correctTuning(instrument, bank);
     for (std::size_t stop = 0; stop < settings.gains.size(); ++stop)
         instrument.setVolume(stop, settings.gains[stop]);
     player_.setTemperament(*temperament_);

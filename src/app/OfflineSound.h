@@ -24,6 +24,7 @@ struct SoundSettings {
     ImportOptions options;                                 ///< How it was read.
     std::vector<float> gains;                              ///< The gain of each stop.
     std::size_t program = 0;                               ///< The position of the program.
+    bool correctsTuning = false;                           ///< As `PlayingOptions` has it.
     std::vector<std::filesystem::path> banks; ///< The SoundFonts for the General MIDI player.
 };
 

@@ -14,6 +14,7 @@ PlayingOptions::PlayingOptions()
 void PlayingOptions::read()
 {
     settings_.isPlain = isAlwaysPlain_ || getPrefBool("PlainReading");
+    correctsTuning_ = getPrefBool("CorrectTuning");
     settings_.velocityCurve = static_cast<VelocityCurve>(getPrefInt("VelocityCurve"));
     settings_.transposition = getPrefInt("Transposition");
     settings_.bendRange = getPrefInt("BendRange");

@@ -23,6 +23,9 @@ public:
     /// How instruments are read unless the user asks for another reading.
     Reading reading() const { return settings_.isPlain ? Reading::Plain : Reading::Musical; }
 
+    /// True if SoundFonts that are out of tune are corrected. The plain reading leaves them alone.
+    bool correctsTuning() const { return correctsTuning_ && !settings_.isPlain; }
+
     /// Reads the preferences again.
     void read();
 
@@ -39,6 +42,7 @@ signals:
 private:
     PlayingSettings settings_;
     bool isAlwaysPlain_ = false;
+    bool correctsTuning_ = true;
 };
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 
 #include "app/OfflineSound.h"
+#include "app/tuningCorrections.h"
 #include "audio/AudioFileWriter.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
@@ -17,9 +18,16 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
         application.playing().usePlainReading();
     application.makeBuiltinTunings();
     application.engine().setRate(options.rate);
-    if (selection.instrument.empty())
-        application.makeMIDIPlayer(makeOfflineSynthesizer(options.rate, generalMidiBanks()));
+    std::filesystem::path bank = selection.instrument;
+    if (bank.empty()) {
+        auto synthesizer = makeOfflineSynthesizer(options.rate, generalMidiBanks());
+        bank = synthesizer->bank();
+        application.makeMIDIPlayer(std::move(synthesizer));
+    }
     select(selection, application);
+    if (application.playing().correctsTuning())
+        application.player().with(
+            [&](Instrument& instrument, Temperament&) { correctTuning(instrument, bank); });
 
     SequenceRenderer renderer(application.player(), application.engine());
     renderer.document().read(sequence);

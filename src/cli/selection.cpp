@@ -76,10 +76,14 @@ void select(const Selection& selection, AppDelegate& application)
     application.putTuning(std::move(tuning));
     application.selectTuning(name);
 
+    if (selection.program || selection.bank) {
+        std::size_t position = 0;
+        application.player().with([&](const Instrument& instrument, Temperament&) {
+            position = findProgram(instrument, selection.bank, selection.program.value_or(""));
+        });
+        application.selectProgram(position);
+    }
     application.player().with([&](Instrument& instrument, Temperament&) {
-        if (selection.program || selection.bank)
-            instrument.setProgram(
-                findProgram(instrument, selection.bank, selection.program.value_or("")));
         for (const auto& [stop, gain] : selection.stops) {
             if (stop >= instrument.numStops())
                 throw UsageError("the instrument has no stop " + std::to_string(stop) +

@@ -26,6 +26,7 @@ struct PrefRange {
 PrefRange prefRange(const std::string& key);
 
 /// Returns a boolean preference: "KeyNames" shows the names of the C keys on the keyboard;
+/// "CorrectTuning" corrects the tuning of SoundFonts themselves;
 /// "PlainReading" reads MIDI devices with `midiRead`, without the translator; "StartAsLastTime"
 /// opens at the start what was open at the end; "ReduceMotion" scrolls at once instead of gliding.
 bool getPrefBool(const std::string& key);

@@ -36,6 +36,7 @@ const QVariantMap& defaults()
         {"ReduceMotion", false},
         {"GMBank", ""},
         {"PlainReading", false},
+        {"CorrectTuning", true},
         {"StartAsLastTime", true},
         {"VelocityCurve", 0}, // linear
         {"Transposition", 0},

@@ -57,6 +57,7 @@ MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device, std::vector<
 std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<MusicDevice> device)
 {
     device_.swap(device);
+    corrections_.assign(programs_.size(), {});
     bank_ = programs_[program_].bank;
     send(midi::kControlChange, midi::kBankSelect, bank_);
     setProgram(program_);
@@ -142,6 +143,14 @@ void MIDIInstrument::setProgram(std::size_t position)
         send(midi::kControlChange, midi::kBankSelect, program.bank);
     bank_ = program.bank;
     send(midi::kProgramChange, program.number, 0);
+    device_->setCorrections(corrections_[position]);
+}
+
+void MIDIInstrument::setCorrections(std::size_t program, const KeyCorrections& corrections)
+{
+    corrections_.at(program) = corrections;
+    if (program == program_)
+        device_->setCorrections(corrections);
 }
 
 // The bank that is played comes first, then the lowest.

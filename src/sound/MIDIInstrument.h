@@ -38,6 +38,9 @@ public:
     std::size_t program() const override { return program_; }
     bool isSounding() const override;
 
+    /// Corrects a program, given by its position, until the device is replaced.
+    void setCorrections(std::size_t program, const KeyCorrections& corrections);
+
     /// Replaces the device and selects the current program and bend on the new one, which the
     /// caller must tune. Returns the old device, with whatever still sounds on it.
     std::unique_ptr<MusicDevice> exchangeDevice(std::unique_ptr<MusicDevice> device);
@@ -51,6 +54,7 @@ private:
 
     std::unique_ptr<MusicDevice> device_;
     std::vector<Program> programs_;
+    std::vector<KeyCorrections> corrections_; ///< Of each program.
     std::size_t program_;
     bool isGeneralMidi_;
     int bank_ = 0;                 ///< The one that is selected on the device.

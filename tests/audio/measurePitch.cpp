@@ -1,0 +1,81 @@
+#include "audio/measurePitch.h"
+
+#include "audio/Pcm.h"
+#include "support/Pitch.h"
+#include "support/Stereo.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <numbers>
+
+namespace velmora {
+
+namespace {
+
+constexpr double kRate = 44100.0;
+
+/// One second of a sound, whose samples are a function of the seconds.
+std::vector<float> second(const std::function<double(double)>& sample)
+{
+    std::vector<float> sound;
+    for (int i = 0; i < 44100; ++i)
+        sound.push_back(static_cast<float>(sample(i / kRate)));
+    return sound;
+}
+
+double sine(double hertz, double seconds)
+{
+    return std::sin(2.0 * std::numbers::pi * hertz * seconds);
+}
+
+} // namespace
+
+TEST(MeasurePitch, FollowsThePartialsOfHeldAndDyingSounds)
+{
+    for (const double hertz : {30.0, 261.6, 4000.0}) {
+        for (const double off : {-45.0, 0.0, 3.3, 45.0}) {
+            const double actual = hertz * std::exp2(off / 1200.0);
+            const std::function<double(double)> sounds[] = {
+                [&](double t) { return 0.5 * sine(actual, t); },
+                [&](double t) { return std::exp(-8.0 * t) * sine(actual, t); },
+                [&](double t) { return 0.01 * sine(actual, t) + 0.5 * sine(2.0 * actual, t); },
+                [&](double t) { return 0.3 * sine(actual, t) + 0.6 * sine(3.01 * actual, t); }};
+            for (const auto& sound : sounds) {
+                const auto pitch = measurePitch(second(sound), kRate, hertz);
+                ASSERT_TRUE(pitch);
+                EXPECT_NEAR(cents(pitch->hertz, actual), 0.0, 0.02)
+                    << hertz << " Hz, sound " << &sound - sounds;
+                EXPECT_LT(pitch->swing, 0.5);
+            }
+        }
+    }
+}
+
+TEST(MeasurePitch, AveragesVibratoAndNoticesBeats)
+{
+    const auto vibrato = measurePitch(
+        second([](double t) { return sine(440.0, t + 2e-4 * sine(6.0, t)); }), kRate, 442.0);
+    EXPECT_NEAR(cents(vibrato->hertz, 440.0), 0.0, 0.5);
+    EXPECT_LT(vibrato->swing, 1.0);
+    const auto beats = measurePitch(
+        second([](double t) { return sine(439.0, t) + 0.8 * sine(442.0, t); }), kRate, 440.0);
+    EXPECT_GT(beats->swing, 2.5);
+}
+
+TEST(MeasurePitch, RefusesWhatHasNoSuchPitch)
+{
+    EXPECT_FALSE(measurePitch(second([](double) { return 0.0; }), kRate, 440.0));
+    EXPECT_FALSE(measurePitch(second([](double t) { return sine(460.0, t); }), kRate, 440.0));
+    EXPECT_FALSE(measurePitch(std::vector<float>(100, 0.5F), kRate, 440.0));
+
+    Pcm recording{{}, 2, kRate};
+    for (const float sample : second([](double t) { return sine(t < 0.15 ? 300.0 : 441.0, t); }))
+        recording.samples.insert(recording.samples.end(),
+                                 {static_cast<std::int16_t>(20000.0F * sample), 0});
+    EXPECT_NEAR(cents(measurePitch(recording, 440.0)->hertz, 441.0), 0.0, 0.02)
+        << "the left channel behind the attack";
+}
+
+} // namespace velmora
