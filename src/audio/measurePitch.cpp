@@ -24,13 +24,19 @@ constexpr double kWindowPeriods = 6.0;
 constexpr std::size_t kWindowsInWindow = 4; ///< How many begin within the length of one.
 constexpr std::size_t kLeastWindows = 8;
 
+/// How far a phase may turn away from one window to the next, which limits their distance: half a
+/// semitone is 0.03 of the frequency, and half a turn the limit.
+constexpr double kUnambiguous = 2.0 * 0.035;
+
 constexpr double kSemitone = 100.0; ///< In cents.
 
 /// Amplitudes and phases of a partial, window by window.
 class Partial {
 public:
     Partial(std::span<const float> sound, double rate, double hertz, std::size_t window)
-        : hop_(std::max<std::size_t>(1, window / kWindowsInWindow)), rate_(rate), hertz_(hertz)
+        : hop_(std::clamp<std::size_t>(static_cast<std::size_t>(rate / (hertz * kUnambiguous)), 1,
+                                       window / kWindowsInWindow)),
+          rate_(rate), hertz_(hertz)
     {
         std::vector<Complex> kernel(window);
         for (std::size_t i = 0; i < window; ++i) {
