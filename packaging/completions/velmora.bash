@@ -4,10 +4,11 @@ _velmora()
 {
     local word=$2 previous=$3 command=${COMP_WORDS[1]} options
     case $command in
-        render) options="--help --output --tuning --program --instrument --stop --rate --tail
+        render) options="--help --output --tuning --program --bank --instrument --as-stops --plain --stop --rate --tail
             --loop-start --loop-end --loops" ;;
-        live) options="--help --tuning --program --instrument --stop --plain --output --period" ;;
-        info | doctor) options="--help --json" ;;
+        live) options="--help --tuning --program --bank --instrument --as-stops --stop --plain --output --period" ;;
+        info) options="--help --json --as-stops --plain" ;;
+        doctor) options="--help --json" ;;
         devices) options="--help --json --watch --output --period" ;;
         *)
             command=
@@ -25,7 +26,7 @@ _velmora()
         *:--instrument) files='sf2|gig|organ_hauptwerk_xml|xml|organ|orgue' ;;
         render:-o | render:--output) files='wav|flac|ogg' ;;
         *:--output) COMPREPLY=($(compgen -W "jack pulseaudio alsa none" -- "$word")) ;;
-        *:--program | *:--stop | *:--rate | *:--tail | *:--loop-* | *:--loops | *:--period) ;;
+        *:--program | *:--bank | *:--stop | *:--rate | *:--tail | *:--loop-* | *:--loops | *:--period) ;;
         *)
             if [[ $word == -* ]]; then
                 COMPREPLY=($(compgen -W "$options" -- "$word"))
