@@ -24,8 +24,6 @@ namespace velmora {
 
 namespace {
 
-using Json = nlohmann::json;
-
 /// To be raised whenever the same bank would be measured differently.
 constexpr int kMeasuringVersion = 1;
 
@@ -71,7 +69,7 @@ std::optional<KeyCorrections> readCached(const std::filesystem::path& path)
     if (!std::filesystem::exists(path, error))
         return std::nullopt;
     try {
-        const Json json = Json::parse(readTextFile(path));
+        const nlohmann::json json = nlohmann::json::parse(readTextFile(path));
         const auto corrections = json.at("cents").get<std::vector<float>>();
         KeyCorrections result{};
         const bool isWhole =
@@ -91,7 +89,8 @@ void writeCached(const KeyCorrections& corrections, const std::filesystem::path&
     std::error_code error;
     std::filesystem::create_directories(path.parent_path(), error);
     try {
-        writeFile(path, Json{{"version", kMeasuringVersion}, {"cents", corrections}}.dump());
+        writeFile(path,
+                  nlohmann::json{{"version", kMeasuringVersion}, {"cents", corrections}}.dump());
     } catch (const std::runtime_error& failure) {
         logger("app").warn("{}", failure.what());
     }

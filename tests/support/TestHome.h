@@ -16,7 +16,8 @@ class TestHome {
 public:
     TestHome()
     {
-        for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
+        for (const char* variable :
+             {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"})
             qputenv(variable, folder_.path().toUtf8());
         const auto settings = std::filesystem::path(folder_.path().toStdString()) / "velmora";
         std::filesystem::create_directory(settings);
