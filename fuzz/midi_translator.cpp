@@ -34,6 +34,11 @@ public:
     {
         require(volume >= 0 && volume <= 1 && slider < 6);
     }
+    bool moveConsole(std::uint8_t controller, float value, int channel) override
+    {
+        require(controller < 128 && value >= 0 && value <= 1 && channel < midi::kChannels);
+        return false;
+    }
     void toggleVolume(std::size_t slider) override { require(slider == 5); }
     void setMasterVolume(float volume) override { require(volume >= 0 && volume <= 1); }
     void toggleMasterVolume() override {}

@@ -19,6 +19,28 @@ Json parseJson(std::string_view text)
     }
 }
 
+Json describePositions(const std::vector<bool>& values)
+{
+    Json positions = Json::array();
+    for (std::size_t i = 0; i < values.size(); ++i)
+        if (values[i])
+            positions.push_back(i);
+    return positions;
+}
+
+std::vector<bool> readPositions(const JsonField& list)
+{
+    constexpr int kLastPosition = 65535; // beyond every console
+
+    std::vector<bool> values;
+    for (const JsonField& field : list.elements()) {
+        const auto position = static_cast<std::size_t>(field.integer(0, kLastPosition));
+        values.resize(std::max(values.size(), position + 1));
+        values[position] = true;
+    }
+    return values;
+}
+
 void JsonField::refuse(const std::string& expected) const
 {
     throw FormatError('"' + name + "\" is not " + expected);

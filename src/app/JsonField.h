@@ -15,6 +15,15 @@ using Json = nlohmann::ordered_json;
 /// Parses the text of a file. Throws FormatError, with the line if the text is not JSON.
 Json parseJson(std::string_view text);
 
+struct JsonField;
+
+/// Returns the positions of what is true, as a list.
+Json describePositions(const std::vector<bool>& values);
+
+/// Returns values of which those at the positions of a list are true. Throws as the functions of
+/// the field; no position may be above 65535.
+std::vector<bool> readPositions(const JsonField& list);
+
 /// A value of a JSON file and the name that a sentence gives to it, such as "pieces[2].path". The
 /// functions that read it throw FormatError with that name if it is not what is expected.
 struct JsonField {

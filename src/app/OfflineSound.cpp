@@ -2,7 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/tuningCorrections.h"
-#include "sound/ALInstrument.h"
+#include "sound/OrganInstrument.h"
 
 #include <stdexcept>
 #include <utility>
@@ -19,14 +19,23 @@ std::vector<float> gainsOf(const Instrument& instrument)
     return gains;
 }
 
+std::optional<ConsoleState> consoleStateOf(const Instrument& instrument)
+{
+    if (const auto* organ = dynamic_cast<const OrganInstrument*>(&instrument))
+        return organ->console().state();
+    return std::nullopt;
+}
+
 SoundSettings currentSettings(AppDelegate& application)
 {
     SoundSettings settings;
     application.player().with([&](const Instrument& instrument, const Temperament& temperament) {
         settings.temperament = temperament.fresh();
         settings.gains = gainsOf(instrument);
+        settings.console = consoleStateOf(instrument);
         settings.program = instrument.program();
     });
+    settings.divisions = application.player().divisions();
     settings.banks = generalMidiBanks();
     settings.correctsTuning = application.playing().correctsTuning();
     for (const auto& document : application.instruments()) {
@@ -67,10 +76,14 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
     instrument.setProgram(settings.program);
     if (settings.correctsTuning)
         correctTuning(instrument, bank);
-    for (std::size_t stop = 0; stop < settings.gains.size(); ++stop)
-        instrument.setVolume(stop, settings.gains[stop]);
+    if (auto* organ = dynamic_cast<OrganInstrument*>(&instrument); organ && settings.console)
+        organ->console().setState(*settings.console);
+    else
+        for (std::size_t stop = 0; stop < settings.gains.size(); ++stop)
+            instrument.setVolume(stop, settings.gains[stop]);
     player_.setTemperament(*temperament_);
     player_.setInstrument(instrument);
+    player_.setDivisions(instrument, settings.divisions);
 }
 
 } // namespace velmora

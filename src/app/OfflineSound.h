@@ -4,11 +4,13 @@
 #include "audio/AudioEngine.h"
 #include "audio/Synthesizer.h"
 #include "import/InstrumentDocument.h"
+#include "sound/ConsoleState.h"
 #include "tuning/Temperament.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,14 +25,19 @@ struct SoundSettings {
     InstrumentFormat format = InstrumentFormat::SoundFont; ///< The format of that file.
     ImportOptions options;                                 ///< How it was read.
     std::vector<float> gains;                              ///< The gain of each stop.
-    std::size_t program = 0;                               ///< The position of the program.
-    bool correctsTuning = false;                           ///< As `PlayingOptions` has it.
+    std::optional<ConsoleState> console;                   ///< In place of the gains for an organ.
+    Player::Divisions divisions;
+    std::size_t program = 0;                  ///< The position of the program.
+    bool correctsTuning = false;              ///< As `PlayingOptions` has it.
     std::vector<std::filesystem::path> banks; ///< The SoundFonts for the General MIDI player.
 };
 
 /// Returns the gain of each stop, 0…1, as `setVolume` takes it. For a sampled instrument,
 /// `getVolume` returns twice that.
 std::vector<float> gainsOf(const Instrument& instrument);
+
+/// Returns what is set at the console of an instrument; nothing if it has none.
+std::optional<ConsoleState> consoleStateOf(const Instrument& instrument);
 
 /// Returns the current settings of an application that has an instrument.
 SoundSettings currentSettings(AppDelegate& application);

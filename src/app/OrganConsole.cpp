@@ -224,7 +224,7 @@ bool OrganConsole::receiveProgram(std::uint8_t program)
 // See docs/decisions.md, 162.
 bool OrganConsole::receiveVolume(std::uint8_t controller, float value, KeySource source)
 {
-    const std::size_t division = player_.divisionOf(source);
+    const std::size_t division = player_.divisions().ofSources[source];
     return withConsole([&](OrganInstrument& organ) {
         if (controller != midi::kExpression)
             return;

@@ -16,29 +16,19 @@ namespace {
 
 constexpr int kOrganSettingsVersion = 1;
 
-/// The positions of what is drawn.
-Json describe(const std::vector<bool>& drawn)
-{
-    Json positions = Json::array();
-    for (std::size_t i = 0; i < drawn.size(); ++i)
-        if (drawn[i])
-            positions.push_back(i);
-    return positions;
-}
-
 Json describe(const Registration& registration)
 {
-    return {{"stops", describe(registration.stops)}, {"couplers", describe(registration.couplers)}};
+    return {{"stops", describePositions(registration.stops)},
+            {"couplers", describePositions(registration.couplers)}};
 }
 
+/// Reads what is drawn of `count` knobs; what the file says about others is ignored.
 std::vector<bool> readDrawn(const std::optional<JsonField>& field, std::size_t count)
 {
-    std::vector<bool> drawn(count);
-    if (!field)
-        return drawn;
-    for (const JsonField& position : field->elements())
-        if (count > 0)
-            drawn[position.index(count)] = true;
+    std::vector<bool> drawn;
+    if (field)
+        drawn = readPositions(*field);
+    drawn.resize(count);
     return drawn;
 }
 

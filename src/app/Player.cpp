@@ -49,10 +49,10 @@ void Player::setDivisions(const Instrument& instrument, const Divisions& divisio
     std::ranges::transform(divisions.ofChannels, divisions_.ofChannels.begin(), playable);
 }
 
-std::size_t Player::divisionOf(KeySource source) const
+Player::Divisions Player::divisions() const
 {
     const std::lock_guard lock(mutex_);
-    return divisions_.ofSources[source];
+    return divisions_;
 }
 
 void Player::setTemperament(Temperament& temperament)

@@ -41,8 +41,8 @@ public:
     /// theirs. Does nothing if `instrument` is not the current one.
     void setDivisions(const Instrument& instrument, const Divisions& divisions);
 
-    /// The division that a source plays.
-    std::size_t divisionOf(KeySource source) const;
+    /// The divisions of the current instrument that are played.
+    Divisions divisions() const;
 
     /// Makes a temperament the current one and retunes the instrument, including sounding keys.
     void setTemperament(Temperament& temperament);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace velmora {
 
@@ -32,6 +33,22 @@ void addPath(Json& file, const std::filesystem::path& path, const std::filesyste
         file["fromHere"] = escapePath(fromHere);
 }
 
+Json describe(const std::vector<float>& volumes)
+{
+    Json list = Json::array();
+    for (const float volume : volumes)
+        list.push_back(std::clamp(volume, 0.0F, 1.0F));
+    return list;
+}
+
+std::vector<float> readVolumes(const JsonField& list)
+{
+    std::vector<float> volumes;
+    for (const JsonField& volume : list.elements())
+        volumes.push_back(static_cast<float>(volume.number(0.0, 1.0)));
+    return volumes;
+}
+
 Json describe(const Session::Instrument& instrument, const std::filesystem::path& folder)
 {
     Json file = Json::object();
@@ -44,9 +61,13 @@ Json describe(const Session::Instrument& instrument, const std::filesystem::path
         file["bank"] = instrument.bank;
         file["program"] = instrument.program;
     }
-    file["volumes"] = Json::array();
-    for (const float gain : instrument.gains)
-        file["volumes"].push_back(std::clamp(gain, 0.0F, 1.0F));
+    const auto& console = instrument.console;
+    file["volumes"] = describe(console ? console->gains : instrument.gains);
+    if (console) {
+        file["swells"] = describe(console->swells);
+        file["stops"] = describePositions(console->drawn.stops);
+        file["couplers"] = describePositions(console->drawn.couplers);
+    }
     return file;
 }
 
@@ -117,8 +138,16 @@ Session::Instrument readInstrument(const JsonField& file, const std::filesystem:
             instrument.program = program->integer(0, kLastProgram);
     }
     if (const auto volumes = file.find("volumes"))
-        for (const JsonField& volume : volumes->elements())
-            instrument.gains.push_back(static_cast<float>(volume.number(0.0, 1.0)));
+        instrument.gains = readVolumes(*volumes);
+    if (const auto stops = file.find("stops")) {
+        ConsoleState& console = instrument.console.emplace();
+        console.gains = std::exchange(instrument.gains, {});
+        console.drawn.stops = readPositions(*stops);
+        if (const auto couplers = file.find("couplers"))
+            console.drawn.couplers = readPositions(*couplers);
+        if (const auto swells = file.find("swells"))
+            console.swells = readVolumes(*swells);
+    }
     return instrument;
 }
 

@@ -2,10 +2,12 @@
 
 #include "import/ImportOptions.h"
 #include "import/InstrumentFormat.h"
+#include "sound/ConsoleState.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +23,7 @@ struct Session {
         std::vector<float> gains;                              ///< The gain of each stop, 0…1.
         int bank = 0;    ///< The bank of the selected program, if the file has programs.
         int program = 0; ///< Its number.
+        std::optional<ConsoleState> console{}; ///< In place of the gains for an organ.
     };
 
     struct Piece {

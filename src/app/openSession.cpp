@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/OfflineSound.h"
 #include "base/FormatError.h"
+#include "sound/OrganInstrument.h"
 
 #include <algorithm>
 #include <optional>
@@ -84,7 +85,9 @@ Session currentSession(AppDelegate& application)
         Session::Instrument entry{document->path(), document->format(), document->options(), {}};
         application.player().with([&](const Instrument&, const Temperament&) {
             const Instrument& instrument = *document->instrument();
-            entry.gains = gainsOf(instrument);
+            entry.console = consoleStateOf(instrument);
+            if (!entry.console)
+                entry.gains = gainsOf(instrument);
             if (!instrument.programs().empty()) {
                 const Program& program = instrument.programs()[instrument.program()];
                 entry.bank = program.bank;
@@ -119,6 +122,8 @@ std::vector<std::string> openSession(const Session& session, AppDelegate& applic
         }
         application.player().with([&](const Instrument&, const Temperament&) {
             Instrument& instrument = *application.instruments()[*opened.position]->instrument();
+            if (auto* organ = dynamic_cast<OrganInstrument*>(&instrument); organ && wanted.console)
+                organ->console().setState(*wanted.console);
             for (std::size_t stop = 0; stop < wanted.gains.size(); ++stop)
                 instrument.setVolume(stop, wanted.gains[stop]);
             if (wanted.path.empty())

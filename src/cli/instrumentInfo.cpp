@@ -1,7 +1,7 @@
 #include "cli/instrumentInfo.h"
 
 #include "base/Text.h"
-#include "sound/ALInstrument.h"
+#include "sound/OrganInstrument.h"
 
 #include <nlohmann/json.hpp>
 #include <spdlog/fmt/fmt.h>
@@ -65,14 +65,57 @@ Json describe(const ImportReport& report)
     return result;
 }
 
-void printStop(std::size_t index, const Json& stop)
+Json describe(const Console& console)
+{
+    const ConsoleDefinition& definition = console.definition();
+    const ConsoleState& state = console.state();
+    Json result = {
+        {"divisions", Json::array()}, {"stops", Json::array()}, {"couplers", Json::array()}};
+    for (const ConsoleDefinition::Division& division : definition.divisions)
+        result["divisions"].push_back({{"name", division.name},
+                                       {"pedal", division.isPedal},
+                                       {"lowestKey", division.lowestKey},
+                                       {"highestKey", division.highestKey}});
+    for (std::size_t i = 0; i < definition.stops.size(); ++i)
+        result["stops"].push_back({{"name", definition.stops[i].name},
+                                   {"division", definition.stops[i].division},
+                                   {"drawn", bool{state.drawn.stops[i]}}});
+    for (std::size_t i = 0; i < definition.couplers.size(); ++i)
+        result["couplers"].push_back({{"name", definition.couplers[i].name},
+                                      {"from", definition.couplers[i].from},
+                                      {"to", definition.couplers[i].to},
+                                      {"shift", definition.couplers[i].shift},
+                                      {"drawn", bool{state.drawn.couplers[i]}}});
+    return result;
+}
+
+/// Prints the stops, by their numbers, and the couplers of each division.
+void printConsole(const Json& console)
+{
+    const auto mark = [](const Json& knob) { return knob["drawn"].get<bool>() ? "drawn" : ""; };
+    for (std::size_t division = 0; division < console["divisions"].size(); ++division) {
+        const Json& keys = console["divisions"][division];
+        fmt::print("{}, keys {} to {}\n", keys["name"].get<std::string>(),
+                   keys["lowestKey"].get<int>(), keys["highestKey"].get<int>());
+        for (std::size_t i = 0; i < console["stops"].size(); ++i)
+            if (const Json& stop = console["stops"][i]; stop["division"] == division)
+                fmt::print("  stop {:>3}  {:5}  {}\n", i, mark(stop),
+                           stop["name"].get<std::string>());
+        for (const Json& coupler : console["couplers"])
+            if (coupler["from"] == division)
+                fmt::print("  coupler   {:5}  {}\n", mark(coupler),
+                           coupler["name"].get<std::string>());
+    }
+}
+
+void printStop(const char* kind, std::size_t index, const Json& stop)
 {
     const Json& keys = stop["keys"];
     std::size_t extended = 0;
     for (const Json& key : keys)
         extended += key["extended"].get<bool>() ? 1U : 0U;
-    fmt::print("  stop {:>3}  volume {:.3f}  {:>3} keys of its own, {:>3} extended  {}\n", index,
-               stop["volume"].get<double>(), keys.size() - extended, extended,
+    fmt::print("  {} {:>3}  volume {:.3f}  {:>3} keys of its own, {:>3} extended  {}\n", kind,
+               index, stop["volume"].get<double>(), keys.size() - extended, extended,
                stop["name"].get<std::string>());
 }
 
@@ -101,7 +144,7 @@ Json describe(const InstrumentDocument& document)
     Json result = {{"name", document.name()},
                    {"kind", typeName(document.format())},
                    {"usage", document.size()}};
-    if (const auto* sampled = dynamic_cast<const ALInstrument*>(document.instrument())) {
+    if (const ALInstrument* sampled = sampledRanksOf(*document.instrument())) {
         result["stops"] = Json::array();
         const Uses uses = countUses(*sampled);
         for (const InstrumentStop& stop : sampled->stops())
@@ -111,6 +154,8 @@ Json describe(const InstrumentDocument& document)
         for (const Program& program : document.instrument()->programs())
             result["programs"].push_back(describe(program));
     }
+    if (const auto* organ = dynamic_cast<const OrganInstrument*>(document.instrument()))
+        result["console"] = describe(organ->console());
     result["report"] = describe(document.report());
     return result;
 }
@@ -121,13 +166,16 @@ void printInstrument(const Json& instrument)
         printBank(instrument);
         return;
     }
+    const bool hasConsole = instrument.contains("console");
+    const char* const kind = hasConsole ? "rank" : "stop";
     const Json& report = instrument["report"];
     fmt::print("{}: {} instrument of {}, {} bytes of sound\n",
                instrument["name"].get<std::string>(), instrument["kind"].get<std::string>(),
-               counted(instrument["stops"].size(), "stop"),
-               instrument["usage"].get<std::int64_t>());
+               counted(instrument["stops"].size(), kind), instrument["usage"].get<std::int64_t>());
+    if (hasConsole)
+        printConsole(instrument["console"]);
     for (std::size_t i = 0; i < instrument["stops"].size(); ++i)
-        printStop(i, instrument["stops"][i]);
+        printStop(kind, i, instrument["stops"][i]);
     fmt::print("Loaded {}, {}, {}; left out {}\n",
                counted(report["ranks"].get<std::size_t>(), "rank"),
                counted(report["pipes"].get<std::size_t>(), "pipe"),

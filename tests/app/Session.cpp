@@ -65,6 +65,8 @@ TEST(Session, KeepsEveryFieldInItsFile)
     session.instruments = {
         {{}, {}, {}, {0.5F}},
         {odd, InstrumentFormat::Hauptwerk1, {Reading::Plain, true, 3}, {0.25F, 1.0F}, 128, 25}};
+    session.instruments[1].console = {{{false, true}, {true}}, {0.25F, 1.0F}, {0.5F}};
+    session.instruments[1].gains.clear();
     session.currentInstrument = 1;
     session.program = 19;
     session.tunings = {"/t/für.scl"};
@@ -78,7 +80,7 @@ TEST(Session, KeepsEveryFieldInItsFile)
     const Session read = decodeSession(text, "/elsewhere");
     EXPECT_EQ(encodeSession(read, "/t"), text);
     EXPECT_EQ(read.instruments.at(1).path, odd);
-    EXPECT_THAT(read.instruments[1].gains, ElementsAre(0.25F, 1.0F));
+    EXPECT_EQ(read.instruments[1].console, session.instruments[1].console);
     EXPECT_EQ(read.instruments[1].options, session.instruments[1].options);
     EXPECT_EQ(read.layout, session.layout);
 
