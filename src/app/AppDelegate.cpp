@@ -398,9 +398,7 @@ void AppDelegate::handle(const InputEvent& event)
         break;
     case InputEvent::Kind::Volume:
         emit volumeMoved(event.slider, event.volume);
-        if (organ_.definition() != nullptr)
-            organ_.announceMove();
-        break;
+        [[fallthrough]];
     case InputEvent::Kind::Console:
         organ_.announceMove();
         break;

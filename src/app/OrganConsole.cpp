@@ -67,6 +67,12 @@ ConsoleState OrganConsole::state()
     return state;
 }
 
+void OrganConsole::announceMove()
+{
+    if (organ_ != nullptr)
+        emit moved();
+}
+
 void OrganConsole::draw(std::size_t stop, bool isDrawn)
 {
     move([&](Console& console) { console.draw(stop, isDrawn); });

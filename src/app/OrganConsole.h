@@ -29,8 +29,8 @@ public:
     /// with the player's lock held.
     OrganConsole(Player& player, std::function<void()> announce);
 
-    /// Emits `moved`.
-    void announceMove() { emit moved(); }
+    /// Emits `moved` if the current instrument is an organ.
+    void announceMove();
 
     /// Looks at the current instrument again, and reads what the user keeps for it.
     void takeInstrument(Instrument& instrument);

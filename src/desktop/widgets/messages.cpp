@@ -87,6 +87,7 @@ constexpr const char* kMessages[] = {
     QT_TRANSLATE_NOOP("velmora::messages",
                       "a chunk of %1 bytes is truncated: the file has only %2 more"),
     QT_TRANSLATE_NOOP("velmora::messages", "this is not a session of Velmora"),
+    QT_TRANSLATE_NOOP("velmora::messages", "these are not the registrations of an organ"),
     QT_TRANSLATE_NOOP("velmora::messages", "a later version of Velmora has written this session"),
     // Instruments
     QT_TRANSLATE_NOOP(
