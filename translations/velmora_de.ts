@@ -410,7 +410,7 @@
     <name>velmora::DivisionChooser</name>
     <message>
         <source>This &amp;keyboard plays:</source>
-        <translation type="unfinished">Diese &amp;Klaviatur spielt:</translation>
+        <translation type="unfinished">Diese Klaviat&amp;ur spielt:</translation>
     </message>
     <message>
         <source>The manual that the keyboard on the screen and the letter keys play</source>
@@ -975,6 +975,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source> semitones</source>
         <translation type="unfinished"> Halbtöne</translation>
+    </message>
+    <message>
+        <source>Correct the ban&amp;k&apos;s own tuning</source>
+        <translation type="unfinished">Ei&amp;gene Verstimmung der Bank korrigieren</translation>
+    </message>
+    <message>
+        <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
+        <translation type="unfinished">Tasten, die in einem SoundFont verstimmt sind, werden beim ersten Gebrauch eines Programms gemessen und korrigiert</translation>
     </message>
 </context>
 <context>
@@ -1776,7 +1784,7 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
     <message>
         <source>&amp;Console</source>
-        <translation type="unfinished">&amp;Spieltisch</translation>
+        <translation type="unfinished">Spi&amp;eltisch</translation>
     </message>
     <message>
         <source>Show the stops of the organ</source>
@@ -2411,7 +2419,7 @@ Ein Klick zeigt alle Stimmungen</translation>
     </message>
     <message>
         <source>C&amp;onsole</source>
-        <translation type="unfinished">Sp&amp;ieltisch</translation>
+        <translation type="unfinished">S&amp;pieltisch</translation>
     </message>
 </context>
 <context>

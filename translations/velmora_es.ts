@@ -410,7 +410,7 @@
     <name>velmora::DivisionChooser</name>
     <message>
         <source>This &amp;keyboard plays:</source>
-        <translation type="unfinished">Este te&amp;clado toca:</translation>
+        <translation type="unfinished">Este tec&amp;lado toca:</translation>
     </message>
     <message>
         <source>The manual that the keyboard on the screen and the letter keys play</source>
@@ -975,6 +975,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source> semitones</source>
         <translation type="unfinished"> semitonos</translation>
+    </message>
+    <message>
+        <source>Correct the ban&amp;k&apos;s own tuning</source>
+        <translation type="unfinished">Corregir la afinación propia del &amp;banco</translation>
+    </message>
+    <message>
+        <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
+        <translation type="unfinished">Las teclas desafinadas de una SoundFont se miden al usar un programa por primera vez y se corrigen</translation>
     </message>
 </context>
 <context>
@@ -1776,7 +1784,7 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
     <message>
         <source>&amp;Console</source>
-        <translation type="unfinished">&amp;Consola</translation>
+        <translation type="unfinished">Consola &amp;y registros</translation>
     </message>
     <message>
         <source>Show the stops of the organ</source>

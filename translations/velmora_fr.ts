@@ -410,7 +410,7 @@
     <name>velmora::DivisionChooser</name>
     <message>
         <source>This &amp;keyboard plays:</source>
-        <translation type="unfinished">Ce &amp;clavier joue :</translation>
+        <translation type="unfinished">Ce cla&amp;vier joue :</translation>
     </message>
     <message>
         <source>The manual that the keyboard on the screen and the letter keys play</source>
@@ -975,6 +975,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source> semitones</source>
         <translation type="unfinished"> demi-tons</translation>
+    </message>
+    <message>
+        <source>Correct the ban&amp;k&apos;s own tuning</source>
+        <translation type="unfinished">Corriger l’accord propre de la &amp;banque</translation>
+    </message>
+    <message>
+        <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
+        <translation type="unfinished">Les touches désaccordées d’une SoundFont sont mesurées à la première utilisation d’un programme, puis corrigées</translation>
     </message>
 </context>
 <context>
@@ -1776,7 +1784,7 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>&amp;Console</source>
-        <translation type="unfinished">&amp;Console</translation>
+        <translation type="unfinished">Consol&amp;e</translation>
     </message>
     <message>
         <source>Show the stops of the organ</source>
@@ -2411,7 +2419,7 @@ Cliquez pour afficher tous les tempéraments</translation>
     </message>
     <message>
         <source>C&amp;onsole</source>
-        <translation type="unfinished">C&amp;onsole</translation>
+        <translation type="unfinished">Conso&amp;le</translation>
     </message>
 </context>
 <context>

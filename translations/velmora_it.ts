@@ -976,6 +976,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source> semitones</source>
         <translation type="unfinished"> semitoni</translation>
     </message>
+    <message>
+        <source>Correct the ban&amp;k&apos;s own tuning</source>
+        <translation type="unfinished">Correggi l’accordatura propria del &amp;banco</translation>
+    </message>
+    <message>
+        <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
+        <translation type="unfinished">I tasti stonati di una SoundFont vengono misurati al primo uso di un programma e corretti</translation>
+    </message>
 </context>
 <context>
     <name>velmora::PreferencesWindow</name>
@@ -1776,7 +1784,7 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
     <message>
         <source>&amp;Console</source>
-        <translation type="unfinished">&amp;Consolle</translation>
+        <translation type="unfinished">Consolle di &amp;quest’organo</translation>
     </message>
     <message>
         <source>Show the stops of the organ</source>
@@ -2411,7 +2419,7 @@ Fai clic per mostrare tutti i temperamenti</translation>
     </message>
     <message>
         <source>C&amp;onsole</source>
-        <translation type="unfinished">C&amp;onsolle</translation>
+        <translation type="unfinished">Conso&amp;lle</translation>
     </message>
 </context>
 <context>

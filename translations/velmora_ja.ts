@@ -974,6 +974,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source> semitones</source>
         <translation type="unfinished"> 半音</translation>
     </message>
+    <message>
+        <source>Correct the ban&amp;k&apos;s own tuning</source>
+        <translation type="unfinished">バンク自体の調律を補正する(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
+        <translation type="unfinished">SoundFont の中でずれている鍵は、プログラムを初めて使うときに測って補正します</translation>
+    </message>
 </context>
 <context>
     <name>velmora::PreferencesWindow</name>

@@ -16,7 +16,8 @@ PlayingPane::PlayingPane()
           "Transposition", tr("How much higher than written the keys of MIDI devices sound"))),
       bendRange_(makeSemitones("BendRange", tr("How far the pitch wheel bends up and down; with 0 "
                                                "it does nothing"))),
-      plain_(new QCheckBox(tr("Pl&ain reading of MIDI devices")))
+      plain_(new QCheckBox(tr("Pl&ain reading of MIDI devices"))),
+      correction_(new QCheckBox(tr("Correct the ban&k's own tuning")))
 {
     // In the order of `VelocityCurve`.
     touch_->addItems({tr("Linear: as the keyboard sends it"), tr("Soft: a light touch is louder"),
@@ -37,11 +38,20 @@ PlayingPane::PlayingPane()
         emit changed();
     });
 
+    correction_->setObjectName("CorrectTuning");
+    correction_->setToolTip(tr("Keys that a SoundFont has out of tune are measured when a program "
+                               "is first used, and corrected"));
+    connect(correction_, &QCheckBox::toggled, this, [this](bool isOn) {
+        setPrefBool("CorrectTuning", isOn);
+        emit changed();
+    });
+
     auto* form = new QFormLayout(this);
     form->addRow(tr("&Touch:"), touch_);
     form->addRow(tr("T&ransposition:"), transposition_);
     form->addRow(tr("Pitch &wheel:"), bendRange_);
     form->addRow(QString(), plain_);
+    form->addRow(QString(), correction_);
 }
 
 QSpinBox* PlayingPane::makeSemitones(const char* key, const QString& help)
@@ -63,11 +73,13 @@ QSpinBox* PlayingPane::makeSemitones(const char* key, const QString& help)
 
 void PlayingPane::read()
 {
-    const QSignalBlocker transposition(transposition_), bendRange(bendRange_), plain(plain_);
+    const QSignalBlocker transposition(transposition_), bendRange(bendRange_), plain(plain_),
+        correction(correction_);
     touch_->setCurrentIndex(getPrefInt("VelocityCurve"));
     transposition_->setValue(getPrefInt("Transposition"));
     bendRange_->setValue(getPrefInt("BendRange"));
     plain_->setChecked(getPrefBool("PlainReading"));
+    correction_->setChecked(getPrefBool("CorrectTuning"));
     showReading();
 }
 

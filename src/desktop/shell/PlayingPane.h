@@ -29,7 +29,7 @@ private:
 
     QComboBox* touch_;
     QSpinBox *transposition_, *bendRange_;
-    QCheckBox* plain_;
+    QCheckBox *plain_, *correction_;
 };
 
 } // namespace velmora
