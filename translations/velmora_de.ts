@@ -2860,6 +2860,10 @@ Ein Klick zeigt alle Stimmungen</translation>
         <source>needs about %1 of memory, but only %2 are free; unload other instruments or close other programs</source>
         <translation type="unfinished">braucht etwa %1 Speicher, aber nur %2 sind frei; entladen Sie andere Instrumente oder schließen Sie andere Programme</translation>
     </message>
+    <message>
+        <source>these are not the registrations of an organ</source>
+        <translation type="unfinished">dies sind keine Registrierungen einer Orgel</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

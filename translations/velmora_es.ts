@@ -2860,6 +2860,10 @@ Haga clic para ver todas las afinaciones</translation>
         <source>needs about %1 of memory, but only %2 are free; unload other instruments or close other programs</source>
         <translation type="unfinished">necesita unos %1 de memoria, pero solo hay %2 libres; retire otros instrumentos o cierre otros programas</translation>
     </message>
+    <message>
+        <source>these are not the registrations of an organ</source>
+        <translation type="unfinished">no son las registraciones de un órgano</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

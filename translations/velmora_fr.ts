@@ -2860,6 +2860,10 @@ Cliquez pour afficher tous les tempéraments</translation>
         <source>needs about %1 of memory, but only %2 are free; unload other instruments or close other programs</source>
         <translation type="unfinished">il faut environ %1 de mémoire, mais seuls %2 sont libres ; retirez d’autres instruments ou fermez d’autres programmes</translation>
     </message>
+    <message>
+        <source>these are not the registrations of an organ</source>
+        <translation type="unfinished">ce ne sont pas les registrations d’un orgue</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

@@ -2860,6 +2860,10 @@ Fai clic per mostrare tutti i temperamenti</translation>
         <source>needs about %1 of memory, but only %2 are free; unload other instruments or close other programs</source>
         <translation type="unfinished">servono circa %1 di memoria, ma solo %2 sono liberi; rimuovere altri strumenti o chiudere altri programmi</translation>
     </message>
+    <message>
+        <source>these are not the registrations of an organ</source>
+        <translation type="unfinished">queste non sono le registrazioni di un organo</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

@@ -2847,6 +2847,10 @@ Click to show all tunings</source>
         <source>needs about %1 of memory, but only %2 are free; unload other instruments or close other programs</source>
         <translation type="unfinished">メモリが約 %1 必要ですが、空きは %2 だけです。ほかの楽器を解放するか、ほかのプログラムを閉じてください</translation>
     </message>
+    <message>
+        <source>these are not the registrations of an organ</source>
+        <translation type="unfinished">オルガンのレジストレーションではありません</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

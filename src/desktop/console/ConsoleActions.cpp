@@ -73,9 +73,9 @@ ConsoleActions::makeRegistrations(Commands& commands) const
     std::array<QAction*, kRegistrationButtons> actions{};
     for (int number = 1; QAction * &action : actions) {
         const auto key = static_cast<Qt::Key>(Qt::Key_0 + number % 10);
-        action =
-            commands.add(qPrintable(QString("console.registration%1").arg(number)), group(),
-                         {tr("Registration %1").arg(number), {}}, {QKeySequence(Qt::CTRL | key)});
+        action = commands.add(qPrintable(QString("console.registration%1").arg(number)), group(),
+                              {tr("Registration %1").arg(number), {}},
+                              {QKeySequence(Qt::CTRL | Qt::ALT | key)});
         action->setIconText(QString::number(number++));
     }
     return actions;

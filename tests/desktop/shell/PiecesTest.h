@@ -52,7 +52,7 @@ protected:
         for (qsizetype i = 0; i < actions.size(); ++i) {
             if (actions[i]->iconText() == text)
                 return *actions[i];
-            if (actions[i]->menu() != nullptr)
+            if (actions[i]->menu() != nullptr && actions[i]->isVisible())
                 actions += actions[i]->menu()->actions();
         }
         throw std::runtime_error(text.toStdString());

@@ -61,14 +61,14 @@ TEST_F(SessionKeeperTest, StartsAsItEnded)
         desktop.open({textOf(kBank), VELMORA_EXAMPLES "/werckmeister-3.scl", piece()});
         desktop.pages().current()->document().transport().setPosition(20.0);
         desktop.pages().create();
-        desktop.application().setVolumeOfStop(1, 0.25F);
+        desktop.application().setVolumeOfStop(0, 0.25F);
         desktop.workspace().setLayout(Workspace::Layout::Edit);
     });
     run([&](Desktop& desktop) {
         EXPECT_EQ(desktop.application().instruments().size(), 2U);
         EXPECT_TRUE(desktop.application().isCurrent(*desktop.application().instruments()[1]));
         desktop.application().player().with([](const Instrument& current, const Temperament&) {
-            EXPECT_FLOAT_EQ(current.getVolume(1), 0.5F);
+            EXPECT_FLOAT_EQ(current.getVolume(0), 0.25F);
         });
         EXPECT_EQ(desktop.application().tuningName(), "werckmeister-3.scl");
         ASSERT_EQ(desktop.pages().all().size(), 1U) << "the untitled one was not saved";
