@@ -20,7 +20,7 @@ constexpr double kTurn = 2.0 * std::numbers::pi;
 
 /// Of the windows that follow a partial: long enough to keep its neighbours out.
 constexpr double kLeastWindow = 0.03; ///< In seconds.
-constexpr double kWindowPeriods = 6.0;
+constexpr double kPitchWindowPeriods = 6.0;
 constexpr std::size_t kWindowsInWindow = 4; ///< How many begin within the length of one.
 constexpr std::size_t kLeastWindows = 8;
 
@@ -117,7 +117,7 @@ std::optional<MeasuredPitch> measurePitch(std::span<const float> sound, double r
     constexpr int kPartials = 6;
     constexpr double kFarWeaker = 0.01; // in power
     const auto window =
-        static_cast<std::size_t>(rate * std::max(kLeastWindow, kWindowPeriods / expectedHertz));
+        static_cast<std::size_t>(rate * std::max(kLeastWindow, kPitchWindowPeriods / expectedHertz));
     std::optional<Partial> best;
     double bestPower = 0.0;
     int number = 0;
