@@ -1,6 +1,7 @@
 // Measures the time from receiving a key to playing it while the keyboard repaints. The MIDI
 // messages come through a JACK server with the dummy driver. Needs a display.
 
+#include "app/generalMidiBanks.h"
 #include "audio/Synthesizer.h"
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/Desktop.h"

@@ -2,6 +2,7 @@
 // of notes at irregular times, through the General MIDI synthesizer on a JACK server with the dummy
 // driver. Needs a display.
 
+#include "app/generalMidiBanks.h"
 #include "audio/Synthesizer.h"
 #include "base/Clock.h"
 #include "desktop/shell/Desktop.h"

@@ -3,6 +3,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/SequenceRenderer.h"
+#include "app/generalMidiBanks.h"
 #include "audio/Synthesizer.h"
 #include "midi/messages.h"
 #include "tuning/TuningDocument.h"

@@ -33,9 +33,6 @@ namespace velmora {
 class Synthesizer;
 class TuningCorrector;
 
-/// The SoundFonts to try for the General MIDI synthesizer; the user's choice comes first.
-std::vector<std::filesystem::path> generalMidiBanks();
-
 /// The application without its windows: the lists of instruments and tunings, the devices, and the
 /// player that they share.
 ///
@@ -177,7 +174,7 @@ public:
     void keyOn(int key, float velocity) override { player_.keyOn(key, velocity); }
     void keyOff(int key) override { player_.keyOff(key); }
     void setVolume(float volume, std::size_t slider) override;
-    void midiInput() override;
+    void midiInput() override { queue_.post({}); }
 
     void startProgress(long steps) override;
     void updateProgress(unsigned steps, const std::string& text) override;

@@ -1,6 +1,7 @@
 #include "app/OfflineSound.h"
 
 #include "app/AppDelegate.h"
+#include "app/generalMidiBanks.h"
 #include "app/tuningCorrections.h"
 #include "sound/OrganInstrument.h"
 

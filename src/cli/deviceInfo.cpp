@@ -1,6 +1,7 @@
 #include "cli/deviceInfo.h"
 
 #include "app/AppDelegate.h"
+#include "app/generalMidiBanks.h"
 #include "audio/Synthesizer.h"
 #include "audio/outputDrivers.h"
 #include "platform/quiet.h"

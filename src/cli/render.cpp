@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 
 #include "app/OfflineSound.h"
+#include "app/generalMidiBanks.h"
 #include "app/tuningCorrections.h"
 #include "audio/AudioFileWriter.h"
 #include "cli/Interruption.h"

@@ -1,6 +1,7 @@
 #include "app/AudioExport.h"
 
 #include "app/AppDelegate.h"
+#include "app/generalMidiBanks.h"
 #include "audio/AudioFileDecoder.h"
 #include "base/File.h"
 #include "support/Bank.h"

@@ -1,6 +1,7 @@
 // Live playing from end to end: from a MIDI port to JACK.
 
 #include "app/AppDelegate.h"
+#include "app/generalMidiBanks.h"
 #include "audio/Synthesizer.h"
 #include "midi/messages.h"
 #include "support/Bank.h"

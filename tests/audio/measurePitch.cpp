@@ -14,18 +14,18 @@ namespace velmora {
 
 namespace {
 
-constexpr double kRate = 44100.0;
+constexpr double kRecordedRate = 44100.0;
 
 /// One second of a sound, whose samples are a function of the seconds.
-std::vector<float> second(const std::function<double(double)>& sample)
+std::vector<float> oneSecond(const std::function<double(double)>& sample)
 {
     std::vector<float> sound;
     for (int i = 0; i < 44100; ++i)
-        sound.push_back(static_cast<float>(sample(i / kRate)));
+        sound.push_back(static_cast<float>(sample(i / kRecordedRate)));
     return sound;
 }
 
-double sine(double hertz, double seconds)
+double wave(double hertz, double seconds)
 {
     return std::sin(2.0 * std::numbers::pi * hertz * seconds);
 }
@@ -38,12 +38,12 @@ TEST(MeasurePitch, FollowsThePartialsOfHeldAndDyingSounds)
         for (const double off : {-45.0, 0.0, 3.3, 45.0}) {
             const double actual = hertz * std::exp2(off / 1200.0);
             const std::function<double(double)> sounds[] = {
-                [&](double t) { return 0.5 * sine(actual, t); },
-                [&](double t) { return std::exp(-8.0 * t) * sine(actual, t); },
-                [&](double t) { return 0.01 * sine(actual, t) + 0.5 * sine(2.0 * actual, t); },
-                [&](double t) { return 0.3 * sine(actual, t) + 0.6 * sine(3.01 * actual, t); }};
+                [&](double t) { return 0.5 * wave(actual, t); },
+                [&](double t) { return std::exp(-8.0 * t) * wave(actual, t); },
+                [&](double t) { return 0.01 * wave(actual, t) + 0.5 * wave(2.0 * actual, t); },
+                [&](double t) { return 0.3 * wave(actual, t) + 0.6 * wave(3.01 * actual, t); }};
             for (const auto& sound : sounds) {
-                const auto pitch = measurePitch(second(sound), kRate, hertz);
+                const auto pitch = measurePitch(oneSecond(sound), kRecordedRate, hertz);
                 ASSERT_TRUE(pitch);
                 EXPECT_NEAR(cents(pitch->hertz, actual), 0.0, 0.02)
                     << hertz << " Hz, sound " << &sound - sounds;
@@ -55,23 +55,26 @@ TEST(MeasurePitch, FollowsThePartialsOfHeldAndDyingSounds)
 
 TEST(MeasurePitch, AveragesVibratoAndNoticesBeats)
 {
-    const auto vibrato = measurePitch(
-        second([](double t) { return sine(440.0, t + 2e-4 * sine(6.0, t)); }), kRate, 442.0);
+    const auto vibrato =
+        measurePitch(oneSecond([](double t) { return wave(440.0, t + 2e-4 * wave(6.0, t)); }),
+                     kRecordedRate, 442.0);
     EXPECT_NEAR(cents(vibrato->hertz, 440.0), 0.0, 0.5);
     EXPECT_LT(vibrato->swing, 1.0);
-    const auto beats = measurePitch(
-        second([](double t) { return sine(439.0, t) + 0.8 * sine(442.0, t); }), kRate, 440.0);
+    const auto beats =
+        measurePitch(oneSecond([](double t) { return wave(439.0, t) + 0.8 * wave(442.0, t); }),
+                     kRecordedRate, 440.0);
     EXPECT_GT(beats->swing, 2.2);
 }
 
 TEST(MeasurePitch, RefusesWhatHasNoSuchPitch)
 {
-    EXPECT_FALSE(measurePitch(second([](double) { return 0.0; }), kRate, 440.0));
-    EXPECT_FALSE(measurePitch(second([](double t) { return sine(460.0, t); }), kRate, 440.0));
-    EXPECT_FALSE(measurePitch(std::vector<float>(100, 0.5F), kRate, 440.0));
+    EXPECT_FALSE(measurePitch(oneSecond([](double) { return 0.0; }), kRecordedRate, 440.0));
+    EXPECT_FALSE(
+        measurePitch(oneSecond([](double t) { return wave(460.0, t); }), kRecordedRate, 440.0));
+    EXPECT_FALSE(measurePitch(std::vector<float>(100, 0.5F), kRecordedRate, 440.0));
 
-    Pcm recording{{}, 2, kRate};
-    for (const float sample : second([](double t) { return sine(t < 0.15 ? 300.0 : 441.0, t); }))
+    Pcm recording{{}, 2, kRecordedRate};
+    for (const float sample : oneSecond([](double t) { return wave(t < 0.15 ? 300.0 : 441.0, t); }))
         recording.samples.insert(recording.samples.end(),
                                  {static_cast<std::int16_t>(20000.0F * sample), 0});
     EXPECT_NEAR(cents(measurePitch(recording, 440.0)->hertz, 441.0), 0.0, 0.02)

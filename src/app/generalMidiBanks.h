@@ -1,0 +1,11 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+namespace velmora {
+
+/// The SoundFonts to try for the General MIDI synthesizer; the user's choice comes first.
+std::vector<std::filesystem::path> generalMidiBanks();
+
+} // namespace velmora
