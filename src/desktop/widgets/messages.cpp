@@ -9,6 +9,8 @@ namespace velmora {
 
 namespace {
 
+// NOLINTBEGIN(bugprone-suspicious-missing-comma): long messages take several lines
+
 /// The messages with their arguments, those with a fixed text first.
 constexpr const char* kMessages[] = {
     // Instruments and their progress
@@ -158,6 +160,8 @@ constexpr const char* kMessages[] = {
     QT_TRANSLATE_NOOP("velmora::messages", "%1, line %2: %3"),
     QT_TRANSLATE_NOOP("velmora::messages", "%1, byte %2: %3"),
 };
+
+// NOLINTEND(bugprone-suspicious-missing-comma)
 
 QString translation(const char* message)
 {
