@@ -19,6 +19,7 @@ complete -c velmora -n "__fish_seen_subcommand_from live devices doctor" -f
 complete -c velmora -n $playing -l tuning -x -d Temperament \
     -a "Equal meantone Dynamic (__fish_complete_suffix .scl .mtx)"
 complete -c velmora -n $playing -l program -x -d "General MIDI program, a number or a name"
+complete -c velmora -n $playing -l bank -x -d "Bank of a SoundFont"
 complete -c velmora -n $playing -l instrument -r -d "Sampled instrument"
 complete -c velmora -n $playing -l stop -x -d "Gain of a stop, as in 0=0.8"
 
@@ -29,7 +30,9 @@ complete -c velmora -n $render -l loop-start -x -d "First step to play"
 complete -c velmora -n $render -l loop-end -x -d "End of the interval"
 complete -c velmora -n $render -l loops -x -d "How many times to play the interval"
 
-complete -c velmora -n $live -l plain -d "Read MIDI devices plainly"
+complete -c velmora -n $live -l plain -d "Read the instrument and MIDI devices plainly"
+complete -c velmora -n "__fish_seen_subcommand_from render info" -l plain -d "Read the instrument plainly"
+complete -c velmora -n "__fish_seen_subcommand_from render live info" -l as-stops -d "Lay out a SoundFont as stops"
 complete -c velmora -n $sound -l output -x -a "jack pulseaudio alsa none" -d "Sound output"
 complete -c velmora -n $sound -l period -x -d "Frames in a period"
 

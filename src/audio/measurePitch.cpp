@@ -116,8 +116,8 @@ std::optional<MeasuredPitch> measurePitch(std::span<const float> sound, double r
 {
     constexpr int kPartials = 6;
     constexpr double kFarWeaker = 0.01; // in power
-    const auto window =
-        static_cast<std::size_t>(rate * std::max(kLeastWindow, kPitchWindowPeriods / expectedHertz));
+    const auto window = static_cast<std::size_t>(
+        rate * std::max(kLeastWindow, kPitchWindowPeriods / expectedHertz));
     std::optional<Partial> best;
     double bestPower = 0.0;
     int number = 0;

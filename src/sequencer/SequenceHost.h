@@ -14,8 +14,9 @@ public:
     virtual ~SequenceHost() = default;
 
     /// Starts a key on the current instrument at the pitch of the current temperament. `channel`,
-    /// 0…15, chooses the division of an organ. `time` is the moment that is meant, in the seconds of `getTime`; it sounds a constant delay later, or
-    /// as soon as possible if `time` is 0. Does nothing if there is no instrument.
+    /// 0…15, chooses the division of an organ. `time` is the moment that is meant, in the seconds
+    /// of `getTime`; it sounds a constant delay later, or as soon as possible if `time` is 0. Does
+    /// nothing if there is no instrument.
     virtual void play(int key, float velocity, int channel, double time) = 0;
 
     /// Stops a key that was started with `play` for a channel or `kEveryChannel`, on every

@@ -84,7 +84,8 @@ TEST(Healing, PlaysAnInstrumentThatWasOpenedBeforeThereWasSound)
     EXPECT_TRUE(waitUntil([&] { return app.output()->status().driver == "none"; }));
     EXPECT_EQ(app.output()->status().missing, "JACK is missing; waiting for it.");
     auto bank = std::make_unique<InstrumentDocument>();
-    ASSERT_TRUE(bank->read(kBank, InstrumentFormat::SoundFont, {Reading::Plain}, app)) << bank->errorString();
+    ASSERT_TRUE(bank->read(kBank, InstrumentFormat::SoundFont, {Reading::Plain}, app))
+        << bank->errorString();
     app.addInstrument(std::move(bank));
     const Trill trill(app);
     server.restart();

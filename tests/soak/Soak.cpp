@@ -304,7 +304,8 @@ private:
                           "FirstAccessibleKeyMIDINoteNumber=48\n[Stop001]\nName=Flute\n"
                           "Pipe001=a.wav\nPipe013=b.wav\n[Stop002]\nPipe007=b.wav\n");
         auto document = std::make_unique<InstrumentDocument>();
-        require(document->read(path, InstrumentFormat::Hauptwerk1, {Reading::Plain}, app_), document->errorString());
+        require(document->read(path, InstrumentFormat::Hauptwerk1, {Reading::Plain}, app_),
+                document->errorString());
         app_.addInstrument(std::move(document));
     }
 

@@ -26,7 +26,10 @@ protected:
         if (onPlay_)
             onPlay_();
     }
-    void stop(int key, int /*channel*/, double /*time*/) override { called(fmt::format("stop {}", key)); }
+    void stop(int key, int /*channel*/, double /*time*/) override
+    {
+        called(fmt::format("stop {}", key));
+    }
     LiveKeys& liveKeys() override { return liveKeys_; }
 
     /// Adds a committed note and measures the extent.
