@@ -47,8 +47,11 @@ std::vector<Program> SoundFontBank::programs() const
         return std::tuple(program.bank, program.number);
     };
     std::ranges::stable_sort(programs, {}, numbers);
-    const auto doubled = std::ranges::unique(programs, {}, numbers);
-    programs.erase(doubled.begin(), doubled.end());
+    programs.erase(std::unique(programs.begin(), programs.end(),
+                               [&](const Program& one, const Program& other) {
+                                   return numbers(one) == numbers(other);
+                               }),
+                   programs.end());
     return programs;
 }
 

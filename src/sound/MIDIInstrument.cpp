@@ -60,7 +60,7 @@ std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<Musi
     corrections_.assign(programs_.size(), {});
     bank_ = programs_[program_].bank;
     send(midi::kControlChange, midi::kBankSelect, bank_);
-    setProgram(program_);
+    MIDIInstrument::setProgram(program_);
     device_->bend(bend_);
     return device;
 }
