@@ -77,13 +77,13 @@ SectionedRanks::SectionedRanks(const OrganSections& sections,
     for (const int number : sections.numbers("windchestgroup"))
         hasSwells_ |=
             !sections.find(fmt::format("windchestgroup{}", number))->numbers("enclosure").empty();
-    // The pedal is number 0, so it comes last here. See docs/decisions.md, 152.
-    for (auto manual = manuals.rbegin(); manual != manuals.rend(); ++manual) {
-        for (const auto& [number, stop] : manual->second.stops) {
-            divisions_[stop] = manual->second.division;
+    // The pedal is number 0, so every manual comes after it. See docs/decisions.md, 152.
+    for (const auto& [manualNumber, manual] : manuals) {
+        for (const auto& [stopNumber, stop] : manual.stops) {
+            divisions_[stop] = manual.division;
             for (const int n : stop->numbers("rank")) {
                 if (const OrganSection* rank = rankOf(*stop, n))
-                    divisions_.try_emplace(rank, manual->second.division);
+                    divisions_[rank] = manual.division;
             }
         }
     }
