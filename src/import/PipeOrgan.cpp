@@ -305,7 +305,8 @@ bool canSound(const ConsoleDefinition::Stop& stop, const std::vector<InstrumentS
     });
 }
 
-/// Draws the first stop that can sound, unless another one is drawn.
+/// Unless a stop that can sound is drawn, draws the first one of each division, so that every
+/// keyboard sounds.
 void drawStops(ConsoleDefinition& console, std::vector<InstrumentStop>& ranks)
 {
     const auto sounds = [&](const ConsoleDefinition::Stop& stop) { return canSound(stop, ranks); };
@@ -313,9 +314,10 @@ void drawStops(ConsoleDefinition& console, std::vector<InstrumentStop>& ranks)
         return stop.isDrawn && sounds(stop);
     };
     if (std::ranges::none_of(console.stops, isDrawn)) {
-        const auto first = std::ranges::find_if(console.stops, sounds);
-        if (first != console.stops.end())
-            first->isDrawn = true;
+        std::set<std::size_t> divisions;
+        for (ConsoleDefinition::Stop& stop : console.stops)
+            if (sounds(stop) && divisions.insert(stop.division).second)
+                stop.isDrawn = true;
     }
     constexpr float kDrawn = 0.5F; // shown as 1: see docs/decisions.md, 22
     for (const ConsoleDefinition::Stop& stop : console.stops) {

@@ -74,7 +74,8 @@ struct PipeOrgan {
 
 /// Loads the files of an organ and makes the import's instrument of its ranks; the console becomes
 /// that of the import. Files that cannot be decoded are skipped. If the console draws no stop that
-/// can sound, its first such stop is drawn. Throws FormatError if nothing sounds, and Cancelled.
+/// can sound, the first such stop of each division is drawn. Throws FormatError if nothing sounds,
+/// and Cancelled.
 void loadPipeOrgan(const PipeOrgan& organ, Import& import);
 
 } // namespace velmora

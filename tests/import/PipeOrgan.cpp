@@ -1,5 +1,7 @@
 #include "import/PipeOrgan.h"
 
+#include "import/FolderTree.h"
+#include "import/Import.h"
 #include "import/InstrumentDocument.h"
 #include "import/pipePitch.h"
 #include "import/sampleChunks.h"
@@ -225,5 +227,35 @@ TEST(PipeOrgan, SoundsInTuneForAsLongAsItsKeysAreHeld)
 }
 
 } // namespace
+
+TEST(PipeOrgan, OpensWithTheFirstSoundingStopOfEachDivision)
+{
+    const OrganFolder folder;
+    folder.writeSine("a.wav", 261.6);
+    PipeOrgan organ;
+    organ.tree = openFolder(folder.path());
+    organ.files = {"gone.wav", "a.wav"};
+    organ.console.divisions.resize(2);
+    for (const std::size_t file : {0, 1}) {
+        PipeOrgan::Pipe pipe;
+        pipe.key = 60;
+        pipe.attacks.emplace_back().file = file;
+        organ.ranks.emplace_back().pipes = {pipe};
+    }
+    const auto addStop = [&](std::size_t division, std::size_t rank) {
+        organ.console.stops.push_back({"", division, {{60, 1, rank, 60}}, false});
+    };
+    addStop(0, 0);
+    addStop(0, 1);
+    addStop(0, 1);
+    addStop(1, 1);
+    RecordingHost host;
+    Import import(host, {});
+    loadPipeOrgan(organ, import);
+    std::vector<bool> drawn;
+    for (const ConsoleDefinition::Stop& stop : import.console->stops)
+        drawn.push_back(stop.isDrawn);
+    EXPECT_THAT(drawn, ElementsAre(false, true, false, true));
+}
 
 } // namespace velmora
