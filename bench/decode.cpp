@@ -73,7 +73,7 @@ const Files& files()
 void decode(benchmark::State& state, unsigned threads)
 {
     while (state.KeepRunning()) {
-        SoundLoader loader(files().paths, threads);
+        SoundLoader loader(files().paths, {}, threads);
         for (int i = 0; i < kFiles; ++i)
             benchmark::DoNotOptimize(loader.next());
     }

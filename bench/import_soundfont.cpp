@@ -46,7 +46,7 @@ template <class Work> double secondsOf(Work&& work)
 double import()
 {
     SilentHost host;
-    Import result(host);
+    Import result(host, {Reading::Plain});
     return secondsOf([&result] { readSoundFont(bank(), result); });
 }
 

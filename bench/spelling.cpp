@@ -113,7 +113,9 @@ void play(const Piece& piece, Temperament& temperament, Score& score)
     Silent instrument;
     std::vector<const Note*> sounding;
     double last = 0.0;
-    for (const auto& [time, isStart, note] : events) {
+    for (const Event& event : events) {
+        const auto [time, isStart] = std::pair(event.time, event.isStart);
+        const Note* note = event.note;
         if (time > last)
             addIntervals(sounding, temperament, time - last, score);
         last = time;

@@ -11,7 +11,7 @@ namespace velmora {
 
 namespace {
 
-constexpr std::size_t kPedal = 0, kGreat = 1, kSwell = 2;
+constexpr std::size_t kGreat = 1, kSwell = 2;
 constexpr std::size_t kPrincipal = 0, kMixture = 1, kFlute = 2;
 constexpr std::size_t kSwellToGreat = 0, kOctave = 1, kGreatToSwell = 2;
 
