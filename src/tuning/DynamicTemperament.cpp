@@ -40,6 +40,11 @@ const Tuning& DynamicTemperament::getTuning(unsigned long key) const
     return *tunings()[voices_[key % 12].current];
 }
 
+std::optional<int> DynamicTemperament::place(unsigned long key) const
+{
+    return meantone::placeOf(voices_[key % 12].current);
+}
+
 float DynamicTemperament::score(const Voice& struck, std::size_t candidate) const
 {
     float sum = struck.current == candidate && struck.weight != 0.0F ? kHold : 0.0F;

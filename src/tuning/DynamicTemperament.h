@@ -17,6 +17,7 @@ public:
 
     std::unique_ptr<Temperament> fresh() const override;
     const Tuning& getTuning(unsigned long key) const override;
+    std::optional<int> place(unsigned long key) const override;
 
     /// Chooses the spelling of the struck pitch class, then retunes the instrument.
     void setup(Tunable& instrument, unsigned char key, float velocity) override;

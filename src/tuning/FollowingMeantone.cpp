@@ -23,6 +23,11 @@ const Tuning& FollowingMeantone::getTuning(unsigned long key) const
     return *tunings()[meantone::indexOf(follower_.place(static_cast<unsigned>(key % 12)))];
 }
 
+std::optional<int> FollowingMeantone::place(unsigned long key) const
+{
+    return follower_.place(static_cast<unsigned>(key % 12));
+}
+
 void FollowingMeantone::setup(Tunable& instrument, unsigned char key, float /*velocity*/)
 {
     follow(key);

@@ -15,6 +15,8 @@ public:
 
     std::unique_ptr<Temperament> fresh() const override;
     const Tuning& getTuning(unsigned long key) const override;
+    std::optional<int> place(unsigned long key) const override;
+    std::optional<double> centre() const override { return follower_.centre(); }
     void setTime(double seconds) override { time_ = seconds; }
     void setup(Tunable& instrument, unsigned char key, float velocity) override;
     void release(unsigned char key) override;

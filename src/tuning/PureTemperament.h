@@ -29,7 +29,7 @@ public:
     void release(unsigned char key) override;
 
     /// How far the sounding pitch classes lie above quarter-comma meantone, in cents in the mean.
-    double drift() const { return drift_; }
+    double drift() const override { return drift_; }
 
 private:
     void adjust(const std::array<bool, 12>& wasHeld);

@@ -28,7 +28,7 @@ public:
     SpellingFollower() : SpellingFollower(Settings{}) {}
     explicit SpellingFollower(const Settings& settings) : settings_(settings) {}
 
-    /// Presses a key, 0…127, at a time in seconds. A time before that of an earlier call counts as
+    /// Presses a key, 0…139, at a time in seconds. A time before that of an earlier call counts as
     /// that one. A pitch class that sounds keeps its spelling, unless it can still be corrected.
     void strike(unsigned key, double time);
 
@@ -72,7 +72,7 @@ private:
     Settings settings_;
     double time_ = 0.0;
     Weight released_; ///< What is left at `time_` of the notes that have been released.
-    std::bitset<128> pressed_;
+    std::bitset<140> pressed_;
     std::array<PitchClass, 12> classes_ = atHome();
 
     static std::array<PitchClass, 12> atHome();

@@ -54,10 +54,12 @@ void Temperament::isomorph(Tunable& /*instrument*/, int /*n*/) {}
 
 void Temperament::fade(double /*factor*/) {}
 
-double Temperament::getPitch(unsigned long key) const
+double Temperament::pitchAt(int key) const
 {
+    const int octave = key < 0 ? -1 : key / 12;
+    const auto pitchClass = static_cast<unsigned>(key - 12 * octave);
     // An octave higher than usual: see docs/decisions.md, 1.
-    return getTuning(key).tune(baseFrequency_, static_cast<int>(key / 12) - 4);
+    return getTuning(pitchClass).tune(baseFrequency_, octave - 4);
 }
 
 void Temperament::append(std::unique_ptr<Tuning> tuning)

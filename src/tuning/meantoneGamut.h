@@ -39,6 +39,15 @@ constexpr std::size_t indexOf(int place)
     return static_cast<std::size_t>(index < 0 ? index + kSteps : index);
 }
 
+/// Returns the place of the pitch with an index, from −15 to 15.
+constexpr int placeOf(std::size_t index)
+{
+    int place = -kFarthest;
+    while (indexOf(place) != index)
+        ++place;
+    return place;
+}
+
 } // namespace meantone
 
 } // namespace velmora
