@@ -65,13 +65,13 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     Desktop desktop;
     AppDelegate& live = desktop.application();
-    live.makeBuiltinTunings();
+    live.tunings().addBuiltins();
     auto output = AudioOutput::open({});
     auto synthesizer = std::make_unique<Synthesizer>(output->rate(), generalMidiBanks());
     live.makeMIDIPlayer(std::move(synthesizer));
     live.engine().setRate(output->rate());
     output->start(live.engine());
-    live.selectTuning("Dynamic");
+    live.tunings().select("Dynamic");
 
     std::vector<double> times;
     times.reserve(kMessages);

@@ -81,7 +81,7 @@ int main(int argc, char** argv)
     const QApplication qt(argc, argv);
     Desktop desktop;
     AppDelegate& application = desktop.application();
-    application.makeBuiltinTunings();
+    application.tunings().addBuiltins();
     auto output = AudioOutput::open({});
     auto synthesizer = std::make_unique<Synthesizer>(output->rate(), generalMidiBanks());
     application.makeMIDIPlayer(std::move(synthesizer));
@@ -89,7 +89,7 @@ int main(int argc, char** argv)
     output->start(application.engine());
     TimedInstrument instrument(*application.instruments().front()->instrument());
     application.setInstrument(instrument, "timed");
-    application.selectTuning("Dynamic");
+    application.tunings().select("Dynamic");
 
     SequencePage* window = nullptr;
     QObject::connect(&desktop.pages(), &SequencePages::opened, &qt,

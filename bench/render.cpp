@@ -31,10 +31,10 @@ void renderPiece(benchmark::State& state, const char* tuning)
         state.PauseTiming(); // while the SoundFont is loaded
         auto synthesizer = std::make_unique<Synthesizer>(kRate, generalMidiBanks());
         AppDelegate application;
-        application.makeBuiltinTunings();
-        application.putTuning(TuningDocument::makeBuiltin("Dynamic"));
+        application.tunings().addBuiltins();
+        application.tunings().put(TuningDocument::makeBuiltin("Dynamic"));
         application.makeMIDIPlayer(std::move(synthesizer));
-        application.selectTuning(tuning);
+        application.tunings().select(tuning);
         state.ResumeTiming();
 
         SequenceRenderer renderer(application.player(), application.engine());

@@ -46,7 +46,7 @@ void AppDelegate::start(const OutputSettings& output)
     setUpOpenAL();
     keepPlaying(output);
     inputs_ = std::make_unique<MidiInputs>(devices_);
-    makeBuiltinTunings();
+    tunings().addBuiltins();
     makeMIDIPlayer(std::make_unique<SilentDevice>());
     tuningCorrector_ = std::make_unique<TuningCorrector>(*this);
     loadBank();
@@ -66,14 +66,6 @@ void AppDelegate::keepPlaying(const OutputSettings& output)
     };
     output_ = std::make_unique<OutputKeeper>(
         engine_, output, OutputKeeper::Callbacks{prepare, [this] { emit outputChanged(); }});
-}
-
-void AppDelegate::makeBuiltinTunings()
-{
-    auto equalTuning = TuningDocument::makeBuiltin("Equal");
-    useTuning(*equalTuning);
-    putTuning(std::move(equalTuning));
-    putTuning(TuningDocument::makeBuiltin("Quartercomma Meantone"));
 }
 
 void AppDelegate::makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
@@ -283,57 +275,6 @@ void AppDelegate::updateProgress(unsigned steps, const std::string& text)
 {
     if (steps > 0)
         emit progressed(steps, text);
-}
-
-void AppDelegate::putTuning(std::unique_ptr<TuningDocument> document)
-{
-    // See docs/decisions.md, 19.
-    tunings_[document->name()] = document.get();
-    tuningDocuments_.push_back(std::move(document));
-    emit tuningsChanged();
-}
-
-std::vector<std::string> AppDelegate::tuningNames() const
-{
-    std::vector<std::string> names;
-    for (const auto& document : tuningDocuments_)
-        names.push_back(document->name());
-    for (std::string& name : TuningDocument::adaptiveNames())
-        if (!tunings_.contains(name))
-            names.push_back(std::move(name));
-    return names;
-}
-
-std::string AppDelegate::getTuningDescription(const std::string& name) const
-{
-    const auto found = tunings_.find(name);
-    return found == tunings_.end() ? std::string() : found->second->description();
-}
-
-bool AppDelegate::selectTuning(const std::string& name)
-{
-    if (!tunings_.contains(name) && TuningDocument::isBuiltin(name))
-        putTuning(TuningDocument::makeBuiltin(name));
-    const auto found = tunings_.find(name);
-    if (found != tunings_.end())
-        useTuning(*found->second);
-    if (found == tunings_.end() || instrumentName_.empty())
-        logger("app").debug("Tuning or instrument not found '{}'", name);
-    if (found == tunings_.end()) {
-        logger("app").warn("there is no tuning named \"{}\"", name);
-        return false;
-    }
-    emit tuningChanged();
-    return true;
-}
-
-void AppDelegate::useTuning(const TuningDocument& document)
-{
-    // A fresh copy begins at home: see docs/decisions.md, 17.
-    auto temperament = document.temperament().fresh();
-    player_.setTemperament(*temperament);
-    temperament_ = std::move(temperament);
-    tuningName_ = document.name();
 }
 
 void AppDelegate::setVolume(float volume, std::size_t slider)

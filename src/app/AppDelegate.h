@@ -6,6 +6,7 @@
 #include "app/OrganConsole.h"
 #include "app/Player.h"
 #include "app/PlayingOptions.h"
+#include "app/Tunings.h"
 #include "app/preferredOutput.h"
 #include "audio/AudioEngine.h"
 #include "audio/OutputKeeper.h"
@@ -16,14 +17,12 @@
 #include "platform/DisplayWake.h"
 #include "platform/IntervalTimer.h"
 #include "sound/MIDIInstrument.h"
-#include "tuning/TuningDocument.h"
 
 #include <QObject>
 
 #include <atomic>
 #include <filesystem>
 #include <future>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -48,10 +47,6 @@ public:
     /// tunings and the General MIDI player, and starts the fade timer. Anything that the machine
     /// lacks is logged, and the rest works without it. Needs a QCoreApplication.
     void start(const OutputSettings& output = preferredOutput());
-
-    /// Creates the tunings "Equal", which becomes the current one, and "Quartercomma Meantone".
-    /// Call this before adding any instrument.
-    void makeBuiltinTunings();
 
     /// Creates the General MIDI player on a synthesizer; it becomes the current instrument.
     void makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer);
@@ -148,28 +143,9 @@ public:
     /// Ends every sound at once and releases every key.
     void silenceAll();
 
-    /// Adds a tuning to the list. From now on its name selects it, even if an earlier tuning has
-    /// the same name.
-    void putTuning(std::unique_ptr<TuningDocument> document);
-
-    /// All listed tunings in the order in which they were added.
-    const std::vector<std::unique_ptr<TuningDocument>>& tunings() const { return tuningDocuments_; }
-
-    /// The name of the current tuning.
-    const std::string& tuningName() const { return tuningName_; }
-
-    /// The names of all listed tunings in the order in which they were added, and those of the
-    /// adaptive ones. A name
-    /// that was added twice appears twice.
-    std::vector<std::string> tuningNames() const;
-
-    /// Returns what the tuning of that name says about itself; empty if it says nothing.
-    std::string getTuningDescription(const std::string& name) const;
-
-    /// Makes the tuning of that name the current one and retunes the instrument, including sounding
-    /// keys. An adaptive or historical tuning is created and listed when it is first selected.
-    /// Returns false, and keeps the current one, if there is no tuning of that name.
-    bool selectTuning(const std::string& name);
+    /// The tunings to choose from and the current one.
+    Tunings& tunings() { return tunings_; }
+    const Tunings& tunings() const { return tunings_; }
 
     void keyOn(int key, float velocity) override { player_.keyOn(key, velocity); }
     void keyOff(int key) override { player_.keyOff(key); }
@@ -229,12 +205,6 @@ signals:
     /// The current instrument, or the stops of the current instrument, have changed.
     void instrumentChanged();
 
-    /// A tuning was listed.
-    void tuningsChanged();
-
-    /// The current tuning has changed.
-    void tuningChanged();
-
     /// A MIDI controller has moved the slider of a stop. Emitted on the main thread.
     void volumeMoved(std::size_t slider, float volume);
 
@@ -252,24 +222,20 @@ private:
     void takeSynthesizer();
     void playThrough(std::unique_ptr<Synthesizer> synthesizer);
     void handle(const InputEvent& event);
-    void useTuning(const TuningDocument& document);
     void announceProgram();
 
-    std::string instrumentName_, tuningName_;
+    std::string instrumentName_;
     bool isCancelled_ = false;
 
     AudioEngine engine_;
     std::vector<std::unique_ptr<InstrumentDocument>> instruments_;
-    /// Every tuning ever listed, including those whose name now selects a later one.
-    std::vector<std::unique_ptr<TuningDocument>> tuningDocuments_;
-    std::map<std::string, TuningDocument*> tunings_;
     MIDIInstrument* midiPlayer_ = nullptr; ///< The first of the instruments.
     std::filesystem::path bank_;
 
-    std::unique_ptr<Temperament> temperament_; ///< A fresh copy of the current tuning's.
     PlayingOptions playing_;
     MidiLearning learning_;
     Player player_;
+    Tunings tunings_{player_};
     InputQueue queue_;
     OrganConsole organ_{player_, [this] { queue_.post({.kind = InputEvent::Kind::Console}); }};
     LiveDevices devices_{*this};

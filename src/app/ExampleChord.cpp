@@ -28,7 +28,7 @@ void ExampleChord::play(const std::string& tuning)
 {
     if (end_.isActive())
         stop();
-    if (!application_.selectTuning(tuning))
+    if (!application_.tunings().select(tuning))
         return;
     for (const int key : kChord)
         application_.keyOn(key, kVelocity);

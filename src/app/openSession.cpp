@@ -28,7 +28,7 @@ std::optional<std::size_t> findInstrument(const AppDelegate& application,
 /// Opens a tuning file unless it is listed. Returns a sentence if that fails.
 std::string openTuning(const std::filesystem::path& path, AppDelegate& application)
 {
-    for (const auto& listed : application.tunings())
+    for (const auto& listed : application.tunings().documents())
         if (listed->path() == path)
             return {};
     const auto format = tuningFormatOf(path);
@@ -37,7 +37,7 @@ std::string openTuning(const std::filesystem::path& path, AppDelegate& applicati
     auto document = std::make_unique<TuningDocument>();
     if (!document->read(path, *format))
         return document->errorString();
-    application.putTuning(std::move(document));
+    application.tunings().put(std::move(document));
     return {};
 }
 
@@ -97,10 +97,10 @@ Session currentSession(AppDelegate& application)
         session.instruments.push_back(std::move(entry));
     }
     session.program = application.midiProgram();
-    for (const auto& document : application.tunings())
+    for (const auto& document : application.tunings().documents())
         if (!document->path().empty())
             session.tunings.push_back(document->path());
-    session.tuning = application.tuningName();
+    session.tuning = application.tunings().name();
     session.transposition = application.playing().settings().transposition;
     return session;
 }
@@ -136,7 +136,7 @@ std::vector<std::string> openSession(const Session& session, AppDelegate& applic
     }
     if (current)
         application.selectInstrument(*current);
-    if (!session.tuning.empty() && !application.selectTuning(session.tuning) && errors.empty())
+    if (!session.tuning.empty() && !application.tunings().select(session.tuning) && errors.empty())
         errors.push_back("there is no tuning named \"" + session.tuning + "\"");
     application.playing().setTransposition(session.transposition);
     return errors;

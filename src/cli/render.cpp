@@ -17,7 +17,7 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
     AppDelegate application;
     if (selection.plain)
         application.playing().usePlainReading();
-    application.makeBuiltinTunings();
+    application.tunings().addBuiltins();
     application.engine().setRate(options.rate);
     std::filesystem::path bank = selection.instrument;
     if (bank.empty()) {

@@ -73,8 +73,8 @@ void select(const Selection& selection, AppDelegate& application)
         application.addInstrument(
             readInstrument(selection.instrument, selection.asStops, application));
     const std::string name = tuning->name();
-    application.putTuning(std::move(tuning));
-    application.selectTuning(name);
+    application.tunings().put(std::move(tuning));
+    application.tunings().select(name);
 
     if (selection.program || selection.bank) {
         std::size_t position = 0;

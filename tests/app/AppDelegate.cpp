@@ -18,8 +18,8 @@ class AppDelegateTest : public testing::Test {
 protected:
     AppDelegateTest()
     {
-        app_.makeBuiltinTunings();
-        app_.putTuning(TuningDocument::makeBuiltin("Dynamic"));
+        app_.tunings().addBuiltins();
+        app_.tunings().put(TuningDocument::makeBuiltin("Dynamic"));
     }
 
     /// Expects the calls that the instrument has received since the last check.
@@ -53,10 +53,10 @@ TEST_F(AppDelegateTest, TunesAndPlaysKeysInTheSelectedTuning)
     app_.keyOff(127);
     expectCalls({"tune 0 127", "play 127 1.00", "stop 127"});
     EXPECT_EQ(keys.velocity(127), 1.0F);
-    EXPECT_TRUE(app_.selectTuning("Dynamic"));
+    EXPECT_TRUE(app_.tunings().select("Dynamic"));
     const Temperament* before = current();
-    EXPECT_FALSE(app_.selectTuning("dynamic"));
-    app_.putTuning(TuningDocument::makeBuiltin("Dynamic"));
+    EXPECT_FALSE(app_.tunings().select("dynamic"));
+    app_.tunings().put(TuningDocument::makeBuiltin("Dynamic"));
     expectCalls({"tune 0 127"});
     app_.keyOn(0, 1.0F); // still in the earlier tuning of that name
     expectCalls({"tune 0 127", "play 0 1.00"});
@@ -65,7 +65,7 @@ TEST_F(AppDelegateTest, TunesAndPlaysKeysInTheSelectedTuning)
         app_.keyOff(key);
     }
     expectCalls({});
-    EXPECT_TRUE(app_.selectTuning("Dynamic"));
+    EXPECT_TRUE(app_.tunings().select("Dynamic"));
     EXPECT_NE(current(), before);
 }
 
@@ -73,7 +73,7 @@ TEST_F(AppDelegateTest, FadesTheInstrumentAndTheTemperament)
 {
     app_.player().fade(); // without an instrument
     app_.setInstrument(instrument_, "Recorder");
-    app_.selectTuning("Dynamic");
+    app_.tunings().select("Dynamic");
     app_.player().isomorph(-1);
     EXPECT_NEAR(current()->getTuning(0).cent(), -41.06, 0.01);
     calls_.clear();
@@ -85,11 +85,11 @@ TEST_F(AppDelegateTest, FadesTheInstrumentAndTheTemperament)
 TEST_F(AppDelegateTest, DynamicStartsAtHomeEachTimeItIsSelected)
 {
     app_.setInstrument(instrument_, "Recorder");
-    app_.selectTuning("Dynamic");
+    app_.tunings().select("Dynamic");
     app_.player().isomorph(2);
     EXPECT_NEAR(current()->getTuning(1).cent(), 41.06, 0.01);
-    app_.selectTuning("Equal");
-    app_.selectTuning("Dynamic");
+    app_.tunings().select("Equal");
+    app_.tunings().select("Dynamic");
     EXPECT_EQ(current()->getTuning(1).cent(), 76.049);
 }
 

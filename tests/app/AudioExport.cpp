@@ -22,8 +22,8 @@ class AudioExportTest : public testing::Test {
 protected:
     AudioExportTest()
     {
-        app_.makeBuiltinTunings();
-        app_.selectTuning("Quartercomma Meantone");
+        app_.tunings().addBuiltins();
+        app_.tunings().select("Quartercomma Meantone");
         sequence_.notes = {{.length = 60.0, .velocity = 1.0F, .key = 52}};
         folder_.writeSine("a.wav", kRoot);
         const auto organ = folder_.write(

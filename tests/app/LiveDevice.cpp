@@ -37,7 +37,7 @@ class LiveDeviceTest : public testing::Test {
 protected:
     LiveDeviceTest()
     {
-        app_.makeBuiltinTunings();
+        app_.tunings().addBuiltins();
         app_.setInstrument(instrument_, "Recorder");
         calls_.clear();
     }

@@ -17,7 +17,7 @@ class LiveDevicesTest : public testing::Test {
 protected:
     LiveDevicesTest()
     {
-        app_.makeBuiltinTunings();
+        app_.tunings().addBuiltins();
         app_.setInstrument(instrument_, "Recorder");
         devices_.arrived(keys_);
         calls_.clear();

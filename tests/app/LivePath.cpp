@@ -52,7 +52,7 @@ TEST(LivePath, SoundsWithinThreePeriodsOfAMessage)
     const JackServer server;
     MidiSource source("keyboard", {"out"});
     AppDelegate app;
-    app.makeBuiltinTunings();
+    app.tunings().addBuiltins();
     auto synthesizer = std::make_unique<Synthesizer>(kRate, generalMidiBanks());
     LatencyProbe probe(app.engine());
     app.makeMIDIPlayer(std::move(synthesizer));

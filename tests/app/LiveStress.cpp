@@ -53,8 +53,8 @@ void sendMidi(LiveInput& input)
 TEST(LiveStress, LeavesNothingSoundingAfterAllThreadsHaveRun)
 {
     AppDelegate app;
-    app.makeBuiltinTunings();
-    app.putTuning(TuningDocument::makeBuiltin("Dynamic"));
+    app.tunings().addBuiltins();
+    app.tunings().put(TuningDocument::makeBuiltin("Dynamic"));
     std::vector<std::pair<Instrument*, Synthesizer*>> players;
     for (int i = 0; i < 2; ++i) {
         auto synthesizer = std::make_unique<Synthesizer>(48000.0, std::vector{kBank});
@@ -84,7 +84,7 @@ TEST(LiveStress, LeavesNothingSoundingAfterAllThreadsHaveRun)
     constexpr std::array kTunings = {"Equal", "Quartercomma Meantone", "Dynamic"};
     for (std::size_t i = 0; playing > 0; ++i) {
         app.player().fade();
-        app.selectTuning(kTunings[i % kTunings.size()]);
+        app.tunings().select(kTunings[i % kTunings.size()]);
         app.setInstrument(*players[i / 7 % 2].first, "");
         QCoreApplication::processEvents();
         // Alternates between recording and playing.

@@ -43,7 +43,7 @@ class OrganConsoleTest : public testing::Test {
 protected:
     OrganConsoleTest()
     {
-        app_.makeBuiltinTunings();
+        app_.tunings().addBuiltins();
         app_.setInstrument(*organ_, "Organ");
         devices_.arrived(keys_);
         QObject::connect(&console_, &OrganConsole::moved, [this] { ++moves_; });

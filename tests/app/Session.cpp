@@ -25,7 +25,7 @@ public:
 struct SessionProgram : AppDelegate {
     SessionProgram()
     {
-        makeBuiltinTunings();
+        tunings().addBuiltins();
         makeMIDIPlayer(std::make_unique<SilentSynthesizer>());
     }
 
@@ -161,11 +161,11 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
                     ElementsAre("gone.scl: cannot be read (No such file or directory)",
                                 "gone.organ: cannot be read (No such file or directory)"));
         EXPECT_EQ(program.instruments().size(), 4U) << time;
-        EXPECT_EQ(program.tunings().size(), 3U) << time;
+        EXPECT_EQ(program.tunings().documents().size(), 3U) << time;
         EXPECT_EQ(program.instrumentName(), "first");
         EXPECT_THAT(program.gains(), ElementsAre(0.25F, 0.75F));
         EXPECT_EQ(program.midiProgram(), 19);
-        EXPECT_EQ(program.tuningName(), "a.scl");
+        EXPECT_EQ(program.tunings().name(), "a.scl");
         EXPECT_EQ(program.playing().settings().transposition, -2);
     }
     const Instrument& bank = *program.instruments().back()->instrument();

@@ -59,7 +59,7 @@ class Soak : public QObject {
 public:
     explicit Soak(unsigned seed) : random_(seed)
     {
-        app_.makeBuiltinTunings();
+        app_.tunings().addBuiltins();
         app_.makeMIDIPlayer(std::make_unique<Synthesizer>(kRate, std::vector{kBank}));
         audio_ = std::make_unique<AudioThread>(app_.engine());
         folder_.writeSine("a.wav", 220.0);
@@ -67,8 +67,8 @@ public:
         addOrgan();
         addOrgan();
         for (int i = 0; i < 4; ++i)
-            app_.putTuning(readTuning());
-        app_.selectTuning("Dynamic");
+            app_.tunings().put(readTuning());
+        app_.tunings().select("Dynamic");
         connect(&app_, &AppDelegate::midiInputReceived, this, [this] {
             if (!sequences_.empty())
                 sequences_.front()->document.practice().midiInput();
@@ -99,7 +99,7 @@ public:
             require(app_.player().liveKeys().state(key) == 0, "a key is still held");
         fade();
         require(audio_->fallsSilent(), "an instrument still sounds");
-        app_.selectTuning("Equal");
+        app_.tunings().select("Equal");
         for (std::size_t i = 1; i < app_.instruments().size(); ++i)
             require(app_.instruments()[i]->instrument() == nullptr || app_.unloadInstrument(i),
                     "an organ cannot be unloaded");
@@ -272,13 +272,13 @@ private:
     void changeSound()
     {
         const std::size_t instrument = pick(app_.instruments().size());
-        const auto names = app_.tuningNames();
+        const auto names = app_.tunings().names();
         const std::array<std::function<void()>, 7> changes{
             [&] { app_.setMIDIProgram(static_cast<std::uint8_t>(pick(128))); },
             [&] { app_.setVolumeOfStop(pick(3), static_cast<float>(pick(11)) / 10.0F); },
             [&] { readTuning(); }, // not listed, because listed tunings are never freed
-            [&] { app_.selectTuning(names[pick(names.size())]); },
-            [&] { app_.selectTuning(names[pick(names.size())]); },
+            [&] { app_.tunings().select(names[pick(names.size())]); },
+            [&] { app_.tunings().select(names[pick(names.size())]); },
             [&] { require(app_.selectInstrument(instrument), "an organ cannot be reloaded"); },
             [&] {
                 if (chance(4))

@@ -94,11 +94,8 @@ void ComputerKeyboard::release(const Pressed& pressed)
 
 bool ComputerKeyboard::hasSpellings() const
 {
-    bool isDynamic = false;
-    application_.player().with([&](const Instrument&, const Temperament& temperament) {
-        isDynamic = dynamic_cast<const DynamicTemperament*>(&temperament) != nullptr;
-    });
-    return isDynamic;
+    return dynamic_cast<const DynamicTemperament*>(application_.tunings().untransposed()) !=
+           nullptr;
 }
 
 void ComputerKeyboard::moveOctave(int octaves)

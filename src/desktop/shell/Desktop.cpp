@@ -254,8 +254,8 @@ void Desktop::openTuning(const QString& path, TuningFormat format)
         return;
     }
     const std::string name = tuning->name();
-    application_.putTuning(std::move(tuning));
-    application_.selectTuning(name);
+    application_.tunings().put(std::move(tuning));
+    application_.tunings().select(name);
     shell_.addRecent(path);
 }
 

@@ -259,13 +259,14 @@ void ShellActions::showInstruments()
 void ShellActions::showTunings()
 {
     tunings_->clear();
-    for (std::size_t position = 0; const std::string& name : application_.tuningNames()) {
+    for (std::size_t position = 0; const std::string& name : application_.tunings().names()) {
         const TuningText text = tuningText(application_, name);
-        QAction* action = tunings_->addAction(numbered(position++, text.title), this,
-                                              [this, name] { application_.selectTuning(name); });
+        QAction* action = tunings_->addAction(numbered(position++, text.title), this, [this, name] {
+            application_.tunings().select(name);
+        });
         action->setToolTip(text.detail);
         action->setCheckable(true);
-        action->setChecked(name == application_.tuningName());
+        action->setChecked(name == application_.tunings().name());
     }
 }
 

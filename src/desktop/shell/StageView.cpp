@@ -37,14 +37,14 @@ StageView::StageView(AppDelegate& application) : application_(application)
     tuning_ = addLine(*column, kTuningType);
     column->addStretch();
     connect(&application_, &AppDelegate::instrumentChanged, this, &StageView::showSound);
-    connect(&application_, &AppDelegate::tuningChanged, this, &StageView::showSound);
+    connect(&application_.tunings(), &Tunings::changed, this, &StageView::showSound);
     connect(&application_, &AppDelegate::programSelected, this, &StageView::showSound);
 }
 
 void StageView::showSound()
 {
     instrument_->setText(translatedTitle(application_.soundName()));
-    tuning_->setText(tuningText(application_, application_.tuningName()).title);
+    tuning_->setText(tuningText(application_, application_.tunings().name()).title);
 }
 
 } // namespace velmora

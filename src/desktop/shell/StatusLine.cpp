@@ -47,7 +47,7 @@ StatusLine::StatusLine(AppDelegate& application)
     inputs_ = addItem(tr("MIDI inputs"), &StatusLine::midiClicked);
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::programSelected, this, &StatusLine::showSound);
-    connect(&application_, &AppDelegate::tuningChanged, this, &StatusLine::showSound);
+    connect(&application_.tunings(), &Tunings::changed, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::outputChanged, this, &StatusLine::showOutput);
     connect(&application_.playing(), &PlayingOptions::changed, this, &StatusLine::showReading);
     showReading();
@@ -66,7 +66,7 @@ void StatusLine::showSound()
     const QString instrument = translatedTitle(application_.soundName());
     instrument_->show(instrument,
                       tr("Instrument: %1\nClick to show its programs or stops").arg(instrument));
-    const auto [title, detail] = tuningText(application_, application_.tuningName());
+    const auto [title, detail] = tuningText(application_, application_.tunings().name());
     tuning_->show(title, tr("Tuning: %1 (%2)\nClick to show all tunings").arg(title, detail));
 }
 

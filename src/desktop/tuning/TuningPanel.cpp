@@ -62,8 +62,8 @@ TuningPanel::TuningPanel(AppDelegate& application, QWidget* parent)
     // Queued, because choosing a tuning can fill the list again.
     connect(list_, &GroupedList::chosen, this, &TuningPanel::select, Qt::QueuedConnection);
     connect(strip_, &TuningStrip::changed, this, &TuningPanel::showPitches);
-    connect(&application_, &AppDelegate::tuningsChanged, this, &TuningPanel::showTunings);
-    connect(&application_, &AppDelegate::tuningChanged, this, &TuningPanel::markCurrent);
+    connect(&application_.tunings(), &Tunings::listed, this, &TuningPanel::showTunings);
+    connect(&application_.tunings(), &Tunings::changed, this, &TuningPanel::markCurrent);
     showTunings();
 }
 
@@ -81,7 +81,7 @@ void TuningPanel::showTunings()
         entries.push_back({group, both, both});
         names_.push_back(name);
     };
-    for (const std::string& name : application_.tuningNames())
+    for (const std::string& name : application_.tunings().names())
         if (findHistoricalTemperament(name) == nullptr)
             add(tr("Tunings"), name, tuningText(application_, name));
     for (const HistoricalTemperament& each : historicalTemperaments())
@@ -93,16 +93,16 @@ void TuningPanel::showTunings()
 void TuningPanel::markCurrent()
 {
     // If two tunings have the same name, the one that was chosen stays marked.
-    if (chosen_ >= names_.size() || names_[chosen_] != application_.tuningName())
-        chosen_ = static_cast<std::size_t>(std::ranges::find(names_, application_.tuningName()) -
-                                           names_.begin());
+    if (chosen_ >= names_.size() || names_[chosen_] != application_.tunings().name())
+        chosen_ = static_cast<std::size_t>(
+            std::ranges::find(names_, application_.tunings().name()) - names_.begin());
     list_->showCurrent(chosen_);
 }
 
 void TuningPanel::select(std::size_t position)
 {
     chosen_ = position;
-    application_.selectTuning(names_.at(position));
+    application_.tunings().select(names_.at(position));
 }
 
 void TuningPanel::showPitches()

@@ -26,7 +26,7 @@ constexpr const char* kGroupTexts[] = {
 TuningText tuningText(const AppDelegate& application, const std::string& name)
 {
     const QString file = QString::fromStdString(name);
-    const QString description = QString::fromStdString(application.getTuningDescription(name));
+    const QString description = QString::fromStdString(application.tunings().getDescription(name));
     if (const auto* historical = findHistoricalTemperament(name))
         return tuningText(*historical);
     if (!description.isEmpty())

@@ -49,7 +49,7 @@ class ConsolePanelTest : public testing::Test {
 protected:
     ConsolePanelTest()
     {
-        application.makeBuiltinTunings();
+        application.tunings().addBuiltins();
         application.setInstrument(organ, "Village");
         panel.resize(700, 500);
         panel.show();

@@ -21,7 +21,7 @@ TEST(InstrumentPanel, ShowsVolumesWhileAMidiThreadSetsThem)
     organ.appendStop("Flute");
     organ.appendStop("Reed");
     AppDelegate application;
-    application.makeBuiltinTunings();
+    application.tunings().addBuiltins();
     InstrumentPanel panel(application);
     application.setInstrument(organ, "Organ");
 

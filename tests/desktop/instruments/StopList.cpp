@@ -41,7 +41,7 @@ class StopListTest : public testing::Test {
 protected:
     StopListTest()
     {
-        application.makeBuiltinTunings();
+        application.tunings().addBuiltins();
         application.makeMIDIPlayer(std::make_unique<Silence>());
         panel.resize(260, 500);
         panel.show();

@@ -18,7 +18,7 @@ class ComputerKeyboardTest : public testing::Test {
 protected:
     ComputerKeyboardTest()
     {
-        application.makeBuiltinTunings();
+        application.tunings().addBuiltins();
         application.setInstrument(instrument, "Recorder");
     }
 
@@ -59,7 +59,7 @@ TEST_F(ComputerKeyboardTest, PlaysAPianoInEveryFixedTuning)
     type(Qt::Key_W);
     type(Qt::Key_Q, {}, 38); // the position of A on the US layout
     type(Qt::Key_Apostrophe);
-    application.selectTuning("Quartercomma Meantone");
+    application.tunings().select("Quartercomma Meantone");
     type(Qt::Key_NumberSign, {}, 51); // left of Return on a German keyboard
     EXPECT_THAT(played(),
                 ElementsAre("play 60 1.00", "stop 60", "play 61 1.00", "stop 61", "play 60 1.00",
@@ -109,7 +109,7 @@ TEST_F(ComputerKeyboardTest, PlaysTheSpellingsOfDynamic)
         });
         return cents;
     };
-    application.selectTuning("Dynamic");
+    application.tunings().select("Dynamic");
     type(Qt::Key_X); // n = 5, the lower neighbour of D
     const double lower = spelling();
     type(Qt::Key_D); // n = 6
@@ -123,7 +123,7 @@ TEST_F(ComputerKeyboardTest, PlaysTheSpellingsOfDynamic)
                             "stop 60", "play 59 1.00", "stop 59", "play 60 1.00", "stop 60"));
     EXPECT_FALSE(type(Qt::Key_5)) << "a channel of the piece";
     down(Qt::Key_D);
-    application.selectTuning("Equal");
+    application.tunings().select("Equal");
     letters.releaseKeys();
     EXPECT_THAT(played(), ElementsAre("play 50 1.00", "stop 50"));
 }

@@ -18,9 +18,9 @@ TEST(LiveKeyboardView, PaintsWhileAMidiThreadPlays)
 {
     ALInstrument organ;
     AppDelegate application;
-    application.makeBuiltinTunings();
+    application.tunings().addBuiltins();
     application.setInstrument(organ, "Organ");
-    application.selectTuning("Dynamic");
+    application.tunings().select("Dynamic");
     SequenceDocument document(application.player());
     KeyboardView view(application, application.player().liveKeys());
     view.setDocument(&document.practice());

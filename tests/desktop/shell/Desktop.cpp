@@ -82,7 +82,7 @@ TEST_F(DesktopTest, OpensDroppedFilesByType)
     const auto scale = std::filesystem::path(VELMORA_EXAMPLES) / "kirnberger-3.scl";
     drop(desktop.workspace(), {organ(), scale});
     EXPECT_EQ(application.instrumentName(), "Small");
-    EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
+    EXPECT_EQ(application.tunings().name(), "kirnberger-3.scl");
     auto& table = named<QTreeView>(desktop.instrumentsWindow(), "Loaded instruments");
     ASSERT_EQ(table.model()->rowCount(), 2);
     EXPECT_EQ(table.currentIndex().row(), 1);
@@ -96,7 +96,7 @@ TEST_F(DesktopTest, OpensDroppedFilesByType)
                 ElementsAre(HasSubstr("such.scl"), HasSubstr("such.sf2"),
                             HasSubstr("unrecognised file type")));
     EXPECT_EQ(application.instrumentName(), "Small") << "unchanged";
-    EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
+    EXPECT_EQ(application.tunings().name(), "kirnberger-3.scl");
 
     // Unload the organ, then select it again.
     auto* unload = desktop.instrumentsWindow().findChildren<QPushButton*>().at(1);
@@ -107,13 +107,13 @@ TEST_F(DesktopTest, OpensDroppedFilesByType)
     unload->click();
     EXPECT_EQ(application.instrumentName(), "MIDI Player");
     EXPECT_FALSE(unload->isEnabled()) << "the General MIDI player stays";
-    application.selectTuning("Equal");
+    application.tunings().select("Equal");
     QTimer::singleShot(0, [&] {
         desktop.open({QString::fromStdString(scale.string())});
-        EXPECT_EQ(application.tuningName(), "Equal") << "a file opened meanwhile waits";
+        EXPECT_EQ(application.tunings().name(), "Equal") << "a file opened meanwhile waits";
     });
     table.setCurrentIndex(table.model()->index(1, 0));
-    EXPECT_EQ(application.tuningName(), "kirnberger-3.scl");
+    EXPECT_EQ(application.tunings().name(), "kirnberger-3.scl");
     EXPECT_EQ(application.instrumentName(), "Small");
     EXPECT_GT(application.instruments()[1]->size(), 0);
 }

@@ -70,7 +70,7 @@ TEST_F(SessionKeeperTest, StartsAsItEnded)
         desktop.application().player().with([](const Instrument& current, const Temperament&) {
             EXPECT_FLOAT_EQ(current.getVolume(0), 0.25F);
         });
-        EXPECT_EQ(desktop.application().tuningName(), "werckmeister-3.scl");
+        EXPECT_EQ(desktop.application().tunings().name(), "werckmeister-3.scl");
         ASSERT_EQ(desktop.pages().all().size(), 1U) << "the untitled one was not saved";
         EXPECT_EQ(desktop.pages().current()->document().transport().position(), 20.0);
     });
@@ -114,13 +114,14 @@ TEST_F(SessionKeeperTest, OpensSessionFilesBesideWhatIsOpen)
         EXPECT_THAT(answering({"OK"}, [&] { desktop.open({file}); }),
                     ElementsAre("a.mid: cannot be read (No such file or directory)"));
         EXPECT_EQ(desktop.pages().all().size(), 1U);
-        EXPECT_EQ(desktop.application().tuningName(), "kirnberger-3.scl");
+        EXPECT_EQ(desktop.application().tunings().name(), "kirnberger-3.scl");
         EXPECT_EQ(desktop.workspace().layout(), Workspace::Layout::Edit);
 
         std::ofstream(pathOf(file)) << R"({"velmoraSession": 1, "tuning": "Equal", "program": -1})";
         EXPECT_THAT(answering({"OK"}, [&] { desktop.open({file}); }),
                     ElementsAre(R"(s.velmora: "program" is not a whole number from 0 to 127)"));
-        EXPECT_EQ(desktop.application().tuningName(), "kirnberger-3.scl") << "nothing has changed";
+        EXPECT_EQ(desktop.application().tunings().name(), "kirnberger-3.scl")
+            << "nothing has changed";
     });
 }
 

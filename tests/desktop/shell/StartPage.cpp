@@ -41,18 +41,18 @@ TEST(StartPage, SoundsAChordInTheChosenTuning)
     Calls calls;
     RecordingInstrument instrument(calls);
     AppDelegate application;
-    application.makeBuiltinTunings();
+    application.tunings().addBuiltins();
     application.setInstrument(instrument, "Recorder");
     ExampleChord chord(application);
     StartPage page;
     QObject::connect(&page, &StartPage::chordRequested, &chord, &ExampleChord::play);
     calls.clear();
     named(page, "Hear the chord in quarter-comma meantone").click();
-    EXPECT_EQ(application.tuningName(), "Quartercomma Meantone");
+    EXPECT_EQ(application.tunings().name(), "Quartercomma Meantone");
     EXPECT_THAT(std::exchange(calls, {}), Contains("play 64 0.80"));
     EXPECT_EQ(application.player().liveKeys().state(64), kPressed) << "for the keyboard";
     named(page, "Hear the chord in equal temperament").click();
-    EXPECT_EQ(application.tuningName(), "Equal");
+    EXPECT_EQ(application.tunings().name(), "Equal");
     EXPECT_THAT(calls, ElementsAre("stop 48", "stop 55", "stop 64", "stop 72", "tune 0 127",
                                    "play 48 0.80", "play 55 0.80", "play 64 0.80", "play 72 0.80"));
     calls.clear();

@@ -34,7 +34,7 @@ TEST(TuningPanel, KeepsTheOrderAndDuplicateNames)
     Calls calls;
     RecordingInstrument instrument(calls);
     AppDelegate application;
-    application.makeBuiltinTunings();
+    application.tunings().addBuiltins();
     application.setInstrument(instrument, "Recorder");
     TuningPanel panel(application);
     panel.show();
@@ -49,7 +49,7 @@ TEST(TuningPanel, KeepsTheOrderAndDuplicateNames)
     for (int i = 1; i <= 12; ++i)
         scale += std::to_string(99 * i) + ".\n";
     ASSERT_TRUE(loaded->read(folder.write("Equal", scale), TuningFormat::Scale));
-    application.putTuning(std::move(loaded));
+    application.tunings().put(std::move(loaded));
     const auto centsOfCSharp = [&] {
         double cents = 0.0;
         application.player().with([&](Instrument&, Temperament& temperament) {
@@ -77,7 +77,7 @@ TEST(TuningPanel, KeepsTheOrderAndDuplicateNames)
     EXPECT_EQ(currentRow(), 3);
     EXPECT_NEAR(centsOfCSharp(), 76.049, 1e-9);
 
-    EXPECT_TRUE(application.selectTuning("Quartercomma Meantone"));
+    EXPECT_TRUE(application.tunings().select("Quartercomma Meantone"));
     EXPECT_EQ(currentRow(), 1);
     EXPECT_TRUE(QTest::qWaitFor([&] {
         return panel.findChild<QLabel*>()->text() == "C4 (middle C): 261.63 Hz\nA4: 437.40 Hz";
@@ -87,7 +87,7 @@ TEST(TuningPanel, KeepsTheOrderAndDuplicateNames)
     search.setText("1779 kirnberger");
     emit search.returnPressed();
     QApplication::processEvents();
-    EXPECT_EQ(application.tuningName(), "Kirnberger III");
+    EXPECT_EQ(application.tunings().name(), "Kirnberger III");
     EXPECT_EQ(items(list).size(), 6U) << "it stays in its group";
 }
 

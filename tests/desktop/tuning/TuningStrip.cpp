@@ -13,17 +13,17 @@ TEST(TuningStrip, FollowsTheTuning)
     Calls calls;
     RecordingInstrument instrument(calls);
     AppDelegate application;
-    application.makeBuiltinTunings();
+    application.tunings().addBuiltins();
     application.setInstrument(instrument, "Recorder");
     TuningStrip strip(application);
     strip.show();
     EXPECT_EQ(strip.tones()[3], (TuningStrip::Tone{"D#", 0.0}));
-    EXPECT_TRUE(application.selectTuning("Quartercomma Meantone"));
+    EXPECT_TRUE(application.tunings().select("Quartercomma Meantone"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[4].cents < -13; }));
     EXPECT_NEAR(strip.tones()[4].cents, -13.69, 0.01);
     EXPECT_EQ(strip.tones()[10].name, "Bb");
 
-    EXPECT_TRUE(application.selectTuning("Dynamic"));
+    EXPECT_TRUE(application.tunings().select("Dynamic"));
     application.player().isomorph(3 * 3 - 1); // the lower spelling of D sharp
     EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[3].name == "D#"; }));
     application.player().isomorph(3 * 3 + 1);

@@ -1,0 +1,83 @@
+#include "app/Tunings.h"
+
+#include "app/Player.h"
+#include "base/Log.h"
+
+#include <utility>
+
+namespace velmora {
+
+Tunings::Tunings(Player& player) : player_(player) {}
+
+void Tunings::addBuiltins()
+{
+    auto equalTuning = TuningDocument::makeBuiltin("Equal");
+    play(*equalTuning);
+    put(std::move(equalTuning));
+    put(TuningDocument::makeBuiltin("Quartercomma Meantone"));
+}
+
+void Tunings::put(std::unique_ptr<TuningDocument> document)
+{
+    // See docs/decisions.md, 19.
+    named_[document->name()] = document.get();
+    documents_.push_back(std::move(document));
+    emit listed();
+}
+
+std::vector<std::string> Tunings::names() const
+{
+    std::vector<std::string> names;
+    for (const auto& document : documents_)
+        names.push_back(document->name());
+    for (std::string& name : TuningDocument::adaptiveNames())
+        if (!named_.contains(name))
+            names.push_back(std::move(name));
+    return names;
+}
+
+std::string Tunings::getDescription(const std::string& name) const
+{
+    const auto found = named_.find(name);
+    return found == named_.end() ? std::string() : found->second->description();
+}
+
+bool Tunings::select(const std::string& name)
+{
+    if (!named_.contains(name) && TuningDocument::isBuiltin(name))
+        put(TuningDocument::makeBuiltin(name));
+    const auto found = named_.find(name);
+    if (found != named_.end())
+        play(*found->second);
+    const bool hasInstrument = player_.with([](const Instrument&, const Temperament&) {});
+    if (found == named_.end() || !hasInstrument)
+        logger("app").debug("Tuning or instrument not found '{}'", name);
+    if (found == named_.end()) {
+        logger("app").warn("there is no tuning named \"{}\"", name);
+        return false;
+    }
+    emit changed();
+    return true;
+}
+
+void Tunings::setTransposition(const Transposition& transposition)
+{
+    if (transposition == transposition_)
+        return;
+    transposition_ = transposition;
+    if (const auto found = named_.find(name_); found != named_.end())
+        play(*found->second);
+    emit changed();
+}
+
+void Tunings::play(const TuningDocument& document)
+{
+    // A fresh copy begins at home: see docs/decisions.md, 17.
+    auto temperament =
+        std::make_unique<TransposedTemperament>(document.temperament().fresh(), transposition_);
+    player_.setTemperament(*temperament);
+    played_ = std::move(temperament);
+    name_ = document.name();
+}
+
+} // namespace velmora

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "tuning/TransposedTemperament.h"
+#include "tuning/TuningDocument.h"
+
+#include <QObject>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace velmora {
+
+class Player;
+
+/// The tunings to choose from, the one that is played, and where it stands. Main thread only.
+class Tunings : public QObject {
+    Q_OBJECT
+
+public:
+    /// There is no tuning yet. The player must outlive this object.
+    explicit Tunings(Player& player);
+
+    /// Lists "Equal", which becomes the current tuning, and "Quartercomma Meantone".
+    void addBuiltins();
+
+    /// Adds a tuning to the list. From now on its name selects it, even if an earlier tuning has
+    /// the same name.
+    void put(std::unique_ptr<TuningDocument> document);
+
+    /// All listed tunings in the order in which they were added.
+    const std::vector<std::unique_ptr<TuningDocument>>& documents() const { return documents_; }
+
+    /// The names of all listed tunings in the order in which they were added, and those of the
+    /// adaptive ones. A name that was added twice appears twice.
+    std::vector<std::string> names() const;
+
+    /// Returns what the tuning of that name says about itself; empty if it says nothing.
+    std::string getDescription(const std::string& name) const;
+
+    /// Makes the tuning of that name the current one and retunes the instrument, including sounding
+    /// keys. An adaptive or historical tuning is created and listed when it is first selected.
+    /// Returns false, and keeps the current one, if there is no tuning of that name.
+    bool select(const std::string& name);
+
+    /// The name of the current tuning.
+    const std::string& name() const { return name_; }
+
+    /// The root and the pitch of the current tuning and of those that are selected later.
+    const Transposition& transposition() const { return transposition_; }
+    void setTransposition(const Transposition& transposition);
+
+    /// The current temperament before it was transposed; null before there is one. Its state
+    /// changes as keys are played: look at that under the player's lock.
+    const Temperament* untransposed() const { return played_ ? &played_->inner() : nullptr; }
+
+signals:
+    /// A tuning was listed.
+    void listed();
+
+    /// Another tuning, another root or another pitch is the current one.
+    void changed();
+
+private:
+    void play(const TuningDocument& document);
+
+    Player& player_;
+    /// Every tuning ever listed, including those whose name now selects a later one.
+    std::vector<std::unique_ptr<TuningDocument>> documents_;
+    std::map<std::string, TuningDocument*> named_;
+    std::string name_;
+    Transposition transposition_;
+    std::unique_ptr<TransposedTemperament> played_; ///< A fresh copy of the current tuning's.
+};
+
+} // namespace velmora
