@@ -11,13 +11,20 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 namespace velmora {
 
 namespace {
 
-constexpr int kReadsPerSecond = 30;
+using namespace std::chrono_literals;
+
+// The pitches are read often while they move, and seldom while nobody plays: thirty reads a second
+// would be more than half of the work of the idle program.
+constexpr auto kMovingInterval = 33ms;
+constexpr auto kRestingInterval = 250ms;
+constexpr int kReadsUntilRest = 60;
 constexpr int kStripHeight = 40;
 constexpr double kSmallScale = 0.85; ///< The size of the cents relative to the names.
 constexpr int kRowSpacing = 8;
@@ -56,14 +63,15 @@ TuningStrip::TuningStrip(AppDelegate& application, QWidget* parent)
     setFixedHeight(kStripHeight);
     setAccessibleName(tr("Tuning strip"));
     setToolTip(tr("How many cents each note of the tuning lies above or below equal temperament"));
-    timer_.setInterval(1000 / kReadsPerSecond);
     connect(&timer_, &QTimer::timeout, this, &TuningStrip::read);
+    connect(&application_, &AppDelegate::midiInputReceived, this, &TuningStrip::readOften);
 }
 
 void TuningStrip::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     read();
+    readOften();
     timer_.start();
 }
 
@@ -73,8 +81,17 @@ void TuningStrip::hideEvent(QHideEvent* event)
     QWidget::hideEvent(event);
 }
 
+void TuningStrip::readOften()
+{
+    readsUntilRest_ = kReadsUntilRest;
+    if (timer_.intervalAsDuration() != kMovingInterval)
+        timer_.setInterval(kMovingInterval);
+}
+
 void TuningStrip::read()
 {
+    if (readsUntilRest_ > 0 && --readsUntilRest_ == 0)
+        timer_.setInterval(kRestingInterval);
     std::array<double, 12> pitches{};
     double base = 0.0;
     const auto look = [&](const Instrument&, const Temperament& temperament) {
@@ -92,6 +109,7 @@ void TuningStrip::read()
     }
     if (tones == tones_)
         return;
+    readOften();
     tones_ = tones;
     describe();
     update();

@@ -46,6 +46,9 @@ protected:
 
 private:
     void read();
+
+    /// Follows moving pitches smoothly until nothing has changed for about two seconds.
+    void readOften();
     void fitHeight();
     void describe();
 
@@ -58,6 +61,7 @@ private:
     AppDelegate& application_;
     Tones tones_;
     QTimer timer_;
+    int readsUntilRest_ = 0;
 };
 
 } // namespace velmora
