@@ -2165,6 +2165,18 @@ Ein Klick zeigt alle Stimmungen</translation>
         <source>MIDI inputs</source>
         <translation type="unfinished">MIDI-Eingänge</translation>
     </message>
+    <message>
+        <source>Loading</source>
+        <translation type="unfinished">Laden</translation>
+    </message>
+    <message>
+        <source>%1 % loaded</source>
+        <translation type="unfinished">%1 % geladen</translation>
+    </message>
+    <message>
+        <source>The stops of %1 that are loaded can be played; the others follow</source>
+        <translation type="unfinished">Die geladenen Register von %1 können gespielt werden; die anderen folgen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::StopRow</name>

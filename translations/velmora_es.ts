@@ -2165,6 +2165,18 @@ Haga clic para ver todas las afinaciones</translation>
         <source>MIDI inputs</source>
         <translation type="unfinished">Entradas MIDI</translation>
     </message>
+    <message>
+        <source>Loading</source>
+        <translation type="unfinished">Carga</translation>
+    </message>
+    <message>
+        <source>%1 % loaded</source>
+        <translation type="unfinished">%1 % cargado</translation>
+    </message>
+    <message>
+        <source>The stops of %1 that are loaded can be played; the others follow</source>
+        <translation type="unfinished">Los registros ya cargados de %1 se pueden tocar; los demás seguirán</translation>
+    </message>
 </context>
 <context>
     <name>velmora::StopRow</name>

@@ -2165,6 +2165,18 @@ Cliquez pour afficher tous les tempéraments</translation>
         <source>MIDI inputs</source>
         <translation type="unfinished">Entrées MIDI</translation>
     </message>
+    <message>
+        <source>Loading</source>
+        <translation type="unfinished">Chargement</translation>
+    </message>
+    <message>
+        <source>%1 % loaded</source>
+        <translation type="unfinished">%1&#x202f;% chargé</translation>
+    </message>
+    <message>
+        <source>The stops of %1 that are loaded can be played; the others follow</source>
+        <translation type="unfinished">Les jeux déjà chargés de %1 peuvent être joués&#x202f;; les autres suivent</translation>
+    </message>
 </context>
 <context>
     <name>velmora::StopRow</name>

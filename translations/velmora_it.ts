@@ -2165,6 +2165,18 @@ Fai clic per mostrare tutti i temperamenti</translation>
         <source>MIDI inputs</source>
         <translation type="unfinished">Ingressi MIDI</translation>
     </message>
+    <message>
+        <source>Loading</source>
+        <translation type="unfinished">Caricamento</translation>
+    </message>
+    <message>
+        <source>%1 % loaded</source>
+        <translation type="unfinished">%1 % caricato</translation>
+    </message>
+    <message>
+        <source>The stops of %1 that are loaded can be played; the others follow</source>
+        <translation type="unfinished">I registri già caricati di %1 si possono suonare; gli altri seguono</translation>
+    </message>
 </context>
 <context>
     <name>velmora::StopRow</name>

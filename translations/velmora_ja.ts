@@ -2152,6 +2152,18 @@ Click to show all tunings</source>
         <source>MIDI inputs</source>
         <translation type="unfinished">MIDI 入力</translation>
     </message>
+    <message>
+        <source>Loading</source>
+        <translation type="unfinished">読み込み</translation>
+    </message>
+    <message>
+        <source>%1 % loaded</source>
+        <translation type="unfinished">%1 % 読み込み済み</translation>
+    </message>
+    <message>
+        <source>The stops of %1 that are loaded can be played; the others follow</source>
+        <translation type="unfinished">%1 の読み込み済みのストップは演奏できます。残りは続けて読み込まれます</translation>
+    </message>
 </context>
 <context>
     <name>velmora::StopRow</name>

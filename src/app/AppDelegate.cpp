@@ -36,6 +36,7 @@ AppDelegate::AppDelegate()
 {
     connect(this, &AppDelegate::loadingFinished, this, &AppDelegate::takeSynthesizer,
             Qt::QueuedConnection);
+    connect(&loader_, &InstrumentLoader::finished, this, &AppDelegate::instrumentsChanged);
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -131,6 +132,7 @@ void AppDelegate::addInstrument(std::unique_ptr<InstrumentDocument> document)
         return;
     if (AudioSource* source = document->instrument()->source())
         engine_.add(*source);
+    loader_.add(*document);
     instruments_.push_back(std::move(document));
     const InstrumentDocument& added = *instruments_.back();
     setInstrument(*added.instrument(), added.title());
@@ -159,6 +161,7 @@ bool AppDelegate::selectInstrument(std::size_t position)
             return false;
         if (AudioSource* source = document.instrument()->source())
             engine_.add(*source);
+        loader_.add(document);
         emit instrumentsChanged();
     }
     setInstrument(*document.instrument(), document.title());
@@ -175,6 +178,8 @@ void AppDelegate::replaceInstrument(std::size_t position,
     std::swap(instruments_.at(position), document);
     const InstrumentDocument& added = *instruments_[position];
     setInstrument(*added.instrument(), added.title());
+    loader_.remove(*document);
+    loader_.add(*instruments_[position]);
     if (Instrument* before = document->instrument()) {
         player_.remove(*before);
         if (AudioSource* source = before->source())
@@ -193,6 +198,7 @@ bool AppDelegate::unloadInstrument(std::size_t position)
     player_.remove(*document.instrument());
     if (AudioSource* source = document.instrument()->source())
         engine_.remove(*source);
+    loader_.remove(document);
     document.unload();
     emit instrumentsChanged();
     return true;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/InputQueue.h"
+#include "app/InstrumentLoader.h"
 #include "app/LiveDevices.h"
 #include "app/MidiLearning.h"
 #include "app/OrganConsole.h"
@@ -155,6 +156,13 @@ public:
     void startProgress(long steps) override;
     void updateProgress(unsigned steps, const std::string& text) override;
     bool isCancelled() const override { return isCancelled_; }
+    bool loadsInBackground() const override { return loadsInBackground_; }
+
+    /// From now on, instruments can be played before all their stops are loaded.
+    void loadInBackground() { loadsInBackground_ = true; }
+
+    /// What loads the other stops.
+    InstrumentLoader& loader() { return loader_; }
 
     /// Cancels the running import at its next step.
     void cancelImport() { isCancelled_ = true; }
@@ -226,6 +234,7 @@ private:
 
     std::string instrumentName_;
     bool isCancelled_ = false;
+    bool loadsInBackground_ = false;
 
     AudioEngine engine_;
     std::vector<std::unique_ptr<InstrumentDocument>> instruments_;
@@ -245,6 +254,7 @@ private:
     // Declared last: their threads use the members above.
     std::unique_ptr<OutputKeeper> output_;
     std::unique_ptr<MidiInputs> inputs_;
+    InstrumentLoader loader_{player_};
     std::unique_ptr<IntervalTimer> fadeTimer_;
     std::future<std::unique_ptr<Synthesizer>> loading_;
     std::unique_ptr<TuningCorrector> tuningCorrector_;

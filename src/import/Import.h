@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/DecodingOptions.h"
+#include "import/BackgroundLoading.h"
 #include "import/ImportOptions.h"
 #include "import/ImportReport.h"
 #include "import/InstrumentHost.h"
@@ -38,6 +39,9 @@ struct Import {
     void countRanks();
 
     std::unique_ptr<ALInstrument> instrument; ///< Never null; starts without stops.
+
+    /// Loads what is not yet in `instrument`; null if nothing is left.
+    std::unique_ptr<BackgroundLoading> background;
 
     /// Takes the place of `instrument` if it is not null.
     std::unique_ptr<MIDIInstrument> presets;

@@ -24,6 +24,9 @@ namespace velmora {
 
 namespace {
 
+constexpr const char* kTooLarge =
+    "is too large for the free memory; unload other instruments, then open it again";
+
 void readInto(Import& import, const std::filesystem::path& path, InstrumentFormat format)
 {
     const bool isMusical = import.options.reading == Reading::Musical;
@@ -60,6 +63,14 @@ void readInto(Import& import, const std::filesystem::path& path, InstrumentForma
     }
 }
 
+void cleanReport(ImportReport& report)
+{
+    for (auto& [file, why] : report.skipped) {
+        file = toUtf8(file);
+        why = toUtf8(why);
+    }
+}
+
 /// Converts all names to UTF-8.
 void cleanNames(Import& import)
 {
@@ -76,10 +87,7 @@ void cleanNames(Import& import)
     }
     for (std::string& choice : import.choices)
         choice = toUtf8(choice);
-    for (auto& [file, why] : import.report.skipped) {
-        file = toUtf8(file);
-        why = toUtf8(why);
-    }
+    cleanReport(import.report);
 }
 
 } // namespace
@@ -118,6 +126,39 @@ bool InstrumentDocument::canUnload() const
     return isFromFile() && instrument_ && !instrument_->isSounding();
 }
 
+void InstrumentDocument::unload()
+{
+    background_.reset();
+    instrument_.reset();
+}
+
+std::optional<double> InstrumentDocument::loadingProgress() const
+{
+    return background_ ? std::optional(background_->progress()) : std::nullopt;
+}
+
+void InstrumentDocument::continueLoading(const BackgroundLoading::Exclusively& exclusively)
+{
+    if (!background_)
+        return;
+    try {
+        const bool isUnfinished = background_->advance(report_, exclusively);
+        if (const ALInstrument* ranks = sampledRanksOf(*instrument_))
+            instrument_->usage = ranks->usage;
+        if (isUnfinished)
+            return;
+    } catch (const FormatError& error) {
+        report_.skipped.emplace_back(path_.filename().string(), error.what());
+    } catch (const MemoryShortage& shortage) {
+        report_.skipped.emplace_back(path_.filename().string(), shortage.what());
+    } catch (const std::bad_alloc&) {
+        report_.skipped.emplace_back(path_.filename().string(), kTooLarge);
+    }
+    background_.reset();
+    cleanReport(report_);
+    decodedSamples().trim();
+}
+
 bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentFormat format,
                               const ImportOptions& options, InstrumentHost& host)
 {
@@ -132,6 +173,7 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
         readInto(import, path, format);
         decodedSamples().trim();
         cleanNames(import);
+        background_.reset();
         if (import.presets)
             instrument_ = std::move(import.presets);
         else if (import.console)
@@ -139,6 +181,7 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
                                                             std::move(*import.console));
         else
             instrument_ = std::move(import.instrument);
+        background_ = std::move(import.background);
         name_ = std::move(import.name);
         report_ = std::move(import.report);
         choices_ = std::move(import.choices);
@@ -153,10 +196,7 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
     } catch (const MemoryShortage& shortage) {
         errorString_ = FormatError(shortage.what()).inFile(path.filename().string());
     } catch (const std::bad_alloc&) {
-        errorString_ =
-            FormatError(
-                "is too large for the free memory; unload other instruments, then open it again")
-                .inFile(path.filename().string());
+        errorString_ = FormatError(kTooLarge).inFile(path.filename().string());
     }
     logger("import").info("{}", errorString_);
     return false;

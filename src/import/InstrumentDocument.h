@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/MusicDevice.h"
+#include "import/BackgroundLoading.h"
 #include "import/ImportOptions.h"
 #include "import/ImportReport.h"
 #include "import/InstrumentFormat.h"
@@ -10,6 +11,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,8 +42,16 @@ public:
     /// True if the instrument can be unloaded: it was read from a file and is silent.
     bool canUnload() const;
 
-    /// Frees the instrument with its samples, until it is reloaded.
-    void unload() { instrument_.reset(); }
+    /// Frees the instrument with its samples, until it is reloaded, and stops loading it.
+    void unload();
+
+    /// How much of the instrument is loaded, from 0 to 1, while the rest is being loaded in the
+    /// background; empty if nothing more follows.
+    std::optional<double> loadingProgress() const;
+
+    /// Adds what has been loaded in the background since the last call, for a few milliseconds at
+    /// most. The report says what could not be loaded.
+    void continueLoading(const BackgroundLoading::Exclusively& exclusively);
 
     /// A sentence that names the file and says why the last `read` failed; empty if it did not.
     const std::string& errorString() const { return errorString_; }
@@ -78,6 +88,7 @@ private:
     InstrumentDocument(std::unique_ptr<Instrument> instrument, std::string name);
 
     std::unique_ptr<Instrument> instrument_;
+    std::unique_ptr<BackgroundLoading> background_; ///< Null if everything is loaded.
     std::string name_;
     std::filesystem::path path_;
     InstrumentFormat format_ = InstrumentFormat::SoundFont;

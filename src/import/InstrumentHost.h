@@ -18,6 +18,9 @@ public:
 
     /// Returns whether to stop the import. Called before each file or sample.
     virtual bool isCancelled() const = 0;
+
+    /// Returns whether an instrument may be handed over while a part of it is still being loaded.
+    virtual bool loadsInBackground() const { return false; }
 };
 
 } // namespace velmora

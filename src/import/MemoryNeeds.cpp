@@ -77,12 +77,17 @@ void MemoryNeeds::require(const Import& import) const
     throw MemoryShortage(needs + "unload other instruments or close other programs");
 }
 
+std::uint64_t packedSize(const PipeOrgan& organ)
+{
+    std::uint64_t size = 0;
+    for (const std::string& file : organ.files)
+        size += organ.tree->size(file);
+    return size;
+}
+
 void requireMemory(const PipeOrgan& organ, const Import& import)
 {
-    std::uint64_t packed = 0;
-    for (const std::string& file : organ.files)
-        packed += organ.tree->size(file);
-    if (packed <= import.memory->available() / kGreatestRatio)
+    if (packedSize(organ) <= import.memory->available() / kGreatestRatio)
         return;
 
     MemoryNeeds needs;

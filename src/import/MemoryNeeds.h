@@ -26,6 +26,9 @@ private:
     std::uint64_t in16BitMono_ = 0;
 };
 
+/// Returns the size of the sample files of an organ in bytes.
+std::uint64_t packedSize(const PipeOrgan& organ);
+
 /// Refuses an organ whose samples do not fit into the memory, before they are loaded. Where that is
 /// in doubt, a file of each rank is decoded, and the others are taken to be alike. Throws
 /// MemoryShortage.

@@ -44,6 +44,13 @@ public:
             thread.request_stop();
     }
 
+    /// Returns whether `next` would not have to wait.
+    bool isReady()
+    {
+        const std::lock_guard lock(mutex_);
+        return slots_[taken_].done;
+    }
+
     /// Waits for the next thing and returns it, or throws what its loading has thrown. Must not be
     /// called more often than there are things.
     Result next()

@@ -5,14 +5,18 @@
 #include "import/MemoryNeeds.h"
 #include "import/ParallelLoader.h"
 #include "import/PipeVoice.h"
+#include "import/VoiceList.h"
+#include "import/openingStops.h"
 #include "import/pipePitch.h"
 
 #include <spdlog/fmt/fmt.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <map>
 #include <set>
+#include <utility>
 
 namespace velmora {
 
@@ -23,44 +27,6 @@ constexpr std::size_t kUpdatesOfPipeOrgan = 200;
 
 /// More files than this that fail for the same reason are reported as a number.
 constexpr std::size_t kFilesNamed = 3;
-
-/// Everything that makes two pipes sound from the same recordings.
-using VoiceKey = std::vector<std::uint64_t>;
-
-VoiceKey voiceKeyOf(const PipeOrgan::Pipe& pipe)
-{
-    constexpr std::uint64_t kNone = UINT64_MAX;
-    VoiceKey key{pipe.isPercussive ? 1U : 0U, pipe.attacks.size()};
-    for (const PipeOrgan::Attack& attack : pipe.attacks) {
-        key.insert(key.end(), {attack.file, attack.hasOwnRelease ? 1U : 0U,
-                               attack.cue ? *attack.cue : kNone, attack.loops.size()});
-        for (const Loop& loop : attack.loops)
-            key.insert(key.end(), {loop.begin, loop.end});
-    }
-    for (const PipeOrgan::Release& release : pipe.releases)
-        key.insert(key.end(), {release.file, release.cue ? *release.cue : kNone});
-    return key;
-}
-
-/// The recordings of an organ's pipes, each only once, in the order in which ranks need them.
-struct VoiceList {
-    VoiceList(const PipeOrgan& organ, const std::vector<std::size_t>& order)
-    {
-        std::map<VoiceKey, std::size_t> known;
-        ofPipes.resize(organ.ranks.size());
-        for (const std::size_t rank : order) {
-            for (const PipeOrgan::Pipe& pipe : organ.ranks[rank].pipes) {
-                const auto [voice, isNew] = known.try_emplace(voiceKeyOf(pipe), pipes.size());
-                if (isNew)
-                    pipes.push_back(&pipe);
-                ofPipes[rank].push_back(voice->second);
-            }
-        }
-    }
-
-    std::vector<const PipeOrgan::Pipe*> pipes;     ///< A pipe with each voice.
-    std::vector<std::vector<std::size_t>> ofPipes; ///< The voice of each pipe of each rank.
-};
 
 /// A voice whose sounds the instrument has.
 struct LoadedVoice {
@@ -81,28 +47,12 @@ struct LoadedVoice {
     std::vector<std::pair<std::size_t, std::string>> skipped;
 };
 
-/// Returns the ranks of the stops that are drawn, then the others.
-std::vector<std::size_t> orderOfRanks(const PipeOrgan& organ)
-{
-    std::set<std::size_t> drawn;
-    for (const ConsoleDefinition::Stop& stop : organ.console.stops) {
-        for (const ConsoleDefinition::Pipes& pipes : stop.pipes) {
-            if (stop.isDrawn)
-                drawn.insert(pipes.rank);
-        }
-    }
-    std::vector<std::size_t> result(drawn.begin(), drawn.end());
-    for (std::size_t rank = 0; rank < organ.ranks.size(); ++rank) {
-        if (!drawn.contains(rank))
-            result.push_back(rank);
-    }
-    return result;
-}
-
-class PipeOrganLoading {
+/// Loads the recordings of an organ on several threads, and enters them rank by rank.
+class PipeOrganLoading : public BackgroundLoading {
 public:
-    PipeOrganLoading(const PipeOrgan& organ, Import& import)
-        : organ_(organ), import_(import), order_(orderOfRanks(organ)), list_(organ, order_),
+    PipeOrganLoading(PipeOrgan organ, Import& import)
+        : organ_(std::move(organ)), instrument_(*import.instrument), order_(orderOfRanks(organ_)),
+          list_(organ_, order_),
           loader_({list_.pipes.size(),
                    [this, options = import.decoding()](std::size_t voice) {
                        return loadPipeVoice(organ_, *list_.pipes[voice], options);
@@ -110,47 +60,90 @@ public:
                    [](std::size_t) { return 0; }})
     {
         for (const std::size_t rank : order_) {
-            for (const PipeOrgan::Pipe& pipe : organ.ranks[rank].pipes) {
+            for (const PipeOrgan::Pipe& pipe : organ_.ranks[rank].pipes) {
                 for (const PipeOrgan::Attack& attack : pipe.attacks)
                     expected_[attack.file].push_back(expectedNote(pipe));
             }
         }
-        import.host.startProgress(static_cast<long>(list_.pipes.size()));
     }
 
-    void load()
+    const PipeOrgan& organ() const { return organ_; }
+
+    /// The number of recordings, each of which is a step.
+    std::size_t voices() const { return list_.pipes.size(); }
+
+    bool isDone() const { return ranks_ == order_.size(); }
+
+    /// Loads the next rank.
+    void loadRank(Import& import)
     {
-        for (const std::size_t rank : order_)
-            loadRank(rank);
-        import_.host.updateProgress(static_cast<unsigned>(voices_.size() % step()), organ_.name);
+        while (!hasVoices()) {
+            if (import.host.isCancelled())
+                throw Cancelled{};
+            takeVoice(import.report);
+            if (voices_.size() % step() == 0)
+                import.host.updateProgress(static_cast<unsigned>(step()), lastFile_);
+        }
+        enterRank(import.report, [](const auto& change) { change(); });
+        if (isDone())
+            import.host.updateProgress(static_cast<unsigned>(voices_.size() % step()), organ_.name);
+    }
+
+    bool advance(ImportReport& report, const Exclusively& exclusively) override
+    {
+        constexpr std::chrono::milliseconds kLongest{8};
+        const auto start = std::chrono::steady_clock::now();
+        while (!isDone() && std::chrono::steady_clock::now() - start < kLongest) {
+            if (hasVoices())
+                enterRank(report, exclusively);
+            else if (loader_.isReady())
+                takeVoice(report);
+            else
+                break;
+        }
+        return !isDone();
+    }
+
+    double progress() const override
+    {
+        return static_cast<double>(voices_.size()) / static_cast<double>(list_.pipes.size());
     }
 
 private:
-    void loadRank(std::size_t rank)
+    /// True if every voice of the next rank is loaded.
+    bool hasVoices() const
+    {
+        const std::vector<std::size_t>& voices = list_.ofPipes[order_[ranks_]];
+        return voices.empty() || std::ranges::max(voices) < voices_.size();
+    }
+
+    void enterRank(ImportReport& report, const Exclusively& exclusively)
+    {
+        const std::size_t rank = order_[ranks_++];
+        const RankPitch pitch = pitchOf(rank);
+        exclusively([&] { enterPipes(rank, pitch, report); });
+        reportFiles(rank, report);
+    }
+
+    void enterPipes(std::size_t rank, const RankPitch& pitch, ImportReport& report)
     {
         const std::vector<std::size_t>& voices = list_.ofPipes[rank];
-        for (const std::size_t voice : voices) {
-            if (voice == voices_.size())
-                takeVoice();
-        }
-        const RankPitch pitch = pitchOf(rank);
-        InstrumentStop& stop = import_.instrument->stops().at(rank);
+        InstrumentStop& stop = instrument_.stops().at(rank);
         for (std::size_t i = 0; i < voices.size(); ++i) {
             const PipeOrgan::Pipe& pipe = organ_.ranks[rank].pipes[i];
             Sample& sample = stop.samples.at(static_cast<std::size_t>(pipe.key));
             if (sample.source() != 0 || voices_[voices[i]].attacks.empty())
                 continue;
             enter(pipe, voices_[voices[i]], pitch, sample);
-            ++import_.report.pipes;
+            ++report.pipes;
         }
-        report(rank);
+        if (stop.keysWithSamples() > 0)
+            ++report.ranks;
     }
 
     /// Waits for the next voice and gives its sounds to the instrument.
-    void takeVoice()
+    void takeVoice(ImportReport& report)
     {
-        if (import_.host.isCancelled())
-            throw Cancelled{};
         const PipeOrgan::Pipe& pipe = *list_.pipes[voices_.size()];
         PipeVoice voice = loader_.next();
         LoadedVoice& loaded = voices_.emplace_back();
@@ -172,21 +165,19 @@ private:
                 {release.index, &add(release.sound, {}, beside, file), release.note});
             loaded.alignments.push_back(std::move(release.alignments));
         }
-        if (voices_.size() % step() == 0)
-            import_.host.updateProgress(static_cast<unsigned>(step()),
-                                        organ_.files[pipe.attacks.front().file]);
+        lastFile_ = organ_.files[pipe.attacks.front().file];
+        report.samples = instrument_.sounds.size();
     }
 
     const Sound& add(const Pcm& pcm, const std::optional<Loop>& loop, const Sound* beside,
                      std::size_t file)
     {
-        auto sound = std::make_unique<Sound>(import_.instrument->renderer(), pcm, loop, beside);
-        import_.instrument->usage += sound->size();
-        ++import_.report.samples;
+        auto sound = std::make_unique<Sound>(instrument_.renderer(), pcm, loop, beside);
+        instrument_.usage += sound->size();
         std::string name = organ_.files[file];
-        for (int number = 2; import_.instrument->sounds.contains(name); ++number)
+        for (int number = 2; instrument_.sounds.contains(name); ++number)
             name = fmt::format("{} ({})", organ_.files[file], number);
-        return *(import_.instrument->sounds[name] = std::move(sound));
+        return *(instrument_.sounds[name] = std::move(sound));
     }
 
     RankPitch pitchOf(std::size_t rank) const
@@ -255,7 +246,7 @@ private:
     }
 
     /// Reports which files of a rank could not be used.
-    void report(std::size_t rank)
+    void reportFiles(std::size_t rank, ImportReport& report) const
     {
         std::map<std::string, std::set<std::size_t>> files; // by reason
         for (const std::size_t voice : list_.ofPipes[rank]) {
@@ -266,7 +257,7 @@ private:
             return fmt::format("{}: {}", organ_.ranks[rank].name,
                                organ_.tree->displayName(organ_.files[file]));
         };
-        auto& skipped = import_.report.skipped;
+        auto& skipped = report.skipped;
         for (const auto& [why, failed] : files) {
             if (failed.size() > kFilesNamed) {
                 skipped.emplace_back(
@@ -282,75 +273,67 @@ private:
 
     std::size_t step() const { return list_.pipes.size() / kUpdatesOfPipeOrgan + 1; }
 
-    const PipeOrgan& organ_;
-    Import& import_;
+    const PipeOrgan organ_;
+    ALInstrument& instrument_;
     const std::vector<std::size_t> order_; ///< In which the ranks are loaded.
     const VoiceList list_;
     std::map<std::size_t, std::vector<double>> expected_; ///< The notes expected of each file.
     std::vector<LoadedVoice> voices_;
+    std::string lastFile_;             ///< Of the last voice.
+    std::size_t ranks_ = 0;            ///< How many have been entered.
     ParallelLoader<PipeVoice> loader_; ///< Last, since its threads use the list.
 };
 
-/// True if a key of the stop has a pipe with a sound.
-bool canSound(const ConsoleDefinition::Stop& stop, const std::vector<InstrumentStop>& ranks)
+/// Loads all ranks, or only so many that the drawn stops can be played.
+void loadRanks(PipeOrganLoading& loading, Import& import)
 {
-    return std::ranges::any_of(stop.pipes, [&](const ConsoleDefinition::Pipes& pipes) {
-        for (int i = 0; i < pipes.count; ++i) {
-            const auto key =
-                static_cast<std::size_t>(pipes.firstPipe) + static_cast<std::size_t>(i);
-            if (key < kKeys && ranks.at(pipes.rank).samples[key].source() != 0)
-                return true;
-        }
-        return false;
-    });
-}
-
-/// Unless a stop that can sound is drawn, draws the first one of each division, so that every
-/// keyboard sounds.
-void drawStops(ConsoleDefinition& console, std::vector<InstrumentStop>& ranks)
-{
-    const auto sounds = [&](const ConsoleDefinition::Stop& stop) { return canSound(stop, ranks); };
-    const auto isDrawn = [&](const ConsoleDefinition::Stop& stop) {
-        return stop.isDrawn && sounds(stop);
-    };
-    if (std::ranges::none_of(console.stops, isDrawn)) {
-        std::set<std::size_t> divisions;
-        for (ConsoleDefinition::Stop& stop : console.stops)
-            if (sounds(stop) && divisions.insert(stop.division).second)
-                stop.isDrawn = true;
-    }
-    constexpr float kDrawn = 0.5F; // shown as 1: see docs/decisions.md, 22
-    for (const ConsoleDefinition::Stop& stop : console.stops) {
-        for (const ConsoleDefinition::Pipes& pipes : stop.pipes) {
-            if (stop.isDrawn)
-                ranks.at(pipes.rank).volume = kDrawn;
-        }
+    const ConsoleDefinition& console = loading.organ().console;
+    const auto& ranks = std::as_const(*import.instrument).stops();
+    const std::size_t drawn = ranksOfDrawnStops(console).size();
+    import.host.startProgress(static_cast<long>(loading.voices()));
+    for (std::size_t loaded = 0; !loading.isDone(); ++loaded) {
+        const bool canBePlayed =
+            loaded >= drawn && std::ranges::any_of(console.stops, [&](const auto& stop) {
+                return hasSound(stop, ranks);
+            });
+        if (canBePlayed && import.host.loadsInBackground())
+            return;
+        loading.loadRank(import);
     }
 }
 
 } // namespace
 
-void loadPipeOrgan(const PipeOrgan& organ, Import& import)
+void loadPipeOrgan(PipeOrgan organ, Import& import)
 {
     if (organ.files.empty())
         throw FormatError("cannot be played: no pipe has a sample file");
     requireMemory(organ, import);
     import.name = organ.name;
     import.report.skipped = organ.skipped;
+    import.console = organ.console;
+    drawOpeningStops(organ.console, [&](const auto& stop) { return hasFile(stop, organ); });
     for (const PipeOrgan::Rank& rank : organ.ranks) {
         InstrumentStop& stop = import.instrument->appendStop(rank.name);
         if (rank.division)
             stop.swell = static_cast<std::uint8_t>(std::min<std::size_t>(*rank.division + 1, 255));
     }
-    PipeOrganLoading(organ, import).load();
+    if (import.host.loadsInBackground())
+        import.instrument->renderer().reserve(organ.files.size(), packedSize(organ));
+    auto loading = std::make_unique<PipeOrganLoading>(std::move(organ), import);
+    loadRanks(*loading, import);
     if (import.report.pipes == 0) {
         const auto& [file, reason] = import.report.skipped.back();
         throw FormatError("cannot be played: none of its sample files can be used, for example " +
                           file + ": " + reason);
     }
-    import.console = organ.console;
-    drawStops(*import.console, import.instrument->stops());
-    import.countRanks();
+    std::vector<InstrumentStop>& ranks = import.instrument->stops();
+    drawOpeningStops(*import.console, [&](const auto& stop) { return hasSound(stop, ranks); });
+    constexpr float kDrawn = 0.5F; // shown as 1: see docs/decisions.md, 22
+    for (const std::size_t rank : ranksOfDrawnStops(*import.console))
+        ranks.at(rank).volume = kDrawn;
+    if (!loading->isDone())
+        import.background = std::move(loading);
 }
 
 } // namespace velmora

@@ -76,6 +76,10 @@ struct PipeOrgan {
 /// that of the import. Files that cannot be decoded are skipped. If the console draws no stop that
 /// can sound, the first such stop of each division is drawn. Throws FormatError if nothing sounds,
 /// and Cancelled.
-void loadPipeOrgan(const PipeOrgan& organ, Import& import);
+///
+/// If the host permits it, only the ranks of the drawn stops are loaded at once; those of the other
+/// stops follow in the background, in their order. A division whose only drawn stop turns out to be
+/// silent then has none.
+void loadPipeOrgan(PipeOrgan organ, Import& import);
 
 } // namespace velmora

@@ -157,7 +157,7 @@ void load(PipeOrgan organ, const std::string& file, Import& import)
 {
     organ.console.identity = organ.name + '/' + file;
     import.name = organ.name;
-    loadPipeOrgan(organ, import);
+    loadPipeOrgan(std::move(organ), import);
 }
 
 } // namespace

@@ -14,6 +14,10 @@
 #include <gmock/gmock.h>
 #include <spdlog/fmt/fmt.h>
 
+#include <atomic>
+#include <chrono>
+#include <thread>
+
 namespace velmora {
 
 namespace {
@@ -226,6 +230,55 @@ TEST(PipeOrgan, SoundsInTuneForAsLongAsItsKeysAreHeld)
     EXPECT_EQ(peak(rendered(*instrument.source(), 4'800).left), 0.0F) << "the rank has no such key";
 }
 
+/// A host that takes an instrument before all of it is loaded.
+class ImpatientHost : public RecordingHost {
+public:
+    bool loadsInBackground() const override { return true; }
+};
+
+TEST(PipeOrgan, CanBePlayedWhileItIsLoaded)
+{
+    const SineOrgan organ;
+    ImpatientHost host;
+    InstrumentDocument document;
+    ASSERT_TRUE(document.read(organ.write(), InstrumentFormat::HauptwerkXml, {}, host))
+        << document.errorString();
+    EXPECT_EQ(document.report().pipes, 2U * 16U) << "the first stop of each division";
+    ASSERT_TRUE(document.loadingProgress());
+    EXPECT_LT(*document.loadingProgress(), 1.0);
+
+    Instrument& instrument = *document.instrument();
+    AudioSource& source = *instrument.source();
+    instrument.tune(equal, 0, 127);
+    instrument.play(60, 1.0F);
+    std::atomic<int> silent{0};
+    std::jthread audio([&](const std::stop_token& stop) {
+        while (!stop.stop_requested())
+            silent += peak(rendered(source, 480).left) == 0.0F ? 1 : 0;
+    });
+    int changes = 0;
+    for (int i = 0; document.loadingProgress(); ++i) {
+        document.continueLoading([&](const auto& change) {
+            change();
+            instrument.tune(equal, 0, 127);
+            ++changes;
+        });
+        instrument.play(61 + i % 5, 1.0F);
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        instrument.stop(61 + i % 5);
+    }
+    audio = {};
+    EXPECT_EQ(changes, 2) << "the ranks that were left";
+    EXPECT_EQ(silent, 0) << "nothing interrupts the sound";
+    EXPECT_EQ(document.report().ranks, 3U);
+    EXPECT_EQ(document.report().pipes, 3U * 16U);
+    EXPECT_EQ(document.report().samples, 64U);
+
+    ASSERT_TRUE(document.reload(host));
+    document.unload();
+    EXPECT_FALSE(document.loadingProgress()) << "unloading ends it";
+}
+
 } // namespace
 
 TEST(PipeOrgan, OpensWithTheFirstSoundingStopOfEachDivision)
@@ -236,7 +289,7 @@ TEST(PipeOrgan, OpensWithTheFirstSoundingStopOfEachDivision)
     organ.tree = openFolder(folder.path());
     organ.files = {"gone.wav", "a.wav"};
     organ.console.divisions.resize(2);
-    for (const std::size_t file : {0, 1}) {
+    for (const std::size_t file : {0U, 1U, 1U}) {
         PipeOrgan::Pipe pipe;
         pipe.key = 60;
         pipe.attacks.emplace_back().file = file;
@@ -248,14 +301,19 @@ TEST(PipeOrgan, OpensWithTheFirstSoundingStopOfEachDivision)
     addStop(0, 0);
     addStop(0, 1);
     addStop(0, 1);
-    addStop(1, 1);
-    RecordingHost host;
-    Import import(host, {});
-    loadPipeOrgan(organ, import);
-    std::vector<bool> drawn;
-    for (const ConsoleDefinition::Stop& stop : import.console->stops)
-        drawn.push_back(stop.isDrawn);
-    EXPECT_THAT(drawn, ElementsAre(false, true, false, true));
+    addStop(1, 2);
+    const auto drawnBy = [&](InstrumentHost& host) {
+        Import import(host, {});
+        loadPipeOrgan(organ, import);
+        std::vector<bool> drawn;
+        for (const ConsoleDefinition::Stop& stop : import.console->stops)
+            drawn.push_back(stop.isDrawn);
+        return drawn;
+    };
+    RecordingHost patient;
+    EXPECT_THAT(drawnBy(patient), ElementsAre(false, true, false, true));
+    ImpatientHost impatient;
+    EXPECT_THAT(drawnBy(impatient), ElementsAre(false, true, false, true));
 }
 
 } // namespace velmora

@@ -60,6 +60,8 @@ InstrumentPanel::InstrumentPanel(AppDelegate& application, QWidget* parent)
     connect(&application_, &AppDelegate::programSelected, programs_,
             [this](int program) { programs_->showCurrent(static_cast<std::size_t>(program)); });
     connect(&application_, &AppDelegate::instrumentChanged, this, &InstrumentPanel::showInstrument);
+    connect(&application_.loader(), &InstrumentLoader::finished, this,
+            &InstrumentPanel::showInstrument);
     connect(&application_, &AppDelegate::volumeMoved, stops_, &StopList::showVolume);
 }
 

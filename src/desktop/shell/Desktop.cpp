@@ -69,6 +69,7 @@ Desktop::~Desktop() = default;
 
 void Desktop::launch(const OutputSettings& output)
 {
+    application_.loadInBackground();
     application_.start(output);
     workspace_.status().showDevices();
     pages_.offerAbandoned();

@@ -13,6 +13,7 @@ namespace velmora {
 InstrumentOpener::InstrumentOpener(AppDelegate& application, ProgressWindow& progress)
     : application_(application), progress_(progress)
 {
+    connect(&application_.loader(), &InstrumentLoader::finished, this, &InstrumentOpener::describe);
 }
 
 std::unique_ptr<InstrumentDocument>

@@ -45,9 +45,15 @@ StatusLine::StatusLine(AppDelegate& application)
     reading_ = addItem(tr("Reading of MIDI devices"), &StatusLine::midiClicked);
     output_ = addItem(tr("Sound output"), &StatusLine::soundClicked);
     inputs_ = addItem(tr("MIDI inputs"), &StatusLine::midiClicked);
+    // It comes and goes, so it stands where it does not push the others aside.
+    constexpr int kBeforeTheOthers = 2;
+    loading_ = new StatusItem(tr("Loading"));
+    insertWidget(kBeforeTheOthers, loading_);
+    connect(loading_, &QToolButton::clicked, this, &StatusLine::instrumentClicked);
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::programSelected, this, &StatusLine::showSound);
     connect(&application_.tunings(), &Tunings::changed, this, &StatusLine::showSound);
+    connect(&application_.loader(), &InstrumentLoader::progressed, this, &StatusLine::showLoading);
     connect(&application_, &AppDelegate::outputChanged, this, &StatusLine::showOutput);
     connect(&application_.playing(), &PlayingOptions::changed, this, &StatusLine::showReading);
     showReading();
@@ -59,6 +65,17 @@ StatusItem* StatusLine::addItem(const QString& subject, void (StatusLine::*click
     addWidget(item);
     connect(item, &QToolButton::clicked, this, clicked);
     return item;
+}
+
+void StatusLine::showLoading(const QString& title, int percent)
+{
+    const QString instrument = translatedTitle(title.toStdString());
+    if (percent < 100)
+        loading_->show(
+            tr("%1 % loaded").arg(percent),
+            tr("The stops of %1 that are loaded can be played; the others follow").arg(instrument));
+    else
+        loading_->hide();
 }
 
 void StatusLine::showSound()

@@ -37,6 +37,7 @@ signals:
 private:
     StatusItem* addItem(const QString& subject, void (StatusLine::*clicked)());
     void showSound();
+    void showLoading(const QString& title, int percent);
     void showReading();
     void showOutput();
     void showMidiInputs();
@@ -44,7 +45,7 @@ private:
     void showNotices();
 
     AppDelegate& application_;
-    StatusItem *instrument_, *tuning_, *reading_, *output_, *inputs_;
+    StatusItem *instrument_, *tuning_, *reading_, *output_, *inputs_, *loading_;
     QToolButton* noticesButton_;
     QStringList notices_;
     QString missingOutput_; ///< The notice about the output; empty if none is missing.

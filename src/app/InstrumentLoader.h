@@ -1,0 +1,49 @@
+#pragma once
+
+#include "app/Player.h"
+#include "import/InstrumentDocument.h"
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <vector>
+
+namespace velmora {
+
+/// Loads the rest of instruments that can be played already, a little at a time on the main thread.
+class InstrumentLoader : public QObject {
+    Q_OBJECT
+
+public:
+    explicit InstrumentLoader(Player& player);
+
+    /// Loads the rest of an instrument, if there is any. It must be removed before the document is
+    /// unloaded or destroyed, or else the document must outlive this object.
+    void add(InstrumentDocument& document);
+
+    /// Loads no more of an instrument.
+    void remove(const InstrumentDocument& document);
+
+signals:
+    /// So many per cent of the instrument with that title are loaded; 100 when the loading ends.
+    void progressed(const QString& title, int percent);
+
+    /// The document's report says what could not be loaded.
+    void finished(const velmora::InstrumentDocument& document);
+
+private:
+    void advance();
+    void advance(InstrumentDocument& document);
+
+    struct Loading {
+        InstrumentDocument* document;
+        int percent = -1;
+    };
+
+    Player& player_;
+    std::vector<Loading> loadings_;
+    QTimer timer_;
+};
+
+} // namespace velmora

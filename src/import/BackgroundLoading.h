@@ -1,0 +1,27 @@
+#pragma once
+
+#include "import/ImportReport.h"
+
+#include <functional>
+
+namespace velmora {
+
+/// The stops of an instrument that are being loaded while others can be played already. It must be
+/// destroyed before the instrument.
+class BackgroundLoading {
+public:
+    /// Calls a change of the instrument while nobody plays it.
+    using Exclusively = std::function<void(const std::function<void()>& change)>;
+
+    virtual ~BackgroundLoading() = default;
+
+    /// Adds what has been loaded since the last call, for a few milliseconds at most, and reports
+    /// what is left out. Returns false when nothing is left to load. Throws FormatError and
+    /// std::bad_alloc; it cannot go on then.
+    virtual bool advance(ImportReport& report, const Exclusively& exclusively) = 0;
+
+    /// How much is loaded, from 0 to 1.
+    virtual double progress() const = 0;
+};
+
+} // namespace velmora
