@@ -10,23 +10,22 @@ namespace {
 
 constexpr double kTolerance = 2.0; ///< In cents.
 
-/// Returns the name of the pitch that lies `fifths` fifths above C.
-std::string nameOf(int fifths)
+} // namespace
+
+std::string placeName(int place)
 {
-    const int fromF = fifths + 1 + 3 * 7;
+    const int fromF = place + 1 + 3 * 7;
     std::string name(1, "FCGDAEB"[fromF % 7]);
     for (int sharps = fromF / 7 - 3; sharps != 0; sharps += sharps > 0 ? -1 : 1)
         name += sharps > 0 ? '#' : 'b';
     return name;
 }
 
-} // namespace
-
 std::string spelling(double cents)
 {
     for (int fifths = -meantone::kFarthest; fifths <= meantone::kFarthest; ++fifths)
         if (std::abs(std::remainder(fifths * meantone::kFifth - cents, 1200.0)) < kTolerance)
-            return nameOf(fifths);
+            return placeName(fifths);
     return {};
 }
 

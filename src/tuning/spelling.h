@@ -9,4 +9,8 @@ namespace velmora {
 /// for a pitch more than two cents away from all of them.
 std::string spelling(double cents);
 
+/// Returns the name of the note that lies `place` fifths above C, or below it if negative: "G" for
+/// 1 and "Bb" for −2. Places run from −22 to 22.
+std::string placeName(int place);
+
 } // namespace velmora
