@@ -180,6 +180,16 @@ void Player::isomorph(int n)
     markCurrent(division, key);
 }
 
+KeySet Player::soundingKeys() const
+{
+    KeySet sounding;
+    const std::lock_guard lock(mutex_);
+    for (const auto& [instrument, divisions] : instruments_)
+        for (const KeySet& keys : divisions)
+            sounding |= keys;
+    return sounding;
+}
+
 void Player::silence()
 {
     const std::lock_guard lock(mutex_);

@@ -97,6 +97,9 @@ public:
     /// Ends every sound of every instrument at once and releases every live key.
     void silence();
 
+    /// The keys that sound and have not been stopped, whoever plays them.
+    KeySet soundingKeys() const;
+
     /// Returns how many seconds the slowest live key since the last call took to get here.
     double takeInputDelay() { return inputDelay_.exchange(0.0); }
 

@@ -3,6 +3,7 @@
 #include "app/Player.h"
 #include "base/Log.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace velmora {
@@ -23,6 +24,46 @@ void Tunings::put(std::unique_ptr<TuningDocument> document)
     named_[document->name()] = document.get();
     documents_.push_back(std::move(document));
     emit listed();
+}
+
+void Tunings::replace(std::unique_ptr<TuningDocument> document)
+{
+    const auto named = named_.find(document->name());
+    if (named == named_.end()) {
+        put(std::move(document));
+        return;
+    }
+    const auto place =
+        std::ranges::find(documents_, named->second, &std::unique_ptr<TuningDocument>::get);
+    named->second = document.get();
+    *place = std::move(document);
+    if (named->first != name_)
+        return;
+    play(*named->second);
+    emit changed();
+}
+
+void Tunings::preview(const TuningDocument* document)
+{
+    if (document == nullptr)
+        document = current();
+    if (document == nullptr)
+        return;
+    std::string name = std::move(name_);
+    play(*document);
+    name_ = std::move(name);
+}
+
+const TuningDocument* Tunings::current() const
+{
+    const auto found = named_.find(name_);
+    return found == named_.end() ? nullptr : found->second;
+}
+
+const std::string& Tunings::lastingName() const
+{
+    const TuningDocument* document = current();
+    return document == nullptr || document->original().empty() ? name_ : document->original();
 }
 
 std::vector<std::string> Tunings::names() const

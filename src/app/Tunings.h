@@ -29,6 +29,17 @@ public:
     /// the same name.
     void put(std::unique_ptr<TuningDocument> document);
 
+    /// Puts a tuning in the place of the one that its name selects, or lists it. Plays it at once
+    /// if the current tuning has that name.
+    void replace(std::unique_ptr<TuningDocument> document);
+
+    /// Plays a tuning that need not be listed; null plays the current one again. So does whatever
+    /// changes the current tuning, its root or its pitch. The document may be destroyed.
+    void preview(const TuningDocument* document);
+
+    /// The document of the current tuning; null before there is one.
+    const TuningDocument* current() const;
+
     /// All listed tunings in the order in which they were added.
     const std::vector<std::unique_ptr<TuningDocument>>& documents() const { return documents_; }
 
@@ -46,6 +57,10 @@ public:
 
     /// The name of the current tuning.
     const std::string& name() const { return name_; }
+
+    /// The name by which the next start can find the current tuning: that of the original of an
+    /// edited copy, which only its own file would keep.
+    const std::string& lastingName() const;
 
     /// The root and the pitch of the current tuning and of those that are selected later.
     const Transposition& transposition() const { return transposition_; }

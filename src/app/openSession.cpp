@@ -100,7 +100,7 @@ Session currentSession(AppDelegate& application)
     for (const auto& document : application.tunings().documents())
         if (!document->path().empty())
             session.tunings.push_back(document->path());
-    session.tuning = application.tunings().name();
+    session.tuning = application.tunings().lastingName();
     session.transposition = application.playing().settings().transposition;
     return session;
 }

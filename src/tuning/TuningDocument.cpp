@@ -6,14 +6,23 @@
 #include "base/Text.h"
 #include "tuning/DynamicTemperament.h"
 #include "tuning/PureTemperament.h"
+#include "tuning/Tuning.h"
 #include "tuning/historicalTemperaments.h"
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace velmora {
 
 TuningDocument::TuningDocument() : temperament_(std::make_unique<Temperament>()) {}
+
+TuningDocument::TuningDocument(std::string name, std::string description,
+                               std::unique_ptr<const Temperament> temperament)
+    : name_(std::move(name)), description_(std::move(description)),
+      temperament_(std::move(temperament))
+{
+}
 
 // Any other name is meantone: see docs/decisions.md, 18.
 std::unique_ptr<TuningDocument> TuningDocument::makeBuiltin(const std::string& name)
@@ -34,6 +43,21 @@ std::unique_ptr<TuningDocument> TuningDocument::makeBuiltin(const std::string& n
     } else {
         document->temperament_ = std::make_unique<Temperament>(Temperament::Meantone());
     }
+    return document;
+}
+
+std::unique_ptr<TuningDocument> TuningDocument::makeEdited(const TuningDocument& original,
+                                                           const std::array<double, 12>& cents)
+{
+    constexpr int kBaseKey = 48;
+    Temperament temperament;
+    temperament.setBaseFrequency(original.temperament().pitchAt(kBaseKey));
+    for (const double each : cents)
+        temperament.append(std::make_unique<Cent>(each));
+    const std::string& name = original.original_.empty() ? original.name_ : original.original_;
+    auto document = std::make_unique<TuningDocument>(
+        name + " (edited)", std::string(), std::make_unique<Temperament>(std::move(temperament)));
+    document->original_ = name;
     return document;
 }
 

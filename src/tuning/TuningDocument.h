@@ -3,6 +3,7 @@
 #include "tuning/Temperament.h"
 #include "tuning/TuningFile.h"
 
+#include <array>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -16,9 +17,18 @@ public:
     /// Creates a document whose temperament has no tunings until `read` succeeds.
     TuningDocument();
 
+    /// Creates a document that belongs to no file.
+    TuningDocument(std::string name, std::string description,
+                   std::unique_ptr<const Temperament> temperament);
+
     /// Creates "Equal", "Dynamic", "Following Meantone", "Pure", a historical temperament by its
     /// name, or quarter-comma meantone under any other name.
     static std::unique_ptr<TuningDocument> makeBuiltin(const std::string& name);
+
+    /// Creates a copy of a tuning whose notes lie so many cents above its C, in ascending order
+    /// from C. Its name is that of the original and "(edited)"; a copy of a copy keeps its name.
+    static std::unique_ptr<TuningDocument> makeEdited(const TuningDocument& original,
+                                                      const std::array<double, 12>& cents);
 
     /// The names of the adaptive tunings that `makeBuiltin` can create.
     static std::vector<std::string> adaptiveNames();
@@ -42,11 +52,14 @@ public:
     /// every other tuning.
     const std::string& description() const { return description_; }
 
+    /// The name of the tuning that this one is an edited copy of; empty for every other tuning.
+    const std::string& original() const { return original_; }
+
     /// The file of the last successful `read`; empty for a built-in tuning.
     const std::filesystem::path& path() const { return path_; }
 
 private:
-    std::string name_, description_;
+    std::string name_, description_, original_;
     std::filesystem::path path_;
     std::unique_ptr<const Temperament> temperament_;
     std::string errorString_;

@@ -152,7 +152,9 @@ TEST_F(PlayerTest, AKeySoundsUntilItsLastHolderReleasesIt)
     const auto expectToEndWith = [&](const std::function<void()>& last) {
         calls_.clear();
         EXPECT_EQ(player_.liveKeys().state(kKey), 0) << "no hand holds it any more";
+        EXPECT_EQ(player_.soundingKeys(), KeySet().set(kKey));
         last();
+        EXPECT_TRUE(player_.soundingKeys().none());
         EXPECT_EQ(calls_, (Calls{"stop 60"}));
     };
     const auto pressAndRelease = [&] {
