@@ -95,7 +95,7 @@ constexpr double kRate = 48000.0;
 constexpr double kRecordedRate = 44100.0;
 constexpr std::size_t kBlock = 128;
 constexpr double kMicroseconds = 1e6;
-constexpr double kTurn = 2.0 * std::numbers::pi;
+constexpr double kFullTurn = 2.0 * std::numbers::pi;
 
 double decibels(double ratio)
 {
@@ -125,7 +125,7 @@ void fill(ALInstrument& organ, int stops, int channels, double seconds)
             if (!sound)
                 sound = std::make_unique<Sound>(organ.renderer(),
                                                 recorded(channels, seconds, [&](double time) {
-                                                    return std::sin(kTurn * root * time);
+                                                    return std::sin(kFullTurn * root * time);
                                                 }));
             stop.samples[key].setBuffer(*sound, equal.getPitch(key));
         }
@@ -236,7 +236,7 @@ void transform(std::vector<std::complex<double>>& values)
     transform(even);
     transform(odd);
     for (std::size_t i = 0; i < even.size(); ++i) {
-        const auto turned = odd[i] * std::polar(1.0, -kTurn * static_cast<double>(i) /
+        const auto turned = odd[i] * std::polar(1.0, -kFullTurn * static_cast<double>(i) /
                                                          static_cast<double>(values.size()));
         values[i] = even[i] + turned;
         values[i + even.size()] = even[i] - turned;
@@ -263,7 +263,7 @@ void measureSpurs()
     setSound(instrument, kKey, kRoot, recorded(1, 4.0, [](double time) {
                  double sum = 0.0;
                  for (int n = 1; n * kRoot < 16000.0; ++n)
-                     sum += 0.4 * std::sin(kTurn * n * kRoot * time) / n;
+                     sum += 0.4 * std::sin(kFullTurn * n * kRoot * time) / n;
                  return sum;
              }));
     instrument.play(kKey, 1.0F);
@@ -273,7 +273,7 @@ void measureSpurs()
     const double hertz = measuredHertz(heard, kRate, equal.getPitch(kKey));
     std::vector<std::complex<double>> spectrum;
     for (std::size_t i = 0; i < kFrames; ++i) {
-        const double x = kTurn * static_cast<double>(i) / static_cast<double>(kFrames);
+        const double x = kFullTurn * static_cast<double>(i) / static_cast<double>(kFrames);
         spectrum.emplace_back(heard[i] * (0.35875 - 0.48829 * std::cos(x) +
                                           0.14128 * std::cos(2 * x) - 0.01168 * std::cos(3 * x)));
     }
@@ -297,7 +297,7 @@ void measureSpurs()
 std::vector<float> highPassed(std::vector<float> sound)
 {
     for (const double quality : {0.50980, 0.60134, 0.89998, 2.56292}) {
-        const double turn = kTurn * 2000.0 / kRate;
+        const double turn = kFullTurn * 2000.0 / kRate;
         const double alpha = std::sin(turn) / (2.0 * quality);
         const double half = (1.0 + std::cos(turn)) / 2.0;
         double x1 = 0.0, x2 = 0.0, y1 = 0.0, y2 = 0.0;
@@ -321,8 +321,8 @@ void measureClicks()
     ALInstrument instrument;
     setSound(instrument, kKey, 330.0, recorded(1, 20.0, [](double time) {
                  const double attack =
-                     time < 0.03 ? 0.5 - 0.5 * std::cos(kTurn * time / 0.06) : 1.0;
-                 return attack * std::sin(kTurn * 330.0 * time);
+                     time < 0.03 ? 0.5 - 0.5 * std::cos(kFullTurn * time / 0.06) : 1.0;
+                 return attack * std::sin(kFullTurn * 330.0 * time);
              }));
     AudioSource& source = *instrument.source();
     double frame = 0.0, loudest = 0.0;

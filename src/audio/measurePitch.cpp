@@ -18,32 +18,41 @@ using Complex = std::complex<double>;
 
 constexpr double kTurn = 2.0 * std::numbers::pi;
 
-/// Of the windows that follow a partial: long enough to keep its neighbours out.
-constexpr double kLeastWindow = 0.03; ///< In seconds.
-constexpr double kPitchWindowPeriods = 6.0;
-constexpr std::size_t kWindowsInWindow = 4; ///< How many begin within the length of one.
+/// The windows that follow a partial last at least so many of its fundamental's periods, which
+/// keeps its neighbours out: they are twice as far away as the window reaches.
+constexpr double kLeastPeriods = 8.0;
+/// Longer windows keep more noise out, but must reach half a semitone around the last partial.
+constexpr double kMostPeriods = 20.0;
+constexpr double kUsualWindow = 0.03;       ///< In seconds.
+constexpr std::size_t kWindowsInWindow = 8; ///< How many begin within the length of one.
 constexpr std::size_t kLeastWindows = 8;
 
-/// How far a phase may turn away from one window to the next, which limits their distance: half a
-/// semitone is 0.03 of the frequency, and half a turn the limit.
-constexpr double kUnambiguous = 2.0 * 0.035;
+constexpr int kPartials = 6; ///< The lowest ones, which the ear follows.
+/// Beside the strongest partial, in power: what is softer is taken for noise, and a fundamental
+/// that is far weaker does not show the swing of the sound.
+constexpr double kNoise = 1e-3;
+constexpr double kFarWeaker = 0.01;
 
-constexpr double kSemitone = 100.0; ///< In cents.
+constexpr double kRange = 50.0; ///< In cents.
+
+/// Returns a weight of a Blackman-Harris window, whose place is from 0 to 1.
+double weightAt(double place)
+{
+    return 0.35875 - 0.48829 * std::cos(kTurn * place) + 0.14128 * std::cos(2.0 * kTurn * place) -
+           0.01168 * std::cos(3.0 * kTurn * place);
+}
 
 /// Amplitudes and phases of a partial, window by window.
 class Partial {
 public:
     Partial(std::span<const float> sound, double rate, double hertz, std::size_t window)
-        : hop_(std::clamp<std::size_t>(static_cast<std::size_t>(rate / (hertz * kUnambiguous)), 1,
-                                       window / kWindowsInWindow)),
-          rate_(rate), hertz_(hertz)
+        : hop_(std::max<std::size_t>(1, window / kWindowsInWindow)), rate_(rate), hertz_(hertz)
     {
         std::vector<Complex> kernel(window);
         for (std::size_t i = 0; i < window; ++i) {
             const double place = static_cast<double>(i);
-            const double weight =
-                0.5 - 0.5 * std::cos(kTurn * (place + 0.5) / static_cast<double>(window));
-            kernel[i] = std::polar(weight, -kTurn * std::fmod(hertz * place / rate, 1.0));
+            kernel[i] = std::polar(weightAt((place + 0.5) / static_cast<double>(window)),
+                                   -kTurn * std::fmod(hertz * place / rate, 1.0));
         }
         for (std::size_t first = 0; first + window <= sound.size(); first += hop_) {
             Complex sum;
@@ -64,18 +73,14 @@ public:
         return sum;
     }
 
-    /// Returns the frequency from the turning of the phase, over longer and longer distances.
-    double hertz() const
+    /// Returns how far its mean frequency is from the expected one. See docs/decisions.md, 177.
+    double cents() const
     {
-        double turning = 0.0; // per window, in radians
-        for (std::size_t apart = 1; apart <= std::max<std::size_t>(1, size() / 3); apart *= 2) {
-            Complex sum;
-            for (std::size_t i = 0; i + apart < size(); ++i)
-                sum += values_[i + apart] * std::conj(values_[i]);
-            const double steps = static_cast<double>(apart);
-            turning += std::arg(sum * std::polar(1.0, -turning * steps)) / steps;
-        }
-        return hertz_ + turning / kTurn * rate_ / static_cast<double>(hop_);
+        Complex turning; // from one window to the next
+        for (std::size_t i = 0; i + 1 < size(); ++i)
+            turning += values_[i + 1] * std::conj(values_[i]);
+        const double off = std::arg(turning) / kTurn * rate_ / static_cast<double>(hop_);
+        return 1200.0 * std::log2(1.0 + off / hertz_);
     }
 
     /// The swing of the level in decibels around a straight line, weighted by the power.
@@ -114,28 +119,33 @@ private:
 std::optional<MeasuredPitch> measurePitch(std::span<const float> sound, double rate,
                                           double expectedHertz)
 {
-    constexpr int kPartials = 6;
-    constexpr double kFarWeaker = 0.01; // in power
-    const auto window = static_cast<std::size_t>(
-        rate * std::max(kLeastWindow, kPitchWindowPeriods / expectedHertz));
-    std::optional<Partial> best;
-    double bestPower = 0.0;
-    int number = 0;
+    const auto window =
+        static_cast<std::size_t>(rate * std::clamp(kUsualWindow, kLeastPeriods / expectedHertz,
+                                                   kMostPeriods / expectedHertz));
+    if (sound.size() < window + (kLeastWindows - 1) * (window / kWindowsInWindow))
+        return std::nullopt;
+    std::vector<Partial> partials;
+    std::vector<double> powers;
     for (int i = 1; i <= kPartials && i * expectedHertz < 0.45 * rate; ++i) {
-        Partial partial(sound, rate, i * expectedHertz, window);
-        const double power = partial.power() * (i == 1 ? 1.0 / kFarWeaker : 1.0);
-        if (partial.size() < kLeastWindows || !(power > bestPower))
-            continue;
-        best = std::move(partial);
-        bestPower = power;
-        number = i;
+        partials.emplace_back(sound, rate, i * expectedHertz, window);
+        powers.push_back(partials.back().power());
     }
-    if (!best)
+    if (powers.empty())
         return std::nullopt;
-    const double hertz = best->hertz() / number;
-    if (!(std::fabs(1200.0 * std::log2(hertz / expectedHertz)) < kSemitone / 2.0))
+    const auto strongest = std::ranges::max_element(powers);
+    double weights = 0.0, sum = 0.0;
+    for (std::size_t i = 0; i < partials.size(); ++i) {
+        const double cents = partials[i].cents();
+        if (!(powers[i] > kNoise * *strongest) || !(std::fabs(cents) < kRange))
+            continue;
+        weights += std::sqrt(powers[i]);
+        sum += std::sqrt(powers[i]) * cents;
+    }
+    if (weights == 0.0)
         return std::nullopt;
-    return MeasuredPitch{hertz, best->swing()};
+    const auto leading = powers.front() > kFarWeaker * *strongest ? 0 : strongest - powers.begin();
+    return MeasuredPitch{expectedHertz * std::exp2(sum / weights / 1200.0),
+                         partials[static_cast<std::size_t>(leading)].swing()};
 }
 
 std::optional<MeasuredPitch> measurePitch(const Pcm& recording, double expectedHertz)

@@ -16,11 +16,11 @@ struct MeasuredPitch {
     double swing = 0.0;
 };
 
-/// Measures the pitch of a mono sound that should have `expectedHertz`; up to half a semitone off.
-/// Follows the fundamental, or the strongest of the first partials if it is far weaker. A vibrato
-/// is averaged, and loud moments count more than soft ones. Empty if the sound is too short, silent
-/// or out of that range. The sound should begin behind its attack and last a second; a tenth is the
-/// least.
+/// Measures the pitch that an ear hears in a mono sound which should have `expectedHertz`; up to
+/// half a semitone off. This is the mean of the frequencies of the first partials, each of which
+/// counts by its amplitude, as a vibrato or a drift is averaged, by its power. Empty if the sound
+/// is too short, silent or out of that range. The sound should begin behind its attack and last a
+/// second; a tenth is the least.
 std::optional<MeasuredPitch> measurePitch(std::span<const float> sound, double rate,
                                           double expectedHertz);
 

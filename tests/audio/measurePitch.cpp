@@ -41,7 +41,7 @@ TEST(MeasurePitch, FollowsThePartialsOfHeldAndDyingSounds)
                 [&](double t) { return 0.5 * wave(actual, t); },
                 [&](double t) { return std::exp(-8.0 * t) * wave(actual, t); },
                 [&](double t) { return 0.01 * wave(actual, t) + 0.5 * wave(2.0 * actual, t); },
-                [&](double t) { return 0.3 * wave(actual, t) + 0.6 * wave(3.01 * actual, t); }};
+                [&](double t) { return wave(actual, t) + 0.3 * wave(3.3 * actual, t); }};
             for (const auto& sound : sounds) {
                 const auto pitch = measurePitch(oneSecond(sound), kRecordedRate, hertz);
                 ASSERT_TRUE(pitch);
@@ -64,6 +64,24 @@ TEST(MeasurePitch, AveragesVibratoAndNoticesBeats)
         measurePitch(oneSecond([](double t) { return wave(439.0, t) + 0.8 * wave(442.0, t); }),
                      kRecordedRate, 440.0);
     EXPECT_GT(beats->swing, 2.2);
+}
+
+TEST(MeasurePitch, HearsTheMeanOfWhatDriftsAndOfSharpPartials)
+{
+    // 10 cents sharp for most of each half second and 40 cents flat for the rest of it.
+    double phase = 0.0;
+    const auto drifting = oneSecond([&](double t) {
+        phase += 440.0 * std::exp2((std::fmod(t, 0.5) < 0.4 ? 10.0 : -40.0) / 1200.0);
+        return wave(phase, 1.0 / kRecordedRate);
+    });
+    EXPECT_NEAR(cents(measurePitch(drifting, kRecordedRate, 440.0)->hertz, 440.0), 0.0, 1.5);
+
+    const auto sharp = [](double t) {
+        return wave(440.0, t) + wave(880.0 * std::exp2(6.0 / 1200.0), t) +
+               0.5 * wave(1320.0 * std::exp2(18.0 / 1200.0), t);
+    };
+    EXPECT_NEAR(cents(measurePitch(oneSecond(sharp), kRecordedRate, 440.0)->hertz, 440.0), 6.0,
+                0.3);
 }
 
 TEST(MeasurePitch, RefusesWhatHasNoSuchPitch)
