@@ -16,6 +16,11 @@ FormatError FormatError::atLine(std::size_t line, const std::string& message)
     return {"line " + std::to_string(line), message};
 }
 
+FormatError FormatError::atColumn(std::size_t line, std::size_t column, const std::string& message)
+{
+    return {"line " + std::to_string(line) + ", column " + std::to_string(column), message};
+}
+
 FormatError FormatError::atByte(std::size_t offset, const std::string& message)
 {
     return {"byte " + std::to_string(offset), message};

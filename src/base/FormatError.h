@@ -15,6 +15,9 @@ public:
     /// Creates an error at a line number, counted from 1.
     static FormatError atLine(std::size_t line, const std::string& message);
 
+    /// Creates an error at a line and a column in it, both counted from 1.
+    static FormatError atColumn(std::size_t line, std::size_t column, const std::string& message);
+
     /// Creates an error at a byte offset from the start of the file.
     static FormatError atByte(std::size_t offset, const std::string& message);
 

@@ -67,6 +67,9 @@ public:
     /// temperament can be transposed.
     virtual double pitchAt(int key) const;
 
+    /// Returns false for a key, as `pitchAt` takes it, that plays no note of the temperament.
+    virtual bool isMapped(int /*key*/) const { return true; }
+
     /// Returns the place on the chain of fifths of the spelling that a key has: 0 for C, 1 for G,
     /// −1 for F. Empty if the temperament does not spell.
     virtual std::optional<int> place(unsigned long /*key*/) const { return std::nullopt; }

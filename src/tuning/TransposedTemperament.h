@@ -38,6 +38,7 @@ public:
     bool repeatsEveryOctave() const override { return inner_->repeatsEveryOctave(); }
     const Tuning& getTuning(unsigned long key) const override;
     double pitchAt(int key) const override;
+    bool isMapped(int key) const override { return inner_->isMapped(key - transposition_.root); }
     std::optional<int> place(unsigned long key) const override;
     std::optional<double> centre() const override;
     double drift() const override { return inner_->drift(); }

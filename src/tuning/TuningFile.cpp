@@ -4,6 +4,7 @@
 #include "base/Log.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "tuning/TextLines.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,19 +64,9 @@ Lines splitLines(std::string_view text)
     return lines;
 }
 
-/// Quotes a line in an error message: its first characters, with "?" for unprintable ones.
-std::string quoted(const Line& line)
-{
-    constexpr std::size_t kLongest = 40;
-    std::string text(line.text.substr(0, kLongest));
-    std::ranges::replace_if(
-        text, [](char c) { return c < ' ' || c > '~'; }, '?');
-    return '"' + text + (line.text.size() > kLongest ? "...\"" : "\"");
-}
-
 FormatError wrongLine(const Line& line, const std::string& reason)
 {
-    return FormatError::atLine(line.number, quoted(line) + " " + reason);
+    return FormatError::atLine(line.number, quotedLine(line.text) + " " + reason);
 }
 
 FormatError wrongLineCount(const Lines& lines, TuningFormat format, const std::string& limit)

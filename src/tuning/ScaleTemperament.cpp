@@ -1,0 +1,114 @@
+#include "tuning/ScaleTemperament.h"
+
+#include "base/FormatError.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kOctave = 12; ///< In keys.
+
+/// Pitches are counted an octave higher than they sound: see docs/decisions.md, 1.
+constexpr double kCountedOctave = 2.0;
+
+} // namespace
+
+ScaleTemperament::ScaleTemperament(Scale scale, KeyMapping mapping)
+    : scale_(std::move(scale)), mapping_(std::move(mapping))
+{
+    findPitches();
+    repeatsEveryOctave_ = findRepetition();
+    if (repeatsEveryOctave_)
+        appendTunings();
+}
+
+std::unique_ptr<Temperament> ScaleTemperament::fresh() const
+{
+    return std::make_unique<ScaleTemperament>(scale_, mapping_);
+}
+
+double ScaleTemperament::pitchAt(int key) const
+{
+    const int lowest = kLowestKey;
+    const double pitch = pitches_.at(static_cast<std::size_t>(key - lowest));
+    return pitch > 0.0 ? pitch : equal.pitchAt(key);
+}
+
+bool ScaleTemperament::isMapped(int key) const
+{
+    const int lowest = kLowestKey;
+    return pitches_.at(static_cast<std::size_t>(key - lowest)) > 0.0;
+}
+
+std::optional<double> ScaleTemperament::centsAt(int key) const
+{
+    const int distance = key - mapping_.middleKey;
+    const int count = static_cast<int>(mapping_.degrees.size());
+    if (count == 0)
+        return scale_.cents(distance);
+    const int index = (distance % count + count) % count;
+    const auto degree = mapping_.degrees[static_cast<std::size_t>(index)];
+    if (!degree)
+        return std::nullopt;
+    const double step =
+        mapping_.octaveDegree == 0 ? scale_.period() : scale_.cents(mapping_.octaveDegree);
+    return scale_.cents(*degree) + (distance - index) / count * step;
+}
+
+void ScaleTemperament::findPitches()
+{
+    const auto reference = centsAt(mapping_.referenceKey);
+    if (!reference)
+        throw FormatError("the reference key " + std::to_string(mapping_.referenceKey) +
+                          " plays no note");
+    for (int key = kLowestKey; double& pitch : pitches_) {
+        // Keys below 0 are asked for when the temperament is transposed.
+        const int real = std::max(key, 0);
+        if (real < mapping_.firstKey || real > mapping_.lastKey) {
+            pitch = equal.pitchAt(key);
+        } else if (const auto cents = centsAt(key)) {
+            pitch = kCountedOctave * mapping_.referenceHertz *
+                    std::exp2((*cents - *reference) / 1200.0);
+            if (!std::isfinite(pitch) || !std::isnormal(pitch) || pitch < 0.0)
+                throw FormatError("the pitch of key " + std::to_string(real) +
+                                  " is beyond all bounds");
+        }
+        ++key;
+    }
+}
+
+bool ScaleTemperament::findRepetition() const
+{
+    constexpr double kTolerance = 1e-9;
+    if (std::ranges::find(pitches_, 0.0) != pitches_.end())
+        return false;
+    for (std::size_t i = kOctave; i < pitches_.size(); ++i)
+        if (std::abs(pitches_[i] / pitches_[i - kOctave] - 2.0) > kTolerance)
+            return false;
+    return true;
+}
+
+void ScaleTemperament::appendTunings()
+{
+    constexpr int kBaseKey = 48;
+    setBaseFrequency(pitchAt(kBaseKey));
+    const bool isLinear = mapping_.degrees.empty() && mapping_.middleKey % kOctave == 0 &&
+                          scale_.pitches.size() == static_cast<std::size_t>(kOctave);
+    for (int i = 0; i < kOctave; ++i) {
+        if (isLinear && i > 0)
+            std::visit(
+                [&](const auto& pitch) {
+                    append(std::make_unique<std::decay_t<decltype(pitch)>>(pitch));
+                },
+                scale_.pitches[static_cast<std::size_t>(i) - 1]);
+        else
+            append(std::make_unique<Cent>(1200.0 *
+                                          std::log2(pitchAt(kBaseKey + i) / baseFrequency())));
+    }
+}
+
+} // namespace velmora
