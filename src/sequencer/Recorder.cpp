@@ -94,7 +94,8 @@ void Recorder::take(double from, double until)
     takeKeys(from, until);
     if (transport_.position() != before)
         transport_.revealPosition();
-    transport_.setExtent(transport_.position() + kRoomBehindLastNote);
+    transport_.setExtent(
+        std::max(transport_.extent(), transport_.position() + kRoomBehindLastNote));
 }
 
 void Recorder::takeKeys(double from, double until)

@@ -88,7 +88,7 @@ void Sequence::eraseAll(std::vector<std::uint64_t> ids)
 
 void Sequence::select()
 {
-    selection_.clear();
+    deselect();
     for (Note& note : notes_)
         select(note);
 }
@@ -106,9 +106,9 @@ bool Sequence::select(unsigned char channel)
 
 void Sequence::select(Note& note)
 {
-    note.selected = true;
     // See docs/decisions.md, 106.
-    selection_.push_back(note.id);
+    if (!std::exchange(note.selected, true))
+        selection_.push_back(note.id);
 }
 
 void Sequence::deselect()

@@ -78,12 +78,12 @@ public:
     /// Selects only the notes of a channel. Returns true if there are any.
     bool select(unsigned char channel);
 
-    /// Adds a stored note to the selection. If it is selected already, it is listed twice.
+    /// Adds a stored note to the selection, unless it is selected already.
     void select(Note& note);
 
     void deselect();
 
-    /// Clears the `selected` flag of a stored note and removes its first entry from the selection.
+    /// Clears the `selected` flag of a stored note and removes it from the selection.
     void deselect(Note& note);
 
     /// Returns copies of the selected notes in the order of the selection.

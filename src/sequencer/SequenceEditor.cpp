@@ -228,7 +228,7 @@ void SequenceEditor::selectInterval(double one, double other)
 
 double SequenceEditor::snapped(double step) const
 {
-    return recorder_.snapToGrid() ? std::floor(step) : step;
+    return std::max(recorder_.snapToGrid() ? std::floor(step) : step, 0.0);
 }
 
 } // namespace velmora

@@ -73,7 +73,7 @@ public:
     /// Lengthens the selected notes, except those that would have no length any more.
     void resizeSelection(int steps);
 
-    /// Returns the selected notes in order of their start, each once.
+    /// Returns the selected notes in order of their start.
     std::vector<Note> copy() const;
     std::vector<Note> cut();
 

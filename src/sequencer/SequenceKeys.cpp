@@ -112,13 +112,9 @@ void SequenceEditor::selectAll()
 std::vector<Note> SequenceEditor::copy() const
 {
     std::vector<Note> notes = document_.sequence().getSelection();
-    // A note can be selected twice.
-    const auto before = [](const Note& a, const Note& b) {
+    std::sort(notes.begin(), notes.end(), [](const Note& a, const Note& b) {
         return std::pair(a.start, a.id) < std::pair(b.start, b.id);
-    };
-    const auto same = [](const Note& a, const Note& b) { return a.id == b.id; };
-    std::sort(notes.begin(), notes.end(), before);
-    notes.erase(std::unique(notes.begin(), notes.end(), same), notes.end());
+    });
     return notes;
 }
 

@@ -59,8 +59,7 @@ void SequenceEditor::moveSelection(int semitones, int steps)
     if (notes.empty())
         return;
     beginChange();
-    const double earliest = -std::max(notes.front().start, 0.0);
-    move(semitones, std::max<double>(steps, earliest), recorder_.snapToGrid() && steps != 0);
+    move(semitones, steps, recorder_.snapToGrid() && steps != 0);
     finishMove();
     endChange();
 }
@@ -73,8 +72,9 @@ void SequenceEditor::move(double keys, double steps, bool snap)
     const auto [lowest, highest] = std::ranges::minmax_element(notes, {}, &Note::oldKey);
     const double least = -static_cast<double>(lowest->oldKey);
     const double greatest = static_cast<double>(kLastKey) - highest->oldKey;
+    const double earliest = std::ranges::min(notes, {}, &Note::oldStart).oldStart;
     document_.edit(document_.sequence().selection())
-        ->move(std::clamp(keys, least, greatest), steps, snap);
+        ->move(std::clamp(keys, least, greatest), std::max(steps, -std::max(earliest, 0.0)), snap);
 }
 
 void SequenceEditor::resizeSelection(int steps)

@@ -19,7 +19,7 @@ constexpr double kFar = 1e12;
 bool makeValid(Note& note)
 {
     for (double* start : {&note.start, &note.oldStart})
-        *start = std::clamp(*start, -kFar, kFar);
+        *start = std::clamp(*start, 0.0, kFar);
     for (double* length : {&note.length, &note.oldLength})
         *length = std::clamp(*length, 0.0, kFar);
     note.velocity = std::clamp(note.velocity, 0.0F, 1.0F);

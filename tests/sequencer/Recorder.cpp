@@ -68,6 +68,20 @@ TEST_F(RecorderTest, RunsOnForEightStepsAfterTheLastKey)
     EXPECT_FALSE(document_.isModified());
 }
 
+TEST_F(RecorderTest, KeepsTheLengthOfALongerPiece)
+{
+    add(72, 200.0, 8.0);
+    recorder_.record();
+    press(60);
+    run(2.0);
+    release(60);
+    run(1.0);
+    EXPECT_EQ(transport_.extent(), 240.0);
+    recorder_.record();
+    document_.undoStack().undo();
+    EXPECT_EQ(transport_.extent(), 240.0);
+}
+
 TEST_F(RecorderTest, MovesOnTheGridOnlyWhileAKeyIsHeld)
 {
     add(64, 0.0, 1.0);
