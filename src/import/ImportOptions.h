@@ -1,15 +1,10 @@
 #pragma once
 
+#include "base/Reading.h"
+
 #include <cstddef>
-#include <cstdint>
 
 namespace velmora {
-
-/// How the files of an instrument are understood.
-enum class Reading : std::uint8_t {
-    Plain,   ///< One sample for each key, as the file lists them.
-    Musical, ///< What the maker of the file meant: loops, releases, layers, presets, a console.
-};
 
 /// What a user can choose about an import.
 struct ImportOptions {
