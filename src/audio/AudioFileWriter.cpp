@@ -6,6 +6,8 @@
 
 #include <sndfile.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cmath>
 #include <stdexcept>
@@ -32,7 +34,24 @@ int formatOf(const std::filesystem::path& path)
         return SF_FORMAT_FLAC | SF_FORMAT_PCM_24;
     if (extension == ".ogg")
         return SF_FORMAT_OGG | SF_FORMAT_VORBIS;
-    throw std::runtime_error(path.string() + ": the name must end in .wav, .flac or .ogg");
+    if (extension == ".opus")
+        return SF_FORMAT_OGG | SF_FORMAT_OPUS;
+    if (extension == ".mp3")
+        return SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III;
+    throw std::runtime_error(path.string() +
+                             ": the name must end in .wav, .flac, .ogg, .opus or .mp3");
+}
+
+/// True if the encoder supports the rate. libsndfile itself looks too late.
+bool hasRate(const SF_INFO& info)
+{
+    constexpr std::array kOpusRates = {8000, 12000, 16000, 24000, 48000};
+    constexpr int kHighestMp3Rate = 48000;
+    if ((info.format & SF_FORMAT_SUBMASK) == SF_FORMAT_OPUS)
+        return std::ranges::find(kOpusRates, info.samplerate) != kOpusRates.end();
+    if ((info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_MPEG)
+        return info.samplerate <= kHighestMp3Rate;
+    return true;
 }
 
 /// Returns the reason for an error of libsndfile. The system's own reason is in errno if errno was
@@ -53,9 +72,10 @@ AudioFileWriter::AudioFileWriter(const std::filesystem::path& path, double rate)
     info.format = formatOf(path);
     const int type = info.format & SF_FORMAT_TYPEMASK;
     isOgg_ = type == SF_FORMAT_OGG;
+    hidesErrors_ = isOgg_ || type == SF_FORMAT_MPEG;
     if (type == SF_FORMAT_WAV)
         framesLeft_ = kMaximumWavFrames;
-    if (sf_format_check(&info) == 0)
+    if (sf_format_check(&info) == 0 || !hasRate(info))
         throw std::runtime_error(name_ + ": this file format does not support a sample rate of " +
                                  std::to_string(info.samplerate) + " Hz");
     const std::string reason = reasonNotToReplace(path);
@@ -94,8 +114,8 @@ void AudioFileWriter::commit()
 {
     errno = 0;
     const int error = sf_close(sound_.release());
-    // libsndfile does not report that the last page of an Ogg file could not be written.
-    if (error != 0 || (isOgg_ && errno != 0))
+    // libsndfile does not report that the end of such a file could not be written.
+    if (error != 0 || (hidesErrors_ && errno != 0))
         throw std::runtime_error(name_ + ": " + reasonOf(error));
     if (isOgg_)
         setOggSerial(file_->handle(), kOggSerial);

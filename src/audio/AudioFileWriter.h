@@ -14,13 +14,14 @@ struct sf_private_tag;
 
 namespace velmora {
 
-/// Writes a stereo sound file: 24-bit WAV, 24-bit FLAC or Ogg Vorbis, depending on its extension in
-/// any letter case. The complete file appears when `commit` is called; until then an existing file
+/// Writes a stereo sound file: 24-bit WAV, 24-bit FLAC, Ogg Vorbis, Opus or MP3, depending on its
+/// extension in any letter case. The complete file appears when `commit` is called; until then an existing file
 /// of that name stays unchanged.
 class AudioFileWriter {
 public:
     /// `rate` is in hertz. Throws std::runtime_error with a sentence for the user if the extension
-    /// is not .wav, .flac or .ogg, or if the file cannot be written.
+    /// is not .wav, .flac, .ogg, .opus or .mp3, if the format does not support the rate, or if the
+    /// file cannot be written.
     AudioFileWriter(const std::filesystem::path& path, double rate);
     ~AudioFileWriter();
     AudioFileWriter(const AudioFileWriter&) = delete;
@@ -37,6 +38,7 @@ private:
     std::string name_;
     std::unique_ptr<ReplacingFile> file_;
     bool isOgg_ = false;
+    bool hidesErrors_ = false; ///< True if closing it reports none.
     std::uint64_t framesLeft_ = std::numeric_limits<std::uint64_t>::max();
     std::unique_ptr<sf_private_tag, int (*)(sf_private_tag*)> sound_;
     std::vector<float> interleaved_;

@@ -117,7 +117,9 @@ CLI::App* addRender(CLI::App& program, Arguments& arguments)
 {
     CLI::App* command = program.add_subcommand("render", "Render a MIDI file to a sound file");
     command->add_option("sequence", arguments.sequence, "The MIDI file")->required();
-    command->add_option("-o,--output", arguments.output, "The .wav, .flac or .ogg file to write")
+    command
+        ->add_option("-o,--output", arguments.output,
+                     "The .wav, .flac, .ogg, .opus or .mp3 file to write")
         ->required();
     addSelection(*command, arguments);
     addReading(*command, arguments);

@@ -82,11 +82,14 @@ void exportAudio(QWidget& page, const SequenceDocument& document, const QString&
     if (!document.path().empty())
         proposal = QFileInfo(textOf(beside.parent_path())).isWritable() ? textOf(beside)
                                                                         : displayName(beside);
-    const QString path = askWhereToSave(
-        page, {.title = ExportProgress::tr("Export Audio"),
-               .kinds = {{"WAV", {"wav"}}, {"FLAC", {"flac"}}, {"Ogg Vorbis", {"ogg"}}},
-               .proposal = proposal,
-               .folderKey = "exportFolder"});
+    const QString path = askWhereToSave(page, {.title = ExportProgress::tr("Export Audio"),
+                                               .kinds = {{"WAV", {"wav"}},
+                                                         {"FLAC", {"flac"}},
+                                                         {"Ogg Vorbis", {"ogg"}},
+                                                         {"Opus", {"opus"}},
+                                                         {"MP3", {"mp3"}}},
+                                               .proposal = proposal,
+                                               .folderKey = "exportFolder"});
     if (!path.isEmpty())
         (new ExportProgress(page, path, tell))->start(document, application);
 }
