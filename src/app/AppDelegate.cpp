@@ -339,6 +339,9 @@ void AppDelegate::handle(const InputEvent& event)
     case InputEvent::Kind::Learned:
         learning_.keep(event.control);
         break;
+    case InputEvent::Kind::Tuning:
+        receivedTunings_.take();
+        break;
     }
 }
 

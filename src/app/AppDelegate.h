@@ -7,6 +7,7 @@
 #include "app/OrganConsole.h"
 #include "app/Player.h"
 #include "app/PlayingOptions.h"
+#include "app/ReceivedTunings.h"
 #include "app/Tunings.h"
 #include "app/preferredOutput.h"
 #include "audio/AudioEngine.h"
@@ -173,6 +174,9 @@ public:
     /// The MIDI inputs; null before `start`.
     const MidiInputs* midiInputs() const { return inputs_.get(); }
 
+    /// Plays the tunings that MIDI devices send.
+    ReceivedTunings& receivedTunings() { return receivedTunings_; }
+
     /// The MIDI devices and their settings.
     LiveDevices& midiDevices() { return devices_; }
 
@@ -248,6 +252,9 @@ private:
     InputQueue queue_;
     OrganConsole organ_{player_, [this] { queue_.post({.kind = InputEvent::Kind::Console}); }};
     LiveDevices devices_{*this};
+    ReceivedTunings receivedTunings_{
+        tunings_, [this] { queue_.post({.kind = InputEvent::Kind::Tuning}); },
+        [this](std::size_t device) { return devices_.getName(device); }};
     DisplayWake displayWake_;
     std::atomic<bool> userIsActive_{false};
 

@@ -24,7 +24,8 @@ struct InputEvent {
         Program,      ///< A General MIDI program was selected.
         Console,      ///< A stop or a swell of an organ was moved.
         Action,       ///< A learned control was used.
-        Learned       ///< A control has learned an action.
+        Learned,      ///< A control has learned an action.
+        Tuning        ///< A device has sent a tuning.
     };
 
     Kind kind = Kind::MidiInput;

@@ -54,6 +54,12 @@ std::vector<KnownDevice> LiveDevices::devices() const
     return devices;
 }
 
+std::string LiveDevices::getName(std::size_t number) const
+{
+    const std::lock_guard lock(mutex_);
+    return slots_[number]->name;
+}
+
 void LiveDevices::setSettings(const std::string& name, DeviceSettings settings)
 {
     const std::lock_guard lock(mutex_);
@@ -131,6 +137,15 @@ void LiveDevices::received(std::size_t device, MidiPacket message, double time)
     const MidiPacket wanted = slot.filter.read(message);
     if (!wanted.empty())
         slot.device.receive(wanted, time);
+}
+
+// See docs/decisions.md, 178.
+void LiveDevices::receivedExclusive(std::size_t device, MidiPacket message)
+{
+    Slot& slot = *slots_[device];
+    slot.messages.fetch_add(1, std::memory_order_relaxed);
+    if (slot.filter.settings().isOn && !application_.playing().settings().isPlain)
+        application_.receivedTunings().receive(device, message);
 }
 
 } // namespace velmora

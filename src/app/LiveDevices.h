@@ -33,12 +33,16 @@ public:
     /// The devices in alphabetical order. May be called on any thread.
     std::vector<KnownDevice> devices() const;
 
+    /// Returns the name of a device that is or was connected. May be called on any thread.
+    std::string getName(std::size_t number) const;
+
     /// Changes the settings of a device at once and remembers them. Main thread only.
     void setSettings(const std::string& name, DeviceSettings settings);
 
     void arrived(const MidiDevice& device) override;
     void departed(const MidiDevice& device) override;
     void received(std::size_t device, MidiPacket message, double time) override;
+    void receivedExclusive(std::size_t device, MidiPacket message) override;
 
 private:
     /// A device that is or was connected. It changes its name if its number is used again.

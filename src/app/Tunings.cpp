@@ -8,14 +8,21 @@
 
 namespace velmora {
 
+namespace {
+
+constexpr const char* kEqual = "Equal";
+constexpr const char* kMeantone = "Quartercomma Meantone";
+
+} // namespace
+
 Tunings::Tunings(Player& player) : player_(player) {}
 
 void Tunings::addBuiltins()
 {
-    auto equalTuning = TuningDocument::makeBuiltin("Equal");
+    auto equalTuning = TuningDocument::makeBuiltin(kEqual);
     play(*equalTuning);
     put(std::move(equalTuning));
-    put(TuningDocument::makeBuiltin("Quartercomma Meantone"));
+    put(TuningDocument::makeBuiltin(kMeantone));
 }
 
 void Tunings::put(std::unique_ptr<TuningDocument> document)
@@ -60,10 +67,13 @@ const TuningDocument* Tunings::current() const
     return found == named_.end() ? nullptr : found->second;
 }
 
-const std::string& Tunings::lastingName() const
+std::string Tunings::lastingName() const
 {
     const TuningDocument* document = current();
-    return document == nullptr || document->original().empty() ? name_ : document->original();
+    if (document == nullptr || !document->path().empty() || TuningDocument::isBuiltin(name_) ||
+        name_ == kEqual || name_ == kMeantone)
+        return name_;
+    return document->original();
 }
 
 std::vector<std::string> Tunings::names() const

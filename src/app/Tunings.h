@@ -59,8 +59,8 @@ public:
     const std::string& name() const { return name_; }
 
     /// The name by which the next start can find the current tuning: that of the original of an
-    /// edited copy, which only its own file would keep.
-    const std::string& lastingName() const;
+    /// edited copy, which only its own file would keep. Empty for a tuning that was received.
+    std::string lastingName() const;
 
     /// The root and the pitch of the current tuning and of those that are selected later.
     const Transposition& transposition() const { return transposition_; }

@@ -1,6 +1,8 @@
 #include "midi/AlsaMidi.h"
 
 #include "base/Clock.h"
+#include "midi/messages.h"
+#include "midi/tuningMessages.h"
 
 #include <RtMidi.h>
 #include <alsa/asoundlib.h>
@@ -21,6 +23,7 @@ public:
     {
         midi_.setErrorCallback(keepError, this);
         midi_.setCallback(receive, this);
+        midi_.ignoreTypes(false, true, true); // but takes exclusive messages
         midi_.openPort(numberOf(port), "Port1");
         if (!error_)
             return;
@@ -55,8 +58,12 @@ private:
     static void receive(double /*seconds*/, std::vector<unsigned char>* message, void* self)
     {
         const auto& connection = *static_cast<AlsaConnection*>(self);
-        if (connection.isStarted_)
+        if (!connection.isStarted_)
+            return;
+        if (message->empty() || message->front() != midi::kSystemExclusive)
             connection.receiver_.received(connection.device_, *message, getTime());
+        else if (message->size() <= kLongestTuningMessage)
+            connection.receiver_.receivedExclusive(connection.device_, *message);
     }
 
     MidiReceiver& receiver_;

@@ -1,5 +1,6 @@
 #include "midi/JackMidi.h"
 
+#include "midi/ExclusiveBuffer.h"
 #include "midi/messages.h"
 #include "platform/JackClient.h"
 #include "platform/Uncancelled.h"
@@ -28,27 +29,27 @@ constexpr std::array<std::string_view, 2> kBridges{"a2j:", "Midi-Bridge:"};
 /// What the process callback of a connection works with.
 struct JackInput {
     void read(jack_nframes_t frames);
-    bool isWanted(MidiPacket message);
+    void readEvent(MidiPacket message, double time);
 
     MidiReceiver* receiver;
     std::size_t device;
     jack_client_t* client;
     jack_port_t* port = nullptr;
-    bool isInExclusive = false; ///< True if an exclusive message goes on in the next event.
+    ExclusiveBuffer exclusive; ///< A message may go on in the next event.
     std::atomic<bool> isStarted{false}, isReading{false};
 };
 
-bool JackInput::isWanted(MidiPacket message)
+void JackInput::readEvent(MidiPacket message, double time)
 {
     if (message.empty())
-        return false;
-    const bool isExclusive =
-        message.front() == midi::kSystemExclusive ||
-        (isInExclusive && (message.front() < midi::kStatusBit || message.front() == midi::kEscape));
-    if (isExclusive)
-        isInExclusive = message.back() != midi::kEscape;
-    return !isExclusive && message.front() != midi::kTimeCode &&
-           message.front() != midi::kTimingClock && message.front() != midi::kActiveSensing;
+        return;
+    if (exclusive.isPart(message)) {
+        if (const MidiPacket whole = exclusive.add(message); !whole.empty())
+            receiver->receivedExclusive(device, whole);
+    } else if (message.front() != midi::kTimeCode && message.front() != midi::kTimingClock &&
+               message.front() != midi::kActiveSensing) {
+        receiver->received(device, message, time);
+    }
 }
 
 void JackInput::read(jack_nframes_t frames)
@@ -64,9 +65,7 @@ void JackInput::read(jack_nframes_t frames)
         jack_midi_event_t event{};
         if (jack_midi_event_get(&event, buffer, i) != 0)
             continue;
-        const MidiPacket message(event.buffer, event.size);
-        if (isWanted(message))
-            receiver->received(device, message, end - (frames - event.time) / rate);
+        readEvent({event.buffer, event.size}, end - (frames - event.time) / rate);
     }
 }
 

@@ -25,8 +25,7 @@ private:
 };
 
 /// Keeps every MIDI device connected that is present: a device that appears is connected within a
-/// second, and one that returns is connected again. Messages for synchronisation and system
-/// exclusive messages are left out.
+/// second, and one that returns is connected again. Messages for synchronisation are left out.
 class MidiInputs {
 public:
     /// Connects the devices of the ALSA sequencer and of the JACK server. Then watches them until

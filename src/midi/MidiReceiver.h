@@ -38,6 +38,10 @@ public:
     /// moment in the seconds of `getTime`; JACK's messages carry the moment of their frame. Called
     /// on a thread of the device's own; with JACK that is a real-time thread.
     virtual void received(std::size_t device, MidiPacket message, double time) = 0;
+
+    /// A device has sent one complete system exclusive message that is not longer than those that
+    /// tune. Called like `received`.
+    virtual void receivedExclusive(std::size_t /*device*/, MidiPacket /*message*/) {}
 };
 
 } // namespace velmora

@@ -1,5 +1,6 @@
 #include "midi/StandardMidiFileWriter.h"
 
+#include "midi/MidiTrack.h"
 #include "midi/OpenNotes.h"
 #include "midi/messages.h"
 
@@ -7,16 +8,12 @@
 #include <cassert>
 #include <cmath>
 #include <cstdint>
-#include <stdexcept>
 #include <tuple>
 #include <vector>
 
 namespace velmora {
 
 namespace {
-
-/// The greatest value of a variable-length quantity of four bytes.
-constexpr std::uint64_t kLongestDelta = 0x0FFFFFFF;
 
 /// A note-on or a note-off.
 struct Message {
@@ -60,74 +57,14 @@ std::vector<Message> messagesOf(std::span<const MidiEvent> notes)
     return messages;
 }
 
-void addNumber(std::string& bytes, std::size_t value, int size)
-{
-    for (int shift = 8 * (size - 1); shift >= 0; shift -= 8)
-        bytes += static_cast<char>(value >> shift & 0xFF);
-}
-
-/// Adds a variable-length quantity of at most `kLongestDelta`.
-void addQuantity(std::string& bytes, std::uint64_t value)
-{
-    for (int shift = 21; shift > 0; shift -= 7) {
-        if (value >> shift > 0)
-            bytes += static_cast<char>((value >> shift & 0x7F) | 0x80);
-    }
-    bytes += static_cast<char>(value & 0x7F);
-}
-
-/// Adds the head of a meta event with `size` bytes of data.
-void addMetaEvent(std::string& bytes, std::uint8_t type, std::size_t size)
-{
-    addNumber(bytes, midi::kMetaEvent, 1);
-    addNumber(bytes, type, 1);
-    addQuantity(bytes, size);
-}
-
-void addDelta(std::string& bytes, std::uint64_t delta)
-{
-    // See docs/decisions.md, 132.
-    for (; delta > kLongestDelta; delta -= kLongestDelta) {
-        addQuantity(bytes, kLongestDelta);
-        addMetaEvent(bytes, midi::kText, 0);
-    }
-    addQuantity(bytes, delta);
-}
-
-/// Adds the event before a note-off that skips notes, and the delta time of 0 between them.
-void addSkipNotes(std::string& bytes, std::size_t notes)
-{
-    addMetaEvent(bytes, midi::kSequencerSpecific, kSkipNotes.size() + 1);
-    bytes += kSkipNotes;
-    addNumber(bytes, notes, 1);
-    addDelta(bytes, 0);
-}
-
-void addChunk(std::string& file, const char* id, const std::string& body)
-{
-    if (body.size() > 0xFFFFFFFF)
-        throw std::length_error("there are more notes than a MIDI file can hold");
-    file += id;
-    addNumber(file, body.size(), 4);
-    file += body;
-}
-
 } // namespace
 
 std::string writeStandardMidiFile(std::span<const MidiEvent> notes)
 {
-    std::string header;
-    addNumber(header, 0, 2); // format
-    addNumber(header, 1, 2); // tracks
-    // See docs/decisions.md, 118.
-    addNumber(header, static_cast<std::size_t>(kTicksPerBeat), 2);
-
-    std::string track;
-    std::uint64_t tick = 0;
+    MidiTrack track;
     OpenNotes<std::uint64_t> ends;
     for (const Message& message : messagesOf(notes)) {
-        addDelta(track, message.tick - tick);
-        tick = message.tick;
+        const std::uint64_t tick = message.tick;
         const unsigned channel = static_cast<unsigned>(message.status & midi::kChannelMask);
         if (message.until > 0) {
             ends.start(channel, message.key, message.until);
@@ -137,20 +74,15 @@ std::string writeStandardMidiFile(std::span<const MidiEvent> notes)
                 skipped += end == tick ? 0 : 1;
                 return end == tick;
             });
+            // The event before a note-off that says how many notes it skips.
             if (ended == tick && skipped > 0)
-                addSkipNotes(track, skipped);
+                track.addMetaEvent(tick, midi::kSequencerSpecific,
+                                   std::string(kSkipNotes) + static_cast<char>(skipped));
         }
-        addNumber(track, message.status, 1);
-        addNumber(track, message.key, 1);
-        addNumber(track, message.velocity, 1);
+        track.addMessage(tick, {message.status, message.key, message.velocity});
     }
-    addDelta(track, 0);
-    addMetaEvent(track, midi::kEndOfTrack, 0);
-
-    std::string file;
-    addChunk(file, "MThd", header);
-    addChunk(file, "MTrk", track);
-    return file;
+    // See docs/decisions.md, 118.
+    return track.finish(static_cast<std::uint16_t>(kTicksPerBeat));
 }
 
 } // namespace velmora

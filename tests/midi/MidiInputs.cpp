@@ -39,6 +39,13 @@ public:
         changed_.notify_all();
     }
 
+    void receivedExclusive(std::size_t /*device*/, MidiPacket message) override
+    {
+        const std::lock_guard lock(mutex_);
+        exclusives.emplace_back(message.begin(), message.end());
+        changed_.notify_all();
+    }
+
     template <class List> List wait(List Inbox::*list, std::size_t count)
     {
         std::unique_lock lock(mutex_);
@@ -47,7 +54,7 @@ public:
     }
 
     std::vector<std::string> events;
-    std::vector<Message> messages;
+    std::vector<Message> messages, exclusives;
     std::vector<std::size_t> devices; ///< The device of each message.
     std::vector<double> times;        ///< The time of each message.
 
@@ -79,7 +86,10 @@ TEST(MidiInputs, ReceiveEveryMessageOfEverySourceInOrder)
          {Message{0xF8}, {0xFE}, {0xF0, 0x7D, 1}, {2, 0xF7}, {0xF0, 0x7D, 1, 0xF7}, {0xD0, 5}})
         source.send(0, message);
     EXPECT_THAT(inbox.wait(&Inbox::messages, 1), ElementsAre(Message{0xD0, 5}))
-        << "timing and exclusive messages are ignored";
+        << "timing messages are ignored";
+    EXPECT_THAT(inbox.wait(&Inbox::exclusives, 2),
+                ElementsAre(Message{0xF0, 0x7D, 1, 2, 0xF7}, Message{0xF0, 0x7D, 1, 0xF7}))
+        << "whole, even if they arrive in parts";
     source.send(1, {0xB0, 7, 127});
     EXPECT_EQ(inbox.wait(&Inbox::messages, 2).back(), (Message{0xB0, 7, 127}));
     EXPECT_THAT(inbox.wait(&Inbox::devices, 2), ElementsAre(0, 1));

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "tuning/Temperament.h"
+
+#include <array>
+#include <memory>
+
+namespace velmora {
+
+/// A temperament that gives each key a pitch of its own, whatever the others have.
+class KeyTemperament : public Temperament {
+public:
+    /// Takes the frequency of each key as it sounds: key 69 has 440 Hz in equal temperament.
+    explicit KeyTemperament(const std::array<double, 128>& hertz);
+
+    std::unique_ptr<Temperament> fresh() const override;
+    bool repeatsEveryOctave() const override { return false; }
+
+    /// Keys below 0 are an octave lower than those twelve keys above.
+    double pitchAt(int key) const override;
+
+private:
+    std::array<double, 128> hertz_;
+};
+
+/// Returns a temperament of those frequencies: one with a tuning for each pitch class if they
+/// repeat in every octave.
+std::unique_ptr<Temperament> makeTemperament(const std::array<double, 128>& hertz);
+
+} // namespace velmora
