@@ -37,6 +37,14 @@ AppDelegate::AppDelegate()
     connect(this, &AppDelegate::loadingFinished, this, &AppDelegate::takeSynthesizer,
             Qt::QueuedConnection);
     connect(&loader_, &InstrumentLoader::finished, this, &AppDelegate::instrumentsChanged);
+    connect(&playing_, &PlayingOptions::changed, this, &AppDelegate::followOptions);
+    followOptions();
+}
+
+void AppDelegate::followOptions()
+{
+    player_.setGlide(playing_.glide());
+    tunings_.setAdaptive(playing_.adaptive());
 }
 
 AppDelegate::~AppDelegate() = default;

@@ -235,6 +235,7 @@ private:
     void playThrough(std::unique_ptr<Synthesizer> synthesizer);
     void handle(const InputEvent& event);
     void announceProgram();
+    void followOptions();
 
     std::string instrumentName_;
     bool isCancelled_ = false;

@@ -39,6 +39,7 @@ SoundSettings currentSettings(AppDelegate& application)
     settings.divisions = application.player().divisions();
     settings.banks = generalMidiBanks();
     settings.correctsTuning = application.playing().correctsTuning();
+    settings.glide = application.playing().glide();
     for (const auto& document : application.instruments()) {
         if (application.isCurrent(*document)) {
             settings.instrument = document->path();
@@ -82,6 +83,7 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
     else
         for (std::size_t stop = 0; stop < settings.gains.size(); ++stop)
             instrument.setVolume(stop, settings.gains[stop]);
+    player_.setGlide(settings.glide);
     player_.setTemperament(*temperament_);
     player_.setInstrument(instrument);
     player_.setDivisions(instrument, settings.divisions);

@@ -29,6 +29,7 @@ struct SoundSettings {
     Player::Divisions divisions;
     std::size_t program = 0;                  ///< The position of the program.
     bool correctsTuning = false;              ///< As `PlayingOptions` has it.
+    Glide glide;                              ///< As `PlayingOptions` has it.
     std::vector<std::filesystem::path> banks; ///< The SoundFonts for the General MIDI player.
 };
 

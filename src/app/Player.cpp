@@ -36,6 +36,7 @@ void Player::setInstrument(Instrument& instrument)
     divisions_.ofChannels.fill(main);
     instrument_->bend(bend_);
     instrument_->setSoft(softPedals_ > 0);
+    instrument_->setGlide(glide_);
     if (temperament_ != nullptr)
         instrument_->tune(*temperament_, 0, kLastKey);
 }
@@ -121,6 +122,25 @@ void Player::setSoft(bool soft)
     softPedals_ += soft ? 1 : -1;
     if (instrument_ != nullptr)
         instrument_->setSoft(softPedals_ > 0);
+}
+
+void Player::setTime(double seconds)
+{
+    const std::lock_guard lock(mutex_);
+    time_ = seconds;
+}
+
+double Player::momentFor(double time) const
+{
+    return time > 0.0 ? time : time_.value_or(getTime());
+}
+
+void Player::setGlide(const Glide& glide)
+{
+    const std::lock_guard lock(mutex_);
+    glide_ = glide;
+    for (const auto& [instrument, keys] : instruments_)
+        instrument->setGlide(glide);
 }
 
 void Player::bend(double cents, double time)
@@ -223,7 +243,7 @@ void Player::start(std::size_t division, int key, float velocity, double time)
     if (instrument_ == nullptr || temperament_ == nullptr)
         return;
     instrument_->setDue(time);
-    temperament_->setTime(time);
+    temperament_->setTime(momentFor(time));
     temperament_->setup(*instrument_, static_cast<unsigned char>(key), velocity);
     instrument_->playOn(division, key, velocity);
     markCurrent(division, key);
@@ -240,7 +260,7 @@ void Player::release(std::size_t division, std::size_t key, KeySource source, do
 void Player::stopEverywhere(std::size_t division, std::size_t key, double time)
 {
     if (temperament_ != nullptr && !holders_.isHeld(key)) {
-        temperament_->setTime(time);
+        temperament_->setTime(momentFor(time));
         temperament_->release(static_cast<unsigned char>(key));
     }
     for (auto& [instrument, keys] : instruments_) {

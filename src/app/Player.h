@@ -14,6 +14,7 @@
 #include <atomic>
 #include <cstdint>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace velmora {
@@ -80,6 +81,13 @@ public:
     /// Presses or releases one soft pedal. Notes are soft while any is down.
     void setSoft(bool soft);
 
+    /// Sets what time it is for what is played without one; by default that is `getTime`. A
+    /// rendering goes by its own time.
+    void setTime(double seconds);
+
+    /// Chooses how sounding keys take over the pitches that follow.
+    void setGlide(const Glide& glide);
+
     /// Shifts every key by `cents`.
     void bend(double cents, double time);
 
@@ -120,6 +128,7 @@ private:
     void stopEverywhere(std::size_t division, std::size_t key, double time);
     void stopEverywhere(const DivisionKeys& keys, double time);
     void markCurrent(std::size_t division, int key);
+    double momentFor(double time) const;
 
     mutable PriorityMutex mutex_;
     Instrument* instrument_ = nullptr;
@@ -131,8 +140,10 @@ private:
     std::array<std::array<std::uint8_t, kKeys>, midi::kChannels> startedOn_{};
     LiveKeys liveKeys_;
     std::atomic<double> inputDelay_{0.0};
-    double bend_ = 0.0;  ///< In cents.
-    int softPedals_ = 0; ///< How many are down.
+    double bend_ = 0.0; ///< In cents.
+    Glide glide_;
+    std::optional<double> time_; ///< Empty while it is `getTime`.
+    int softPedals_ = 0;         ///< How many are down.
 };
 
 } // namespace velmora

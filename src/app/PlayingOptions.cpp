@@ -6,6 +6,12 @@
 
 namespace velmora {
 
+namespace {
+
+constexpr double kMilliseconds = 1000.0; // in a second
+
+} // namespace
+
 PlayingOptions::PlayingOptions()
 {
     read();
@@ -18,6 +24,10 @@ void PlayingOptions::read()
     settings_.velocityCurve = static_cast<VelocityCurve>(getPrefInt("VelocityCurve"));
     settings_.transposition = getPrefInt("Transposition");
     settings_.bendRange = getPrefInt("BendRange");
+    glide_ = {getPrefInt("GlideTime") / kMilliseconds, getPrefBool("GlideSounding")};
+    adaptive_ = {getPrefBool("CorrectSpelling") ? getPrefInt("CorrectionTime") / kMilliseconds
+                                                : 0.0,
+                 static_cast<Drift>(getPrefInt("Drift"))};
     emit changed();
 }
 

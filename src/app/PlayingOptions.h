@@ -1,15 +1,17 @@
 #pragma once
 
+#include "audio/Glide.h"
 #include "import/ImportOptions.h"
 #include "midi/PlayingSettings.h"
+#include "tuning/AdaptiveSettings.h"
 
 #include <QObject>
 
 namespace velmora {
 
 /// How the MIDI devices are played: the reading, the velocity curve, the transposition and the
-/// range of the pitch wheel. They are remembered in the preferences. Main thread only, except the
-/// settings.
+/// range of the pitch wheel; and how temperaments follow the music. They are remembered in the
+/// preferences. Main thread only, except the settings.
 class PlayingOptions : public QObject {
     Q_OBJECT
 
@@ -25,6 +27,12 @@ public:
 
     /// True if SoundFonts that are out of tune are corrected. The plain reading leaves them alone.
     bool correctsTuning() const { return correctsTuning_ && !settings_.isPlain; }
+
+    /// How sounding notes take over another pitch. In the plain reading they jump there.
+    Glide glide() const { return settings_.isPlain ? Glide{} : glide_; }
+
+    /// How the temperaments that follow the music do so.
+    const AdaptiveSettings& adaptive() const { return adaptive_; }
 
     /// Reads the preferences again.
     void read();
@@ -43,6 +51,8 @@ private:
     PlayingSettings settings_;
     bool isAlwaysPlain_ = false;
     bool correctsTuning_ = true;
+    Glide glide_;
+    AdaptiveSettings adaptive_;
 };
 
 } // namespace velmora

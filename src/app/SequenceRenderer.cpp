@@ -66,6 +66,7 @@ void SequenceRenderer::soundUntil(double seconds, double rate, const AudioSink& 
     }
     sound(seconds);
     now_ = seconds;
+    player_.setTime(now_);
 }
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 
 #include "app/Player.h"
 #include "base/Log.h"
+#include "tuning/FollowingMeantone.h"
 
 #include <algorithm>
 #include <utility>
@@ -96,7 +97,7 @@ std::string Tunings::getDescription(const std::string& name) const
 bool Tunings::select(const std::string& name)
 {
     if (!named_.contains(name) && TuningDocument::isBuiltin(name))
-        put(TuningDocument::makeBuiltin(name));
+        put(TuningDocument::makeBuiltin(name, adaptive_));
     const auto found = named_.find(name);
     if (found != named_.end())
         play(*found->second);
@@ -119,6 +120,19 @@ void Tunings::setTransposition(const Transposition& transposition)
     if (const auto found = named_.find(name_); found != named_.end())
         play(*found->second);
     emit changed();
+}
+
+void Tunings::setAdaptive(const AdaptiveSettings& settings)
+{
+    if (settings == adaptive_)
+        return;
+    adaptive_ = settings;
+    for (const std::string& name : names()) {
+        const auto found = named_.find(name);
+        if (found != named_.end() &&
+            dynamic_cast<const FollowingMeantone*>(&found->second->temperament()) != nullptr)
+            replace(TuningDocument::makeBuiltin(name, settings));
+    }
 }
 
 void Tunings::play(const TuningDocument& document)

@@ -70,6 +70,10 @@ public:
     /// changes as keys are played: look at that under the player's lock.
     const Temperament* untransposed() const { return played_ ? &played_->inner() : nullptr; }
 
+    /// Chooses how the temperaments that follow the music do so. The current one begins at home
+    /// again if that changes it.
+    void setAdaptive(const AdaptiveSettings& settings);
+
 signals:
     /// A tuning was listed.
     void listed();
@@ -86,6 +90,7 @@ private:
     std::map<std::string, TuningDocument*> named_;
     std::string name_;
     Transposition transposition_;
+    AdaptiveSettings adaptive_;
     std::unique_ptr<TransposedTemperament> played_; ///< A fresh copy of the current tuning's.
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audio/Glide.h"
+
 #include <array>
 
 namespace velmora {
@@ -24,6 +26,10 @@ public:
 
     /// Shifts every note by `cents`, in addition to the pitch bends of the channels.
     virtual void bend(double /*cents*/) {}
+
+    /// Chooses how notes that sound take over the bends of the channels that follow. At first they
+    /// jump there.
+    virtual void setGlide(const Glide& /*glide*/) {}
 
     /// Corrects the notes that follow, except percussion.
     virtual void setCorrections(const KeyCorrections& /*corrections*/) {}

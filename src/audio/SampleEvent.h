@@ -32,10 +32,10 @@ struct SampleEvent {
         Start,
         Release, ///< The sample dies away, or another one follows it.
         Cut,     ///< The sample ends.
-        Pitch,
-        Bend,  ///< All samples change their pitch.
-        Swell, ///< A group of samples changes its gain.
-        End,   ///< All samples end.
+        Pitch,   ///< The sample, and what followed it, glide to another pitch.
+        Bend,    ///< All samples change their pitch.
+        Swell,   ///< A group of samples changes its gain.
+        End,     ///< All samples end.
     };
 
     /// Stands for all samples.
@@ -54,9 +54,11 @@ struct SampleEvent {
     double due = 0.0;       ///< In the seconds of `getTime`; 0 for at once.
     std::size_t frame = 0;  ///< Its place in the block, once that is known.
 
-    /// Of a release: what may follow, the lowest `longestHeld` first. It must exist as long as the
-    /// sample does.
+    /// Of a release: what may follow, the lowest `longestHeld` first. Of a pitch: what may have
+    /// followed. It must exist as long as the sample does.
     std::span<const FollowingSound> following{};
+
+    double glide = 0.0; ///< Of a pitch: the seconds of the glide.
 };
 
 } // namespace velmora

@@ -109,9 +109,12 @@ void SampleRenderer::cut(SampleId sample)
     send({SampleEvent::Kind::Cut, sample, 0.0F, 1.0F, 0, due_});
 }
 
-void SampleRenderer::setPitch(SampleId sample, float pitch)
+void SampleRenderer::setPitch(SampleId sample, float pitch,
+                              std::span<const FollowingSound> following)
 {
-    send({SampleEvent::Kind::Pitch, sample, 0.0F, pitch, 0, due_});
+    if (glide_.movesSounding)
+        send(
+            {SampleEvent::Kind::Pitch, sample, 0.0F, pitch, 0, due_, 0, following, glide_.seconds});
 }
 
 void SampleRenderer::bend(float pitch)

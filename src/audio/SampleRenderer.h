@@ -2,6 +2,7 @@
 
 #include "audio/AudioSource.h"
 #include "audio/DueEvents.h"
+#include "audio/Glide.h"
 #include "audio/SampleVoices.h"
 #include "base/LockFreeQueue.h"
 #include "platform/WorkerPool.h"
@@ -59,8 +60,12 @@ public:
     /// Ends a sample at once.
     void cut(SampleId sample);
 
-    /// Sets the pitch factor of a sample that may sound.
-    void setPitch(SampleId sample, float pitch);
+    /// Chooses how samples that sound take over the pitches that follow. At first they jump there.
+    void setGlide(const Glide& glide) { glide_ = glide; }
+
+    /// Changes the pitch factor of a sample that may sound, and of those of `following` that may
+    /// have followed it.
+    void setPitch(SampleId sample, float pitch, std::span<const FollowingSound> following = {});
 
     /// Sets a pitch factor for all samples, including those that sound.
     void bend(float pitch);
@@ -97,6 +102,7 @@ private:
 
     double rate_;
     double due_ = 0.0;
+    Glide glide_;
     std::vector<std::unique_ptr<SampleVoices>> devices_;
     std::size_t sounds_ = 0; ///< That have been added to the devices.
     bool isReserved_ = false;

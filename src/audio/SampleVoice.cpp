@@ -1,8 +1,16 @@
 #include "audio/SampleVoice.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmora {
+
+namespace {
+
+/// In an octave.
+constexpr double kCents = 1200.0;
+
+} // namespace
 
 void SampleVoice::ring(float full, double frames)
 {
@@ -17,6 +25,18 @@ void SampleVoice::end(double frames)
     const float fall = gain / static_cast<float>(frames);
     slope = phase == Phase::Ending ? std::max(slope, fall) : fall;
     phase = Phase::Ending;
+}
+
+void SampleVoice::glideTo(float target, double frames)
+{
+    glide.begin(kCents * std::log2(double{target} / pitch), frames);
+    pitch = target;
+}
+
+float SampleVoice::heardPitch() const
+{
+    return glide.isGliding() ? pitch * static_cast<float>(std::exp2(-glide.left() / kCents))
+                             : pitch;
 }
 
 bool SampleVoice::step(float decay, std::size_t frames)

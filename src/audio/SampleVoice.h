@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audio/Glide.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -34,15 +36,22 @@ struct SampleVoice {
     /// false when a voice that ends has become silent.
     bool step(float decay, std::size_t frames);
 
+    /// Begins to glide to another pitch, which it reaches after `frames`; 0 for at once.
+    void glideTo(float target, double frames);
+
+    /// The pitch that it has on its glide, without the bend.
+    float heardPitch() const;
+
     unsigned source = 0;
     Phase phase = Phase::Silent;
     bool isCheap = false;   ///< Resampled by linear interpolation.
     std::uint8_t swell = 0; ///< The group of samples whose gain is applied too.
     float level = 1.0F;     ///< What the gain is multiplied by, so that mono is as loud as stereo.
     float gain = 0.0F;
-    float fullGain = 0.0F;   ///< What a ringing voice grows to.
-    float slope = 0.0F;      ///< What the gain grows or falls by in each frame.
-    float pitch = 1.0F;      ///< Without the bend.
+    float fullGain = 0.0F; ///< What a ringing voice grows to.
+    float slope = 0.0F;    ///< What the gain grows or falls by in each frame.
+    float pitch = 1.0F;    ///< Where it glides to, without the bend.
+    GlidePath glide;
     std::uint32_t place = 0; ///< In the list of the voices that sound.
     std::uint64_t age = 0;   ///< Voices that have changed their phase before.
     std::uint64_t began = 0; ///< The device's frame at which it was started.

@@ -24,12 +24,6 @@ constexpr double kEndSeconds = 0.005;
 /// A release that begins again fades this long, so that a room's sound does not stop abruptly.
 constexpr double kReleaseEndSeconds = 0.15;
 
-/// After this time about two thirds of a change of a swell have been made.
-constexpr double kGlideSeconds = 0.02;
-
-/// A swell that is so near to its target has arrived.
-constexpr float kGlided = 1e-4F;
-
 /// The steps of a decay in a second, and the frames of a step at low rates. OpenAL changes a gain
 /// evenly over the frames that it renders.
 constexpr double kStepsPerSecond = 375.0;
@@ -119,13 +113,8 @@ std::size_t SampleVoices::advance(std::size_t done, std::size_t end)
         std::fill(right_.begin() + done, right_.begin() + end, 0.0F);
         return end;
     }
-    // Long blocks take less time, so only a changing gain is stepped.
-    const bool isChanging = isGliding_ || std::ranges::any_of(active_, [this](std::uint32_t index) {
-                                return sources_.voice(index).isChanging();
-                            });
-    const std::size_t frames = isChanging ? std::min(step_, end - done) : end - done;
-    if (isChanging)
-        fade(frames);
+    const std::size_t frames = framesInStep(end - done);
+    fade(frames);
     for (std::size_t i = 0; i < starting_.size(); i += SampleSources::kBatch)
         alSourcePlayv(static_cast<ALsizei>(std::min(SampleSources::kBatch, starting_.size() - i)),
                       &starting_[i]);
@@ -139,12 +128,26 @@ std::size_t SampleVoices::advance(std::size_t done, std::size_t end)
     return done + frames;
 }
 
+/// Returns the number of frames that can be rendered before anything must be changed: long blocks
+/// take less time.
+std::size_t SampleVoices::framesInStep(std::size_t most)
+{
+    bool isChanging = swells_.isGliding();
+    for (const std::uint32_t index : active_) {
+        if (sources_.voice(index).glide.isGliding())
+            return std::min(GlidePath::kStep, most);
+        isChanging = isChanging || sources_.voice(index).isChanging();
+    }
+    return isChanging ? std::min(step_, most) : most;
+}
+
 void SampleVoices::fade(std::size_t frames)
 {
     const auto decay =
         static_cast<float>(std::exp(kDecayPerSecond * static_cast<double>(frames) / rate_));
-    if (isGliding_)
-        glide(frames);
+    const bool areSwellsGliding = swells_.isGliding();
+    if (areSwellsGliding)
+        swells_.step(frames, rate_);
     for (std::size_t i = active_.size(); i-- > 0;) { // the last takes the place of one that ends
         SampleVoice& voice = sources_.voice(active_[i]);
         const bool isChanging = voice.isChanging();
@@ -154,20 +157,12 @@ void SampleVoices::fade(std::size_t frames)
         }
         if (voice.phase == Phase::Decaying && voice.gain < static_cast<float>(kFaded))
             end(voice, kEndSeconds);
-        if (isChanging || isGliding_)
+        if (isChanging || areSwellsGliding)
             setGain(voice);
-    }
-    isGliding_ = std::ranges::any_of(swells_, &Swell::isGliding);
-}
-
-void SampleVoices::glide(std::size_t frames)
-{
-    const auto part =
-        static_cast<float>(1.0 - std::exp(-static_cast<double>(frames) / (kGlideSeconds * rate_)));
-    for (Swell& swell : swells_) {
-        swell.gain += part * (swell.target - swell.gain);
-        if (std::fabs(swell.target - swell.gain) < kGlided)
-            swell.gain = swell.target;
+        if (voice.glide.isGliding()) {
+            voice.glide.step(frames);
+            setPitch(voice);
+        }
     }
 }
 
@@ -198,9 +193,9 @@ void SampleVoices::apply(const SampleEvent& event)
             end(current(event.id.number), kEndSeconds);
         break;
     case SampleEvent::Kind::Pitch:
-        current(event.id.number).pitch = event.pitch;
-        if (current(event.id.number).phase != Phase::Silent)
-            setPitch(current(event.id.number));
+        retune(event.id.number, event.pitch, event.glide);
+        for (const FollowingSound& next : event.following)
+            retune(next.number, event.pitch * next.pitch, event.glide);
         break;
     case SampleEvent::Kind::Bend:
         bend_ = event.pitch;
@@ -208,10 +203,10 @@ void SampleVoices::apply(const SampleEvent& event)
             setPitch(sources_.voice(index));
         break;
     case SampleEvent::Kind::Swell:
-        swells_[event.swell].target = event.gain;
         if (active_.empty())
-            swells_[event.swell].gain = event.gain;
-        isGliding_ = isGliding_ || swells_[event.swell].isGliding();
+            swells_.jump(event.swell, event.gain);
+        else
+            swells_.set(event.swell, event.gain);
         break;
     case SampleEvent::Kind::End:
         for (const std::uint32_t index : active_)
@@ -226,6 +221,7 @@ void SampleVoices::start(const SampleEvent& event)
     voice.phase = Phase::Held;
     voice.gain = event.gain;
     voice.pitch = event.pitch;
+    voice.glide = {};
     voice.swell = event.swell;
     setCheap(voice, false);
     setGain(voice);
@@ -286,6 +282,7 @@ void SampleVoices::follow(SampleVoice& voice, const FollowingSound& next)
     }
     const float full = voice.gain * entry.gain;
     const float pitch = voice.pitch * next.pitch;
+    const GlidePath glide = voice.glide;
     const std::uint8_t swell = voice.swell;
     if (next.alignment != nullptr)
         end(voice, seconds);
@@ -295,6 +292,7 @@ void SampleVoices::follow(SampleVoice& voice, const FollowingSound& next)
     SampleVoice& ringing = begin(next.number, kReleaseEndSeconds);
     ringing.ring(full, seconds * rate_);
     ringing.pitch = pitch;
+    ringing.glide = glide;
     ringing.swell = swell;
     setCheap(ringing, relief_ != Relief::None);
     setGain(ringing);
@@ -369,12 +367,24 @@ void SampleVoices::endOldestTails()
 
 void SampleVoices::setGain(const SampleVoice& voice)
 {
-    alSourcef(voice.source, AL_GAIN, voice.level * voice.gain * swells_[voice.swell].gain);
+    alSourcef(voice.source, AL_GAIN, voice.level * voice.gain * swells_.gain(voice.swell));
+}
+
+/// Lets the voices of a sample that sound, both of them if it was started again, glide to a pitch.
+void SampleVoices::retune(std::uint32_t number, float pitch, double seconds)
+{
+    for (std::uint32_t index = 2 * number; index < 2 * number + 2; ++index) {
+        SampleVoice& voice = sources_.voice(index);
+        if (voice.phase == Phase::Silent || voice.pitch == pitch)
+            continue;
+        voice.glideTo(pitch, seconds * rate_);
+        setPitch(voice);
+    }
 }
 
 void SampleVoices::setPitch(const SampleVoice& voice)
 {
-    alSourcef(voice.source, AL_PITCH, voice.pitch * bend_ * tuning_);
+    alSourcef(voice.source, AL_PITCH, voice.heardPitch() * bend_ * tuning_);
 }
 
 void SampleVoices::setCheap(SampleVoice& voice, bool cheap)

@@ -4,12 +4,12 @@
 #include "audio/SampleEvent.h"
 #include "audio/SampleSources.h"
 #include "audio/SampleVoice.h"
+#include "audio/Swells.h"
 
 #include <array>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <memory>
 #include <span>
 #include <vector>
@@ -56,14 +56,6 @@ public:
 private:
     using Phase = SampleVoice::Phase;
 
-    /// The gain of a group of samples, which glides so that it does not step audibly.
-    struct Swell {
-        bool isGliding() const { return gain != target; }
-
-        float gain = 1.0F;
-        float target = 1.0F;
-    };
-
     SampleVoice& current(std::uint32_t number) { return sources_.voice(sources_.current(number)); }
     void apply(const SampleEvent& event);
     void start(const SampleEvent& event);
@@ -77,12 +69,13 @@ private:
     template <class Condition> SampleVoice* oldest(const Condition& condition);
     void endOldestTails();
     void setGain(const SampleVoice& voice);
+    void retune(std::uint32_t number, float pitch, double seconds);
     void setPitch(const SampleVoice& voice);
     void setCheap(SampleVoice& voice, bool cheap);
 
+    std::size_t framesInStep(std::size_t most);
     std::size_t advance(std::size_t done, std::size_t end);
     void fade(std::size_t frames);
-    void glide(std::size_t frames);
     void findEnded();
 
     SampleSources sources_;
@@ -98,8 +91,7 @@ private:
     std::uint64_t frame_ = 0; ///< That is rendered next. It stands still while nothing sounds.
     float bend_ = 1.0F;
     Relief relief_ = Relief::None;
-    std::array<Swell, std::numeric_limits<std::uint8_t>::max() + 1> swells_{};
-    bool isGliding_ = false; ///< Some swell is.
+    Swells swells_;
 
     std::array<float, 2 * kBlock> interleaved_{};
     std::array<float, kBlock> left_{}, right_{};

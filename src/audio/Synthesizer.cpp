@@ -77,7 +77,7 @@ void Synthesizer::midiEvent(int status, int data1, int data2)
     // Retuning sends the bends of all channels, and most of them are unchanged.
     const double cents = centsOf(data1, data2);
     if (sentBends_[channelOf(status)].exchange(cents) != cents)
-        send({due_, status, data1, data2, cents});
+        send({due_, status, data1, data2, cents, 0, glide_});
 }
 
 void Synthesizer::bend(double cents)
@@ -109,8 +109,7 @@ void Synthesizer::apply(const Event& event)
 {
     if (event.status == kWheel) {
         wheel_ = event.cents;
-        for (std::size_t own = 0; own < kOwnLanes; ++own)
-            applyBends(own);
+        applyWheel();
         return;
     }
     const auto own = ownLaneOf(channelOf(event.status));
@@ -135,7 +134,7 @@ void Synthesizer::apply(const Event& event)
         break;
     case midi::kPitchBend:
         bends_[*own] = event.cents;
-        applyBends(*own);
+        applyBends(*own, event.glide);
         break;
     default:
         break;
@@ -169,9 +168,15 @@ SynthesizerLane& Synthesizer::laneForNote(std::size_t own)
     return fallback;
 }
 
-void Synthesizer::applyBends(std::size_t own)
+void Synthesizer::applyBends(std::size_t own, const Glide& glide)
 {
-    forLanes(own, [&](SynthesizerLane& lane) { lane.setCents(bends_[own] + wheel_); });
+    forLanes(own, [&](SynthesizerLane& lane) { lane.setCents(bends_[own], glide); });
+}
+
+void Synthesizer::applyWheel()
+{
+    for (const auto& lane : lanes_)
+        lane->setWheel(wheel_);
 }
 
 void Synthesizer::silence(std::size_t own)
@@ -195,10 +200,11 @@ void Synthesizer::silenceAfterOverflow()
         applyUnlessNote(*queue_.front());
     // It may also have been a bend.
     wheel_ = sentBends_.back();
+    applyWheel();
     for (std::size_t channel = 0; channel < midi::kChannels; ++channel) {
         if (const auto own = ownLaneOf(channel)) {
             bends_[*own] = sentBends_[channel];
-            applyBends(*own);
+            applyBends(*own, {});
             silence(*own);
         }
     }

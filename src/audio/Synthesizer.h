@@ -41,6 +41,7 @@ public:
 
     void setDue(double time) override { due_ = time; }
     void bend(double cents) override;
+    void setGlide(const Glide& glide) override { glide_ = glide; }
     void setCorrections(const KeyCorrections& corrections) override { corrections_ = corrections; }
     AudioSource* source() override { return this; }
     std::size_t voices() const override { return voices_; }
@@ -58,6 +59,7 @@ private:
         int data1, data2;
         double cents;          ///< Of a bend; the correction of a note.
         std::size_t frame = 0; ///< Its place in the block, once that is known.
+        Glide glide{};         ///< Of a bend.
     };
 
     static constexpr int kWheel = 0;
@@ -80,7 +82,8 @@ private:
     void apply(const Event& event);
     void noteOn(std::size_t own, const Event& event);
     SynthesizerLane& laneForNote(std::size_t own);
-    void applyBends(std::size_t own);
+    void applyBends(std::size_t own, const Glide& glide);
+    void applyWheel();
     void silence(std::size_t own);
     void silenceAfterOverflow();
 
@@ -102,6 +105,7 @@ private:
 
     double due_ = 0.0;             ///< Of the next messages.
     KeyCorrections corrections_{}; ///< Of the next notes.
+    Glide glide_;                  ///< Of the next bends.
     /// The last bend, in cents, of each channel and of the wheel.
     std::array<std::atomic<double>, kOrders> sentBends_{};
     LockFreeQueue<Event> queue_{kQueue};

@@ -8,6 +8,7 @@
 #include <array>
 #include <cmath>
 #include <stdexcept>
+#include <utility>
 
 namespace velmora {
 
@@ -32,12 +33,12 @@ constexpr double kHighestRate = 96000.0;
 } // namespace
 
 SynthesizerLane::SynthesizerLane(double rate, const SoundFontBank& bank)
-    : divisor_(std::max(1.0, std::ceil(rate / kHighestRate))),
+    : divisor_(std::max(1.0, std::ceil(rate / kHighestRate))), rate_(rate / divisor_),
       settings_(new_fluid_settings(), delete_fluid_settings), synth_(nullptr, delete_fluid_synth),
       soundFont_(bank)
 {
     if (rate < kLowestRate ||
-        fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate / divisor_) != FLUID_OK)
+        fluid_settings_setnum(settings_.get(), "synth.sample-rate", rate_) != FLUID_OK)
         throw std::runtime_error(
             fmt::format("FluidSynth does not support a sample rate of {:g} Hz", rate));
     fluid_settings_setint(settings_.get(), "synth.polyphony", kQueuedVoices);
@@ -75,12 +76,25 @@ void SynthesizerLane::noteOn(int key, int velocity, double correction)
     if (isFirst) {
         resampler_.clear();
         correction_ = correction;
+        kept_ = 0.0;
+        path_ = {};
     }
     fluid_synth_noteon(synth_.get(), kChannel, key, velocity);
     if (!isFirst)
-        raiseNewest(key, std::round(correction - correction_));
+        raiseNewest(key, std::round(correction - correction_ + kept_));
     held_.set(index);
     silentBlocks_ = 0;
+}
+
+void SynthesizerLane::setCents(double cents, const Glide& glide)
+{
+    const double rise = cents - cents_;
+    cents_ = cents;
+    if (isIdle())
+        return; // the next note begins there
+    kept_ += rise;
+    if (glide.movesSounding)
+        path_.begin(std::exchange(kept_, 0.0), glide.seconds * rate_);
 }
 
 void SynthesizerLane::raiseNewest(int key, double cents)
@@ -139,6 +153,7 @@ void SynthesizerLane::programChange(int program)
 void SynthesizerLane::follow(const SynthesizerLane& other)
 {
     cents_ = other.cents_;
+    wheel_ = other.wheel_;
     if (bank_ != other.bank_ || program_ != other.program_) {
         selectedBank_ = other.bank_;
         programChange(other.program_);
@@ -186,6 +201,7 @@ void SynthesizerLane::renderBlock(float* left, float* right)
     std::fill_n(left, kBlock, 0.0F);
     std::fill_n(right, kBlock, 0.0F);
     notesInBlock_ = 0;
+    path_.step(kBlock);
     // See docs/decisions.md, 129.
     if (wantedCents() != appliedCents_)
         applyCents();

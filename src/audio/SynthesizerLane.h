@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audio/FractionalResampler.h"
+#include "audio/Glide.h"
 #include "audio/SoundFontBank.h"
 
 #include <fluidsynth.h>
@@ -46,9 +47,12 @@ public:
     /// Silences every note at once.
     void allSoundsOff();
 
-    /// Shifts the pitch of all notes, including those that sound, from the next block of the
-    /// synthesizer on.
-    void setCents(double cents) { cents_ = cents; }
+    /// Shifts the pitch of the notes that follow by `cents`, and lets those that sound glide there
+    /// if they shall, from the next block of the synthesizer on.
+    void setCents(double cents, const Glide& glide);
+
+    /// Shifts the pitch of all notes by `cents` besides, from the next block of the synthesizer on.
+    void setWheel(double cents) { wheel_ = cents; }
 
     /// Takes over the program, the controllers and the pitch of another lane.
     void follow(const SynthesizerLane& other);
@@ -72,7 +76,7 @@ private:
     static constexpr std::size_t kControllers = 120;
 
     void readControllers();
-    double wantedCents() const { return cents_ + correction_; }
+    double wantedCents() const { return cents_ - kept_ - path_.left() + wheel_ + correction_; }
     void applyCents();
 
     /// Raises the note that was started last.
@@ -85,6 +89,7 @@ private:
     void renderBlock(float* left, float* right);
 
     double divisor_; ///< The output's rate divided by the synthesizer's.
+    double rate_;    ///< Of the synthesizer.
     Owned<fluid_settings_t> settings_;
     Owned<fluid_synth_t> synth_;
     const SoundFontBank& soundFont_;
@@ -94,7 +99,10 @@ private:
     int notesInBlock_ = 0; ///< Started since the latest block.
 
     std::bitset<128> held_;   ///< The keys whose notes have not been released.
-    double cents_ = 0.0;      ///< Of all notes.
+    double cents_ = 0.0;      ///< Of new notes.
+    double kept_ = 0.0;       ///< How far above the notes that sound that is, for good.
+    GlidePath path_;          ///< On which those follow.
+    double wheel_ = 0.0;      ///< In cents, of all notes.
     double correction_ = 0.0; ///< Of the note that started on the idle lane.
     double appliedCents_ = 0.0;
     std::array<int, kControllers> controllers_{};

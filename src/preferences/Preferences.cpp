@@ -41,6 +41,12 @@ PrefRange prefRange(const std::string& key)
         return {0, 192'000};
     if (key == "OutputPeriod")
         return {0, 8192};
+    if (key == "GlideTime")
+        return {0, 500};
+    if (key == "CorrectionTime")
+        return {1, 200};
+    if (key == "Drift")
+        return {0, 2};
     if (key == "MasterVolume")
         return {0, 100};
     return {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()};

@@ -12,7 +12,9 @@ namespace velmora {
 /// roll in pixels; "KeyRangeLo" and "KeyRangeHi", the lowest and highest MIDI key shown, at least
 /// one apart; "NoteNames", a `NoteNaming`; "VelocityCurve", a `VelocityCurve`; "Transposition" and
 /// "BendRange", the transposition of MIDI devices and the range of their pitch wheels in semitones;
-/// "OutputRate" in hertz and "OutputPeriod" in frames, 0 for automatic; "MasterVolume" in percent.
+/// "OutputRate" in hertz and "OutputPeriod" in frames, 0 for automatic; "MasterVolume" in percent;
+/// "GlideTime", in which sounding notes take over another pitch, and "CorrectionTime", in which the
+/// notes of a chord may correct each other's spelling, in milliseconds; "Drift", a `Drift`.
 int getPrefInt(const std::string& key);
 void setPrefInt(const std::string& key, int value);
 
@@ -28,7 +30,9 @@ PrefRange prefRange(const std::string& key);
 /// Returns a boolean preference: "KeyNames" shows the names of the C keys on the keyboard;
 /// "CorrectTuning" corrects the tuning of SoundFonts themselves;
 /// "PlainReading" reads MIDI devices with `midiRead`, without the translator; "StartAsLastTime"
-/// opens at the start what was open at the end; "ReduceMotion" scrolls at once instead of gliding.
+/// opens at the start what was open at the end; "GlideSounding" lets sounding notes take over
+/// another pitch before they are struck again; "CorrectSpelling" lets the notes of a chord correct
+/// each other's spelling; "ReduceMotion" scrolls at once instead of gliding.
 bool getPrefBool(const std::string& key);
 void setPrefBool(const std::string& key, bool value);
 

@@ -46,6 +46,11 @@ const QVariantMap& defaults()
         {"OutputRate", 0},
         {"OutputPeriod", 0},
         {"MasterVolume", 100},
+        {"GlideTime", 30},
+        {"GlideSounding", true},
+        {"CorrectSpelling", true},
+        {"CorrectionTime", 40},
+        {"Drift", 0}, // tied to A
     };
     return values;
 }

@@ -48,6 +48,7 @@ public:
     void fade(double factor) override;
     void setDue(double time) override { renderer_.setDue(time); }
     void bend(double cents) override;
+    void setGlide(const Glide& glide) override { renderer_.setGlide(glide); }
     void setSoft(bool soft) override { isSoft_ = soft; }
 
     /// Starts a key of one stop, whose volume does not count, with a gain of its own. Does

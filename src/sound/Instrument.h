@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/Glide.h"
 #include "audio/Program.h"
 #include "tuning/Tunable.h"
 
@@ -50,6 +51,9 @@ public:
 
     /// Shifts every key by `cents`, including those that sound.
     virtual void bend(double /*cents*/) {}
+
+    /// Chooses how notes that sound take over the pitches that follow. At first they jump there.
+    virtual void setGlide(const Glide& /*glide*/) {}
 
     /// Makes the notes that follow softer, as the soft pedal does, or normal again.
     virtual void setSoft(bool /*soft*/) {}

@@ -62,6 +62,7 @@ std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<Musi
     send(midi::kControlChange, midi::kBankSelect, bank_);
     MIDIInstrument::setProgram(program_);
     device_->bend(bend_);
+    device_->setGlide(glide_);
     return device;
 }
 
@@ -110,6 +111,12 @@ void MIDIInstrument::bend(double cents)
 {
     bend_ = cents;
     device_->bend(cents);
+}
+
+void MIDIInstrument::setGlide(const Glide& glide)
+{
+    glide_ = glide;
+    device_->setGlide(glide);
 }
 
 void MIDIInstrument::silence()

@@ -31,6 +31,7 @@ public:
     void setInstrument(std::uint8_t program) override;
     void setDue(double time) override { device_->setDue(time); }
     void bend(double cents) override;
+    void setGlide(const Glide& glide) override;
     void setSoft(bool soft) override { isSoft_ = soft; }
     AudioSource* source() override { return device_->source(); }
     std::span<const Program> programs() const override { return programs_; }
@@ -61,6 +62,7 @@ private:
     std::bitset<128> struckDrums_; ///< The keys that sound on the percussion channel.
     float volume_ = 1.0F;
     double bend_ = 0.0; ///< In cents.
+    Glide glide_;
     bool isSoft_ = false;
 };
 

@@ -45,6 +45,7 @@ public:
     void fade(double factor) override { ranks_->fade(factor); }
     void setDue(double time) override { ranks_->setDue(time); }
     void bend(double cents) override { ranks_->bend(cents); }
+    void setGlide(const Glide& glide) override { ranks_->setGlide(glide); }
     void setSoft(bool soft) override { ranks_->setSoft(soft); }
     AudioSource* source() override { return ranks_->source(); }
     bool isSounding() const override { return ranks_->isSounding(); }

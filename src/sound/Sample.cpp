@@ -182,9 +182,8 @@ void Sample::tune(double pitch)
     if (!isPlaying_)
         return;
     SampleRenderer& renderer = attacks_.front().sound->renderer();
-    renderer.setPitch(sources_[attack_].id, factorOf(attacks_[attack_].rootPitch));
-    for (std::size_t i = 0; released_ && i < releases_.size(); ++i)
-        renderer.setPitch(sources_[attacks_.size() + i].id, factorOf(releases_[i].rootPitch));
+    renderer.setPitch(sources_[attack_].id, factorOf(attacks_[attack_].rootPitch),
+                      following_[attack_]);
 }
 
 unsigned Sample::source() const

@@ -1,8 +1,9 @@
 #include "tuning/PureTemperament.h"
 
+#include "base/fading.h"
 #include "tuning/Tunable.h"
 
-#include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdlib>
 #include <optional>
@@ -91,8 +92,9 @@ private:
 
 } // namespace
 
-PureTemperament::PureTemperament(Drift drift)
-    : policy_(drift), current_{Cent(0), Cent(0), Cent(0), Cent(0), Cent(0), Cent(0),
+PureTemperament::PureTemperament(Drift drift, const SpellingFollower::Settings& settings)
+    : FollowingMeantone(settings),
+      policy_(drift), current_{Cent(0), Cent(0), Cent(0), Cent(0), Cent(0), Cent(0),
                                Cent(0), Cent(0), Cent(0), Cent(0), Cent(0), Cent(0)}
 {
     updatePitches();
@@ -100,7 +102,7 @@ PureTemperament::PureTemperament(Drift drift)
 
 std::unique_ptr<Temperament> PureTemperament::fresh() const
 {
-    auto copy = std::make_unique<PureTemperament>(policy_);
+    auto copy = std::make_unique<PureTemperament>(policy_, follower().settings());
     copy->setBaseFrequency(baseFrequency());
     return copy;
 }
@@ -110,18 +112,20 @@ void PureTemperament::setup(Tunable& instrument, unsigned char key, float /*velo
     std::array<bool, kPureClasses> wasHeld{};
     for (unsigned i = 0; i < kPureClasses; ++i)
         wasHeld[i] = follower().isHeld(i);
-    if (policy_ == Drift::Returns && std::ranges::find(wasHeld, true) == wasHeld.end())
-        drift_ *= std::exp(std::min(silence_ - time(), 0.0) / kReturnSeconds);
     follow(key);
     adjust(wasHeld);
     updatePitches();
     instrument.tune(*this, 0, 127);
 }
 
-void PureTemperament::release(unsigned char key)
+void PureTemperament::fade(double /*factor*/)
 {
-    FollowingMeantone::release(key);
-    silence_ = time();
+    if (policy_ != Drift::Returns)
+        return;
+    for (unsigned i = 0; i < kPureClasses; ++i)
+        if (follower().isHeld(i))
+            return;
+    drift_ *= std::exp(-std::chrono::duration<double>(kFadeInterval).count() / kReturnSeconds);
 }
 
 void PureTemperament::adjust(const std::array<bool, 12>& wasHeld)

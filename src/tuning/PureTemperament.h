@@ -1,19 +1,12 @@
 #pragma once
 
+#include "tuning/Drift.h"
 #include "tuning/FollowingMeantone.h"
 #include "tuning/Tuning.h"
 
 #include <array>
-#include <cstdint>
 
 namespace velmora {
-
-/// What becomes of the pitch when pure intervals lead it away from where it began.
-enum class Drift : std::uint8_t {
-    TiedToA, ///< A weak pull always leads back.
-    Free,    ///< The pitch stays where the music has led it.
-    Returns, ///< As free, but silence leads it back within a few seconds.
-};
 
 /// A temperament that makes the intervals between the sounding keys as pure as they can be
 /// together. Keys are spelled as `FollowingMeantone` does; from there each sounding pitch class
@@ -21,12 +14,15 @@ enum class Drift : std::uint8_t {
 /// sound already move as little as possible.
 class PureTemperament : public FollowingMeantone {
 public:
-    explicit PureTemperament(Drift drift = Drift::TiedToA);
+    explicit PureTemperament(Drift drift = Drift::TiedToA,
+                             const SpellingFollower::Settings& settings = {});
 
     std::unique_ptr<Temperament> fresh() const override;
     const Tuning& getTuning(unsigned long key) const override { return current_[key % 12]; }
     void setup(Tunable& instrument, unsigned char key, float velocity) override;
-    void release(unsigned char key) override;
+
+    /// Lets a drift that returns do so while no key sounds.
+    void fade(double factor) override;
 
     /// How far the sounding pitch classes lie above quarter-comma meantone, in cents in the mean.
     double drift() const override { return drift_; }
@@ -37,7 +33,6 @@ private:
 
     Drift policy_;
     double drift_ = 0.0;               ///< In cents.
-    double silence_ = 0.0;             ///< When a key was last released, in seconds.
     std::array<double, 12> offsets_{}; ///< From meantone, in cents.
     std::array<Cent, 12> current_;
 };

@@ -25,16 +25,18 @@ TuningDocument::TuningDocument(std::string name, std::string description,
 }
 
 // Any other name is meantone: see docs/decisions.md, 18.
-std::unique_ptr<TuningDocument> TuningDocument::makeBuiltin(const std::string& name)
+std::unique_ptr<TuningDocument> TuningDocument::makeBuiltin(const std::string& name,
+                                                            const AdaptiveSettings& settings)
 {
+    const SpellingFollower::Settings spelling{.correction = settings.correction};
     auto document = std::make_unique<TuningDocument>();
     document->name_ = name;
     if (name == "Dynamic")
         document->temperament_ = std::make_unique<DynamicTemperament>();
     else if (name == "Following Meantone")
-        document->temperament_ = std::make_unique<FollowingMeantone>();
+        document->temperament_ = std::make_unique<FollowingMeantone>(spelling);
     else if (name == "Pure")
-        document->temperament_ = std::make_unique<PureTemperament>();
+        document->temperament_ = std::make_unique<PureTemperament>(settings.drift, spelling);
     else if (name == "Equal")
         document->temperament_ = std::make_unique<Temperament>(Temperament::Equal());
     else if (const auto* historical = findHistoricalTemperament(name)) {

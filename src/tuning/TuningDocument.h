@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tuning/AdaptiveSettings.h"
 #include "tuning/Temperament.h"
 #include "tuning/TuningFile.h"
 
@@ -23,7 +24,9 @@ public:
 
     /// Creates "Equal", "Dynamic", "Following Meantone", "Pure", a historical temperament by its
     /// name, or quarter-comma meantone under any other name.
-    static std::unique_ptr<TuningDocument> makeBuiltin(const std::string& name);
+    /// The settings are for the temperaments that follow the music.
+    static std::unique_ptr<TuningDocument> makeBuiltin(const std::string& name,
+                                                       const AdaptiveSettings& settings = {});
 
     /// Creates a copy of a tuning whose notes lie so many cents above its C, in ascending order
     /// from C. Its name is that of the original and "(edited)"; a copy of a copy keeps its name.

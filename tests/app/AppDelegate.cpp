@@ -3,7 +3,9 @@
 #include "app/Meters.h"
 #include "base/Clock.h"
 #include "midi/messages.h"
+#include "preferences/Preferences.h"
 #include "support/RecordingInstrument.h"
+#include "tuning/PureTemperament.h"
 
 #include <QCoreApplication>
 #include <gtest/gtest.h>
@@ -91,6 +93,46 @@ TEST_F(AppDelegateTest, DynamicStartsAtHomeEachTimeItIsSelected)
     app_.tunings().select("Equal");
     app_.tunings().select("Dynamic");
     EXPECT_EQ(current()->getTuning(1).cent(), 76.049);
+}
+
+TEST_F(AppDelegateTest, FollowsThePreferencesOfTheTunings)
+{
+    class Gliding : public RecordingInstrument {
+    public:
+        using RecordingInstrument::RecordingInstrument;
+        void setGlide(const Glide& glide) override { now = glide; }
+        Glide now;
+    };
+    Gliding first(calls_);
+    Gliding later(calls_);
+    app_.setInstrument(first, "First");
+    app_.tunings().select("Pure");
+    app_.keyOn(60, 1.0F);
+    const Temperament* before = current();
+    setPrefInt("GlideTime", 200);
+    app_.playing().read();
+    app_.setInstrument(later, "Later");
+    EXPECT_EQ(current(), before) << "only how it glides has changed";
+    EXPECT_EQ(first.now, (Glide{0.2, true}));
+    EXPECT_EQ(later.now, (Glide{0.2, true}));
+
+    setPrefBool("GlideSounding", false);
+    setPrefInt("CorrectionTime", 70);
+    setPrefInt("Drift", static_cast<int>(Drift::Free));
+    app_.playing().read();
+    EXPECT_EQ(later.now, (Glide{0.2, false}));
+    const auto correction = [this] {
+        const auto& pure = dynamic_cast<const PureTemperament&>(*app_.tunings().untransposed());
+        return pure.follower().settings().correction;
+    };
+    EXPECT_EQ(correction(), 0.07);
+    setPrefBool("CorrectSpelling", false);
+    app_.playing().usePlainReading();
+    EXPECT_EQ(later.now, Glide{}) << "the plain reading jumps";
+    EXPECT_EQ(correction(), 0.0);
+    for (const char* key :
+         {"GlideTime", "GlideSounding", "CorrectionTime", "Drift", "CorrectSpelling"})
+        resetPref(key);
 }
 
 TEST_F(AppDelegateTest, ReceivedEventsReachTheMainThreadInOrder)

@@ -214,7 +214,18 @@ TEST_F(PlayerTest, TheTemperamentKnowsWhichKeysSound)
     player_.keyOn(kKey + 2, 0.5F, kMouse, 9.0);
     player_.keyOff(kKey + 2, kMouse, 60.0);
     EXPECT_NE(following.follower().centre(), before) << "time makes it forget";
-    player_.keyOn(kKey, 0.5F, kMouse, 61.0);
+    const auto centreAfter = [&](double time) {
+        player_.setTime(time); // a rendering goes by its own time
+        player_.play(kKey + 4, 0.5F, 0, 0.0);
+        player_.stop(kKey + 4, 0, 0.0);
+        player_.setTime(time + 30.0);
+        player_.play(kKey, 0.5F, 0, 0.0);
+        player_.stop(kKey, 0, 0.0);
+        return following.follower().centre();
+    };
+    const double once = centreAfter(90.0);
+    EXPECT_NEAR(centreAfter(200.0), once, 1e-6) << "what was long ago is forgotten";
+    player_.keyOn(kKey, 0.5F, kMouse, 300.0);
     player_.silence();
     EXPECT_FALSE(isHeld());
     player_.setTemperament(temperament_);

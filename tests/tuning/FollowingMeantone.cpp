@@ -133,7 +133,7 @@ TEST_F(FollowingMeantoneTest, PureMakesChordsPureAndKeepsToItsPitch)
     EXPECT_LT(std::abs(pure.drift()), 3.0);
 
     // C A D G, each two pure intervals from the last, would sink by a comma in each round.
-    const auto driftOf = [&](Drift policy, double pause) {
+    const auto driftOf = [&](Drift policy, int steps) {
         PureTemperament temperament(policy);
         double time = 0.0;
         for (int round = 0; round < 8; ++round) {
@@ -143,13 +143,23 @@ TEST_F(FollowingMeantoneTest, PureMakesChordsPureAndKeepsToItsPitch)
                 release(temperament, {low}, time);
             }
         }
+        temperament.fade(0.9); // while keys sound
         release(temperament, {60, 69, 62, 67}, time);
-        press(temperament, {60}, time + pause);
+        for (int step = 0; step < steps; ++step)
+            temperament.fade(0.9);
+        const double inSilence = temperament.drift();
+        press(temperament, {60}, time + 60.0);
+        if (policy != Drift::TiedToA) {
+            EXPECT_NEAR(temperament.drift(), inSilence, 1e-6);
+        }
         return temperament.drift();
     };
-    EXPECT_LT(std::abs(driftOf(Drift::TiedToA, 0.0)), 10.0);
-    EXPECT_GT(std::abs(driftOf(Drift::Free, 60.0)), 15.0);
-    EXPECT_LT(std::abs(driftOf(Drift::Returns, 60.0)), 1.0);
+    EXPECT_LT(std::abs(driftOf(Drift::TiedToA, 0)), 10.0);
+    const double drifted = driftOf(Drift::Free, 3600);
+    EXPECT_GT(std::abs(drifted), 15.0);
+    EXPECT_NEAR(driftOf(Drift::Returns, 0), drifted, 0.01);
+    EXPECT_NEAR(driftOf(Drift::Returns, 120), drifted * std::exp(-1.0), 0.1) << "in two seconds";
+    EXPECT_LT(std::abs(driftOf(Drift::Returns, 900)), 0.1);
 }
 
 } // namespace velmora
