@@ -158,6 +158,7 @@ public:
     void updateProgress(unsigned steps, const std::string& text) override;
     bool isCancelled() const override { return isCancelled_; }
     bool loadsInBackground() const override { return loadsInBackground_; }
+    bool correctsTuning() const override { return playing_.correctsTuning(); }
 
     /// From now on, instruments can be played before all their stops are loaded.
     void loadInBackground() { loadsInBackground_ = true; }

@@ -20,8 +20,8 @@ constexpr int kNiceness = 10;
 /// Reports progress once per percent.
 class Progress : public InstrumentHost {
 public:
-    Progress(AudioExport& audioExport, std::stop_token stop)
-        : export_(audioExport), stop_(std::move(stop))
+    Progress(AudioExport& audioExport, bool correctsTuning, std::stop_token stop)
+        : export_(audioExport), correctsTuning_(correctsTuning), stop_(std::move(stop))
     {
     }
 
@@ -35,6 +35,7 @@ public:
     }
 
     bool isCancelled() const override { return stop_.stop_requested(); }
+    bool correctsTuning() const override { return correctsTuning_; }
 
     /// Returns false if the export was cancelled.
     bool rendered(double done)
@@ -55,6 +56,7 @@ private:
     }
 
     AudioExport& export_;
+    const bool correctsTuning_;
     std::stop_token stop_;
     long steps_ = 1, done_ = 0;
     QString what_;
@@ -95,7 +97,7 @@ bool AudioExport::write(const std::stop_token& stop, Job job)
     options.tempo = job.tempo;
     // Created first, because it fails at once if the file cannot be written.
     AudioFileWriter file(job.file, options.rate);
-    Progress progress(*this, stop);
+    Progress progress(*this, job.sound.correctsTuning, stop);
     OfflineSound sound(std::move(job.sound), options.rate, progress);
     SequenceRenderer renderer(sound.player(), sound.source());
     renderer.document().recover(job.sequence);

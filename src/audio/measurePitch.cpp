@@ -150,13 +150,14 @@ std::optional<MeasuredPitch> measurePitch(std::span<const float> sound, double r
 
 std::optional<MeasuredPitch> measurePitch(const Pcm& recording, double expectedHertz)
 {
-    constexpr double kAttack = 0.2, kMost = 2.0; // in seconds
+    constexpr double kAttack = 0.2; // in seconds
+    const double most = std::max(0.5, 3.0 * kLeastPeriods / expectedHertz);
     const auto channels = static_cast<std::size_t>(recording.channels);
     const std::size_t frames = recording.size() / channels;
     const auto attack = static_cast<std::size_t>(kAttack * recording.rate);
     const std::size_t first = std::min(attack, frames / 4);
     const std::size_t last =
-        std::min(frames, first + static_cast<std::size_t>(kMost * recording.rate));
+        std::min(frames, first + static_cast<std::size_t>(most * recording.rate));
     std::vector<float> sound;
     sound.reserve(last - first);
     for (std::size_t i = first * channels; i < last * channels; i += channels)

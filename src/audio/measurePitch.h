@@ -12,9 +12,13 @@ struct MeasuredPitch {
     double hertz = 0.0;
 
     /// How much the level of its partial swings, in decibels (the standard deviation, apart from a
-    /// steady decay). From about 2 on several tones beat, or there is no tone.
+    /// steady decay).
     double swing = 0.0;
 };
+
+/// Sounds that swing more than this have several tones that beat, or none: about 2.5 for strings
+/// and choirs, below 1.5 for everything with one pitch. In decibels.
+constexpr double kBeatingSwing = 2.2;
 
 /// Measures the pitch that an ear hears in a mono sound which should have `expectedHertz`; up to
 /// half a semitone off. This is the mean of the frequencies of the first partials, each of which
@@ -24,7 +28,7 @@ struct MeasuredPitch {
 std::optional<MeasuredPitch> measurePitch(std::span<const float> sound, double rate,
                                           double expectedHertz);
 
-/// Measures a recording. Skips its attack.
+/// Measures half a second of a recording, or more if it is low. Skips its attack.
 std::optional<MeasuredPitch> measurePitch(const Pcm& recording, double expectedHertz);
 
 } // namespace velmora

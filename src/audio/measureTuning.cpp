@@ -20,11 +20,7 @@ constexpr std::size_t kSkipped = 8820;   ///< Frames of the attack.
 constexpr std::size_t kMeasured = 44100; ///< The frames that follow.
 constexpr int kVelocity = 100;
 
-/// Programs whose keys swing more than this in the median are made of several tones: about 2.5 for
-/// strings and choirs, below 1.5 for everything with one pitch.
-constexpr double kBeatingSwing = 2.2; // in decibels
-
-/// The keys that decide about that. Higher and lower ones are often stretched samples.
+/// The keys that decide whether a program beats. Higher and lower ones are often stretched samples.
 constexpr std::size_t kLowest = 36, kHighest = 96;
 
 constexpr std::size_t kKeys = std::tuple_size_v<KeyCorrections>;

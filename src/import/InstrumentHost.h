@@ -21,6 +21,9 @@ public:
 
     /// Returns whether an instrument may be handed over while a part of it is still being loaded.
     virtual bool loadsInBackground() const { return false; }
+
+    /// Returns whether recordings whose pitch is not given are measured in the musical reading.
+    virtual bool correctsTuning() const { return true; }
 };
 
 } // namespace velmora

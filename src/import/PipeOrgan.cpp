@@ -54,8 +54,11 @@ public:
         : organ_(std::move(organ)), instrument_(*import.instrument), order_(orderOfRanks(organ_)),
           list_(organ_, order_),
           loader_({list_.pipes.size(),
-                   [this, options = import.decoding()](std::size_t voice) {
-                       return loadPipeVoice(organ_, *list_.pipes[voice], options);
+                   [this, options = import.decoding(),
+                    unknownPitch = import.host.correctsTuning()
+                                       ? UnknownPitch::Measured
+                                       : UnknownPitch::AsExpected](std::size_t voice) {
+                       return loadPipeVoice(organ_, *list_.pipes[voice], options, unknownPitch);
                    },
                    [](std::size_t) { return 0; }})
     {

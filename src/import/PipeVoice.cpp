@@ -1,6 +1,7 @@
 #include "import/PipeVoice.h"
 
 #include "audio/AudioFileDecoder.h"
+#include "audio/measurePitch.h"
 #include "base/FormatError.h"
 #include "import/pipePitch.h"
 #include "import/sampleChunks.h"
@@ -21,8 +22,8 @@ struct SampleFile {
 class VoiceLoading {
 public:
     VoiceLoading(const PipeOrgan& organ, const PipeOrgan::Pipe& pipe,
-                 const DecodingOptions& options)
-        : organ_(organ), pipe_(pipe), options_(options)
+                 const DecodingOptions& options, UnknownPitch unknownPitch)
+        : organ_(organ), pipe_(pipe), options_(options), unknownPitch_(unknownPitch)
     {
     }
 
@@ -49,6 +50,9 @@ private:
     void addAttack(std::size_t index, SampleFile file)
     {
         const PipeOrgan::Attack& attack = pipe_.attacks[index];
+        if (unknownPitch_ == UnknownPitch::Measured && !attack.hertz && !pipe_.hertz &&
+            !pipe_.isPercussive && !file.chunks.note)
+            file.chunks.note = measuredNote(file.pcm);
         PipeRecording recording;
         recording.pcm = std::move(file.pcm);
         recording.pitch = hertzOf(attack.hertz, file.chunks);
@@ -64,6 +68,16 @@ private:
                 std::make_shared<ReleaseAlignment>(sound.attack, hertz, sound.release, hertz);
         voice_.attacks.push_back({index, std::move(sound), file.chunks.note, std::move(alignment)});
         hertz_.push_back(hertz);
+    }
+
+    /// See docs/decisions.md, 182.
+    std::optional<double> measuredNote(const Pcm& pcm) const
+    {
+        const double expected = expectedNote(pipe_);
+        const auto pitch = measurePitch(pcm, hertzOfNote(expected));
+        if (!pitch || pitch->swing > kBeatingSwing)
+            return std::nullopt;
+        return expected + 12.0 * std::log2(pitch->hertz / hertzOfNote(expected));
     }
 
     void addRelease(std::size_t index, SampleFile file)
@@ -98,6 +112,7 @@ private:
     const PipeOrgan& organ_;
     const PipeOrgan::Pipe& pipe_;
     const DecodingOptions& options_;
+    const UnknownPitch unknownPitch_;
     PipeVoice voice_;
     std::vector<double> hertz_; ///< Of the attacks.
 };
@@ -115,9 +130,9 @@ std::size_t PipeVoice::bytes() const
 }
 
 PipeVoice loadPipeVoice(const PipeOrgan& organ, const PipeOrgan::Pipe& pipe,
-                        const DecodingOptions& options)
+                        const DecodingOptions& options, UnknownPitch unknownPitch)
 {
-    return VoiceLoading(organ, pipe, options).load();
+    return VoiceLoading(organ, pipe, options, unknownPitch).load();
 }
 
 } // namespace velmora

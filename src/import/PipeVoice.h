@@ -6,6 +6,7 @@
 #include "sound/PipeSound.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,7 +20,8 @@ struct PipeVoice {
     struct Attack {
         std::size_t index = 0; ///< In the pipe's list.
         PipeSound sound;
-        std::optional<double> note; ///< The note in the sample file, as in `SampleChunks`.
+        /// The note in the sample file, as in `SampleChunks`, or that was measured instead.
+        std::optional<double> note;
 
         /// How the recording's own release continues it; null if it has none.
         std::shared_ptr<const ReleaseAlignment> alignment;
@@ -43,8 +45,14 @@ struct PipeVoice {
     std::size_t bytes() const;
 };
 
+/// What is done about an attack whose pitch neither the definition nor its file gives.
+enum class UnknownPitch : std::uint8_t {
+    AsExpected, ///< It counts as the one that is expected of the pipe.
+    Measured,   ///< It is measured, if the recording has a clear one near the expected one.
+};
+
 /// Decodes the files of a pipe. May be called on any thread. Throws std::bad_alloc.
 PipeVoice loadPipeVoice(const PipeOrgan& organ, const PipeOrgan::Pipe& pipe,
-                        const DecodingOptions& options);
+                        const DecodingOptions& options, UnknownPitch unknownPitch);
 
 } // namespace velmora

@@ -281,6 +281,54 @@ TEST(PipeOrgan, CanBePlayedWhileItIsLoaded)
 
 } // namespace
 
+/// A host whose user does not want the tuning to be corrected.
+class StrictHost : public RecordingHost {
+    bool correctsTuning() const override { return false; }
+};
+
+TEST(PipeOrgan, MeasuresRecordingsWithoutAPitch)
+{
+    struct Recording {
+        int key;
+        double cents;    ///< Of its tone above the key.
+        double second;   ///< Of a second tone.
+        double expected; ///< How it is played.
+    };
+    const Recording recordings[] = {{36, 20.3, 20.3, 20.3}, {60, -45.0, -45.0, -45.0},
+                                    {61, 3.7, 3.7, 3.7},    {62, 80.0, 80.0, 0.0},
+                                    {63, 5.0, 35.0, 0.0},   {96, -8.2, -8.2, -8.2}};
+    const OrganFolder folder;
+    PipeOrgan organ;
+    organ.tree = openFolder(folder.path());
+    std::vector<PipeOrgan::Pipe>& pipes = organ.ranks.emplace_back().pipes;
+    for (const Recording& recording : recordings) {
+        PipeOrgan::Pipe& pipe = pipes.emplace_back();
+        pipe.key = recording.key;
+        pipe.attacks.emplace_back().file = organ.files.size();
+        organ.files.push_back(fmt::format("{}.wav", recording.key));
+        Pcm tone = sine(hertzOfNote(recording.key + recording.cents / 100.0), 1.5);
+        const Pcm other = sine(hertzOfNote(recording.key + recording.second / 100.0), 1.5);
+        for (std::size_t i = 0; i < tone.samples.size(); ++i)
+            tone.samples[i] = static_cast<std::int16_t>(tone.samples[i] + other.samples[i]);
+        folder.write(organ.files.back(), riff::file("WAVE", riff::wave(riff::points(tone), 48000)));
+    }
+    const auto errors = [&](InstrumentHost& host, bool isExpected) {
+        Import import(host, {});
+        loadPipeOrgan(organ, import);
+        for (const Recording& recording : recordings) {
+            const auto key = static_cast<std::size_t>(recording.key);
+            const double root = import.instrument->stops()[0].samples[key].rootPitch();
+            EXPECT_NEAR(cents(root, 2.0 * hertzOfNote(recording.key)),
+                        isExpected ? 0.0 : recording.expected, 0.1)
+                << "key " << key;
+        }
+    };
+    RecordingHost host;
+    errors(host, false);
+    StrictHost strict;
+    errors(strict, true);
+}
+
 TEST(PipeOrgan, OpensWithTheFirstSoundingStopOfEachDivision)
 {
     const OrganFolder folder;
