@@ -34,6 +34,21 @@ public:
     /// Corrects the notes that follow, except percussion.
     virtual void setCorrections(const KeyCorrections& /*corrections*/) {}
 
+    /// True if the device can give each key a pitch of its own, by the three functions below.
+    virtual bool tunesKeys() const { return false; }
+
+    /// Starts the note of a key, 0…127, after releasing the one that it has. The bank's key
+    /// `sounding`, 0…127, is played `cents` higher than in equal temperament. Programs, controllers
+    /// and corrections are those of channel 0.
+    virtual void keyOn(int /*key*/, int /*velocity*/, int /*sounding*/, double /*cents*/) {}
+
+    /// Releases the note of a key.
+    virtual void keyOff(int /*key*/) {}
+
+    /// Moves the notes of a key that still sound to so many cents above their keys of the bank,
+    /// also those that were started by messages.
+    virtual void tuneKey(int /*key*/, double /*cents*/) {}
+
     /// The device's sound; null if it has none.
     virtual AudioSource* source() { return nullptr; }
 };

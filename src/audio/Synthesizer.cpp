@@ -49,13 +49,22 @@ Synthesizer::Synthesizer(double rate, const std::vector<std::filesystem::path>& 
         ownLanes_[i] = i;
 }
 
+std::size_t Synthesizer::orderOf(const Event& event)
+{
+    if (event.status == kWheel)
+        return kWheelOrder;
+    if (event.status <= kTuneKey)
+        return kWheelOrder + 1 + static_cast<std::size_t>(event.data1);
+    return channelOf(event.status);
+}
+
 /// The index of a channel's own lane. Nothing is played on channels 13 to 15.
 std::optional<std::size_t> Synthesizer::ownLaneOf(std::size_t channel)
 {
     constexpr std::size_t kPercussion = 9;
     if (channel == kPercussion)
         return kPercussionLane;
-    if (channel >= kOwnLanes)
+    if (channel > kPercussionLane)
         return std::nullopt;
     return channel < kPercussion ? channel : channel - 1;
 }
@@ -71,13 +80,29 @@ void Synthesizer::midiEvent(int status, int data1, int data2)
     if (kind != midi::kPitchBend) {
         const auto key = static_cast<std::size_t>(data1);
         const bool isCorrected = kind == midi::kNoteOn && key < corrections_.size();
-        send({due_, status, data1, data2, isCorrected ? corrections_[key] : 0.0});
+        send({due_, status, data1, data2, 0.0, isCorrected ? corrections_[key] : 0.0});
         return;
     }
     // Retuning sends the bends of all channels, and most of them are unchanged.
     const double cents = centsOf(data1, data2);
     if (sentBends_[channelOf(status)].exchange(cents) != cents)
-        send({due_, status, data1, data2, cents, 0, glide_});
+        send({due_, status, data1, data2, cents, 0.0, 0, 0, glide_});
+}
+
+void Synthesizer::keyOn(int key, int velocity, int sounding, double cents)
+{
+    const double correction = corrections_[static_cast<std::size_t>(sounding)];
+    send({due_, kKeyOn, key, velocity, cents, correction, sounding});
+}
+
+void Synthesizer::keyOff(int key)
+{
+    send({due_, kKeyOff, key, 0});
+}
+
+void Synthesizer::tuneKey(int key, double cents)
+{
+    send({due_, kTuneKey, key, 0, cents, 0.0, 0, 0, glide_});
 }
 
 void Synthesizer::bend(double cents)
@@ -92,14 +117,14 @@ void Synthesizer::send(const Event& event)
         overflowed_.store(true, std::memory_order_release);
 }
 
-// Messages of a channel keep their order.
+// Messages of a channel keep their order, and so do those of a key.
 void Synthesizer::receive()
 {
     if (overflowed_.exchange(false, std::memory_order_acquire))
         silenceAfterOverflow();
     for (; queue_.front() != nullptr && !pending_.isFull(); queue_.pop()) {
         Event event = *queue_.front();
-        double& due = event.status == kWheel ? dues_.back() : dues_[channelOf(event.status)];
+        double& due = dues_[orderOf(event)];
         due = event.due = std::max(due, event.due);
         pending_.add(event);
     }
@@ -112,8 +137,14 @@ void Synthesizer::apply(const Event& event)
         applyWheel();
         return;
     }
+    if (lanes_.empty())
+        return;
+    if (event.status <= kTuneKey) {
+        applyToKeys(event);
+        return;
+    }
     const auto own = ownLaneOf(channelOf(event.status));
-    if (!own || lanes_.empty())
+    if (!own)
         return;
     switch (event.status & midi::kKindMask) {
     case midi::kNoteOff:
@@ -123,14 +154,10 @@ void Synthesizer::apply(const Event& event)
         noteOn(*own, event);
         break;
     case midi::kControlChange:
-        if (event.data1 == midi::kAllSoundOff)
-            silence(*own);
-        else
-            forLanes(*own,
-                     [&](SynthesizerLane& lane) { lane.controlChange(event.data1, event.data2); });
-        break;
     case midi::kProgramChange:
-        forLanes(*own, [&](SynthesizerLane& lane) { lane.programChange(event.data1); });
+        control(*own, event);
+        if (*own == 0)
+            control(kKeyLane, event);
         break;
     case midi::kPitchBend:
         bends_[*own] = event.cents;
@@ -141,36 +168,155 @@ void Synthesizer::apply(const Event& event)
     }
 }
 
+void Synthesizer::applyToKeys(const Event& event)
+{
+    switch (event.status) {
+    case kKeyOn:
+        stopKey(event.data1);
+        if (event.data2 > 0)
+            startKey(event);
+        break;
+    case kKeyOff:
+        stopKey(event.data1);
+        break;
+    default:
+        retuneKey(event.data1, event.cents, event.glide);
+        break;
+    }
+}
+
+void Synthesizer::control(std::size_t own, const Event& event)
+{
+    if ((event.status & midi::kKindMask) == midi::kProgramChange)
+        forLanes(own, [&](SynthesizerLane& lane) { lane.programChange(event.data1); });
+    else if (event.data1 == midi::kAllSoundOff)
+        silence(own);
+    else
+        forLanes(own, [&](SynthesizerLane& lane) { lane.controlChange(event.data1, event.data2); });
+}
+
 void Synthesizer::noteOn(std::size_t own, const Event& event)
 {
     // A key that is struck again is released first, as on a single lane.
     forLanes(own, [&](SynthesizerLane& lane) { lane.noteOff(event.data1); });
-    if (event.data2 == 0)
+    if (event.data2 == 0 || static_cast<std::size_t>(event.data1) >= kKeys)
         return;
-    if (own == kPercussionLane)
+    if (own == kPercussionLane) {
         lanes_[own]->noteOn(event.data1, event.data2, 0.0);
-    else
-        laneForNote(own).noteOn(event.data1, event.data2, event.cents);
+        return;
+    }
+    const auto idle = idleLaneFor(own);
+    const std::size_t lane = idle.value_or(own);
+    noteStarted(event.data1, {lane, event.data1, bends_[own]}, idle.has_value());
+    lanes_[lane]->noteOn(event.data1, event.data2, event.correction);
 }
 
-SynthesizerLane& Synthesizer::laneForNote(std::size_t own)
+void Synthesizer::startKey(const Event& event)
 {
-    SynthesizerLane& fallback = *lanes_[own];
-    if (fallback.isIdle())
-        return fallback;
+    const auto idle = idleLaneFor(kKeyLane);
+    const std::size_t lane =
+        idle ? *idle : nearestLane(event.sounding, event.cents + event.correction);
+    if (idle) {
+        laneCents_[lane] = event.cents;
+        lanes_[lane]->setCents(event.cents, {});
+    }
+    // Beside other notes, it can only be raised by whole cents.
+    const double above = event.cents - laneCents_[lane];
+    noteStarted(event.data1, {lane, event.sounding, event.cents, std::round(above)},
+                idle.has_value());
+    lanes_[lane]->noteOn(event.sounding, event.data2, event.correction + above);
+}
+
+void Synthesizer::noteStarted(int key, const KeyNote& note, bool isFirst)
+{
+    if (isFirst) {
+        for (KeyNote& other : notes_)
+            if (other.lane == note.lane)
+                other.lane.reset();
+        firstKeys_[*note.lane] = key;
+    }
+    notes_.at(static_cast<std::size_t>(key)) = note;
+}
+
+void Synthesizer::stopKey(int key)
+{
+    const KeyNote& note = notes_.at(static_cast<std::size_t>(key));
+    if (note.lane)
+        lanes_[*note.lane]->noteOff(note.sounding);
+}
+
+void Synthesizer::retuneKey(int key, double cents, const Glide& glide)
+{
+    if (!glide.movesSounding)
+        return; // the next note brings its pitch with it
+    KeyNote& note = notes_.at(static_cast<std::size_t>(key));
+    note.cents = cents;
+    // Notes that die away have lanes as well.
+    for (std::size_t lane = 0; lane < lanes_.size(); ++lane) {
+        if (firstKeys_[lane] != key || lane == kPercussionLane || lanes_[lane]->isIdle())
+            continue;
+        laneCents_[lane] = cents;
+        lanes_[lane]->setCents(cents, glide);
+        for (KeyNote& other : notes_)
+            if (other.lane == lane)
+                raise(other);
+    }
+    if (note.lane)
+        raise(note);
+}
+
+/// Moves a note that shares a lane with others, to the nearest cent.
+void Synthesizer::raise(KeyNote& note)
+{
+    const double wanted = std::round(note.cents - laneCents_[*note.lane]);
+    if (wanted != note.raised)
+        lanes_[*note.lane]->raise(note.sounding, wanted - note.raised);
+    note.raised = wanted;
+}
+
+std::optional<std::size_t> Synthesizer::idleLaneFor(std::size_t own)
+{
+    if (lanes_[own]->isIdle())
+        return own;
     for (std::size_t i = kOwnLanes; i < lanes_.size(); ++i) {
         if (!lanes_[i]->isIdle())
             continue;
         ownLanes_[i] = own;
-        lanes_[i]->follow(fallback);
-        return *lanes_[i];
+        lanes_[i]->follow(*lanes_[own]);
+        laneCents_[i] = laneCents_[own];
+        return i;
     }
-    return fallback;
+    return std::nullopt;
+}
+
+/// Returns the lane on which a note that is raised by whole cents comes nearest to its pitch.
+std::size_t Synthesizer::nearestLane(int sounding, double cents) const
+{
+    std::size_t best = kKeyLane;
+    double least = 2.0; // more than any lane is off
+    for (std::size_t i = kKeyLane; i < lanes_.size(); ++i) {
+        if (ownLanes_[i] != kKeyLane)
+            continue;
+        const double above = cents - laneCents_[i] - lanes_[i]->correction();
+        // Another note of the same key could not be released by itself.
+        const double off =
+            std::abs(above - std::round(above)) + (lanes_[i]->isHeld(sounding) ? 1.0 : 0.0);
+        if (off < least) {
+            least = off;
+            best = i;
+        }
+    }
+    return best;
 }
 
 void Synthesizer::applyBends(std::size_t own, const Glide& glide)
 {
-    forLanes(own, [&](SynthesizerLane& lane) { lane.setCents(bends_[own], glide); });
+    for (std::size_t i = 0; i < lanes_.size(); ++i) {
+        if (ownLanes_[i] != own)
+            continue;
+        laneCents_[i] = bends_[own];
+        lanes_[i]->setCents(laneCents_[i], glide);
+    }
 }
 
 void Synthesizer::applyWheel()
@@ -191,7 +337,8 @@ void Synthesizer::silenceAfterOverflow()
     // The lost message may have been a note-off.
     const auto applyUnlessNote = [this](const Event& event) {
         const int kind = event.status & midi::kKindMask;
-        if (kind != midi::kNoteOn && kind != midi::kNoteOff)
+        const bool isOfKey = event.status != kWheel && event.status <= kTuneKey;
+        if (kind != midi::kNoteOn && kind != midi::kNoteOff && !isOfKey)
             apply(event);
     };
     std::ranges::for_each(pending_.all(), applyUnlessNote);
@@ -208,6 +355,8 @@ void Synthesizer::silenceAfterOverflow()
             silence(*own);
         }
     }
+    if (!lanes_.empty())
+        silence(kKeyLane);
 }
 
 void Synthesizer::setRate(double rate)

@@ -21,7 +21,8 @@ namespace velmora {
 ///
 /// FluidSynth starts notes only every 64 frames. Each channel with notes has a lane of its own, and
 /// further lanes are lent to whatever channel needs one: as long as an idle lane is left, each note
-/// starts on one, exactly at its frame.
+/// starts on one, exactly at its frame. Keys with pitches of their own are played like one more
+/// channel, of which each lane has another pitch.
 class Synthesizer : public MusicDevice, public AudioSource {
 public:
     /// Loads the first of `banks` that can be loaded; logs those that cannot. `rate` is in hertz.
@@ -39,6 +40,10 @@ public:
     /// cut each other off, as those of a hi-hat do.
     void midiEvent(int status, int data1, int data2) override;
 
+    bool tunesKeys() const override { return true; }
+    void keyOn(int key, int velocity, int sounding, double cents) override;
+    void keyOff(int key) override;
+    void tuneKey(int key, double cents) override;
     void setDue(double time) override { due_ = time; }
     void bend(double cents) override;
     void setGlide(const Glide& glide) override { glide_ = glide; }
@@ -55,35 +60,61 @@ public:
 private:
     struct Event {
         double due;
-        int status; ///< kWheel for a bend of all channels.
+        int status; ///< Of a message, or one of the kinds below.
         int data1, data2;
-        double cents;          ///< Of a bend; the correction of a note.
-        std::size_t frame = 0; ///< Its place in the block, once that is known.
-        Glide glide{};         ///< Of a bend.
+        double cents = 0.0;      ///< Of a bend or a key.
+        double correction = 0.0; ///< Of a note.
+        int sounding = 0;        ///< The key of the bank that a key plays.
+        std::size_t frame = 0;   ///< Its place in the block, once that is known.
+        Glide glide{};           ///< Of a bend or a key that moves.
     };
 
-    static constexpr int kWheel = 0;
+    // Kinds of events that are no messages.
+    static constexpr int kWheel = 0; ///< Bends all channels.
+    static constexpr int kKeyOn = 1, kKeyOff = 2, kTuneKey = 3;
+
+    /// The note that a key started last.
+    struct KeyNote {
+        std::optional<std::size_t> lane; ///< Nothing once the lane plays something else.
+        int sounding = 0;                ///< The key of the bank.
+        double cents = 0.0;
+        double raised = 0.0; ///< By so many whole cents above the lane.
+    };
 
     static std::optional<std::size_t> ownLaneOf(std::size_t channel);
 
-    /// The channels, and one more for the wheel.
-    static constexpr std::size_t kOrders = 17;
+    static constexpr std::size_t kKeys = 128;
+
+    /// The channels, the wheel and the keys.
+    static constexpr std::size_t kWheelOrder = 16;
+    static constexpr std::size_t kOrders = kWheelOrder + 1 + kKeys;
 
     /// A busy block has dozens of messages; the rest is for a renderer that has stalled.
     static constexpr std::size_t kQueue = 1 << 14;
 
-    /// One for each channel with notes; these come first.
-    static constexpr std::size_t kOwnLanes = 13;
-    static constexpr std::size_t kPercussionLane = kOwnLanes - 1;
+    /// One for each channel with notes, and one for the keys with pitches of their own; these come
+    /// first.
+    static constexpr std::size_t kOwnLanes = 14;
+    static constexpr std::size_t kPercussionLane = 12;
+    static constexpr std::size_t kKeyLane = 13;
     static constexpr std::size_t kLanes = kOwnLanes + 24;
 
+    static std::size_t orderOf(const Event& event);
     void send(const Event& event);
     void receive();
     void apply(const Event& event);
     void noteOn(std::size_t own, const Event& event);
-    SynthesizerLane& laneForNote(std::size_t own);
+    void control(std::size_t own, const Event& event);
+    void startKey(const Event& event);
+    void stopKey(int key);
+    void retuneKey(int key, double cents, const Glide& glide);
+    void raise(KeyNote& note);
+    std::optional<std::size_t> idleLaneFor(std::size_t own);
+    std::size_t nearestLane(int sounding, double cents) const;
+    void noteStarted(int key, const KeyNote& note, bool isFirst);
     void applyBends(std::size_t own, const Glide& glide);
     void applyWheel();
+    void applyToKeys(const Event& event);
     void silence(std::size_t own);
     void silenceAfterOverflow();
 
@@ -100,6 +131,9 @@ private:
     std::vector<std::unique_ptr<SynthesizerLane>> lanes_;
     std::array<std::size_t, kLanes> ownLanes_{}; ///< Whose channel each lane plays.
     std::array<double, kOwnLanes> bends_{};      ///< Cents, of each channel.
+    std::array<double, kLanes> laneCents_{};     ///< Of each lane, without the wheel.
+    std::array<int, kLanes> firstKeys_{};        ///< The key whose pitch each lane has.
+    std::array<KeyNote, kKeys> notes_{};         ///< Of each key.
     double wheel_ = 0.0;                         ///< Cents, of all channels.
     std::optional<Reverb> reverb_;
 
@@ -107,7 +141,7 @@ private:
     KeyCorrections corrections_{}; ///< Of the next notes.
     Glide glide_;                  ///< Of the next bends.
     /// The last bend, in cents, of each channel and of the wheel.
-    std::array<std::atomic<double>, kOrders> sentBends_{};
+    std::array<std::atomic<double>, kWheelOrder + 1> sentBends_{};
     LockFreeQueue<Event> queue_{kQueue};
     DueEvents<Event> pending_{kQueue};
     std::array<double, kOrders> dues_{}; ///< When the last message of each channel is due.

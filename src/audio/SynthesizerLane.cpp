@@ -115,6 +115,18 @@ void SynthesizerLane::raiseNewest(int key, double cents)
     }
 }
 
+void SynthesizerLane::raise(int key, double cents)
+{
+    std::array<fluid_voice_t*, kPolyphony + 1> voices{}; // ends with null
+    fluid_synth_get_voicelist(synth_.get(), voices.data(), kPolyphony, -1);
+    for (auto* const* voice = voices.begin(); *voice != nullptr; ++voice) {
+        if (fluid_voice_get_key(*voice) != key)
+            continue;
+        fluid_voice_gen_incr(*voice, GEN_FINETUNE, static_cast<float>(cents));
+        fluid_voice_update_param(*voice, GEN_FINETUNE);
+    }
+}
+
 void SynthesizerLane::noteOff(int key)
 {
     const auto index = static_cast<std::size_t>(key);

@@ -39,6 +39,15 @@ public:
     /// Releases a note. Does nothing if it has not been started.
     void noteOff(int key);
 
+    /// Raises the notes of a key that sound by whole cents.
+    void raise(int key, double cents);
+
+    /// True if a note of that key has been started and not released.
+    bool isHeld(int key) const { return held_.test(static_cast<std::size_t>(key)); }
+
+    /// The correction that the whole lane has.
+    double correction() const { return correction_; }
+
     void controlChange(int number, int value);
 
     /// Selects a program of the bank that was selected last, or the one that is nearest to it.

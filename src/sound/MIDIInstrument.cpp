@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace velmora {
@@ -17,6 +18,22 @@ namespace {
 constexpr float kSoftness = 0.7F;
 
 constexpr int kPercussionChannel = 9;
+
+constexpr int kPitchClasses = 12;
+
+/// How far in cents the channels are bent. The device can do more, but a note sounds more natural
+/// if the nearest key of equal temperament is played, and adaptive temperaments need room.
+constexpr double kFarthestBend = 150.0;
+
+constexpr double kNotMoved = std::numeric_limits<double>::quiet_NaN();
+
+/// Returns how far a key of equal temperament must be moved to a place. Places that are farther
+/// away than three octaves cannot be heard, or are left at once.
+double centsAbove(int sounding, double place)
+{
+    constexpr double kFarthest = 3600.0;
+    return std::clamp(place - 100.0 * sounding, -kFarthest, kFarthest);
+}
 
 /// The channel of a pitch class. A moves to channel 12.
 int channelOf(int key)
@@ -49,7 +66,8 @@ MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device, std::vector<
 
 MIDIInstrument::MIDIInstrument(std::unique_ptr<MusicDevice> device, std::vector<Program> programs,
                                std::size_t first, bool isGeneralMidi)
-    : programs_(std::move(programs)), program_(first), isGeneralMidi_(isGeneralMidi)
+    : programs_(std::move(programs)), program_(first), isGeneralMidi_(isGeneralMidi),
+      reading_(isGeneralMidi ? Reading::Plain : Reading::Musical)
 {
     exchangeDevice(std::move(device));
 }
@@ -63,6 +81,7 @@ std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<Musi
     MIDIInstrument::setProgram(program_);
     device_->bend(bend_);
     device_->setGlide(glide_);
+    started_.fill({});
     return device;
 }
 
@@ -96,15 +115,36 @@ void MIDIInstrument::play(int key, float velocity)
     // The pedal never silences a note.
     if (isSoft_ && value > 0)
         value = std::max(1, static_cast<int>(kSoftness * static_cast<float>(value)));
-    const bool isDrum = programs_[program_].isPercussion;
-    struckDrums_.set(static_cast<std::size_t>(key), isDrum);
-    device_->midiEvent(midi::kNoteOn | (isDrum ? kPercussionChannel : channelOf(key)), key, value);
+    Started& started = started_[static_cast<std::size_t>(key)];
+    const auto path = programs_[program_].isPercussion ? Started::Path::Drum
+                      : playsByKey_                    ? Started::Path::Key
+                                                       : Started::Path::Channel;
+    // The device would not know that this is the same key.
+    if (started.mayMove && (started.path == Started::Path::Key) != (path == Started::Path::Key))
+        stop(key);
+    started = {path, true, static_cast<std::uint8_t>(key), kNotMoved};
+    if (path != Started::Path::Key) {
+        const bool isDrum = path == Started::Path::Drum;
+        device_->midiEvent(midi::kNoteOn | (isDrum ? kPercussionChannel : channelOf(key)), key,
+                           value);
+        return;
+    }
+    const double place = places_[static_cast<std::size_t>(key)];
+    const int sounding = static_cast<int>(std::clamp(std::round(place / 100.0), 0.0, 127.0));
+    started.sounding = static_cast<std::uint8_t>(sounding);
+    started.cents = centsAbove(sounding, place);
+    device_->keyOn(key, value, sounding, started.cents);
 }
 
 void MIDIInstrument::stop(int key)
 {
-    const bool isDrum = struckDrums_.test(static_cast<std::size_t>(key));
-    device_->midiEvent(midi::kNoteOff | (isDrum ? kPercussionChannel : channelOf(key)), key, 0);
+    const auto path = started_[static_cast<std::size_t>(key)].path;
+    if (path == Started::Path::Key)
+        device_->keyOff(key);
+    else
+        device_->midiEvent(midi::kNoteOff |
+                               (path == Started::Path::Drum ? kPercussionChannel : channelOf(key)),
+                           key, 0);
 }
 
 void MIDIInstrument::bend(double cents)
@@ -122,12 +162,28 @@ void MIDIInstrument::setGlide(const Glide& glide)
 void MIDIInstrument::silence()
 {
     send(midi::kControlChange, midi::kAllSoundOff, 0);
+    for (Started& started : started_)
+        started.mayMove = false;
+}
+
+void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/)
+{
+    if (reading_ == Reading::Plain || !device_->tunesKeys()) {
+        bendChannels(temperament);
+        playsByKey_ = false;
+        return;
+    }
+    const bool didPlayByKey = playsByKey_;
+    findPlaces(temperament);
+    if (!playsByKey_)
+        bendChannelsToPlaces();
+    moveKeys(playsByKey_ || didPlayByKey);
 }
 
 // See docs/decisions.md, 33 and 37.
-void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/)
+void MIDIInstrument::bendChannels(const Temperament& temperament)
 {
-    for (int pitchClass = 1; pitchClass < 12; ++pitchClass) {
+    for (int pitchClass = 1; pitchClass < kPitchClasses; ++pitchClass) {
         const double cents = temperament.getTuning(static_cast<unsigned>(pitchClass)).cent();
         // The default bend range is ±200 cents, which are ±64 steps of the most significant byte.
         // See docs/decisions.md, 34 to 36.
@@ -137,6 +193,46 @@ void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/
         const int mostSignificant = static_cast<int>(steps) + 64;
         device_->midiEvent(midi::kPitchBend | channelOf(pitchClass), leastSignificant,
                            mostSignificant);
+    }
+}
+
+void MIDIInstrument::findPlaces(const Temperament& temperament)
+{
+    const bool repeats = temperament.repeatsEveryOctave();
+    playsByKey_ = !repeats;
+    for (int key = 0; key < static_cast<int>(places_.size()); ++key) {
+        double& place = places_[static_cast<std::size_t>(key)];
+        if (repeats && key >= kPitchClasses) {
+            place = places_[static_cast<std::size_t>(key - kPitchClasses)] + 1200.0;
+            continue;
+        }
+        place = 1200.0 * std::log2(temperament.pitchAt(key) / equal.pitchAt(0));
+        if (std::abs(place - 100.0 * key) > kFarthestBend)
+            playsByKey_ = true;
+    }
+}
+
+void MIDIInstrument::bendChannelsToPlaces()
+{
+    for (int pitchClass = 0; pitchClass < kPitchClasses; ++pitchClass) {
+        const double cents = places_[static_cast<std::size_t>(pitchClass)] - 100.0 * pitchClass;
+        const int bend = static_cast<int>(std::lround((cents + 200.0) * 8192.0 / 200.0));
+        device_->midiEvent(midi::kPitchBend | channelOf(pitchClass), bend % 128, bend / 128);
+    }
+}
+
+/// Moves the keys that sound: those that were started one by one, or all of them.
+void MIDIInstrument::moveKeys(bool all)
+{
+    for (int key = 0; key < static_cast<int>(started_.size()); ++key) {
+        Started& started = started_[static_cast<std::size_t>(key)];
+        const bool isKey = started.path == Started::Path::Key;
+        if (!started.mayMove || started.path == Started::Path::Drum || (!isKey && !all))
+            continue;
+        const double cents = centsAbove(started.sounding, places_[static_cast<std::size_t>(key)]);
+        if (cents != started.cents)
+            device_->tuneKey(key, cents);
+        started.cents = cents;
     }
 }
 

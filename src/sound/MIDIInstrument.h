@@ -1,17 +1,23 @@
 #pragma once
 
 #include "audio/MusicDevice.h"
+#include "base/Reading.h"
 #include "sound/Instrument.h"
 
-#include <bitset>
+#include <array>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
 namespace velmora {
 
 /// Plays a synthesizer in any temperament: each pitch class has a MIDI channel of its own, bent to
-/// its pitch. Pitch class 0 is the reference and is never bent. Percussion is played untempered on
-/// its own channel.
+/// its pitch. Percussion is played untempered on its own channel.
+///
+/// In the plain reading, pitch class 0 is the reference and is never bent. In the musical reading,
+/// a temperament that does not repeat every octave, or lies far from equal temperament, is played
+/// key by key: each key sounds the key of equal temperament that is nearest to its pitch, and the
+/// device makes up the rest.
 class MIDIInstrument : public Instrument {
 public:
     /// Plays the General MIDI programs and selects the start-up program on the device.
@@ -39,6 +45,10 @@ public:
     std::size_t program() const override { return program_; }
     bool isSounding() const override;
 
+    /// Chooses how temperaments are played. The caller must tune the instrument. The reading is
+    /// plain at first for General MIDI, and musical for other banks.
+    void setReading(Reading reading) { reading_ = reading; }
+
     /// Corrects a program, given by its position, until the device is replaced.
     void setCorrections(std::size_t program, const KeyCorrections& corrections);
 
@@ -50,6 +60,21 @@ private:
     MIDIInstrument(std::unique_ptr<MusicDevice> device, std::vector<Program> programs,
                    std::size_t first, bool isGeneralMidi);
 
+    /// How a key was started last.
+    struct Started {
+        enum class Path : std::uint8_t { Channel, Drum, Key } path = Path::Channel;
+        bool mayMove = false;      ///< Has been played since everything was silent.
+        std::uint8_t sounding = 0; ///< The key of equal temperament.
+        double cents = 0.0;        ///< Where the device was told to move it; NaN if it was not.
+    };
+
+    /// Finds the place of each key, and whether the channels can play them all.
+    void findPlaces(const Temperament& temperament);
+
+    void bendChannels(const Temperament& temperament);
+    void bendChannelsToPlaces();
+    void moveKeys(bool all);
+
     /// Sends a message on all channels.
     void send(int kind, int data1, int data2);
 
@@ -58,8 +83,11 @@ private:
     std::vector<KeyCorrections> corrections_; ///< Of each program.
     std::size_t program_;
     bool isGeneralMidi_;
-    int bank_ = 0;                 ///< The one that is selected on the device.
-    std::bitset<128> struckDrums_; ///< The keys that sound on the percussion channel.
+    int bank_ = 0; ///< The one that is selected on the device.
+    Reading reading_;
+    bool playsByKey_ = false;
+    std::array<Started, 128> started_{};
+    std::array<double, 128> places_{}; ///< Of the keys, in cents above key 0 of equal temperament.
     float volume_ = 1.0F;
     double bend_ = 0.0; ///< In cents.
     Glide glide_;
