@@ -49,6 +49,16 @@ void AppDelegate::followOptions()
 
 AppDelegate::~AppDelegate() = default;
 
+void AppDelegate::takeReading()
+{
+    player_.with([&](Instrument& /*current*/, Temperament& temperament) {
+        if (midiPlayer_ == nullptr)
+            return;
+        midiPlayer_->setReading(playing_.reading());
+        midiPlayer_->tune(temperament, 0, kLastKey);
+    });
+}
+
 void AppDelegate::start(const OutputSettings& output)
 {
     quietSoundLibraries();
@@ -81,6 +91,7 @@ void AppDelegate::makeMIDIPlayer(std::unique_ptr<MusicDevice> synthesizer)
 {
     auto document = InstrumentDocument::makeMIDIPlayer(std::move(synthesizer));
     midiPlayer_ = &dynamic_cast<MIDIInstrument&>(*document->instrument());
+    midiPlayer_->setReading(playing_.reading());
     addInstrument(std::move(document));
 }
 

@@ -232,6 +232,7 @@ signals:
 
 private:
     void keepPlaying(const OutputSettings& output);
+    void takeReading();
     void takeSynthesizer();
     void playThrough(std::unique_ptr<Synthesizer> synthesizer);
     void handle(const InputEvent& event);

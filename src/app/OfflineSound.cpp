@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/generalMidiBanks.h"
 #include "app/tuningCorrections.h"
+#include "sound/MIDIInstrument.h"
 #include "sound/OrganInstrument.h"
 
 #include <stdexcept>
@@ -38,6 +39,7 @@ SoundSettings currentSettings(AppDelegate& application)
     });
     settings.divisions = application.player().divisions();
     settings.banks = generalMidiBanks();
+    settings.reading = application.playing().reading();
     settings.correctsTuning = application.playing().correctsTuning();
     settings.glide = application.playing().glide();
     for (const auto& document : application.instruments()) {
@@ -68,6 +70,7 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
         auto synthesizer = makeOfflineSynthesizer(rate, settings.banks);
         bank = synthesizer->bank();
         document_ = InstrumentDocument::makeMIDIPlayer(std::move(synthesizer));
+        dynamic_cast<MIDIInstrument&>(*document_->instrument()).setReading(settings.reading);
     } else {
         document_ = std::make_unique<InstrumentDocument>();
         if (!document_->read(settings.instrument, settings.format, settings.options, host))

@@ -240,7 +240,7 @@ void Player::fade()
 
 void Player::start(std::size_t division, int key, float velocity, double time)
 {
-    if (instrument_ == nullptr || temperament_ == nullptr)
+    if (instrument_ == nullptr || temperament_ == nullptr || !temperament_->isMapped(key))
         return;
     instrument_->setDue(time);
     temperament_->setTime(momentFor(time));
