@@ -37,7 +37,7 @@ void renderPiece(benchmark::State& state, const char* tuning)
         application.tunings().select(tuning);
         state.ResumeTiming();
 
-        SequenceRenderer renderer(application.player(), application.engine());
+        SequenceRenderer renderer(application.player(), application.engine(), Reading::Musical);
         renderer.document().read(VELMORA_EXAMPLES "/wolf-fantasia.mid");
         renderer.render(
             {},

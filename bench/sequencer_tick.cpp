@@ -12,7 +12,7 @@ namespace velmora {
 namespace {
 
 /// The steps of one tick.
-constexpr double kTickSteps = stepsPerSecond(120.0) * kTick.count();
+constexpr double kTickSteps = stepsPerSecond(120.0, Reading::Musical) * kTick.count();
 
 Sequence manyNotes()
 {
@@ -45,7 +45,7 @@ void tick(benchmark::State& state)
     SilentHost host;
     Sequence sequence = manyNotes();
     double now = 0.0;
-    Transport transport(host, sequence, [&] { return now; });
+    Transport transport(host, sequence, Reading::Musical, [&] { return now; });
     transport.setExtent(kManySteps);
     transport.setLoop(true);
     transport.play();

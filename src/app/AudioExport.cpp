@@ -99,7 +99,7 @@ bool AudioExport::write(const std::stop_token& stop, Job job)
     AudioFileWriter file(job.file, options.rate);
     Progress progress(*this, job.sound.correctsTuning, stop);
     OfflineSound sound(std::move(job.sound), options.rate, progress);
-    SequenceRenderer renderer(sound.player(), sound.source());
+    SequenceRenderer renderer(sound.player(), sound.source(), job.sequence.reading);
     renderer.document().recover(job.sequence);
     const bool rendered = renderer.render(
         options,

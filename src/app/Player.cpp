@@ -17,12 +17,6 @@ std::uint8_t playable(std::size_t division)
     return static_cast<std::uint8_t>(std::min(division, kDivisions - 1));
 }
 
-/// A recording has gone past the moments before the present.
-double momentForRecorder(double time)
-{
-    return std::max(time, getTime());
-}
-
 } // namespace
 
 void Player::setInstrument(Instrument& instrument)
@@ -86,7 +80,7 @@ void Player::keyOn(int key, float velocity, KeySource source, double time)
     inputDelay_ = std::max(inputDelay_.load(), getTime() - time);
     const std::size_t division = divisions_.ofSources[source];
     holders_.press(division, static_cast<std::size_t>(key), source);
-    liveKeys_.press(static_cast<std::size_t>(key), velocity, momentForRecorder(time));
+    liveKeys_.press(static_cast<std::size_t>(key), velocity, time);
     start(division, key, velocity, time);
 }
 
@@ -101,7 +95,7 @@ void Player::keyOff(int key, KeySource source, double time)
         if (division == divisions_.ofSources[source] || holders_.isPressed(division, slot, source))
             release(division, slot, source, time);
     if (!holders_.isPressed(slot))
-        liveKeys_.release(slot, momentForRecorder(time));
+        liveKeys_.release(slot, time);
 }
 
 void Player::setSustain(KeySource source, bool down, double time)

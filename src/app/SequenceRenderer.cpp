@@ -13,8 +13,8 @@ constexpr std::size_t kTicksPerReport = 64;
 
 } // namespace
 
-SequenceRenderer::SequenceRenderer(Player& player, AudioSource& source)
-    : player_(player), source_(source), document_(player, [this] { return now_; })
+SequenceRenderer::SequenceRenderer(Player& player, AudioSource& source, Reading reading)
+    : player_(player), source_(source), document_(player, reading, [this] { return now_; })
 {
 }
 

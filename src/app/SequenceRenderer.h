@@ -36,7 +36,7 @@ using RenderProgress = std::function<bool(double done)>;
 /// the player's instrument. Use it on one thread only.
 class SequenceRenderer {
 public:
-    SequenceRenderer(Player& player, AudioSource& source);
+    SequenceRenderer(Player& player, AudioSource& source, Reading reading);
 
     /// The document to render, which the caller fills first.
     SequenceDocument& document() { return document_; }

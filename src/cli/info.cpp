@@ -118,7 +118,7 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
     }
     if (sequenceFormatOf(path)) {
         Player player;
-        SequenceDocument document(player);
+        SequenceDocument document(player, selection.plain ? Reading::Plain : Reading::Musical);
         document.read(path);
         if (!document.errorString().empty())
             throw std::runtime_error(document.errorString());

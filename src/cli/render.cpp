@@ -30,7 +30,8 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
         application.player().with(
             [&](Instrument& instrument, Temperament&) { correctTuning(instrument, bank); });
 
-    SequenceRenderer renderer(application.player(), application.engine());
+    SequenceRenderer renderer(application.player(), application.engine(),
+                              application.playing().reading());
     renderer.document().read(sequence);
     if (!renderer.document().errorString().empty())
         throw std::runtime_error(renderer.document().errorString());

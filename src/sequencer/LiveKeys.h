@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sequencer/KeyEvents.h"
 #include "sound/keys.h"
 
 #include <array>
@@ -13,8 +14,8 @@ constexpr int kPressed = 1; ///< Pressed since the sequencer last looked.
 constexpr int kWanted = 2;  ///< A sequence plays the key or waits for it.
 constexpr int kHeld = 4;    ///< Held, and already taken into account by the sequencer.
 
-/// The state of each key of live input. Any thread may read or write it: every entry is atomic. The
-/// times of a key are written before its state.
+/// The state of each key of live input, and what has happened to it. Any thread may read or write
+/// it: every entry is atomic. The times of a key are written before its state.
 class LiveKeys {
 public:
     /// Marks a key as pressed, with a velocity from 0 to 1, at `time` in the seconds of `getTime`.
@@ -23,6 +24,7 @@ public:
         pressTimes_[key] = time;
         noteVelocities_[key] = velocity;
         noteStates_[key] = kPressed;
+        events_.add({static_cast<std::uint8_t>(key), true, velocity, time});
     }
 
     /// Marks a key as released. Its velocity stays.
@@ -31,6 +33,7 @@ public:
     {
         releaseTimes_[key] = time;
         noteStates_[key] = 0;
+        events_.add({static_cast<std::uint8_t>(key), false, 0.0F, time});
     }
 
     /// Marks every key as released.
@@ -59,10 +62,14 @@ public:
     double pressTime(std::size_t key) const { return pressTimes_[key]; }
     double releaseTime(std::size_t key) const { return releaseTimes_[key]; }
 
+    /// Every press and release, even if a key changed several times since the last look.
+    const KeyEvents& events() const { return events_; }
+
 private:
     std::array<std::atomic<int>, kKeys> noteStates_{};
     std::array<std::atomic<float>, kKeys> noteVelocities_{};
     std::array<std::atomic<double>, kKeys> pressTimes_{}, releaseTimes_{};
+    KeyEvents events_;
 };
 
 } // namespace velmora

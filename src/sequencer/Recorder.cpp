@@ -12,14 +12,6 @@ namespace velmora {
 
 namespace {
 
-/// A recording looks at the keys twice per tick, so that the length of each note is accurate to a
-/// tick.
-constexpr double kLookInterval = kTick.count() / 2;
-
-/// Maximum number of looks per tick. After a long delay the looks are further apart, because more
-/// of them would make a slow machine even later.
-constexpr double kMostLooks = 2048.0;
-
 /// How far the position moves after the last key, in steps.
 constexpr double kRoomBehindLastKey = 8.0;
 
@@ -41,15 +33,21 @@ void Recorder::record()
         transport_.playback().sequenceChanged();
         emit ended();
     } else if (transport_.mode() == Transport::Mode::Stopped) {
-        limit_ = transport_.position();
+        limit_ = runStart_ = transport_.position();
         heldKeys_.reset();
+        openNotes_ = {};
+        events_.clear();
+        place_ = transport_.host().liveKeys().events().end();
+        if (transport_.reading() == Reading::Plain)
+            takeHeldKeys();
         transport_.startRecording();
     }
 }
 
 void Recorder::waitAt(double step)
 {
-    limit_ = step;
+    limit_ = runStart_ = step;
+    openNotes_ = {};
     transport_.setPosition(step);
 }
 
@@ -84,65 +82,113 @@ std::vector<NoteState> Recorder::endTake()
 void Recorder::take(double from, double until)
 {
     const double before = transport_.position();
-    // A late tick looks at the keys as often as the ticks before it would have, so that each key is
-    // taken at the position of its arrival.
-    const double interval = std::max(kLookInterval, (until - from) / kMostLooks);
-    while (until - from > interval) {
-        takeKeys(from, from + interval);
-        from += interval;
+    collectEvents();
+    auto event = events_.begin();
+    for (; event != events_.end() && event->time <= until; ++event) {
+        const double time = std::max(from, event->time);
+        run(from, time);
+        from = time;
+        if (event->isPress)
+            press(*event, time - event->time);
+        else
+            release(event->key, time - event->time);
     }
-    takeKeys(from, until);
+    events_.erase(events_.begin(), event);
+    run(from, until);
+    releaseSilencedKeys();
+    for (std::size_t key = 0; key < kKeys; ++key)
+        if (openNotes_[key] != 0)
+            lengthen(key, transport_.position());
     if (transport_.position() != before)
         transport_.revealPosition();
     transport_.setExtent(
         std::max(transport_.extent(), transport_.position() + kRoomBehindLastNote));
 }
 
-void Recorder::takeKeys(double from, double until)
+void Recorder::collectEvents()
 {
-    bool isAnyDown = false;
-    for (std::size_t key = 0; key < kKeys; ++key)
-        isAnyDown = takeKey(key, from, until) || isAnyDown;
-    if (isAnyDown)
-        limit_ = transport_.position() + kRoomBehindLastKey;
-    // See docs/decisions.md, 101.
-    if (isAnyDown || (!snapToGrid_ && transport_.position() <= limit_))
-        transport_.advance(until - from);
+    const KeyEvents& events = transport_.host().liveKeys().events();
+    while (const auto event = events.read(place_))
+        events_.push_back(*event);
+    // Each device has a thread of its own, and those of JACK announce what is about to happen.
+    std::ranges::stable_sort(events_, {}, &KeyEvent::time);
 }
 
-bool Recorder::takeKey(std::size_t key, double from, double until)
-{
-    const int state = lookAt(key, from, until);
-    heldKeys_[key] = state != 0;
-    if (state == kPressed)
-        begin(key);
-    else if (state == kHeld)
-        lengthen(key);
-    return state != 0;
-}
-
-int Recorder::lookAt(std::size_t key, double from, double until)
+// See docs/decisions.md, 100.
+void Recorder::takeHeldKeys()
 {
     LiveKeys& keys = transport_.host().liveKeys();
-    const double pressed = keys.pressTime(key);
-    const int state = pressed <= until ? keys.take(key) : 0;
-    if (state != 0)
-        return state;
-    if (!(until < keys.releaseTime(key)))
-        return 0;
-    // It was released after `until`.
-    if (heldKeys_[key])
-        return kHeld;
-    return from < pressed && pressed <= until ? kPressed : 0;
+    const double position = transport_.position();
+    const auto& notes = sequence_.notes();
+    for (std::size_t key = 0; key < kKeys; ++key) {
+        const int state = keys.take(key);
+        heldKeys_[key] = state != 0;
+        if (state == kPressed)
+            begin(key, keys.velocity(key), position);
+        if (state != kHeld)
+            continue;
+        const auto last = std::find_if(notes.rbegin(), notes.rend(), [=](const Note& note) {
+            return note.key == key && note.start <= position; // not one that is still to come
+        });
+        openNotes_[key] = last == notes.rend() ? 0 : last->id;
+    }
 }
 
-void Recorder::begin(std::size_t key)
+/// Ends the keys of which no release was announced, such as those that `clear` has released.
+void Recorder::releaseSilencedKeys()
+{
+    const LiveKeys& keys = transport_.host().liveKeys();
+    for (std::size_t key = 0; key < kKeys; ++key)
+        if (heldKeys_[key] && keys.state(key) == 0 &&
+            std::ranges::find(events_, key, &KeyEvent::key) == events_.end())
+            release(key, 0.0);
+}
+
+void Recorder::run(double from, double until)
 {
     const double position = transport_.position();
+    double seconds = until - from;
+    // See docs/decisions.md, 101.
+    if (heldKeys_.none()) {
+        const double room = std::max(limit_ - position, 0.0) / transport_.stepsPerSecond();
+        seconds = snapToGrid_ ? 0.0 : std::min(seconds, room);
+    }
+    transport_.advance(seconds);
+    if (seconds < until - from)
+        runStart_ = transport_.position();
+    if (heldKeys_.any())
+        limit_ = transport_.position() + kRoomBehindLastKey;
+}
+
+double Recorder::positionBefore(double delay) const
+{
+    const double position = transport_.position();
+    return std::max(position - delay * transport_.stepsPerSecond(), std::min(runStart_, position));
+}
+
+void Recorder::press(const KeyEvent& event, double delay)
+{
+    const double position = positionBefore(delay);
+    if (openNotes_[event.key] != 0)
+        lengthen(event.key, position); // pressed again from elsewhere
+    transport_.host().liveKeys().take(event.key);
+    heldKeys_.set(event.key);
+    begin(event.key, event.velocity, position);
+}
+
+void Recorder::release(std::size_t key, double delay)
+{
+    lengthen(key, positionBefore(delay));
+    openNotes_[key] = 0;
+    heldKeys_.reset(key);
+}
+
+void Recorder::begin(std::size_t key, float velocity, double position)
+{
     Note note{.start = position,
               .length = 1.0,
               .oldLength = 1.0,
-              .velocity = transport_.host().liveKeys().velocity(key),
+              .velocity = velocity,
               .channel = channel_,
               .key = static_cast<std::uint32_t>(key),
               .oldStart = position,
@@ -150,25 +196,23 @@ void Recorder::begin(std::size_t key)
     if (snapToGrid_)
         note.start = std::floor(note.start);
     transport_.playback().sequenceChanged();
-    taken_.emplace(sequence_.addNote(note).id, std::nullopt);
+    openNotes_[key] = sequence_.addNote(note).id;
+    taken_.emplace(openNotes_[key], std::nullopt);
 }
 
-void Recorder::lengthen(std::size_t key)
+void Recorder::lengthen(std::size_t key, double position)
 {
-    const double position = transport_.position();
-    const auto& notes = sequence_.notes();
-    // See docs/decisions.md, 100.
-    const auto last = std::find_if(notes.rbegin(), notes.rend(), [=](const Note& note) {
-        return note.key == key && note.start <= position; // not one that is still to come
-    });
-    if (last == notes.rend())
+    Note* const note = sequence_.find(openNotes_[key]);
+    if (note == nullptr || position < note->start) // edited during the take
         return;
-    taken_.emplace(last->id, last->length);
+    const double shortest = transport_.stepsPerSecond() * kTick.count(); // can be seen and heard
+    const double exact = position - note->start;
+    const double length = snapToGrid_ ? std::floor(exact) : std::max(exact, shortest);
+    if (length == note->length)
+        return;
+    taken_.emplace(note->id, note->length);
     transport_.playback().sequenceChanged();
-    Note& held = sequence_.at(static_cast<std::size_t>(notes.rend() - last) - 1);
-    held.length = position - held.start;
-    if (snapToGrid_)
-        held.length = std::floor(held.length);
+    note->length = length;
 }
 
 } // namespace velmora

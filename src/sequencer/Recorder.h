@@ -1,19 +1,23 @@
 #pragma once
 
+#include "sequencer/KeyEvents.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/Transport.h"
 #include "sound/keys.h"
 
 #include <QObject>
 
+#include <array>
 #include <bitset>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <vector>
 
 namespace velmora {
 
-/// Turns live keys into notes while the transport records. Main thread only.
+/// Turns live keys into notes while the transport records. Every press and release counts at the
+/// time at which it was made, however late the main thread is. Main thread only.
 class Recorder : public QObject {
     Q_OBJECT
 
@@ -54,23 +58,32 @@ signals:
 
 private:
     void take(double from, double until);
-    void takeKeys(double from, double until);
+    void collectEvents();
+    void takeHeldKeys();
+    void releaseSilencedKeys();
 
-    /// Returns true if the key is down.
-    bool takeKey(std::size_t key, double from, double until);
+    /// Moves the position from one time to another, in seconds.
+    void run(double from, double until);
 
-    /// Returns the state of a key at `until`, and marks a pressed key as held.
-    int lookAt(std::size_t key, double from, double until);
+    /// Takes an event that came `delay` seconds before the position.
+    void press(const KeyEvent& event, double delay);
+    void release(std::size_t key, double delay);
 
-    void begin(std::size_t key);
-    void lengthen(std::size_t key);
+    double positionBefore(double delay) const;
+    void begin(std::size_t key, float velocity, double position);
+    void lengthen(std::size_t key, double position);
 
     Transport& transport_;
     Sequence& sequence_;
     unsigned char channel_ = 0;
     bool snapToGrid_ = false;
-    double limit_ = 0.0;          ///< The step at which the position stops while no key is held.
-    std::bitset<kKeys> heldKeys_; ///< The keys that were held at the last look.
+    double limit_ = 0.0;    ///< The step at which the position stops while no key is held.
+    double runStart_ = 0.0; ///< The step from which the position has moved without a stop.
+
+    std::uint64_t place_ = 0;      ///< Of the next key event.
+    std::vector<KeyEvent> events_; ///< Those that are not due yet, in order of time.
+    std::bitset<kKeys> heldKeys_;  ///< The keys that are down.
+    std::array<std::uint64_t, kKeys> openNotes_{}; ///< The note that each key lengthens, or 0.
 
     /// The length before the take of each note that it has changed; empty for a new note.
     std::map<std::uint64_t, std::optional<double>> taken_;

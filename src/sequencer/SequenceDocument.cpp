@@ -40,8 +40,9 @@ private:
     bool isPushed_ = false;
 };
 
-SequenceDocument::SequenceDocument(SequenceHost& host, std::function<double()> clock)
-    : transport_(host, sequence_, std::move(clock)), recorder_(transport_, sequence_),
+SequenceDocument::SequenceDocument(SequenceHost& host, Reading reading,
+                                   std::function<double()> clock)
+    : transport_(host, sequence_, reading, std::move(clock)), recorder_(transport_, sequence_),
       practice_(transport_, sequence_)
 {
     connect(&recorder_, &Recorder::ended, this, [this] {
@@ -122,7 +123,7 @@ UnsavedSequence SequenceDocument::snapshot() const
 {
     const auto now = std::chrono::system_clock::now();
     return {path_, std::chrono::floor<std::chrono::milliseconds>(now), isImported_,
-            sequence_.notes()};
+            sequence_.notes(), reading()};
 }
 
 void SequenceDocument::recover(const UnsavedSequence& unsaved)

@@ -31,7 +31,10 @@ public:
 
     /// Creates a document with an empty sequence. `clock` returns the time in seconds. Marks every
     /// live key of the host as released: see docs/decisions.md, 126.
-    explicit SequenceDocument(SequenceHost& host, std::function<double()> clock = getTime);
+    explicit SequenceDocument(SequenceHost& host, Reading reading = Reading::Musical,
+                              std::function<double()> clock = getTime);
+
+    Reading reading() const { return transport_.reading(); }
 
     const Sequence& sequence() const { return sequence_; }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Reading.h"
+
 #include <chrono>
 
 namespace velmora {
@@ -13,10 +15,10 @@ constexpr int kStepsPerBar = 4 * kStepsPerBeat;
 constexpr std::chrono::duration<double> kTick{1.0 / 1024.0};
 
 /// Returns the number of steps in a second at a tempo in beats a minute.
-constexpr double stepsPerSecond(double tempo)
+constexpr double stepsPerSecond(double tempo, Reading reading)
 {
     // See docs/decisions.md, 83.
-    return tempo * 0.125;
+    return reading == Reading::Musical ? tempo * 16.0 / 120.0 : tempo * 0.125;
 }
 
 } // namespace velmora

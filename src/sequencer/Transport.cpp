@@ -1,7 +1,5 @@
 #include "sequencer/Transport.h"
 
-#include "sequencer/SequenceTime.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -16,8 +14,10 @@ constexpr double kRoomBelowPosition = 8.0;
 
 } // namespace
 
-Transport::Transport(SequenceHost& host, Sequence& sequence, std::function<double()> clock)
-    : host_(host), clock_(std::move(clock)), playback_(host, sequence), lastTick_(clock_())
+Transport::Transport(SequenceHost& host, Sequence& sequence, Reading reading,
+                     std::function<double()> clock)
+    : reading_(reading), host_(host), clock_(std::move(clock)), playback_(host, sequence),
+      lastTick_(clock_())
 {
 }
 
@@ -73,7 +73,7 @@ void Transport::tick()
 
 double Transport::positionAt(double time) const
 {
-    return position_ + stepsPerSecond(tempo_) * (time - lastTick_);
+    return position_ + stepsPerSecond() * (time - lastTick_);
 }
 
 double Transport::endOfPlaying() const
@@ -96,7 +96,7 @@ void Transport::playUntil(double now)
     }
     scrollTo(next);
     if (mode_ == Mode::Playing)
-        playback_.planAhead(next, now, stepsPerSecond(tempo_), endOfPlaying());
+        playback_.planAhead(next, now, stepsPerSecond(), endOfPlaying());
 }
 
 void Transport::settle()
@@ -132,7 +132,7 @@ void Transport::scrollTo(double step)
 
 void Transport::advance(double seconds)
 {
-    position_ += stepsPerSecond(tempo_) * seconds;
+    position_ += stepsPerSecond() * seconds;
 }
 
 void Transport::revealPosition()

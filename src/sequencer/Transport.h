@@ -1,9 +1,11 @@
 #pragma once
 
 #include "base/Clock.h"
+#include "base/Reading.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/SequencePlayback.h"
+#include "sequencer/SequenceTime.h"
 
 #include <QObject>
 
@@ -20,8 +22,8 @@ struct Interval {
     bool contains(double step) const { return start <= step && step < end; }
 };
 
-/// Moves through the time of a sequence and plays its notes on the host. Times are in steps; at
-/// tempo 120 a second has 15 of them. Main thread only.
+/// Moves through the time of a sequence and plays its notes on the host. Times are in steps. Main
+/// thread only.
 class Transport : public QObject {
     Q_OBJECT
 
@@ -29,7 +31,10 @@ public:
     enum class Mode { Stopped, Playing, Recording };
 
     /// `clock` returns the time in seconds. The host and the sequence must outlive the transport.
-    Transport(SequenceHost& host, Sequence& sequence, std::function<double()> clock = getTime);
+    Transport(SequenceHost& host, Sequence& sequence, Reading reading = Reading::Musical,
+              std::function<double()> clock = getTime);
+
+    Reading reading() const { return reading_; }
 
     Mode mode() const { return mode_; }
 
@@ -79,6 +84,9 @@ public:
     double tempo() const { return tempo_; }
     void setTempo(double tempo);
 
+    /// The steps of a second at the tempo.
+    double stepsPerSecond() const { return velmora::stepsPerSecond(tempo_, reading_); }
+
     /// True if playing starts over at the end: from the start of the selected interval, or of the
     /// sequence if nothing is selected.
     bool loops() const { return loop_; }
@@ -119,6 +127,7 @@ private:
     void playUntil(double now);
     void setMode(Mode mode);
 
+    const Reading reading_;
     SequenceHost& host_;
     std::function<double()> clock_;
     SequencePlayback playback_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Reading.h"
 #include "sequencer/Sequence.h"
 
 #include <chrono>
@@ -20,6 +21,8 @@ struct UnsavedSequence {
     /// The notes in the document's order. Times, keys, channels and velocities are kept exactly;
     /// identities and flags are not.
     std::vector<Note> notes;
+
+    Reading reading = Reading::Musical; ///< Not kept on disk: the program that recovers chooses.
 };
 
 /// Returns the bytes of a recovery file, big-endian: "VREC", the version, path, time, isImported,

@@ -101,7 +101,7 @@ TEST_F(PlayerTest, AKeyStopsOnTheInstrumentThatSoundsIt)
 TEST_F(PlayerTest, ANoteOfAPlayingSequenceStopsOnTheInstrumentThatSoundsIt)
 {
     double now = 0.0;
-    SequenceDocument document(player_, [&] { return now; });
+    SequenceDocument document(player_, Reading::Musical, [&] { return now; });
     document.edit()->addNote({.length = 4.0, .velocity = 1.0F, .key = kKey});
     document.updateExtent();
     const auto tickAt = [&](double time) {

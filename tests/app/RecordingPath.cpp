@@ -65,7 +65,7 @@ TEST(RecordingPath, RecordsEachKeyWithinATickOfItsArrival)
     kept.read(file);
     const auto& notes = kept.sequence().notes();
     ASSERT_EQ(notes.size(), 24);
-    constexpr double kStepsPerRecordedSecond = 15.0;
+    constexpr double kStepsPerRecordedSecond = 16.0;
     constexpr double kTick = kStepsPerRecordedSecond / 1024.0, kTickOfFile = 1.0 / 512.0;
     for (unsigned i = 0; i < 24; ++i) {
         const Note& note = notes[i];

@@ -100,10 +100,10 @@ TEST_F(CommandLine, RendersTheSameBytesForTheSameSelectionOnly)
         render(name, options);
         EXPECT_EQ(content(name), bytes);
         const Pcm sound = decodeAudio(bytes);
-        // At 15 steps per second: the note's 24 steps and 32 more, or 7 times 8 steps. Then the
+        // At 16 steps per second: the note's 24 steps and 32 more, or 7 times 8 steps. Then the
         // tail of one second.
         const double seconds = static_cast<double>(sound.size()) / 2.0 / sound.rate;
-        EXPECT_NEAR(seconds, 56.0 / 15.0 + 1.0, 0.01);
+        EXPECT_NEAR(seconds, 56.0 / 16.0 + 1.0, 0.01);
         EXPECT_TRUE(sound.floats.empty() ? std::ranges::max(sound.samples) > 800
                                          : std::ranges::max(sound.floats) > 0.025F);
     }

@@ -35,7 +35,7 @@ protected:
         }
     }
 
-    SequenceDocument live_{*this, getTime};
+    SequenceDocument live_{*this, Reading::Plain, getTime};
     SequenceClock clock_{live_.transport()};
 };
 

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <thread>
+
 namespace velmora {
 
 using testing::ElementsAre;
@@ -94,14 +96,18 @@ TEST_F(RecorderTest, MovesOnTheGridOnlyWhileAKeyIsHeld)
     press(60);
     run(0.5);
     release(60);
-    liveKeys_.press(64, 0.5F, 0.0);
-    liveKeys_.take(64); // was held before, so it lengthens an existing note
+    run(1.0);
+    recorder_.record();
+    press(64);
+    liveKeys_.take(64);
+    recorder_.record(); // the key was held before, so it lengthens an existing note
     run(3.0);
     EXPECT_NEAR(transport_.position(), 5.5, 0.1);
     recorder_.record();
     EXPECT_THAT(recorded(), ElementsAre(FieldsAre(64, 0.0, 5.0), FieldsAre(60, 2.0, 0.0),
                                         FieldsAre(64, 50.0, 1.0)))
         << "sorted, and notes ahead are unchanged";
+    document_.undoStack().undo();
     document_.undoStack().undo();
     EXPECT_THAT(recorded(), ElementsAre(FieldsAre(64, 0.0, 1.0), FieldsAre(64, 50.0, 1.0)));
 }
@@ -125,6 +131,58 @@ TEST_F(RecorderTest, TakesAKeyWhereItArrivedIfATickIsLate)
     tick(0.01);
     EXPECT_THAT(recorded(), ElementsAre(FieldsAre(60, 0.0, 2.0), FieldsAre(64, 2.0, 3.0),
                                         FieldsAre(65, 3.0, 1.0)));
+}
+
+TEST_F(RecorderTest, LosesNothingWhileTheMainThreadSleeps)
+{
+    struct Strike {
+        unsigned key;
+        double start, length; // in seconds
+    };
+    std::vector<Strike> strikes;
+    for (unsigned i = 0; i < 40; ++i)
+        strikes.push_back({60 + i % 3, 0.0123 * i, i % 4 == 0 ? 0.0 : 0.0031 * (i % 4)});
+    recorder_.record();
+    const double begun = now_;
+    std::thread player([&] {
+        for (const auto& [key, start, length] : strikes) {
+            liveKeys_.press(key, 0.5F, begun + start);
+            liveKeys_.release(key, begun + start + length);
+        }
+    });
+    player.join();
+    now_ += 0.500;
+    transport_.tick();
+    liveKeys_.press(72, 0.5F, now_ - 0.001); // arrives late
+    liveKeys_.press(70, 0.5F, now_ + 0.004); // is announced
+    liveKeys_.press(71, 0.5F, now_ + 0.002);
+    tick(1.0);
+    strikes.insert(strikes.end(), {{72, 0.499, 0.0}, {71, 0.502, 0.0}, {70, 0.504, 0.0}});
+    const auto& notes = document_.sequence().notes();
+    ASSERT_EQ(notes.size(), strikes.size());
+    for (std::size_t i = 0; i < strikes.size(); ++i) {
+        EXPECT_EQ(notes[i].key, strikes[i].key) << i;
+        EXPECT_NEAR(notes[i].start / 15.0, strikes[i].start, 1e-4) << i;
+        EXPECT_NEAR(notes[i].length / 15.0, strikes[i].length, i < 40 ? 0.001 : 1.0) << i;
+        EXPECT_GT(notes[i].length, 0.0) << i;
+    }
+}
+
+TEST_F(RecorderTest, LeavesOlderNotesAloneInTheMusicalReading)
+{
+    SequenceDocument musical(*this, Reading::Musical, [this] { return now_; });
+    musical.edit()->addNote({.length = 1.0, .velocity = 1.0F, .key = 60});
+    press(60);
+    musical.practice().midiInput();
+    musical.recorder().record(); // while the key is still down
+    now_ += 1.0;
+    musical.transport().tick();
+    EXPECT_EQ(musical.transport().position(), 0.0) << "it waits for the next key";
+    press(62);
+    now_ += 1.0;
+    musical.transport().tick();
+    EXPECT_EQ(musical.sequence().notes().at(0).length, 1.0);
+    EXPECT_NEAR(musical.sequence().notes().at(1).length, 16.0, 1e-6) << "a second at tempo 120";
 }
 
 } // namespace velmora

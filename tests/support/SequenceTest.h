@@ -16,8 +16,8 @@ namespace velmora {
 
 using Calls = std::vector<std::string>;
 
-/// A document with a clock that only `tick` moves, on a host that records its calls. A second is 16
-/// steps in a file, but 15 steps in playback at tempo 120: see docs/decisions.md, 83.
+/// A document with a clock that only `tick` moves, on a host that records its calls. In its
+/// plain reading a second is 15 steps: see docs/decisions.md, 83.
 class SequenceTest : public testing::Test, public SequenceHost {
 protected:
     void play(int key, float velocity, int /*channel*/, double /*time*/) override
@@ -68,7 +68,7 @@ protected:
     std::mutex lock_; ///< Guards `calls_`, which two threads write.
     LiveKeys liveKeys_;
     double now_ = 1000.0;
-    SequenceDocument document_{*this, [this] { return now_; }};
+    SequenceDocument document_{*this, Reading::Plain, [this] { return now_; }};
     Transport& transport_ = document_.transport();
     Recorder& recorder_ = document_.recorder();
     Practice& practice_ = document_.practice();

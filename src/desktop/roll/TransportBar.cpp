@@ -5,7 +5,6 @@
 #include "desktop/widgets/nameParts.h"
 #include "midi/messages.h"
 #include "sequencer/SequenceDocument.h"
-#include "sequencer/SequenceTime.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -25,10 +24,10 @@ constexpr int kMinTempo = 20;
 constexpr int kMaxTempo = 400;
 constexpr int kFirstTempo = 120; // that of a new piece
 
-/// Returns the time of a step in minutes, seconds and tenths, such as "1:05.3".
-QString timeText(double step, double tempo)
+/// Returns the time of the position in minutes, seconds and tenths, such as "1:05.3".
+QString timeText(const Transport& transport)
 {
-    const double seconds = std::max(0.0, step / stepsPerSecond(tempo));
+    const double seconds = std::max(0.0, transport.position() / transport.stepsPerSecond());
     const auto tenths = static_cast<qlonglong>(seconds * 10);
     return QString("%1:%2.%3")
         .arg(tenths / 600)
@@ -155,7 +154,7 @@ void TransportBar::showPosition()
     // While the position moves, decimals would change too fast to be read.
     const int decimals = transport.mode() == Transport::Mode::Stopped ? 1 : 0;
     position_->setText(tr("%1  ·  step %2")
-                           .arg(timeText(transport.position(), transport.tempo()))
+                           .arg(timeText(transport))
                            .arg(transport.position(), 0, 'f', decimals));
 }
 

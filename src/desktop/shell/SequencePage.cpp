@@ -27,8 +27,8 @@ constexpr int kEmptyMiddle = 60;
 
 SequencePage::SequencePage(AppDelegate& application, ShellActions& actions, const QString& name,
                            RecoveryFile recovery)
-    : application_(application), document_(application.player()), editor_(document_),
-      clock_(document_.transport()), keeper_(document_, std::move(recovery)),
+    : application_(application), document_(application.player(), application.playing().reading()),
+      editor_(document_), clock_(document_.transport()), keeper_(document_, std::move(recovery)),
       saver_(*this, document_, actions, name), scrollView_(new SequenceScrollView)
 {
     makeView();
