@@ -78,6 +78,45 @@
         <source>Load with 16 &amp;Bits</source>
         <translation type="unfinished">Mit 16 &amp;Bit laden</translation>
     </message>
+    <message>
+        <source>Load as Many Stops as &amp;Fit</source>
+        <translation type="unfinished">So viele Register laden, wie &amp;passen</translation>
+    </message>
+    <message>
+        <source>Load with 16 &amp;Bits in Mono</source>
+        <translation type="unfinished">Mit 16 &amp;Bit in Mono laden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stop(s) were not loaded</source>
+        <translation type="unfinished">
+            <numerusform>%n Register wurde nicht geladen</numerusform>
+            <numerusform>%n Register wurden nicht geladen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This stop is being loaded. It sounds as soon as all its pipes are there.</source>
+        <translation type="unfinished">Dieses Register wird geladen. Es erklingt, sobald alle seine Pfeifen da sind.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because the loading was stopped.</source>
+        <translation type="unfinished">Dieses Register ist nicht geladen, weil das Laden beendet wurde.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because only the drawn stops were loaded.</source>
+        <translation type="unfinished">Dieses Register ist nicht geladen, weil nur die gezogenen Register geladen wurden.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because it does not fit into the memory.</source>
+        <translation type="unfinished">Dieses Register ist nicht geladen, weil es nicht in den Speicher passt.</translation>
+    </message>
+    <message>
+        <source>None of the files of this stop can be used. The import report says why.</source>
+        <translation type="unfinished">Keine der Dateien dieses Registers ist brauchbar. Der Importbericht sagt, warum.</translation>
+    </message>
+    <message>
+        <source>Load Only the D&amp;rawn Stops</source>
+        <translation type="unfinished">Nur die gezogenen &amp;Register laden</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -1790,6 +1829,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Show the stops of the organ</source>
         <translation type="unfinished">Die Register der Orgel zeigen</translation>
     </message>
+    <message>
+        <source>Leave out the stops that are not loaded yet</source>
+        <translation type="unfinished">Lässt die Register weg, die noch nicht geladen sind</translation>
+    </message>
+    <message>
+        <source>Stop Loadin&amp;g</source>
+        <translation type="unfinished">Laden b&amp;eenden</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2176,6 +2223,14 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>The stops of %1 that are loaded can be played; the others follow</source>
         <translation type="unfinished">Die geladenen Register von %1 können gespielt werden; die anderen folgen</translation>
+    </message>
+    <message>
+        <source>Stop Loading</source>
+        <translation type="unfinished">Laden beenden</translation>
+    </message>
+    <message>
+        <source>Leave out the stops that are not loaded yet</source>
+        <translation type="unfinished">Lässt die Register weg, die noch nicht geladen sind</translation>
     </message>
 </context>
 <context>
@@ -2875,6 +2930,10 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>these are not the registrations of an organ</source>
         <translation type="unfinished">dies sind keine Registrierungen einer Orgel</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load fewer of its stops</source>
+        <translation type="unfinished">braucht etwa %1 Speicher, aber nur %2 sind frei; laden Sie weniger Register</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,13 @@
             <numerusform>%n files or samples were left out</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n stop(s) were not loaded</source>
+        <translation>
+            <numerusform>%n stop was not loaded</numerusform>
+            <numerusform>%n stops were not loaded</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>velmora::InstrumentOpener</name>

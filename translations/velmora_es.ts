@@ -78,6 +78,45 @@
         <source>Load with 16 &amp;Bits</source>
         <translation type="unfinished">Cargar con 16 &amp;bits</translation>
     </message>
+    <message>
+        <source>Load as Many Stops as &amp;Fit</source>
+        <translation type="unfinished">Cargar tantos registros como &amp;quepan</translation>
+    </message>
+    <message>
+        <source>Load with 16 &amp;Bits in Mono</source>
+        <translation type="unfinished">Cargar con 16 &amp;bits en mono</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stop(s) were not loaded</source>
+        <translation type="unfinished">
+            <numerusform>%n registro no se cargó</numerusform>
+            <numerusform>%n registros no se cargaron</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This stop is being loaded. It sounds as soon as all its pipes are there.</source>
+        <translation type="unfinished">Este registro se está cargando. Sonará en cuanto estén todos sus tubos.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because the loading was stopped.</source>
+        <translation type="unfinished">Este registro no está cargado, porque se detuvo la carga.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because only the drawn stops were loaded.</source>
+        <translation type="unfinished">Este registro no está cargado, porque solo se cargaron los registros sacados.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because it does not fit into the memory.</source>
+        <translation type="unfinished">Este registro no está cargado, porque no cabe en la memoria.</translation>
+    </message>
+    <message>
+        <source>None of the files of this stop can be used. The import report says why.</source>
+        <translation type="unfinished">Ninguno de los archivos de este registro se puede usar. El informe de importación dice por qué.</translation>
+    </message>
+    <message>
+        <source>Load Only the D&amp;rawn Stops</source>
+        <translation type="unfinished">Cargar solo los &amp;registros sacados</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -1790,6 +1829,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Show the stops of the organ</source>
         <translation type="unfinished">Mostrar los registros del órgano</translation>
     </message>
+    <message>
+        <source>Leave out the stops that are not loaded yet</source>
+        <translation type="unfinished">Omitir los registros que aún no se han cargado</translation>
+    </message>
+    <message>
+        <source>Stop Loadin&amp;g</source>
+        <translation type="unfinished">Detener la car&amp;ga</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2176,6 +2223,14 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>The stops of %1 that are loaded can be played; the others follow</source>
         <translation type="unfinished">Los registros ya cargados de %1 se pueden tocar; los demás seguirán</translation>
+    </message>
+    <message>
+        <source>Stop Loading</source>
+        <translation type="unfinished">Detener la carga</translation>
+    </message>
+    <message>
+        <source>Leave out the stops that are not loaded yet</source>
+        <translation type="unfinished">Omitir los registros que aún no se han cargado</translation>
     </message>
 </context>
 <context>
@@ -2875,6 +2930,10 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>these are not the registrations of an organ</source>
         <translation type="unfinished">no son las registraciones de un órgano</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load fewer of its stops</source>
+        <translation type="unfinished">necesita unos %1 de memoria, pero solo hay %2 libres; cargue menos registros</translation>
     </message>
 </context>
 <context>

@@ -78,6 +78,45 @@
         <source>Load with 16 &amp;Bits</source>
         <translation type="unfinished">Charger en 16 &amp;bits</translation>
     </message>
+    <message>
+        <source>Load as Many Stops as &amp;Fit</source>
+        <translation type="unfinished">Charger autant de &amp;jeux que possible</translation>
+    </message>
+    <message>
+        <source>Load with 16 &amp;Bits in Mono</source>
+        <translation type="unfinished">Charger en 16 &amp;bits et en mono</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stop(s) were not loaded</source>
+        <translation type="unfinished">
+            <numerusform>%n jeu n’a pas été chargé</numerusform>
+            <numerusform>%n jeux n’ont pas été chargés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This stop is being loaded. It sounds as soon as all its pipes are there.</source>
+        <translation type="unfinished">Ce jeu est en cours de chargement. Il sonnera dès que tous ses tuyaux seront là.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because the loading was stopped.</source>
+        <translation type="unfinished">Ce jeu n’est pas chargé, car le chargement a été arrêté.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because only the drawn stops were loaded.</source>
+        <translation type="unfinished">Ce jeu n’est pas chargé, car seuls les jeux tirés ont été chargés.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because it does not fit into the memory.</source>
+        <translation type="unfinished">Ce jeu n’est pas chargé, car il ne tient pas en mémoire.</translation>
+    </message>
+    <message>
+        <source>None of the files of this stop can be used. The import report says why.</source>
+        <translation type="unfinished">Aucun des fichiers de ce jeu n’est utilisable. Le rapport d’importation dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>Load Only the D&amp;rawn Stops</source>
+        <translation type="unfinished">Charger seulement les jeux ti&amp;rés</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -1790,6 +1829,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Show the stops of the organ</source>
         <translation type="unfinished">Afficher les jeux de l’orgue</translation>
     </message>
+    <message>
+        <source>Leave out the stops that are not loaded yet</source>
+        <translation type="unfinished">Omettre les jeux qui ne sont pas encore chargés</translation>
+    </message>
+    <message>
+        <source>Stop Loadin&amp;g</source>
+        <translation type="unfinished">Arrêter le char&amp;gement</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2176,6 +2223,14 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>The stops of %1 that are loaded can be played; the others follow</source>
         <translation type="unfinished">Les jeux déjà chargés de %1 peuvent être joués&#x202f;; les autres suivent</translation>
+    </message>
+    <message>
+        <source>Stop Loading</source>
+        <translation type="unfinished">Arrêter le chargement</translation>
+    </message>
+    <message>
+        <source>Leave out the stops that are not loaded yet</source>
+        <translation type="unfinished">Omettre les jeux qui ne sont pas encore chargés</translation>
     </message>
 </context>
 <context>
@@ -2875,6 +2930,10 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>these are not the registrations of an organ</source>
         <translation type="unfinished">ce ne sont pas les registrations d’un orgue</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load fewer of its stops</source>
+        <translation type="unfinished">il faut environ %1 de mémoire, mais seuls %2 sont libres ; chargez moins de jeux</translation>
     </message>
 </context>
 <context>

@@ -78,6 +78,45 @@
         <source>Load with 16 &amp;Bits</source>
         <translation type="unfinished">Carica a 16 &amp;bit</translation>
     </message>
+    <message>
+        <source>Load as Many Stops as &amp;Fit</source>
+        <translation type="unfinished">Carica &amp;quanti registri entrano</translation>
+    </message>
+    <message>
+        <source>Load with 16 &amp;Bits in Mono</source>
+        <translation type="unfinished">Carica a 16 &amp;bit in mono</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stop(s) were not loaded</source>
+        <translation type="unfinished">
+            <numerusform>%n registro non è stato caricato</numerusform>
+            <numerusform>%n registri non sono stati caricati</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This stop is being loaded. It sounds as soon as all its pipes are there.</source>
+        <translation type="unfinished">Questo registro è in caricamento. Suonerà appena ci saranno tutte le sue canne.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because the loading was stopped.</source>
+        <translation type="unfinished">Questo registro non è caricato, perché il caricamento è stato interrotto.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because only the drawn stops were loaded.</source>
+        <translation type="unfinished">Questo registro non è caricato, perché sono stati caricati solo i registri inseriti.</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because it does not fit into the memory.</source>
+        <translation type="unfinished">Questo registro non è caricato, perché non entra nella memoria.</translation>
+    </message>
+    <message>
+        <source>None of the files of this stop can be used. The import report says why.</source>
+        <translation type="unfinished">Nessuno dei file di questo registro è utilizzabile. Il rapporto di importazione dice perché.</translation>
+    </message>
+    <message>
+        <source>Load Only the D&amp;rawn Stops</source>
+        <translation type="unfinished">Carica solo i &amp;registri inseriti</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -1790,6 +1829,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Show the stops of the organ</source>
         <translation type="unfinished">Mostrare i registri dell’organo</translation>
     </message>
+    <message>
+        <source>Leave out the stops that are not loaded yet</source>
+        <translation type="unfinished">Tralascia i registri non ancora caricati</translation>
+    </message>
+    <message>
+        <source>Stop Loadin&amp;g</source>
+        <translation type="unfinished">Interrompi il caricamen&amp;to</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2176,6 +2223,14 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>The stops of %1 that are loaded can be played; the others follow</source>
         <translation type="unfinished">I registri già caricati di %1 si possono suonare; gli altri seguono</translation>
+    </message>
+    <message>
+        <source>Stop Loading</source>
+        <translation type="unfinished">Interrompi il caricamento</translation>
+    </message>
+    <message>
+        <source>Leave out the stops that are not loaded yet</source>
+        <translation type="unfinished">Tralascia i registri non ancora caricati</translation>
     </message>
 </context>
 <context>
@@ -2875,6 +2930,10 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>these are not the registrations of an organ</source>
         <translation type="unfinished">queste non sono le registrazioni di un organo</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load fewer of its stops</source>
+        <translation type="unfinished">servono circa %1 di memoria, ma solo %2 sono liberi; caricare meno registri</translation>
     </message>
 </context>
 <context>

@@ -77,6 +77,44 @@
         <source>Load with 16 &amp;Bits</source>
         <translation type="unfinished">16 ビットで読み込む(&amp;B)</translation>
     </message>
+    <message>
+        <source>Load as Many Stops as &amp;Fit</source>
+        <translation type="unfinished">入るだけのストップを読み込む(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Load with 16 &amp;Bits in Mono</source>
+        <translation type="unfinished">16 ビット、モノラルで読み込む(&amp;B)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stop(s) were not loaded</source>
+        <translation type="unfinished">
+            <numerusform>%n 個のストップが読み込まれませんでした</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This stop is being loaded. It sounds as soon as all its pipes are there.</source>
+        <translation type="unfinished">このストップは読み込み中です。すべてのパイプがそろうとすぐに鳴ります。</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because the loading was stopped.</source>
+        <translation type="unfinished">このストップは、読み込みが中止されたため、読み込まれていません。</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because only the drawn stops were loaded.</source>
+        <translation type="unfinished">このストップは、引いてあるストップだけを読み込んだため、読み込まれていません。</translation>
+    </message>
+    <message>
+        <source>This stop is not loaded, because it does not fit into the memory.</source>
+        <translation type="unfinished">このストップは、メモリに入らないため、読み込まれていません。</translation>
+    </message>
+    <message>
+        <source>None of the files of this stop can be used. The import report says why.</source>
+        <translation type="unfinished">このストップのファイルはどれも使えません。理由は「インポートの報告」にあります。</translation>
+    </message>
+    <message>
+        <source>Load Only the D&amp;rawn Stops</source>
+        <translation type="unfinished">引いてあるストップだけを読み込む(&amp;R)</translation>
+    </message>
 </context>
 <context>
     <name>deviceText</name>
@@ -1778,6 +1816,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Show the stops of the organ</source>
         <translation type="unfinished">オルガンのストップを表示します</translation>
     </message>
+    <message>
+        <source>Leave out the stops that are not loaded yet</source>
+        <translation type="unfinished">まだ読み込まれていないストップを除外します</translation>
+    </message>
+    <message>
+        <source>Stop Loadin&amp;g</source>
+        <translation type="unfinished">読み込みを中止(&amp;G)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2163,6 +2209,14 @@ Click to show all tunings</source>
     <message>
         <source>The stops of %1 that are loaded can be played; the others follow</source>
         <translation type="unfinished">%1 の読み込み済みのストップは演奏できます。残りは続けて読み込まれます</translation>
+    </message>
+    <message>
+        <source>Stop Loading</source>
+        <translation type="unfinished">読み込みを中止</translation>
+    </message>
+    <message>
+        <source>Leave out the stops that are not loaded yet</source>
+        <translation type="unfinished">まだ読み込まれていないストップを除外します</translation>
     </message>
 </context>
 <context>
@@ -2862,6 +2916,10 @@ Click to show all tunings</source>
     <message>
         <source>these are not the registrations of an organ</source>
         <translation type="unfinished">オルガンのレジストレーションではありません</translation>
+    </message>
+    <message>
+        <source>needs about %1 of memory, but only %2 are free; load fewer of its stops</source>
+        <translation type="unfinished">メモリが約 %1 必要ですが、空きは %2 だけです。ストップを減らして読み込んでください</translation>
     </message>
 </context>
 <context>

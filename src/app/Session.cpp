@@ -23,6 +23,9 @@ constexpr int kLastChoice = 65535;
 
 constexpr const char* kGeneralMidi = "General MIDI";
 
+/// The names of `StopsToLoad`, in its order.
+constexpr std::array<std::string_view, 3> kStopsToLoad{"all", "drawn", "fitting"};
+
 /// The latest position of a piece in steps, as in recovery files.
 constexpr double kLastStep = 1e12;
 
@@ -58,6 +61,9 @@ Json describe(const Session::Instrument& instrument, const std::filesystem::path
         file["plain"] = instrument.options.reading == Reading::Plain;
         file["asStops"] = instrument.options.asStops;
         file["choice"] = instrument.options.choice;
+        file["to16Bit"] = instrument.options.to16Bit;
+        file["toMono"] = instrument.options.toMono;
+        file["load"] = kStopsToLoad.at(static_cast<std::size_t>(instrument.options.stops));
         file["bank"] = instrument.bank;
         file["program"] = instrument.program;
     }
@@ -119,6 +125,16 @@ ImportOptions readOptions(const JsonField& instrument)
         options.asStops = asStops->boolean();
     if (const auto choice = instrument.find("choice"))
         options.choice = static_cast<std::size_t>(choice->integer(0, kLastChoice));
+    if (const auto to16Bit = instrument.find("to16Bit"))
+        options.to16Bit = to16Bit->boolean();
+    if (const auto toMono = instrument.find("toMono"))
+        options.toMono = toMono->boolean();
+    if (const auto load = instrument.find("load")) {
+        const auto* const stops = std::ranges::find(kStopsToLoad, load->text());
+        if (stops == kStopsToLoad.end())
+            load->refuse("which stops to load");
+        options.stops = static_cast<StopsToLoad>(stops - kStopsToLoad.begin());
+    }
     return options;
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "import/ImportReport.h"
+#include "sound/LoadState.h"
 
+#include <cstddef>
 #include <functional>
 
 namespace velmora {
@@ -10,8 +12,8 @@ namespace velmora {
 /// destroyed before the instrument.
 class BackgroundLoading {
 public:
-    /// Calls a change of the instrument while nobody plays it.
-    using Exclusively = std::function<void(const std::function<void()>& change)>;
+    /// Calls a change that adds a rank to the instrument while nobody plays it.
+    using Exclusively = std::function<void(std::size_t rank, const std::function<void()>& change)>;
 
     virtual ~BackgroundLoading() = default;
 
@@ -19,6 +21,9 @@ public:
     /// what is left out. Returns false when nothing is left to load. Throws FormatError and
     /// std::bad_alloc; it cannot go on then.
     virtual bool advance(ImportReport& report, const Exclusively& exclusively) = 0;
+
+    /// Reports the ranks that are not loaded as left out for that reason. It cannot go on then.
+    virtual void giveUp(LoadState why, ImportReport& report) = 0;
 
     /// How much is loaded, from 0 to 1.
     virtual double progress() const = 0;

@@ -3,8 +3,16 @@
 #include "base/Reading.h"
 
 #include <cstddef>
+#include <cstdint>
 
 namespace velmora {
+
+/// Which stops of an organ are loaded.
+enum class StopsToLoad : std::uint8_t {
+    All,
+    Drawn,   ///< Those that are drawn when the organ is opened.
+    Fitting, ///< As many as fit into the free memory: the drawn ones, then as the console has them.
+};
 
 /// What a user can choose about an import.
 struct ImportOptions {
@@ -21,6 +29,7 @@ struct ImportOptions {
     // To take less memory:
     bool to16Bit = false; ///< Rounds all samples to 16 bits.
     bool toMono = false;  ///< Mixes the channels of stereo samples.
+    StopsToLoad stops = StopsToLoad::All;
 
     bool operator==(const ImportOptions&) const = default;
 };

@@ -6,6 +6,7 @@
 #include "base/Log.h"
 #include "base/Text.h"
 #include "import/Import.h"
+#include "import/MemoryNeeds.h"
 #include "import/PipeOrgan.h"
 #include "import/gig.h"
 #include "import/hauptwerk1.h"
@@ -65,6 +66,8 @@ void readInto(Import& import, const std::filesystem::path& path, InstrumentForma
 
 void cleanReport(ImportReport& report)
 {
+    for (auto& [rank, why] : report.notLoaded)
+        rank = toUtf8(rank);
     for (auto& [file, why] : report.skipped) {
         file = toUtf8(file);
         why = toUtf8(why);
@@ -147,13 +150,29 @@ void InstrumentDocument::continueLoading(const BackgroundLoading::Exclusively& e
             instrument_->usage = ranks->usage;
         if (isUnfinished)
             return;
+        endLoading(LoadState::Loaded);
     } catch (const FormatError& error) {
         report_.skipped.emplace_back(path_.filename().string(), error.what());
+        endLoading(LoadState::Unusable);
     } catch (const MemoryShortage& shortage) {
         report_.skipped.emplace_back(path_.filename().string(), shortage.what());
+        endLoading(LoadState::TooLarge);
     } catch (const std::bad_alloc&) {
         report_.skipped.emplace_back(path_.filename().string(), kTooLarge);
+        endLoading(LoadState::TooLarge);
     }
+}
+
+void InstrumentDocument::stopLoading()
+{
+    if (background_)
+        endLoading(LoadState::Stopped);
+}
+
+/// Gives up what is not loaded, if anything is left, for that reason.
+void InstrumentDocument::endLoading(LoadState why)
+{
+    background_->giveUp(why, report_);
     background_.reset();
     cleanReport(report_);
     decodedSamples().trim();
@@ -163,6 +182,7 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
                               const ImportOptions& options, InstrumentHost& host)
 {
     errorString_.clear();
+    fitting_.clear();
     try {
         // See docs/decisions.md, 53.
         if (format == InstrumentFormat::Exs) {
@@ -193,6 +213,9 @@ bool InstrumentDocument::read(const std::filesystem::path& path, InstrumentForma
         return false;
     } catch (const FormatError& error) {
         errorString_ = error.inFile(path.filename().string());
+    } catch (const TooLarge& shortage) {
+        errorString_ = FormatError(shortage.what()).inFile(path.filename().string());
+        fitting_ = shortage.fitting();
     } catch (const MemoryShortage& shortage) {
         errorString_ = FormatError(shortage.what()).inFile(path.filename().string());
     } catch (const std::bad_alloc&) {

@@ -45,6 +45,9 @@ public:
     /// Frees the instrument with its samples, until it is reloaded, and stops loading it.
     void unload();
 
+    /// Leaves out what is not loaded yet. The report names it.
+    void stopLoading();
+
     /// How much of the instrument is loaded, from 0 to 1, while the rest is being loaded in the
     /// background; empty if nothing more follows.
     std::optional<double> loadingProgress() const;
@@ -55,6 +58,10 @@ public:
 
     /// A sentence that names the file and says why the last `read` failed; empty if it did not.
     const std::string& errorString() const { return errorString_; }
+
+    /// With which other options the last file would fit into the memory, the least loss first, if
+    /// the last `read` failed because it does not fit.
+    const std::vector<ImportOptions>& fitting() const { return fitting_; }
 
     /// What the last successful import loaded and skipped.
     const ImportReport& report() const { return report_; }
@@ -87,6 +94,8 @@ public:
 private:
     InstrumentDocument(std::unique_ptr<Instrument> instrument, std::string name);
 
+    void endLoading(LoadState why);
+
     std::unique_ptr<Instrument> instrument_;
     std::unique_ptr<BackgroundLoading> background_; ///< Null if everything is loaded.
     std::string name_;
@@ -94,6 +103,7 @@ private:
     InstrumentFormat format_ = InstrumentFormat::SoundFont;
     ImportOptions options_;
     std::string errorString_;
+    std::vector<ImportOptions> fitting_;
     ImportReport report_;
     std::vector<std::string> choices_;
 };

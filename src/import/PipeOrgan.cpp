@@ -47,11 +47,19 @@ struct LoadedVoice {
     std::vector<std::pair<std::size_t, std::string>> skipped;
 };
 
+/// Reports a rank as left out.
+void leaveOut(ALInstrument& instrument, std::size_t rank, LoadState why, ImportReport& report)
+{
+    instrument.setLoadState(rank, why);
+    report.notLoaded.emplace_back(std::as_const(instrument).stops()[rank].name, why);
+}
+
 /// Loads the recordings of an organ on several threads, and enters them rank by rank.
 class PipeOrganLoading : public BackgroundLoading {
 public:
-    PipeOrganLoading(PipeOrgan organ, Import& import)
-        : organ_(std::move(organ)), instrument_(*import.instrument), order_(orderOfRanks(organ_)),
+    /// `order` are the ranks to load.
+    PipeOrganLoading(PipeOrgan organ, std::vector<std::size_t> order, Import& import)
+        : organ_(std::move(organ)), instrument_(*import.instrument), order_(std::move(order)),
           list_(organ_, order_),
           loader_({list_.pipes.size(),
                    [this, options = import.decoding(),
@@ -87,7 +95,7 @@ public:
             if (voices_.size() % step() == 0)
                 import.host.updateProgress(static_cast<unsigned>(step()), lastFile_);
         }
-        enterRank(import.report, [](const auto& change) { change(); });
+        enterRank(import.report, [](std::size_t, const auto& change) { change(); });
         if (isDone())
             import.host.updateProgress(static_cast<unsigned>(voices_.size() % step()), organ_.name);
     }
@@ -107,6 +115,12 @@ public:
         return !isDone();
     }
 
+    void giveUp(LoadState why, ImportReport& report) override
+    {
+        for (; !isDone(); ++ranks_)
+            leaveOut(instrument_, order_[ranks_], why, report);
+    }
+
     double progress() const override
     {
         return static_cast<double>(voices_.size()) / static_cast<double>(list_.pipes.size());
@@ -122,10 +136,11 @@ private:
 
     void enterRank(ImportReport& report, const Exclusively& exclusively)
     {
-        const std::size_t rank = order_[ranks_++];
+        const std::size_t rank = order_[ranks_];
         const RankPitch pitch = pitchOf(rank);
-        exclusively([&] { enterPipes(rank, pitch, report); });
+        exclusively(rank, [&] { enterPipes(rank, pitch, report); });
         reportFiles(rank, report);
+        ++ranks_;
     }
 
     void enterPipes(std::size_t rank, const RankPitch& pitch, ImportReport& report)
@@ -140,8 +155,9 @@ private:
             enter(pipe, voices_[voices[i]], pitch, sample);
             ++report.pipes;
         }
-        if (stop.keysWithSamples() > 0)
-            ++report.ranks;
+        const bool isUsable = stop.keysWithSamples() > 0;
+        stop.loadState = isUsable ? LoadState::Loaded : LoadState::Unusable;
+        report.ranks += isUsable ? 1 : 0;
     }
 
     /// Waits for the next voice and gives its sounds to the instrument.
@@ -311,19 +327,27 @@ void loadPipeOrgan(PipeOrgan organ, Import& import)
 {
     if (organ.files.empty())
         throw FormatError("cannot be played: no pipe has a sample file");
-    requireMemory(organ, import);
     import.name = organ.name;
     import.report.skipped = organ.skipped;
     import.console = organ.console;
     drawOpeningStops(organ.console, [&](const auto& stop) { return hasFile(stop, organ); });
+    const std::vector<PlannedRank> plan = planRanks(organ, import);
     for (const PipeOrgan::Rank& rank : organ.ranks) {
         InstrumentStop& stop = import.instrument->appendStop(rank.name);
+        stop.loadState = LoadState::Loading;
         if (rank.division)
             stop.swell = static_cast<std::uint8_t>(std::min<std::size_t>(*rank.division + 1, 255));
     }
+    std::vector<std::size_t> order;
+    for (const auto& [rank, state] : plan) {
+        if (state == LoadState::Loading)
+            order.push_back(rank);
+        else
+            leaveOut(*import.instrument, rank, state, import.report);
+    }
     if (import.host.loadsInBackground())
         import.instrument->renderer().reserve(organ.files.size(), packedSize(organ));
-    auto loading = std::make_unique<PipeOrganLoading>(std::move(organ), import);
+    auto loading = std::make_unique<PipeOrganLoading>(std::move(organ), std::move(order), import);
     loadRanks(*loading, import);
     if (import.report.pipes == 0) {
         const auto& [file, reason] = import.report.skipped.back();

@@ -29,6 +29,9 @@ public:
     std::vector<InstrumentStop>& stops();
     const std::vector<InstrumentStop>& stops() const { return stops_; }
 
+    /// Notes whether the pipes of a stop are in memory. May be called while others play.
+    void setLoadState(std::size_t stop, LoadState state) { stops_.at(stop).loadState = state; }
+
     /// The decoded sounds by the names that the importer gives them, so that a sound used by
     /// several keys is decoded once.
     std::map<std::string, std::unique_ptr<Sound>> sounds;

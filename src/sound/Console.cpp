@@ -176,6 +176,32 @@ void Console::drawCoupler(std::size_t coupler, bool isDrawn)
     });
 }
 
+void Console::startRank(std::size_t rank)
+{
+    if (rank >= wanted_.size() / kKeys)
+        return;
+    const auto isOfRank = [&](Pipe pipe) { return pipe / kKeys == rank; };
+    std::array<bool, kKeys> isStarted{};
+    const auto start = [&](std::size_t stop, int key, float velocity) {
+        const Trackers& trackers = trackers_[stop];
+        const auto slot = static_cast<std::size_t>(key);
+        for (std::size_t i = trackers.begins[slot]; i < trackers.begins[slot + 1]; ++i) {
+            const Pipe pipe = trackers.pipes[i];
+            if (isOfRank(pipe) && !std::exchange(isStarted[pipe % kKeys], true))
+                chest_.startPipe(rank, static_cast<int>(pipe % kKeys), velocity,
+                                 state_.gains[stop]);
+        }
+    };
+    for (std::size_t from = 0; from < manuals_.size(); ++from)
+        forEachHeldKey(manuals_[from], [&](int key, float velocity) {
+            forEachRoute(from, key, [&](std::size_t division, int sounding) {
+                for (const std::size_t stop : manuals_[division].stops)
+                    if (state_.drawn.stops[stop])
+                        start(stop, sounding, velocity);
+            });
+        });
+}
+
 void Console::setGain(std::size_t stop, float gain)
 {
     if (stop < state_.gains.size())

@@ -45,6 +45,9 @@ public:
     /// Sets the gain, 0…1, of the pipes that a stop starts from now on.
     void setGain(std::size_t stop, float gain);
 
+    /// Starts the pipes of a rank that held keys ask for, after it was added to the chest.
+    void startRank(std::size_t rank);
+
     /// Opens the swell of a division, from 0 for closed to 1 for open.
     void openSwell(std::size_t division, float opening);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sound/LoadState.h"
 #include "sound/Sample.h"
 #include "sound/keys.h"
 
@@ -23,9 +24,10 @@ struct InstrumentStop {
     /// The number of keys that have a sample.
     std::size_t keysWithSamples() const;
 
-    std::string name;       ///< Empty if the file gives none.
-    float volume = 0.0F;    ///< The gain; a stop at 0 is silent.
-    std::uint8_t swell = 0; ///< The group of stops whose gain it follows.
+    std::string name;                        ///< Empty if the file gives none.
+    float volume = 0.0F;                     ///< The gain; a stop at 0 is silent.
+    std::uint8_t swell = 0;                  ///< The group of stops whose gain it follows.
+    LoadState loadState = LoadState::Loaded; ///< Main thread only.
     std::array<Sample, kKeys> samples;
     std::bitset<kKeys> extended; ///< The keys whose sound was set by `extend`.
 };

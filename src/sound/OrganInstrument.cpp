@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 namespace velmora {
@@ -44,6 +45,20 @@ void OrganInstrument::setVolume(std::size_t stop, float volume)
 std::string OrganInstrument::stopName(std::size_t stop) const
 {
     return stop < numStops() ? console_.definition().stops[stop].name : "";
+}
+
+LoadState OrganInstrument::loadState(std::size_t stop) const
+{
+    const auto& ranks = std::as_const(*ranks_).stops();
+    std::optional<LoadState> result;
+    for (const ConsoleDefinition::Pipes& pipes : console_.definition().stops.at(stop).pipes) {
+        const LoadState state = ranks.at(pipes.rank).loadState;
+        if (state == LoadState::Loading)
+            return state;
+        if (!result || state == LoadState::Loaded)
+            result = state;
+    }
+    return result.value_or(LoadState::Loaded);
 }
 
 void OrganInstrument::playOn(std::size_t division, int key, float velocity)

@@ -32,6 +32,13 @@ public:
     std::size_t numStops() const override { return console_.definition().stops.size(); }
     std::string stopName(std::size_t stop) const override;
 
+    /// Returns whether the pipes of a stop are in memory: `Loaded` if a rank of it is and none of
+    /// them is still to come. Main thread only.
+    LoadState loadState(std::size_t stop) const;
+
+    /// Lets the pipes of a rank speak that held keys ask for, after the rank was loaded and tuned.
+    void startRank(std::size_t rank) { console_.startRank(rank); }
+
     std::size_t numDivisions() const override { return console_.definition().divisions.size(); }
     std::size_t mainDivision() const override { return mainDivision_; }
     void playOn(std::size_t division, int key, float velocity) override;

@@ -100,6 +100,37 @@ TEST_F(InstrumentLoaderTest, LoadsTheRestAndTunesIt)
     EXPECT_NE(pipe(1).factor(), 1.0F);
 }
 
+TEST_F(InstrumentLoaderTest, LetsAHeldKeySpeakOnAStopThatComesLater)
+{
+    app_.addInstrument(read());
+    app_.organ().draw(1, true);
+    app_.player().keyOn(61, 1.0F);
+    EXPECT_FALSE(pipe(1).isPlaying());
+    finishLoading();
+    EXPECT_TRUE(pipe(1).isPlaying());
+    app_.player().keyOff(61);
+    EXPECT_TRUE(pipe(1).released());
+}
+
+TEST_F(InstrumentLoaderTest, LeavesOutWhatIsNotLoadedWhenTheUserStopsIt)
+{
+    const auto organ = [&]() -> const OrganInstrument& {
+        return dynamic_cast<const OrganInstrument&>(*listed().instrument());
+    };
+    app_.addInstrument(read());
+    EXPECT_EQ(organ().loadState(0), LoadState::Loaded);
+    EXPECT_EQ(organ().loadState(1), LoadState::Loading);
+    EXPECT_TRUE(app_.loader().isLoading());
+    app_.loader().stop();
+    EXPECT_FALSE(app_.loader().isLoading());
+    EXPECT_THAT(finished_, ElementsAre(&listed()));
+    EXPECT_EQ(organ().loadState(1), LoadState::Stopped);
+    EXPECT_THAT(listed().report().notLoaded, ElementsAre(Pair("Second", LoadState::Stopped)));
+    app_.player().keyOn(61, 1.0F);
+    EXPECT_TRUE(pipe(0).isPlaying());
+    app_.player().keyOff(61);
+}
+
 TEST_F(InstrumentLoaderTest, ForgetsWhatIsReplacedOrUnloaded)
 {
     app_.addInstrument(read());

@@ -62,9 +62,13 @@ TEST(Session, KeepsEveryFieldInItsFile)
 {
     const std::filesystem::path odd = "/organs/100%25 f\xFCr \"Anna\"/a.organ";
     Session session;
-    session.instruments = {
-        {{}, {}, {}, {0.5F}},
-        {odd, InstrumentFormat::Hauptwerk1, {Reading::Plain, true, 3}, {0.25F, 1.0F}, 128, 25}};
+    session.instruments = {{{}, {}, {}, {0.5F}},
+                           {odd,
+                            InstrumentFormat::Hauptwerk1,
+                            {Reading::Plain, true, 3, true, false, StopsToLoad::Fitting},
+                            {0.25F, 1.0F},
+                            128,
+                            25}};
     session.instruments[1].console = {{{false, true}, {true}}, {0.25F, 1.0F}, {0.5F}};
     session.instruments[1].gains.clear();
     session.currentInstrument = 1;

@@ -10,6 +10,9 @@
 
 namespace velmora {
 
+using testing::ElementsAre;
+using testing::Pair;
+
 namespace {
 
 constexpr std::uint64_t kMega = 1 << 20;
@@ -24,8 +27,15 @@ void writeSound(const std::filesystem::path& path, int format, int channels)
     sf_close(file);
 }
 
-/// Returns what is said about an organ of two ranks that share a file, with so much memory.
-std::string said(const OrganFolder& folder, std::uint64_t free, ImportOptions options = {})
+/// What becomes of an organ of two ranks that share a file.
+struct Outcome {
+    std::string said = "fits";
+    std::vector<ImportOptions> fitting;
+    std::vector<PlannedRank> plan;
+};
+
+/// Plans the organ with so much memory. Its first rank is drawn, by the second stop.
+Outcome planned(const OrganFolder& folder, std::uint64_t free, ImportOptions options = {})
 {
     PipeOrgan organ;
     organ.tree = openFolder(folder.path());
@@ -35,16 +45,21 @@ std::string said(const OrganFolder& folder, std::uint64_t free, ImportOptions op
         for (const std::size_t file : files)
             rank.pipes.emplace_back().attacks.emplace_back().file = file;
     }
+    organ.console.stops = {{"", 0, {{0, 1, 1, 0}}, false}, {"", 0, {{0, 1, 0, 0}}, true}};
     RecordingHost host;
     Import import(host, options);
     MemoryGuard memory([free] { return free * 8 / 7 + 8; });
     import.memory = &memory;
+    Outcome outcome;
     try {
-        requireMemory(organ, import);
-        return "fits";
+        outcome.plan = planRanks(organ, import);
+    } catch (const TooLarge& shortage) {
+        outcome.said = shortage.what();
+        outcome.fitting = shortage.fitting();
     } catch (const MemoryShortage& shortage) {
-        return shortage.what();
+        outcome.said = shortage.what();
     }
+    return outcome;
 }
 
 } // namespace
@@ -58,7 +73,7 @@ TEST(MemoryNeeds, AreSaidBeforeAnOrganIsLoadedWithWhatWouldFit)
     writeSound(folder.path() / "c.flac", SF_FORMAT_FLAC | SF_FORMAT_PCM_24, 1);
     const std::uint64_t all = 4 * (2 * 240'000 + 240'000);
     const auto with = [&](std::uint64_t bytes, ImportOptions options = {}) {
-        return said(folder, bytes, options);
+        return planned(folder, bytes, options).said;
     };
     EXPECT_EQ(with(64 * kMega), "fits");
     EXPECT_EQ(with(all), "fits");
@@ -68,7 +83,22 @@ TEST(MemoryNeeds, AreSaidBeforeAnOrganIsLoadedWithWhatWouldFit)
                                                          "takes 1 MB"));
     EXPECT_THAT(with(all / 4 * 2 - 9, {.to16Bit = true}),
                 testing::EndsWith("load it in mono, which takes 1 MB"));
-    EXPECT_THAT(with(all / 4), testing::EndsWith("close other programs"));
+    EXPECT_THAT(with(all / 8), testing::EndsWith("close other programs"));
+
+    const std::uint64_t drawn = all / 3 * 2; // the stereo files
+    EXPECT_THAT(planned(folder, drawn).fitting,
+                ElementsAre(ImportOptions{.to16Bit = true},
+                            ImportOptions{.stops = StopsToLoad::Drawn},
+                            ImportOptions{.stops = StopsToLoad::Fitting}));
+    EXPECT_THAT(planned(folder, drawn - 9, {.to16Bit = true, .toMono = true}).said, "fits");
+    constexpr LoadState kLoading = LoadState::Loading;
+    EXPECT_THAT(planned(folder, drawn, {.stops = StopsToLoad::Drawn}).plan,
+                ElementsAre(Pair(0, kLoading), Pair(1, LoadState::Unwanted)));
+    EXPECT_THAT(planned(folder, drawn, {.stops = StopsToLoad::Fitting}).plan,
+                ElementsAre(Pair(0, kLoading), Pair(1, LoadState::TooLarge)));
+    EXPECT_THAT(planned(folder, all, {.stops = StopsToLoad::Fitting}).plan,
+                ElementsAre(Pair(0, kLoading), Pair(1, kLoading)));
+    EXPECT_THAT(with(drawn - 9, {.stops = StopsToLoad::Drawn}), testing::HasSubstr("only 2 MB"));
 }
 
 } // namespace velmora

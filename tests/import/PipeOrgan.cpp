@@ -258,7 +258,7 @@ TEST(PipeOrgan, CanBePlayedWhileItIsLoaded)
     });
     int changes = 0;
     for (int i = 0; document.loadingProgress(); ++i) {
-        document.continueLoading([&](const auto& change) {
+        document.continueLoading([&](std::size_t, const auto& change) {
             change();
             instrument.tune(equal, 0, 127);
             ++changes;

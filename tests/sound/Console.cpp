@@ -135,6 +135,25 @@ TEST_F(ConsoleTest, RecallsRegistrationsWithoutStartingCommonPipesAgain)
     EXPECT_EQ(swell_, "0 1.00, 1 0.25, 2 0.50, ");
 }
 
+TEST_F(ConsoleTest, ARankThatComesLaterSpeaksOnceForEachHeldKey)
+{
+    console_.draw(kPrincipal, true);
+    console_.draw(kMixture, true);
+    console_.drawCoupler(kSwellToGreat, true);
+    console_.press(kGreat, 60, 1.0F);
+    console_.press(kGreat, 62, 1.0F);
+    console_.release(kGreat, 62);
+    const Pipes wanted = std::exchange(pipes_, {}); // as if they had not been there
+    EXPECT_EQ(wanted, (Pipes{{0, 60}, {0, 72}, {1, 60}}));
+    console_.startRank(0);
+    EXPECT_EQ(pipes_, (Pipes{{0, 60}, {0, 72}}));
+    console_.startRank(1);
+    console_.startRank(2);
+    EXPECT_EQ(pipes_, wanted);
+    console_.release(kGreat, 60);
+    EXPECT_EQ(pipes_, Pipes());
+}
+
 TEST_F(ConsoleTest, ForgottenKeysLeaveNothingBehind)
 {
     console_.press(kSwell, 60, 1.0F);

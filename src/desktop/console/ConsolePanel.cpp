@@ -51,6 +51,8 @@ ConsolePanel::ConsolePanel(AppDelegate& application, ConsoleActions& actions)
     connect(view_, &ConsoleView::swellMoved, &organ, &OrganConsole::openSwell);
     connect(&organ, &OrganConsole::moved, this, &ConsolePanel::showStates);
     connect(&application_, &AppDelegate::instrumentChanged, this, &ConsolePanel::showInstrument);
+    connect(&application_.loader(), &InstrumentLoader::stopsChanged, this,
+            &ConsolePanel::showLoadStates);
     connect(&application_, &AppDelegate::volumeMoved, this, &ConsolePanel::showVolume);
     connect(actions.manuals, &QAction::triggered, this,
             [this] { ManualsDialog(application_, window()).exec(); });
@@ -94,6 +96,16 @@ void ConsolePanel::showOrgan()
                          organ.couplers[i].from});
     view_->showKnobs(divisions, knobs, ConsoleView::Swells::Shown);
     showStates();
+    showLoadStates();
+}
+
+void ConsolePanel::showLoadStates()
+{
+    application_.player().with([&](const Instrument& instrument, const Temperament&) {
+        const auto* organ = dynamic_cast<const OrganInstrument*>(&instrument);
+        for (std::size_t i = 0; organ != nullptr && i < organ->numStops(); ++i)
+            view_->showLoadState(i, organ->loadState(i));
+    });
 }
 
 void ConsolePanel::showStops()

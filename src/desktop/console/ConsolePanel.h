@@ -33,6 +33,7 @@ private:
     void showOrgan();
     void showStops();
     void showStates();
+    void showLoadStates();
     void draw(Drawknob::Kind kind, std::size_t number, bool isDrawn);
     void setVolume(std::size_t stop, float volume);
     void showVolume(std::size_t stop, float volume);

@@ -118,6 +118,13 @@ void ConsoleView::showState(Drawknob::Kind kind, std::size_t number, bool isDraw
             drawknobs_[i]->showState(isDrawn, volume);
 }
 
+void ConsoleView::showLoadState(std::size_t stop, LoadState state)
+{
+    for (std::size_t i = 0; i < knobs_.size(); ++i)
+        if (knobs_[i].kind == Drawknob::Kind::Stop && knobs_[i].number == stop)
+            drawknobs_[i]->showLoadState(state);
+}
+
 void ConsoleView::showSwell(std::size_t division, float opening)
 {
     if (division >= divisions_.size() || divisions_[division].swell == nullptr)

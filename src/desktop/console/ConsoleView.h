@@ -44,6 +44,9 @@ public:
     /// Shows the state of a stop or coupler, and the volume of a stop from 0 to 1.
     void showState(Drawknob::Kind kind, std::size_t number, bool isDrawn, float volume);
 
+    /// Shows whether a stop is in memory.
+    void showLoadState(std::size_t stop, LoadState state);
+
     /// Shows how far a swell is open, from 0 to 1.
     void showSwell(std::size_t division, float opening);
 

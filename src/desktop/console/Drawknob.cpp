@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "desktop/widgets/LearnMenu.h"
+#include "desktop/widgets/stopTitle.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -50,8 +51,22 @@ void Drawknob::showState(bool isDrawn, float volume)
     update();
 }
 
+void Drawknob::showLoadState(LoadState state)
+{
+    loadState_ = state;
+    nameState();
+    update();
+}
+
 void Drawknob::nameState()
 {
+    if (loadState_ != LoadState::Loaded) {
+        const QString why = loadStateText(loadState_);
+        setToolTip(name_ + "\n" + why);
+        setAccessibleDescription(why);
+        return;
+    }
+    setAccessibleDescription({});
     setToolTip(kind_ == Kind::Stop ? tr("%1, volume %2 %\nA click draws it or pushes it in, a "
                                         "right click changes its volume")
                                          .arg(name_)
@@ -102,15 +117,18 @@ void Drawknob::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool isDrawn = isChecked();
+    const bool isLoaded = loadState_ == LoadState::Loaded;
+    const QPalette::ColorGroup group = isLoaded ? QPalette::Active : QPalette::Disabled;
     const QPalette::ColorRole face = isDrawn ? QPalette::Highlight : QPalette::Button;
-    const QColor ink = palette().color(isDrawn ? QPalette::HighlightedText : QPalette::ButtonText);
+    const QColor ink =
+        palette().color(group, isDrawn ? QPalette::HighlightedText : QPalette::ButtonText);
     const qreal frame = isDrawn || underMouse() ? 2.0 : 1.0;
     const QRectF body = QRectF(rect()).adjusted(2, 2, -2, -2);
     painter.setPen(QPen(hasFocus() ? palette().color(QPalette::WindowText)
                         : isDrawn  ? ink
                                    : palette().color(QPalette::Mid),
                         hasFocus() ? 3.0 : frame, hasFocus() ? Qt::DotLine : Qt::SolidLine));
-    painter.setBrush(palette().color(face));
+    painter.setBrush(palette().color(group, face));
     painter.drawRoundedRect(body, kCorner, kCorner);
 
     // The mark: a filled ring when it is drawn.

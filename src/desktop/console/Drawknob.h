@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sound/LoadState.h"
+
 #include <QAbstractButton>
 
 class QMenu;
@@ -25,6 +27,9 @@ public:
 
     /// Shows another state.
     void showState(bool isDrawn, float volume);
+
+    /// Shows whether the stop is in memory. One that is not is grey; it can be drawn nevertheless.
+    void showLoadState(LoadState state);
 
     const QString& name() const { return name_; }
 
@@ -54,6 +59,7 @@ private:
     Kind kind_;
     QString name_;
     int percent_ = 0;
+    LoadState loadState_ = LoadState::Loaded;
 };
 
 } // namespace velmora

@@ -50,6 +50,20 @@ void addImportChoices(QMenu& menu, const InstrumentDocument& document,
         &ImportOptions::to16Bit);
     add(QObject::tr("Load in &Mono"), QObject::tr("Stereo samples take half the memory"),
         &ImportOptions::toMono);
+    const bool isOrgan = isMusical && (document.format() == InstrumentFormat::HauptwerkXml ||
+                                       document.format() == InstrumentFormat::Hauptwerk1 ||
+                                       document.format() == InstrumentFormat::OrganPackage);
+    const auto addStops = [&](const QString& text, StopsToLoad stops) {
+        ImportOptions changed = options;
+        changed.stops = options.stops == stops ? StopsToLoad::All : stops;
+        QAction* action = menu.addAction(text, &menu, [reopen, changed] { reopen(changed); });
+        action->setCheckable(true);
+        action->setChecked(options.stops == stops);
+    };
+    if (isOrgan) {
+        addStops(QObject::tr("Load Only the D&rawn Stops"), StopsToLoad::Drawn);
+        addStops(QObject::tr("Load as Many Stops as &Fit"), StopsToLoad::Fitting);
+    }
     menu.setToolTipsVisible(true);
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "desktop/instruments/ProgressWindow.h"
+#include "desktop/instruments/askWhatToLoad.h"
 #include "desktop/instruments/importReport.h"
 #include "desktop/widgets/messages.h"
 #include "platform/pathNames.h"
@@ -20,8 +21,15 @@ std::unique_ptr<InstrumentDocument>
 InstrumentOpener::read(const QString& path, InstrumentFormat format, const ImportOptions& options)
 {
     auto document = std::make_unique<InstrumentDocument>();
-    const bool isRead = document->read(pathOf(path), format, options, application_);
+    bool isRead = document->read(pathOf(path), format, options, application_);
     progress_.endProgress();
+    while (!isRead && !document->fitting().empty()) {
+        const auto choice = askWhatToLoad(translated(document->errorString()), document->fitting());
+        if (!choice)
+            return nullptr;
+        isRead = document->read(pathOf(path), format, *choice, application_);
+        progress_.endProgress();
+    }
     if (isRead && document->instrument() != nullptr)
         return document;
     if (isRead)
@@ -61,7 +69,12 @@ bool InstrumentOpener::select(std::size_t position)
 {
     const bool isSelected = application_.selectInstrument(position);
     progress_.endProgress();
-    const std::string& error = application_.instruments().at(position)->errorString();
+    const InstrumentDocument& document = *application_.instruments().at(position);
+    const std::string& error = document.errorString();
+    if (!isSelected && !document.fitting().empty()) {
+        const auto choice = askWhatToLoad(translated(error), document.fitting());
+        return choice && reopen(position, *choice);
+    }
     if (!isSelected && !error.empty())
         emit failed(translated(error));
     return isSelected;
@@ -69,10 +82,16 @@ bool InstrumentOpener::select(std::size_t position)
 
 void InstrumentOpener::describe(const InstrumentDocument& document)
 {
+    if (document.loadingProgress())
+        return; // The message would cover the progress, and is not complete yet.
     const QString name = displayName(document.path());
     const std::size_t skipped = document.report().skipped.size();
     const int choices = static_cast<int>(document.choices().size());
-    if (skipped > 0)
+    const std::size_t notLoaded = document.report().notLoaded.size();
+    if (notLoaded > 0)
+        emit message(tr("%1: %2; see Import Report in the Instruments window")
+                         .arg(name, notLoadedText(notLoaded)));
+    else if (skipped > 0)
         emit message(tr("%1: %2; see Import Report in the Instruments window")
                          .arg(name, leftOutText(skipped)));
     else if (choices > 1)

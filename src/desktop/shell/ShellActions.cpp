@@ -86,6 +86,9 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
           "sound.silence", soundGroup(),
           {tr("&Silence Everything"), tr("Stop every sound and release every key"), "panic"},
           {Qt::CTRL | Qt::Key_Period})),
+      stopLoading(
+          commands.add("sound.stopLoading", soundGroup(),
+                       {tr("Stop Loadin&g"), tr("Leave out the stops that are not loaded yet")})),
       transposeUp(commands.add("sound.transposeUp", soundGroup(), {tr("Transpose &Up"), {}},
                                {Qt::CTRL | Qt::SHIFT | Qt::Key_Up})),
       transposeDown(commands.add("sound.transposeDown", soundGroup(), {tr("Transpose &Down"), {}},
@@ -147,6 +150,14 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
         action->setCheckable(true);
     for (QAction* action : {save, saveAs, exportAudio, close, ownWindow})
         action->setEnabled(false); // until there is a piece
+
+    InstrumentLoader& loader = application_.loader();
+    const auto allowStopping = [this] {
+        stopLoading->setEnabled(application_.loader().isLoading());
+    };
+    connect(stopLoading, &QAction::triggered, &loader, &InstrumentLoader::stop);
+    connect(&loader, &InstrumentLoader::progressed, this, allowStopping);
+    allowStopping();
 
     connect(recent_.get(), &QMenu::aboutToShow, this, &ShellActions::showRecent);
     connect(instruments_.get(), &QMenu::aboutToShow, this, &ShellActions::showInstruments);
@@ -253,7 +264,7 @@ void ShellActions::showInstruments()
     instruments_->addSeparator();
     instruments_->addActions({instrument, instrumentsWindow});
     instruments_->addSeparator();
-    instruments_->addActions({transposeUp, transposeDown, silence});
+    instruments_->addActions({transposeUp, transposeDown, silence, stopLoading});
 }
 
 void ShellActions::showTunings()

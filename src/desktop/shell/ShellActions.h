@@ -31,6 +31,7 @@ public:
                                                                               *const exportAudio;
     QAction *const close, *const preferences, *const quit;
     QAction* const silence;                           ///< Stops every sound at once.
+    QAction* const stopLoading;                       ///< Leaves out what is not loaded yet.
     QAction *const transposeUp, *const transposeDown; ///< By a semitone.
     QAction *const keyboard, *const instrument, *const tuning,
                                                     *const console; ///< Show or hide the panels.

@@ -30,7 +30,8 @@ QString describe(const OutputStatus& output)
 } // namespace
 
 StatusLine::StatusLine(AppDelegate& application)
-    : application_(application), noticesButton_(new QToolButton)
+    : application_(application), noticesButton_(new QToolButton),
+      stopLoadingButton_(new QToolButton)
 {
     noticesButton_->setIcon(icon("warning"));
     noticesButton_->setAutoRaise(true);
@@ -50,6 +51,13 @@ StatusLine::StatusLine(AppDelegate& application)
     loading_ = new StatusItem(tr("Loading"));
     insertWidget(kBeforeTheOthers, loading_);
     connect(loading_, &QToolButton::clicked, this, &StatusLine::instrumentClicked);
+    stopLoadingButton_->setText(tr("Stop Loading"));
+    stopLoadingButton_->setToolTip(tr("Leave out the stops that are not loaded yet"));
+    stopLoadingButton_->setFocusPolicy(Qt::TabFocus);
+    stopLoadingButton_->hide();
+    insertWidget(kBeforeTheOthers + 1, stopLoadingButton_);
+    connect(stopLoadingButton_, &QToolButton::clicked, &application_.loader(),
+            &InstrumentLoader::stop);
     connect(&application_, &AppDelegate::instrumentChanged, this, &StatusLine::showSound);
     connect(&application_, &AppDelegate::programSelected, this, &StatusLine::showSound);
     connect(&application_.tunings(), &Tunings::changed, this, &StatusLine::showSound);
@@ -75,7 +83,8 @@ void StatusLine::showLoading(const QString& title, int percent)
             tr("%1 % loaded").arg(percent),
             tr("The stops of %1 that are loaded can be played; the others follow").arg(instrument));
     else
-        loading_->hide();
+        loading_->show({}, {});
+    showItem(*stopLoadingButton_, application_.loader().isLoading());
 }
 
 void StatusLine::showSound()

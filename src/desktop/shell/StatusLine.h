@@ -46,7 +46,7 @@ private:
 
     AppDelegate& application_;
     StatusItem *instrument_, *tuning_, *reading_, *output_, *inputs_, *loading_;
-    QToolButton* noticesButton_;
+    QToolButton *noticesButton_, *stopLoadingButton_;
     QStringList notices_;
     QString missingOutput_; ///< The notice about the output; empty if none is missing.
 };

@@ -61,6 +61,8 @@ constexpr const char* kMessages[] = {
     QT_TRANSLATE_NOOP("velmora::messages", "needs about %1 of memory, but only %2 are free; "
                                            "load it with 16 bits and in mono, which takes %3"),
     QT_TRANSLATE_NOOP("velmora::messages", "needs about %1 of memory, but only %2 are free; "
+                                           "load fewer of its stops"),
+    QT_TRANSLATE_NOOP("velmora::messages", "needs about %1 of memory, but only %2 are free; "
                                            "unload other instruments or close other programs"),
     QT_TRANSLATE_NOOP("velmora::messages", "is damaged or cut short"),
     QT_TRANSLATE_NOOP("velmora::messages", "is cut short"),

@@ -19,6 +19,27 @@ QString stopTitle(const Instrument& instrument, std::size_t stop)
     return instrument.numStops() > 1 ? QObject::tr("Stop %1").arg(stop + 1) : QObject::tr("Volume");
 }
 
+QString loadStateText(LoadState state)
+{
+    switch (state) {
+    case LoadState::Loaded:
+        return {};
+    case LoadState::Loading:
+        return QObject::tr("This stop is being loaded. It sounds as soon as all its pipes are "
+                           "there.");
+    case LoadState::Stopped:
+        return QObject::tr("This stop is not loaded, because the loading was stopped.");
+    case LoadState::Unwanted:
+        return QObject::tr("This stop is not loaded, because only the drawn stops were loaded.");
+    case LoadState::TooLarge:
+        return QObject::tr("This stop is not loaded, because it does not fit into the memory.");
+    case LoadState::Unusable:
+        return QObject::tr("None of the files of this stop can be used. The import report says "
+                           "why.");
+    }
+    return {};
+}
+
 bool isPlayedFromConsole(AppDelegate& application)
 {
     std::size_t stops = 0;

@@ -1,14 +1,17 @@
 #include "desktop/shell/StatusLine.h"
 
+#include "desktop/console/Drawknob.h"
 #include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/shell/Desktop.h"
 #include "desktop/shell/StatusItem.h"
 #include "desktop/tuning/TuningPanel.h"
 #include "desktop/widgets/deviceText.h"
 #include "preferences/Preferences.h"
+#include "support/OrganFolder.h"
 #include "support/RecordingInstrument.h"
 
 #include <QCheckBox>
+#include <QToolButton>
 #include <QtTest>
 #include <gmock/gmock.h>
 
@@ -76,6 +79,35 @@ TEST_F(StatusLineTest, ShowsWhatPlaysAndWhatIsMissing)
     desktop.workspace().status().clearMessage();
     EXPECT_TRUE(item.isVisible());
     desktop.application().selectInstrument(0);
+}
+
+TEST_F(StatusLineTest, StopsTheLoadingOfAnOrgan)
+{
+    const OrganFolder folder;
+    folder.writeSine("a.wav", 261.6);
+    const auto organ = folder.write("a.organ", "[Organ]\nChurchName=Church\n"
+                                               "[Manual001]\nFirstAccessibleKeyMIDINoteNumber=36\n"
+                                               "Stop001=1\nStop002=2\n"
+                                               "[Stop001]\nName=First\nPipe026=a.wav\n"
+                                               "[Stop002]\nName=Second\nPipe026=a.wav\n");
+    const auto visibleButton = [&]() -> QToolButton* {
+        for (auto* button : desktop.workspace().status().findChildren<QToolButton*>())
+            if (button->text() == "Stop Loading" && !button->isHidden())
+                return button;
+        return nullptr;
+    };
+    EXPECT_EQ(visibleButton(), nullptr);
+    desktop.open({QString::fromStdString(organ.string())});
+    ASSERT_NE(visibleButton(), nullptr);
+    visibleButton()->click();
+    EXPECT_EQ(visibleButton(), nullptr);
+    EXPECT_EQ(desktop.workspace().status().currentMessage(),
+              "a.organ: 1 stop was not loaded; see Import Report in the Instruments window");
+    std::vector<std::string> states;
+    for (const auto* knob : desktop.workspace().findChildren<Drawknob*>())
+        states.push_back(knob->accessibleDescription().toStdString());
+    EXPECT_THAT(states, ElementsAre("", "This stop is not loaded, because the loading was "
+                                        "stopped."));
 }
 
 TEST_F(StatusLineTest, LeadsToWhatItShows)
