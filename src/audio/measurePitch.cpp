@@ -22,9 +22,9 @@ constexpr double kTurn = 2.0 * std::numbers::pi;
 /// keeps its neighbours out: they are twice as far away as the window reaches.
 constexpr double kLeastPeriods = 8.0;
 /// Longer windows keep more noise out, but must reach half a semitone around the last partial.
-constexpr double kMostPeriods = 20.0;
+constexpr double kMostPeriods = 11.0;
 constexpr double kUsualWindow = 0.03;       ///< In seconds.
-constexpr std::size_t kWindowsInWindow = 8; ///< How many begin within the length of one.
+constexpr std::size_t kWindowsInWindow = 4; ///< How many begin within the length of one.
 constexpr std::size_t kLeastWindows = 8;
 
 constexpr int kPartials = 6; ///< The lowest ones, which the ear follows.
@@ -35,28 +35,36 @@ constexpr double kFarWeaker = 0.01;
 
 constexpr double kRange = 50.0; ///< In cents.
 
-/// Returns a weight of a Blackman-Harris window, whose place is from 0 to 1.
-double weightAt(double place)
+/// Returns a Blackman-Harris window.
+std::vector<double> windowOf(std::size_t frames)
 {
-    return 0.35875 - 0.48829 * std::cos(kTurn * place) + 0.14128 * std::cos(2.0 * kTurn * place) -
-           0.01168 * std::cos(3.0 * kTurn * place);
+    std::vector<double> window(frames);
+    for (std::size_t i = 0; i < frames; ++i) {
+        const double turn = kTurn * (static_cast<double>(i) + 0.5) / static_cast<double>(frames);
+        window[i] = 0.35875 - 0.48829 * std::cos(turn) + 0.14128 * std::cos(2.0 * turn) -
+                    0.01168 * std::cos(3.0 * turn);
+    }
+    return window;
 }
 
 /// Amplitudes and phases of a partial, window by window.
 class Partial {
 public:
-    Partial(std::span<const float> sound, double rate, double hertz, std::size_t window)
-        : hop_(std::max<std::size_t>(1, window / kWindowsInWindow)), rate_(rate), hertz_(hertz)
+    Partial(std::span<const float> sound, double rate, double hertz,
+            const std::vector<double>& window)
+        : hop_(std::max<std::size_t>(1, window.size() / kWindowsInWindow)), rate_(rate),
+          hertz_(hertz)
     {
-        std::vector<Complex> kernel(window);
-        for (std::size_t i = 0; i < window; ++i) {
-            const double place = static_cast<double>(i);
-            kernel[i] = std::polar(weightAt((place + 0.5) / static_cast<double>(window)),
-                                   -kTurn * std::fmod(hertz * place / rate, 1.0));
+        std::vector<Complex> kernel(window.size());
+        const Complex step = std::polar(1.0, -kTurn * hertz / rate);
+        Complex turned = 1.0;
+        for (std::size_t i = 0; i < window.size(); ++i) {
+            kernel[i] = window[i] * turned;
+            turned *= step;
         }
-        for (std::size_t first = 0; first + window <= sound.size(); first += hop_) {
+        for (std::size_t first = 0; first + window.size() <= sound.size(); first += hop_) {
             Complex sum;
-            for (std::size_t i = 0; i < window; ++i)
+            for (std::size_t i = 0; i < window.size(); ++i)
                 sum += static_cast<double>(sound[first + i]) * kernel[i];
             const double turns = std::fmod(hertz * static_cast<double>(first) / rate, 1.0);
             values_.push_back(sum * std::polar(1.0, -kTurn * turns));
@@ -119,11 +127,12 @@ private:
 std::optional<MeasuredPitch> measurePitch(std::span<const float> sound, double rate,
                                           double expectedHertz)
 {
-    const auto window =
-        static_cast<std::size_t>(rate * std::clamp(kUsualWindow, kLeastPeriods / expectedHertz,
-                                                   kMostPeriods / expectedHertz));
-    if (sound.size() < window + (kLeastWindows - 1) * (window / kWindowsInWindow))
+    const double seconds =
+        std::clamp(kUsualWindow, kLeastPeriods / expectedHertz, kMostPeriods / expectedHertz);
+    const auto frames = static_cast<std::size_t>(rate * seconds);
+    if (sound.size() < frames + (kLeastWindows - 1) * (frames / kWindowsInWindow))
         return std::nullopt;
+    const std::vector<double> window = windowOf(frames);
     std::vector<Partial> partials;
     std::vector<double> powers;
     for (int i = 1; i <= kPartials && i * expectedHertz < 0.45 * rate; ++i) {
@@ -151,7 +160,7 @@ std::optional<MeasuredPitch> measurePitch(std::span<const float> sound, double r
 std::optional<MeasuredPitch> measurePitch(const Pcm& recording, double expectedHertz)
 {
     constexpr double kAttack = 0.2; // in seconds
-    const double most = std::max(0.5, 3.0 * kLeastPeriods / expectedHertz);
+    const double most = std::max(0.3, 3.0 * kLeastPeriods / expectedHertz);
     const auto channels = static_cast<std::size_t>(recording.channels);
     const std::size_t frames = recording.size() / channels;
     const auto attack = static_cast<std::size_t>(kAttack * recording.rate);

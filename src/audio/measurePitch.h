@@ -28,7 +28,7 @@ constexpr double kBeatingSwing = 2.2;
 std::optional<MeasuredPitch> measurePitch(std::span<const float> sound, double rate,
                                           double expectedHertz);
 
-/// Measures half a second of a recording, or more if it is low. Skips its attack.
+/// Measures 0.3 seconds of a recording, or 24 periods if they are longer. Skips its attack.
 std::optional<MeasuredPitch> measurePitch(const Pcm& recording, double expectedHertz);
 
 } // namespace velmora
