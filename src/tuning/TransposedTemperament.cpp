@@ -13,7 +13,7 @@ constexpr int kA = 69;
 constexpr double kEqualA = 440.0;
 
 /// Pitches are counted an octave higher than usual: see docs/decisions.md, 1.
-constexpr double kCountedOctave = 2.0;
+constexpr double kOctaveAbove = 2.0;
 
 double factorOf(const Temperament& temperament, const Transposition& transposition)
 {
@@ -22,7 +22,7 @@ double factorOf(const Temperament& temperament, const Transposition& transpositi
         return factor;
     if (!temperament.repeatsEveryOctave())
         return factor * *transposition.a / kEqualA;
-    return kCountedOctave * *transposition.a / temperament.pitchAt(kA - transposition.root);
+    return kOctaveAbove * *transposition.a / temperament.pitchAt(kA - transposition.root);
 }
 
 } // namespace

@@ -12,13 +12,13 @@ constexpr std::array<JustInterval, 20> kJust = {
     {{1, 1},  {16, 15}, {10, 9}, {9, 8}, {8, 7},  {7, 6}, {6, 5},  {5, 4}, {4, 3},  {7, 5},
      {10, 7}, {3, 2},   {8, 5},  {5, 3}, {12, 7}, {7, 4}, {16, 9}, {9, 5}, {15, 8}, {2, 1}}};
 
-constexpr double kOctave = 1200.0;
+constexpr double kOctaveInCents = 1200.0;
 
 } // namespace
 
 double JustInterval::cents() const
 {
-    return kOctave * std::log2(static_cast<double>(numerator) / denominator);
+    return kOctaveInCents * std::log2(static_cast<double>(numerator) / denominator);
 }
 
 std::span<const JustInterval> justIntervals()
@@ -35,9 +35,9 @@ HeardInterval hear(double one, double other)
 {
     const double lower = std::min(one, other), upper = std::max(one, other);
     HeardInterval heard;
-    heard.cents = kOctave * std::log2(upper / lower);
-    heard.octaves = static_cast<int>(heard.cents / kOctave);
-    const double rest = heard.cents - kOctave * heard.octaves;
+    heard.cents = kOctaveInCents * std::log2(upper / lower);
+    heard.octaves = static_cast<int>(heard.cents / kOctaveInCents);
+    const double rest = heard.cents - kOctaveInCents * heard.octaves;
     const auto nearest = std::ranges::min_element(
         kJust, {}, [rest](const JustInterval& just) { return std::abs(just.cents() - rest); });
     heard.nearest = static_cast<std::size_t>(nearest - kJust.begin());
@@ -47,7 +47,7 @@ HeardInterval hear(double one, double other)
         --heard.octaves;
     }
     const JustInterval& just = kJust[heard.nearest];
-    heard.distance = heard.cents - kOctave * heard.octaves - just.cents();
+    heard.distance = heard.cents - kOctaveInCents * heard.octaves - just.cents();
     // An octave doubles the ratio, which stays in its lowest terms.
     int numerator = just.numerator, denominator = just.denominator;
     for (int octave = 0; octave < heard.octaves; ++octave) {
@@ -63,10 +63,10 @@ HeardInterval hear(double one, double other)
 HeardInterval hearAs(const JustInterval& just, double lower, double upper)
 {
     const double octaves =
-        std::round((kOctave * std::log2(upper / lower) - just.cents()) / kOctave);
+        std::round((kOctaveInCents * std::log2(upper / lower) - just.cents()) / kOctaveInCents);
     const double raised = upper / std::exp2(octaves);
     HeardInterval heard;
-    heard.cents = kOctave * std::log2(raised / lower);
+    heard.cents = kOctaveInCents * std::log2(raised / lower);
     heard.nearest = static_cast<std::size_t>(std::ranges::find(kJust, just) - kJust.begin());
     heard.distance = heard.cents - just.cents();
     heard.beatsPerSecond = beatRate(lower, raised, just.numerator, just.denominator);
