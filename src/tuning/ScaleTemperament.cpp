@@ -10,10 +10,10 @@ namespace velmora {
 
 namespace {
 
-constexpr int kOctave = 12; ///< In keys.
+constexpr int kKeysOfOctave = 12;
 
 /// Pitches are counted an octave higher than they sound: see docs/decisions.md, 1.
-constexpr double kCountedOctave = 2.0;
+constexpr double kOctaveHigher = 2.0;
 
 } // namespace
 
@@ -71,8 +71,7 @@ void ScaleTemperament::findPitches()
         if (real < mapping_.firstKey || real > mapping_.lastKey) {
             pitch = equal.pitchAt(key);
         } else if (const auto cents = centsAt(key)) {
-            pitch = kCountedOctave * mapping_.referenceHertz *
-                    std::exp2((*cents - *reference) / 1200.0);
+            pitch = kOctaveHigher * mapping_.referenceHertz * std::exp2((*cents - *reference) / 1200.0);
             if (!std::isfinite(pitch) || !std::isnormal(pitch) || pitch < 0.0)
                 throw FormatError("the pitch of key " + std::to_string(real) +
                                   " is beyond all bounds");
@@ -86,8 +85,8 @@ bool ScaleTemperament::findRepetition() const
     constexpr double kTolerance = 1e-9;
     if (std::ranges::find(pitches_, 0.0) != pitches_.end())
         return false;
-    for (std::size_t i = kOctave; i < pitches_.size(); ++i)
-        if (std::abs(pitches_[i] / pitches_[i - kOctave] - 2.0) > kTolerance)
+    for (std::size_t i = kKeysOfOctave; i < pitches_.size(); ++i)
+        if (std::abs(pitches_[i] / pitches_[i - kKeysOfOctave] - 2.0) > kTolerance)
             return false;
     return true;
 }
@@ -96,9 +95,9 @@ void ScaleTemperament::appendTunings()
 {
     constexpr int kBaseKey = 48;
     setBaseFrequency(pitchAt(kBaseKey));
-    const bool isLinear = mapping_.degrees.empty() && mapping_.middleKey % kOctave == 0 &&
-                          scale_.pitches.size() == static_cast<std::size_t>(kOctave);
-    for (int i = 0; i < kOctave; ++i) {
+    const bool isLinear = mapping_.degrees.empty() && mapping_.middleKey % kKeysOfOctave == 0 &&
+                          scale_.pitches.size() == static_cast<std::size_t>(kKeysOfOctave);
+    for (int i = 0; i < kKeysOfOctave; ++i) {
         if (isLinear && i > 0)
             std::visit(
                 [&](const auto& pitch) {
