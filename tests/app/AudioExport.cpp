@@ -16,7 +16,7 @@ namespace velmora {
 
 namespace {
 
-constexpr double kRoot = 261.6255653006; // Hertz; key 48 of the organ.
+constexpr double kRootHertz = 261.6255653006; // Hertz; key 48 of the organ.
 
 class AudioExportTest : public testing::Test {
 protected:
@@ -25,7 +25,7 @@ protected:
         app_.tunings().addBuiltins();
         app_.tunings().select("Quartercomma Meantone");
         sequence_.notes = {{.length = 60.0, .velocity = 1.0F, .key = 52}};
-        folder_.writeSine("a.wav", kRoot);
+        folder_.writeSine("a.wav", kRootHertz);
         const auto organ = folder_.write(
             "test.organ", "[Organ]\nChurchName=Test\n[Manual001]\n"
                           "FirstAccessibleKeyMIDINoteNumber=48\n[Stop001]\nPipe001=a.wav\n");
@@ -97,7 +97,7 @@ TEST_F(AudioExportTest, SoundsLikeLivePlayingAndDoesNotDisturbIt)
     EXPECT_EQ(done_, 1.0);
     EXPECT_EQ(app_.player().liveKeys().state(48), kPressed);
     const Stereo live = rendered(app_.engine(), 48'000);
-    EXPECT_NEAR(centsOff(live.left, kRoot), 0.0, 0.5) << "still at its beginning";
+    EXPECT_NEAR(centsOff(live.left, kRootHertz), 0.0, 0.5) << "still at its beginning";
     EXPECT_NEAR(peak(sound), peak(live.left), 0.01);
 
     app_.keyOff(48);
