@@ -1257,6 +1257,33 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
 </context>
 <context>
+    <name>velmora::SendTuningDialog</name>
+    <message>
+        <source>&amp;Keep sending when the tuning changes</source>
+        <translation type="unfinished">&amp;Weiter senden, wenn sich die Stimmung ändert</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation type="unfinished">&amp;Senden</translation>
+    </message>
+    <message>
+        <source>Send the Tuning</source>
+        <translation type="unfinished">Stimmung senden</translation>
+    </message>
+    <message>
+        <source>No MIDI output is connected</source>
+        <translation type="unfinished">Kein MIDI-Ausgang ist angeschlossen</translation>
+    </message>
+    <message>
+        <source>MIDI &amp;output:</source>
+        <translation type="unfinished">MIDI-&amp;Ausgang:</translation>
+    </message>
+    <message>
+        <source>The tuning was sent to %1.</source>
+        <translation type="unfinished">Die Stimmung wurde an %1 gesendet.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceActions</name>
     <message>
         <source>&amp;Loop</source>
@@ -1837,6 +1864,30 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Stop Loadin&amp;g</source>
         <translation type="unfinished">Laden b&amp;eenden</translation>
     </message>
+    <message>
+        <source>Export &amp;MIDI in This Tuning…</source>
+        <translation type="unfinished">&amp;MIDI in dieser Stimmung exportieren…</translation>
+    </message>
+    <message>
+        <source>Write a MIDI file of the piece that other devices play in this tuning</source>
+        <translation type="unfinished">Eine MIDI-Datei des Stücks schreiben, die andere Geräte in dieser Stimmung spielen</translation>
+    </message>
+    <message>
+        <source>Export &amp;Tuning…</source>
+        <translation type="unfinished">S&amp;timmung exportieren…</translation>
+    </message>
+    <message>
+        <source>Write what each key sounds like now as a scale and a keyboard mapping</source>
+        <translation type="unfinished">Als Skala und Tastaturbelegung schreiben, wie jede Taste jetzt klingt</translation>
+    </message>
+    <message>
+        <source>&amp;Send the Tuning…</source>
+        <translation type="unfinished">Stimmung &amp;senden…</translation>
+    </message>
+    <message>
+        <source>Send the tuning to a MIDI device that is to play in it</source>
+        <translation type="unfinished">Die Stimmung an ein MIDI-Gerät senden, das in ihr spielen soll</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2308,6 +2359,49 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningExports</name>
+    <message>
+        <source>Exported %1</source>
+        <translation type="unfinished">%1 wurde exportiert</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>%1 was not exported. %2</source>
+        <translation type="unfinished">%1 wurde nicht exportiert. %2</translation>
+    </message>
+    <message>
+        <source>Export MIDI in This Tuning</source>
+        <translation type="unfinished">MIDI in dieser Stimmung exportieren</translation>
+    </message>
+    <message>
+        <source>MIDI File</source>
+        <translation type="unfinished">MIDI-Datei</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <comment>a piece in a tuning</comment>
+        <translation type="unfinished">%1 in %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>A MIDI file has only 15 channels for notes of different pitch, so %n note(s) are up to %1 cents out of tune.</source>
+        <translation type="unfinished">
+            <numerusform>Eine MIDI-Datei hat nur 15 Kanäle für Noten verschiedener Höhe; daher ist %n Note um bis zu %1 Cent verstimmt.</numerusform>
+            <numerusform>Eine MIDI-Datei hat nur 15 Kanäle für Noten verschiedener Höhe; daher sind %n Noten um bis zu %1 Cent verstimmt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export Tuning</source>
+        <translation type="unfinished">Stimmung exportieren</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">Skala</translation>
     </message>
 </context>
 <context>
@@ -2934,6 +3028,14 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>needs about %1 of memory, but only %2 are free; load fewer of its stops</source>
         <translation type="unfinished">braucht etwa %1 Speicher, aber nur %2 sind frei; laden Sie weniger Register</translation>
+    </message>
+    <message>
+        <source>the MIDI output %1 cannot be connected</source>
+        <translation type="unfinished">Der MIDI-Ausgang %1 kann nicht verbunden werden</translation>
+    </message>
+    <message>
+        <source>the MIDI output %1 takes no message</source>
+        <translation type="unfinished">Der MIDI-Ausgang %1 nimmt keine Nachricht an</translation>
     </message>
 </context>
 <context>

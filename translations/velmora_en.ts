@@ -117,4 +117,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>velmora::TuningExports</name>
+    <message numerus="yes">
+        <source>A MIDI file has only 15 channels for notes of different pitch, so %n note(s) are up to %1 cents out of tune.</source>
+        <translation>
+            <numerusform>A MIDI file has only 15 channels for notes of different pitch, so %n note is up to %1 cents out of tune.</numerusform>
+            <numerusform>A MIDI file has only 15 channels for notes of different pitch, so %n notes are up to %1 cents out of tune.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

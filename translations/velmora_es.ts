@@ -1257,6 +1257,33 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
 </context>
 <context>
+    <name>velmora::SendTuningDialog</name>
+    <message>
+        <source>&amp;Keep sending when the tuning changes</source>
+        <translation type="unfinished">&amp;Seguir enviando cuando cambie la afinación</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation type="unfinished">&amp;Enviar</translation>
+    </message>
+    <message>
+        <source>Send the Tuning</source>
+        <translation type="unfinished">Enviar la afinación</translation>
+    </message>
+    <message>
+        <source>No MIDI output is connected</source>
+        <translation type="unfinished">No hay ninguna salida MIDI conectada</translation>
+    </message>
+    <message>
+        <source>MIDI &amp;output:</source>
+        <translation type="unfinished">Salida &amp;MIDI:</translation>
+    </message>
+    <message>
+        <source>The tuning was sent to %1.</source>
+        <translation type="unfinished">La afinación se ha enviado a %1.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceActions</name>
     <message>
         <source>&amp;Loop</source>
@@ -1837,6 +1864,30 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Stop Loadin&amp;g</source>
         <translation type="unfinished">Detener la car&amp;ga</translation>
     </message>
+    <message>
+        <source>Export &amp;MIDI in This Tuning…</source>
+        <translation type="unfinished">Exportar &amp;MIDI en esta afinación…</translation>
+    </message>
+    <message>
+        <source>Write a MIDI file of the piece that other devices play in this tuning</source>
+        <translation type="unfinished">Escribir un archivo MIDI de la pieza que otros aparatos tocan en esta afinación</translation>
+    </message>
+    <message>
+        <source>Export &amp;Tuning…</source>
+        <translation type="unfinished">Exportar la a&amp;finación…</translation>
+    </message>
+    <message>
+        <source>Write what each key sounds like now as a scale and a keyboard mapping</source>
+        <translation type="unfinished">Escribir cómo suena ahora cada tecla, como escala y asignación del teclado</translation>
+    </message>
+    <message>
+        <source>&amp;Send the Tuning…</source>
+        <translation type="unfinished">&amp;Enviar la afinación…</translation>
+    </message>
+    <message>
+        <source>Send the tuning to a MIDI device that is to play in it</source>
+        <translation type="unfinished">Enviar la afinación a un aparato MIDI para que toque en ella</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2308,6 +2359,49 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> ppm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningExports</name>
+    <message>
+        <source>Exported %1</source>
+        <translation type="unfinished">Se exportó %1</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>%1 was not exported. %2</source>
+        <translation type="unfinished">No se exportó %1. %2</translation>
+    </message>
+    <message>
+        <source>Export MIDI in This Tuning</source>
+        <translation type="unfinished">Exportar MIDI en esta afinación</translation>
+    </message>
+    <message>
+        <source>MIDI File</source>
+        <translation type="unfinished">Archivo MIDI</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <comment>a piece in a tuning</comment>
+        <translation type="unfinished">%1 en %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>A MIDI file has only 15 channels for notes of different pitch, so %n note(s) are up to %1 cents out of tune.</source>
+        <translation type="unfinished">
+            <numerusform>Un archivo MIDI solo tiene 15 canales para notas de distinta altura, así que %n nota está desafinada hasta %1 cents.</numerusform>
+            <numerusform>Un archivo MIDI solo tiene 15 canales para notas de distinta altura, así que %n notas están desafinadas hasta %1 cents.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export Tuning</source>
+        <translation type="unfinished">Exportar la afinación</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">Escala</translation>
     </message>
 </context>
 <context>
@@ -2934,6 +3028,14 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>needs about %1 of memory, but only %2 are free; load fewer of its stops</source>
         <translation type="unfinished">necesita unos %1 de memoria, pero solo hay %2 libres; cargue menos registros</translation>
+    </message>
+    <message>
+        <source>the MIDI output %1 cannot be connected</source>
+        <translation type="unfinished">no se puede conectar la salida MIDI %1</translation>
+    </message>
+    <message>
+        <source>the MIDI output %1 takes no message</source>
+        <translation type="unfinished">la salida MIDI %1 no acepta mensajes</translation>
     </message>
 </context>
 <context>

@@ -1257,6 +1257,33 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
 </context>
 <context>
+    <name>velmora::SendTuningDialog</name>
+    <message>
+        <source>&amp;Keep sending when the tuning changes</source>
+        <translation type="unfinished">&amp;Continuer d’envoyer quand le tempérament change</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation type="unfinished">&amp;Envoyer</translation>
+    </message>
+    <message>
+        <source>Send the Tuning</source>
+        <translation type="unfinished">Envoyer le tempérament</translation>
+    </message>
+    <message>
+        <source>No MIDI output is connected</source>
+        <translation type="unfinished">Aucune sortie MIDI n’est connectée</translation>
+    </message>
+    <message>
+        <source>MIDI &amp;output:</source>
+        <translation type="unfinished">S&amp;ortie MIDI :</translation>
+    </message>
+    <message>
+        <source>The tuning was sent to %1.</source>
+        <translation type="unfinished">Le tempérament a été envoyé à %1.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceActions</name>
     <message>
         <source>&amp;Loop</source>
@@ -1837,6 +1864,30 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Stop Loadin&amp;g</source>
         <translation type="unfinished">Arrêter le char&amp;gement</translation>
     </message>
+    <message>
+        <source>Export &amp;MIDI in This Tuning…</source>
+        <translation type="unfinished">Exporter le &amp;MIDI dans ce tempérament…</translation>
+    </message>
+    <message>
+        <source>Write a MIDI file of the piece that other devices play in this tuning</source>
+        <translation type="unfinished">Écrire un fichier MIDI du morceau que d’autres appareils jouent dans ce tempérament</translation>
+    </message>
+    <message>
+        <source>Export &amp;Tuning…</source>
+        <translation type="unfinished">Exporter le &amp;tempérament…</translation>
+    </message>
+    <message>
+        <source>Write what each key sounds like now as a scale and a keyboard mapping</source>
+        <translation type="unfinished">Écrire le son actuel de chaque touche sous forme de gamme et d’affectation du clavier</translation>
+    </message>
+    <message>
+        <source>&amp;Send the Tuning…</source>
+        <translation type="unfinished">&amp;Envoyer le tempérament…</translation>
+    </message>
+    <message>
+        <source>Send the tuning to a MIDI device that is to play in it</source>
+        <translation type="unfinished">Envoyer le tempérament à un appareil MIDI qui doit l’utiliser</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2308,6 +2359,49 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningExports</name>
+    <message>
+        <source>Exported %1</source>
+        <translation type="unfinished">%1 a été exporté</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>%1 was not exported. %2</source>
+        <translation type="unfinished">%1 n’a pas été exporté. %2</translation>
+    </message>
+    <message>
+        <source>Export MIDI in This Tuning</source>
+        <translation type="unfinished">Exporter le MIDI dans ce tempérament</translation>
+    </message>
+    <message>
+        <source>MIDI File</source>
+        <translation type="unfinished">Fichier MIDI</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <comment>a piece in a tuning</comment>
+        <translation type="unfinished">%1 en %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>A MIDI file has only 15 channels for notes of different pitch, so %n note(s) are up to %1 cents out of tune.</source>
+        <translation type="unfinished">
+            <numerusform>Un fichier MIDI n’a que 15 canaux pour des notes de hauteurs différentes : %n note est fausse de %1 cents au plus.</numerusform>
+            <numerusform>Un fichier MIDI n’a que 15 canaux pour des notes de hauteurs différentes : %n notes sont fausses de %1 cents au plus.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export Tuning</source>
+        <translation type="unfinished">Exporter le tempérament</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">Gamme</translation>
     </message>
 </context>
 <context>
@@ -2934,6 +3028,14 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>needs about %1 of memory, but only %2 are free; load fewer of its stops</source>
         <translation type="unfinished">il faut environ %1 de mémoire, mais seuls %2 sont libres ; chargez moins de jeux</translation>
+    </message>
+    <message>
+        <source>the MIDI output %1 cannot be connected</source>
+        <translation type="unfinished">impossible de connecter la sortie MIDI %1</translation>
+    </message>
+    <message>
+        <source>the MIDI output %1 takes no message</source>
+        <translation type="unfinished">la sortie MIDI %1 n’accepte aucun message</translation>
     </message>
 </context>
 <context>

@@ -1257,6 +1257,33 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
 </context>
 <context>
+    <name>velmora::SendTuningDialog</name>
+    <message>
+        <source>&amp;Keep sending when the tuning changes</source>
+        <translation type="unfinished">&amp;Continua a inviare quando il temperamento cambia</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation type="unfinished">&amp;Invia</translation>
+    </message>
+    <message>
+        <source>Send the Tuning</source>
+        <translation type="unfinished">Invia il temperamento</translation>
+    </message>
+    <message>
+        <source>No MIDI output is connected</source>
+        <translation type="unfinished">Nessuna uscita MIDI è collegata</translation>
+    </message>
+    <message>
+        <source>MIDI &amp;output:</source>
+        <translation type="unfinished">&amp;Uscita MIDI:</translation>
+    </message>
+    <message>
+        <source>The tuning was sent to %1.</source>
+        <translation type="unfinished">Il temperamento è stato inviato a %1.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceActions</name>
     <message>
         <source>&amp;Loop</source>
@@ -1837,6 +1864,30 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Stop Loadin&amp;g</source>
         <translation type="unfinished">Interrompi il caricamen&amp;to</translation>
     </message>
+    <message>
+        <source>Export &amp;MIDI in This Tuning…</source>
+        <translation type="unfinished">Esporta &amp;MIDI in questo temperamento…</translation>
+    </message>
+    <message>
+        <source>Write a MIDI file of the piece that other devices play in this tuning</source>
+        <translation type="unfinished">Scrive un file MIDI del brano che altri dispositivi suonano in questo temperamento</translation>
+    </message>
+    <message>
+        <source>Export &amp;Tuning…</source>
+        <translation type="unfinished">Esporta il &amp;temperamento…</translation>
+    </message>
+    <message>
+        <source>Write what each key sounds like now as a scale and a keyboard mapping</source>
+        <translation type="unfinished">Scrive come suona ora ogni tasto, come scala e mappa della tastiera</translation>
+    </message>
+    <message>
+        <source>&amp;Send the Tuning…</source>
+        <translation type="unfinished">&amp;Invia il temperamento…</translation>
+    </message>
+    <message>
+        <source>Send the tuning to a MIDI device that is to play in it</source>
+        <translation type="unfinished">Invia il temperamento a un dispositivo MIDI che deve usarlo</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2308,6 +2359,49 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningExports</name>
+    <message>
+        <source>Exported %1</source>
+        <translation type="unfinished">%1 esportato</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>%1 was not exported. %2</source>
+        <translation type="unfinished">%1 non è stato esportato. %2</translation>
+    </message>
+    <message>
+        <source>Export MIDI in This Tuning</source>
+        <translation type="unfinished">Esporta MIDI in questo temperamento</translation>
+    </message>
+    <message>
+        <source>MIDI File</source>
+        <translation type="unfinished">File MIDI</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <comment>a piece in a tuning</comment>
+        <translation type="unfinished">%1 in %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>A MIDI file has only 15 channels for notes of different pitch, so %n note(s) are up to %1 cents out of tune.</source>
+        <translation type="unfinished">
+            <numerusform>Un file MIDI ha solo 15 canali per note di altezza diversa, quindi %n nota è stonata fino a %1 cent.</numerusform>
+            <numerusform>Un file MIDI ha solo 15 canali per note di altezza diversa, quindi %n note sono stonate fino a %1 cent.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export Tuning</source>
+        <translation type="unfinished">Esporta il temperamento</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">Scala</translation>
     </message>
 </context>
 <context>
@@ -2934,6 +3028,14 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>needs about %1 of memory, but only %2 are free; load fewer of its stops</source>
         <translation type="unfinished">servono circa %1 di memoria, ma solo %2 sono liberi; caricare meno registri</translation>
+    </message>
+    <message>
+        <source>the MIDI output %1 cannot be connected</source>
+        <translation type="unfinished">impossibile collegare l’uscita MIDI %1</translation>
+    </message>
+    <message>
+        <source>the MIDI output %1 takes no message</source>
+        <translation type="unfinished">l’uscita MIDI %1 non accetta messaggi</translation>
     </message>
 </context>
 <context>

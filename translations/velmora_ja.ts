@@ -1254,6 +1254,33 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
 </context>
 <context>
+    <name>velmora::SendTuningDialog</name>
+    <message>
+        <source>&amp;Keep sending when the tuning changes</source>
+        <translation type="unfinished">調律が変わるたびに送信する(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Send</source>
+        <translation type="unfinished">送信(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Send the Tuning</source>
+        <translation type="unfinished">調律の送信</translation>
+    </message>
+    <message>
+        <source>No MIDI output is connected</source>
+        <translation type="unfinished">MIDI出力が接続されていません</translation>
+    </message>
+    <message>
+        <source>MIDI &amp;output:</source>
+        <translation type="unfinished">MIDI出力(&amp;O):</translation>
+    </message>
+    <message>
+        <source>The tuning was sent to %1.</source>
+        <translation type="unfinished">調律を%1に送信しました。</translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceActions</name>
     <message>
         <source>&amp;Loop</source>
@@ -1824,6 +1851,30 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Stop Loadin&amp;g</source>
         <translation type="unfinished">読み込みを中止(&amp;G)</translation>
     </message>
+    <message>
+        <source>Export &amp;MIDI in This Tuning…</source>
+        <translation type="unfinished">この調律のMIDIをエクスポート(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>Write a MIDI file of the piece that other devices play in this tuning</source>
+        <translation type="unfinished">ほかの機器でもこの調律で鳴るMIDIファイルを書き出します</translation>
+    </message>
+    <message>
+        <source>Export &amp;Tuning…</source>
+        <translation type="unfinished">調律のエクスポート(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Write what each key sounds like now as a scale and a keyboard mapping</source>
+        <translation type="unfinished">各鍵の現在の音高を音階とキーボードマッピングとして書き出します</translation>
+    </message>
+    <message>
+        <source>&amp;Send the Tuning…</source>
+        <translation type="unfinished">調律を送信(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Send the tuning to a MIDI device that is to play in it</source>
+        <translation type="unfinished">この調律で鳴らしたいMIDI機器に調律を送信します</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2294,6 +2345,48 @@ Click to show all tunings</source>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningExports</name>
+    <message>
+        <source>Exported %1</source>
+        <translation type="unfinished">%1 をエクスポートしました</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>%1 was not exported. %2</source>
+        <translation type="unfinished">%1 をエクスポートできませんでした。%2</translation>
+    </message>
+    <message>
+        <source>Export MIDI in This Tuning</source>
+        <translation type="unfinished">この調律のMIDIをエクスポート</translation>
+    </message>
+    <message>
+        <source>MIDI File</source>
+        <translation type="unfinished">MIDIファイル</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <comment>a piece in a tuning</comment>
+        <translation type="unfinished">%1（%2）</translation>
+    </message>
+    <message numerus="yes">
+        <source>A MIDI file has only 15 channels for notes of different pitch, so %n note(s) are up to %1 cents out of tune.</source>
+        <translation type="unfinished">
+            <numerusform>MIDIファイルには音高の異なる音のためのチャンネルが15しかないため、%n個の音が最大%1セントずれています。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Export Tuning</source>
+        <translation type="unfinished">調律のエクスポート</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">音階</translation>
     </message>
 </context>
 <context>
@@ -2920,6 +3013,14 @@ Click to show all tunings</source>
     <message>
         <source>needs about %1 of memory, but only %2 are free; load fewer of its stops</source>
         <translation type="unfinished">メモリが約 %1 必要ですが、空きは %2 だけです。ストップを減らして読み込んでください</translation>
+    </message>
+    <message>
+        <source>the MIDI output %1 cannot be connected</source>
+        <translation type="unfinished">MIDI出力%1に接続できません</translation>
+    </message>
+    <message>
+        <source>the MIDI output %1 takes no message</source>
+        <translation type="unfinished">MIDI出力%1がメッセージを受け付けません</translation>
     </message>
 </context>
 <context>

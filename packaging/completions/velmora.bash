@@ -24,7 +24,7 @@ _velmora()
             files='scl|mtx'
             ;;
         *:--instrument) files='sf2|gig|organ_hauptwerk_xml|xml|organ|orgue' ;;
-        render:-o | render:--output) files='wav|flac|ogg|opus|mp3' ;;
+        render:-o | render:--output) files='wav|flac|ogg|opus|mp3|mid' ;;
         *:--output) COMPREPLY=($(compgen -W "jack pulseaudio alsa none" -- "$word")) ;;
         *:--program | *:--bank | *:--stop | *:--rate | *:--tail | *:--loop-* | *:--loops | *:--period) ;;
         *)

@@ -139,7 +139,7 @@ void LiveDevices::received(std::size_t device, MidiPacket message, double time)
         slot.device.receive(wanted, time);
 }
 
-// See docs/decisions.md, 178.
+// See docs/decisions.md, 179.
 void LiveDevices::receivedExclusive(std::size_t device, MidiPacket message)
 {
     Slot& slot = *slots_[device];

@@ -115,11 +115,13 @@ void addSelection(CLI::App& command, Arguments& arguments)
 
 CLI::App* addRender(CLI::App& program, Arguments& arguments)
 {
-    CLI::App* command = program.add_subcommand("render", "Render a MIDI file to a sound file");
+    CLI::App* command = program.add_subcommand(
+        "render", "Render a MIDI file to a sound file, or to a MIDI file in a tuning");
     command->add_option("sequence", arguments.sequence, "The MIDI file")->required();
     command
         ->add_option("-o,--output", arguments.output,
-                     "The .wav, .flac, .ogg, .opus or .mp3 file to write")
+                     "The .wav, .flac, .ogg, .opus or .mp3 file to write, or a .mid file that "
+                     "General MIDI devices play in the tuning")
         ->required();
     addSelection(*command, arguments);
     addReading(*command, arguments);

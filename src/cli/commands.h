@@ -16,8 +16,8 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Renders a sequence file to a sound file. Throws UsageError, or std::runtime_error with a
-/// sentence if a file cannot be read or written.
+/// Renders a sequence file to a sound file, or to a MIDI file that reproduces the tuning. Throws
+/// UsageError, or std::runtime_error with a sentence if a file cannot be read or written.
 void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
             const Selection& selection, const RenderOptions& options);
 

@@ -2,26 +2,31 @@
 
 #include "app/OfflineSound.h"
 #include "app/generalMidiBanks.h"
+#include "app/tunedMidi.h"
 #include "app/tuningCorrections.h"
 #include "audio/AudioFileWriter.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
+#include "platform/writeFile.h"
+
+#include <spdlog/fmt/fmt.h>
+
+#include <cmath>
 
 namespace velmora {
 
-void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
-            const Selection& selection, const RenderOptions& options)
+namespace {
+
+/// Prepares an application that plays the selection offline.
+void selectOffline(const Selection& selection, double rate, AppDelegate& application)
 {
-    const Interruption interruption;
-    AudioFileWriter file(output, options.rate); // first, to fail early if it cannot be written
-    AppDelegate application;
     if (selection.plain)
         application.playing().usePlainReading();
     application.tunings().addBuiltins();
-    application.engine().setRate(options.rate);
+    application.engine().setRate(rate);
     std::filesystem::path bank = selection.instrument;
     if (bank.empty()) {
-        auto synthesizer = makeOfflineSynthesizer(options.rate, generalMidiBanks());
+        auto synthesizer = makeOfflineSynthesizer(rate, generalMidiBanks());
         bank = synthesizer->bank();
         application.makeMIDIPlayer(std::move(synthesizer));
     }
@@ -29,12 +34,47 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
     if (application.playing().correctsTuning())
         application.player().with(
             [&](Instrument& instrument, Temperament&) { correctTuning(instrument, bank); });
+}
 
+void readPiece(const std::filesystem::path& path, SequenceDocument& document)
+{
+    document.read(path);
+    if (!document.errorString().empty())
+        throw std::runtime_error(document.errorString());
+}
+
+/// Renders to a MIDI file that reproduces the tuning.
+void renderMidi(const std::filesystem::path& sequence, const std::filesystem::path& output,
+                const Selection& selection, const RenderOptions& options)
+{
+    AppDelegate application;
+    selectOffline(selection, options.rate, application);
+    const TunedMidi midi = writeTunedMidi(
+        application, [&](SequenceDocument& document) { readPiece(sequence, document); }, options);
+    writeFile(output, midi.bytes);
+    if (midi.notes.wrong > 0)
+        fmt::print(stderr,
+                   "velmora: {} of {} notes are up to {:.0f} cents out of tune, because a MIDI "
+                   "file has only 15 channels for notes of different pitch\n",
+                   midi.notes.wrong, midi.notes.count, std::ceil(midi.notes.worstCents));
+}
+
+} // namespace
+
+void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
+            const Selection& selection, const RenderOptions& options)
+{
+    const Interruption interruption;
+    if (sequenceFormatOf(output) == SequenceFormat::MidiFile) {
+        renderMidi(sequence, output, selection, options);
+        return;
+    }
+    AudioFileWriter file(output, options.rate); // first, to fail early if it cannot be written
+    AppDelegate application;
+    selectOffline(selection, options.rate, application);
     SequenceRenderer renderer(application.player(), application.engine(),
                               application.playing().reading());
-    renderer.document().read(sequence);
-    if (!renderer.document().errorString().empty())
-        throw std::runtime_error(renderer.document().errorString());
+    readPiece(sequence, renderer.document());
     ProgressLine progress("Rendering");
     const bool rendered = renderer.render(
         options,

@@ -16,7 +16,7 @@ constexpr std::uint8_t kNonRealTime = 0x7E, kRealTime = 0x7F;
 constexpr std::uint8_t kTuning = 0x08;
 constexpr std::uint8_t kAllDevices = 0x7F;
 
-enum Kind : std::uint8_t {
+enum MessageKind : std::uint8_t {
     kBulkDump = 0x01,
     kKeyChanges = 0x02,
     kBulkDumpOfBank = 0x04,
@@ -102,7 +102,7 @@ bool readOctave(MidiPacket data, std::size_t width, ReceivedTuning& tuning)
     return true;
 }
 
-std::string nameOf(MidiPacket bytes)
+std::string nameIn(MidiPacket bytes)
 {
     std::string name(bytes.begin(), bytes.end());
     std::ranges::replace_if(
@@ -125,7 +125,7 @@ bool readDump(MidiPacket message, std::size_t numbers, ReceivedTuning& tuning)
                         : message[4] == kOctaveDumpTwoBytes ? readOctave(notes, 2, tuning)
                                                             : readBulkDump(data, tuning);
     if (isRead)
-        tuning.name = nameOf(data.first(kNameLength));
+        tuning.name = nameIn(data.first(kNameLength));
     return isRead;
 }
 

@@ -66,16 +66,17 @@ TEST(RecordingPath, RecordsEachKeyWithinATickOfItsArrival)
     const auto& notes = kept.sequence().notes();
     ASSERT_EQ(notes.size(), 24);
     constexpr double kStepsPerRecordedSecond = 16.0;
-    constexpr double kTick = kStepsPerRecordedSecond / 1024.0, kTickOfFile = 1.0 / 512.0;
+    constexpr double kStepsOfTick = kStepsPerRecordedSecond / 1024.0, kTickOfFile = 1.0 / 512.0;
     for (unsigned i = 0; i < 24; ++i) {
         const Note& note = notes[i];
         const double pressed = keys.pressTime(note.key), released = keys.releaseTime(note.key);
         EXPECT_EQ(note.key, 48 + i);
         EXPECT_NEAR(note.velocity, (20.0 + i) / 127.0, 1e-6);
         EXPECT_NEAR(note.start - notes[0].start,
-                    (pressed - keys.pressTime(48)) * kStepsPerRecordedSecond, kTick + kTickOfFile);
+                    (pressed - keys.pressTime(48)) * kStepsPerRecordedSecond,
+                    kStepsOfTick + kTickOfFile);
         EXPECT_NEAR(note.length, (released - pressed) * kStepsPerRecordedSecond,
-                    kTick + kTickOfFile);
+                    kStepsOfTick + kTickOfFile);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "audio/AudioFileDecoder.h"
 #include "base/File.h"
+#include "midi/StandardMidiFile.h"
 #include "support/Bank.h"
 #include "support/GigBytes.h"
 #include "support/MidiBytes.h"
@@ -107,6 +108,26 @@ TEST_F(CommandLine, RendersTheSameBytesForTheSameSelectionOnly)
         EXPECT_TRUE(sound.floats.empty() ? std::ranges::max(sound.samples) > 800
                                          : std::ranges::max(sound.floats) > 0.025F);
     }
+}
+
+TEST_F(CommandLine, RendersToAMidiFileInTheTuning)
+{
+    const Result result = render("out.mid", {"--tuning", "meantone", "--program", "19"});
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.error, "");
+    const auto bytes = content("out.mid");
+    const StandardMidiFile file = readStandardMidiFile(bytes);
+    std::size_t notes = 0;
+    for (const MidiEvent& event : file.tracks.at(0)) {
+        if (event.kind == MidiEvent::Kind::Other)
+            continue;
+        ++notes;
+        EXPECT_EQ(event.channel, event.key % 12);
+        EXPECT_NEAR(event.duration, 2 * 24.0 / 16.0, 0.01) << "seconds at 120 beats a minute";
+    }
+    EXPECT_EQ(notes, 1);
+    render("out.mid", {"--tuning", "Equal", "--program", "19"});
+    EXPECT_NE(content("out.mid"), bytes);
 }
 
 TEST_F(CommandLine, TakesNamesInAnyCaseAndShortened)

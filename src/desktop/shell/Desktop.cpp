@@ -181,9 +181,11 @@ void Desktop::connectPieces()
         workspace_.status().addNotice(
             tr("Unsaved changes are not protected against a crash: %1").arg(why));
     });
-    connect(&pages_, &SequencePages::message, this, [this](const QString& text) {
+    const auto report = [this](const QString& text) {
         workspace_.status().showMessage(text, kReportMilliseconds);
-    });
+    };
+    connect(&pages_, &SequencePages::message, this, report);
+    connect(&tuningExports_, &TuningExports::message, this, report);
 }
 
 void Desktop::connectStartPage()

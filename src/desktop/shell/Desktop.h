@@ -18,6 +18,7 @@
 #include "desktop/shell/SequencePages.h"
 #include "desktop/shell/SessionKeeper.h"
 #include "desktop/shell/ShellActions.h"
+#include "desktop/shell/TuningExports.h"
 #include "desktop/shell/Workspace.h"
 #include "desktop/widgets/Commands.h"
 
@@ -98,6 +99,7 @@ private:
     MetersWindow metersWindow_;
     SequencePages pages_{application_, shell_, sequenceActions_, workspace_.tabs(),
                          workspace_.keyboard()};
+    TuningExports tuningExports_{application_, shell_, pages_, workspace_};
     ComputerKeyboard computerKeyboard_{application_};
     KeyRouter router_{workspace_, pages_, computerKeyboard_};
     DialogCommands dialogCommands_{*shell_.silence};

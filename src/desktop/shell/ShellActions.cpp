@@ -76,6 +76,17 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
           commands.add("file.export", fileGroup(),
                        {tr("&Export Audio…"), tr("Write a sound file of the piece"), "export"},
                        {Qt::CTRL | Qt::Key_E})),
+      exportMidi(commands.add(
+          "file.exportMidi", fileGroup(),
+          {tr("Export &MIDI in This Tuning…"),
+           tr("Write a MIDI file of the piece that other devices play in this tuning")})),
+      exportScale(commands.add("file.exportScale", fileGroup(),
+                               {tr("Export &Tuning…"),
+                                tr("Write what each key sounds like now as a scale and a keyboard "
+                                   "mapping")})),
+      sendTuning(commands.add(
+          "sound.sendTuning", soundGroup(),
+          {tr("&Send the Tuning…"), tr("Send the tuning to a MIDI device that is to play in it")})),
       close(commands.add("file.close", fileGroup(), {tr("&Close Piece"), {}},
                          {Qt::CTRL | Qt::Key_W})),
       preferences(commands.add("file.preferences", fileGroup(),
@@ -148,7 +159,7 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
     for (QAction* action : {keyboard, instrument, tuning, console, playLayout, editLayout,
                             stageLayout, ownWindow, noteNames})
         action->setCheckable(true);
-    for (QAction* action : {save, saveAs, exportAudio, close, ownWindow})
+    for (QAction* action : {save, saveAs, exportAudio, exportMidi, close, ownWindow})
         action->setEnabled(false); // until there is a piece
 
     InstrumentLoader& loader = application_.loader();
@@ -173,7 +184,7 @@ void ShellActions::addFile(QMenu& file) const
     file.addActions({newSequence, open});
     file.addMenu(recent_.get());
     file.addSeparator();
-    file.addActions({save, saveAs, exportAudio});
+    file.addActions({save, saveAs, exportAudio, exportMidi, exportScale});
     file.addSeparator();
     file.addActions({openSession, saveSession});
     file.addSeparator();
@@ -279,6 +290,8 @@ void ShellActions::showTunings()
         action->setCheckable(true);
         action->setChecked(name == application_.tunings().name());
     }
+    tunings_->addSeparator();
+    tunings_->addAction(sendTuning);
 }
 
 } // namespace velmora

@@ -158,6 +158,9 @@ constexpr const char* kMessages[] = {
                       "couples only the lowest or the highest key, which is not supported"),
     QT_TRANSLATE_NOOP("velmora::messages", "couples to a manual that does not exist"),
     QT_TRANSLATE_NOOP("velmora::messages", "tremulants are not supported"),
+    // Sending a tuning
+    QT_TRANSLATE_NOOP("velmora::messages", "the MIDI output %1 cannot be connected"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the MIDI output %1 takes no message"),
     // Places in files
     QT_TRANSLATE_NOOP("velmora::messages", "%1, line %2: %3"),
     QT_TRANSLATE_NOOP("velmora::messages", "%1, byte %2: %3"),

@@ -1,0 +1,127 @@
+// A tuning from end to end: out of the program, through a MIDI port, and into it again.
+
+#include "app/AppDelegate.h"
+#include "app/TuningSender.h"
+#include "base/Clock.h"
+#include "support/JackServer.h"
+#include "support/MidiSource.h"
+#include "support/RecordingInstrument.h"
+#include "tuning/KeyTemperament.h"
+
+#include <QCoreApplication>
+#include <RtMidi.h>
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+namespace velmora {
+
+namespace {
+
+/// A synthesizer that is tuned through a JACK port.
+class Hardware {
+public:
+    Hardware()
+    {
+        midi_.ignoreTypes(false, true, true);
+        midi_.setCallback(
+            [](double, std::vector<unsigned char>* message, void* self) {
+                auto& hardware = *static_cast<Hardware*>(self);
+                const std::lock_guard lock(hardware.mutex_);
+                EXPECT_TRUE(readTuningMessage(*message, hardware.tuning_));
+            },
+            this);
+        midi_.openVirtualPort("in");
+    }
+
+    /// Returns by how many cents a key differs from equal temperament.
+    double cents(std::size_t key)
+    {
+        const std::lock_guard lock(mutex_);
+        return 100.0 * (tuning_.places[key] - static_cast<double>(key));
+    }
+
+    std::string name()
+    {
+        const std::lock_guard lock(mutex_);
+        return tuning_.name;
+    }
+
+private:
+    std::mutex mutex_;
+    ReceivedTuning tuning_;
+    RtMidiIn midi_{RtMidi::UNIX_JACK, "Hardware"};
+};
+
+/// Runs the event loop until something holds, for ten seconds at most.
+bool waitFor(const std::function<bool()>& holds)
+{
+    for (const double end = getTime() + 10.0; !holds() && getTime() < end;) {
+        QCoreApplication::processEvents();
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    return holds();
+}
+
+bool isNear(double value, double expected)
+{
+    return std::abs(value - expected) < 0.02;
+}
+
+} // namespace
+
+TEST(TuningPath, HardwareFollowsTheTuningAndCanSetIt)
+{
+    const JackServer server;
+    Hardware hardware;
+    MidiSource keyboard("keyboard", {"out"});
+    Calls calls;
+    RecordingInstrument instrument(calls);
+    AppDelegate app;
+    app.tunings().addBuiltins();
+    app.setInstrument(instrument, "Recorder");
+    TuningSender sender(app.player(), app.tunings());
+    EXPECT_THAT(MidiOutput::names(), testing::Contains("Hardware:in"));
+    EXPECT_THROW(sender.send("Nobody:in"), std::runtime_error);
+
+    app.tunings().select("Quartercomma Meantone");
+    sender.send("Hardware:in");
+    EXPECT_TRUE(waitFor([&] { return isNear(hardware.cents(64), -13.686); }));
+    EXPECT_TRUE(isNear(hardware.cents(100), -13.686)) << "in every octave";
+
+    sender.setKeepsSending(true);
+    app.tunings().select("Equal");
+    EXPECT_TRUE(waitFor([&] { return isNear(hardware.cents(64), 0.0); })) << "another choice";
+    app.tunings().select("Following Meantone");
+    app.keyOn(63, 1.0F);
+    EXPECT_TRUE(waitFor([&] { return isNear(hardware.cents(63), 10.265); }));
+    app.keyOff(63);
+    for (const int key : {52, 54, 56, 59, 64, 66, 68, 71})
+        app.keyOn(key, 1.0F);
+    app.keyOn(63, 1.0F);
+    EXPECT_TRUE(waitFor([&] { return isNear(hardware.cents(63), -30.79); })) << "the music itself";
+
+    std::array<double, 128> hertz{};
+    for (std::size_t key = 0; key < hertz.size(); ++key)
+        hertz[key] = 440.0 * std::exp2((static_cast<double>(key) - 69.0) / 11.0);
+    app.tunings().put(
+        std::make_unique<TuningDocument>("Wide", "", std::make_unique<KeyTemperament>(hertz)));
+    app.tunings().select("Wide");
+    EXPECT_TRUE(waitFor([&] { return hardware.name() == "Wide"; }));
+    EXPECT_TRUE(isNear(hardware.cents(80), 100.0)) << "11 keys, a semitone more than an octave";
+
+    const MidiInputs inputs(app.midiDevices());
+    if (inputs.services() != "JACK")
+        return; // this machine has an ALSA sequencer with other devices
+    std::this_thread::sleep_for(std::chrono::milliseconds(100)); // connections take effect later
+    KeyPlaces places = ReceivedTuning().places;
+    places[60] = 60.25;
+    keyboard.send(0, writeBulkDump("From afar", places));
+    EXPECT_TRUE(waitFor([&] { return app.tunings().name() == "From afar"; }));
+    EXPECT_TRUE(waitFor([&] { return isNear(hardware.cents(60), 25.0); })) << "and out again";
+}
+
+} // namespace velmora
