@@ -14,6 +14,7 @@ extern "C" const char* __tsan_default_suppressions()
            "race:closedir\n"     // file descriptors are reused
            "race:copyFromJack\n" // shares memory with the server, as does the next
            "race:jack_midi_event_write\n"
+           "race:libglib-2.0.so\n" // as the loops of its events wake each other
            "deadlock:libdbus-1.so\n";
 }
 #endif
