@@ -74,17 +74,35 @@ void MidiTrack::addMetaEvent(std::uint64_t tick, std::uint8_t type, std::string_
     bytes_ += data;
 }
 
+void MidiTrack::addEvent(std::uint64_t tick, std::uint8_t status, std::string_view data)
+{
+    addDelta(tick);
+    bytes_ += static_cast<char>(status);
+    bytes_ += data;
+}
+
+std::string MidiTrack::end(std::uint64_t tick)
+{
+    addMetaEvent(tick, midi::kEndOfTrack, {});
+    std::string chunk;
+    addChunk(chunk, "MTrk", bytes_);
+    return chunk;
+}
+
+std::string MidiTrack::header(std::uint16_t format, std::size_t tracks, std::uint16_t division)
+{
+    std::string body;
+    addNumber(body, format, 2);
+    addNumber(body, tracks, 2);
+    addNumber(body, division, 2);
+    std::string chunk;
+    addChunk(chunk, "MThd", body);
+    return chunk;
+}
+
 std::string MidiTrack::finish(std::uint16_t division)
 {
-    addMetaEvent(tick_, midi::kEndOfTrack, {});
-    std::string header;
-    addNumber(header, 0, 2); // format
-    addNumber(header, 1, 2); // tracks
-    addNumber(header, division, 2);
-    std::string file;
-    addChunk(file, "MThd", header);
-    addChunk(file, "MTrk", bytes_);
-    return file;
+    return header(0, 1, division) + end(tick_);
 }
 
 } // namespace velmora

@@ -1,7 +1,7 @@
 #include "midi/StandardMidiFile.h"
 
 #include "base/FormatError.h"
-#include "midi/MidiFileCursor.h"
+#include "midi/MidiFileHeader.h"
 #include "midi/OpenNotes.h"
 #include "midi/messages.h"
 
@@ -156,88 +156,12 @@ private:
     unsigned skippedNotes_ = 0; ///< How many notes the next note-off skips.
 };
 
-struct Chunk {
-    std::string_view id;
-    MidiFileCursor body;
-};
-
-Chunk readChunk(MidiFileCursor& file)
-{
-    const std::size_t at = file.offset();
-    const std::string_view id = file.text(4);
-    file.skip(4);
-    const std::uint32_t length = file.number(4);
-    if (length > file.left())
-        throw FormatError::atByte(
-            at, fmt::format("a chunk of {} bytes is truncated: the file has only {} more", length,
-                            file.left()));
-    return {id, file.part(length, id == "MTrk" ? "an event exceeds the end of its track"
-                                               : "the header is too short")};
-}
-
-struct Header {
-    std::size_t tracks;
-    double ticksPerBeat;
-    bool hasFrames; ///< True if the file uses SMPTE time.
-};
-
-double ticksPerSecond(unsigned frames, unsigned ticksPerFrame, std::size_t at)
-{
-    // 29 means the drop-frame rate of 30 × 1000/1001 frames a second.
-    if (frames == 29)
-        return ticksPerFrame * 30000.0 / 1001.0;
-    if (frames != 24 && frames != 25 && frames != 30)
-        throw FormatError::atByte(
-            at, fmt::format("the division has {} frames a second, not 24, 25, 29 or 30", frames));
-    return ticksPerFrame * static_cast<double>(frames);
-}
-
-Header readHeader(MidiFileCursor& file)
-{
-    const std::size_t at = file.offset();
-    if (file.text(4) != "MThd")
-        throw FormatError::atByte(at, "this is not a Standard MIDI File: \"MThd\" is missing");
-    MidiFileCursor body = readChunk(file).body;
-    const std::size_t begin = body.offset();
-    const std::uint32_t format = body.number(2);
-    const std::uint32_t tracks = body.number(2);
-    const std::uint32_t division = body.number(2);
-    if (format > 2)
-        throw FormatError::atByte(begin, fmt::format("the format is {}, not 0, 1 or 2", format));
-    if (tracks == 0)
-        throw FormatError::atByte(begin + 2, "the header announces no tracks");
-
-    const std::size_t divisionAt = begin + 4;
-    if ((division & 0x8000u) == 0) {
-        if (division == 0)
-            throw FormatError::atByte(divisionAt, "the division is 0 ticks a quarter note");
-        return {tracks, static_cast<double>(division), false};
-    }
-    const std::uint32_t ticksPerFrame = division & 0xFFu;
-    if (ticksPerFrame == 0)
-        throw FormatError::atByte(divisionAt, "the division is 0 ticks a frame");
-    // The tempo map stays at its default of two beats a second.
-    const double ticks = ticksPerSecond(0x100u - (division >> 8), ticksPerFrame, divisionAt);
-    return {tracks, ticks / 2.0, true};
-}
-
-/// Returns the offset of the MIDI file: 0, or the end of the RIFF wrapper.
-std::size_t startOfMidi(std::span<const std::byte> bytes)
-{
-    constexpr std::size_t kWrapper = 20;
-    if (bytes.size() < kWrapper)
-        return 0;
-    const std::string_view start(reinterpret_cast<const char*>(bytes.data()), kWrapper);
-    return start.starts_with("RIFF") && start.substr(8, 8) == "RMIDdata" ? kWrapper : 0;
-}
-
 } // namespace
 
 StandardMidiFile readStandardMidiFile(std::span<const std::byte> bytes)
 {
-    MidiFileCursor file(bytes, startOfMidi(bytes), bytes.size(),
-                        "the file ends inside the header of a chunk");
-    const Header header = readHeader(file);
+    MidiFileCursor file = openMidiFile(bytes);
+    const MidiFileHeader header = readMidiFileHeader(file);
     TrackReader reader(header.ticksPerBeat);
     StandardMidiFile result;
     while (result.tracks.size() < header.tracks) {
@@ -245,7 +169,9 @@ StandardMidiFile readStandardMidiFile(std::span<const std::byte> bytes)
             throw FormatError::atByte(file.offset(),
                                       fmt::format("the file ends after {} of {} tracks",
                                                   result.tracks.size(), header.tracks));
-        const Chunk chunk = readChunk(file);
+        const std::size_t at = file.offset();
+        const MidiFileChunk chunk = readMidiFileChunk(file);
+        requireWhole(chunk, at);
         if (chunk.id == "MTrk")
             result.tracks.push_back(reader.read(chunk.body));
     }

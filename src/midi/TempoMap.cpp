@@ -37,4 +37,13 @@ double TempoMap::secondsForBeats(double beats) const
     return stretch.seconds + (beats - stretch.beats) * stretch.secondsPerBeat;
 }
 
+double TempoMap::beatsForSeconds(double seconds) const
+{
+    const auto after =
+        std::upper_bound(std::next(stretches_.begin()), stretches_.end(), seconds,
+                         [](double second, const Stretch& s) { return second < s.seconds; });
+    const Stretch& stretch = *std::prev(after);
+    return stretch.beats + (seconds - stretch.seconds) / stretch.secondsPerBeat;
+}
+
 } // namespace velmora

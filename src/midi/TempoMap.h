@@ -24,6 +24,9 @@ public:
     /// Takes logarithmic time in the number of changes.
     double secondsForBeats(double beats) const;
 
+    /// The inverse of `secondsForBeats`.
+    double beatsForSeconds(double seconds) const;
+
 private:
     struct Stretch {
         double beats;   ///< Start in beats.

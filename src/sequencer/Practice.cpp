@@ -84,7 +84,11 @@ void Practice::showKeys()
     const LiveKeys& keys = transport_.host().liveKeys();
     for (std::size_t key = 0; key < kKeys; ++key)
         playback.states[key] = keys.state(key);
-    playback.markAt(transport_.position(), kTolerance, kWanted);
+    // In the plain reading the marks of sounding notes are lost when a key is pressed.
+    if (transport_.mode() == Transport::Mode::Playing && transport_.reading() == Reading::Musical)
+        playback.markSounding(transport_.position(), kWanted);
+    else
+        playback.markAt(transport_.position(), kTolerance, kWanted);
 }
 
 void Practice::advance()

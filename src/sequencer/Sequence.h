@@ -26,6 +26,9 @@ struct Note {
     bool selected = false;
     double oldStart = 0.0;
     std::uint32_t oldKey = 0;
+
+    /// Which note of the document's file it is, counted from 1; 0 for a note that was added.
+    std::uint32_t origin = 0;
 };
 
 /// A note as it is in another state of its sequence; empty if it does not exist there.

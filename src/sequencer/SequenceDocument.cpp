@@ -7,6 +7,7 @@
 #include "platform/writeFile.h"
 #include "preferences/Preferences.h"
 #include "sequencer/LiveKeys.h"
+#include "sequencer/SourceFile.h"
 #include "sequencer/UnsavedSequence.h"
 
 #include <algorithm>
@@ -49,6 +50,12 @@ SequenceDocument::SequenceDocument(SequenceHost& host, Reading reading,
         registerTake();
         emit changed();
     });
+    // In the plain reading the keyboard keeps its colours.
+    if (reading == Reading::Musical)
+        connect(&transport_, &Transport::modeChanged, this, [this] {
+            if (transport_.mode() == Transport::Mode::Stopped)
+                practice_.showKeys();
+        });
     // See docs/decisions.md, 126.
     host.liveKeys().clear();
 }
@@ -58,22 +65,22 @@ void SequenceDocument::read(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
     errorString_.clear();
+    damage_.clear();
     path_.clear();
     transport_.stop();
     undoStack_.clear();
     recorder_.endTake();
     isImported_ = false;
-    double extent = 0.0;
+    source_.reset();
     const Edit edit(*this, {});
     *edit = {};
     try {
         Sequence sequence;
-        const SequenceFile file =
-            readSequence(readStandardMidiFile(readFile(path)), getPrefInt("KeyRangeLo"),
-                         getPrefInt("KeyRangeHi"), sequence);
+        if (reading() == Reading::Plain)
+            readPlainly(path, sequence);
+        else
+            readMusically(path, sequence);
         *edit = std::move(sequence);
-        extent = file.extent;
-        isImported_ = file.isImported;
         path_ = path;
     } catch (const FormatError& error) {
         errorString_ = error.inFile(name);
@@ -82,8 +89,25 @@ void SequenceDocument::read(const std::filesystem::path& path)
     }
     if (!errorString_.empty())
         logger("sequencer").info("{}", errorString_);
-    transport_.setExtent(extent);
+    updateExtent();
     emit transport_.frame();
+}
+
+void SequenceDocument::readPlainly(const std::filesystem::path& path, Sequence& sequence)
+{
+    isImported_ = readSequence(readStandardMidiFile(readFile(path)), getPrefInt("KeyRangeLo"),
+                               getPrefInt("KeyRangeHi"), sequence)
+                      .isImported;
+}
+
+void SequenceDocument::readMusically(const std::filesystem::path& path, Sequence& sequence)
+{
+    source_ = std::make_shared<SourceFile>(readFile(path), sequence);
+    if (const auto& damage = source_->damage()) {
+        damage_ = damage->inFile(path.filename().string());
+        logger("sequencer").info("{}", damage_);
+    }
+    isImported_ = !damage_.empty();
 }
 
 bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat format,
@@ -98,7 +122,9 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
         return false;
     }
     try {
-        writeFile(path, writeSequence(sequence_, format));
+        writeFile(path, source_ && format == SequenceFormat::MidiFile
+                            ? source_->write(sequence_)
+                            : writeSequence(sequence_, format));
     } catch (const std::length_error& error) {
         errorString_ = toUtf8(path.filename().string()) + " cannot be written: " + error.what();
     } catch (const std::bad_alloc&) {
@@ -110,9 +136,12 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
         logger("sequencer").info("{}", errorString_);
         return false;
     }
+    if (format == SequenceFormat::IMelody && reading() == Reading::Musical)
+        return true;
     if (operation == SaveOperation::SaveAs) {
         path_ = path;
         isImported_ = false;
+        damage_.clear();
     }
     registerTake();
     undoStack_.setClean();
@@ -122,8 +151,9 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
 UnsavedSequence SequenceDocument::snapshot() const
 {
     const auto now = std::chrono::system_clock::now();
-    return {path_, std::chrono::floor<std::chrono::milliseconds>(now), isImported_,
-            sequence_.notes(), reading()};
+    return {path_,       std::chrono::floor<std::chrono::milliseconds>(now),
+            isImported_, sequence_.notes(),
+            reading(),   source_};
 }
 
 void SequenceDocument::recover(const UnsavedSequence& unsaved)
@@ -139,6 +169,8 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
     }
     path_ = unsaved.path;
     isImported_ = unsaved.isImported;
+    source_ = unsaved.source;
+    damage_.clear();
     errorString_.clear();
     recorder_.endTake();
     undoStack_.clear();

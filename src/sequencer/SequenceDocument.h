@@ -13,12 +13,14 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace velmora {
 
+class SourceFile;
 struct UnsavedSequence;
 
 /// A sequence with its file and its undo history, and what plays, records and practises it. Main
@@ -45,13 +47,18 @@ public:
     Practice& practice() { return practice_; }
     const Practice& practice() const { return practice_; }
 
-    /// Reads a Standard MIDI File, keeping the keys of the keyboard's range. If the file cannot be
-    /// read, the sequence is empty and `errorString` says why. Clears the undo history.
+    /// Reads a Standard MIDI File. If the file cannot be read, the sequence is empty and
+    /// `errorString` says why. Clears the undo history.
+    ///
+    /// The musical reading keeps everything that the file says, and reads a damaged file as far as
+    /// it can be read; `damage` then says what is wrong. The plain reading keeps the notes on the
+    /// keyboard's keys.
     void read(const std::filesystem::path& path);
 
-    /// Writes the notes to a file and marks the document as unmodified. "Save As" makes the file
-    /// the document's own; "Save" refuses to replace a file that holds more than the sequence
-    /// keeps. Returns false if nothing was written, and `errorString` says why.
+    /// Writes the document to a file and marks it as unmodified. "Save As" makes the file the
+    /// document's own; "Save" refuses to replace a file that holds more than the document keeps.
+    /// Returns false if nothing was written, and `errorString` says why. In the musical reading an
+    /// iMelody file is an export: the document stays as modified as it was, and keeps its file.
     bool save(const std::filesystem::path& path, SequenceFormat format, SaveOperation operation);
 
     /// The document's file; empty if there is none or if it could not be read.
@@ -60,7 +67,11 @@ public:
     /// Why the last read or write failed, in one sentence that names the file; empty if it did not.
     const std::string& errorString() const { return errorString_; }
 
-    /// True if the file that was read held more than the sequence keeps.
+    /// Why the file was read only in part, in one sentence that names it; empty if it was read
+    /// whole.
+    const std::string& damage() const { return damage_; }
+
+    /// True if the file that was read held more than the document keeps.
     bool isImported() const { return isImported_; }
 
     /// The current state of the document, to be kept in case of a crash.
@@ -105,6 +116,10 @@ signals:
 private:
     class SwapNotes;
 
+    /// Read a file into an empty sequence, or throw FormatError.
+    void readPlainly(const std::filesystem::path& path, Sequence& sequence);
+    void readMusically(const std::filesystem::path& path, Sequence& sequence);
+
     /// Puts notes into the given states and stores their previous ones in `notes`, without an entry
     /// in the undo history.
     void swap(std::vector<NoteState>& notes);
@@ -115,9 +130,10 @@ private:
     Practice practice_;
     QUndoStack undoStack_;
     std::filesystem::path path_;
-    std::string errorString_;
+    std::string errorString_, damage_;
     bool isImported_ = false;
-    int edits_ = 0; ///< Number of edits in progress; they can be nested.
+    std::shared_ptr<const SourceFile> source_; ///< Null if nothing but notes is kept of the file.
+    int edits_ = 0;                            ///< Number of edits in progress; they can be nested.
 };
 
 /// Access to the sequence during a change: brings playback up to date at the beginning, and

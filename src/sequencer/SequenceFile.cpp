@@ -41,15 +41,6 @@ std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& even
     return note;
 }
 
-// See docs/decisions.md, 120.
-std::uint8_t midiVelocity(float velocity)
-{
-    // Multiplied in floats, as it was divided: in doubles some velocities would come back one
-    // lower.
-    const float scaled = velocity * kFullVelocity;
-    return static_cast<std::uint8_t>(scaled >= 1.0F ? std::min(scaled, kFullVelocity) : 1.0F);
-}
-
 MidiEvent midiNote(const Note& note)
 {
     const double start = std::max(note.start * kBeatsPerStep, 0.0);
@@ -64,6 +55,15 @@ MidiEvent midiNote(const Note& note)
 }
 
 } // namespace
+
+// See docs/decisions.md, 120.
+std::uint8_t midiVelocity(float velocity)
+{
+    // Multiplied in floats, as it was divided: in doubles some velocities would come back one
+    // lower.
+    const float scaled = velocity * kFullVelocity;
+    return static_cast<std::uint8_t>(scaled >= 1.0F ? std::min(scaled, kFullVelocity) : 1.0F);
+}
 
 std::optional<SequenceFormat> sequenceFormatOf(const std::filesystem::path& path)
 {

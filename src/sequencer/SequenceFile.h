@@ -45,6 +45,9 @@ struct SequenceFile {
 SequenceFile readSequence(const StandardMidiFile& file, int keyRangeLo, int keyRangeHi,
                           Sequence& sequence);
 
+/// Returns a velocity from 0 to 1 as a file holds it, from 1 to 127.
+std::uint8_t midiVelocity(float velocity);
+
 /// Returns the bytes of a file with the notes at 120 beats a minute, where a step is an eighth of a
 /// beat. Values that a file cannot hold are limited: a start before the beginning, a length of 0,
 /// which becomes one tick, a channel above 15, of which the low four bits remain, and a velocity

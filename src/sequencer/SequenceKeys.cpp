@@ -148,7 +148,7 @@ void SequenceEditor::paste(std::vector<Note> notes)
         const auto edit = document_.edit();
         edit->deselect();
         for (Note& note : notes) {
-            note.id = 0;
+            note.id = note.origin = 0;
             note.start = note.oldStart = begin + (note.start - first);
             note.oldLength = note.length;
             note.oldKey = note.key;

@@ -172,6 +172,21 @@ void SequencePlayback::markAt(double step, double tolerance, int state)
     }
 }
 
+void SequencePlayback::markSounding(double step, int state)
+{
+    index(); // knows which notes are marked
+    for (std::uint32_t i = 0; i < sequence_.notes().size(); ++i) {
+        Note& note = sequence_.at(i);
+        const bool isAtStep = note.start <= step && step < note.start + note.length;
+        if (isAtStep) {
+            mark(i);
+            states[note.key] |= state;
+        }
+        note.active = isAtStep;
+    }
+    forgetUnmarked();
+}
+
 void SequencePlayback::stopOnInstrument(std::uint32_t key, int channel)
 {
     perform(host_, {false, key, channel, 0.0F, 0.0, 0.0});

@@ -55,6 +55,10 @@ public:
     /// the states of their keys.
     void markAt(double step, double tolerance, int state);
 
+    /// Flags only the notes at a step as active, whenever they began, and adds `state` to the
+    /// states of their keys.
+    void markSounding(double step, int state);
+
     /// The state of each key, as bit flags `kPressed`, `kWanted` and `kHeld`.
     std::array<int, kKeys> states{};
 

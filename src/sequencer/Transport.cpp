@@ -88,13 +88,14 @@ void Transport::playUntil(double now)
         if (const auto lastKey = playback_.playBetween(position_, next))
             // See docs/decisions.md, 91.
             cursor_ = static_cast<int>(*lastKey);
+        scrollTo(next);
     } else {
         playback_.silenceAll();
         next = interval_.isEmpty() ? 0.0 : interval_.start;
+        scrollTo(next);
         if (!loop_)
             play();
     }
-    scrollTo(next);
     if (mode_ == Mode::Playing)
         playback_.planAhead(next, now, stepsPerSecond(), endOfPlaying());
 }

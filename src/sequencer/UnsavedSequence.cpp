@@ -1,6 +1,7 @@
 #include "sequencer/UnsavedSequence.h"
 
 #include "base/FormatError.h"
+#include "sequencer/SourceFile.h"
 #include "sequencer/makeValid.h"
 
 #include <QByteArray>
@@ -12,10 +13,10 @@ namespace velmora {
 namespace {
 
 constexpr quint32 kMagic = 0x56524543; // "VREC"
-constexpr quint32 kVersion = 1;
+constexpr quint32 kVersion = 2;
 
 /// The size of a note in the file.
-constexpr qint64 kNoteBytes = 5 * 8 + 3 * 4;
+constexpr qint64 kNoteBytes = 5 * 8 + 4 * 4;
 
 void setUp(QDataStream& stream)
 {
@@ -64,9 +65,16 @@ Note readNote(Reader& reader)
     note.channel = reader.read<quint32>();
     note.key = reader.read<quint32>();
     note.oldKey = reader.read<quint32>();
+    note.origin = reader.read<quint32>();
     reader.require(makeValid(note),
                    "a note has an invalid time, a key above 127 or a channel above 255");
     return note;
+}
+
+QByteArray bytesOf(const SourceFile& source)
+{
+    return {reinterpret_cast<const char*>(source.bytes().data()),
+            static_cast<qsizetype>(source.bytes().size())};
 }
 
 } // namespace
@@ -79,10 +87,12 @@ std::string encodeUnsaved(const UnsavedSequence& sequence)
     setUp(stream);
     stream << kMagic << kVersion << QByteArray::fromStdString(sequence.path.string())
            << static_cast<qint64>(sequence.time.time_since_epoch().count()) << sequence.isImported
+           << (sequence.source ? bytesOf(*sequence.source) : QByteArray())
            << static_cast<quint64>(sequence.notes.size());
     for (const Note& note : sequence.notes)
         stream << note.start << note.length << note.oldStart << note.oldLength
-               << static_cast<double>(note.velocity) << note.channel << note.key << note.oldKey;
+               << static_cast<double>(note.velocity) << note.channel << note.key << note.oldKey
+               << note.origin;
     return bytes.toStdString();
 }
 
@@ -95,6 +105,12 @@ UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes)
     sequence.path = reader.read<QByteArray>().toStdString();
     sequence.time = decltype(sequence.time)(std::chrono::milliseconds(reader.read<qint64>()));
     sequence.isImported = reader.read<bool>();
+    if (const auto source = reader.read<QByteArray>(); !source.isEmpty()) {
+        const auto sourceBytes = std::as_bytes(std::span(source.begin(), source.end()));
+        Sequence notes; // those of the recovery file count
+        sequence.source = std::make_shared<SourceFile>(
+            std::vector(sourceBytes.begin(), sourceBytes.end()), notes);
+    }
 
     const auto count = reader.read<quint64>();
     reader.require(count == static_cast<quint64>(reader.left()) / kNoteBytes &&

@@ -6,11 +6,14 @@
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace velmora {
+
+class SourceFile;
 
 /// An unsaved document, kept in case of a crash.
 struct UnsavedSequence {
@@ -23,11 +26,15 @@ struct UnsavedSequence {
     std::vector<Note> notes;
 
     Reading reading = Reading::Musical; ///< Not kept on disk: the program that recovers chooses.
+
+    /// What the notes come from, by their `origin`; null if there is nothing else to keep.
+    std::shared_ptr<const SourceFile> source = nullptr;
 };
 
 /// Returns the bytes of a recovery file, big-endian: "VREC", the version, path, time, isImported,
-/// the number of notes, and for each note its start, length, oldStart, oldLength and velocity as
-/// doubles and its channel, key and oldKey as 32-bit numbers.
+/// the bytes of the source file, the number of notes, and for each note its start, length,
+/// oldStart, oldLength and velocity as doubles and its channel, key, oldKey and origin as 32-bit
+/// numbers.
 std::string encodeUnsaved(const UnsavedSequence& sequence);
 
 /// Decodes a recovery file, with its notes corrected by `makeValid`. Throws FormatError with the

@@ -2,6 +2,7 @@
 #include "base/FormatError.h"
 #include "platform/pathNames.h"
 #include "sequencer/RecoveryKeeper.h"
+#include "sequencer/SequenceEditor.h"
 #include "sequencer/SequenceFile.h"
 #include "support/ChildProcess.h"
 #include "support/MidiBytes.h"
@@ -83,7 +84,8 @@ TEST(UnsavedSequence, DecodesExactlyOrRejects)
                       .channel = 19,
                       .key = 127,
                       .oldStart = 0.1,
-                      .oldKey = 126};
+                      .oldKey = 126,
+                      .origin = 7};
     const decltype(UnsavedSequence::time) time(1234567890123ms);
     const std::string bytes = encodeUnsaved({"/tmp/Fug\xFF.mid", time, true, {before, Note{}}});
     const auto decode = [](const std::string& kept) {
@@ -95,7 +97,7 @@ TEST(UnsavedSequence, DecodesExactlyOrRejects)
     ASSERT_EQ(after.notes.size(), 2U);
     const auto all = [](const Note& n) {
         return std::tie(n.start, n.length, n.oldStart, n.oldLength, n.velocity, n.channel, n.key,
-                        n.oldKey);
+                        n.oldKey, n.origin);
     };
     EXPECT_EQ(all(after.notes[0]), all(before));
 
@@ -103,7 +105,7 @@ TEST(UnsavedSequence, DecodesExactlyOrRejects)
         EXPECT_THROW(decode(bytes.substr(0, size)), FormatError) << size;
     EXPECT_THROW(decode(bytes + "x"), FormatError);
     std::string wrong = bytes; // with NaN as the start of the last note
-    wrong.replace(bytes.size() - 52, 2, "\x7F\xF8");
+    wrong.replace(bytes.size() - 56, 2, "\x7F\xF8");
     EXPECT_THROW(decode(wrong), FormatError);
     const Note far{.start = -1e300, .length = 1e300, .oldLength = -1.0, .velocity = 2.0F};
     const Note near = decode(encodeUnsaved({"", time, true, {far}})).notes.at(0);
@@ -133,6 +135,105 @@ TEST_F(SequenceSaving, RefusesToReplaceAFileThatHoldsMore)
     EXPECT_TRUE(document_.sequence().notes().empty()) << "a broken file";
     EXPECT_EQ(transport_.extent(), 0.0);
     EXPECT_THAT(document_.errorString(), testing::HasSubstr("a.mid"));
+}
+
+class MusicalSaving : public SequenceSaving {
+protected:
+    /// Reads a file in the musical reading, after which `reread` tells what was saved.
+    void open(const std::string& bytes)
+    {
+        std::ofstream(path_, std::ios::binary) << bytes;
+        musical_.read(path_);
+    }
+
+    std::string saved(const char* name = "b.mid")
+    {
+        EXPECT_TRUE(musical_.save(folder_ / name, SequenceFormat::MidiFile, kSaveAs));
+        return readTextFile(folder_ / name);
+    }
+
+    SequenceDocument musical_{*this, Reading::Musical, [this] { return now_; }};
+};
+
+TEST_F(MusicalSaving, ChangesOnlyWhatWasEdited)
+{
+    using namespace midi;
+    const std::string conductor = tempo(0, 600'000) + bytes({0, 0xFF, 0x58, 4, 3, 2, 24, 8}) +
+                                  tempo(192, 300'000) + bytes({0, 0xFF, 5, 2, 'l', 'a'});
+    const auto voice = [](const std::string& firstNote) {
+        return bytes({0, 0xFF, 3, 1, 'V', 0, 0xC2, 19, 0, 0xB2, 64, 127}) + firstNote +
+               bytes({96, 0x82, 60, 33, 0, 0xF0, 2, 1, 0xF7, 0, 0x82, 99, 0}) + on(0, 62, 80, 2) +
+               off(0, 62, 2) + on(12, 64, 90, 2);
+    };
+    const auto fileOf = [&](const std::string& firstNote, const std::string& last) {
+        return header(1, 2) + track(conductor) +
+               chunk("MTrk", voice(firstNote) + last + bytes({96, 0xFF, 0x2F, 0}));
+    };
+    const std::string original = fileOf(on(0, 60, 70, 2), "");
+    open(original);
+    ASSERT_EQ(musical_.sequence().notes().size(), 2U) << "one has no length";
+    EXPECT_EQ(musical_.sequence().notes()[0].length, 0.6 * 16) << "at its place";
+    EXPECT_FALSE(musical_.isImported());
+    EXPECT_EQ(saved(), original);
+
+    musical_.edit()->at(0).velocity = 1.0F;
+    EXPECT_EQ(saved(), fileOf(on(0, 60, 127, 2), ""));
+    musical_.undoStack().setIndex(0);
+    musical_.edit()->addNote(
+        {.start = 3 * 9.6 - 0.3 * 9.6, .length = 2.4, .velocity = 1.0F, .channel = 2, .key = 70});
+    const std::string more = saved();
+    EXPECT_NE(more, original);
+    musical_.read(folder_ / "b.mid");
+    ASSERT_EQ(musical_.sequence().notes().size(), 3U);
+    musical_.edit()->addNote({.start = 1.2345, .length = 2.4, .velocity = 1.0F, .key = 71});
+    const std::string finer = saved();
+    EXPECT_EQ(finer.substr(12, 2), number(96 * 43, 2)) << "a take needs finer ticks";
+    musical_.read(folder_ / "b.mid");
+    const auto& notes = musical_.sequence().notes();
+    ASSERT_EQ(notes.size(), 4U);
+    EXPECT_NEAR(notes[1].start, 1.2345, 0.002);
+    EXPECT_EQ(notes[0].length, 0.6 * 16) << "the same music";
+}
+
+TEST_F(MusicalSaving, ReadsADamagedFileAsFarAsItGoes)
+{
+    using namespace midi;
+    const std::string whole = header(1, 2) + track(on(0, 60) + off(96, 60)) +
+                              track(on(0, 20) + off(96, 20) + on(0, 120) + off(96, 120));
+    for (const auto& [missing, notes] : {std::pair(1U, 3U), {5U, 3U}, {30U, 1U}}) {
+        open(whole.substr(0, whole.size() - missing));
+        EXPECT_EQ(musical_.errorString(), "");
+        EXPECT_THAT(musical_.damage(), testing::StartsWith("a.mid, byte "));
+        EXPECT_EQ(musical_.sequence().notes().size(), notes) << "keys beyond the keyboard as well";
+        EXPECT_FALSE(musical_.save(path_, SequenceFormat::MidiFile, kSave)) << "keeps what is left";
+    }
+    open(whole);
+    EXPECT_EQ(musical_.damage(), "");
+    open("MThd");
+    EXPECT_NE(musical_.errorString(), "");
+}
+
+TEST_F(MusicalSaving, ExportsMelodiesWithoutCallingTheDocumentSaved)
+{
+    open(midi::file(midi::on(0, 60) + midi::off(96, 60)));
+    SequenceEditor editor(musical_);
+    editor.selectAll();
+    editor.moveSelection(1, 0);
+    EXPECT_TRUE(musical_.save(folder_ / "a.imy", SequenceFormat::IMelody, kSaveAs));
+    EXPECT_EQ(musical_.path(), path_);
+    EXPECT_TRUE(musical_.isModified());
+}
+
+TEST_F(MusicalSaving, RecoversTheFileWithTheNotes)
+{
+    const std::string original =
+        midi::file(midi::tempo(0, 400'000) + midi::on(0, 60) + midi::off(96, 60));
+    open(original);
+    const std::string kept = encodeUnsaved(musical_.snapshot());
+    SequenceDocument recovered(*this);
+    recovered.recover(decodeUnsaved(std::as_bytes(std::span(kept))));
+    EXPECT_TRUE(recovered.save(folder_ / "c.mid", SequenceFormat::MidiFile, kSaveAs));
+    EXPECT_EQ(readTextFile(folder_ / "c.mid"), original);
 }
 
 TEST_F(SequenceSaving, KeepsTheOldFileIfItCannotBeWritten)

@@ -1,5 +1,6 @@
 #include "sequencer/Transport.h"
 
+#include "sequencer/SequenceEditor.h"
 #include "support/SequenceTest.h"
 
 #include <algorithm>
@@ -148,6 +149,36 @@ TEST_F(TransportTest, PlaysToTheEndAndReturnsToTheBeginning)
     EXPECT_EQ(calls_, Calls{"stop 60"}) << "once";
     EXPECT_EQ(practice_.stateOfNote(60), kWanted) << "the keyboard keeps its colours";
     EXPECT_NEAR(transport_.position(), 2.5, 1e-6);
+}
+
+TEST_F(TransportTest, ShowsTheKeysAndNotesAtThePosition)
+{
+    SequenceDocument musical(*this, Reading::Musical, [this] { return now_; });
+    Transport& transport = musical.transport();
+    musical.edit()->addNote({.start = 0.0, .length = 8.0, .velocity = 1.0F, .key = 60});
+    musical.edit()->addNote({.start = 20.0, .length = 1.0, .velocity = 1.0F, .key = 64});
+    musical.updateExtent();
+    SequenceEditor editor(musical);
+    transport.play();
+    const auto play = [&](double seconds) {
+        now_ += seconds;
+        transport.tick();
+    };
+    play(0.1);
+    editor.selectAll();
+    editor.deleteSelection();
+    musical.undoStack().undo();
+    EXPECT_TRUE(musical.sequence().notes().at(0).active) << "it is under the position again";
+    press(70);
+    musical.practice().midiInput();
+    EXPECT_EQ(musical.practice().stateOfNote(60), kWanted) << "still sounding";
+    transport.play();
+    EXPECT_EQ(musical.practice().stateOfNote(60), 0) << "nothing begins here";
+    transport.play();
+    play(1.2);
+    play(9.0);
+    EXPECT_EQ(transport.mode(), kStopped);
+    EXPECT_EQ(musical.practice().stateOfNote(60), kWanted) << "at the beginning again";
 }
 
 TEST_F(TransportTest, PlaysTheSelectedInterval)

@@ -4,6 +4,7 @@
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/shell/SequencePage.h"
 #include "desktop/shell/ShellActions.h"
+#include "desktop/widgets/messages.h"
 #include "desktop/widgets/windowPlace.h"
 #include "platform/pathNames.h"
 
@@ -128,11 +129,22 @@ std::string SequencePages::open(const QString& path)
     SequencePage& page = makePage({});
     page.document().read(pathOf(path));
     std::string error = page.document().errorString();
-    if (error.empty())
+    if (error.empty() && (page.document().damage().empty() || askToOpenDamaged(page.document())))
         show(page);
     else
         remove(page);
     return error;
+}
+
+bool SequencePages::askToOpenDamaged(const SequenceDocument& document)
+{
+    const auto notes = static_cast<int>(document.sequence().notes().size());
+    QMessageBox box(QMessageBox::Warning, tr("Velmora"),
+                    tr("%1 is damaged. Open what could be read?").arg(displayName(document.path())),
+                    QMessageBox::Open | QMessageBox::Cancel, QApplication::activeWindow());
+    box.setInformativeText(tr("%n note(s) could be read.", nullptr, notes) + '\n' +
+                           translated(document.damage()));
+    return box.exec() == QMessageBox::Open;
 }
 
 void SequencePages::offerAbandoned()

@@ -91,6 +91,7 @@ signals:
     void unprotected(const QString& why);
 
 private:
+    bool askToOpenDamaged(const SequenceDocument& document);
     SequencePage& makePage(const QString& name, RecoveryFile recovery = RecoveryFile());
     void show(SequencePage& page);
     void showTitle(SequencePage& page);
