@@ -122,6 +122,8 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
         document.read(path);
         if (!document.errorString().empty())
             throw std::runtime_error(document.errorString());
+        if (!document.damage().empty())
+            fmt::print(stderr, "velmora: {}\n", document.damage());
         return {describe(document, path.filename().string()), printSequence};
     }
     if (instrumentFormatOf(path))

@@ -41,6 +41,8 @@ void readPiece(const std::filesystem::path& path, SequenceDocument& document)
     document.read(path);
     if (!document.errorString().empty())
         throw std::runtime_error(document.errorString());
+    if (!document.damage().empty())
+        fmt::print(stderr, "velmora: {}\n", document.damage());
 }
 
 /// Renders to a MIDI file that reproduces the tuning.

@@ -207,19 +207,11 @@ void SourceFileWriter::addFileEvents(std::size_t index, std::uint64_t end,
     std::vector<std::uint32_t> noteOf(track.events.size());
     std::vector<bool> isGone(track.events.size());
     for (std::uint32_t i = 0; i < notes.size(); ++i) {
-        const bool isKept = fates_[index][i].isKept;
         for (const std::uint32_t event : {notes[i].on, notes[i].off}) {
-            if (event == FileNote::kTrackEnd) {
-                if (isKept && end > track.end * factor_) { // it must not end later than it did
-                    const FileEvent& on = track.events[notes[i].on];
-                    const auto off = static_cast<std::uint8_t>(midi::kNoteOff |
-                                                               (on.status & midi::kChannelMask));
-                    events.push_back({track.end * factor_, kEnds, i + 1, off, {on.data[0], 0}, {}});
-                }
+            if (event == FileNote::kTrackEnd)
                 continue;
-            }
             noteOf[event] = i + 1;
-            isGone[event] = !isKept;
+            isGone[event] = !fates_[index][i].isKept;
         }
     }
     for (std::size_t i = 0; i < track.events.size(); ++i) {
@@ -230,6 +222,21 @@ void SourceFileWriter::addFileEvents(std::size_t index, std::uint64_t end,
             Event{event.tick * factor_, kOfFile, noteOf[i], event.status, {}, event.data});
         if (isNoteEvent(event))
             added.message = {event.data[0], event.data[1]};
+    }
+    if (end == track.end * factor_)
+        return;
+    // Notes that ended with the track must not become longer with it.
+    for (std::uint32_t i = 0; i < notes.size(); ++i) {
+        if (notes[i].off != FileNote::kTrackEnd || !fates_[index][i].isKept)
+            continue;
+        const FileEvent& on = track.events[notes[i].on];
+        const int off = midi::kNoteOff | (on.status & midi::kChannelMask);
+        events.push_back({track.end * factor_,
+                          kOfFile,
+                          i + 1,
+                          static_cast<std::uint8_t>(off),
+                          {on.data[0], 0},
+                          {}});
     }
 }
 

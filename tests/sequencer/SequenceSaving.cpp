@@ -185,6 +185,7 @@ TEST_F(MusicalSaving, ChangesOnlyWhatWasEdited)
     EXPECT_NE(more, original);
     musical_.read(folder_ / "b.mid");
     ASSERT_EQ(musical_.sequence().notes().size(), 3U);
+    EXPECT_NEAR(musical_.sequence().notes()[1].length, 9.0, 1e-6) << "not up to the new end";
     musical_.edit()->addNote({.start = 1.2345, .length = 2.4, .velocity = 1.0F, .key = 71});
     const std::string finer = saved();
     EXPECT_EQ(finer.substr(12, 2), number(96 * 43, 2)) << "a take needs finer ticks";

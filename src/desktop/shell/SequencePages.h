@@ -15,6 +15,7 @@ namespace velmora {
 class AppDelegate;
 class KeyboardView;
 class SequenceActions;
+class SequenceDocument;
 class SequencePage;
 class ShellActions;
 

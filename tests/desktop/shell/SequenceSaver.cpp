@@ -37,6 +37,7 @@ TEST_F(SequenceSaverTest, AsksBeforeItLosesChanges)
     reread.read(path);
     EXPECT_EQ(reread.sequence().notes().size(), 2);
 
+    desktop.application().playing().usePlainReading();
     SequencePage& imported = open("wolf-fantasia.mid");
     EXPECT_THAT(answering({"Cancel"}, [&] { EXPECT_FALSE(imported.saver().save()); }),
                 ElementsAre(EndsWith(
