@@ -1535,6 +1535,17 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Untitled %1</source>
         <translation type="unfinished">Unbenannt %1</translation>
     </message>
+    <message>
+        <source>%1 is damaged. Open what could be read?</source>
+        <translation type="unfinished">%1 ist beschädigt. Soll geöffnet werden, was gelesen werden konnte?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) could be read.</source>
+        <translation type="unfinished">
+            <numerusform>%n Note konnte gelesen werden.</numerusform>
+            <numerusform>%n Noten konnten gelesen werden.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceSaver</name>

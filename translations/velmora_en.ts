@@ -89,6 +89,13 @@
             <numerusform>%1, %n notes, %2</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n note(s) could be read.</source>
+        <translation>
+            <numerusform>%n note could be read.</numerusform>
+            <numerusform>%n notes could be read.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceStatus</name>

@@ -1535,6 +1535,17 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Untitled %1</source>
         <translation type="unfinished">Sin título %1</translation>
     </message>
+    <message>
+        <source>%1 is damaged. Open what could be read?</source>
+        <translation type="unfinished">%1 está dañado. ¿Desea abrir lo que se ha podido leer?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) could be read.</source>
+        <translation type="unfinished">
+            <numerusform>Se ha podido leer %n nota.</numerusform>
+            <numerusform>Se han podido leer %n notas.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceSaver</name>

@@ -1535,6 +1535,17 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Untitled %1</source>
         <translation type="unfinished">Sans titre %1</translation>
     </message>
+    <message>
+        <source>%1 is damaged. Open what could be read?</source>
+        <translation type="unfinished">%1 est endommagé. Ouvrir ce qui a pu être lu ?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) could be read.</source>
+        <translation type="unfinished">
+            <numerusform>%n note a pu être lue.</numerusform>
+            <numerusform>%n notes ont pu être lues.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceSaver</name>

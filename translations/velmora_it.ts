@@ -1535,6 +1535,17 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Untitled %1</source>
         <translation type="unfinished">Senza titolo %1</translation>
     </message>
+    <message>
+        <source>%1 is damaged. Open what could be read?</source>
+        <translation type="unfinished">%1 è danneggiato. Aprire ciò che è stato possibile leggere?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) could be read.</source>
+        <translation type="unfinished">
+            <numerusform>È stato possibile leggere %n nota.</numerusform>
+            <numerusform>È stato possibile leggere %n note.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceSaver</name>

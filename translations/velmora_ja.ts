@@ -1524,6 +1524,16 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Untitled %1</source>
         <translation type="unfinished">無題 %1</translation>
     </message>
+    <message>
+        <source>%1 is damaged. Open what could be read?</source>
+        <translation type="unfinished">%1 は破損しています。読み込めた部分を開きますか?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) could be read.</source>
+        <translation type="unfinished">
+            <numerusform>%n 個の音符を読み込めました。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceSaver</name>
