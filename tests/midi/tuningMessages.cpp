@@ -61,7 +61,7 @@ TEST(TuningMessages, AreReadAsTheyWereWritten)
 
     ReceivedTuning changed;
     ASSERT_TRUE(readTuningMessage(writeKeyChanges(Bytes{0, 60, 127}, places), changed));
-    for (const std::size_t key : {0, 60, 127})
+    for (const std::size_t key : {0UL, 60UL, 127UL})
         EXPECT_NEAR(changed.places[key], places[key], kHalfUnit);
     EXPECT_EQ(changed.places[61], 61.0) << "no other key";
 

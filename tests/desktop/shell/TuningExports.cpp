@@ -36,7 +36,7 @@ TEST_F(TuningExportsTest, WritePiecesAndScalesInTheCurrentTuning)
     const ScaleTemperament scale(readScale(readFile(path("mine.scl"))),
                                  readMapping(readFile(path("mine.kbm"))));
     desktop.application().player().with([&](const Instrument&, const Temperament& current) {
-        for (const unsigned long key : {21, 64, 69, 108})
+        for (const unsigned long key : {21UL, 64UL, 69UL, 108UL})
             EXPECT_NEAR(scale.getPitch(key) / current.getPitch(key), 1.0, 1e-9) << key;
     });
 }
