@@ -188,8 +188,12 @@ std::string encodeSession(const Session& session, const std::filesystem::path& f
     file["currentInstrument"] = session.currentInstrument;
     file["program"] = session.program;
     file["tunings"] = Json::array();
-    for (const auto& path : session.tunings)
-        addPath(file["tunings"].emplace_back(Json::object()), path, folder);
+    for (const Session::Tuning& tuning : session.tunings) {
+        Json& entry = file["tunings"].emplace_back(Json::object());
+        addPath(entry, tuning.path, folder);
+        if (!tuning.mapping.empty())
+            addPath(entry["mapping"], tuning.mapping, folder);
+    }
     file["tuning"] = session.tuning;
     file["transposition"] = session.transposition;
     file["pieces"] = Json::array();
@@ -217,8 +221,12 @@ Session decodeSession(std::string_view text, const std::filesystem::path& folder
     if (const auto program = file.find("program"))
         session.program = static_cast<std::uint8_t>(program->integer(0, kLastProgram));
     if (const auto tunings = file.find("tunings"))
-        for (const JsonField& tuning : tunings->records())
-            session.tunings.push_back(readPath(tuning, folder));
+        for (const JsonField& tuning : tunings->records()) {
+            const auto mapping = tuning.find("mapping");
+            session.tunings.push_back({readPath(tuning, folder), mapping
+                                                                     ? readPath(*mapping, folder)
+                                                                     : std::filesystem::path()});
+        }
     if (const auto tuning = file.find("tuning"))
         session.tuning = tuning->text();
     if (const auto transposition = file.find("transposition"))

@@ -26,17 +26,22 @@ struct Session {
         std::optional<ConsoleState> console{}; ///< In place of the gains for an organ.
     };
 
+    struct Tuning {
+        std::filesystem::path path;      ///< Absolute.
+        std::filesystem::path mapping{}; ///< Of the keyboard; absolute, or empty for none.
+    };
+
     struct Piece {
         std::filesystem::path path; ///< Absolute.
         double position = 0.0;      ///< In steps.
     };
 
     std::vector<Instrument> instruments;
-    std::size_t currentInstrument = 0;          ///< Its position in that list.
-    std::uint8_t program = 0;                   ///< The General MIDI program.
-    std::vector<std::filesystem::path> tunings; ///< The opened tuning files; absolute.
-    std::string tuning;                         ///< The name of the current tuning; may be empty.
-    int transposition = 0;                      ///< In semitones.
+    std::size_t currentInstrument = 0; ///< Its position in that list.
+    std::uint8_t program = 0;          ///< The General MIDI program.
+    std::vector<Tuning> tunings;       ///< The opened tuning files.
+    std::string tuning;                ///< The name of the current tuning; may be empty.
+    int transposition = 0;             ///< In semitones.
     std::vector<Piece> pieces;
     std::size_t currentPiece = 0; ///< Its position in that list.
     std::string layout;           ///< How the windows are arranged, as bytes for the desktop only.

@@ -51,6 +51,18 @@ void Tunings::replace(std::unique_ptr<TuningDocument> document)
     emit changed();
 }
 
+std::string Tunings::setMapping(const std::filesystem::path& file)
+{
+    const TuningDocument* document = current();
+    if (document == nullptr)
+        return {};
+    auto mapped = document->withMapping(file);
+    std::string error = mapped->errorString();
+    if (error.empty())
+        replace(std::move(mapped));
+    return error;
+}
+
 void Tunings::preview(const TuningDocument* document)
 {
     if (document == nullptr)

@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <string>
@@ -32,6 +33,10 @@ public:
     /// Puts a tuning in the place of the one that its name selects, or lists it. Plays it at once
     /// if the current tuning has that name.
     void replace(std::unique_ptr<TuningDocument> document);
+
+    /// Plays the current tuning on the keys of a keyboard mapping file; an empty path stands for
+    /// none. Returns an empty string, or a sentence that says why the keys stay as they are.
+    std::string setMapping(const std::filesystem::path& file);
 
     /// Plays a tuning that need not be listed; null plays the current one again. So does whatever
     /// changes the current tuning, its root or its pitch. The document may be destroyed.

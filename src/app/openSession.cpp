@@ -26,8 +26,9 @@ std::optional<std::size_t> findInstrument(const AppDelegate& application,
 }
 
 /// Opens a tuning file unless it is listed. Returns a sentence if that fails.
-std::string openTuning(const std::filesystem::path& path, AppDelegate& application)
+std::string openTuning(const Session::Tuning& wanted, AppDelegate& application)
 {
+    const auto& path = wanted.path;
     for (const auto& listed : application.tunings().documents())
         if (listed->path() == path)
             return {};
@@ -35,10 +36,16 @@ std::string openTuning(const std::filesystem::path& path, AppDelegate& applicati
     if (!format)
         return FormatError("this is not a tuning file").inFile(path.filename().string());
     auto document = std::make_unique<TuningDocument>();
-    if (!document->read(path, *format))
+    if (!document->read(path, *format, application.playing().reading()))
         return document->errorString();
-    application.tunings().put(std::move(document));
-    return {};
+    if (wanted.mapping.empty()) {
+        application.tunings().put(std::move(document));
+        return {};
+    }
+    auto mapped = document->withMapping(wanted.mapping);
+    std::string error = mapped->errorString();
+    application.tunings().put(std::move(mapped));
+    return error;
 }
 
 /// What became of an instrument of a session.
@@ -99,7 +106,7 @@ Session currentSession(AppDelegate& application)
     session.program = application.midiProgram();
     for (const auto& document : application.tunings().documents())
         if (!document->path().empty())
-            session.tunings.push_back(document->path());
+            session.tunings.push_back({document->path(), document->mappingPath()});
     session.tuning = application.tunings().lastingName();
     session.transposition = application.playing().settings().transposition;
     return session;
@@ -108,8 +115,8 @@ Session currentSession(AppDelegate& application)
 std::vector<std::string> openSession(const Session& session, AppDelegate& application)
 {
     std::vector<std::string> errors;
-    for (const auto& path : session.tunings)
-        if (std::string error = openTuning(path, application); !error.empty())
+    for (const Session::Tuning& wanted : session.tunings)
+        if (std::string error = openTuning(wanted, application); !error.empty())
             errors.push_back(std::move(error));
     std::optional<std::size_t> current;
     for (const Session::Instrument& wanted : session.instruments) {

@@ -31,7 +31,7 @@ constexpr double kLastStep = 1e7; ///< About a week of music.
 
 /// The values of the command line's arguments.
 struct Arguments {
-    std::string sequence, output, instrument;
+    std::string sequence, output, instrument, mapping;
     Selection selection;
     std::vector<std::string> stops;
     RenderOptions options;
@@ -74,8 +74,8 @@ void addReading(CLI::App& command, Arguments& arguments)
 {
     command.add_flag("--as-stops", arguments.selection.asStops, kAsStops);
     command.add_flag("--plain", arguments.selection.plain,
-                     "Read the instrument plainly: each key has one sample, without loops and "
-                     "releases");
+                     "Read files plainly: each key of an instrument has one sample, without loops "
+                     "and releases, and scales have twelve notes");
 }
 
 /// Adds the option for how both MIDI devices and instruments are read.
@@ -84,7 +84,14 @@ void addPlain(CLI::App& command, Arguments& arguments)
     command.add_flag(
         "--plain", arguments.selection.plain,
         "Read MIDI devices plainly, without pedals, wheels, learned controllers, velocity curve "
-        "and transposition, and instruments plainly, one sample for each key");
+        "and transposition, and files plainly: one sample for each key of an instrument, and "
+        "scales of twelve notes");
+}
+
+void addMapping(CLI::App& command, Arguments& arguments)
+{
+    command.add_option("--mapping", arguments.mapping,
+                       "The .kbm file that says which keys play which notes of the tuning");
 }
 
 void addSelection(CLI::App& command, Arguments& arguments)
@@ -92,10 +99,11 @@ void addSelection(CLI::App& command, Arguments& arguments)
     command
         .add_option("--tuning", arguments.selection.tuning,
                     "Equal, \"Quartercomma Meantone\", Dynamic, \"Following Meantone\", Pure, a "
-                    "temperament of the literature such as Vallotti, or a .scl or .mtx file; a "
-                    "name may be shortened to the beginning of one of its words")
+                    "temperament of the literature such as Vallotti, or a .scl, .ascl, .tun or "
+                    ".mtx file; a name may be shortened to the beginning of one of its words")
         ->type_name("NAME|FILE")
         ->capture_default_str();
+    addMapping(command, arguments);
     command
         .add_option("--program", arguments.selection.program,
                     "Program of the General MIDI player or of a SoundFont: its number from 0 to "
@@ -216,6 +224,7 @@ int run(CLI::App& program, int argc, char** argv)
         program.add_subcommand("info", "Describe tuning, instrument and MIDI files"), arguments);
     infoCommand->add_option("files", arguments.files, "The files")->required();
     addReading(*infoCommand, arguments);
+    addMapping(*infoCommand, arguments);
     CLI::App* liveCommand = program.add_subcommand("live", "Play from the MIDI inputs");
     addSelection(*liveCommand, arguments);
     liveCommand->add_flag("--as-stops", arguments.selection.asStops, kAsStops);
@@ -247,6 +256,7 @@ int run(CLI::App& program, int argc, char** argv)
     }
     const QCoreApplication application(argc, argv);
     arguments.selection.instrument = arguments.instrument;
+    arguments.selection.mapping = arguments.mapping;
     for (const std::string& stop : arguments.stops)
         arguments.selection.stops.push_back(parseStop(stop));
     if (*renderCommand)

@@ -2,6 +2,7 @@
 #include "cli/commands.h"
 #include "cli/instrumentInfo.h"
 #include "sequencer/SequenceFile.h"
+#include "tuning/ScaleTemperament.h"
 
 #include <nlohmann/json.hpp>
 #include <spdlog/fmt/fmt.h>
@@ -16,6 +17,8 @@ namespace {
 /// by the frequency. See docs/decisions.md, 1.
 constexpr unsigned long kShownKey = 60;
 constexpr int kShownOctave = 5;
+
+constexpr int kLastMidiKey = 127;
 
 constexpr unsigned long kPitchClasses = 12;
 constexpr const char* kPitchClassNames[kPitchClasses] = {"C",  "C♯", "D",  "E♭", "E",  "F",
@@ -36,9 +39,45 @@ void describeKind(const Tuning& tuning, double base, Json& result)
     }
 }
 
+std::string valueOf(const Json& entry)
+{
+    const Json& value = entry["value"];
+    return value.is_string() ? value.get<std::string>() : fmt::format("{}", value.get<double>());
+}
+
+/// Describes the degrees of a scale and the pitches of the keys.
+Json describeKeys(const TuningDocument& document)
+{
+    const Temperament& temperament = document.temperament();
+    Json result = {{"name", document.name()}, {"description", document.description()}};
+    if (const auto* mapped = dynamic_cast<const ScaleTemperament*>(&temperament)) {
+        const Scale& scale = mapped->scale();
+        result["degrees"] = Json::array();
+        for (std::size_t i = 0; i <= scale.pitches.size(); ++i) {
+            Json& entry = result["degrees"].emplace_back(Json{{"degree", i}});
+            const std::size_t count = std::max<std::size_t>(scale.names.size(), 1);
+            if (!scale.names.empty())
+                entry["name"] = scale.names[i % count];
+            const ScalePitch pitch = i == 0 ? Cent(0.0) : scale.pitches[i - 1];
+            std::visit([&](const Tuning& tuning) { describeKind(tuning, 1.0, entry); }, pitch);
+            entry["cents"] = centsOf(pitch);
+        }
+    }
+    result["keys"] = Json::array();
+    for (int key = 0; key <= kLastMidiKey; ++key) {
+        Json& entry = result["keys"].emplace_back(Json{{"key", key}});
+        entry["hertz"] = temperament.isMapped(key)
+                             ? Json(temperament.getPitch(static_cast<unsigned long>(key)) / 2.0)
+                             : Json();
+    }
+    return result;
+}
+
 Json describe(const TuningDocument& document)
 {
     const Temperament& temperament = document.temperament();
+    if (!temperament.repeatsEveryOctave())
+        return describeKeys(document);
     Json result = {{"name", document.name()},
                    {"description", document.description()},
                    {"baseFrequency", temperament.baseFrequency()},
@@ -70,8 +109,31 @@ Json describe(const SequenceDocument& document, const std::string& name)
     return result;
 }
 
+void printKeys(const Json& tuning)
+{
+    fmt::print("{}: tuning{}\n", tuning["name"].get<std::string>(),
+               tuning.contains("degrees") ? " of " + counted(tuning["degrees"].size() - 1, "note")
+                                          : std::string());
+    if (const auto description = tuning["description"].get<std::string>(); !description.empty())
+        fmt::print("  {}\n", description);
+    for (const Json& entry : tuning.value("degrees", Json::array()))
+        fmt::print("  {:>3}  {:<9} {:>18}  {:>11.5f} cents{}\n", entry["degree"].get<int>(),
+                   entry["kind"].get<std::string>(), valueOf(entry), entry["cents"].get<double>(),
+                   entry.contains("name") ? "  " + entry["name"].get<std::string>()
+                                          : std::string());
+    for (const Json& entry : tuning["keys"])
+        fmt::print("  key {:>3}  {}\n", entry["key"].get<int>(),
+                   entry["hertz"].is_null()
+                       ? std::string("silent")
+                       : fmt::format("{:>12.6f} Hz", entry["hertz"].get<double>()));
+}
+
 void printTuning(const Json& tuning)
 {
+    if (tuning.contains("keys")) {
+        printKeys(tuning);
+        return;
+    }
     fmt::print("{}: tuning, base frequency {:.6f} Hz at C{}\n", tuning["name"].get<std::string>(),
                tuning["baseFrequency"].get<double>(), kShownOctave - 1);
     if (const auto description = tuning["description"].get<std::string>(); !description.empty())
@@ -79,9 +141,7 @@ void printTuning(const Json& tuning)
     for (const Json& entry : tuning["pitchClasses"])
         fmt::print("  {:<3}  {:<9} {:>18}  {:>11.5f} cents  {:>12.6f} Hz\n",
                    entry["note"].get<std::string>(), entry["kind"].get<std::string>(),
-                   entry["value"].is_string() ? entry["value"].get<std::string>()
-                                              : fmt::format("{}", entry["value"].get<double>()),
-                   entry["cents"].get<double>(), entry["hertz"].get<double>());
+                   valueOf(entry), entry["cents"].get<double>(), entry["hertz"].get<double>());
 }
 
 void printSequence(const Json& sequence)
@@ -112,9 +172,14 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
 {
     if (const auto format = tuningFormatOf(path)) {
         TuningDocument document;
-        if (!document.read(path, *format))
+        if (!document.read(path, *format, selection.plain ? Reading::Plain : Reading::Musical))
             throw std::runtime_error(document.errorString());
-        return {describe(document), printTuning};
+        if (selection.mapping.empty())
+            return {describe(document), printTuning};
+        const auto mapped = document.withMapping(selection.mapping);
+        if (!mapped->errorString().empty())
+            throw std::runtime_error(mapped->errorString());
+        return {describe(*mapped), printTuning};
     }
     if (sequenceFormatOf(path)) {
         Player player;

@@ -2,6 +2,7 @@
 #include "cli/commands.h"
 #include "cli/names.h"
 
+#include "app/tuningWarning.h"
 #include "platform/SignalNotifier.h"
 #include "platform/terminationSignals.h"
 
@@ -76,6 +77,8 @@ void live(const Selection& selection, const OutputSettings& wanted)
     fmt::print(
         "Press P and Return, or send the signal USR1, to silence everything; press Ctrl-C to "
         "stop.\n");
+    if (const std::string warning = tuningWarning(application); !warning.empty())
+        fmt::print("Note: {}.\n", warning);
     printMissingOutput(output);
     const auto silence = [&] {
         application.silenceAll();

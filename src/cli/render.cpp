@@ -4,6 +4,7 @@
 #include "app/generalMidiBanks.h"
 #include "app/tunedMidi.h"
 #include "app/tuningCorrections.h"
+#include "app/tuningWarning.h"
 #include "audio/AudioFileWriter.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
@@ -12,6 +13,10 @@
 #include <spdlog/fmt/fmt.h>
 
 #include <cmath>
+
+#include <spdlog/fmt/fmt.h>
+
+#include <cstdio>
 
 namespace velmora {
 
@@ -31,6 +36,8 @@ void selectOffline(const Selection& selection, double rate, AppDelegate& applica
         application.makeMIDIPlayer(std::move(synthesizer));
     }
     select(selection, application);
+    if (const std::string warning = tuningWarning(application); !warning.empty())
+        fmt::print(stderr, "velmora: {}\n", warning);
     if (application.playing().correctsTuning())
         application.player().with(
             [&](Instrument& instrument, Temperament&) { correctTuning(instrument, bank); });

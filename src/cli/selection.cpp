@@ -13,7 +13,7 @@ namespace velmora {
 
 namespace {
 
-std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
+std::unique_ptr<TuningDocument> tuningNamed(const std::string& name, Reading reading)
 {
     const auto format = tuningFormatOf(name);
     if (!format) {
@@ -27,10 +27,10 @@ std::unique_ptr<TuningDocument> tuningNamed(const std::string& name)
                 return TuningDocument::makeBuiltin(names[*builtin]);
         throw UsageError("there is no tuning \"" + name +
                          "\"; use the name of one, such as Equal, \"Following Meantone\" or "
-                         "\"Werckmeister III\", or a .scl or .mtx file");
+                         "\"Werckmeister III\", or a .scl, .ascl, .tun or .mtx file");
     }
     auto document = std::make_unique<TuningDocument>();
-    if (!document->read(name, *format))
+    if (!document->read(name, *format, reading))
         throw std::runtime_error(document->errorString());
     return document;
 }
@@ -68,13 +68,17 @@ std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& 
 
 void select(const Selection& selection, AppDelegate& application)
 {
-    auto tuning = tuningNamed(selection.tuning);
+    auto tuning = tuningNamed(selection.tuning, application.playing().reading());
     if (!selection.instrument.empty())
         application.addInstrument(
             readInstrument(selection.instrument, selection.asStops, application));
     const std::string name = tuning->name();
     application.tunings().put(std::move(tuning));
     application.tunings().select(name);
+    if (!selection.mapping.empty())
+        if (const std::string error = application.tunings().setMapping(selection.mapping);
+            !error.empty())
+            throw std::runtime_error(error);
 
     if (selection.program || selection.bank) {
         std::size_t position = 0;

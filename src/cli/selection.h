@@ -13,9 +13,10 @@ namespace velmora {
 /// The tuning, instrument and stops chosen on the command line.
 struct Selection {
     std::string tuning = "Equal";     ///< The name of a built-in tuning, or a file.
+    std::filesystem::path mapping;    ///< A keyboard mapping for it; empty for none.
     std::filesystem::path instrument; ///< An instrument file; empty for the General MIDI player.
-    bool plain = false;   ///< Read devices and the instrument plainly, whatever is preferred.
-    bool asStops = false; ///< Lay out the instruments of a SoundFont as stops.
+    bool plain = false;               ///< Read devices and files plainly, whatever is preferred.
+    bool asStops = false;             ///< Lay out the instruments of a SoundFont as stops.
     std::optional<int> bank;
     std::optional<std::string> program; ///< The number or name of a program of that bank.
     std::vector<std::pair<std::size_t, float>> stops; ///< Stop numbers, from 0, and their gains.

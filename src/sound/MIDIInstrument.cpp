@@ -196,6 +196,22 @@ void MIDIInstrument::bendChannels(const Temperament& temperament)
     }
 }
 
+double MIDIInstrument::worstError(const Temperament& temperament) const
+{
+    if (reading_ == Reading::Musical)
+        return 0.0;
+    double worst = 0.0;
+    for (int key = 0; key < static_cast<int>(places_.size()); ++key) {
+        const int pitchClass = key % kPitchClasses;
+        const double cents = temperament.getTuning(static_cast<unsigned>(pitchClass)).cent();
+        const double bend =
+            pitchClass == 0 ? 0.0 : std::clamp(cents - 100.0 * pitchClass, -200.0, 200.0);
+        const double place = 1200.0 * std::log2(temperament.pitchAt(key) / equal.pitchAt(0));
+        worst = std::max(worst, std::abs(100.0 * key + bend - place));
+    }
+    return worst;
+}
+
 void MIDIInstrument::findPlaces(const Temperament& temperament)
 {
     const bool repeats = temperament.repeatsEveryOctave();

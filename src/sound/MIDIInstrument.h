@@ -49,6 +49,10 @@ public:
     /// plain at first for General MIDI, and musical for other banks.
     void setReading(Reading reading) { reading_ = reading; }
 
+    /// Returns by how many cents the keys differ from a temperament at most. In the musical reading
+    /// that is none.
+    double worstError(const Temperament& temperament) const;
+
     /// Corrects a program, given by its position, until the device is replaced.
     void setCorrections(std::size_t program, const KeyCorrections& corrections);
 

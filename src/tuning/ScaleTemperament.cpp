@@ -22,8 +22,7 @@ ScaleTemperament::ScaleTemperament(Scale scale, KeyMapping mapping)
 {
     findPitches();
     repeatsEveryOctave_ = findRepetition();
-    if (repeatsEveryOctave_)
-        appendTunings();
+    appendTunings();
 }
 
 std::unique_ptr<Temperament> ScaleTemperament::fresh() const
@@ -71,7 +70,8 @@ void ScaleTemperament::findPitches()
         if (real < mapping_.firstKey || real > mapping_.lastKey) {
             pitch = equal.pitchAt(key);
         } else if (const auto cents = centsAt(key)) {
-            pitch = kOctaveHigher * mapping_.referenceHertz * std::exp2((*cents - *reference) / 1200.0);
+            pitch =
+                kOctaveHigher * mapping_.referenceHertz * std::exp2((*cents - *reference) / 1200.0);
             if (!std::isfinite(pitch) || !std::isnormal(pitch) || pitch < 0.0)
                 throw FormatError("the pitch of key " + std::to_string(real) +
                                   " is beyond all bounds");
@@ -82,32 +82,37 @@ void ScaleTemperament::findPitches()
 
 bool ScaleTemperament::findRepetition() const
 {
-    constexpr double kTolerance = 1e-9;
+    constexpr double kSame = 1e-9;
     if (std::ranges::find(pitches_, 0.0) != pitches_.end())
         return false;
     for (std::size_t i = kKeysOfOctave; i < pitches_.size(); ++i)
-        if (std::abs(pitches_[i] / pitches_[i - kKeysOfOctave] - 2.0) > kTolerance)
+        if (std::abs(pitches_[i] / pitches_[i - kKeysOfOctave] - 2.0) > kSame)
             return false;
     return true;
 }
 
+/// Those that ask by pitch class get the twelve notes from middle C, even if they do not repeat.
 void ScaleTemperament::appendTunings()
 {
-    constexpr int kBaseKey = 48;
-    setBaseFrequency(pitchAt(kBaseKey));
+    constexpr int kFirst = 60;
+    setBaseFrequency(pitchAt(kFirst) / 2.0);
     const bool isLinear = mapping_.degrees.empty() && mapping_.middleKey % kKeysOfOctave == 0 &&
                           scale_.pitches.size() == static_cast<std::size_t>(kKeysOfOctave);
     for (int i = 0; i < kKeysOfOctave; ++i) {
         if (isLinear && i > 0)
-            std::visit(
-                [&](const auto& pitch) {
-                    append(std::make_unique<std::decay_t<decltype(pitch)>>(pitch));
-                },
-                scale_.pitches[static_cast<std::size_t>(i) - 1]);
+            appendPitch(scale_.pitches[static_cast<std::size_t>(i) - 1]);
         else
-            append(std::make_unique<Cent>(1200.0 *
-                                          std::log2(pitchAt(kBaseKey + i) / baseFrequency())));
+            append(
+                std::make_unique<Cent>(1200.0 * std::log2(pitchAt(kFirst + i) / pitchAt(kFirst))));
     }
+}
+
+void ScaleTemperament::appendPitch(const ScalePitch& pitch)
+{
+    if (const auto* ratio = std::get_if<Ratio>(&pitch))
+        append(std::make_unique<Ratio>(*ratio));
+    else
+        append(std::make_unique<Cent>(std::get<Cent>(pitch)));
 }
 
 } // namespace velmora

@@ -35,6 +35,7 @@ private:
     void findPitches();
     bool findRepetition() const;
     void appendTunings();
+    void appendPitch(const ScalePitch& pitch);
 
     Scale scale_;
     KeyMapping mapping_;

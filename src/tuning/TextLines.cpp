@@ -10,7 +10,7 @@ std::vector<TextLine> splitTextLines(std::span<const std::byte> bytes)
 {
     std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF"))
-        throw FormatError("the text is encoded in UTF-16; save it in UTF-8");
+        throw FormatError("is written in UTF-16; save it as UTF-8 in a text editor");
     if (text.starts_with("\xEF\xBB\xBF"))
         text.remove_prefix(3);
     std::vector<TextLine> lines;

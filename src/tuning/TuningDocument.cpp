@@ -5,15 +5,43 @@
 #include "base/Log.h"
 #include "base/Text.h"
 #include "tuning/DynamicTemperament.h"
+#include "tuning/ExtendedScaleFile.h"
+#include "tuning/KeyTemperament.h"
+#include "tuning/KeyTuningFile.h"
+#include "tuning/MappingFile.h"
 #include "tuning/PureTemperament.h"
+#include "tuning/ScaleFile.h"
+#include "tuning/ScaleTemperament.h"
 #include "tuning/Tuning.h"
 #include "tuning/historicalTemperaments.h"
 
 #include <algorithm>
+#include <cmath>
 #include <new>
+#include <optional>
+#include <typeinfo>
 #include <utility>
 
 namespace velmora {
+
+namespace {
+
+/// Returns the notes of a temperament, if they always stay the same and there is a scale of them.
+std::optional<Scale> scaleOf(const Temperament& temperament)
+{
+    constexpr int kFirst = 60, kNotes = 12;
+    if (const auto* mapped = dynamic_cast<const ScaleTemperament*>(&temperament))
+        return mapped->scale();
+    if (typeid(temperament) != typeid(Temperament))
+        return std::nullopt;
+    Scale scale;
+    for (int i = 1; i <= kNotes; ++i)
+        scale.pitches.emplace_back(Cent(
+            1200.0 * std::log2(temperament.pitchAt(kFirst + i) / temperament.pitchAt(kFirst))));
+    return scale;
+}
+
+} // namespace
 
 TuningDocument::TuningDocument() : temperament_(std::make_unique<Temperament>()) {}
 
@@ -75,7 +103,7 @@ bool TuningDocument::isBuiltin(const std::string& name)
            findHistoricalTemperament(name) != nullptr;
 }
 
-bool TuningDocument::read(const std::filesystem::path& path, TuningFormat format)
+bool TuningDocument::read(const std::filesystem::path& path, TuningFormat format, Reading reading)
 {
     name_ = toUtf8(path.filename().string());
     errorString_.clear();
@@ -83,8 +111,11 @@ bool TuningDocument::read(const std::filesystem::path& path, TuningFormat format
         const auto bytes = readFile(path);
         // Diagnostics keep their texts: see docs/decisions.md, 125.
         logger("tuning").debug("TUNING {}", name_);
-        temperament_ = std::make_unique<Temperament>(readTuning(bytes, format));
-        description_ = readTuningDescription(bytes, format);
+        if (format == TuningFormat::Frequencies ||
+            (format == TuningFormat::Scale && reading == Reading::Plain))
+            readPlainly(bytes, format);
+        else
+            readMusically(bytes, format);
         path_ = path;
         return true;
     } catch (const FormatError& error) {
@@ -93,6 +124,66 @@ bool TuningDocument::read(const std::filesystem::path& path, TuningFormat format
         errorString_ = name_ + ": not enough memory to read the file";
     }
     return false;
+}
+
+void TuningDocument::readPlainly(std::span<const std::byte> bytes, TuningFormat format)
+{
+    temperament_ = std::make_unique<Temperament>(readTuning(bytes, format));
+    description_ = readTuningDescription(bytes, format);
+    warning_.clear();
+    if (format != TuningFormat::Scale)
+        return;
+    try {
+        constexpr double kWanted = 1200.0, kSame = 0.01;
+        const double period = readScale(bytes).period();
+        if (std::abs(period - kWanted) > kSame)
+            warning_ = FormatError("the scale repeats after " + std::to_string(period) +
+                                   " cents, but the plain reading repeats it after an octave")
+                           .inFile(name_);
+    } catch (const FormatError&) { // NOLINT(bugprone-empty-catch)
+        // Only the plain reading can read it.
+    }
+}
+
+void TuningDocument::readMusically(std::span<const std::byte> bytes, TuningFormat format)
+{
+    if (format == TuningFormat::KeyTunings) {
+        const KeyTunings tunings = readKeyTunings(bytes);
+        temperament_ = makeTemperament(tunings.hertz);
+        description_ = tunings.name;
+    } else {
+        auto [scale, mapping] = format == TuningFormat::Scale ? MappedScale{readScale(bytes), {}}
+                                                              : readExtendedScale(bytes);
+        temperament_ = std::make_unique<ScaleTemperament>(scale, mapping);
+        description_ = scale.description;
+    }
+    warning_.clear();
+}
+
+std::unique_ptr<TuningDocument> TuningDocument::withMapping(const std::filesystem::path& file) const
+{
+    const Temperament& unmapped = unmapped_ ? *unmapped_ : *temperament_;
+    auto copy = std::make_unique<TuningDocument>(name_, description_, unmapped.fresh());
+    copy->original_ = original_;
+    copy->path_ = path_;
+    copy->warning_ = warning_;
+    if (file.empty())
+        return copy;
+    const std::string fileName = toUtf8(file.filename().string());
+    try {
+        const auto scale = scaleOf(unmapped);
+        if (!scale)
+            throw FormatError("a keyboard mapping needs a scale, and this tuning has none");
+        copy->temperament_ =
+            std::make_unique<ScaleTemperament>(*scale, readMapping(readFile(file)));
+        copy->unmapped_ = unmapped.fresh();
+        copy->mappingPath_ = file;
+    } catch (const FormatError& error) {
+        copy->errorString_ = error.inFile(fileName);
+    } catch (const std::bad_alloc&) {
+        copy->errorString_ = fileName + ": not enough memory to read the file";
+    }
+    return copy;
 }
 
 } // namespace velmora

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Reading.h"
 #include "tuning/AdaptiveSettings.h"
 #include "tuning/Temperament.h"
 #include "tuning/TuningFile.h"
@@ -39,11 +40,24 @@ public:
     /// True for the name of an adaptive or a historical tuning.
     static bool isBuiltin(const std::string& name);
 
-    /// Reads a tuning file (see `readTuning`) and takes its file name as the document's name.
-    /// Returns false on failure; `errorString` then says why, and the temperament is unchanged.
-    bool read(const std::filesystem::path& path, TuningFormat format);
+    /// Reads a tuning file and takes its file name as the document's name. In the musical reading,
+    /// scales have any number of notes (see `readScale`), in the plain one twelve (see
+    /// `readTuning`). Returns false on failure; `errorString` then says why, and the temperament is
+    /// unchanged.
+    bool read(const std::filesystem::path& path, TuningFormat format,
+              Reading reading = Reading::Musical);
 
-    /// Why the last `read` failed, in one sentence that names the file; empty after a success.
+    /// Returns a copy on the keys of a keyboard mapping, which is read from a file; an empty path
+    /// stands for none. If that fails, the copy has the same keys, and its `errorString` says why.
+    std::unique_ptr<TuningDocument> withMapping(const std::filesystem::path& file) const;
+
+    /// The file of the keyboard mapping; empty if there is none.
+    const std::filesystem::path& mappingPath() const { return mappingPath_; }
+
+    /// What the reading had to ignore, in one sentence; empty if that is nothing.
+    const std::string& warning() const { return warning_; }
+
+    /// Why reading failed, in one sentence that names the file; empty after a success.
     const std::string& errorString() const { return errorString_; }
 
     /// The temperament in its initial state. To play it, make a copy with `fresh`.
@@ -62,9 +76,13 @@ public:
     const std::filesystem::path& path() const { return path_; }
 
 private:
-    std::string name_, description_, original_;
-    std::filesystem::path path_;
+    void readPlainly(std::span<const std::byte> bytes, TuningFormat format);
+    void readMusically(std::span<const std::byte> bytes, TuningFormat format);
+
+    std::string name_, description_, original_, warning_;
+    std::filesystem::path path_, mappingPath_;
     std::unique_ptr<const Temperament> temperament_;
+    std::unique_ptr<const Temperament> unmapped_; ///< What was there before a mapping, if any.
     std::string errorString_;
 };
 

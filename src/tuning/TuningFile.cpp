@@ -179,12 +179,30 @@ std::optional<TuningFormat> tuningFormatOf(const std::filesystem::path& path)
         return TuningFormat::Scale;
     if (extension == ".mtx")
         return TuningFormat::Frequencies;
+    if (extension == ".ascl")
+        return TuningFormat::ExtendedScale;
+    if (extension == ".tun")
+        return TuningFormat::KeyTunings;
     return std::nullopt;
+}
+
+bool isMappingFile(const std::filesystem::path& path)
+{
+    return lowerCase(path.extension().string()) == ".kbm";
 }
 
 std::string typeName(TuningFormat format)
 {
-    return format == TuningFormat::Scale ? "Scale" : "MTX";
+    switch (format) {
+    case TuningFormat::Scale:
+        return "Scale";
+    case TuningFormat::Frequencies:
+        return "MTX";
+    case TuningFormat::ExtendedScale:
+        return "ASCL";
+    default:
+        return "TUN";
+    }
 }
 
 Temperament readTuning(std::span<const std::byte> bytes, TuningFormat format)

@@ -10,19 +10,26 @@
 
 namespace velmora {
 
-/// The kinds of tuning file. Both describe twelve notes.
+/// The kinds of tuning file.
 enum class TuningFormat {
-    Scale,      ///< A Scala scale: a description, the count 12, eleven pitches and the octave.
-    Frequencies ///< The base frequency, eleven more frequencies in hertz, and one ignored line.
+    Scale,         ///< A Scala scale: a description, the number of notes and so many pitches.
+    Frequencies,   ///< The base frequency, eleven more frequencies in hertz, and one ignored line.
+    ExtendedScale, ///< A scale with a reference pitch and names of the notes.
+    KeyTunings     ///< A pitch for each key.
 };
 
-/// Returns the format that the file name's extension stands for, in any letter case: .scl or .mtx.
+/// Returns the format that the file name's extension stands for, in any letter case: .scl, .mtx,
+/// .ascl or .tun.
 std::optional<TuningFormat> tuningFormatOf(const std::filesystem::path& path);
 
-/// Returns the format's type name: "Scale" or "MTX".
+/// True if the extension of a file's name, in any letter case, is that of a keyboard mapping: .kbm.
+bool isMappingFile(const std::filesystem::path& path);
+
+/// Returns the format's type name: "Scale", "MTX", "ASCL" or "TUN".
 std::string typeName(TuningFormat format);
 
-/// Reads the temperament that a tuning file describes. Lines end in LF or CR LF. Empty lines and
+/// Reads the temperament of twelve notes that a scale or a file of frequencies describes, as the
+/// plain reading has it. Lines end in LF or CR LF. Empty lines and
 /// lines that begin with one of ! / : @ are comments, and so is the text after the number in a
 /// line.
 ///

@@ -73,7 +73,7 @@ TEST(Session, KeepsEveryFieldInItsFile)
     session.instruments[1].gains.clear();
     session.currentInstrument = 1;
     session.program = 19;
-    session.tunings = {"/t/für.scl"};
+    session.tunings = {{"/t/für.scl", "/t/für.kbm"}};
     session.tuning = "für.scl";
     session.transposition = -3;
     session.pieces = {{"/a.mid", 1.5}, {"/b.mid", 1e9}};
@@ -156,7 +156,7 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
                            {kBank, InstrumentFormat::SoundFont, {}, {0.5F}, 128, 25}};
     session.currentInstrument = 1;
     session.program = 19;
-    session.tunings = {scale, folder.path() / "gone.scl"};
+    session.tunings = {{scale}, {folder.path() / "gone.scl"}};
     session.tuning = "a.scl";
     session.transposition = -2;
     SessionProgram program;

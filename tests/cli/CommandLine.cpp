@@ -199,7 +199,7 @@ TEST_F(CommandLine, ReportsErrorsInOneSentence)
          "does not support a sample rate of 44100 Hz"},
         {{"--tuning", "Pythagoras"}, 2, "no tuning \"Pythagoras\""},
         {{"--tuning", "werckmeister"}, 2, "Werckmeister III"},
-        {{"--tuning", "broken.scl"}, 1, "broken.scl, line 4: "},
+        {{"--tuning", "broken.scl"}, 1, "broken.scl, line 4, column 1: "},
         {{"--tuning", "Pure Equal"}, 2, "no tuning \"Pure Equal\""},
         {{"--program", "128"}, 2, "no General MIDI program \"128\"; --program takes"},
         {{"--instrument", kBank.c_str(), "--bank", "7"}, 2, "the instrument has no bank 7"},

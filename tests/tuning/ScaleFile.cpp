@@ -118,7 +118,7 @@ TEST(ScaleFile, NamesTheLineTheColumnAndWhatStandsThere)
              {std::string("\xFF\xFE"
                           "a\0",
                           4),
-              "f: the text is encoded in UTF-16"}})
+              "f: is written in UTF-16"}})
         EXPECT_THAT(scaleErrorOf(readScale, text), StartsWith(error));
 }
 

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <fstream>
 #include <regex>
 
@@ -106,16 +107,62 @@ TEST(TuningDocument, KeepsItsTemperamentWhenAFileCannotBeRead)
     const auto third = [](const TuningDocument& d) { return d.temperament().getTuning(4).ratio(); };
     const auto document = TuningDocument::makeBuiltin("dynamic");
     EXPECT_EQ(third(*document), 1.25) << "meantone";
-    EXPECT_FALSE(document->read("/nonexistent/some.scl", TuningFormat::Scale));
+    EXPECT_FALSE(document->read("/nonexistent/some.scl", TuningFormat::Scale, Reading::Plain));
     EXPECT_EQ(document->errorString(), "some.scl: cannot be read (No such file or directory)");
     EXPECT_EQ(third(*document), 1.25);
     const std::string path = testing::TempDir() + "velmora.scl";
     std::ofstream(path) << scale("90.0");
     EXPECT_FALSE(document->read(path, TuningFormat::Frequencies));
-    EXPECT_TRUE(document->read(path, TuningFormat::Scale));
+    EXPECT_TRUE(document->read(path, TuningFormat::Scale, Reading::Plain));
     EXPECT_NEAR(third(*document), third(*TuningDocument::makeBuiltin("Equal")), 1e-9);
     const auto dynamic = TuningDocument::makeBuiltin("Dynamic");
     EXPECT_NE(dynamic_cast<const DynamicTemperament*>(&dynamic->temperament()), nullptr);
+}
+
+TEST(TuningDocument, ReadsScalesAsTheReadingHasThem)
+{
+    const std::string path = testing::TempDir() + "velmora_reading.scl";
+    std::string text = "Stretched\n12\n";
+    for (int i = 1; i < 12; ++i)
+        text += std::to_string(100 * i) + ".5\n";
+    std::ofstream(path) << text << "1210.\n";
+    TuningDocument document;
+    const auto interval = [&] {
+        return 1200.0 *
+               std::log2(document.temperament().pitchAt(73) / document.temperament().pitchAt(60));
+    };
+    ASSERT_TRUE(document.read(path, TuningFormat::Scale, Reading::Plain));
+    EXPECT_NEAR(interval(), 1200.0 + 100.5, 1e-9);
+    EXPECT_THAT(document.warning(), HasSubstr("repeats after 1210.000000 cents"));
+    ASSERT_TRUE(document.read(path, TuningFormat::Scale));
+    EXPECT_NEAR(interval(), 1210.0 + 100.5, 1e-9);
+    EXPECT_EQ(document.warning(), "");
+    EXPECT_EQ(document.description(), "Stretched");
+    std::ofstream(path) << "No scale\n";
+    EXPECT_FALSE(document.read(path, TuningFormat::Scale));
+    EXPECT_NEAR(interval(), 1210.0 + 100.5, 1e-9);
+}
+
+TEST(TuningDocument, TakesAKeyboardMappingAndGivesItBack)
+{
+    const std::string path = testing::TempDir() + "velmora.kbm";
+    std::ofstream(path) << "2\n0\n127\n60\n69\n430.\n12\n0\n9\n";
+    for (const char* name : {"Equal", "Vallotti"}) {
+        const auto document = TuningDocument::makeBuiltin(name);
+        const auto mapped = document->withMapping(path);
+        EXPECT_EQ(mapped->errorString(), "");
+        EXPECT_NEAR(mapped->temperament().pitchAt(69), 860.0, 1e-9);
+        EXPECT_NEAR(mapped->temperament().pitchAt(62) / mapped->temperament().pitchAt(60), 2.0,
+                    1e-9);
+        EXPECT_EQ(mapped->mappingPath(), path);
+        const auto back = mapped->withMapping({});
+        EXPECT_EQ(back->temperament().pitchAt(69), document->temperament().pitchAt(69));
+        EXPECT_EQ(back->mappingPath(), "");
+        const auto failed = mapped->withMapping("/nowhere/none.kbm");
+        EXPECT_THAT(failed->errorString(), StartsWith("none.kbm: cannot be read"));
+    }
+    EXPECT_THAT(TuningDocument::makeBuiltin("Pure")->withMapping(path)->errorString(),
+                HasSubstr("needs a scale"));
 }
 
 TEST(TuningFile, DescribesItselfInItsFirstContentLine)

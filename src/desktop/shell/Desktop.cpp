@@ -237,6 +237,8 @@ void Desktop::openFile(const QString& path)
     const auto instrument = instrumentFormatOf(file);
     if (tuning)
         openTuning(path, *tuning);
+    else if (isMappingFile(file))
+        openMapping(path);
     else if (instrument)
         openInstrument(path, *instrument);
     else if (sequenceFormatOf(file))
@@ -252,7 +254,7 @@ void Desktop::openFile(const QString& path)
 void Desktop::openTuning(const QString& path, TuningFormat format)
 {
     auto tuning = std::make_unique<TuningDocument>();
-    if (!tuning->read(pathOf(path), format)) {
+    if (!tuning->read(pathOf(path), format, application_.playing().reading())) {
         showError(translated(tuning->errorString()));
         return;
     }
@@ -260,6 +262,15 @@ void Desktop::openTuning(const QString& path, TuningFormat format)
     application_.tunings().put(std::move(tuning));
     application_.tunings().select(name);
     shell_.addRecent(path);
+}
+
+void Desktop::openMapping(const QString& path)
+{
+    const std::string error = application_.tunings().setMapping(pathOf(path));
+    if (error.empty())
+        shell_.addRecent(path);
+    else
+        showError(translated(error));
 }
 
 void Desktop::openInstrument(const QString& path, InstrumentFormat format)

@@ -69,6 +69,9 @@ private:
     void openWaiting();
     void openFile(const QString& path);
     void openTuning(const QString& path, TuningFormat format);
+
+    /// Plays the current tuning on the keys of a keyboard mapping.
+    void openMapping(const QString& path);
     void openInstrument(const QString& path, InstrumentFormat format);
     void rereadInstrument(std::size_t position, const ImportOptions& options);
     template <class Work> void readAgain(Work work);

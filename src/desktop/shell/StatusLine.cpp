@@ -1,6 +1,7 @@
 #include "desktop/shell/StatusLine.h"
 
 #include "app/AppDelegate.h"
+#include "app/tuningWarning.h"
 #include "audio/outputDrivers.h"
 #include "desktop/instruments/PlayingControls.h"
 #include "desktop/shell/StatusItem.h"
@@ -64,6 +65,7 @@ StatusLine::StatusLine(AppDelegate& application)
     connect(&application_.loader(), &InstrumentLoader::progressed, this, &StatusLine::showLoading);
     connect(&application_, &AppDelegate::outputChanged, this, &StatusLine::showOutput);
     connect(&application_.playing(), &PlayingOptions::changed, this, &StatusLine::showReading);
+    connect(&application_.playing(), &PlayingOptions::changed, this, &StatusLine::showSound);
     showReading();
 }
 
@@ -94,6 +96,9 @@ void StatusLine::showSound()
                       tr("Instrument: %1\nClick to show its programs or stops").arg(instrument));
     const auto [title, detail] = tuningText(application_, application_.tunings().name());
     tuning_->show(title, tr("Tuning: %1 (%2)\nClick to show all tunings").arg(title, detail));
+    removeNotice(outOfTune_);
+    outOfTune_ = translated(tuningWarning(application_));
+    addNotice(outOfTune_);
 }
 
 void StatusLine::showReading()

@@ -48,6 +48,7 @@ private:
     StatusItem *instrument_, *tuning_, *reading_, *output_, *inputs_, *loading_;
     QToolButton *noticesButton_, *stopLoadingButton_;
     QStringList notices_;
+    QString outOfTune_;     ///< The notice about the tuning; empty if it sounds as it is.
     QString missingOutput_; ///< The notice about the output; empty if none is missing.
 };
 

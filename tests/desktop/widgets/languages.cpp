@@ -124,7 +124,7 @@ TEST(Languages, ReachMessagesFromBelowTheDesktop)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("!\nA scale\ntwelve\n");
     file.close();
-    EXPECT_FALSE(document.read(file.fileName().toStdString(), TuningFormat::Scale));
+    EXPECT_FALSE(document.read(file.fileName().toStdString(), TuningFormat::Scale, Reading::Plain));
     EXPECT_EQ(translated(document.errorString()), "3, 100%3 line.scl: \"twelve\" IS THE NUMBER OF "
                                                   "NOTES; ONLY SCALES OF 12 NOTES ARE SUPPORTED");
     EXPECT_FALSE(document.read("/nowhere/none.scl", TuningFormat::Scale));
