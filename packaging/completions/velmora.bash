@@ -4,10 +4,10 @@ _velmora()
 {
     local word=$2 previous=$3 command=${COMP_WORDS[1]} options
     case $command in
-        render) options="--help --output --tuning --program --bank --instrument --as-stops --plain --stop --rate --tail
+        render) options="--help --output --tuning --mapping --program --bank --instrument --as-stops --plain --stop --rate --tail
             --loop-start --loop-end --loops" ;;
-        live) options="--help --tuning --program --bank --instrument --as-stops --stop --plain --output --period" ;;
-        info) options="--help --json --as-stops --plain" ;;
+        live) options="--help --tuning --mapping --program --bank --instrument --as-stops --stop --plain --output --period" ;;
+        info) options="--help --json --as-stops --plain --mapping" ;;
         doctor) options="--help --json" ;;
         devices) options="--help --json --watch --output --period" ;;
         *)
@@ -21,8 +21,9 @@ _velmora()
     case $command:$previous in
         *:--tuning)
             COMPREPLY=($(compgen -W "Equal meantone Dynamic" -- "$word"))
-            files='scl|mtx'
+            files='scl|ascl|tun|mtx'
             ;;
+        *:--mapping) files='kbm' ;;
         *:--instrument) files='sf2|gig|organ_hauptwerk_xml|xml|organ|orgue' ;;
         render:-o | render:--output) files='wav|flac|ogg|opus|mp3|mid' ;;
         *:--output) COMPREPLY=($(compgen -W "jack pulseaudio alsa none" -- "$word")) ;;

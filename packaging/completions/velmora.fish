@@ -17,7 +17,8 @@ complete -c velmora -n __fish_use_subcommand -a doctor -d "Show what a report of
 complete -c velmora -n "__fish_seen_subcommand_from live devices doctor" -f
 
 complete -c velmora -n $playing -l tuning -x -d Temperament \
-    -a "Equal meantone Dynamic (__fish_complete_suffix .scl .mtx)"
+    -a "Equal meantone Dynamic (__fish_complete_suffix .scl .ascl .tun .mtx)"
+complete -c velmora -n "__fish_seen_subcommand_from render live info" -l mapping -r -d "Keyboard mapping"
 complete -c velmora -n $playing -l program -x -d "General MIDI program, a number or a name"
 complete -c velmora -n $playing -l bank -x -d "Bank of a SoundFont"
 complete -c velmora -n $playing -l instrument -r -d "Sampled instrument"
@@ -30,8 +31,8 @@ complete -c velmora -n $render -l loop-start -x -d "First step to play"
 complete -c velmora -n $render -l loop-end -x -d "End of the interval"
 complete -c velmora -n $render -l loops -x -d "How many times to play the interval"
 
-complete -c velmora -n $live -l plain -d "Read the instrument and MIDI devices plainly"
-complete -c velmora -n "__fish_seen_subcommand_from render info" -l plain -d "Read the instrument plainly"
+complete -c velmora -n $live -l plain -d "Read files and MIDI devices plainly"
+complete -c velmora -n "__fish_seen_subcommand_from render info" -l plain -d "Read files plainly"
 complete -c velmora -n "__fish_seen_subcommand_from render live info" -l as-stops -d "Lay out a SoundFont as stops"
 complete -c velmora -n $sound -l output -x -a "jack pulseaudio alsa none" -d "Sound output"
 complete -c velmora -n $sound -l period -x -d "Frames in a period"

@@ -45,6 +45,7 @@ void AppDelegate::followOptions()
 {
     player_.setGlide(playing_.glide());
     tunings_.setAdaptive(playing_.adaptive());
+    takeReading();
 }
 
 AppDelegate::~AppDelegate() = default;

@@ -289,7 +289,8 @@ std::optional<std::size_t> Synthesizer::idleLaneFor(std::size_t own)
     return std::nullopt;
 }
 
-/// Returns the lane on which a note that is raised by whole cents comes nearest to its pitch.
+/// Returns the lane on which a note that is raised by whole cents comes nearest to its pitch. See
+/// docs/decisions.md, 187.
 std::size_t Synthesizer::nearestLane(int sounding, double cents) const
 {
     std::size_t best = kKeyLane;

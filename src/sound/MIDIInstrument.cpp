@@ -22,7 +22,8 @@ constexpr int kPercussionChannel = 9;
 constexpr int kPitchClasses = 12;
 
 /// How far in cents the channels are bent. The device can do more, but a note sounds more natural
-/// if the nearest key of equal temperament is played, and adaptive temperaments need room.
+/// if the nearest key of equal temperament is played, and adaptive temperaments need room. See
+/// docs/decisions.md, 187.
 constexpr double kFarthestBend = 150.0;
 
 constexpr double kNotMoved = std::numeric_limits<double>::quiet_NaN();

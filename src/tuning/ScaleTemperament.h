@@ -9,7 +9,8 @@
 namespace velmora {
 
 /// A scale of any size on the keys of a keyboard mapping. Without a mapping, key 60 is the first
-/// note of the scale and sounds as middle C, and each key plays the next degree.
+/// note of the scale and sounds as middle C, and each key plays the next degree. See
+/// docs/decisions.md, 186.
 class ScaleTemperament : public Temperament {
 public:
     /// Throws FormatError if the reference key is silent, or if a key would have no finite pitch.

@@ -156,7 +156,8 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
                            {kBank, InstrumentFormat::SoundFont, {}, {0.5F}, 128, 25}};
     session.currentInstrument = 1;
     session.program = 19;
-    session.tunings = {{scale}, {folder.path() / "gone.scl"}};
+    const auto mapping = folder.write("a.kbm", "0\n0\n127\n60\n69\n430.\n12\n");
+    session.tunings = {{scale, mapping}, {folder.path() / "gone.scl"}};
     session.tuning = "a.scl";
     session.transposition = -2;
     SessionProgram program;
