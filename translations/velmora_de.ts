@@ -3048,6 +3048,134 @@ Ein Klick zeigt alle Stimmungen</translation>
         <source>the MIDI output %1 takes no message</source>
         <translation type="unfinished">Der MIDI-Ausgang %1 nimmt keine Nachricht an</translation>
     </message>
+    <message>
+        <source>the scale has no description and no number of notes</source>
+        <translation type="unfinished">die Skala hat weder Beschreibung noch Anzahl der Töne</translation>
+    </message>
+    <message>
+        <source>the scale has no number of notes</source>
+        <translation type="unfinished">in der Skala fehlt die Anzahl der Töne</translation>
+    </message>
+    <message>
+        <source>the scale ends after %1 of %2 pitches</source>
+        <translation type="unfinished">die Skala endet nach %1 von %2 Tonhöhen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of notes from 0 to 128</source>
+        <translation type="unfinished">„%1“ ist keine Anzahl von Tönen von 0 bis 128</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a pitch: write cents with a point, as in 701.955, or a ratio, as in 3/2</source>
+        <translation type="unfinished">„%1“ ist keine Tonhöhe: Schreiben Sie Cent mit einem Punkt, wie 701.955, oder ein Verhältnis, wie 3/2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a pitch above 0</source>
+        <translation type="unfinished">„%1“ ist keine Tonhöhe über 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a number that is too large</source>
+        <translation type="unfinished">„%1“ enthält eine zu große Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs an octave, the index of a note and its frequency in hertz, which sounds on a key from 0 to 127</source>
+        <translation type="unfinished">„%1“ braucht eine Oktave, die Nummer eines Tons und seine Frequenz in Hertz, der auf einer Taste von 0 bis 127 klingt</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the size of the mapping</source>
+        <translation type="unfinished">die Tastenbelegung endet vor ihrer Größe</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the first key</source>
+        <translation type="unfinished">die Tastenbelegung endet vor der ersten Taste</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the last key</source>
+        <translation type="unfinished">die Tastenbelegung endet vor der letzten Taste</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the middle key</source>
+        <translation type="unfinished">die Tastenbelegung endet vor der mittleren Taste</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the reference key</source>
+        <translation type="unfinished">die Tastenbelegung endet vor der Bezugstaste</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the frequency</source>
+        <translation type="unfinished">die Tastenbelegung endet vor der Frequenz</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the formal octave</source>
+        <translation type="unfinished">die Tastenbelegung endet vor der formalen Oktave</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the size of the mapping, a number from 0 to %2</source>
+        <translation type="unfinished">„%1“ ist nicht die Größe der Tastenbelegung, eine Zahl von 0 bis %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the first key, a number from 0 to %2</source>
+        <translation type="unfinished">„%1“ ist nicht die erste Taste, eine Zahl von 0 bis %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the last key, a number from 0 to %2</source>
+        <translation type="unfinished">„%1“ ist nicht die letzte Taste, eine Zahl von 0 bis %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the middle key, a number from 0 to %2</source>
+        <translation type="unfinished">„%1“ ist nicht die mittlere Taste, eine Zahl von 0 bis %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the reference key, a number from 0 to %2</source>
+        <translation type="unfinished">„%1“ ist nicht die Bezugstaste, eine Zahl von 0 bis %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the formal octave, a number from 0 to %2</source>
+        <translation type="unfinished">„%1“ ist nicht die formale Oktave, eine Zahl von 0 bis %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a degree of the scale or an x, a number from 0 to %2</source>
+        <translation type="unfinished">„%1“ ist weder eine Stufe der Skala, eine Zahl von 0 bis %2, noch ein x</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a frequency in hertz above 0</source>
+        <translation type="unfinished">„%1“ ist keine Frequenz in Hertz über 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no =</source>
+        <translation type="unfinished">in „%1“ fehlt ein =</translation>
+    </message>
+    <message>
+        <source>the reference key %1 plays no note</source>
+        <translation type="unfinished">die Bezugstaste %1 spielt keinen Ton</translation>
+    </message>
+    <message>
+        <source>the pitch of key %1 is beyond all bounds</source>
+        <translation type="unfinished">die Tonhöhe der Taste %1 liegt jenseits aller Grenzen</translation>
+    </message>
+    <message>
+        <source>the pitches are only given by formulas, in the section [Functional Tuning]</source>
+        <translation type="unfinished">die Tonhöhen sind nur als Formeln gegeben, im Abschnitt [Functional Tuning]</translation>
+    </message>
+    <message>
+        <source>there is no section [Exact Tuning] or [Tuning]</source>
+        <translation type="unfinished">es gibt keinen Abschnitt [Exact Tuning] oder [Tuning]</translation>
+    </message>
+    <message>
+        <source>a keyboard mapping needs a scale, and this tuning has none</source>
+        <translation type="unfinished">eine Tastenbelegung braucht eine Skala, und diese Stimmung hat keine</translation>
+    </message>
+    <message>
+        <source>the scale repeats after %1 cents, but the plain reading repeats it after an octave</source>
+        <translation type="unfinished">die Skala wiederholt sich nach %1 Cent, aber das schlichte Lesen wiederholt sie nach einer Oktave</translation>
+    </message>
+    <message>
+        <source>in the plain reading, General MIDI plays some keys of &quot;%1&quot; %2 cents out of tune</source>
+        <translation type="unfinished">beim schlichten Lesen spielt General MIDI manche Tasten von „%1“ um %2 Cent verstimmt</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation type="unfinished">%1, Zeile %2, Spalte %3: %4</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

@@ -3048,6 +3048,134 @@ Haga clic para ver todas las afinaciones</translation>
         <source>the MIDI output %1 takes no message</source>
         <translation type="unfinished">la salida MIDI %1 no acepta mensajes</translation>
     </message>
+    <message>
+        <source>the scale has no description and no number of notes</source>
+        <translation type="unfinished">la escala no tiene descripción ni número de notas</translation>
+    </message>
+    <message>
+        <source>the scale has no number of notes</source>
+        <translation type="unfinished">falta el número de notas de la escala</translation>
+    </message>
+    <message>
+        <source>the scale ends after %1 of %2 pitches</source>
+        <translation type="unfinished">la escala termina tras %1 de %2 alturas</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of notes from 0 to 128</source>
+        <translation type="unfinished">«%1» no es un número de notas de 0 a 128</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a pitch: write cents with a point, as in 701.955, or a ratio, as in 3/2</source>
+        <translation type="unfinished">«%1» no es una altura: escriba cents con un punto, como 701.955, o una razón, como 3/2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a pitch above 0</source>
+        <translation type="unfinished">«%1» no es una altura mayor que 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a number that is too large</source>
+        <translation type="unfinished">«%1» contiene un número demasiado grande</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs an octave, the index of a note and its frequency in hertz, which sounds on a key from 0 to 127</source>
+        <translation type="unfinished">«%1» necesita una octava, el índice de una nota y su frecuencia en hercios, que suene en una tecla de 0 a 127</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the size of the mapping</source>
+        <translation type="unfinished">la asignación termina antes de su tamaño</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the first key</source>
+        <translation type="unfinished">la asignación termina antes de la primera tecla</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the last key</source>
+        <translation type="unfinished">la asignación termina antes de la última tecla</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the middle key</source>
+        <translation type="unfinished">la asignación termina antes de la tecla central</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the reference key</source>
+        <translation type="unfinished">la asignación termina antes de la tecla de referencia</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the frequency</source>
+        <translation type="unfinished">la asignación termina antes de la frecuencia</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the formal octave</source>
+        <translation type="unfinished">la asignación termina antes de la octava formal</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the size of the mapping, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» no es el tamaño de la asignación, un número de 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the first key, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» no es la primera tecla, un número de 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the last key, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» no es la última tecla, un número de 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the middle key, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» no es la tecla central, un número de 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the reference key, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» no es la tecla de referencia, un número de 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the formal octave, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» no es la octava formal, un número de 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a degree of the scale or an x, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» no es un grado de la escala, un número de 0 a %2, ni una x</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a frequency in hertz above 0</source>
+        <translation type="unfinished">«%1» no es una frecuencia en hercios mayor que 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no =</source>
+        <translation type="unfinished">en «%1» falta un =</translation>
+    </message>
+    <message>
+        <source>the reference key %1 plays no note</source>
+        <translation type="unfinished">la tecla de referencia %1 no toca ninguna nota</translation>
+    </message>
+    <message>
+        <source>the pitch of key %1 is beyond all bounds</source>
+        <translation type="unfinished">la altura de la tecla %1 está fuera de todo límite</translation>
+    </message>
+    <message>
+        <source>the pitches are only given by formulas, in the section [Functional Tuning]</source>
+        <translation type="unfinished">las alturas solo se dan con fórmulas, en la sección [Functional Tuning]</translation>
+    </message>
+    <message>
+        <source>there is no section [Exact Tuning] or [Tuning]</source>
+        <translation type="unfinished">no hay ninguna sección [Exact Tuning] ni [Tuning]</translation>
+    </message>
+    <message>
+        <source>a keyboard mapping needs a scale, and this tuning has none</source>
+        <translation type="unfinished">una asignación de teclas necesita una escala, y esta afinación no tiene ninguna</translation>
+    </message>
+    <message>
+        <source>the scale repeats after %1 cents, but the plain reading repeats it after an octave</source>
+        <translation type="unfinished">la escala se repite tras %1 cents, pero la lectura simple la repite tras una octava</translation>
+    </message>
+    <message>
+        <source>in the plain reading, General MIDI plays some keys of &quot;%1&quot; %2 cents out of tune</source>
+        <translation type="unfinished">en la lectura simple, General MIDI toca algunas teclas de «%1» desafinadas en %2 cents</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation type="unfinished">%1, línea %2, columna %3: %4</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

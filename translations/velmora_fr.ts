@@ -3048,6 +3048,134 @@ Cliquez pour afficher tous les tempéraments</translation>
         <source>the MIDI output %1 takes no message</source>
         <translation type="unfinished">la sortie MIDI %1 n’accepte aucun message</translation>
     </message>
+    <message>
+        <source>the scale has no description and no number of notes</source>
+        <translation type="unfinished">la gamme n’a ni description ni nombre de notes</translation>
+    </message>
+    <message>
+        <source>the scale has no number of notes</source>
+        <translation type="unfinished">il manque le nombre de notes de la gamme</translation>
+    </message>
+    <message>
+        <source>the scale ends after %1 of %2 pitches</source>
+        <translation type="unfinished">la gamme s’arrête après %1 hauteurs sur %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of notes from 0 to 128</source>
+        <translation type="unfinished">« %1 » n’est pas un nombre de notes de 0 à 128</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a pitch: write cents with a point, as in 701.955, or a ratio, as in 3/2</source>
+        <translation type="unfinished">« %1 » n’est pas une hauteur : écrivez des cents avec un point, comme 701.955, ou un rapport, comme 3/2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a pitch above 0</source>
+        <translation type="unfinished">« %1 » n’est pas une hauteur supérieure à 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a number that is too large</source>
+        <translation type="unfinished">« %1 » contient un nombre trop grand</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs an octave, the index of a note and its frequency in hertz, which sounds on a key from 0 to 127</source>
+        <translation type="unfinished">« %1 » exige une octave, l’indice d’une note et sa fréquence en hertz, sur une touche de 0 à 127</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the size of the mapping</source>
+        <translation type="unfinished">l’affectation s’arrête avant sa taille</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the first key</source>
+        <translation type="unfinished">l’affectation s’arrête avant la première touche</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the last key</source>
+        <translation type="unfinished">l’affectation s’arrête avant la dernière touche</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the middle key</source>
+        <translation type="unfinished">l’affectation s’arrête avant la touche centrale</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the reference key</source>
+        <translation type="unfinished">l’affectation s’arrête avant la touche de référence</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the frequency</source>
+        <translation type="unfinished">l’affectation s’arrête avant la fréquence</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the formal octave</source>
+        <translation type="unfinished">l’affectation s’arrête avant l’octave formelle</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the size of the mapping, a number from 0 to %2</source>
+        <translation type="unfinished">« %1 » n’est pas la taille de l’affectation, un nombre de 0 à %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the first key, a number from 0 to %2</source>
+        <translation type="unfinished">« %1 » n’est pas la première touche, un nombre de 0 à %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the last key, a number from 0 to %2</source>
+        <translation type="unfinished">« %1 » n’est pas la dernière touche, un nombre de 0 à %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the middle key, a number from 0 to %2</source>
+        <translation type="unfinished">« %1 » n’est pas la touche centrale, un nombre de 0 à %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the reference key, a number from 0 to %2</source>
+        <translation type="unfinished">« %1 » n’est pas la touche de référence, un nombre de 0 à %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the formal octave, a number from 0 to %2</source>
+        <translation type="unfinished">« %1 » n’est pas l’octave formelle, un nombre de 0 à %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a degree of the scale or an x, a number from 0 to %2</source>
+        <translation type="unfinished">« %1 » n’est ni un degré de la gamme, un nombre de 0 à %2, ni un x</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a frequency in hertz above 0</source>
+        <translation type="unfinished">« %1 » n’est pas une fréquence en hertz supérieure à 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no =</source>
+        <translation type="unfinished">il manque un = dans « %1 »</translation>
+    </message>
+    <message>
+        <source>the reference key %1 plays no note</source>
+        <translation type="unfinished">la touche de référence %1 ne joue aucune note</translation>
+    </message>
+    <message>
+        <source>the pitch of key %1 is beyond all bounds</source>
+        <translation type="unfinished">la hauteur de la touche %1 dépasse toute limite</translation>
+    </message>
+    <message>
+        <source>the pitches are only given by formulas, in the section [Functional Tuning]</source>
+        <translation type="unfinished">les hauteurs ne sont données que par des formules, dans la section [Functional Tuning]</translation>
+    </message>
+    <message>
+        <source>there is no section [Exact Tuning] or [Tuning]</source>
+        <translation type="unfinished">il n’y a pas de section [Exact Tuning] ou [Tuning]</translation>
+    </message>
+    <message>
+        <source>a keyboard mapping needs a scale, and this tuning has none</source>
+        <translation type="unfinished">une affectation des touches exige une gamme, et cet accord n’en a pas</translation>
+    </message>
+    <message>
+        <source>the scale repeats after %1 cents, but the plain reading repeats it after an octave</source>
+        <translation type="unfinished">la gamme se répète après %1 cents, mais la lecture simple la répète après une octave</translation>
+    </message>
+    <message>
+        <source>in the plain reading, General MIDI plays some keys of &quot;%1&quot; %2 cents out of tune</source>
+        <translation type="unfinished">dans la lecture simple, General MIDI joue certaines touches de « %1 » fausses de %2 cents</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation type="unfinished">%1, ligne %2, colonne %3 : %4</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

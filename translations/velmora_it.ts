@@ -3048,6 +3048,134 @@ Fai clic per mostrare tutti i temperamenti</translation>
         <source>the MIDI output %1 takes no message</source>
         <translation type="unfinished">l’uscita MIDI %1 non accetta messaggi</translation>
     </message>
+    <message>
+        <source>the scale has no description and no number of notes</source>
+        <translation type="unfinished">la scala non ha né descrizione né numero di note</translation>
+    </message>
+    <message>
+        <source>the scale has no number of notes</source>
+        <translation type="unfinished">manca il numero di note della scala</translation>
+    </message>
+    <message>
+        <source>the scale ends after %1 of %2 pitches</source>
+        <translation type="unfinished">la scala finisce dopo %1 altezze su %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of notes from 0 to 128</source>
+        <translation type="unfinished">«%1» non è un numero di note da 0 a 128</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a pitch: write cents with a point, as in 701.955, or a ratio, as in 3/2</source>
+        <translation type="unfinished">«%1» non è un’altezza: scrivere cent con un punto, come 701.955, o un rapporto, come 3/2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a pitch above 0</source>
+        <translation type="unfinished">«%1» non è un’altezza maggiore di 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a number that is too large</source>
+        <translation type="unfinished">«%1» contiene un numero troppo grande</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs an octave, the index of a note and its frequency in hertz, which sounds on a key from 0 to 127</source>
+        <translation type="unfinished">«%1» richiede un’ottava, l’indice di una nota e la sua frequenza in hertz, su un tasto da 0 a 127</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the size of the mapping</source>
+        <translation type="unfinished">la mappatura finisce prima della sua dimensione</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the first key</source>
+        <translation type="unfinished">la mappatura finisce prima del primo tasto</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the last key</source>
+        <translation type="unfinished">la mappatura finisce prima dell’ultimo tasto</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the middle key</source>
+        <translation type="unfinished">la mappatura finisce prima del tasto centrale</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the reference key</source>
+        <translation type="unfinished">la mappatura finisce prima del tasto di riferimento</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the frequency</source>
+        <translation type="unfinished">la mappatura finisce prima della frequenza</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the formal octave</source>
+        <translation type="unfinished">la mappatura finisce prima dell’ottava formale</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the size of the mapping, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» non è la dimensione della mappatura, un numero da 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the first key, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» non è il primo tasto, un numero da 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the last key, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» non è l’ultimo tasto, un numero da 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the middle key, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» non è il tasto centrale, un numero da 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the reference key, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» non è il tasto di riferimento, un numero da 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the formal octave, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» non è l’ottava formale, un numero da 0 a %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a degree of the scale or an x, a number from 0 to %2</source>
+        <translation type="unfinished">«%1» non è un grado della scala, un numero da 0 a %2, né una x</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a frequency in hertz above 0</source>
+        <translation type="unfinished">«%1» non è una frequenza in hertz maggiore di 0</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no =</source>
+        <translation type="unfinished">in «%1» manca un =</translation>
+    </message>
+    <message>
+        <source>the reference key %1 plays no note</source>
+        <translation type="unfinished">il tasto di riferimento %1 non suona nessuna nota</translation>
+    </message>
+    <message>
+        <source>the pitch of key %1 is beyond all bounds</source>
+        <translation type="unfinished">l’altezza del tasto %1 supera ogni limite</translation>
+    </message>
+    <message>
+        <source>the pitches are only given by formulas, in the section [Functional Tuning]</source>
+        <translation type="unfinished">le altezze sono date solo da formule, nella sezione [Functional Tuning]</translation>
+    </message>
+    <message>
+        <source>there is no section [Exact Tuning] or [Tuning]</source>
+        <translation type="unfinished">non c’è una sezione [Exact Tuning] o [Tuning]</translation>
+    </message>
+    <message>
+        <source>a keyboard mapping needs a scale, and this tuning has none</source>
+        <translation type="unfinished">una mappatura della tastiera richiede una scala, e questa accordatura non ne ha</translation>
+    </message>
+    <message>
+        <source>the scale repeats after %1 cents, but the plain reading repeats it after an octave</source>
+        <translation type="unfinished">la scala si ripete dopo %1 cent, ma la lettura semplice la ripete dopo un’ottava</translation>
+    </message>
+    <message>
+        <source>in the plain reading, General MIDI plays some keys of &quot;%1&quot; %2 cents out of tune</source>
+        <translation type="unfinished">nella lettura semplice, General MIDI suona alcuni tasti di «%1» stonati di %2 cent</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation type="unfinished">%1, riga %2, colonna %3: %4</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

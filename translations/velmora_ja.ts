@@ -3032,6 +3032,134 @@ Click to show all tunings</source>
         <source>the MIDI output %1 takes no message</source>
         <translation type="unfinished">MIDI出力%1がメッセージを受け付けません</translation>
     </message>
+    <message>
+        <source>the scale has no description and no number of notes</source>
+        <translation type="unfinished">音階に説明も音の数もありません</translation>
+    </message>
+    <message>
+        <source>the scale has no number of notes</source>
+        <translation type="unfinished">音階の音の数がありません</translation>
+    </message>
+    <message>
+        <source>the scale ends after %1 of %2 pitches</source>
+        <translation type="unfinished">音階は %2 個中 %1 個の音高で終わっています</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of notes from 0 to 128</source>
+        <translation type="unfinished">「%1」は 0 から 128 までの音の数ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a pitch: write cents with a point, as in 701.955, or a ratio, as in 3/2</source>
+        <translation type="unfinished">「%1」は音高ではありません。701.955 のように小数点付きのセントか、3/2 のような比で書いてください</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a pitch above 0</source>
+        <translation type="unfinished">「%1」は 0 より大きい音高ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a number that is too large</source>
+        <translation type="unfinished">「%1」の数が大きすぎます</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs an octave, the index of a note and its frequency in hertz, which sounds on a key from 0 to 127</source>
+        <translation type="unfinished">「%1」にはオクターブ、音の番号、0 から 127 の鍵で鳴るその周波数 (Hz) が必要です</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the size of the mapping</source>
+        <translation type="unfinished">鍵盤割り当てが大きさの前で終わっています</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the first key</source>
+        <translation type="unfinished">鍵盤割り当てが最初の鍵の前で終わっています</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the last key</source>
+        <translation type="unfinished">鍵盤割り当てが最後の鍵の前で終わっています</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the middle key</source>
+        <translation type="unfinished">鍵盤割り当てが中央の鍵の前で終わっています</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the reference key</source>
+        <translation type="unfinished">鍵盤割り当てが基準の鍵の前で終わっています</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the frequency</source>
+        <translation type="unfinished">鍵盤割り当てが周波数の前で終わっています</translation>
+    </message>
+    <message>
+        <source>the mapping ends before the formal octave</source>
+        <translation type="unfinished">鍵盤割り当てが形式上のオクターブの前で終わっています</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the size of the mapping, a number from 0 to %2</source>
+        <translation type="unfinished">「%1」は鍵盤割り当ての大きさ (0 から %2 の数) ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the first key, a number from 0 to %2</source>
+        <translation type="unfinished">「%1」は最初の鍵 (0 から %2 の数) ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the last key, a number from 0 to %2</source>
+        <translation type="unfinished">「%1」は最後の鍵 (0 から %2 の数) ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the middle key, a number from 0 to %2</source>
+        <translation type="unfinished">「%1」は中央の鍵 (0 から %2 の数) ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the reference key, a number from 0 to %2</source>
+        <translation type="unfinished">「%1」は基準の鍵 (0 から %2 の数) ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the formal octave, a number from 0 to %2</source>
+        <translation type="unfinished">「%1」は形式上のオクターブ (0 から %2 の数) ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a degree of the scale or an x, a number from 0 to %2</source>
+        <translation type="unfinished">「%1」は音階の度数 (0 から %2 の数) でも x でもありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a frequency in hertz above 0</source>
+        <translation type="unfinished">「%1」は 0 より大きい周波数 (Hz) ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no =</source>
+        <translation type="unfinished">「%1」に = がありません</translation>
+    </message>
+    <message>
+        <source>the reference key %1 plays no note</source>
+        <translation type="unfinished">基準の鍵 %1 に音がありません</translation>
+    </message>
+    <message>
+        <source>the pitch of key %1 is beyond all bounds</source>
+        <translation type="unfinished">鍵 %1 の音高が範囲をはるかに超えています</translation>
+    </message>
+    <message>
+        <source>the pitches are only given by formulas, in the section [Functional Tuning]</source>
+        <translation type="unfinished">音高が [Functional Tuning] の式でしか与えられていません</translation>
+    </message>
+    <message>
+        <source>there is no section [Exact Tuning] or [Tuning]</source>
+        <translation type="unfinished">[Exact Tuning] も [Tuning] もありません</translation>
+    </message>
+    <message>
+        <source>a keyboard mapping needs a scale, and this tuning has none</source>
+        <translation type="unfinished">鍵盤割り当てには音階が必要ですが、この調律にはありません</translation>
+    </message>
+    <message>
+        <source>the scale repeats after %1 cents, but the plain reading repeats it after an octave</source>
+        <translation type="unfinished">音階は %1 セントごとに繰り返しますが、単純な読み方ではオクターブごとに繰り返します</translation>
+    </message>
+    <message>
+        <source>in the plain reading, General MIDI plays some keys of &quot;%1&quot; %2 cents out of tune</source>
+        <translation type="unfinished">単純な読み方では、General MIDI は「%1」の一部の鍵を %2 セントずれて鳴らします</translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4</source>
+        <translation type="unfinished">%1、%2 行 %3 桁: %4</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>
