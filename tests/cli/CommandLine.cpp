@@ -276,6 +276,24 @@ TEST_F(CommandLine, RendersAnInstrumentInTune)
     EXPECT_NEAR(cents(measuredHertz(left, 48000.0, wanted), wanted), 0.0, 0.25);
 }
 
+TEST_F(CommandLine, DescribesScalesOfAnySizeOnTheirKeys)
+{
+    folder_.write("three.scl", "Three\n3\n400.\n5/3\n2\n");
+    folder_.write("two.kbm", "2\n0\n127\n60\n60\n300.\n3\n2\nx\n");
+    const Json scale = info("three.scl");
+    EXPECT_EQ(scale["degrees"].at(2)["value"], "5/3");
+    EXPECT_NEAR(scale["keys"].at(63)["hertz"].get<double>(), 523.2511306, 1e-6);
+    const Json mapped =
+        Json::parse(run({"info", "three.scl", "--mapping", "two.kbm", "--json"}).out);
+    EXPECT_EQ(mapped["keys"].at(60)["hertz"], 300.0);
+    EXPECT_TRUE(mapped["keys"].at(61)["hertz"].is_null());
+    EXPECT_THAT(run({"info", "three.scl", "--plain"}).error,
+                HasSubstr("three.scl, line 2: \"3\" is the number of notes"));
+    EXPECT_THAT(run({"info", "three.scl", "--mapping", "none.kbm"}).error,
+                HasSubstr("none.kbm: cannot be read"));
+    render("out.wav", {"--tuning", "three.scl", "--mapping", "two.kbm"});
+}
+
 TEST_F(CommandLine, DescribesFiles)
 {
     const Json third = info("pure.scl")["pitchClasses"].at(4);
