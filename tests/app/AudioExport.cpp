@@ -86,7 +86,7 @@ TEST_F(AudioExportTest, SoundsLikeLivePlayingAndDoesNotDisturbIt)
     EXPECT_EQ(exported("player.wav", 240.0), "written");
     EXPECT_NEAR(centsOff(soundOf("player.wav"), hertz / 2.0), 0.0, 3.0)
         << "the bank's own deviation; equal temperament is off by 14";
-    EXPECT_NEAR(seconds_, 92.0 / 30.0 + 1.0, 0.01) << "60 steps and 32, at 30 a second";
+    EXPECT_NEAR(seconds_, 92.0 / 32.0 + 1.0, 0.01) << "60 steps and 32, at 32 a second";
 
     app_.selectInstrument(0);
     app_.setVolumeOfStop(0, 0.25F);
