@@ -81,7 +81,7 @@ TEST_F(SequenceSaverTest, SavesAndExportsUnderTheChosenNames)
 
     naming(
         folder.filePath("x.wav"), [&] { action("Export Audio…").trigger(); }, 1);
-    EXPECT_EQ(proposal, folder.filePath("tune.wav"));
+    EXPECT_EQ(proposal, folder.filePath("No.1.wav")) << "the melody is only an export";
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.saver().isBusyOrModified(); }));
     answering({"Cancel"}, [&] { EXPECT_FALSE(desktop.pages().closeAll()); });
     auto& progress = *window.findChild<QProgressDialog*>();
