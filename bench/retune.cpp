@@ -1,9 +1,11 @@
 // Measures a key-down on a sampled organ with 60 stops. The dynamic temperament checks every key
-// and retunes those whose pitch has changed; then the key plays in every stop.
+// and retunes those whose pitch has changed; then the key plays in every stop. The pure temperament,
+// in which all twelve pitch classes are held, moves each of them a little.
 
 #include "base/Log.h"
 #include "sineOrgan.h"
 #include "tuning/DynamicTemperament.h"
+#include "tuning/PureTemperament.h"
 
 #include <benchmark/benchmark.h>
 
@@ -72,6 +74,25 @@ BENCHMARK_F(Retune, keyDownAndUp)(benchmark::State& state)
             organ_->source()->render(left.data(), right.data(), left.size(), AudioSource::kOffline);
             state.ResumeTiming();
         }
+    }
+}
+
+BENCHMARK_F(Retune, keyDownWhileAllPitchesMove)(benchmark::State& state)
+{
+    std::array<float, 128> left{}, right{};
+    PureTemperament pure;
+    unsigned char key = 36;
+    double time = 0.0;
+    for ([[maybe_unused]] auto iteration : state) {
+        key = nextKey(key);
+        pure.setTime(time += 0.1);
+        pure.setup(*organ_, key, 0.8F);
+        organ_->play(key, 0.8F);
+        state.PauseTiming();
+        organ_->stop(key);
+        organ_->fade(0.0);
+        organ_->source()->render(left.data(), right.data(), left.size(), AudioSource::kOffline);
+        state.ResumeTiming();
     }
 }
 
