@@ -152,6 +152,98 @@
     </message>
 </context>
 <context>
+    <name>velmora::CircleTab</name>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished">Ton</translation>
+    </message>
+    <message>
+        <source>Cents</source>
+        <translation type="unfinished">Cent</translation>
+    </message>
+    <message>
+        <source>Fifth</source>
+        <translation type="unfinished">Quinte</translation>
+    </message>
+    <message>
+        <source>Beats/s</source>
+        <translation type="unfinished">Schwebungen/s</translation>
+    </message>
+    <message>
+        <source>Major third</source>
+        <translation type="unfinished">Große Terz</translation>
+    </message>
+    <message>
+        <source>Fifths and thirds</source>
+        <translation type="unfinished">Quinten und Terzen</translation>
+    </message>
+    <message>
+        <source>Degree</source>
+        <translation type="unfinished">Stufe</translation>
+    </message>
+    <message>
+        <source>Nearest interval</source>
+        <translation type="unfinished">Nächstes Intervall</translation>
+    </message>
+    <message>
+        <source>From pure</source>
+        <translation type="unfinished">Von rein</translation>
+    </message>
+    <message>
+        <source>Degrees of the scale</source>
+        <translation type="unfinished">Stufen der Skala</translation>
+    </message>
+    <message>
+        <source>Octave %1</source>
+        <translation type="unfinished">Oktave %1</translation>
+    </message>
+    <message>
+        <source>Octave of the beats</source>
+        <translation type="unfinished">Oktave der Schwebungen</translation>
+    </message>
+    <message>
+        <source>Middle C begins octave 4. An octave higher, everything beats twice as fast.</source>
+        <translation type="unfinished">Das mittlere C beginnt die Oktave 4. Eine Oktave höher schwebt alles doppelt so schnell.</translation>
+    </message>
+    <message>
+        <source>Cents from pure</source>
+        <translation type="unfinished">Cent von rein</translation>
+    </message>
+    <message>
+        <source>Beats per second</source>
+        <translation type="unfinished">Schwebungen pro Sekunde</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished">Tabelle</translation>
+    </message>
+    <message>
+        <source>What the circle shows</source>
+        <translation type="unfinished">Was der Kreis zeigt</translation>
+    </message>
+    <message>
+        <source>%1 (sounds)</source>
+        <translation type="unfinished">%1 (klingt)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::CircleView</name>
+    <message>
+        <source>Circle of the tuning</source>
+        <translation type="unfinished">Kreis der Stimmung</translation>
+    </message>
+    <message>
+        <source>Outside: the fifths. Inside: the major third above each note.
+Drag a note outwards to raise it, and inwards to lower it.</source>
+        <translation type="unfinished">Außen: die Quinten. Innen: die große Terz über jedem Ton.
+Ziehen Sie einen Ton nach außen, um ihn zu erhöhen, und nach innen, um ihn zu erniedrigen.</translation>
+    </message>
+    <message>
+        <source>The degrees of the scale, each with the nearest pure interval above the first</source>
+        <translation type="unfinished">Die Stufen der Skala, jede mit dem nächsten reinen Intervall über der ersten</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ColorsPane</name>
     <message>
         <source>Keyboard keys</source>
@@ -444,6 +536,22 @@
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished">%1 kann nicht als General-MIDI-Bank dienen. Stattdessen wird %2 verwendet. Wählen Sie in den Einstellungen einen anderen SoundFont.</translation>
     </message>
+    <message>
+        <source>Open Tuning</source>
+        <translation type="unfinished">Stimmung öffnen</translation>
+    </message>
+    <message>
+        <source>Tunings (%1);;All files (*)</source>
+        <translation type="unfinished">Stimmungen (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save Tuning</source>
+        <translation type="unfinished">Stimmung speichern</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">Skala</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DivisionChooser</name>
@@ -512,6 +620,49 @@ Ein Klick zieht es oder stößt es ab</translation>
     <message>
         <source>%1 was not exported. %2</source>
         <translation type="unfinished">%1 wurde nicht exportiert. %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FifthsEditor</name>
+    <message>
+        <source>%1–%2</source>
+        <translation type="unfinished">%1–%2</translation>
+    </message>
+    <message>
+        <source>syntonic (21.5 cents)</source>
+        <translation type="unfinished">syntonisch (21,5 Cent)</translation>
+    </message>
+    <message>
+        <source>Pythagorean (23.5 cents)</source>
+        <translation type="unfinished">pythagoreisch (23,5 Cent)</translation>
+    </message>
+    <message>
+        <source> comma</source>
+        <translation type="unfinished"> Komma</translation>
+    </message>
+    <message>
+        <source>Unit:</source>
+        <translation type="unfinished">Einheit:</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished">Komma</translation>
+    </message>
+    <message>
+        <source>By which part of the comma this fifth is narrower than a pure one</source>
+        <translation type="unfinished">Um welchen Teil des Kommas diese Quinte enger als eine reine ist</translation>
+    </message>
+    <message>
+        <source>Takes the rest:</source>
+        <translation type="unfinished">Nimmt den Rest auf:</translation>
+    </message>
+    <message>
+        <source>The fifths of this tuning are no parts of a comma. A change here replaces them all.</source>
+        <translation type="unfinished">Die Quinten dieser Stimmung sind keine Teile eines Kommas. Eine Änderung hier ersetzt sie alle.</translation>
+    </message>
+    <message>
+        <source>The fifth %1 differs from a pure one by %2 cents.</source>
+        <translation type="unfinished">Die Quinte %1 weicht um %2 Cent von einer reinen ab.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +833,184 @@ Ein anderes Instrument wählen, öffnen oder entladen</translation>
     <message>
         <source>Show what was imported and what was left out</source>
         <translation type="unfinished">Zeigt, was importiert und was ausgelassen wurde</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Interval</name>
+    <message>
+        <source>Unison</source>
+        <translation type="unfinished">Prime</translation>
+    </message>
+    <message>
+        <source>Semitone</source>
+        <translation type="unfinished">Halbton</translation>
+    </message>
+    <message>
+        <source>Small whole tone</source>
+        <translation type="unfinished">Kleiner Ganzton</translation>
+    </message>
+    <message>
+        <source>Whole tone</source>
+        <translation type="unfinished">Ganzton</translation>
+    </message>
+    <message>
+        <source>Septimal whole tone</source>
+        <translation type="unfinished">Septimaler Ganzton</translation>
+    </message>
+    <message>
+        <source>Septimal minor third</source>
+        <translation type="unfinished">Septimale kleine Terz</translation>
+    </message>
+    <message>
+        <source>Minor third</source>
+        <translation type="unfinished">Kleine Terz</translation>
+    </message>
+    <message>
+        <source>Major third</source>
+        <translation type="unfinished">Große Terz</translation>
+    </message>
+    <message>
+        <source>Fourth</source>
+        <translation type="unfinished">Quarte</translation>
+    </message>
+    <message>
+        <source>Small tritone</source>
+        <translation type="unfinished">Kleiner Tritonus</translation>
+    </message>
+    <message>
+        <source>Large tritone</source>
+        <translation type="unfinished">Großer Tritonus</translation>
+    </message>
+    <message>
+        <source>Fifth</source>
+        <translation type="unfinished">Quinte</translation>
+    </message>
+    <message>
+        <source>Minor sixth</source>
+        <translation type="unfinished">Kleine Sexte</translation>
+    </message>
+    <message>
+        <source>Major sixth</source>
+        <translation type="unfinished">Große Sexte</translation>
+    </message>
+    <message>
+        <source>Septimal major sixth</source>
+        <translation type="unfinished">Septimale große Sexte</translation>
+    </message>
+    <message>
+        <source>Natural seventh</source>
+        <translation type="unfinished">Naturseptime</translation>
+    </message>
+    <message>
+        <source>Small minor seventh</source>
+        <translation type="unfinished">Enge kleine Septime</translation>
+    </message>
+    <message>
+        <source>Minor seventh</source>
+        <translation type="unfinished">Kleine Septime</translation>
+    </message>
+    <message>
+        <source>Major seventh</source>
+        <translation type="unfinished">Große Septime</translation>
+    </message>
+    <message>
+        <source>Octave</source>
+        <translation type="unfinished">Oktave</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1-Dur</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1-Moll</translation>
+    </message>
+    <message>
+        <source>%1 diminished</source>
+        <translation type="unfinished">%1 vermindert</translation>
+    </message>
+    <message>
+        <source>%1 augmented</source>
+        <translation type="unfinished">%1 übermäßig</translation>
+    </message>
+    <message>
+        <source>%1 suspended fourth</source>
+        <translation type="unfinished">%1 mit Quartvorhalt</translation>
+    </message>
+    <message>
+        <source>%1 suspended second</source>
+        <translation type="unfinished">%1 mit Sekundvorhalt</translation>
+    </message>
+    <message>
+        <source>%1 dominant seventh</source>
+        <translation type="unfinished">%1 Dominantseptakkord</translation>
+    </message>
+    <message>
+        <source>%1 major seventh</source>
+        <translation type="unfinished">%1 großer Septakkord</translation>
+    </message>
+    <message>
+        <source>%1 minor seventh</source>
+        <translation type="unfinished">%1 Mollseptakkord</translation>
+    </message>
+    <message>
+        <source>%1 minor with a major seventh</source>
+        <translation type="unfinished">%1-Moll mit großer Septime</translation>
+    </message>
+    <message>
+        <source>%1 half-diminished seventh</source>
+        <translation type="unfinished">%1 halbverminderter Septakkord</translation>
+    </message>
+    <message>
+        <source>%1 diminished seventh</source>
+        <translation type="unfinished">%1 verminderter Septakkord</translation>
+    </message>
+    <message>
+        <source>%1 augmented sixth</source>
+        <translation type="unfinished">%1 übermäßiger Sextakkord</translation>
+    </message>
+    <message>
+        <source>%1, root position</source>
+        <translation type="unfinished">%1, Grundstellung</translation>
+    </message>
+    <message>
+        <source>%1, first inversion</source>
+        <translation type="unfinished">%1, erste Umkehrung</translation>
+    </message>
+    <message>
+        <source>%1, second inversion</source>
+        <translation type="unfinished">%1, zweite Umkehrung</translation>
+    </message>
+    <message>
+        <source>%1, third inversion</source>
+        <translation type="unfinished">%1, dritte Umkehrung</translation>
+    </message>
+    <message>
+        <source>%1 %2/%3</source>
+        <translation type="unfinished">%1 %2/%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n octave(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 und %n Oktave</numerusform>
+            <numerusform>%1 und %n Oktaven</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">keine</translation>
+    </message>
+    <message>
+        <source>nearly pure</source>
+        <translation type="unfinished">fast rein</translation>
+    </message>
+    <message>
+        <source>tempered</source>
+        <translation type="unfinished">temperiert</translation>
+    </message>
+    <message>
+        <source>rough</source>
+        <translation type="unfinished">rau</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1241,65 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>How much higher the keys sound</source>
         <translation type="unfinished">Um wie viel höher die Tasten klingen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::NowTab</name>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished">Töne</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation type="unfinished">Intervall</translation>
+    </message>
+    <message>
+        <source>Cents</source>
+        <translation type="unfinished">Cent</translation>
+    </message>
+    <message>
+        <source>From pure</source>
+        <translation type="unfinished">Von rein</translation>
+    </message>
+    <message>
+        <source>Beats/s</source>
+        <translation type="unfinished">Schwebungen/s</translation>
+    </message>
+    <message>
+        <source>Sounding intervals</source>
+        <translation type="unfinished">Klingende Intervalle</translation>
+    </message>
+    <message>
+        <source>Show on the keys how pure they are</source>
+        <translation type="unfinished">Auf den Tasten zeigen, wie rein sie sind</translation>
+    </message>
+    <message>
+        <source>Colour each sounding key by its interval that is farthest from pure with another one</source>
+        <translation type="unfinished">Jede klingende Taste nach ihrem Intervall mit einer anderen färben, das am weitesten von rein entfernt ist</translation>
+    </message>
+    <message>
+        <source>Play a chord</source>
+        <translation type="unfinished">Spielen Sie einen Akkord</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <translation type="unfinished">%1–%2</translation>
+    </message>
+    <message>
+        <source>The music centres on %1 (%2 fifths from C).</source>
+        <translation type="unfinished">Die Musik bewegt sich um %1 (%2 Quinten von C).</translation>
+    </message>
+    <message>
+        <source>%1, not %2: %3 fifths from the centre instead of %4</source>
+        <translation type="unfinished">%1, nicht %2: %3 Quinten von der Mitte statt %4</translation>
+    </message>
+    <message>
+        <source>Each key keeps its usual spelling until another one is forced.</source>
+        <translation type="unfinished">Jede Taste behält ihre übliche Schreibweise, bis eine andere erzwungen wird.</translation>
+    </message>
+    <message>
+        <source>Drift from the start: %1 cents</source>
+        <translation type="unfinished">Abweichung vom Anfang: %1 Cent</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1635,17 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Cancelling…</source>
         <translation type="unfinished">Wird abgebrochen…</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PurityLegend</name>
+    <message>
+        <source>Legend</source>
+        <translation type="unfinished">Legende</translation>
+    </message>
+    <message>
+        <source>%1: up to %2 cents</source>
+        <translation type="unfinished">%1: bis %2 Cent</translation>
     </message>
 </context>
 <context>
@@ -1670,6 +2069,69 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
 </context>
 <context>
+    <name>velmora::ShapeTab</name>
+    <message>
+        <source>Hear the Original</source>
+        <translation type="unfinished">Original hören</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation type="unfinished">Speichern unter…</translation>
+    </message>
+    <message>
+        <source>Ways to shape the tuning</source>
+        <translation type="unfinished">Wege, die Stimmung zu formen</translation>
+    </message>
+    <message>
+        <source>By Notes</source>
+        <translation type="unfinished">Nach Tönen</translation>
+    </message>
+    <message>
+        <source>By Fifths</source>
+        <translation type="unfinished">Nach Quinten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished">Wiederholen</translation>
+    </message>
+    <message>
+        <source>Compare the tuning with what it was before you changed it</source>
+        <translation type="unfinished">Die Stimmung mit dem vergleichen, was sie vor der Änderung war</translation>
+    </message>
+    <message>
+        <source>Save the tuning as a scale file, which is then listed</source>
+        <translation type="unfinished">Die Stimmung als Skalendatei speichern, die dann in der Liste steht</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation type="unfinished">Beschreibung:</translation>
+    </message>
+    <message>
+        <source>Slider of %1</source>
+        <translation type="unfinished">Regler für %1</translation>
+    </message>
+    <message>
+        <source> cents</source>
+        <translation type="unfinished"> Cent</translation>
+    </message>
+    <message>
+        <source>This tuning finds its pitches while you play, so it has no fixed notes to shape. Choose another one.</source>
+        <translation type="unfinished">Diese Stimmung findet ihre Tonhöhen, während Sie spielen. Sie hat also keine festen Töne, die sich formen ließen. Wählen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>You are shaping a copy of %1. Save it to keep it.</source>
+        <translation type="unfinished">Sie formen eine Kopie von %1. Speichern Sie sie, um sie zu behalten.</translation>
+    </message>
+    <message>
+        <source>Move a note, and you hear it at once in a copy of this tuning. The first note stays.</source>
+        <translation type="unfinished">Bewegen Sie einen Ton, und Sie hören ihn sofort in einer Kopie dieser Stimmung. Der erste Ton bleibt.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ShellActions</name>
     <message>
         <source>File</source>
@@ -1898,6 +2360,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Send the tuning to a MIDI device that is to play in it</source>
         <translation type="unfinished">Die Stimmung an ein MIDI-Gerät senden, das in ihr spielen soll</translation>
+    </message>
+    <message>
+        <source>S&amp;hape the Tuning</source>
+        <translation type="unfinished">Stimmung formen</translation>
+    </message>
+    <message>
+        <source>Show the circle of fifths, and shape the tuning</source>
+        <translation type="unfinished">Den Quintenzirkel zeigen und die Stimmung formen</translation>
     </message>
 </context>
 <context>
@@ -2519,6 +2989,29 @@ Ein Klick zeigt alle Stimmungen</translation>
         <source>Makes the chords that you play pure</source>
         <translation type="unfinished">Macht die gespielten Akkorde rein</translation>
     </message>
+    <message>
+        <source>Shape…</source>
+        <translation type="unfinished">Formen…</translation>
+    </message>
+    <message>
+        <source>Show the circle of fifths and what sounds, and shape the tuning</source>
+        <translation type="unfinished">Den Quintenzirkel und das Klingende zeigen und die Stimmung formen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningShaper</name>
+    <message>
+        <source>Shape the Tuning</source>
+        <translation type="unfinished">Stimmung formen</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <translation type="unfinished">%1 (bearbeitet)</translation>
+    </message>
+    <message>
+        <source>%1 (edited, %2)</source>
+        <translation type="unfinished">%1 (bearbeitet, %2)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -2533,6 +3026,25 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>%1: %2 cents</source>
         <translation type="unfinished">%1: %2 Cent</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningStudio</name>
+    <message>
+        <source>Pages of the tuning studio</source>
+        <translation type="unfinished">Seiten des Stimmstudios</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation type="unfinished">Kreis</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation type="unfinished">Formen</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished">Jetzt</translation>
     </message>
 </context>
 <context>
@@ -2592,6 +3104,14 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>C&amp;onsole</source>
         <translation type="unfinished">S&amp;pieltisch</translation>
+    </message>
+    <message>
+        <source>Tuning Studio</source>
+        <translation type="unfinished">Stimmstudio</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation type="unfinished">Felder</translation>
     </message>
 </context>
 <context>

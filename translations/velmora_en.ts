@@ -29,6 +29,16 @@
     </message>
 </context>
 <context>
+    <name>velmora::Interval</name>
+    <message numerus="yes">
+        <source>%1 and %n octave(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 and %n octave</numerusform>
+            <numerusform>%1 and %n octaves</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceDocument</name>
     <message numerus="yes">
         <source>Record %n Note(s)</source>

@@ -152,6 +152,98 @@
     </message>
 </context>
 <context>
+    <name>velmora::CircleTab</name>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished">Nota</translation>
+    </message>
+    <message>
+        <source>Cents</source>
+        <translation type="unfinished">Cents</translation>
+    </message>
+    <message>
+        <source>Fifth</source>
+        <translation type="unfinished">Quinta</translation>
+    </message>
+    <message>
+        <source>Beats/s</source>
+        <translation type="unfinished">Batidos/s</translation>
+    </message>
+    <message>
+        <source>Major third</source>
+        <translation type="unfinished">Tercera mayor</translation>
+    </message>
+    <message>
+        <source>Fifths and thirds</source>
+        <translation type="unfinished">Quintas y terceras</translation>
+    </message>
+    <message>
+        <source>Degree</source>
+        <translation type="unfinished">Grado</translation>
+    </message>
+    <message>
+        <source>Nearest interval</source>
+        <translation type="unfinished">Intervalo más próximo</translation>
+    </message>
+    <message>
+        <source>From pure</source>
+        <translation type="unfinished">Desde puro</translation>
+    </message>
+    <message>
+        <source>Degrees of the scale</source>
+        <translation type="unfinished">Grados de la escala</translation>
+    </message>
+    <message>
+        <source>Octave %1</source>
+        <translation type="unfinished">Octava %1</translation>
+    </message>
+    <message>
+        <source>Octave of the beats</source>
+        <translation type="unfinished">Octava de los batidos</translation>
+    </message>
+    <message>
+        <source>Middle C begins octave 4. An octave higher, everything beats twice as fast.</source>
+        <translation type="unfinished">El do central inicia la octava 4. Una octava más arriba, todo bate el doble de rápido.</translation>
+    </message>
+    <message>
+        <source>Cents from pure</source>
+        <translation type="unfinished">Cents desde puro</translation>
+    </message>
+    <message>
+        <source>Beats per second</source>
+        <translation type="unfinished">Batidos por segundo</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished">Tabla</translation>
+    </message>
+    <message>
+        <source>What the circle shows</source>
+        <translation type="unfinished">Qué muestra el círculo</translation>
+    </message>
+    <message>
+        <source>%1 (sounds)</source>
+        <translation type="unfinished">%1 (suena)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::CircleView</name>
+    <message>
+        <source>Circle of the tuning</source>
+        <translation type="unfinished">Círculo de la afinación</translation>
+    </message>
+    <message>
+        <source>Outside: the fifths. Inside: the major third above each note.
+Drag a note outwards to raise it, and inwards to lower it.</source>
+        <translation type="unfinished">Fuera: las quintas. Dentro: la tercera mayor sobre cada nota.
+Arrastre una nota hacia fuera para subirla y hacia dentro para bajarla.</translation>
+    </message>
+    <message>
+        <source>The degrees of the scale, each with the nearest pure interval above the first</source>
+        <translation type="unfinished">Los grados de la escala, cada uno con el intervalo puro más próximo sobre el primero</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ColorsPane</name>
     <message>
         <source>Keyboard keys</source>
@@ -444,6 +536,22 @@
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished">%1 no se puede usar como banco General MIDI. En su lugar se usa %2. Elija otro SoundFont en las preferencias.</translation>
     </message>
+    <message>
+        <source>Open Tuning</source>
+        <translation type="unfinished">Abrir afinación</translation>
+    </message>
+    <message>
+        <source>Tunings (%1);;All files (*)</source>
+        <translation type="unfinished">Afinaciones (%1);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Save Tuning</source>
+        <translation type="unfinished">Guardar afinación</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">Escala</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DivisionChooser</name>
@@ -512,6 +620,49 @@ Un clic lo saca o lo cierra</translation>
     <message>
         <source>%1 was not exported. %2</source>
         <translation type="unfinished">No se exportó %1. %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FifthsEditor</name>
+    <message>
+        <source>%1–%2</source>
+        <translation type="unfinished">%1–%2</translation>
+    </message>
+    <message>
+        <source>syntonic (21.5 cents)</source>
+        <translation type="unfinished">sintónica (21,5 cents)</translation>
+    </message>
+    <message>
+        <source>Pythagorean (23.5 cents)</source>
+        <translation type="unfinished">pitagórica (23,5 cents)</translation>
+    </message>
+    <message>
+        <source> comma</source>
+        <translation type="unfinished"> coma</translation>
+    </message>
+    <message>
+        <source>Unit:</source>
+        <translation type="unfinished">Unidad:</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished">Coma</translation>
+    </message>
+    <message>
+        <source>By which part of the comma this fifth is narrower than a pure one</source>
+        <translation type="unfinished">En qué parte de la coma es esta quinta más estrecha que una pura</translation>
+    </message>
+    <message>
+        <source>Takes the rest:</source>
+        <translation type="unfinished">Toma el resto:</translation>
+    </message>
+    <message>
+        <source>The fifths of this tuning are no parts of a comma. A change here replaces them all.</source>
+        <translation type="unfinished">Las quintas de esta afinación no son partes de una coma. Un cambio aquí las sustituye todas.</translation>
+    </message>
+    <message>
+        <source>The fifth %1 differs from a pure one by %2 cents.</source>
+        <translation type="unfinished">La quinta %1 difiere de una pura en %2 cents.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +833,184 @@ Elegir otro instrumento, abrir uno o retirarlo</translation>
     <message>
         <source>Show what was imported and what was left out</source>
         <translation type="unfinished">Mostrar lo que se importó y lo que se omitió</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Interval</name>
+    <message>
+        <source>Unison</source>
+        <translation type="unfinished">Unísono</translation>
+    </message>
+    <message>
+        <source>Semitone</source>
+        <translation type="unfinished">Semitono</translation>
+    </message>
+    <message>
+        <source>Small whole tone</source>
+        <translation type="unfinished">Tono menor</translation>
+    </message>
+    <message>
+        <source>Whole tone</source>
+        <translation type="unfinished">Tono</translation>
+    </message>
+    <message>
+        <source>Septimal whole tone</source>
+        <translation type="unfinished">Tono septimal</translation>
+    </message>
+    <message>
+        <source>Septimal minor third</source>
+        <translation type="unfinished">Tercera menor septimal</translation>
+    </message>
+    <message>
+        <source>Minor third</source>
+        <translation type="unfinished">Tercera menor</translation>
+    </message>
+    <message>
+        <source>Major third</source>
+        <translation type="unfinished">Tercera mayor</translation>
+    </message>
+    <message>
+        <source>Fourth</source>
+        <translation type="unfinished">Cuarta</translation>
+    </message>
+    <message>
+        <source>Small tritone</source>
+        <translation type="unfinished">Tritono menor</translation>
+    </message>
+    <message>
+        <source>Large tritone</source>
+        <translation type="unfinished">Tritono mayor</translation>
+    </message>
+    <message>
+        <source>Fifth</source>
+        <translation type="unfinished">Quinta</translation>
+    </message>
+    <message>
+        <source>Minor sixth</source>
+        <translation type="unfinished">Sexta menor</translation>
+    </message>
+    <message>
+        <source>Major sixth</source>
+        <translation type="unfinished">Sexta mayor</translation>
+    </message>
+    <message>
+        <source>Septimal major sixth</source>
+        <translation type="unfinished">Sexta mayor septimal</translation>
+    </message>
+    <message>
+        <source>Natural seventh</source>
+        <translation type="unfinished">Séptima natural</translation>
+    </message>
+    <message>
+        <source>Small minor seventh</source>
+        <translation type="unfinished">Séptima menor pequeña</translation>
+    </message>
+    <message>
+        <source>Minor seventh</source>
+        <translation type="unfinished">Séptima menor</translation>
+    </message>
+    <message>
+        <source>Major seventh</source>
+        <translation type="unfinished">Séptima mayor</translation>
+    </message>
+    <message>
+        <source>Octave</source>
+        <translation type="unfinished">Octava</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1 mayor</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1 menor</translation>
+    </message>
+    <message>
+        <source>%1 diminished</source>
+        <translation type="unfinished">%1 disminuido</translation>
+    </message>
+    <message>
+        <source>%1 augmented</source>
+        <translation type="unfinished">%1 aumentado</translation>
+    </message>
+    <message>
+        <source>%1 suspended fourth</source>
+        <translation type="unfinished">%1 con cuarta suspendida</translation>
+    </message>
+    <message>
+        <source>%1 suspended second</source>
+        <translation type="unfinished">%1 con segunda suspendida</translation>
+    </message>
+    <message>
+        <source>%1 dominant seventh</source>
+        <translation type="unfinished">%1 séptima de dominante</translation>
+    </message>
+    <message>
+        <source>%1 major seventh</source>
+        <translation type="unfinished">%1 séptima mayor</translation>
+    </message>
+    <message>
+        <source>%1 minor seventh</source>
+        <translation type="unfinished">%1 menor con séptima</translation>
+    </message>
+    <message>
+        <source>%1 minor with a major seventh</source>
+        <translation type="unfinished">%1 menor con séptima mayor</translation>
+    </message>
+    <message>
+        <source>%1 half-diminished seventh</source>
+        <translation type="unfinished">%1 séptima semidisminuida</translation>
+    </message>
+    <message>
+        <source>%1 diminished seventh</source>
+        <translation type="unfinished">%1 séptima disminuida</translation>
+    </message>
+    <message>
+        <source>%1 augmented sixth</source>
+        <translation type="unfinished">%1 sexta aumentada</translation>
+    </message>
+    <message>
+        <source>%1, root position</source>
+        <translation type="unfinished">%1, estado fundamental</translation>
+    </message>
+    <message>
+        <source>%1, first inversion</source>
+        <translation type="unfinished">%1, primera inversión</translation>
+    </message>
+    <message>
+        <source>%1, second inversion</source>
+        <translation type="unfinished">%1, segunda inversión</translation>
+    </message>
+    <message>
+        <source>%1, third inversion</source>
+        <translation type="unfinished">%1, tercera inversión</translation>
+    </message>
+    <message>
+        <source>%1 %2/%3</source>
+        <translation type="unfinished">%1 %2/%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n octave(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 y %n octava</numerusform>
+            <numerusform>%1 y %n octavas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">ninguno</translation>
+    </message>
+    <message>
+        <source>nearly pure</source>
+        <translation type="unfinished">casi puro</translation>
+    </message>
+    <message>
+        <source>tempered</source>
+        <translation type="unfinished">temperado</translation>
+    </message>
+    <message>
+        <source>rough</source>
+        <translation type="unfinished">áspero</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1241,65 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>How much higher the keys sound</source>
         <translation type="unfinished">Cuánto más agudas suenan las teclas</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::NowTab</name>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished">Notas</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation type="unfinished">Intervalo</translation>
+    </message>
+    <message>
+        <source>Cents</source>
+        <translation type="unfinished">Cents</translation>
+    </message>
+    <message>
+        <source>From pure</source>
+        <translation type="unfinished">Desde puro</translation>
+    </message>
+    <message>
+        <source>Beats/s</source>
+        <translation type="unfinished">Batidos/s</translation>
+    </message>
+    <message>
+        <source>Sounding intervals</source>
+        <translation type="unfinished">Intervalos que suenan</translation>
+    </message>
+    <message>
+        <source>Show on the keys how pure they are</source>
+        <translation type="unfinished">Mostrar en las teclas lo puras que son</translation>
+    </message>
+    <message>
+        <source>Colour each sounding key by its interval that is farthest from pure with another one</source>
+        <translation type="unfinished">Colorear cada tecla que suena según su intervalo con otra que más se aleja del puro</translation>
+    </message>
+    <message>
+        <source>Play a chord</source>
+        <translation type="unfinished">Toque un acorde</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <translation type="unfinished">%1–%2</translation>
+    </message>
+    <message>
+        <source>The music centres on %1 (%2 fifths from C).</source>
+        <translation type="unfinished">La música gira en torno a %1 (%2 quintas desde do).</translation>
+    </message>
+    <message>
+        <source>%1, not %2: %3 fifths from the centre instead of %4</source>
+        <translation type="unfinished">%1, no %2: a %3 quintas del centro en vez de %4</translation>
+    </message>
+    <message>
+        <source>Each key keeps its usual spelling until another one is forced.</source>
+        <translation type="unfinished">Cada tecla conserva su grafía habitual hasta que se fuerza otra.</translation>
+    </message>
+    <message>
+        <source>Drift from the start: %1 cents</source>
+        <translation type="unfinished">Deriva desde el inicio: %1 cents</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1635,17 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Cancelling…</source>
         <translation type="unfinished">Cancelando…</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PurityLegend</name>
+    <message>
+        <source>Legend</source>
+        <translation type="unfinished">Leyenda</translation>
+    </message>
+    <message>
+        <source>%1: up to %2 cents</source>
+        <translation type="unfinished">%1: hasta %2 cents</translation>
     </message>
 </context>
 <context>
@@ -1670,6 +2069,69 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
 </context>
 <context>
+    <name>velmora::ShapeTab</name>
+    <message>
+        <source>Hear the Original</source>
+        <translation type="unfinished">Oír el original</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation type="unfinished">Guardar como…</translation>
+    </message>
+    <message>
+        <source>Ways to shape the tuning</source>
+        <translation type="unfinished">Maneras de modelar la afinación</translation>
+    </message>
+    <message>
+        <source>By Notes</source>
+        <translation type="unfinished">Por notas</translation>
+    </message>
+    <message>
+        <source>By Fifths</source>
+        <translation type="unfinished">Por quintas</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished">Rehacer</translation>
+    </message>
+    <message>
+        <source>Compare the tuning with what it was before you changed it</source>
+        <translation type="unfinished">Comparar la afinación con lo que era antes de cambiarla</translation>
+    </message>
+    <message>
+        <source>Save the tuning as a scale file, which is then listed</source>
+        <translation type="unfinished">Guardar la afinación como archivo de escala, que aparece entonces en la lista</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation type="unfinished">Descripción:</translation>
+    </message>
+    <message>
+        <source>Slider of %1</source>
+        <translation type="unfinished">Deslizador de %1</translation>
+    </message>
+    <message>
+        <source> cents</source>
+        <translation type="unfinished"> cents</translation>
+    </message>
+    <message>
+        <source>This tuning finds its pitches while you play, so it has no fixed notes to shape. Choose another one.</source>
+        <translation type="unfinished">Esta afinación encuentra sus alturas mientras usted toca, así que no tiene notas fijas que modelar. Elija otra.</translation>
+    </message>
+    <message>
+        <source>You are shaping a copy of %1. Save it to keep it.</source>
+        <translation type="unfinished">Está modelando una copia de %1. Guárdela para conservarla.</translation>
+    </message>
+    <message>
+        <source>Move a note, and you hear it at once in a copy of this tuning. The first note stays.</source>
+        <translation type="unfinished">Mueva una nota y la oirá enseguida en una copia de esta afinación. La primera nota no cambia.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ShellActions</name>
     <message>
         <source>File</source>
@@ -1898,6 +2360,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Send the tuning to a MIDI device that is to play in it</source>
         <translation type="unfinished">Enviar la afinación a un aparato MIDI para que toque en ella</translation>
+    </message>
+    <message>
+        <source>S&amp;hape the Tuning</source>
+        <translation type="unfinished">Modelar la afinación</translation>
+    </message>
+    <message>
+        <source>Show the circle of fifths, and shape the tuning</source>
+        <translation type="unfinished">Mostrar el círculo de quintas y modelar la afinación</translation>
     </message>
 </context>
 <context>
@@ -2519,6 +2989,29 @@ Haga clic para ver todas las afinaciones</translation>
         <source>Makes the chords that you play pure</source>
         <translation type="unfinished">Hace puros los acordes que se tocan</translation>
     </message>
+    <message>
+        <source>Shape…</source>
+        <translation type="unfinished">Modelar…</translation>
+    </message>
+    <message>
+        <source>Show the circle of fifths and what sounds, and shape the tuning</source>
+        <translation type="unfinished">Mostrar el círculo de quintas y lo que suena, y modelar la afinación</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningShaper</name>
+    <message>
+        <source>Shape the Tuning</source>
+        <translation type="unfinished">Modelar la afinación</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <translation type="unfinished">%1 (modificada)</translation>
+    </message>
+    <message>
+        <source>%1 (edited, %2)</source>
+        <translation type="unfinished">%1 (modificada, %2)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -2533,6 +3026,25 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>%1: %2 cents</source>
         <translation type="unfinished">%1: %2 cents</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningStudio</name>
+    <message>
+        <source>Pages of the tuning studio</source>
+        <translation type="unfinished">Páginas del estudio de afinación</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation type="unfinished">Círculo</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation type="unfinished">Modelar</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished">Ahora</translation>
     </message>
 </context>
 <context>
@@ -2592,6 +3104,14 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>C&amp;onsole</source>
         <translation type="unfinished">C&amp;onsola</translation>
+    </message>
+    <message>
+        <source>Tuning Studio</source>
+        <translation type="unfinished">Estudio de afinación</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation type="unfinished">Paneles</translation>
     </message>
 </context>
 <context>

@@ -152,6 +152,98 @@
     </message>
 </context>
 <context>
+    <name>velmora::CircleTab</name>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished">Note</translation>
+    </message>
+    <message>
+        <source>Cents</source>
+        <translation type="unfinished">Cents</translation>
+    </message>
+    <message>
+        <source>Fifth</source>
+        <translation type="unfinished">Quinte</translation>
+    </message>
+    <message>
+        <source>Beats/s</source>
+        <translation type="unfinished">Battements/s</translation>
+    </message>
+    <message>
+        <source>Major third</source>
+        <translation type="unfinished">Tierce majeure</translation>
+    </message>
+    <message>
+        <source>Fifths and thirds</source>
+        <translation type="unfinished">Quintes et tierces</translation>
+    </message>
+    <message>
+        <source>Degree</source>
+        <translation type="unfinished">Degré</translation>
+    </message>
+    <message>
+        <source>Nearest interval</source>
+        <translation type="unfinished">Intervalle le plus proche</translation>
+    </message>
+    <message>
+        <source>From pure</source>
+        <translation type="unfinished">Écart au pur</translation>
+    </message>
+    <message>
+        <source>Degrees of the scale</source>
+        <translation type="unfinished">Degrés de la gamme</translation>
+    </message>
+    <message>
+        <source>Octave %1</source>
+        <translation type="unfinished">Octave %1</translation>
+    </message>
+    <message>
+        <source>Octave of the beats</source>
+        <translation type="unfinished">Octave des battements</translation>
+    </message>
+    <message>
+        <source>Middle C begins octave 4. An octave higher, everything beats twice as fast.</source>
+        <translation type="unfinished">Le do central commence l’octave 4. Une octave plus haut, tout bat deux fois plus vite.</translation>
+    </message>
+    <message>
+        <source>Cents from pure</source>
+        <translation type="unfinished">Cents d’écart au pur</translation>
+    </message>
+    <message>
+        <source>Beats per second</source>
+        <translation type="unfinished">Battements par seconde</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished">Tableau</translation>
+    </message>
+    <message>
+        <source>What the circle shows</source>
+        <translation type="unfinished">Ce que montre le cercle</translation>
+    </message>
+    <message>
+        <source>%1 (sounds)</source>
+        <translation type="unfinished">%1 (sonne)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::CircleView</name>
+    <message>
+        <source>Circle of the tuning</source>
+        <translation type="unfinished">Cercle de l’accord</translation>
+    </message>
+    <message>
+        <source>Outside: the fifths. Inside: the major third above each note.
+Drag a note outwards to raise it, and inwards to lower it.</source>
+        <translation type="unfinished">À l’extérieur : les quintes. À l’intérieur : la tierce majeure sur chaque note.
+Tirez une note vers l’extérieur pour la hausser, vers l’intérieur pour la baisser.</translation>
+    </message>
+    <message>
+        <source>The degrees of the scale, each with the nearest pure interval above the first</source>
+        <translation type="unfinished">Les degrés de la gamme, chacun avec l’intervalle pur le plus proche au-dessus du premier</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ColorsPane</name>
     <message>
         <source>Keyboard keys</source>
@@ -444,6 +536,22 @@
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished">%1 ne peut pas servir de banque General MIDI. %2 est utilisé à la place. Choisissez une autre SoundFont dans les préférences.</translation>
     </message>
+    <message>
+        <source>Open Tuning</source>
+        <translation type="unfinished">Ouvrir un accord</translation>
+    </message>
+    <message>
+        <source>Tunings (%1);;All files (*)</source>
+        <translation type="unfinished">Accords (%1);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Save Tuning</source>
+        <translation type="unfinished">Enregistrer l’accord</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">Gamme</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DivisionChooser</name>
@@ -512,6 +620,49 @@ Un clic le tire ou le repousse</translation>
     <message>
         <source>%1 was not exported. %2</source>
         <translation type="unfinished">%1 n’a pas été exporté. %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FifthsEditor</name>
+    <message>
+        <source>%1–%2</source>
+        <translation type="unfinished">%1–%2</translation>
+    </message>
+    <message>
+        <source>syntonic (21.5 cents)</source>
+        <translation type="unfinished">syntonique (21,5 cents)</translation>
+    </message>
+    <message>
+        <source>Pythagorean (23.5 cents)</source>
+        <translation type="unfinished">pythagoricien (23,5 cents)</translation>
+    </message>
+    <message>
+        <source> comma</source>
+        <translation type="unfinished"> comma</translation>
+    </message>
+    <message>
+        <source>Unit:</source>
+        <translation type="unfinished">Unité :</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished">Comma</translation>
+    </message>
+    <message>
+        <source>By which part of the comma this fifth is narrower than a pure one</source>
+        <translation type="unfinished">De quelle fraction du comma cette quinte est plus étroite qu’une quinte pure</translation>
+    </message>
+    <message>
+        <source>Takes the rest:</source>
+        <translation type="unfinished">Prend le reste :</translation>
+    </message>
+    <message>
+        <source>The fifths of this tuning are no parts of a comma. A change here replaces them all.</source>
+        <translation type="unfinished">Les quintes de cet accord ne sont pas des fractions de comma. Une modification ici les remplace toutes.</translation>
+    </message>
+    <message>
+        <source>The fifth %1 differs from a pure one by %2 cents.</source>
+        <translation type="unfinished">La quinte %1 s’écarte de %2 cents d’une quinte pure.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +833,184 @@ Choisir un autre instrument, en ouvrir ou en décharger un</translation>
     <message>
         <source>Show what was imported and what was left out</source>
         <translation type="unfinished">Afficher ce qui a été importé et ce qui a été ignoré</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Interval</name>
+    <message>
+        <source>Unison</source>
+        <translation type="unfinished">Unisson</translation>
+    </message>
+    <message>
+        <source>Semitone</source>
+        <translation type="unfinished">Demi-ton</translation>
+    </message>
+    <message>
+        <source>Small whole tone</source>
+        <translation type="unfinished">Ton mineur</translation>
+    </message>
+    <message>
+        <source>Whole tone</source>
+        <translation type="unfinished">Ton</translation>
+    </message>
+    <message>
+        <source>Septimal whole tone</source>
+        <translation type="unfinished">Ton septimal</translation>
+    </message>
+    <message>
+        <source>Septimal minor third</source>
+        <translation type="unfinished">Tierce mineure septimale</translation>
+    </message>
+    <message>
+        <source>Minor third</source>
+        <translation type="unfinished">Tierce mineure</translation>
+    </message>
+    <message>
+        <source>Major third</source>
+        <translation type="unfinished">Tierce majeure</translation>
+    </message>
+    <message>
+        <source>Fourth</source>
+        <translation type="unfinished">Quarte</translation>
+    </message>
+    <message>
+        <source>Small tritone</source>
+        <translation type="unfinished">Petit triton</translation>
+    </message>
+    <message>
+        <source>Large tritone</source>
+        <translation type="unfinished">Grand triton</translation>
+    </message>
+    <message>
+        <source>Fifth</source>
+        <translation type="unfinished">Quinte</translation>
+    </message>
+    <message>
+        <source>Minor sixth</source>
+        <translation type="unfinished">Sixte mineure</translation>
+    </message>
+    <message>
+        <source>Major sixth</source>
+        <translation type="unfinished">Sixte majeure</translation>
+    </message>
+    <message>
+        <source>Septimal major sixth</source>
+        <translation type="unfinished">Sixte majeure septimale</translation>
+    </message>
+    <message>
+        <source>Natural seventh</source>
+        <translation type="unfinished">Septième naturelle</translation>
+    </message>
+    <message>
+        <source>Small minor seventh</source>
+        <translation type="unfinished">Petite septième mineure</translation>
+    </message>
+    <message>
+        <source>Minor seventh</source>
+        <translation type="unfinished">Septième mineure</translation>
+    </message>
+    <message>
+        <source>Major seventh</source>
+        <translation type="unfinished">Septième majeure</translation>
+    </message>
+    <message>
+        <source>Octave</source>
+        <translation type="unfinished">Octave</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1 majeur</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1 mineur</translation>
+    </message>
+    <message>
+        <source>%1 diminished</source>
+        <translation type="unfinished">%1 diminué</translation>
+    </message>
+    <message>
+        <source>%1 augmented</source>
+        <translation type="unfinished">%1 augmenté</translation>
+    </message>
+    <message>
+        <source>%1 suspended fourth</source>
+        <translation type="unfinished">%1 avec quarte suspendue</translation>
+    </message>
+    <message>
+        <source>%1 suspended second</source>
+        <translation type="unfinished">%1 avec seconde suspendue</translation>
+    </message>
+    <message>
+        <source>%1 dominant seventh</source>
+        <translation type="unfinished">%1 septième de dominante</translation>
+    </message>
+    <message>
+        <source>%1 major seventh</source>
+        <translation type="unfinished">%1 septième majeure</translation>
+    </message>
+    <message>
+        <source>%1 minor seventh</source>
+        <translation type="unfinished">%1 mineur septième</translation>
+    </message>
+    <message>
+        <source>%1 minor with a major seventh</source>
+        <translation type="unfinished">%1 mineur avec septième majeure</translation>
+    </message>
+    <message>
+        <source>%1 half-diminished seventh</source>
+        <translation type="unfinished">%1 septième demi-diminuée</translation>
+    </message>
+    <message>
+        <source>%1 diminished seventh</source>
+        <translation type="unfinished">%1 septième diminuée</translation>
+    </message>
+    <message>
+        <source>%1 augmented sixth</source>
+        <translation type="unfinished">%1 sixte augmentée</translation>
+    </message>
+    <message>
+        <source>%1, root position</source>
+        <translation type="unfinished">%1, état fondamental</translation>
+    </message>
+    <message>
+        <source>%1, first inversion</source>
+        <translation type="unfinished">%1, premier renversement</translation>
+    </message>
+    <message>
+        <source>%1, second inversion</source>
+        <translation type="unfinished">%1, deuxième renversement</translation>
+    </message>
+    <message>
+        <source>%1, third inversion</source>
+        <translation type="unfinished">%1, troisième renversement</translation>
+    </message>
+    <message>
+        <source>%1 %2/%3</source>
+        <translation type="unfinished">%1 %2/%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n octave(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 et %n octave</numerusform>
+            <numerusform>%1 et %n octaves</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">aucun</translation>
+    </message>
+    <message>
+        <source>nearly pure</source>
+        <translation type="unfinished">presque pur</translation>
+    </message>
+    <message>
+        <source>tempered</source>
+        <translation type="unfinished">tempéré</translation>
+    </message>
+    <message>
+        <source>rough</source>
+        <translation type="unfinished">rude</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1241,65 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>How much higher the keys sound</source>
         <translation type="unfinished">De combien les touches sonnent plus haut</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::NowTab</name>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished">Notes</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation type="unfinished">Intervalle</translation>
+    </message>
+    <message>
+        <source>Cents</source>
+        <translation type="unfinished">Cents</translation>
+    </message>
+    <message>
+        <source>From pure</source>
+        <translation type="unfinished">Écart au pur</translation>
+    </message>
+    <message>
+        <source>Beats/s</source>
+        <translation type="unfinished">Battements/s</translation>
+    </message>
+    <message>
+        <source>Sounding intervals</source>
+        <translation type="unfinished">Intervalles qui sonnent</translation>
+    </message>
+    <message>
+        <source>Show on the keys how pure they are</source>
+        <translation type="unfinished">Montrer sur les touches leur pureté</translation>
+    </message>
+    <message>
+        <source>Colour each sounding key by its interval that is farthest from pure with another one</source>
+        <translation type="unfinished">Colorer chaque touche qui sonne selon son intervalle avec une autre le plus éloigné du pur</translation>
+    </message>
+    <message>
+        <source>Play a chord</source>
+        <translation type="unfinished">Jouez un accord</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <translation type="unfinished">%1–%2</translation>
+    </message>
+    <message>
+        <source>The music centres on %1 (%2 fifths from C).</source>
+        <translation type="unfinished">La musique est centrée sur %1 (%2 quintes de do).</translation>
+    </message>
+    <message>
+        <source>%1, not %2: %3 fifths from the centre instead of %4</source>
+        <translation type="unfinished">%1, non %2 : à %3 quintes du centre au lieu de %4</translation>
+    </message>
+    <message>
+        <source>Each key keeps its usual spelling until another one is forced.</source>
+        <translation type="unfinished">Chaque touche garde son orthographe habituelle jusqu’à ce qu’une autre soit imposée.</translation>
+    </message>
+    <message>
+        <source>Drift from the start: %1 cents</source>
+        <translation type="unfinished">Dérive depuis le début : %1 cents</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1635,17 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Cancelling…</source>
         <translation type="unfinished">Annulation…</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PurityLegend</name>
+    <message>
+        <source>Legend</source>
+        <translation type="unfinished">Légende</translation>
+    </message>
+    <message>
+        <source>%1: up to %2 cents</source>
+        <translation type="unfinished">%1 : jusqu’à %2 cents</translation>
     </message>
 </context>
 <context>
@@ -1670,6 +2069,69 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
 </context>
 <context>
+    <name>velmora::ShapeTab</name>
+    <message>
+        <source>Hear the Original</source>
+        <translation type="unfinished">Écouter l’original</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation type="unfinished">Enregistrer sous…</translation>
+    </message>
+    <message>
+        <source>Ways to shape the tuning</source>
+        <translation type="unfinished">Façons de modifier l’accord</translation>
+    </message>
+    <message>
+        <source>By Notes</source>
+        <translation type="unfinished">Par notes</translation>
+    </message>
+    <message>
+        <source>By Fifths</source>
+        <translation type="unfinished">Par quintes</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished">Rétablir</translation>
+    </message>
+    <message>
+        <source>Compare the tuning with what it was before you changed it</source>
+        <translation type="unfinished">Comparer l’accord avec ce qu’il était avant la modification</translation>
+    </message>
+    <message>
+        <source>Save the tuning as a scale file, which is then listed</source>
+        <translation type="unfinished">Enregistrer l’accord dans un fichier de gamme, qui figure ensuite dans la liste</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation type="unfinished">Description :</translation>
+    </message>
+    <message>
+        <source>Slider of %1</source>
+        <translation type="unfinished">Curseur de %1</translation>
+    </message>
+    <message>
+        <source> cents</source>
+        <translation type="unfinished"> cents</translation>
+    </message>
+    <message>
+        <source>This tuning finds its pitches while you play, so it has no fixed notes to shape. Choose another one.</source>
+        <translation type="unfinished">Cet accord trouve ses hauteurs pendant que vous jouez : il n’a donc pas de notes fixes à façonner. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>You are shaping a copy of %1. Save it to keep it.</source>
+        <translation type="unfinished">Vous façonnez une copie de %1. Enregistrez-la pour la garder.</translation>
+    </message>
+    <message>
+        <source>Move a note, and you hear it at once in a copy of this tuning. The first note stays.</source>
+        <translation type="unfinished">Déplacez une note : vous l’entendez aussitôt dans une copie de cet accord. La première note reste.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ShellActions</name>
     <message>
         <source>File</source>
@@ -1898,6 +2360,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Send the tuning to a MIDI device that is to play in it</source>
         <translation type="unfinished">Envoyer le tempérament à un appareil MIDI qui doit l’utiliser</translation>
+    </message>
+    <message>
+        <source>S&amp;hape the Tuning</source>
+        <translation type="unfinished">Façonner l’accord</translation>
+    </message>
+    <message>
+        <source>Show the circle of fifths, and shape the tuning</source>
+        <translation type="unfinished">Afficher le cycle des quintes et façonner l’accord</translation>
     </message>
 </context>
 <context>
@@ -2519,6 +2989,29 @@ Cliquez pour afficher tous les tempéraments</translation>
         <source>Makes the chords that you play pure</source>
         <translation type="unfinished">Rend purs les accords joués</translation>
     </message>
+    <message>
+        <source>Shape…</source>
+        <translation type="unfinished">Façonner…</translation>
+    </message>
+    <message>
+        <source>Show the circle of fifths and what sounds, and shape the tuning</source>
+        <translation type="unfinished">Afficher le cycle des quintes et ce qui sonne, et façonner l’accord</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningShaper</name>
+    <message>
+        <source>Shape the Tuning</source>
+        <translation type="unfinished">Façonner l’accord</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <translation type="unfinished">%1 (modifié)</translation>
+    </message>
+    <message>
+        <source>%1 (edited, %2)</source>
+        <translation type="unfinished">%1 (modifié, %2)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -2533,6 +3026,25 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>%1: %2 cents</source>
         <translation type="unfinished">%1&#x202f;: %2 cents</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningStudio</name>
+    <message>
+        <source>Pages of the tuning studio</source>
+        <translation type="unfinished">Pages de l’atelier d’accord</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation type="unfinished">Cercle</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation type="unfinished">Façonner</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished">Maintenant</translation>
     </message>
 </context>
 <context>
@@ -2592,6 +3104,14 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>C&amp;onsole</source>
         <translation type="unfinished">Conso&amp;le</translation>
+    </message>
+    <message>
+        <source>Tuning Studio</source>
+        <translation type="unfinished">Atelier d’accord</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation type="unfinished">Panneaux</translation>
     </message>
 </context>
 <context>

@@ -152,6 +152,98 @@
     </message>
 </context>
 <context>
+    <name>velmora::CircleTab</name>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished">Nota</translation>
+    </message>
+    <message>
+        <source>Cents</source>
+        <translation type="unfinished">Cent</translation>
+    </message>
+    <message>
+        <source>Fifth</source>
+        <translation type="unfinished">Quinta</translation>
+    </message>
+    <message>
+        <source>Beats/s</source>
+        <translation type="unfinished">Battimenti/s</translation>
+    </message>
+    <message>
+        <source>Major third</source>
+        <translation type="unfinished">Terza maggiore</translation>
+    </message>
+    <message>
+        <source>Fifths and thirds</source>
+        <translation type="unfinished">Quinte e terze</translation>
+    </message>
+    <message>
+        <source>Degree</source>
+        <translation type="unfinished">Grado</translation>
+    </message>
+    <message>
+        <source>Nearest interval</source>
+        <translation type="unfinished">Intervallo più vicino</translation>
+    </message>
+    <message>
+        <source>From pure</source>
+        <translation type="unfinished">Dal puro</translation>
+    </message>
+    <message>
+        <source>Degrees of the scale</source>
+        <translation type="unfinished">Gradi della scala</translation>
+    </message>
+    <message>
+        <source>Octave %1</source>
+        <translation type="unfinished">Ottava %1</translation>
+    </message>
+    <message>
+        <source>Octave of the beats</source>
+        <translation type="unfinished">Ottava dei battimenti</translation>
+    </message>
+    <message>
+        <source>Middle C begins octave 4. An octave higher, everything beats twice as fast.</source>
+        <translation type="unfinished">Il do centrale inizia l’ottava 4. Un’ottava più su tutto batte due volte più in fretta.</translation>
+    </message>
+    <message>
+        <source>Cents from pure</source>
+        <translation type="unfinished">Cent dal puro</translation>
+    </message>
+    <message>
+        <source>Beats per second</source>
+        <translation type="unfinished">Battimenti al secondo</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished">Tabella</translation>
+    </message>
+    <message>
+        <source>What the circle shows</source>
+        <translation type="unfinished">Che cosa mostra il circolo</translation>
+    </message>
+    <message>
+        <source>%1 (sounds)</source>
+        <translation type="unfinished">%1 (suona)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::CircleView</name>
+    <message>
+        <source>Circle of the tuning</source>
+        <translation type="unfinished">Circolo dell’accordatura</translation>
+    </message>
+    <message>
+        <source>Outside: the fifths. Inside: the major third above each note.
+Drag a note outwards to raise it, and inwards to lower it.</source>
+        <translation type="unfinished">Fuori: le quinte. Dentro: la terza maggiore sopra ogni nota.
+Trascinate una nota verso l’esterno per alzarla e verso l’interno per abbassarla.</translation>
+    </message>
+    <message>
+        <source>The degrees of the scale, each with the nearest pure interval above the first</source>
+        <translation type="unfinished">I gradi della scala, ognuno con l’intervallo puro più vicino sopra il primo</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ColorsPane</name>
     <message>
         <source>Keyboard keys</source>
@@ -444,6 +536,22 @@
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished">%1 non può servire da banco General MIDI. Al suo posto si usa %2. Scegli un altro SoundFont nelle preferenze.</translation>
     </message>
+    <message>
+        <source>Open Tuning</source>
+        <translation type="unfinished">Apri accordatura</translation>
+    </message>
+    <message>
+        <source>Tunings (%1);;All files (*)</source>
+        <translation type="unfinished">Accordature (%1);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Save Tuning</source>
+        <translation type="unfinished">Salva accordatura</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">Scala</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DivisionChooser</name>
@@ -512,6 +620,49 @@ Un clic lo tira o lo respinge</translation>
     <message>
         <source>%1 was not exported. %2</source>
         <translation type="unfinished">%1 non è stato esportato. %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FifthsEditor</name>
+    <message>
+        <source>%1–%2</source>
+        <translation type="unfinished">%1–%2</translation>
+    </message>
+    <message>
+        <source>syntonic (21.5 cents)</source>
+        <translation type="unfinished">sintonico (21,5 cent)</translation>
+    </message>
+    <message>
+        <source>Pythagorean (23.5 cents)</source>
+        <translation type="unfinished">pitagorico (23,5 cent)</translation>
+    </message>
+    <message>
+        <source> comma</source>
+        <translation type="unfinished"> comma</translation>
+    </message>
+    <message>
+        <source>Unit:</source>
+        <translation type="unfinished">Unità:</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished">Comma</translation>
+    </message>
+    <message>
+        <source>By which part of the comma this fifth is narrower than a pure one</source>
+        <translation type="unfinished">Di quale parte del comma questa quinta è più stretta di una pura</translation>
+    </message>
+    <message>
+        <source>Takes the rest:</source>
+        <translation type="unfinished">Prende il resto:</translation>
+    </message>
+    <message>
+        <source>The fifths of this tuning are no parts of a comma. A change here replaces them all.</source>
+        <translation type="unfinished">Le quinte di questa accordatura non sono parti di un comma. Una modifica qui le sostituisce tutte.</translation>
+    </message>
+    <message>
+        <source>The fifth %1 differs from a pure one by %2 cents.</source>
+        <translation type="unfinished">La quinta %1 differisce da una pura di %2 cent.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +833,184 @@ Scegli un altro strumento, aprine uno o rimuovilo dalla memoria</translation>
     <message>
         <source>Show what was imported and what was left out</source>
         <translation type="unfinished">Mostra che cosa è stato importato e che cosa tralasciato</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Interval</name>
+    <message>
+        <source>Unison</source>
+        <translation type="unfinished">Unisono</translation>
+    </message>
+    <message>
+        <source>Semitone</source>
+        <translation type="unfinished">Semitono</translation>
+    </message>
+    <message>
+        <source>Small whole tone</source>
+        <translation type="unfinished">Tono minore</translation>
+    </message>
+    <message>
+        <source>Whole tone</source>
+        <translation type="unfinished">Tono</translation>
+    </message>
+    <message>
+        <source>Septimal whole tone</source>
+        <translation type="unfinished">Tono settimale</translation>
+    </message>
+    <message>
+        <source>Septimal minor third</source>
+        <translation type="unfinished">Terza minore settimale</translation>
+    </message>
+    <message>
+        <source>Minor third</source>
+        <translation type="unfinished">Terza minore</translation>
+    </message>
+    <message>
+        <source>Major third</source>
+        <translation type="unfinished">Terza maggiore</translation>
+    </message>
+    <message>
+        <source>Fourth</source>
+        <translation type="unfinished">Quarta</translation>
+    </message>
+    <message>
+        <source>Small tritone</source>
+        <translation type="unfinished">Tritono minore</translation>
+    </message>
+    <message>
+        <source>Large tritone</source>
+        <translation type="unfinished">Tritono maggiore</translation>
+    </message>
+    <message>
+        <source>Fifth</source>
+        <translation type="unfinished">Quinta</translation>
+    </message>
+    <message>
+        <source>Minor sixth</source>
+        <translation type="unfinished">Sesta minore</translation>
+    </message>
+    <message>
+        <source>Major sixth</source>
+        <translation type="unfinished">Sesta maggiore</translation>
+    </message>
+    <message>
+        <source>Septimal major sixth</source>
+        <translation type="unfinished">Sesta maggiore settimale</translation>
+    </message>
+    <message>
+        <source>Natural seventh</source>
+        <translation type="unfinished">Settima naturale</translation>
+    </message>
+    <message>
+        <source>Small minor seventh</source>
+        <translation type="unfinished">Settima minore stretta</translation>
+    </message>
+    <message>
+        <source>Minor seventh</source>
+        <translation type="unfinished">Settima minore</translation>
+    </message>
+    <message>
+        <source>Major seventh</source>
+        <translation type="unfinished">Settima maggiore</translation>
+    </message>
+    <message>
+        <source>Octave</source>
+        <translation type="unfinished">Ottava</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1 maggiore</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1 minore</translation>
+    </message>
+    <message>
+        <source>%1 diminished</source>
+        <translation type="unfinished">%1 diminuito</translation>
+    </message>
+    <message>
+        <source>%1 augmented</source>
+        <translation type="unfinished">%1 aumentato</translation>
+    </message>
+    <message>
+        <source>%1 suspended fourth</source>
+        <translation type="unfinished">%1 con quarta sospesa</translation>
+    </message>
+    <message>
+        <source>%1 suspended second</source>
+        <translation type="unfinished">%1 con seconda sospesa</translation>
+    </message>
+    <message>
+        <source>%1 dominant seventh</source>
+        <translation type="unfinished">%1 settima di dominante</translation>
+    </message>
+    <message>
+        <source>%1 major seventh</source>
+        <translation type="unfinished">%1 settima maggiore</translation>
+    </message>
+    <message>
+        <source>%1 minor seventh</source>
+        <translation type="unfinished">%1 minore settima</translation>
+    </message>
+    <message>
+        <source>%1 minor with a major seventh</source>
+        <translation type="unfinished">%1 minore con settima maggiore</translation>
+    </message>
+    <message>
+        <source>%1 half-diminished seventh</source>
+        <translation type="unfinished">%1 settima semidiminuita</translation>
+    </message>
+    <message>
+        <source>%1 diminished seventh</source>
+        <translation type="unfinished">%1 settima diminuita</translation>
+    </message>
+    <message>
+        <source>%1 augmented sixth</source>
+        <translation type="unfinished">%1 sesta aumentata</translation>
+    </message>
+    <message>
+        <source>%1, root position</source>
+        <translation type="unfinished">%1, stato fondamentale</translation>
+    </message>
+    <message>
+        <source>%1, first inversion</source>
+        <translation type="unfinished">%1, primo rivolto</translation>
+    </message>
+    <message>
+        <source>%1, second inversion</source>
+        <translation type="unfinished">%1, secondo rivolto</translation>
+    </message>
+    <message>
+        <source>%1, third inversion</source>
+        <translation type="unfinished">%1, terzo rivolto</translation>
+    </message>
+    <message>
+        <source>%1 %2/%3</source>
+        <translation type="unfinished">%1 %2/%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n octave(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1 e %n ottava</numerusform>
+            <numerusform>%1 e %n ottave</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">nessuno</translation>
+    </message>
+    <message>
+        <source>nearly pure</source>
+        <translation type="unfinished">quasi puro</translation>
+    </message>
+    <message>
+        <source>tempered</source>
+        <translation type="unfinished">temperato</translation>
+    </message>
+    <message>
+        <source>rough</source>
+        <translation type="unfinished">aspro</translation>
     </message>
 </context>
 <context>
@@ -912,6 +1241,65 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>How much higher the keys sound</source>
         <translation type="unfinished">Di quanto i tasti suonano più in alto</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::NowTab</name>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished">Note</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation type="unfinished">Intervallo</translation>
+    </message>
+    <message>
+        <source>Cents</source>
+        <translation type="unfinished">Cent</translation>
+    </message>
+    <message>
+        <source>From pure</source>
+        <translation type="unfinished">Dal puro</translation>
+    </message>
+    <message>
+        <source>Beats/s</source>
+        <translation type="unfinished">Battimenti/s</translation>
+    </message>
+    <message>
+        <source>Sounding intervals</source>
+        <translation type="unfinished">Intervalli che suonano</translation>
+    </message>
+    <message>
+        <source>Show on the keys how pure they are</source>
+        <translation type="unfinished">Mostrare sui tasti quanto sono puri</translation>
+    </message>
+    <message>
+        <source>Colour each sounding key by its interval that is farthest from pure with another one</source>
+        <translation type="unfinished">Colorare ogni tasto che suona secondo il suo intervallo con un altro più lontano dal puro</translation>
+    </message>
+    <message>
+        <source>Play a chord</source>
+        <translation type="unfinished">Suonate un accordo</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <translation type="unfinished">%1–%2</translation>
+    </message>
+    <message>
+        <source>The music centres on %1 (%2 fifths from C).</source>
+        <translation type="unfinished">La musica gravita attorno a %1 (%2 quinte dal do).</translation>
+    </message>
+    <message>
+        <source>%1, not %2: %3 fifths from the centre instead of %4</source>
+        <translation type="unfinished">%1, non %2: a %3 quinte dal centro invece di %4</translation>
+    </message>
+    <message>
+        <source>Each key keeps its usual spelling until another one is forced.</source>
+        <translation type="unfinished">Ogni tasto mantiene la grafia abituale finché non se ne impone un’altra.</translation>
+    </message>
+    <message>
+        <source>Drift from the start: %1 cents</source>
+        <translation type="unfinished">Deriva dall’inizio: %1 cent</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1635,17 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Cancelling…</source>
         <translation type="unfinished">Annullamento…</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PurityLegend</name>
+    <message>
+        <source>Legend</source>
+        <translation type="unfinished">Legenda</translation>
+    </message>
+    <message>
+        <source>%1: up to %2 cents</source>
+        <translation type="unfinished">%1: fino a %2 cent</translation>
     </message>
 </context>
 <context>
@@ -1670,6 +2069,69 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
 </context>
 <context>
+    <name>velmora::ShapeTab</name>
+    <message>
+        <source>Hear the Original</source>
+        <translation type="unfinished">Ascolta l’originale</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation type="unfinished">Salva con nome…</translation>
+    </message>
+    <message>
+        <source>Ways to shape the tuning</source>
+        <translation type="unfinished">Modi di modellare l’accordatura</translation>
+    </message>
+    <message>
+        <source>By Notes</source>
+        <translation type="unfinished">Per note</translation>
+    </message>
+    <message>
+        <source>By Fifths</source>
+        <translation type="unfinished">Per quinte</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">Annulla</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished">Ripeti</translation>
+    </message>
+    <message>
+        <source>Compare the tuning with what it was before you changed it</source>
+        <translation type="unfinished">Confrontare l’accordatura con ciò che era prima della modifica</translation>
+    </message>
+    <message>
+        <source>Save the tuning as a scale file, which is then listed</source>
+        <translation type="unfinished">Salvare l’accordatura in un file di scala, che compare poi nell’elenco</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation type="unfinished">Descrizione:</translation>
+    </message>
+    <message>
+        <source>Slider of %1</source>
+        <translation type="unfinished">Cursore di %1</translation>
+    </message>
+    <message>
+        <source> cents</source>
+        <translation type="unfinished"> cent</translation>
+    </message>
+    <message>
+        <source>This tuning finds its pitches while you play, so it has no fixed notes to shape. Choose another one.</source>
+        <translation type="unfinished">Questa accordatura trova le sue altezze mentre suonate, quindi non ha note fisse da modellare. Sceglietene un’altra.</translation>
+    </message>
+    <message>
+        <source>You are shaping a copy of %1. Save it to keep it.</source>
+        <translation type="unfinished">State modellando una copia di %1. Salvatela per conservarla.</translation>
+    </message>
+    <message>
+        <source>Move a note, and you hear it at once in a copy of this tuning. The first note stays.</source>
+        <translation type="unfinished">Spostate una nota e la sentirete subito in una copia di questa accordatura. La prima nota resta ferma.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ShellActions</name>
     <message>
         <source>File</source>
@@ -1898,6 +2360,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Send the tuning to a MIDI device that is to play in it</source>
         <translation type="unfinished">Invia il temperamento a un dispositivo MIDI che deve usarlo</translation>
+    </message>
+    <message>
+        <source>S&amp;hape the Tuning</source>
+        <translation type="unfinished">Modella l’accordatura</translation>
+    </message>
+    <message>
+        <source>Show the circle of fifths, and shape the tuning</source>
+        <translation type="unfinished">Mostrare il circolo delle quinte e modellare l’accordatura</translation>
     </message>
 </context>
 <context>
@@ -2519,6 +2989,29 @@ Fai clic per mostrare tutti i temperamenti</translation>
         <source>Makes the chords that you play pure</source>
         <translation type="unfinished">Rende puri gli accordi suonati</translation>
     </message>
+    <message>
+        <source>Shape…</source>
+        <translation type="unfinished">Modella…</translation>
+    </message>
+    <message>
+        <source>Show the circle of fifths and what sounds, and shape the tuning</source>
+        <translation type="unfinished">Mostrare il circolo delle quinte e ciò che suona, e modellare l’accordatura</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningShaper</name>
+    <message>
+        <source>Shape the Tuning</source>
+        <translation type="unfinished">Modella l’accordatura</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <translation type="unfinished">%1 (modificata)</translation>
+    </message>
+    <message>
+        <source>%1 (edited, %2)</source>
+        <translation type="unfinished">%1 (modificata, %2)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -2533,6 +3026,25 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>%1: %2 cents</source>
         <translation type="unfinished">%1: %2 cent</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningStudio</name>
+    <message>
+        <source>Pages of the tuning studio</source>
+        <translation type="unfinished">Pagine dello studio di accordatura</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation type="unfinished">Circolo</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation type="unfinished">Modella</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished">Adesso</translation>
     </message>
 </context>
 <context>
@@ -2592,6 +3104,14 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>C&amp;onsole</source>
         <translation type="unfinished">Conso&amp;lle</translation>
+    </message>
+    <message>
+        <source>Tuning Studio</source>
+        <translation type="unfinished">Studio di accordatura</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation type="unfinished">Pannelli</translation>
     </message>
 </context>
 <context>

@@ -150,6 +150,98 @@
     </message>
 </context>
 <context>
+    <name>velmora::CircleTab</name>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished">音</translation>
+    </message>
+    <message>
+        <source>Cents</source>
+        <translation type="unfinished">セント</translation>
+    </message>
+    <message>
+        <source>Fifth</source>
+        <translation type="unfinished">5度</translation>
+    </message>
+    <message>
+        <source>Beats/s</source>
+        <translation type="unfinished">うなり/秒</translation>
+    </message>
+    <message>
+        <source>Major third</source>
+        <translation type="unfinished">長3度</translation>
+    </message>
+    <message>
+        <source>Fifths and thirds</source>
+        <translation type="unfinished">5度と3度</translation>
+    </message>
+    <message>
+        <source>Degree</source>
+        <translation type="unfinished">音度</translation>
+    </message>
+    <message>
+        <source>Nearest interval</source>
+        <translation type="unfinished">最も近い音程</translation>
+    </message>
+    <message>
+        <source>From pure</source>
+        <translation type="unfinished">純正との差</translation>
+    </message>
+    <message>
+        <source>Degrees of the scale</source>
+        <translation type="unfinished">音階の音度</translation>
+    </message>
+    <message>
+        <source>Octave %1</source>
+        <translation type="unfinished">オクターブ%1</translation>
+    </message>
+    <message>
+        <source>Octave of the beats</source>
+        <translation type="unfinished">うなりのオクターブ</translation>
+    </message>
+    <message>
+        <source>Middle C begins octave 4. An octave higher, everything beats twice as fast.</source>
+        <translation type="unfinished">中央のドはオクターブ4の始まりです。1オクターブ上では、うなりがすべて2倍速くなります。</translation>
+    </message>
+    <message>
+        <source>Cents from pure</source>
+        <translation type="unfinished">純正との差(セント)</translation>
+    </message>
+    <message>
+        <source>Beats per second</source>
+        <translation type="unfinished">毎秒のうなり</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished">表</translation>
+    </message>
+    <message>
+        <source>What the circle shows</source>
+        <translation type="unfinished">円に表示するもの</translation>
+    </message>
+    <message>
+        <source>%1 (sounds)</source>
+        <translation type="unfinished">%1(発音中)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::CircleView</name>
+    <message>
+        <source>Circle of the tuning</source>
+        <translation type="unfinished">調律の円</translation>
+    </message>
+    <message>
+        <source>Outside: the fifths. Inside: the major third above each note.
+Drag a note outwards to raise it, and inwards to lower it.</source>
+        <translation type="unfinished">外側: 5度。内側: 各音の上の長3度。
+音を外へドラッグすると高く、内へドラッグすると低くなります。</translation>
+    </message>
+    <message>
+        <source>The degrees of the scale, each with the nearest pure interval above the first</source>
+        <translation type="unfinished">音階の音度と、第1音の上の最も近い純正音程</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ColorsPane</name>
     <message>
         <source>Keyboard keys</source>
@@ -442,6 +534,22 @@
         <source>%1 cannot be used as the General MIDI bank. %2 is used instead. Choose another SoundFont in the preferences.</source>
         <translation type="unfinished">%1 は General MIDI バンクとして使用できません。代わりに %2 を使用します。設定で別の SoundFont を選択してください。</translation>
     </message>
+    <message>
+        <source>Open Tuning</source>
+        <translation type="unfinished">調律を開く</translation>
+    </message>
+    <message>
+        <source>Tunings (%1);;All files (*)</source>
+        <translation type="unfinished">調律 (%1);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Save Tuning</source>
+        <translation type="unfinished">調律を保存</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">音階</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DivisionChooser</name>
@@ -510,6 +618,49 @@ A click draws it or pushes it in</source>
     <message>
         <source>%1 was not exported. %2</source>
         <translation type="unfinished">%1 をエクスポートできませんでした。%2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FifthsEditor</name>
+    <message>
+        <source>%1–%2</source>
+        <translation type="unfinished">%1–%2</translation>
+    </message>
+    <message>
+        <source>syntonic (21.5 cents)</source>
+        <translation type="unfinished">シントニック(21.5セント)</translation>
+    </message>
+    <message>
+        <source>Pythagorean (23.5 cents)</source>
+        <translation type="unfinished">ピタゴラス(23.5セント)</translation>
+    </message>
+    <message>
+        <source> comma</source>
+        <translation type="unfinished"> コンマ</translation>
+    </message>
+    <message>
+        <source>Unit:</source>
+        <translation type="unfinished">単位:</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished">コンマ</translation>
+    </message>
+    <message>
+        <source>By which part of the comma this fifth is narrower than a pure one</source>
+        <translation type="unfinished">この5度がコンマの何分の何だけ純正より狭いか</translation>
+    </message>
+    <message>
+        <source>Takes the rest:</source>
+        <translation type="unfinished">残りを受ける5度:</translation>
+    </message>
+    <message>
+        <source>The fifths of this tuning are no parts of a comma. A change here replaces them all.</source>
+        <translation type="unfinished">この調律の5度はコンマの分数ではありません。ここで変更すると、すべて置き換わります。</translation>
+    </message>
+    <message>
+        <source>The fifth %1 differs from a pure one by %2 cents.</source>
+        <translation type="unfinished">5度 %1 は純正と %2 セント異なります。</translation>
     </message>
 </context>
 <context>
@@ -679,6 +830,183 @@ Choose another instrument, open or unload one</source>
     <message>
         <source>Show what was imported and what was left out</source>
         <translation type="unfinished">インポートしたものと除外したものを表示します</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Interval</name>
+    <message>
+        <source>Unison</source>
+        <translation type="unfinished">同度</translation>
+    </message>
+    <message>
+        <source>Semitone</source>
+        <translation type="unfinished">半音</translation>
+    </message>
+    <message>
+        <source>Small whole tone</source>
+        <translation type="unfinished">小全音</translation>
+    </message>
+    <message>
+        <source>Whole tone</source>
+        <translation type="unfinished">全音</translation>
+    </message>
+    <message>
+        <source>Septimal whole tone</source>
+        <translation type="unfinished">7限界の全音</translation>
+    </message>
+    <message>
+        <source>Septimal minor third</source>
+        <translation type="unfinished">7限界の短3度</translation>
+    </message>
+    <message>
+        <source>Minor third</source>
+        <translation type="unfinished">短3度</translation>
+    </message>
+    <message>
+        <source>Major third</source>
+        <translation type="unfinished">長3度</translation>
+    </message>
+    <message>
+        <source>Fourth</source>
+        <translation type="unfinished">4度</translation>
+    </message>
+    <message>
+        <source>Small tritone</source>
+        <translation type="unfinished">小三全音</translation>
+    </message>
+    <message>
+        <source>Large tritone</source>
+        <translation type="unfinished">大三全音</translation>
+    </message>
+    <message>
+        <source>Fifth</source>
+        <translation type="unfinished">5度</translation>
+    </message>
+    <message>
+        <source>Minor sixth</source>
+        <translation type="unfinished">短6度</translation>
+    </message>
+    <message>
+        <source>Major sixth</source>
+        <translation type="unfinished">長6度</translation>
+    </message>
+    <message>
+        <source>Septimal major sixth</source>
+        <translation type="unfinished">7限界の長6度</translation>
+    </message>
+    <message>
+        <source>Natural seventh</source>
+        <translation type="unfinished">自然7度</translation>
+    </message>
+    <message>
+        <source>Small minor seventh</source>
+        <translation type="unfinished">小短7度</translation>
+    </message>
+    <message>
+        <source>Minor seventh</source>
+        <translation type="unfinished">短7度</translation>
+    </message>
+    <message>
+        <source>Major seventh</source>
+        <translation type="unfinished">長7度</translation>
+    </message>
+    <message>
+        <source>Octave</source>
+        <translation type="unfinished">オクターブ</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1 長三和音</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1 短三和音</translation>
+    </message>
+    <message>
+        <source>%1 diminished</source>
+        <translation type="unfinished">%1 減三和音</translation>
+    </message>
+    <message>
+        <source>%1 augmented</source>
+        <translation type="unfinished">%1 増三和音</translation>
+    </message>
+    <message>
+        <source>%1 suspended fourth</source>
+        <translation type="unfinished">%1 掛留4度</translation>
+    </message>
+    <message>
+        <source>%1 suspended second</source>
+        <translation type="unfinished">%1 掛留2度</translation>
+    </message>
+    <message>
+        <source>%1 dominant seventh</source>
+        <translation type="unfinished">%1 属七</translation>
+    </message>
+    <message>
+        <source>%1 major seventh</source>
+        <translation type="unfinished">%1 長七</translation>
+    </message>
+    <message>
+        <source>%1 minor seventh</source>
+        <translation type="unfinished">%1 短七</translation>
+    </message>
+    <message>
+        <source>%1 minor with a major seventh</source>
+        <translation type="unfinished">%1 短三和音と長7度</translation>
+    </message>
+    <message>
+        <source>%1 half-diminished seventh</source>
+        <translation type="unfinished">%1 半減七</translation>
+    </message>
+    <message>
+        <source>%1 diminished seventh</source>
+        <translation type="unfinished">%1 減七</translation>
+    </message>
+    <message>
+        <source>%1 augmented sixth</source>
+        <translation type="unfinished">%1 増六</translation>
+    </message>
+    <message>
+        <source>%1, root position</source>
+        <translation type="unfinished">%1、基本形</translation>
+    </message>
+    <message>
+        <source>%1, first inversion</source>
+        <translation type="unfinished">%1、第1転回形</translation>
+    </message>
+    <message>
+        <source>%1, second inversion</source>
+        <translation type="unfinished">%1、第2転回形</translation>
+    </message>
+    <message>
+        <source>%1, third inversion</source>
+        <translation type="unfinished">%1、第3転回形</translation>
+    </message>
+    <message>
+        <source>%1 %2/%3</source>
+        <translation type="unfinished">%1 %2/%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n octave(s)</source>
+        <translation type="unfinished">
+            <numerusform>%1と%nオクターブ</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">なし</translation>
+    </message>
+    <message>
+        <source>nearly pure</source>
+        <translation type="unfinished">ほぼ純正</translation>
+    </message>
+    <message>
+        <source>tempered</source>
+        <translation type="unfinished">平均化</translation>
+    </message>
+    <message>
+        <source>rough</source>
+        <translation type="unfinished">荒い</translation>
     </message>
 </context>
 <context>
@@ -909,6 +1237,65 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>How much higher the keys sound</source>
         <translation type="unfinished">鍵をどれだけ高く鳴らすか</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::NowTab</name>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished">音</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation type="unfinished">音程</translation>
+    </message>
+    <message>
+        <source>Cents</source>
+        <translation type="unfinished">セント</translation>
+    </message>
+    <message>
+        <source>From pure</source>
+        <translation type="unfinished">純正との差</translation>
+    </message>
+    <message>
+        <source>Beats/s</source>
+        <translation type="unfinished">うなり/秒</translation>
+    </message>
+    <message>
+        <source>Sounding intervals</source>
+        <translation type="unfinished">鳴っている音程</translation>
+    </message>
+    <message>
+        <source>Show on the keys how pure they are</source>
+        <translation type="unfinished">純正の度合いを鍵盤に表示</translation>
+    </message>
+    <message>
+        <source>Colour each sounding key by its interval that is farthest from pure with another one</source>
+        <translation type="unfinished">鳴っている各鍵を、他の鍵との音程のうち純正から最も遠いもので色づけします</translation>
+    </message>
+    <message>
+        <source>Play a chord</source>
+        <translation type="unfinished">和音を弾いてください</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <translation type="unfinished">%1–%2</translation>
+    </message>
+    <message>
+        <source>The music centres on %1 (%2 fifths from C).</source>
+        <translation type="unfinished">音楽の中心は%1です(ドから5度%2個)。</translation>
+    </message>
+    <message>
+        <source>%1, not %2: %3 fifths from the centre instead of %4</source>
+        <translation type="unfinished">%2ではなく%1: 中心から5度%4個ではなく%3個</translation>
+    </message>
+    <message>
+        <source>Each key keeps its usual spelling until another one is forced.</source>
+        <translation type="unfinished">別の表記が強制されるまで、各鍵は通常の表記を保ちます。</translation>
+    </message>
+    <message>
+        <source>Drift from the start: %1 cents</source>
+        <translation type="unfinished">開始時からのずれ: %1 セント</translation>
     </message>
 </context>
 <context>
@@ -1244,6 +1631,17 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Cancelling…</source>
         <translation type="unfinished">キャンセルしています…</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PurityLegend</name>
+    <message>
+        <source>Legend</source>
+        <translation type="unfinished">凡例</translation>
+    </message>
+    <message>
+        <source>%1: up to %2 cents</source>
+        <translation type="unfinished">%1: %2セントまで</translation>
     </message>
 </context>
 <context>
@@ -1656,6 +2054,69 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
 </context>
 <context>
+    <name>velmora::ShapeTab</name>
+    <message>
+        <source>Hear the Original</source>
+        <translation type="unfinished">元の調律を聴く</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation type="unfinished">名前を付けて保存…</translation>
+    </message>
+    <message>
+        <source>Ways to shape the tuning</source>
+        <translation type="unfinished">調律の編集方法</translation>
+    </message>
+    <message>
+        <source>By Notes</source>
+        <translation type="unfinished">音で</translation>
+    </message>
+    <message>
+        <source>By Fifths</source>
+        <translation type="unfinished">5度で</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished">元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished">やり直す</translation>
+    </message>
+    <message>
+        <source>Compare the tuning with what it was before you changed it</source>
+        <translation type="unfinished">変更前の調律と聴き比べます</translation>
+    </message>
+    <message>
+        <source>Save the tuning as a scale file, which is then listed</source>
+        <translation type="unfinished">調律を音階ファイルとして保存し、一覧に加えます</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation type="unfinished">説明:</translation>
+    </message>
+    <message>
+        <source>Slider of %1</source>
+        <translation type="unfinished">%1のスライダー</translation>
+    </message>
+    <message>
+        <source> cents</source>
+        <translation type="unfinished"> セント</translation>
+    </message>
+    <message>
+        <source>This tuning finds its pitches while you play, so it has no fixed notes to shape. Choose another one.</source>
+        <translation type="unfinished">この調律は演奏中に音高を決めるため、変更できる固定の音がありません。別の調律を選んでください。</translation>
+    </message>
+    <message>
+        <source>You are shaping a copy of %1. Save it to keep it.</source>
+        <translation type="unfinished">%1のコピーを編集しています。残すには保存してください。</translation>
+    </message>
+    <message>
+        <source>Move a note, and you hear it at once in a copy of this tuning. The first note stays.</source>
+        <translation type="unfinished">音を動かすと、この調律のコピーですぐに聴こえます。最初の音は動きません。</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ShellActions</name>
     <message>
         <source>File</source>
@@ -1884,6 +2345,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Send the tuning to a MIDI device that is to play in it</source>
         <translation type="unfinished">この調律で鳴らしたいMIDI機器に調律を送信します</translation>
+    </message>
+    <message>
+        <source>S&amp;hape the Tuning</source>
+        <translation type="unfinished">調律を編集(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Show the circle of fifths, and shape the tuning</source>
+        <translation type="unfinished">5度圏を表示し、調律を編集します</translation>
     </message>
 </context>
 <context>
@@ -2503,6 +2972,29 @@ Click to show all tunings</source>
         <source>Makes the chords that you play pure</source>
         <translation type="unfinished">弾いた和音を純正にします</translation>
     </message>
+    <message>
+        <source>Shape…</source>
+        <translation type="unfinished">編集…</translation>
+    </message>
+    <message>
+        <source>Show the circle of fifths and what sounds, and shape the tuning</source>
+        <translation type="unfinished">5度圏と鳴っている音を表示し、調律を編集します</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningShaper</name>
+    <message>
+        <source>Shape the Tuning</source>
+        <translation type="unfinished">調律を編集</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <translation type="unfinished">%1(編集済み)</translation>
+    </message>
+    <message>
+        <source>%1 (edited, %2)</source>
+        <translation type="unfinished">%1(編集済み、%2)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningStrip</name>
@@ -2517,6 +3009,25 @@ Click to show all tunings</source>
     <message>
         <source>%1: %2 cents</source>
         <translation type="unfinished">%1: %2 セント</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TuningStudio</name>
+    <message>
+        <source>Pages of the tuning studio</source>
+        <translation type="unfinished">調律スタジオのページ</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation type="unfinished">円</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation type="unfinished">編集</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation type="unfinished">今</translation>
     </message>
 </context>
 <context>
@@ -2576,6 +3087,14 @@ Click to show all tunings</source>
     <message>
         <source>C&amp;onsole</source>
         <translation type="unfinished">コンソール(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Tuning Studio</source>
+        <translation type="unfinished">調律スタジオ</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation type="unfinished">パネル</translation>
     </message>
 </context>
 <context>

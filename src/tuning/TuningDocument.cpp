@@ -13,6 +13,7 @@
 #include "tuning/ScaleFile.h"
 #include "tuning/ScaleTemperament.h"
 #include "tuning/Tuning.h"
+#include "tuning/TuningShape.h"
 #include "tuning/historicalTemperaments.h"
 
 #include <algorithm>
@@ -77,17 +78,13 @@ std::unique_ptr<TuningDocument> TuningDocument::makeBuiltin(const std::string& n
 }
 
 std::unique_ptr<TuningDocument> TuningDocument::makeEdited(const TuningDocument& original,
-                                                           const std::array<double, 12>& cents)
+                                                           const TuningShape& shape,
+                                                           std::string name)
 {
-    constexpr int kBaseKey = 48;
-    Temperament temperament;
-    temperament.setBaseFrequency(original.temperament().pitchAt(kBaseKey));
-    for (const double each : cents)
-        temperament.append(std::make_unique<Cent>(each));
-    const std::string& name = original.original_.empty() ? original.name_ : original.original_;
     auto document = std::make_unique<TuningDocument>(
-        name + " (edited)", std::string(), std::make_unique<Temperament>(std::move(temperament)));
-    document->original_ = name;
+        std::move(name), std::string(),
+        std::make_unique<ScaleTemperament>(shape.scale, shape.mapping));
+    document->original_ = original.original_.empty() ? original.name_ : original.original_;
     return document;
 }
 

@@ -5,13 +5,14 @@
 #include "tuning/Temperament.h"
 #include "tuning/TuningFile.h"
 
-#include <array>
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace velmora {
+
+struct TuningShape;
 
 /// A temperament and its display name: built in, or read from a tuning file.
 class TuningDocument {
@@ -29,10 +30,9 @@ public:
     static std::unique_ptr<TuningDocument> makeBuiltin(const std::string& name,
                                                        const AdaptiveSettings& settings = {});
 
-    /// Creates a copy of a tuning whose notes lie so many cents above its C, in ascending order
-    /// from C. Its name is that of the original and "(edited)"; a copy of a copy keeps its name.
+    /// Creates a changed copy of a tuning. Throws FormatError if a key would have no finite pitch.
     static std::unique_ptr<TuningDocument> makeEdited(const TuningDocument& original,
-                                                      const std::array<double, 12>& cents);
+                                                      const TuningShape& shape, std::string name);
 
     /// The names of the adaptive tunings that `makeBuiltin` can create.
     static std::vector<std::string> adaptiveNames();
@@ -69,7 +69,8 @@ public:
     /// every other tuning.
     const std::string& description() const { return description_; }
 
-    /// The name of the tuning that this one is an edited copy of; empty for every other tuning.
+    /// The name of the tuning that this one is an edited copy of, or a copy of a copy; empty for
+    /// every other tuning.
     const std::string& original() const { return original_; }
 
     /// The file of the last successful `read`; empty for a built-in tuning.

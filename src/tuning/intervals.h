@@ -30,6 +30,8 @@ struct HeardInterval {
     int octaves = 0;         ///< Above which `nearest` lies.
     double distance = 0.0;   ///< From pure in cents, positive if it is too wide.
     double beatsPerSecond = 0.0;
+
+    bool operator==(const HeardInterval&) const = default;
 };
 
 /// Measures the interval between two notes in hertz, in either order.

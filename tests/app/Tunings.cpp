@@ -6,11 +6,10 @@
 #include "support/Bank.h"
 #include "support/OrganFolder.h"
 #include "support/RecordingInstrument.h"
-#include "tuning/Tuning.h"
+#include "tuning/TuningShape.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cmath>
 
 namespace velmora {
@@ -36,11 +35,9 @@ protected:
 
     static std::unique_ptr<TuningDocument> edited(const TuningDocument& original, double cSharp)
     {
-        std::array<double, 12> cents{};
-        for (unsigned i = 0; i < cents.size(); ++i)
-            cents[i] = 100.0 * i;
-        cents[1] = cSharp;
-        return TuningDocument::makeEdited(original, cents);
+        TuningShape shape = *shapeOf(original.temperament());
+        shape.scale.pitches[0] = Cent(cSharp);
+        return TuningDocument::makeEdited(original, shape, "Equal (edited)");
     }
 
     AppDelegate application_;

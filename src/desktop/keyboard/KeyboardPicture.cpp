@@ -3,6 +3,7 @@
 #include "base/Log.h"
 #include "desktop/keyboard/keyMark.h"
 #include "desktop/widgets/noteNames.h"
+#include "desktop/widgets/purityMark.h"
 #include "preferences/Preferences.h"
 #include "sequencer/KeyboardDocument.h"
 #include "sequencer/LiveKeys.h"
@@ -58,6 +59,15 @@ QRectF classicRect(const KeyQuad& quad, double height)
     return {quad.left, height - quad.top, quad.right - quad.left, quad.top - quad.bottom};
 }
 
+/// Returns where the mark of a purity lies on the face of a key: near its lower end.
+QRectF markPlace(const QRectF& face)
+{
+    constexpr double kWidth = 0.6, kFromBottom = 0.3;
+    const double height = face.height() * kFromBottom;
+    return {face.center().x() - face.width() * kWidth / 2, face.bottom() - height,
+            face.width() * kWidth, height};
+}
+
 } // namespace
 
 std::array<int, 128> keyStates(const KeyboardDocument* document, const LiveKeys& keys)
@@ -109,6 +119,20 @@ const Color* KeyboardPicture::color(int state) const
     }
 }
 
+std::optional<QColor> KeyboardPicture::fill(const KeyQuad& quad) const
+{
+    if (purity(quad) != Purity::None)
+        return purityColor(purity(quad));
+    const Color* ofState = color(state(quad));
+    return ofState == nullptr ? std::nullopt : std::optional(ofState->toQColor());
+}
+
+Purity KeyboardPicture::purity(const KeyQuad& quad) const
+{
+    const bool isJudged = state(quad) != 0 && state(quad) != kHeld && state(quad) != kWanted;
+    return isJudged ? Purity::None : purities[static_cast<std::size_t>(quad.key)];
+}
+
 int KeyboardPicture::keyAt(QPointF point) const
 {
     const double x = point.x() - origin;
@@ -140,19 +164,20 @@ void KeyboardPicture::paintClassic(QPainter& painter) const
         for (const KeyQuad& quad : geometry.keys(static_cast<float>(height))) {
             if (quad.isBlack != isBlack)
                 continue;
-            const Color* fill = color(state(quad));
+            const std::optional<QColor> fill = this->fill(quad);
             if (!isBlack) {
-                painter.fillRect(classicRect(quad, height),
-                                 fill != nullptr ? fill->toQColor() : Qt::white);
-                continue;
+                painter.fillRect(classicRect(quad, height), fill.value_or(Qt::white));
+            } else {
+                painter.fillRect(classicRect(quad, height), Qt::black);
+                if (state(quad) == 0 && !fill)
+                    continue;
+                if (!fill) // docs/decisions.md, 110
+                    logger("desktop").debug("wrong {}", state(quad));
+                painter.fillRect(classicRect(quad.inner(), height), fill.value_or(Qt::blue));
             }
-            painter.fillRect(classicRect(quad, height), Qt::black);
-            if (state(quad) == 0)
-                continue;
-            if (fill == nullptr) // docs/decisions.md, 110
-                logger("desktop").debug("wrong {}", state(quad));
-            painter.fillRect(classicRect(quad.inner(), height),
-                             fill != nullptr ? fill->toQColor() : Qt::blue);
+            if (purity(quad) != Purity::None)
+                paintPurityMark(painter, purity(quad), inkOn(*fill),
+                                markPlace(classicRect(isBlack ? quad.inner() : quad, height)));
         }
     }
     painter.translate(-origin, 0);
@@ -169,7 +194,7 @@ void KeyboardPicture::paintCalm(QPainter& painter) const
         for (const KeyQuad& quad : geometry.keys(static_cast<float>(size.height()))) {
             if (quad.isBlack != isBlack)
                 continue;
-            const Color* fill = color(state(quad));
+            const std::optional<QColor> fill = this->fill(quad);
             const QRectF rect = sharpRect(quad, origin, size.height(), ratio);
             if (rect.right() < 0 || rect.left() > size.width())
                 continue;
@@ -177,10 +202,12 @@ void KeyboardPicture::paintCalm(QPainter& painter) const
                 painter.fillPath(keyPath(rect), QColor(kBed));
             const QRectF face = isBlack ? rect.adjusted(1, 0, -1, -1.5) : rect;
             const QColor plain = isBlack ? QColor(kBlackKeyFace) : white;
-            painter.fillPath(keyPath(face), fill != nullptr ? fill->toQColor() : plain);
-            if (fill != nullptr)
-                paintKeyMark(painter, state(quad), inkOn(fill->toQColor()),
-                             face.adjusted(0, 0, 0, isBlack || isLow ? 0 : -nameHeight()));
+            painter.fillPath(keyPath(face), fill.value_or(plain));
+            const QRectF free = face.adjusted(0, 0, 0, isBlack || isLow ? 0 : -nameHeight());
+            if (purity(quad) != Purity::None)
+                paintPurityMark(painter, purity(quad), inkOn(*fill), markPlace(free));
+            else if (fill)
+                paintKeyMark(painter, state(quad), inkOn(*fill), free);
         }
     }
 }
@@ -202,15 +229,13 @@ void KeyboardPicture::paintNames(QPainter& painter) const
         const bool isCut = origin + quad.right > size.width();
         if (quad.key % 12 != 0 || isCut)
             continue;
-        const Color* fill = color(state(quad));
-        if (scheme == Scheme::Calm && fill != nullptr && size.height() < kLowKeys)
+        const std::optional<QColor> fill = this->fill(quad);
+        if (scheme == Scheme::Calm && fill && size.height() < kLowKeys)
             continue;
         if (scheme == Scheme::Calm)
-            painter.setPen(fill != nullptr ? inkOn(fill->toQColor()) : QColor(kClassicName));
+            painter.setPen(fill ? inkOn(*fill) : QColor(kClassicName));
         else
-            painter.setPen(fill != nullptr && qGray(fill->toQColor().rgb()) < 96
-                               ? Qt::white
-                               : QColor(kClassicName));
+            painter.setPen(fill && qGray(fill->rgb()) < 96 ? Qt::white : QColor(kClassicName));
         const QRect place(qRound(origin + quad.left), 0, qRound(quad.right - quad.left),
                           size.height() - below);
         painter.drawText(place, Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip,

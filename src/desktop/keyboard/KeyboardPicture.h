@@ -2,10 +2,12 @@
 
 #include "desktop/keyboard/KeyboardGeometry.h"
 #include "desktop/widgets/scheme.h"
+#include "tuning/intervals.h"
 
 #include <QSize>
 
 #include <array>
+#include <optional>
 
 class QPainter;
 class QPalette;
@@ -34,6 +36,8 @@ struct KeyboardPicture {
     bool isDark;
     std::array<int, 128> states{}; ///< As `KeyboardDocument::stateOfNote` returns them.
 
+    std::array<Purity, 128> purities{}; ///< Of the keys that are lit by it.
+
     /// Lays out the keys of the preferences in a view of this size and theme; no key is pressed.
     KeyboardPicture(QSize viewSize, const QPalette& palette);
 
@@ -47,6 +51,11 @@ struct KeyboardPicture {
 private:
     /// The colour of a state; null for a released key and for an unknown state.
     const Color* color(int state) const;
+
+    /// The colour of a key; empty for a released one. A purity does not hide that a key is right or
+    /// wrong.
+    std::optional<QColor> fill(const KeyQuad& quad) const;
+    Purity purity(const KeyQuad& quad) const;
     int state(const KeyQuad& quad) const { return states[static_cast<std::size_t>(quad.key)]; }
 
     void paintClassic(QPainter& painter) const;

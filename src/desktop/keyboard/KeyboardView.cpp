@@ -42,6 +42,12 @@ void KeyboardView::midiInput()
     refresh();
 }
 
+void KeyboardView::setPurities(const std::array<Purity, 128>& purities)
+{
+    purities_ = purities;
+    refresh();
+}
+
 void KeyboardView::refresh()
 {
     if (painted_ != picture())
@@ -65,6 +71,7 @@ KeyboardPicture KeyboardView::picture() const
 {
     KeyboardPicture picture(size(), palette());
     picture.states = keyStates(document_, keys_);
+    picture.purities = purities_;
     return picture;
 }
 

@@ -31,6 +31,9 @@ public:
     /// Tells the document that the held keys have changed, and shows them.
     void midiInput();
 
+    /// Lights the sounding keys by how pure they are; all `None` for as usual.
+    void setPurities(const std::array<Purity, 128>& purities);
+
     /// Schedules a repaint if the picture has changed.
     void refresh();
 
@@ -57,6 +60,7 @@ private:
     LiveInput& input_;
     const LiveKeys& keys_;
     KeyboardDocument* document_ = nullptr;
+    std::array<Purity, 128> purities_{};
     int pressedKey_ = kNoKey;
     std::optional<KeyboardPicture> painted_;
 };

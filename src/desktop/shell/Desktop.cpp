@@ -11,6 +11,7 @@
 #include "desktop/shell/askForFiles.h"
 #include "desktop/shell/bankNotice.h"
 #include "desktop/tuning/TuningPanel.h"
+#include "desktop/tuning/TuningStudio.h"
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/messages.h"
 #include "desktop/widgets/windowPlace.h"
@@ -39,6 +40,7 @@ Desktop::Desktop() : instrumentsWindow_(application_), metersWindow_(application
 {
     connectCommands();
     connectWindows();
+    connectTunings();
     connectProgress();
     connectPieces();
     connectStartPage();
@@ -135,7 +137,6 @@ void Desktop::connectWindows()
     connect(&panel, &InstrumentPanel::reopenRequested, this, &Desktop::rereadInstrument);
     connect(&shell_, &ShellActions::reopenRequested, this, &Desktop::rereadInstrument);
     connect(&panel, &InstrumentPanel::refused, this, &Desktop::showError);
-    connect(&workspace_.tuningPanel(), &TuningPanel::openRequested, this, &Desktop::askForFiles);
     const StatusLine& status = workspace_.status();
     connect(&status, &StatusLine::instrumentClicked, &workspace_, &Workspace::showInstrument);
     connect(&status, &StatusLine::tuningClicked, &workspace_, &Workspace::showTuning);
@@ -147,6 +148,19 @@ void Desktop::connectWindows()
     connect(&instrumentsWindow_, &InstrumentsWindow::instrumentChosen, this,
             &Desktop::selectInstrument);
     connect(&instrumentsWindow_, &InstrumentsWindow::refused, this, &Desktop::showError);
+}
+
+void Desktop::connectTunings()
+{
+    connect(&workspace_.tuningPanel(), &TuningPanel::openRequested, &tuningFiles_,
+            &TuningFiles::ask);
+    connect(&workspace_.tuningStudio(), &TuningStudio::saveRequested, &tuningFiles_,
+            [this](const QString& description) {
+                tuningFiles_.save(workspace_.tuningStudio(), description);
+            });
+    connect(&tuningFiles_, &TuningFiles::chosen, this, &Desktop::open);
+    connect(&tuningFiles_, &TuningFiles::opened, &shell_, &ShellActions::addRecent);
+    connect(&tuningFiles_, &TuningFiles::failed, this, &Desktop::showError);
 }
 
 void Desktop::connectProgress()
@@ -236,7 +250,7 @@ void Desktop::openFile(const QString& path)
     const auto tuning = tuningFormatOf(file);
     const auto instrument = instrumentFormatOf(file);
     if (tuning)
-        openTuning(path, *tuning);
+        tuningFiles_.open(path, *tuning);
     else if (isMappingFile(file))
         openMapping(path);
     else if (instrument)
@@ -249,19 +263,6 @@ void Desktop::openFile(const QString& path)
         showError(tr("%1: unrecognised file type. Velmora recognises files by their extensions, "
                      "such as .mid, .scl or .sf2.")
                       .arg(displayName(file)));
-}
-
-void Desktop::openTuning(const QString& path, TuningFormat format)
-{
-    auto tuning = std::make_unique<TuningDocument>();
-    if (!tuning->read(pathOf(path), format, application_.playing().reading())) {
-        showError(translated(tuning->errorString()));
-        return;
-    }
-    const std::string name = tuning->name();
-    application_.tunings().put(std::move(tuning));
-    application_.tunings().select(name);
-    shell_.addRecent(path);
 }
 
 void Desktop::openMapping(const QString& path)

@@ -19,6 +19,7 @@
 #include "desktop/shell/SessionKeeper.h"
 #include "desktop/shell/ShellActions.h"
 #include "desktop/shell/TuningExports.h"
+#include "desktop/shell/TuningFiles.h"
 #include "desktop/shell/Workspace.h"
 #include "desktop/widgets/Commands.h"
 
@@ -62,14 +63,13 @@ public:
 private:
     void connectCommands();
     void connectWindows();
+    void connectTunings();
     void connectProgress();
     void connectPieces();
     void connectStartPage();
     void showPiece();
     void openWaiting();
     void openFile(const QString& path);
-    void openTuning(const QString& path, TuningFormat format);
-
     /// Plays the current tuning on the keys of a keyboard mapping.
     void openMapping(const QString& path);
     void openInstrument(const QString& path, InstrumentFormat format);
@@ -98,6 +98,7 @@ private:
     PreferencesWindow preferencesWindow_{application_, commands_};
     ProgressWindow progressWindow_;
     InstrumentOpener opener_{application_, progressWindow_};
+    TuningFiles tuningFiles_{application_};
     GuideWindow guideWindow_;
     MetersWindow metersWindow_;
     SequencePages pages_{application_, shell_, sequenceActions_, workspace_.tabs(),

@@ -115,6 +115,10 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
       console(commands.add("view.console", viewGroup(),
                            {tr("&Console"), tr("Show the stops of the organ"), "instrument"},
                            {Qt::CTRL | Qt::SHIFT | Qt::Key_C})),
+      tuningStudio(commands.add("view.tuningStudio", viewGroup(),
+                                {tr("S&hape the Tuning"),
+                                 tr("Show the circle of fifths, and shape the tuning"), "tuning"},
+                                {Qt::CTRL | Qt::SHIFT | Qt::Key_T})),
       playLayout(commands.add("view.play", viewGroup(),
                               {tr("&Play"), tr("Arrange the window for playing"), nullptr},
                               {Qt::ALT | Qt::Key_1})),
@@ -156,8 +160,8 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
     auto* layouts = new QActionGroup(this);
     for (QAction* action : {playLayout, editLayout, stageLayout})
         layouts->addAction(action);
-    for (QAction* action : {keyboard, instrument, tuning, console, playLayout, editLayout,
-                            stageLayout, ownWindow, noteNames})
+    for (QAction* action : {keyboard, instrument, tuning, console, tuningStudio, playLayout,
+                            editLayout, stageLayout, ownWindow, noteNames})
         action->setCheckable(true);
     for (QAction* action : {save, saveAs, exportAudio, exportMidi, close, ownWindow})
         action->setEnabled(false); // until there is a piece
@@ -199,7 +203,8 @@ void ShellActions::addSound(QMenuBar& bar) const
 
 void ShellActions::addPanels(QMenu& view) const
 {
-    view.addActions({keyboard, instrument, tuning, console, nextPanel, previousPanel});
+    view.addActions(
+        {keyboard, instrument, tuning, tuningStudio, console, nextPanel, previousPanel});
     view.addSeparator();
     view.addActions({playLayout, editLayout, stageLayout, resetLayout});
     view.addSeparator();

@@ -13,6 +13,7 @@
 #include "desktop/shell/StartPage.h"
 #include "desktop/shell/StatusLine.h"
 #include "desktop/tuning/TuningPanel.h"
+#include "desktop/tuning/TuningStudio.h"
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/LearnMenu.h"
@@ -24,6 +25,7 @@
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -36,7 +38,7 @@ namespace velmora {
 namespace {
 
 /// Counts up when stored arrangements would no longer fit.
-constexpr int kLayoutVersion = 2;
+constexpr int kLayoutVersion = 3;
 constexpr const char* kLayoutKey = "layout";
 
 /// The first sizes of the panels in pixels.
@@ -63,9 +65,9 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     : application_(application), shell_(shell),
       keyboard_(new KeyboardView(application, application.player().liveKeys())),
       instrument_(new InstrumentPanel(application)), tuning_(new TuningPanel(application)),
-      console_(new ConsolePanel(application, console)), status_(new StatusLine(application)),
-      transport_(new TransportBar(actions, application)), startPage_(new StartPage),
-      tabs_(new QTabWidget), centre_(new QStackedWidget)
+      studio_(new TuningStudio(application)), console_(new ConsolePanel(application, console)),
+      status_(new StatusLine(application)), transport_(new TransportBar(actions, application)),
+      startPage_(new StartPage), tabs_(new QTabWidget), centre_(new QStackedWidget)
 {
     setWindowTitle(tr("Velmora"));
     setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the transport
@@ -91,9 +93,11 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     keyboardDock_ = addPanel("keyboard", tr("Keyboard"), keyboardPanel, *shell.keyboard);
     instrumentDock_ = addPanel("instrument", tr("Instrument"), instrument_, *shell.instrument);
     tuningDock_ = addPanel("tuning", tr("Tuning"), tuning_, *shell.tuning);
+    studioDock_ = addPanel("tuningStudio", tr("Tuning Studio"), studio_, *shell.tuningStudio);
     consoleDock_ = addPanel("console", tr("Console"), console_, *shell.console);
     addHelpButton(*keyboardDock_, "playing");
     addHelpButton(*consoleDock_, "the-console");
+    addHelpButton(*studioDock_, "the-tuning-studio");
     makeMenus(actions, console);
     makeTransport();
     for (const Commands::Command& command : commands.all())
@@ -169,6 +173,8 @@ void Workspace::connectCommands()
     arranges(shell_.editLayout, Layout::Edit);
     arranges(shell_.stageLayout, Layout::Stage);
     connect(shell_.resetLayout, &QAction::triggered, this, &Workspace::arrange);
+    connect(tuning_, &TuningPanel::shapeRequested, this, [this] { showPanel(*studioDock_); });
+    connect(studio_, &TuningStudio::keysRated, keyboard_, &KeyboardView::setPurities);
     connect(console_, &ConsolePanel::neededChanged, this, &Workspace::showConsole);
     connect(shell_.nextPanel, &QAction::triggered, this, [this] { movePanelFocus(1); });
     connect(shell_.previousPanel, &QAction::triggered, this, [this] { movePanelFocus(-1); });
@@ -229,17 +235,21 @@ void Workspace::restoreLayout()
 
 void Workspace::arrange()
 {
-    for (QDockWidget* dock : {keyboardDock_, instrumentDock_, tuningDock_, consoleDock_}) {
+    for (QDockWidget* dock :
+         {keyboardDock_, instrumentDock_, tuningDock_, studioDock_, consoleDock_}) {
         dock->setFloating(false);
         removeDockWidget(dock);
     }
     addDockWidget(Qt::LeftDockWidgetArea, instrumentDock_);
     addDockWidget(Qt::RightDockWidgetArea, tuningDock_);
+    addDockWidget(Qt::RightDockWidgetArea, studioDock_);
+    tabifyDockWidget(tuningDock_, studioDock_);
     addDockWidget(Qt::BottomDockWidgetArea, keyboardDock_);
     addDockWidget(Qt::TopDockWidgetArea, consoleDock_);
     keyboardDock_->show();
     instrumentDock_->setVisible(layout_ != Layout::Edit);
     tuningDock_->setVisible(layout_ != Layout::Edit);
+    studioDock_->hide();
     showConsole();
     constexpr std::array kHeights = {kKeyboardHeight, kEditKeyboardHeight, kStageKeyboardHeight};
     const double type = layout_ == Layout::Stage ? kStageType : 1.0;
@@ -295,7 +305,8 @@ void Workspace::movePanelFocus(int direction)
     std::vector<QWidget*> stops;
     if (QWidget* centre = centre_->currentWidget(); centre->isVisible())
         stops.push_back(centre);
-    for (QDockWidget* dock : {instrumentDock_, consoleDock_, keyboardDock_, tuningDock_})
+    for (QDockWidget* dock :
+         {instrumentDock_, consoleDock_, keyboardDock_, tuningDock_, studioDock_})
         if (dock->isVisible())
             stops.push_back(dock);
     const auto here = std::ranges::find_if(
@@ -315,6 +326,13 @@ void Workspace::closeEvent(QCloseEvent* event)
 {
     event->ignore(); // the user may cancel
     shell_.quit->trigger();
+}
+
+void Workspace::childEvent(QChildEvent* event)
+{
+    QMainWindow::childEvent(event);
+    if (auto* bar = qobject_cast<QTabBar*>(event->child()); bar != nullptr && event->polished())
+        bar->setAccessibleName(tr("Panels"));
 }
 
 void Workspace::showEvent(QShowEvent* event)

@@ -24,6 +24,7 @@ class StartPage;
 class StatusLine;
 class TransportBar;
 class TuningPanel;
+class TuningStudio;
 
 /// The main window: the open pieces as tabs, around them the panels, which can be moved, floated
 /// and hidden, and the transport, the menus and the status line. It has three layouts, each of
@@ -41,6 +42,7 @@ public:
     KeyboardView& keyboard() { return *keyboard_; }
     InstrumentPanel& instrumentPanel() { return *instrument_; }
     TuningPanel& tuningPanel() { return *tuning_; }
+    TuningStudio& tuningStudio() { return *studio_; }
     ConsolePanel& consolePanel() { return *console_; }
     StartPage& startPage() { return *startPage_; }
     StatusLine& status() { return *status_; }
@@ -68,6 +70,9 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
+    /// Names the bar of panels that lie on each other.
+    void childEvent(QChildEvent* event) override;
+
 private:
     QDockWidget* addPanel(const char* name, const QString& title, QWidget* panel, QAction& toggle);
     void makeMenus(const SequenceActions& actions, ConsoleActions& console);
@@ -90,13 +95,14 @@ private:
     KeyboardView* keyboard_;
     InstrumentPanel* instrument_;
     TuningPanel* tuning_;
+    TuningStudio* studio_;
     ConsolePanel* console_;
     StatusLine* status_;
     TransportBar* transport_;
     StartPage* startPage_;
     QTabWidget* tabs_;
     QStackedWidget* centre_; ///< The start page, the tabs, or what is shown on stage.
-    QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_, *consoleDock_;
+    QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_, *studioDock_, *consoleDock_;
     bool wasShown_ = false;
 };
 

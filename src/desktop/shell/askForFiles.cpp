@@ -43,6 +43,18 @@ QStringList askForFiles(QWidget* parent)
     return paths;
 }
 
+QStringList askForTunings(QWidget* parent, const std::function<void(const QString&)>& highlighted)
+{
+    QFileDialog dialog(parent, Opening::tr("Open Tuning"), dialogFolder(kFolderKey),
+                       Opening::tr("Tunings (%1);;All files (*)").arg(kTunings));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    QObject::connect(&dialog, &QFileDialog::currentChanged, highlighted);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    rememberFolderOf(dialog.selectedFiles().value(0));
+    return dialog.selectedFiles();
+}
+
 QString askForSession(QWidget* parent)
 {
     QString path =
@@ -57,6 +69,15 @@ QString askWhereToSaveSession(QWidget& parent)
     return askWhereToSave(parent, {.title = Opening::tr("Save Session"),
                                    .kinds = {{Opening::tr("Session"), {"velmora"}}},
                                    .proposal = Opening::tr("Session") + ".velmora",
+                                   .folderKey = "saveFolder"});
+}
+
+QString askWhereToSaveTuning(QWidget& parent, const QString& name)
+{
+    const QString base = name.endsWith(".scl") ? name.chopped(4) : name;
+    return askWhereToSave(parent, {.title = Opening::tr("Save Tuning"),
+                                   .kinds = {{Opening::tr("Scale"), {"scl"}}},
+                                   .proposal = base + ".scl",
                                    .folderKey = "saveFolder"});
 }
 

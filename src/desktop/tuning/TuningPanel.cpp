@@ -45,8 +45,13 @@ TuningPanel::TuningPanel(AppDelegate& application, QWidget* parent)
     pitches_->setToolTip(tr("The pitches of middle C and of the A above it in this tuning"));
     pitches_->setWordWrap(true);
 
+    auto* shapeButton = new QPushButton(tr("Shape…"));
+    shapeButton->setToolTip(tr("Show the circle of fifths and what sounds, and shape the tuning"));
+    shapeButton->setFocusPolicy(Qt::TabFocus);
+
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(openButton, 1);
+    buttons->addWidget(shapeButton);
     buttons->addWidget(new HelpButton("tunings", *this));
     auto* content = new QWidget;
     auto* column = new QVBoxLayout(content);
@@ -59,6 +64,7 @@ TuningPanel::TuningPanel(AppDelegate& application, QWidget* parent)
     layout->addWidget(newScrollArea(content));
 
     connect(openButton, &QPushButton::clicked, this, &TuningPanel::openRequested);
+    connect(shapeButton, &QPushButton::clicked, this, &TuningPanel::shapeRequested);
     // Queued, because choosing a tuning can fill the list again.
     connect(list_, &GroupedList::chosen, this, &TuningPanel::select, Qt::QueuedConnection);
     connect(strip_, &TuningStrip::changed, this, &TuningPanel::showPitches);

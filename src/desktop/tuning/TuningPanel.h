@@ -28,6 +28,9 @@ signals:
     /// The user wants to open a tuning.
     void openRequested();
 
+    /// The user wants to see and shape the current tuning.
+    void shapeRequested();
+
 private:
     void showTunings();
     void markCurrent();

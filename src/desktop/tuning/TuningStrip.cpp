@@ -1,13 +1,13 @@
 #include "desktop/tuning/TuningStrip.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/tuning/intervalText.h"
 #include "desktop/widgets/noteNames.h"
 #include "sound/keys.h"
 #include "tuning/keyName.h"
 #include "tuning/spelling.h"
 
 #include <QEvent>
-#include <QLocale>
 #include <QPainter>
 
 #include <algorithm>
@@ -45,14 +45,6 @@ QFont smallFont(const QWidget& widget)
     QFont font = widget.font();
     font.setPointSizeF(font.pointSizeF() * kSmallScale);
     return font;
-}
-
-QString centsText(double cents)
-{
-    const double shown = std::round(cents * 10) / 10;
-    const QLocale locale;
-    const QString sign = shown > 0 ? locale.positiveSign() : shown < 0 ? "−" : "";
-    return sign + locale.toString(std::abs(shown), 'f', shown == 0 ? 0 : 1);
 }
 
 } // namespace

@@ -1,0 +1,98 @@
+#include "desktop/tuning/Circle.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace velmora {
+
+namespace {
+
+constexpr JustInterval kFifth{3, 2}, kMajorThird{5, 4}, kOctave{2, 1};
+constexpr unsigned kMiddleKey = 60;
+
+/// The rings as parts of the greatest radius.
+constexpr double kNoteRing = 0.74, kFifthRing = 0.92, kThirdRing = 0.46;
+constexpr double kLargestNote = 20.0;
+
+double centsBetween(double low, double high)
+{
+    return 1200.0 * std::log2(high / low);
+}
+
+} // namespace
+
+Circle::Circle(const TuningMoment& moment, int octave) : isOfFifths(moment.repeatsEveryOctave)
+{
+    const auto& hertz = moment.hertz;
+    if (isOfFifths) {
+        const auto first = static_cast<unsigned>(12 * (octave + 1));
+        const auto names = toneNames(moment);
+        for (unsigned step = 0; step < 12; ++step) {
+            const unsigned tone = 7 * step % 12, key = first + tone;
+            CircleNote note{key,   names[tone], centsBetween(hertz[first], hertz[key]),
+                            false, {},          {}};
+            for (unsigned each = tone; each < kKeys; each += 12)
+                note.sounds = note.sounds || moment.sounding[each];
+            note.fifth = hearAs(kFifth, hertz[key], hertz[key + 7]);
+            note.third = hearAs(kMajorThird, hertz[key], hertz[key + 4]);
+            notes.push_back(std::move(note));
+        }
+        return;
+    }
+    // The scale may have any period; an octave of it shows how its degrees lie.
+    for (unsigned key = kMiddleKey; key < kKeys && hertz[kMiddleKey] > 0.0; ++key) {
+        if (hertz[key] <= 0.0)
+            continue;
+        const double cents = centsBetween(hertz[kMiddleKey], hertz[key]);
+        if (key > kMiddleKey && cents > kOctave.cents() - 1.0)
+            break;
+        const double raised = std::exp2(octave - 4);
+        CircleNote note{key, std::to_string(key - kMiddleKey), cents, moment.sounding[key], {}, {}};
+        note.fifth = hear(hertz[kMiddleKey] * raised, hertz[key] * raised);
+        notes.push_back(std::move(note));
+    }
+}
+
+CircleGeometry::CircleGeometry(QSizeF view, std::size_t notes)
+    : notes_(std::max<std::size_t>(notes, 1)), centre_(view.width() / 2, view.height() / 2)
+{
+    const double greatest = std::min(view.width(), view.height()) / 2;
+    ring_ = kNoteRing * greatest;
+    noteRadius_ = std::min(
+        {kLargestNote, greatest / 8, std::numbers::pi * ring_ / static_cast<double>(notes_)});
+}
+
+QPointF CircleGeometry::fifth(std::size_t position) const
+{
+    return at(static_cast<double>(position) + 0.5, ring_ / kNoteRing * kFifthRing);
+}
+
+QPointF CircleGeometry::third(std::size_t position) const
+{
+    return at(static_cast<double>(position), ring_ / kNoteRing * kThirdRing);
+}
+
+std::optional<std::size_t> CircleGeometry::noteAt(QPointF point) const
+{
+    for (std::size_t i = 0; i < notes_; ++i) {
+        const QPointF away = point - note(i);
+        if (std::hypot(away.x(), away.y()) <= noteRadius_)
+            return i;
+    }
+    return std::nullopt;
+}
+
+double CircleGeometry::distance(QPointF point) const
+{
+    const QPointF away = point - centre_;
+    return std::hypot(away.x(), away.y());
+}
+
+QPointF CircleGeometry::at(double position, double radius) const
+{
+    const double angle = 2 * std::numbers::pi * position / static_cast<double>(notes_);
+    return centre_ + QPointF(std::sin(angle), -std::cos(angle)) * radius;
+}
+
+} // namespace velmora
