@@ -50,8 +50,9 @@ SequencePages::SequencePages(AppDelegate& application, ShellActions& shell,
             [this] { setCurrent(static_cast<SequencePage*>(tabs_.currentWidget())); });
     connect(&tabs_, &QTabWidget::tabCloseRequested, this,
             [this](int index) { close(*static_cast<SequencePage*>(tabs_.widget(index))); });
-    connect(qApp, &QGuiApplication::commitDataRequest, this, &SequencePages::answerLogout,
-            Qt::DirectConnection);
+    connect(
+        qApp, &QGuiApplication::commitDataRequest, this,
+        [this](QSessionManager& manager) { answerLogout(manager); }, Qt::DirectConnection);
     connect(qApp, &QApplication::focusWindowChanged, this, [this] {
         const QWidget* active = QApplication::activeWindow();
         for (SequencePage* page : pages_)
@@ -178,16 +179,6 @@ bool SequencePages::close(SequencePage& page)
         return false;
     remove(page);
     return true;
-}
-
-void SequencePages::answerLogout(QSessionManager& manager)
-{
-    if (!manager.allowsInteraction())
-        return; // unsaved changes are kept for recovery
-    if (askToCloseAll())
-        manager.release();
-    else
-        manager.cancel();
 }
 
 bool SequencePages::askToCloseAll()

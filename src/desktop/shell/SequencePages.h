@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-class QSessionManager;
 class QTabWidget;
 
 namespace velmora {
@@ -58,6 +57,19 @@ public:
     /// Asks for each page what to do with its unsaved changes. Returns false if the user cancels.
     bool askToCloseAll();
 
+    /// Asks like `askToCloseAll` before the user's session ends, and keeps the session if the user
+    /// cancels. Asks nothing if the manager, a `QSessionManager`, does not let it: unsaved changes
+    /// are then kept for recovery.
+    template <class SessionManager> void answerLogout(SessionManager& manager)
+    {
+        if (!manager.allowsInteraction())
+            return;
+        if (askToCloseAll())
+            manager.release();
+        else
+            manager.cancel();
+    }
+
     /// Asks like `askToCloseAll`, then closes all pages. Returns false if the user cancels; then
     /// all of them stay open.
     bool closeAll();
@@ -97,7 +109,6 @@ private:
     void show(SequencePage& page);
     void showTitle(SequencePage& page);
     void setCurrent(SequencePage* page);
-    void answerLogout(QSessionManager& manager);
     void remove(SequencePage& page);
     QString unusedName();
     bool eventFilter(QObject* watched, QEvent* event) override;

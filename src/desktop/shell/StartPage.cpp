@@ -25,6 +25,11 @@ constexpr int kMargin = 20;
 /// A card is at least as wide as this many letters.
 constexpr int kCardLetters = 26;
 
+/// Below a console, fewer lines of text than this are left for the page.
+constexpr int kLowLines = 14;
+
+constexpr const char* kExplanation = "explanation"; ///< What a low page leaves out.
+
 QLabel* makeText(const QString& text)
 {
     auto* label = new QLabel(text);
@@ -63,7 +68,9 @@ QWidget* makeCard(const QString& title, const QString& text, const QList<QPushBu
     card->setAccessibleDescription(text);
     auto* layout = new QVBoxLayout(card);
     layout->addWidget(makeHeading(title, 1.15));
-    layout->addWidget(makeText(text), 1, Qt::AlignTop);
+    QLabel* explanation = makeText(text);
+    explanation->setObjectName(kExplanation);
+    layout->addWidget(explanation, 1, Qt::AlignTop);
     auto* row = new QHBoxLayout;
     for (QPushButton* button : buttons)
         row->addWidget(button);
@@ -99,13 +106,18 @@ StartPage::StartPage(QWidget* parent) : QScrollArea(parent)
     QPushButton* guide = makeButton(tr("User Guide"), tr("Open the user guide"));
     guide->setIcon(icon("help"));
     connect(guide, &QPushButton::clicked, this, &StartPage::guideRequested);
-    auto* top = new QHBoxLayout;
+    auto* welcome = new QWidget;
+    welcome->setObjectName(kExplanation);
+    auto* top = new QHBoxLayout(welcome);
+    top->setContentsMargins(0, 0, 0, 0);
     top->addWidget(makeHeading(tr("What would you like to do?"), 1.4), 1);
     top->addWidget(guide, 0, Qt::AlignTop);
-    layout->addLayout(top);
+    layout->addWidget(welcome);
     if (!preference(kWelcomedKey).toBool()) {
-        layout->addWidget(makeText(tr("Welcome to Velmora! Each card does something at once, and "
-                                      "nothing can break.")));
+        QLabel* greeting = makeText(tr("Welcome to Velmora! Each card does something at once, and "
+                                       "nothing can break."));
+        greeting->setObjectName(kExplanation);
+        layout->addWidget(greeting);
         setPreference(kWelcomedKey, true);
     }
 
@@ -227,6 +239,12 @@ void StartPage::showRecentFiles()
 
 void StartPage::arrangeCards()
 {
+    const bool isLow = viewport()->height() < kLowLines * fontMetrics().height();
+    for (auto* explanation : widget()->findChildren<QWidget*>(kExplanation))
+        explanation->setHidden(isLow);
+    for (QWidget* card : cards_)
+        static_cast<QBoxLayout*>(card->layout())
+            ->setDirection(isLow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     const int width = viewport()->width() - 2 * kMargin;
     const int cardWidth = fontMetrics().averageCharWidth() * kCardLetters;
     const int columns = width >= 4 * cardWidth ? 4 : width >= 2 * cardWidth ? 2 : 1;

@@ -40,6 +40,8 @@ private:
     QWidget* makeRecordCard();
     void addFile(QVBoxLayout& list, const QString& path, const QString& text);
     void addExamples(QVBoxLayout& list);
+
+    /// Places as many cards side by side as fit, without their explanations if the page is low.
     void arrangeCards();
 
     QList<QWidget*> cards_;

@@ -16,6 +16,20 @@ using testing::StartsWith;
 
 using SequenceSaverTest = PiecesTest;
 
+namespace {
+
+/// A session manager that notes what it is told.
+struct LogoutManager {
+    bool mayAsk = true;
+    std::vector<std::string> told{};
+
+    bool allowsInteraction() const { return mayAsk; }
+    void release() { told.emplace_back("release"); }
+    void cancel() { told.emplace_back("cancel"); }
+};
+
+} // namespace
+
 TEST_F(SequenceSaverTest, AsksBeforeItLosesChanges)
 {
     SequencePage& window = open();
@@ -53,6 +67,22 @@ TEST_F(SequenceSaverTest, AsksBeforeItLosesChanges)
     answering({"Discard", "Discard"}, [&] { EXPECT_TRUE(desktop.pages().closeAll()); });
     EXPECT_EQ(keyboard.document(), nullptr) << "a window opened meanwhile is closed too";
     EXPECT_EQ(open().windowTitle(), "Untitled 4[*]") << "files do not use up names";
+}
+
+TEST_F(SequenceSaverTest, LosesNothingWhenTheUserLogsOut)
+{
+    SequencePage& page = open();
+    draw(page);
+    const auto logOut = [&](const std::vector<QString>& answers, bool mayAsk) {
+        LogoutManager manager{mayAsk};
+        answering(answers, [&] { desktop.pages().answerLogout(manager); });
+        return manager.told;
+    };
+    EXPECT_THAT(logOut({"Cancel"}, true), ElementsAre("cancel"));
+    EXPECT_THAT(logOut({"Discard"}, true), ElementsAre("release"));
+    EXPECT_THAT(logOut({}, false), ElementsAre()) << "nobody can be asked";
+    EXPECT_THAT(desktop.pages().all(), ElementsAre(&page)) << "the session may go on after all";
+    answering({"Discard"}, [&] { EXPECT_TRUE(closes(page)) << "its changes are kept"; });
 }
 
 TEST_F(SequenceSaverTest, SavesAndExportsUnderTheChosenNames)

@@ -60,6 +60,20 @@ TEST(StartPage, SoundsAChordInTheChosenTuning)
     EXPECT_THAT(calls, ElementsAre("stop 48", "stop 55", "stop 64", "stop 72"));
 }
 
+TEST(StartPage, ShowsEveryCardEvenBelowAConsole)
+{
+    StartPage page;
+    page.show();
+    for (const int height : {600, 160}) {
+        page.resize(620, height);
+        QApplication::processEvents();
+        QPushButton& last = named(page, "Record a new sequence");
+        const QRect place(last.mapTo(page.viewport(), QPoint()), last.size());
+        EXPECT_TRUE(page.viewport()->rect().contains(place)) << height;
+        EXPECT_EQ(named(page, "Open the user guide").isVisible(), height == 600);
+    }
+}
+
 TEST(StartPage, OpensExamplesAndTheRecentFilesThatExist)
 {
     QTemporaryDir folder;
