@@ -15,7 +15,7 @@ namespace velmora {
 namespace {
 
 constexpr int kReadingMilliseconds = 500;
-constexpr int kTextWidth = 460;
+constexpr int kTextLetters = 66; ///< The room for a reading, in letters. Longer ones are wrapped.
 
 QLabel* newLabel()
 {
@@ -64,7 +64,8 @@ void MetersWindow::update()
         lines_->removeRow(count);
     while (lines_->rowCount() < count) {
         QLabel* text = newLabel();
-        text->setMinimumWidth(kTextWidth);
+        text->setWordWrap(true);
+        text->setMinimumWidth(kTextLetters * fontMetrics().averageCharWidth());
         lines_->addRow(newLabel(), text);
     }
     const auto show = [&](int row, QFormLayout::ItemRole role, const QString& text) {

@@ -193,10 +193,16 @@ void Workspace::setLayout(Layout layout)
     const bool wasStage = layout_ == Layout::Stage;
     layout_ = layout;
     restoreLayout();
-    const QKeySequence key = shell_.stageLayout->shortcut();
     if (wasStage)
         status_->clearMessage();
-    else if (layout == Layout::Stage && !key.isEmpty()) // there is no menu that says so
+    else if (layout == Layout::Stage) // later, as the larger type shows what a message hides
+        QTimer::singleShot(0, this, &Workspace::showStageHint);
+}
+
+void Workspace::showStageHint()
+{
+    const QKeySequence key = shell_.stageLayout->shortcut();
+    if (layout_ == Layout::Stage && !key.isEmpty()) // there is no menu that says so
         status_->showMessage(tr("%1 leaves the stage").arg(key.toString(QKeySequence::NativeText)),
                              kHintMilliseconds);
 }

@@ -84,6 +84,7 @@ private:
     /// Arranges the panels as they are at first.
     void arrange();
     void showStage(bool isStage);
+    void showStageHint();
     void showCentre();
     void showConsole();
     void showPanel(QDockWidget& dock);

@@ -66,10 +66,12 @@ TEST(StartPage, ShowsEveryCardEvenBelowAConsole)
     page.show();
     for (const int height : {600, 160}) {
         page.resize(620, height);
-        QApplication::processEvents();
-        QPushButton& last = named(page, "Record a new sequence");
-        const QRect place(last.mapTo(page.viewport(), QPoint()), last.size());
-        EXPECT_TRUE(page.viewport()->rect().contains(place)) << height;
+        const QPushButton& last = named(page, "Record a new sequence");
+        const auto isInReach = [&] {
+            const QRect place(last.mapTo(page.viewport(), QPoint()), last.size());
+            return page.viewport()->rect().contains(place);
+        };
+        EXPECT_TRUE(QTest::qWaitFor(isInReach)) << height;
         EXPECT_EQ(named(page, "Open the user guide").isVisible(), height == 600);
     }
 }

@@ -16,6 +16,7 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTimer>
+#include <QToolButton>
 #include <QtTest>
 #include <gtest/gtest.h>
 
@@ -73,6 +74,11 @@ TEST_F(WorkspaceTest, TheStageFillsTheScreenAndShowsNoDialogs)
     QTest::keyClick(&workspace, Qt::Key_F11);
     EXPECT_TRUE(workspace.isFullScreen());
     EXPECT_FALSE(workspace.menuBar()->isVisible());
+    const auto isHinting = [&] { return !workspace.status().currentMessage().isEmpty(); };
+    EXPECT_TRUE(QTest::qWaitFor(isHinting));
+    QApplication::processEvents();
+    for (const QToolButton* item : workspace.status().findChildren<QToolButton*>())
+        EXPECT_FALSE(item->isVisible()) << "nothing covers the hint";
     bool hadDialog = false;
     QTimer::singleShot(0, [&] {
         if (QWidget* dialog = QApplication::activeModalWidget()) {
