@@ -5,6 +5,8 @@
 #include "sequencer/SequenceTime.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -18,6 +20,9 @@ constexpr int kTicksPlanned = 256;
 /// The delay of planned notes in seconds. It ensures that the position is past everything that has
 /// sounded, whatever the rounding.
 constexpr double kBehindPosition = 1e-6;
+
+/// How far the step of an action in a loop is past its note, so that the note is not played again.
+constexpr double kPastAction = 1e-9;
 
 /// The channel of a note as a file has it, which has four bits.
 int channelOf(const Note& note)
@@ -43,10 +48,10 @@ bool endsBetween(const Note& note, double from, double to)
 
 std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double to)
 {
-    const auto soundedTo = std::exchange(soundedTo_, std::nullopt);
-    const bool sounds = !isPlanned_ && !soundedTo;
-    if (soundedTo) {
-        collect(*soundedTo, to, 0.0);
+    const bool sounds = !isPlanned_ && !soundedTo_;
+    if (soundedTo_) {
+        actions_.clear();
+        collect(std::max(*soundedTo_ - ahead_, passStart_), to, 0.0);
         for (const KeyAction& action : actions_)
             perform(host_, action);
         actions_.clear();
@@ -92,7 +97,7 @@ void SequencePlayback::collect(double from, double to, double time)
 void SequencePlayback::playAhead(AheadPlayer* player)
 {
     cancelPlan();
-    soundedTo_.reset();
+    finishPlan();
     player_ = player;
 }
 
@@ -116,6 +121,77 @@ void SequencePlayback::planAhead(double step, double time, double stepsPerSecond
     player_->plan(actions_);
 }
 
+// See docs/decisions.md, 188.
+void SequencePlayback::planLoop(double step, double time, double stepsPerSecond, double start,
+                                double end)
+{
+    if (player_ == nullptr || isPlanned_)
+        return;
+    isPlanned_ = true;
+    planStart_ = step;
+    replanTime_ = time + kTick.count() * kTicksPlanned / 2;
+    actions_.clear();
+    const double last = step + stepsPerSecond * kTick.count() * kTicksPlanned;
+    double ahead = 0.0; // of the loop's steps
+    for (double from = step; from + ahead < last;) {
+        const double to = std::min(end, last - ahead);
+        planPass(from, to, time - (step - ahead) / stepsPerSecond, stepsPerSecond, ahead);
+        if (to < end)
+            break;
+        const double turn = end + ahead;
+        for (const std::uint32_t key : index().keys())
+            actions_.push_back({false, key, kEveryChannel, 0.0F,
+                                time + (turn - step) / stepsPerSecond + kBehindPosition,
+                                turn + kPastAction});
+        ahead += end - start;
+        from = start;
+    }
+    player_->plan(actions_);
+}
+
+/// Adds the notes between two steps, each at its own time. Step 0 is at `time`.
+void SequencePlayback::planPass(double from, double to, double time, double stepsPerSecond,
+                                double ahead)
+{
+    const auto begin = static_cast<std::ptrdiff_t>(actions_.size());
+    const auto add = [&](const Note& note, bool starts, double step) {
+        actions_.push_back({starts, note.key, channelOf(note), starts ? note.velocity : 0.0F,
+                            time + step / stepsPerSecond + kBehindPosition,
+                            step + ahead + kPastAction});
+    };
+    for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
+        const Note& note = sequence_.notes()[noteIndex];
+        if (startsBetween(note, from, to))
+            add(note, true, note.start);
+        if (endsBetween(note, from, to))
+            add(note, false, note.start + note.length);
+    }
+    std::stable_sort(std::next(actions_.begin(), begin), actions_.end(),
+                     [](const KeyAction& a, const KeyAction& b) { return a.time < b.time; });
+}
+
+void SequencePlayback::wrap(double start, double end)
+{
+    const bool sounds = !isPlanned_ && !(soundedTo_ && *soundedTo_ - ahead_ > end);
+    for (const std::uint32_t key : index().keys()) {
+        states[key] = 0;
+        if (sounds)
+            stopOnInstrument(key, kEveryChannel);
+    }
+    clearMarks();
+    ahead_ += end - start;
+    passStart_ = start;
+}
+
+void SequencePlayback::finishPlan()
+{
+    if (isPlanned_)
+        return;
+    soundedTo_.reset();
+    ahead_ = 0.0;
+    passStart_ = -std::numeric_limits<double>::infinity();
+}
+
 bool SequencePlayback::cancelPlan()
 {
     if (!std::exchange(isPlanned_, false))
@@ -135,11 +211,16 @@ void SequencePlayback::silence(Note& note)
 void SequencePlayback::silenceAll()
 {
     cancelPlan();
-    soundedTo_.reset();
+    finishPlan();
     for (const std::uint32_t key : index().keys()) {
         states[key] = 0;
         stopOnInstrument(key, kEveryChannel);
     }
+    clearMarks();
+}
+
+void SequencePlayback::clearMarks()
+{
     for (const std::uint32_t noteIndex : marked_)
         sequence_.at(noteIndex).playing = sequence_.at(noteIndex).active = false;
     marked_.clear();

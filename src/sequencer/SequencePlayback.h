@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -35,6 +36,16 @@ public:
     /// `end`. Until the plan is cancelled, `playBetween` only flags notes. Does nothing without a
     /// player, or if there is a plan.
     void planAhead(double step, double time, double stepsPerSecond, double end);
+
+    /// Does the same for a loop, at whose end the notes are planned from its start again.
+    void planLoop(double step, double time, double stepsPerSecond, double start, double end);
+
+    /// Flags the notes at the end of a loop as silent, and silences them unless the plan has done
+    /// so. `playBetween` goes on at the start.
+    void wrap(double start, double end);
+
+    /// Call this after `playBetween` has followed a plan that was cancelled.
+    void finishPlan();
 
     /// True if a new plan is due at `time`, because less than half of the current one is left.
     bool isPlanShort(double time) const { return isPlanned_ && time > replanTime_; }
@@ -65,6 +76,8 @@ public:
 private:
     void stopOnInstrument(std::uint32_t key, int channel);
     void collect(double from, double to, double time);
+    void planPass(double from, double to, double time, double stepsPerSecond, double ahead);
+    void clearMarks();
     SequenceIndex& index();
     bool isMarked(std::uint32_t noteIndex) const;
     void mark(std::uint32_t noteIndex);
@@ -81,7 +94,10 @@ private:
     double planStart_ = 0.0;          ///< In steps.
     double replanTime_ = 0.0;         ///< In seconds; infinite if the plan reaches the end.
     std::optional<double> soundedTo_; ///< The step up to which a cancelled plan was performed.
-    std::vector<KeyAction> actions_;  ///< The plan under construction.
+    double ahead_ = 0.0;              ///< How far the plan's steps have passed the loop's.
+    double passStart_ = -std::numeric_limits<double>::infinity(); ///< Where the present pass
+                                                                  ///< through the loop began.
+    std::vector<KeyAction> actions_;                              ///< The plan under construction.
 };
 
 } // namespace velmora

@@ -81,9 +81,31 @@ double Transport::endOfPlaying() const
     return interval_.isEmpty() ? extent_ : std::min(interval_.end, extent_);
 }
 
+std::optional<Interval> Transport::endlessLoop() const
+{
+    const Interval loop{interval_.isEmpty() ? 0.0 : interval_.start, endOfPlaying()};
+    const bool isLong = loop.end - loop.start > stepsPerSecond() * kTick.count();
+    // In the plain reading every pass is longer by the rest of a tick.
+    return loop_ && reading_ == Reading::Musical && isLong && position_ <= loop.end
+               ? std::optional(loop)
+               : std::nullopt;
+}
+
+double Transport::playPasses(double next)
+{
+    const auto loop = endlessLoop();
+    while (loop && next > loop->end) {
+        playback_.playBetween(position_, loop->end);
+        playback_.wrap(loop->start, loop->end);
+        position_ = loop->start;
+        next -= loop->end - loop->start;
+    }
+    return next;
+}
+
 void Transport::playUntil(double now)
 {
-    double next = positionAt(now);
+    double next = playPasses(positionAt(now));
     if (next <= endOfPlaying()) {
         if (const auto lastKey = playback_.playBetween(position_, next))
             // See docs/decisions.md, 91.
@@ -96,7 +118,12 @@ void Transport::playUntil(double now)
         if (!loop_)
             play();
     }
-    if (mode_ == Mode::Playing)
+    playback_.finishPlan();
+    if (mode_ != Mode::Playing)
+        return;
+    if (const auto loop = endlessLoop())
+        playback_.planLoop(next, now, stepsPerSecond(), loop->start, loop->end);
+    else
         playback_.planAhead(next, now, stepsPerSecond(), endOfPlaying());
 }
 
@@ -105,8 +132,10 @@ void Transport::settle()
     if (!playback_.cancelPlan())
         return;
     const double now = clock_();
-    const double next = std::max(position_, std::min(positionAt(now), endOfPlaying()));
+    const double later = playPasses(positionAt(now));
+    const double next = std::max(position_, std::min(later, endOfPlaying()));
     playback_.playBetween(position_, next);
+    playback_.finishPlan();
     position_ = next;
     lastTick_ = now;
 }
@@ -163,6 +192,7 @@ void Transport::setTempo(double tempo)
 
 void Transport::setLoop(bool loop)
 {
+    settle();
     loop_ = loop;
     emit optionsChanged();
 }

@@ -10,6 +10,7 @@
 #include <QObject>
 
 #include <functional>
+#include <optional>
 
 namespace velmora {
 
@@ -124,6 +125,13 @@ signals:
 private:
     double positionAt(double time) const;
     double endOfPlaying() const;
+
+    /// The part that is played again and again without a gap; nothing if there is none.
+    std::optional<Interval> endlessLoop() const;
+
+    /// Plays the passes of a loop that end before a position. Returns where it lies in the next.
+    double playPasses(double next);
+
     void playUntil(double now);
     void setMode(Mode mode);
 

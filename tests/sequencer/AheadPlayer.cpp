@@ -95,6 +95,36 @@ TEST_F(AheadPlayerTest, EndsEverySoundingNoteWhenStoppedOrEdited)
     EXPECT_GT(heard, 10) << "rounds with sound, even on a busy machine";
 }
 
+TEST_F(AheadPlayerTest, LoopsWithoutAGapWhileTheMainThreadIsBusy)
+{
+    SequenceDocument musical(*this, Reading::Musical, getTime);
+    const SequenceClock clock(musical.transport());
+    musical.edit()->addNote({.length = 1.0, .velocity = 1.0F, .key = 60});
+    musical.edit()->addNote({.start = 2.0, .length = 9.0, .velocity = 1.0F, .key = 64});
+    musical.edit()->sort();
+    musical.updateExtent();
+    musical.transport().selectInterval(0.0, 4.0); // a quarter of a second
+    musical.transport().setLoop(true);
+    std::vector<double> times;
+    onPlay_ = [&] {
+        if (playTime_ > 0.0 && playKey_ == 60)
+            times.push_back(playTime_);
+    };
+    musical.transport().play();
+    runFor(std::chrono::milliseconds(1700));
+    musical.transport().play();
+    onPlay_ = nullptr;
+    ASSERT_GE(times.size(), 5U);
+    const double passes = std::round((times.back() - times.front()) * 4.0);
+    EXPECT_NEAR(times.back() - times.front(), passes / 4.0, 0.0005);
+    Calls pass; // a note that lasts beyond the end of the loop ends with it
+    for (const std::string& call : calls_)
+        if (call.ends_with("64") || call.starts_with("play"))
+            pass.push_back(call.substr(0, 7));
+    EXPECT_EQ(Calls(pass.begin(), pass.begin() + 4),
+              (Calls{"play 60", "play 64", "stop 64", "play 60"}));
+}
+
 } // namespace
 
 } // namespace velmora

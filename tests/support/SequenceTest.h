@@ -20,8 +20,10 @@ using Calls = std::vector<std::string>;
 /// plain reading a second is 15 steps: see docs/decisions.md, 83.
 class SequenceTest : public testing::Test, public SequenceHost {
 protected:
-    void play(int key, float velocity, int /*channel*/, double /*time*/) override
+    void play(int key, float velocity, int /*channel*/, double time) override
     {
+        playTime_ = time;
+        playKey_ = key;
         called(fmt::format("play {} {:.2f}", key, velocity));
         if (onPlay_)
             onPlay_();
@@ -65,7 +67,9 @@ protected:
 
     Calls calls_;
     std::function<void()> onPlay_;
-    std::mutex lock_; ///< Guards `calls_`, which two threads write.
+    double playTime_ = 0.0; ///< For when the last note was meant.
+    int playKey_ = 0;       ///< The key of the last note.
+    std::mutex lock_;       ///< Guards `calls_`, which two threads write.
     LiveKeys liveKeys_;
     double now_ = 1000.0;
     SequenceDocument document_{*this, Reading::Plain, [this] { return now_; }};
