@@ -150,7 +150,7 @@ std::vector<FileNote> notesOf(const FileTrack& track)
         if (kind != midi::kNoteOn && kind != midi::kNoteOff)
             continue;
         const auto channel = static_cast<std::size_t>(event.status & midi::kChannelMask);
-        const auto key = static_cast<std::size_t>(event.data[0]);
+        const std::size_t key = static_cast<std::uint8_t>(event.data[0]);
         if (kind == midi::kNoteOn && event.data[1] != 0) {
             open.start(channel, key, static_cast<std::uint32_t>(notes.size()));
             notes.push_back({i, FileNote::kTrackEnd});

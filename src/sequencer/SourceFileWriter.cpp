@@ -122,8 +122,8 @@ bool SourceFileWriter::isUnchanged(const Note& note, const FileTrack& track,
     };
     return note.key == static_cast<std::uint32_t>(on.data[0]) &&
            note.channel % midi::kChannels == (on.status & midi::kChannelMask) &&
-           midiVelocity(note.velocity) == on.data[1] && isAt(note.start, on.tick) &&
-           isAt(note.start + note.length, endOf(fileNote, track));
+           midiVelocity(note.velocity) == static_cast<std::uint8_t>(on.data[1]) &&
+           isAt(note.start, on.tick) && isAt(note.start + note.length, endOf(fileNote, track));
 }
 
 std::size_t SourceFileWriter::trackFor(const Note& note) const
@@ -244,7 +244,7 @@ std::string SourceFileWriter::bytesOf(const std::vector<Event>& events, std::uin
 {
     MidiTrack track;
     OpenNotes<std::uint32_t> open;
-    std::array<std::uint32_t, 16 * 128> counts{}; // of the notes that are open
+    std::array<std::uint32_t, std::size_t{16} * 128> counts{}; // of the notes that are open
     for (const Event& event : events) {
         const int kind = event.status & midi::kKindMask;
         if (kind != midi::kNoteOn && kind != midi::kNoteOff) {
@@ -252,7 +252,7 @@ std::string SourceFileWriter::bytesOf(const std::vector<Event>& events, std::uin
             continue;
         }
         const auto channel = static_cast<std::size_t>(event.status & midi::kChannelMask);
-        const auto key = static_cast<std::size_t>(event.message[0]);
+        const std::size_t key = static_cast<std::uint8_t>(event.message[0]);
         std::uint32_t& count = counts[channelAndKey(event.status, event.message[0])];
         if (kind == midi::kNoteOn && event.message[1] != 0) {
             open.start(channel, key, event.note);
