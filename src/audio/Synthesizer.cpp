@@ -91,8 +91,8 @@ void Synthesizer::midiEvent(int status, int data1, int data2)
 
 void Synthesizer::keyOn(int key, int velocity, int sounding, double cents)
 {
-    const double correction = corrections_[static_cast<std::size_t>(sounding)];
-    send({due_, kKeyOn, key, velocity, cents, correction, sounding});
+    send({due_, kKeyOn, key, velocity, cents, corrections_.at(static_cast<std::size_t>(sounding)),
+          sounding});
 }
 
 void Synthesizer::keyOff(int key)
@@ -216,10 +216,8 @@ void Synthesizer::startKey(const Event& event)
     const auto idle = idleLaneFor(kKeyLane);
     const std::size_t lane =
         idle ? *idle : nearestLane(event.sounding, event.cents + event.correction);
-    if (idle) {
-        laneCents_[lane] = event.cents;
-        lanes_[lane]->setCents(event.cents, {});
-    }
+    if (idle)
+        lanes_[lane]->setCents(laneCents_[lane] = event.cents, {});
     // Beside other notes, it can only be raised by whole cents.
     const double above = event.cents - laneCents_[lane];
     noteStarted(event.data1, {lane, event.sounding, event.cents, std::round(above)},

@@ -55,7 +55,8 @@ std::optional<double> ScaleTemperament::centsAt(int key) const
         return std::nullopt;
     const double step =
         mapping_.octaveDegree == 0 ? scale_.period() : scale_.cents(mapping_.octaveDegree);
-    return scale_.cents(*degree) + (distance - index) / count * step;
+    const int repetitions = (distance - index) / count;
+    return scale_.cents(*degree) + repetitions * step;
 }
 
 void ScaleTemperament::findPitches()
@@ -95,15 +96,15 @@ bool ScaleTemperament::findRepetition() const
 void ScaleTemperament::appendTunings()
 {
     constexpr int kFirst = 60;
-    setBaseFrequency(pitchAt(kFirst) / 2.0);
+    setBaseFrequency(ScaleTemperament::pitchAt(kFirst) / 2.0);
     const bool isLinear = mapping_.degrees.empty() && mapping_.middleKey % kKeysOfOctave == 0 &&
                           scale_.pitches.size() == static_cast<std::size_t>(kKeysOfOctave);
     for (int i = 0; i < kKeysOfOctave; ++i) {
         if (isLinear && i > 0)
             appendPitch(scale_.pitches[static_cast<std::size_t>(i) - 1]);
         else
-            append(
-                std::make_unique<Cent>(1200.0 * std::log2(pitchAt(kFirst + i) / pitchAt(kFirst))));
+            append(std::make_unique<Cent>(1200.0 * std::log2(ScaleTemperament::pitchAt(kFirst + i) /
+                                                             ScaleTemperament::pitchAt(kFirst))));
     }
 }
 

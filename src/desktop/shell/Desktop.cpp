@@ -252,11 +252,11 @@ void Desktop::openFile(const QString& path)
     if (tuning)
         tuningFiles_.open(path, *tuning);
     else if (isMappingFile(file))
-        openMapping(path);
+        finishOpening(path, application_.tunings().setMapping(file));
     else if (instrument)
         openInstrument(path, *instrument);
     else if (sequenceFormatOf(file))
-        openSequence(path);
+        finishOpening(path, pages_.open(path));
     else if (lowerCase(file.extension().string()) == kSessionExtension)
         openSession(path);
     else
@@ -265,24 +265,14 @@ void Desktop::openFile(const QString& path)
                       .arg(displayName(file)));
 }
 
-void Desktop::openMapping(const QString& path)
-{
-    const std::string error = application_.tunings().setMapping(pathOf(path));
-    if (error.empty())
-        shell_.addRecent(path);
-    else
-        showError(translated(error));
-}
-
 void Desktop::openInstrument(const QString& path, InstrumentFormat format)
 {
     if (opener_.open(path, format))
         shell_.addRecent(path);
 }
 
-void Desktop::openSequence(const QString& path)
+void Desktop::finishOpening(const QString& path, const std::string& error)
 {
-    const std::string error = pages_.open(path);
     if (error.empty())
         shell_.addRecent(path);
     else

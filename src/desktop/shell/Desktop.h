@@ -70,12 +70,13 @@ private:
     void showPiece();
     void openWaiting();
     void openFile(const QString& path);
-    /// Plays the current tuning on the keys of a keyboard mapping.
-    void openMapping(const QString& path);
     void openInstrument(const QString& path, InstrumentFormat format);
     void rereadInstrument(std::size_t position, const ImportOptions& options);
     template <class Work> void readAgain(Work work);
-    void openSequence(const QString& path);
+
+    /// Remembers a file that was opened, or shows the error if there is one.
+    void finishOpening(const QString& path, const std::string& error);
+
     void openSession(const QString& path);
     void saveSession();
     void selectInstrument(std::size_t position);
