@@ -32,7 +32,7 @@ SourceFile::SourceFile(std::vector<std::byte> bytes, Sequence& sequence) : bytes
             Note note{.start = start, .length = length, .oldLength = length};
             note.velocity = static_cast<float>(on.data[1]) / 127.0F;
             note.channel = on.status & midi::kChannelMask;
-            note.key = note.oldKey = static_cast<std::uint32_t>(on.data[0]);
+            note.key = note.oldKey = static_cast<std::uint8_t>(on.data[0]);
             note.oldStart = start;
             note.origin = origin;
             sequence.addNote(note);
