@@ -52,15 +52,36 @@ struct Errors {
     }
 };
 
+/// The mean and the mean square of the drift, weighted by the time.
+struct Drifting {
+    double seconds = 0.0, sum = 0.0, squares = 0.0;
+
+    void add(double time, double cents)
+    {
+        seconds += time;
+        sum += time * cents;
+        squares += time * cents * cents;
+    }
+
+    double deviation() const
+    {
+        const double mean = sum / seconds;
+        return std::sqrt(std::max(squares / seconds - mean * mean, 0.0));
+    }
+};
+
 struct Score {
     Errors thirds, fifths;
+    Drifting drift;
     std::size_t notes = 0, asNotated = 0;
     double playingSeconds = 0.0; ///< The time that the temperament itself took.
 };
 
-/// Returns the place of a key's pitch on the chain of meantone fifths, if it has one.
+/// Returns the place of a key on the chain of fifths, if it has one in meantone.
 int placeOf(const Temperament& temperament, unsigned long key)
 {
+    if (const auto place = temperament.place(key))
+        return *place;
     const double cents = temperament.getTuning(key).cent();
     for (int place = -meantone::kFarthest; place <= meantone::kFarthest; ++place)
         if (std::abs(std::remainder(place * meantone::kFifth - cents, 1200.0)) < 1.0)
@@ -118,6 +139,8 @@ void play(const Piece& piece, Temperament& temperament, Score& score)
         const Note* note = event.note;
         if (time > last)
             addIntervals(sounding, temperament, time - last, score);
+        if (time > last && !sounding.empty())
+            score.drift.add(time - last, temperament.drift());
         last = time;
         const bool sounds = std::ranges::any_of(
             sounding, [&](const Note* one) { return one != note && one->key == note->key; });
@@ -164,11 +187,11 @@ void report(const std::string& name, const std::vector<Piece>& pieces,
         play(piece, *make(), score);
     const double events = 2.0 * static_cast<double>(score.notes);
     fmt::print("{:<28} wolf thirds {:5.2f} %   thirds {:5.2f} cents   fifths {:5.2f} cents   "
-               "as notated {:5.2f} %   {:4.0f} ns a key\n",
+               "as notated {:5.2f} %   drift ±{:.2f} cents   {:4.0f} ns a key\n",
                name, 100.0 * score.thirds.wolfSeconds / score.thirds.seconds,
                score.thirds.cents / score.thirds.seconds, score.fifths.cents / score.fifths.seconds,
                100.0 * static_cast<double>(score.asNotated) / static_cast<double>(score.notes),
-               1e9 * score.playingSeconds / events);
+               score.drift.deviation(), 1e9 * score.playingSeconds / events);
 }
 
 } // namespace

@@ -137,6 +137,45 @@
     </message>
 </context>
 <context>
+    <name>velmora::AdaptivePane</name>
+    <message>
+        <source>Correct within</source>
+        <translation type="unfinished">Korrigieren innerhalb von</translation>
+    </message>
+    <message>
+        <source>The last note of a chord may still mend the spelling of its first</source>
+        <translation type="unfinished">Die letzte Note eines Akkords darf die Schreibung der ersten noch verbessern</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Tied to A</source>
+        <translation type="unfinished">An A gebunden</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation type="unfinished">Frei</translation>
+    </message>
+    <message>
+        <source>Returns in silence</source>
+        <translation type="unfinished">Kehrt in der Stille zurück</translation>
+    </message>
+    <message>
+        <source>What becomes of the pitch where pure intervals lead it away: it is drawn back at once, stays there, or goes back while nothing sounds</source>
+        <translation type="unfinished">Was aus der Tonhöhe wird, wenn reine Intervalle sie wegführen: Sie wird sogleich zurückgezogen, bleibt dort oder kehrt zurück, während nichts klingt</translation>
+    </message>
+    <message>
+        <source>Drift:</source>
+        <translation type="unfinished">Drift:</translation>
+    </message>
+    <message>
+        <source>Pitch now:</source>
+        <translation type="unfinished">Tonhöhe jetzt:</translation>
+    </message>
+</context>
+<context>
     <name>velmora::AudioExport</name>
     <message>
         <source>Loading the instrument</source>
@@ -592,6 +631,21 @@ Ein Klick zieht es oder stößt es ab</translation>
     </message>
 </context>
 <context>
+    <name>velmora::DriftMeter</name>
+    <message>
+        <source>How far the pitch has drifted from where it began</source>
+        <translation type="unfinished">Wie weit sich die Tonhöhe vom Anfang entfernt hat</translation>
+    </message>
+    <message>
+        <source>Drift: %1</source>
+        <translation type="unfinished">Drift: %1</translation>
+    </message>
+    <message>
+        <source>%1 cents</source>
+        <translation type="unfinished">%1 Cent</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -663,6 +717,29 @@ Ein Klick zieht es oder stößt es ab</translation>
     <message>
         <source>The fifth %1 differs from a pure one by %2 cents.</source>
         <translation type="unfinished">Die Quinte %1 weicht um %2 Cent von einer reinen ab.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::GlideBar</name>
+    <message>
+        <source>Only new notes</source>
+        <translation type="unfinished">Nur neue Noten</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>How long notes that sound take to reach their new pitch when the tuning changes; with 0 they jump</source>
+        <translation type="unfinished">Wie lange klingende Noten brauchen, um ihre neue Tonhöhe zu erreichen, wenn sich die Stimmung ändert; bei 0 springen sie</translation>
+    </message>
+    <message>
+        <source>Notes that sound keep their pitch until they are struck again</source>
+        <translation type="unfinished">Klingende Noten behalten ihre Tonhöhe, bis sie neu angeschlagen werden</translation>
+    </message>
+    <message>
+        <source>Glide:</source>
+        <translation type="unfinished">Gleiten:</translation>
     </message>
 </context>
 <context>
@@ -2840,6 +2917,96 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TranspositionBar</name>
+    <message>
+        <source>A %1 Hz</source>
+        <translation type="unfinished">A %1 Hz</translation>
+    </message>
+    <message>
+        <source>A as the Tuning Has It</source>
+        <translation type="unfinished">A wie in der Stimmung</translation>
+    </message>
+    <message>
+        <source>%1, A %2 Hz</source>
+        <translation type="unfinished">%1, A %2 Hz</translation>
+    </message>
+    <message>
+        <source>%1 on %2, A %3 Hz</source>
+        <translation type="unfinished">%1 auf %2, A %3 Hz</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation type="unfinished">%1 auf %2</translation>
+    </message>
+    <message>
+        <source>The key on which the tuning stands: on D, D sounds as C does on C</source>
+        <translation type="unfinished">Die Taste, auf der die Stimmung steht: Auf D klingt D wie sonst C</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation type="unfinished"> Hz</translation>
+    </message>
+    <message>
+        <source>As the tuning has it</source>
+        <translation type="unfinished">Wie in der Stimmung</translation>
+    </message>
+    <message>
+        <source>The pitch of A above middle C, from 380 to 480 Hz</source>
+        <translation type="unfinished">Die Tonhöhe des A über dem mittleren C, von 380 bis 480 Hz</translation>
+    </message>
+    <message>
+        <source>Usual Pitches</source>
+        <translation type="unfinished">Übliche Tonhöhen</translation>
+    </message>
+    <message>
+        <source>Choose one of the usual pitches of A</source>
+        <translation type="unfinished">Wählen Sie eine der üblichen Tonhöhen des A</translation>
+    </message>
+    <message>
+        <source>Root:</source>
+        <translation type="unfinished">Grundton:</translation>
+    </message>
+    <message>
+        <source>Pitch of A:</source>
+        <translation type="unfinished">Tonhöhe des A:</translation>
+    </message>
+    <message>
+        <source>Pitch of A</source>
+        <translation type="unfinished">Tonhöhe des A</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TranspositionCommands</name>
+    <message>
+        <source>&amp;Root</source>
+        <translation type="unfinished">&amp;Grundton</translation>
+    </message>
+    <message>
+        <source>Pitch of &amp;A</source>
+        <translation type="unfinished">Tonhöhe des &amp;A</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Stimmung</translation>
+    </message>
+    <message>
+        <source>Root a &amp;Fifth Up</source>
+        <translation type="unfinished">Grundton eine &amp;Quinte höher</translation>
+    </message>
+    <message>
+        <source>Root a F&amp;ifth Down</source>
+        <translation type="unfinished">Grundton eine Quinte &amp;tiefer</translation>
+    </message>
+    <message>
+        <source>Root a &amp;Semitone Up</source>
+        <translation type="unfinished">Grundton einen &amp;Halbton höher</translation>
+    </message>
+    <message>
+        <source>Root a S&amp;emitone Down</source>
+        <translation type="unfinished">Grundton einen Halbton t&amp;iefer</translation>
     </message>
 </context>
 <context>

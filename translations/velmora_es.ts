@@ -137,6 +137,45 @@
     </message>
 </context>
 <context>
+    <name>velmora::AdaptivePane</name>
+    <message>
+        <source>Correct within</source>
+        <translation type="unfinished">Corregir en</translation>
+    </message>
+    <message>
+        <source>The last note of a chord may still mend the spelling of its first</source>
+        <translation type="unfinished">La última nota de un acorde puede corregir aún la grafía de la primera</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Tied to A</source>
+        <translation type="unfinished">Ligada al la</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation type="unfinished">Libre</translation>
+    </message>
+    <message>
+        <source>Returns in silence</source>
+        <translation type="unfinished">Vuelve en el silencio</translation>
+    </message>
+    <message>
+        <source>What becomes of the pitch where pure intervals lead it away: it is drawn back at once, stays there, or goes back while nothing sounds</source>
+        <translation type="unfinished">Qué pasa con la altura cuando los intervalos puros la alejan: se la devuelve enseguida, se queda allí o vuelve mientras nada suena</translation>
+    </message>
+    <message>
+        <source>Drift:</source>
+        <translation type="unfinished">Deriva:</translation>
+    </message>
+    <message>
+        <source>Pitch now:</source>
+        <translation type="unfinished">Altura actual:</translation>
+    </message>
+</context>
+<context>
     <name>velmora::AudioExport</name>
     <message>
         <source>Loading the instrument</source>
@@ -592,6 +631,21 @@ Un clic lo saca o lo cierra</translation>
     </message>
 </context>
 <context>
+    <name>velmora::DriftMeter</name>
+    <message>
+        <source>How far the pitch has drifted from where it began</source>
+        <translation type="unfinished">Cuánto se ha alejado la altura de donde empezó</translation>
+    </message>
+    <message>
+        <source>Drift: %1</source>
+        <translation type="unfinished">Deriva: %1</translation>
+    </message>
+    <message>
+        <source>%1 cents</source>
+        <translation type="unfinished">%1 cents</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -663,6 +717,29 @@ Un clic lo saca o lo cierra</translation>
     <message>
         <source>The fifth %1 differs from a pure one by %2 cents.</source>
         <translation type="unfinished">La quinta %1 difiere de una pura en %2 cents.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::GlideBar</name>
+    <message>
+        <source>Only new notes</source>
+        <translation type="unfinished">Solo notas nuevas</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>How long notes that sound take to reach their new pitch when the tuning changes; with 0 they jump</source>
+        <translation type="unfinished">Cuánto tardan las notas que suenan en llegar a su nueva altura cuando cambia la afinación; con 0 saltan</translation>
+    </message>
+    <message>
+        <source>Notes that sound keep their pitch until they are struck again</source>
+        <translation type="unfinished">Las notas que suenan conservan su altura hasta que se vuelven a tocar</translation>
+    </message>
+    <message>
+        <source>Glide:</source>
+        <translation type="unfinished">Deslizamiento:</translation>
     </message>
 </context>
 <context>
@@ -2840,6 +2917,96 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> ppm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TranspositionBar</name>
+    <message>
+        <source>A %1 Hz</source>
+        <translation type="unfinished">La %1 Hz</translation>
+    </message>
+    <message>
+        <source>A as the Tuning Has It</source>
+        <translation type="unfinished">La según la afinación</translation>
+    </message>
+    <message>
+        <source>%1, A %2 Hz</source>
+        <translation type="unfinished">%1, la %2 Hz</translation>
+    </message>
+    <message>
+        <source>%1 on %2, A %3 Hz</source>
+        <translation type="unfinished">%1 en %2, la %3 Hz</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation type="unfinished">%1 en %2</translation>
+    </message>
+    <message>
+        <source>The key on which the tuning stands: on D, D sounds as C does on C</source>
+        <translation type="unfinished">La tecla sobre la que se apoya la afinación: en re, el re suena como el do en do</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation type="unfinished"> Hz</translation>
+    </message>
+    <message>
+        <source>As the tuning has it</source>
+        <translation type="unfinished">Según la afinación</translation>
+    </message>
+    <message>
+        <source>The pitch of A above middle C, from 380 to 480 Hz</source>
+        <translation type="unfinished">La altura del la sobre el do central, de 380 a 480 Hz</translation>
+    </message>
+    <message>
+        <source>Usual Pitches</source>
+        <translation type="unfinished">Alturas habituales</translation>
+    </message>
+    <message>
+        <source>Choose one of the usual pitches of A</source>
+        <translation type="unfinished">Elija una de las alturas habituales del la</translation>
+    </message>
+    <message>
+        <source>Root:</source>
+        <translation type="unfinished">Fundamental:</translation>
+    </message>
+    <message>
+        <source>Pitch of A:</source>
+        <translation type="unfinished">Altura del la:</translation>
+    </message>
+    <message>
+        <source>Pitch of A</source>
+        <translation type="unfinished">Altura del la</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TranspositionCommands</name>
+    <message>
+        <source>&amp;Root</source>
+        <translation type="unfinished">&amp;Fundamental</translation>
+    </message>
+    <message>
+        <source>Pitch of &amp;A</source>
+        <translation type="unfinished">Altura del l&amp;a</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Afinación</translation>
+    </message>
+    <message>
+        <source>Root a &amp;Fifth Up</source>
+        <translation type="unfinished">Fundamental una &amp;quinta más alta</translation>
+    </message>
+    <message>
+        <source>Root a F&amp;ifth Down</source>
+        <translation type="unfinished">Fundamental una quinta más &amp;baja</translation>
+    </message>
+    <message>
+        <source>Root a &amp;Semitone Up</source>
+        <translation type="unfinished">Fundamental un &amp;semitono más alta</translation>
+    </message>
+    <message>
+        <source>Root a S&amp;emitone Down</source>
+        <translation type="unfinished">Fundamental un se&amp;mitono más baja</translation>
     </message>
 </context>
 <context>

@@ -137,6 +137,45 @@
     </message>
 </context>
 <context>
+    <name>velmora::AdaptivePane</name>
+    <message>
+        <source>Correct within</source>
+        <translation type="unfinished">Corriger dans les</translation>
+    </message>
+    <message>
+        <source>The last note of a chord may still mend the spelling of its first</source>
+        <translation type="unfinished">La dernière note d’un accord peut encore corriger l’orthographe de la première</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Tied to A</source>
+        <translation type="unfinished">Liée au la</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation type="unfinished">Libre</translation>
+    </message>
+    <message>
+        <source>Returns in silence</source>
+        <translation type="unfinished">Revient dans le silence</translation>
+    </message>
+    <message>
+        <source>What becomes of the pitch where pure intervals lead it away: it is drawn back at once, stays there, or goes back while nothing sounds</source>
+        <translation type="unfinished">Ce que devient la hauteur quand des intervalles purs l’éloignent : elle est aussitôt ramenée, reste là, ou revient pendant que rien ne sonne</translation>
+    </message>
+    <message>
+        <source>Drift:</source>
+        <translation type="unfinished">Dérive :</translation>
+    </message>
+    <message>
+        <source>Pitch now:</source>
+        <translation type="unfinished">Hauteur actuelle :</translation>
+    </message>
+</context>
+<context>
     <name>velmora::AudioExport</name>
     <message>
         <source>Loading the instrument</source>
@@ -592,6 +631,21 @@ Un clic le tire ou le repousse</translation>
     </message>
 </context>
 <context>
+    <name>velmora::DriftMeter</name>
+    <message>
+        <source>How far the pitch has drifted from where it began</source>
+        <translation type="unfinished">De combien la hauteur s’est éloignée de son départ</translation>
+    </message>
+    <message>
+        <source>Drift: %1</source>
+        <translation type="unfinished">Dérive : %1</translation>
+    </message>
+    <message>
+        <source>%1 cents</source>
+        <translation type="unfinished">%1 cents</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -663,6 +717,29 @@ Un clic le tire ou le repousse</translation>
     <message>
         <source>The fifth %1 differs from a pure one by %2 cents.</source>
         <translation type="unfinished">La quinte %1 s’écarte de %2 cents d’une quinte pure.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::GlideBar</name>
+    <message>
+        <source>Only new notes</source>
+        <translation type="unfinished">Seulement les nouvelles notes</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>How long notes that sound take to reach their new pitch when the tuning changes; with 0 they jump</source>
+        <translation type="unfinished">Le temps que mettent les notes qui sonnent à atteindre leur nouvelle hauteur quand le tempérament change ; avec 0, elles sautent</translation>
+    </message>
+    <message>
+        <source>Notes that sound keep their pitch until they are struck again</source>
+        <translation type="unfinished">Les notes qui sonnent gardent leur hauteur jusqu’à ce qu’elles soient rejouées</translation>
+    </message>
+    <message>
+        <source>Glide:</source>
+        <translation type="unfinished">Glissement :</translation>
     </message>
 </context>
 <context>
@@ -2840,6 +2917,96 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TranspositionBar</name>
+    <message>
+        <source>A %1 Hz</source>
+        <translation type="unfinished">La %1 Hz</translation>
+    </message>
+    <message>
+        <source>A as the Tuning Has It</source>
+        <translation type="unfinished">La selon le tempérament</translation>
+    </message>
+    <message>
+        <source>%1, A %2 Hz</source>
+        <translation type="unfinished">%1, la %2 Hz</translation>
+    </message>
+    <message>
+        <source>%1 on %2, A %3 Hz</source>
+        <translation type="unfinished">%1 sur %2, la %3 Hz</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation type="unfinished">%1 sur %2</translation>
+    </message>
+    <message>
+        <source>The key on which the tuning stands: on D, D sounds as C does on C</source>
+        <translation type="unfinished">La touche sur laquelle repose le tempérament : sur ré, le ré sonne comme le do sur do</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation type="unfinished"> Hz</translation>
+    </message>
+    <message>
+        <source>As the tuning has it</source>
+        <translation type="unfinished">Selon le tempérament</translation>
+    </message>
+    <message>
+        <source>The pitch of A above middle C, from 380 to 480 Hz</source>
+        <translation type="unfinished">La hauteur du la au-dessus du do central, de 380 à 480 Hz</translation>
+    </message>
+    <message>
+        <source>Usual Pitches</source>
+        <translation type="unfinished">Hauteurs usuelles</translation>
+    </message>
+    <message>
+        <source>Choose one of the usual pitches of A</source>
+        <translation type="unfinished">Choisissez une des hauteurs usuelles du la</translation>
+    </message>
+    <message>
+        <source>Root:</source>
+        <translation type="unfinished">Fondamentale :</translation>
+    </message>
+    <message>
+        <source>Pitch of A:</source>
+        <translation type="unfinished">Hauteur du la :</translation>
+    </message>
+    <message>
+        <source>Pitch of A</source>
+        <translation type="unfinished">Hauteur du la</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TranspositionCommands</name>
+    <message>
+        <source>&amp;Root</source>
+        <translation type="unfinished">&amp;Fondamentale</translation>
+    </message>
+    <message>
+        <source>Pitch of &amp;A</source>
+        <translation type="unfinished">Hauteur du l&amp;a</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Tempérament</translation>
+    </message>
+    <message>
+        <source>Root a &amp;Fifth Up</source>
+        <translation type="unfinished">Fondamentale une &amp;quinte plus haut</translation>
+    </message>
+    <message>
+        <source>Root a F&amp;ifth Down</source>
+        <translation type="unfinished">Fondamentale une quinte plus &amp;bas</translation>
+    </message>
+    <message>
+        <source>Root a &amp;Semitone Up</source>
+        <translation type="unfinished">Fondamentale un &amp;demi-ton plus haut</translation>
+    </message>
+    <message>
+        <source>Root a S&amp;emitone Down</source>
+        <translation type="unfinished">Fondamentale un demi-ton plus b&amp;as</translation>
     </message>
 </context>
 <context>

@@ -137,6 +137,45 @@
     </message>
 </context>
 <context>
+    <name>velmora::AdaptivePane</name>
+    <message>
+        <source>Correct within</source>
+        <translation type="unfinished">Correggere entro</translation>
+    </message>
+    <message>
+        <source>The last note of a chord may still mend the spelling of its first</source>
+        <translation type="unfinished">L’ultima nota di un accordo può ancora correggere la grafia della prima</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Tied to A</source>
+        <translation type="unfinished">Legata al la</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation type="unfinished">Libera</translation>
+    </message>
+    <message>
+        <source>Returns in silence</source>
+        <translation type="unfinished">Torna nel silenzio</translation>
+    </message>
+    <message>
+        <source>What becomes of the pitch where pure intervals lead it away: it is drawn back at once, stays there, or goes back while nothing sounds</source>
+        <translation type="unfinished">Che cosa accade all’altezza quando gli intervalli puri la allontanano: viene subito riportata, resta lì, o torna mentre nulla suona</translation>
+    </message>
+    <message>
+        <source>Drift:</source>
+        <translation type="unfinished">Deriva:</translation>
+    </message>
+    <message>
+        <source>Pitch now:</source>
+        <translation type="unfinished">Altezza attuale:</translation>
+    </message>
+</context>
+<context>
     <name>velmora::AudioExport</name>
     <message>
         <source>Loading the instrument</source>
@@ -592,6 +631,21 @@ Un clic lo tira o lo respinge</translation>
     </message>
 </context>
 <context>
+    <name>velmora::DriftMeter</name>
+    <message>
+        <source>How far the pitch has drifted from where it began</source>
+        <translation type="unfinished">Di quanto l’altezza si è allontanata dall’inizio</translation>
+    </message>
+    <message>
+        <source>Drift: %1</source>
+        <translation type="unfinished">Deriva: %1</translation>
+    </message>
+    <message>
+        <source>%1 cents</source>
+        <translation type="unfinished">%1 cent</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -663,6 +717,29 @@ Un clic lo tira o lo respinge</translation>
     <message>
         <source>The fifth %1 differs from a pure one by %2 cents.</source>
         <translation type="unfinished">La quinta %1 differisce da una pura di %2 cent.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::GlideBar</name>
+    <message>
+        <source>Only new notes</source>
+        <translation type="unfinished">Solo nuove note</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>How long notes that sound take to reach their new pitch when the tuning changes; with 0 they jump</source>
+        <translation type="unfinished">Quanto impiegano le note che suonano a raggiungere la nuova altezza quando il temperamento cambia; con 0 saltano</translation>
+    </message>
+    <message>
+        <source>Notes that sound keep their pitch until they are struck again</source>
+        <translation type="unfinished">Le note che suonano mantengono la loro altezza finché non vengono risuonate</translation>
+    </message>
+    <message>
+        <source>Glide:</source>
+        <translation type="unfinished">Scivolamento:</translation>
     </message>
 </context>
 <context>
@@ -2840,6 +2917,96 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TranspositionBar</name>
+    <message>
+        <source>A %1 Hz</source>
+        <translation type="unfinished">La %1 Hz</translation>
+    </message>
+    <message>
+        <source>A as the Tuning Has It</source>
+        <translation type="unfinished">La secondo il temperamento</translation>
+    </message>
+    <message>
+        <source>%1, A %2 Hz</source>
+        <translation type="unfinished">%1, la %2 Hz</translation>
+    </message>
+    <message>
+        <source>%1 on %2, A %3 Hz</source>
+        <translation type="unfinished">%1 su %2, la %3 Hz</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation type="unfinished">%1 su %2</translation>
+    </message>
+    <message>
+        <source>The key on which the tuning stands: on D, D sounds as C does on C</source>
+        <translation type="unfinished">Il tasto su cui poggia il temperamento: su re, il re suona come il do su do</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation type="unfinished"> Hz</translation>
+    </message>
+    <message>
+        <source>As the tuning has it</source>
+        <translation type="unfinished">Secondo il temperamento</translation>
+    </message>
+    <message>
+        <source>The pitch of A above middle C, from 380 to 480 Hz</source>
+        <translation type="unfinished">L’altezza del la sopra il do centrale, da 380 a 480 Hz</translation>
+    </message>
+    <message>
+        <source>Usual Pitches</source>
+        <translation type="unfinished">Altezze consuete</translation>
+    </message>
+    <message>
+        <source>Choose one of the usual pitches of A</source>
+        <translation type="unfinished">Scegliere una delle altezze consuete del la</translation>
+    </message>
+    <message>
+        <source>Root:</source>
+        <translation type="unfinished">Fondamentale:</translation>
+    </message>
+    <message>
+        <source>Pitch of A:</source>
+        <translation type="unfinished">Altezza del la:</translation>
+    </message>
+    <message>
+        <source>Pitch of A</source>
+        <translation type="unfinished">Altezza del la</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TranspositionCommands</name>
+    <message>
+        <source>&amp;Root</source>
+        <translation type="unfinished">&amp;Fondamentale</translation>
+    </message>
+    <message>
+        <source>Pitch of &amp;A</source>
+        <translation type="unfinished">Altezza del l&amp;a</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Temperamento</translation>
+    </message>
+    <message>
+        <source>Root a &amp;Fifth Up</source>
+        <translation type="unfinished">Fondamentale una &amp;quinta sopra</translation>
+    </message>
+    <message>
+        <source>Root a F&amp;ifth Down</source>
+        <translation type="unfinished">Fondamentale una quinta s&amp;otto</translation>
+    </message>
+    <message>
+        <source>Root a &amp;Semitone Up</source>
+        <translation type="unfinished">Fondamentale un &amp;semitono sopra</translation>
+    </message>
+    <message>
+        <source>Root a S&amp;emitone Down</source>
+        <translation type="unfinished">Fondamentale un semi&amp;tono sotto</translation>
     </message>
 </context>
 <context>

@@ -135,6 +135,45 @@
     </message>
 </context>
 <context>
+    <name>velmora::AdaptivePane</name>
+    <message>
+        <source>Correct within</source>
+        <translation type="unfinished">訂正する時間</translation>
+    </message>
+    <message>
+        <source>The last note of a chord may still mend the spelling of its first</source>
+        <translation type="unfinished">和音の最後の音が、最初の音の綴りを訂正できます</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Tied to A</source>
+        <translation type="unfinished">A に固定</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation type="unfinished">自由</translation>
+    </message>
+    <message>
+        <source>Returns in silence</source>
+        <translation type="unfinished">無音の間に戻る</translation>
+    </message>
+    <message>
+        <source>What becomes of the pitch where pure intervals lead it away: it is drawn back at once, stays there, or goes back while nothing sounds</source>
+        <translation type="unfinished">純正な音程によって高さがずれたときの扱い:すぐに引き戻す、そのままにする、または音が鳴っていない間に戻す</translation>
+    </message>
+    <message>
+        <source>Drift:</source>
+        <translation type="unfinished">ずれ:</translation>
+    </message>
+    <message>
+        <source>Pitch now:</source>
+        <translation type="unfinished">現在の高さ:</translation>
+    </message>
+</context>
+<context>
     <name>velmora::AudioExport</name>
     <message>
         <source>Loading the instrument</source>
@@ -590,6 +629,21 @@ A click draws it or pushes it in</source>
     </message>
 </context>
 <context>
+    <name>velmora::DriftMeter</name>
+    <message>
+        <source>How far the pitch has drifted from where it began</source>
+        <translation type="unfinished">始めの高さからのずれ</translation>
+    </message>
+    <message>
+        <source>Drift: %1</source>
+        <translation type="unfinished">ずれ: %1</translation>
+    </message>
+    <message>
+        <source>%1 cents</source>
+        <translation type="unfinished">%1 セント</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -661,6 +715,29 @@ A click draws it or pushes it in</source>
     <message>
         <source>The fifth %1 differs from a pure one by %2 cents.</source>
         <translation type="unfinished">5度 %1 は純正と %2 セント異なります。</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::GlideBar</name>
+    <message>
+        <source>Only new notes</source>
+        <translation type="unfinished">新しい音だけ</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>How long notes that sound take to reach their new pitch when the tuning changes; with 0 they jump</source>
+        <translation type="unfinished">調律が変わったとき、鳴っている音が新しい高さに移るまでの時間。0 ではすぐに移ります</translation>
+    </message>
+    <message>
+        <source>Notes that sound keep their pitch until they are struck again</source>
+        <translation type="unfinished">鳴っている音は、次に弾かれるまで高さを保ちます</translation>
+    </message>
+    <message>
+        <source>Glide:</source>
+        <translation type="unfinished">移行時間:</translation>
     </message>
 </context>
 <context>
@@ -2824,6 +2901,96 @@ Click to show all tunings</source>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TranspositionBar</name>
+    <message>
+        <source>A %1 Hz</source>
+        <translation type="unfinished">A %1 Hz</translation>
+    </message>
+    <message>
+        <source>A as the Tuning Has It</source>
+        <translation type="unfinished">A は調律のとおり</translation>
+    </message>
+    <message>
+        <source>%1, A %2 Hz</source>
+        <translation type="unfinished">%1、A %2 Hz</translation>
+    </message>
+    <message>
+        <source>%1 on %2, A %3 Hz</source>
+        <translation type="unfinished">%1(%2 基音)、A %3 Hz</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation type="unfinished">%1(%2 基音)</translation>
+    </message>
+    <message>
+        <source>The key on which the tuning stands: on D, D sounds as C does on C</source>
+        <translation type="unfinished">調律の基準となる鍵です。D を選ぶと、D が C のときの C のように鳴ります</translation>
+    </message>
+    <message>
+        <source> Hz</source>
+        <translation type="unfinished"> Hz</translation>
+    </message>
+    <message>
+        <source>As the tuning has it</source>
+        <translation type="unfinished">調律のとおり</translation>
+    </message>
+    <message>
+        <source>The pitch of A above middle C, from 380 to 480 Hz</source>
+        <translation type="unfinished">中央ハの上の A の高さ(380~480 Hz)</translation>
+    </message>
+    <message>
+        <source>Usual Pitches</source>
+        <translation type="unfinished">よく使う高さ</translation>
+    </message>
+    <message>
+        <source>Choose one of the usual pitches of A</source>
+        <translation type="unfinished">A のよく使う高さから選びます</translation>
+    </message>
+    <message>
+        <source>Root:</source>
+        <translation type="unfinished">基音:</translation>
+    </message>
+    <message>
+        <source>Pitch of A:</source>
+        <translation type="unfinished">A の高さ:</translation>
+    </message>
+    <message>
+        <source>Pitch of A</source>
+        <translation type="unfinished">A の高さ</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TranspositionCommands</name>
+    <message>
+        <source>&amp;Root</source>
+        <translation type="unfinished">基音(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Pitch of &amp;A</source>
+        <translation type="unfinished">&amp;A の高さ</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">調律</translation>
+    </message>
+    <message>
+        <source>Root a &amp;Fifth Up</source>
+        <translation type="unfinished">基音を 5 度上げる(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Root a F&amp;ifth Down</source>
+        <translation type="unfinished">基音を 5 度下げる(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Root a &amp;Semitone Up</source>
+        <translation type="unfinished">基音を半音上げる(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Root a S&amp;emitone Down</source>
+        <translation type="unfinished">基音を半音下げる(&amp;E)</translation>
     </message>
 </context>
 <context>

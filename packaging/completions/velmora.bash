@@ -4,10 +4,10 @@ _velmora()
 {
     local word=$2 previous=$3 command=${COMP_WORDS[1]} options
     case $command in
-        render) options="--help --output --tuning --mapping --program --bank --instrument --as-stops --plain --stop --rate --tail
+        render) options="--help --output --tuning --mapping --root --a --program --bank --instrument --as-stops --plain --stop --rate --tail
             --loop-start --loop-end --loops" ;;
-        live) options="--help --tuning --mapping --program --bank --instrument --as-stops --stop --plain --output --period" ;;
-        info) options="--help --json --as-stops --plain --mapping" ;;
+        live) options="--help --tuning --mapping --root --a --program --bank --instrument --as-stops --stop --plain --output --period" ;;
+        info) options="--help --json --as-stops --plain --mapping --root --a" ;;
         doctor) options="--help --json" ;;
         devices) options="--help --json --watch --output --period" ;;
         *)
@@ -24,6 +24,8 @@ _velmora()
             files='scl|ascl|tun|mtx'
             ;;
         *:--mapping) files='kbm' ;;
+        *:--root) COMPREPLY=($(compgen -W "C C# D Eb E F F# G G# A Bb B" -- "$word")) ;;
+        *:--a) COMPREPLY=($(compgen -W "392 415 430 440 442 466" -- "$word")) ;;
         *:--instrument) files='sf2|gig|organ_hauptwerk_xml|xml|organ|orgue' ;;
         render:-o | render:--output) files='wav|flac|ogg|opus|mp3|mid' ;;
         *:--output) COMPREPLY=($(compgen -W "jack pulseaudio alsa none" -- "$word")) ;;

@@ -5,6 +5,7 @@ set -l none "not __fish_seen_subcommand_from $commands"
 set -l playing "__fish_seen_subcommand_from render live"
 set -l render "__fish_seen_subcommand_from render"
 set -l live "__fish_seen_subcommand_from live; or $none"
+set -l standing "__fish_seen_subcommand_from render live info"
 set -l sound "__fish_seen_subcommand_from live devices; or $none"
 
 complete -c velmora -s h -l help -d "Print a summary"
@@ -19,6 +20,9 @@ complete -c velmora -n "__fish_seen_subcommand_from live devices doctor" -f
 complete -c velmora -n $playing -l tuning -x -d Temperament \
     -a "Equal meantone Dynamic (__fish_complete_suffix .scl .ascl .tun .mtx)"
 complete -c velmora -n "__fish_seen_subcommand_from render live info" -l mapping -r -d "Keyboard mapping"
+complete -c velmora -n $standing -l root -x -d "Key on which the tuning stands" \
+    -a "C C\# D Eb E F F\# G G\# A Bb B"
+complete -c velmora -n $standing -l a -x -d "Pitch of A in hertz" -a "392 415 430 440 442 466"
 complete -c velmora -n $playing -l program -x -d "General MIDI program, a number or a name"
 complete -c velmora -n $playing -l bank -x -d "Bank of a SoundFont"
 complete -c velmora -n $playing -l instrument -r -d "Sampled instrument"

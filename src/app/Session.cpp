@@ -18,6 +18,7 @@ namespace {
 constexpr int kSessionVersion = 1;
 constexpr int kLastProgram = 127;
 constexpr int kLastBank = 65535;
+constexpr int kLastPitchClass = 11;
 /// No file holds more instruments.
 constexpr int kLastChoice = 65535;
 
@@ -195,6 +196,9 @@ std::string encodeSession(const Session& session, const std::filesystem::path& f
             addPath(entry["mapping"], tuning.mapping, folder);
     }
     file["tuning"] = session.tuning;
+    file["root"] = session.standing.root;
+    if (session.standing.a)
+        file["a"] = *session.standing.a;
     file["transposition"] = session.transposition;
     file["pieces"] = Json::array();
     for (const Session::Piece& piece : session.pieces) {
@@ -229,6 +233,10 @@ Session decodeSession(std::string_view text, const std::filesystem::path& folder
         }
     if (const auto tuning = file.find("tuning"))
         session.tuning = tuning->text();
+    if (const auto root = file.find("root"))
+        session.standing.root = root->integer(0, kLastPitchClass);
+    if (const auto a = file.find("a"))
+        session.standing.a = a->number(Transposition::kLowestA, Transposition::kHighestA);
     if (const auto transposition = file.find("transposition"))
         session.transposition = transposition->integer(-kMaxTransposition, kMaxTransposition);
     if (const auto pieces = file.find("pieces"))

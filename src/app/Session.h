@@ -3,6 +3,7 @@
 #include "import/ImportOptions.h"
 #include "import/InstrumentFormat.h"
 #include "sound/ConsoleState.h"
+#include "tuning/TransposedTemperament.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -41,6 +42,7 @@ struct Session {
     std::uint8_t program = 0;          ///< The General MIDI program.
     std::vector<Tuning> tunings;       ///< The opened tuning files.
     std::string tuning;                ///< The name of the current tuning; may be empty.
+    Transposition standing;            ///< The root and the pitch of the tunings.
     int transposition = 0;             ///< In semitones.
     std::vector<Piece> pieces;
     std::size_t currentPiece = 0; ///< Its position in that list.

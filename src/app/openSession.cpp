@@ -108,6 +108,7 @@ Session currentSession(AppDelegate& application)
         if (!document->path().empty())
             session.tunings.push_back({document->path(), document->mappingPath()});
     session.tuning = application.tunings().lastingName();
+    session.standing = application.tunings().transposition();
     session.transposition = application.playing().settings().transposition;
     return session;
 }
@@ -145,6 +146,7 @@ std::vector<std::string> openSession(const Session& session, AppDelegate& applic
         application.selectInstrument(*current);
     if (!session.tuning.empty() && !application.tunings().select(session.tuning) && errors.empty())
         errors.push_back("there is no tuning named \"" + session.tuning + "\"");
+    application.tunings().setTransposition(session.standing);
     application.playing().setTransposition(session.transposition);
     return errors;
 }

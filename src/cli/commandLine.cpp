@@ -7,6 +7,7 @@
 #include "cli/names.h"
 #include "cli/version.h"
 #include "desktop/shell/runDesktop.h"
+#include "tuning/keyName.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
@@ -34,6 +35,7 @@ struct Arguments {
     std::string sequence, output, instrument, mapping;
     Selection selection;
     std::vector<std::string> stops;
+    std::string root;
     RenderOptions options;
     RenderLoop loop{0.0, 0.0, 2};
     std::vector<std::string> files;
@@ -94,6 +96,32 @@ void addMapping(CLI::App& command, Arguments& arguments)
                        "The .kbm file that says which keys play which notes of the tuning");
 }
 
+/// Adds the options for where a tuning stands.
+void addTransposition(CLI::App& command, Arguments& arguments)
+{
+    command
+        .add_option("--root", arguments.root,
+                    "The key on which the tuning stands, as in D or Eb; as a rule C")
+        ->type_name("KEY");
+    command
+        .add_option("--a", arguments.selection.transposition.a,
+                    "The pitch of A in hertz; as a rule the tuning has it where C is as in equal "
+                    "temperament of 440 Hz")
+        ->type_name("HERTZ")
+        ->check(range(Transposition::kLowestA, Transposition::kHighestA));
+}
+
+/// Returns the pitch class of the key that the tuning shall stand on.
+int parseRoot(const std::string& text)
+{
+    const auto root = pitchClassOf(text);
+    if (!root)
+        throw CLI::ValidationError("--root", "\"" + text +
+                                                 "\" is not the name of a key, such as C, F# or "
+                                                 "Eb");
+    return *root;
+}
+
 void addSelection(CLI::App& command, Arguments& arguments)
 {
     command
@@ -104,6 +132,7 @@ void addSelection(CLI::App& command, Arguments& arguments)
         ->type_name("NAME|FILE")
         ->capture_default_str();
     addMapping(command, arguments);
+    addTransposition(command, arguments);
     command
         .add_option("--program", arguments.selection.program,
                     "Program of the General MIDI player or of a SoundFont: its number from 0 to "
@@ -225,6 +254,7 @@ int run(CLI::App& program, int argc, char** argv)
     infoCommand->add_option("files", arguments.files, "The files")->required();
     addReading(*infoCommand, arguments);
     addMapping(*infoCommand, arguments);
+    addTransposition(*infoCommand, arguments);
     CLI::App* liveCommand = program.add_subcommand("live", "Play from the MIDI inputs");
     addSelection(*liveCommand, arguments);
     liveCommand->add_flag("--as-stops", arguments.selection.asStops, kAsStops);
@@ -257,6 +287,8 @@ int run(CLI::App& program, int argc, char** argv)
     const QCoreApplication application(argc, argv);
     arguments.selection.instrument = arguments.instrument;
     arguments.selection.mapping = arguments.mapping;
+    if (!arguments.root.empty())
+        arguments.selection.transposition.root = parseRoot(arguments.root);
     for (const std::string& stop : arguments.stops)
         arguments.selection.stops.push_back(parseStop(stop));
     if (*renderCommand)

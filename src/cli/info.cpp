@@ -3,6 +3,7 @@
 #include "cli/instrumentInfo.h"
 #include "sequencer/SequenceFile.h"
 #include "tuning/ScaleTemperament.h"
+#include "tuning/spelling.h"
 
 #include <nlohmann/json.hpp>
 #include <spdlog/fmt/fmt.h>
@@ -46,11 +47,10 @@ std::string valueOf(const Json& entry)
 }
 
 /// Describes the degrees of a scale and the pitches of the keys.
-Json describeKeys(const TuningDocument& document)
+Json describeKeys(const TuningDocument& document, const TransposedTemperament& temperament)
 {
-    const Temperament& temperament = document.temperament();
     Json result = {{"name", document.name()}, {"description", document.description()}};
-    if (const auto* mapped = dynamic_cast<const ScaleTemperament*>(&temperament)) {
+    if (const auto* mapped = dynamic_cast<const ScaleTemperament*>(&temperament.inner())) {
         const Scale& scale = mapped->scale();
         result["degrees"] = Json::array();
         for (std::size_t i = 0; i <= scale.pitches.size(); ++i) {
@@ -73,13 +73,14 @@ Json describeKeys(const TuningDocument& document)
     return result;
 }
 
-Json describe(const TuningDocument& document)
+Json describe(const TuningDocument& document, const Transposition& where)
 {
-    const Temperament& temperament = document.temperament();
+    const TransposedTemperament temperament(document.temperament().fresh(), where);
     if (!temperament.repeatsEveryOctave())
-        return describeKeys(document);
+        return describeKeys(document, temperament);
     Json result = {{"name", document.name()},
                    {"description", document.description()},
+                   {"root", rootName(where.root)},
                    {"baseFrequency", temperament.baseFrequency()},
                    {"pitchClasses", Json::array()}};
     for (unsigned long pitchClass = 0; pitchClass < kPitchClasses; ++pitchClass) {
@@ -134,8 +135,9 @@ void printTuning(const Json& tuning)
         printKeys(tuning);
         return;
     }
-    fmt::print("{}: tuning, base frequency {:.6f} Hz at C{}\n", tuning["name"].get<std::string>(),
-               tuning["baseFrequency"].get<double>(), kShownOctave - 1);
+    fmt::print("{}: tuning, base frequency {:.6f} Hz at {}{}\n", tuning["name"].get<std::string>(),
+               tuning["baseFrequency"].get<double>(), tuning["root"].get<std::string>(),
+               kShownOctave - 1);
     if (const auto description = tuning["description"].get<std::string>(); !description.empty())
         fmt::print("  {}\n", description);
     for (const Json& entry : tuning["pitchClasses"])
@@ -175,11 +177,11 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
         if (!document.read(path, *format, selection.plain ? Reading::Plain : Reading::Musical))
             throw std::runtime_error(document.errorString());
         if (selection.mapping.empty())
-            return {describe(document), printTuning};
+            return {describe(document, selection.transposition), printTuning};
         const auto mapped = document.withMapping(selection.mapping);
         if (!mapped->errorString().empty())
             throw std::runtime_error(mapped->errorString());
-        return {describe(*mapped), printTuning};
+        return {describe(*mapped, selection.transposition), printTuning};
     }
     if (sequenceFormatOf(path)) {
         Player player;

@@ -71,7 +71,7 @@ void live(const Selection& selection, const OutputSettings& wanted)
     Names names = application.midiInputs()->names();
     OutputStatus output = application.output()->waitForOutput();
     fmt::print("Playing {} in {} from {} on {}.\n", soundTitle(application),
-               application.tunings().name(),
+               tuningTitle(application.tunings()),
                names.empty() ? "no MIDI input" : fmt::format("{}", fmt::join(names, ", ")),
                output.driver == "none" ? "no sound output" : output.driver);
     fmt::print(

@@ -1,10 +1,12 @@
 #include "cli/names.h"
 
+#include "app/Tunings.h"
 #include "app/programNames.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "cli/commands.h"
 #include "sound/Instrument.h"
+#include "tuning/spelling.h"
 
 #include <spdlog/fmt/fmt.h>
 
@@ -118,6 +120,17 @@ std::string programTitle(const Instrument& instrument)
     return fmt::format("{} ({}program {})", nameOf(instrument, program),
                        program.bank == 0 ? "" : fmt::format("bank {}, ", program.bank),
                        program.number);
+}
+
+std::string tuningTitle(const Tunings& tunings)
+{
+    const Transposition& where = tunings.transposition();
+    std::string title = tunings.name();
+    if (where.root != 0)
+        title += " on " + rootName(where.root);
+    if (where.a)
+        title += fmt::format(", A {:g} Hz", *where.a);
+    return title;
 }
 
 } // namespace velmora

@@ -8,6 +8,7 @@
 namespace velmora {
 
 class Instrument;
+class Tunings;
 
 /// Returns the index of the name that a text stands for, or nothing if there is none. Letter case,
 /// spaces and punctuation do not count. A text stands for the name that it equals, with or without
@@ -21,6 +22,9 @@ std::optional<std::size_t> findName(const std::vector<std::string>& names, const
 /// if there is no such program.
 std::size_t findProgram(const Instrument& instrument, std::optional<int> bank,
                         const std::string& text);
+
+/// Returns the name of the current tuning and where it stands, as in "Vallotti on D, A 415 Hz".
+std::string tuningTitle(const Tunings& tunings);
 
 /// Returns the name of an instrument's selected program and its number on the command line, as in
 /// "20 Church Organ (program 19)".

@@ -13,7 +13,7 @@ namespace velmora {
 
 namespace {
 
-std::unique_ptr<TuningDocument> tuningNamed(const std::string& name, Reading reading)
+std::unique_ptr<TuningDocument> tuningNamed(const std::string& name, const PlayingOptions& playing)
 {
     const auto format = tuningFormatOf(name);
     if (!format) {
@@ -24,13 +24,13 @@ std::unique_ptr<TuningDocument> tuningNamed(const std::string& name, Reading rea
         for (const auto& names : {std::vector<std::string>{"Equal", "Quartercomma Meantone"},
                                   TuningDocument::adaptiveNames(), historical})
             if (const auto builtin = findName(names, name))
-                return TuningDocument::makeBuiltin(names[*builtin]);
+                return TuningDocument::makeBuiltin(names[*builtin], playing.adaptive());
         throw UsageError("there is no tuning \"" + name +
                          "\"; use the name of one, such as Equal, \"Following Meantone\" or "
                          "\"Werckmeister III\", or a .scl, .ascl, .tun or .mtx file");
     }
     auto document = std::make_unique<TuningDocument>();
-    if (!document->read(name, *format, reading))
+    if (!document->read(name, *format, playing.reading()))
         throw std::runtime_error(document->errorString());
     return document;
 }
@@ -68,12 +68,13 @@ std::unique_ptr<InstrumentDocument> readInstrument(const std::filesystem::path& 
 
 void select(const Selection& selection, AppDelegate& application)
 {
-    auto tuning = tuningNamed(selection.tuning, application.playing().reading());
+    auto tuning = tuningNamed(selection.tuning, application.playing());
     if (!selection.instrument.empty())
         application.addInstrument(
             readInstrument(selection.instrument, selection.asStops, application));
     const std::string name = tuning->name();
     application.tunings().put(std::move(tuning));
+    application.tunings().setTransposition(selection.transposition);
     application.tunings().select(name);
     if (!selection.mapping.empty())
         if (const std::string error = application.tunings().setMapping(selection.mapping);

@@ -14,6 +14,7 @@ namespace velmora {
 struct Selection {
     std::string tuning = "Equal";     ///< The name of a built-in tuning, or a file.
     std::filesystem::path mapping;    ///< A keyboard mapping for it; empty for none.
+    Transposition transposition;      ///< Of that tuning.
     std::filesystem::path instrument; ///< An instrument file; empty for the General MIDI player.
     bool plain = false;               ///< Read devices and files plainly, whatever is preferred.
     bool asStops = false;             ///< Lay out the instruments of a SoundFont as stops.

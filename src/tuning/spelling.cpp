@@ -29,4 +29,9 @@ std::string spelling(double cents)
     return {};
 }
 
+std::string rootName(int pitchClass)
+{
+    return placeName(meantone::kHomePlaces.at(static_cast<std::size_t>(pitchClass)));
+}
+
 } // namespace velmora

@@ -13,4 +13,7 @@ std::string spelling(double cents);
 /// 1 and "Bb" for −2. Places run from −22 to 22.
 std::string placeName(int place);
 
+/// Returns the name of pitch class 0…11 as the root of a temperament: "Eb" for 3 and "G#" for 8.
+std::string rootName(int pitchClass);
+
 } // namespace velmora

@@ -76,6 +76,7 @@ TEST(Session, KeepsEveryFieldInItsFile)
     session.tunings = {{"/t/für.scl", "/t/für.kbm"}};
     session.tuning = "für.scl";
     session.transposition = -3;
+    session.standing = {2, 415.3};
     session.pieces = {{"/a.mid", 1.5}, {"/b.mid", 1e9}};
     session.currentPiece = 1;
     session.layout = std::string("\0\xFF\n", 3);
@@ -87,6 +88,7 @@ TEST(Session, KeepsEveryFieldInItsFile)
     EXPECT_EQ(read.instruments[1].console, session.instruments[1].console);
     EXPECT_EQ(read.instruments[1].options, session.instruments[1].options);
     EXPECT_EQ(read.layout, session.layout);
+    EXPECT_EQ(read.standing, session.standing);
 
     EXPECT_TRUE(decodeSession(R"({"velmoraSession": 1, "later": {}})", "/").pieces.empty());
 }
@@ -131,6 +133,8 @@ TEST(Session, SaysWhatIsWrongWithAFile)
         {R"("tunings": [{"path": "/a\u0000b"}])", R"("tunings[0].path" is not the name of a file)"},
         {R"("tunings": [{}])", R"("tunings[0]" has no "path")"},
         {R"("tuning": 1)", R"("tuning" is not a text in quotation marks)"},
+        {R"("root": 12)", R"("root" is not a whole number from 0 to 11)"},
+        {R"("a": 500)", R"("a" is not a number from 380.0 to 480.0)"},
         {R"("transposition": 2.5)", R"("transposition" is not a whole number from -24 to 24)"},
         {R"("pieces": [{"path": "/a.mid", "position": -1}])",
          R"("pieces[0].position" is not a number from 0.0 to 1000000000000.0)"},
@@ -159,6 +163,7 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
     const auto mapping = folder.write("a.kbm", "0\n0\n127\n60\n69\n430.\n12\n");
     session.tunings = {{scale, mapping}, {folder.path() / "gone.scl"}};
     session.tuning = "a.scl";
+    session.standing = {2, 415.0};
     session.transposition = -2;
     SessionProgram program;
     for (const char* time : {"the first time", "and again, beside itself"}) {
@@ -171,6 +176,7 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
         EXPECT_THAT(program.gains(), ElementsAre(0.25F, 0.75F));
         EXPECT_EQ(program.midiProgram(), 19);
         EXPECT_EQ(program.tunings().name(), "a.scl");
+        EXPECT_EQ(program.tunings().transposition(), session.standing);
         EXPECT_EQ(program.playing().settings().transposition, -2);
     }
     const Instrument& bank = *program.instruments().back()->instrument();

@@ -198,6 +198,10 @@ TEST_F(CommandLine, ReportsErrorsInOneSentence)
          1,
          "does not support a sample rate of 44100 Hz"},
         {{"--tuning", "Pythagoras"}, 2, "no tuning \"Pythagoras\""},
+        {{"--root", "H"}, 2, "--root: \"H\" is not the name of a key, such as C, F# or Eb"},
+        {{"--root", "C##"}, 2, "\"C##\" is not the name of a key"},
+        {{"--a", "379.9"}, 2, "--a: 379.9 is not between 380 and 480"},
+        {{"--a", "nan"}, 2, "--a: nan is not between 380 and 480"},
         {{"--tuning", "werckmeister"}, 2, "Werckmeister III"},
         {{"--tuning", "broken.scl"}, 1, "broken.scl, line 4, column 1: "},
         {{"--tuning", "Pure Equal"}, 2, "no tuning \"Pure Equal\""},
@@ -266,14 +270,23 @@ TEST_F(CommandLine, KeepsWhatHasTheNameIfRenderingFails)
 
 TEST_F(CommandLine, RendersAnInstrumentInTune)
 {
-    render("out.wav", {"--instrument", "test.organ", "--plain", "--tuning", "Quartercomma Meantone",
-                       "--stop", "1=0.25"});
-    const Pcm heard = decodeAudio(content("out.wav"));
-    std::vector<float> left;
-    for (std::size_t i = 4800; i < 52800; ++i)
-        left.push_back(heard.floats.at(2 * i));
-    const double wanted = 3.0 * Temperament::Meantone().getPitch(52); // the second stop's twelfth
-    EXPECT_NEAR(cents(measuredHertz(left, 48000.0, wanted), wanted), 0.0, 0.25);
+    const std::pair<QStringList, double> rows[] = {
+        {{}, Temperament::Meantone().getPitch(52)},
+        // On D, A is a fifth above the root, and E a fifth above A.
+        {{"--root", "d", "--a", "415"}, 415.0 * std::pow(5.0, 0.25) / 2.0},
+        {{"--root", "F♯"}, equal.getPitch(54) * std::sqrt(0.8)}, // a whole tone below
+    };
+    for (const auto& [options, pitch] : rows) {
+        render("out.wav", QStringList{"--instrument", "test.organ", "--plain", "--tuning",
+                                      "Quartercomma Meantone", "--stop", "1=0.25"} +
+                              options);
+        const Pcm heard = decodeAudio(content("out.wav"));
+        std::vector<float> left;
+        for (std::size_t i = 4800; i < 52800; ++i)
+            left.push_back(heard.floats.at(2 * i));
+        const double wanted = 3.0 * pitch; // the second stop's twelfth
+        EXPECT_NEAR(cents(measuredHertz(left, 48000.0, wanted), wanted), 0.0, 0.25);
+    }
 }
 
 TEST_F(CommandLine, DescribesScalesOfAnySizeOnTheirKeys)
@@ -314,6 +327,9 @@ TEST_F(CommandLine, DescribesFiles)
 
     EXPECT_THAT(run({"info", "pure.scl"}).out,
                 HasSubstr("pure.scl: tuning, base frequency 261.625565 Hz at C4\n  Pure\n  C5 "));
+    EXPECT_THAT(run({"info", "pure.scl", "--root", "eb", "--a", "440"}).out,
+                HasSubstr("pure.scl: tuning, base frequency 314.285714 Hz at Eb4\n"))
+        << "7/5 below A";
     const Result text = run({"info", "--plain", "broken.mid", "song.mid", "test.organ"});
     EXPECT_EQ(text.code, 1);
     EXPECT_THAT(text.out, HasSubstr("song.mid: sequence of 1 note"))

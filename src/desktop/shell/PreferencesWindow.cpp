@@ -7,6 +7,7 @@
 #include "desktop/shell/PlayingPane.h"
 #include "desktop/shell/ShortcutsPane.h"
 #include "desktop/shell/SoundPane.h"
+#include "desktop/tuning/GlideBar.h"
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/NoteSpinBox.h"
@@ -174,6 +175,7 @@ QWidget* PreferencesWindow::makeMidiPane(AppDelegate& application)
     layout->setContentsMargins({});
     layout->addWidget(devices, 1);
     layout->addWidget(playing);
+    layout->addWidget(new GlideBar(application.playing()));
     return pane;
 }
 

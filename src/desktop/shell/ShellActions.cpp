@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "desktop/instruments/importChoices.h"
+#include "desktop/tuning/TranspositionCommands.h"
 #include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/messages.h"
@@ -150,7 +151,9 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
           {tr("&Find a Command…"), tr("Find a command by its name and perform it"), "find"},
           {Qt::CTRL | Qt::SHIFT | Qt::Key_P})),
       about(commands.add("help.about", helpGroup(), {tr("&About Velmora"), {}})),
-      application_(application), recent_(std::make_unique<QMenu>(tr("Open &Recent"))),
+      application_(application),
+      transposition_(std::make_unique<TranspositionCommands>(application.tunings(), commands)),
+      recent_(std::make_unique<QMenu>(tr("Open &Recent"))),
       instruments_(std::make_unique<QMenu>(tr("&Instrument"))),
       tunings_(std::make_unique<QMenu>(tr("&Tuning")))
 {
@@ -295,6 +298,8 @@ void ShellActions::showTunings()
         action->setCheckable(true);
         action->setChecked(name == application_.tunings().name());
     }
+    tunings_->addSeparator();
+    transposition_->addTo(*tunings_);
     tunings_->addSeparator();
     tunings_->addAction(sendTuning);
 }

@@ -16,6 +16,7 @@ namespace velmora {
 
 class AppDelegate;
 class Commands;
+class TranspositionCommands;
 
 /// The commands that do not depend on a piece, those that open, save and close one, and the menus
 /// whose content changes.
@@ -72,6 +73,7 @@ private:
     void showTunings();
 
     AppDelegate& application_;
+    std::unique_ptr<TranspositionCommands> transposition_;
     std::unique_ptr<QMenu> recent_, instruments_, tunings_;
 };
 

@@ -1,6 +1,7 @@
 #include "desktop/shell/StageView.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/tuning/transposing.h"
 #include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/messages.h"
 
@@ -44,7 +45,8 @@ StageView::StageView(AppDelegate& application) : application_(application)
 void StageView::showSound()
 {
     instrument_->setText(translatedTitle(application_.soundName()));
-    tuning_->setText(tuningText(application_, application_.tunings().name()).title);
+    const Tunings& tunings = application_.tunings();
+    tuning_->setText(standingTitle(tuningText(application_, tunings.name()).title, tunings));
 }
 
 } // namespace velmora

@@ -5,6 +5,7 @@
 #include "audio/outputDrivers.h"
 #include "desktop/instruments/PlayingControls.h"
 #include "desktop/shell/StatusItem.h"
+#include "desktop/tuning/transposing.h"
 #include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/deviceText.h"
 #include "desktop/widgets/icons.h"
@@ -95,7 +96,8 @@ void StatusLine::showSound()
     instrument_->show(instrument,
                       tr("Instrument: %1\nClick to show its programs or stops").arg(instrument));
     const auto [title, detail] = tuningText(application_, application_.tunings().name());
-    tuning_->show(title, tr("Tuning: %1 (%2)\nClick to show all tunings").arg(title, detail));
+    const QString standing = standingTitle(title, application_.tunings());
+    tuning_->show(standing, tr("Tuning: %1 (%2)\nClick to show all tunings").arg(standing, detail));
     removeNotice(outOfTune_);
     outOfTune_ = translated(tuningWarning(application_));
     addNotice(outOfTune_);

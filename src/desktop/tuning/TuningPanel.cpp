@@ -1,6 +1,9 @@
 #include "desktop/tuning/TuningPanel.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/tuning/AdaptivePane.h"
+#include "desktop/tuning/GlideBar.h"
+#include "desktop/tuning/TranspositionBar.h"
 #include "desktop/tuning/TuningStrip.h"
 #include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/GroupedList.h"
@@ -25,7 +28,7 @@ namespace velmora {
 
 namespace {
 
-constexpr int kUsualHeight = 430, kUsualLetters = 40;
+constexpr int kUsualHeight = 520, kUsualLetters = 40;
 constexpr int kA4 = 69;
 
 } // namespace
@@ -55,8 +58,11 @@ TuningPanel::TuningPanel(AppDelegate& application, QWidget* parent)
     buttons->addWidget(new HelpButton("tunings", *this));
     auto* content = new QWidget;
     auto* column = new QVBoxLayout(content);
+    column->addWidget(new TranspositionBar(application.tunings()));
     column->addWidget(list_, 1);
     column->addLayout(buttons);
+    column->addWidget(new AdaptivePane(application));
+    column->addWidget(new GlideBar(application.playing()));
     column->addWidget(strip_);
     column->addWidget(pitches_);
     auto* layout = new QVBoxLayout(this);
