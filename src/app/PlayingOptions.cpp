@@ -8,7 +8,7 @@ namespace velmora {
 
 namespace {
 
-constexpr double kMilliseconds = 1000.0; // in a second
+constexpr double kMillisecondsOfSecond = 1000.0;
 
 } // namespace
 
@@ -24,10 +24,10 @@ void PlayingOptions::read()
     settings_.velocityCurve = static_cast<VelocityCurve>(getPrefInt("VelocityCurve"));
     settings_.transposition = getPrefInt("Transposition");
     settings_.bendRange = getPrefInt("BendRange");
-    glide_ = {getPrefInt("GlideTime") / kMilliseconds, getPrefBool("GlideSounding")};
-    adaptive_ = {getPrefBool("CorrectSpelling") ? getPrefInt("CorrectionTime") / kMilliseconds
-                                                : 0.0,
-                 static_cast<Drift>(getPrefInt("Drift"))};
+    glide_ = {getPrefInt("GlideTime") / kMillisecondsOfSecond, getPrefBool("GlideSounding")};
+    adaptive_ = {
+        getPrefBool("CorrectSpelling") ? getPrefInt("CorrectionTime") / kMillisecondsOfSecond : 0.0,
+        static_cast<Drift>(getPrefInt("Drift"))};
     emit changed();
 }
 

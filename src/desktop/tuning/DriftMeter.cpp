@@ -14,7 +14,7 @@ constexpr double kFarthest = 50.0;
 constexpr double kDecimals = 10.0; // of a cent are shown
 constexpr int kBarHeight = 8;
 constexpr int kSpace = 6;
-constexpr int kLetters = 24; // that the meter is wide
+constexpr int kMeterLetters = 24; // that the meter is wide
 
 } // namespace
 
@@ -44,7 +44,7 @@ QString DriftMeter::text() const
 
 QSize DriftMeter::sizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * kLetters, fontMetrics().height()};
+    return {fontMetrics().averageCharWidth() * kMeterLetters, fontMetrics().height()};
 }
 
 void DriftMeter::paintEvent(QPaintEvent* /*event*/)
