@@ -3,8 +3,7 @@
 #include "base/FormatError.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
-
-#include <algorithm>
+#include "base/parseXml.h"
 
 namespace velmora {
 
@@ -54,14 +53,7 @@ OrganTables::OrganTables(const std::string& bytes)
 {
     if (bytes.size() > kLargestDefinition)
         throw FormatError("is too large for an organ definition");
-    const auto result = document_.load_buffer(bytes.data(), bytes.size());
-    if (!result) {
-        const auto at = static_cast<std::size_t>(std::max<std::ptrdiff_t>(result.offset, 0));
-        const auto lines =
-            std::count(bytes.data(), bytes.data() + std::min(at, bytes.size()), '\n');
-        throw FormatError::atLine(static_cast<std::size_t>(lines) + 1,
-                                  "the XML is damaged: " + lowerCase(result.description()));
-    }
+    document_ = parseXml(bytes);
     const pugi::xml_node root = document_.document_element();
     if (std::string_view(root.name()) != "Hauptwerk")
         throw FormatError("is not an organ definition: its root element is not \"Hauptwerk\"");
