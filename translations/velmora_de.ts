@@ -2446,6 +2446,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Show the circle of fifths, and shape the tuning</source>
         <translation type="unfinished">Den Quintenzirkel zeigen und die Stimmung formen</translation>
     </message>
+    <message>
+        <source>E&amp;xport Score…</source>
+        <translation type="unfinished">P&amp;artitur exportieren…</translation>
+    </message>
+    <message>
+        <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
+        <translation type="unfinished">Das Stück für ein Notensatzprogramm aufschreiben, mit den Namen, die die Stimmung den Noten gibt</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -3050,6 +3058,10 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>Scale</source>
         <translation type="unfinished">Skala</translation>
+    </message>
+    <message>
+        <source>Export Score</source>
+        <translation type="unfinished">Partitur exportieren</translation>
     </message>
 </context>
 <context>

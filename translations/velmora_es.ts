@@ -2446,6 +2446,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Show the circle of fifths, and shape the tuning</source>
         <translation type="unfinished">Mostrar el círculo de quintas y modelar la afinación</translation>
     </message>
+    <message>
+        <source>E&amp;xport Score…</source>
+        <translation type="unfinished">Exportar &amp;la partitura…</translation>
+    </message>
+    <message>
+        <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
+        <translation type="unfinished">Escribir la pieza para un programa de notación, con los nombres que la afinación da a las notas</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -3050,6 +3058,10 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>Scale</source>
         <translation type="unfinished">Escala</translation>
+    </message>
+    <message>
+        <source>Export Score</source>
+        <translation type="unfinished">Exportar la partitura</translation>
     </message>
 </context>
 <context>

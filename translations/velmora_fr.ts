@@ -2446,6 +2446,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Show the circle of fifths, and shape the tuning</source>
         <translation type="unfinished">Afficher le cycle des quintes et façonner l’accord</translation>
     </message>
+    <message>
+        <source>E&amp;xport Score…</source>
+        <translation type="unfinished">Exporter l&amp;a partition…</translation>
+    </message>
+    <message>
+        <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
+        <translation type="unfinished">Écrire le morceau pour un logiciel de notation, avec les noms que l’accord donne aux notes</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -3050,6 +3058,10 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>Scale</source>
         <translation type="unfinished">Gamme</translation>
+    </message>
+    <message>
+        <source>Export Score</source>
+        <translation type="unfinished">Exporter la partition</translation>
     </message>
 </context>
 <context>

@@ -2446,6 +2446,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Show the circle of fifths, and shape the tuning</source>
         <translation type="unfinished">Mostrare il circolo delle quinte e modellare l’accordatura</translation>
     </message>
+    <message>
+        <source>E&amp;xport Score…</source>
+        <translation type="unfinished">Esporta &amp;la partitura…</translation>
+    </message>
+    <message>
+        <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
+        <translation type="unfinished">Scrivere il brano per un programma di notazione, con i nomi che l’accordatura dà alle note</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -3050,6 +3058,10 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>Scale</source>
         <translation type="unfinished">Scala</translation>
+    </message>
+    <message>
+        <source>Export Score</source>
+        <translation type="unfinished">Esporta la partitura</translation>
     </message>
 </context>
 <context>

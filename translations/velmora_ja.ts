@@ -2431,6 +2431,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Show the circle of fifths, and shape the tuning</source>
         <translation type="unfinished">5度圏を表示し、調律を編集します</translation>
     </message>
+    <message>
+        <source>E&amp;xport Score…</source>
+        <translation type="unfinished">楽譜を書き出す(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
+        <translation type="unfinished">調律による音名のまま、記譜ソフト用に曲を書き出します</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -3033,6 +3041,10 @@ Click to show all tunings</source>
     <message>
         <source>Scale</source>
         <translation type="unfinished">音階</translation>
+    </message>
+    <message>
+        <source>Export Score</source>
+        <translation type="unfinished">楽譜を書き出す</translation>
     </message>
 </context>
 <context>

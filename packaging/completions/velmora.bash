@@ -27,7 +27,7 @@ _velmora()
         *:--root) COMPREPLY=($(compgen -W "C C# D Eb E F F# G G# A Bb B" -- "$word")) ;;
         *:--a) COMPREPLY=($(compgen -W "392 415 430 440 442 466" -- "$word")) ;;
         *:--instrument) files='sf2|gig|organ_hauptwerk_xml|xml|organ|orgue' ;;
-        render:-o | render:--output) files='wav|flac|ogg|opus|mp3|mid' ;;
+        render:-o | render:--output) files='wav|flac|ogg|opus|mp3|mid|musicxml|ly' ;;
         *:--output) COMPREPLY=($(compgen -W "jack pulseaudio alsa none" -- "$word")) ;;
         *:--program | *:--bank | *:--stop | *:--rate | *:--tail | *:--loop-* | *:--loops | *:--period) ;;
         *)

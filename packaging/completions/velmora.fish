@@ -10,7 +10,7 @@ set -l sound "__fish_seen_subcommand_from live devices; or $none"
 
 complete -c velmora -s h -l help -d "Print a summary"
 complete -c velmora -n $none -l version -d "Print the version"
-complete -c velmora -n __fish_use_subcommand -a render -d "Render a MIDI file to a sound file"
+complete -c velmora -n __fish_use_subcommand -a render -d "Render a MIDI file to sound, MIDI in a tuning or a score"
 complete -c velmora -n __fish_use_subcommand -a live -d "Play from the MIDI inputs"
 complete -c velmora -n __fish_use_subcommand -a info -d "Describe files"
 complete -c velmora -n __fish_use_subcommand -a devices -d "List MIDI inputs and sound outputs"

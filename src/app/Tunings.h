@@ -75,6 +75,10 @@ public:
     /// changes as keys are played: look at that under the player's lock.
     const Temperament* untransposed() const { return played_ ? &played_->inner() : nullptr; }
 
+    /// Returns a copy of the current temperament, with its root and its pitch, in its initial
+    /// state; null before there is one.
+    std::unique_ptr<Temperament> fresh() const { return played_ ? played_->fresh() : nullptr; }
+
     /// Chooses how the temperaments that follow the music do so. The current one begins at home
     /// again if that changes it.
     void setAdaptive(const AdaptiveSettings& settings);

@@ -153,12 +153,12 @@ void addSelection(CLI::App& command, Arguments& arguments)
 CLI::App* addRender(CLI::App& program, Arguments& arguments)
 {
     CLI::App* command = program.add_subcommand(
-        "render", "Render a MIDI file to a sound file, or to a MIDI file in a tuning");
+        "render", "Render a MIDI file to a sound file, a MIDI file in a tuning, or a score");
     command->add_option("sequence", arguments.sequence, "The MIDI file")->required();
     command
         ->add_option("-o,--output", arguments.output,
-                     "The .wav, .flac, .ogg, .opus or .mp3 file to write, or a .mid file that "
-                     "General MIDI devices play in the tuning")
+                     "The .wav, .flac, .ogg, .opus or .mp3 file to write, a .mid file that General "
+                     "MIDI devices play in the tuning, or a .musicxml or .ly score")
         ->required();
     addSelection(*command, arguments);
     addReading(*command, arguments);

@@ -2,10 +2,12 @@
 
 #include "app/OfflineSound.h"
 #include "app/generalMidiBanks.h"
+#include "app/scorePiece.h"
 #include "app/tunedMidi.h"
 #include "app/tuningCorrections.h"
 #include "app/tuningWarning.h"
 #include "audio/AudioFileWriter.h"
+#include "base/Text.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
 #include "platform/writeFile.h"
@@ -68,6 +70,19 @@ void renderMidi(const std::filesystem::path& sequence, const std::filesystem::pa
                    midi.notes.wrong, midi.notes.count, std::ceil(midi.notes.worstCents));
 }
 
+/// Writes the piece down, spelled as the tuning spells it.
+void renderScore(const std::filesystem::path& sequence, const std::filesystem::path& output,
+                 const Selection& selection)
+{
+    AppDelegate application;
+    application.tunings().addBuiltins();
+    select(selection, application);
+    SequenceDocument document(application.player());
+    readPiece(sequence, document);
+    writeScore(output,
+               pieceOf(document, toUtf8(sequence.stem().string()), *application.tunings().fresh()));
+}
+
 } // namespace
 
 void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
@@ -76,6 +91,10 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
     const Interruption interruption;
     if (sequenceFormatOf(output) == SequenceFormat::MidiFile) {
         renderMidi(sequence, output, selection, options);
+        return;
+    }
+    if (isScoreFile(output)) {
+        renderScore(sequence, output, selection);
         return;
     }
     AudioFileWriter file(output, options.rate); // first, to fail early if it cannot be written

@@ -74,6 +74,9 @@ public:
     /// True if the file that was read held more than the document keeps.
     bool isImported() const { return isImported_; }
 
+    /// The file from which the document was opened; null if nothing but notes is kept of it.
+    const SourceFile* source() const { return source_.get(); }
+
     /// The current state of the document, to be kept in case of a crash.
     UnsavedSequence snapshot() const;
 

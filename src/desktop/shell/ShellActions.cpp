@@ -81,6 +81,10 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
           "file.exportMidi", fileGroup(),
           {tr("Export &MIDI in This Tuning…"),
            tr("Write a MIDI file of the piece that other devices play in this tuning")})),
+      exportScore(commands.add(
+          "file.exportScore", fileGroup(),
+          {tr("E&xport Score…"), tr("Write the piece down for a notation program, spelled as the "
+                                    "tuning spells it")})),
       exportScale(commands.add("file.exportScale", fileGroup(),
                                {tr("Export &Tuning…"),
                                 tr("Write what each key sounds like now as a scale and a keyboard "
@@ -166,7 +170,7 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
     for (QAction* action : {keyboard, instrument, tuning, console, tuningStudio, playLayout,
                             editLayout, stageLayout, ownWindow, noteNames})
         action->setCheckable(true);
-    for (QAction* action : {save, saveAs, exportAudio, exportMidi, close, ownWindow})
+    for (QAction* action : {save, saveAs, exportAudio, exportMidi, exportScore, close, ownWindow})
         action->setEnabled(false); // until there is a piece
 
     InstrumentLoader& loader = application_.loader();
@@ -191,7 +195,7 @@ void ShellActions::addFile(QMenu& file) const
     file.addActions({newSequence, open});
     file.addMenu(recent_.get());
     file.addSeparator();
-    file.addActions({save, saveAs, exportAudio, exportMidi, exportScale});
+    file.addActions({save, saveAs, exportAudio, exportMidi, exportScore, exportScale});
     file.addSeparator();
     file.addActions({openSession, saveSession});
     file.addSeparator();

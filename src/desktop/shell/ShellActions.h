@@ -30,7 +30,7 @@ public:
     QAction *const newSequence,
         *const open, *const openSession, *const saveSession, *const save, *const saveAs,
                                                                               *const exportAudio;
-    QAction *const exportMidi, *const exportScale, *const sendTuning;
+    QAction *const exportMidi, *const exportScore, *const exportScale, *const sendTuning;
     QAction *const close, *const preferences, *const quit;
     QAction* const silence;                           ///< Stops every sound at once.
     QAction* const stopLoading;                       ///< Leaves out what is not loaded yet.

@@ -1,6 +1,7 @@
 #include "desktop/shell/TuningExports.h"
 
 #include "app/AppDelegate.h"
+#include "app/scorePiece.h"
 #include "app/tunedMidi.h"
 #include "desktop/shell/SendTuningDialog.h"
 #include "desktop/shell/SequencePage.h"
@@ -39,10 +40,13 @@ TuningExports::TuningExports(AppDelegate& application, ShellActions& actions, Se
       sender_(application.player(), application.tunings())
 {
     connect(actions.exportMidi, &QAction::triggered, this, &TuningExports::exportMidi);
+    connect(actions.exportScore, &QAction::triggered, this, &TuningExports::exportScore);
     connect(actions.exportScale, &QAction::triggered, this, &TuningExports::exportScale);
     connect(actions.sendTuning, &QAction::triggered, this, &TuningExports::showSendDialog);
-    connect(&pages, &SequencePages::currentChanged, this,
-            [this, &actions] { actions.exportMidi->setEnabled(pages_.current() != nullptr); });
+    connect(&pages, &SequencePages::currentChanged, this, [this, &actions] {
+        for (QAction* action : {actions.exportMidi, actions.exportScore})
+            action->setEnabled(pages_.current() != nullptr);
+    });
     connect(&sender_, &TuningSender::failed, this,
             [this](const std::string& error) { emit message(translated(error)); });
 }
@@ -87,6 +91,23 @@ void TuningExports::exportMidi()
                    "are up to %1 cents out of tune.",
                    nullptr, static_cast<int>(midi.notes.wrong))
                     .arg(std::ceil(midi.notes.worstCents)));
+    });
+}
+
+void TuningExports::exportScore()
+{
+    SequencePage* page = pages_.current();
+    const QString name = page->saver().displayName();
+    const QString path =
+        askWhereToSave(window_, {.title = tr("Export Score"),
+                                 .kinds = {{"MusicXML", {"musicxml"}}, {"LilyPond", {"ly"}}},
+                                 .proposal = name + ".musicxml",
+                                 .folderKey = "exportFolder"});
+    if (path.isEmpty())
+        return;
+    save(path, [&](const std::filesystem::path& file) {
+        writeScore(file,
+                   pieceOf(page->document(), name.toStdString(), *application_.tunings().fresh()));
     });
 }
 

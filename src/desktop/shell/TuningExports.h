@@ -18,8 +18,8 @@ class AppDelegate;
 class SequencePages;
 class ShellActions;
 
-/// The commands that take the current tuning elsewhere: into a MIDI file, into a scale, and to a
-/// MIDI device.
+/// The commands that take the current tuning elsewhere: into a MIDI file, a score or a scale, and
+/// to a MIDI device.
 class TuningExports : public QObject {
     Q_OBJECT
 
@@ -34,6 +34,7 @@ signals:
 
 private:
     void exportMidi();
+    void exportScore();
     void exportScale();
     void showSendDialog();
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "notation/Piece.h"
+
+#include <filesystem>
+#include <string>
+
+namespace velmora {
+
+class SequenceDocument;
+class Temperament;
+
+/// Returns a sequence as a piece to be written down: each channel is a part. Signatures, tempos and
+/// names are those of its file; without one, a beat has eight steps. A temperament in its initial
+/// state may choose the spelling of the notes.
+Piece pieceOf(const SequenceDocument& document, const std::string& title, Temperament& temperament);
+
+/// Writes a piece as a score: as LilyPond if the extension is .ly, otherwise as MusicXML. Throws
+/// std::system_error if that fails.
+void writeScore(const std::filesystem::path& path, const Piece& piece);
+
+/// True for the extensions of scores, in any letter case: .musicxml, .xml and .ly.
+bool isScoreFile(const std::filesystem::path& path);
+
+} // namespace velmora
