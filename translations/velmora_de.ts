@@ -2439,7 +2439,7 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">Die Stimmung an ein MIDI-Gerät senden, das in ihr spielen soll</translation>
     </message>
     <message>
-        <source>S&amp;hape the Tuning</source>
+        <source>Shape the Tuning</source>
         <translation type="unfinished">Stimmung formen</translation>
     </message>
     <message>
@@ -3287,10 +3287,6 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Stimmstudio</translation>
-    </message>
-    <message>
-        <source>Panels</source>
-        <translation type="unfinished">Felder</translation>
     </message>
 </context>
 <context>

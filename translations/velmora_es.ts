@@ -2439,7 +2439,7 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <translation type="unfinished">Enviar la afinación a un aparato MIDI para que toque en ella</translation>
     </message>
     <message>
-        <source>S&amp;hape the Tuning</source>
+        <source>Shape the Tuning</source>
         <translation type="unfinished">Modelar la afinación</translation>
     </message>
     <message>
@@ -3287,10 +3287,6 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Estudio de afinación</translation>
-    </message>
-    <message>
-        <source>Panels</source>
-        <translation type="unfinished">Paneles</translation>
     </message>
 </context>
 <context>

@@ -2439,7 +2439,7 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <translation type="unfinished">Envoyer le tempérament à un appareil MIDI qui doit l’utiliser</translation>
     </message>
     <message>
-        <source>S&amp;hape the Tuning</source>
+        <source>Shape the Tuning</source>
         <translation type="unfinished">Façonner l’accord</translation>
     </message>
     <message>
@@ -3287,10 +3287,6 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Atelier d’accord</translation>
-    </message>
-    <message>
-        <source>Panels</source>
-        <translation type="unfinished">Panneaux</translation>
     </message>
 </context>
 <context>

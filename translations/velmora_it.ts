@@ -2439,7 +2439,7 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <translation type="unfinished">Invia il temperamento a un dispositivo MIDI che deve usarlo</translation>
     </message>
     <message>
-        <source>S&amp;hape the Tuning</source>
+        <source>Shape the Tuning</source>
         <translation type="unfinished">Modella l’accordatura</translation>
     </message>
     <message>
@@ -3287,10 +3287,6 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Studio di accordatura</translation>
-    </message>
-    <message>
-        <source>Panels</source>
-        <translation type="unfinished">Pannelli</translation>
     </message>
 </context>
 <context>

@@ -2424,8 +2424,8 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <translation type="unfinished">この調律で鳴らしたいMIDI機器に調律を送信します</translation>
     </message>
     <message>
-        <source>S&amp;hape the Tuning</source>
-        <translation type="unfinished">調律を編集(&amp;H)</translation>
+        <source>Shape the Tuning</source>
+        <translation type="unfinished">調律を編集</translation>
     </message>
     <message>
         <source>Show the circle of fifths, and shape the tuning</source>
@@ -3270,10 +3270,6 @@ Click to show all tunings</source>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">調律スタジオ</translation>
-    </message>
-    <message>
-        <source>Panels</source>
-        <translation type="unfinished">パネル</translation>
     </message>
 </context>
 <context>

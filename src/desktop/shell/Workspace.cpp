@@ -25,7 +25,6 @@
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QStackedWidget>
-#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -332,13 +331,6 @@ void Workspace::closeEvent(QCloseEvent* event)
 {
     event->ignore(); // the user may cancel
     shell_.quit->trigger();
-}
-
-void Workspace::childEvent(QChildEvent* event)
-{
-    QMainWindow::childEvent(event);
-    if (auto* bar = qobject_cast<QTabBar*>(event->child()); bar != nullptr && event->polished())
-        bar->setAccessibleName(tr("Panels"));
 }
 
 void Workspace::showEvent(QShowEvent* event)

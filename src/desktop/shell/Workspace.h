@@ -70,9 +70,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
-    /// Names the bar of panels that lie on each other.
-    void childEvent(QChildEvent* event) override;
-
 private:
     QDockWidget* addPanel(const char* name, const QString& title, QWidget* panel, QAction& toggle);
     void makeMenus(const SequenceActions& actions, ConsoleActions& console);

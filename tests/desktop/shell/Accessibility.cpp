@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QTranslator>
@@ -75,7 +76,10 @@ void findNameless(QAccessibleInterface* item, const QString& place, std::vector<
                          (object != nullptr ? object->objectName() : QString()) + '"' + name + '"';
     const bool isSeparator = item->role() == QAccessible::Separator;
     const auto* widget = qobject_cast<const QWidget*>(object);
-    const bool isUnused = widget != nullptr && widget->isHidden() && item->childCount() == 0;
+    // A tab bar is named by its current tab, and has no name while the window keeps it for later.
+    const auto* tabs = qobject_cast<const QTabBar*>(object);
+    const bool isEmpty = item->childCount() == 0 || (tabs != nullptr && tabs->count() == 0);
+    const bool isUnused = widget != nullptr && widget->isHidden() && isEmpty;
     if (isControl(*item) && name.trimmed().isEmpty() && !isPart && !isSeparator && !isUnused)
         found.push_back(here.toStdString());
     for (int i = 0; i < std::min(item->childCount(), 100); ++i)
