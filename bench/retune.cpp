@@ -1,6 +1,6 @@
 // Measures a key-down on a sampled organ with 60 stops. The dynamic temperament checks every key
-// and retunes those whose pitch has changed; then the key plays in every stop. The pure temperament,
-// in which all twelve pitch classes are held, moves each of them a little.
+// and retunes those whose pitch has changed; then the key plays in every stop. The pure
+// temperament, in which all twelve pitch classes are held, moves each of them a little.
 
 #include "base/Log.h"
 #include "sineOrgan.h"

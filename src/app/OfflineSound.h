@@ -28,7 +28,7 @@ struct SoundSettings {
     std::optional<ConsoleState> console;                   ///< In place of the gains for an organ.
     Player::Divisions divisions;
     std::size_t program = 0;                  ///< The position of the program.
-    Reading reading = Reading::Musical; ///< Of temperaments by the General MIDI player.
+    Reading reading = Reading::Musical;       ///< Of temperaments by the General MIDI player.
     bool correctsTuning = false;              ///< As `PlayingOptions` has it.
     Glide glide;                              ///< As `PlayingOptions` has it.
     std::vector<std::filesystem::path> banks; ///< The SoundFonts for the General MIDI player.

@@ -25,8 +25,8 @@ public:
     /// How instruments are read unless the user asks for another reading.
     Reading reading() const { return settings_.isPlain ? Reading::Plain : Reading::Musical; }
 
-    /// True if SoundFonts that are out of tune are corrected, and recordings of pipes without a pitch
-    /// measured. The plain reading leaves them alone.
+    /// True if SoundFonts that are out of tune are corrected, and recordings of pipes without a
+    /// pitch measured. The plain reading leaves them alone.
     bool correctsTuning() const { return correctsTuning_ && !settings_.isPlain; }
 
     /// How sounding notes take over another pitch. In the plain reading they jump there.

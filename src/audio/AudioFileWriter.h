@@ -15,8 +15,8 @@ struct sf_private_tag;
 namespace velmora {
 
 /// Writes a stereo sound file: 24-bit WAV, 24-bit FLAC, Ogg Vorbis, Opus or MP3, depending on its
-/// extension in any letter case. The complete file appears when `commit` is called; until then an existing file
-/// of that name stays unchanged.
+/// extension in any letter case. The complete file appears when `commit` is called; until then an
+/// existing file of that name stays unchanged.
 class AudioFileWriter {
 public:
     /// `rate` is in hertz. Throws std::runtime_error with a sentence for the user if the extension

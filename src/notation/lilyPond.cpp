@@ -59,7 +59,7 @@ std::string elementText(const Score::Element& element, char rest)
     } else {
         text += '<';
         for (const WrittenPitch& pitch : element.pitches)
-            text += (text.back() == '<' ? "" : " ") + pitchText(pitch);
+            text += fmt::format("{}{}", text.back() == '<' ? "" : " ", pitchText(pitch));
         text += '>';
     }
     text += valueText(element.value);
@@ -113,11 +113,11 @@ std::string globalText(const Score& score)
         int position = bar.start;
         for (const Score::Bar::Tempo& tempo : bar.tempos) {
             if (tempo.position > position)
-                text += "s" + scaledText(tempo.position - position) + ' ';
+                text += fmt::format("s{} ", scaledText(tempo.position - position));
             position = tempo.position;
             text += fmt::format("\\tempo 4 = {} ", std::lround(tempo.quartersPerMinute));
         }
-        text += "s" + scaledText(bar.start + bar.length - position) + " |\n";
+        text += fmt::format("s{} |\n", scaledText(bar.start + bar.length - position));
     }
     return text + "}\n\n";
 }

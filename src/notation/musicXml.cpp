@@ -1,6 +1,7 @@
 #include "notation/musicXml.h"
 
 #include <pugixml.hpp>
+#include <spdlog/fmt/fmt.h>
 
 #include <algorithm>
 #include <sstream>
@@ -192,7 +193,7 @@ void writeMeasure(pugi::xml_node measure, const Score& score, const Score::Part&
 
 std::string partId(std::size_t index)
 {
-    return "P" + std::to_string(index + 1);
+    return fmt::format("P{}", index + 1);
 }
 
 } // namespace

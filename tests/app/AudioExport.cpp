@@ -112,7 +112,8 @@ TEST_F(AudioExportTest, LeavesOnlyCompleteFiles)
     folder_.write("out.wav", "precious");
     EXPECT_EQ(exported("out.wav", 120.0, true), "not: ");
     EXPECT_EQ(readTextFile(folder_.path() / "out.wav"), "precious");
-    EXPECT_THAT(exported("out.aiff"), testing::HasSubstr("must end in .wav, .flac, .ogg, .opus or .mp3"));
+    EXPECT_THAT(exported("out.aiff"),
+                testing::HasSubstr("must end in .wav, .flac, .ogg, .opus or .mp3"));
     std::filesystem::remove(folder_.path() / "test.organ");
     EXPECT_THAT(exported("out.wav"), testing::HasSubstr("test.organ: cannot be read"));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 2)

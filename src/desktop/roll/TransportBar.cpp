@@ -153,9 +153,8 @@ void TransportBar::showPosition()
     const Transport& transport = document_->transport();
     // While the position moves, decimals would change too fast to be read.
     const int decimals = transport.mode() == Transport::Mode::Stopped ? 1 : 0;
-    position_->setText(tr("%1  ·  step %2")
-                           .arg(timeText(transport))
-                           .arg(transport.position(), 0, 'f', decimals));
+    position_->setText(
+        tr("%1  ·  step %2").arg(timeText(transport)).arg(transport.position(), 0, 'f', decimals));
 }
 
 } // namespace velmora
