@@ -116,7 +116,7 @@ struct OpenSequence {
     /// Runs in real time, or on a clock of its own, which `tick` advances ahead of real time.
     OpenSequence(SequenceHost& host, bool isRealTime)
         : document(
-              host, isRealTime ? std::function(getTime) : [this] { return now; })
+              host, Reading::Musical, isRealTime ? std::function(getTime) : [this] { return now; })
     {
         if (isRealTime)
             clock.emplace(document.transport());

@@ -16,7 +16,7 @@ namespace velmora {
 
 namespace {
 
-constexpr std::size_t kRate = 48000;
+constexpr std::size_t kLaneRate = 48000;
 
 ScaleTemperament equalDivision(int count, double period, double moved = 0.0)
 {
@@ -36,7 +36,10 @@ protected:
         instrument_.setInstrument(kSteadyProgram);
     }
 
-    void wait(double seconds) { rendered(synthesizer_, static_cast<std::size_t>(seconds * kRate)); }
+    void wait(double seconds)
+    {
+        rendered(synthesizer_, static_cast<std::size_t>(seconds * kLaneRate));
+    }
 
     /// Returns by how many cents what sounds differs from a key of a temperament. Most banks are
     /// slightly out of tune, so it is compared with the key of equal temperament that was played.
@@ -45,7 +48,8 @@ protected:
         // Pitches are counted an octave higher than they sound: see docs/decisions.md, 1.
         const double wanted = temperament.pitchAt(key) / 2.0;
         const double played = equal.pitchAt(sounding) / 2.0;
-        const double hertz = measuredHertz(rendered(synthesizer_, kRate).left, kRate, wanted);
+        const double hertz =
+            measuredHertz(rendered(synthesizer_, kLaneRate).left, kLaneRate, wanted);
         return cents(hertz, wanted) - bankErrorOf(sounding, played);
     }
 
@@ -54,11 +58,12 @@ protected:
         const auto known = bankErrors_.find(sounding);
         if (known != bankErrors_.end())
             return known->second;
-        Synthesizer other(kRate, {kBank});
+        Synthesizer other(kLaneRate, {kBank});
         other.midiEvent(0xC0, kSteadyProgram, 0);
         other.midiEvent(0x90, sounding, 76);
-        rendered(other, kRate / 2);
-        const double error = cents(measuredHertz(rendered(other, kRate).left, kRate, hertz), hertz);
+        rendered(other, kLaneRate / 2);
+        const double error =
+            cents(measuredHertz(rendered(other, kLaneRate).left, kLaneRate, hertz), hertz);
         bankErrors_[sounding] = error;
         return error;
     }
@@ -70,7 +75,8 @@ protected:
     }
 
     std::map<int, double> bankErrors_;
-    std::unique_ptr<Synthesizer> device_ = std::make_unique<Synthesizer>(kRate, std::vector{kBank});
+    std::unique_ptr<Synthesizer> device_ =
+        std::make_unique<Synthesizer>(kLaneRate, std::vector{kBank});
     Synthesizer& synthesizer_ = *device_;
     MIDIInstrument instrument_{std::move(device_)};
 };

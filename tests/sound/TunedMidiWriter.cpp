@@ -21,7 +21,7 @@ namespace velmora {
 
 namespace {
 
-constexpr double kRate = 48000.0;
+constexpr double kFileRate = 48000.0;
 const Program kSines{.bank = 0, .number = 0, .name = {}, .isPercussion = false};
 
 /// Returns a SoundFont that is exactly in tune.
@@ -37,7 +37,7 @@ std::vector<float> played(const std::string& file)
 {
     const std::unique_ptr<fluid_settings_t, void (*)(fluid_settings_t*)> settings(
         new_fluid_settings(), delete_fluid_settings);
-    fluid_settings_setnum(settings.get(), "synth.sample-rate", kRate);
+    fluid_settings_setnum(settings.get(), "synth.sample-rate", kFileRate);
     fluid_settings_setint(settings.get(), "synth.reverb.active", 0);
     fluid_settings_setint(settings.get(), "synth.chorus.active", 0);
     const std::unique_ptr<fluid_synth_t, void (*)(fluid_synth_t*)> synth(
@@ -58,7 +58,7 @@ std::vector<float> played(const std::string& file)
 
 void pass(TunedMidiWriter& writer, double seconds)
 {
-    std::vector<float> none(static_cast<std::size_t>(kRate * seconds));
+    std::vector<float> none(static_cast<std::size_t>(kFileRate * seconds));
     writer.source()->render(none.data(), none.data(), none.size(), AudioSource::kOffline);
 }
 
@@ -79,18 +79,18 @@ double errorAt(std::span<const float> sound, double seconds, const Temperament& 
                int key)
 {
     constexpr std::size_t kFrames = 24000;
-    const auto begin = static_cast<std::size_t>(kRate * seconds);
+    const auto begin = static_cast<std::size_t>(kFileRate * seconds);
     if (sound.size() < begin + kFrames)
         return HUGE_VAL;
     const double expected = temperament.pitchAt(key) / 2.0;
     return 1200.0 *
-           std::log2(measuredHertz(sound.subspan(begin, kFrames), kRate, expected) / expected);
+           std::log2(measuredHertz(sound.subspan(begin, kFrames), kFileRate, expected) / expected);
 }
 
 /// Returns the errors of the keys from `first` to `last`, which sound one after the other.
 std::vector<double> errorsOf(const Temperament& temperament, int first, int last)
 {
-    TunedMidiWriter writer(kSines, 97.0, kRate);
+    TunedMidiWriter writer(kSines, 97.0, kFileRate);
     writer.tune(temperament, 0, kLastKey);
     for (int key = first; key <= last; ++key) {
         writer.play(key, 0.7F);
@@ -126,7 +126,7 @@ TEST(TunedMidiWriter, WritesFilesThatSoundInTheTemperament)
 
 TEST(TunedMidiWriter, BendsWhatSoundsWhenAnAdaptiveTemperamentMovesIt)
 {
-    TunedMidiWriter writer(kSines, 120.0, kRate);
+    TunedMidiWriter writer(kSines, 120.0, kFileRate);
     FollowingMeantone temperament;
     writer.tune(temperament, 0, kLastKey);
     const auto strike = [&](int key, double time) {
@@ -149,7 +149,7 @@ TEST(TunedMidiWriter, BendsWhatSoundsWhenAnAdaptiveTemperamentMovesIt)
 TEST(TunedMidiWriter, TellsWhichNotesFindNoChannel)
 {
     const ScaleTemperament many = equalSteps(53);
-    TunedMidiWriter writer(kSines, 120.0, kRate);
+    TunedMidiWriter writer(kSines, 120.0, kFileRate);
     writer.tune(many, 0, kLastKey);
     for (int key = 50; key < 65; ++key)
         writer.play(key, 0.5F);
