@@ -83,6 +83,7 @@ Piece pieceOf(const SequenceDocument& document, const std::string& title, Temper
 
     const auto& notes = document.sequence().notes();
     std::vector<TimedKey> keys;
+    keys.reserve(notes.size());
     for (const Note& note : notes)
         keys.push_back({note.start / kStepsPerFileSecond,
                         (note.start + note.length) / kStepsPerFileSecond, note.key});

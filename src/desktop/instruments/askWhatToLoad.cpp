@@ -27,6 +27,7 @@ std::optional<ImportOptions> askWhatToLoad(const QString& message,
     QMessageBox box(QMessageBox::Warning, QObject::tr("Velmora"), message, QMessageBox::Cancel,
                     QApplication::activeWindow());
     std::vector<QAbstractButton*> buttons;
+    buttons.reserve(fitting.size());
     for (const ImportOptions& options : fitting)
         buttons.push_back(box.addButton(buttonText(options), QMessageBox::AcceptRole));
     box.exec();
