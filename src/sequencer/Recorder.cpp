@@ -41,6 +41,7 @@ void Recorder::record()
         if (transport_.reading() == Reading::Plain)
             takeHeldKeys();
         transport_.startRecording();
+        stoodSince_ = transport_.lastTick();
     }
 }
 
@@ -49,6 +50,7 @@ void Recorder::waitAt(double step)
     limit_ = runStart_ = step;
     openNotes_ = {};
     transport_.setPosition(step);
+    stoodSince_ = transport_.lastTick();
 }
 
 void Recorder::setChannel(unsigned char channel)
@@ -89,7 +91,7 @@ void Recorder::take(double from, double until)
         run(from, time);
         from = time;
         if (event->isPress)
-            press(*event, time - event->time);
+            press(*event, time);
         else
             release(event->key, time - event->time);
     }
@@ -154,10 +156,12 @@ void Recorder::run(double from, double until)
         seconds = snapToGrid_ ? 0.0 : std::min(seconds, room);
     }
     transport_.advance(seconds);
-    if (seconds < until - from)
-        runStart_ = transport_.position();
-    if (heldKeys_.any())
+    if (seconds < until - from && !stoodSince_)
+        stoodSince_ = from + seconds;
+    if (heldKeys_.any()) {
         limit_ = transport_.position() + kRoomBehindLastKey;
+        stoodSince_.reset();
+    }
 }
 
 double Recorder::positionBefore(double delay) const
@@ -166,14 +170,22 @@ double Recorder::positionBefore(double delay) const
     return std::max(position - delay * transport_.stepsPerSecond(), std::min(runStart_, position));
 }
 
-void Recorder::press(const KeyEvent& event, double delay)
+void Recorder::press(const KeyEvent& event, double time)
 {
-    const double position = positionBefore(delay);
+    const double delay = time - event.time;
+    double missed = 0.0; // a position that stands moves from the moment of the key
+    if (const auto since = std::exchange(stoodSince_, std::nullopt)) {
+        missed = std::clamp(time - *since, 0.0, delay);
+        if (event.time >= *since)
+            runStart_ = transport_.position();
+    }
+    const double position = positionBefore(delay - missed);
     if (openNotes_[event.key] != 0)
         lengthen(event.key, position); // pressed again from elsewhere
     transport_.host().liveKeys().take(event.key);
     heldKeys_.set(event.key);
     begin(event.key, event.velocity, position);
+    transport_.advance(missed);
 }
 
 void Recorder::release(std::size_t key, double delay)

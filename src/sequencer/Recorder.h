@@ -65,8 +65,10 @@ private:
     /// Moves the position from one time to another, in seconds.
     void run(double from, double until);
 
-    /// Takes an event that came `delay` seconds before the position.
-    void press(const KeyEvent& event, double delay);
+    /// Takes a press that becomes known at `time`, in seconds.
+    void press(const KeyEvent& event, double time);
+
+    /// Takes a release that came `delay` seconds before the position.
     void release(std::size_t key, double delay);
 
     double positionBefore(double delay) const;
@@ -79,6 +81,7 @@ private:
     bool snapToGrid_ = false;
     double limit_ = 0.0;    ///< The step at which the position stops while no key is held.
     double runStart_ = 0.0; ///< The step from which the position has moved without a stop.
+    std::optional<double> stoodSince_; ///< Since when the position waits; nothing if it moves.
 
     std::uint64_t place_ = 0;      ///< Of the next key event.
     std::vector<KeyEvent> events_; ///< Those that are not due yet, in order of time.

@@ -50,6 +50,9 @@ public:
     /// Advances by the time since the last tick. Call this 1024 times a second unless stopped.
     void tick();
 
+    /// The time of the last tick, in seconds.
+    double lastTick() const { return lastTick_; }
+
     /// Silences every note that sounds, but keeps the mode.
     void stop();
 

@@ -133,6 +133,25 @@ TEST_F(RecorderTest, TakesAKeyWhereItArrivedIfATickIsLate)
                                         FieldsAre(65, 3.0, 1.0)));
 }
 
+TEST_F(RecorderTest, BeginsWithTheMomentOfAKeyThatBecomesKnownLate)
+{
+    const double step = 1.0 / 15.0;
+    recorder_.record();
+    tick(10.0); // it waits
+    const double begun = now_ - 6.0 * step;
+    liveKeys_.press(60, 0.5F, begun);
+    liveKeys_.press(64, 0.5F, begun + 2.0 * step);
+    liveKeys_.release(60, begun + 3.0 * step);
+    tick(1.0);
+    liveKeys_.release(64, begun + 5.0 * step);
+    tick(20.0); // it waits again, 8 steps after the last key
+    EXPECT_NEAR(transport_.position(), 15.0, 0.1);
+    liveKeys_.press(67, 0.5F, now_ - 3.0 * step);
+    tick(1.0);
+    EXPECT_THAT(recorded(), ElementsAre(FieldsAre(60, 0.0, 3.0), FieldsAre(64, 2.0, 3.0),
+                                        FieldsAre(67, 15.0, 4.0)));
+}
+
 TEST_F(RecorderTest, LosesNothingWhileTheMainThreadSleeps)
 {
     struct Strike {

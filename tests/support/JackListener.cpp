@@ -1,5 +1,7 @@
 #include "support/JackListener.h"
 
+#include "base/Clock.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,7 +12,7 @@ namespace velmora {
 
 bool waitUntil(const std::function<bool()>& condition)
 {
-    for (int i = 0; i < 20'000; ++i) {
+    for (const double end = getTime() + 20.0; getTime() < end;) {
         if (condition())
             return true;
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
