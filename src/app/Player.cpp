@@ -50,6 +50,12 @@ Player::Divisions Player::divisions() const
     return divisions_;
 }
 
+void Player::setHeard(const ChannelSet& channels)
+{
+    const std::lock_guard lock(mutex_);
+    heard_ = channels;
+}
+
 void Player::setTemperament(Temperament& temperament)
 {
     const std::lock_guard lock(mutex_);
@@ -166,7 +172,10 @@ void Player::play(int key, float velocity, int channel, double time)
     const std::uint8_t division = divisions_.ofChannels[part];
     startedOn_[part][slot] = division;
     holders_.press(division, slot, kSequencer);
-    start(division, key, velocity, time);
+    if (heard_[part])
+        start(division, key, velocity, time);
+    else
+        follow(key, velocity, time);
 }
 
 void Player::stop(int key, int channel, double time)
@@ -232,13 +241,21 @@ void Player::fade()
             instrument->fade(kFadeFactor);
 }
 
-void Player::start(std::size_t division, int key, float velocity, double time)
+/// Lets the temperament choose the pitch of a key. Returns false if nothing can sound.
+bool Player::follow(int key, float velocity, double time)
 {
     if (instrument_ == nullptr || temperament_ == nullptr || !temperament_->isMapped(key))
-        return;
+        return false;
     instrument_->setDue(time);
     temperament_->setTime(momentFor(time));
     temperament_->setup(*instrument_, static_cast<unsigned char>(key), velocity);
+    return true;
+}
+
+void Player::start(std::size_t division, int key, float velocity, double time)
+{
+    if (!follow(key, velocity, time))
+        return;
     instrument_->playOn(division, key, velocity);
     markCurrent(division, key);
 }

@@ -12,12 +12,16 @@
 
 #include <array>
 #include <atomic>
+#include <bitset>
 #include <cstdint>
 #include <mutex>
 #include <optional>
 #include <vector>
 
 namespace velmora {
+
+/// Channels of a sequence, by their index.
+using ChannelSet = std::bitset<midi::kChannels>;
 
 /// Owns what sounds: which instrument and temperament are current, which instrument sounds each
 /// key, the keys of live input, and the lock that guards them all. Every function may be called on
@@ -44,6 +48,11 @@ public:
 
     /// The divisions of the current instrument that are played.
     Divisions divisions() const;
+
+    /// Chooses the channels of a sequence whose notes sound from now on; all do by default. The
+    /// temperament goes on following the notes of every channel, so that none sounds at another
+    /// pitch than it has among the others.
+    void setHeard(const ChannelSet& channels);
 
     /// Makes a temperament the current one and retunes the instrument, including sounding keys.
     void setTemperament(Temperament& temperament);
@@ -123,6 +132,7 @@ private:
     };
 
     // Called with the lock held:
+    bool follow(int key, float velocity, double time);
     void start(std::size_t division, int key, float velocity, double time);
     void release(std::size_t division, std::size_t key, KeySource source, double time);
     void stopEverywhere(std::size_t division, std::size_t key, double time);
@@ -136,6 +146,7 @@ private:
     std::vector<Sounding> instruments_; ///< All that have been current and were not removed.
     KeyHolders holders_;
     Divisions divisions_;
+    ChannelSet heard_ = ChannelSet().set();
     /// The division on which each channel of a sequence last started each key.
     std::array<std::array<std::uint8_t, kKeys>, midi::kChannels> startedOn_{};
     LiveKeys liveKeys_;

@@ -30,6 +30,7 @@ bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sin
         transport.selectInterval(begin, end);
     transport.setTempo(options.tempo);
     transport.setLoop(times > 1);
+    player_.setHeard(options.voices);
 
     int played = 0;
     transport.play();

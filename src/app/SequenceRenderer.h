@@ -23,6 +23,7 @@ struct RenderOptions {
     double tailSeconds = 1.0;
     double tempo = 120.0; ///< In beats per minute.
     std::optional<RenderLoop> loop;
+    ChannelSet voices = ChannelSet().set(); ///< The channels that sound.
 };
 
 /// Receives the rendered sound block by block.

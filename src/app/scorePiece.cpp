@@ -69,7 +69,8 @@ std::map<unsigned, std::string> addFile(const MidiFileEvents& file, Piece& piece
 
 } // namespace
 
-Piece pieceOf(const SequenceDocument& document, const std::string& title, Temperament& temperament)
+Piece pieceOf(const SequenceDocument& document, const std::string& title, Temperament& temperament,
+              const ChannelSet& voices)
 {
     Piece piece;
     piece.title = title;
@@ -91,6 +92,8 @@ Piece pieceOf(const SequenceDocument& document, const std::string& title, Temper
     std::map<unsigned, Piece::Part> parts;
     for (std::size_t i = 0; i < notes.size(); ++i) {
         const unsigned channel = notes[i].channel % midi::kChannels;
+        if (!voices[channel])
+            continue;
         const double start = tempoMap.beatsForSeconds(keys[i].start);
         parts[channel].notes.push_back({.start = start,
                                         .length = tempoMap.beatsForSeconds(keys[i].end) - start,

@@ -38,6 +38,7 @@ struct Arguments {
     std::string root;
     RenderOptions options;
     RenderLoop loop{0.0, 0.0, 2};
+    std::vector<std::size_t> voices; ///< Counted from 1.
     std::vector<std::string> files;
     std::string device; ///< "DRIVER" or "DRIVER:DEVICE" of the sound output.
     std::size_t period = 0;
@@ -177,6 +178,14 @@ CLI::App* addRender(CLI::App& program, Arguments& arguments)
     start->needs(end)->check(range(0.0, kLastStep));
     end->needs(start)->check(range(0.0, kLastStep));
     times->needs(start)->capture_default_str()->check(CLI::Range(1, 10000));
+    command
+        ->add_option("--voice", arguments.voices,
+                     "Render only the notes of this MIDI channel, from 1 to 16, tuned as in the "
+                     "whole piece; may be repeated")
+        ->take_all()
+        ->allow_extra_args(false)
+        ->type_name("NUMBER")
+        ->check(CLI::Range(1, midi::kChannels));
     return command;
 }
 
@@ -228,6 +237,10 @@ void runRender(const CLI::App& command, Arguments& arguments)
             throw CLI::ValidationError("--loop-end", "must be greater than --loop-start");
         arguments.options.loop = arguments.loop;
     }
+    if (!arguments.voices.empty())
+        arguments.options.voices.reset();
+    for (const std::size_t voice : arguments.voices)
+        arguments.options.voices.set(voice - 1);
     render(arguments.sequence, arguments.output, arguments.selection, arguments.options);
 }
 
