@@ -1380,6 +1380,27 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
 </context>
 <context>
+    <name>velmora::OutlyingNotes</name>
+    <message>
+        <source>The keyboard does not show these keys. Click to go to the first note.</source>
+        <translation type="unfinished">Die Klaviatur zeigt diese Tasten nicht. Klicken Sie, um zur ersten Note zu gehen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) below %1</source>
+        <translation type="unfinished">
+            <numerusform>%n Note unter %1</numerusform>
+            <numerusform>%n Noten unter %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) above %1</source>
+        <translation type="unfinished">
+            <numerusform>%n Note über %1</numerusform>
+            <numerusform>%n Noten über %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>

@@ -39,6 +39,23 @@
     </message>
 </context>
 <context>
+    <name>velmora::OutlyingNotes</name>
+    <message numerus="yes">
+        <source>%n note(s) below %1</source>
+        <translation>
+            <numerusform>%n note below %1</numerusform>
+            <numerusform>%n notes below %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) above %1</source>
+        <translation>
+            <numerusform>%n note above %1</numerusform>
+            <numerusform>%n notes above %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceDocument</name>
     <message numerus="yes">
         <source>Record %n Note(s)</source>

@@ -1380,6 +1380,27 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
 </context>
 <context>
+    <name>velmora::OutlyingNotes</name>
+    <message>
+        <source>The keyboard does not show these keys. Click to go to the first note.</source>
+        <translation type="unfinished">El teclado no muestra estas teclas. Haga clic para ir a la primera nota.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) below %1</source>
+        <translation type="unfinished">
+            <numerusform>%n nota por debajo de %1</numerusform>
+            <numerusform>%n notas por debajo de %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) above %1</source>
+        <translation type="unfinished">
+            <numerusform>%n nota por encima de %1</numerusform>
+            <numerusform>%n notas por encima de %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>

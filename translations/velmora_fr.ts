@@ -1380,6 +1380,27 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
 </context>
 <context>
+    <name>velmora::OutlyingNotes</name>
+    <message>
+        <source>The keyboard does not show these keys. Click to go to the first note.</source>
+        <translation type="unfinished">Le clavier ne montre pas ces touches. Cliquez pour aller à la première note.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) below %1</source>
+        <translation type="unfinished">
+            <numerusform>%n note au-dessous de %1</numerusform>
+            <numerusform>%n notes au-dessous de %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) above %1</source>
+        <translation type="unfinished">
+            <numerusform>%n note au-dessus de %1</numerusform>
+            <numerusform>%n notes au-dessus de %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>

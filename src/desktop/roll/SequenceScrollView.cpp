@@ -1,11 +1,13 @@
 #include "desktop/roll/SequenceScrollView.h"
 
 #include "desktop/roll/KeyRuler.h"
+#include "desktop/roll/OutlyingNotes.h"
 #include "desktop/roll/SequenceView.h"
 #include "desktop/roll/TimeRuler.h"
 #include "desktop/widgets/motion.h"
 #include "desktop/widgets/scheme.h"
 #include "preferences/Preferences.h"
+#include "sequencer/SequenceDocument.h"
 
 #include <QGridLayout>
 #include <QScrollBar>
@@ -45,9 +47,9 @@ int rescaled(int value, double anchor, int before, int after)
 
 SequenceScrollView::SequenceScrollView(QWidget* parent)
     : QWidget(parent), view_(new SequenceView), ruler_(new KeyRuler),
-      timeRuler_(new TimeRuler(*view_)), horizontal_(new QScrollBar(Qt::Horizontal)),
-      vertical_(new QScrollBar(Qt::Vertical)), keyWidth_(getPrefInt("KeyWidth")),
-      keyHeight_(getPrefInt("KeyHeight"))
+      timeRuler_(new TimeRuler(*view_)), outlyingNotes_(new OutlyingNotes(*view_)),
+      horizontal_(new QScrollBar(Qt::Horizontal)), vertical_(new QScrollBar(Qt::Vertical)),
+      keyWidth_(getPrefInt("KeyWidth")), keyHeight_(getPrefInt("KeyHeight"))
 {
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins({});
@@ -78,6 +80,7 @@ SequenceScrollView::SequenceScrollView(QWidget* parent)
         ruler_->setDocument(view_->document());
         timeRuler_->setDocument(view_->document(), view_->editor());
     });
+    connect(outlyingNotes_, &OutlyingNotes::chosen, this, &SequenceScrollView::reveal);
     connect(view_, &SequenceView::draggedBeyondEdge, this, [this](QPoint pixels) {
         scrollTo(location() + pixels);
         emit scrolledByUser();
@@ -102,6 +105,7 @@ void SequenceScrollView::updateSize(double steps)
     timeRuler_->update();
     view_->redraw();
     ruler_->update();
+    outlyingNotes_->update();
 }
 
 void SequenceScrollView::fitBars()
@@ -156,6 +160,13 @@ void SequenceScrollView::setBars(QPoint point)
 void SequenceScrollView::scrollVertically(double y)
 {
     scrollTo({destination().x(), barValue(y)});
+}
+
+void SequenceScrollView::reveal(const Note& note)
+{
+    glideTo({barValue((note.key + 0.5) * keyWidth_ - view_->width() / 2.0),
+             barValue(note.start * keyHeight_ - view_->height() / 2.0)});
+    emit scrolledByUser();
 }
 
 QPoint SequenceScrollView::location() const

@@ -10,8 +10,10 @@ class QScrollBar;
 namespace velmora {
 
 class KeyRuler;
+class OutlyingNotes;
 class SequenceView;
 class TimeRuler;
+struct Note;
 
 /// The piano roll with its scroll bars, a ruler of key names and, in the calm scheme, one of bars.
 /// Points of the roll are in pixels from its lower left corner; step 0 is at the bottom.
@@ -55,6 +57,9 @@ private:
     bool event(QEvent* event) override;
     bool scrollByKey(int key);
 
+    /// Scrolls until a note begins in the middle of the view.
+    void reveal(const Note& note);
+
     /// Scrolls as `scrollTo` does, but gliding if the user likes motion.
     void glideTo(QPoint point);
 
@@ -69,6 +74,7 @@ private:
     SequenceView* view_;
     KeyRuler* ruler_;
     TimeRuler* timeRuler_;
+    OutlyingNotes* outlyingNotes_;
     QScrollBar *horizontal_, *vertical_;
     double steps_ = 0.0;
 
