@@ -360,16 +360,17 @@ TEST_F(SequenceViewTest, LeadsToNotesThatTheKeyboardDoesNotShow)
         QStringList shown;
         for (const auto* text : view.findChildren<QPushButton*>())
             if (text->isVisible())
-                shown += text->text();
+                shown += text->text().replace("(s)", "s"); // translated or not
         return shown;
     };
     put(108, 2, 1);
     put(21, 2, 1);
     EXPECT_THAT(texts(), IsEmpty()) << "the keyboard goes from A0 to C8";
     put(20, 700, 1);
+    put(19, 800, 1);
     put(109, 900, 1);
     put(110, 500, 1);
-    EXPECT_THAT(texts(), ElementsAre("1 note(s) below A0", "2 note(s) above C8"));
+    EXPECT_THAT(texts(), ElementsAre("2 notes below A0", "2 notes above C8"));
     auto* above = view.findChildren<QPushButton*>().back();
     above->click();
     const RollGeometry shown = view.rollGeometry();
@@ -377,7 +378,7 @@ TEST_F(SequenceViewTest, LeadsToNotesThatTheKeyboardDoesNotShow)
     EXPECT_TRUE(shown.bottomStep() < 500 && 500 < shown.topStep()) << "the earlier one";
     setPrefInt("KeyRangeHi", 110);
     scrollView.updateSize(1000);
-    EXPECT_THAT(texts(), ElementsAre("1 note(s) below A0"));
+    EXPECT_THAT(texts(), ElementsAre("2 notes below A0"));
     resetPref("KeyRangeHi");
 }
 
