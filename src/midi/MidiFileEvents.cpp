@@ -130,6 +130,19 @@ MidiFileEvents readMidiFileEvents(std::span<const std::byte> bytes)
     return result;
 }
 
+std::string_view metaData(const FileEvent& event, std::uint8_t type)
+{
+    std::string_view data = event.data;
+    if (event.status != midi::kMetaEvent || data.empty() ||
+        static_cast<std::uint8_t>(data.front()) != type)
+        return {};
+    data.remove_prefix(1);
+    // The length takes as many bytes as have their highest bit set, and one more.
+    while (!data.empty() && static_cast<std::uint8_t>(data.front()) >= midi::kStatusBit)
+        data.remove_prefix(1);
+    return data.empty() ? data : data.substr(1);
+}
+
 bool skipsNotes(const FileEvent& event)
 {
     return event.status == midi::kMetaEvent && event.data.size() == kSkipNotes.size() + 3 &&

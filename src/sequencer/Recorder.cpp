@@ -152,7 +152,7 @@ void Recorder::run(double from, double until)
     double seconds = until - from;
     // See docs/decisions.md, 101.
     if (heldKeys_.none()) {
-        const double room = std::max(limit_ - position, 0.0) / transport_.stepsPerSecond();
+        const double room = transport_.pace().secondsBetween(position, std::max(limit_, position));
         seconds = snapToGrid_ ? 0.0 : std::min(seconds, room);
     }
     transport_.advance(seconds);
@@ -167,7 +167,7 @@ void Recorder::run(double from, double until)
 double Recorder::positionBefore(double delay) const
 {
     const double position = transport_.position();
-    return std::max(position - delay * transport_.stepsPerSecond(), std::min(runStart_, position));
+    return std::max(transport_.pace().stepAfter(position, -delay), std::min(runStart_, position));
 }
 
 void Recorder::press(const KeyEvent& event, double time)
@@ -217,7 +217,8 @@ void Recorder::lengthen(std::size_t key, double position)
     Note* const note = sequence_.find(openNotes_[key]);
     if (note == nullptr || position < note->start) // edited during the take
         return;
-    const double shortest = transport_.stepsPerSecond() * kTick.count(); // can be seen and heard
+    // Shorter notes could be neither seen nor heard.
+    const double shortest = transport_.pace().stepsPerSecondAt(note->start) * kTick.count();
     const double exact = position - note->start;
     const double length = snapToGrid_ ? std::floor(exact) : std::max(exact, shortest);
     if (length == note->length)

@@ -8,6 +8,7 @@
 #include "preferences/Preferences.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SourceFile.h"
+#include "sequencer/SwapCommand.h"
 #include "sequencer/UnsavedSequence.h"
 
 #include <algorithm>
@@ -16,6 +17,20 @@
 #include <utility>
 
 namespace velmora {
+
+namespace {
+
+/// Turns the times of a note into those that the plain reading gives it in a file.
+void layOutInSeconds(Note& note, const MusicalTime& time)
+{
+    const double start = time.secondsAt(note.start);
+    note.length = (time.secondsAt(note.start + note.length) - start) * kStepsPerFileSecond;
+    note.start = start * kStepsPerFileSecond;
+    note.oldStart = note.start;
+    note.oldLength = note.length;
+}
+
+} // namespace
 
 /// One entry of the undo history. It holds the other state of the notes of an edit: the earlier one
 /// after the edit or a redo, the later one after an undo.
@@ -56,6 +71,7 @@ SequenceDocument::SequenceDocument(SequenceHost& host, Reading reading,
             if (transport_.mode() == Transport::Mode::Stopped)
                 practice_.showKeys();
         });
+    forgetFile();
     // See docs/decisions.md, 126.
     host.liveKeys().clear();
 }
@@ -65,14 +81,11 @@ void SequenceDocument::read(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
     errorString_.clear();
-    damage_.clear();
-    path_.clear();
     transport_.stop();
     undoStack_.clear();
     recorder_.endTake();
-    isImported_ = false;
-    source_.reset();
     const Edit edit(*this, {});
+    forgetFile();
     *edit = {};
     try {
         Sequence sequence;
@@ -93,6 +106,15 @@ void SequenceDocument::read(const std::filesystem::path& path)
     emit transport_.frame();
 }
 
+void SequenceDocument::forgetFile()
+{
+    path_.clear();
+    damage_.clear();
+    isImported_ = false;
+    source_ = reading() == Reading::Musical ? std::make_shared<SourceFile>() : nullptr;
+    transport_.setTime({});
+}
+
 void SequenceDocument::readPlainly(const std::filesystem::path& path, Sequence& sequence)
 {
     isImported_ = readSequence(readStandardMidiFile(readFile(path)), getPrefInt("KeyRangeLo"),
@@ -103,6 +125,7 @@ void SequenceDocument::readPlainly(const std::filesystem::path& path, Sequence& 
 void SequenceDocument::readMusically(const std::filesystem::path& path, Sequence& sequence)
 {
     source_ = std::make_shared<SourceFile>(readFile(path), sequence);
+    transport_.setTime(source_->time());
     if (const auto& damage = source_->damage()) {
         damage_ = damage->inFile(path.filename().string());
         logger("sequencer").info("{}", damage_);
@@ -153,7 +176,8 @@ UnsavedSequence SequenceDocument::snapshot() const
     const auto now = std::chrono::system_clock::now();
     return {path_,       std::chrono::floor<std::chrono::milliseconds>(now),
             isImported_, sequence_.notes(),
-            reading(),   source_};
+            time(),      reading(),
+            source_};
 }
 
 void SequenceDocument::recover(const UnsavedSequence& unsaved)
@@ -162,15 +186,21 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
     const Edit edit(*this, {});
     *edit = {};
     edit->reserve(unsaved.notes.size());
+    const bool isPlain = reading() == Reading::Plain;
     for (Note note : unsaved.notes) {
+        if (isPlain && unsaved.source)
+            layOutInSeconds(note, unsaved.musicalTime);
         note.id = 0;
         note.active = note.playing = note.selected = false;
         edit->addNote(note);
     }
+    forgetFile();
     path_ = unsaved.path;
-    isImported_ = unsaved.isImported;
-    source_ = unsaved.source;
-    damage_.clear();
+    isImported_ = unsaved.isImported || (isPlain && unsaved.source);
+    if (!isPlain && unsaved.source)
+        source_ = unsaved.source;
+    if (!isPlain)
+        transport_.setTime(unsaved.musicalTime);
     errorString_.clear();
     recorder_.endTake();
     undoStack_.clear();
@@ -230,6 +260,18 @@ void SequenceDocument::swap(std::vector<NoteState>& notes)
     }
     practice_.showKeys(); // other notes may be wanted now
     emit transport_.frame();
+}
+
+void SequenceDocument::setTime(MusicalTime time, const QString& text)
+{
+    if (time == this->time())
+        return;
+    registerTake();
+    undoStack_.push(new SwapCommand(text, [this, time = std::move(time)]() mutable {
+        MusicalTime before = this->time();
+        transport_.setTime(std::exchange(time, std::move(before)));
+        emit changed();
+    }));
 }
 
 void SequenceDocument::perform(std::vector<NoteState> notes, const QString& text)

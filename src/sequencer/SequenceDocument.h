@@ -40,6 +40,13 @@ public:
 
     const Sequence& sequence() const { return sequence_; }
 
+    /// The tempos, signatures and markers of the piece.
+    const MusicalTime& time() const { return transport_.time(); }
+
+    /// Replaces them, as an edit that can be undone. `text` names it in the menu. Does nothing if
+    /// they are the same.
+    void setTime(MusicalTime time, const QString& text);
+
     Transport& transport() { return transport_; }
     const Transport& transport() const { return transport_; }
     Recorder& recorder() { return recorder_; }
@@ -74,7 +81,8 @@ public:
     /// True if the file that was read held more than the document keeps.
     bool isImported() const { return isImported_; }
 
-    /// The file from which the document was opened; null if nothing but notes is kept of it.
+    /// The file from which the document was opened, or an empty one; null in the plain reading,
+    /// which keeps nothing but notes.
     const SourceFile* source() const { return source_.get(); }
 
     /// The current state of the document, to be kept in case of a crash.
@@ -113,7 +121,7 @@ public:
     bool isModified() const { return !undoStack_.isClean() || recorder_.hasTake(); }
 
 signals:
-    /// Notes or the selection have changed.
+    /// Notes, the selection or the time of the piece have changed.
     void changed();
 
 private:
@@ -127,6 +135,9 @@ private:
     /// in the undo history.
     void swap(std::vector<NoteState>& notes);
 
+    /// Forgets the file, its time and its damage.
+    void forgetFile();
+
     Sequence sequence_;
     Transport transport_;
     Recorder recorder_;
@@ -135,7 +146,7 @@ private:
     std::filesystem::path path_;
     std::string errorString_, damage_;
     bool isImported_ = false;
-    std::shared_ptr<const SourceFile> source_; ///< Null if nothing but notes is kept of the file.
+    std::shared_ptr<const SourceFile> source_; ///< Null in the plain reading.
     int edits_ = 0;                            ///< Number of edits in progress; they can be nested.
 };
 

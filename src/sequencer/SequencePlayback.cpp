@@ -101,7 +101,7 @@ void SequencePlayback::playAhead(AheadPlayer* player)
     player_ = player;
 }
 
-void SequencePlayback::planAhead(double step, double time, double stepsPerSecond, double end)
+void SequencePlayback::planAhead(double step, double time, const Pace& pace, double end)
 {
     if (player_ == nullptr || isPlanned_)
         return;
@@ -110,8 +110,8 @@ void SequencePlayback::planAhead(double step, double time, double stepsPerSecond
     replanTime_ = time + kTick.count() * kTicksPlanned / 2;
     actions_.clear();
     for (int tick = 0; tick < kTicksPlanned; ++tick) {
-        const double from = step + stepsPerSecond * kTick.count() * tick;
-        const double to = step + stepsPerSecond * kTick.count() * (tick + 1);
+        const double from = pace.stepAfter(step, kTick.count() * tick);
+        const double to = pace.stepAfter(step, kTick.count() * (tick + 1));
         if (to > end) {
             replanTime_ = std::numeric_limits<double>::infinity();
             break;
@@ -122,7 +122,7 @@ void SequencePlayback::planAhead(double step, double time, double stepsPerSecond
 }
 
 // See docs/decisions.md, 188.
-void SequencePlayback::planLoop(double step, double time, double stepsPerSecond, double start,
+void SequencePlayback::planLoop(double step, double time, const Pace& pace, double start,
                                 double end)
 {
     if (player_ == nullptr || isPlanned_)
@@ -131,32 +131,30 @@ void SequencePlayback::planLoop(double step, double time, double stepsPerSecond,
     planStart_ = step;
     replanTime_ = time + kTick.count() * kTicksPlanned / 2;
     actions_.clear();
-    const double last = step + stepsPerSecond * kTick.count() * kTicksPlanned;
+    const double last = time + kTick.count() * kTicksPlanned;
     double ahead = 0.0; // of the loop's steps
-    for (double from = step; from + ahead < last;) {
-        const double to = std::min(end, last - ahead);
-        planPass(from, to, time - (step - ahead) / stepsPerSecond, stepsPerSecond, ahead);
-        if (to < end)
+    for (double from = step; time < last; from = start) {
+        const double turn = time + pace.secondsBetween(from, end);
+        if (turn > last) {
+            planPass(from, std::min(end, pace.stepAfter(from, last - time)), time, pace, ahead);
             break;
-        const double turn = end + ahead;
+        }
+        planPass(from, end, time, pace, ahead);
         for (const std::uint32_t key : index().keys())
-            actions_.push_back({false, key, kEveryChannel, 0.0F,
-                                time + (turn - step) / stepsPerSecond + kBehindPosition,
-                                turn + kPastAction});
+            actions_.push_back({false, key, kEveryChannel, 0.0F, turn + kBehindPosition,
+                                end + ahead + kPastAction});
         ahead += end - start;
-        from = start;
+        time = turn;
     }
     player_->plan(actions_);
 }
 
-/// Adds the notes between two steps, each at its own time. Step 0 is at `time`.
-void SequencePlayback::planPass(double from, double to, double time, double stepsPerSecond,
-                                double ahead)
+void SequencePlayback::planPass(double from, double to, double time, const Pace& pace, double ahead)
 {
     const auto begin = static_cast<std::ptrdiff_t>(actions_.size());
     const auto add = [&](const Note& note, bool starts, double step) {
         actions_.push_back({starts, note.key, channelOf(note), starts ? note.velocity : 0.0F,
-                            time + step / stepsPerSecond + kBehindPosition,
+                            time + pace.secondsBetween(from, step) + kBehindPosition,
                             step + ahead + kPastAction});
     };
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {

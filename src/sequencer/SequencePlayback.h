@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sequencer/AheadPlayer.h"
+#include "sequencer/Pace.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/SequenceIndex.h"
@@ -35,10 +36,10 @@ public:
     /// Plans the notes of the next quarter of a second from `step` at `time`, tick by tick, up to
     /// `end`. Until the plan is cancelled, `playBetween` only flags notes. Does nothing without a
     /// player, or if there is a plan.
-    void planAhead(double step, double time, double stepsPerSecond, double end);
+    void planAhead(double step, double time, const Pace& pace, double end);
 
     /// Does the same for a loop, at whose end the notes are planned from its start again.
-    void planLoop(double step, double time, double stepsPerSecond, double start, double end);
+    void planLoop(double step, double time, const Pace& pace, double start, double end);
 
     /// Flags the notes at the end of a loop as silent, and silences them unless the plan has done
     /// so. `playBetween` goes on at the start.
@@ -76,7 +77,10 @@ public:
 private:
     void stopOnInstrument(std::uint32_t key, int channel);
     void collect(double from, double to, double time);
-    void planPass(double from, double to, double time, double stepsPerSecond, double ahead);
+
+    /// Adds the notes between two steps, each at its own time. `from` is at `time`.
+    void planPass(double from, double to, double time, const Pace& pace, double ahead);
+
     void clearMarks();
     SequenceIndex& index();
     bool isMarked(std::uint32_t noteIndex) const;

@@ -1,8 +1,9 @@
 #include "sequencer/SourceFile.h"
 
+#include "midi/MidiTrack.h"
+#include "midi/StandardMidiFileWriter.h"
 #include "midi/messages.h"
 #include "sequencer/Sequence.h"
-#include "sequencer/SequenceFile.h"
 #include "sequencer/SourceFileWriter.h"
 
 #include <cstdint>
@@ -10,17 +11,24 @@
 
 namespace velmora {
 
+SourceFile::SourceFile()
+{
+    const std::string bytes = MidiTrack().finish(kTicksPerBeat);
+    const auto view = std::as_bytes(std::span(bytes));
+    bytes_.assign(view.begin(), view.end());
+}
+
 SourceFile::SourceFile(std::vector<std::byte> bytes, Sequence& sequence) : bytes_(std::move(bytes))
 {
     const MidiFileEvents file = readMidiFileEvents(bytes_);
     damage_ = file.damage;
+    time_ = musicalTimeOf(file);
     std::uint32_t origin = 0;
     for (const FileTrack& track : file.tracks) {
         const std::vector<FileNote> notes = notesOf(track);
         sequence.reserve(sequence.notes().size() + notes.size());
         const auto stepAt = [&](std::uint64_t tick) {
-            const double beats = static_cast<double>(tick) / file.header.ticksPerBeat;
-            return file.tempoMap.secondsForBeats(beats) * kStepsPerFileSecond;
+            return static_cast<double>(tick) / file.header.ticksPerBeat * kStepsPerBeat;
         };
         for (const FileNote& fileNote : notes) {
             ++origin;

@@ -2,6 +2,7 @@
 
 #include "base/FormatError.h"
 #include "midi/MidiFileEvents.h"
+#include "sequencer/MusicalTime.h"
 
 #include <cstddef>
 #include <optional>
@@ -19,12 +20,18 @@ struct Note;
 /// controllers and the division into tracks stay.
 class SourceFile {
 public:
+    /// A file without events, for a new document.
+    SourceFile();
+
     /// Reads a file and adds its notes to an empty sequence, which is sorted afterwards. Notes
     /// without length stay in the file alone. Each note knows by `Note::origin` where it comes
     /// from. Throws FormatError if nothing could be read.
     SourceFile(std::vector<std::byte> bytes, Sequence& sequence);
 
     const std::vector<std::byte>& bytes() const { return bytes_; }
+
+    /// The tempos and bars of the file.
+    const MusicalTime& time() const { return time_; }
 
     /// Why the file could not be read to its end; nothing if it was read whole.
     const std::optional<FormatError>& damage() const { return damage_; }
@@ -39,6 +46,7 @@ public:
 private:
     std::vector<std::byte> bytes_;
     std::optional<FormatError> damage_;
+    MusicalTime time_;
 };
 
 } // namespace velmora

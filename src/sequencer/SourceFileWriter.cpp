@@ -7,6 +7,7 @@
 #include "midi/messages.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceFile.h"
+#include "sequencer/SequenceTime.h"
 
 #include <algorithm>
 #include <cmath>
@@ -108,8 +109,7 @@ void SourceFileWriter::divideTicks(const std::vector<const Note*>& edited)
 
 double SourceFileWriter::tickAt(double step) const
 {
-    const double seconds = std::max(step, 0.0) / kStepsPerFileSecond;
-    return file_.tempoMap.beatsForSeconds(seconds) * file_.header.ticksPerBeat *
+    return std::max(step, 0.0) / kStepsPerBeat * file_.header.ticksPerBeat *
            static_cast<double>(factor_);
 }
 

@@ -71,9 +71,14 @@ void Transport::tick()
         emit frame();
 }
 
+Pace Transport::pace() const
+{
+    return reading_ == Reading::Plain ? Pace(kPlainStepsPerSecond * speed_) : Pace(time_, speed_);
+}
+
 double Transport::positionAt(double time) const
 {
-    return position_ + stepsPerSecond() * (time - lastTick_);
+    return pace().stepAfter(position_, time - lastTick_);
 }
 
 double Transport::endOfPlaying() const
@@ -84,28 +89,32 @@ double Transport::endOfPlaying() const
 std::optional<Interval> Transport::endlessLoop() const
 {
     const Interval loop{interval_.isEmpty() ? 0.0 : interval_.start, endOfPlaying()};
-    const bool isLong = loop.end - loop.start > stepsPerSecond() * kTick.count();
+    const bool isLong = pace().secondsBetween(loop.start, loop.end) > kTick.count();
     // In the plain reading every pass is longer by the rest of a tick.
     return loop_ && reading_ == Reading::Musical && isLong && position_ <= loop.end
                ? std::optional(loop)
                : std::nullopt;
 }
 
-double Transport::playPasses(double next)
+double Transport::playPasses(double seconds)
 {
     const auto loop = endlessLoop();
-    while (loop && next > loop->end) {
+    if (!loop)
+        return pace().stepAfter(position_, seconds);
+    double rest = pace().secondsBetween(position_, loop->end);
+    while (seconds > rest) {
         playback_.playBetween(position_, loop->end);
         playback_.wrap(loop->start, loop->end);
         position_ = loop->start;
-        next -= loop->end - loop->start;
+        seconds -= rest;
+        rest = pace().secondsBetween(loop->start, loop->end);
     }
-    return next;
+    return std::min(pace().stepAfter(position_, seconds), loop->end);
 }
 
 void Transport::playUntil(double now)
 {
-    double next = playPasses(positionAt(now));
+    double next = playPasses(now - lastTick_);
     if (next <= endOfPlaying()) {
         if (const auto lastKey = playback_.playBetween(position_, next))
             // See docs/decisions.md, 91.
@@ -122,9 +131,9 @@ void Transport::playUntil(double now)
     if (mode_ != Mode::Playing)
         return;
     if (const auto loop = endlessLoop())
-        playback_.planLoop(next, now, stepsPerSecond(), loop->start, loop->end);
+        playback_.planLoop(next, now, pace(), loop->start, loop->end);
     else
-        playback_.planAhead(next, now, stepsPerSecond(), endOfPlaying());
+        playback_.planAhead(next, now, pace(), endOfPlaying());
 }
 
 void Transport::settle()
@@ -132,7 +141,7 @@ void Transport::settle()
     if (!playback_.cancelPlan())
         return;
     const double now = clock_();
-    const double later = playPasses(positionAt(now));
+    const double later = playPasses(now - lastTick_);
     const double next = std::max(position_, std::min(later, endOfPlaying()));
     playback_.playBetween(position_, next);
     playback_.finishPlan();
@@ -162,7 +171,7 @@ void Transport::scrollTo(double step)
 
 void Transport::advance(double seconds)
 {
-    position_ += stepsPerSecond() * seconds;
+    position_ = pace().stepAfter(position_, seconds);
 }
 
 void Transport::revealPosition()
@@ -183,10 +192,17 @@ void Transport::setExtent(double extent)
         emit extentChanged();
 }
 
-void Transport::setTempo(double tempo)
+void Transport::setTime(MusicalTime time)
 {
     settle();
-    tempo_ = tempo;
+    time_ = std::move(time);
+    emit optionsChanged();
+}
+
+void Transport::setSpeed(double speed)
+{
+    settle();
+    speed_ = speed;
     emit optionsChanged();
 }
 

@@ -2,6 +2,8 @@
 
 #include "base/Clock.h"
 #include "base/Reading.h"
+#include "sequencer/MusicalTime.h"
+#include "sequencer/Pace.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/SequencePlayback.h"
@@ -65,7 +67,7 @@ public:
     /// Moves the position. The view follows unless an interval is selected.
     void scrollTo(double step);
 
-    /// Moves the position by seconds at the current tempo, without a signal.
+    /// Moves the position by seconds at the current pace, without a signal.
     void advance(double seconds);
 
     /// Asks the view to show the position.
@@ -84,12 +86,20 @@ public:
     double extent() const { return extent_; }
     void setExtent(double extent);
 
-    /// Beats a minute, above 0.
-    double tempo() const { return tempo_; }
-    void setTempo(double tempo);
+    /// The tempos and bars of the piece.
+    const MusicalTime& time() const { return time_; }
+    void setTime(MusicalTime time);
 
-    /// The steps of a second at the tempo.
-    double stepsPerSecond() const { return velmora::stepsPerSecond(tempo_, reading_); }
+    /// How fast the piece is played: 1 as it is written, 2 twice as fast.
+    double speed() const { return speed_; }
+    void setSpeed(double speed);
+
+    /// How the position moves. Valid until the time of the piece changes.
+    Pace pace() const;
+
+    /// Returns where the position is at a time in seconds, before or after the last tick, if
+    /// nothing ends or stops it.
+    double positionAt(double time) const;
 
     /// True if playing starts over at the end: from the start of the selected interval, or of the
     /// sequence if nothing is selected.
@@ -122,18 +132,17 @@ signals:
 
     void extentChanged();
 
-    /// The tempo or looping has changed.
+    /// The speed, looping or the time of the piece has changed.
     void optionsChanged();
 
 private:
-    double positionAt(double time) const;
     double endOfPlaying() const;
 
     /// The part that is played again and again without a gap; nothing if there is none.
     std::optional<Interval> endlessLoop() const;
 
-    /// Plays the passes of a loop that end before a position. Returns where it lies in the next.
-    double playPasses(double next);
+    /// Plays the passes of a loop that end within `seconds`. Returns the position after them.
+    double playPasses(double seconds);
 
     void playUntil(double now);
     void setMode(Mode mode);
@@ -145,7 +154,8 @@ private:
     Mode mode_ = Mode::Stopped;
     double position_ = 0.0;
     double lastTick_; ///< In seconds.
-    double tempo_ = 120.0;
+    double speed_ = 1.0;
+    MusicalTime time_;
     double extent_ = 0.0;
     Interval interval_;
     bool loop_ = false;

@@ -46,7 +46,7 @@ TEST_F(AheadPlayerTest, SoundsEachNoteOnceAndOnTime)
     live_.transport().play();
     const double started = getTime();
     runFor(std::chrono::milliseconds(1000));
-    live_.transport().setTempo(240.0); // cancels the plan for the slower tempo
+    live_.transport().setSpeed(2.0); // cancels the plan for the slower tempo
     runFor(std::chrono::milliseconds(600));
     const Calls calls = std::exchange(calls_, {});
     onPlay_ = nullptr;
@@ -103,7 +103,11 @@ TEST_F(AheadPlayerTest, LoopsWithoutAGapWhileTheMainThreadIsBusy)
     musical.edit()->addNote({.start = 2.0, .length = 9.0, .velocity = 1.0F, .key = 64});
     musical.edit()->sort();
     musical.updateExtent();
-    musical.transport().selectInterval(0.0, 4.0); // a quarter of a second
+    MusicalTime time;
+    time.setTempos({Tempo::ofBeats(2.0, 240.0)});
+    musical.setTime(time, {});
+    musical.transport().selectInterval(0.0, 4.0);
+    constexpr double kPass = 2.0 / 16.0 + 2.0 / 32.0; // in seconds
     musical.transport().setLoop(true);
     std::vector<double> times;
     onPlay_ = [&] {
@@ -115,8 +119,8 @@ TEST_F(AheadPlayerTest, LoopsWithoutAGapWhileTheMainThreadIsBusy)
     musical.transport().play();
     onPlay_ = nullptr;
     ASSERT_GE(times.size(), 5U);
-    const double passes = std::round((times.back() - times.front()) * 4.0);
-    EXPECT_NEAR(times.back() - times.front(), passes / 4.0, 0.0005);
+    const double passes = std::round((times.back() - times.front()) / kPass);
+    EXPECT_NEAR(times.back() - times.front(), passes * kPass, 0.0005);
     Calls pass; // a note that lasts beyond the end of the loop ends with it
     for (const std::string& call : calls_)
         if (call.ends_with("64") || call.starts_with("play"))

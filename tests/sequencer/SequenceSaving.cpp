@@ -172,7 +172,8 @@ TEST_F(MusicalSaving, ChangesOnlyWhatWasEdited)
     const std::string original = fileOf(on(0, 60, 70, 2), "");
     open(original);
     ASSERT_EQ(musical_.sequence().notes().size(), 2U) << "one has no length";
-    EXPECT_EQ(musical_.sequence().notes()[0].length, 0.6 * 16) << "at its place";
+    EXPECT_EQ(musical_.sequence().notes()[0].length, 8.0)
+        << "an eighth of a quarter note is a step";
     EXPECT_FALSE(musical_.isImported());
     EXPECT_EQ(saved(), original);
 
@@ -180,12 +181,12 @@ TEST_F(MusicalSaving, ChangesOnlyWhatWasEdited)
     EXPECT_EQ(saved(), fileOf(on(0, 60, 127, 2), ""));
     musical_.undoStack().setIndex(0);
     musical_.edit()->addNote(
-        {.start = 3 * 9.6 - 0.3 * 9.6, .length = 2.4, .velocity = 1.0F, .channel = 2, .key = 70});
+        {.start = 19.0, .length = 2.0, .velocity = 1.0F, .channel = 2, .key = 70});
     const std::string more = saved();
     EXPECT_NE(more, original);
     musical_.read(folder_ / "b.mid");
     ASSERT_EQ(musical_.sequence().notes().size(), 3U);
-    EXPECT_NEAR(musical_.sequence().notes()[1].length, 9.0, 1e-6) << "not up to the new end";
+    EXPECT_NEAR(musical_.sequence().notes()[1].length, 8.0, 1e-6) << "not up to the new end";
     musical_.edit()->addNote({.start = 1.2345, .length = 2.4, .velocity = 1.0F, .key = 71});
     const std::string finer = saved();
     EXPECT_EQ(finer.substr(12, 2), number(96 * 43, 2)) << "a take needs finer ticks";
@@ -193,7 +194,7 @@ TEST_F(MusicalSaving, ChangesOnlyWhatWasEdited)
     const auto& notes = musical_.sequence().notes();
     ASSERT_EQ(notes.size(), 4U);
     EXPECT_NEAR(notes[1].start, 1.2345, 0.002);
-    EXPECT_EQ(notes[0].length, 0.6 * 16) << "the same music";
+    EXPECT_EQ(notes[0].length, 8.0) << "the same music";
 }
 
 TEST_F(MusicalSaving, ReadsADamagedFileAsFarAsItGoes)
@@ -235,6 +236,19 @@ TEST_F(MusicalSaving, RecoversTheFileWithTheNotes)
     recovered.recover(decodeUnsaved(std::as_bytes(std::span(kept))));
     EXPECT_TRUE(recovered.save(folder_ / "c.mid", SequenceFormat::MidiFile, kSaveAs));
     EXPECT_EQ(readTextFile(folder_ / "c.mid"), original);
+
+    UnsavedSequence inSeconds = musical_.snapshot();
+    inSeconds.notes.at(0).length = 0.4 * 16;
+    std::string old = encodeUnsaved(inSeconds); // with one tempo, and three empty lists
+    constexpr std::size_t kNote = 56, kCount = 8, kTime = 28;
+    old.erase(old.size() - kNote - kCount - kTime, kTime).replace(4, 4, midi::number(2, 4));
+    recovered.recover(decodeUnsaved(std::as_bytes(std::span(old))));
+    EXPECT_DOUBLE_EQ(recovered.sequence().notes().at(0).length, 8.0) << "of the version before";
+
+    SequenceDocument plain(*this, Reading::Plain);
+    plain.recover(musical_.snapshot());
+    EXPECT_DOUBLE_EQ(plain.sequence().notes().at(0).length, 0.4 * 16);
+    EXPECT_TRUE(plain.isImported());
 }
 
 TEST_F(SequenceSaving, KeepsTheOldFileIfItCannotBeWritten)
