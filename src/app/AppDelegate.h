@@ -65,6 +65,9 @@ public:
     /// The mixture of everything that sounds live.
     AudioEngine& engine() { return engine_; }
 
+    /// The clicks beside the pieces.
+    Metronome& metronome() { return metronome_; }
+
     /// The current instrument and temperament, and the keys that sound.
     Player& player() { return player_; }
 
@@ -244,6 +247,7 @@ private:
     bool loadsInBackground_ = false;
 
     AudioEngine engine_;
+    Metronome metronome_;
     std::vector<std::unique_ptr<InstrumentDocument>> instruments_;
     MIDIInstrument* midiPlayer_ = nullptr; ///< The first of the instruments.
     std::filesystem::path bank_;

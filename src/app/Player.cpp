@@ -190,6 +190,18 @@ void Player::stop(int key, int channel, double time)
         release(division, slot, kSequencer, time);
 }
 
+void Player::click(Click click, double time)
+{
+    if (Metronome* metronome = metronome_)
+        metronome->click(click, time);
+}
+
+void Player::cancelClicks()
+{
+    if (Metronome* metronome = metronome_)
+        metronome->cancelAfter(getTime());
+}
+
 void Player::isomorph(int n)
 {
     const std::lock_guard lock(mutex_);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/KeyHolders.h"
+#include "audio/Metronome.h"
 #include "base/Clock.h"
 #include "base/fading.h"
 #include "midi/messages.h"
@@ -111,6 +112,13 @@ public:
     void stop(int key, int channel, double time) override;
     LiveKeys& liveKeys() override { return liveKeys_; }
 
+    /// Lets a metronome click, which must outlive the player. Without one, sequences play without
+    /// clicks.
+    void setMetronome(Metronome& metronome) { metronome_ = &metronome; }
+
+    void click(Click click, double time) override;
+    void cancelClicks() override;
+
     /// Ends every sound of every instrument at once and releases every live key.
     void silence();
 
@@ -150,6 +158,7 @@ private:
     /// The division on which each channel of a sequence last started each key.
     std::array<std::array<std::uint8_t, kKeys>, midi::kChannels> startedOn_{};
     LiveKeys liveKeys_;
+    std::atomic<Metronome*> metronome_{nullptr};
     std::atomic<double> inputDelay_{0.0};
     double bend_ = 0.0; ///< In cents.
     Glide glide_;

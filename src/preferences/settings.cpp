@@ -51,6 +51,11 @@ const QVariantMap& defaults()
         {"CorrectSpelling", true},
         {"CorrectionTime", 40},
         {"Drift", 0}, // tied to A
+        {"Metronome", false},
+        {"MetronomeUse", 0}, // always
+        {"MetronomeDivisions", false},
+        {"MetronomeVolume", 70},
+        {"CountIn", 0},
     };
     return values;
 }

@@ -27,12 +27,12 @@ void Recorder::record()
 {
     if (transport_.mode() == Transport::Mode::Recording) {
         transport_.tick(); // takes the keys since the last tick
-        transport_.endRecording();
-        // See docs/decisions.md, 102.
-        sequence_.sort();
-        transport_.playback().sequenceChanged();
-        emit ended();
+        if (transport_.mode() == Transport::Mode::Recording)
+            finish();
+    } else if (transport_.mode() == Transport::Mode::Stopped && runs()) {
+        startRunning();
     } else if (transport_.mode() == Transport::Mode::Stopped) {
+        running_.reset();
         limit_ = runStart_ = transport_.position();
         heldKeys_.reset();
         openNotes_ = {};
@@ -43,6 +43,55 @@ void Recorder::record()
         transport_.startRecording();
         stoodSince_ = transport_.lastTick();
     }
+}
+
+void Recorder::finish()
+{
+    if (running_)
+        running_->end();
+    transport_.endRecording();
+    // See docs/decisions.md, 102.
+    sequence_.sort();
+    transport_.playback().sequenceChanged();
+    emit ended();
+}
+
+bool Recorder::runs() const
+{
+    const MetronomeSettings& metronome = transport_.metronome();
+    const bool isInterval = !transport_.interval().isEmpty() && (punches_ || transport_.loops());
+    return transport_.reading() == Reading::Musical &&
+           (isInterval || metronome.whileRecording || metronome.countIn > 0);
+}
+
+void Recorder::startRunning()
+{
+    const Interval& interval = transport_.interval();
+    const bool punches = punches_ && !interval.isEmpty();
+    const double position = transport_.position();
+    if ((punches && position >= interval.end) ||
+        (transport_.loops() && !interval.isEmpty() && !interval.contains(position)))
+        transport_.scrollTo(interval.start);
+    transport_.startRunningRecording();
+    running_.emplace(transport_, sequence_, TakeOptions{channel_, snapToGrid_, punches});
+}
+
+void Recorder::setPunches(bool punches)
+{
+    punches_ = punches;
+    emit optionsChanged();
+}
+
+const std::vector<std::vector<Note>>& Recorder::takes() const
+{
+    static const std::vector<std::vector<Note>> kNone;
+    return running_ ? running_->passes() : kNone;
+}
+
+void Recorder::forgetTakes()
+{
+    if (transport_.mode() != Transport::Mode::Recording)
+        running_.reset();
 }
 
 void Recorder::waitAt(double step)
@@ -68,6 +117,8 @@ void Recorder::setSnapToGrid(bool snap)
 std::vector<NoteState> Recorder::endTake()
 {
     std::vector<NoteState> before;
+    if (running_)
+        before = running_->changes();
     for (const auto& [id, lengthBefore] : std::exchange(taken_, {})) {
         const Note* const note = sequence_.find(id);
         if (note == nullptr)
@@ -83,6 +134,11 @@ std::vector<NoteState> Recorder::endTake()
 
 void Recorder::take(double from, double until)
 {
+    if (running_) {
+        if (!running_->take())
+            finish();
+        return;
+    }
     const double before = transport_.position();
     collectEvents();
     auto event = events_.begin();

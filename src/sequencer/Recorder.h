@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sequencer/KeyEvents.h"
+#include "sequencer/RunningTake.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/Transport.h"
 #include "sound/keys.h"
@@ -25,7 +26,9 @@ public:
     /// Both must outlive the recorder.
     Recorder(Transport& transport, Sequence& sequence);
 
-    /// Starts or ends a recording. Does nothing while playing.
+    /// Starts or ends a recording. Does nothing while playing. It waits for the keys, unless the
+    /// musical reading has a reason to let time run: the metronome clicks, a loop is recorded again
+    /// and again, or the selected interval is replaced.
     void record();
 
     /// Moves the position. A recording waits there for the next key.
@@ -39,11 +42,26 @@ public:
     bool snapToGrid() const { return snapToGrid_; }
     void setSnapToGrid(bool snap);
 
+    /// True if a recording replaces the notes of its channel in the selected interval, and ends
+    /// with it.
+    bool punches() const { return punches_; }
+    void setPunches(bool punches);
+
     /// True if notes were recorded since the last call of `endTake`.
-    bool hasTake() const { return !taken_.empty(); }
+    bool hasTake() const { return !taken_.empty() || (running_ && !running_->isEmpty()); }
 
     /// True if a note was recorded or lengthened since the last call of `endTake`.
-    bool isTaken(std::uint64_t id) const { return taken_.contains(id); }
+    bool isTaken(std::uint64_t id) const
+    {
+        return taken_.contains(id) || (running_ && running_->contains(id));
+    }
+
+    /// The takes of the last recording in a loop, each with its notes; fewer than two if there is
+    /// nothing to choose from.
+    const std::vector<std::vector<Note>>& takes() const;
+
+    /// Forgets those takes, unless more are being recorded.
+    void forgetTakes();
 
     /// Ends the current take, but not the recording. Returns the notes of the take as they were
     /// before it.
@@ -53,10 +71,13 @@ signals:
     /// The recording has ended, and the notes are sorted.
     void ended();
 
-    /// The channel or snapping has changed.
+    /// The channel, snapping or replacing has changed.
     void optionsChanged();
 
 private:
+    bool runs() const;
+    void startRunning();
+    void finish();
     void take(double from, double until);
     void collectEvents();
     void takeHeldKeys();
@@ -79,6 +100,8 @@ private:
     Sequence& sequence_;
     unsigned char channel_ = 0;
     bool snapToGrid_ = false;
+    bool punches_ = false;
+    std::optional<RunningTake> running_; ///< The last recording, if time ran through it.
     double limit_ = 0.0;    ///< The step at which the position stops while no key is held.
     double runStart_ = 0.0; ///< The step from which the position has moved without a stop.
     std::optional<double> stoodSince_; ///< Since when the position waits; nothing if it moves.

@@ -47,6 +47,12 @@ Note* Sequence::find(std::uint64_t id)
     return entry == index_.end() ? nullptr : &notes_[entry->second];
 }
 
+const Note* Sequence::find(std::uint64_t id) const
+{
+    const auto entry = index_.find(id);
+    return entry == index_.end() ? nullptr : &notes_[entry->second];
+}
+
 Note& Sequence::addNote(const Note& note)
 {
     notes_.push_back(note);

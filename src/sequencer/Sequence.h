@@ -58,6 +58,7 @@ public:
     /// Returns the stored note or null. The pointer is valid until notes are added, erased or
     /// sorted.
     Note* find(std::uint64_t id);
+    const Note* find(std::uint64_t id) const;
 
     /// The identities of the selected notes in the order in which they were selected.
     const std::vector<std::uint64_t>& selection() const { return selection_; }

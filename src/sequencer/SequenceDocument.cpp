@@ -84,6 +84,7 @@ void SequenceDocument::read(const std::filesystem::path& path)
     transport_.stop();
     undoStack_.clear();
     recorder_.endTake();
+    recorder_.forgetTakes();
     const Edit edit(*this, {});
     forgetFile();
     *edit = {};
@@ -167,6 +168,7 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
         damage_.clear();
     }
     registerTake();
+    recorder_.forgetTakes();
     undoStack_.setClean();
     return true;
 }
@@ -203,6 +205,7 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
         transport_.setTime(unsaved.musicalTime);
     errorString_.clear();
     recorder_.endTake();
+    recorder_.forgetTakes();
     undoStack_.clear();
     undoStack_.resetClean();
     updateExtent();
@@ -296,6 +299,30 @@ void SequenceDocument::registerTake()
     registerDone(std::move(before),
                  editText(QT_TRANSLATE_N_NOOP("velmora::SequenceDocument", "Record %n Note(s)"),
                           static_cast<std::size_t>(added)));
+}
+
+// See docs/decisions.md, 191.
+void SequenceDocument::chooseTake(std::size_t take)
+{
+    const auto& takes = recorder_.takes();
+    std::vector<NoteState> states;
+    for (std::size_t i = 0; i < takes.size(); ++i)
+        for (const Note& note : takes[i])
+            if (const bool exists = sequence_.find(note.id) != nullptr; exists != (i == take))
+                states.push_back({note.id, exists ? std::nullopt : std::optional(note)});
+    if (!states.empty())
+        perform(std::move(states), tr("Choose Take %1").arg(take + 1));
+}
+
+std::optional<std::size_t> SequenceDocument::chosenTake() const
+{
+    const auto& takes = recorder_.takes();
+    for (std::size_t i = 0; i < takes.size(); ++i)
+        if (std::ranges::any_of(takes[i], [this](const Note& note) {
+                return std::as_const(sequence_).find(note.id) != nullptr;
+            }))
+            return i;
+    return std::nullopt;
 }
 
 QString SequenceDocument::editText(const char* text, std::size_t notes)

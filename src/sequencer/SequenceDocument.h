@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -114,6 +115,13 @@ public:
 
     /// Adds what has been recorded since the last call to the undo history.
     void registerTake();
+
+    /// Puts one of the recorder's takes into the sequence in place of the one that is there, as an
+    /// edit that can be undone.
+    void chooseTake(std::size_t take);
+
+    /// Which of the recorder's takes is in the sequence; nothing if none is.
+    std::optional<std::size_t> chosenTake() const;
 
     QUndoStack& undoStack() { return undoStack_; }
 

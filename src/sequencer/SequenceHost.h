@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audio/Click.h"
+
 namespace velmora {
 
 class LiveKeys;
@@ -22,6 +24,13 @@ public:
     /// Stops a key that was started with `play` for a channel or `kEveryChannel`, on every
     /// instrument that still sounds it. If the user holds it as well, it sounds on.
     virtual void stop(int key, int channel, double time) = 0;
+
+    /// Sounds a click of the metronome, if there is one. `time` is as for `play`; a click that is
+    /// still to come sounds by itself.
+    virtual void click(Click /*click*/, double /*time*/) {}
+
+    /// Drops the clicks that are still to come.
+    virtual void cancelClicks() {}
 
     /// The keys of live input.
     virtual LiveKeys& liveKeys() = 0;

@@ -56,6 +56,9 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
             perform(host_, action);
         actions_.clear();
     }
+    for (const Beat& beat : beatsBetween(from, to))
+        if (sounds)
+            host_.click(beat.click, 0.0);
     std::optional<std::uint32_t> lastKey;
     bool silenced = false;
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
@@ -84,6 +87,8 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
 
 void SequencePlayback::collect(double from, double to, double time)
 {
+    for (const Beat& beat : beatsBetween(from, to))
+        actions_.push_back({.time = time, .step = to, .click = beat.click});
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
         const Note& note = sequence_.at(noteIndex);
         if (startsBetween(note, from, to))
@@ -92,6 +97,18 @@ void SequencePlayback::collect(double from, double to, double time)
         if (endsBetween(note, from, to))
             actions_.push_back({false, note.key, channelOf(note), 0.0F, time, to});
     }
+}
+
+void SequencePlayback::setClicks(const MusicalTime* time, bool divides)
+{
+    clicksOn_ = time;
+    divides_ = divides;
+}
+
+std::vector<Beat> SequencePlayback::beatsBetween(double from, double to) const
+{
+    return clicksOn_ == nullptr ? std::vector<Beat>()
+                                : velmora::beatsBetween(*clicksOn_, from, to, divides_);
 }
 
 void SequencePlayback::playAhead(AheadPlayer* player)
@@ -157,6 +174,10 @@ void SequencePlayback::planPass(double from, double to, double time, const Pace&
                             time + pace.secondsBetween(from, step) + kBehindPosition,
                             step + ahead + kPastAction});
     };
+    for (const Beat& beat : beatsBetween(from, to))
+        actions_.push_back({.time = time + pace.secondsBetween(from, beat.step) + kBehindPosition,
+                            .step = beat.step + ahead + kPastAction,
+                            .click = beat.click});
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
         const Note& note = sequence_.notes()[noteIndex];
         if (startsBetween(note, from, to))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sequencer/AheadPlayer.h"
+#include "sequencer/Metre.h"
 #include "sequencer/Pace.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
@@ -28,6 +29,10 @@ public:
     /// Starts and ends the notes whose start or end lies between two steps. Returns the key of the
     /// last note that started.
     std::optional<std::uint32_t> playBetween(double from, double to);
+
+    /// Plays the clicks of a metronome with the notes from now on, on the beats of a piece; null
+    /// plays none. Call this while nothing is planned.
+    void setClicks(const MusicalTime* time, bool divides);
 
     /// Plays the notes through `player` from now on, on its own thread and the clock of `getTime`;
     /// null plays them in `playBetween` again. The player must outlive its use here.
@@ -77,8 +82,9 @@ public:
 private:
     void stopOnInstrument(std::uint32_t key, int channel);
     void collect(double from, double to, double time);
+    std::vector<Beat> beatsBetween(double from, double to) const;
 
-    /// Adds the notes between two steps, each at its own time. `from` is at `time`.
+    /// Adds the notes and clicks between two steps, each at its own time. `from` is at `time`.
     void planPass(double from, double to, double time, const Pace& pace, double ahead);
 
     void clearMarks();
@@ -92,6 +98,9 @@ private:
     std::optional<SequenceIndex> index_; ///< Empty until it is needed.
     /// Indices of all notes that play or are active, and possibly of others.
     std::vector<std::uint32_t> marked_;
+
+    const MusicalTime* clicksOn_ = nullptr; ///< The piece of the metronome; null for none.
+    bool divides_ = false;                  ///< The metronome clicks between the beats.
 
     AheadPlayer* player_ = nullptr;
     bool isPlanned_ = false;

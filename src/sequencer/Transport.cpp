@@ -1,6 +1,8 @@
 #include "sequencer/Transport.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace velmora {
@@ -42,15 +44,69 @@ void Transport::startRecording()
     emit frame();
 }
 
+void Transport::startRunningRecording()
+{
+    lastTick_ = clock_();
+    turns_ = 0;
+    countIn_.clear();
+    if (metronome_.countIn > 0)
+        countIn();
+    runs_ = true;
+    setMode(Mode::Recording);
+    emit frame();
+}
+
+void Transport::countIn()
+{
+    const double stepsPerSecond = pace().stepsPerSecondAt(position_);
+    const CountIn bars = countInTo(time_, position_, metronome_.countIn, metronome_.divides);
+    for (const Beat& beat : bars.beats) {
+        const double time = lastTick_ + beat.step / stepsPerSecond;
+        host_.click(beat.click, time);
+        if (beat.click != Click::Division)
+            countIn_.push_back(time);
+    }
+    lastTick_ += bars.length / stepsPerSecond;
+}
+
+int Transport::beatsToCount() const
+{
+    const double now = clock_();
+    if (!runs_ || now >= lastTick_)
+        return 0;
+    const auto later = std::ranges::count_if(countIn_, [now](double beat) { return beat > now; });
+    return static_cast<int>(later) + 1; // with the one that sounds
+}
+
 void Transport::endRecording()
 {
+    if (std::exchange(runs_, false)) {
+        stop();
+        host_.cancelClicks();
+    }
     setMode(Mode::Stopped);
     emit frame();
+}
+
+void Transport::setMetronome(const MetronomeSettings& settings)
+{
+    settle();
+    metronome_ = reading_ == Reading::Musical ? settings : MetronomeSettings{};
+    takeMetronome();
+    emit optionsChanged();
+}
+
+void Transport::takeMetronome()
+{
+    const bool clicks =
+        mode_ == Mode::Recording ? metronome_.whileRecording : metronome_.whilePlaying;
+    playback_.setClicks(clicks ? &time_ : nullptr, metronome_.divides);
 }
 
 void Transport::setMode(Mode mode)
 {
     mode_ = mode;
+    takeMetronome();
     emit modeChanged();
 }
 
@@ -61,11 +117,16 @@ void Transport::tick()
     if (playback_.isPlanShort(clock_()))
         playback_.cancelPlan();
     const double now = clock_();
-    if (mode_ == Mode::Playing)
+    if (runs_ && now < lastTick_) { // it still counts
+        if (ticks_++ % kTicksPerFrame == 0)
+            emit frame();
+        return;
+    }
+    if (mode_ == Mode::Playing || runs_)
         playUntil(now);
+    const double before = std::exchange(lastTick_, now);
     if (mode_ == Mode::Recording)
-        emit recording(lastTick_, now);
-    lastTick_ = now;
+        emit recording(before, now);
     // The timer stops after the tick that ends playing, so that tick must show the result.
     if (ticks_++ % kTicksPerFrame == 0 || mode_ == Mode::Stopped)
         emit frame();
@@ -83,6 +144,9 @@ double Transport::positionAt(double time) const
 
 double Transport::endOfPlaying() const
 {
+    if (mode_ == Mode::Recording) // it does not end with the notes
+        return loop_ && !interval_.isEmpty() ? interval_.end
+                                             : std::numeric_limits<double>::infinity();
     return interval_.isEmpty() ? extent_ : std::min(interval_.end, extent_);
 }
 
@@ -91,7 +155,8 @@ std::optional<Interval> Transport::endlessLoop() const
     const Interval loop{interval_.isEmpty() ? 0.0 : interval_.start, endOfPlaying()};
     const bool isLong = pace().secondsBetween(loop.start, loop.end) > kTick.count();
     // In the plain reading every pass is longer by the rest of a tick.
-    return loop_ && reading_ == Reading::Musical && isLong && position_ <= loop.end
+    return loop_ && reading_ == Reading::Musical && isLong && std::isfinite(loop.end) &&
+                   position_ <= loop.end
                ? std::optional(loop)
                : std::nullopt;
 }
@@ -108,6 +173,7 @@ double Transport::playPasses(double seconds)
         position_ = loop->start;
         seconds -= rest;
         rest = pace().secondsBetween(loop->start, loop->end);
+        ++turns_;
     }
     return std::min(pace().stepAfter(position_, seconds), loop->end);
 }
@@ -128,7 +194,7 @@ void Transport::playUntil(double now)
             play();
     }
     playback_.finishPlan();
-    if (mode_ != Mode::Playing)
+    if (mode_ == Mode::Stopped)
         return;
     if (const auto loop = endlessLoop())
         playback_.planLoop(next, now, pace(), loop->start, loop->end);

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace velmora {
 
@@ -47,13 +48,29 @@ public:
 
     /// Starts emitting `recording` on every tick. The transport must be stopped.
     void startRecording();
+
+    /// Does the same, but moves the position and plays the sequence along, in a loop if it loops
+    /// and an interval is selected. Before that the metronome counts the bars that lead to the
+    /// position.
+    void startRunningRecording();
     void endRecording();
 
     /// Advances by the time since the last tick. Call this 1024 times a second unless stopped.
     void tick();
 
-    /// The time of the last tick, in seconds.
+    /// The time of the last tick, in seconds. While the metronome counts in, it is still to come.
     double lastTick() const { return lastTick_; }
+
+    /// How many beats the metronome still has to count before the recording; 0 if it does not
+    /// count.
+    int beatsToCount() const;
+
+    /// How often the loop has turned since the recording began.
+    int turns() const { return turns_; }
+
+    /// When the metronome clicks. It never does in the plain reading.
+    const MetronomeSettings& metronome() const { return metronome_; }
+    void setMetronome(const MetronomeSettings& settings);
 
     /// Silences every note that sounds, but keeps the mode.
     void stop();
@@ -98,7 +115,7 @@ public:
     Pace pace() const;
 
     /// Returns where the position is at a time in seconds, before or after the last tick, if
-    /// nothing ends or stops it.
+    /// nothing ends, stops or repeats it.
     double positionAt(double time) const;
 
     /// True if playing starts over at the end: from the start of the selected interval, or of the
@@ -132,7 +149,7 @@ signals:
 
     void extentChanged();
 
-    /// The speed, looping or the time of the piece has changed.
+    /// The speed, looping, the metronome or the time of the piece has changed.
     void optionsChanged();
 
 private:
@@ -146,6 +163,8 @@ private:
 
     void playUntil(double now);
     void setMode(Mode mode);
+    void takeMetronome();
+    void countIn();
 
     const Reading reading_;
     SequenceHost& host_;
@@ -161,6 +180,10 @@ private:
     bool loop_ = false;
     int cursor_ = 0;
     unsigned ticks_ = 0;
+    MetronomeSettings metronome_;
+    bool runs_ = false;           ///< True if the position moves by itself while recording.
+    std::vector<double> countIn_; ///< The times of the beats that are counted, in seconds.
+    int turns_ = 0;
 };
 
 } // namespace velmora

@@ -35,6 +35,13 @@ protected:
         }
     }
 
+    void click(Click /*click*/, double time) override
+    {
+        const std::lock_guard lock(lock_);
+        clicks_.push_back(time);
+    }
+
+    std::vector<double> clicks_;
     SequenceDocument live_{*this, Reading::Plain, getTime};
     SequenceClock clock_{live_.transport()};
 };
@@ -66,6 +73,32 @@ TEST_F(AheadPlayerTest, SoundsEachNoteOnceAndOnTime)
     QObject::connect(&live_.transport(), &Transport::frame, [&] { ++frames; });
     runFor(std::chrono::milliseconds(100));
     EXPECT_EQ(frames, 0) << "the clock has stopped";
+}
+
+TEST_F(AheadPlayerTest, ClicksAtTheTimesOfTheNotes)
+{
+    SequenceDocument piece(*this, Reading::Musical, getTime);
+    for (const Note& note : document_.sequence().notes())
+        piece.edit()->addNote(note);
+    piece.updateExtent();
+    std::vector<double> notes;
+    onPlay_ = [&] { notes.push_back(playTime_); };
+    piece.transport().setMetronome({.whilePlaying = true, .divides = true});
+    for (const bool loops : {false, true}) {
+        SCOPED_TRACE(loops);
+        notes.clear();
+        clicks_.clear();
+        piece.transport().setLoop(loops);
+        piece.transport().selectInterval(0.0, loops ? 8.0 : 0.0);
+        piece.transport().setPosition(0.0);
+        const SequenceClock clock(piece.transport());
+        piece.transport().play();
+        runFor(std::chrono::milliseconds(1200));
+        piece.transport().play();
+        ASSERT_GE(clicks_.size(), 4U);
+        for (std::size_t i = 0; i < clicks_.size() && 4 * i < notes.size(); ++i)
+            EXPECT_NEAR(clicks_[i], notes[4 * i], 1e-5) << i;
+    }
 }
 
 TEST_F(AheadPlayerTest, EndsEverySoundingNoteWhenStoppedOrEdited)
