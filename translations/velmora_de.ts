@@ -1747,6 +1747,88 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
 </context>
 <context>
+    <name>velmora::RecordingActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Stück</translation>
+    </message>
+    <message>
+        <source>&amp;Metronome</source>
+        <translation type="unfinished">&amp;Metronom</translation>
+    </message>
+    <message>
+        <source>Click on the beats</source>
+        <translation type="unfinished">Auf den Schlägen klicken</translation>
+    </message>
+    <message>
+        <source>P&amp;unch In</source>
+        <translation type="unfinished">&amp;Ersetzend aufnehmen</translation>
+    </message>
+    <message>
+        <source>Record only in the selected time, and replace what the channel has there</source>
+        <translation type="unfinished">Nur in der gewählten Zeit aufnehmen und ersetzen, was der Kanal dort hat</translation>
+    </message>
+    <message>
+        <source>Metronome and Count-&amp;In</source>
+        <translation type="unfinished">Metronom und Ein&amp;zählen</translation>
+    </message>
+    <message>
+        <source>&amp;Takes</source>
+        <translation type="unfinished">A&amp;ufnahmen</translation>
+    </message>
+    <message>
+        <source>Metronome</source>
+        <translation type="unfinished">Metronom</translation>
+    </message>
+    <message>
+        <source>While Recording and Playing</source>
+        <translation type="unfinished">Beim Aufnehmen und Abspielen</translation>
+    </message>
+    <message>
+        <source>Only While Recording</source>
+        <translation type="unfinished">Nur beim Aufnehmen</translation>
+    </message>
+    <message>
+        <source>Only While Playing</source>
+        <translation type="unfinished">Nur beim Abspielen</translation>
+    </message>
+    <message>
+        <source>Click Between the Beats</source>
+        <translation type="unfinished">Zwischen den Schlägen klicken</translation>
+    </message>
+    <message>
+        <source>Count-In</source>
+        <translation type="unfinished">Einzählen</translation>
+    </message>
+    <message>
+        <source>No Count-In</source>
+        <translation type="unfinished">Nicht einzählen</translation>
+    </message>
+    <message>
+        <source>One Bar</source>
+        <translation type="unfinished">Ein Takt</translation>
+    </message>
+    <message>
+        <source>Two Bars</source>
+        <translation type="unfinished">Zwei Takte</translation>
+    </message>
+    <message>
+        <source>Volume of the metronome</source>
+        <translation type="unfinished">Lautstärke des Metronoms</translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished">&amp;Lautstärke</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Aufnahme %1: %n Note</numerusform>
+            <numerusform>Aufnahme %1: %n Noten</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
@@ -1990,6 +2072,10 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
             <numerusform>Einfügen von %n Noten</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Choose Take %1</source>
+        <translation type="unfinished">Aufnahme %1 wählen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequencePages</name>
@@ -2149,6 +2235,10 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Waiting for %1; not %2</source>
         <translation type="unfinished">Wartet auf %1; nicht %2</translation>
+    </message>
+    <message>
+        <source>Counting in</source>
+        <translation type="unfinished">Es wird eingezählt</translation>
     </message>
 </context>
 <context>
@@ -2946,6 +3036,18 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>Takes</source>
+        <translation type="unfinished">Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Choose one of the takes that were recorded in the loop</source>
+        <translation type="unfinished">Eine der Aufnahmen wählen, die in der Schleife entstanden sind</translation>
+    </message>
+    <message>
+        <source>Count-in: %1</source>
+        <translation type="unfinished">Einzählen: %1</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,16 @@
     </message>
 </context>
 <context>
+    <name>velmora::RecordingActions</name>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Take %1: %n note</numerusform>
+            <numerusform>Take %1: %n notes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceDocument</name>
     <message numerus="yes">
         <source>Record %n Note(s)</source>

@@ -1747,6 +1747,88 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
 </context>
 <context>
+    <name>velmora::RecordingActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Pieza</translation>
+    </message>
+    <message>
+        <source>&amp;Metronome</source>
+        <translation type="unfinished">&amp;Metrónomo</translation>
+    </message>
+    <message>
+        <source>Click on the beats</source>
+        <translation type="unfinished">Marca los tiempos con un clic</translation>
+    </message>
+    <message>
+        <source>P&amp;unch In</source>
+        <translation type="unfinished">Grabación por &amp;pinchazo</translation>
+    </message>
+    <message>
+        <source>Record only in the selected time, and replace what the channel has there</source>
+        <translation type="unfinished">Graba solo en el tiempo seleccionado y sustituye lo que el canal tiene allí</translation>
+    </message>
+    <message>
+        <source>Metronome and Count-&amp;In</source>
+        <translation type="unfinished">Metrónomo y compases de &amp;entrada</translation>
+    </message>
+    <message>
+        <source>&amp;Takes</source>
+        <translation type="unfinished">&amp;Tomas</translation>
+    </message>
+    <message>
+        <source>Metronome</source>
+        <translation type="unfinished">Metrónomo</translation>
+    </message>
+    <message>
+        <source>While Recording and Playing</source>
+        <translation type="unfinished">Al grabar y al reproducir</translation>
+    </message>
+    <message>
+        <source>Only While Recording</source>
+        <translation type="unfinished">Solo al grabar</translation>
+    </message>
+    <message>
+        <source>Only While Playing</source>
+        <translation type="unfinished">Solo al reproducir</translation>
+    </message>
+    <message>
+        <source>Click Between the Beats</source>
+        <translation type="unfinished">Clic entre los tiempos</translation>
+    </message>
+    <message>
+        <source>Count-In</source>
+        <translation type="unfinished">Compases de entrada</translation>
+    </message>
+    <message>
+        <source>No Count-In</source>
+        <translation type="unfinished">Sin compases de entrada</translation>
+    </message>
+    <message>
+        <source>One Bar</source>
+        <translation type="unfinished">Un compás</translation>
+    </message>
+    <message>
+        <source>Two Bars</source>
+        <translation type="unfinished">Dos compases</translation>
+    </message>
+    <message>
+        <source>Volume of the metronome</source>
+        <translation type="unfinished">Volumen del metrónomo</translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished">&amp;Volumen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Toma %1: %n nota</numerusform>
+            <numerusform>Toma %1: %n notas</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
@@ -1990,6 +2072,10 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
             <numerusform>Pegar %n notas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Choose Take %1</source>
+        <translation type="unfinished">Elegir la toma %1</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequencePages</name>
@@ -2149,6 +2235,10 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Waiting for %1; not %2</source>
         <translation type="unfinished">Esperando %1; no %2</translation>
+    </message>
+    <message>
+        <source>Counting in</source>
+        <translation type="unfinished">Contando los compases de entrada</translation>
     </message>
 </context>
 <context>
@@ -2946,6 +3036,18 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> ppm</translation>
+    </message>
+    <message>
+        <source>Takes</source>
+        <translation type="unfinished">Tomas</translation>
+    </message>
+    <message>
+        <source>Choose one of the takes that were recorded in the loop</source>
+        <translation type="unfinished">Elija una de las tomas grabadas en el bucle</translation>
+    </message>
+    <message>
+        <source>Count-in: %1</source>
+        <translation type="unfinished">Entrada: %1</translation>
     </message>
 </context>
 <context>

@@ -1747,6 +1747,88 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
 </context>
 <context>
+    <name>velmora::RecordingActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Morceau</translation>
+    </message>
+    <message>
+        <source>&amp;Metronome</source>
+        <translation type="unfinished">&amp;Métronome</translation>
+    </message>
+    <message>
+        <source>Click on the beats</source>
+        <translation type="unfinished">Bat les temps par un clic</translation>
+    </message>
+    <message>
+        <source>P&amp;unch In</source>
+        <translation type="unfinished">&amp;Punch-in</translation>
+    </message>
+    <message>
+        <source>Record only in the selected time, and replace what the channel has there</source>
+        <translation type="unfinished">N’enregistre que dans le temps sélectionné et remplace ce que le canal y contient</translation>
+    </message>
+    <message>
+        <source>Metronome and Count-&amp;In</source>
+        <translation type="unfinished">Métronome et dé&amp;compte</translation>
+    </message>
+    <message>
+        <source>&amp;Takes</source>
+        <translation type="unfinished">&amp;Prises</translation>
+    </message>
+    <message>
+        <source>Metronome</source>
+        <translation type="unfinished">Métronome</translation>
+    </message>
+    <message>
+        <source>While Recording and Playing</source>
+        <translation type="unfinished">À l’enregistrement et à la lecture</translation>
+    </message>
+    <message>
+        <source>Only While Recording</source>
+        <translation type="unfinished">Seulement à l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Only While Playing</source>
+        <translation type="unfinished">Seulement à la lecture</translation>
+    </message>
+    <message>
+        <source>Click Between the Beats</source>
+        <translation type="unfinished">Clic entre les temps</translation>
+    </message>
+    <message>
+        <source>Count-In</source>
+        <translation type="unfinished">Décompte</translation>
+    </message>
+    <message>
+        <source>No Count-In</source>
+        <translation type="unfinished">Sans décompte</translation>
+    </message>
+    <message>
+        <source>One Bar</source>
+        <translation type="unfinished">Une mesure</translation>
+    </message>
+    <message>
+        <source>Two Bars</source>
+        <translation type="unfinished">Deux mesures</translation>
+    </message>
+    <message>
+        <source>Volume of the metronome</source>
+        <translation type="unfinished">Volume du métronome</translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished">&amp;Volume</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Prise %1 : %n note</numerusform>
+            <numerusform>Prise %1 : %n notes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
@@ -1990,6 +2072,10 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
             <numerusform>le collage de %n notes</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Choose Take %1</source>
+        <translation type="unfinished">Choisir la prise %1</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequencePages</name>
@@ -2149,6 +2235,10 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Waiting for %1; not %2</source>
         <translation type="unfinished">En attente de %1&#x202f;; pas %2</translation>
+    </message>
+    <message>
+        <source>Counting in</source>
+        <translation type="unfinished">Décompte en cours</translation>
     </message>
 </context>
 <context>
@@ -2946,6 +3036,18 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>Takes</source>
+        <translation type="unfinished">Prises</translation>
+    </message>
+    <message>
+        <source>Choose one of the takes that were recorded in the loop</source>
+        <translation type="unfinished">Choisissez une des prises enregistrées dans la boucle</translation>
+    </message>
+    <message>
+        <source>Count-in: %1</source>
+        <translation type="unfinished">Décompte : %1</translation>
     </message>
 </context>
 <context>

@@ -1747,6 +1747,88 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
 </context>
 <context>
+    <name>velmora::RecordingActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Brano</translation>
+    </message>
+    <message>
+        <source>&amp;Metronome</source>
+        <translation type="unfinished">&amp;Metronomo</translation>
+    </message>
+    <message>
+        <source>Click on the beats</source>
+        <translation type="unfinished">Batte i tempi con un clic</translation>
+    </message>
+    <message>
+        <source>P&amp;unch In</source>
+        <translation type="unfinished">P&amp;unch-in</translation>
+    </message>
+    <message>
+        <source>Record only in the selected time, and replace what the channel has there</source>
+        <translation type="unfinished">Registra solo nel tempo selezionato e sostituisce ciò che il canale vi contiene</translation>
+    </message>
+    <message>
+        <source>Metronome and Count-&amp;In</source>
+        <translation type="unfinished">Metronomo e battute d’a&amp;ttacco</translation>
+    </message>
+    <message>
+        <source>&amp;Takes</source>
+        <translation type="unfinished">&amp;Riprese</translation>
+    </message>
+    <message>
+        <source>Metronome</source>
+        <translation type="unfinished">Metronomo</translation>
+    </message>
+    <message>
+        <source>While Recording and Playing</source>
+        <translation type="unfinished">Durante registrazione e riproduzione</translation>
+    </message>
+    <message>
+        <source>Only While Recording</source>
+        <translation type="unfinished">Solo durante la registrazione</translation>
+    </message>
+    <message>
+        <source>Only While Playing</source>
+        <translation type="unfinished">Solo durante la riproduzione</translation>
+    </message>
+    <message>
+        <source>Click Between the Beats</source>
+        <translation type="unfinished">Clic tra i tempi</translation>
+    </message>
+    <message>
+        <source>Count-In</source>
+        <translation type="unfinished">Battute d’attacco</translation>
+    </message>
+    <message>
+        <source>No Count-In</source>
+        <translation type="unfinished">Nessuna battuta d’attacco</translation>
+    </message>
+    <message>
+        <source>One Bar</source>
+        <translation type="unfinished">Una battuta</translation>
+    </message>
+    <message>
+        <source>Two Bars</source>
+        <translation type="unfinished">Due battute</translation>
+    </message>
+    <message>
+        <source>Volume of the metronome</source>
+        <translation type="unfinished">Volume del metronomo</translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished">&amp;Volume</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Ripresa %1: %n nota</numerusform>
+            <numerusform>Ripresa %1: %n note</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
@@ -1990,6 +2072,10 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
             <numerusform>inserimento di %n note</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Choose Take %1</source>
+        <translation type="unfinished">Scegliere la ripresa %1</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequencePages</name>
@@ -2149,6 +2235,10 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Waiting for %1; not %2</source>
         <translation type="unfinished">In attesa di %1; non %2</translation>
+    </message>
+    <message>
+        <source>Counting in</source>
+        <translation type="unfinished">Battute d’attacco in corso</translation>
     </message>
 </context>
 <context>
@@ -2946,6 +3036,18 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>Takes</source>
+        <translation type="unfinished">Riprese</translation>
+    </message>
+    <message>
+        <source>Choose one of the takes that were recorded in the loop</source>
+        <translation type="unfinished">Scegliere una delle riprese registrate nel ciclo</translation>
+    </message>
+    <message>
+        <source>Count-in: %1</source>
+        <translation type="unfinished">Attacco: %1</translation>
     </message>
 </context>
 <context>

@@ -1741,6 +1741,87 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
 </context>
 <context>
+    <name>velmora::RecordingActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">曲</translation>
+    </message>
+    <message>
+        <source>&amp;Metronome</source>
+        <translation type="unfinished">メトロノーム(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Click on the beats</source>
+        <translation type="unfinished">拍ごとにクリックを鳴らします</translation>
+    </message>
+    <message>
+        <source>P&amp;unch In</source>
+        <translation type="unfinished">パンチイン(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Record only in the selected time, and replace what the channel has there</source>
+        <translation type="unfinished">選択した時間だけを録音し、そのチャンネルの内容を置き換えます</translation>
+    </message>
+    <message>
+        <source>Metronome and Count-&amp;In</source>
+        <translation type="unfinished">メトロノームとカウントイン(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Takes</source>
+        <translation type="unfinished">テイク(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Metronome</source>
+        <translation type="unfinished">メトロノーム</translation>
+    </message>
+    <message>
+        <source>While Recording and Playing</source>
+        <translation type="unfinished">録音中と再生中</translation>
+    </message>
+    <message>
+        <source>Only While Recording</source>
+        <translation type="unfinished">録音中のみ</translation>
+    </message>
+    <message>
+        <source>Only While Playing</source>
+        <translation type="unfinished">再生中のみ</translation>
+    </message>
+    <message>
+        <source>Click Between the Beats</source>
+        <translation type="unfinished">拍の間でも鳴らす</translation>
+    </message>
+    <message>
+        <source>Count-In</source>
+        <translation type="unfinished">カウントイン</translation>
+    </message>
+    <message>
+        <source>No Count-In</source>
+        <translation type="unfinished">カウントインなし</translation>
+    </message>
+    <message>
+        <source>One Bar</source>
+        <translation type="unfinished">1 小節</translation>
+    </message>
+    <message>
+        <source>Two Bars</source>
+        <translation type="unfinished">2 小節</translation>
+    </message>
+    <message>
+        <source>Volume of the metronome</source>
+        <translation type="unfinished">メトロノームの音量</translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished">音量(&amp;V)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>テイク %1: %n 音</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
@@ -1977,6 +2058,10 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
             <numerusform>%n 個の音符の貼り付け</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Choose Take %1</source>
+        <translation type="unfinished">テイク %1 を選択</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequencePages</name>
@@ -2132,6 +2217,10 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Waiting for %1; not %2</source>
         <translation type="unfinished">%1 を待っています (%2 ではありません)</translation>
+    </message>
+    <message>
+        <source>Counting in</source>
+        <translation type="unfinished">カウントイン中</translation>
     </message>
 </context>
 <context>
@@ -2928,6 +3017,18 @@ Click to show all tunings</source>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>Takes</source>
+        <translation type="unfinished">テイク</translation>
+    </message>
+    <message>
+        <source>Choose one of the takes that were recorded in the loop</source>
+        <translation type="unfinished">ループで録音したテイクを選びます</translation>
+    </message>
+    <message>
+        <source>Count-in: %1</source>
+        <translation type="unfinished">カウントイン: %1</translation>
     </message>
 </context>
 <context>

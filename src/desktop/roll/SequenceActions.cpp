@@ -41,7 +41,8 @@ SequenceActions::SequenceActions(Commands& commands)
       snap(commands.add("piece.snap", tr("Piece"),
                         {tr("Snap to &Grid"), tr("Align notes and times with whole steps"), "snap"},
                         {Qt::CTRL | Qt::Key_G})),
-      commands_(commands), undo_(pictured(undoStacks_.createUndoAction(this, tr("&Undo")), "undo")),
+      commands_(commands), recording_(commands),
+      undo_(pictured(undoStacks_.createUndoAction(this, tr("&Undo")), "undo")),
       redo_(pictured(undoStacks_.createRedoAction(this, tr("&Redo")), "redo")),
       cut_(add("edit.cut", "cut", tr("Cu&t"), QKeySequence::keyBindings(QKeySequence::Cut))),
       copy_(add("edit.copy", "copy", tr("&Copy"), QKeySequence::keyBindings(QKeySequence::Copy))),
@@ -105,6 +106,7 @@ void SequenceActions::setTarget(const Target& target)
     for (QAction* action : zooms_)
         action->setEnabled(isAny);
     channelMenu_->setEnabled(isAny);
+    recording_.setDocument(target_.document);
     showMode();
     showOptions();
     showSelection();
@@ -118,6 +120,7 @@ void SequenceActions::connectTarget()
     undoStacks_.setActiveStack(&document.undoStack());
     connect(&document, &SequenceDocument::changed, this, &SequenceActions::showSelection);
     connect(&document.transport(), &Transport::modeChanged, this, &SequenceActions::showMode);
+    connect(&document.transport(), &Transport::frame, this, &SequenceActions::showDeselect);
     connect(&document.transport(), &Transport::optionsChanged, this, &SequenceActions::showOptions);
     connect(&document.recorder(), &Recorder::optionsChanged, this, &SequenceActions::showOptions);
 }
@@ -235,6 +238,7 @@ void SequenceActions::addTransport(QMenu& sequence) const
     sequence.addActions({start_, end_, previous_, next_});
     sequence.addSeparator();
     sequence.addActions({loop, snap});
+    recording_.addTo(sequence);
     sequence.addMenu(channelMenu_.get());
 }
 
@@ -278,10 +282,18 @@ void SequenceActions::showSelection()
 {
     const bool isAny =
         target_.document != nullptr && !target_.document->sequence().selection().empty();
-    for (QAction* action : {cut_, copy_, delete_, deselect_})
+    for (QAction* action : {cut_, copy_, delete_})
         action->setEnabled(isAny);
+    showDeselect();
     for (QAction* action : corrections_->actions())
         action->setEnabled(isAny);
+}
+
+void SequenceActions::showDeselect()
+{
+    const SequenceDocument* document = target_.document;
+    deselect_->setEnabled(document != nullptr && (!document->sequence().selection().empty() ||
+                                                  document->transport().beatsToCount() > 0));
 }
 
 void SequenceActions::showClipboard()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/roll/RecordingActions.h"
+
 #include <QObject>
 #include <QUndoGroup>
 
@@ -40,6 +42,8 @@ public:
 
     QAction *const record, *const play, *const loop, *const snap;
 
+    RecordingActions& recording() { return recording_; }
+
     void addEditing(QMenu& edit) const;
     void addTransport(QMenu& sequence) const;
     void addZoom(QMenu& view) const;
@@ -67,11 +71,13 @@ private:
     void showMode();
     void showOptions();
     void showSelection();
+    void showDeselect(); ///< It also ends a count-in.
     void showClipboard();
     void copyNotes(const std::vector<Note>& notes);
     void pasteNotes();
 
     Commands& commands_;
+    RecordingActions recording_;
     Target target_;
     QUndoGroup undoStacks_;
     QAction *const undo_, *const redo_, *const cut_, *const copy_, *const paste_;

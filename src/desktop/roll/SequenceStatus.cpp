@@ -69,7 +69,8 @@ void SequenceStatus::showMode()
         mode_->setText(tr("Playing"));
         break;
     case Transport::Mode::Recording:
-        mode_->setText(tr("Recording"));
+        mode_->setText(document_.transport().beatsToCount() > 0 ? tr("Counting in")
+                                                                : tr("Recording"));
         showNotes(); // while recording, only `frame` announces new notes
         break;
     case Transport::Mode::Stopped:

@@ -1,5 +1,6 @@
 #include "desktop/roll/TransportBar.h"
 
+#include "app/AppDelegate.h"
 #include "desktop/roll/SequenceActions.h"
 #include "desktop/widgets/LearnMenu.h"
 #include "desktop/widgets/nameParts.h"
@@ -10,6 +11,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QMenu>
 #include <QSpinBox>
 #include <QToolButton>
 
@@ -55,6 +57,7 @@ TransportBar::TransportBar(SequenceActions& actions, AppDelegate& application)
     addSeparator();
     addAction(actions.loop);
     addAction(actions.snap);
+    addRecording(actions.recording());
     addSeparator();
     addTempo();
     addSpeed();
@@ -97,6 +100,25 @@ void TransportBar::addButton(QAction& action, const QString& otherTitle, const L
                        fontMetrics().horizontalAdvance(action.iconText());
     button->setMinimumWidth(button->sizeHint().width() + std::max(0, spread));
     new LearnMenu(*button, application_, {learnable, {{LearnedAction::Kind::Stop}, tr("Stop")}});
+}
+
+void TransportBar::addRecording(RecordingActions& recording)
+{
+    addAction(recording.metronome);
+    auto* metronome = qobject_cast<QToolButton*>(widgetForAction(recording.metronome));
+    metronome->setMenu(&recording.metronomeMenu());
+    metronome->setPopupMode(QToolButton::MenuButtonPopup);
+    connect(&recording, &RecordingActions::volumeChanged, this,
+            [this](float volume) { application_.metronome().setVolume(volume); });
+    addAction(recording.punch);
+    auto* takes = new QToolButton;
+    takes->setText(tr("Takes"));
+    takes->setToolTip(tr("Choose one of the takes that were recorded in the loop"));
+    takes->setMenu(&recording.takesMenu());
+    takes->setPopupMode(QToolButton::InstantPopup);
+    QAction* place = addWidget(takes);
+    place->setVisible(recording.takesMenu().isEnabled());
+    connect(&recording, &RecordingActions::takesChanged, place, &QAction::setVisible);
 }
 
 void TransportBar::addTempo()
@@ -200,6 +222,10 @@ void TransportBar::showPosition()
     showTempo();
     const Transport& transport = document_->transport();
     // While the position moves, decimals would change too fast to be read.
+    if (const int beats = transport.beatsToCount(); beats > 0) {
+        position_->setText(tr("Count-in: %1").arg(beats));
+        return;
+    }
     const int decimals = transport.mode() == Transport::Mode::Stopped ? 1 : 0;
     position_->setText(
         tr("%1  ·  step %2").arg(timeText(transport)).arg(transport.position(), 0, 'f', decimals));

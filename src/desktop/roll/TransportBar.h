@@ -10,6 +10,7 @@ class QSpinBox;
 namespace velmora {
 
 class AppDelegate;
+class RecordingActions;
 class SequenceActions;
 class SequenceDocument;
 struct Learnable;
@@ -32,6 +33,7 @@ signals:
 
 private:
     void addButton(QAction& action, const QString& otherTitle, const Learnable& learnable);
+    void addRecording(RecordingActions& recording);
     void addTempo();
     void addSpeed();
     void changeTempo(double beats);
