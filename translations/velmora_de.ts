@@ -2723,6 +2723,13 @@ Bis zur Soundkarte: %L1 ms. Verlorene Perioden: %L2.</translation>
     </message>
 </context>
 <context>
+    <name>velmora::StageView</name>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 verlässt die Bühne</translation>
+    </message>
+</context>
+<context>
     <name>velmora::StartPage</name>
     <message>
         <source>First steps</source>
@@ -3394,10 +3401,6 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>Silence Everything</source>
         <translation type="unfinished">Alles still</translation>
-    </message>
-    <message>
-        <source>%1 leaves the stage</source>
-        <translation type="unfinished">%1 verlässt die Bühne</translation>
     </message>
     <message>
         <source>Console</source>

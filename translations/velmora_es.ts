@@ -2723,6 +2723,13 @@ Hasta la tarjeta de sonido: %L1 ms. Periodos perdidos: %L2.</translation>
     </message>
 </context>
 <context>
+    <name>velmora::StageView</name>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 sale del escenario</translation>
+    </message>
+</context>
+<context>
     <name>velmora::StartPage</name>
     <message>
         <source>First steps</source>
@@ -3394,10 +3401,6 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>Silence Everything</source>
         <translation type="unfinished">Silenciar todo</translation>
-    </message>
-    <message>
-        <source>%1 leaves the stage</source>
-        <translation type="unfinished">%1 sale del escenario</translation>
     </message>
     <message>
         <source>Console</source>

@@ -2723,6 +2723,13 @@ Jusqu’à la carte son&#x202f;: %L1&#xa0;ms. Périodes perdues&#x202f;: %L2.</t
     </message>
 </context>
 <context>
+    <name>velmora::StageView</name>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 quitte la scène</translation>
+    </message>
+</context>
+<context>
     <name>velmora::StartPage</name>
     <message>
         <source>First steps</source>
@@ -3394,10 +3401,6 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>Silence Everything</source>
         <translation type="unfinished">Couper tous les sons</translation>
-    </message>
-    <message>
-        <source>%1 leaves the stage</source>
-        <translation type="unfinished">%1 quitte la scène</translation>
     </message>
     <message>
         <source>Console</source>

@@ -2723,6 +2723,13 @@ Fino alla scheda audio: %L1&#xa0;ms. Periodi persi: %L2.</translation>
     </message>
 </context>
 <context>
+    <name>velmora::StageView</name>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 lascia il palco</translation>
+    </message>
+</context>
+<context>
     <name>velmora::StartPage</name>
     <message>
         <source>First steps</source>
@@ -3394,10 +3401,6 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>Silence Everything</source>
         <translation type="unfinished">Silenzia tutto</translation>
-    </message>
-    <message>
-        <source>%1 leaves the stage</source>
-        <translation type="unfinished">%1 lascia il palco</translation>
     </message>
     <message>
         <source>Console</source>

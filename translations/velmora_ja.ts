@@ -2705,6 +2705,13 @@ To the sound card: %L1 ms. Lost periods: %L2.</source>
     </message>
 </context>
 <context>
+    <name>velmora::StageView</name>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 でステージを終了</translation>
+    </message>
+</context>
+<context>
     <name>velmora::StartPage</name>
     <message>
         <source>First steps</source>
@@ -3374,10 +3381,6 @@ Click to show all tunings</source>
     <message>
         <source>Silence Everything</source>
         <translation type="unfinished">すべて消音</translation>
-    </message>
-    <message>
-        <source>%1 leaves the stage</source>
-        <translation type="unfinished">%1 でステージを終了</translation>
     </message>
     <message>
         <source>Console</source>

@@ -24,9 +24,9 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QTabWidget>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -48,8 +48,6 @@ constexpr QSize kFirstSize(1240, 760);
 
 /// How much larger the type is on stage.
 constexpr double kStageType = 1.5;
-
-constexpr int kHintMilliseconds = 4000;
 
 std::string layoutKey(Workspace::Layout layout)
 {
@@ -81,7 +79,7 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     tabs_->setMovable(true);
     centre_->addWidget(startPage_);
     centre_->addWidget(tabs_);
-    centre_->addWidget(new StageView(application));
+    centre_->addWidget(new StageView(application, *shell.stageLayout));
     setCentralWidget(centre_);
     setStatusBar(status_);
     auto* keyboardPanel = new QWidget;
@@ -189,21 +187,8 @@ void Workspace::setLayout(Layout layout)
     if (layout == layout_)
         return;
     saveLayout();
-    const bool wasStage = layout_ == Layout::Stage;
     layout_ = layout;
     restoreLayout();
-    if (wasStage)
-        status_->clearMessage();
-    else if (layout == Layout::Stage) // later, as the larger type shows what a message hides
-        QTimer::singleShot(0, this, &Workspace::showStageHint);
-}
-
-void Workspace::showStageHint()
-{
-    const QKeySequence key = shell_.stageLayout->shortcut();
-    if (layout_ == Layout::Stage && !key.isEmpty()) // there is no menu that says so
-        status_->showMessage(tr("%1 leaves the stage").arg(key.toString(QKeySequence::NativeText)),
-                             kHintMilliseconds);
 }
 
 std::string Workspace::arrangement() const
@@ -269,13 +254,30 @@ void Workspace::showStage(bool isStage)
 {
     menuBar()->setVisible(!isStage);
     transport_->setVisible(!isStage);
+    setFont(QApplication::font(this));
+    showCentre();
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // the type becomes smaller
+    // A window that is larger than the screen cannot fill it.
+    QWidget::layout()->setSizeConstraint(isStage ? QLayout::SetNoConstraint
+                                                 : QLayout::SetDefaultConstraint);
+    if (isStage)
+        enlargeType();
     if (isStage != isFullScreen())
         setWindowState(windowState() ^ Qt::WindowFullScreen);
-    QFont type = QApplication::font(this);
-    if (isStage)
-        type.setPointSizeF(type.pointSizeF() * kStageType);
-    setFont(type);
-    showCentre();
+}
+
+void Workspace::enlargeType()
+{
+    const QSize room = screen()->size();
+    QFont type = font();
+    const double normal = type.pointSizeF();
+    for (double scale = kStageType; scale >= 1.0; scale -= 0.1) {
+        type.setPointSizeF(normal * scale);
+        setFont(type);
+        QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // so that the size is known
+        if (minimumSizeHint().boundedTo(room) == minimumSizeHint())
+            return;
+    }
 }
 
 void Workspace::showConsole()

@@ -81,7 +81,9 @@ private:
     /// Arranges the panels as they are at first.
     void arrange();
     void showStage(bool isStage);
-    void showStageHint();
+
+    /// Makes the type as large as the screen has room for, up to that of the stage.
+    void enlargeType();
     void showCentre();
     void showConsole();
     void showPanel(QDockWidget& dock);
