@@ -57,6 +57,10 @@ std::vector<FileNote> notesOf(const FileTrack& track);
 /// cut short.
 std::string_view metaData(const FileEvent& event, std::uint8_t type);
 
+/// Makes a file that counts SMPTE frames count the ticks of beats of half a second, so that tempo
+/// events have an effect. Times are rounded if a beat is no whole number of its ticks.
+void countInBeats(MidiFileEvents& file);
+
 /// Returns whether the event is a `kSkipNotes` event.
 bool skipsNotes(const FileEvent& event);
 

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <tuple>
+#include <utility>
 
 namespace velmora {
 
@@ -125,7 +127,12 @@ void MusicalTime::setKeySignatures(std::vector<KeySignature> signatures)
 
 void MusicalTime::setMarkers(std::vector<Marker> markers)
 {
-    std::ranges::stable_sort(markers, {}, &Marker::step);
+    for (Marker& marker : markers)
+        marker.step = std::max(marker.step, 0.0);
+    std::ranges::stable_sort(markers, [](const Marker& a, const Marker& b) {
+        return std::tie(a.step, a.text) < std::tie(b.step, b.text);
+    });
+    markers.erase(std::unique(markers.begin(), markers.end()), markers.end());
     markers_ = std::move(markers);
 }
 
@@ -190,43 +197,43 @@ bool MusicalTime::operator==(const MusicalTime& other) const
            keySignatures_ == other.keySignatures_ && markers_ == other.markers_;
 }
 
+void addTimeEvent(const FileEvent& event, const MidiFileHeader& header, TimeLists& lists)
+{
+    if (event.status != midi::kMetaEvent)
+        return;
+    const double step = static_cast<double>(event.tick) / header.ticksPerBeat * kStepsPerBeat;
+    const auto tempo = metaData(event, midi::kTempo);
+    if (tempo.size() == 3 && !header.hasFrames) {
+        std::uint32_t microseconds = 0;
+        for (const char byte : tempo)
+            microseconds = microseconds << 8 | static_cast<std::uint8_t>(byte);
+        lists.tempos.push_back({step, microseconds});
+    }
+    const auto time = metaData(event, midi::kTimeSignature);
+    if (time.size() >= 2 && time[0] != 0 && time[1] >= 0 && time[1] <= kShortestUnit)
+        lists.timeSignatures.push_back({step, static_cast<std::uint8_t>(time[0]), 1 << time[1]});
+    const auto key = metaData(event, midi::kKeySignature);
+    if (key.size() >= 2)
+        lists.keySignatures.push_back(
+            {step, std::clamp<int>(static_cast<signed char>(key[0]), -kMostSharps, kMostSharps),
+             key[1] == 1});
+    const auto marker = metaData(event, midi::kMarker);
+    if (!marker.empty())
+        lists.markers.push_back({step, std::string(marker)});
+}
+
 MusicalTime musicalTimeOf(const MidiFileEvents& file)
 {
-    std::vector<Tempo> tempos;
-    std::vector<TimeSignature> timeSignatures;
-    std::vector<KeySignature> keySignatures;
-    std::vector<Marker> markers;
-    for (const FileTrack& track : file.tracks) {
-        for (const FileEvent& event : track.events) {
-            const double step =
-                static_cast<double>(event.tick) / file.header.ticksPerBeat * kStepsPerBeat;
-            const auto tempo = metaData(event, midi::kTempo);
-            const auto time = metaData(event, midi::kTimeSignature);
-            const auto key = metaData(event, midi::kKeySignature);
-            const auto marker = metaData(event, midi::kMarker);
-            if (tempo.size() == 3 && !file.header.hasFrames) {
-                std::uint32_t microseconds = 0;
-                for (const char byte : tempo)
-                    microseconds = microseconds << 8 | static_cast<std::uint8_t>(byte);
-                tempos.push_back({step, microseconds});
-            }
-            if (time.size() >= 2 && time[0] != 0 && time[1] >= 0 && time[1] <= kShortestUnit)
-                timeSignatures.push_back({step, static_cast<std::uint8_t>(time[0]), 1 << time[1]});
-            if (key.size() >= 2)
-                keySignatures.push_back(
-                    {step,
-                     std::clamp<int>(static_cast<signed char>(key[0]), -kMostSharps, kMostSharps),
-                     key[1] == 1});
-            if (!marker.empty())
-                markers.push_back({step, std::string(marker)});
-        }
-    }
-    MusicalTime result;
-    result.setTempos(std::move(tempos));
-    result.setTimeSignatures(std::move(timeSignatures));
-    result.setKeySignatures(std::move(keySignatures));
-    result.setMarkers(std::move(markers));
-    return result;
+    TimeLists lists;
+    for (const FileTrack& track : file.tracks)
+        for (const FileEvent& event : track.events)
+            addTimeEvent(event, file.header, lists);
+    MusicalTime time;
+    time.setTempos(std::move(lists.tempos));
+    time.setTimeSignatures(std::move(lists.timeSignatures));
+    time.setKeySignatures(std::move(lists.keySignatures));
+    time.setMarkers(std::move(lists.markers));
+    return time;
 }
 
 } // namespace velmora

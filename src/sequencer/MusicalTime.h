@@ -9,7 +9,9 @@
 
 namespace velmora {
 
+struct FileEvent;
 struct MidiFileEvents;
+struct MidiFileHeader;
 
 /// The tempo from a step on. A beat of the tempo is a quarter note.
 struct Tempo {
@@ -54,6 +56,14 @@ struct Marker {
     std::string text; ///< As it stands in the file, usually UTF-8 or Latin-1.
 
     bool operator==(const Marker&) const = default;
+};
+
+/// Tempos, signatures and markers in any order.
+struct TimeLists {
+    std::vector<Tempo> tempos;
+    std::vector<TimeSignature> timeSignatures;
+    std::vector<KeySignature> keySignatures;
+    std::vector<Marker> markers;
 };
 
 /// A bar of a piece.
@@ -134,5 +144,8 @@ private:
 /// Reads the tempos, signatures and markers of a file. Tempos of a file with SMPTE time are left
 /// out, because they have no effect there.
 MusicalTime musicalTimeOf(const MidiFileEvents& file);
+
+/// Adds what one event of such a file says, if it is a tempo, a signature or a marker.
+void addTimeEvent(const FileEvent& event, const MidiFileHeader& header, TimeLists& lists);
 
 } // namespace velmora

@@ -5,6 +5,7 @@
 #include "midi/messages.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SourceFileWriter.h"
+#include "sequencer/editTime.h"
 
 #include <cstdint>
 #include <utility>
@@ -49,9 +50,12 @@ SourceFile::SourceFile(std::vector<std::byte> bytes, Sequence& sequence) : bytes
     sequence.sort();
 }
 
-std::string SourceFile::write(const Sequence& sequence) const
+std::string SourceFile::write(const Sequence& sequence, const MusicalTime& time) const
 {
-    return SourceFileWriter(readMidiFileEvents(bytes_), sequence).write();
+    MidiFileEvents file = readMidiFileEvents(bytes_);
+    FileEdits edits;
+    editTime(file, time, edits);
+    return SourceFileWriter(std::move(file), sequence, edits).write();
 }
 
 } // namespace velmora

@@ -197,6 +197,50 @@ TEST_F(MusicalSaving, ChangesOnlyWhatWasEdited)
     EXPECT_EQ(notes[0].length, 8.0) << "the same music";
 }
 
+TEST_F(MusicalSaving, WritesTheTempoAndTheSignaturesThatWereEdited)
+{
+    using namespace midi;
+    const std::string keySignature = bytes({0, 0xFF, 0x59, 2, 0xFE, 1});
+    const auto fileOf = [&](const std::string& time) {
+        return header(1, 2) + track(on(0, 48) + off(96, 48)) +
+               track(keySignature + time + on(0, 60) + off(96, 60));
+    };
+    open(fileOf(tempo(0, 600'000) + tempo(0, 500'000) + bytes({0, 0xFF, 0x58, 4, 3, 2, 12, 8})));
+    MusicalTime time = musical_.time();
+    time.changeTempoAt(0.0, 96.0);
+    musical_.setTime(time, {});
+    EXPECT_EQ(saved(), header(1, 2) + track(on(0, 48) + off(96, 48)) +
+                           track(tempo(0, 625'000) + keySignature +
+                                 bytes({0, 0xFF, 0x58, 4, 3, 2, 12, 8}) + on(0, 60) + off(96, 60)))
+        << "and nothing else; of the two tempos the later one was in force";
+
+    time.setTempos({Tempo::ofBeats(0.0, 90.0), Tempo::ofBeats(1.0 / 3.0, 70.0)});
+    time.setTimeSignatures({{0.0, 3, 4}, {24.0, 12, 16}, {1e5, 5, 8}});
+    time.setKeySignatures({{8.0, -7, false}});
+    time.setMarkers({{8.0, "B"}, {8.0, "A"}, {8.0, std::string(300, 'x')}});
+    const auto notesAndTime = [](const SequenceDocument& document) {
+        std::vector<double> starts;
+        for (const Note& note : document.sequence().notes())
+            starts.push_back(std::round(note.start * 100));
+        return std::pair(starts, document.time());
+    };
+    const std::string counted = track(tempo(0, 1) + on(80, 60) + off(40, 60));
+    for (const std::string& original :
+         {fileOf(""), header(0, 1, 0xE728) + counted, header(0, 1, 0xE328) + counted}) {
+        open(original);
+        const auto before = notesAndTime(musical_).first;
+        musical_.setTime(time, {});
+        saved();
+        musical_.read(folder_ / "b.mid");
+        EXPECT_EQ(notesAndTime(musical_).first, before);
+        EXPECT_EQ(musical_.time().timeSignatures(), time.timeSignatures());
+        EXPECT_EQ(musical_.time().keySignatures(), time.keySignatures());
+        EXPECT_EQ(musical_.time().markers(), time.markers());
+        ASSERT_EQ(musical_.time().tempos().size(), 2U) << "the file's own have no effect in frames";
+        EXPECT_NEAR(musical_.time().secondsAt(400.0), time.secondsAt(400.0), 1e-3);
+    }
+}
+
 TEST_F(MusicalSaving, ReadsADamagedFileAsFarAsItGoes)
 {
     using namespace midi;
