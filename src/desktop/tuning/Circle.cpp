@@ -12,7 +12,8 @@ constexpr JustInterval kFifth{3, 2}, kMajorThird{5, 4}, kOctave{2, 1};
 constexpr unsigned kMiddleKey = 60;
 
 /// The rings as parts of the greatest radius.
-constexpr double kNoteRing = 0.74, kFifthRing = 0.92, kThirdRing = 0.46;
+constexpr double kNoteRing = 0.74, kFifthRing = 0.92;
+constexpr double kThirdsAcross = 0.45, kThirdsUp = 0.5; // their labels are wider than high
 constexpr double kLargestNote = 20.0;
 
 double centsBetween(double low, double high)
@@ -65,12 +66,14 @@ CircleGeometry::CircleGeometry(QSizeF view, std::size_t notes)
 
 QPointF CircleGeometry::fifth(std::size_t position) const
 {
-    return at(static_cast<double>(position) + 0.5, ring_ / kNoteRing * kFifthRing);
+    const double radius = ring_ / kNoteRing * kFifthRing;
+    return at(static_cast<double>(position) + 0.5, radius, radius);
 }
 
 QPointF CircleGeometry::third(std::size_t position) const
 {
-    return at(static_cast<double>(position), ring_ / kNoteRing * kThirdRing);
+    const double greatest = ring_ / kNoteRing;
+    return at(static_cast<double>(position), kThirdsAcross * greatest, kThirdsUp * greatest);
 }
 
 std::optional<std::size_t> CircleGeometry::noteAt(QPointF point) const
@@ -89,10 +92,10 @@ double CircleGeometry::distance(QPointF point) const
     return std::hypot(away.x(), away.y());
 }
 
-QPointF CircleGeometry::at(double position, double radius) const
+QPointF CircleGeometry::at(double position, double across, double up) const
 {
     const double angle = 2 * std::numbers::pi * position / static_cast<double>(notes_);
-    return centre_ + QPointF(std::sin(angle), -std::cos(angle)) * radius;
+    return centre_ + QPointF(std::sin(angle) * across, -std::cos(angle) * up);
 }
 
 } // namespace velmora
