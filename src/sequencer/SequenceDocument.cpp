@@ -59,12 +59,13 @@ private:
 SequenceDocument::SequenceDocument(SequenceHost& host, Reading reading,
                                    std::function<double()> clock)
     : transport_(host, sequence_, reading, std::move(clock)), recorder_(transport_, sequence_),
-      practice_(transport_, sequence_)
+      practiceSession_(transport_, sequence_), practice_(transport_, sequence_, practiceSession_)
 {
     connect(&recorder_, &Recorder::ended, this, [this] {
         registerTake();
         emit changed();
     });
+    connect(this, &SequenceDocument::changed, &practiceSession_, &PracticeSession::seek);
     // In the plain reading the keyboard keeps its colours.
     if (reading == Reading::Musical)
         connect(&transport_, &Transport::modeChanged, this, [this] {

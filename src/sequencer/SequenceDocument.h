@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "sequencer/Practice.h"
+#include "sequencer/PracticeSession.h"
 #include "sequencer/Recorder.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceFile.h"
@@ -54,6 +55,8 @@ public:
     const Recorder& recorder() const { return recorder_; }
     Practice& practice() { return practice_; }
     const Practice& practice() const { return practice_; }
+    PracticeSession& practiceSession() { return practiceSession_; }
+    const PracticeSession& practiceSession() const { return practiceSession_; }
 
     /// Reads a Standard MIDI File. If the file cannot be read, the sequence is empty and
     /// `errorString` says why. Clears the undo history.
@@ -149,6 +152,7 @@ private:
     Sequence sequence_;
     Transport transport_;
     Recorder recorder_;
+    PracticeSession practiceSession_;
     Practice practice_;
     QUndoStack undoStack_;
     std::filesystem::path path_;

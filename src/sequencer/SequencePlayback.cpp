@@ -48,7 +48,7 @@ bool endsBetween(const Note& note, double from, double to)
 
 std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double to)
 {
-    const bool sounds = !isPlanned_ && !soundedTo_;
+    const bool isHeard = !isPlanned_ && !soundedTo_;
     if (soundedTo_) {
         actions_.clear();
         collect(std::max(*soundedTo_ - ahead_, passStart_), to, 0.0);
@@ -57,7 +57,7 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
         actions_.clear();
     }
     for (const Beat& beat : beatsBetween(from, to))
-        if (sounds)
+        if (isHeard)
             host_.click(beat.click, 0.0);
     std::optional<std::uint32_t> lastKey;
     bool silenced = false;
@@ -68,7 +68,7 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
             note.playing = note.active = true;
             states[note.key] = kWanted;
             lastKey = note.key;
-            if (sounds)
+            if (isHeard && isPlayed(note))
                 perform(host_, {true, note.key, channelOf(note), note.velocity, 0.0, 0.0});
         }
         if (endsBetween(note, from, to)) {
@@ -76,7 +76,7 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
             states[note.key] = 0;
             note.playing = note.active = false;
             silenced = true;
-            if (sounds)
+            if (isHeard && isPlayed(note))
                 stopOnInstrument(note.key, channelOf(note));
         }
     }
@@ -91,6 +91,8 @@ void SequencePlayback::collect(double from, double to, double time)
         actions_.push_back({.time = time, .step = to, .click = beat.click});
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
         const Note& note = sequence_.at(noteIndex);
+        if (!isPlayed(note))
+            continue;
         if (startsBetween(note, from, to))
             // See docs/decisions.md, 90.
             actions_.push_back({true, note.key, channelOf(note), note.velocity, time, to});
@@ -118,7 +120,8 @@ void SequencePlayback::playAhead(AheadPlayer* player)
     player_ = player;
 }
 
-void SequencePlayback::planAhead(double step, double time, const Pace& pace, double end)
+void SequencePlayback::planAhead(double step, double time, const Pace& pace, double end,
+                                 std::optional<double> hold)
 {
     if (player_ == nullptr || isPlanned_)
         return;
@@ -128,8 +131,9 @@ void SequencePlayback::planAhead(double step, double time, const Pace& pace, dou
     actions_.clear();
     for (int tick = 0; tick < kTicksPlanned; ++tick) {
         const double from = pace.stepAfter(step, kTick.count() * tick);
-        const double to = pace.stepAfter(step, kTick.count() * (tick + 1));
-        if (to > end) {
+        const double after = pace.stepAfter(step, kTick.count() * (tick + 1));
+        const double to = hold ? std::min(after, *hold) : after;
+        if (to > end || from >= to) {
             replanTime_ = std::numeric_limits<double>::infinity();
             break;
         }

@@ -3,6 +3,7 @@
 #include "sequencer/AheadPlayer.h"
 #include "sequencer/Metre.h"
 #include "sequencer/Pace.h"
+#include "sequencer/PracticePart.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/SequenceIndex.h"
@@ -26,6 +27,10 @@ public:
     /// Call this after every change of notes.
     void sequenceChanged() { index_.reset(); }
 
+    /// Flags the notes of a part, but does not sound them, because the user plays them; nothing
+    /// sounds every note again. Call this while nothing is planned.
+    void leaveOut(std::optional<PracticePart> part) { leftOut_ = part; }
+
     /// Starts and ends the notes whose start or end lies between two steps. Returns the key of the
     /// last note that started.
     std::optional<std::uint32_t> playBetween(double from, double to);
@@ -39,9 +44,10 @@ public:
     void playAhead(AheadPlayer* player);
 
     /// Plans the notes of the next quarter of a second from `step` at `time`, tick by tick, up to
-    /// `end`. Until the plan is cancelled, `playBetween` only flags notes. Does nothing without a
-    /// player, or if there is a plan.
-    void planAhead(double step, double time, const Pace& pace, double end);
+    /// `end`, and exactly up to `hold`. Until the plan is cancelled, `playBetween` only flags
+    /// notes. Does nothing without a player, or if there is a plan.
+    void planAhead(double step, double time, const Pace& pace, double end,
+                   std::optional<double> hold = {});
 
     /// Does the same for a loop, at whose end the notes are planned from its start again.
     void planLoop(double step, double time, const Pace& pace, double start, double end);
@@ -90,6 +96,7 @@ private:
     void clearMarks();
     SequenceIndex& index();
     bool isMarked(std::uint32_t noteIndex) const;
+    bool isPlayed(const Note& note) const { return !leftOut_ || !leftOut_->contains(note); }
     void mark(std::uint32_t noteIndex);
     void forgetUnmarked();
 
@@ -102,6 +109,7 @@ private:
     const MusicalTime* clicksOn_ = nullptr; ///< The piece of the metronome; null for none.
     bool divides_ = false;                  ///< The metronome clicks between the beats.
 
+    std::optional<PracticePart> leftOut_;
     AheadPlayer* player_ = nullptr;
     bool isPlanned_ = false;
     double planStart_ = 0.0;          ///< In steps.

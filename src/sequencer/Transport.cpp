@@ -116,11 +116,15 @@ void Transport::tick()
     // sounded.
     if (playback_.isPlanShort(clock_()))
         playback_.cancelPlan();
-    const double now = clock_();
+    double now = clock_();
     if (runs_ && now < lastTick_) { // it still counts
         if (ticks_++ % kTicksPerFrame == 0)
             emit frame();
         return;
+    }
+    if (mode_ == Mode::Playing) {
+        emit playing(now);              // may stop it
+        now = std::max(now, lastTick_); // it may have settled since
     }
     if (mode_ == Mode::Playing || runs_)
         playUntil(now);
@@ -155,7 +159,7 @@ std::optional<Interval> Transport::endlessLoop() const
     const Interval loop{interval_.isEmpty() ? 0.0 : interval_.start, endOfPlaying()};
     const bool isLong = pace().secondsBetween(loop.start, loop.end) > kTick.count();
     // In the plain reading every pass is longer by the rest of a tick.
-    return loop_ && reading_ == Reading::Musical && isLong && std::isfinite(loop.end) &&
+    return loop_ && reading_ == Reading::Musical && !hold_ && isLong && std::isfinite(loop.end) &&
                    position_ <= loop.end
                ? std::optional(loop)
                : std::nullopt;
@@ -164,8 +168,10 @@ std::optional<Interval> Transport::endlessLoop() const
 double Transport::playPasses(double seconds)
 {
     const auto loop = endlessLoop();
-    if (!loop)
-        return pace().stepAfter(position_, seconds);
+    if (!loop) {
+        const double next = pace().stepAfter(position_, seconds);
+        return hold_ ? std::min(next, std::max(*hold_, position_)) : next;
+    }
     double rest = pace().secondsBetween(position_, loop->end);
     while (seconds > rest) {
         playback_.playBetween(position_, loop->end);
@@ -199,20 +205,23 @@ void Transport::playUntil(double now)
     if (const auto loop = endlessLoop())
         playback_.planLoop(next, now, pace(), loop->start, loop->end);
     else
-        playback_.planAhead(next, now, pace(), endOfPlaying());
+        playback_.planAhead(next, now, pace(), endOfPlaying(), hold_);
 }
 
 void Transport::settle()
 {
-    if (!playback_.cancelPlan())
-        return;
-    const double now = clock_();
-    const double later = playPasses(now - lastTick_);
+    if (playback_.cancelPlan())
+        playOn(clock_());
+}
+
+void Transport::playOn(double until)
+{
+    const double later = playPasses(until - lastTick_);
     const double next = std::max(position_, std::min(later, endOfPlaying()));
     playback_.playBetween(position_, next);
     playback_.finishPlan();
     position_ = next;
-    lastTick_ = now;
+    lastTick_ = until;
 }
 
 void Transport::stop()
@@ -233,6 +242,16 @@ void Transport::scrollTo(double step)
     position_ = step;
     if (interval_.isEmpty())
         revealPosition();
+}
+
+void Transport::setHold(std::optional<double> step, double time)
+{
+    settle();
+    if (time > lastTick_)
+        playOn(time);
+    else if (hold_ && position_ >= *hold_)
+        lastTick_ = time;
+    hold_ = step;
 }
 
 void Transport::advance(double seconds)

@@ -87,6 +87,11 @@ public:
     /// Moves the position by seconds at the current pace, without a signal.
     void advance(double seconds);
 
+    /// Makes playing wait at a step until the hold is moved; nothing lets it go on. If the position
+    /// stands at the old hold, it has gone on since `time`, in seconds, which must not be later
+    /// than now. While there is a hold, loops are not planned ahead.
+    void setHold(std::optional<double> step, double time);
+
     /// Asks the view to show the position.
     void revealPosition();
 
@@ -133,6 +138,9 @@ public:
 signals:
     void modeChanged();
 
+    /// A tick of playing, with its time in seconds. The position is still that of the last tick.
+    void playing(double until);
+
     /// A tick of a recording, with the times of the last tick and of this one in seconds.
     void recording(double from, double until);
 
@@ -162,6 +170,9 @@ private:
     double playPasses(double seconds);
 
     void playUntil(double now);
+
+    /// Plays up to a time that is not later than now, but not beyond the end, and plans nothing.
+    void playOn(double until);
     void setMode(Mode mode);
     void takeMetronome();
     void countIn();
@@ -175,6 +186,7 @@ private:
     double lastTick_; ///< In seconds.
     double speed_ = 1.0;
     MusicalTime time_;
+    std::optional<double> hold_;
     double extent_ = 0.0;
     Interval interval_;
     bool loop_ = false;
