@@ -108,6 +108,12 @@ void Recorder::setChannel(unsigned char channel)
     emit optionsChanged();
 }
 
+void Recorder::setVelocity(float velocity)
+{
+    if (transport_.reading() == Reading::Musical)
+        velocity_ = velocity;
+}
+
 void Recorder::setSnapToGrid(bool snap)
 {
     snapToGrid_ = snap;
@@ -253,6 +259,7 @@ void Recorder::release(std::size_t key, double delay)
 
 void Recorder::begin(std::size_t key, float velocity, double position)
 {
+    setVelocity(velocity);
     Note note{.start = position,
               .length = 1.0,
               .oldLength = 1.0,

@@ -38,6 +38,11 @@ public:
     unsigned char channel() const { return channel_; }
     void setChannel(unsigned char channel);
 
+    /// The velocity of notes that are drawn, above 0: that of the last note that was recorded,
+    /// drawn or made louder. In the plain reading it is always 1.
+    float velocity() const { return velocity_; }
+    void setVelocity(float velocity);
+
     /// True if notes that are recorded, drawn or moved snap to whole steps.
     bool snapToGrid() const { return snapToGrid_; }
     void setSnapToGrid(bool snap);
@@ -99,6 +104,7 @@ private:
     Transport& transport_;
     Sequence& sequence_;
     unsigned char channel_ = 0;
+    float velocity_ = 1.0F;
     bool snapToGrid_ = false;
     bool punches_ = false;
     std::optional<RunningTake> running_; ///< The last recording, if time ran through it.

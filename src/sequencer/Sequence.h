@@ -2,7 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -31,7 +31,8 @@ struct Note {
     std::uint32_t origin = 0;
 };
 
-/// A note as it is in another state of its sequence; empty if it does not exist there.
+/// A note as it is in another state of its sequence; empty if it does not exist there. Identity 0
+/// stands for a note that has not been added yet.
 struct NoteState {
     std::uint64_t id;
     std::optional<Note> note;
@@ -98,8 +99,9 @@ public:
     void move(double keys, double steps, bool snap);
 
     /// Puts notes into the given states and stores their previous ones in `states`, so that a
-    /// second call undoes the first. Then sorts. Notes that exist before and after keep their
-    /// flags. If any note is added or removed, nothing is selected afterwards.
+    /// second call undoes the first. A note with identity 0 is added and receives a new one. Then
+    /// sorts. Notes that exist before and after keep their flags. If any note is added or removed,
+    /// nothing is selected afterwards.
     void swap(std::vector<NoteState>& states);
 
     /// Puts the selected notes on a channel.
@@ -114,10 +116,14 @@ public:
 private:
     template <class Change> void forSelected(Change change);
     void eraseAll(std::vector<std::uint64_t> ids);
+    std::size_t positionOf(std::uint64_t id) const;
+    void setPosition(std::uint64_t id, std::size_t position);
+
+    static constexpr auto kNowhere = std::numeric_limits<std::size_t>::max();
 
     std::uint64_t lastId_ = 0;
     std::vector<std::uint64_t> selection_;
-    std::map<std::uint64_t, std::uint64_t> index_; ///< From identities to indices into `notes_`.
+    std::vector<std::size_t> positions_; ///< Indices into `notes_` by identity, or `kNowhere`.
     std::vector<Note> notes_;
 };
 

@@ -257,8 +257,8 @@ void SequenceDocument::swap(std::vector<NoteState>& notes)
 
         // A restored note can lie beyond the end.
         double extent = transport_.extent();
-        for (const std::uint64_t id : ids)
-            if (const Note* note = edit->find(id))
+        for (const NoteState& state : notes)
+            if (const Note* note = edit->find(state.id))
                 extent = std::max(extent, extentOf(*note));
         transport_.setExtent(extent);
     }
@@ -278,11 +278,18 @@ void SequenceDocument::setTime(MusicalTime time, const QString& text)
     }));
 }
 
-void SequenceDocument::perform(std::vector<NoteState> notes, const QString& text)
+std::vector<std::uint64_t> SequenceDocument::perform(std::vector<NoteState> notes,
+                                                     const QString& text)
 {
     registerTake();
     swap(notes);
+    std::vector<std::uint64_t> ids;
+    ids.reserve(notes.size());
+    for (const NoteState& state : notes)
+        if (sequence_.find(state.id) != nullptr)
+            ids.push_back(state.id);
     registerDone(std::move(notes), text);
+    return ids;
 }
 
 void SequenceDocument::registerDone(std::vector<NoteState> before, const QString& text)

@@ -109,8 +109,8 @@ public:
     static QString editText(const char* text, std::size_t notes);
 
     /// Puts notes into the given states, as an edit that can be undone. `text` names it in the
-    /// menu.
-    void perform(std::vector<NoteState> notes, const QString& text);
+    /// menu. Returns the identities of those of the notes that exist afterwards.
+    std::vector<std::uint64_t> perform(std::vector<NoteState> notes, const QString& text);
 
     /// Adds an edit that has already been made to the undo history. `before` holds its notes as
     /// they were.

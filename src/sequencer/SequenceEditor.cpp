@@ -110,7 +110,7 @@ void SequenceEditor::rightMouseDown(RollPoint point)
     Note note{.start = snapped(point.step),
               .length = 1.0,
               .oldLength = 1.0,
-              .velocity = 1.0F,
+              .velocity = recorder_.velocity(),
               .channel = recorder_.channel(),
               .key = wholeKey(point.key)};
     note.oldStart = note.start;

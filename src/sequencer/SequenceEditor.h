@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace velmora {
@@ -12,6 +13,7 @@ namespace velmora {
 class Recorder;
 class SequenceDocument;
 class Transport;
+struct Quantisation;
 
 /// A point in the piano roll.
 struct RollPoint {
@@ -34,6 +36,8 @@ public:
 
     /// The document must outlive it.
     explicit SequenceEditor(SequenceDocument& document);
+
+    SequenceDocument& document() const { return document_; }
 
     /// Selects the note under the mouse. A drag then resizes it if the press hit its end, and
     /// otherwise moves the selection. If there is no note, moves the position and begins an
@@ -73,6 +77,41 @@ public:
     /// Lengthens the selected notes, except those that would have no length any more.
     void resizeSelection(int steps);
 
+    /// Selects the notes for which `isWanted` returns true, besides those that are selected already
+    /// or instead of them.
+    void select(const std::function<bool(const Note&)>& isWanted, Qt::KeyboardModifiers modifiers);
+
+    /// Returns the selected notes, or all of them if none is selected.
+    std::vector<Note> chosen() const;
+
+    /// Moves the chosen notes to a grid.
+    void quantise(const Quantisation& quantisation);
+
+    /// Moves the selected notes by semitones, all of them or none.
+    void transpose(int semitones);
+
+    /// Moves the selected notes by steps, past the grid.
+    void nudge(double steps);
+
+    /// Repeats the selected notes after themselves: after the selected interval if they begin in
+    /// it, and otherwise on the next beat.
+    void duplicate();
+
+    /// Divides the chosen notes that sound at the play position.
+    void divide();
+
+    /// Join the selected notes of each key, or let each of them last until the next.
+    void join();
+    void connect();
+
+    /// Makes the selected notes louder, or softer if `difference` is negative. The loudest
+    /// velocity is 1.
+    void changeVelocity(double difference);
+
+    /// Gives notes the velocity that a function returns for each.
+    void setVelocity(const std::vector<Note>& notes,
+                     const std::function<double(const Note&)>& velocity);
+
     /// Returns the selected notes in order of their start.
     std::vector<Note> copy() const;
     std::vector<Note> cut();
@@ -93,6 +132,11 @@ private:
     bool takeNamedKey(int key, bool command);
     void setChannel(unsigned char channel, bool ofSelection);
     std::vector<Note> remove(const char* text);
+    std::vector<std::uint64_t> change(std::vector<NoteState> changes, const char* text);
+    void copyBy(int semitones, double steps);
+
+    /// Selects the notes with these identities. Those that do not exist are left out.
+    void selectOnly(const std::vector<std::uint64_t>& ids);
 
     SequenceDocument& document_;
     Transport& transport_;

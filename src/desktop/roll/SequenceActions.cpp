@@ -1,5 +1,7 @@
 #include "desktop/roll/SequenceActions.h"
 
+#include "desktop/roll/EditingActions.h"
+#include "desktop/roll/RollActions.h"
 #include "desktop/roll/SequenceScrollView.h"
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/icons.h"
@@ -62,6 +64,8 @@ SequenceActions::SequenceActions(Commands& commands)
       previous_(addKey("piece.previous", tr("Pre&vious Notes"), {Qt::Key_Down}, Qt::Key_Down)),
       next_(addKey("piece.next", tr("&Next Notes"), {Qt::Key_Up}, Qt::Key_Up)),
       corrections_(std::make_unique<QMenu>(tr("&Selected Notes"))),
+      editing_(std::make_unique<EditingActions>(commands, *corrections_)),
+      roll_(std::make_unique<RollActions>(commands)),
       channelMenu_(std::make_unique<QMenu>(tr("&Channel"))), channels_(new QActionGroup(this))
 {
     commands_.add("edit.undo", tr("Edit"), *undo_, {QKeySequence(QKeySequence::Undo)});
@@ -97,6 +101,8 @@ void SequenceActions::setTarget(const Target& target)
         undoStacks_.removeStack(&target_.document->undoStack());
     }
     target_ = target;
+    editing_->setTarget(target.document, target.editor);
+    roll_->setRoll(target.roll);
     if (target_.document != nullptr)
         connectTarget();
     const bool isAny = target_.document != nullptr;
@@ -229,6 +235,7 @@ void SequenceActions::addEditing(QMenu& edit) const
     edit.addSeparator();
     edit.addActions({selectAll_, deselect_, nextNote_, previousNote_});
     edit.addMenu(corrections_.get());
+    editing_->addTo(edit);
 }
 
 void SequenceActions::addTransport(QMenu& sequence) const
@@ -246,6 +253,7 @@ void SequenceActions::addZoom(QMenu& view) const
 {
     for (QAction* action : zooms_)
         view.addAction(action);
+    roll_->addTo(view);
 }
 
 void SequenceActions::showMode()

@@ -16,6 +16,8 @@ class QMenu;
 namespace velmora {
 
 class Commands;
+class EditingActions;
+class RollActions;
 class SequenceDocument;
 class SequenceEditor;
 class SequenceScrollView;
@@ -86,6 +88,8 @@ private:
     QAction *const start_, *const end_, *const previous_, *const next_;
     std::vector<QAction*> zooms_;
     const std::unique_ptr<QMenu> corrections_; ///< What can be done to the selected notes.
+    const std::unique_ptr<EditingActions> editing_;
+    const std::unique_ptr<RollActions> roll_;
     const std::unique_ptr<QMenu> channelMenu_;
     QActionGroup* const channels_;
 };

@@ -1,6 +1,7 @@
 #include "desktop/roll/SequenceScrollView.h"
 
 #include "desktop/roll/KeyRuler.h"
+#include "desktop/roll/Lanes.h"
 #include "desktop/roll/OutlyingNotes.h"
 #include "desktop/roll/SequenceView.h"
 #include "desktop/roll/TimeRuler.h"
@@ -47,16 +48,18 @@ int rescaled(int value, double anchor, int before, int after)
 
 SequenceScrollView::SequenceScrollView(QWidget* parent)
     : QWidget(parent), view_(new SequenceView), ruler_(new KeyRuler),
-      timeRuler_(new TimeRuler(*view_)), outlyingNotes_(new OutlyingNotes(*view_)),
-      horizontal_(new QScrollBar(Qt::Horizontal)), vertical_(new QScrollBar(Qt::Vertical)),
-      keyWidth_(getPrefInt("KeyWidth")), keyHeight_(getPrefInt("KeyHeight"))
+      timeRuler_(new TimeRuler(*view_)), lanes_(new Lanes(*view_)),
+      outlyingNotes_(new OutlyingNotes(*view_)), horizontal_(new QScrollBar(Qt::Horizontal)),
+      vertical_(new QScrollBar(Qt::Vertical)), keyWidth_(getPrefInt("KeyWidth")),
+      keyHeight_(getPrefInt("KeyHeight"))
 {
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(timeRuler_, 0, 0);
     layout->addWidget(view_, 0, 1);
-    layout->addWidget(vertical_, 0, 2);
+    layout->addWidget(lanes_, 0, 2);
+    layout->addWidget(vertical_, 0, 3);
     layout->addWidget(ruler_, 1, 1);
     layout->addWidget(horizontal_, 2, 1);
     layout->setColumnStretch(1, 1);
@@ -79,6 +82,7 @@ SequenceScrollView::SequenceScrollView(QWidget* parent)
     connect(view_, &SequenceView::documentChanged, this, [this] {
         ruler_->setDocument(view_->document());
         timeRuler_->setDocument(view_->document(), view_->editor());
+        lanes_->setEditor(view_->editor());
     });
     connect(outlyingNotes_, &OutlyingNotes::chosen, this, &SequenceScrollView::reveal);
     connect(view_, &SequenceView::draggedBeyondEdge, this, [this](QPoint pixels) {
@@ -103,6 +107,7 @@ void SequenceScrollView::updateSize(double steps)
         scrollTo(place);
     timeRuler_->setVisible(preferredScheme() == Scheme::Calm);
     timeRuler_->update();
+    lanes_->update();
     view_->redraw();
     ruler_->update();
     outlyingNotes_->update();
@@ -125,6 +130,7 @@ void SequenceScrollView::follow()
     view_->scrollTo(location());
     ruler_->scrollTo(location().x());
     timeRuler_->update();
+    lanes_->update();
 }
 
 void SequenceScrollView::scrollTo(QPoint point)

@@ -10,6 +10,7 @@ class QScrollBar;
 namespace velmora {
 
 class KeyRuler;
+class Lanes;
 class OutlyingNotes;
 class SequenceView;
 class TimeRuler;
@@ -24,6 +25,7 @@ public:
     explicit SequenceScrollView(QWidget* parent = nullptr);
 
     SequenceView& view() { return *view_; }
+    Lanes& lanes() { return *lanes_; }
 
     /// Fits the roll to a sequence of `steps` steps and to the preferences. If the scale changes,
     /// the middle of the view stays in place.
@@ -74,6 +76,7 @@ private:
     SequenceView* view_;
     KeyRuler* ruler_;
     TimeRuler* timeRuler_;
+    Lanes* lanes_;
     OutlyingNotes* outlyingNotes_;
     QScrollBar *horizontal_, *vertical_;
     double steps_ = 0.0;
