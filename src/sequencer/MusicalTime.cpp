@@ -18,7 +18,7 @@ namespace {
 constexpr double kRounding = 1e-6;
 
 /// The greatest number that a tempo event can hold.
-constexpr double kSlowest = 0xFFFFFF;
+constexpr double kSlowestTempo = 0xFFFFFF;
 
 /// The exponent of the shortest unit of a time signature.
 constexpr int kShortestUnit = 6;
@@ -64,7 +64,7 @@ double partOf(const TimeSignature& signature, Grid grid)
 Tempo Tempo::ofBeats(double step, double beats)
 {
     const double microseconds = std::round(60e6 / beats);
-    return {step, static_cast<std::uint32_t>(std::clamp(microseconds, 1.0, kSlowest))};
+    return {step, static_cast<std::uint32_t>(std::clamp(microseconds, 1.0, kSlowestTempo))};
 }
 
 double TimeSignature::beatLength() const

@@ -11,7 +11,7 @@ namespace velmora {
 namespace {
 
 /// Notes that begin within so many steps are one chord, though a player has recorded them.
-constexpr double kChordSpread = 0.5;
+constexpr double kChordWidth = 0.5;
 
 /// The slowest speed that mistakes lead to.
 constexpr double kSlowest = 0.3;
@@ -95,7 +95,7 @@ void PracticeSession::findChords()
     for (const Note& note : sequence_.notes()) {
         if (!options_.part.contains(note) || !stretch.contains(note.start))
             continue;
-        if (chords_.empty() || note.start - chords_.back().step >= kChordSpread)
+        if (chords_.empty() || note.start - chords_.back().step >= kChordWidth)
             chords_.push_back({note.start, {}, {}});
         chords_.back().keys.set(note.key);
     }
@@ -107,7 +107,7 @@ void PracticeSession::seek()
         return;
     findChords();
     const auto next = std::ranges::find_if(chords_, [this](const Chord& chord) {
-        return chord.step >= transport_.position() - kChordSpread / 2;
+        return chord.step >= transport_.position() - kChordWidth / 2;
     });
     chord_ = static_cast<std::size_t>(next - chords_.begin());
     isNextPass_ = false;
