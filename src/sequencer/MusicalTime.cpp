@@ -15,7 +15,7 @@ namespace velmora {
 namespace {
 
 /// A step this close below a line belongs to the line: the steps of a file are rounded.
-constexpr double kRounding = 1e-6;
+constexpr double kBarRounding = 1e-6;
 
 /// The greatest number that a tempo event can hold.
 constexpr double kSlowestTempo = 0xFFFFFF;
@@ -61,6 +61,20 @@ double partOf(const TimeSignature& signature, Grid grid)
 
 } // namespace
 
+Grid visibleGrid(double pixelsPerStep)
+{
+    constexpr double kLeastPixels = 6.0;
+    if (pixelsPerStep * kStepsPerWhole / 64 >= kLeastPixels)
+        return Grid::SixtyFourths;
+    if (pixelsPerStep * kStepsPerWhole / 32 >= kLeastPixels)
+        return Grid::ThirtySeconds;
+    if (pixelsPerStep * kStepsPerWhole / 16 >= kLeastPixels)
+        return Grid::Sixteenths;
+    if (pixelsPerStep * kStepsPerWhole / 8 >= kLeastPixels)
+        return Grid::Eighths;
+    return pixelsPerStep * kStepsPerBeat >= kLeastPixels ? Grid::Beats : Grid::Bars;
+}
+
 Tempo Tempo::ofBeats(double step, double beats)
 {
     const double microseconds = std::round(60e6 / beats);
@@ -105,7 +119,7 @@ void MusicalTime::setTimeSignatures(std::vector<TimeSignature> signatures)
     for (const TimeSignature& signature : timeSignatures_) {
         const Stretch& last = stretches_.back();
         const double bars =
-            (signature.step - last.signature.step) / last.signature.barLength() - kRounding;
+            (signature.step - last.signature.step) / last.signature.barLength() - kBarRounding;
         const int next = last.firstBar + std::max(0, static_cast<int>(std::ceil(bars)));
         if (next == last.firstBar) // it replaces the one of the same step
             stretches_.pop_back();
@@ -113,7 +127,7 @@ void MusicalTime::setTimeSignatures(std::vector<TimeSignature> signatures)
     }
     // See docs/decisions.md, 189.
     if (stretches_.size() < 2 || stretches_[1].firstBar != 2 ||
-        !(stretches_[1].signature.step < stretches_[1].signature.barLength() - kRounding))
+        !(stretches_[1].signature.step < stretches_[1].signature.barLength() - kBarRounding))
         return;
     for (Stretch& stretch : stretches_)
         --stretch.firstBar;
@@ -139,7 +153,7 @@ void MusicalTime::setMarkers(std::vector<Marker> markers)
 const MusicalTime::Stretch& MusicalTime::stretchAt(double step) const
 {
     const auto after = std::upper_bound(
-        std::next(stretches_.begin()), stretches_.end(), step + kRounding,
+        std::next(stretches_.begin()), stretches_.end(), step + kBarRounding,
         [](double before, const Stretch& stretch) { return before < stretch.signature.step; });
     return *std::prev(after);
 }
@@ -148,7 +162,7 @@ Bar MusicalTime::barAt(double step) const
 {
     const Stretch& stretch = stretchAt(step);
     const double length = stretch.signature.barLength();
-    const double bars = std::floor((step - stretch.signature.step + kRounding) / length);
+    const double bars = std::floor((step - stretch.signature.step + kBarRounding) / length);
     Bar bar{stretch.firstBar + static_cast<int>(bars), stretch.signature.step + bars * length,
             length, stretch.signature};
     if (&stretch != &stretches_.back())
@@ -162,10 +176,22 @@ double MusicalTime::gridAt(double step, Grid grid) const
     if (grid == Grid::Bars)
         return bar.start;
     const auto floorTo = [](double offset, double part) {
-        return std::floor((offset + kRounding) / part) * part;
+        return std::floor((offset + kBarRounding) / part) * part;
     };
     const double beat = floorTo(step - bar.start, bar.signature.beatLength());
     return bar.start + beat + floorTo(step - bar.start - beat, partOf(bar.signature, grid));
+}
+
+double MusicalTime::gridAfter(double step, Grid grid) const
+{
+    const double line = gridAt(step, grid);
+    const Bar bar = barAt(line);
+    const double beatLength = bar.signature.beatLength();
+    const double beat = std::floor((line - bar.start + kBarRounding) / beatLength) + 1.0;
+    const double next = grid == Grid::Bars ? bar.start + bar.length
+                                           : std::min(line + partOf(bar.signature, grid),
+                                                      bar.start + beat * beatLength);
+    return std::min(next, bar.start + bar.length);
 }
 
 std::vector<GridLine> MusicalTime::gridLines(double from, double to, Grid grid) const
@@ -175,16 +201,16 @@ std::vector<GridLine> MusicalTime::gridLines(double from, double to, Grid grid) 
         const double beatLength = bar.signature.beatLength(), part = partOf(bar.signature, grid);
         const auto add = [&](double offset, GridLine::Kind kind) {
             const double step = bar.start + offset;
-            if (from <= step && step < to && offset < bar.length - kRounding)
+            if (from <= step && step < to && offset < bar.length - kBarRounding)
                 lines.push_back({step, kind});
         };
         add(0.0, GridLine::Kind::Bar);
         if (grid == Grid::Bars)
             continue;
-        for (double beat = 0.0; beat < bar.length - kRounding; beat += beatLength) {
+        for (double beat = 0.0; beat < bar.length - kBarRounding; beat += beatLength) {
             if (beat > 0.0)
                 add(beat, GridLine::Kind::Beat);
-            for (int i = 1; i * part < beatLength - kRounding; ++i)
+            for (int i = 1; i * part < beatLength - kBarRounding; ++i)
                 add(beat + i * part, GridLine::Kind::Part);
         }
     }

@@ -72,10 +72,17 @@ struct Bar {
     double start;
     double length; ///< Shorter than the signature says if the next signature cuts the bar.
     TimeSignature signature;
+
+    /// Returns how far a step is in the bar, in beats; 1 at its start.
+    double beatAt(double step) const { return 1.0 + (step - start) / signature.beatLength(); }
 };
 
 /// The lines of a grid: the bars, the beats, or the notes of a value within the beats.
 enum class Grid : std::uint8_t { Bars, Beats, Eighths, Sixteenths, ThirtySeconds, SixtyFourths };
+
+/// Returns the finest grid whose lines are not too close to be seen, for the height of a step in
+/// pixels.
+Grid visibleGrid(double pixelsPerStep);
 
 /// A line of a grid, by what begins there.
 struct GridLine {
@@ -118,6 +125,9 @@ public:
 
     /// Returns the last line of a grid at or before a step.
     double gridAt(double step, Grid grid) const;
+
+    /// Returns the first line of a grid after a step.
+    double gridAfter(double step, Grid grid) const;
 
     /// Returns the lines of a grid from a step up to, but not including, another one.
     std::vector<GridLine> gridLines(double from, double to, Grid grid) const;

@@ -120,6 +120,24 @@ void Recorder::setSnapToGrid(bool snap)
     emit optionsChanged();
 }
 
+double Recorder::snapped(double step) const
+{
+    if (!snapToGrid_)
+        return step;
+    return transport_.reading() == Reading::Plain ? std::floor(step)
+                                                  : transport_.time().gridAt(step, grid_);
+}
+
+double Recorder::snappedUp(double step) const
+{
+    if (!snapToGrid_)
+        return step;
+    if (transport_.reading() == Reading::Plain)
+        return std::ceil(step);
+    const double line = transport_.time().gridAt(step, grid_);
+    return line < step ? transport_.time().gridAfter(step, grid_) : line;
+}
+
 std::vector<NoteState> Recorder::endTake()
 {
     std::vector<NoteState> before;
@@ -268,11 +286,17 @@ void Recorder::begin(std::size_t key, float velocity, double position)
               .key = static_cast<std::uint32_t>(key),
               .oldStart = position,
               .oldKey = static_cast<std::uint32_t>(key)};
-    if (snapToGrid_)
-        note.start = std::floor(note.start);
+    note.start = snapped(note.start);
     transport_.playback().sequenceChanged();
     openNotes_[key] = sequence_.addNote(note).id;
     taken_.emplace(openNotes_[key], std::nullopt);
+}
+
+double Recorder::snappedLength(double start, double end) const
+{
+    if (transport_.reading() == Reading::Plain)
+        return std::floor(end - start);
+    return std::max(snapped(end), transport_.time().gridAfter(start, grid_)) - start;
 }
 
 void Recorder::lengthen(std::size_t key, double position)
@@ -283,7 +307,8 @@ void Recorder::lengthen(std::size_t key, double position)
     // Shorter notes could be neither seen nor heard.
     const double shortest = transport_.pace().stepsPerSecondAt(note->start) * kTick.count();
     const double exact = position - note->start;
-    const double length = snapToGrid_ ? std::floor(exact) : std::max(exact, shortest);
+    const double length =
+        snapToGrid_ ? snappedLength(note->start, position) : std::max(exact, shortest);
     if (length == note->length)
         return;
     taken_.emplace(note->id, note->length);

@@ -43,9 +43,18 @@ public:
     float velocity() const { return velocity_; }
     void setVelocity(float velocity);
 
-    /// True if notes that are recorded, drawn or moved snap to whole steps.
+    /// True if notes that are recorded, drawn or moved snap to the grid, which is one of whole
+    /// steps in the plain reading.
     bool snapToGrid() const { return snapToGrid_; }
     void setSnapToGrid(bool snap);
+
+    /// Sets the grid of the musical reading.
+    void setGrid(Grid grid) { grid_ = grid; }
+
+    /// Returns the last line of the grid at or before a step, or the first one at or after it; the
+    /// step itself if nothing snaps.
+    double snapped(double step) const;
+    double snappedUp(double step) const;
 
     /// True if a recording replaces the notes of its channel in the selected interval, and ends
     /// with it.
@@ -100,12 +109,14 @@ private:
     double positionBefore(double delay) const;
     void begin(std::size_t key, float velocity, double position);
     void lengthen(std::size_t key, double position);
+    double snappedLength(double start, double end) const;
 
     Transport& transport_;
     Sequence& sequence_;
     unsigned char channel_ = 0;
     float velocity_ = 1.0F;
     bool snapToGrid_ = false;
+    Grid grid_ = Grid::ThirtySeconds;
     bool punches_ = false;
     std::optional<RunningTake> running_; ///< The last recording, if time ran through it.
     double limit_ = 0.0;    ///< The step at which the position stops while no key is held.

@@ -80,6 +80,7 @@ void SequenceEditor::hit(Sequence& sequence, Note& note, RollHit place,
                          Qt::KeyboardModifiers modifiers)
 {
     hitNote_ = true;
+    grabbedStart_ = note.start;
     if (place == RollHit::NoteEnd)
         newNote_ = note.id;
     // Recording and undoing change notes without committing them.
@@ -124,20 +125,28 @@ void SequenceEditor::rightMouseDown(RollPoint point)
 
 void SequenceEditor::mouseDragged(RollPoint point)
 {
-    const bool snap = recorder_.snapToGrid();
     if (newNote_ != 0) {
         const auto edit = document_.edit({&newNote_, 1});
         if (Note* note = edit->find(newNote_)) {
-            const double end = snap ? std::ceil(point.step) : point.step;
-            note->length = std::max(end - note->start, 0.0);
+            note->length = std::max(recorder_.snappedUp(point.step) - note->start, 0.0);
         }
     } else if (!hitNote_) {
         transport_.selectInterval(transport_.interval().start, snapped(point.step));
     } else {
-        const double steps =
-            snap ? std::floor(point.step) - std::floor(click_.step) : point.step - click_.step;
-        move(point.key - click_.key, steps, snap);
+        dragNotes(point);
     }
+}
+
+void SequenceEditor::dragNotes(RollPoint point)
+{
+    const double keys = point.key - click_.key, steps = point.step - click_.step;
+    if (document_.reading() == Reading::Musical) {
+        // The note under the mouse snaps, and the others keep their distance from it.
+        move(keys, recorder_.snapped(grabbedStart_ + steps) - grabbedStart_, false);
+        return;
+    }
+    const bool snap = recorder_.snapToGrid();
+    move(keys, snap ? std::floor(point.step) - std::floor(click_.step) : steps, snap);
 }
 
 void SequenceEditor::mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers)
@@ -226,9 +235,14 @@ void SequenceEditor::selectInterval(double one, double other)
     transport_.selectInterval(snapped(std::min(one, other)), snapped(std::max(one, other)));
 }
 
+void SequenceEditor::setGrid(Grid grid)
+{
+    recorder_.setGrid(grid);
+}
+
 double SequenceEditor::snapped(double step) const
 {
-    return std::max(recorder_.snapToGrid() ? std::floor(step) : step, 0.0);
+    return std::max(recorder_.snapped(step), 0.0);
 }
 
 } // namespace velmora

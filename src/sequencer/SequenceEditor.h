@@ -11,6 +11,7 @@
 namespace velmora {
 
 class Recorder;
+enum class Grid : std::uint8_t;
 class SequenceDocument;
 class Transport;
 struct Quantisation;
@@ -61,6 +62,9 @@ public:
 
     /// Selects the interval between two steps in either order.
     void selectInterval(double one, double other);
+
+    /// Sets the grid to which notes and times snap if snapping is on.
+    void setGrid(Grid grid);
 
     void selectAll();
     void deleteSelection();
@@ -122,6 +126,7 @@ public:
 private:
     void hit(Sequence& sequence, Note& note, RollHit place, Qt::KeyboardModifiers modifiers);
     void move(double keys, double steps, bool snap);
+    void dragNotes(RollPoint point);
     void beginChange();
     void endChange();
     void finishLength();
@@ -142,6 +147,7 @@ private:
     Transport& transport_;
     Recorder& recorder_;
     RollPoint click_{};         ///< The point of the last press.
+    double grabbedStart_ = 0.0; ///< The start of the note that it hit.
     bool hitNote_ = false;      ///< True if the last press hit or created a note.
     bool isNewNote_ = false;    ///< True if the drag draws a new note.
     std::uint64_t newNote_ = 0; ///< The note that is being resized or drawn; 0 if none is.

@@ -2,6 +2,7 @@
 
 #include "base/FormatError.h"
 #include "midi/MidiFileEvents.h"
+#include "sequencer/SequenceEditor.h"
 #include "sequencer/SourceFile.h"
 #include "support/MidiBytes.h"
 #include "support/SequenceTest.h"
@@ -95,6 +96,16 @@ TEST(MusicalTime, CountsBarsThroughSignatures)
     EXPECT_EQ(time.gridAt(107.9, Grid::Sixteenths), 106.0);
     EXPECT_EQ(time.gridAt(103.0, Grid::Bars), 96.0);
 
+    for (const Grid grid : {Grid::Bars, Grid::Beats, Grid::Sixteenths, Grid::SixtyFourths}) {
+        const auto lines = stepsOf(time.gridLines(40.0, 130.0, grid));
+        for (std::size_t i = 1; i < lines.size(); ++i) {
+            EXPECT_EQ(time.gridAfter(lines[i - 1], grid), lines[i]);
+            EXPECT_EQ(time.gridAt(lines[i] - 0.1, grid), lines[i - 1]);
+        }
+    }
+    EXPECT_EQ(visibleGrid(8.0), Grid::ThirtySeconds) << "of the roll's usual height";
+    EXPECT_EQ(visibleGrid(1.0), Grid::Beats);
+
     const auto pickUp = [](int first, int second) {
         MusicalTime piece;
         piece.setTimeSignatures({{0.0, first, 4}, {8.0 * first, second, 4}});
@@ -143,6 +154,40 @@ TEST_F(MusicalTimeTest, IsEditedAndUndone)
     now_ += 2e-3;
     musical_.transport().tick();
     EXPECT_EQ(calls_, (Calls{"play 60 1.00"}));
+}
+
+TEST_F(MusicalTimeTest, SnapsToTheGridThatIsShown)
+{
+    SequenceEditor editor(musical_);
+    MusicalTime time;
+    time.setTimeSignatures({{0.0, 6, 8}});
+    musical_.setTime(time, {});
+    musical_.recorder().setSnapToGrid(true);
+    const auto starts = [&] {
+        std::vector<double> steps;
+        for (const Note& note : musical_.sequence().notes())
+            steps.push_back(note.start);
+        return steps;
+    };
+    editor.setGrid(Grid::Beats);
+    editor.rightMouseDown({60.5, 23.0});
+    editor.mouseDragged({60.5, 25.0});
+    editor.mouseUp({60.5, 25.0}, {});
+    EXPECT_EQ(starts(), (std::vector{12.0}));
+    EXPECT_EQ(musical_.sequence().notes().at(0).length, 24.0) << "up to a line";
+    musical_.edit()->addNote({.start = 40.5,
+                              .length = 2.0,
+                              .velocity = 1.0F,
+                              .key = 64,
+                              .oldStart = 40.5,
+                              .oldKey = 64});
+    editor.setGrid(Grid::SixtyFourths);
+    editor.mouseDown({64.5, 41.0}, {});
+    editor.mouseUp({64.5, 41.0}, {});
+    editor.mouseDown({60.5, 13.0}, Qt::ShiftModifier);
+    editor.mouseDragged({60.5, 15.7});
+    editor.mouseUp({60.5, 15.7}, {});
+    EXPECT_EQ(starts(), (std::vector{14.5, 43.0})) << "the one under the mouse is on a line";
 }
 
 } // namespace velmora

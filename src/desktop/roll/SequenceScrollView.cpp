@@ -9,6 +9,7 @@
 #include "desktop/widgets/scheme.h"
 #include "preferences/Preferences.h"
 #include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
 
 #include <QGridLayout>
 #include <QScrollBar>
@@ -83,6 +84,7 @@ SequenceScrollView::SequenceScrollView(QWidget* parent)
         ruler_->setDocument(view_->document());
         timeRuler_->setDocument(view_->document(), view_->editor());
         lanes_->setEditor(view_->editor());
+        setGrid();
     });
     connect(outlyingNotes_, &OutlyingNotes::chosen, this, &SequenceScrollView::reveal);
     connect(view_, &SequenceView::draggedBeyondEdge, this, [this](QPoint pixels) {
@@ -111,6 +113,13 @@ void SequenceScrollView::updateSize(double steps)
     view_->redraw();
     ruler_->update();
     outlyingNotes_->update();
+    setGrid();
+}
+
+void SequenceScrollView::setGrid()
+{
+    if (SequenceEditor* editor = view_->editor())
+        editor->setGrid(visibleGrid(keyHeight_));
 }
 
 void SequenceScrollView::fitBars()

@@ -71,6 +71,9 @@ private:
     void zoomAround(QPointF place, int notches, bool keys);
     void zoom(const char* preference, int notches);
     void fitBars();
+
+    /// Makes notes snap to the lines that are shown.
+    void setGrid();
     void follow();
 
     SequenceView* view_;

@@ -63,7 +63,8 @@ TransportBar::TransportBar(SequenceActions& actions, AppDelegate& application)
     addSpeed();
     addChannel();
     addSeparator();
-    position_->setToolTip(tr("The position in minutes and seconds at this speed, and in steps"));
+    position_->setToolTip(
+        tr("The position in minutes and seconds at this speed, and in bars and beats"));
     position_->setMargin(6);
     addWidget(position_);
     setDocument(nullptr);
@@ -221,14 +222,24 @@ void TransportBar::showPosition()
 {
     showTempo();
     const Transport& transport = document_->transport();
-    // While the position moves, decimals would change too fast to be read.
     if (const int beats = transport.beatsToCount(); beats > 0) {
         position_->setText(tr("Count-in: %1").arg(beats));
         return;
     }
-    const int decimals = transport.mode() == Transport::Mode::Stopped ? 1 : 0;
+    // While the position moves, decimals would change too fast to be read.
+    const bool moves = transport.mode() != Transport::Mode::Stopped;
+    if (document_->reading() == Reading::Plain) {
+        position_->setText(tr("%1  ·  step %2")
+                               .arg(timeText(transport))
+                               .arg(transport.position(), 0, 'f', moves ? 0 : 1));
+        return;
+    }
+    const Bar bar = document_->time().barAt(transport.position());
+    const double beat = std::floor(bar.beatAt(transport.position()) * 100.0) / 100.0;
     position_->setText(
-        tr("%1  ·  step %2").arg(timeText(transport)).arg(transport.position(), 0, 'f', decimals));
+        tr("%1  ·  bar %2, beat %3")
+            .arg(timeText(transport), locale().toString(bar.number),
+                 moves ? locale().toString(static_cast<int>(beat)) : locale().toString(beat)));
 }
 
 } // namespace velmora
