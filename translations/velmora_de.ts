@@ -646,6 +646,69 @@ Ein Klick zieht es oder stößt es ab</translation>
     </message>
 </context>
 <context>
+    <name>velmora::EditingActions</name>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished">Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Select &amp;by Voice or Velocity…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select the notes of a voice, of some keys and velocities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quantise…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move notes to the grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split Notes at the Positi&amp;on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Join Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect Notes (Le&amp;gato)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Notes an &amp;Octave Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Notes an O&amp;ctave Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Nudge Notes Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nu&amp;dge Notes Earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make Notes Lo&amp;uder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make Notes So&amp;fter</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -1118,6 +1181,21 @@ Ein anderes Instrument wählen, öffnen oder entladen</translation>
     <message>
         <source>held</source>
         <translation type="unfinished">gehalten</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Lanes</name>
+    <message>
+        <source>&amp;No Lane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Velocities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tempo and Signatures</source>
+        <translation type="unfinished">&amp;Tempo und Vorzeichnung</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1825,59 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
 </context>
 <context>
+    <name>velmora::QuantiseDialog</name>
+    <message>
+        <source> %</source>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Move the &amp;ends of notes as well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quantise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>1/%1 triplets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves all %n note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves %n selected note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Grid:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Strength:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;wing:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::RecordingActions</name>
     <message>
         <source>Piece</source>
@@ -1829,10 +1960,64 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
 </context>
 <context>
+    <name>velmora::RollActions</name>
+    <message>
+        <source>View</source>
+        <translation type="unfinished">Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Lane</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
         <translation type="unfinished">%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SelectDialog</name>
+    <message>
+        <source>%1 from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished">Alle</translation>
+    </message>
+    <message>
+        <source>&amp;Voice:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keys:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation type="unfinished">Tasten</translation>
+    </message>
+    <message>
+        <source>V&amp;elocities:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1875,10 +2060,6 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Snap to &amp;Grid</source>
         <translation type="unfinished">Am &amp;Raster ausrichten</translation>
-    </message>
-    <message>
-        <source>Align notes and times with whole steps</source>
-        <translation type="unfinished">Richtet Noten und Zeiten an ganzen Schritten aus</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -2016,6 +2197,10 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Make Notes &amp;Shorter</source>
         <translation type="unfinished">Noten &amp;kürzer</translation>
     </message>
+    <message>
+        <source>Align notes and times with the lines of the grid</source>
+        <translation type="unfinished">Noten und Zeiten an den Linien des Rasters ausrichten</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -2075,6 +2260,55 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Choose Take %1</source>
         <translation type="unfinished">Aufnahme %1 wählen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quantise %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Transpose %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Split %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Join %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Connect %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Change Velocity of %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2980,6 +3214,189 @@ Ein Klick zeigt alle Stimmungen</translation>
     </message>
 </context>
 <context>
+    <name>velmora::TimeActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Stück</translation>
+    </message>
+    <message>
+        <source>Ta&amp;p Tempo</source>
+        <translation type="unfinished">Tempo &amp;klopfen</translation>
+    </message>
+    <message>
+        <source>Tap repeatedly to set the tempo of the piece at the position</source>
+        <translation type="unfinished">Wiederholt klopfen, um das Tempo des Stücks an der Position zu setzen</translation>
+    </message>
+    <message>
+        <source>Tempo &amp;and Signatures</source>
+        <translation type="unfinished">Tempo &amp;und Vorzeichnung</translation>
+    </message>
+    <message>
+        <source>Tap</source>
+        <translation type="unfinished">Klopfen</translation>
+    </message>
+    <message>
+        <source>Tap Tempo</source>
+        <translation type="unfinished">Tempo klopfen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeEntryDialog</name>
+    <message>
+        <source>Add &amp;Tempo…</source>
+        <translation type="unfinished">&amp;Tempo hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add Time &amp;Signature…</source>
+        <translation type="unfinished">T&amp;aktart hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add &amp;Key Signature…</source>
+        <translation type="unfinished">T&amp;onart hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add &amp;Marker…</source>
+        <translation type="unfinished">&amp;Marke hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add Tempo</source>
+        <translation type="unfinished">Tempo hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Time Signature</source>
+        <translation type="unfinished">Taktart hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Key Signature</source>
+        <translation type="unfinished">Tonart hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation type="unfinished">Marke hinzufügen</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Tempo ändern</translation>
+    </message>
+    <message>
+        <source>Change Time Signature</source>
+        <translation type="unfinished">Taktart ändern</translation>
+    </message>
+    <message>
+        <source>Change Key Signature</source>
+        <translation type="unfinished">Tonart ändern</translation>
+    </message>
+    <message>
+        <source>Change Marker</source>
+        <translation type="unfinished">Marke ändern</translation>
+    </message>
+    <message>
+        <source>Delete Tempo</source>
+        <translation type="unfinished">Tempo löschen</translation>
+    </message>
+    <message>
+        <source>Delete Time Signature</source>
+        <translation type="unfinished">Taktart löschen</translation>
+    </message>
+    <message>
+        <source>Delete Key Signature</source>
+        <translation type="unfinished">Tonart löschen</translation>
+    </message>
+    <message>
+        <source>Delete Marker</source>
+        <translation type="unfinished">Marke löschen</translation>
+    </message>
+    <message>
+        <source>A♭ E♭ B♭ F C G D A E B F♯ C♯ G♯ D♯ A♯</source>
+        <comment>minor keys</comment>
+        <translation type="unfinished">as es b f c g d a e h fis cis gis dis ais</translation>
+    </message>
+    <message>
+        <source>C♭ G♭ D♭ A♭ E♭ B♭ F C G D A E B F♯ C♯</source>
+        <comment>major keys</comment>
+        <translation type="unfinished">Ces Ges Des As Es B F C G D A E H Fis Cis</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1-Moll</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1-Dur</translation>
+    </message>
+    <message>
+        <source>Tempo</source>
+        <translation type="unfinished">Tempo</translation>
+    </message>
+    <message>
+        <source>Time Signature</source>
+        <translation type="unfinished">Taktart</translation>
+    </message>
+    <message>
+        <source>Key Signature</source>
+        <translation type="unfinished">Tonart</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation type="unfinished">Marke</translation>
+    </message>
+    <message>
+        <source> bpm</source>
+        <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo:</source>
+        <translation type="unfinished">&amp;Tempo:</translation>
+    </message>
+    <message>
+        <source>&amp;Notes in a bar:</source>
+        <translation type="unfinished">&amp;Noten im Takt:</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>&amp;Value of a note:</source>
+        <translation type="unfinished">&amp;Wert einer Note:</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation type="unfinished">T&amp;onart:</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation type="unfinished">Te&amp;xt:</translation>
+    </message>
+    <message>
+        <source>&amp;Bar:</source>
+        <translation type="unfinished">Ta&amp;kt:</translation>
+    </message>
+    <message>
+        <source>B&amp;eat:</source>
+        <translation type="unfinished">&amp;Schlag:</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeLane</name>
+    <message>
+        <source>Tempo and signatures</source>
+        <translation type="unfinished">Tempo und Vorzeichnung</translation>
+    </message>
+    <message>
+        <source>Tempos, time signatures, key signatures and markers. Double-click to add or change one, drag it to move it, and press Delete to remove it.</source>
+        <translation type="unfinished">Tempi, Taktarten, Tonarten und Marken. Ein Doppelklick fügt etwas hinzu oder ändert es, Ziehen verschiebt es, und Entf entfernt es.</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation type="unfinished">Ä&amp;ndern …</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Löschen</translation>
+    </message>
+</context>
+<context>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
@@ -3009,20 +3426,12 @@ Ein Klick zeigt alle Stimmungen</translation>
         <translation type="unfinished">Spielen</translation>
     </message>
     <message>
-        <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished">Die Position in Minuten und Sekunden bei diesem Tempo und in Schritten</translation>
-    </message>
-    <message>
         <source>Te&amp;mpo</source>
         <translation type="unfinished">Temp&amp;o</translation>
     </message>
     <message>
         <source>Tempo</source>
         <translation type="unfinished">Tempo</translation>
-    </message>
-    <message>
-        <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished">Das Tempo beim Spielen und Aufnehmen in Schlägen pro Minute</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
@@ -3055,6 +3464,35 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>Count-in: %1</source>
         <translation type="unfinished">Einzählen: %1</translation>
+    </message>
+    <message>
+        <source>The position in minutes and seconds at this speed, and in bars and beats</source>
+        <translation type="unfinished">Die Position in Minuten und Sekunden bei dieser Geschwindigkeit und in Takten und Schlägen</translation>
+    </message>
+    <message>
+        <source>The tempo of the piece at the position in beats per minute (Alt+M)</source>
+        <translation type="unfinished">Das Tempo des Stücks an der Position in Schlägen pro Minute (Alt+M)</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>How fast the piece is played, as a part of its tempo. It is not saved with the piece.</source>
+        <translation type="unfinished">Wie schnell das Stück gespielt wird, als Anteil seines Tempos. Das wird nicht mit dem Stück gespeichert.</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Tempo ändern</translation>
+    </message>
+    <message>
+        <source>%1  ·  bar %2, beat %3</source>
+        <translation type="unfinished">%1  ·  Takt %2, Schlag %3</translation>
     </message>
 </context>
 <context>
@@ -3354,6 +3792,17 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>Now</source>
         <translation type="unfinished">Jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VelocityLane</name>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

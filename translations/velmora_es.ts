@@ -646,6 +646,69 @@ Un clic lo saca o lo cierra</translation>
     </message>
 </context>
 <context>
+    <name>velmora::EditingActions</name>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished">Editar</translation>
+    </message>
+    <message>
+        <source>Select &amp;by Voice or Velocity…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select the notes of a voice, of some keys and velocities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quantise…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move notes to the grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split Notes at the Positi&amp;on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Join Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect Notes (Le&amp;gato)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Notes an &amp;Octave Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Notes an O&amp;ctave Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Nudge Notes Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nu&amp;dge Notes Earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make Notes Lo&amp;uder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make Notes So&amp;fter</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -1118,6 +1181,21 @@ Elegir otro instrumento, abrir uno o retirarlo</translation>
     <message>
         <source>held</source>
         <translation type="unfinished">mantenida</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Lanes</name>
+    <message>
+        <source>&amp;No Lane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Velocities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tempo and Signatures</source>
+        <translation type="unfinished">&amp;Tempo y compases</translation>
     </message>
 </context>
 <context>
@@ -1747,6 +1825,59 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
 </context>
 <context>
+    <name>velmora::QuantiseDialog</name>
+    <message>
+        <source> %</source>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Move the &amp;ends of notes as well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quantise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>1/%1 triplets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves all %n note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves %n selected note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Grid:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Strength:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;wing:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::RecordingActions</name>
     <message>
         <source>Piece</source>
@@ -1829,10 +1960,64 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
 </context>
 <context>
+    <name>velmora::RollActions</name>
+    <message>
+        <source>View</source>
+        <translation type="unfinished">Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Lane</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
         <translation type="unfinished">%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SelectDialog</name>
+    <message>
+        <source>%1 from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished">Todos</translation>
+    </message>
+    <message>
+        <source>&amp;Voice:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keys:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation type="unfinished">Teclas</translation>
+    </message>
+    <message>
+        <source>V&amp;elocities:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1875,10 +2060,6 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Snap to &amp;Grid</source>
         <translation type="unfinished">Ajustar a la &amp;cuadrícula</translation>
-    </message>
-    <message>
-        <source>Align notes and times with whole steps</source>
-        <translation type="unfinished">Alinear las notas y los tiempos con pasos enteros</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -2016,6 +2197,10 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Make Notes &amp;Shorter</source>
         <translation type="unfinished">A&amp;cortar las notas</translation>
     </message>
+    <message>
+        <source>Align notes and times with the lines of the grid</source>
+        <translation type="unfinished">Ajustar notas y tiempos a las líneas de la cuadrícula</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -2075,6 +2260,55 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Choose Take %1</source>
         <translation type="unfinished">Elegir la toma %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quantise %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Transpose %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Split %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Join %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Connect %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Change Velocity of %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2980,6 +3214,189 @@ Haga clic para ver todas las afinaciones</translation>
     </message>
 </context>
 <context>
+    <name>velmora::TimeActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Pieza</translation>
+    </message>
+    <message>
+        <source>Ta&amp;p Tempo</source>
+        <translation type="unfinished">Marcar el tem&amp;po</translation>
+    </message>
+    <message>
+        <source>Tap repeatedly to set the tempo of the piece at the position</source>
+        <translation type="unfinished">Pulse varias veces para fijar el tempo de la pieza en la posición</translation>
+    </message>
+    <message>
+        <source>Tempo &amp;and Signatures</source>
+        <translation type="unfinished">Tempo &amp;y compases</translation>
+    </message>
+    <message>
+        <source>Tap</source>
+        <translation type="unfinished">Marcar</translation>
+    </message>
+    <message>
+        <source>Tap Tempo</source>
+        <translation type="unfinished">Marcar el tempo</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeEntryDialog</name>
+    <message>
+        <source>Add &amp;Tempo…</source>
+        <translation type="unfinished">Añadir &amp;tempo…</translation>
+    </message>
+    <message>
+        <source>Add Time &amp;Signature…</source>
+        <translation type="unfinished">Añadir &amp;compás…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Key Signature…</source>
+        <translation type="unfinished">Añadir &amp;armadura…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Marker…</source>
+        <translation type="unfinished">Añadir &amp;marca…</translation>
+    </message>
+    <message>
+        <source>Add Tempo</source>
+        <translation type="unfinished">Añadir tempo</translation>
+    </message>
+    <message>
+        <source>Add Time Signature</source>
+        <translation type="unfinished">Añadir compás</translation>
+    </message>
+    <message>
+        <source>Add Key Signature</source>
+        <translation type="unfinished">Añadir armadura</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation type="unfinished">Añadir marca</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Cambiar tempo</translation>
+    </message>
+    <message>
+        <source>Change Time Signature</source>
+        <translation type="unfinished">Cambiar compás</translation>
+    </message>
+    <message>
+        <source>Change Key Signature</source>
+        <translation type="unfinished">Cambiar armadura</translation>
+    </message>
+    <message>
+        <source>Change Marker</source>
+        <translation type="unfinished">Cambiar marca</translation>
+    </message>
+    <message>
+        <source>Delete Tempo</source>
+        <translation type="unfinished">Eliminar tempo</translation>
+    </message>
+    <message>
+        <source>Delete Time Signature</source>
+        <translation type="unfinished">Eliminar compás</translation>
+    </message>
+    <message>
+        <source>Delete Key Signature</source>
+        <translation type="unfinished">Eliminar armadura</translation>
+    </message>
+    <message>
+        <source>Delete Marker</source>
+        <translation type="unfinished">Eliminar marca</translation>
+    </message>
+    <message>
+        <source>A♭ E♭ B♭ F C G D A E B F♯ C♯ G♯ D♯ A♯</source>
+        <comment>minor keys</comment>
+        <translation type="unfinished">La♭ Mi♭ Si♭ Fa Do Sol Re La Mi Si Fa♯ Do♯ Sol♯ Re♯ La♯</translation>
+    </message>
+    <message>
+        <source>C♭ G♭ D♭ A♭ E♭ B♭ F C G D A E B F♯ C♯</source>
+        <comment>major keys</comment>
+        <translation type="unfinished">Do♭ Sol♭ Re♭ La♭ Mi♭ Si♭ Fa Do Sol Re La Mi Si Fa♯ Do♯</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1 menor</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1 mayor</translation>
+    </message>
+    <message>
+        <source>Tempo</source>
+        <translation type="unfinished">Tempo</translation>
+    </message>
+    <message>
+        <source>Time Signature</source>
+        <translation type="unfinished">Compás</translation>
+    </message>
+    <message>
+        <source>Key Signature</source>
+        <translation type="unfinished">Armadura</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation type="unfinished">Marca</translation>
+    </message>
+    <message>
+        <source> bpm</source>
+        <translation type="unfinished"> ppm</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo:</source>
+        <translation type="unfinished">&amp;Tempo:</translation>
+    </message>
+    <message>
+        <source>&amp;Notes in a bar:</source>
+        <translation type="unfinished">&amp;Notas por compás:</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>&amp;Value of a note:</source>
+        <translation type="unfinished">&amp;Valor de una nota:</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation type="unfinished">&amp;Tonalidad:</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation type="unfinished">&amp;Texto:</translation>
+    </message>
+    <message>
+        <source>&amp;Bar:</source>
+        <translation type="unfinished">&amp;Compás:</translation>
+    </message>
+    <message>
+        <source>B&amp;eat:</source>
+        <translation type="unfinished">&amp;Pulso:</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeLane</name>
+    <message>
+        <source>Tempo and signatures</source>
+        <translation type="unfinished">Tempo y compases</translation>
+    </message>
+    <message>
+        <source>Tempos, time signatures, key signatures and markers. Double-click to add or change one, drag it to move it, and press Delete to remove it.</source>
+        <translation type="unfinished">Tempos, compases, armaduras y marcas. Haga doble clic para añadir o cambiar uno, arrástrelo para moverlo y pulse Supr para eliminarlo.</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation type="unfinished">Ca&amp;mbiar…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Eliminar</translation>
+    </message>
+</context>
+<context>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
@@ -3009,20 +3426,12 @@ Haga clic para ver todas las afinaciones</translation>
         <translation type="unfinished">Reproducir</translation>
     </message>
     <message>
-        <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished">La posición en minutos y segundos con este tempo, y en pasos</translation>
-    </message>
-    <message>
         <source>Te&amp;mpo</source>
         <translation type="unfinished">Te&amp;mpo</translation>
     </message>
     <message>
         <source>Tempo</source>
         <translation type="unfinished">Tempo</translation>
-    </message>
-    <message>
-        <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished">El tempo de reproducción y grabación en pulsos por minuto (Alt+M)</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
@@ -3055,6 +3464,35 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>Count-in: %1</source>
         <translation type="unfinished">Entrada: %1</translation>
+    </message>
+    <message>
+        <source>The position in minutes and seconds at this speed, and in bars and beats</source>
+        <translation type="unfinished">La posición en minutos y segundos a esta velocidad, y en compases y pulsos</translation>
+    </message>
+    <message>
+        <source>The tempo of the piece at the position in beats per minute (Alt+M)</source>
+        <translation type="unfinished">El tempo de la pieza en la posición, en pulsos por minuto (Alt+M)</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">Velocidad</translation>
+    </message>
+    <message>
+        <source>How fast the piece is played, as a part of its tempo. It is not saved with the piece.</source>
+        <translation type="unfinished">A qué velocidad se toca la pieza, en relación con su tempo. No se guarda con la pieza.</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Cambiar tempo</translation>
+    </message>
+    <message>
+        <source>%1  ·  bar %2, beat %3</source>
+        <translation type="unfinished">%1  ·  compás %2, pulso %3</translation>
     </message>
 </context>
 <context>
@@ -3354,6 +3792,17 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>Now</source>
         <translation type="unfinished">Ahora</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VelocityLane</name>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

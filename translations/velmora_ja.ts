@@ -644,6 +644,69 @@ A click draws it or pushes it in</source>
     </message>
 </context>
 <context>
+    <name>velmora::EditingActions</name>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished">編集</translation>
+    </message>
+    <message>
+        <source>Select &amp;by Voice or Velocity…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select the notes of a voice, of some keys and velocities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quantise…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move notes to the grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split Notes at the Positi&amp;on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Join Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect Notes (Le&amp;gato)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Notes an &amp;Octave Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move Notes an O&amp;ctave Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Nudge Notes Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nu&amp;dge Notes Earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make Notes Lo&amp;uder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make Notes So&amp;fter</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -1114,6 +1177,21 @@ Choose another instrument, open or unload one</source>
     <message>
         <source>held</source>
         <translation type="unfinished">保持</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::Lanes</name>
+    <message>
+        <source>&amp;No Lane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Velocities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tempo and Signatures</source>
+        <translation type="unfinished">テンポと拍子(&amp;T)</translation>
     </message>
 </context>
 <context>
@@ -1741,6 +1819,57 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
 </context>
 <context>
+    <name>velmora::QuantiseDialog</name>
+    <message>
+        <source> %</source>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Move the &amp;ends of notes as well</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quantise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>1/%1 triplets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves all %n note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves %n selected note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Grid:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Strength:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;wing:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::RecordingActions</name>
     <message>
         <source>Piece</source>
@@ -1822,10 +1951,64 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
 </context>
 <context>
+    <name>velmora::RollActions</name>
+    <message>
+        <source>View</source>
+        <translation type="unfinished">表示</translation>
+    </message>
+    <message>
+        <source>&amp;Lane</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
         <translation type="unfinished">%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SelectDialog</name>
+    <message>
+        <source>%1 from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished">すべて</translation>
+    </message>
+    <message>
+        <source>&amp;Voice:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keys:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation type="unfinished">鍵</translation>
+    </message>
+    <message>
+        <source>V&amp;elocities:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1868,10 +2051,6 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Snap to &amp;Grid</source>
         <translation type="unfinished">グリッドに合わせる(&amp;G)</translation>
-    </message>
-    <message>
-        <source>Align notes and times with whole steps</source>
-        <translation type="unfinished">音符と時刻をステップの区切りに揃えます</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -2009,6 +2188,10 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Make Notes &amp;Shorter</source>
         <translation type="unfinished">音符を短くする(&amp;S)</translation>
     </message>
+    <message>
+        <source>Align notes and times with the lines of the grid</source>
+        <translation type="unfinished">音符と時間をグリッドの線に揃えます</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -2061,6 +2244,48 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Choose Take %1</source>
         <translation type="unfinished">テイク %1 を選択</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quantise %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Transpose %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Split %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Join %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Connect %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Change Velocity of %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2961,6 +3186,189 @@ Click to show all tunings</source>
     </message>
 </context>
 <context>
+    <name>velmora::TimeActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">曲</translation>
+    </message>
+    <message>
+        <source>Ta&amp;p Tempo</source>
+        <translation type="unfinished">テンポをタップ(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Tap repeatedly to set the tempo of the piece at the position</source>
+        <translation type="unfinished">繰り返しタップして、その位置の曲のテンポを設定します</translation>
+    </message>
+    <message>
+        <source>Tempo &amp;and Signatures</source>
+        <translation type="unfinished">テンポと拍子(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Tap</source>
+        <translation type="unfinished">タップ</translation>
+    </message>
+    <message>
+        <source>Tap Tempo</source>
+        <translation type="unfinished">テンポをタップ</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeEntryDialog</name>
+    <message>
+        <source>Add &amp;Tempo…</source>
+        <translation type="unfinished">テンポを追加(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Add Time &amp;Signature…</source>
+        <translation type="unfinished">拍子記号を追加(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Key Signature…</source>
+        <translation type="unfinished">調号を追加(&amp;K)…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Marker…</source>
+        <translation type="unfinished">マーカーを追加(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>Add Tempo</source>
+        <translation type="unfinished">テンポを追加</translation>
+    </message>
+    <message>
+        <source>Add Time Signature</source>
+        <translation type="unfinished">拍子記号を追加</translation>
+    </message>
+    <message>
+        <source>Add Key Signature</source>
+        <translation type="unfinished">調号を追加</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation type="unfinished">マーカーを追加</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">テンポを変更</translation>
+    </message>
+    <message>
+        <source>Change Time Signature</source>
+        <translation type="unfinished">拍子記号を変更</translation>
+    </message>
+    <message>
+        <source>Change Key Signature</source>
+        <translation type="unfinished">調号を変更</translation>
+    </message>
+    <message>
+        <source>Change Marker</source>
+        <translation type="unfinished">マーカーを変更</translation>
+    </message>
+    <message>
+        <source>Delete Tempo</source>
+        <translation type="unfinished">テンポを削除</translation>
+    </message>
+    <message>
+        <source>Delete Time Signature</source>
+        <translation type="unfinished">拍子記号を削除</translation>
+    </message>
+    <message>
+        <source>Delete Key Signature</source>
+        <translation type="unfinished">調号を削除</translation>
+    </message>
+    <message>
+        <source>Delete Marker</source>
+        <translation type="unfinished">マーカーを削除</translation>
+    </message>
+    <message>
+        <source>A♭ E♭ B♭ F C G D A E B F♯ C♯ G♯ D♯ A♯</source>
+        <comment>minor keys</comment>
+        <translation type="unfinished">変イ 変ホ 変ロ ヘ ハ ト ニ イ ホ ロ 嬰ヘ 嬰ハ 嬰ト 嬰ニ 嬰イ</translation>
+    </message>
+    <message>
+        <source>C♭ G♭ D♭ A♭ E♭ B♭ F C G D A E B F♯ C♯</source>
+        <comment>major keys</comment>
+        <translation type="unfinished">変ハ 変ト 変ニ 変イ 変ホ 変ロ ヘ ハ ト ニ イ ホ ロ 嬰ヘ 嬰ハ</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1 短三和音</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1 長三和音</translation>
+    </message>
+    <message>
+        <source>Tempo</source>
+        <translation type="unfinished">テンポ</translation>
+    </message>
+    <message>
+        <source>Time Signature</source>
+        <translation type="unfinished">拍子記号</translation>
+    </message>
+    <message>
+        <source>Key Signature</source>
+        <translation type="unfinished">調号</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation type="unfinished">マーカー</translation>
+    </message>
+    <message>
+        <source> bpm</source>
+        <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo:</source>
+        <translation type="unfinished">テンポ(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Notes in a bar:</source>
+        <translation type="unfinished">1小節の音符の数(&amp;N):</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>&amp;Value of a note:</source>
+        <translation type="unfinished">音符の長さ(&amp;V):</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation type="unfinished">調(&amp;K):</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation type="unfinished">文字(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Bar:</source>
+        <translation type="unfinished">小節(&amp;B):</translation>
+    </message>
+    <message>
+        <source>B&amp;eat:</source>
+        <translation type="unfinished">拍(&amp;E):</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeLane</name>
+    <message>
+        <source>Tempo and signatures</source>
+        <translation type="unfinished">テンポと拍子</translation>
+    </message>
+    <message>
+        <source>Tempos, time signatures, key signatures and markers. Double-click to add or change one, drag it to move it, and press Delete to remove it.</source>
+        <translation type="unfinished">テンポ、拍子記号、調号、マーカー。ダブルクリックで追加または変更、ドラッグで移動、Deleteキーで削除します。</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation type="unfinished">変更(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">削除(&amp;D)</translation>
+    </message>
+</context>
+<context>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
@@ -2990,20 +3398,12 @@ Click to show all tunings</source>
         <translation type="unfinished">再生</translation>
     </message>
     <message>
-        <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished">このテンポでの位置 (分、秒) とステップ</translation>
-    </message>
-    <message>
         <source>Te&amp;mpo</source>
         <translation type="unfinished">テンポ(&amp;M)</translation>
     </message>
     <message>
         <source>Tempo</source>
         <translation type="unfinished">テンポ</translation>
-    </message>
-    <message>
-        <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished">再生と録音のテンポ (1 分あたりの拍数) (Alt+M)</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
@@ -3036,6 +3436,35 @@ Click to show all tunings</source>
     <message>
         <source>Count-in: %1</source>
         <translation type="unfinished">カウントイン: %1</translation>
+    </message>
+    <message>
+        <source>The position in minutes and seconds at this speed, and in bars and beats</source>
+        <translation type="unfinished">この速度での分と秒、および小節と拍による位置</translation>
+    </message>
+    <message>
+        <source>The tempo of the piece at the position in beats per minute (Alt+M)</source>
+        <translation type="unfinished">その位置の曲のテンポ(1分あたりの拍数)(Alt+M)</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">速度</translation>
+    </message>
+    <message>
+        <source>How fast the piece is played, as a part of its tempo. It is not saved with the piece.</source>
+        <translation type="unfinished">曲を演奏する速さ(テンポに対する割合)。曲と一緒には保存されません。</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">テンポを変更</translation>
+    </message>
+    <message>
+        <source>%1  ·  bar %2, beat %3</source>
+        <translation type="unfinished">%1  ·  %2小節 %3拍</translation>
     </message>
 </context>
 <context>
@@ -3334,6 +3763,17 @@ Click to show all tunings</source>
     <message>
         <source>Now</source>
         <translation type="unfinished">今</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VelocityLane</name>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

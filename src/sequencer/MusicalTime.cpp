@@ -170,6 +170,14 @@ Bar MusicalTime::barAt(double step) const
     return bar;
 }
 
+double MusicalTime::startOfBar(int number) const
+{
+    const int least = std::max(number, stretches_.front().firstBar);
+    const auto after = std::ranges::upper_bound(stretches_, least, {}, &Stretch::firstBar);
+    const Stretch& stretch = *std::prev(after);
+    return stretch.signature.step + (least - stretch.firstBar) * stretch.signature.barLength();
+}
+
 double MusicalTime::gridAt(double step, Grid grid) const
 {
     const Bar bar = barAt(step);

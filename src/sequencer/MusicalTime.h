@@ -123,6 +123,9 @@ public:
     /// Returns the bar that contains a step. Before step 0, bars go on backwards.
     Bar barAt(double step) const;
 
+    /// Returns where a bar with a number starts; the first one if the number is lower than its own.
+    double startOfBar(int number) const;
+
     /// Returns the last line of a grid at or before a step.
     double gridAt(double step, Grid grid) const;
 

@@ -4,6 +4,8 @@
 #include "midi/MidiFileEvents.h"
 #include "sequencer/SequenceEditor.h"
 #include "sequencer/SourceFile.h"
+#include "sequencer/TapTempo.h"
+#include "sequencer/timeEntries.h"
 #include "support/MidiBytes.h"
 #include "support/SequenceTest.h"
 
@@ -154,6 +156,41 @@ TEST_F(MusicalTimeTest, IsEditedAndUndone)
     now_ += 2e-3;
     musical_.transport().tick();
     EXPECT_EQ(calls_, (Calls{"play 60 1.00"}));
+}
+
+TEST(TimeEntries, AreReplacedAndRemovedByTheirKind)
+{
+    const Tempo tempo = Tempo::ofBeats(8.0, 60.0);
+    const Marker one{8.0, "A"}, other{8.0, "B"};
+    MusicalTime time;
+    for (const TimeEntry& entry :
+         {TimeEntry(Tempo::ofBeats(8.0, 50.0)), TimeEntry(other), TimeEntry(one), TimeEntry(tempo),
+          TimeEntry(KeySignature{2.0, 1, true})})
+        time = with(time, entry);
+    EXPECT_EQ(entriesOf(time),
+              (std::vector<TimeEntry>{KeySignature{2.0, 1, true}, tempo, one, other}));
+    EXPECT_EQ(entriesOf(without(time, other)),
+              (std::vector<TimeEntry>{KeySignature{2.0, 1, true}, tempo, one}));
+
+    time.setTimeSignatures({{0.0, 1, 4}, {8.0, 4, 4}, {72.0, 6, 8}});
+    for (const double step : {0.0, 8.0, 40.0, 72.0, 96.0})
+        EXPECT_EQ(time.startOfBar(time.barAt(step + 1.0).number), step);
+    EXPECT_EQ(time.startOfBar(-5), 0.0);
+}
+
+TEST(TapTempo, IsTheMedianOfTheLastTaps)
+{
+    TapTempo taps;
+    EXPECT_EQ(taps.tap(10.0), std::nullopt);
+    EXPECT_DOUBLE_EQ(taps.tap(10.5).value(), 120.0);
+    EXPECT_DOUBLE_EQ(taps.tap(11.5).value(), 80.0);
+    EXPECT_DOUBLE_EQ(taps.tap(12.0).value(), 120.0) << "one beat was missed";
+    EXPECT_EQ(taps.tap(14.5), std::nullopt) << "after a pause";
+    EXPECT_DOUBLE_EQ(taps.tap(15.5).value(), 60.0);
+    double time = 15.5;
+    for (int i = 0; i < 8; ++i)
+        taps.tap(time += 0.4);
+    EXPECT_NEAR(taps.tap(time + 0.4).value(), 150.0, 1e-9) << "of the last eight";
 }
 
 TEST_F(MusicalTimeTest, SnapsToTheGridThatIsShown)

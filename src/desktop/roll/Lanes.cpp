@@ -1,5 +1,6 @@
 #include "desktop/roll/Lanes.h"
 
+#include "desktop/roll/TimeLane.h"
 #include "desktop/roll/VelocityLane.h"
 #include "preferences/settings.h"
 
@@ -23,6 +24,8 @@ QString laneText(LaneKind kind)
         return Lanes::tr("&No Lane");
     case LaneKind::Velocities:
         return Lanes::tr("&Velocities");
+    case LaneKind::Time:
+        return Lanes::tr("&Tempo and Signatures");
     }
     return {};
 }
@@ -34,6 +37,8 @@ const char* laneName(LaneKind kind)
         return "view.noLane";
     case LaneKind::Velocities:
         return "view.velocities";
+    case LaneKind::Time:
+        return "view.time";
     }
     return "";
 }
@@ -49,7 +54,8 @@ void setPreferredLane(LaneKind kind)
     setPreference(kLaneKey, static_cast<int>(kind));
 }
 
-Lanes::Lanes(const SequenceView& view) : lanes_{{LaneKind::Velocities, new VelocityLane(view)}}
+Lanes::Lanes(const SequenceView& view)
+    : lanes_{{LaneKind::Velocities, new VelocityLane(view)}, {LaneKind::Time, new TimeLane(view)}}
 {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});

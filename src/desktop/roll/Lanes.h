@@ -12,10 +12,10 @@ class SequenceEditor;
 class SequenceView;
 
 /// What can be shown beside the piano roll.
-enum class LaneKind : int { None, Velocities };
+enum class LaneKind : int { None, Velocities, Time };
 
 /// The kinds in the order of the menu.
-inline constexpr std::array kLaneKinds{LaneKind::None, LaneKind::Velocities};
+inline constexpr std::array kLaneKinds{LaneKind::None, LaneKind::Velocities, LaneKind::Time};
 
 /// The title of a lane in the menu, with a mnemonic.
 QString laneText(LaneKind kind);

@@ -40,10 +40,11 @@ SequenceActions::SequenceActions(Commands& commands)
           commands.add("piece.loop", tr("Piece"),
                        {tr("&Loop"), tr("Repeat the selected time, or the whole sequence"), "loop"},
                        {Qt::CTRL | Qt::Key_L})),
-      snap(commands.add("piece.snap", tr("Piece"),
-                        {tr("Snap to &Grid"), tr("Align notes and times with whole steps"), "snap"},
-                        {Qt::CTRL | Qt::Key_G})),
-      commands_(commands), recording_(commands),
+      snap(commands.add(
+          "piece.snap", tr("Piece"),
+          {tr("Snap to &Grid"), tr("Align notes and times with the lines of the grid"), "snap"},
+          {Qt::CTRL | Qt::Key_G})),
+      commands_(commands), recording_(commands), time_(commands),
       undo_(pictured(undoStacks_.createUndoAction(this, tr("&Undo")), "undo")),
       redo_(pictured(undoStacks_.createRedoAction(this, tr("&Redo")), "redo")),
       cut_(add("edit.cut", "cut", tr("Cu&t"), QKeySequence::keyBindings(QKeySequence::Cut))),
@@ -113,6 +114,7 @@ void SequenceActions::setTarget(const Target& target)
         action->setEnabled(isAny);
     channelMenu_->setEnabled(isAny);
     recording_.setDocument(target_.document);
+    time_.setDocument(target_.document, target_.roll);
     showMode();
     showOptions();
     showSelection();
@@ -246,6 +248,7 @@ void SequenceActions::addTransport(QMenu& sequence) const
     sequence.addSeparator();
     sequence.addActions({loop, snap});
     recording_.addTo(sequence);
+    time_.addTo(sequence);
     sequence.addMenu(channelMenu_.get());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/roll/RecordingActions.h"
+#include "desktop/roll/TimeActions.h"
 
 #include <QObject>
 #include <QUndoGroup>
@@ -45,6 +46,7 @@ public:
     QAction *const record, *const play, *const loop, *const snap;
 
     RecordingActions& recording() { return recording_; }
+    const TimeActions& time() const { return time_; }
 
     void addEditing(QMenu& edit) const;
     void addTransport(QMenu& sequence) const;
@@ -80,6 +82,7 @@ private:
 
     Commands& commands_;
     RecordingActions recording_;
+    TimeActions time_;
     Target target_;
     QUndoGroup undoStacks_;
     QAction *const undo_, *const redo_, *const cut_, *const copy_, *const paste_;

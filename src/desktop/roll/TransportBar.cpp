@@ -60,6 +60,7 @@ TransportBar::TransportBar(SequenceActions& actions, AppDelegate& application)
     addRecording(actions.recording());
     addSeparator();
     addTempo();
+    addAction(actions.time().tap);
     addSpeed();
     addChannel();
     addSeparator();
