@@ -15,7 +15,6 @@
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <optional>
 #include <string_view>
 #include <system_error>
 
@@ -150,33 +149,23 @@ bool isCompressed(std::span<const std::byte> start)
     return begins("fLaC") || begins("OggS") || isWavPack(start);
 }
 
-/// Returns where the samples of a file are kept that begins with these bytes; null if they are not.
-/// What a damaged file gives is not kept, since another time the damage may be refused.
-DecodedCache* cacheFor(std::span<const std::byte> start, const DecodingOptions& options)
-{
-    return options.damage == Damage::Refused && isCompressed(start) ? options.cache : nullptr;
-}
-
-/// Returns the samples of a file, in memory or not, if they are kept.
-template <class File> std::optional<Pcm> findDecoded(const File& file, const DecodedCache* cache,
-                                                     const DecodingOptions& options)
-{
-    if (cache == nullptr)
-        return std::nullopt;
-    return cache->find(DecodedCache::keyOf(file, {options.to16Bit, options.toMono}),
-                       *options.memory);
-}
-
-/// Decodes a file in memory, whose samples are kept from now on.
+/// Decodes a file, or takes its samples from the cache. What a damaged file gives is not cached,
+/// since another time the damage may be refused.
 Pcm decodeBytes(std::span<const std::byte> image, const std::string& name,
                 const DecodingOptions& options)
 {
-    if (options.damage == Damage::Refused)
+    const bool mustBeWhole = options.damage == Damage::Refused;
+    DecodedCache* cache = mustBeWhole && isCompressed(image) ? options.cache : nullptr;
+    const DecodedCache::Form form{options.to16Bit, options.toMono};
+    if (cache != nullptr)
+        if (auto pcm = cache->find(image, form, *options.memory))
+            return std::move(*pcm);
+    if (mustBeWhole)
         checkWholeness(image);
     Pcm pcm =
         isWavPack(image) ? decodeWavPack(image, name, options) : decodeImage(image, name, options);
-    if (DecodedCache* cache = cacheFor(image, options))
-        cache->store(DecodedCache::keyOf(image, {options.to16Bit, options.toMono}), pcm);
+    if (cache != nullptr)
+        cache->store(image, form, pcm);
     return pcm;
 }
 
@@ -188,12 +177,9 @@ try {
     std::array<std::byte, 4> magic{};
     file.read(0, magic);
     return logErrors(path.string(), [&] {
-        if (!isWavPack(magic) && options.damage != Damage::Refused)
-            return decodeOpenFile(file, path.string(), options);
-        // What is kept is found without reading the whole file.
-        if (auto pcm = findDecoded(file, cacheFor(magic, options), options))
-            return std::move(*pcm);
-        return decodeBytes(readFile(path), path.string(), options);
+        return isWavPack(magic) || options.damage == Damage::Refused
+                   ? decodeBytes(readFile(path), path.string(), options)
+                   : decodeOpenFile(file, path.string(), options);
     });
 } catch (const std::system_error& error) {
     const Logger log = logger("audio");
@@ -205,10 +191,7 @@ try {
 
 Pcm decodeAudio(std::span<const std::byte> image, const DecodingOptions& options)
 {
-    return logErrors(kEmbedded, [&] {
-        auto pcm = findDecoded(image, cacheFor(image, options), options);
-        return pcm ? std::move(*pcm) : decodeBytes(image, kEmbedded, options);
-    });
+    return logErrors(kEmbedded, [&] { return decodeBytes(image, kEmbedded, options); });
 }
 
 } // namespace velmora

@@ -76,21 +76,6 @@ template <class Sample> bool readSamples(const OpenFile& file, const Header& hea
     return checksum == header.checksum;
 }
 
-/// Returns the key of a file with `size` bytes. `read` copies bytes from a position and returns how
-/// many there are.
-template <class Read>
-std::string keyFrom(std::uint64_t size, DecodedCache::Form form, const Read& read)
-{
-    // The bytes of different compressed files differ everywhere, so a part of them is enough.
-    constexpr std::uint64_t kStep = std::uint64_t{1} << 16U;
-    std::array<std::byte, std::size_t{1} << 12U> part;
-    std::uint64_t hash = 0;
-    for (std::uint64_t at = 0; at < size; at += kStep)
-        hash = added(hash, std::span(part).first(read(at, part)));
-    return fmt::format("{:016x}-{}{}{}.pcm", hash, size, form.is16Bit ? "-16" : "",
-                       form.isMono ? "-mono" : "");
-}
-
 bool writeAll(int descriptor, std::span<const std::byte> bytes)
 {
     while (!bytes.empty()) {
@@ -109,25 +94,21 @@ DecodedCache::DecodedCache(std::filesystem::path folder, std::uint64_t mostBytes
 {
 }
 
-std::string DecodedCache::keyOf(std::span<const std::byte> image, Form form)
+std::filesystem::path DecodedCache::entryOf(std::span<const std::byte> image, Form form) const
 {
-    return keyFrom(image.size(), form, [image](std::uint64_t at, std::span<std::byte> part) {
-        const auto bytes = image.subspan(at, std::min(part.size(), image.size() - at));
-        std::ranges::copy(bytes, part.begin());
-        return bytes.size();
-    });
+    // The bytes of different compressed files differ everywhere, so a part of them is enough.
+    constexpr std::size_t kStep = std::size_t{1} << 16U, kPart = std::size_t{1} << 12U;
+    std::uint64_t hash = 0;
+    for (std::size_t at = 0; at < image.size(); at += kStep)
+        hash = added(hash, image.subspan(at, std::min(kPart, image.size() - at)));
+    return folder_ / fmt::format("{:016x}-{}{}{}.pcm", hash, image.size(),
+                                 form.is16Bit ? "-16" : "", form.isMono ? "-mono" : "");
 }
 
-std::string DecodedCache::keyOf(const OpenFile& file, Form form)
+std::optional<Pcm> DecodedCache::find(std::span<const std::byte> image, Form form,
+                                      MemoryGuard& memory) const
 {
-    return keyFrom(file.size(), form, [&file](std::uint64_t at, std::span<std::byte> part) {
-        return file.read(at, part);
-    });
-}
-
-std::optional<Pcm> DecodedCache::find(const std::string& key, MemoryGuard& memory) const
-{
-    const auto entry = folder_ / key;
+    const auto entry = entryOf(image, form);
     std::error_code missing;
     if (!std::filesystem::exists(entry, missing))
         return std::nullopt;
@@ -150,7 +131,7 @@ std::optional<Pcm> DecodedCache::find(const std::string& key, MemoryGuard& memor
     }
 }
 
-void DecodedCache::store(const std::string& key, const Pcm& pcm)
+void DecodedCache::store(std::span<const std::byte> image, Form form, const Pcm& pcm)
 {
     const auto bytes = bytesOf(pcm);
     const std::uint64_t size = sizeof(Header) + bytes.size();
@@ -162,7 +143,7 @@ void DecodedCache::store(const std::string& key, const Pcm& pcm)
     if (error || stored_.fetch_add(size) + size > most)
         return;
 
-    const auto entry = folder_ / key;
+    const auto entry = entryOf(image, form);
     std::string unfinished = entry.string() + ".XXXXXX";
     const int descriptor = mkostemp(unfinished.data(), O_CLOEXEC);
     if (descriptor < 0)

@@ -9,11 +9,8 @@
 #include <filesystem>
 #include <optional>
 #include <span>
-#include <string>
 
 namespace velmora {
-
-class OpenFile;
 
 /// A folder that keeps the samples of compressed sound files, since reading them is much faster
 /// than decoding them again. The contents of a file are its key, so that it is found again wherever
@@ -30,23 +27,19 @@ public:
     /// Uses a folder, which is created when something is stored. `mostBytes` limits its size.
     DecodedCache(std::filesystem::path folder, std::uint64_t mostBytes);
 
-    /// Returns the key of the samples of a sound file, from a part of its bytes.
-    static std::string keyOf(std::span<const std::byte> image, Form form);
-
-    /// The same for a file that has not been read. Throws std::system_error.
-    static std::string keyOf(const OpenFile& file, Form form);
-
-    /// Returns the samples with a key, or nothing if they are not stored or damaged. Throws
+    /// Returns the samples of a sound file, or nothing if they are not stored or damaged. Throws
     /// MemoryShortage.
-    std::optional<Pcm> find(const std::string& key, MemoryGuard& memory) const;
+    std::optional<Pcm> find(std::span<const std::byte> image, Form form, MemoryGuard& memory) const;
 
-    /// Stores samples unless the folder would become too large.
-    void store(const std::string& key, const Pcm& pcm);
+    /// Stores the samples of a sound file unless the folder would become too large.
+    void store(std::span<const std::byte> image, Form form, const Pcm& pcm);
 
     /// Removes the files that have not been used for longest until the folder has the right size.
     void trim();
 
 private:
+    std::filesystem::path entryOf(std::span<const std::byte> image, Form form) const;
+
     const std::filesystem::path folder_;
     const std::uint64_t mostBytes_;
     std::atomic<std::uint64_t> stored_{0}; ///< Bytes since the last `trim`.
