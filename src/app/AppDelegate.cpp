@@ -40,6 +40,7 @@ AppDelegate::AppDelegate()
             Qt::QueuedConnection);
     connect(&loader_, &InstrumentLoader::finished, this, &AppDelegate::instrumentsChanged);
     connect(&playing_, &PlayingOptions::changed, this, &AppDelegate::followOptions);
+    player_.tellVoices([this] { emit voicesUsed(); });
     followOptions();
 }
 

@@ -209,6 +209,9 @@ signals:
     /// The thread that loads a bank has finished, successfully or not.
     void loadingFinished();
 
+    /// The channels of sequences play other programs from now on.
+    void voicesUsed();
+
     /// The program at a position of the current instrument's list was selected.
     void programSelected(int position);
 

@@ -101,6 +101,8 @@ bool AudioExport::write(const std::stop_token& stop, Job job)
     OfflineSound sound(std::move(job.sound), options.rate, progress);
     SequenceRenderer renderer(sound.player(), sound.source(), job.sequence.reading);
     renderer.document().recover(job.sequence);
+    renderer.document().useVoices();
+    sound.correctTuning();
     const bool rendered = renderer.render(
         options,
         [&](const float* left, const float* right, std::size_t frames) {

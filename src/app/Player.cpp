@@ -31,6 +31,7 @@ void Player::setInstrument(Instrument& instrument)
     instrument_->bend(bend_);
     instrument_->setSoft(softPedals_ > 0);
     instrument_->setGlide(glide_);
+    useVoices();
     if (temperament_ != nullptr)
         instrument_->tune(*temperament_, 0, kLastKey);
 }
@@ -48,12 +49,6 @@ Player::Divisions Player::divisions() const
 {
     const std::lock_guard lock(mutex_);
     return divisions_;
-}
-
-void Player::setHeard(const ChannelSet& channels)
-{
-    const std::lock_guard lock(mutex_);
-    heard_ = channels;
 }
 
 void Player::setTemperament(Temperament& temperament)
@@ -164,32 +159,6 @@ void Player::releaseAll(KeySource source)
     stopEverywhere(free, time);
 }
 
-void Player::play(int key, float velocity, int channel, double time)
-{
-    const auto slot = static_cast<std::size_t>(key);
-    const auto part = static_cast<std::size_t>(channel);
-    const std::lock_guard lock(mutex_);
-    const std::uint8_t division = divisions_.ofChannels[part];
-    startedOn_[part][slot] = division;
-    holders_.press(division, slot, kSequencer);
-    if (heard_[part])
-        start(division, key, velocity, time);
-    else
-        follow(key, velocity, time);
-}
-
-void Player::stop(int key, int channel, double time)
-{
-    const auto slot = static_cast<std::size_t>(key);
-    const std::lock_guard lock(mutex_);
-    if (channel != kEveryChannel) {
-        release(startedOn_[static_cast<std::size_t>(channel)][slot], slot, kSequencer, time);
-        return;
-    }
-    for (std::size_t division = 0; division < kDivisions; ++division)
-        release(division, slot, kSequencer, time);
-}
-
 void Player::click(Click click, double time)
 {
     if (Metronome* metronome = metronome_)
@@ -233,6 +202,8 @@ void Player::silence()
     if (temperament_ != nullptr)
         for (std::size_t key = 0; key < kKeys; ++key)
             temperament_->release(static_cast<unsigned char>(key));
+    playing_ = {};
+    unheard_ = {};
     for (auto& [instrument, keys] : instruments_) {
         instrument->silence();
         keys = {};
@@ -279,13 +250,19 @@ void Player::release(std::size_t division, std::size_t key, KeySource source, do
         stopEverywhere(division, key, time);
 }
 
+/// Tells the temperament that a key was released, if nobody holds it.
+void Player::letGo(std::size_t key, double time)
+{
+    if (temperament_ == nullptr || holders_.isHeld(key))
+        return;
+    temperament_->setTime(momentFor(time));
+    temperament_->release(static_cast<unsigned char>(key));
+}
+
 // See docs/decisions.md, 30.
 void Player::stopEverywhere(std::size_t division, std::size_t key, double time)
 {
-    if (temperament_ != nullptr && !holders_.isHeld(key)) {
-        temperament_->setTime(momentFor(time));
-        temperament_->release(static_cast<unsigned char>(key));
-    }
+    letGo(key, time);
     for (auto& [instrument, keys] : instruments_) {
         // Another division of the current instrument would be stopped by a key that it never had.
         const bool isOwn =

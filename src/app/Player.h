@@ -15,8 +15,10 @@
 #include <atomic>
 #include <bitset>
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace velmora {
@@ -110,6 +112,13 @@ public:
 
     void play(int key, float velocity, int channel, double time) override;
     void stop(int key, int channel, double time) override;
+
+    /// Gives each channel that does not sound like the instrument itself a part of its own, if the
+    /// instrument has parts, and ends the notes of channels that are not audible any more.
+    void setVoices(const VoiceSounds& voices) override;
+
+    /// Calls a function whenever `setVoices` was called. It may call the player.
+    void tellVoices(std::function<void()> used) { voicesUsed_ = std::move(used); }
     LiveKeys& liveKeys() override { return liveKeys_; }
 
     /// Lets a metronome click, which must outlive the player. Without one, sequences play without
@@ -143,6 +152,10 @@ private:
     bool follow(int key, float velocity, double time);
     void start(std::size_t division, int key, float velocity, double time);
     void release(std::size_t division, std::size_t key, KeySource source, double time);
+    void stopChannel(std::size_t channel, std::size_t key, double time);
+    void letGo(std::size_t key, double time);
+    void useVoices();
+    bool isAudible(std::size_t channel) const;
     void stopEverywhere(std::size_t division, std::size_t key, double time);
     void stopEverywhere(const DivisionKeys& keys, double time);
     void markCurrent(std::size_t division, int key);
@@ -155,8 +168,13 @@ private:
     KeyHolders holders_;
     Divisions divisions_;
     ChannelSet heard_ = ChannelSet().set();
+    VoiceSounds voices_{};
+    std::function<void()> voicesUsed_ = [] {};
+    ChannelSet hasPart_; ///< The channels that play a part of their own.
     /// The division on which each channel of a sequence last started each key.
     std::array<std::array<std::uint8_t, kKeys>, midi::kChannels> startedOn_{};
+    /// The keys of each channel that sound, and those that do not because the channel is silent.
+    std::array<KeySet, midi::kChannels> playing_, unheard_;
     LiveKeys liveKeys_;
     std::atomic<Metronome*> metronome_{nullptr};
     std::atomic<double> inputDelay_{0.0};

@@ -21,8 +21,10 @@ namespace velmora {
 
 namespace {
 
-/// Prepares an application that plays the selection offline.
-void selectOffline(const Selection& selection, double rate, AppDelegate& application)
+/// Prepares an application that plays the selection offline. Returns the SoundFont that it plays,
+/// if it plays one.
+std::filesystem::path selectOffline(const Selection& selection, double rate,
+                                    AppDelegate& application)
 {
     if (selection.plain)
         application.playing().usePlainReading();
@@ -37,6 +39,16 @@ void selectOffline(const Selection& selection, double rate, AppDelegate& applica
     select(selection, application);
     if (const std::string warning = tuningWarning(application); !warning.empty())
         fmt::print(stderr, "velmora: {}\n", warning);
+    return bank;
+}
+
+/// Chooses what the voices of a piece play, and brings it into tune.
+void prepareVoices(const Selection& selection, const std::filesystem::path& bank,
+                   AppDelegate& application, SequenceDocument& document)
+{
+    Voices voices = document.voices();
+    voices.arePrograms = !selection.program && !selection.bank;
+    document.mixVoices(voices);
     if (application.playing().correctsTuning())
         application.player().with(
             [&](Instrument& instrument, Temperament&) { correctTuning(instrument, bank); });
@@ -121,10 +133,11 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
     }
     AudioFileWriter file(output, options.rate); // first, to fail early if it cannot be written
     AppDelegate application;
-    selectOffline(selection, options.rate, application);
+    const std::filesystem::path bank = selectOffline(selection, options.rate, application);
     SequenceRenderer renderer(application.player(), application.engine(),
                               application.playing().reading());
     readPiece(sequence, options, renderer.document());
+    prepareVoices(selection, bank, application, renderer.document());
     ProgressLine progress("Rendering");
     const bool rendered = renderer.render(
         options,

@@ -72,6 +72,10 @@ SequenceDocument::SequenceDocument(SequenceHost& host, Reading reading,
             if (transport_.mode() == Transport::Mode::Stopped)
                 practice_.showKeys();
         });
+    connect(&transport_, &Transport::modeChanged, this, [this] {
+        if (transport_.mode() != Transport::Mode::Stopped)
+            useVoices();
+    });
     forgetFile();
     // See docs/decisions.md, 126.
     host.liveKeys().clear();
@@ -115,6 +119,7 @@ void SequenceDocument::forgetFile()
     isImported_ = false;
     source_ = reading() == Reading::Musical ? std::make_shared<SourceFile>() : nullptr;
     transport_.setTime({});
+    takeVoices(source_ ? source_->voices() : Voices());
 }
 
 void SequenceDocument::readPlainly(const std::filesystem::path& path, Sequence& sequence)
@@ -128,6 +133,7 @@ void SequenceDocument::readMusically(const std::filesystem::path& path, Sequence
 {
     source_ = std::make_shared<SourceFile>(readFile(path), sequence);
     transport_.setTime(source_->time());
+    takeVoices(source_->voices());
     if (const auto& damage = source_->damage()) {
         damage_ = damage->inFile(path.filename().string());
         logger("sequencer").info("{}", damage_);
@@ -179,8 +185,8 @@ UnsavedSequence SequenceDocument::snapshot() const
     const auto now = std::chrono::system_clock::now();
     return {path_,       std::chrono::floor<std::chrono::milliseconds>(now),
             isImported_, sequence_.notes(),
-            time(),      reading(),
-            source_};
+            time(),      voices_,
+            reading(),   source_};
 }
 
 void SequenceDocument::recover(const UnsavedSequence& unsaved)
@@ -202,8 +208,10 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
     isImported_ = unsaved.isImported || (isPlain && unsaved.source);
     if (!isPlain && unsaved.source)
         source_ = unsaved.source;
-    if (!isPlain)
+    if (!isPlain) {
         transport_.setTime(unsaved.musicalTime);
+        takeVoices(unsaved.voices);
+    }
     errorString_.clear();
     recorder_.endTake();
     recorder_.forgetTakes();

@@ -8,6 +8,7 @@
 #include "sequencer/SequenceFile.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/Transport.h"
+#include "sequencer/Voices.h"
 
 #include <QObject>
 #include <QUndoStack>
@@ -89,6 +90,20 @@ public:
     /// which keeps nothing but notes.
     const SourceFile* source() const { return source_.get(); }
 
+    /// The voices of the piece, by their channels.
+    const Voices& voices() const { return voices_; }
+
+    /// Changes names and sounds of voices, as an edit that can be undone. `text` names it in the
+    /// menu.
+    void setVoices(const Voices& voices, const QString& text);
+
+    /// Changes what is never saved: which voices are muted, solo or locked, and whether they play
+    /// programs of their own.
+    void mixVoices(const Voices& voices);
+
+    /// Lets the channels of the host sound as the voices of this document, as playing does.
+    void useVoices();
+
     /// The current state of the document, to be kept in case of a crash.
     UnsavedSequence snapshot() const;
 
@@ -135,8 +150,13 @@ signals:
     /// Notes, the selection or the time of the piece have changed.
     void changed();
 
+    /// Something about a voice has changed.
+    void voicesChanged();
+
 private:
     class SwapNotes;
+
+    void takeVoices(const Voices& voices);
 
     /// Read a file into an empty sequence, or throw FormatError.
     void readPlainly(const std::filesystem::path& path, Sequence& sequence);
@@ -155,6 +175,7 @@ private:
     PracticeSession practiceSession_;
     Practice practice_;
     QUndoStack undoStack_;
+    Voices voices_;
     std::filesystem::path path_;
     std::string errorString_, damage_;
     bool isImported_ = false;

@@ -24,6 +24,7 @@ SourceFile::SourceFile(std::vector<std::byte> bytes, Sequence& sequence) : bytes
     const MidiFileEvents file = readMidiFileEvents(bytes_);
     damage_ = file.damage;
     time_ = musicalTimeOf(file);
+    voices_ = voicesOf(file);
     std::uint32_t origin = 0;
     for (const FileTrack& track : file.tracks) {
         const std::vector<FileNote> notes = notesOf(track);

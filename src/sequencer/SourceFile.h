@@ -3,6 +3,7 @@
 #include "base/FormatError.h"
 #include "midi/MidiFileEvents.h"
 #include "sequencer/MusicalTime.h"
+#include "sequencer/Voices.h"
 
 #include <cstddef>
 #include <optional>
@@ -36,6 +37,9 @@ public:
     /// Why the file could not be read to its end; nothing if it was read whole.
     const std::optional<FormatError>& damage() const { return damage_; }
 
+    /// The voices as the file has them.
+    const Voices& voices() const { return voices_; }
+
     /// Returns the bytes of the file with the notes of a sequence and the tempos, signatures and
     /// markers of `time` in place of its own; what is equal stays as it is in the file. Notes that
     /// were not edited keep their events; others stand in the track that they come from, or in the
@@ -48,6 +52,7 @@ private:
     std::vector<std::byte> bytes_;
     std::optional<FormatError> damage_;
     MusicalTime time_;
+    Voices voices_ = newVoices();
 };
 
 } // namespace velmora

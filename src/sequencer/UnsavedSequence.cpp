@@ -1,5 +1,6 @@
 #include "sequencer/UnsavedSequence.h"
 
+#include "audio/Program.h"
 #include "base/FormatError.h"
 #include "sequencer/SourceFile.h"
 #include "sequencer/makeValid.h"
@@ -128,6 +129,39 @@ MusicalTime readTime(Reader& reader)
     return time;
 }
 
+void writeVoices(QDataStream& stream, const Voices& voices)
+{
+    stream << voices.arePrograms;
+    for (const Voice& voice : voices) {
+        const auto preset = voice.sound.preset.value_or(PartSound::Preset{});
+        stream << QByteArray::fromStdString(voice.name) << voice.sound.volume
+               << voice.sound.preset.has_value() << preset.bank << preset.number
+               << preset.isPercussion << voice.isMuted << voice.isSolo << voice.isLocked;
+    }
+}
+
+Voices readVoices(Reader& reader)
+{
+    Voices voices;
+    voices.arePrograms = reader.read<bool>();
+    for (Voice& voice : voices) {
+        voice.name = reader.read<QByteArray>().toStdString();
+        voice.sound.volume = reader.read<qint32>();
+        const auto hasPreset = reader.read<bool>();
+        const auto bank = reader.read<qint32>();
+        const auto number = reader.read<quint8>();
+        const auto isPercussion = reader.read<bool>();
+        if (hasPreset)
+            voice.sound.preset = {bank, number, isPercussion};
+        for (bool* flag : {&voice.isMuted, &voice.isSolo, &voice.isLocked})
+            *flag = reader.read<bool>();
+        reader.require(voice.sound.volume >= 0 && voice.sound.volume < 128 && number < 128 &&
+                           bank >= 0 && bank <= kDrumKits,
+                       "a voice has an invalid program or volume");
+    }
+    return voices;
+}
+
 /// Converts a note of the version before.
 void convertFromSeconds(Note& note, const MusicalTime& time)
 {
@@ -158,6 +192,7 @@ std::string encodeUnsaved(const UnsavedSequence& sequence)
            << static_cast<qint64>(sequence.time.time_since_epoch().count()) << sequence.isImported
            << (sequence.source ? bytesOf(*sequence.source) : QByteArray());
     writeTime(stream, sequence.musicalTime);
+    writeVoices(stream, sequence.voices);
     stream << static_cast<quint64>(sequence.notes.size());
     for (const Note& note : sequence.notes)
         stream << note.start << note.length << note.oldStart << note.oldLength
@@ -183,9 +218,12 @@ UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes)
         sequence.source = std::make_shared<SourceFile>(
             std::vector(sourceBytes.begin(), sourceBytes.end()), notes);
         sequence.musicalTime = sequence.source->time();
+        sequence.voices = sequence.source->voices();
     }
-    if (version == kVersion)
+    if (version == kVersion) {
         sequence.musicalTime = readTime(reader);
+        sequence.voices = readVoices(reader);
+    }
 
     const auto count = reader.read<quint64>();
     reader.require(count == static_cast<quint64>(reader.left()) / kNoteBytes &&

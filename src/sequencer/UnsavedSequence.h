@@ -3,6 +3,7 @@
 #include "base/Reading.h"
 #include "sequencer/MusicalTime.h"
 #include "sequencer/Sequence.h"
+#include "sequencer/Voices.h"
 
 #include <chrono>
 #include <cstddef>
@@ -27,6 +28,7 @@ struct UnsavedSequence {
     std::vector<Note> notes;
 
     MusicalTime musicalTime = {}; ///< The tempos and bars of the piece.
+    Voices voices = newVoices();  ///< Who plays the channels of the piece.
 
     Reading reading = Reading::Musical; ///< Not kept on disk: the program that recovers chooses.
 
@@ -36,7 +38,7 @@ struct UnsavedSequence {
 
 /// Returns the bytes of a recovery file, big-endian: "VREC", the version, path, time, isImported,
 /// the bytes of the source file, the tempos, time signatures, key signatures and markers, each with
-/// their number first, the number of notes, and for each note its start, length,
+/// their number first, the voices, the number of notes, and for each note its start, length,
 /// oldStart, oldLength and velocity as doubles and its channel, key, oldKey and origin as 32-bit
 /// numbers.
 std::string encodeUnsaved(const UnsavedSequence& sequence);

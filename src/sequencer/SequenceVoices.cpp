@@ -1,0 +1,41 @@
+// The voices of a document, and their undo history.
+
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SwapCommand.h"
+
+#include <utility>
+
+namespace velmora {
+
+void SequenceDocument::setVoices(const Voices& voices, const QString& text)
+{
+    registerTake();
+    undoStack_.push(new SwapCommand(text, [this, voices]() mutable {
+        // What is muted, solo or locked stays as it is.
+        Voices next = voices_;
+        for (std::size_t channel = 0; channel < next.size(); ++channel) {
+            std::swap(next[channel].name, voices[channel].name);
+            std::swap(next[channel].sound, voices[channel].sound);
+        }
+        mixVoices(next);
+    }));
+}
+
+void SequenceDocument::mixVoices(const Voices& voices)
+{
+    takeVoices(voices);
+    useVoices();
+}
+
+void SequenceDocument::takeVoices(const Voices& voices)
+{
+    voices_ = voices;
+    emit voicesChanged();
+}
+
+void SequenceDocument::useVoices()
+{
+    transport_.host().setVoices(voices_.sounds());
+}
+
+} // namespace velmora
