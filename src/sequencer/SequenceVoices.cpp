@@ -10,12 +10,12 @@ namespace velmora {
 void SequenceDocument::setVoices(const Voices& voices, const QString& text)
 {
     registerTake();
-    undoStack_.push(new SwapCommand(text, [this, voices]() mutable {
+    undoStack_.push(new SwapCommand(text, [this, other = voices]() mutable {
         // What is muted, solo or locked stays as it is.
         Voices next = voices_;
         for (std::size_t channel = 0; channel < next.size(); ++channel) {
-            std::swap(next[channel].name, voices[channel].name);
-            std::swap(next[channel].sound, voices[channel].sound);
+            std::swap(next[channel].name, other[channel].name);
+            std::swap(next[channel].sound, other[channel].sound);
         }
         mixVoices(next);
     }));

@@ -1,0 +1,104 @@
+#include "sequencer/Voices.h"
+
+#include "audio/Program.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/UnsavedSequence.h"
+#include "support/MidiBytes.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+namespace velmora {
+
+namespace {
+
+using midi::bytes;
+
+/// A host that knows how the channels sound.
+class VoicesHost : public SequenceHost {
+public:
+    void play(int /*key*/, float /*velocity*/, int /*channel*/, double /*time*/) override {}
+    void stop(int /*key*/, int /*channel*/, double /*time*/) override {}
+    void setVoices(const VoiceSounds& voices) override { sounds = voices; }
+    LiveKeys& liveKeys() override { return liveKeys_; }
+
+    VoiceSounds sounds{};
+
+private:
+    LiveKeys liveKeys_;
+};
+
+std::string named(const std::string& name)
+{
+    return bytes({0, 0xFF, midi::kTrackName, static_cast<int>(name.size())}) + name;
+}
+
+class VoicesTest : public testing::Test {
+protected:
+    VoicesTest()
+    {
+        const std::string viol = named("Viol ") + bytes({0, 0xB2, 0, 8, 0, 0xC2, 41}) +
+                                 bytes({0, 0xB2, 7, 90}) + midi::on(0, 60, 100, 2) +
+                                 bytes({10, 0xC2, 7, 0, 0xB2, 7, 20}) + midi::off(10, 60, 2);
+        const std::string others = named("Others") + midi::on(0, 60, 100, 3) +
+                                   midi::off(10, 60, 3) + bytes({0, 0xC9, 8}) +
+                                   midi::on(0, 40, 100, 9) + midi::off(10, 40, 9);
+        std::ofstream(path_) << midi::header(1, 2) + midi::track(viol) + midi::track(others);
+    }
+
+    const QTemporaryDir folder_;
+    const std::filesystem::path path_ = folder_.filePath("five.mid").toStdString();
+    VoicesHost host_;
+};
+
+} // namespace
+
+TEST_F(VoicesTest, SoundAsTheirFileBeginsThem)
+{
+    SequenceDocument document(host_);
+    document.read(path_);
+    document.useVoices();
+    EXPECT_EQ(document.voices()[2].name, "Viol");
+    EXPECT_EQ(host_.sounds[2].part, (PartSound{PartSound::Preset{8, 41, false}, 90}));
+    EXPECT_EQ(document.voices()[3].name, "") << "two voices share that track";
+    EXPECT_TRUE(host_.sounds[3].part.isPlain());
+    EXPECT_EQ(host_.sounds[9].part.preset, (PartSound::Preset{kDrumKits, 8, true}));
+
+    SequenceDocument plain(host_, Reading::Plain);
+    plain.read(path_);
+    plain.useVoices();
+    EXPECT_EQ(host_.sounds, VoiceSounds{}) << "in the plain reading, one instrument plays all";
+}
+
+TEST_F(VoicesTest, AreMixedWithoutAnEditAndChangedWithOne)
+{
+    SequenceDocument document(host_);
+    document.read(path_);
+    Voices voices = document.voices();
+    voices[2].isSolo = voices[3].isMuted = true;
+    document.mixVoices(voices);
+    EXPECT_TRUE(host_.sounds[2].isAudible);
+    EXPECT_FALSE(host_.sounds[9].isAudible) << "another voice is solo";
+    EXPECT_FALSE(document.isModified());
+
+    voices[2].sound.volume = 30;
+    document.setVoices(voices, "Change Volume");
+    EXPECT_EQ(host_.sounds[2].part.volume, 30);
+    EXPECT_TRUE(document.isModified());
+    voices[2].isSolo = false;
+    document.mixVoices(voices);
+    EXPECT_FALSE(host_.sounds[3].isAudible);
+    document.undoStack().undo();
+    EXPECT_EQ(host_.sounds[2].part.volume, 90);
+    EXPECT_TRUE(host_.sounds[9].isAudible) << "undo mixes nothing";
+
+    document.undoStack().redo();
+    const std::string kept = encodeUnsaved(document.snapshot());
+    SequenceDocument restored(host_);
+    restored.recover(decodeUnsaved(std::as_bytes(std::span(kept))));
+    EXPECT_EQ(restored.voices(), document.voices());
+}
+
+} // namespace velmora
