@@ -154,7 +154,7 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
     }
     try {
         writeFile(path, source_ && format == SequenceFormat::MidiFile
-                            ? source_->write(sequence_, time())
+                            ? source_->write(sequence_, time(), voices_)
                             : writeSequence(sequence_, format));
     } catch (const std::length_error& error) {
         errorString_ = toUtf8(path.filename().string()) + " cannot be written: " + error.what();

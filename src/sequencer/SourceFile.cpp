@@ -6,6 +6,7 @@
 #include "sequencer/Sequence.h"
 #include "sequencer/SourceFileWriter.h"
 #include "sequencer/editTime.h"
+#include "sequencer/editVoices.h"
 
 #include <cstdint>
 #include <utility>
@@ -51,11 +52,13 @@ SourceFile::SourceFile(std::vector<std::byte> bytes, Sequence& sequence) : bytes
     sequence.sort();
 }
 
-std::string SourceFile::write(const Sequence& sequence, const MusicalTime& time) const
+std::string SourceFile::write(const Sequence& sequence, const MusicalTime& time,
+                              const Voices& voices) const
 {
     MidiFileEvents file = readMidiFileEvents(bytes_);
     FileEdits edits;
     editTime(file, time, edits);
+    editVoices(file, voices, edits);
     return SourceFileWriter(std::move(file), sequence, edits).write();
 }
 

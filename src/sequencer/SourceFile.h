@@ -40,13 +40,14 @@ public:
     /// The voices as the file has them.
     const Voices& voices() const { return voices_; }
 
-    /// Returns the bytes of the file with the notes of a sequence and the tempos, signatures and
-    /// markers of `time` in place of its own; what is equal stays as it is in the file. Notes that
-    /// were not edited keep their events; others stand in the track that they come from, or in the
-    /// first one with notes on their channel. If edited notes need finer times than the file has,
-    /// its ticks are divided; their place in the music stays. Throws std::length_error if a note or
-    /// a change is later than a file can hold.
-    std::string write(const Sequence& sequence, const MusicalTime& time) const;
+    /// Returns the bytes of the file with the notes of a sequence, the tempos, signatures and
+    /// markers of `time`, and the voices in place of its own; what is equal stays as it is in the
+    /// file. Notes that were not edited keep their events; others stand in the track that they come
+    /// from, or in the first one with notes on their channel. If edited notes need finer times than
+    /// the file has, its ticks are divided; their place in the music stays. Throws
+    /// std::length_error if a note or a change is later than a file can hold.
+    std::string write(const Sequence& sequence, const MusicalTime& time,
+                      const Voices& voices) const;
 
 private:
     std::vector<std::byte> bytes_;

@@ -37,7 +37,8 @@ struct Voices : std::array<Voice, midi::kChannels> {
 Voices newVoices();
 
 /// Returns the voices as a file has them: the first program of each channel, with its bank, the
-/// volume at its first note, and the name of the track if the channel has one to itself.
+/// volume at its first note, and its name: that of the instrument, or that of the track if the
+/// channel has one to itself.
 Voices voicesOf(const MidiFileEvents& file);
 
 } // namespace velmora

@@ -1,6 +1,8 @@
 #include "sequencer/Voices.h"
 
 #include "audio/Program.h"
+#include "base/File.h"
+#include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/UnsavedSequence.h"
 #include "support/MidiBytes.h"
@@ -70,6 +72,33 @@ TEST_F(VoicesTest, SoundAsTheirFileBeginsThem)
     plain.read(path_);
     plain.useVoices();
     EXPECT_EQ(host_.sounds, VoiceSounds{}) << "in the plain reading, one instrument plays all";
+}
+
+TEST_F(VoicesTest, AreSavedWhereTheFileHasThem)
+{
+    SequenceDocument document(host_);
+    document.read(path_);
+    const std::string before = readTextFile(path_);
+    const auto save = [&] {
+        return document.save(path_, SequenceFormat::MidiFile,
+                             SequenceDocument::SaveOperation::Save);
+    };
+    ASSERT_TRUE(save());
+    EXPECT_EQ(readTextFile(path_), before) << "nothing was edited";
+
+    Voices voices = document.voices();
+    voices[2] = {.name = "Viola", .sound = {PartSound::Preset{0, 42, false}, 70}};
+    voices[3] = {.name = "Flute", .sound = {PartSound::Preset{3, 73, false}, 100}};
+    voices[9].sound.preset->number = 16;
+    document.setVoices(voices, "Change Voices");
+    ASSERT_TRUE(save());
+    SequenceDocument reopened(host_);
+    reopened.read(path_);
+    EXPECT_EQ(reopened.voices(), voices);
+    EXPECT_EQ(reopened.sequence().notes().size(), 3U);
+    const std::string after = readTextFile(path_);
+    EXPECT_NE(after.find(bytes({10, 0xC2, 7, 0, 0xB2, 7, 20})), std::string::npos)
+        << "what changes in the middle of the piece stays";
 }
 
 TEST_F(VoicesTest, AreMixedWithoutAnEditAndChangedWithOne)
