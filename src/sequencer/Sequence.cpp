@@ -123,8 +123,16 @@ bool Sequence::select(unsigned char channel)
 void Sequence::select(Note& note)
 {
     // See docs/decisions.md, 106.
-    if (!std::exchange(note.selected, true))
+    if (!isLocked(note) && !std::exchange(note.selected, true))
         selection_.push_back(note.id);
+}
+
+void Sequence::lock(const std::bitset<kVoices>& channels)
+{
+    locked_ = channels;
+    for (Note& note : notes_)
+        if (note.selected && isLocked(note))
+            deselect(note);
 }
 
 void Sequence::deselect()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -83,7 +84,12 @@ public:
     /// Selects only the notes of a channel. Returns true if there are any.
     bool select(unsigned char channel);
 
-    /// Adds a stored note to the selection, unless it is selected already.
+    /// Protects the notes of channels: they are not selected any more, and cannot be.
+    static constexpr std::size_t kVoices = 16;
+    void lock(const std::bitset<kVoices>& channels);
+    bool isLocked(const Note& note) const { return locked_[note.channel % kVoices]; }
+
+    /// Adds a stored note to the selection, unless it is selected already or locked.
     void select(Note& note);
 
     void deselect();
@@ -125,6 +131,7 @@ private:
     std::vector<std::uint64_t> selection_;
     std::vector<std::size_t> positions_; ///< Indices into `notes_` by identity, or `kNowhere`.
     std::vector<Note> notes_;
+    std::bitset<kVoices> locked_; ///< By their channels.
 };
 
 } // namespace velmora

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace velmora {
@@ -40,7 +41,11 @@ void SequenceEditor::select(const std::function<bool(const Note&)>& isWanted,
 std::vector<Note> SequenceEditor::chosen() const
 {
     std::vector<Note> notes = copy();
-    return notes.empty() ? document_.sequence().notes() : notes;
+    if (!notes.empty())
+        return notes;
+    std::ranges::copy_if(document_.sequence().notes(), std::back_inserter(notes),
+                         [&](const Note& note) { return !document_.sequence().isLocked(note); });
+    return notes;
 }
 
 void SequenceEditor::quantise(const Quantisation& quantisation)

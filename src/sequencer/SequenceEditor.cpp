@@ -51,7 +51,7 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
         edit->update();
         for (std::size_t i = edit->notes().size(); i-- > 0;) {
             const RollHit place = rollHit(edit->notes()[i], point, keyHeight);
-            if (place == RollHit::Nothing)
+            if (place == RollHit::Nothing || edit->isLocked(edit->notes()[i]))
                 continue;
             hit(*edit, edit->at(i), place, modifiers);
             if (!modifiers.testFlag(Qt::ShiftModifier) || modifiers.testFlag(Qt::ControlModifier))

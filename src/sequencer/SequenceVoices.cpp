@@ -3,6 +3,7 @@
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SwapCommand.h"
 
+#include <bitset>
 #include <utility>
 
 namespace velmora {
@@ -29,6 +30,14 @@ void SequenceDocument::mixVoices(const Voices& voices)
 
 void SequenceDocument::takeVoices(const Voices& voices)
 {
+    const auto locked = [](const Voices& all) {
+        std::bitset<Sequence::kVoices> channels;
+        for (std::size_t channel = 0; channel < all.size(); ++channel)
+            channels[channel] = all[channel].isLocked;
+        return channels;
+    };
+    if (locked(voices) != locked(voices_))
+        edit()->lock(locked(voices));
     voices_ = voices;
     emit voicesChanged();
 }

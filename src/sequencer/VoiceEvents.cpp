@@ -51,7 +51,8 @@ void findControllers(const MidiFileEvents& file, ByChannel& voices)
 /// Finds the name of a track that has one voice, and the names of instruments on a channel.
 void findNames(const MidiFileEvents& file, std::size_t track, ByChannel& voices)
 {
-    std::optional<std::size_t> channel, prefix;
+    std::optional<std::size_t> channel;
+    std::size_t prefix = voices.size(); // none
     const FileEvent* name = nullptr;
     bool isShared = false;
     for (const FileEvent& event : file.tracks[track].events) {
@@ -61,11 +62,11 @@ void findNames(const MidiFileEvents& file, std::size_t track, ByChannel& voices)
             channel = own;
         }
         if (event.status != midi::kMetaEvent)
-            prefix.reset();
+            prefix = voices.size();
         else if (const auto data = metaData(event, midi::kChannelPrefix); !data.empty())
             prefix = static_cast<std::size_t>(data.front() & midi::kChannelMask);
-        else if (!metaData(event, midi::kInstrumentName).empty() && prefix)
-            voices[*prefix].name = &event;
+        else if (!metaData(event, midi::kInstrumentName).empty() && prefix < voices.size())
+            voices[prefix].name = &event;
         else if (!metaData(event, midi::kTrackName).empty() && name == nullptr)
             name = &event;
     }

@@ -20,7 +20,7 @@ void dropEvent(const FileEvent* event, FileEdits& edits)
         });
 }
 
-std::string bytes(std::initializer_list<int> values)
+std::string dataBytes(std::initializer_list<int> values)
 {
     return {values.begin(), values.end()};
 }
@@ -42,14 +42,15 @@ public:
         if (!preset)
             return;
         if (!preset->isPercussion && (preset->bank != 0 || events_.bank != nullptr))
-            add(step, midi::kControlChange, bytes({midi::kBankSelect, preset->bank}));
-        add(step, midi::kProgramChange, bytes({preset->number}));
+            add(step, midi::kControlChange, dataBytes({midi::kBankSelect, preset->bank}));
+        add(step, midi::kProgramChange, dataBytes({preset->number}));
     }
 
     void setVolume(int volume)
     {
         dropEvent(events_.volume, edits_);
-        add(stepOf(events_.volume), midi::kControlChange, bytes({midi::kChannelVolume, volume}));
+        add(stepOf(events_.volume), midi::kControlChange,
+            dataBytes({midi::kChannelVolume, volume}));
     }
 
     void setName(const std::string& name)
@@ -62,7 +63,7 @@ public:
             return;
         }
         edits_.addMeta(events_.track, 0.0, midi::kChannelPrefix,
-                       bytes({static_cast<int>(channel_)}));
+                       dataBytes({static_cast<int>(channel_)}));
         edits_.addMeta(events_.track, 0.0, midi::kInstrumentName, name);
     }
 

@@ -4,6 +4,7 @@
 #include "base/File.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
 #include "sequencer/UnsavedSequence.h"
 #include "support/MidiBytes.h"
 
@@ -128,6 +129,28 @@ TEST_F(VoicesTest, AreMixedWithoutAnEditAndChangedWithOne)
     SequenceDocument restored(host_);
     restored.recover(decodeUnsaved(std::as_bytes(std::span(kept))));
     EXPECT_EQ(restored.voices(), document.voices());
+}
+
+TEST_F(VoicesTest, KeepTheirNotesFromEditsWhileTheyAreLocked)
+{
+    SequenceDocument document(host_);
+    document.read(path_);
+    SequenceEditor editor(document);
+    editor.selectAll();
+    Voices voices = document.voices();
+    voices[2].isLocked = true;
+    document.mixVoices(voices);
+    EXPECT_EQ(document.sequence().selection().size(), 2U) << "they are selected no more";
+    editor.selectAll();
+    editor.moveSelection(12, 0);
+    editor.deleteSelection();
+    ASSERT_EQ(document.sequence().notes().size(), 1U);
+    EXPECT_EQ(document.sequence().notes().front().key, 60U);
+    const Note note = document.sequence().notes().front();
+    editor.mouseDown({60.5, note.start + note.length / 2}, {});
+    EXPECT_TRUE(document.sequence().selection().empty());
+    document.undoStack().undo();
+    EXPECT_EQ(document.sequence().notes().size(), 3U);
 }
 
 } // namespace velmora
