@@ -30,6 +30,7 @@ struct PrefRange {
 PrefRange prefRange(const std::string& key);
 
 /// Returns a boolean preference: "KeyNames" shows the names of the C keys on the keyboard;
+/// "SoundNotes" sounds notes that are pressed or drawn in the piano roll;
 /// "CorrectTuning" corrects the tuning of SoundFonts themselves;
 /// "PlainReading" reads MIDI devices with `midiRead`, without the translator; "StartAsLastTime"
 /// opens at the start what was open at the end; "GlideSounding" lets sounding notes take over

@@ -30,6 +30,7 @@ const QVariantMap& defaults()
         {"KeyRangeLo", 21},  // A0
         {"KeyRangeHi", 108}, // C8
         {"KeyNames", true},
+        {"SoundNotes", true},
         {"NoteNames", 0}, // by language
         {"Language", ""},
         {"Scheme", "Calm"},

@@ -64,6 +64,10 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
     }
     if (hitNote_)
         return;
+    if (modifiers.testFlag(Qt::AltModifier)) {
+        beginBand(point);
+        return;
+    }
 
     const double step = snapped(point.step);
     double start =
@@ -87,6 +91,8 @@ void SequenceEditor::hit(Sequence& sequence, Note& note, RollHit place,
     note.oldStart = note.start;
     note.oldKey = note.key;
     note.oldLength = note.length;
+    if (!modifiers.testFlag(Qt::ControlModifier))
+        sound(note);
 
     if (modifiers.testFlag(Qt::ControlModifier)) {
         if (!note.selected)
@@ -121,11 +127,14 @@ void SequenceEditor::rightMouseDown(RollPoint point)
     Note& stored = edit->addNote(note);
     edit->select(stored);
     newNote_ = stored.id;
+    sound(stored);
 }
 
 void SequenceEditor::mouseDragged(RollPoint point)
 {
-    if (newNote_ != 0) {
+    if (band_) {
+        band_->second = point;
+    } else if (newNote_ != 0) {
         const auto edit = document_.edit({&newNote_, 1});
         if (Note* note = edit->find(newNote_)) {
             note->length = std::max(recorder_.snappedUp(point.step) - note->start, 0.0);
@@ -134,6 +143,9 @@ void SequenceEditor::mouseDragged(RollPoint point)
         transport_.selectInterval(transport_.interval().start, snapped(point.step));
     } else {
         dragNotes(point);
+        if (const Note* note = sounding_ ? document_.sequence().find(sounding_->id) : nullptr;
+            note != nullptr && note->key != sounding_->key)
+            sound(*note);
     }
 }
 
@@ -151,8 +163,13 @@ void SequenceEditor::dragNotes(RollPoint point)
 
 void SequenceEditor::mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers)
 {
-    if (newNote_ != 0)
+    silence();
+    if (band_)
+        finishBand(modifiers);
+    else if (newNote_ != 0)
         finishLength();
+    else if (hitNote_ && (modifiers & (Qt::ControlModifier | Qt::AltModifier)) != 0)
+        finishCopy();
     else if (hitNote_)
         finishMove();
     else if (modifiers.testFlag(Qt::ShiftModifier))
@@ -176,6 +193,7 @@ void SequenceEditor::finishLength()
     const bool isLong = note->length >= kShortestLength;
     if (isNewNote_ && isLong) {
         note->oldLength = note->length;
+        recorder_.setVelocity(note->velocity);
         document_.registerDone(absent({*note}), SequenceDocument::tr("Draw Note"));
     } else if (isNewNote_) {
         edit->deselect(*note);

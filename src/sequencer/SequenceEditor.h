@@ -6,6 +6,8 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace velmora {
@@ -41,14 +43,27 @@ public:
     SequenceDocument& document() const { return document_; }
 
     /// Selects the note under the mouse. A drag then resizes it if the press hit its end, and
-    /// otherwise moves the selection. If there is no note, moves the position and begins an
-    /// interval; with Shift, extends the interval. With Command, draws a note.
+    /// otherwise moves the selection; if it ends with Command or Alt, the selection is copied there
+    /// instead. If there is no note, moves the position and begins an interval; with Shift, extends
+    /// the interval; with Alt, begins a rubber band. With Command, draws a note. The note that is
+    /// pressed or drawn sounds until the release if the preference "SoundNotes" is set, but not in
+    /// the plain reading.
     void mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers);
 
     /// Draws a new note.
     void rightMouseDown(RollPoint point);
 
-    /// Continue and end the gesture of either button.
+    /// Begins a rubber band. At the release it selects the notes that it touches, and with Shift
+    /// keeps those that were selected.
+    void beginBand(RollPoint point);
+
+    /// The corners of the rubber band, in the order in which they were set; nothing without one.
+    const std::optional<std::pair<RollPoint, RollPoint>>& band() const { return band_; }
+
+    /// True while a drag moves notes.
+    bool isMoving() const { return hitNote_ && newNote_ == 0; }
+
+    /// Continue and end the gesture of any button.
     void mouseDragged(RollPoint point);
     void mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers);
 
@@ -112,6 +127,10 @@ public:
     /// velocity is 1.
     void changeVelocity(double difference);
 
+    /// Makes the note at a point louder or softer, and with it every selected note if it is one of
+    /// them.
+    void changeVelocityAt(RollPoint point, double difference);
+
     /// Gives notes the velocity that a function returns for each.
     void setVelocity(const std::vector<Note>& notes,
                      const std::function<double(const Note&)>& velocity);
@@ -131,7 +150,11 @@ private:
     void endChange();
     void finishLength();
     void finishMove();
+    void finishCopy();
+    void finishBand(Qt::KeyboardModifiers modifiers);
     void selectUpTo(double end);
+    void sound(const Note& note);
+    void silence();
     double snapped(double step) const;
 
     bool takeNamedKey(int key, bool command);
@@ -151,6 +174,8 @@ private:
     bool hitNote_ = false;      ///< True if the last press hit or created a note.
     bool isNewNote_ = false;    ///< True if the drag draws a new note.
     std::uint64_t newNote_ = 0; ///< The note that is being resized or drawn; 0 if none is.
+    std::optional<std::pair<RollPoint, RollPoint>> band_;
+    std::optional<Note> sounding_; ///< The note that sounds because it is pressed.
 };
 
 } // namespace velmora

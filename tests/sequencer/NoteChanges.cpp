@@ -1,5 +1,6 @@
 #include "sequencer/noteChanges.h"
 
+#include "preferences/Preferences.h"
 #include "sequencer/MusicalTime.h"
 #include "sequencer/NotePreview.h"
 #include "sequencer/SequenceEditor.h"
@@ -17,7 +18,7 @@ using testing::IsEmpty;
 
 namespace {
 
-Note note(double start, double length, unsigned key = 60, unsigned channel = 0)
+Note noteAt(double start, double length, unsigned key = 60, unsigned channel = 0)
 {
     static std::uint64_t id = 0;
     return {.id = ++id,
@@ -32,7 +33,7 @@ Note note(double start, double length, unsigned key = 60, unsigned channel = 0)
 }
 
 /// "KEY@START+LENGTH" for each note that exists afterwards, in order of key and start.
-std::vector<std::string> shown(std::vector<Note> notes)
+std::vector<std::string> placesOf(std::vector<Note> notes)
 {
     std::ranges::sort(notes, {}, [](const Note& n) { return std::pair(n.key, n.start); });
     std::vector<std::string> texts;
@@ -41,18 +42,18 @@ std::vector<std::string> shown(std::vector<Note> notes)
     return texts;
 }
 
-std::vector<std::string> shown(const std::vector<NoteState>& states)
+std::vector<std::string> placesOf(const std::vector<NoteState>& states)
 {
     std::vector<Note> notes;
     for (const NoteState& state : states)
         if (state.note)
             notes.push_back(*state.note);
-    return shown(notes);
+    return placesOf(notes);
 }
 
 class NoteChangesTest : public SequenceTest {
 protected:
-    std::vector<std::string> notes() const { return shown(document_.sequence().notes()); }
+    std::vector<std::string> notes() const { return placesOf(document_.sequence().notes()); }
     void undo() { document_.undoStack().undo(); }
 
     SequenceEditor editor_{document_};
@@ -64,7 +65,7 @@ TEST(Quantise, MovesNotesToAGridThatBeginsWithEachBar)
 {
     MusicalTime time;
     const auto start = [&](double at, const Quantisation& grid) {
-        const auto changes = quantised({note(at, 3.0)}, grid, time);
+        const auto changes = quantised({noteAt(at, 3.0)}, grid, time);
         return changes.empty() ? at : changes.front().note->start;
     };
     EXPECT_EQ(start(2.9, {}), 2.0);
@@ -81,36 +82,37 @@ TEST(Quantise, MovesNotesToAGridThatBeginsWithEachBar)
 TEST(Quantise, MovesEndsOnRequest)
 {
     const MusicalTime time;
-    const std::vector<Note> notes{note(0.3, 3.4, 60), note(4.2, 0.3, 62), note(8.0, 2.0, 64)};
-    EXPECT_THAT(shown(quantised(notes, {}, time)), ElementsAre("60@0+3.4", "62@4+0.3"))
+    const std::vector<Note> notes{noteAt(0.3, 3.4, 60), noteAt(4.2, 0.3, 62), noteAt(8.0, 2.0, 64)};
+    EXPECT_THAT(placesOf(quantised(notes, {}, time)), ElementsAre("60@0+3.4", "62@4+0.3"))
         << "lengths are kept, and a note in place does not change";
-    EXPECT_THAT(shown(quantised(notes, {.movesEnds = true}, time)), ElementsAre("60@0+4", "62@4+2"))
+    EXPECT_THAT(placesOf(quantised(notes, {.movesEnds = true}, time)),
+                ElementsAre("60@0+4", "62@4+2"))
         << "the short note keeps a unit";
 }
 
 TEST(NoteChanges, KeepGroupsWholeAtTheEdges)
 {
-    const std::vector<Note> chord{note(1.0, 4.0, 5), note(2.0, 4.0, 120)};
-    EXPECT_THAT(shown(transposed(chord, -12)), IsEmpty()) << "another key would be heard";
-    EXPECT_THAT(shown(transposed(chord, 7)), ElementsAre("12@1+4", "127@2+4"));
-    EXPECT_THAT(shown(nudged(chord, -8.0)), ElementsAre("5@0+4", "120@1+4"));
-    EXPECT_THAT(shown(duplicated(chord, 12, -8.0)), ElementsAre("12@0+4", "127@1+4"));
+    const std::vector<Note> chord{noteAt(1.0, 4.0, 5), noteAt(2.0, 4.0, 120)};
+    EXPECT_THAT(placesOf(transposed(chord, -12)), IsEmpty()) << "another key would be heard";
+    EXPECT_THAT(placesOf(transposed(chord, 7)), ElementsAre("12@1+4", "127@2+4"));
+    EXPECT_THAT(placesOf(nudged(chord, -8.0)), ElementsAre("5@0+4", "120@1+4"));
+    EXPECT_THAT(placesOf(duplicated(chord, 12, -8.0)), ElementsAre("12@0+4", "127@1+4"));
 }
 
 TEST(NoteChanges, DivideJoinAndConnectNotes)
 {
-    EXPECT_THAT(shown(divided({note(0.0, 4.0), note(3.0, 1.0, 62)}, 3.0)),
+    EXPECT_THAT(placesOf(divided({noteAt(0.0, 4.0), noteAt(3.0, 1.0, 62)}, 3.0)),
                 ElementsAre("60@0+3", "60@3+1"))
         << "a note that begins there stays whole";
-    const auto whole = joined({note(0.0, 2.0), note(1.0, 0.5), note(4.0, 2.0), note(0.0, 1.0, 62),
-                               note(4.0, 1.0, 60, 1)});
-    EXPECT_THAT(shown(whole), ElementsAre("60@0+6"));
+    const auto whole = joined({noteAt(0.0, 2.0), noteAt(1.0, 0.5), noteAt(4.0, 2.0),
+                               noteAt(0.0, 1.0, 62), noteAt(4.0, 1.0, 60, 1)});
+    EXPECT_THAT(placesOf(whole), ElementsAre("60@0+6"));
     EXPECT_EQ(whole.size(), 3U) << "two notes are gone";
-    const auto chords = legato({note(0.0, 1.0), note(0.3, 1.0, 64), note(4.0, 9.0, 65),
-                                note(6.0, 1.0, 67), note(5.0, 1.0, 40, 1)});
-    EXPECT_THAT(shown(chords), ElementsAre("60@0+4", "64@0.3+3.7", "65@4+2"))
+    const auto chords = legato({noteAt(0.0, 1.0), noteAt(0.3, 1.0, 64), noteAt(4.0, 9.0, 65),
+                                noteAt(6.0, 1.0, 67), noteAt(5.0, 1.0, 40, 1)});
+    EXPECT_THAT(placesOf(chords), ElementsAre("60@0+4", "64@0.3+3.7", "65@4+2"))
         << "rolled chords end together, and voices do not cut each other";
-    EXPECT_EQ(revalued({note(0.0, 1.0)}, [](const Note&) { return -1.0; }).front().note->velocity,
+    EXPECT_EQ(revalued({noteAt(0.0, 1.0)}, [](const Note&) { return -1.0; }).front().note->velocity,
               1.0F / 127.0F)
         << "velocity 0 would be a release";
 }
@@ -157,6 +159,54 @@ TEST_F(NoteChangesTest, DuplicateRepeatsOnTheNextBeatOrAfterTheInterval)
     transport_.selectInterval(0.0, 20.0);
     editor_.duplicate();
     EXPECT_THAT(notes(), ElementsAre("60@1+4", "60@21+4", "64@9+1.5", "64@29+1.5"));
+}
+
+TEST_F(NoteChangesTest, DragsCopyNotesAndARubberBandSelectsThem)
+{
+    add(60, 1.0, 4.0);
+    add(64, 2.0, 4.0);
+    add(70, 8.0, 4.0);
+    const auto drag = [&](RollPoint from, RollPoint to, Qt::KeyboardModifiers press,
+                          Qt::KeyboardModifiers release) {
+        editor_.mouseDown(from, press);
+        editor_.mouseDragged(to);
+        editor_.mouseUp(to, release);
+    };
+    const auto& selection = document_.sequence().selection();
+    drag({65.0, 3.0}, {60.0, 0.0}, Qt::AltModifier, Qt::AltModifier);
+    EXPECT_THAT(selection, ElementsAre(1, 2)) << "from any corner";
+    EXPECT_TRUE(transport_.interval().isEmpty()) << "no time is selected";
+    drag({71.0, 9.0}, {69.0, 10.0}, Qt::AltModifier | Qt::ShiftModifier, Qt::ShiftModifier);
+    EXPECT_THAT(selection, ElementsAre(1, 2, 3));
+    drag({60.0, 2.0}, {62.0, 12.0}, {}, Qt::ControlModifier);
+    EXPECT_THAT(notes(), ElementsAre("60@1+4", "62@11+4", "64@2+4", "70@8+4"));
+    EXPECT_THAT(selection, ElementsAre(4)) << "the copy";
+    EXPECT_EQ(document_.undoStack().count(), 1);
+    undo();
+    EXPECT_THAT(notes(), ElementsAre("60@1+4", "64@2+4", "70@8+4"));
+}
+
+TEST_F(NoteChangesTest, PressedNotesSoundAndTheirVelocityIsDrawnNext)
+{
+    SequenceDocument musical{*this, Reading::Musical, [this] { return now_; }};
+    SequenceEditor editor(musical);
+    const auto draw = [&](double key) {
+        editor.rightMouseDown({key, 1.0});
+        editor.mouseUp({key, 1.0}, {});
+    };
+    draw(60.0);
+    editor.changeVelocityAt({60.0, 1.5}, -0.5);
+    editor.mouseDown({60.0, 1.0}, {});
+    editor.mouseDragged({62.0, 1.0});
+    editor.mouseUp({62.0, 1.0}, {});
+    draw(64.0);
+    EXPECT_THAT(calls_, ElementsAre("play 60 1.00", "stop 60", "play 60 0.50", "stop 60",
+                                    "play 62 0.50", "stop 62", "play 64 0.50", "stop 64"));
+    calls_.clear();
+    setPrefBool("SoundNotes", false);
+    draw(66.0);
+    resetPref("SoundNotes");
+    EXPECT_THAT(calls_, IsEmpty());
 }
 
 TEST_F(NoteChangesTest, APreviewLeavesNothingBehind)

@@ -3,6 +3,7 @@
 #include "desktop/roll/QuantiseDialog.h"
 #include "desktop/roll/SelectDialog.h"
 #include "desktop/widgets/Commands.h"
+#include "preferences/Preferences.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
 
@@ -42,8 +43,13 @@ EditingActions::EditingActions(Commands& commands, QMenu& selected)
       join_(add("edit.join", tr("&Join Notes"), Qt::CTRL | Qt::Key_J,
                 [](SequenceEditor& editor) { editor.join(); })),
       connect_(add("edit.legato", tr("Connect Notes (Le&gato)"), Qt::CTRL | Qt::SHIFT | Qt::Key_L,
-                   [](SequenceEditor& editor) { editor.connect(); }))
+                   [](SequenceEditor& editor) { editor.connect(); })),
+      sound_(commands.add("edit.soundNotes", tr("Edit"),
+                          {tr("&Hear Notes"), tr("Sound notes that are pressed or drawn")}))
 {
+    sound_->setCheckable(true);
+    sound_->setChecked(getPrefBool("SoundNotes"));
+    connect(sound_, &QAction::toggled, this, [](bool on) { setPrefBool("SoundNotes", on); });
     connect(select_, &QAction::triggered, this, &EditingActions::askWhatToSelect);
     connect(quantise_, &QAction::triggered, this, &EditingActions::askHowToQuantise);
     addSelected(selected);
@@ -100,6 +106,8 @@ void EditingActions::addTo(QMenu& edit) const
     edit.addActions({select_, duplicate_});
     edit.addSeparator();
     edit.addActions({quantise_, divide_, join_, connect_});
+    edit.addSeparator();
+    edit.addAction(sound_);
 }
 
 void EditingActions::showTarget()

@@ -3,8 +3,10 @@
 #include "desktop/roll/EditingActions.h"
 #include "desktop/roll/RollActions.h"
 #include "desktop/roll/SequenceScrollView.h"
+#include "desktop/roll/UndoHistory.h"
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/icons.h"
+#include "desktop/widgets/windowPlace.h"
 #include "midi/messages.h"
 #include "sequencer/NoteClipboard.h"
 #include "sequencer/SequenceDocument.h"
@@ -47,6 +49,8 @@ SequenceActions::SequenceActions(Commands& commands)
       commands_(commands), recording_(commands), time_(commands),
       undo_(pictured(undoStacks_.createUndoAction(this, tr("&Undo")), "undo")),
       redo_(pictured(undoStacks_.createRedoAction(this, tr("&Redo")), "redo")),
+      history_(
+          add("edit.history", nullptr, tr("Undo &History"), {Qt::CTRL | Qt::SHIFT | Qt::Key_H})),
       cut_(add("edit.cut", "cut", tr("Cu&t"), QKeySequence::keyBindings(QKeySequence::Cut))),
       copy_(add("edit.copy", "copy", tr("&Copy"), QKeySequence::keyBindings(QKeySequence::Copy))),
       paste_(
@@ -208,6 +212,7 @@ void SequenceActions::connectCommands()
     connect(cut_, &QAction::triggered, this, [this] { copyNotes(target_.editor->cut()); });
     connect(copy_, &QAction::triggered, this, [this] { copyNotes(target_.editor->copy()); });
     connect(paste_, &QAction::triggered, this, &SequenceActions::pasteNotes);
+    connect(history_, &QAction::triggered, this, &SequenceActions::showHistory);
     connect(selectAll_, &QAction::triggered, this, [this] { target_.editor->selectAll(); });
     using enum SequenceEditor::Direction;
     connect(nextNote_, &QAction::triggered, this,
@@ -231,7 +236,7 @@ void SequenceActions::connectCommands()
 
 void SequenceActions::addEditing(QMenu& edit) const
 {
-    edit.addActions({undo_, redo_});
+    edit.addActions({undo_, redo_, history_});
     edit.addSeparator();
     edit.addActions({cut_, copy_, paste_, delete_});
     edit.addSeparator();
@@ -314,6 +319,13 @@ void SequenceActions::showClipboard()
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     paste_->setEnabled(target_.document != nullptr && data != nullptr &&
                        data->hasFormat(kNotesMimeType));
+}
+
+void SequenceActions::showHistory()
+{
+    if (historyWindow_ == nullptr)
+        historyWindow_ = std::make_unique<UndoHistory>(undoStacks_);
+    present(*historyWindow_);
 }
 
 void SequenceActions::copyNotes(const std::vector<Note>& notes)

@@ -22,6 +22,7 @@ class RollActions;
 class SequenceDocument;
 class SequenceEditor;
 class SequenceScrollView;
+class UndoHistory;
 struct Note;
 
 /// The commands that act on the current piece.
@@ -77,6 +78,7 @@ private:
     void showSelection();
     void showDeselect(); ///< It also ends a count-in.
     void showClipboard();
+    void showHistory();
     void copyNotes(const std::vector<Note>& notes);
     void pasteNotes();
 
@@ -85,7 +87,8 @@ private:
     TimeActions time_;
     Target target_;
     QUndoGroup undoStacks_;
-    QAction *const undo_, *const redo_, *const cut_, *const copy_, *const paste_;
+    std::unique_ptr<UndoHistory> historyWindow_; ///< Null until it was wanted.
+    QAction *const undo_, *const redo_, *const history_, *const cut_, *const copy_, *const paste_;
     QAction *const delete_, *const selectAll_, *const deselect_;
     QAction *const nextNote_, *const previousNote_;
     QAction *const start_, *const end_, *const previous_, *const next_;

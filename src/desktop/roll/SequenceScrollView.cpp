@@ -223,6 +223,14 @@ void SequenceScrollView::wheelEvent(QWheelEvent* event)
         zoomAround(event->position(), notches, event->modifiers().testFlag(Qt::ShiftModifier));
         return;
     }
+    if (event->modifiers().testFlag(Qt::AltModifier)) {
+        const QPoint turned = wheelRemainder_; // with Alt, Qt turns the wheel sideways
+        const int notches = (turned.x() + turned.y()) / kNotch;
+        wheelRemainder_ = QPoint(0, (turned.x() + turned.y()) % kNotch);
+        if (notches != 0)
+            view_->changeVelocityAt(view_->mapFrom(this, event->position()), notches);
+        return;
+    }
     QPoint pixels = event->pixelDelta();
     const bool isTouchpad = !pixels.isNull(); // it moves smoothly itself
     if (!isTouchpad)
