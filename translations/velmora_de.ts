@@ -653,59 +653,67 @@ Ein Klick zieht es oder stößt es ab</translation>
     </message>
     <message>
         <source>Select &amp;by Voice or Velocity…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Nach Stimme oder &amp;Anschlag auswählen…</translation>
     </message>
     <message>
         <source>Select the notes of a voice, of some keys and velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Die Noten einer Stimme und bestimmter Tasten und Anschlagstärken auswählen</translation>
     </message>
     <message>
         <source>Dup&amp;licate</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ver&amp;doppeln</translation>
     </message>
     <message>
         <source>&amp;Quantise…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Quantisieren…</translation>
     </message>
     <message>
         <source>Move notes to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten auf das Raster verschieben</translation>
     </message>
     <message>
         <source>Split Notes at the Positi&amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten an der P&amp;osition teilen</translation>
     </message>
     <message>
         <source>&amp;Join Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten &amp;verbinden</translation>
     </message>
     <message>
         <source>Connect Notes (Le&amp;gato)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten binden (Le&amp;gato)</translation>
     </message>
     <message>
         <source>Move Notes an &amp;Octave Up</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten eine &amp;Oktave höher</translation>
     </message>
     <message>
         <source>Move Notes an O&amp;ctave Down</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten eine O&amp;ktave tiefer</translation>
     </message>
     <message>
         <source>&amp;Nudge Notes Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten &amp;ein wenig später</translation>
     </message>
     <message>
         <source>Nu&amp;dge Notes Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten ein &amp;wenig früher</translation>
     </message>
     <message>
         <source>Make Notes Lo&amp;uder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten la&amp;uter</translation>
     </message>
     <message>
         <source>Make Notes So&amp;fter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten lei&amp;ser</translation>
+    </message>
+    <message>
+        <source>&amp;Hear Notes</source>
+        <translation type="unfinished">Noten &amp;hören</translation>
+    </message>
+    <message>
+        <source>Sound notes that are pressed or drawn</source>
+        <translation type="unfinished">Noten erklingen lassen, die angeklickt oder gezeichnet werden</translation>
     </message>
 </context>
 <context>
@@ -1187,11 +1195,11 @@ Ein anderes Instrument wählen, öffnen oder entladen</translation>
     <name>velmora::Lanes</name>
     <message>
         <source>&amp;No Lane</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Keine Spur</translation>
     </message>
     <message>
         <source>&amp;Velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Anschlagstärken</translation>
     </message>
     <message>
         <source>&amp;Tempo and Signatures</source>
@@ -1832,11 +1840,11 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
     <message>
         <source>Move the &amp;ends of notes as well</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Auch die &amp;Enden der Noten verschieben</translation>
     </message>
     <message>
         <source>Quantise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Quantisieren</translation>
     </message>
     <message>
         <source>1/%1</source>
@@ -1844,37 +1852,37 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
     <message>
         <source>1/%1 triplets</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">1/%1-Triolen</translation>
     </message>
     <message>
         <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wo die zweite von zwei Einheiten beginnt: 50 % ist gleichmäßig, 67 % sind Triolen</translation>
     </message>
     <message numerus="yes">
         <source>Moves all %n note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Verschiebt die einzige Note auf das Raster.</numerusform>
+            <numerusform>Verschiebt alle %n Noten auf das Raster.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moves %n selected note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Verschiebt %n ausgewählte Note auf das Raster.</numerusform>
+            <numerusform>Verschiebt %n ausgewählte Noten auf das Raster.</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Grid:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Raster:</translation>
     </message>
     <message>
         <source>&amp;Strength:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Stärke:</translation>
     </message>
     <message>
         <source>S&amp;wing:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">S&amp;wing:</translation>
     </message>
 </context>
 <context>
@@ -1967,7 +1975,7 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
     <message>
         <source>&amp;Lane</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Spur</translation>
     </message>
 </context>
 <context>
@@ -1980,20 +1988,8 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
 <context>
     <name>velmora::SelectDialog</name>
     <message>
-        <source>%1 from</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Select Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Noten auswählen</translation>
     </message>
     <message>
         <source>All</source>
@@ -2001,23 +1997,31 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
     <message>
         <source>&amp;Voice:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Stimme:</translation>
     </message>
     <message>
         <source>&amp;Keys:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation type="unfinished">Tasten</translation>
+        <translation type="unfinished">&amp;Tasten:</translation>
     </message>
     <message>
         <source>V&amp;elocities:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Anschlagstärken:</translation>
     </message>
     <message>
-        <source>Velocities</source>
-        <translation type="unfinished"></translation>
+        <source>Lowest key</source>
+        <translation type="unfinished">Tiefste Taste</translation>
+    </message>
+    <message>
+        <source>Highest key</source>
+        <translation type="unfinished">Höchste Taste</translation>
+    </message>
+    <message>
+        <source>Softest velocity</source>
+        <translation type="unfinished">Kleinste Anschlagstärke</translation>
+    </message>
+    <message>
+        <source>Loudest velocity</source>
+        <translation type="unfinished">Größte Anschlagstärke</translation>
     </message>
 </context>
 <context>
@@ -2201,6 +2205,10 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Align notes and times with the lines of the grid</source>
         <translation type="unfinished">Noten und Zeiten an den Linien des Rasters ausrichten</translation>
     </message>
+    <message>
+        <source>Undo &amp;History</source>
+        <translation type="unfinished">&amp;Verlauf der Bearbeitungen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -2264,50 +2272,50 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message numerus="yes">
         <source>Quantise %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Quantisieren von %n Note</numerusform>
+            <numerusform>Quantisieren von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Transpose %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Transponieren von %n Note</numerusform>
+            <numerusform>Transponieren von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Duplicate %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Verdoppeln von %n Note</numerusform>
+            <numerusform>Verdoppeln von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Split %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Teilen von %n Note</numerusform>
+            <numerusform>Teilen von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Join %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Verbinden von %n Note</numerusform>
+            <numerusform>Verbinden von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Connect %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Binden von %n Note</numerusform>
+            <numerusform>Binden von %n Noten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Change Velocity of %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Ändern der Anschlagstärke von %n Note</numerusform>
+            <numerusform>Ändern der Anschlagstärke von %n Noten</numerusform>
         </translation>
     </message>
 </context>
@@ -3795,14 +3803,29 @@ Ein Klick zeigt alle Stimmungen</translation>
     </message>
 </context>
 <context>
+    <name>velmora::UndoHistory</name>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Verlauf der Bearbeitungen</translation>
+    </message>
+    <message>
+        <source>Edits of the piece</source>
+        <translation type="unfinished">Bearbeitungen des Stücks</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation type="unfinished">Wie geöffnet</translation>
+    </message>
+</context>
+<context>
     <name>velmora::VelocityLane</name>
     <message>
         <source>Velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anschlagstärken</translation>
     </message>
     <message>
         <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ziehen Sie über die Balken, um die Anschlagstärken zu ändern. Mit der Umschalttaste folgen sie einer geraden Linie. Sind Noten ausgewählt, ändern sich nur diese.</translation>
     </message>
 </context>
 <context>

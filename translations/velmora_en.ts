@@ -60,15 +60,15 @@
     <message numerus="yes">
         <source>Moves all %n note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Moves the only note to the grid.</numerusform>
+            <numerusform>Moves all %n notes to the grid.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moves %n selected note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Moves %n selected note to the grid.</numerusform>
+            <numerusform>Moves %n selected notes to the grid.</numerusform>
         </translation>
     </message>
 </context>
@@ -136,50 +136,50 @@
     <message numerus="yes">
         <source>Quantise %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Quantise %n Note</numerusform>
+            <numerusform>Quantise %n Notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Transpose %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Transpose %n Note</numerusform>
+            <numerusform>Transpose %n Notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Duplicate %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Duplicate %n Note</numerusform>
+            <numerusform>Duplicate %n Notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Split %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Split %n Note</numerusform>
+            <numerusform>Split %n Notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Join %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Join %n Note</numerusform>
+            <numerusform>Join %n Notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Connect %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Connect %n Note</numerusform>
+            <numerusform>Connect %n Notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Change Velocity of %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Change Velocity of %n Note</numerusform>
+            <numerusform>Change Velocity of %n Notes</numerusform>
         </translation>
     </message>
 </context>

@@ -653,59 +653,67 @@ Un clic lo saca o lo cierra</translation>
     </message>
     <message>
         <source>Select &amp;by Voice or Velocity…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seleccionar &amp;por voz o velocidad…</translation>
     </message>
     <message>
         <source>Select the notes of a voice, of some keys and velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seleccionar las notas de una voz y de ciertas teclas y velocidades</translation>
     </message>
     <message>
         <source>Dup&amp;licate</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dup&amp;licar</translation>
     </message>
     <message>
         <source>&amp;Quantise…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Cuantizar…</translation>
     </message>
     <message>
         <source>Move notes to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mover las notas a la cuadrícula</translation>
     </message>
     <message>
         <source>Split Notes at the Positi&amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dividir las notas en la p&amp;osición</translation>
     </message>
     <message>
         <source>&amp;Join Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Unir notas</translation>
     </message>
     <message>
         <source>Connect Notes (Le&amp;gato)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ligar notas (le&amp;gato)</translation>
     </message>
     <message>
         <source>Move Notes an &amp;Octave Up</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Subir las notas una &amp;octava</translation>
     </message>
     <message>
         <source>Move Notes an O&amp;ctave Down</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bajar las notas una o&amp;ctava</translation>
     </message>
     <message>
         <source>&amp;Nudge Notes Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Retrasar u&amp;n poco las notas</translation>
     </message>
     <message>
         <source>Nu&amp;dge Notes Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">A&amp;delantar un poco las notas</translation>
     </message>
     <message>
         <source>Make Notes Lo&amp;uder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Notas más f&amp;uertes</translation>
     </message>
     <message>
         <source>Make Notes So&amp;fter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Notas más sua&amp;ves</translation>
+    </message>
+    <message>
+        <source>&amp;Hear Notes</source>
+        <translation type="unfinished">&amp;Oír las notas</translation>
+    </message>
+    <message>
+        <source>Sound notes that are pressed or drawn</source>
+        <translation type="unfinished">Hacer sonar las notas que se pulsan o dibujan</translation>
     </message>
 </context>
 <context>
@@ -1187,11 +1195,11 @@ Elegir otro instrumento, abrir uno o retirarlo</translation>
     <name>velmora::Lanes</name>
     <message>
         <source>&amp;No Lane</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Ningún carril</translation>
     </message>
     <message>
         <source>&amp;Velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Velocidades</translation>
     </message>
     <message>
         <source>&amp;Tempo and Signatures</source>
@@ -1832,11 +1840,11 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
     <message>
         <source>Move the &amp;ends of notes as well</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mover también los &amp;finales de las notas</translation>
     </message>
     <message>
         <source>Quantise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cuantizar</translation>
     </message>
     <message>
         <source>1/%1</source>
@@ -1844,37 +1852,37 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
     <message>
         <source>1/%1 triplets</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">tresillos de 1/%1</translation>
     </message>
     <message>
         <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dónde empieza la segunda de dos unidades: 50 % es regular, 67 % tresillos</translation>
     </message>
     <message numerus="yes">
         <source>Moves all %n note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Mueve la única nota a la cuadrícula.</numerusform>
+            <numerusform>Mueve las %n notas a la cuadrícula.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moves %n selected note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Mueve %n nota seleccionada a la cuadrícula.</numerusform>
+            <numerusform>Mueve %n notas seleccionadas a la cuadrícula.</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Grid:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Cuadrícula:</translation>
     </message>
     <message>
         <source>&amp;Strength:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Intensidad:</translation>
     </message>
     <message>
         <source>S&amp;wing:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">S&amp;wing:</translation>
     </message>
 </context>
 <context>
@@ -1967,7 +1975,7 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
     <message>
         <source>&amp;Lane</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ca&amp;rril</translation>
     </message>
 </context>
 <context>
@@ -1980,20 +1988,8 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
 <context>
     <name>velmora::SelectDialog</name>
     <message>
-        <source>%1 from</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Select Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seleccionar notas</translation>
     </message>
     <message>
         <source>All</source>
@@ -2001,23 +1997,31 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
     <message>
         <source>&amp;Voice:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Voz:</translation>
     </message>
     <message>
         <source>&amp;Keys:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation type="unfinished">Teclas</translation>
+        <translation type="unfinished">&amp;Teclas:</translation>
     </message>
     <message>
         <source>V&amp;elocities:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">V&amp;elocidades:</translation>
     </message>
     <message>
-        <source>Velocities</source>
-        <translation type="unfinished"></translation>
+        <source>Lowest key</source>
+        <translation type="unfinished">Tecla más grave</translation>
+    </message>
+    <message>
+        <source>Highest key</source>
+        <translation type="unfinished">Tecla más aguda</translation>
+    </message>
+    <message>
+        <source>Softest velocity</source>
+        <translation type="unfinished">Velocidad mínima</translation>
+    </message>
+    <message>
+        <source>Loudest velocity</source>
+        <translation type="unfinished">Velocidad máxima</translation>
     </message>
 </context>
 <context>
@@ -2201,6 +2205,10 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Align notes and times with the lines of the grid</source>
         <translation type="unfinished">Ajustar notas y tiempos a las líneas de la cuadrícula</translation>
     </message>
+    <message>
+        <source>Undo &amp;History</source>
+        <translation type="unfinished">&amp;Historial de cambios</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -2264,50 +2272,50 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message numerus="yes">
         <source>Quantise %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Cuantizar %n nota</numerusform>
+            <numerusform>Cuantizar %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Transpose %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Transportar %n nota</numerusform>
+            <numerusform>Transportar %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Duplicate %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Duplicar %n nota</numerusform>
+            <numerusform>Duplicar %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Split %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Dividir %n nota</numerusform>
+            <numerusform>Dividir %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Join %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Unir %n nota</numerusform>
+            <numerusform>Unir %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Connect %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Ligar %n nota</numerusform>
+            <numerusform>Ligar %n notas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Change Velocity of %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Cambiar la velocidad de %n nota</numerusform>
+            <numerusform>Cambiar la velocidad de %n notas</numerusform>
         </translation>
     </message>
 </context>
@@ -3795,14 +3803,29 @@ Haga clic para ver todas las afinaciones</translation>
     </message>
 </context>
 <context>
+    <name>velmora::UndoHistory</name>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Historial de cambios</translation>
+    </message>
+    <message>
+        <source>Edits of the piece</source>
+        <translation type="unfinished">Cambios de la pieza</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation type="unfinished">Como se abrió</translation>
+    </message>
+</context>
+<context>
     <name>velmora::VelocityLane</name>
     <message>
         <source>Velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velocidades</translation>
     </message>
     <message>
         <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Arrastre sobre las barras para cambiar las velocidades. Con Mayús siguen una línea recta. Si hay notas seleccionadas, solo cambian ellas.</translation>
     </message>
 </context>
 <context>

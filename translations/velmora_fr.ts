@@ -653,59 +653,67 @@ Un clic le tire ou le repousse</translation>
     </message>
     <message>
         <source>Select &amp;by Voice or Velocity…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sélectionner &amp;par voix ou vélocité…</translation>
     </message>
     <message>
         <source>Select the notes of a voice, of some keys and velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sélectionner les notes d’une voix, de certaines touches et vélocités</translation>
     </message>
     <message>
         <source>Dup&amp;licate</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dup&amp;liquer</translation>
     </message>
     <message>
         <source>&amp;Quantise…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Quantifier…</translation>
     </message>
     <message>
         <source>Move notes to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Déplacer les notes sur la grille</translation>
     </message>
     <message>
         <source>Split Notes at the Positi&amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Couper les notes à la p&amp;osition</translation>
     </message>
     <message>
         <source>&amp;Join Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Joindre les notes</translation>
     </message>
     <message>
         <source>Connect Notes (Le&amp;gato)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lier les notes (le&amp;gato)</translation>
     </message>
     <message>
         <source>Move Notes an &amp;Octave Up</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Monter les notes d’une &amp;octave</translation>
     </message>
     <message>
         <source>Move Notes an O&amp;ctave Down</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Descendre les notes d’une o&amp;ctave</translation>
     </message>
     <message>
         <source>&amp;Nudge Notes Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Retarder u&amp;n peu les notes</translation>
     </message>
     <message>
         <source>Nu&amp;dge Notes Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Avancer un peu les note&amp;s</translation>
     </message>
     <message>
         <source>Make Notes Lo&amp;uder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Notes pl&amp;us fortes</translation>
     </message>
     <message>
         <source>Make Notes So&amp;fter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Notes plus &amp;douces</translation>
+    </message>
+    <message>
+        <source>&amp;Hear Notes</source>
+        <translation type="unfinished">&amp;Entendre les notes</translation>
+    </message>
+    <message>
+        <source>Sound notes that are pressed or drawn</source>
+        <translation type="unfinished">Faire sonner les notes cliquées ou dessinées</translation>
     </message>
 </context>
 <context>
@@ -1187,11 +1195,11 @@ Choisir un autre instrument, en ouvrir ou en décharger un</translation>
     <name>velmora::Lanes</name>
     <message>
         <source>&amp;No Lane</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Aucune piste</translation>
     </message>
     <message>
         <source>&amp;Velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Vélocités</translation>
     </message>
     <message>
         <source>&amp;Tempo and Signatures</source>
@@ -1832,11 +1840,11 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>Move the &amp;ends of notes as well</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Déplacer aussi les &amp;fins des notes</translation>
     </message>
     <message>
         <source>Quantise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Quantifier</translation>
     </message>
     <message>
         <source>1/%1</source>
@@ -1844,37 +1852,37 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>1/%1 triplets</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">triolets de 1/%1</translation>
     </message>
     <message>
         <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Où commence la seconde de deux unités : 50 % est régulier, 67 % des triolets</translation>
     </message>
     <message numerus="yes">
         <source>Moves all %n note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Déplace la seule note sur la grille.</numerusform>
+            <numerusform>Déplace les %n notes sur la grille.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moves %n selected note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Déplace %n note sélectionnée sur la grille.</numerusform>
+            <numerusform>Déplace %n notes sélectionnées sur la grille.</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Grid:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Grille :</translation>
     </message>
     <message>
         <source>&amp;Strength:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Force :</translation>
     </message>
     <message>
         <source>S&amp;wing:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">S&amp;wing :</translation>
     </message>
 </context>
 <context>
@@ -1967,7 +1975,7 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>&amp;Lane</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Piste</translation>
     </message>
 </context>
 <context>
@@ -1980,20 +1988,8 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
 <context>
     <name>velmora::SelectDialog</name>
     <message>
-        <source>%1 from</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Select Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sélectionner des notes</translation>
     </message>
     <message>
         <source>All</source>
@@ -2001,23 +1997,31 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>&amp;Voice:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Voix :</translation>
     </message>
     <message>
         <source>&amp;Keys:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation type="unfinished">Touches</translation>
+        <translation type="unfinished">&amp;Touches :</translation>
     </message>
     <message>
         <source>V&amp;elocities:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">V&amp;élocités :</translation>
     </message>
     <message>
-        <source>Velocities</source>
-        <translation type="unfinished"></translation>
+        <source>Lowest key</source>
+        <translation type="unfinished">Touche la plus grave</translation>
+    </message>
+    <message>
+        <source>Highest key</source>
+        <translation type="unfinished">Touche la plus aiguë</translation>
+    </message>
+    <message>
+        <source>Softest velocity</source>
+        <translation type="unfinished">Vélocité minimale</translation>
+    </message>
+    <message>
+        <source>Loudest velocity</source>
+        <translation type="unfinished">Vélocité maximale</translation>
     </message>
 </context>
 <context>
@@ -2201,6 +2205,10 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Align notes and times with the lines of the grid</source>
         <translation type="unfinished">Aligner les notes et les temps sur les lignes de la grille</translation>
     </message>
+    <message>
+        <source>Undo &amp;History</source>
+        <translation type="unfinished">&amp;Historique des modifications</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -2264,50 +2272,50 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message numerus="yes">
         <source>Quantise %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Quantifier %n note</numerusform>
+            <numerusform>Quantifier %n notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Transpose %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Transposer %n note</numerusform>
+            <numerusform>Transposer %n notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Duplicate %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Dupliquer %n note</numerusform>
+            <numerusform>Dupliquer %n notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Split %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Couper %n note</numerusform>
+            <numerusform>Couper %n notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Join %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Joindre %n note</numerusform>
+            <numerusform>Joindre %n notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Connect %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Lier %n note</numerusform>
+            <numerusform>Lier %n notes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Change Velocity of %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Changer la vélocité de %n note</numerusform>
+            <numerusform>Changer la vélocité de %n notes</numerusform>
         </translation>
     </message>
 </context>
@@ -3795,14 +3803,29 @@ Cliquez pour afficher tous les tempéraments</translation>
     </message>
 </context>
 <context>
+    <name>velmora::UndoHistory</name>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Historique des modifications</translation>
+    </message>
+    <message>
+        <source>Edits of the piece</source>
+        <translation type="unfinished">Modifications du morceau</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation type="unfinished">Tel qu’ouvert</translation>
+    </message>
+</context>
+<context>
     <name>velmora::VelocityLane</name>
     <message>
         <source>Velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Vélocités</translation>
     </message>
     <message>
         <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Faites glisser sur les barres pour changer les vélocités. Avec Maj, elles suivent une ligne droite. Si des notes sont sélectionnées, elles seules changent.</translation>
     </message>
 </context>
 <context>

@@ -653,59 +653,67 @@ Un clic lo tira o lo respinge</translation>
     </message>
     <message>
         <source>Select &amp;by Voice or Velocity…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seleziona &amp;per voce o velocity…</translation>
     </message>
     <message>
         <source>Select the notes of a voice, of some keys and velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seleziona le note di una voce e di certi tasti e velocity</translation>
     </message>
     <message>
         <source>Dup&amp;licate</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dup&amp;lica</translation>
     </message>
     <message>
         <source>&amp;Quantise…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Quantizza…</translation>
     </message>
     <message>
         <source>Move notes to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sposta le note sulla griglia</translation>
     </message>
     <message>
         <source>Split Notes at the Positi&amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dividi le note alla p&amp;osizione</translation>
     </message>
     <message>
         <source>&amp;Join Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Unisci note</translation>
     </message>
     <message>
         <source>Connect Notes (Le&amp;gato)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lega note (le&amp;gato)</translation>
     </message>
     <message>
         <source>Move Notes an &amp;Octave Up</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sposta le note un’&amp;ottava su</translation>
     </message>
     <message>
         <source>Move Notes an O&amp;ctave Down</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sposta le note un’o&amp;ttava giù</translation>
     </message>
     <message>
         <source>&amp;Nudge Notes Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ritarda u&amp;n poco le note</translation>
     </message>
     <message>
         <source>Nu&amp;dge Notes Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anticipa un poco le no&amp;te</translation>
     </message>
     <message>
         <source>Make Notes Lo&amp;uder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Note più &amp;forti</translation>
     </message>
     <message>
         <source>Make Notes So&amp;fter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Note più pi&amp;ano</translation>
+    </message>
+    <message>
+        <source>&amp;Hear Notes</source>
+        <translation type="unfinished">A&amp;scolta le note</translation>
+    </message>
+    <message>
+        <source>Sound notes that are pressed or drawn</source>
+        <translation type="unfinished">Fa suonare le note premute o disegnate</translation>
     </message>
 </context>
 <context>
@@ -1187,11 +1195,11 @@ Scegli un altro strumento, aprine uno o rimuovilo dalla memoria</translation>
     <name>velmora::Lanes</name>
     <message>
         <source>&amp;No Lane</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Nessuna corsia</translation>
     </message>
     <message>
         <source>&amp;Velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Velocity</translation>
     </message>
     <message>
         <source>&amp;Tempo and Signatures</source>
@@ -1832,11 +1840,11 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
     <message>
         <source>Move the &amp;ends of notes as well</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Sposta anche la &amp;fine delle note</translation>
     </message>
     <message>
         <source>Quantise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Quantizza</translation>
     </message>
     <message>
         <source>1/%1</source>
@@ -1844,37 +1852,37 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
     <message>
         <source>1/%1 triplets</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">terzine di 1/%1</translation>
     </message>
     <message>
         <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dove comincia la seconda di due unità: 50 % è regolare, 67 % terzine</translation>
     </message>
     <message numerus="yes">
         <source>Moves all %n note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Sposta l’unica nota sulla griglia.</numerusform>
+            <numerusform>Sposta tutte le %n note sulla griglia.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moves %n selected note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Sposta %n nota selezionata sulla griglia.</numerusform>
+            <numerusform>Sposta %n note selezionate sulla griglia.</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Grid:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Griglia:</translation>
     </message>
     <message>
         <source>&amp;Strength:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Intensità:</translation>
     </message>
     <message>
         <source>S&amp;wing:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">S&amp;wing:</translation>
     </message>
 </context>
 <context>
@@ -1967,7 +1975,7 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
     <message>
         <source>&amp;Lane</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Corsia</translation>
     </message>
 </context>
 <context>
@@ -1980,20 +1988,8 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
 <context>
     <name>velmora::SelectDialog</name>
     <message>
-        <source>%1 from</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Select Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Seleziona note</translation>
     </message>
     <message>
         <source>All</source>
@@ -2001,23 +1997,31 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
     <message>
         <source>&amp;Voice:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">&amp;Voce:</translation>
     </message>
     <message>
         <source>&amp;Keys:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation type="unfinished">Tasti</translation>
+        <translation type="unfinished">&amp;Tasti:</translation>
     </message>
     <message>
         <source>V&amp;elocities:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">V&amp;elocity:</translation>
     </message>
     <message>
-        <source>Velocities</source>
-        <translation type="unfinished"></translation>
+        <source>Lowest key</source>
+        <translation type="unfinished">Tasto più grave</translation>
+    </message>
+    <message>
+        <source>Highest key</source>
+        <translation type="unfinished">Tasto più acuto</translation>
+    </message>
+    <message>
+        <source>Softest velocity</source>
+        <translation type="unfinished">Velocity minima</translation>
+    </message>
+    <message>
+        <source>Loudest velocity</source>
+        <translation type="unfinished">Velocity massima</translation>
     </message>
 </context>
 <context>
@@ -2201,6 +2205,10 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Align notes and times with the lines of the grid</source>
         <translation type="unfinished">Allinea note e tempi alle linee della griglia</translation>
     </message>
+    <message>
+        <source>Undo &amp;History</source>
+        <translation type="unfinished">&amp;Cronologia delle modifiche</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -2264,50 +2272,50 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message numerus="yes">
         <source>Quantise %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Quantizza %n nota</numerusform>
+            <numerusform>Quantizza %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Transpose %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Trasporta %n nota</numerusform>
+            <numerusform>Trasporta %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Duplicate %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Duplica %n nota</numerusform>
+            <numerusform>Duplica %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Split %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Dividi %n nota</numerusform>
+            <numerusform>Dividi %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Join %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Unisci %n nota</numerusform>
+            <numerusform>Unisci %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Connect %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Lega %n nota</numerusform>
+            <numerusform>Lega %n note</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Change Velocity of %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+            <numerusform>Cambia la velocity di %n nota</numerusform>
+            <numerusform>Cambia la velocity di %n note</numerusform>
         </translation>
     </message>
 </context>
@@ -3795,14 +3803,29 @@ Fai clic per mostrare tutti i temperamenti</translation>
     </message>
 </context>
 <context>
+    <name>velmora::UndoHistory</name>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Cronologia delle modifiche</translation>
+    </message>
+    <message>
+        <source>Edits of the piece</source>
+        <translation type="unfinished">Modifiche del brano</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation type="unfinished">Come aperto</translation>
+    </message>
+</context>
+<context>
     <name>velmora::VelocityLane</name>
     <message>
         <source>Velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Velocity</translation>
     </message>
     <message>
         <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Trascina sulle barre per cambiare le velocity. Con Maiusc seguono una linea retta. Se ci sono note selezionate, cambiano solo quelle.</translation>
     </message>
 </context>
 <context>

@@ -651,59 +651,67 @@ A click draws it or pushes it in</source>
     </message>
     <message>
         <source>Select &amp;by Voice or Velocity…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">声部またはベロシティで選択(&amp;B)…</translation>
     </message>
     <message>
         <source>Select the notes of a voice, of some keys and velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">声部、鍵、ベロシティを指定して音符を選択します</translation>
     </message>
     <message>
         <source>Dup&amp;licate</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">複製(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Quantise…</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">クオンタイズ(&amp;Q)…</translation>
     </message>
     <message>
         <source>Move notes to the grid</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符をグリッドに合わせます</translation>
     </message>
     <message>
         <source>Split Notes at the Positi&amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">現在位置で音符を分割(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Join Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を結合(&amp;J)</translation>
     </message>
     <message>
         <source>Connect Notes (Le&amp;gato)</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符をつなげる (レガート)(&amp;G)</translation>
     </message>
     <message>
         <source>Move Notes an &amp;Octave Up</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を 1 オクターブ上げる(&amp;O)</translation>
     </message>
     <message>
         <source>Move Notes an O&amp;ctave Down</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を 1 オクターブ下げる(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Nudge Notes Later</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を少し遅らせる(&amp;N)</translation>
     </message>
     <message>
         <source>Nu&amp;dge Notes Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を少し早める(&amp;D)</translation>
     </message>
     <message>
         <source>Make Notes Lo&amp;uder</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を強くする(&amp;U)</translation>
     </message>
     <message>
         <source>Make Notes So&amp;fter</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符を弱くする(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Hear Notes</source>
+        <translation type="unfinished">音符を鳴らす(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Sound notes that are pressed or drawn</source>
+        <translation type="unfinished">クリックまたは描画した音符を鳴らします</translation>
     </message>
 </context>
 <context>
@@ -1183,11 +1191,11 @@ Choose another instrument, open or unload one</source>
     <name>velmora::Lanes</name>
     <message>
         <source>&amp;No Lane</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">レーンなし(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ベロシティ(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Tempo and Signatures</source>
@@ -1826,11 +1834,11 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
     <message>
         <source>Move the &amp;ends of notes as well</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符の終わりも合わせる(&amp;E)</translation>
     </message>
     <message>
         <source>Quantise</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">クオンタイズ</translation>
     </message>
     <message>
         <source>1/%1</source>
@@ -1838,35 +1846,35 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
     <message>
         <source>1/%1 triplets</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">1/%1 3連符</translation>
     </message>
     <message>
         <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">2 つの単位の 2 つ目が始まる位置: 50 % は均等、67 % は 3 連符</translation>
     </message>
     <message numerus="yes">
         <source>Moves all %n note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符すべてをグリッドに合わせます。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Moves %n selected note(s) to the grid.</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>選択した %n 個の音符をグリッドに合わせます。</numerusform>
         </translation>
     </message>
     <message>
         <source>&amp;Grid:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">グリッド(&amp;G):</translation>
     </message>
     <message>
         <source>&amp;Strength:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">強さ(&amp;S):</translation>
     </message>
     <message>
         <source>S&amp;wing:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">スウィング(&amp;W):</translation>
     </message>
 </context>
 <context>
@@ -1958,7 +1966,7 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
     <message>
         <source>&amp;Lane</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">レーン(&amp;L)</translation>
     </message>
 </context>
 <context>
@@ -1971,20 +1979,8 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
 <context>
     <name>velmora::SelectDialog</name>
     <message>
-        <source>%1 from</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>to</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Select Notes</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">音符の選択</translation>
     </message>
     <message>
         <source>All</source>
@@ -1992,23 +1988,31 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
     <message>
         <source>&amp;Voice:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">声部(&amp;V):</translation>
     </message>
     <message>
         <source>&amp;Keys:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation type="unfinished">鍵</translation>
+        <translation type="unfinished">鍵(&amp;K):</translation>
     </message>
     <message>
         <source>V&amp;elocities:</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ベロシティ(&amp;E):</translation>
     </message>
     <message>
-        <source>Velocities</source>
-        <translation type="unfinished"></translation>
+        <source>Lowest key</source>
+        <translation type="unfinished">最低の鍵</translation>
+    </message>
+    <message>
+        <source>Highest key</source>
+        <translation type="unfinished">最高の鍵</translation>
+    </message>
+    <message>
+        <source>Softest velocity</source>
+        <translation type="unfinished">最小ベロシティ</translation>
+    </message>
+    <message>
+        <source>Loudest velocity</source>
+        <translation type="unfinished">最大ベロシティ</translation>
     </message>
 </context>
 <context>
@@ -2192,6 +2196,10 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Align notes and times with the lines of the grid</source>
         <translation type="unfinished">音符と時間をグリッドの線に揃えます</translation>
     </message>
+    <message>
+        <source>Undo &amp;History</source>
+        <translation type="unfinished">取り消し履歴(&amp;H)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -2248,43 +2256,43 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message numerus="yes">
         <source>Quantise %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符のクオンタイズ</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Transpose %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の移調</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Duplicate %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の複製</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Split %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の分割</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Join %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の結合</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Connect %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符の接続</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Change Velocity of %n Note(s)</source>
         <translation type="unfinished">
-            <numerusform></numerusform>
+            <numerusform>%n 個の音符のベロシティの変更</numerusform>
         </translation>
     </message>
 </context>
@@ -3766,14 +3774,29 @@ Click to show all tunings</source>
     </message>
 </context>
 <context>
+    <name>velmora::UndoHistory</name>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">取り消し履歴</translation>
+    </message>
+    <message>
+        <source>Edits of the piece</source>
+        <translation type="unfinished">曲の編集</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation type="unfinished">開いた時の状態</translation>
+    </message>
+</context>
+<context>
     <name>velmora::VelocityLane</name>
     <message>
         <source>Velocities</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ベロシティ</translation>
     </message>
     <message>
         <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">バーの上をドラッグしてベロシティを変えます。Shift を押すと直線になります。音符が選択されていれば、それだけが変わります。</translation>
     </message>
 </context>
 <context>

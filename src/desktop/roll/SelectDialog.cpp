@@ -20,16 +20,14 @@ namespace {
 constexpr int kEveryVoice = -1;
 constexpr int kLoudest = 127;
 
-/// Shows a range as two boxes. `what` names it for screen readers.
-QWidget* rangeOf(QSpinBox& from, QSpinBox& to, const QString& what)
+/// Shows a range as two boxes.
+QWidget* rangeOf(QSpinBox& from, QSpinBox& to)
 {
-    from.setAccessibleName(SelectDialog::tr("%1 from").arg(what));
-    to.setAccessibleName(SelectDialog::tr("%1 to").arg(what));
     auto* range = new QWidget;
     auto* row = new QHBoxLayout(range);
     row->setContentsMargins({});
     row->addWidget(&from);
-    row->addWidget(new QLabel(SelectDialog::tr("to")));
+    row->addWidget(new QLabel("–"));
     row->addWidget(&to);
     range->setFocusProxy(&from);
     return range;
@@ -45,15 +43,19 @@ SelectDialog::SelectDialog(SequenceEditor& editor, QWidget* parent)
     channel_->addItem(tr("All"), kEveryVoice);
     for (int channel = 0; channel < midi::kChannels; ++channel)
         channel_->addItem(QString::number(channel + 1), channel);
+    lowest_->setAccessibleName(tr("Lowest key"));
+    highest_->setAccessibleName(tr("Highest key"));
     highest_->setValue(static_cast<int>(kLastKey));
+    softest_->setAccessibleName(tr("Softest velocity"));
+    loudest_->setAccessibleName(tr("Loudest velocity"));
     for (QSpinBox* box : {softest_, loudest_})
         box->setRange(1, kLoudest);
     loudest_->setValue(kLoudest);
 
     auto* form = new QFormLayout(this);
     form->addRow(tr("&Voice:"), channel_);
-    form->addRow(tr("&Keys:"), rangeOf(*lowest_, *highest_, tr("Keys")));
-    form->addRow(tr("V&elocities:"), rangeOf(*softest_, *loudest_, tr("Velocities")));
+    form->addRow(tr("&Keys:"), rangeOf(*lowest_, *highest_));
+    form->addRow(tr("V&elocities:"), rangeOf(*softest_, *loudest_));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     form->addRow(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &SelectDialog::accept);
