@@ -3237,7 +3237,7 @@ Ein Klick zeigt alle Stimmungen</translation>
     </message>
     <message>
         <source>Tempo &amp;and Signatures</source>
-        <translation type="unfinished">Tempo &amp;und Vorzeichnung</translation>
+        <translation type="unfinished">&amp;Tempo und Vorzeichnung</translation>
     </message>
     <message>
         <source>Tap</source>

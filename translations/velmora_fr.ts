@@ -3237,7 +3237,7 @@ Cliquez pour afficher tous les tempéraments</translation>
     </message>
     <message>
         <source>Tempo &amp;and Signatures</source>
-        <translation type="unfinished">Tempo &amp;et mesures</translation>
+        <translation type="unfinished">&amp;Tempo et mesures</translation>
     </message>
     <message>
         <source>Tap</source>

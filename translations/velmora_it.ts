@@ -3237,7 +3237,7 @@ Fai clic per mostrare tutti i temperamenti</translation>
     </message>
     <message>
         <source>Tempo &amp;and Signatures</source>
-        <translation type="unfinished">Tempo &amp;e misure</translation>
+        <translation type="unfinished">Temp&amp;o e misure</translation>
     </message>
     <message>
         <source>Tap</source>

@@ -25,6 +25,13 @@ constexpr int kShortestUnit = 6;
 
 constexpr int kMostSharps = 7;
 
+/// Returns the number of a bar. Damaged files have events later than any bar can be counted.
+int barNumber(double bars)
+{
+    constexpr double kMostBars = 1e9;
+    return static_cast<int>(std::clamp(bars, -kMostBars, kMostBars));
+}
+
 /// Brings a list into the order of time, and keeps the last entry of each step.
 template <class Entry> void arrange(std::vector<Entry>& entries)
 {
@@ -120,7 +127,7 @@ void MusicalTime::setTimeSignatures(std::vector<TimeSignature> signatures)
         const Stretch& last = stretches_.back();
         const double bars =
             (signature.step - last.signature.step) / last.signature.barLength() - kBarRounding;
-        const int next = last.firstBar + std::max(0, static_cast<int>(std::ceil(bars)));
+        const int next = barNumber(last.firstBar + std::max(0.0, std::ceil(bars)));
         if (next == last.firstBar) // it replaces the one of the same step
             stretches_.pop_back();
         stretches_.push_back({signature, next});
@@ -163,8 +170,8 @@ Bar MusicalTime::barAt(double step) const
     const Stretch& stretch = stretchAt(step);
     const double length = stretch.signature.barLength();
     const double bars = std::floor((step - stretch.signature.step + kBarRounding) / length);
-    Bar bar{stretch.firstBar + static_cast<int>(bars), stretch.signature.step + bars * length,
-            length, stretch.signature};
+    Bar bar{barNumber(stretch.firstBar + bars), stretch.signature.step + bars * length, length,
+            stretch.signature};
     if (&stretch != &stretches_.back())
         bar.length = std::min(length, std::next(&stretch)->signature.step - bar.start);
     return bar;

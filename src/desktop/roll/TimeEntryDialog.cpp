@@ -139,10 +139,9 @@ double TimeEntryDialog::step() const
     const double start = time_.startOfBar(bar_->value());
     const Bar bar = time_.barAt(start);
     // What is not changed stays exactly where it is.
-    if (const double before = stepOf(before_);
-        std::abs(bar.beatAt(before) - beat_->value()) < kSamePlace)
-        return before;
-    return start + (beat_->value() - 1.0) * bar.signature.beatLength();
+    const double before = time_.barAt(stepOf(before_)).beatAt(stepOf(before_));
+    const double beat = std::abs(before - beat_->value()) < kSamePlace ? before : beat_->value();
+    return start + (beat - 1.0) * bar.signature.beatLength();
 }
 
 TimeEntry TimeEntryDialog::entry() const

@@ -123,8 +123,9 @@ void TimeLane::mouseMoveEvent(QMouseEvent* event)
     if (!selected_ || !event->buttons().testFlag(Qt::LeftButton) ||
         (!draggedTo_ && way.manhattanLength() < QApplication::startDragDistance()))
         return;
-    const double step = stepAt(yOf(stepOf(*selected_)) + way.y());
-    draggedTo_ = document().time().gridAt(step, visibleGrid(view().rollGeometry().keyHeight));
+    const int keyHeight = view().rollGeometry().keyHeight;
+    const double step = std::max(0.0, stepOf(*selected_) - way.y() / keyHeight);
+    draggedTo_ = document().time().gridAt(step, visibleGrid(keyHeight));
     update();
 }
 

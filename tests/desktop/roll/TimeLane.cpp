@@ -102,7 +102,7 @@ TEST_F(TimeLaneTest, AddsChangesMovesAndRemovesWhatItShows)
                 box->setValue(2);
         },
         [&] { QTest::keyClick(&lane, Qt::Key_Return); });
-    EXPECT_EQ(time.tempos(), std::vector{Tempo::ofBeats(24.0 + 8.0, 90.0)})
+    EXPECT_EQ(time.tempos(), std::vector{Tempo::ofBeats(24.0 + 20.0, 90.0)})
         << "the same place in the second bar";
     QTest::keyClick(&lane, Qt::Key_Down);
     QTest::keyClick(&lane, Qt::Key_Delete);
