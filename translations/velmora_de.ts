@@ -748,6 +748,13 @@ Ein Klick zieht es oder stößt es ab</translation>
     </message>
 </context>
 <context>
+    <name>velmora::FallingNotes</name>
+    <message>
+        <source>Falling notes</source>
+        <translation type="unfinished">Fallende Noten</translation>
+    </message>
+</context>
+<context>
     <name>velmora::FifthsEditor</name>
     <message>
         <source>%1–%2</source>
@@ -1594,6 +1601,201 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
         <translation type="unfinished">Tasten, die in einem SoundFont verstimmt sind, werden beim ersten Gebrauch eines Programms gemessen und korrigiert</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePanel</name>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Slow down after mistakes</source>
+        <translation type="unfinished">Nach Fehlern langsamer</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Repeat bars</source>
+        <translation type="unfinished">Takte wiederholen</translation>
+    </message>
+    <message>
+        <source>Show falling notes</source>
+        <translation type="unfinished">Fallende Noten zeigen</translation>
+    </message>
+    <message>
+        <source>Both hands</source>
+        <translation type="unfinished">Beide Hände</translation>
+    </message>
+    <message>
+        <source>Right hand</source>
+        <translation type="unfinished">Rechte Hand</translation>
+    </message>
+    <message>
+        <source>Left hand</source>
+        <translation type="unfinished">Linke Hand</translation>
+    </message>
+    <message>
+        <source>The lowest key of the right hand</source>
+        <translation type="unfinished">Die tiefste Taste der rechten Hand</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Stimmen</translation>
+    </message>
+    <message>
+        <source>The voices that you play; the others play along</source>
+        <translation type="unfinished">Die Stimmen, die Sie spielen; die anderen spielen mit</translation>
+    </message>
+    <message>
+        <source>What a pass without a mistake adds to the speed</source>
+        <translation type="unfinished">Um wie viel das Tempo nach einem fehlerfreien Durchgang steigt</translation>
+    </message>
+    <message>
+        <source>How early a key may be, and how long a chord may be rolled</source>
+        <translation type="unfinished">Wie früh eine Taste sein darf und wie lange ein Akkord gebrochen werden darf</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>bars</comment>
+        <translation type="unfinished">bis</translation>
+    </message>
+    <message>
+        <source>First bar</source>
+        <translation type="unfinished">Erster Takt</translation>
+    </message>
+    <message>
+        <source>Last bar</source>
+        <translation type="unfinished">Letzter Takt</translation>
+    </message>
+    <message>
+        <source>Play:</source>
+        <translation type="unfinished">Spielen:</translation>
+    </message>
+    <message>
+        <source>Split at:</source>
+        <translation type="unfinished">Trennen bei:</translation>
+    </message>
+    <message>
+        <source>Voices:</source>
+        <translation type="unfinished">Stimmen:</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation type="unfinished">Tempo:</translation>
+    </message>
+    <message>
+        <source>Faster by:</source>
+        <translation type="unfinished">Schneller um:</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation type="unfinished">Toleranz:</translation>
+    </message>
+    <message>
+        <source>Bars:</source>
+        <translation type="unfinished">Takte:</translation>
+    </message>
+    <message>
+        <source>There are no notes to practise. Choose other voices, another hand or other bars.</source>
+        <translation type="unfinished">Es gibt keine Noten zum Üben. Wählen Sie andere Stimmen, eine andere Hand oder andere Takte.</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Stimme %1</translation>
+    </message>
+    <message>
+        <source>Stop Practising</source>
+        <translation type="unfinished">Üben beenden</translation>
+    </message>
+    <message>
+        <source>Practise</source>
+        <translation type="unfinished">Üben</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, passes: %3</source>
+        <translation type="unfinished">Richtig: %1, falsch: %2, Durchgänge: %3</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePicture</name>
+    <message>
+        <source>Right and wrong keys (hatched) by bar</source>
+        <translation type="unfinished">Richtige und falsche (schraffierte) Tasten je Takt</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation type="unfinished">früh</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation type="unfinished">spät</translation>
+    </message>
+    <message>
+        <source>How early or late the keys were, in ms</source>
+        <translation type="unfinished">Wie früh oder spät die Tasten waren, in ms</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeResults</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Unbenannt</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>The result of the practice was not kept: %1</source>
+        <translation type="unfinished">Das Ergebnis des Übens wurde nicht behalten: %1</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation type="unfinished">Bild speichern</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Üben</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeWindow</name>
+    <message>
+        <source>Practice sessions</source>
+        <translation type="unfinished">Übungen</translation>
+    </message>
+    <message>
+        <source>Result by bar and by time</source>
+        <translation type="unfinished">Ergebnis nach Takt und Zeit</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation type="unfinished">&amp;Bild speichern …</translation>
+    </message>
+    <message>
+        <source>Practice: %1</source>
+        <translation type="unfinished">Üben: %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <comment>a time, a speed in percent</comment>
+        <translation type="unfinished">%1 mit %2 %</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
+        <translation type="unfinished">Richtige Tasten: %1 (%2 früh, %3 spät), falsche Tasten: %4. Durchgänge: %5, ohne Fehler: %6.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms early.</source>
+        <translation type="unfinished">Im Mittel waren die Tasten %1 ms zu früh.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms late.</source>
+        <translation type="unfinished">Im Mittel waren die Tasten %1 ms zu spät.</translation>
     </message>
 </context>
 <context>
@@ -2807,6 +3009,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
         <translation type="unfinished">Das Stück für ein Notensatzprogramm aufschreiben, mit den Namen, die die Stimmung den Noten gibt</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Üben</translation>
+    </message>
+    <message>
+        <source>Practise the piece, a hand or a voice of it</source>
+        <translation type="unfinished">Das Stück üben, eine Hand oder eine Stimme davon</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -3885,6 +4095,10 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Stimmstudio</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Üben</translation>
     </message>
 </context>
 <context>

@@ -748,6 +748,13 @@ Un clic lo saca o lo cierra</translation>
     </message>
 </context>
 <context>
+    <name>velmora::FallingNotes</name>
+    <message>
+        <source>Falling notes</source>
+        <translation type="unfinished">Notas que caen</translation>
+    </message>
+</context>
+<context>
     <name>velmora::FifthsEditor</name>
     <message>
         <source>%1–%2</source>
@@ -1594,6 +1601,201 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
         <translation type="unfinished">Las teclas desafinadas de una SoundFont se miden al usar un programa por primera vez y se corrigen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePanel</name>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Slow down after mistakes</source>
+        <translation type="unfinished">Más lento tras errores</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Repeat bars</source>
+        <translation type="unfinished">Repetir compases</translation>
+    </message>
+    <message>
+        <source>Show falling notes</source>
+        <translation type="unfinished">Mostrar las notas que caen</translation>
+    </message>
+    <message>
+        <source>Both hands</source>
+        <translation type="unfinished">Ambas manos</translation>
+    </message>
+    <message>
+        <source>Right hand</source>
+        <translation type="unfinished">Mano derecha</translation>
+    </message>
+    <message>
+        <source>Left hand</source>
+        <translation type="unfinished">Mano izquierda</translation>
+    </message>
+    <message>
+        <source>The lowest key of the right hand</source>
+        <translation type="unfinished">La tecla más grave de la mano derecha</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voces</translation>
+    </message>
+    <message>
+        <source>The voices that you play; the others play along</source>
+        <translation type="unfinished">Las voces que toca usted; las demás acompañan</translation>
+    </message>
+    <message>
+        <source>What a pass without a mistake adds to the speed</source>
+        <translation type="unfinished">Lo que una pasada sin errores añade a la velocidad</translation>
+    </message>
+    <message>
+        <source>How early a key may be, and how long a chord may be rolled</source>
+        <translation type="unfinished">Cuánto puede adelantarse una tecla y cuánto puede durar un acorde arpegiado</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>bars</comment>
+        <translation type="unfinished">a</translation>
+    </message>
+    <message>
+        <source>First bar</source>
+        <translation type="unfinished">Primer compás</translation>
+    </message>
+    <message>
+        <source>Last bar</source>
+        <translation type="unfinished">Último compás</translation>
+    </message>
+    <message>
+        <source>Play:</source>
+        <translation type="unfinished">Tocar:</translation>
+    </message>
+    <message>
+        <source>Split at:</source>
+        <translation type="unfinished">Dividir en:</translation>
+    </message>
+    <message>
+        <source>Voices:</source>
+        <translation type="unfinished">Voces:</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation type="unfinished">Velocidad:</translation>
+    </message>
+    <message>
+        <source>Faster by:</source>
+        <translation type="unfinished">Más rápido en:</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation type="unfinished">Tolerancia:</translation>
+    </message>
+    <message>
+        <source>Bars:</source>
+        <translation type="unfinished">Compases:</translation>
+    </message>
+    <message>
+        <source>There are no notes to practise. Choose other voices, another hand or other bars.</source>
+        <translation type="unfinished">No hay notas que practicar. Elija otras voces, otra mano u otros compases.</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voz %1</translation>
+    </message>
+    <message>
+        <source>Stop Practising</source>
+        <translation type="unfinished">Dejar de practicar</translation>
+    </message>
+    <message>
+        <source>Practise</source>
+        <translation type="unfinished">Practicar</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, passes: %3</source>
+        <translation type="unfinished">Correctas: %1, incorrectas: %2, pasadas: %3</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePicture</name>
+    <message>
+        <source>Right and wrong keys (hatched) by bar</source>
+        <translation type="unfinished">Teclas correctas e incorrectas (rayadas) por compás</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation type="unfinished">pronto</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation type="unfinished">tarde</translation>
+    </message>
+    <message>
+        <source>How early or late the keys were, in ms</source>
+        <translation type="unfinished">Cuánto se adelantaron o atrasaron las teclas, en ms</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeResults</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Sin título</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>The result of the practice was not kept: %1</source>
+        <translation type="unfinished">El resultado de la práctica no se guardó: %1</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation type="unfinished">Guardar imagen</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Práctica</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeWindow</name>
+    <message>
+        <source>Practice sessions</source>
+        <translation type="unfinished">Sesiones de práctica</translation>
+    </message>
+    <message>
+        <source>Result by bar and by time</source>
+        <translation type="unfinished">Resultado por compás y por tiempo</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation type="unfinished">Guardar &amp;imagen…</translation>
+    </message>
+    <message>
+        <source>Practice: %1</source>
+        <translation type="unfinished">Práctica: %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <comment>a time, a speed in percent</comment>
+        <translation type="unfinished">%1 al %2 %</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
+        <translation type="unfinished">Teclas correctas: %1 (%2 adelantadas, %3 atrasadas), incorrectas: %4. Pasadas: %5, sin errores: %6.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms early.</source>
+        <translation type="unfinished">De media, las teclas se adelantaron %1 ms.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms late.</source>
+        <translation type="unfinished">De media, las teclas se atrasaron %1 ms.</translation>
     </message>
 </context>
 <context>
@@ -2807,6 +3009,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
         <translation type="unfinished">Escribir la pieza para un programa de notación, con los nombres que la afinación da a las notas</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Práctica</translation>
+    </message>
+    <message>
+        <source>Practise the piece, a hand or a voice of it</source>
+        <translation type="unfinished">Practicar la pieza, una mano o una voz</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -3885,6 +4095,10 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Estudio de afinación</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Práctica</translation>
     </message>
 </context>
 <context>

@@ -748,6 +748,13 @@ Un clic le tire ou le repousse</translation>
     </message>
 </context>
 <context>
+    <name>velmora::FallingNotes</name>
+    <message>
+        <source>Falling notes</source>
+        <translation type="unfinished">Notes qui tombent</translation>
+    </message>
+</context>
+<context>
     <name>velmora::FifthsEditor</name>
     <message>
         <source>%1–%2</source>
@@ -1594,6 +1601,201 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
         <translation type="unfinished">Les touches désaccordées d’une SoundFont sont mesurées à la première utilisation d’un programme, puis corrigées</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePanel</name>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Slow down after mistakes</source>
+        <translation type="unfinished">Ralentir après des fautes</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Repeat bars</source>
+        <translation type="unfinished">Répéter des mesures</translation>
+    </message>
+    <message>
+        <source>Show falling notes</source>
+        <translation type="unfinished">Afficher les notes qui tombent</translation>
+    </message>
+    <message>
+        <source>Both hands</source>
+        <translation type="unfinished">Les deux mains</translation>
+    </message>
+    <message>
+        <source>Right hand</source>
+        <translation type="unfinished">Main droite</translation>
+    </message>
+    <message>
+        <source>Left hand</source>
+        <translation type="unfinished">Main gauche</translation>
+    </message>
+    <message>
+        <source>The lowest key of the right hand</source>
+        <translation type="unfinished">La touche la plus grave de la main droite</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voix</translation>
+    </message>
+    <message>
+        <source>The voices that you play; the others play along</source>
+        <translation type="unfinished">Les voix que vous jouez ; les autres vous accompagnent</translation>
+    </message>
+    <message>
+        <source>What a pass without a mistake adds to the speed</source>
+        <translation type="unfinished">Ce qu’un passage sans faute ajoute à la vitesse</translation>
+    </message>
+    <message>
+        <source>How early a key may be, and how long a chord may be rolled</source>
+        <translation type="unfinished">De combien une touche peut être en avance, et combien de temps un accord peut être arpégé</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>bars</comment>
+        <translation type="unfinished">à</translation>
+    </message>
+    <message>
+        <source>First bar</source>
+        <translation type="unfinished">Première mesure</translation>
+    </message>
+    <message>
+        <source>Last bar</source>
+        <translation type="unfinished">Dernière mesure</translation>
+    </message>
+    <message>
+        <source>Play:</source>
+        <translation type="unfinished">Jouer :</translation>
+    </message>
+    <message>
+        <source>Split at:</source>
+        <translation type="unfinished">Diviser à :</translation>
+    </message>
+    <message>
+        <source>Voices:</source>
+        <translation type="unfinished">Voix :</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation type="unfinished">Vitesse :</translation>
+    </message>
+    <message>
+        <source>Faster by:</source>
+        <translation type="unfinished">Plus rapide de :</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation type="unfinished">Tolérance :</translation>
+    </message>
+    <message>
+        <source>Bars:</source>
+        <translation type="unfinished">Mesures :</translation>
+    </message>
+    <message>
+        <source>There are no notes to practise. Choose other voices, another hand or other bars.</source>
+        <translation type="unfinished">Il n’y a pas de notes à exercer. Choisissez d’autres voix, une autre main ou d’autres mesures.</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voix %1</translation>
+    </message>
+    <message>
+        <source>Stop Practising</source>
+        <translation type="unfinished">Arrêter l’exercice</translation>
+    </message>
+    <message>
+        <source>Practise</source>
+        <translation type="unfinished">S’exercer</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, passes: %3</source>
+        <translation type="unfinished">Justes : %1, fausses : %2, passages : %3</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePicture</name>
+    <message>
+        <source>Right and wrong keys (hatched) by bar</source>
+        <translation type="unfinished">Touches justes et fausses (hachurées) par mesure</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation type="unfinished">en avance</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation type="unfinished">en retard</translation>
+    </message>
+    <message>
+        <source>How early or late the keys were, in ms</source>
+        <translation type="unfinished">Avance ou retard des touches, en ms</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeResults</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Sans titre</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>The result of the practice was not kept: %1</source>
+        <translation type="unfinished">Le résultat de l’exercice n’a pas été conservé : %1</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation type="unfinished">Enregistrer l’image</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Exercice</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeWindow</name>
+    <message>
+        <source>Practice sessions</source>
+        <translation type="unfinished">Séances d’exercice</translation>
+    </message>
+    <message>
+        <source>Result by bar and by time</source>
+        <translation type="unfinished">Résultat par mesure et par temps</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation type="unfinished">Enregistrer l’&amp;image…</translation>
+    </message>
+    <message>
+        <source>Practice: %1</source>
+        <translation type="unfinished">Exercice : %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <comment>a time, a speed in percent</comment>
+        <translation type="unfinished">%1 à %2 %</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
+        <translation type="unfinished">Touches justes : %1 (%2 en avance, %3 en retard), fausses : %4. Passages : %5, sans faute : %6.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms early.</source>
+        <translation type="unfinished">En moyenne, les touches étaient en avance de %1 ms.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms late.</source>
+        <translation type="unfinished">En moyenne, les touches étaient en retard de %1 ms.</translation>
     </message>
 </context>
 <context>
@@ -2807,6 +3009,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
         <translation type="unfinished">Écrire le morceau pour un logiciel de notation, avec les noms que l’accord donne aux notes</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Exercice</translation>
+    </message>
+    <message>
+        <source>Practise the piece, a hand or a voice of it</source>
+        <translation type="unfinished">S’exercer au morceau, à une main ou à une voix</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -3885,6 +4095,10 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Atelier d’accord</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Exercice</translation>
     </message>
 </context>
 <context>

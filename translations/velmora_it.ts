@@ -748,6 +748,13 @@ Un clic lo tira o lo respinge</translation>
     </message>
 </context>
 <context>
+    <name>velmora::FallingNotes</name>
+    <message>
+        <source>Falling notes</source>
+        <translation type="unfinished">Note che cadono</translation>
+    </message>
+</context>
+<context>
     <name>velmora::FifthsEditor</name>
     <message>
         <source>%1–%2</source>
@@ -1594,6 +1601,201 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
         <translation type="unfinished">I tasti stonati di una SoundFont vengono misurati al primo uso di un programma e corretti</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePanel</name>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Slow down after mistakes</source>
+        <translation type="unfinished">Rallenta dopo gli errori</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Repeat bars</source>
+        <translation type="unfinished">Ripeti battute</translation>
+    </message>
+    <message>
+        <source>Show falling notes</source>
+        <translation type="unfinished">Mostra le note che cadono</translation>
+    </message>
+    <message>
+        <source>Both hands</source>
+        <translation type="unfinished">Entrambe le mani</translation>
+    </message>
+    <message>
+        <source>Right hand</source>
+        <translation type="unfinished">Mano destra</translation>
+    </message>
+    <message>
+        <source>Left hand</source>
+        <translation type="unfinished">Mano sinistra</translation>
+    </message>
+    <message>
+        <source>The lowest key of the right hand</source>
+        <translation type="unfinished">Il tasto più grave della mano destra</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voci</translation>
+    </message>
+    <message>
+        <source>The voices that you play; the others play along</source>
+        <translation type="unfinished">Le voci che suoni; le altre accompagnano</translation>
+    </message>
+    <message>
+        <source>What a pass without a mistake adds to the speed</source>
+        <translation type="unfinished">Quanto un passaggio senza errori aggiunge alla velocità</translation>
+    </message>
+    <message>
+        <source>How early a key may be, and how long a chord may be rolled</source>
+        <translation type="unfinished">Di quanto un tasto può essere in anticipo e quanto può durare un accordo arpeggiato</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>bars</comment>
+        <translation type="unfinished">a</translation>
+    </message>
+    <message>
+        <source>First bar</source>
+        <translation type="unfinished">Prima battuta</translation>
+    </message>
+    <message>
+        <source>Last bar</source>
+        <translation type="unfinished">Ultima battuta</translation>
+    </message>
+    <message>
+        <source>Play:</source>
+        <translation type="unfinished">Suonare:</translation>
+    </message>
+    <message>
+        <source>Split at:</source>
+        <translation type="unfinished">Dividi a:</translation>
+    </message>
+    <message>
+        <source>Voices:</source>
+        <translation type="unfinished">Voci:</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation type="unfinished">Velocità:</translation>
+    </message>
+    <message>
+        <source>Faster by:</source>
+        <translation type="unfinished">Più veloce di:</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation type="unfinished">Tolleranza:</translation>
+    </message>
+    <message>
+        <source>Bars:</source>
+        <translation type="unfinished">Battute:</translation>
+    </message>
+    <message>
+        <source>There are no notes to practise. Choose other voices, another hand or other bars.</source>
+        <translation type="unfinished">Non ci sono note da esercitare. Scegli altre voci, un’altra mano o altre battute.</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voce %1</translation>
+    </message>
+    <message>
+        <source>Stop Practising</source>
+        <translation type="unfinished">Termina l’esercizio</translation>
+    </message>
+    <message>
+        <source>Practise</source>
+        <translation type="unfinished">Esercitati</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, passes: %3</source>
+        <translation type="unfinished">Giuste: %1, sbagliate: %2, passaggi: %3</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePicture</name>
+    <message>
+        <source>Right and wrong keys (hatched) by bar</source>
+        <translation type="unfinished">Tasti giusti e sbagliati (tratteggiati) per battuta</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation type="unfinished">in anticipo</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation type="unfinished">in ritardo</translation>
+    </message>
+    <message>
+        <source>How early or late the keys were, in ms</source>
+        <translation type="unfinished">Anticipo o ritardo dei tasti, in ms</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeResults</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Senza titolo</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>The result of the practice was not kept: %1</source>
+        <translation type="unfinished">Il risultato dell’esercizio non è stato conservato: %1</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation type="unfinished">Salva immagine</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Esercizio</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeWindow</name>
+    <message>
+        <source>Practice sessions</source>
+        <translation type="unfinished">Sessioni di esercizio</translation>
+    </message>
+    <message>
+        <source>Result by bar and by time</source>
+        <translation type="unfinished">Risultato per battuta e per tempo</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation type="unfinished">Salva &amp;immagine…</translation>
+    </message>
+    <message>
+        <source>Practice: %1</source>
+        <translation type="unfinished">Esercizio: %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <comment>a time, a speed in percent</comment>
+        <translation type="unfinished">%1 al %2 %</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
+        <translation type="unfinished">Tasti giusti: %1 (%2 in anticipo, %3 in ritardo), sbagliati: %4. Passaggi: %5, senza errori: %6.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms early.</source>
+        <translation type="unfinished">In media i tasti erano in anticipo di %1 ms.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms late.</source>
+        <translation type="unfinished">In media i tasti erano in ritardo di %1 ms.</translation>
     </message>
 </context>
 <context>
@@ -2807,6 +3009,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
         <translation type="unfinished">Scrivere il brano per un programma di notazione, con i nomi che l’accordatura dà alle note</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Esercizio</translation>
+    </message>
+    <message>
+        <source>Practise the piece, a hand or a voice of it</source>
+        <translation type="unfinished">Esercitarsi sul brano, su una mano o su una voce</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -3885,6 +4095,10 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Studio di accordatura</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Esercizio</translation>
     </message>
 </context>
 <context>

@@ -746,6 +746,13 @@ A click draws it or pushes it in</source>
     </message>
 </context>
 <context>
+    <name>velmora::FallingNotes</name>
+    <message>
+        <source>Falling notes</source>
+        <translation type="unfinished">落ちてくる音符</translation>
+    </message>
+</context>
+<context>
     <name>velmora::FifthsEditor</name>
     <message>
         <source>%1–%2</source>
@@ -1588,6 +1595,201 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
         <translation type="unfinished">SoundFont の中でずれている鍵は、プログラムを初めて使うときに測って補正します</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePanel</name>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Slow down after mistakes</source>
+        <translation type="unfinished">間違えたら遅くする</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Repeat bars</source>
+        <translation type="unfinished">小節を繰り返す</translation>
+    </message>
+    <message>
+        <source>Show falling notes</source>
+        <translation type="unfinished">落ちてくる音符を表示</translation>
+    </message>
+    <message>
+        <source>Both hands</source>
+        <translation type="unfinished">両手</translation>
+    </message>
+    <message>
+        <source>Right hand</source>
+        <translation type="unfinished">右手</translation>
+    </message>
+    <message>
+        <source>Left hand</source>
+        <translation type="unfinished">左手</translation>
+    </message>
+    <message>
+        <source>The lowest key of the right hand</source>
+        <translation type="unfinished">右手の一番低い鍵</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">発音数</translation>
+    </message>
+    <message>
+        <source>The voices that you play; the others play along</source>
+        <translation type="unfinished">自分が弾く声部。ほかの声部は伴奏します</translation>
+    </message>
+    <message>
+        <source>What a pass without a mistake adds to the speed</source>
+        <translation type="unfinished">間違いのない一回ごとに速度に加える量</translation>
+    </message>
+    <message>
+        <source>How early a key may be, and how long a chord may be rolled</source>
+        <translation type="unfinished">鍵をどれだけ早く弾いてよいか、和音をどれだけ長く分散してよいか</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>bars</comment>
+        <translation type="unfinished">～</translation>
+    </message>
+    <message>
+        <source>First bar</source>
+        <translation type="unfinished">最初の小節</translation>
+    </message>
+    <message>
+        <source>Last bar</source>
+        <translation type="unfinished">最後の小節</translation>
+    </message>
+    <message>
+        <source>Play:</source>
+        <translation type="unfinished">弾くパート:</translation>
+    </message>
+    <message>
+        <source>Split at:</source>
+        <translation type="unfinished">分割点:</translation>
+    </message>
+    <message>
+        <source>Voices:</source>
+        <translation type="unfinished">声部:</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation type="unfinished">速度:</translation>
+    </message>
+    <message>
+        <source>Faster by:</source>
+        <translation type="unfinished">加速:</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation type="unfinished">許容:</translation>
+    </message>
+    <message>
+        <source>Bars:</source>
+        <translation type="unfinished">小節:</translation>
+    </message>
+    <message>
+        <source>There are no notes to practise. Choose other voices, another hand or other bars.</source>
+        <translation type="unfinished">練習する音符がありません。ほかの声部、手、または小節を選んでください。</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">声部 %1</translation>
+    </message>
+    <message>
+        <source>Stop Practising</source>
+        <translation type="unfinished">練習をやめる</translation>
+    </message>
+    <message>
+        <source>Practise</source>
+        <translation type="unfinished">練習する</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, passes: %3</source>
+        <translation type="unfinished">正: %1、誤: %2、回数: %3</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePicture</name>
+    <message>
+        <source>Right and wrong keys (hatched) by bar</source>
+        <translation type="unfinished">小節ごとの正しい鍵と誤った鍵（斜線）</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation type="unfinished">早い</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation type="unfinished">遅い</translation>
+    </message>
+    <message>
+        <source>How early or late the keys were, in ms</source>
+        <translation type="unfinished">鍵の早さ・遅さ (ms)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeResults</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">無題</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>The result of the practice was not kept: %1</source>
+        <translation type="unfinished">練習の結果を保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation type="unfinished">画像を保存</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">練習</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeWindow</name>
+    <message>
+        <source>Practice sessions</source>
+        <translation type="unfinished">練習の記録</translation>
+    </message>
+    <message>
+        <source>Result by bar and by time</source>
+        <translation type="unfinished">小節ごと・時間ごとの結果</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation type="unfinished">画像を保存(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Practice: %1</source>
+        <translation type="unfinished">練習: %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <comment>a time, a speed in percent</comment>
+        <translation type="unfinished">%1（%2 %）</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
+        <translation type="unfinished">正しい鍵: %1（早い %2、遅い %3）、誤った鍵: %4。回数: %5、間違いなし: %6。</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms early.</source>
+        <translation type="unfinished">鍵は平均で %1 ms 早く弾かれました。</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms late.</source>
+        <translation type="unfinished">鍵は平均で %1 ms 遅く弾かれました。</translation>
     </message>
 </context>
 <context>
@@ -2780,6 +2982,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
         <translation type="unfinished">調律による音名のまま、記譜ソフト用に曲を書き出します</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">練習</translation>
+    </message>
+    <message>
+        <source>Practise the piece, a hand or a voice of it</source>
+        <translation type="unfinished">曲、片手、または一つの声部を練習する</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -3856,6 +4066,10 @@ Click to show all tunings</source>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">調律スタジオ</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">練習</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,9 @@ public:
 
     bool isRunning() const { return isRunning_; }
 
+    /// What the user plays.
+    const PracticePart& part() const { return options_.part; }
+
     /// Starts to play, from the start of the selected interval, or from the position if nothing is
     /// selected. Returns false if the part has no notes there, or if the transport records.
     bool start(const PracticeOptions& options);

@@ -6,8 +6,11 @@
 #include "desktop/console/DivisionChooser.h"
 #include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/keyboard/KeyboardView.h"
+#include "desktop/practice/FallingNotes.h"
+#include "desktop/practice/PracticePanel.h"
 #include "desktop/roll/SequenceActions.h"
 #include "desktop/roll/TransportBar.h"
+#include "desktop/shell/PracticeResults.h"
 #include "desktop/shell/ShellActions.h"
 #include "desktop/shell/StageView.h"
 #include "desktop/shell/StartPage.h"
@@ -17,6 +20,7 @@
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/LearnMenu.h"
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/windowPlace.h"
 #include "preferences/settings.h"
 
@@ -37,7 +41,7 @@ namespace velmora {
 namespace {
 
 /// Counts up when stored arrangements would no longer fit.
-constexpr int kLayoutVersion = 3;
+constexpr int kLayoutVersion = 4;
 constexpr const char* kLayoutKey = "layout";
 
 /// The first sizes of the panels in pixels.
@@ -63,8 +67,10 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
       keyboard_(new KeyboardView(application, application.player().liveKeys())),
       instrument_(new InstrumentPanel(application)), tuning_(new TuningPanel(application)),
       studio_(new TuningStudio(application)), console_(new ConsolePanel(application, console)),
-      status_(new StatusLine(application)), transport_(new TransportBar(actions, application)),
-      startPage_(new StartPage), tabs_(new QTabWidget), centre_(new QStackedWidget)
+      practice_(new PracticePanel), practiceResults_(new PracticeResults(*this)),
+      fallingNotes_(new FallingNotes(*keyboard_)), status_(new StatusLine(application)),
+      transport_(new TransportBar(actions, application)), startPage_(new StartPage),
+      tabs_(new QTabWidget), centre_(new QStackedWidget)
 {
     setWindowTitle(tr("Velmora"));
     setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the transport
@@ -86,15 +92,19 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     auto* keyboardColumn = new QVBoxLayout(keyboardPanel);
     keyboardColumn->setContentsMargins({});
     keyboardColumn->addWidget(new DivisionChooser(application));
+    keyboardColumn->addWidget(fallingNotes_, 1);
     keyboardColumn->addWidget(keyboard_, 1);
+    fallingNotes_->hide();
     keyboardDock_ = addPanel("keyboard", tr("Keyboard"), keyboardPanel, *shell.keyboard);
     instrumentDock_ = addPanel("instrument", tr("Instrument"), instrument_, *shell.instrument);
     tuningDock_ = addPanel("tuning", tr("Tuning"), tuning_, *shell.tuning);
     studioDock_ = addPanel("tuningStudio", tr("Tuning Studio"), studio_, *shell.tuningStudio);
+    practiceDock_ = addPanel("practice", tr("Practice"), newScrollArea(practice_), *shell.practice);
     consoleDock_ = addPanel("console", tr("Console"), console_, *shell.console);
     addHelpButton(*keyboardDock_, "playing");
     addHelpButton(*consoleDock_, "the-console");
     addHelpButton(*studioDock_, "the-tuning-studio");
+    addHelpButton(*practiceDock_, "practising");
     makeMenus(actions, console);
     makeTransport();
     for (const Commands::Command& command : commands.all())
@@ -173,6 +183,9 @@ void Workspace::connectCommands()
     connect(tuning_, &TuningPanel::shapeRequested, this, [this] { showPanel(*studioDock_); });
     connect(studio_, &TuningStudio::keysRated, keyboard_, &KeyboardView::setPurities);
     connect(console_, &ConsolePanel::neededChanged, this, &Workspace::showConsole);
+    connect(practice_, &PracticePanel::finished, this,
+            [this] { practiceResults_->add(*document_); });
+    connect(practice_, &PracticePanel::fallingNotesToggled, fallingNotes_, &QWidget::setVisible);
     connect(shell_.nextPanel, &QAction::triggered, this, [this] { movePanelFocus(1); });
     connect(shell_.previousPanel, &QAction::triggered, this, [this] { movePanelFocus(-1); });
 }
@@ -180,6 +193,9 @@ void Workspace::connectCommands()
 void Workspace::setDocument(SequenceDocument* document)
 {
     transport_->setDocument(document);
+    fallingNotes_->setDocument(document);
+    practice_->setDocument(document);
+    document_ = document;
 }
 
 void Workspace::setLayout(Layout layout)
@@ -226,7 +242,7 @@ void Workspace::restoreLayout()
 void Workspace::arrange()
 {
     for (QDockWidget* dock :
-         {keyboardDock_, instrumentDock_, tuningDock_, studioDock_, consoleDock_}) {
+         {keyboardDock_, instrumentDock_, tuningDock_, studioDock_, practiceDock_, consoleDock_}) {
         dock->setFloating(false);
         removeDockWidget(dock);
     }
@@ -234,12 +250,15 @@ void Workspace::arrange()
     addDockWidget(Qt::RightDockWidgetArea, tuningDock_);
     addDockWidget(Qt::RightDockWidgetArea, studioDock_);
     tabifyDockWidget(tuningDock_, studioDock_);
+    addDockWidget(Qt::RightDockWidgetArea, practiceDock_);
+    tabifyDockWidget(studioDock_, practiceDock_);
     addDockWidget(Qt::BottomDockWidgetArea, keyboardDock_);
     addDockWidget(Qt::TopDockWidgetArea, consoleDock_);
     keyboardDock_->show();
     instrumentDock_->setVisible(layout_ != Layout::Edit);
     tuningDock_->setVisible(layout_ != Layout::Edit);
     studioDock_->hide();
+    practiceDock_->hide();
     showConsole();
     constexpr std::array kHeights = {kKeyboardHeight, kEditKeyboardHeight, kStageKeyboardHeight};
     const double type = layout_ == Layout::Stage ? kStageType : 1.0;
@@ -313,7 +332,7 @@ void Workspace::movePanelFocus(int direction)
     if (QWidget* centre = centre_->currentWidget(); centre->isVisible())
         stops.push_back(centre);
     for (QDockWidget* dock :
-         {instrumentDock_, consoleDock_, keyboardDock_, tuningDock_, studioDock_})
+         {instrumentDock_, consoleDock_, keyboardDock_, tuningDock_, studioDock_, practiceDock_})
         if (dock->isVisible())
             stops.push_back(dock);
     const auto here = std::ranges::find_if(

@@ -15,8 +15,11 @@ class AppDelegate;
 class Commands;
 class ConsoleActions;
 class ConsolePanel;
+class FallingNotes;
 class InstrumentPanel;
 class KeyboardView;
+class PracticePanel;
+class PracticeResults;
 class SequenceActions;
 class SequenceDocument;
 class ShellActions;
@@ -97,12 +100,17 @@ private:
     TuningPanel* tuning_;
     TuningStudio* studio_;
     ConsolePanel* console_;
+    PracticePanel* practice_;
+    PracticeResults* practiceResults_;
+    FallingNotes* fallingNotes_;
+    SequenceDocument* document_ = nullptr;
     StatusLine* status_;
     TransportBar* transport_;
     StartPage* startPage_;
     QTabWidget* tabs_;
     QStackedWidget* centre_; ///< The start page, the tabs, or what is shown on stage.
-    QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_, *studioDock_, *consoleDock_;
+    QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_, *studioDock_, *consoleDock_,
+        *practiceDock_;
     bool wasShown_ = false;
 };
 
