@@ -15,7 +15,7 @@ namespace velmora {
 namespace {
 
 /// Times that should be equal may differ by this much.
-constexpr double kBarRounding = 1e-6;
+constexpr double kBeatRounding = 1e-6;
 
 double endOfLast(const std::vector<Note>& notes)
 {
@@ -78,7 +78,7 @@ void SequenceEditor::duplicate()
     if (!isWithin) {
         const double first = notes.front().start;
         const double beat = document_.time().barAt(first).signature.beatLength();
-        const double beats = std::ceil((endOfLast(notes) - first) / beat - kBarRounding);
+        const double beats = std::ceil((endOfLast(notes) - first) / beat - kBeatRounding);
         distance = std::max(beats, 1.0) * beat;
     }
     copyBy(0, distance);

@@ -140,7 +140,7 @@ TEST(PlayerVoices, EndWhenTheyAreMutedAndGoOnWithoutThem)
 
 TEST(PlayerVoices, PlayDrumsThatNoTemperamentTunes)
 {
-    constexpr Part kTom{9, 0, 47};
+    static constexpr Part kTom{9, 0, 47};
     const auto drum = [](const Temperament& temperament, bool hasVoices) {
         Ensemble ensemble(temperament);
         if (hasVoices)
