@@ -652,64 +652,64 @@ Ein Klick zieht es oder stößt es ab</translation>
         <translation type="unfinished">Bearbeiten</translation>
     </message>
     <message>
-        <source>Select &amp;by Voice or Velocity…</source>
-        <translation type="unfinished">Nach Stimme oder &amp;Anschlag auswählen…</translation>
+        <source>Select by Voice or Velocity…</source>
+        <translation type="unfinished">Nach Stimme oder Anschlag auswählen…</translation>
     </message>
     <message>
         <source>Select the notes of a voice, of some keys and velocities</source>
         <translation type="unfinished">Die Noten einer Stimme und bestimmter Tasten und Anschlagstärken auswählen</translation>
     </message>
     <message>
-        <source>Dup&amp;licate</source>
-        <translation type="unfinished">Ver&amp;doppeln</translation>
+        <source>Duplicate</source>
+        <translation type="unfinished">Verdoppeln</translation>
     </message>
     <message>
-        <source>&amp;Quantise…</source>
-        <translation type="unfinished">&amp;Quantisieren…</translation>
+        <source>Quantise…</source>
+        <translation type="unfinished">Quantisieren…</translation>
     </message>
     <message>
         <source>Move notes to the grid</source>
         <translation type="unfinished">Noten auf das Raster verschieben</translation>
     </message>
     <message>
-        <source>Split Notes at the Positi&amp;on</source>
-        <translation type="unfinished">Noten an der P&amp;osition teilen</translation>
+        <source>Split Notes at the Position</source>
+        <translation type="unfinished">Noten an der Position teilen</translation>
     </message>
     <message>
-        <source>&amp;Join Notes</source>
-        <translation type="unfinished">Noten &amp;verbinden</translation>
+        <source>Join Notes</source>
+        <translation type="unfinished">Noten verbinden</translation>
     </message>
     <message>
-        <source>Connect Notes (Le&amp;gato)</source>
-        <translation type="unfinished">Noten binden (Le&amp;gato)</translation>
+        <source>Connect Notes (Legato)</source>
+        <translation type="unfinished">Noten binden (Legato)</translation>
     </message>
     <message>
-        <source>Move Notes an &amp;Octave Up</source>
-        <translation type="unfinished">Noten eine &amp;Oktave höher</translation>
+        <source>Move Notes an Octave Up</source>
+        <translation type="unfinished">Noten eine Oktave höher</translation>
     </message>
     <message>
-        <source>Move Notes an O&amp;ctave Down</source>
-        <translation type="unfinished">Noten eine O&amp;ktave tiefer</translation>
+        <source>Move Notes an Octave Down</source>
+        <translation type="unfinished">Noten eine Oktave tiefer</translation>
     </message>
     <message>
-        <source>&amp;Nudge Notes Later</source>
-        <translation type="unfinished">Noten &amp;ein wenig später</translation>
+        <source>Nudge Notes Later</source>
+        <translation type="unfinished">Noten ein wenig später</translation>
     </message>
     <message>
-        <source>Nu&amp;dge Notes Earlier</source>
-        <translation type="unfinished">Noten ein &amp;wenig früher</translation>
+        <source>Nudge Notes Earlier</source>
+        <translation type="unfinished">Noten ein wenig früher</translation>
     </message>
     <message>
-        <source>Make Notes Lo&amp;uder</source>
-        <translation type="unfinished">Noten la&amp;uter</translation>
+        <source>Make Notes Louder</source>
+        <translation type="unfinished">Noten lauter</translation>
     </message>
     <message>
-        <source>Make Notes So&amp;fter</source>
-        <translation type="unfinished">Noten lei&amp;ser</translation>
+        <source>Make Notes Softer</source>
+        <translation type="unfinished">Noten leiser</translation>
     </message>
     <message>
-        <source>&amp;Hear Notes</source>
-        <translation type="unfinished">Noten &amp;hören</translation>
+        <source>Hear Notes</source>
+        <translation type="unfinished">Noten hören</translation>
     </message>
     <message>
         <source>Sound notes that are pressed or drawn</source>
@@ -2176,8 +2176,8 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">Ansicht</translation>
     </message>
     <message>
-        <source>&amp;Lane</source>
-        <translation type="unfinished">&amp;Spur</translation>
+        <source>Lane</source>
+        <translation type="unfinished">Spur</translation>
     </message>
 </context>
 <context>
@@ -2408,8 +2408,8 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">Noten und Zeiten an den Linien des Rasters ausrichten</translation>
     </message>
     <message>
-        <source>Undo &amp;History</source>
-        <translation type="unfinished">&amp;Verlauf der Bearbeitungen</translation>
+        <source>Undo History</source>
+        <translation type="unfinished">Verlauf der Bearbeitungen</translation>
     </message>
 </context>
 <context>

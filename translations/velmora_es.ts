@@ -652,64 +652,64 @@ Un clic lo saca o lo cierra</translation>
         <translation type="unfinished">Editar</translation>
     </message>
     <message>
-        <source>Select &amp;by Voice or Velocity…</source>
-        <translation type="unfinished">Seleccionar &amp;por voz o velocidad…</translation>
+        <source>Select by Voice or Velocity…</source>
+        <translation type="unfinished">Seleccionar por voz o velocidad…</translation>
     </message>
     <message>
         <source>Select the notes of a voice, of some keys and velocities</source>
         <translation type="unfinished">Seleccionar las notas de una voz y de ciertas teclas y velocidades</translation>
     </message>
     <message>
-        <source>Dup&amp;licate</source>
-        <translation type="unfinished">Dup&amp;licar</translation>
+        <source>Duplicate</source>
+        <translation type="unfinished">Duplicar</translation>
     </message>
     <message>
-        <source>&amp;Quantise…</source>
-        <translation type="unfinished">&amp;Cuantizar…</translation>
+        <source>Quantise…</source>
+        <translation type="unfinished">Cuantizar…</translation>
     </message>
     <message>
         <source>Move notes to the grid</source>
         <translation type="unfinished">Mover las notas a la cuadrícula</translation>
     </message>
     <message>
-        <source>Split Notes at the Positi&amp;on</source>
-        <translation type="unfinished">Dividir las notas en la p&amp;osición</translation>
+        <source>Split Notes at the Position</source>
+        <translation type="unfinished">Dividir las notas en la posición</translation>
     </message>
     <message>
-        <source>&amp;Join Notes</source>
-        <translation type="unfinished">&amp;Unir notas</translation>
+        <source>Join Notes</source>
+        <translation type="unfinished">Unir notas</translation>
     </message>
     <message>
-        <source>Connect Notes (Le&amp;gato)</source>
-        <translation type="unfinished">Ligar notas (le&amp;gato)</translation>
+        <source>Connect Notes (Legato)</source>
+        <translation type="unfinished">Ligar notas (legato)</translation>
     </message>
     <message>
-        <source>Move Notes an &amp;Octave Up</source>
-        <translation type="unfinished">Subir las notas una &amp;octava</translation>
+        <source>Move Notes an Octave Up</source>
+        <translation type="unfinished">Subir las notas una octava</translation>
     </message>
     <message>
-        <source>Move Notes an O&amp;ctave Down</source>
-        <translation type="unfinished">Bajar las notas una o&amp;ctava</translation>
+        <source>Move Notes an Octave Down</source>
+        <translation type="unfinished">Bajar las notas una octava</translation>
     </message>
     <message>
-        <source>&amp;Nudge Notes Later</source>
-        <translation type="unfinished">Retrasar u&amp;n poco las notas</translation>
+        <source>Nudge Notes Later</source>
+        <translation type="unfinished">Retrasar un poco las notas</translation>
     </message>
     <message>
-        <source>Nu&amp;dge Notes Earlier</source>
-        <translation type="unfinished">A&amp;delantar un poco las notas</translation>
+        <source>Nudge Notes Earlier</source>
+        <translation type="unfinished">Adelantar un poco las notas</translation>
     </message>
     <message>
-        <source>Make Notes Lo&amp;uder</source>
-        <translation type="unfinished">Notas más f&amp;uertes</translation>
+        <source>Make Notes Louder</source>
+        <translation type="unfinished">Notas más fuertes</translation>
     </message>
     <message>
-        <source>Make Notes So&amp;fter</source>
-        <translation type="unfinished">Notas más sua&amp;ves</translation>
+        <source>Make Notes Softer</source>
+        <translation type="unfinished">Notas más suaves</translation>
     </message>
     <message>
-        <source>&amp;Hear Notes</source>
-        <translation type="unfinished">&amp;Oír las notas</translation>
+        <source>Hear Notes</source>
+        <translation type="unfinished">Oír las notas</translation>
     </message>
     <message>
         <source>Sound notes that are pressed or drawn</source>
@@ -2176,8 +2176,8 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <translation type="unfinished">Ver</translation>
     </message>
     <message>
-        <source>&amp;Lane</source>
-        <translation type="unfinished">Ca&amp;rril</translation>
+        <source>Lane</source>
+        <translation type="unfinished">Carril</translation>
     </message>
 </context>
 <context>
@@ -2408,8 +2408,8 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <translation type="unfinished">Ajustar notas y tiempos a las líneas de la cuadrícula</translation>
     </message>
     <message>
-        <source>Undo &amp;History</source>
-        <translation type="unfinished">&amp;Historial de cambios</translation>
+        <source>Undo History</source>
+        <translation type="unfinished">Historial de cambios</translation>
     </message>
 </context>
 <context>

@@ -652,64 +652,64 @@ Un clic le tire ou le repousse</translation>
         <translation type="unfinished">Édition</translation>
     </message>
     <message>
-        <source>Select &amp;by Voice or Velocity…</source>
-        <translation type="unfinished">Sélectionner &amp;par voix ou vélocité…</translation>
+        <source>Select by Voice or Velocity…</source>
+        <translation type="unfinished">Sélectionner par voix ou vélocité…</translation>
     </message>
     <message>
         <source>Select the notes of a voice, of some keys and velocities</source>
         <translation type="unfinished">Sélectionner les notes d’une voix, de certaines touches et vélocités</translation>
     </message>
     <message>
-        <source>Dup&amp;licate</source>
-        <translation type="unfinished">Dup&amp;liquer</translation>
+        <source>Duplicate</source>
+        <translation type="unfinished">Dupliquer</translation>
     </message>
     <message>
-        <source>&amp;Quantise…</source>
-        <translation type="unfinished">&amp;Quantifier…</translation>
+        <source>Quantise…</source>
+        <translation type="unfinished">Quantifier…</translation>
     </message>
     <message>
         <source>Move notes to the grid</source>
         <translation type="unfinished">Déplacer les notes sur la grille</translation>
     </message>
     <message>
-        <source>Split Notes at the Positi&amp;on</source>
-        <translation type="unfinished">Couper les notes à la p&amp;osition</translation>
+        <source>Split Notes at the Position</source>
+        <translation type="unfinished">Couper les notes à la position</translation>
     </message>
     <message>
-        <source>&amp;Join Notes</source>
-        <translation type="unfinished">&amp;Joindre les notes</translation>
+        <source>Join Notes</source>
+        <translation type="unfinished">Joindre les notes</translation>
     </message>
     <message>
-        <source>Connect Notes (Le&amp;gato)</source>
-        <translation type="unfinished">Lier les notes (le&amp;gato)</translation>
+        <source>Connect Notes (Legato)</source>
+        <translation type="unfinished">Lier les notes (legato)</translation>
     </message>
     <message>
-        <source>Move Notes an &amp;Octave Up</source>
-        <translation type="unfinished">Monter les notes d’une &amp;octave</translation>
+        <source>Move Notes an Octave Up</source>
+        <translation type="unfinished">Monter les notes d’une octave</translation>
     </message>
     <message>
-        <source>Move Notes an O&amp;ctave Down</source>
-        <translation type="unfinished">Descendre les notes d’une o&amp;ctave</translation>
+        <source>Move Notes an Octave Down</source>
+        <translation type="unfinished">Descendre les notes d’une octave</translation>
     </message>
     <message>
-        <source>&amp;Nudge Notes Later</source>
-        <translation type="unfinished">Retarder u&amp;n peu les notes</translation>
+        <source>Nudge Notes Later</source>
+        <translation type="unfinished">Retarder un peu les notes</translation>
     </message>
     <message>
-        <source>Nu&amp;dge Notes Earlier</source>
-        <translation type="unfinished">Avancer un peu les note&amp;s</translation>
+        <source>Nudge Notes Earlier</source>
+        <translation type="unfinished">Avancer un peu les notes</translation>
     </message>
     <message>
-        <source>Make Notes Lo&amp;uder</source>
-        <translation type="unfinished">Notes pl&amp;us fortes</translation>
+        <source>Make Notes Louder</source>
+        <translation type="unfinished">Notes plus fortes</translation>
     </message>
     <message>
-        <source>Make Notes So&amp;fter</source>
-        <translation type="unfinished">Notes plus &amp;douces</translation>
+        <source>Make Notes Softer</source>
+        <translation type="unfinished">Notes plus douces</translation>
     </message>
     <message>
-        <source>&amp;Hear Notes</source>
-        <translation type="unfinished">&amp;Entendre les notes</translation>
+        <source>Hear Notes</source>
+        <translation type="unfinished">Entendre les notes</translation>
     </message>
     <message>
         <source>Sound notes that are pressed or drawn</source>
@@ -2176,8 +2176,8 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <translation type="unfinished">Affichage</translation>
     </message>
     <message>
-        <source>&amp;Lane</source>
-        <translation type="unfinished">&amp;Piste</translation>
+        <source>Lane</source>
+        <translation type="unfinished">Piste</translation>
     </message>
 </context>
 <context>
@@ -2408,8 +2408,8 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <translation type="unfinished">Aligner les notes et les temps sur les lignes de la grille</translation>
     </message>
     <message>
-        <source>Undo &amp;History</source>
-        <translation type="unfinished">&amp;Historique des modifications</translation>
+        <source>Undo History</source>
+        <translation type="unfinished">Historique des modifications</translation>
     </message>
 </context>
 <context>

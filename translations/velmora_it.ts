@@ -652,64 +652,64 @@ Un clic lo tira o lo respinge</translation>
         <translation type="unfinished">Modifica</translation>
     </message>
     <message>
-        <source>Select &amp;by Voice or Velocity…</source>
-        <translation type="unfinished">Seleziona &amp;per voce o velocity…</translation>
+        <source>Select by Voice or Velocity…</source>
+        <translation type="unfinished">Seleziona per voce o velocity…</translation>
     </message>
     <message>
         <source>Select the notes of a voice, of some keys and velocities</source>
         <translation type="unfinished">Seleziona le note di una voce e di certi tasti e velocity</translation>
     </message>
     <message>
-        <source>Dup&amp;licate</source>
-        <translation type="unfinished">Dup&amp;lica</translation>
+        <source>Duplicate</source>
+        <translation type="unfinished">Duplica</translation>
     </message>
     <message>
-        <source>&amp;Quantise…</source>
-        <translation type="unfinished">&amp;Quantizza…</translation>
+        <source>Quantise…</source>
+        <translation type="unfinished">Quantizza…</translation>
     </message>
     <message>
         <source>Move notes to the grid</source>
         <translation type="unfinished">Sposta le note sulla griglia</translation>
     </message>
     <message>
-        <source>Split Notes at the Positi&amp;on</source>
-        <translation type="unfinished">Dividi le note alla p&amp;osizione</translation>
+        <source>Split Notes at the Position</source>
+        <translation type="unfinished">Dividi le note alla posizione</translation>
     </message>
     <message>
-        <source>&amp;Join Notes</source>
-        <translation type="unfinished">&amp;Unisci note</translation>
+        <source>Join Notes</source>
+        <translation type="unfinished">Unisci note</translation>
     </message>
     <message>
-        <source>Connect Notes (Le&amp;gato)</source>
-        <translation type="unfinished">Lega note (le&amp;gato)</translation>
+        <source>Connect Notes (Legato)</source>
+        <translation type="unfinished">Lega note (legato)</translation>
     </message>
     <message>
-        <source>Move Notes an &amp;Octave Up</source>
-        <translation type="unfinished">Sposta le note un’&amp;ottava su</translation>
+        <source>Move Notes an Octave Up</source>
+        <translation type="unfinished">Sposta le note un’ottava su</translation>
     </message>
     <message>
-        <source>Move Notes an O&amp;ctave Down</source>
-        <translation type="unfinished">Sposta le note un’o&amp;ttava giù</translation>
+        <source>Move Notes an Octave Down</source>
+        <translation type="unfinished">Sposta le note un’ottava giù</translation>
     </message>
     <message>
-        <source>&amp;Nudge Notes Later</source>
-        <translation type="unfinished">Ritarda u&amp;n poco le note</translation>
+        <source>Nudge Notes Later</source>
+        <translation type="unfinished">Ritarda un poco le note</translation>
     </message>
     <message>
-        <source>Nu&amp;dge Notes Earlier</source>
-        <translation type="unfinished">Anticipa un poco le no&amp;te</translation>
+        <source>Nudge Notes Earlier</source>
+        <translation type="unfinished">Anticipa un poco le note</translation>
     </message>
     <message>
-        <source>Make Notes Lo&amp;uder</source>
-        <translation type="unfinished">Note più &amp;forti</translation>
+        <source>Make Notes Louder</source>
+        <translation type="unfinished">Note più forti</translation>
     </message>
     <message>
-        <source>Make Notes So&amp;fter</source>
-        <translation type="unfinished">Note più pi&amp;ano</translation>
+        <source>Make Notes Softer</source>
+        <translation type="unfinished">Note più piano</translation>
     </message>
     <message>
-        <source>&amp;Hear Notes</source>
-        <translation type="unfinished">A&amp;scolta le note</translation>
+        <source>Hear Notes</source>
+        <translation type="unfinished">Ascolta le note</translation>
     </message>
     <message>
         <source>Sound notes that are pressed or drawn</source>
@@ -2176,8 +2176,8 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <translation type="unfinished">Visualizza</translation>
     </message>
     <message>
-        <source>&amp;Lane</source>
-        <translation type="unfinished">&amp;Corsia</translation>
+        <source>Lane</source>
+        <translation type="unfinished">Corsia</translation>
     </message>
 </context>
 <context>
@@ -2408,8 +2408,8 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <translation type="unfinished">Allinea note e tempi alle linee della griglia</translation>
     </message>
     <message>
-        <source>Undo &amp;History</source>
-        <translation type="unfinished">&amp;Cronologia delle modifiche</translation>
+        <source>Undo History</source>
+        <translation type="unfinished">Cronologia delle modifiche</translation>
     </message>
 </context>
 <context>

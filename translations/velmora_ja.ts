@@ -650,64 +650,64 @@ A click draws it or pushes it in</source>
         <translation type="unfinished">編集</translation>
     </message>
     <message>
-        <source>Select &amp;by Voice or Velocity…</source>
-        <translation type="unfinished">声部またはベロシティで選択(&amp;B)…</translation>
+        <source>Select by Voice or Velocity…</source>
+        <translation type="unfinished">声部またはベロシティで選択…</translation>
     </message>
     <message>
         <source>Select the notes of a voice, of some keys and velocities</source>
         <translation type="unfinished">声部、鍵、ベロシティを指定して音符を選択します</translation>
     </message>
     <message>
-        <source>Dup&amp;licate</source>
-        <translation type="unfinished">複製(&amp;L)</translation>
+        <source>Duplicate</source>
+        <translation type="unfinished">複製</translation>
     </message>
     <message>
-        <source>&amp;Quantise…</source>
-        <translation type="unfinished">クオンタイズ(&amp;Q)…</translation>
+        <source>Quantise…</source>
+        <translation type="unfinished">クオンタイズ…</translation>
     </message>
     <message>
         <source>Move notes to the grid</source>
         <translation type="unfinished">音符をグリッドに合わせます</translation>
     </message>
     <message>
-        <source>Split Notes at the Positi&amp;on</source>
-        <translation type="unfinished">現在位置で音符を分割(&amp;O)</translation>
+        <source>Split Notes at the Position</source>
+        <translation type="unfinished">現在位置で音符を分割</translation>
     </message>
     <message>
-        <source>&amp;Join Notes</source>
-        <translation type="unfinished">音符を結合(&amp;J)</translation>
+        <source>Join Notes</source>
+        <translation type="unfinished">音符を結合</translation>
     </message>
     <message>
-        <source>Connect Notes (Le&amp;gato)</source>
-        <translation type="unfinished">音符をつなげる (レガート)(&amp;G)</translation>
+        <source>Connect Notes (Legato)</source>
+        <translation type="unfinished">音符をつなげる (レガート)</translation>
     </message>
     <message>
-        <source>Move Notes an &amp;Octave Up</source>
-        <translation type="unfinished">音符を 1 オクターブ上げる(&amp;O)</translation>
+        <source>Move Notes an Octave Up</source>
+        <translation type="unfinished">音符を 1 オクターブ上げる</translation>
     </message>
     <message>
-        <source>Move Notes an O&amp;ctave Down</source>
-        <translation type="unfinished">音符を 1 オクターブ下げる(&amp;C)</translation>
+        <source>Move Notes an Octave Down</source>
+        <translation type="unfinished">音符を 1 オクターブ下げる</translation>
     </message>
     <message>
-        <source>&amp;Nudge Notes Later</source>
-        <translation type="unfinished">音符を少し遅らせる(&amp;N)</translation>
+        <source>Nudge Notes Later</source>
+        <translation type="unfinished">音符を少し遅らせる</translation>
     </message>
     <message>
-        <source>Nu&amp;dge Notes Earlier</source>
-        <translation type="unfinished">音符を少し早める(&amp;D)</translation>
+        <source>Nudge Notes Earlier</source>
+        <translation type="unfinished">音符を少し早める</translation>
     </message>
     <message>
-        <source>Make Notes Lo&amp;uder</source>
-        <translation type="unfinished">音符を強くする(&amp;U)</translation>
+        <source>Make Notes Louder</source>
+        <translation type="unfinished">音符を強くする</translation>
     </message>
     <message>
-        <source>Make Notes So&amp;fter</source>
-        <translation type="unfinished">音符を弱くする(&amp;F)</translation>
+        <source>Make Notes Softer</source>
+        <translation type="unfinished">音符を弱くする</translation>
     </message>
     <message>
-        <source>&amp;Hear Notes</source>
-        <translation type="unfinished">音符を鳴らす(&amp;H)</translation>
+        <source>Hear Notes</source>
+        <translation type="unfinished">音符を鳴らす</translation>
     </message>
     <message>
         <source>Sound notes that are pressed or drawn</source>
@@ -2167,8 +2167,8 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <translation type="unfinished">表示</translation>
     </message>
     <message>
-        <source>&amp;Lane</source>
-        <translation type="unfinished">レーン(&amp;L)</translation>
+        <source>Lane</source>
+        <translation type="unfinished">レーン</translation>
     </message>
 </context>
 <context>
@@ -2399,8 +2399,8 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <translation type="unfinished">音符と時間をグリッドの線に揃えます</translation>
     </message>
     <message>
-        <source>Undo &amp;History</source>
-        <translation type="unfinished">取り消し履歴(&amp;H)</translation>
+        <source>Undo History</source>
+        <translation type="unfinished">取り消し履歴</translation>
     </message>
 </context>
 <context>

@@ -29,23 +29,22 @@ constexpr double kLouder = 8.0 / 127.0;
 EditingActions::EditingActions(Commands& commands, QMenu& selected)
     : commands_(commands),
       select_(commands.add("edit.select", tr("Edit"),
-                           {tr("Select &by Voice or Velocity…"),
+                           {tr("Select by Voice or Velocity…"),
                             tr("Select the notes of a voice, of some keys and velocities")},
                            {Qt::CTRL | Qt::SHIFT | Qt::Key_A})),
-      duplicate_(add("edit.duplicate", tr("Dup&licate"), Qt::CTRL | Qt::Key_D,
+      duplicate_(add("edit.duplicate", tr("Duplicate"), Qt::CTRL | Qt::Key_D,
                      [](SequenceEditor& editor) { editor.duplicate(); })),
       quantise_(commands.add("edit.quantise", tr("Edit"),
-                             {tr("&Quantise…"), tr("Move notes to the grid")},
+                             {tr("Quantise…"), tr("Move notes to the grid")},
                              {Qt::CTRL | Qt::Key_U})),
-      divide_(add("edit.split", tr("Split Notes at the Positi&on"),
-                  Qt::CTRL | Qt::SHIFT | Qt::Key_J,
+      divide_(add("edit.split", tr("Split Notes at the Position"), Qt::CTRL | Qt::SHIFT | Qt::Key_J,
                   [](SequenceEditor& editor) { editor.divide(); })),
-      join_(add("edit.join", tr("&Join Notes"), Qt::CTRL | Qt::Key_J,
+      join_(add("edit.join", tr("Join Notes"), Qt::CTRL | Qt::Key_J,
                 [](SequenceEditor& editor) { editor.join(); })),
-      connect_(add("edit.legato", tr("Connect Notes (Le&gato)"), Qt::CTRL | Qt::SHIFT | Qt::Key_L,
+      connect_(add("edit.legato", tr("Connect Notes (Legato)"), Qt::CTRL | Qt::SHIFT | Qt::Key_L,
                    [](SequenceEditor& editor) { editor.connect(); })),
       sound_(commands.add("edit.soundNotes", tr("Edit"),
-                          {tr("&Hear Notes"), tr("Sound notes that are pressed or drawn")}))
+                          {tr("Hear Notes"), tr("Sound notes that are pressed or drawn")}))
 {
     sound_->setCheckable(true);
     sound_->setChecked(getPrefBool("SoundNotes"));
@@ -59,18 +58,17 @@ EditingActions::EditingActions(Commands& commands, QMenu& selected)
 void EditingActions::addSelected(QMenu& menu)
 {
     menu.addActions(
-        {add("edit.octaveUp", tr("Move Notes an &Octave Up"), Qt::ALT | Qt::SHIFT | Qt::Key_Right,
+        {add("edit.octaveUp", tr("Move Notes an Octave Up"), Qt::ALT | Qt::SHIFT | Qt::Key_Right,
              [](SequenceEditor& editor) { editor.transpose(kOctave); }),
-         add("edit.octaveDown", tr("Move Notes an O&ctave Down"),
-             Qt::ALT | Qt::SHIFT | Qt::Key_Left,
+         add("edit.octaveDown", tr("Move Notes an Octave Down"), Qt::ALT | Qt::SHIFT | Qt::Key_Left,
              [](SequenceEditor& editor) { editor.transpose(-kOctave); }),
-         add("edit.nudgeLater", tr("&Nudge Notes Later"), Qt::ALT | Qt::Key_PageUp,
+         add("edit.nudgeLater", tr("Nudge Notes Later"), Qt::ALT | Qt::Key_PageUp,
              [](SequenceEditor& editor) { editor.nudge(kNudge); }),
-         add("edit.nudgeEarlier", tr("Nu&dge Notes Earlier"), Qt::ALT | Qt::Key_PageDown,
+         add("edit.nudgeEarlier", tr("Nudge Notes Earlier"), Qt::ALT | Qt::Key_PageDown,
              [](SequenceEditor& editor) { editor.nudge(-kNudge); }),
-         add("edit.louder", tr("Make Notes Lo&uder"), Qt::ALT | Qt::Key_Plus,
+         add("edit.louder", tr("Make Notes Louder"), Qt::ALT | Qt::Key_Plus,
              [](SequenceEditor& editor) { editor.changeVelocity(kLouder); }),
-         add("edit.softer", tr("Make Notes So&fter"), Qt::ALT | Qt::Key_Minus,
+         add("edit.softer", tr("Make Notes Softer"), Qt::ALT | Qt::Key_Minus,
              [](SequenceEditor& editor) { editor.changeVelocity(-kLouder); })});
     menu.addSeparator();
 }

@@ -35,7 +35,7 @@ void RollActions::setRoll(SequenceScrollView* roll)
 
 void RollActions::addTo(QMenu& view) const
 {
-    view.addMenu(tr("&Lane"))->addActions(lanes_->actions());
+    view.addMenu(tr("Lane"))->addActions(lanes_->actions());
 }
 
 } // namespace velmora

@@ -50,7 +50,7 @@ SequenceActions::SequenceActions(Commands& commands)
       undo_(pictured(undoStacks_.createUndoAction(this, tr("&Undo")), "undo")),
       redo_(pictured(undoStacks_.createRedoAction(this, tr("&Redo")), "redo")),
       history_(
-          add("edit.history", nullptr, tr("Undo &History"), {Qt::CTRL | Qt::SHIFT | Qt::Key_H})),
+          add("edit.history", nullptr, tr("Undo History"), {Qt::CTRL | Qt::SHIFT | Qt::Key_H})),
       cut_(add("edit.cut", "cut", tr("Cu&t"), QKeySequence::keyBindings(QKeySequence::Cut))),
       copy_(add("edit.copy", "copy", tr("&Copy"), QKeySequence::keyBindings(QKeySequence::Copy))),
       paste_(
