@@ -114,6 +114,7 @@ void PracticeSession::seek()
     lastPosition_ = transport_.position();
     beginPass();
     waitForChord(transport_.lastTick());
+    isUntimed_ = dueTime_ - transport_.lastTick() < options_.tolerance;
 }
 
 void PracticeSession::beginPass()
@@ -173,7 +174,7 @@ void PracticeSession::follow(double until)
 void PracticeSession::strike(const KeyEvent& event, double until)
 {
     const bool isWanted = chord_ < chords_.size() && chords_[chord_].missing[event.key];
-    const double delay = event.time - dueTime_;
+    const double delay = isUntimed_ ? 0.0 : event.time - dueTime_;
     if (!isWanted || delay < -options_.tolerance) {
         result_.wrong.push_back({transport_.position(), event.key});
         wrongKeys_.set(event.key);
@@ -188,6 +189,7 @@ void PracticeSession::strike(const KeyEvent& event, double until)
     if (chord.missing.any())
         return;
     const double complete = std::min(std::max(event.time, dueTime_), until);
+    isUntimed_ = false;
     ++chord_;
     if (chord_ == chords_.size())
         beginPass();

@@ -104,6 +104,7 @@ private:
     std::size_t chord_ = 0;   ///< The chord that is waited for.
     bool isNextPass_ = false; ///< True if that chord belongs to the next pass of the loop.
     double dueTime_ = 0.0;    ///< When that chord is due, in seconds.
+    bool isUntimed_ = false;  ///< True if that chord is due so soon that nobody can be in time.
     double lastPosition_ = 0.0;
     std::size_t mistakes_ = 0;     ///< Of this pass.
     std::uint64_t place_ = 0;      ///< Of the next key event.

@@ -138,6 +138,20 @@ TEST_F(PracticeSessionTest, JudgesKeysByTheirMoment)
     EXPECT_EQ(session_.result().wrong.size(), 1U);
 }
 
+TEST_F(PracticeSessionTest, BeginsWithTheFirstKey)
+{
+    addNote(72, 0.0, 1);
+    addNote(72, 16.0, 1);
+    start(ofMelody());
+    pass(3.0);
+    strike(72);
+    pass(1.05);
+    strike(72);
+    pass(1.0);
+    EXPECT_THAT(delays(), ElementsAre(0.0, testing::DoubleNear(50.0, 2.0)));
+    EXPECT_EQ(session_.result().cleanPasses, 1);
+}
+
 TEST_F(PracticeSessionTest, ChangesTheSpeedAfterEveryPass)
 {
     addNote(72, 4.0, 1);

@@ -234,7 +234,7 @@ void PracticePanel::showState()
         speed_->setValue(static_cast<int>(std::lround(document_->transport().speed() * 100)));
     }
     const PracticeResult& result = document_->practiceSession().result();
-    if (isRunning)
+    if (isRunning || !result.strokes.empty())
         state_->setText(tr("Right: %1, wrong: %2, passes: %3")
                             .arg(QLocale().toString(static_cast<int>(result.strokes.size())),
                                  QLocale().toString(static_cast<int>(result.wrong.size())),
