@@ -113,11 +113,26 @@ void renderScore(const std::filesystem::path& sequence, const std::filesystem::p
     select(selection, application);
     SequenceDocument document(application.player());
     readPiece(sequence, options, document);
-    writeScore(output, pieceOf(document, toUtf8(sequence.stem().string()),
-                               *application.tunings().fresh(), options.voices));
+    Piece piece = pieceOf(document, toUtf8(sequence.stem().string()),
+                          *application.tunings().fresh(), options.voices);
+    if (options.speed != 1.0 && (piece.tempos.empty() || piece.tempos.front().start > 0.0))
+        piece.tempos.insert(piece.tempos.begin(), Piece::Tempo{});
+    for (Piece::Tempo& tempo : piece.tempos)
+        tempo.quartersPerMinute *= options.speed;
+    writeScore(output, piece);
 }
 
 } // namespace
+
+double tempoOf(const std::filesystem::path& sequence, bool plain)
+{
+    Player player;
+    SequenceDocument document(player, plain ? Reading::Plain : Reading::Musical);
+    document.read(sequence);
+    if (!document.errorString().empty())
+        throw std::runtime_error(document.errorString());
+    return document.transport().time().tempoAt(0.0);
+}
 
 void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
             const Selection& selection, const RenderOptions& options)

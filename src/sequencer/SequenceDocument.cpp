@@ -10,6 +10,7 @@
 #include "sequencer/SourceFile.h"
 #include "sequencer/SwapCommand.h"
 #include "sequencer/UnsavedSequence.h"
+#include "sequencer/scoreFile.h"
 
 #include <algorithm>
 #include <new>
@@ -100,11 +101,14 @@ void SequenceDocument::read(const std::filesystem::path& path)
         else
             readMusically(path, sequence);
         *edit = std::move(sequence);
-        path_ = path;
+        if (!isReadableScore(path))
+            path_ = path;
     } catch (const FormatError& error) {
         errorString_ = error.inFile(name);
     } catch (const std::bad_alloc&) {
         errorString_ = name + ": too large to be read into memory";
+    } catch (const std::length_error& error) {
+        errorString_ = name + ": " + error.what();
     }
     if (!errorString_.empty())
         logger("sequencer").info("{}", errorString_);
@@ -124,14 +128,14 @@ void SequenceDocument::forgetFile()
 
 void SequenceDocument::readPlainly(const std::filesystem::path& path, Sequence& sequence)
 {
-    isImported_ = readSequence(readStandardMidiFile(readFile(path)), getPrefInt("KeyRangeLo"),
+    isImported_ = readSequence(readStandardMidiFile(midiBytesOf(path)), getPrefInt("KeyRangeLo"),
                                getPrefInt("KeyRangeHi"), sequence)
                       .isImported;
 }
 
 void SequenceDocument::readMusically(const std::filesystem::path& path, Sequence& sequence)
 {
-    source_ = std::make_shared<SourceFile>(readFile(path), sequence);
+    source_ = std::make_shared<SourceFile>(midiBytesOf(path), sequence);
     transport_.setTime(source_->time());
     takeVoices(source_->voices());
     if (const auto& damage = source_->damage()) {
