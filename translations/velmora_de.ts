@@ -4683,6 +4683,42 @@ Ein Klick zeigt alle Stimmungen</translation>
         <source>%1, line %2, column %3: %4</source>
         <translation type="unfinished">%1, Zeile %2, Spalte %3: %4</translation>
     </message>
+    <message>
+        <source>the XML is damaged: %1</source>
+        <translation type="unfinished">das XML ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and only a part of it could be read. To keep what may still be in it, save the piece under another name.</source>
+        <translation type="unfinished">Die Datei ist beschädigt, und nur ein Teil von ihr konnte gelesen werden. Damit erhalten bleibt, was noch in ihr stehen mag, speichern Sie das Stück unter einem anderen Namen.</translation>
+    </message>
+    <message>
+        <source>is not a MusicXML score</source>
+        <translation type="unfinished">ist keine MusicXML-Partitur</translation>
+    </message>
+    <message>
+        <source>is an archive, but not of a score</source>
+        <translation type="unfinished">ist ein Archiv, aber nicht das einer Partitur</translation>
+    </message>
+    <message>
+        <source>the score &quot;%1&quot; is missing from the archive</source>
+        <translation type="unfinished">die Partitur „%1“ fehlt im Archiv</translation>
+    </message>
+    <message>
+        <source>the score has no parts</source>
+        <translation type="unfinished">die Partitur hat keine Stimmen</translation>
+    </message>
+    <message>
+        <source>the score has too many parts</source>
+        <translation type="unfinished">die Partitur hat zu viele Stimmen</translation>
+    </message>
+    <message>
+        <source>measure %1 is too long</source>
+        <translation type="unfinished">Takt %1 ist zu lang</translation>
+    </message>
+    <message>
+        <source>the music is too long</source>
+        <translation type="unfinished">die Musik ist zu lang</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

@@ -4683,6 +4683,42 @@ Haga clic para ver todas las afinaciones</translation>
         <source>%1, line %2, column %3: %4</source>
         <translation type="unfinished">%1, línea %2, columna %3: %4</translation>
     </message>
+    <message>
+        <source>the XML is damaged: %1</source>
+        <translation type="unfinished">el XML está dañado: %1</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and only a part of it could be read. To keep what may still be in it, save the piece under another name.</source>
+        <translation type="unfinished">El archivo está dañado y solo se pudo leer una parte. Para conservar lo que aún pueda contener, guarde la pieza con otro nombre.</translation>
+    </message>
+    <message>
+        <source>is not a MusicXML score</source>
+        <translation type="unfinished">no es una partitura MusicXML</translation>
+    </message>
+    <message>
+        <source>is an archive, but not of a score</source>
+        <translation type="unfinished">es un archivo comprimido, pero no de una partitura</translation>
+    </message>
+    <message>
+        <source>the score &quot;%1&quot; is missing from the archive</source>
+        <translation type="unfinished">falta la partitura «%1» en el archivo comprimido</translation>
+    </message>
+    <message>
+        <source>the score has no parts</source>
+        <translation type="unfinished">la partitura no tiene partes</translation>
+    </message>
+    <message>
+        <source>the score has too many parts</source>
+        <translation type="unfinished">la partitura tiene demasiadas partes</translation>
+    </message>
+    <message>
+        <source>measure %1 is too long</source>
+        <translation type="unfinished">el compás %1 es demasiado largo</translation>
+    </message>
+    <message>
+        <source>the music is too long</source>
+        <translation type="unfinished">la música es demasiado larga</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

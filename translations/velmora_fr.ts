@@ -4683,6 +4683,42 @@ Cliquez pour afficher tous les tempéraments</translation>
         <source>%1, line %2, column %3: %4</source>
         <translation type="unfinished">%1, ligne %2, colonne %3 : %4</translation>
     </message>
+    <message>
+        <source>the XML is damaged: %1</source>
+        <translation type="unfinished">le XML est endommagé : %1</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and only a part of it could be read. To keep what may still be in it, save the piece under another name.</source>
+        <translation type="unfinished">Le fichier est endommagé et n&apos;a pu être lu qu&apos;en partie. Pour garder ce qu&apos;il contient peut-être encore, enregistrez le morceau sous un autre nom.</translation>
+    </message>
+    <message>
+        <source>is not a MusicXML score</source>
+        <translation type="unfinished">n&apos;est pas une partition MusicXML</translation>
+    </message>
+    <message>
+        <source>is an archive, but not of a score</source>
+        <translation type="unfinished">est une archive, mais pas celle d&apos;une partition</translation>
+    </message>
+    <message>
+        <source>the score &quot;%1&quot; is missing from the archive</source>
+        <translation type="unfinished">la partition « %1 » manque dans l&apos;archive</translation>
+    </message>
+    <message>
+        <source>the score has no parts</source>
+        <translation type="unfinished">la partition n&apos;a pas de parties</translation>
+    </message>
+    <message>
+        <source>the score has too many parts</source>
+        <translation type="unfinished">la partition a trop de parties</translation>
+    </message>
+    <message>
+        <source>measure %1 is too long</source>
+        <translation type="unfinished">la mesure %1 est trop longue</translation>
+    </message>
+    <message>
+        <source>the music is too long</source>
+        <translation type="unfinished">la musique est trop longue</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

@@ -4683,6 +4683,42 @@ Fai clic per mostrare tutti i temperamenti</translation>
         <source>%1, line %2, column %3: %4</source>
         <translation type="unfinished">%1, riga %2, colonna %3: %4</translation>
     </message>
+    <message>
+        <source>the XML is damaged: %1</source>
+        <translation type="unfinished">l&apos;XML è danneggiato: %1</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and only a part of it could be read. To keep what may still be in it, save the piece under another name.</source>
+        <translation type="unfinished">Il file è danneggiato e se ne è potuta leggere solo una parte. Per conservare ciò che può ancora contenere, salvare il brano con un altro nome.</translation>
+    </message>
+    <message>
+        <source>is not a MusicXML score</source>
+        <translation type="unfinished">non è una partitura MusicXML</translation>
+    </message>
+    <message>
+        <source>is an archive, but not of a score</source>
+        <translation type="unfinished">è un archivio, ma non di una partitura</translation>
+    </message>
+    <message>
+        <source>the score &quot;%1&quot; is missing from the archive</source>
+        <translation type="unfinished">la partitura &quot;%1&quot; manca nell&apos;archivio</translation>
+    </message>
+    <message>
+        <source>the score has no parts</source>
+        <translation type="unfinished">la partitura non ha parti</translation>
+    </message>
+    <message>
+        <source>the score has too many parts</source>
+        <translation type="unfinished">la partitura ha troppe parti</translation>
+    </message>
+    <message>
+        <source>measure %1 is too long</source>
+        <translation type="unfinished">la battuta %1 è troppo lunga</translation>
+    </message>
+    <message>
+        <source>the music is too long</source>
+        <translation type="unfinished">la musica è troppo lunga</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

@@ -4654,6 +4654,42 @@ Click to show all tunings</source>
         <source>%1, line %2, column %3: %4</source>
         <translation type="unfinished">%1、%2 行 %3 桁: %4</translation>
     </message>
+    <message>
+        <source>the XML is damaged: %1</source>
+        <translation type="unfinished">XML が壊れています: %1</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and only a part of it could be read. To keep what may still be in it, save the piece under another name.</source>
+        <translation type="unfinished">ファイルが壊れており、一部しか読み込めませんでした。残りの内容を失わないように、曲を別の名前で保存してください。</translation>
+    </message>
+    <message>
+        <source>is not a MusicXML score</source>
+        <translation type="unfinished">MusicXML の楽譜ではありません</translation>
+    </message>
+    <message>
+        <source>is an archive, but not of a score</source>
+        <translation type="unfinished">楽譜のアーカイブではありません</translation>
+    </message>
+    <message>
+        <source>the score &quot;%1&quot; is missing from the archive</source>
+        <translation type="unfinished">楽譜「%1」がアーカイブにありません</translation>
+    </message>
+    <message>
+        <source>the score has no parts</source>
+        <translation type="unfinished">楽譜にパートがありません</translation>
+    </message>
+    <message>
+        <source>the score has too many parts</source>
+        <translation type="unfinished">楽譜のパートが多すぎます</translation>
+    </message>
+    <message>
+        <source>measure %1 is too long</source>
+        <translation type="unfinished">小節 %1 が長すぎます</translation>
+    </message>
+    <message>
+        <source>the music is too long</source>
+        <translation type="unfinished">曲が長すぎます</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

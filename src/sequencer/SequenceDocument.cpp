@@ -151,9 +151,12 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
     errorString_.clear();
     if (operation != SaveOperation::SaveAs && isImported_) {
         // See docs/decisions.md, 87.
-        errorString_ = "The source file contains unprocessed MIDI information which cannot be "
-                       "overwriten (multichannel, meta events,…). Use the 'Save As…' option "
-                       "instead.";
+        errorString_ = reading() == Reading::Plain
+                           ? "The source file contains unprocessed MIDI information which cannot "
+                             "be overwriten (multichannel, meta events,…). Use the 'Save As…' "
+                             "option instead."
+                           : "The file is damaged, and only a part of it could be read. To keep "
+                             "what may still be in it, save the piece under another name.";
         return false;
     }
     try {

@@ -252,6 +252,7 @@ TEST_F(MusicalSaving, ReadsADamagedFileAsFarAsItGoes)
         EXPECT_THAT(musical_.damage(), testing::StartsWith("a.mid, byte "));
         EXPECT_EQ(musical_.sequence().notes().size(), notes) << "keys beyond the keyboard as well";
         EXPECT_FALSE(musical_.save(path_, SequenceFormat::MidiFile, kSave)) << "keeps what is left";
+        EXPECT_THAT(musical_.errorString(), testing::EndsWith("under another name."));
     }
     open(whole);
     EXPECT_EQ(musical_.damage(), "");
