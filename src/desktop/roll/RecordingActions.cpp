@@ -92,6 +92,7 @@ void RecordingActions::addVolume()
         emit volumeChanged(static_cast<float>(percent) / 100.0F);
     });
     auto* action = new QWidgetAction(metronomeMenu_.get());
+    action->setText(tr("Volume of the metronome"));
     action->setDefaultWidget(row); // takes ownership
     metronomeMenu_->addAction(action);
 }
