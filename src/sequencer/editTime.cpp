@@ -25,7 +25,7 @@ std::string dataOf(const TimeSignature& signature)
     // A click of the metronome is so many of the 24 clocks of a quarter note, which has 8 notes of
     // 1/32.
     const double clocks = signature.beatLength() / kStepsPerBeat * 24.0;
-    const int exponent = std::bit_width(static_cast<unsigned>(signature.unit)) - 1;
+    const int exponent = std::countr_zero(static_cast<unsigned>(signature.unit));
     std::string data;
     for (const int byte : {signature.count, exponent, static_cast<int>(clocks), 8})
         data += static_cast<char>(byte);
@@ -45,8 +45,9 @@ std::string dataOf(const Marker& marker)
 /// Returns whether a list in order of time holds an entry.
 template <class Entry> bool holds(const std::vector<Entry>& list, const Entry& entry)
 {
-    const auto sameStep = std::ranges::equal_range(list, entry.step, {}, &Entry::step);
-    return std::ranges::find(sameStep, entry) != sameStep.end();
+    const auto first = std::ranges::lower_bound(list, entry.step, {}, &Entry::step);
+    const auto last = std::ranges::upper_bound(list, entry.step, {}, &Entry::step);
+    return std::find(first, last, entry) != last;
 }
 
 /// Returns the first track with a meta event of a type, or the first of all.
