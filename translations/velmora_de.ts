@@ -3017,6 +3017,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Practise the piece, a hand or a voice of it</source>
         <translation type="unfinished">Das Stück üben, eine Hand oder eine Stimme davon</translation>
     </message>
+    <message>
+        <source>Show who plays the piece</source>
+        <translation type="unfinished">Zeigt, wer das Stück spielt</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Stimmen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -4039,6 +4047,119 @@ Ein Klick zeigt alle Stimmungen</translation>
     </message>
 </context>
 <context>
+    <name>velmora::VoiceRow</name>
+    <message>
+        <source>Record and draw on this voice; double-click to select its notes</source>
+        <translation type="unfinished">Auf dieser Stimme aufnehmen und zeichnen; ein Doppelklick wählt ihre Noten aus</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>mute</comment>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">Stumm</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>solo</comment>
+        <translation type="unfinished">S</translation>
+    </message>
+    <message>
+        <source>Solo: only such voices sound</source>
+        <translation type="unfinished">Solo: nur solche Stimmen klingen</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <comment>lock</comment>
+        <translation type="unfinished">G</translation>
+    </message>
+    <message>
+        <source>Lock: protect its notes from edits</source>
+        <translation type="unfinished">Gesperrt: schützt die Noten vor Änderungen</translation>
+    </message>
+    <message>
+        <source>Drum kit %1</source>
+        <translation type="unfinished">Schlagzeug %1</translation>
+    </message>
+    <message>
+        <source>Program %1 of bank %2</source>
+        <translation type="unfinished">Programm %1 von Bank %2</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Stimme %1</translation>
+    </message>
+    <message>
+        <source>Record and draw on %1</source>
+        <translation type="unfinished">Auf %1 aufnehmen und zeichnen</translation>
+    </message>
+    <message>
+        <source>Name of voice %1</source>
+        <translation type="unfinished">Name der Stimme %1</translation>
+    </message>
+    <message>
+        <source>Program of %1</source>
+        <translation type="unfinished">Programm von %1</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Lautstärke von %1</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation type="unfinished">%1 stumm schalten</translation>
+    </message>
+    <message>
+        <source>Solo %1</source>
+        <translation type="unfinished">%1 solo</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation type="unfinished">%1 sperren</translation>
+    </message>
+    <message>
+        <source>What the voice plays</source>
+        <translation type="unfinished">Was die Stimme spielt</translation>
+    </message>
+    <message>
+        <source>This instrument plays every voice alike</source>
+        <translation type="unfinished">Dieses Instrument spielt alle Stimmen gleich</translation>
+    </message>
+    <message>
+        <source>How loud the voice is, from 0 to 127</source>
+        <translation type="unfinished">Wie laut die Stimme ist, von 0 bis 127</translation>
+    </message>
+    <message>
+        <source>Like the instrument</source>
+        <translation type="unfinished">Wie das Instrument</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoicesPanel</name>
+    <message>
+        <source>Otherwise the instrument plays every voice alike</source>
+        <translation type="unfinished">Sonst spielt das Instrument alle Stimmen gleich</translation>
+    </message>
+    <message>
+        <source>Rename Voice</source>
+        <translation type="unfinished">Stimme umbenennen</translation>
+    </message>
+    <message>
+        <source>Change Program of Voice</source>
+        <translation type="unfinished">Programm der Stimme ändern</translation>
+    </message>
+    <message>
+        <source>Change Volume of Voice</source>
+        <translation type="unfinished">Lautstärke der Stimme ändern</translation>
+    </message>
+    <message>
+        <source>Every voice has its own sound</source>
+        <translation type="unfinished">Jede Stimme hat ihren eigenen Klang</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
@@ -4099,6 +4220,10 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>Practice</source>
         <translation type="unfinished">Üben</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Stimmen</translation>
     </message>
 </context>
 <context>

@@ -3017,6 +3017,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Practise the piece, a hand or a voice of it</source>
         <translation type="unfinished">Practicar la pieza, una mano o una voz</translation>
     </message>
+    <message>
+        <source>Show who plays the piece</source>
+        <translation type="unfinished">Muestra quién toca la pieza</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voces</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -4039,6 +4047,119 @@ Haga clic para ver todas las afinaciones</translation>
     </message>
 </context>
 <context>
+    <name>velmora::VoiceRow</name>
+    <message>
+        <source>Record and draw on this voice; double-click to select its notes</source>
+        <translation type="unfinished">Graba y dibuja en esta voz; un doble clic selecciona sus notas</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>mute</comment>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">Silenciar</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>solo</comment>
+        <translation type="unfinished">S</translation>
+    </message>
+    <message>
+        <source>Solo: only such voices sound</source>
+        <translation type="unfinished">Solo: solo suenan estas voces</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <comment>lock</comment>
+        <translation type="unfinished">B</translation>
+    </message>
+    <message>
+        <source>Lock: protect its notes from edits</source>
+        <translation type="unfinished">Bloquear: protege sus notas de los cambios</translation>
+    </message>
+    <message>
+        <source>Drum kit %1</source>
+        <translation type="unfinished">Batería %1</translation>
+    </message>
+    <message>
+        <source>Program %1 of bank %2</source>
+        <translation type="unfinished">Programa %1 del banco %2</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voz %1</translation>
+    </message>
+    <message>
+        <source>Record and draw on %1</source>
+        <translation type="unfinished">Grabar y dibujar en %1</translation>
+    </message>
+    <message>
+        <source>Name of voice %1</source>
+        <translation type="unfinished">Nombre de la voz %1</translation>
+    </message>
+    <message>
+        <source>Program of %1</source>
+        <translation type="unfinished">Programa de %1</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Volumen de %1</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation type="unfinished">Silenciar %1</translation>
+    </message>
+    <message>
+        <source>Solo %1</source>
+        <translation type="unfinished">Solo de %1</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation type="unfinished">Bloquear %1</translation>
+    </message>
+    <message>
+        <source>What the voice plays</source>
+        <translation type="unfinished">Lo que toca la voz</translation>
+    </message>
+    <message>
+        <source>This instrument plays every voice alike</source>
+        <translation type="unfinished">Este instrumento toca todas las voces igual</translation>
+    </message>
+    <message>
+        <source>How loud the voice is, from 0 to 127</source>
+        <translation type="unfinished">La fuerza de la voz, de 0 a 127</translation>
+    </message>
+    <message>
+        <source>Like the instrument</source>
+        <translation type="unfinished">Como el instrumento</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoicesPanel</name>
+    <message>
+        <source>Otherwise the instrument plays every voice alike</source>
+        <translation type="unfinished">Si no, el instrumento toca todas las voces igual</translation>
+    </message>
+    <message>
+        <source>Rename Voice</source>
+        <translation type="unfinished">Cambiar el nombre de la voz</translation>
+    </message>
+    <message>
+        <source>Change Program of Voice</source>
+        <translation type="unfinished">Cambiar el programa de la voz</translation>
+    </message>
+    <message>
+        <source>Change Volume of Voice</source>
+        <translation type="unfinished">Cambiar el volumen de la voz</translation>
+    </message>
+    <message>
+        <source>Every voice has its own sound</source>
+        <translation type="unfinished">Cada voz tiene su propio sonido</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
@@ -4099,6 +4220,10 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>Practice</source>
         <translation type="unfinished">Práctica</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voces</translation>
     </message>
 </context>
 <context>

@@ -3017,6 +3017,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Practise the piece, a hand or a voice of it</source>
         <translation type="unfinished">S’exercer au morceau, à une main ou à une voix</translation>
     </message>
+    <message>
+        <source>Show who plays the piece</source>
+        <translation type="unfinished">Montre qui joue la pièce</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voix</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -4039,6 +4047,119 @@ Cliquez pour afficher tous les tempéraments</translation>
     </message>
 </context>
 <context>
+    <name>velmora::VoiceRow</name>
+    <message>
+        <source>Record and draw on this voice; double-click to select its notes</source>
+        <translation type="unfinished">Enregistre et dessine sur cette voix ; un double-clic sélectionne ses notes</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>mute</comment>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">Muet</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>solo</comment>
+        <translation type="unfinished">S</translation>
+    </message>
+    <message>
+        <source>Solo: only such voices sound</source>
+        <translation type="unfinished">Solo : seules ces voix sonnent</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <comment>lock</comment>
+        <translation type="unfinished">V</translation>
+    </message>
+    <message>
+        <source>Lock: protect its notes from edits</source>
+        <translation type="unfinished">Verrouiller : protège ses notes des modifications</translation>
+    </message>
+    <message>
+        <source>Drum kit %1</source>
+        <translation type="unfinished">Batterie %1</translation>
+    </message>
+    <message>
+        <source>Program %1 of bank %2</source>
+        <translation type="unfinished">Programme %1 de la banque %2</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voix %1</translation>
+    </message>
+    <message>
+        <source>Record and draw on %1</source>
+        <translation type="unfinished">Enregistrer et dessiner sur %1</translation>
+    </message>
+    <message>
+        <source>Name of voice %1</source>
+        <translation type="unfinished">Nom de la voix %1</translation>
+    </message>
+    <message>
+        <source>Program of %1</source>
+        <translation type="unfinished">Programme de %1</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Volume de %1</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation type="unfinished">Rendre %1 muette</translation>
+    </message>
+    <message>
+        <source>Solo %1</source>
+        <translation type="unfinished">%1 en solo</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation type="unfinished">Verrouiller %1</translation>
+    </message>
+    <message>
+        <source>What the voice plays</source>
+        <translation type="unfinished">Ce que joue la voix</translation>
+    </message>
+    <message>
+        <source>This instrument plays every voice alike</source>
+        <translation type="unfinished">Cet instrument joue toutes les voix de la même façon</translation>
+    </message>
+    <message>
+        <source>How loud the voice is, from 0 to 127</source>
+        <translation type="unfinished">Le niveau de la voix, de 0 à 127</translation>
+    </message>
+    <message>
+        <source>Like the instrument</source>
+        <translation type="unfinished">Comme l’instrument</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoicesPanel</name>
+    <message>
+        <source>Otherwise the instrument plays every voice alike</source>
+        <translation type="unfinished">Sinon, l’instrument joue toutes les voix de la même façon</translation>
+    </message>
+    <message>
+        <source>Rename Voice</source>
+        <translation type="unfinished">Renommer la voix</translation>
+    </message>
+    <message>
+        <source>Change Program of Voice</source>
+        <translation type="unfinished">Changer le programme de la voix</translation>
+    </message>
+    <message>
+        <source>Change Volume of Voice</source>
+        <translation type="unfinished">Changer le volume de la voix</translation>
+    </message>
+    <message>
+        <source>Every voice has its own sound</source>
+        <translation type="unfinished">Chaque voix a son propre son</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
@@ -4099,6 +4220,10 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>Practice</source>
         <translation type="unfinished">Exercice</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voix</translation>
     </message>
 </context>
 <context>

@@ -3017,6 +3017,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Practise the piece, a hand or a voice of it</source>
         <translation type="unfinished">Esercitarsi sul brano, su una mano o su una voce</translation>
     </message>
+    <message>
+        <source>Show who plays the piece</source>
+        <translation type="unfinished">Mostra chi suona il brano</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voci</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -4039,6 +4047,119 @@ Fai clic per mostrare tutti i temperamenti</translation>
     </message>
 </context>
 <context>
+    <name>velmora::VoiceRow</name>
+    <message>
+        <source>Record and draw on this voice; double-click to select its notes</source>
+        <translation type="unfinished">Registra e disegna su questa voce; un doppio clic seleziona le sue note</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>mute</comment>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">Muto</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>solo</comment>
+        <translation type="unfinished">S</translation>
+    </message>
+    <message>
+        <source>Solo: only such voices sound</source>
+        <translation type="unfinished">Solo: suonano solo queste voci</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <comment>lock</comment>
+        <translation type="unfinished">B</translation>
+    </message>
+    <message>
+        <source>Lock: protect its notes from edits</source>
+        <translation type="unfinished">Bloccata: protegge le sue note dalle modifiche</translation>
+    </message>
+    <message>
+        <source>Drum kit %1</source>
+        <translation type="unfinished">Batteria %1</translation>
+    </message>
+    <message>
+        <source>Program %1 of bank %2</source>
+        <translation type="unfinished">Programma %1 del banco %2</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voce %1</translation>
+    </message>
+    <message>
+        <source>Record and draw on %1</source>
+        <translation type="unfinished">Registra e disegna su %1</translation>
+    </message>
+    <message>
+        <source>Name of voice %1</source>
+        <translation type="unfinished">Nome della voce %1</translation>
+    </message>
+    <message>
+        <source>Program of %1</source>
+        <translation type="unfinished">Programma di %1</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Volume di %1</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation type="unfinished">Rendi muta %1</translation>
+    </message>
+    <message>
+        <source>Solo %1</source>
+        <translation type="unfinished">%1 in solo</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation type="unfinished">Blocca %1</translation>
+    </message>
+    <message>
+        <source>What the voice plays</source>
+        <translation type="unfinished">Che cosa suona la voce</translation>
+    </message>
+    <message>
+        <source>This instrument plays every voice alike</source>
+        <translation type="unfinished">Questo strumento suona tutte le voci allo stesso modo</translation>
+    </message>
+    <message>
+        <source>How loud the voice is, from 0 to 127</source>
+        <translation type="unfinished">Quanto è forte la voce, da 0 a 127</translation>
+    </message>
+    <message>
+        <source>Like the instrument</source>
+        <translation type="unfinished">Come lo strumento</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoicesPanel</name>
+    <message>
+        <source>Otherwise the instrument plays every voice alike</source>
+        <translation type="unfinished">Altrimenti lo strumento suona tutte le voci allo stesso modo</translation>
+    </message>
+    <message>
+        <source>Rename Voice</source>
+        <translation type="unfinished">Rinomina la voce</translation>
+    </message>
+    <message>
+        <source>Change Program of Voice</source>
+        <translation type="unfinished">Cambia il programma della voce</translation>
+    </message>
+    <message>
+        <source>Change Volume of Voice</source>
+        <translation type="unfinished">Cambia il volume della voce</translation>
+    </message>
+    <message>
+        <source>Every voice has its own sound</source>
+        <translation type="unfinished">Ogni voce ha il suo suono</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
@@ -4099,6 +4220,10 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>Practice</source>
         <translation type="unfinished">Esercizio</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voci</translation>
     </message>
 </context>
 <context>

@@ -2990,6 +2990,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Practise the piece, a hand or a voice of it</source>
         <translation type="unfinished">曲、片手、または一つの声部を練習する</translation>
     </message>
+    <message>
+        <source>Show who plays the piece</source>
+        <translation type="unfinished">曲の声部を表示します</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">発音数</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -4010,6 +4018,119 @@ Click to show all tunings</source>
     </message>
 </context>
 <context>
+    <name>velmora::VoiceRow</name>
+    <message>
+        <source>Record and draw on this voice; double-click to select its notes</source>
+        <translation type="unfinished">この声部に録音・記入します。ダブルクリックで音符を選択します</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>mute</comment>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">ミュート</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>solo</comment>
+        <translation type="unfinished">S</translation>
+    </message>
+    <message>
+        <source>Solo: only such voices sound</source>
+        <translation type="unfinished">ソロ：ソロの声部だけが鳴ります</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <comment>lock</comment>
+        <translation type="unfinished">L</translation>
+    </message>
+    <message>
+        <source>Lock: protect its notes from edits</source>
+        <translation type="unfinished">ロック：音符を編集から保護します</translation>
+    </message>
+    <message>
+        <source>Drum kit %1</source>
+        <translation type="unfinished">ドラムキット %1</translation>
+    </message>
+    <message>
+        <source>Program %1 of bank %2</source>
+        <translation type="unfinished">バンク %2 のプログラム %1</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">声部 %1</translation>
+    </message>
+    <message>
+        <source>Record and draw on %1</source>
+        <translation type="unfinished">%1 に録音・記入</translation>
+    </message>
+    <message>
+        <source>Name of voice %1</source>
+        <translation type="unfinished">声部 %1 の名前</translation>
+    </message>
+    <message>
+        <source>Program of %1</source>
+        <translation type="unfinished">%1 のプログラム</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">%1 の音量</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation type="unfinished">%1 をミュート</translation>
+    </message>
+    <message>
+        <source>Solo %1</source>
+        <translation type="unfinished">%1 をソロ</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation type="unfinished">%1 をロック</translation>
+    </message>
+    <message>
+        <source>What the voice plays</source>
+        <translation type="unfinished">声部の音色</translation>
+    </message>
+    <message>
+        <source>This instrument plays every voice alike</source>
+        <translation type="unfinished">この楽器はすべての声部を同じ音色で鳴らします</translation>
+    </message>
+    <message>
+        <source>How loud the voice is, from 0 to 127</source>
+        <translation type="unfinished">声部の音量（0～127）</translation>
+    </message>
+    <message>
+        <source>Like the instrument</source>
+        <translation type="unfinished">楽器と同じ</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoicesPanel</name>
+    <message>
+        <source>Otherwise the instrument plays every voice alike</source>
+        <translation type="unfinished">オフのときは、すべての声部が同じ音色で鳴ります</translation>
+    </message>
+    <message>
+        <source>Rename Voice</source>
+        <translation type="unfinished">声部の名前を変更</translation>
+    </message>
+    <message>
+        <source>Change Program of Voice</source>
+        <translation type="unfinished">声部のプログラムを変更</translation>
+    </message>
+    <message>
+        <source>Change Volume of Voice</source>
+        <translation type="unfinished">声部の音量を変更</translation>
+    </message>
+    <message>
+        <source>Every voice has its own sound</source>
+        <translation type="unfinished">声部ごとに別の音色</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
@@ -4070,6 +4191,10 @@ Click to show all tunings</source>
     <message>
         <source>Practice</source>
         <translation type="unfinished">練習</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">発音数</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,7 @@
 #include "desktop/practice/PracticePanel.h"
 #include "desktop/roll/SequenceActions.h"
 #include "desktop/roll/TransportBar.h"
+#include "desktop/roll/VoicesPanel.h"
 #include "desktop/shell/PracticeResults.h"
 #include "desktop/shell/ShellActions.h"
 #include "desktop/shell/StageView.h"
@@ -41,7 +42,7 @@ namespace velmora {
 namespace {
 
 /// Counts up when stored arrangements would no longer fit.
-constexpr int kLayoutVersion = 4;
+constexpr int kLayoutVersion = 5;
 constexpr const char* kLayoutKey = "layout";
 
 /// The first sizes of the panels in pixels.
@@ -67,10 +68,10 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
       keyboard_(new KeyboardView(application, application.player().liveKeys())),
       instrument_(new InstrumentPanel(application)), tuning_(new TuningPanel(application)),
       studio_(new TuningStudio(application)), console_(new ConsolePanel(application, console)),
-      practice_(new PracticePanel), practiceResults_(new PracticeResults(*this)),
-      fallingNotes_(new FallingNotes(*keyboard_)), status_(new StatusLine(application)),
-      transport_(new TransportBar(actions, application)), startPage_(new StartPage),
-      tabs_(new QTabWidget), centre_(new QStackedWidget)
+      voices_(new VoicesPanel(application)), practice_(new PracticePanel),
+      practiceResults_(new PracticeResults(*this)), fallingNotes_(new FallingNotes(*keyboard_)),
+      status_(new StatusLine(application)), transport_(new TransportBar(actions, application)),
+      startPage_(new StartPage), tabs_(new QTabWidget), centre_(new QStackedWidget)
 {
     setWindowTitle(tr("Velmora"));
     setContextMenuPolicy(Qt::NoContextMenu); // the default menu can hide the transport
@@ -101,10 +102,12 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     studioDock_ = addPanel("tuningStudio", tr("Tuning Studio"), studio_, *shell.tuningStudio);
     practiceDock_ = addPanel("practice", tr("Practice"), newScrollArea(practice_), *shell.practice);
     consoleDock_ = addPanel("console", tr("Console"), console_, *shell.console);
+    voicesDock_ = addPanel("voices", tr("Voices"), voices_, *shell.voices);
     addHelpButton(*keyboardDock_, "playing");
     addHelpButton(*consoleDock_, "the-console");
     addHelpButton(*studioDock_, "the-tuning-studio");
     addHelpButton(*practiceDock_, "practising");
+    addHelpButton(*voicesDock_, "voices");
     makeMenus(actions, console);
     makeTransport();
     for (const Commands::Command& command : commands.all())
@@ -196,6 +199,7 @@ void Workspace::setDocument(SequenceDocument* document)
     fallingNotes_->setDocument(document);
     practice_->setDocument(document);
     document_ = document;
+    voices_->setDocument(document);
 }
 
 void Workspace::setLayout(Layout layout)
@@ -241,14 +245,15 @@ void Workspace::restoreLayout()
 
 void Workspace::arrange()
 {
-    for (QDockWidget* dock :
-         {keyboardDock_, instrumentDock_, tuningDock_, studioDock_, practiceDock_, consoleDock_}) {
+    for (QDockWidget* dock : {keyboardDock_, instrumentDock_, tuningDock_, studioDock_,
+                              practiceDock_, consoleDock_, voicesDock_}) {
         dock->setFloating(false);
         removeDockWidget(dock);
     }
     addDockWidget(Qt::LeftDockWidgetArea, instrumentDock_);
     addDockWidget(Qt::RightDockWidgetArea, tuningDock_);
     addDockWidget(Qt::RightDockWidgetArea, studioDock_);
+    addDockWidget(Qt::LeftDockWidgetArea, voicesDock_);
     tabifyDockWidget(tuningDock_, studioDock_);
     addDockWidget(Qt::RightDockWidgetArea, practiceDock_);
     tabifyDockWidget(studioDock_, practiceDock_);
@@ -259,6 +264,7 @@ void Workspace::arrange()
     tuningDock_->setVisible(layout_ != Layout::Edit);
     studioDock_->hide();
     practiceDock_->hide();
+    voicesDock_->setVisible(layout_ == Layout::Edit);
     showConsole();
     constexpr std::array kHeights = {kKeyboardHeight, kEditKeyboardHeight, kStageKeyboardHeight};
     const double type = layout_ == Layout::Stage ? kStageType : 1.0;
@@ -331,8 +337,8 @@ void Workspace::movePanelFocus(int direction)
     std::vector<QWidget*> stops;
     if (QWidget* centre = centre_->currentWidget(); centre->isVisible())
         stops.push_back(centre);
-    for (QDockWidget* dock :
-         {instrumentDock_, consoleDock_, keyboardDock_, tuningDock_, studioDock_, practiceDock_})
+    for (QDockWidget* dock : {instrumentDock_, voicesDock_, consoleDock_, keyboardDock_,
+                              tuningDock_, studioDock_, practiceDock_})
         if (dock->isVisible())
             stops.push_back(dock);
     const auto here = std::ranges::find_if(

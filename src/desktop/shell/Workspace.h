@@ -28,6 +28,7 @@ class StatusLine;
 class TransportBar;
 class TuningPanel;
 class TuningStudio;
+class VoicesPanel;
 
 /// The main window: the open pieces as tabs, around them the panels, which can be moved, floated
 /// and hidden, and the transport, the menus and the status line. It has three layouts, each of
@@ -100,6 +101,7 @@ private:
     TuningPanel* tuning_;
     TuningStudio* studio_;
     ConsolePanel* console_;
+    VoicesPanel* voices_;
     PracticePanel* practice_;
     PracticeResults* practiceResults_;
     FallingNotes* fallingNotes_;
@@ -110,7 +112,7 @@ private:
     QTabWidget* tabs_;
     QStackedWidget* centre_; ///< The start page, the tabs, or what is shown on stage.
     QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_, *studioDock_, *consoleDock_,
-        *practiceDock_;
+        *practiceDock_, *voicesDock_;
     bool wasShown_ = false;
 };
 
