@@ -150,12 +150,12 @@ TEST_F(WorkspaceTest, RecordingWithoutAPieceBeginsOne)
 TEST_F(WorkspaceTest, ShortcutsCanBeChangedAndRestored)
 {
     Commands& commands = desktop.commands();
-    const QKeySequence key(Qt::CTRL | Qt::Key_J);
+    const QKeySequence key(Qt::CTRL | Qt::Key_H);
     commands.setShortcut(*shell.newSequence, key);
     EXPECT_EQ(commands.userOf(key, *shell.open), shell.newSequence);
     EXPECT_EQ(commands.userOf(key, *shell.newSequence), nullptr);
-    EXPECT_TRUE(shell.newSequence->toolTip().endsWith("(Ctrl+J)"));
-    QTest::keyClick(&workspace, Qt::Key_J, Qt::ControlModifier);
+    EXPECT_TRUE(shell.newSequence->toolTip().endsWith("(Ctrl+H)"));
+    QTest::keyClick(&workspace, Qt::Key_H, Qt::ControlModifier);
     EXPECT_EQ(workspace.tabs().count(), 1);
     {
         Commands later;
