@@ -2103,7 +2103,7 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
     <message>
         <source>P&amp;unch In</source>
-        <translation type="unfinished">Ersetzend aufnehmen</translation>
+        <translation type="unfinished">Ersetzen&amp;d aufnehmen</translation>
     </message>
     <message>
         <source>Record only in the selected time, and replace what the channel has there</source>

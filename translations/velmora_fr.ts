@@ -2103,7 +2103,7 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>P&amp;unch In</source>
-        <translation type="unfinished">&amp;Punch-in</translation>
+        <translation type="unfinished">P&amp;unch-in</translation>
     </message>
     <message>
         <source>Record only in the selected time, and replace what the channel has there</source>
@@ -2111,11 +2111,11 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>Metronome and Count-&amp;In</source>
-        <translation type="unfinished">Métronome et dé&amp;compte</translation>
+        <translation type="unfinished">Métronome et déc&amp;ompte</translation>
     </message>
     <message>
         <source>&amp;Takes</source>
-        <translation type="unfinished">&amp;Prises</translation>
+        <translation type="unfinished">Pr&amp;ises</translation>
     </message>
     <message>
         <source>Metronome</source>

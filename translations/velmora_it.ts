@@ -2115,7 +2115,7 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
     <message>
         <source>&amp;Takes</source>
-        <translation type="unfinished">&amp;Riprese</translation>
+        <translation type="unfinished">Ri&amp;prese</translation>
     </message>
     <message>
         <source>Metronome</source>
@@ -2337,7 +2337,7 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished">Ri&amp;produci</translation>
+        <translation type="unfinished">Ripro&amp;duci</translation>
     </message>
     <message>
         <source>Select Ne&amp;xt Note</source>

@@ -70,6 +70,7 @@ VoiceRow::VoiceRow(std::size_t channel, QGridLayout& grid)
     program_->completer()->setFilterMode(Qt::MatchContains);
     program_->completer()->setCompletionMode(QCompleter::PopupCompletion);
     volume_->setRange(0, kMostVolume);
+    volume_->setSuffix(QStringLiteral("/%1").arg(kMostVolume));
     volume_->setKeyboardTracking(false);
     const int row = static_cast<int>(channel) + 1;
     int column = 0;

@@ -83,7 +83,7 @@ TEST_F(LanesTest, VelocitiesAreDrawnOverBars)
     ASSERT_TRUE(lane.isVisible());
     drag({0.2, 2.0}, {0.8, 8.0}, Qt::ShiftModifier);
     EXPECT_THAT(velocities(), ElementsAre(2, 4, 6, 8)) << "a straight line";
-    EXPECT_EQ(document_.undoStack().undoText(), "Change Velocity of 4 Note(s)");
+    EXPECT_TRUE(document_.undoStack().undoText().startsWith("Change Velocity of 4 Note"));
     document_.undoStack().undo();
     EXPECT_THAT(velocities(), ElementsAre(10, 10, 10, 10));
     drag({0.3, 4.0}, {0.5, 4.0});
