@@ -19,7 +19,7 @@ int lastPass(std::span<const MeasureSigns> measures, std::size_t index)
     std::uint32_t passes = 0;
     for (; index < measures.size() && measures[index].passes != 0; ++index)
         passes |= measures[index].passes;
-    return std::bit_width(passes) - 1;
+    return static_cast<int>(std::bit_width(passes)) - 1;
 }
 
 /// Returns how often what ends with a measure's repeat sign is played.
@@ -30,7 +30,7 @@ int timesOf(std::span<const MeasureSigns> measures, std::size_t index)
         return signs.times;
     // The sign of an ending leads to the next one, whatever the number of times says. The first
     // ending may be the only one that is written.
-    const int next = std::bit_width(signs.passes);
+    const auto next = static_cast<int>(std::bit_width(signs.passes));
     return isPlayedAt(1, signs.passes) ? next : std::min(next, lastPass(measures, index));
 }
 

@@ -95,7 +95,7 @@ std::string commonTrack(const Piece& piece)
     if (!piece.title.empty())
         events.addMeta(0, midi::kTrackName, piece.title);
     for (const Piece::TimeSignature& time : piece.timeSignatures) {
-        const int exponent = std::bit_width(static_cast<unsigned>(time.unit)) - 1;
+        const int exponent = std::countr_zero(static_cast<unsigned>(time.unit));
         // A click of the metronome for each beat, and eight thirty-second notes in a quarter note.
         events.addMeta(tickOf(time.start), midi::kTimeSignature,
                        {byteOf(time.beats), byteOf(exponent), byteOf(96 / time.unit), 8});
