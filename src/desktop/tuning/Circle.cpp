@@ -10,6 +10,7 @@ namespace {
 
 constexpr JustInterval kFifth{3, 2}, kMajorThird{5, 4}, kOctave{2, 1};
 constexpr unsigned kMiddleKey = 60;
+constexpr double kPrecision = 1.0; ///< In cents.
 
 /// The rings as parts of the greatest radius.
 constexpr double kNoteRing = 0.74, kFifthRing = 0.92;
@@ -41,12 +42,13 @@ Circle::Circle(const TuningMoment& moment, int octave) : isOfFifths(moment.repea
         }
         return;
     }
-    // The scale may have any period; an octave of it shows how its degrees lie.
+    // A scale that goes down has its period below the first note.
+    const double period = moment.period > kPrecision ? moment.period : kOctave.cents();
     for (unsigned key = kMiddleKey; key < kKeys && hertz[kMiddleKey] > 0.0; ++key) {
         if (hertz[key] <= 0.0)
             continue;
         const double cents = centsBetween(hertz[kMiddleKey], hertz[key]);
-        if (key > kMiddleKey && cents > kOctave.cents() - 1.0)
+        if (key > kMiddleKey && cents > period - kPrecision)
             break;
         const double raised = std::exp2(octave - 4);
         CircleNote note{key, std::to_string(key - kMiddleKey), cents, moment.sounding[key], {}, {}};
