@@ -156,7 +156,8 @@ CLI::App* addRender(CLI::App& program, Arguments& arguments)
 {
     CLI::App* command = program.add_subcommand(
         "render", "Render a piece to a sound file, a MIDI file in a tuning, or a score");
-    command->add_option("sequence", arguments.sequence, "The MIDI file or MusicXML score")->required();
+    command->add_option("sequence", arguments.sequence, "The MIDI file or MusicXML score")
+        ->required();
     command
         ->add_option("-o,--output", arguments.output,
                      "The .wav, .flac, .ogg, .opus or .mp3 file to write, a .mid file that General "

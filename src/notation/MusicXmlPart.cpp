@@ -305,10 +305,11 @@ void MusicXmlPartReader::readNote(pugi::xml_node note)
 /// Lets the grace notes that wait sound just before a moment.
 void MusicXmlPartReader::placeGraceNotes(double start)
 {
-    for (auto each = grace_.rbegin(); each != grace_.rend(); ++each) {
-        const bool isInChord = each->note.length == 0.0;
-        each->note.length = kGraceLength;
-        each->note.start = start - kGraceLength;
+    for (std::size_t i = grace_.size(); i-- > 0;) {
+        Piece::Note& note = grace_[i].note;
+        const bool isInChord = note.length == 0.0;
+        note.length = kGraceLength;
+        note.start = start - kGraceLength;
         if (!isInChord)
             start -= kGraceLength;
     }

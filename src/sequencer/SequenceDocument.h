@@ -60,8 +60,8 @@ public:
     const PracticeSession& practiceSession() const { return practiceSession_; }
 
     /// Reads a Standard MIDI File, or a score in MusicXML, which has no file of its own afterwards.
-    /// If the file cannot be read, the sequence is empty and `errorString` says why. Clears the undo
-    /// history.
+    /// If the file cannot be read, the sequence is empty and `errorString` says why. Clears the
+    /// undo history.
     ///
     /// The musical reading keeps everything that the file says, and reads a damaged file as far as
     /// it can be read; `damage` then says what is wrong. The plain reading keeps the notes on the

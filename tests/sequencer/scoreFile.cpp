@@ -19,7 +19,7 @@ class ScoreFile : public SequenceTest {
 protected:
     std::filesystem::path write(const char* name, const std::string& bytes) const
     {
-        const auto path = std::filesystem::path(folder_.path().toStdString()) / name;
+        auto path = std::filesystem::path(folder_.path().toStdString()) / name;
         std::ofstream(path, std::ios::binary) << bytes;
         return path;
     }

@@ -6,8 +6,8 @@
 #include "preferences/Preferences.h"
 #include "preferences/settings.h"
 
-#include <QSlider>
 #include <QDoubleSpinBox>
+#include <QSlider>
 
 namespace velmora {
 
