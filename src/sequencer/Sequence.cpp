@@ -1,5 +1,6 @@
 #include "sequencer/Sequence.h"
 
+#include "midi/messages.h"
 #include "sound/keys.h"
 
 #include <algorithm>
@@ -34,6 +35,11 @@ std::vector<NoteState> absent(const std::vector<Note>& notes)
     for (const Note& note : notes)
         states.push_back({note.id, std::nullopt});
     return states;
+}
+
+int channelOf(const Note& note)
+{
+    return static_cast<int>(note.channel % midi::kChannels);
 }
 
 std::uint32_t wholeKey(double key)

@@ -45,6 +45,9 @@ std::vector<NoteState> present(const std::vector<Note>& notes);
 /// Returns states in which the notes do not exist.
 std::vector<NoteState> absent(const std::vector<Note>& notes);
 
+/// Returns the channel of a note as a file has it, 0 to 15.
+int channelOf(const Note& note);
+
 /// Returns the key that contains a position across the roll, limited to 0…127.
 std::uint32_t wholeKey(double key);
 

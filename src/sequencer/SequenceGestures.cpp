@@ -75,14 +75,13 @@ void SequenceEditor::sound(const Note& note)
     if (document_.reading() == Reading::Plain || !getPrefBool("SoundNotes"))
         return;
     sounding_ = note;
-    transport_.host().play(static_cast<int>(note.key), note.velocity,
-                           static_cast<int>(note.channel), 0.0);
+    transport_.host().play(static_cast<int>(note.key), note.velocity, channelOf(note), 0.0);
 }
 
 void SequenceEditor::silence()
 {
     if (const auto note = std::exchange(sounding_, std::nullopt))
-        transport_.host().stop(static_cast<int>(note->key), static_cast<int>(note->channel), 0.0);
+        transport_.host().stop(static_cast<int>(note->key), channelOf(*note), 0.0);
 }
 
 } // namespace velmora

@@ -1,6 +1,5 @@
 #include "sequencer/SequencePlayback.h"
 
-#include "midi/messages.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceTime.h"
 
@@ -23,12 +22,6 @@ constexpr double kBehindPosition = 1e-6;
 
 /// How far the step of an action in a loop is past its note, so that the note is not played again.
 constexpr double kPastAction = 1e-9;
-
-/// The channel of a note as a file has it, which has four bits.
-int channelOf(const Note& note)
-{
-    return static_cast<int>(note.channel % midi::kChannels);
-}
 
 // See docs/decisions.md, 96.
 bool startsBetween(const Note& note, double from, double to)

@@ -15,7 +15,7 @@ namespace velmora {
 
 SourceFile::SourceFile()
 {
-    const std::string bytes = MidiTrack().finish(kTicksPerBeat);
+    const std::string bytes = MidiTrack().finish(static_cast<std::uint16_t>(kTicksPerBeat));
     const auto view = std::as_bytes(std::span(bytes));
     bytes_.assign(view.begin(), view.end());
 }

@@ -180,9 +180,9 @@ TEST_F(SequenceEditorTest, ChoosesAndCorrectsNotesByCommands)
         return selection();
     };
     transport_.setPosition(2.0);
-    for (const std::uint64_t id : {2, 1, 3, 3})
+    for (const std::uint64_t id : {2U, 1U, 3U, 3U})
         EXPECT_THAT(select(Forward), ElementsAre(id));
-    for (const std::uint64_t id : {1, 2, 2})
+    for (const std::uint64_t id : {1U, 2U, 2U})
         EXPECT_THAT(select(Backward), ElementsAre(id));
 
     const Notes before = notes();

@@ -37,6 +37,8 @@ protected:
             editor_.mouseDragged(to);
         editor_.mouseUp(to, modifiers);
     }
+
+    using SequenceTest::click;
     void click(RollPoint at, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         drag(at, at, modifiers);

@@ -66,17 +66,18 @@ VoiceRow::VoiceRow(std::size_t channel, QGridLayout& grid)
     program_->setEditable(true);
     program_->setInsertPolicy(QComboBox::NoInsert);
     program_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    program_->setMinimumContentsLength(14);
+    program_->setMinimumContentsLength(6);
     program_->completer()->setFilterMode(Qt::MatchContains);
     program_->completer()->setCompletionMode(QCompleter::PopupCompletion);
     volume_->setRange(0, kMostVolume);
     volume_->setSuffix(QStringLiteral("/%1").arg(kMostVolume));
     volume_->setKeyboardTracking(false);
-    const int row = static_cast<int>(channel) + 1;
+    const int row = 2 * static_cast<int>(channel);
     int column = 0;
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{number_, name_, program_, volume_, mute_, solo_, lock_})
+    for (QWidget* control : std::initializer_list<QWidget*>{number_, name_, mute_, solo_, lock_})
         grid.addWidget(control, row, column++);
+    grid.addWidget(program_, row + 1, 0, 1, 2);
+    grid.addWidget(volume_, row + 1, 2, 1, 3);
 
     nameControls(tr("Voice %1").arg(channel + 1));
     connect(number_, &QToolButton::clicked, this, &VoiceRow::chosen);

@@ -17,7 +17,8 @@ class QToolButton;
 
 namespace velmora {
 
-/// The controls of one voice, in a row of a grid that owns them.
+/// The controls of one voice, in two rows of a grid that owns them, so that they fit into a narrow
+/// panel.
 class VoiceRow : public QObject {
     Q_OBJECT
 

@@ -21,7 +21,7 @@ VoicesPanel::VoicesPanel(AppDelegate& application)
     ownSounds_->setToolTip(tr("Otherwise the instrument plays every voice alike"));
     auto* list = new QWidget;
     grid_->setHorizontalSpacing(4);
-    grid_->setColumnStretch(2, 1);
+    grid_->setColumnStretch(1, 1);
     auto* column = new QVBoxLayout(list);
     column->addLayout(grid_);
     column->addStretch();
