@@ -51,6 +51,9 @@ void Player::play(int key, float velocity, int channel, double time)
     }
     const auto division =
         static_cast<std::uint8_t>(hasPart_[voice] ? voice + 1 : divisions_.ofChannels[voice]);
+    // The channel may have changed its division or its part since it started the key there.
+    if (playing_[voice][slot] && startedOn_[voice][slot] != division)
+        release(startedOn_[voice][slot], slot, kSequencer, time);
     startedOn_[voice][slot] = division;
     playing_[voice].set(slot);
     holders_.press(division, slot, kSequencer);

@@ -222,11 +222,11 @@ std::vector<GridLine> MusicalTime::gridLines(double from, double to, Grid grid) 
         add(0.0, GridLine::Kind::Bar);
         if (grid == Grid::Bars)
             continue;
-        for (double beat = 0.0; beat < bar.length - kBarRounding; beat += beatLength) {
-            if (beat > 0.0)
-                add(beat, GridLine::Kind::Beat);
+        for (int beat = 0; beat * beatLength < bar.length - kBarRounding; ++beat) {
+            if (beat > 0)
+                add(beat * beatLength, GridLine::Kind::Beat);
             for (int i = 1; i * part < beatLength - kBarRounding; ++i)
-                add(beat + i * part, GridLine::Kind::Part);
+                add(beat * beatLength + i * part, GridLine::Kind::Part);
         }
     }
     return lines;

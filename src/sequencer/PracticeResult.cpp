@@ -10,7 +10,8 @@ namespace {
 
 std::size_t delayClass(double delay)
 {
-    constexpr auto kMiddle = static_cast<double>(PracticeSummary::kDelayClasses / 2);
+    constexpr auto kMiddleClass = PracticeSummary::kDelayClasses / 2;
+    constexpr auto kMiddle = static_cast<double>(kMiddleClass);
     const double place = std::round(delay / PracticeSummary::kDelayClass) + kMiddle;
     return static_cast<std::size_t>(std::clamp(place, 0.0, 2 * kMiddle));
 }

@@ -47,6 +47,7 @@ void RunningTake::removeReplaced()
         }
     }
     std::vector<NoteState> states;
+    states.reserve(removed.size());
     for (const std::uint64_t id : removed)
         states.push_back({id, std::nullopt});
     sequence_.swap(states);

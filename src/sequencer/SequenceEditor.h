@@ -40,6 +40,12 @@ public:
     /// The document must outlive it.
     explicit SequenceEditor(SequenceDocument& document);
 
+    /// Ends a note that sounds because it is pressed.
+    ~SequenceEditor() { silence(); }
+
+    SequenceEditor(const SequenceEditor&) = delete;
+    SequenceEditor& operator=(const SequenceEditor&) = delete;
+
     SequenceDocument& document() const { return document_; }
 
     /// Selects the note under the mouse. A drag then resizes it if the press hit its end, and

@@ -57,9 +57,10 @@ Voices voicesOf(const MidiFileEvents& file)
         Voice& voice = voices[channel];
         const bool isPercussion = channel == kDrumChannel;
         if (found.program != nullptr)
-            voice.sound.preset = {.bank = isPercussion            ? kDrumKits
-                                          : found.bank != nullptr ? found.bank->data[1]
-                                                                  : 0,
+            voice.sound.preset = {.bank = isPercussion ? kDrumKits
+                                          : found.bank != nullptr
+                                              ? static_cast<std::uint8_t>(found.bank->data[1])
+                                              : 0,
                                   .number = static_cast<std::uint8_t>(found.program->data[0]),
                                   .isPercussion = isPercussion};
         if (found.volume != nullptr)

@@ -144,7 +144,7 @@ std::vector<NoteState> divided(const std::vector<Note>& notes, double step)
         addChanged(changes, note, first);
         NoteState second = duplicated({note}, 0, first.length).front();
         second.note->length = second.note->oldLength = endOf(note) - step;
-        changes.push_back(std::move(second));
+        changes.push_back(second);
     }
     return changes;
 }

@@ -138,6 +138,19 @@ TEST(PlayerVoices, EndWhenTheyAreMutedAndGoOnWithoutThem)
     EXPECT_EQ(peak(ensemble.next()), 0.0F);
 }
 
+TEST(PlayerVoices, EndAKeyThatTheyStrikeAgainWithAnotherSound)
+{
+    const Temperament meantone = Temperament::Meantone();
+    Ensemble ensemble(meantone);
+    const Part& part = kFive[0];
+    ensemble.play(part);
+    ensemble.usePrograms();
+    ensemble.play(part);
+    ensemble.stop(part);
+    ensemble.stop(part);
+    EXPECT_TRUE(ensemble.player.soundingKeys().none());
+}
+
 TEST(PlayerVoices, PlayDrumsThatNoTemperamentTunes)
 {
     static constexpr Part kTom{9, 0, 47};

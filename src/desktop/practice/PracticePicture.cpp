@@ -109,11 +109,11 @@ void paintDelays(QPainter& painter, const QRectF& place, const PracticeSummary& 
     diagram.paintLabel(0, pictureText(QT_TRANSLATE_NOOP("velmora::PracticePicture", "early")));
     diagram.paintLabel(summary.delays.size() - 1,
                        pictureText(QT_TRANSLATE_NOOP("velmora::PracticePicture", "late")));
+    const auto middle = static_cast<std::ptrdiff_t>(summary.delays.size() / 2);
     for (const int milliseconds : {-100, 0, 100}) {
         const int classes = milliseconds / static_cast<int>(1000 * PracticeSummary::kDelayClass);
-        diagram.paintLabel(
-            static_cast<std::size_t>(static_cast<int>(summary.delays.size() / 2) + classes),
-            QLocale().toString(milliseconds));
+        const std::ptrdiff_t place = middle + classes;
+        diagram.paintLabel(static_cast<std::size_t>(place), QLocale().toString(milliseconds));
     }
     diagram.paintTitle(pictureText(
         QT_TRANSLATE_NOOP("velmora::PracticePicture", "How early or late the keys were, in ms")));

@@ -51,8 +51,9 @@ constexpr int kConsoleHeight = 330;
 constexpr int kKeyboardHeight = 150, kEditKeyboardHeight = 100, kStageKeyboardHeight = 300;
 constexpr QSize kFirstSize(1240, 760);
 
-/// How much larger the type is on stage.
+/// How much larger the type is on stage, and how many steps lead there.
 constexpr double kStageType = 1.5;
+constexpr int kTypeTrials = 5;
 
 std::string layoutKey(Workspace::Layout layout)
 {
@@ -296,8 +297,8 @@ void Workspace::enlargeType()
     const QSize room = screen()->size();
     QFont type = font();
     const double normal = type.pointSizeF();
-    for (double scale = kStageType; scale >= 1.0; scale -= 0.1) {
-        type.setPointSizeF(normal * scale);
+    for (int trial = kTypeTrials; trial >= 0; --trial) {
+        type.setPointSizeF(normal * (1.0 + (kStageType - 1.0) * trial / kTypeTrials));
         setFont(type);
         QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // so that the size is known
         if (minimumSizeHint().boundedTo(room) == minimumSizeHint())
