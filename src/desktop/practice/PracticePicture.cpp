@@ -112,8 +112,8 @@ void paintDelays(QPainter& painter, const QRectF& place, const PracticeSummary& 
     const auto middle = static_cast<std::ptrdiff_t>(summary.delays.size() / 2);
     for (const int milliseconds : {-100, 0, 100}) {
         const int classes = milliseconds / static_cast<int>(1000 * PracticeSummary::kDelayClass);
-        const std::ptrdiff_t place = middle + classes;
-        diagram.paintLabel(static_cast<std::size_t>(place), QLocale().toString(milliseconds));
+        const std::ptrdiff_t column = middle + classes;
+        diagram.paintLabel(static_cast<std::size_t>(column), QLocale().toString(milliseconds));
     }
     diagram.paintTitle(pictureText(
         QT_TRANSLATE_NOOP("velmora::PracticePicture", "How early or late the keys were, in ms")));
