@@ -1,6 +1,5 @@
 #pragma once
 
-#include "audio/MusicDevice.h"
 #include "midi/MidiReceiver.h"
 #include "midi/messages.h"
 #include "sound/keys.h"
@@ -14,8 +13,8 @@ namespace velmora {
 
 using KeySet = std::bitset<kKeys>;
 
-/// How many divisions of an organ can be played, or parts of an ensemble.
-constexpr std::size_t kDivisions = kParts;
+/// How many divisions of an organ can be played.
+constexpr std::size_t kDivisions = 16;
 
 /// The keys of each division. Those of an instrument without divisions are the first.
 using DivisionKeys = std::array<KeySet, kDivisions>;

@@ -2,20 +2,14 @@
 
 #include "app/AppDelegate.h"
 
-#include <algorithm>
-
 namespace velmora {
 
 TuningCorrector::TuningCorrector(AppDelegate& application) : application_(application)
 {
     connect(this, &TuningCorrector::measured, this, &TuningCorrector::take, Qt::QueuedConnection);
+    connect(&application, &AppDelegate::instrumentChanged, this, &TuningCorrector::update);
     connect(&application, &AppDelegate::programSelected, this, &TuningCorrector::update);
-    connect(&application, &AppDelegate::voicesUsed, this, &TuningCorrector::update);
-    for (const auto signal : {&AppDelegate::instrumentChanged, &AppDelegate::bankLoaded})
-        connect(&application, signal, this, [this] {
-            done_.clear(); // what plays now may be another synthesizer
-            update();
-        });
+    connect(&application, &AppDelegate::bankLoaded, this, &TuningCorrector::update);
     connect(&application.playing(), &PlayingOptions::changed, this, &TuningCorrector::update);
 }
 
@@ -24,45 +18,39 @@ TuningCorrector::~TuningCorrector()
     isCancelled_ = true; // the destructor of the future waits
 }
 
-std::vector<PitchedProgram> TuningCorrector::played() const
+std::optional<BankProgram> TuningCorrector::selected() const
 {
-    std::vector<PitchedProgram> programs;
     for (const auto& document : application_.instruments()) {
         if (!application_.isCurrent(*document))
             continue;
+        std::optional<BankProgram> program;
         application_.player().with([&](const Instrument& instrument, const Temperament&) {
-            programs = pitchedPrograms(instrument, document->isFromFile() ? document->path()
-                                                                          : application_.bank());
+            program = pitchedProgram(instrument, document->isFromFile() ? document->path()
+                                                                        : application_.bank());
         });
+        return program;
     }
-    return programs;
+    return std::nullopt;
 }
 
 void TuningCorrector::update()
 {
-    const auto programs = played();
-    const auto isIn = [](const auto& list, const PitchedProgram& program) {
-        return std::ranges::find(list, program) != list.end();
-    };
+    const auto wanted = selected();
+    if (!wanted)
+        return;
     if (!application_.playing().correctsTuning()) {
-        for (const PitchedProgram& program : programs)
-            correct(program, {});
-        done_.clear();
+        correct({});
         return;
     }
     if (measuring_.valid()) {
-        if (!isIn(programs, program_))
-            isCancelled_ = true; // `take` goes on with another one
+        if (program_ != *wanted)
+            isCancelled_ = true; // `take` goes on with the other one
         return;
     }
-    const auto next = std::ranges::find_if(
-        programs, [&](const PitchedProgram& program) { return !isIn(done_, program); });
-    if (next == programs.end())
-        return;
-    program_ = *next;
+    program_ = *wanted;
     isCancelled_ = false;
     measuring_ = std::async(std::launch::async, [this] {
-        auto corrections = correctionsFor(program_.program, [this] { return isCancelled_.load(); });
+        auto corrections = correctionsFor(program_, [this] { return isCancelled_.load(); });
         emit measured();
         return corrections;
     });
@@ -73,19 +61,16 @@ void TuningCorrector::take()
     if (!measuring_.valid())
         return;
     const auto corrections = measuring_.get();
-    const auto programs = played();
-    if (!isCancelled_ && std::ranges::find(programs, program_) != programs.end()) {
-        done_.push_back(program_);
-        if (corrections && application_.playing().correctsTuning())
-            correct(program_, *corrections);
-    }
-    update();
+    if (isCancelled_ || selected() != program_)
+        update();
+    else if (corrections && application_.playing().correctsTuning())
+        correct(*corrections);
 }
 
-void TuningCorrector::correct(const PitchedProgram& program, const KeyCorrections& corrections)
+void TuningCorrector::correct(const KeyCorrections& corrections)
 {
     application_.player().with([&](Instrument& instrument, const Temperament&) {
-        dynamic_cast<MIDIInstrument&>(instrument).setCorrections(program.position, corrections);
+        dynamic_cast<MIDIInstrument&>(instrument).setCorrections(instrument.program(), corrections);
     });
 }
 

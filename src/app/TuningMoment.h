@@ -19,8 +19,7 @@ struct TuningMoment {
     SpelledClasses places{};           ///< Empty if the temperament does not spell.
     std::optional<double> centre;      ///< Of what has sounded, on the chain of fifths.
     double drift = 0.0;                ///< In cents.
-    double period = 1200.0;            ///< After which the notes repeat, in cents.
-    bool repeatsEveryOctave = true;    ///< With twelve notes in each octave.
+    bool repeatsEveryOctave = true;
     KeySet sounding;
 
     bool operator==(const TuningMoment&) const = default;

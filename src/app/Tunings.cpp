@@ -83,7 +83,10 @@ const TuningDocument* Tunings::current() const
 std::string Tunings::lastingName() const
 {
     const TuningDocument* document = current();
-    return document == nullptr || document->original().empty() ? name_ : document->original();
+    if (document == nullptr || !document->path().empty() || TuningDocument::isBuiltin(name_) ||
+        name_ == kEqual || name_ == kMeantone)
+        return name_;
+    return document->original();
 }
 
 std::vector<std::string> Tunings::names() const

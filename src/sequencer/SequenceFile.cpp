@@ -3,7 +3,6 @@
 #include "base/Text.h"
 #include "midi/IMelody.h"
 #include "midi/StandardMidiFileWriter.h"
-#include "sequencer/SequenceTime.h"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +16,8 @@ namespace {
 
 constexpr float kFullVelocity = 127.0F;
 
-constexpr double kBeatsPerStep = 1.0 / kStepsPerBeat;
+/// Written files have 120 beats a minute.
+constexpr double kBeatsPerStep = 2.0 / kStepsPerFileSecond;
 
 std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& event, int keyRangeLo,
                              int keyRangeHi)

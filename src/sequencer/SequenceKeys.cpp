@@ -59,10 +59,7 @@ bool SequenceEditor::takeNamedKey(int key, bool command)
         deleteSelection();
         return true;
     case Qt::Key_Escape:
-        if (transport_.beatsToCount() > 0)
-            recorder_.record(); // ends it
-        else
-            document_.edit()->deselect();
+        document_.edit()->deselect();
         return true;
     case Qt::Key_Down:
         transport_.stop();

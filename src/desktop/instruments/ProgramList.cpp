@@ -42,9 +42,8 @@ QString groupOf(const Program& program)
     return ProgramList::tr("Bank %1").arg(program.bank);
 }
 
-} // namespace
-
-QString programText(const Program& program)
+/// Returns the name of a program behind its number, which counts from 1 as on keyboards.
+QString textOf(const Program& program)
 {
     if (program.name.empty())
         return QCoreApplication::translate(
@@ -52,6 +51,8 @@ QString programText(const Program& program)
             kMIDIInstrumentNames.at(static_cast<std::size_t>(program.number)));
     return QString("%1 %2").arg(program.number + 1).arg(QString::fromStdString(program.name));
 }
+
+} // namespace
 
 ProgramList::ProgramList() : GroupedList(tr("Find a program"), tr("Program"))
 {
@@ -62,7 +63,7 @@ void ProgramList::showPrograms(std::span<const Program> programs)
 {
     std::vector<Entry> entries;
     for (const Program& program : programs)
-        entries.push_back({groupOf(program), programText(program), {}});
+        entries.push_back({groupOf(program), textOf(program), {}});
     showEntries(std::move(entries));
 }
 

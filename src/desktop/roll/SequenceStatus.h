@@ -21,7 +21,6 @@ private:
     void showNotes();
     void showMode();
     QString practiceText() const;
-    QString keysText() const;
 
     const SequenceDocument& document_;
     QLabel *mode_, *selection_, *interval_, *notes_;

@@ -4,18 +4,16 @@
 
 class QComboBox;
 class QLabel;
-class QDoubleSpinBox;
 class QSpinBox;
 
 namespace velmora {
 
 class AppDelegate;
-class RecordingActions;
 class SequenceActions;
 class SequenceDocument;
 struct Learnable;
 
-/// The toolbar of the current piece: record, play, loop, grid, tempo, speed, channel and position.
+/// The toolbar of the current piece: record, play, loop, grid, tempo, channel and position.
 class TransportBar : public QToolBar {
     Q_OBJECT
 
@@ -33,20 +31,14 @@ signals:
 
 private:
     void addButton(QAction& action, const QString& otherTitle, const Learnable& learnable);
-    void addRecording(RecordingActions& recording);
     void addTempo();
-    void addSpeed();
-    void changeTempo(double beats);
     void addChannel();
     void showOptions();
-    void showTempo();
     void showPosition();
 
     AppDelegate& application_;
     SequenceDocument* document_ = nullptr;
-    QDoubleSpinBox* tempo_;
-    QSpinBox* speed_;
-    QAction* speedField_ = nullptr; ///< Hidden in the plain reading.
+    QSpinBox* tempo_;
     QComboBox* channel_;
     QLabel* position_;
 };

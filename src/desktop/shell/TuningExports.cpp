@@ -79,7 +79,7 @@ void TuningExports::exportMidi()
         return;
     save(path, [&](const std::filesystem::path& file) {
         RenderOptions options;
-        options.speed = page->document().transport().speed();
+        options.tempo = page->document().transport().tempo();
         const TunedMidi midi = writeTunedMidi(
             application_,
             [&](SequenceDocument& copy) { copy.recover(page->document().snapshot()); }, options);

@@ -10,11 +10,9 @@ namespace {
 
 constexpr JustInterval kFifth{3, 2}, kMajorThird{5, 4}, kOctave{2, 1};
 constexpr unsigned kMiddleKey = 60;
-constexpr double kPrecision = 1.0; ///< In cents.
 
 /// The rings as parts of the greatest radius.
-constexpr double kNoteRing = 0.74, kFifthRing = 0.92;
-constexpr double kThirdsAcross = 0.45, kThirdsUp = 0.5; // their labels are wider than high
+constexpr double kNoteRing = 0.74, kFifthRing = 0.92, kThirdRing = 0.46;
 constexpr double kLargestNote = 20.0;
 
 double centsBetween(double low, double high)
@@ -42,13 +40,12 @@ Circle::Circle(const TuningMoment& moment, int octave) : isOfFifths(moment.repea
         }
         return;
     }
-    // A scale that goes down has its period below the first note.
-    const double period = moment.period > kPrecision ? moment.period : kOctave.cents();
+    // The scale may have any period; an octave of it shows how its degrees lie.
     for (unsigned key = kMiddleKey; key < kKeys && hertz[kMiddleKey] > 0.0; ++key) {
         if (hertz[key] <= 0.0)
             continue;
         const double cents = centsBetween(hertz[kMiddleKey], hertz[key]);
-        if (key > kMiddleKey && cents > period - kPrecision)
+        if (key > kMiddleKey && cents > kOctave.cents() - 1.0)
             break;
         const double raised = std::exp2(octave - 4);
         CircleNote note{key, std::to_string(key - kMiddleKey), cents, moment.sounding[key], {}, {}};
@@ -68,14 +65,12 @@ CircleGeometry::CircleGeometry(QSizeF view, std::size_t notes)
 
 QPointF CircleGeometry::fifth(std::size_t position) const
 {
-    const double radius = ring_ / kNoteRing * kFifthRing;
-    return at(static_cast<double>(position) + 0.5, radius, radius);
+    return at(static_cast<double>(position) + 0.5, ring_ / kNoteRing * kFifthRing);
 }
 
 QPointF CircleGeometry::third(std::size_t position) const
 {
-    const double greatest = ring_ / kNoteRing;
-    return at(static_cast<double>(position), kThirdsAcross * greatest, kThirdsUp * greatest);
+    return at(static_cast<double>(position), ring_ / kNoteRing * kThirdRing);
 }
 
 std::optional<std::size_t> CircleGeometry::noteAt(QPointF point) const
@@ -94,10 +89,10 @@ double CircleGeometry::distance(QPointF point) const
     return std::hypot(away.x(), away.y());
 }
 
-QPointF CircleGeometry::at(double position, double across, double up) const
+QPointF CircleGeometry::at(double position, double radius) const
 {
     const double angle = 2 * std::numbers::pi * position / static_cast<double>(notes_);
-    return centre_ + QPointF(std::sin(angle) * across, -std::cos(angle) * up);
+    return centre_ + QPointF(std::sin(angle), -std::cos(angle)) * radius;
 }
 
 } // namespace velmora

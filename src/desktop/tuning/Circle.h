@@ -46,10 +46,7 @@ public:
 
     /// The middle of a note's disc, of the label of the interval to the next note, and of the label
     /// of its third. Positions run clockwise from the top.
-    QPointF note(std::size_t position) const
-    {
-        return at(static_cast<double>(position), ring_, ring_);
-    }
+    QPointF note(std::size_t position) const { return at(static_cast<double>(position), ring_); }
     QPointF fifth(std::size_t position) const;
     QPointF third(std::size_t position) const;
 
@@ -60,8 +57,7 @@ public:
     double distance(QPointF point) const;
 
 private:
-    /// The place of a position on an ellipse with these radii.
-    QPointF at(double position, double across, double up) const;
+    QPointF at(double position, double radius) const;
 
     std::size_t notes_;
     QPointF centre_;
