@@ -111,8 +111,8 @@ void importMusically(benchmark::State& state)
     }
 }
 
-BENCHMARK(decodeOrganFiles)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(importMusically)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(decodeOrganFiles)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+BENCHMARK(importMusically)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
 
 } // namespace
 

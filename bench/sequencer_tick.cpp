@@ -12,7 +12,7 @@ namespace velmora {
 namespace {
 
 /// The steps of one tick.
-constexpr double kTickSteps = stepsPerSecond(120.0, Reading::Musical) * kTick.count();
+constexpr double kTickSteps = 16.0 * kTick.count();
 
 Sequence manyNotes()
 {

@@ -1,6 +1,7 @@
 // Measures how well temperaments fit music whose notated spelling is known:
 //
-//     zcat MUSIC.tsv.gz | bench_spelling [even|odd] [memory=S] [anchor=PLACE] [weight=NOTES]
+//     zcat MUSIC.tsv.gz | bench_spelling [even|odd] [memory=S] [held=NOTES] [anchor=PLACE]
+//         [weight=NOTES]
 //
 // Each line of the music has the name of a piece, the start and end of a note in seconds, its MIDI
 // key, and its place on the chain of fifths. "even" and "odd" take every other piece.
@@ -71,7 +72,8 @@ struct Drifting {
 };
 
 struct Score {
-    Errors thirds, fifths;
+    Errors thirds; ///< And sixths.
+    Errors fifths; ///< And fourths.
     Drifting drift;
     std::size_t notes = 0, asNotated = 0;
     double playingSeconds = 0.0; ///< The time that the temperament itself took.
@@ -186,12 +188,14 @@ void report(const std::string& name, const std::vector<Piece>& pieces,
     for (const Piece& piece : pieces)
         play(piece, *make(), score);
     const double events = 2.0 * static_cast<double>(score.notes);
-    fmt::print("{:<28} wolf thirds {:5.2f} %   thirds {:5.2f} cents   fifths {:5.2f} cents   "
-               "as notated {:5.2f} %   drift ±{:.2f} cents   {:4.0f} ns a key\n",
-               name, 100.0 * score.thirds.wolfSeconds / score.thirds.seconds,
-               score.thirds.cents / score.thirds.seconds, score.fifths.cents / score.fifths.seconds,
-               100.0 * static_cast<double>(score.asNotated) / static_cast<double>(score.notes),
-               score.drift.deviation(), 1e9 * score.playingSeconds / events);
+    fmt::print(
+        "{:<26} thirds and sixths {:5.2f} cents off, {:5.2f} % wolves   fifths {:5.2f} cents off   "
+        "as notated {:5.2f} %   drift ±{:.2f} cents   {:4.0f} ns a key\n",
+        name, score.thirds.cents / score.thirds.seconds,
+        100.0 * score.thirds.wolfSeconds / score.thirds.seconds,
+        score.fifths.cents / score.fifths.seconds,
+        100.0 * static_cast<double>(score.asNotated) / static_cast<double>(score.notes),
+        score.drift.deviation(), 1e9 * score.playingSeconds / events);
 }
 
 } // namespace
@@ -210,6 +214,8 @@ int main(int argc, char** argv)
             half = argument == "odd" ? 1 : 0;
         else if (argument.starts_with("memory="))
             settings.memory = value;
+        else if (argument.starts_with("held="))
+            settings.held = value;
         else if (argument.starts_with("anchor="))
             settings.anchor = value;
         else if (argument.starts_with("weight="))

@@ -646,6 +646,77 @@ Ein Klick zieht es oder stößt es ab</translation>
     </message>
 </context>
 <context>
+    <name>velmora::EditingActions</name>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished">Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Select by Voice or Velocity…</source>
+        <translation type="unfinished">Nach Stimme oder Anschlag auswählen…</translation>
+    </message>
+    <message>
+        <source>Select the notes of a voice, of some keys and velocities</source>
+        <translation type="unfinished">Die Noten einer Stimme und bestimmter Tasten und Anschlagstärken auswählen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished">Verdoppeln</translation>
+    </message>
+    <message>
+        <source>Quantise…</source>
+        <translation type="unfinished">Quantisieren…</translation>
+    </message>
+    <message>
+        <source>Move notes to the grid</source>
+        <translation type="unfinished">Noten auf das Raster verschieben</translation>
+    </message>
+    <message>
+        <source>Split Notes at the Position</source>
+        <translation type="unfinished">Noten an der Position teilen</translation>
+    </message>
+    <message>
+        <source>Join Notes</source>
+        <translation type="unfinished">Noten verbinden</translation>
+    </message>
+    <message>
+        <source>Connect Notes (Legato)</source>
+        <translation type="unfinished">Noten binden (Legato)</translation>
+    </message>
+    <message>
+        <source>Move Notes an Octave Up</source>
+        <translation type="unfinished">Noten eine Oktave höher</translation>
+    </message>
+    <message>
+        <source>Move Notes an Octave Down</source>
+        <translation type="unfinished">Noten eine Oktave tiefer</translation>
+    </message>
+    <message>
+        <source>Nudge Notes Later</source>
+        <translation type="unfinished">Noten ein wenig später</translation>
+    </message>
+    <message>
+        <source>Nudge Notes Earlier</source>
+        <translation type="unfinished">Noten ein wenig früher</translation>
+    </message>
+    <message>
+        <source>Make Notes Louder</source>
+        <translation type="unfinished">Noten lauter</translation>
+    </message>
+    <message>
+        <source>Make Notes Softer</source>
+        <translation type="unfinished">Noten leiser</translation>
+    </message>
+    <message>
+        <source>Hear Notes</source>
+        <translation type="unfinished">Noten hören</translation>
+    </message>
+    <message>
+        <source>Sound notes that are pressed or drawn</source>
+        <translation type="unfinished">Noten erklingen lassen, die angeklickt oder gezeichnet werden</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -674,6 +745,13 @@ Ein Klick zieht es oder stößt es ab</translation>
     <message>
         <source>%1 was not exported. %2</source>
         <translation type="unfinished">%1 wurde nicht exportiert. %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FallingNotes</name>
+    <message>
+        <source>Falling notes</source>
+        <translation type="unfinished">Fallende Noten</translation>
     </message>
 </context>
 <context>
@@ -1121,6 +1199,21 @@ Ein anderes Instrument wählen, öffnen oder entladen</translation>
     </message>
 </context>
 <context>
+    <name>velmora::Lanes</name>
+    <message>
+        <source>&amp;No Lane</source>
+        <translation type="unfinished">&amp;Keine Spur</translation>
+    </message>
+    <message>
+        <source>&amp;Velocities</source>
+        <translation type="unfinished">&amp;Anschlagstärken</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo and Signatures</source>
+        <translation type="unfinished">&amp;Tempo und Vorzeichnung</translation>
+    </message>
+</context>
+<context>
     <name>velmora::LanguageFields</name>
     <message>
         <source>The language changes when you start Velmora again.</source>
@@ -1380,6 +1473,27 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
 </context>
 <context>
+    <name>velmora::OutlyingNotes</name>
+    <message>
+        <source>The keyboard does not show these keys. Click to go to the first note.</source>
+        <translation type="unfinished">Die Klaviatur zeigt diese Tasten nicht. Klicken Sie, um zur ersten Note zu gehen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) below %1</source>
+        <translation type="unfinished">
+            <numerusform>%n Note unter %1</numerusform>
+            <numerusform>%n Noten unter %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) above %1</source>
+        <translation type="unfinished">
+            <numerusform>%n Note über %1</numerusform>
+            <numerusform>%n Noten über %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>
@@ -1487,6 +1601,201 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
         <translation type="unfinished">Tasten, die in einem SoundFont verstimmt sind, werden beim ersten Gebrauch eines Programms gemessen und korrigiert</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePanel</name>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Slow down after mistakes</source>
+        <translation type="unfinished">Nach Fehlern langsamer</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Repeat bars</source>
+        <translation type="unfinished">Takte wiederholen</translation>
+    </message>
+    <message>
+        <source>Show falling notes</source>
+        <translation type="unfinished">Fallende Noten zeigen</translation>
+    </message>
+    <message>
+        <source>Both hands</source>
+        <translation type="unfinished">Beide Hände</translation>
+    </message>
+    <message>
+        <source>Right hand</source>
+        <translation type="unfinished">Rechte Hand</translation>
+    </message>
+    <message>
+        <source>Left hand</source>
+        <translation type="unfinished">Linke Hand</translation>
+    </message>
+    <message>
+        <source>The lowest key of the right hand</source>
+        <translation type="unfinished">Die tiefste Taste der rechten Hand</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Stimmen</translation>
+    </message>
+    <message>
+        <source>The voices that you play; the others play along</source>
+        <translation type="unfinished">Die Stimmen, die Sie spielen; die anderen spielen mit</translation>
+    </message>
+    <message>
+        <source>What a pass without a mistake adds to the speed</source>
+        <translation type="unfinished">Um wie viel das Tempo nach einem fehlerfreien Durchgang steigt</translation>
+    </message>
+    <message>
+        <source>How early a key may be, and how long a chord may be rolled</source>
+        <translation type="unfinished">Wie früh eine Taste sein darf und wie lange ein Akkord gebrochen werden darf</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>bars</comment>
+        <translation type="unfinished">bis</translation>
+    </message>
+    <message>
+        <source>First bar</source>
+        <translation type="unfinished">Erster Takt</translation>
+    </message>
+    <message>
+        <source>Last bar</source>
+        <translation type="unfinished">Letzter Takt</translation>
+    </message>
+    <message>
+        <source>Play:</source>
+        <translation type="unfinished">Spielen:</translation>
+    </message>
+    <message>
+        <source>Split at:</source>
+        <translation type="unfinished">Trennen bei:</translation>
+    </message>
+    <message>
+        <source>Voices:</source>
+        <translation type="unfinished">Stimmen:</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation type="unfinished">Tempo:</translation>
+    </message>
+    <message>
+        <source>Faster by:</source>
+        <translation type="unfinished">Schneller um:</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation type="unfinished">Toleranz:</translation>
+    </message>
+    <message>
+        <source>Bars:</source>
+        <translation type="unfinished">Takte:</translation>
+    </message>
+    <message>
+        <source>There are no notes to practise. Choose other voices, another hand or other bars.</source>
+        <translation type="unfinished">Es gibt keine Noten zum Üben. Wählen Sie andere Stimmen, eine andere Hand oder andere Takte.</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Stimme %1</translation>
+    </message>
+    <message>
+        <source>Stop Practising</source>
+        <translation type="unfinished">Üben beenden</translation>
+    </message>
+    <message>
+        <source>Practise</source>
+        <translation type="unfinished">Üben</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, passes: %3</source>
+        <translation type="unfinished">Richtig: %1, falsch: %2, Durchgänge: %3</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePicture</name>
+    <message>
+        <source>Right and wrong keys (hatched) by bar</source>
+        <translation type="unfinished">Richtige und falsche (schraffierte) Tasten je Takt</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation type="unfinished">früh</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation type="unfinished">spät</translation>
+    </message>
+    <message>
+        <source>How early or late the keys were, in ms</source>
+        <translation type="unfinished">Wie früh oder spät die Tasten waren, in ms</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeResults</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Unbenannt</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>The result of the practice was not kept: %1</source>
+        <translation type="unfinished">Das Ergebnis des Übens wurde nicht behalten: %1</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation type="unfinished">Bild speichern</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Üben</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeWindow</name>
+    <message>
+        <source>Practice sessions</source>
+        <translation type="unfinished">Übungen</translation>
+    </message>
+    <message>
+        <source>Result by bar and by time</source>
+        <translation type="unfinished">Ergebnis nach Takt und Zeit</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation type="unfinished">&amp;Bild speichern …</translation>
+    </message>
+    <message>
+        <source>Practice: %1</source>
+        <translation type="unfinished">Üben: %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <comment>a time, a speed in percent</comment>
+        <translation type="unfinished">%1 mit %2 %</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
+        <translation type="unfinished">Richtige Tasten: %1 (%2 früh, %3 spät), falsche Tasten: %4. Durchgänge: %5, ohne Fehler: %6.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms early.</source>
+        <translation type="unfinished">Im Mittel waren die Tasten %1 ms zu früh.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms late.</source>
+        <translation type="unfinished">Im Mittel waren die Tasten %1 ms zu spät.</translation>
     </message>
 </context>
 <context>
@@ -1726,10 +2035,195 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
 </context>
 <context>
+    <name>velmora::QuantiseDialog</name>
+    <message>
+        <source> %</source>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Move the &amp;ends of notes as well</source>
+        <translation type="unfinished">Auch die &amp;Enden der Noten verschieben</translation>
+    </message>
+    <message>
+        <source>Quantise</source>
+        <translation type="unfinished">Quantisieren</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>1/%1 triplets</source>
+        <translation type="unfinished">1/%1-Triolen</translation>
+    </message>
+    <message>
+        <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
+        <translation type="unfinished">Wo die zweite von zwei Einheiten beginnt: 50 % ist gleichmäßig, 67 % sind Triolen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves all %n note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>Verschiebt die einzige Note auf das Raster.</numerusform>
+            <numerusform>Verschiebt alle %n Noten auf das Raster.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves %n selected note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>Verschiebt %n ausgewählte Note auf das Raster.</numerusform>
+            <numerusform>Verschiebt %n ausgewählte Noten auf das Raster.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Grid:</source>
+        <translation type="unfinished">&amp;Raster:</translation>
+    </message>
+    <message>
+        <source>&amp;Strength:</source>
+        <translation type="unfinished">&amp;Stärke:</translation>
+    </message>
+    <message>
+        <source>S&amp;wing:</source>
+        <translation type="unfinished">S&amp;wing:</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RecordingActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Stück</translation>
+    </message>
+    <message>
+        <source>&amp;Metronome</source>
+        <translation type="unfinished">&amp;Metronom</translation>
+    </message>
+    <message>
+        <source>Click on the beats</source>
+        <translation type="unfinished">Auf den Schlägen klicken</translation>
+    </message>
+    <message>
+        <source>P&amp;unch In</source>
+        <translation type="unfinished">Ersetzen&amp;d aufnehmen</translation>
+    </message>
+    <message>
+        <source>Record only in the selected time, and replace what the channel has there</source>
+        <translation type="unfinished">Nur in der gewählten Zeit aufnehmen und ersetzen, was der Kanal dort hat</translation>
+    </message>
+    <message>
+        <source>Metronome and Count-&amp;In</source>
+        <translation type="unfinished">Metronom und Ein&amp;zählen</translation>
+    </message>
+    <message>
+        <source>&amp;Takes</source>
+        <translation type="unfinished">A&amp;ufnahmen</translation>
+    </message>
+    <message>
+        <source>Metronome</source>
+        <translation type="unfinished">Metronom</translation>
+    </message>
+    <message>
+        <source>While Recording and Playing</source>
+        <translation type="unfinished">Beim Aufnehmen und Abspielen</translation>
+    </message>
+    <message>
+        <source>Only While Recording</source>
+        <translation type="unfinished">Nur beim Aufnehmen</translation>
+    </message>
+    <message>
+        <source>Only While Playing</source>
+        <translation type="unfinished">Nur beim Abspielen</translation>
+    </message>
+    <message>
+        <source>Click Between the Beats</source>
+        <translation type="unfinished">Zwischen den Schlägen klicken</translation>
+    </message>
+    <message>
+        <source>Count-In</source>
+        <translation type="unfinished">Einzählen</translation>
+    </message>
+    <message>
+        <source>No Count-In</source>
+        <translation type="unfinished">Nicht einzählen</translation>
+    </message>
+    <message>
+        <source>One Bar</source>
+        <translation type="unfinished">Ein Takt</translation>
+    </message>
+    <message>
+        <source>Two Bars</source>
+        <translation type="unfinished">Zwei Takte</translation>
+    </message>
+    <message>
+        <source>Volume of the metronome</source>
+        <translation type="unfinished">Lautstärke des Metronoms</translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished">&amp;Lautstärke</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Aufnahme %1: %n Note</numerusform>
+            <numerusform>Aufnahme %1: %n Noten</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RollActions</name>
+    <message>
+        <source>View</source>
+        <translation type="unfinished">Ansicht</translation>
+    </message>
+    <message>
+        <source>Lane</source>
+        <translation type="unfinished">Spur</translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
         <translation type="unfinished">%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SelectDialog</name>
+    <message>
+        <source>Select Notes</source>
+        <translation type="unfinished">Noten auswählen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished">Alle</translation>
+    </message>
+    <message>
+        <source>&amp;Voice:</source>
+        <translation type="unfinished">&amp;Stimme:</translation>
+    </message>
+    <message>
+        <source>&amp;Keys:</source>
+        <translation type="unfinished">&amp;Tasten:</translation>
+    </message>
+    <message>
+        <source>V&amp;elocities:</source>
+        <translation type="unfinished">&amp;Anschlagstärken:</translation>
+    </message>
+    <message>
+        <source>Lowest key</source>
+        <translation type="unfinished">Tiefste Taste</translation>
+    </message>
+    <message>
+        <source>Highest key</source>
+        <translation type="unfinished">Höchste Taste</translation>
+    </message>
+    <message>
+        <source>Softest velocity</source>
+        <translation type="unfinished">Kleinste Anschlagstärke</translation>
+    </message>
+    <message>
+        <source>Loudest velocity</source>
+        <translation type="unfinished">Größte Anschlagstärke</translation>
     </message>
 </context>
 <context>
@@ -1772,10 +2266,6 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Snap to &amp;Grid</source>
         <translation type="unfinished">Am &amp;Raster ausrichten</translation>
-    </message>
-    <message>
-        <source>Align notes and times with whole steps</source>
-        <translation type="unfinished">Richtet Noten und Zeiten an ganzen Schritten aus</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -1913,6 +2403,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Make Notes &amp;Shorter</source>
         <translation type="unfinished">Noten &amp;kürzer</translation>
     </message>
+    <message>
+        <source>Align notes and times with the lines of the grid</source>
+        <translation type="unfinished">Noten und Zeiten an den Linien des Rasters ausrichten</translation>
+    </message>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Verlauf der Bearbeitungen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -1967,6 +2465,59 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">
             <numerusform>Einfügen von %n Note</numerusform>
             <numerusform>Einfügen von %n Noten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose Take %1</source>
+        <translation type="unfinished">Aufnahme %1 wählen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quantise %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Quantisieren von %n Note</numerusform>
+            <numerusform>Quantisieren von %n Noten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Transpose %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Transponieren von %n Note</numerusform>
+            <numerusform>Transponieren von %n Noten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Verdoppeln von %n Note</numerusform>
+            <numerusform>Verdoppeln von %n Noten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Split %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Teilen von %n Note</numerusform>
+            <numerusform>Teilen von %n Noten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Join %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Verbinden von %n Note</numerusform>
+            <numerusform>Verbinden von %n Noten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Connect %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Binden von %n Note</numerusform>
+            <numerusform>Binden von %n Noten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Change Velocity of %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Ändern der Anschlagstärke von %n Note</numerusform>
+            <numerusform>Ändern der Anschlagstärke von %n Noten</numerusform>
         </translation>
     </message>
 </context>
@@ -2128,6 +2679,10 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Waiting for %1; not %2</source>
         <translation type="unfinished">Wartet auf %1; nicht %2</translation>
+    </message>
+    <message>
+        <source>Counting in</source>
+        <translation type="unfinished">Es wird eingezählt</translation>
     </message>
 </context>
 <context>
@@ -2454,6 +3009,22 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
         <translation type="unfinished">Das Stück für ein Notensatzprogramm aufschreiben, mit den Namen, die die Stimmung den Noten gibt</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Üben</translation>
+    </message>
+    <message>
+        <source>Practise the piece, a hand or a voice of it</source>
+        <translation type="unfinished">Das Stück üben, eine Hand oder eine Stimme davon</translation>
+    </message>
+    <message>
+        <source>Show who plays the piece</source>
+        <translation type="unfinished">Zeigt, wer das Stück spielt</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Stimmen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2609,6 +3180,13 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
 To the sound card: %L1 ms. Lost periods: %L2.</source>
         <translation type="unfinished">
 Bis zur Soundkarte: %L1 ms. Verlorene Perioden: %L2.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StageView</name>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 verlässt die Bühne</translation>
     </message>
 </context>
 <context>
@@ -2862,6 +3440,189 @@ Ein Klick zeigt alle Stimmungen</translation>
     </message>
 </context>
 <context>
+    <name>velmora::TimeActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Stück</translation>
+    </message>
+    <message>
+        <source>Ta&amp;p Tempo</source>
+        <translation type="unfinished">Tempo &amp;klopfen</translation>
+    </message>
+    <message>
+        <source>Tap repeatedly to set the tempo of the piece at the position</source>
+        <translation type="unfinished">Wiederholt klopfen, um das Tempo des Stücks an der Position zu setzen</translation>
+    </message>
+    <message>
+        <source>Tempo &amp;and Signatures</source>
+        <translation type="unfinished">&amp;Tempo und Vorzeichnung</translation>
+    </message>
+    <message>
+        <source>Tap</source>
+        <translation type="unfinished">Klopfen</translation>
+    </message>
+    <message>
+        <source>Tap Tempo</source>
+        <translation type="unfinished">Tempo klopfen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeEntryDialog</name>
+    <message>
+        <source>Add &amp;Tempo…</source>
+        <translation type="unfinished">&amp;Tempo hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add Time &amp;Signature…</source>
+        <translation type="unfinished">T&amp;aktart hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add &amp;Key Signature…</source>
+        <translation type="unfinished">T&amp;onart hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add &amp;Marker…</source>
+        <translation type="unfinished">&amp;Marke hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add Tempo</source>
+        <translation type="unfinished">Tempo hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Time Signature</source>
+        <translation type="unfinished">Taktart hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Key Signature</source>
+        <translation type="unfinished">Tonart hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation type="unfinished">Marke hinzufügen</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Tempo ändern</translation>
+    </message>
+    <message>
+        <source>Change Time Signature</source>
+        <translation type="unfinished">Taktart ändern</translation>
+    </message>
+    <message>
+        <source>Change Key Signature</source>
+        <translation type="unfinished">Tonart ändern</translation>
+    </message>
+    <message>
+        <source>Change Marker</source>
+        <translation type="unfinished">Marke ändern</translation>
+    </message>
+    <message>
+        <source>Delete Tempo</source>
+        <translation type="unfinished">Tempo löschen</translation>
+    </message>
+    <message>
+        <source>Delete Time Signature</source>
+        <translation type="unfinished">Taktart löschen</translation>
+    </message>
+    <message>
+        <source>Delete Key Signature</source>
+        <translation type="unfinished">Tonart löschen</translation>
+    </message>
+    <message>
+        <source>Delete Marker</source>
+        <translation type="unfinished">Marke löschen</translation>
+    </message>
+    <message>
+        <source>A♭ E♭ B♭ F C G D A E B F♯ C♯ G♯ D♯ A♯</source>
+        <comment>minor keys</comment>
+        <translation type="unfinished">as es b f c g d a e h fis cis gis dis ais</translation>
+    </message>
+    <message>
+        <source>C♭ G♭ D♭ A♭ E♭ B♭ F C G D A E B F♯ C♯</source>
+        <comment>major keys</comment>
+        <translation type="unfinished">Ces Ges Des As Es B F C G D A E H Fis Cis</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1-Moll</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1-Dur</translation>
+    </message>
+    <message>
+        <source>Tempo</source>
+        <translation type="unfinished">Tempo</translation>
+    </message>
+    <message>
+        <source>Time Signature</source>
+        <translation type="unfinished">Taktart</translation>
+    </message>
+    <message>
+        <source>Key Signature</source>
+        <translation type="unfinished">Tonart</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation type="unfinished">Marke</translation>
+    </message>
+    <message>
+        <source> bpm</source>
+        <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo:</source>
+        <translation type="unfinished">&amp;Tempo:</translation>
+    </message>
+    <message>
+        <source>&amp;Notes in a bar:</source>
+        <translation type="unfinished">&amp;Noten im Takt:</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>&amp;Value of a note:</source>
+        <translation type="unfinished">&amp;Wert einer Note:</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation type="unfinished">T&amp;onart:</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation type="unfinished">Te&amp;xt:</translation>
+    </message>
+    <message>
+        <source>&amp;Bar:</source>
+        <translation type="unfinished">Ta&amp;kt:</translation>
+    </message>
+    <message>
+        <source>B&amp;eat:</source>
+        <translation type="unfinished">&amp;Schlag:</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeLane</name>
+    <message>
+        <source>Tempo and signatures</source>
+        <translation type="unfinished">Tempo und Vorzeichnung</translation>
+    </message>
+    <message>
+        <source>Tempos, time signatures, key signatures and markers. Double-click to add or change one, drag it to move it, and press Delete to remove it.</source>
+        <translation type="unfinished">Tempi, Taktarten, Tonarten und Marken. Ein Doppelklick fügt etwas hinzu oder ändert es, Ziehen verschiebt es, und Entf entfernt es.</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation type="unfinished">Ä&amp;ndern …</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Löschen</translation>
+    </message>
+</context>
+<context>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
@@ -2891,20 +3652,12 @@ Ein Klick zeigt alle Stimmungen</translation>
         <translation type="unfinished">Spielen</translation>
     </message>
     <message>
-        <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished">Die Position in Minuten und Sekunden bei diesem Tempo und in Schritten</translation>
-    </message>
-    <message>
         <source>Te&amp;mpo</source>
         <translation type="unfinished">Temp&amp;o</translation>
     </message>
     <message>
         <source>Tempo</source>
         <translation type="unfinished">Tempo</translation>
-    </message>
-    <message>
-        <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished">Das Tempo beim Spielen und Aufnehmen in Schlägen pro Minute</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
@@ -2925,6 +3678,47 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>Takes</source>
+        <translation type="unfinished">Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Choose one of the takes that were recorded in the loop</source>
+        <translation type="unfinished">Eine der Aufnahmen wählen, die in der Schleife entstanden sind</translation>
+    </message>
+    <message>
+        <source>Count-in: %1</source>
+        <translation type="unfinished">Einzählen: %1</translation>
+    </message>
+    <message>
+        <source>The position in minutes and seconds at this speed, and in bars and beats</source>
+        <translation type="unfinished">Die Position in Minuten und Sekunden bei dieser Geschwindigkeit und in Takten und Schlägen</translation>
+    </message>
+    <message>
+        <source>The tempo of the piece at the position in beats per minute (Alt+M)</source>
+        <translation type="unfinished">Das Tempo des Stücks an der Position in Schlägen pro Minute (Alt+M)</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>How fast the piece is played, as a part of its tempo. It is not saved with the piece.</source>
+        <translation type="unfinished">Wie schnell das Stück gespielt wird, als Anteil seines Tempos. Das wird nicht mit dem Stück gespeichert.</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Tempo ändern</translation>
+    </message>
+    <message>
+        <source>%1  ·  bar %2, beat %3</source>
+        <translation type="unfinished">%1  ·  Takt %2, Schlag %3</translation>
     </message>
 </context>
 <context>
@@ -3227,6 +4021,145 @@ Ein Klick zeigt alle Stimmungen</translation>
     </message>
 </context>
 <context>
+    <name>velmora::UndoHistory</name>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Verlauf der Bearbeitungen</translation>
+    </message>
+    <message>
+        <source>Edits of the piece</source>
+        <translation type="unfinished">Bearbeitungen des Stücks</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation type="unfinished">Wie geöffnet</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VelocityLane</name>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished">Anschlagstärken</translation>
+    </message>
+    <message>
+        <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
+        <translation type="unfinished">Ziehen Sie über die Balken, um die Anschlagstärken zu ändern. Mit der Umschalttaste folgen sie einer geraden Linie. Sind Noten ausgewählt, ändern sich nur diese.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoiceRow</name>
+    <message>
+        <source>Record and draw on this voice; double-click to select its notes</source>
+        <translation type="unfinished">Auf dieser Stimme aufnehmen und zeichnen; ein Doppelklick wählt ihre Noten aus</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>mute</comment>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">Stumm</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>solo</comment>
+        <translation type="unfinished">S</translation>
+    </message>
+    <message>
+        <source>Solo: only such voices sound</source>
+        <translation type="unfinished">Solo: nur solche Stimmen klingen</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <comment>lock</comment>
+        <translation type="unfinished">G</translation>
+    </message>
+    <message>
+        <source>Lock: protect its notes from edits</source>
+        <translation type="unfinished">Gesperrt: schützt die Noten vor Änderungen</translation>
+    </message>
+    <message>
+        <source>Drum kit %1</source>
+        <translation type="unfinished">Schlagzeug %1</translation>
+    </message>
+    <message>
+        <source>Program %1 of bank %2</source>
+        <translation type="unfinished">Programm %1 von Bank %2</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Stimme %1</translation>
+    </message>
+    <message>
+        <source>Record and draw on %1</source>
+        <translation type="unfinished">Auf %1 aufnehmen und zeichnen</translation>
+    </message>
+    <message>
+        <source>Name of voice %1</source>
+        <translation type="unfinished">Name der Stimme %1</translation>
+    </message>
+    <message>
+        <source>Program of %1</source>
+        <translation type="unfinished">Programm von %1</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Lautstärke von %1</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation type="unfinished">%1 stumm schalten</translation>
+    </message>
+    <message>
+        <source>Solo %1</source>
+        <translation type="unfinished">%1 solo</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation type="unfinished">%1 sperren</translation>
+    </message>
+    <message>
+        <source>What the voice plays</source>
+        <translation type="unfinished">Was die Stimme spielt</translation>
+    </message>
+    <message>
+        <source>This instrument plays every voice alike</source>
+        <translation type="unfinished">Dieses Instrument spielt alle Stimmen gleich</translation>
+    </message>
+    <message>
+        <source>How loud the voice is, from 0 to 127</source>
+        <translation type="unfinished">Wie laut die Stimme ist, von 0 bis 127</translation>
+    </message>
+    <message>
+        <source>Like the instrument</source>
+        <translation type="unfinished">Wie das Instrument</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoicesPanel</name>
+    <message>
+        <source>Otherwise the instrument plays every voice alike</source>
+        <translation type="unfinished">Sonst spielt das Instrument alle Stimmen gleich</translation>
+    </message>
+    <message>
+        <source>Rename Voice</source>
+        <translation type="unfinished">Stimme umbenennen</translation>
+    </message>
+    <message>
+        <source>Change Program of Voice</source>
+        <translation type="unfinished">Programm der Stimme ändern</translation>
+    </message>
+    <message>
+        <source>Change Volume of Voice</source>
+        <translation type="unfinished">Lautstärke der Stimme ändern</translation>
+    </message>
+    <message>
+        <source>Every voice has its own sound</source>
+        <translation type="unfinished">Jede Stimme hat ihren eigenen Klang</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
@@ -3273,10 +4206,6 @@ Ein Klick zeigt alle Stimmungen</translation>
         <translation type="unfinished">Alles still</translation>
     </message>
     <message>
-        <source>%1 leaves the stage</source>
-        <translation type="unfinished">%1 verlässt die Bühne</translation>
-    </message>
-    <message>
         <source>Console</source>
         <translation type="unfinished">Spieltisch</translation>
     </message>
@@ -3287,6 +4216,14 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Stimmstudio</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Üben</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Stimmen</translation>
     </message>
 </context>
 <context>
@@ -3870,6 +4807,42 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>%1, line %2, column %3: %4</source>
         <translation type="unfinished">%1, Zeile %2, Spalte %3: %4</translation>
+    </message>
+    <message>
+        <source>the XML is damaged: %1</source>
+        <translation type="unfinished">das XML ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and only a part of it could be read. To keep what may still be in it, save the piece under another name.</source>
+        <translation type="unfinished">Die Datei ist beschädigt, und nur ein Teil von ihr konnte gelesen werden. Damit erhalten bleibt, was noch in ihr stehen mag, speichern Sie das Stück unter einem anderen Namen.</translation>
+    </message>
+    <message>
+        <source>is not a MusicXML score</source>
+        <translation type="unfinished">ist keine MusicXML-Partitur</translation>
+    </message>
+    <message>
+        <source>is an archive, but not of a score</source>
+        <translation type="unfinished">ist ein Archiv, aber nicht das einer Partitur</translation>
+    </message>
+    <message>
+        <source>the score &quot;%1&quot; is missing from the archive</source>
+        <translation type="unfinished">die Partitur „%1“ fehlt im Archiv</translation>
+    </message>
+    <message>
+        <source>the score has no parts</source>
+        <translation type="unfinished">die Partitur hat keine Stimmen</translation>
+    </message>
+    <message>
+        <source>the score has too many parts</source>
+        <translation type="unfinished">die Partitur hat zu viele Stimmen</translation>
+    </message>
+    <message>
+        <source>measure %1 is too long</source>
+        <translation type="unfinished">Takt %1 ist zu lang</translation>
+    </message>
+    <message>
+        <source>the music is too long</source>
+        <translation type="unfinished">die Musik ist zu lang</translation>
     </message>
 </context>
 <context>

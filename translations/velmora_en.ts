@@ -39,6 +39,50 @@
     </message>
 </context>
 <context>
+    <name>velmora::OutlyingNotes</name>
+    <message numerus="yes">
+        <source>%n note(s) below %1</source>
+        <translation>
+            <numerusform>%n note below %1</numerusform>
+            <numerusform>%n notes below %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) above %1</source>
+        <translation>
+            <numerusform>%n note above %1</numerusform>
+            <numerusform>%n notes above %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::QuantiseDialog</name>
+    <message numerus="yes">
+        <source>Moves all %n note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>Moves the only note to the grid.</numerusform>
+            <numerusform>Moves all %n notes to the grid.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves %n selected note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>Moves %n selected note to the grid.</numerusform>
+            <numerusform>Moves %n selected notes to the grid.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RecordingActions</name>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Take %1: %n note</numerusform>
+            <numerusform>Take %1: %n notes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::SequenceDocument</name>
     <message numerus="yes">
         <source>Record %n Note(s)</source>
@@ -87,6 +131,55 @@
         <translation>
             <numerusform>Paste %n Note</numerusform>
             <numerusform>Paste %n Notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Quantise %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Quantise %n Note</numerusform>
+            <numerusform>Quantise %n Notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Transpose %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Transpose %n Note</numerusform>
+            <numerusform>Transpose %n Notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Duplicate %n Note</numerusform>
+            <numerusform>Duplicate %n Notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Split %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Split %n Note</numerusform>
+            <numerusform>Split %n Notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Join %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Join %n Note</numerusform>
+            <numerusform>Join %n Notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Connect %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Connect %n Note</numerusform>
+            <numerusform>Connect %n Notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Change Velocity of %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Change Velocity of %n Note</numerusform>
+            <numerusform>Change Velocity of %n Notes</numerusform>
         </translation>
     </message>
 </context>

@@ -646,6 +646,77 @@ Un clic lo saca o lo cierra</translation>
     </message>
 </context>
 <context>
+    <name>velmora::EditingActions</name>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished">Editar</translation>
+    </message>
+    <message>
+        <source>Select by Voice or Velocity…</source>
+        <translation type="unfinished">Seleccionar por voz o velocidad…</translation>
+    </message>
+    <message>
+        <source>Select the notes of a voice, of some keys and velocities</source>
+        <translation type="unfinished">Seleccionar las notas de una voz y de ciertas teclas y velocidades</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished">Duplicar</translation>
+    </message>
+    <message>
+        <source>Quantise…</source>
+        <translation type="unfinished">Cuantizar…</translation>
+    </message>
+    <message>
+        <source>Move notes to the grid</source>
+        <translation type="unfinished">Mover las notas a la cuadrícula</translation>
+    </message>
+    <message>
+        <source>Split Notes at the Position</source>
+        <translation type="unfinished">Dividir las notas en la posición</translation>
+    </message>
+    <message>
+        <source>Join Notes</source>
+        <translation type="unfinished">Unir notas</translation>
+    </message>
+    <message>
+        <source>Connect Notes (Legato)</source>
+        <translation type="unfinished">Ligar notas (legato)</translation>
+    </message>
+    <message>
+        <source>Move Notes an Octave Up</source>
+        <translation type="unfinished">Subir las notas una octava</translation>
+    </message>
+    <message>
+        <source>Move Notes an Octave Down</source>
+        <translation type="unfinished">Bajar las notas una octava</translation>
+    </message>
+    <message>
+        <source>Nudge Notes Later</source>
+        <translation type="unfinished">Retrasar un poco las notas</translation>
+    </message>
+    <message>
+        <source>Nudge Notes Earlier</source>
+        <translation type="unfinished">Adelantar un poco las notas</translation>
+    </message>
+    <message>
+        <source>Make Notes Louder</source>
+        <translation type="unfinished">Notas más fuertes</translation>
+    </message>
+    <message>
+        <source>Make Notes Softer</source>
+        <translation type="unfinished">Notas más suaves</translation>
+    </message>
+    <message>
+        <source>Hear Notes</source>
+        <translation type="unfinished">Oír las notas</translation>
+    </message>
+    <message>
+        <source>Sound notes that are pressed or drawn</source>
+        <translation type="unfinished">Hacer sonar las notas que se pulsan o dibujan</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -674,6 +745,13 @@ Un clic lo saca o lo cierra</translation>
     <message>
         <source>%1 was not exported. %2</source>
         <translation type="unfinished">No se exportó %1. %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FallingNotes</name>
+    <message>
+        <source>Falling notes</source>
+        <translation type="unfinished">Notas que caen</translation>
     </message>
 </context>
 <context>
@@ -1121,6 +1199,21 @@ Elegir otro instrumento, abrir uno o retirarlo</translation>
     </message>
 </context>
 <context>
+    <name>velmora::Lanes</name>
+    <message>
+        <source>&amp;No Lane</source>
+        <translation type="unfinished">&amp;Ningún carril</translation>
+    </message>
+    <message>
+        <source>&amp;Velocities</source>
+        <translation type="unfinished">&amp;Velocidades</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo and Signatures</source>
+        <translation type="unfinished">&amp;Tempo y compases</translation>
+    </message>
+</context>
+<context>
     <name>velmora::LanguageFields</name>
     <message>
         <source>The language changes when you start Velmora again.</source>
@@ -1380,6 +1473,27 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
 </context>
 <context>
+    <name>velmora::OutlyingNotes</name>
+    <message>
+        <source>The keyboard does not show these keys. Click to go to the first note.</source>
+        <translation type="unfinished">El teclado no muestra estas teclas. Haga clic para ir a la primera nota.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) below %1</source>
+        <translation type="unfinished">
+            <numerusform>%n nota por debajo de %1</numerusform>
+            <numerusform>%n notas por debajo de %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) above %1</source>
+        <translation type="unfinished">
+            <numerusform>%n nota por encima de %1</numerusform>
+            <numerusform>%n notas por encima de %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>
@@ -1487,6 +1601,201 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
         <translation type="unfinished">Las teclas desafinadas de una SoundFont se miden al usar un programa por primera vez y se corrigen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePanel</name>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Slow down after mistakes</source>
+        <translation type="unfinished">Más lento tras errores</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Repeat bars</source>
+        <translation type="unfinished">Repetir compases</translation>
+    </message>
+    <message>
+        <source>Show falling notes</source>
+        <translation type="unfinished">Mostrar las notas que caen</translation>
+    </message>
+    <message>
+        <source>Both hands</source>
+        <translation type="unfinished">Ambas manos</translation>
+    </message>
+    <message>
+        <source>Right hand</source>
+        <translation type="unfinished">Mano derecha</translation>
+    </message>
+    <message>
+        <source>Left hand</source>
+        <translation type="unfinished">Mano izquierda</translation>
+    </message>
+    <message>
+        <source>The lowest key of the right hand</source>
+        <translation type="unfinished">La tecla más grave de la mano derecha</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voces</translation>
+    </message>
+    <message>
+        <source>The voices that you play; the others play along</source>
+        <translation type="unfinished">Las voces que toca usted; las demás acompañan</translation>
+    </message>
+    <message>
+        <source>What a pass without a mistake adds to the speed</source>
+        <translation type="unfinished">Lo que una pasada sin errores añade a la velocidad</translation>
+    </message>
+    <message>
+        <source>How early a key may be, and how long a chord may be rolled</source>
+        <translation type="unfinished">Cuánto puede adelantarse una tecla y cuánto puede durar un acorde arpegiado</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>bars</comment>
+        <translation type="unfinished">a</translation>
+    </message>
+    <message>
+        <source>First bar</source>
+        <translation type="unfinished">Primer compás</translation>
+    </message>
+    <message>
+        <source>Last bar</source>
+        <translation type="unfinished">Último compás</translation>
+    </message>
+    <message>
+        <source>Play:</source>
+        <translation type="unfinished">Tocar:</translation>
+    </message>
+    <message>
+        <source>Split at:</source>
+        <translation type="unfinished">Dividir en:</translation>
+    </message>
+    <message>
+        <source>Voices:</source>
+        <translation type="unfinished">Voces:</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation type="unfinished">Velocidad:</translation>
+    </message>
+    <message>
+        <source>Faster by:</source>
+        <translation type="unfinished">Más rápido en:</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation type="unfinished">Tolerancia:</translation>
+    </message>
+    <message>
+        <source>Bars:</source>
+        <translation type="unfinished">Compases:</translation>
+    </message>
+    <message>
+        <source>There are no notes to practise. Choose other voices, another hand or other bars.</source>
+        <translation type="unfinished">No hay notas que practicar. Elija otras voces, otra mano u otros compases.</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voz %1</translation>
+    </message>
+    <message>
+        <source>Stop Practising</source>
+        <translation type="unfinished">Dejar de practicar</translation>
+    </message>
+    <message>
+        <source>Practise</source>
+        <translation type="unfinished">Practicar</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, passes: %3</source>
+        <translation type="unfinished">Correctas: %1, incorrectas: %2, pasadas: %3</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePicture</name>
+    <message>
+        <source>Right and wrong keys (hatched) by bar</source>
+        <translation type="unfinished">Teclas correctas e incorrectas (rayadas) por compás</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation type="unfinished">pronto</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation type="unfinished">tarde</translation>
+    </message>
+    <message>
+        <source>How early or late the keys were, in ms</source>
+        <translation type="unfinished">Cuánto se adelantaron o atrasaron las teclas, en ms</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeResults</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Sin título</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>The result of the practice was not kept: %1</source>
+        <translation type="unfinished">El resultado de la práctica no se guardó: %1</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation type="unfinished">Guardar imagen</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Práctica</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeWindow</name>
+    <message>
+        <source>Practice sessions</source>
+        <translation type="unfinished">Sesiones de práctica</translation>
+    </message>
+    <message>
+        <source>Result by bar and by time</source>
+        <translation type="unfinished">Resultado por compás y por tiempo</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation type="unfinished">Guardar &amp;imagen…</translation>
+    </message>
+    <message>
+        <source>Practice: %1</source>
+        <translation type="unfinished">Práctica: %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <comment>a time, a speed in percent</comment>
+        <translation type="unfinished">%1 al %2 %</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
+        <translation type="unfinished">Teclas correctas: %1 (%2 adelantadas, %3 atrasadas), incorrectas: %4. Pasadas: %5, sin errores: %6.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms early.</source>
+        <translation type="unfinished">De media, las teclas se adelantaron %1 ms.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms late.</source>
+        <translation type="unfinished">De media, las teclas se atrasaron %1 ms.</translation>
     </message>
 </context>
 <context>
@@ -1726,10 +2035,195 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     </message>
 </context>
 <context>
+    <name>velmora::QuantiseDialog</name>
+    <message>
+        <source> %</source>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Move the &amp;ends of notes as well</source>
+        <translation type="unfinished">Mover también los &amp;finales de las notas</translation>
+    </message>
+    <message>
+        <source>Quantise</source>
+        <translation type="unfinished">Cuantizar</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>1/%1 triplets</source>
+        <translation type="unfinished">tresillos de 1/%1</translation>
+    </message>
+    <message>
+        <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
+        <translation type="unfinished">Dónde empieza la segunda de dos unidades: 50 % es regular, 67 % tresillos</translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves all %n note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>Mueve la única nota a la cuadrícula.</numerusform>
+            <numerusform>Mueve las %n notas a la cuadrícula.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves %n selected note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>Mueve %n nota seleccionada a la cuadrícula.</numerusform>
+            <numerusform>Mueve %n notas seleccionadas a la cuadrícula.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Grid:</source>
+        <translation type="unfinished">&amp;Cuadrícula:</translation>
+    </message>
+    <message>
+        <source>&amp;Strength:</source>
+        <translation type="unfinished">&amp;Intensidad:</translation>
+    </message>
+    <message>
+        <source>S&amp;wing:</source>
+        <translation type="unfinished">S&amp;wing:</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RecordingActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Pieza</translation>
+    </message>
+    <message>
+        <source>&amp;Metronome</source>
+        <translation type="unfinished">&amp;Metrónomo</translation>
+    </message>
+    <message>
+        <source>Click on the beats</source>
+        <translation type="unfinished">Marca los tiempos con un clic</translation>
+    </message>
+    <message>
+        <source>P&amp;unch In</source>
+        <translation type="unfinished">Grabación por &amp;pinchazo</translation>
+    </message>
+    <message>
+        <source>Record only in the selected time, and replace what the channel has there</source>
+        <translation type="unfinished">Graba solo en el tiempo seleccionado y sustituye lo que el canal tiene allí</translation>
+    </message>
+    <message>
+        <source>Metronome and Count-&amp;In</source>
+        <translation type="unfinished">Metrónomo y compases de &amp;entrada</translation>
+    </message>
+    <message>
+        <source>&amp;Takes</source>
+        <translation type="unfinished">&amp;Tomas</translation>
+    </message>
+    <message>
+        <source>Metronome</source>
+        <translation type="unfinished">Metrónomo</translation>
+    </message>
+    <message>
+        <source>While Recording and Playing</source>
+        <translation type="unfinished">Al grabar y al reproducir</translation>
+    </message>
+    <message>
+        <source>Only While Recording</source>
+        <translation type="unfinished">Solo al grabar</translation>
+    </message>
+    <message>
+        <source>Only While Playing</source>
+        <translation type="unfinished">Solo al reproducir</translation>
+    </message>
+    <message>
+        <source>Click Between the Beats</source>
+        <translation type="unfinished">Clic entre los tiempos</translation>
+    </message>
+    <message>
+        <source>Count-In</source>
+        <translation type="unfinished">Compases de entrada</translation>
+    </message>
+    <message>
+        <source>No Count-In</source>
+        <translation type="unfinished">Sin compases de entrada</translation>
+    </message>
+    <message>
+        <source>One Bar</source>
+        <translation type="unfinished">Un compás</translation>
+    </message>
+    <message>
+        <source>Two Bars</source>
+        <translation type="unfinished">Dos compases</translation>
+    </message>
+    <message>
+        <source>Volume of the metronome</source>
+        <translation type="unfinished">Volumen del metrónomo</translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished">&amp;Volumen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Toma %1: %n nota</numerusform>
+            <numerusform>Toma %1: %n notas</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RollActions</name>
+    <message>
+        <source>View</source>
+        <translation type="unfinished">Ver</translation>
+    </message>
+    <message>
+        <source>Lane</source>
+        <translation type="unfinished">Carril</translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
         <translation type="unfinished">%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SelectDialog</name>
+    <message>
+        <source>Select Notes</source>
+        <translation type="unfinished">Seleccionar notas</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished">Todos</translation>
+    </message>
+    <message>
+        <source>&amp;Voice:</source>
+        <translation type="unfinished">&amp;Voz:</translation>
+    </message>
+    <message>
+        <source>&amp;Keys:</source>
+        <translation type="unfinished">&amp;Teclas:</translation>
+    </message>
+    <message>
+        <source>V&amp;elocities:</source>
+        <translation type="unfinished">V&amp;elocidades:</translation>
+    </message>
+    <message>
+        <source>Lowest key</source>
+        <translation type="unfinished">Tecla más grave</translation>
+    </message>
+    <message>
+        <source>Highest key</source>
+        <translation type="unfinished">Tecla más aguda</translation>
+    </message>
+    <message>
+        <source>Softest velocity</source>
+        <translation type="unfinished">Velocidad mínima</translation>
+    </message>
+    <message>
+        <source>Loudest velocity</source>
+        <translation type="unfinished">Velocidad máxima</translation>
     </message>
 </context>
 <context>
@@ -1772,10 +2266,6 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Snap to &amp;Grid</source>
         <translation type="unfinished">Ajustar a la &amp;cuadrícula</translation>
-    </message>
-    <message>
-        <source>Align notes and times with whole steps</source>
-        <translation type="unfinished">Alinear las notas y los tiempos con pasos enteros</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -1913,6 +2403,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Make Notes &amp;Shorter</source>
         <translation type="unfinished">A&amp;cortar las notas</translation>
     </message>
+    <message>
+        <source>Align notes and times with the lines of the grid</source>
+        <translation type="unfinished">Ajustar notas y tiempos a las líneas de la cuadrícula</translation>
+    </message>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Historial de cambios</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -1967,6 +2465,59 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <translation type="unfinished">
             <numerusform>Pegar %n nota</numerusform>
             <numerusform>Pegar %n notas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose Take %1</source>
+        <translation type="unfinished">Elegir la toma %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quantise %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Cuantizar %n nota</numerusform>
+            <numerusform>Cuantizar %n notas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Transpose %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Transportar %n nota</numerusform>
+            <numerusform>Transportar %n notas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Duplicar %n nota</numerusform>
+            <numerusform>Duplicar %n notas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Split %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Dividir %n nota</numerusform>
+            <numerusform>Dividir %n notas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Join %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Unir %n nota</numerusform>
+            <numerusform>Unir %n notas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Connect %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Ligar %n nota</numerusform>
+            <numerusform>Ligar %n notas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Change Velocity of %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Cambiar la velocidad de %n nota</numerusform>
+            <numerusform>Cambiar la velocidad de %n notas</numerusform>
         </translation>
     </message>
 </context>
@@ -2128,6 +2679,10 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Waiting for %1; not %2</source>
         <translation type="unfinished">Esperando %1; no %2</translation>
+    </message>
+    <message>
+        <source>Counting in</source>
+        <translation type="unfinished">Contando los compases de entrada</translation>
     </message>
 </context>
 <context>
@@ -2454,6 +3009,22 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
         <translation type="unfinished">Escribir la pieza para un programa de notación, con los nombres que la afinación da a las notas</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Práctica</translation>
+    </message>
+    <message>
+        <source>Practise the piece, a hand or a voice of it</source>
+        <translation type="unfinished">Practicar la pieza, una mano o una voz</translation>
+    </message>
+    <message>
+        <source>Show who plays the piece</source>
+        <translation type="unfinished">Muestra quién toca la pieza</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voces</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2609,6 +3180,13 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
 To the sound card: %L1 ms. Lost periods: %L2.</source>
         <translation type="unfinished">
 Hasta la tarjeta de sonido: %L1 ms. Periodos perdidos: %L2.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StageView</name>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 sale del escenario</translation>
     </message>
 </context>
 <context>
@@ -2862,6 +3440,189 @@ Haga clic para ver todas las afinaciones</translation>
     </message>
 </context>
 <context>
+    <name>velmora::TimeActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Pieza</translation>
+    </message>
+    <message>
+        <source>Ta&amp;p Tempo</source>
+        <translation type="unfinished">Marcar el tem&amp;po</translation>
+    </message>
+    <message>
+        <source>Tap repeatedly to set the tempo of the piece at the position</source>
+        <translation type="unfinished">Pulse varias veces para fijar el tempo de la pieza en la posición</translation>
+    </message>
+    <message>
+        <source>Tempo &amp;and Signatures</source>
+        <translation type="unfinished">Tempo &amp;y compases</translation>
+    </message>
+    <message>
+        <source>Tap</source>
+        <translation type="unfinished">Marcar</translation>
+    </message>
+    <message>
+        <source>Tap Tempo</source>
+        <translation type="unfinished">Marcar el tempo</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeEntryDialog</name>
+    <message>
+        <source>Add &amp;Tempo…</source>
+        <translation type="unfinished">Añadir &amp;tempo…</translation>
+    </message>
+    <message>
+        <source>Add Time &amp;Signature…</source>
+        <translation type="unfinished">Añadir &amp;compás…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Key Signature…</source>
+        <translation type="unfinished">Añadir &amp;armadura…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Marker…</source>
+        <translation type="unfinished">Añadir &amp;marca…</translation>
+    </message>
+    <message>
+        <source>Add Tempo</source>
+        <translation type="unfinished">Añadir tempo</translation>
+    </message>
+    <message>
+        <source>Add Time Signature</source>
+        <translation type="unfinished">Añadir compás</translation>
+    </message>
+    <message>
+        <source>Add Key Signature</source>
+        <translation type="unfinished">Añadir armadura</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation type="unfinished">Añadir marca</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Cambiar tempo</translation>
+    </message>
+    <message>
+        <source>Change Time Signature</source>
+        <translation type="unfinished">Cambiar compás</translation>
+    </message>
+    <message>
+        <source>Change Key Signature</source>
+        <translation type="unfinished">Cambiar armadura</translation>
+    </message>
+    <message>
+        <source>Change Marker</source>
+        <translation type="unfinished">Cambiar marca</translation>
+    </message>
+    <message>
+        <source>Delete Tempo</source>
+        <translation type="unfinished">Eliminar tempo</translation>
+    </message>
+    <message>
+        <source>Delete Time Signature</source>
+        <translation type="unfinished">Eliminar compás</translation>
+    </message>
+    <message>
+        <source>Delete Key Signature</source>
+        <translation type="unfinished">Eliminar armadura</translation>
+    </message>
+    <message>
+        <source>Delete Marker</source>
+        <translation type="unfinished">Eliminar marca</translation>
+    </message>
+    <message>
+        <source>A♭ E♭ B♭ F C G D A E B F♯ C♯ G♯ D♯ A♯</source>
+        <comment>minor keys</comment>
+        <translation type="unfinished">La♭ Mi♭ Si♭ Fa Do Sol Re La Mi Si Fa♯ Do♯ Sol♯ Re♯ La♯</translation>
+    </message>
+    <message>
+        <source>C♭ G♭ D♭ A♭ E♭ B♭ F C G D A E B F♯ C♯</source>
+        <comment>major keys</comment>
+        <translation type="unfinished">Do♭ Sol♭ Re♭ La♭ Mi♭ Si♭ Fa Do Sol Re La Mi Si Fa♯ Do♯</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1 menor</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1 mayor</translation>
+    </message>
+    <message>
+        <source>Tempo</source>
+        <translation type="unfinished">Tempo</translation>
+    </message>
+    <message>
+        <source>Time Signature</source>
+        <translation type="unfinished">Compás</translation>
+    </message>
+    <message>
+        <source>Key Signature</source>
+        <translation type="unfinished">Armadura</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation type="unfinished">Marca</translation>
+    </message>
+    <message>
+        <source> bpm</source>
+        <translation type="unfinished"> ppm</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo:</source>
+        <translation type="unfinished">&amp;Tempo:</translation>
+    </message>
+    <message>
+        <source>&amp;Notes in a bar:</source>
+        <translation type="unfinished">&amp;Notas por compás:</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>&amp;Value of a note:</source>
+        <translation type="unfinished">&amp;Valor de una nota:</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation type="unfinished">&amp;Tonalidad:</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation type="unfinished">&amp;Texto:</translation>
+    </message>
+    <message>
+        <source>&amp;Bar:</source>
+        <translation type="unfinished">&amp;Compás:</translation>
+    </message>
+    <message>
+        <source>B&amp;eat:</source>
+        <translation type="unfinished">&amp;Pulso:</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeLane</name>
+    <message>
+        <source>Tempo and signatures</source>
+        <translation type="unfinished">Tempo y compases</translation>
+    </message>
+    <message>
+        <source>Tempos, time signatures, key signatures and markers. Double-click to add or change one, drag it to move it, and press Delete to remove it.</source>
+        <translation type="unfinished">Tempos, compases, armaduras y marcas. Haga doble clic para añadir o cambiar uno, arrástrelo para moverlo y pulse Supr para eliminarlo.</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation type="unfinished">Ca&amp;mbiar…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Eliminar</translation>
+    </message>
+</context>
+<context>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
@@ -2891,20 +3652,12 @@ Haga clic para ver todas las afinaciones</translation>
         <translation type="unfinished">Reproducir</translation>
     </message>
     <message>
-        <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished">La posición en minutos y segundos con este tempo, y en pasos</translation>
-    </message>
-    <message>
         <source>Te&amp;mpo</source>
         <translation type="unfinished">Te&amp;mpo</translation>
     </message>
     <message>
         <source>Tempo</source>
         <translation type="unfinished">Tempo</translation>
-    </message>
-    <message>
-        <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished">El tempo de reproducción y grabación en pulsos por minuto (Alt+M)</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
@@ -2925,6 +3678,47 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> ppm</translation>
+    </message>
+    <message>
+        <source>Takes</source>
+        <translation type="unfinished">Tomas</translation>
+    </message>
+    <message>
+        <source>Choose one of the takes that were recorded in the loop</source>
+        <translation type="unfinished">Elija una de las tomas grabadas en el bucle</translation>
+    </message>
+    <message>
+        <source>Count-in: %1</source>
+        <translation type="unfinished">Entrada: %1</translation>
+    </message>
+    <message>
+        <source>The position in minutes and seconds at this speed, and in bars and beats</source>
+        <translation type="unfinished">La posición en minutos y segundos a esta velocidad, y en compases y pulsos</translation>
+    </message>
+    <message>
+        <source>The tempo of the piece at the position in beats per minute (Alt+M)</source>
+        <translation type="unfinished">El tempo de la pieza en la posición, en pulsos por minuto (Alt+M)</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">Velocidad</translation>
+    </message>
+    <message>
+        <source>How fast the piece is played, as a part of its tempo. It is not saved with the piece.</source>
+        <translation type="unfinished">A qué velocidad se toca la pieza, en relación con su tempo. No se guarda con la pieza.</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Cambiar tempo</translation>
+    </message>
+    <message>
+        <source>%1  ·  bar %2, beat %3</source>
+        <translation type="unfinished">%1  ·  compás %2, pulso %3</translation>
     </message>
 </context>
 <context>
@@ -3227,6 +4021,145 @@ Haga clic para ver todas las afinaciones</translation>
     </message>
 </context>
 <context>
+    <name>velmora::UndoHistory</name>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Historial de cambios</translation>
+    </message>
+    <message>
+        <source>Edits of the piece</source>
+        <translation type="unfinished">Cambios de la pieza</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation type="unfinished">Como se abrió</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VelocityLane</name>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished">Velocidades</translation>
+    </message>
+    <message>
+        <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
+        <translation type="unfinished">Arrastre sobre las barras para cambiar las velocidades. Con Mayús siguen una línea recta. Si hay notas seleccionadas, solo cambian ellas.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoiceRow</name>
+    <message>
+        <source>Record and draw on this voice; double-click to select its notes</source>
+        <translation type="unfinished">Graba y dibuja en esta voz; un doble clic selecciona sus notas</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>mute</comment>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">Silenciar</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>solo</comment>
+        <translation type="unfinished">S</translation>
+    </message>
+    <message>
+        <source>Solo: only such voices sound</source>
+        <translation type="unfinished">Solo: solo suenan estas voces</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <comment>lock</comment>
+        <translation type="unfinished">B</translation>
+    </message>
+    <message>
+        <source>Lock: protect its notes from edits</source>
+        <translation type="unfinished">Bloquear: protege sus notas de los cambios</translation>
+    </message>
+    <message>
+        <source>Drum kit %1</source>
+        <translation type="unfinished">Batería %1</translation>
+    </message>
+    <message>
+        <source>Program %1 of bank %2</source>
+        <translation type="unfinished">Programa %1 del banco %2</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voz %1</translation>
+    </message>
+    <message>
+        <source>Record and draw on %1</source>
+        <translation type="unfinished">Grabar y dibujar en %1</translation>
+    </message>
+    <message>
+        <source>Name of voice %1</source>
+        <translation type="unfinished">Nombre de la voz %1</translation>
+    </message>
+    <message>
+        <source>Program of %1</source>
+        <translation type="unfinished">Programa de %1</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Volumen de %1</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation type="unfinished">Silenciar %1</translation>
+    </message>
+    <message>
+        <source>Solo %1</source>
+        <translation type="unfinished">Solo de %1</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation type="unfinished">Bloquear %1</translation>
+    </message>
+    <message>
+        <source>What the voice plays</source>
+        <translation type="unfinished">Lo que toca la voz</translation>
+    </message>
+    <message>
+        <source>This instrument plays every voice alike</source>
+        <translation type="unfinished">Este instrumento toca todas las voces igual</translation>
+    </message>
+    <message>
+        <source>How loud the voice is, from 0 to 127</source>
+        <translation type="unfinished">La fuerza de la voz, de 0 a 127</translation>
+    </message>
+    <message>
+        <source>Like the instrument</source>
+        <translation type="unfinished">Como el instrumento</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoicesPanel</name>
+    <message>
+        <source>Otherwise the instrument plays every voice alike</source>
+        <translation type="unfinished">Si no, el instrumento toca todas las voces igual</translation>
+    </message>
+    <message>
+        <source>Rename Voice</source>
+        <translation type="unfinished">Cambiar el nombre de la voz</translation>
+    </message>
+    <message>
+        <source>Change Program of Voice</source>
+        <translation type="unfinished">Cambiar el programa de la voz</translation>
+    </message>
+    <message>
+        <source>Change Volume of Voice</source>
+        <translation type="unfinished">Cambiar el volumen de la voz</translation>
+    </message>
+    <message>
+        <source>Every voice has its own sound</source>
+        <translation type="unfinished">Cada voz tiene su propio sonido</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
@@ -3273,10 +4206,6 @@ Haga clic para ver todas las afinaciones</translation>
         <translation type="unfinished">Silenciar todo</translation>
     </message>
     <message>
-        <source>%1 leaves the stage</source>
-        <translation type="unfinished">%1 sale del escenario</translation>
-    </message>
-    <message>
         <source>Console</source>
         <translation type="unfinished">Consola</translation>
     </message>
@@ -3287,6 +4216,14 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Estudio de afinación</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Práctica</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voces</translation>
     </message>
 </context>
 <context>
@@ -3870,6 +4807,42 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>%1, line %2, column %3: %4</source>
         <translation type="unfinished">%1, línea %2, columna %3: %4</translation>
+    </message>
+    <message>
+        <source>the XML is damaged: %1</source>
+        <translation type="unfinished">el XML está dañado: %1</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and only a part of it could be read. To keep what may still be in it, save the piece under another name.</source>
+        <translation type="unfinished">El archivo está dañado y solo se pudo leer una parte. Para conservar lo que aún pueda contener, guarde la pieza con otro nombre.</translation>
+    </message>
+    <message>
+        <source>is not a MusicXML score</source>
+        <translation type="unfinished">no es una partitura MusicXML</translation>
+    </message>
+    <message>
+        <source>is an archive, but not of a score</source>
+        <translation type="unfinished">es un archivo comprimido, pero no de una partitura</translation>
+    </message>
+    <message>
+        <source>the score &quot;%1&quot; is missing from the archive</source>
+        <translation type="unfinished">falta la partitura «%1» en el archivo comprimido</translation>
+    </message>
+    <message>
+        <source>the score has no parts</source>
+        <translation type="unfinished">la partitura no tiene partes</translation>
+    </message>
+    <message>
+        <source>the score has too many parts</source>
+        <translation type="unfinished">la partitura tiene demasiadas partes</translation>
+    </message>
+    <message>
+        <source>measure %1 is too long</source>
+        <translation type="unfinished">el compás %1 es demasiado largo</translation>
+    </message>
+    <message>
+        <source>the music is too long</source>
+        <translation type="unfinished">la música es demasiado larga</translation>
     </message>
 </context>
 <context>

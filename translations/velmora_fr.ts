@@ -646,6 +646,77 @@ Un clic le tire ou le repousse</translation>
     </message>
 </context>
 <context>
+    <name>velmora::EditingActions</name>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished">Édition</translation>
+    </message>
+    <message>
+        <source>Select by Voice or Velocity…</source>
+        <translation type="unfinished">Sélectionner par voix ou vélocité…</translation>
+    </message>
+    <message>
+        <source>Select the notes of a voice, of some keys and velocities</source>
+        <translation type="unfinished">Sélectionner les notes d’une voix, de certaines touches et vélocités</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished">Dupliquer</translation>
+    </message>
+    <message>
+        <source>Quantise…</source>
+        <translation type="unfinished">Quantifier…</translation>
+    </message>
+    <message>
+        <source>Move notes to the grid</source>
+        <translation type="unfinished">Déplacer les notes sur la grille</translation>
+    </message>
+    <message>
+        <source>Split Notes at the Position</source>
+        <translation type="unfinished">Couper les notes à la position</translation>
+    </message>
+    <message>
+        <source>Join Notes</source>
+        <translation type="unfinished">Joindre les notes</translation>
+    </message>
+    <message>
+        <source>Connect Notes (Legato)</source>
+        <translation type="unfinished">Lier les notes (legato)</translation>
+    </message>
+    <message>
+        <source>Move Notes an Octave Up</source>
+        <translation type="unfinished">Monter les notes d’une octave</translation>
+    </message>
+    <message>
+        <source>Move Notes an Octave Down</source>
+        <translation type="unfinished">Descendre les notes d’une octave</translation>
+    </message>
+    <message>
+        <source>Nudge Notes Later</source>
+        <translation type="unfinished">Retarder un peu les notes</translation>
+    </message>
+    <message>
+        <source>Nudge Notes Earlier</source>
+        <translation type="unfinished">Avancer un peu les notes</translation>
+    </message>
+    <message>
+        <source>Make Notes Louder</source>
+        <translation type="unfinished">Notes plus fortes</translation>
+    </message>
+    <message>
+        <source>Make Notes Softer</source>
+        <translation type="unfinished">Notes plus douces</translation>
+    </message>
+    <message>
+        <source>Hear Notes</source>
+        <translation type="unfinished">Entendre les notes</translation>
+    </message>
+    <message>
+        <source>Sound notes that are pressed or drawn</source>
+        <translation type="unfinished">Faire sonner les notes cliquées ou dessinées</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -674,6 +745,13 @@ Un clic le tire ou le repousse</translation>
     <message>
         <source>%1 was not exported. %2</source>
         <translation type="unfinished">%1 n’a pas été exporté. %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FallingNotes</name>
+    <message>
+        <source>Falling notes</source>
+        <translation type="unfinished">Notes qui tombent</translation>
     </message>
 </context>
 <context>
@@ -1121,6 +1199,21 @@ Choisir un autre instrument, en ouvrir ou en décharger un</translation>
     </message>
 </context>
 <context>
+    <name>velmora::Lanes</name>
+    <message>
+        <source>&amp;No Lane</source>
+        <translation type="unfinished">&amp;Aucune piste</translation>
+    </message>
+    <message>
+        <source>&amp;Velocities</source>
+        <translation type="unfinished">&amp;Vélocités</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo and Signatures</source>
+        <translation type="unfinished">&amp;Tempo et mesures</translation>
+    </message>
+</context>
+<context>
     <name>velmora::LanguageFields</name>
     <message>
         <source>The language changes when you start Velmora again.</source>
@@ -1380,6 +1473,27 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
 </context>
 <context>
+    <name>velmora::OutlyingNotes</name>
+    <message>
+        <source>The keyboard does not show these keys. Click to go to the first note.</source>
+        <translation type="unfinished">Le clavier ne montre pas ces touches. Cliquez pour aller à la première note.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) below %1</source>
+        <translation type="unfinished">
+            <numerusform>%n note au-dessous de %1</numerusform>
+            <numerusform>%n notes au-dessous de %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) above %1</source>
+        <translation type="unfinished">
+            <numerusform>%n note au-dessus de %1</numerusform>
+            <numerusform>%n notes au-dessus de %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>
@@ -1487,6 +1601,201 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
         <translation type="unfinished">Les touches désaccordées d’une SoundFont sont mesurées à la première utilisation d’un programme, puis corrigées</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePanel</name>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Slow down after mistakes</source>
+        <translation type="unfinished">Ralentir après des fautes</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Repeat bars</source>
+        <translation type="unfinished">Répéter des mesures</translation>
+    </message>
+    <message>
+        <source>Show falling notes</source>
+        <translation type="unfinished">Afficher les notes qui tombent</translation>
+    </message>
+    <message>
+        <source>Both hands</source>
+        <translation type="unfinished">Les deux mains</translation>
+    </message>
+    <message>
+        <source>Right hand</source>
+        <translation type="unfinished">Main droite</translation>
+    </message>
+    <message>
+        <source>Left hand</source>
+        <translation type="unfinished">Main gauche</translation>
+    </message>
+    <message>
+        <source>The lowest key of the right hand</source>
+        <translation type="unfinished">La touche la plus grave de la main droite</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voix</translation>
+    </message>
+    <message>
+        <source>The voices that you play; the others play along</source>
+        <translation type="unfinished">Les voix que vous jouez ; les autres vous accompagnent</translation>
+    </message>
+    <message>
+        <source>What a pass without a mistake adds to the speed</source>
+        <translation type="unfinished">Ce qu’un passage sans faute ajoute à la vitesse</translation>
+    </message>
+    <message>
+        <source>How early a key may be, and how long a chord may be rolled</source>
+        <translation type="unfinished">De combien une touche peut être en avance, et combien de temps un accord peut être arpégé</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>bars</comment>
+        <translation type="unfinished">à</translation>
+    </message>
+    <message>
+        <source>First bar</source>
+        <translation type="unfinished">Première mesure</translation>
+    </message>
+    <message>
+        <source>Last bar</source>
+        <translation type="unfinished">Dernière mesure</translation>
+    </message>
+    <message>
+        <source>Play:</source>
+        <translation type="unfinished">Jouer :</translation>
+    </message>
+    <message>
+        <source>Split at:</source>
+        <translation type="unfinished">Diviser à :</translation>
+    </message>
+    <message>
+        <source>Voices:</source>
+        <translation type="unfinished">Voix :</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation type="unfinished">Vitesse :</translation>
+    </message>
+    <message>
+        <source>Faster by:</source>
+        <translation type="unfinished">Plus rapide de :</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation type="unfinished">Tolérance :</translation>
+    </message>
+    <message>
+        <source>Bars:</source>
+        <translation type="unfinished">Mesures :</translation>
+    </message>
+    <message>
+        <source>There are no notes to practise. Choose other voices, another hand or other bars.</source>
+        <translation type="unfinished">Il n’y a pas de notes à exercer. Choisissez d’autres voix, une autre main ou d’autres mesures.</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voix %1</translation>
+    </message>
+    <message>
+        <source>Stop Practising</source>
+        <translation type="unfinished">Arrêter l’exercice</translation>
+    </message>
+    <message>
+        <source>Practise</source>
+        <translation type="unfinished">S’exercer</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, passes: %3</source>
+        <translation type="unfinished">Justes : %1, fausses : %2, passages : %3</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePicture</name>
+    <message>
+        <source>Right and wrong keys (hatched) by bar</source>
+        <translation type="unfinished">Touches justes et fausses (hachurées) par mesure</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation type="unfinished">en avance</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation type="unfinished">en retard</translation>
+    </message>
+    <message>
+        <source>How early or late the keys were, in ms</source>
+        <translation type="unfinished">Avance ou retard des touches, en ms</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeResults</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Sans titre</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>The result of the practice was not kept: %1</source>
+        <translation type="unfinished">Le résultat de l’exercice n’a pas été conservé : %1</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation type="unfinished">Enregistrer l’image</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Exercice</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeWindow</name>
+    <message>
+        <source>Practice sessions</source>
+        <translation type="unfinished">Séances d’exercice</translation>
+    </message>
+    <message>
+        <source>Result by bar and by time</source>
+        <translation type="unfinished">Résultat par mesure et par temps</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation type="unfinished">Enregistrer l’&amp;image…</translation>
+    </message>
+    <message>
+        <source>Practice: %1</source>
+        <translation type="unfinished">Exercice : %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <comment>a time, a speed in percent</comment>
+        <translation type="unfinished">%1 à %2 %</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
+        <translation type="unfinished">Touches justes : %1 (%2 en avance, %3 en retard), fausses : %4. Passages : %5, sans faute : %6.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms early.</source>
+        <translation type="unfinished">En moyenne, les touches étaient en avance de %1 ms.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms late.</source>
+        <translation type="unfinished">En moyenne, les touches étaient en retard de %1 ms.</translation>
     </message>
 </context>
 <context>
@@ -1726,10 +2035,195 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
 </context>
 <context>
+    <name>velmora::QuantiseDialog</name>
+    <message>
+        <source> %</source>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Move the &amp;ends of notes as well</source>
+        <translation type="unfinished">Déplacer aussi les &amp;fins des notes</translation>
+    </message>
+    <message>
+        <source>Quantise</source>
+        <translation type="unfinished">Quantifier</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>1/%1 triplets</source>
+        <translation type="unfinished">triolets de 1/%1</translation>
+    </message>
+    <message>
+        <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
+        <translation type="unfinished">Où commence la seconde de deux unités : 50 % est régulier, 67 % des triolets</translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves all %n note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>Déplace la seule note sur la grille.</numerusform>
+            <numerusform>Déplace les %n notes sur la grille.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves %n selected note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>Déplace %n note sélectionnée sur la grille.</numerusform>
+            <numerusform>Déplace %n notes sélectionnées sur la grille.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Grid:</source>
+        <translation type="unfinished">&amp;Grille :</translation>
+    </message>
+    <message>
+        <source>&amp;Strength:</source>
+        <translation type="unfinished">&amp;Force :</translation>
+    </message>
+    <message>
+        <source>S&amp;wing:</source>
+        <translation type="unfinished">S&amp;wing :</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RecordingActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Morceau</translation>
+    </message>
+    <message>
+        <source>&amp;Metronome</source>
+        <translation type="unfinished">&amp;Métronome</translation>
+    </message>
+    <message>
+        <source>Click on the beats</source>
+        <translation type="unfinished">Bat les temps par un clic</translation>
+    </message>
+    <message>
+        <source>P&amp;unch In</source>
+        <translation type="unfinished">P&amp;unch-in</translation>
+    </message>
+    <message>
+        <source>Record only in the selected time, and replace what the channel has there</source>
+        <translation type="unfinished">N’enregistre que dans le temps sélectionné et remplace ce que le canal y contient</translation>
+    </message>
+    <message>
+        <source>Metronome and Count-&amp;In</source>
+        <translation type="unfinished">Métronome et déc&amp;ompte</translation>
+    </message>
+    <message>
+        <source>&amp;Takes</source>
+        <translation type="unfinished">Pr&amp;ises</translation>
+    </message>
+    <message>
+        <source>Metronome</source>
+        <translation type="unfinished">Métronome</translation>
+    </message>
+    <message>
+        <source>While Recording and Playing</source>
+        <translation type="unfinished">À l’enregistrement et à la lecture</translation>
+    </message>
+    <message>
+        <source>Only While Recording</source>
+        <translation type="unfinished">Seulement à l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Only While Playing</source>
+        <translation type="unfinished">Seulement à la lecture</translation>
+    </message>
+    <message>
+        <source>Click Between the Beats</source>
+        <translation type="unfinished">Clic entre les temps</translation>
+    </message>
+    <message>
+        <source>Count-In</source>
+        <translation type="unfinished">Décompte</translation>
+    </message>
+    <message>
+        <source>No Count-In</source>
+        <translation type="unfinished">Sans décompte</translation>
+    </message>
+    <message>
+        <source>One Bar</source>
+        <translation type="unfinished">Une mesure</translation>
+    </message>
+    <message>
+        <source>Two Bars</source>
+        <translation type="unfinished">Deux mesures</translation>
+    </message>
+    <message>
+        <source>Volume of the metronome</source>
+        <translation type="unfinished">Volume du métronome</translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished">&amp;Volume</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Prise %1 : %n note</numerusform>
+            <numerusform>Prise %1 : %n notes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RollActions</name>
+    <message>
+        <source>View</source>
+        <translation type="unfinished">Affichage</translation>
+    </message>
+    <message>
+        <source>Lane</source>
+        <translation type="unfinished">Piste</translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
         <translation type="unfinished">%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SelectDialog</name>
+    <message>
+        <source>Select Notes</source>
+        <translation type="unfinished">Sélectionner des notes</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished">Tous</translation>
+    </message>
+    <message>
+        <source>&amp;Voice:</source>
+        <translation type="unfinished">&amp;Voix :</translation>
+    </message>
+    <message>
+        <source>&amp;Keys:</source>
+        <translation type="unfinished">&amp;Touches :</translation>
+    </message>
+    <message>
+        <source>V&amp;elocities:</source>
+        <translation type="unfinished">V&amp;élocités :</translation>
+    </message>
+    <message>
+        <source>Lowest key</source>
+        <translation type="unfinished">Touche la plus grave</translation>
+    </message>
+    <message>
+        <source>Highest key</source>
+        <translation type="unfinished">Touche la plus aiguë</translation>
+    </message>
+    <message>
+        <source>Softest velocity</source>
+        <translation type="unfinished">Vélocité minimale</translation>
+    </message>
+    <message>
+        <source>Loudest velocity</source>
+        <translation type="unfinished">Vélocité maximale</translation>
     </message>
 </context>
 <context>
@@ -1772,10 +2266,6 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Snap to &amp;Grid</source>
         <translation type="unfinished">Aligner sur la &amp;grille</translation>
-    </message>
-    <message>
-        <source>Align notes and times with whole steps</source>
-        <translation type="unfinished">Aligner les notes et les temps sur des pas entiers</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -1913,6 +2403,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Make Notes &amp;Shorter</source>
         <translation type="unfinished">Ra&amp;ccourcir les notes</translation>
     </message>
+    <message>
+        <source>Align notes and times with the lines of the grid</source>
+        <translation type="unfinished">Aligner les notes et les temps sur les lignes de la grille</translation>
+    </message>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Historique des modifications</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -1967,6 +2465,59 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <translation type="unfinished">
             <numerusform>le collage de %n note</numerusform>
             <numerusform>le collage de %n notes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose Take %1</source>
+        <translation type="unfinished">Choisir la prise %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quantise %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Quantifier %n note</numerusform>
+            <numerusform>Quantifier %n notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Transpose %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Transposer %n note</numerusform>
+            <numerusform>Transposer %n notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Dupliquer %n note</numerusform>
+            <numerusform>Dupliquer %n notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Split %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Couper %n note</numerusform>
+            <numerusform>Couper %n notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Join %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Joindre %n note</numerusform>
+            <numerusform>Joindre %n notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Connect %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Lier %n note</numerusform>
+            <numerusform>Lier %n notes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Change Velocity of %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Changer la vélocité de %n note</numerusform>
+            <numerusform>Changer la vélocité de %n notes</numerusform>
         </translation>
     </message>
 </context>
@@ -2128,6 +2679,10 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Waiting for %1; not %2</source>
         <translation type="unfinished">En attente de %1&#x202f;; pas %2</translation>
+    </message>
+    <message>
+        <source>Counting in</source>
+        <translation type="unfinished">Décompte en cours</translation>
     </message>
 </context>
 <context>
@@ -2454,6 +3009,22 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
         <translation type="unfinished">Écrire le morceau pour un logiciel de notation, avec les noms que l’accord donne aux notes</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Exercice</translation>
+    </message>
+    <message>
+        <source>Practise the piece, a hand or a voice of it</source>
+        <translation type="unfinished">S’exercer au morceau, à une main ou à une voix</translation>
+    </message>
+    <message>
+        <source>Show who plays the piece</source>
+        <translation type="unfinished">Montre qui joue la pièce</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voix</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2609,6 +3180,13 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
 To the sound card: %L1 ms. Lost periods: %L2.</source>
         <translation type="unfinished">
 Jusqu’à la carte son&#x202f;: %L1&#xa0;ms. Périodes perdues&#x202f;: %L2.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StageView</name>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 quitte la scène</translation>
     </message>
 </context>
 <context>
@@ -2862,6 +3440,189 @@ Cliquez pour afficher tous les tempéraments</translation>
     </message>
 </context>
 <context>
+    <name>velmora::TimeActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Morceau</translation>
+    </message>
+    <message>
+        <source>Ta&amp;p Tempo</source>
+        <translation type="unfinished">Ta&amp;per le tempo</translation>
+    </message>
+    <message>
+        <source>Tap repeatedly to set the tempo of the piece at the position</source>
+        <translation type="unfinished">Tapez plusieurs fois pour fixer le tempo du morceau à la position</translation>
+    </message>
+    <message>
+        <source>Tempo &amp;and Signatures</source>
+        <translation type="unfinished">&amp;Tempo et mesures</translation>
+    </message>
+    <message>
+        <source>Tap</source>
+        <translation type="unfinished">Taper</translation>
+    </message>
+    <message>
+        <source>Tap Tempo</source>
+        <translation type="unfinished">Taper le tempo</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeEntryDialog</name>
+    <message>
+        <source>Add &amp;Tempo…</source>
+        <translation type="unfinished">Ajouter un &amp;tempo…</translation>
+    </message>
+    <message>
+        <source>Add Time &amp;Signature…</source>
+        <translation type="unfinished">Ajouter une me&amp;sure…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Key Signature…</source>
+        <translation type="unfinished">Ajouter une &amp;armure…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Marker…</source>
+        <translation type="unfinished">Ajouter un &amp;repère…</translation>
+    </message>
+    <message>
+        <source>Add Tempo</source>
+        <translation type="unfinished">Ajouter un tempo</translation>
+    </message>
+    <message>
+        <source>Add Time Signature</source>
+        <translation type="unfinished">Ajouter une mesure</translation>
+    </message>
+    <message>
+        <source>Add Key Signature</source>
+        <translation type="unfinished">Ajouter une armure</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation type="unfinished">Ajouter un repère</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Modifier le tempo</translation>
+    </message>
+    <message>
+        <source>Change Time Signature</source>
+        <translation type="unfinished">Modifier la mesure</translation>
+    </message>
+    <message>
+        <source>Change Key Signature</source>
+        <translation type="unfinished">Modifier l’armure</translation>
+    </message>
+    <message>
+        <source>Change Marker</source>
+        <translation type="unfinished">Modifier le repère</translation>
+    </message>
+    <message>
+        <source>Delete Tempo</source>
+        <translation type="unfinished">Supprimer le tempo</translation>
+    </message>
+    <message>
+        <source>Delete Time Signature</source>
+        <translation type="unfinished">Supprimer la mesure</translation>
+    </message>
+    <message>
+        <source>Delete Key Signature</source>
+        <translation type="unfinished">Supprimer l’armure</translation>
+    </message>
+    <message>
+        <source>Delete Marker</source>
+        <translation type="unfinished">Supprimer le repère</translation>
+    </message>
+    <message>
+        <source>A♭ E♭ B♭ F C G D A E B F♯ C♯ G♯ D♯ A♯</source>
+        <comment>minor keys</comment>
+        <translation type="unfinished">La♭ Mi♭ Si♭ Fa Do Sol Ré La Mi Si Fa♯ Do♯ Sol♯ Ré♯ La♯</translation>
+    </message>
+    <message>
+        <source>C♭ G♭ D♭ A♭ E♭ B♭ F C G D A E B F♯ C♯</source>
+        <comment>major keys</comment>
+        <translation type="unfinished">Do♭ Sol♭ Ré♭ La♭ Mi♭ Si♭ Fa Do Sol Ré La Mi Si Fa♯ Do♯</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1 mineur</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1 majeur</translation>
+    </message>
+    <message>
+        <source>Tempo</source>
+        <translation type="unfinished">Tempo</translation>
+    </message>
+    <message>
+        <source>Time Signature</source>
+        <translation type="unfinished">Mesure</translation>
+    </message>
+    <message>
+        <source>Key Signature</source>
+        <translation type="unfinished">Armure</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation type="unfinished">Repère</translation>
+    </message>
+    <message>
+        <source> bpm</source>
+        <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo:</source>
+        <translation type="unfinished">&amp;Tempo :</translation>
+    </message>
+    <message>
+        <source>&amp;Notes in a bar:</source>
+        <translation type="unfinished">&amp;Notes par mesure :</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>&amp;Value of a note:</source>
+        <translation type="unfinished">&amp;Valeur d’une note :</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation type="unfinished">To&amp;nalité :</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation type="unfinished">&amp;Texte :</translation>
+    </message>
+    <message>
+        <source>&amp;Bar:</source>
+        <translation type="unfinished">&amp;Mesure :</translation>
+    </message>
+    <message>
+        <source>B&amp;eat:</source>
+        <translation type="unfinished">T&amp;emps :</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeLane</name>
+    <message>
+        <source>Tempo and signatures</source>
+        <translation type="unfinished">Tempo et mesures</translation>
+    </message>
+    <message>
+        <source>Tempos, time signatures, key signatures and markers. Double-click to add or change one, drag it to move it, and press Delete to remove it.</source>
+        <translation type="unfinished">Tempos, mesures, armures et repères. Double-cliquez pour en ajouter ou en modifier un, faites-le glisser pour le déplacer, et appuyez sur Suppr pour l’enlever.</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation type="unfinished">&amp;Modifier…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Supprimer</translation>
+    </message>
+</context>
+<context>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
@@ -2891,20 +3652,12 @@ Cliquez pour afficher tous les tempéraments</translation>
         <translation type="unfinished">Lire</translation>
     </message>
     <message>
-        <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished">La position en minutes et secondes à ce tempo, et en pas</translation>
-    </message>
-    <message>
         <source>Te&amp;mpo</source>
         <translation type="unfinished">Te&amp;mpo</translation>
     </message>
     <message>
         <source>Tempo</source>
         <translation type="unfinished">Tempo</translation>
-    </message>
-    <message>
-        <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished">Le tempo de lecture et d’enregistrement en battements par minute (Alt+M)</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
@@ -2925,6 +3678,47 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>Takes</source>
+        <translation type="unfinished">Prises</translation>
+    </message>
+    <message>
+        <source>Choose one of the takes that were recorded in the loop</source>
+        <translation type="unfinished">Choisissez une des prises enregistrées dans la boucle</translation>
+    </message>
+    <message>
+        <source>Count-in: %1</source>
+        <translation type="unfinished">Décompte : %1</translation>
+    </message>
+    <message>
+        <source>The position in minutes and seconds at this speed, and in bars and beats</source>
+        <translation type="unfinished">La position en minutes et secondes à cette vitesse, et en mesures et temps</translation>
+    </message>
+    <message>
+        <source>The tempo of the piece at the position in beats per minute (Alt+M)</source>
+        <translation type="unfinished">Le tempo du morceau à la position, en battements par minute (Alt+M)</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">Vitesse</translation>
+    </message>
+    <message>
+        <source>How fast the piece is played, as a part of its tempo. It is not saved with the piece.</source>
+        <translation type="unfinished">À quelle vitesse le morceau est joué, par rapport à son tempo. Elle n’est pas enregistrée avec le morceau.</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Modifier le tempo</translation>
+    </message>
+    <message>
+        <source>%1  ·  bar %2, beat %3</source>
+        <translation type="unfinished">%1  ·  mesure %2, temps %3</translation>
     </message>
 </context>
 <context>
@@ -3227,6 +4021,145 @@ Cliquez pour afficher tous les tempéraments</translation>
     </message>
 </context>
 <context>
+    <name>velmora::UndoHistory</name>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Historique des modifications</translation>
+    </message>
+    <message>
+        <source>Edits of the piece</source>
+        <translation type="unfinished">Modifications du morceau</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation type="unfinished">Tel qu’ouvert</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VelocityLane</name>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished">Vélocités</translation>
+    </message>
+    <message>
+        <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
+        <translation type="unfinished">Faites glisser sur les barres pour changer les vélocités. Avec Maj, elles suivent une ligne droite. Si des notes sont sélectionnées, elles seules changent.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoiceRow</name>
+    <message>
+        <source>Record and draw on this voice; double-click to select its notes</source>
+        <translation type="unfinished">Enregistre et dessine sur cette voix ; un double-clic sélectionne ses notes</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>mute</comment>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">Muet</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>solo</comment>
+        <translation type="unfinished">S</translation>
+    </message>
+    <message>
+        <source>Solo: only such voices sound</source>
+        <translation type="unfinished">Solo : seules ces voix sonnent</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <comment>lock</comment>
+        <translation type="unfinished">V</translation>
+    </message>
+    <message>
+        <source>Lock: protect its notes from edits</source>
+        <translation type="unfinished">Verrouiller : protège ses notes des modifications</translation>
+    </message>
+    <message>
+        <source>Drum kit %1</source>
+        <translation type="unfinished">Batterie %1</translation>
+    </message>
+    <message>
+        <source>Program %1 of bank %2</source>
+        <translation type="unfinished">Programme %1 de la banque %2</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voix %1</translation>
+    </message>
+    <message>
+        <source>Record and draw on %1</source>
+        <translation type="unfinished">Enregistrer et dessiner sur %1</translation>
+    </message>
+    <message>
+        <source>Name of voice %1</source>
+        <translation type="unfinished">Nom de la voix %1</translation>
+    </message>
+    <message>
+        <source>Program of %1</source>
+        <translation type="unfinished">Programme de %1</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Volume de %1</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation type="unfinished">Rendre %1 muette</translation>
+    </message>
+    <message>
+        <source>Solo %1</source>
+        <translation type="unfinished">%1 en solo</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation type="unfinished">Verrouiller %1</translation>
+    </message>
+    <message>
+        <source>What the voice plays</source>
+        <translation type="unfinished">Ce que joue la voix</translation>
+    </message>
+    <message>
+        <source>This instrument plays every voice alike</source>
+        <translation type="unfinished">Cet instrument joue toutes les voix de la même façon</translation>
+    </message>
+    <message>
+        <source>How loud the voice is, from 0 to 127</source>
+        <translation type="unfinished">Le niveau de la voix, de 0 à 127</translation>
+    </message>
+    <message>
+        <source>Like the instrument</source>
+        <translation type="unfinished">Comme l’instrument</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoicesPanel</name>
+    <message>
+        <source>Otherwise the instrument plays every voice alike</source>
+        <translation type="unfinished">Sinon, l’instrument joue toutes les voix de la même façon</translation>
+    </message>
+    <message>
+        <source>Rename Voice</source>
+        <translation type="unfinished">Renommer la voix</translation>
+    </message>
+    <message>
+        <source>Change Program of Voice</source>
+        <translation type="unfinished">Changer le programme de la voix</translation>
+    </message>
+    <message>
+        <source>Change Volume of Voice</source>
+        <translation type="unfinished">Changer le volume de la voix</translation>
+    </message>
+    <message>
+        <source>Every voice has its own sound</source>
+        <translation type="unfinished">Chaque voix a son propre son</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
@@ -3273,10 +4206,6 @@ Cliquez pour afficher tous les tempéraments</translation>
         <translation type="unfinished">Couper tous les sons</translation>
     </message>
     <message>
-        <source>%1 leaves the stage</source>
-        <translation type="unfinished">%1 quitte la scène</translation>
-    </message>
-    <message>
         <source>Console</source>
         <translation type="unfinished">Console</translation>
     </message>
@@ -3287,6 +4216,14 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Atelier d’accord</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Exercice</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voix</translation>
     </message>
 </context>
 <context>
@@ -3870,6 +4807,42 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>%1, line %2, column %3: %4</source>
         <translation type="unfinished">%1, ligne %2, colonne %3 : %4</translation>
+    </message>
+    <message>
+        <source>the XML is damaged: %1</source>
+        <translation type="unfinished">le XML est endommagé : %1</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and only a part of it could be read. To keep what may still be in it, save the piece under another name.</source>
+        <translation type="unfinished">Le fichier est endommagé et n&apos;a pu être lu qu&apos;en partie. Pour garder ce qu&apos;il contient peut-être encore, enregistrez le morceau sous un autre nom.</translation>
+    </message>
+    <message>
+        <source>is not a MusicXML score</source>
+        <translation type="unfinished">n&apos;est pas une partition MusicXML</translation>
+    </message>
+    <message>
+        <source>is an archive, but not of a score</source>
+        <translation type="unfinished">est une archive, mais pas celle d&apos;une partition</translation>
+    </message>
+    <message>
+        <source>the score &quot;%1&quot; is missing from the archive</source>
+        <translation type="unfinished">la partition « %1 » manque dans l&apos;archive</translation>
+    </message>
+    <message>
+        <source>the score has no parts</source>
+        <translation type="unfinished">la partition n&apos;a pas de parties</translation>
+    </message>
+    <message>
+        <source>the score has too many parts</source>
+        <translation type="unfinished">la partition a trop de parties</translation>
+    </message>
+    <message>
+        <source>measure %1 is too long</source>
+        <translation type="unfinished">la mesure %1 est trop longue</translation>
+    </message>
+    <message>
+        <source>the music is too long</source>
+        <translation type="unfinished">la musique est trop longue</translation>
     </message>
 </context>
 <context>

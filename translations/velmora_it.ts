@@ -646,6 +646,77 @@ Un clic lo tira o lo respinge</translation>
     </message>
 </context>
 <context>
+    <name>velmora::EditingActions</name>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished">Modifica</translation>
+    </message>
+    <message>
+        <source>Select by Voice or Velocity…</source>
+        <translation type="unfinished">Seleziona per voce o velocity…</translation>
+    </message>
+    <message>
+        <source>Select the notes of a voice, of some keys and velocities</source>
+        <translation type="unfinished">Seleziona le note di una voce e di certi tasti e velocity</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished">Duplica</translation>
+    </message>
+    <message>
+        <source>Quantise…</source>
+        <translation type="unfinished">Quantizza…</translation>
+    </message>
+    <message>
+        <source>Move notes to the grid</source>
+        <translation type="unfinished">Sposta le note sulla griglia</translation>
+    </message>
+    <message>
+        <source>Split Notes at the Position</source>
+        <translation type="unfinished">Dividi le note alla posizione</translation>
+    </message>
+    <message>
+        <source>Join Notes</source>
+        <translation type="unfinished">Unisci note</translation>
+    </message>
+    <message>
+        <source>Connect Notes (Legato)</source>
+        <translation type="unfinished">Lega note (legato)</translation>
+    </message>
+    <message>
+        <source>Move Notes an Octave Up</source>
+        <translation type="unfinished">Sposta le note un’ottava su</translation>
+    </message>
+    <message>
+        <source>Move Notes an Octave Down</source>
+        <translation type="unfinished">Sposta le note un’ottava giù</translation>
+    </message>
+    <message>
+        <source>Nudge Notes Later</source>
+        <translation type="unfinished">Ritarda un poco le note</translation>
+    </message>
+    <message>
+        <source>Nudge Notes Earlier</source>
+        <translation type="unfinished">Anticipa un poco le note</translation>
+    </message>
+    <message>
+        <source>Make Notes Louder</source>
+        <translation type="unfinished">Note più forti</translation>
+    </message>
+    <message>
+        <source>Make Notes Softer</source>
+        <translation type="unfinished">Note più piano</translation>
+    </message>
+    <message>
+        <source>Hear Notes</source>
+        <translation type="unfinished">Ascolta le note</translation>
+    </message>
+    <message>
+        <source>Sound notes that are pressed or drawn</source>
+        <translation type="unfinished">Fa suonare le note premute o disegnate</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -674,6 +745,13 @@ Un clic lo tira o lo respinge</translation>
     <message>
         <source>%1 was not exported. %2</source>
         <translation type="unfinished">%1 non è stato esportato. %2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FallingNotes</name>
+    <message>
+        <source>Falling notes</source>
+        <translation type="unfinished">Note che cadono</translation>
     </message>
 </context>
 <context>
@@ -1121,6 +1199,21 @@ Scegli un altro strumento, aprine uno o rimuovilo dalla memoria</translation>
     </message>
 </context>
 <context>
+    <name>velmora::Lanes</name>
+    <message>
+        <source>&amp;No Lane</source>
+        <translation type="unfinished">&amp;Nessuna corsia</translation>
+    </message>
+    <message>
+        <source>&amp;Velocities</source>
+        <translation type="unfinished">&amp;Velocity</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo and Signatures</source>
+        <translation type="unfinished">&amp;Tempo e misure</translation>
+    </message>
+</context>
+<context>
     <name>velmora::LanguageFields</name>
     <message>
         <source>The language changes when you start Velmora again.</source>
@@ -1380,6 +1473,27 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
 </context>
 <context>
+    <name>velmora::OutlyingNotes</name>
+    <message>
+        <source>The keyboard does not show these keys. Click to go to the first note.</source>
+        <translation type="unfinished">La tastiera non mostra questi tasti. Fare clic per andare alla prima nota.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) below %1</source>
+        <translation type="unfinished">
+            <numerusform>%n nota sotto %1</numerusform>
+            <numerusform>%n note sotto %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) above %1</source>
+        <translation type="unfinished">
+            <numerusform>%n nota sopra %1</numerusform>
+            <numerusform>%n note sopra %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>
@@ -1487,6 +1601,201 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
         <translation type="unfinished">I tasti stonati di una SoundFont vengono misurati al primo uso di un programma e corretti</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePanel</name>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Slow down after mistakes</source>
+        <translation type="unfinished">Rallenta dopo gli errori</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Repeat bars</source>
+        <translation type="unfinished">Ripeti battute</translation>
+    </message>
+    <message>
+        <source>Show falling notes</source>
+        <translation type="unfinished">Mostra le note che cadono</translation>
+    </message>
+    <message>
+        <source>Both hands</source>
+        <translation type="unfinished">Entrambe le mani</translation>
+    </message>
+    <message>
+        <source>Right hand</source>
+        <translation type="unfinished">Mano destra</translation>
+    </message>
+    <message>
+        <source>Left hand</source>
+        <translation type="unfinished">Mano sinistra</translation>
+    </message>
+    <message>
+        <source>The lowest key of the right hand</source>
+        <translation type="unfinished">Il tasto più grave della mano destra</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voci</translation>
+    </message>
+    <message>
+        <source>The voices that you play; the others play along</source>
+        <translation type="unfinished">Le voci che suoni; le altre accompagnano</translation>
+    </message>
+    <message>
+        <source>What a pass without a mistake adds to the speed</source>
+        <translation type="unfinished">Quanto un passaggio senza errori aggiunge alla velocità</translation>
+    </message>
+    <message>
+        <source>How early a key may be, and how long a chord may be rolled</source>
+        <translation type="unfinished">Di quanto un tasto può essere in anticipo e quanto può durare un accordo arpeggiato</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>bars</comment>
+        <translation type="unfinished">a</translation>
+    </message>
+    <message>
+        <source>First bar</source>
+        <translation type="unfinished">Prima battuta</translation>
+    </message>
+    <message>
+        <source>Last bar</source>
+        <translation type="unfinished">Ultima battuta</translation>
+    </message>
+    <message>
+        <source>Play:</source>
+        <translation type="unfinished">Suonare:</translation>
+    </message>
+    <message>
+        <source>Split at:</source>
+        <translation type="unfinished">Dividi a:</translation>
+    </message>
+    <message>
+        <source>Voices:</source>
+        <translation type="unfinished">Voci:</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation type="unfinished">Velocità:</translation>
+    </message>
+    <message>
+        <source>Faster by:</source>
+        <translation type="unfinished">Più veloce di:</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation type="unfinished">Tolleranza:</translation>
+    </message>
+    <message>
+        <source>Bars:</source>
+        <translation type="unfinished">Battute:</translation>
+    </message>
+    <message>
+        <source>There are no notes to practise. Choose other voices, another hand or other bars.</source>
+        <translation type="unfinished">Non ci sono note da esercitare. Scegli altre voci, un’altra mano o altre battute.</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voce %1</translation>
+    </message>
+    <message>
+        <source>Stop Practising</source>
+        <translation type="unfinished">Termina l’esercizio</translation>
+    </message>
+    <message>
+        <source>Practise</source>
+        <translation type="unfinished">Esercitati</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, passes: %3</source>
+        <translation type="unfinished">Giuste: %1, sbagliate: %2, passaggi: %3</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePicture</name>
+    <message>
+        <source>Right and wrong keys (hatched) by bar</source>
+        <translation type="unfinished">Tasti giusti e sbagliati (tratteggiati) per battuta</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation type="unfinished">in anticipo</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation type="unfinished">in ritardo</translation>
+    </message>
+    <message>
+        <source>How early or late the keys were, in ms</source>
+        <translation type="unfinished">Anticipo o ritardo dei tasti, in ms</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeResults</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Senza titolo</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>The result of the practice was not kept: %1</source>
+        <translation type="unfinished">Il risultato dell’esercizio non è stato conservato: %1</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation type="unfinished">Salva immagine</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Esercizio</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeWindow</name>
+    <message>
+        <source>Practice sessions</source>
+        <translation type="unfinished">Sessioni di esercizio</translation>
+    </message>
+    <message>
+        <source>Result by bar and by time</source>
+        <translation type="unfinished">Risultato per battuta e per tempo</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation type="unfinished">Salva &amp;immagine…</translation>
+    </message>
+    <message>
+        <source>Practice: %1</source>
+        <translation type="unfinished">Esercizio: %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <comment>a time, a speed in percent</comment>
+        <translation type="unfinished">%1 al %2 %</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
+        <translation type="unfinished">Tasti giusti: %1 (%2 in anticipo, %3 in ritardo), sbagliati: %4. Passaggi: %5, senza errori: %6.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms early.</source>
+        <translation type="unfinished">In media i tasti erano in anticipo di %1 ms.</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms late.</source>
+        <translation type="unfinished">In media i tasti erano in ritardo di %1 ms.</translation>
     </message>
 </context>
 <context>
@@ -1726,10 +2035,195 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
 </context>
 <context>
+    <name>velmora::QuantiseDialog</name>
+    <message>
+        <source> %</source>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Move the &amp;ends of notes as well</source>
+        <translation type="unfinished">Sposta anche la &amp;fine delle note</translation>
+    </message>
+    <message>
+        <source>Quantise</source>
+        <translation type="unfinished">Quantizza</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>1/%1 triplets</source>
+        <translation type="unfinished">terzine di 1/%1</translation>
+    </message>
+    <message>
+        <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
+        <translation type="unfinished">Dove comincia la seconda di due unità: 50 % è regolare, 67 % terzine</translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves all %n note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>Sposta l’unica nota sulla griglia.</numerusform>
+            <numerusform>Sposta tutte le %n note sulla griglia.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves %n selected note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>Sposta %n nota selezionata sulla griglia.</numerusform>
+            <numerusform>Sposta %n note selezionate sulla griglia.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Grid:</source>
+        <translation type="unfinished">&amp;Griglia:</translation>
+    </message>
+    <message>
+        <source>&amp;Strength:</source>
+        <translation type="unfinished">&amp;Intensità:</translation>
+    </message>
+    <message>
+        <source>S&amp;wing:</source>
+        <translation type="unfinished">S&amp;wing:</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RecordingActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Brano</translation>
+    </message>
+    <message>
+        <source>&amp;Metronome</source>
+        <translation type="unfinished">&amp;Metronomo</translation>
+    </message>
+    <message>
+        <source>Click on the beats</source>
+        <translation type="unfinished">Batte i tempi con un clic</translation>
+    </message>
+    <message>
+        <source>P&amp;unch In</source>
+        <translation type="unfinished">P&amp;unch-in</translation>
+    </message>
+    <message>
+        <source>Record only in the selected time, and replace what the channel has there</source>
+        <translation type="unfinished">Registra solo nel tempo selezionato e sostituisce ciò che il canale vi contiene</translation>
+    </message>
+    <message>
+        <source>Metronome and Count-&amp;In</source>
+        <translation type="unfinished">Metronomo e battute d’a&amp;ttacco</translation>
+    </message>
+    <message>
+        <source>&amp;Takes</source>
+        <translation type="unfinished">Ri&amp;prese</translation>
+    </message>
+    <message>
+        <source>Metronome</source>
+        <translation type="unfinished">Metronomo</translation>
+    </message>
+    <message>
+        <source>While Recording and Playing</source>
+        <translation type="unfinished">Durante registrazione e riproduzione</translation>
+    </message>
+    <message>
+        <source>Only While Recording</source>
+        <translation type="unfinished">Solo durante la registrazione</translation>
+    </message>
+    <message>
+        <source>Only While Playing</source>
+        <translation type="unfinished">Solo durante la riproduzione</translation>
+    </message>
+    <message>
+        <source>Click Between the Beats</source>
+        <translation type="unfinished">Clic tra i tempi</translation>
+    </message>
+    <message>
+        <source>Count-In</source>
+        <translation type="unfinished">Battute d’attacco</translation>
+    </message>
+    <message>
+        <source>No Count-In</source>
+        <translation type="unfinished">Nessuna battuta d’attacco</translation>
+    </message>
+    <message>
+        <source>One Bar</source>
+        <translation type="unfinished">Una battuta</translation>
+    </message>
+    <message>
+        <source>Two Bars</source>
+        <translation type="unfinished">Due battute</translation>
+    </message>
+    <message>
+        <source>Volume of the metronome</source>
+        <translation type="unfinished">Volume del metronomo</translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished">&amp;Volume</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Ripresa %1: %n nota</numerusform>
+            <numerusform>Ripresa %1: %n note</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RollActions</name>
+    <message>
+        <source>View</source>
+        <translation type="unfinished">Visualizza</translation>
+    </message>
+    <message>
+        <source>Lane</source>
+        <translation type="unfinished">Corsia</translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
         <translation type="unfinished">%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SelectDialog</name>
+    <message>
+        <source>Select Notes</source>
+        <translation type="unfinished">Seleziona note</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished">Tutti</translation>
+    </message>
+    <message>
+        <source>&amp;Voice:</source>
+        <translation type="unfinished">&amp;Voce:</translation>
+    </message>
+    <message>
+        <source>&amp;Keys:</source>
+        <translation type="unfinished">&amp;Tasti:</translation>
+    </message>
+    <message>
+        <source>V&amp;elocities:</source>
+        <translation type="unfinished">V&amp;elocity:</translation>
+    </message>
+    <message>
+        <source>Lowest key</source>
+        <translation type="unfinished">Tasto più grave</translation>
+    </message>
+    <message>
+        <source>Highest key</source>
+        <translation type="unfinished">Tasto più acuto</translation>
+    </message>
+    <message>
+        <source>Softest velocity</source>
+        <translation type="unfinished">Velocity minima</translation>
+    </message>
+    <message>
+        <source>Loudest velocity</source>
+        <translation type="unfinished">Velocity massima</translation>
     </message>
 </context>
 <context>
@@ -1772,10 +2266,6 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Snap to &amp;Grid</source>
         <translation type="unfinished">Aggancia alla &amp;griglia</translation>
-    </message>
-    <message>
-        <source>Align notes and times with whole steps</source>
-        <translation type="unfinished">Allinea note e tempi ai passi interi</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -1847,7 +2337,7 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished">Ri&amp;produci</translation>
+        <translation type="unfinished">Ripro&amp;duci</translation>
     </message>
     <message>
         <source>Select Ne&amp;xt Note</source>
@@ -1913,6 +2403,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Make Notes &amp;Shorter</source>
         <translation type="unfinished">Acco&amp;rcia le note</translation>
     </message>
+    <message>
+        <source>Align notes and times with the lines of the grid</source>
+        <translation type="unfinished">Allinea note e tempi alle linee della griglia</translation>
+    </message>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Cronologia delle modifiche</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -1967,6 +2465,59 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <translation type="unfinished">
             <numerusform>inserimento di %n nota</numerusform>
             <numerusform>inserimento di %n note</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose Take %1</source>
+        <translation type="unfinished">Scegliere la ripresa %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quantise %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Quantizza %n nota</numerusform>
+            <numerusform>Quantizza %n note</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Transpose %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Trasporta %n nota</numerusform>
+            <numerusform>Trasporta %n note</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Duplica %n nota</numerusform>
+            <numerusform>Duplica %n note</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Split %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Dividi %n nota</numerusform>
+            <numerusform>Dividi %n note</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Join %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Unisci %n nota</numerusform>
+            <numerusform>Unisci %n note</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Connect %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Lega %n nota</numerusform>
+            <numerusform>Lega %n note</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Change Velocity of %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>Cambia la velocity di %n nota</numerusform>
+            <numerusform>Cambia la velocity di %n note</numerusform>
         </translation>
     </message>
 </context>
@@ -2128,6 +2679,10 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Waiting for %1; not %2</source>
         <translation type="unfinished">In attesa di %1; non %2</translation>
+    </message>
+    <message>
+        <source>Counting in</source>
+        <translation type="unfinished">Battute d’attacco in corso</translation>
     </message>
 </context>
 <context>
@@ -2454,6 +3009,22 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
         <translation type="unfinished">Scrivere il brano per un programma di notazione, con i nomi che l’accordatura dà alle note</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Esercizio</translation>
+    </message>
+    <message>
+        <source>Practise the piece, a hand or a voice of it</source>
+        <translation type="unfinished">Esercitarsi sul brano, su una mano o su una voce</translation>
+    </message>
+    <message>
+        <source>Show who plays the piece</source>
+        <translation type="unfinished">Mostra chi suona il brano</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voci</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2609,6 +3180,13 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
 To the sound card: %L1 ms. Lost periods: %L2.</source>
         <translation type="unfinished">
 Fino alla scheda audio: %L1&#xa0;ms. Periodi persi: %L2.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StageView</name>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 lascia il palco</translation>
     </message>
 </context>
 <context>
@@ -2862,6 +3440,189 @@ Fai clic per mostrare tutti i temperamenti</translation>
     </message>
 </context>
 <context>
+    <name>velmora::TimeActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">Brano</translation>
+    </message>
+    <message>
+        <source>Ta&amp;p Tempo</source>
+        <translation type="unfinished">&amp;Batti il tempo</translation>
+    </message>
+    <message>
+        <source>Tap repeatedly to set the tempo of the piece at the position</source>
+        <translation type="unfinished">Batti più volte per impostare il tempo del brano alla posizione</translation>
+    </message>
+    <message>
+        <source>Tempo &amp;and Signatures</source>
+        <translation type="unfinished">Temp&amp;o e misure</translation>
+    </message>
+    <message>
+        <source>Tap</source>
+        <translation type="unfinished">Batti</translation>
+    </message>
+    <message>
+        <source>Tap Tempo</source>
+        <translation type="unfinished">Batti il tempo</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeEntryDialog</name>
+    <message>
+        <source>Add &amp;Tempo…</source>
+        <translation type="unfinished">Aggiungi &amp;tempo…</translation>
+    </message>
+    <message>
+        <source>Add Time &amp;Signature…</source>
+        <translation type="unfinished">Aggiungi indicazione di mi&amp;sura…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Key Signature…</source>
+        <translation type="unfinished">Aggiungi armatura di &amp;chiave…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Marker…</source>
+        <translation type="unfinished">Aggiungi &amp;marcatore…</translation>
+    </message>
+    <message>
+        <source>Add Tempo</source>
+        <translation type="unfinished">Aggiungi tempo</translation>
+    </message>
+    <message>
+        <source>Add Time Signature</source>
+        <translation type="unfinished">Aggiungi indicazione di misura</translation>
+    </message>
+    <message>
+        <source>Add Key Signature</source>
+        <translation type="unfinished">Aggiungi armatura di chiave</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation type="unfinished">Aggiungi marcatore</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Cambia tempo</translation>
+    </message>
+    <message>
+        <source>Change Time Signature</source>
+        <translation type="unfinished">Cambia indicazione di misura</translation>
+    </message>
+    <message>
+        <source>Change Key Signature</source>
+        <translation type="unfinished">Cambia armatura di chiave</translation>
+    </message>
+    <message>
+        <source>Change Marker</source>
+        <translation type="unfinished">Cambia marcatore</translation>
+    </message>
+    <message>
+        <source>Delete Tempo</source>
+        <translation type="unfinished">Elimina tempo</translation>
+    </message>
+    <message>
+        <source>Delete Time Signature</source>
+        <translation type="unfinished">Elimina indicazione di misura</translation>
+    </message>
+    <message>
+        <source>Delete Key Signature</source>
+        <translation type="unfinished">Elimina armatura di chiave</translation>
+    </message>
+    <message>
+        <source>Delete Marker</source>
+        <translation type="unfinished">Elimina marcatore</translation>
+    </message>
+    <message>
+        <source>A♭ E♭ B♭ F C G D A E B F♯ C♯ G♯ D♯ A♯</source>
+        <comment>minor keys</comment>
+        <translation type="unfinished">La♭ Mi♭ Si♭ Fa Do Sol Re La Mi Si Fa♯ Do♯ Sol♯ Re♯ La♯</translation>
+    </message>
+    <message>
+        <source>C♭ G♭ D♭ A♭ E♭ B♭ F C G D A E B F♯ C♯</source>
+        <comment>major keys</comment>
+        <translation type="unfinished">Do♭ Sol♭ Re♭ La♭ Mi♭ Si♭ Fa Do Sol Re La Mi Si Fa♯ Do♯</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1 minore</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1 maggiore</translation>
+    </message>
+    <message>
+        <source>Tempo</source>
+        <translation type="unfinished">Tempo</translation>
+    </message>
+    <message>
+        <source>Time Signature</source>
+        <translation type="unfinished">Indicazione di misura</translation>
+    </message>
+    <message>
+        <source>Key Signature</source>
+        <translation type="unfinished">Armatura di chiave</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation type="unfinished">Marcatore</translation>
+    </message>
+    <message>
+        <source> bpm</source>
+        <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo:</source>
+        <translation type="unfinished">&amp;Tempo:</translation>
+    </message>
+    <message>
+        <source>&amp;Notes in a bar:</source>
+        <translation type="unfinished">&amp;Note per battuta:</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>&amp;Value of a note:</source>
+        <translation type="unfinished">&amp;Valore di una nota:</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation type="unfinished">&amp;Tonalità:</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation type="unfinished">&amp;Testo:</translation>
+    </message>
+    <message>
+        <source>&amp;Bar:</source>
+        <translation type="unfinished">&amp;Battuta:</translation>
+    </message>
+    <message>
+        <source>B&amp;eat:</source>
+        <translation type="unfinished">Mo&amp;vimento:</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeLane</name>
+    <message>
+        <source>Tempo and signatures</source>
+        <translation type="unfinished">Tempo e misure</translation>
+    </message>
+    <message>
+        <source>Tempos, time signatures, key signatures and markers. Double-click to add or change one, drag it to move it, and press Delete to remove it.</source>
+        <translation type="unfinished">Tempi, misure, armature di chiave e marcatori. Fai doppio clic per aggiungerne o cambiarne uno, trascinalo per spostarlo e premi Canc per eliminarlo.</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation type="unfinished">&amp;Cambia…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Elimina</translation>
+    </message>
+</context>
+<context>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
@@ -2891,20 +3652,12 @@ Fai clic per mostrare tutti i temperamenti</translation>
         <translation type="unfinished">Riproduci</translation>
     </message>
     <message>
-        <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished">La posizione in minuti e secondi a questo tempo, e in passi</translation>
-    </message>
-    <message>
         <source>Te&amp;mpo</source>
         <translation type="unfinished">Temp&amp;o</translation>
     </message>
     <message>
         <source>Tempo</source>
         <translation type="unfinished">Tempo</translation>
-    </message>
-    <message>
-        <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished">Il tempo di riproduzione e registrazione in battiti al minuto (Alt+O)</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
@@ -2925,6 +3678,47 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>Takes</source>
+        <translation type="unfinished">Riprese</translation>
+    </message>
+    <message>
+        <source>Choose one of the takes that were recorded in the loop</source>
+        <translation type="unfinished">Scegliere una delle riprese registrate nel ciclo</translation>
+    </message>
+    <message>
+        <source>Count-in: %1</source>
+        <translation type="unfinished">Attacco: %1</translation>
+    </message>
+    <message>
+        <source>The position in minutes and seconds at this speed, and in bars and beats</source>
+        <translation type="unfinished">La posizione in minuti e secondi a questa velocità, e in battute e movimenti</translation>
+    </message>
+    <message>
+        <source>The tempo of the piece at the position in beats per minute (Alt+M)</source>
+        <translation type="unfinished">Il tempo del brano alla posizione, in battiti al minuto (Alt+M)</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">Velocità</translation>
+    </message>
+    <message>
+        <source>How fast the piece is played, as a part of its tempo. It is not saved with the piece.</source>
+        <translation type="unfinished">Quanto velocemente viene suonato il brano rispetto al suo tempo. Non viene salvata con il brano.</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">Cambia tempo</translation>
+    </message>
+    <message>
+        <source>%1  ·  bar %2, beat %3</source>
+        <translation type="unfinished">%1  ·  battuta %2, movimento %3</translation>
     </message>
 </context>
 <context>
@@ -3227,6 +4021,145 @@ Fai clic per mostrare tutti i temperamenti</translation>
     </message>
 </context>
 <context>
+    <name>velmora::UndoHistory</name>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">Cronologia delle modifiche</translation>
+    </message>
+    <message>
+        <source>Edits of the piece</source>
+        <translation type="unfinished">Modifiche del brano</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation type="unfinished">Come aperto</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VelocityLane</name>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished">Velocity</translation>
+    </message>
+    <message>
+        <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
+        <translation type="unfinished">Trascina sulle barre per cambiare le velocity. Con Maiusc seguono una linea retta. Se ci sono note selezionate, cambiano solo quelle.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoiceRow</name>
+    <message>
+        <source>Record and draw on this voice; double-click to select its notes</source>
+        <translation type="unfinished">Registra e disegna su questa voce; un doppio clic seleziona le sue note</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>mute</comment>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">Muto</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>solo</comment>
+        <translation type="unfinished">S</translation>
+    </message>
+    <message>
+        <source>Solo: only such voices sound</source>
+        <translation type="unfinished">Solo: suonano solo queste voci</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <comment>lock</comment>
+        <translation type="unfinished">B</translation>
+    </message>
+    <message>
+        <source>Lock: protect its notes from edits</source>
+        <translation type="unfinished">Bloccata: protegge le sue note dalle modifiche</translation>
+    </message>
+    <message>
+        <source>Drum kit %1</source>
+        <translation type="unfinished">Batteria %1</translation>
+    </message>
+    <message>
+        <source>Program %1 of bank %2</source>
+        <translation type="unfinished">Programma %1 del banco %2</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">Voce %1</translation>
+    </message>
+    <message>
+        <source>Record and draw on %1</source>
+        <translation type="unfinished">Registra e disegna su %1</translation>
+    </message>
+    <message>
+        <source>Name of voice %1</source>
+        <translation type="unfinished">Nome della voce %1</translation>
+    </message>
+    <message>
+        <source>Program of %1</source>
+        <translation type="unfinished">Programma di %1</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">Volume di %1</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation type="unfinished">Rendi muta %1</translation>
+    </message>
+    <message>
+        <source>Solo %1</source>
+        <translation type="unfinished">%1 in solo</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation type="unfinished">Blocca %1</translation>
+    </message>
+    <message>
+        <source>What the voice plays</source>
+        <translation type="unfinished">Che cosa suona la voce</translation>
+    </message>
+    <message>
+        <source>This instrument plays every voice alike</source>
+        <translation type="unfinished">Questo strumento suona tutte le voci allo stesso modo</translation>
+    </message>
+    <message>
+        <source>How loud the voice is, from 0 to 127</source>
+        <translation type="unfinished">Quanto è forte la voce, da 0 a 127</translation>
+    </message>
+    <message>
+        <source>Like the instrument</source>
+        <translation type="unfinished">Come lo strumento</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoicesPanel</name>
+    <message>
+        <source>Otherwise the instrument plays every voice alike</source>
+        <translation type="unfinished">Altrimenti lo strumento suona tutte le voci allo stesso modo</translation>
+    </message>
+    <message>
+        <source>Rename Voice</source>
+        <translation type="unfinished">Rinomina la voce</translation>
+    </message>
+    <message>
+        <source>Change Program of Voice</source>
+        <translation type="unfinished">Cambia il programma della voce</translation>
+    </message>
+    <message>
+        <source>Change Volume of Voice</source>
+        <translation type="unfinished">Cambia il volume della voce</translation>
+    </message>
+    <message>
+        <source>Every voice has its own sound</source>
+        <translation type="unfinished">Ogni voce ha il suo suono</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
@@ -3273,10 +4206,6 @@ Fai clic per mostrare tutti i temperamenti</translation>
         <translation type="unfinished">Silenzia tutto</translation>
     </message>
     <message>
-        <source>%1 leaves the stage</source>
-        <translation type="unfinished">%1 lascia il palco</translation>
-    </message>
-    <message>
         <source>Console</source>
         <translation type="unfinished">Consolle</translation>
     </message>
@@ -3287,6 +4216,14 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">Studio di accordatura</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">Esercizio</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">Voci</translation>
     </message>
 </context>
 <context>
@@ -3870,6 +4807,42 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>%1, line %2, column %3: %4</source>
         <translation type="unfinished">%1, riga %2, colonna %3: %4</translation>
+    </message>
+    <message>
+        <source>the XML is damaged: %1</source>
+        <translation type="unfinished">l&apos;XML è danneggiato: %1</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and only a part of it could be read. To keep what may still be in it, save the piece under another name.</source>
+        <translation type="unfinished">Il file è danneggiato e se ne è potuta leggere solo una parte. Per conservare ciò che può ancora contenere, salvare il brano con un altro nome.</translation>
+    </message>
+    <message>
+        <source>is not a MusicXML score</source>
+        <translation type="unfinished">non è una partitura MusicXML</translation>
+    </message>
+    <message>
+        <source>is an archive, but not of a score</source>
+        <translation type="unfinished">è un archivio, ma non di una partitura</translation>
+    </message>
+    <message>
+        <source>the score &quot;%1&quot; is missing from the archive</source>
+        <translation type="unfinished">la partitura &quot;%1&quot; manca nell&apos;archivio</translation>
+    </message>
+    <message>
+        <source>the score has no parts</source>
+        <translation type="unfinished">la partitura non ha parti</translation>
+    </message>
+    <message>
+        <source>the score has too many parts</source>
+        <translation type="unfinished">la partitura ha troppe parti</translation>
+    </message>
+    <message>
+        <source>measure %1 is too long</source>
+        <translation type="unfinished">la battuta %1 è troppo lunga</translation>
+    </message>
+    <message>
+        <source>the music is too long</source>
+        <translation type="unfinished">la musica è troppo lunga</translation>
     </message>
 </context>
 <context>

@@ -644,6 +644,77 @@ A click draws it or pushes it in</source>
     </message>
 </context>
 <context>
+    <name>velmora::EditingActions</name>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished">編集</translation>
+    </message>
+    <message>
+        <source>Select by Voice or Velocity…</source>
+        <translation type="unfinished">声部またはベロシティで選択…</translation>
+    </message>
+    <message>
+        <source>Select the notes of a voice, of some keys and velocities</source>
+        <translation type="unfinished">声部、鍵、ベロシティを指定して音符を選択します</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished">複製</translation>
+    </message>
+    <message>
+        <source>Quantise…</source>
+        <translation type="unfinished">クオンタイズ…</translation>
+    </message>
+    <message>
+        <source>Move notes to the grid</source>
+        <translation type="unfinished">音符をグリッドに合わせます</translation>
+    </message>
+    <message>
+        <source>Split Notes at the Position</source>
+        <translation type="unfinished">現在位置で音符を分割</translation>
+    </message>
+    <message>
+        <source>Join Notes</source>
+        <translation type="unfinished">音符を結合</translation>
+    </message>
+    <message>
+        <source>Connect Notes (Legato)</source>
+        <translation type="unfinished">音符をつなげる (レガート)</translation>
+    </message>
+    <message>
+        <source>Move Notes an Octave Up</source>
+        <translation type="unfinished">音符を 1 オクターブ上げる</translation>
+    </message>
+    <message>
+        <source>Move Notes an Octave Down</source>
+        <translation type="unfinished">音符を 1 オクターブ下げる</translation>
+    </message>
+    <message>
+        <source>Nudge Notes Later</source>
+        <translation type="unfinished">音符を少し遅らせる</translation>
+    </message>
+    <message>
+        <source>Nudge Notes Earlier</source>
+        <translation type="unfinished">音符を少し早める</translation>
+    </message>
+    <message>
+        <source>Make Notes Louder</source>
+        <translation type="unfinished">音符を強くする</translation>
+    </message>
+    <message>
+        <source>Make Notes Softer</source>
+        <translation type="unfinished">音符を弱くする</translation>
+    </message>
+    <message>
+        <source>Hear Notes</source>
+        <translation type="unfinished">音符を鳴らす</translation>
+    </message>
+    <message>
+        <source>Sound notes that are pressed or drawn</source>
+        <translation type="unfinished">クリックまたは描画した音符を鳴らします</translation>
+    </message>
+</context>
+<context>
     <name>velmora::ExportProgress</name>
     <message>
         <source>Loading the instrument</source>
@@ -672,6 +743,13 @@ A click draws it or pushes it in</source>
     <message>
         <source>%1 was not exported. %2</source>
         <translation type="unfinished">%1 をエクスポートできませんでした。%2</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FallingNotes</name>
+    <message>
+        <source>Falling notes</source>
+        <translation type="unfinished">落ちてくる音符</translation>
     </message>
 </context>
 <context>
@@ -1117,6 +1195,21 @@ Choose another instrument, open or unload one</source>
     </message>
 </context>
 <context>
+    <name>velmora::Lanes</name>
+    <message>
+        <source>&amp;No Lane</source>
+        <translation type="unfinished">レーンなし(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Velocities</source>
+        <translation type="unfinished">ベロシティ(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo and Signatures</source>
+        <translation type="unfinished">テンポと拍子(&amp;T)</translation>
+    </message>
+</context>
+<context>
     <name>velmora::LanguageFields</name>
     <message>
         <source>The language changes when you start Velmora again.</source>
@@ -1376,6 +1469,25 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
 </context>
 <context>
+    <name>velmora::OutlyingNotes</name>
+    <message>
+        <source>The keyboard does not show these keys. Click to go to the first note.</source>
+        <translation type="unfinished">鍵盤にはこれらの鍵が表示されていません。クリックすると最初の音符に移動します。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) below %1</source>
+        <translation type="unfinished">
+            <numerusform>%1 より下に %n 個の音符</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) above %1</source>
+        <translation type="unfinished">
+            <numerusform>%1 より上に %n 個の音符</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::PlayingControls</name>
     <message>
         <source>Transpose down (Ctrl+Shift+Down)</source>
@@ -1483,6 +1595,201 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Keys that a SoundFont has out of tune are measured when a program is first used, and corrected</source>
         <translation type="unfinished">SoundFont の中でずれている鍵は、プログラムを初めて使うときに測って補正します</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePanel</name>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Slow down after mistakes</source>
+        <translation type="unfinished">間違えたら遅くする</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"> ms</translation>
+    </message>
+    <message>
+        <source>Repeat bars</source>
+        <translation type="unfinished">小節を繰り返す</translation>
+    </message>
+    <message>
+        <source>Show falling notes</source>
+        <translation type="unfinished">落ちてくる音符を表示</translation>
+    </message>
+    <message>
+        <source>Both hands</source>
+        <translation type="unfinished">両手</translation>
+    </message>
+    <message>
+        <source>Right hand</source>
+        <translation type="unfinished">右手</translation>
+    </message>
+    <message>
+        <source>Left hand</source>
+        <translation type="unfinished">左手</translation>
+    </message>
+    <message>
+        <source>The lowest key of the right hand</source>
+        <translation type="unfinished">右手の一番低い鍵</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">発音数</translation>
+    </message>
+    <message>
+        <source>The voices that you play; the others play along</source>
+        <translation type="unfinished">自分が弾く声部。ほかの声部は伴奏します</translation>
+    </message>
+    <message>
+        <source>What a pass without a mistake adds to the speed</source>
+        <translation type="unfinished">間違いのない一回ごとに速度に加える量</translation>
+    </message>
+    <message>
+        <source>How early a key may be, and how long a chord may be rolled</source>
+        <translation type="unfinished">鍵をどれだけ早く弾いてよいか、和音をどれだけ長く分散してよいか</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>bars</comment>
+        <translation type="unfinished">～</translation>
+    </message>
+    <message>
+        <source>First bar</source>
+        <translation type="unfinished">最初の小節</translation>
+    </message>
+    <message>
+        <source>Last bar</source>
+        <translation type="unfinished">最後の小節</translation>
+    </message>
+    <message>
+        <source>Play:</source>
+        <translation type="unfinished">弾くパート:</translation>
+    </message>
+    <message>
+        <source>Split at:</source>
+        <translation type="unfinished">分割点:</translation>
+    </message>
+    <message>
+        <source>Voices:</source>
+        <translation type="unfinished">声部:</translation>
+    </message>
+    <message>
+        <source>Speed:</source>
+        <translation type="unfinished">速度:</translation>
+    </message>
+    <message>
+        <source>Faster by:</source>
+        <translation type="unfinished">加速:</translation>
+    </message>
+    <message>
+        <source>Tolerance:</source>
+        <translation type="unfinished">許容:</translation>
+    </message>
+    <message>
+        <source>Bars:</source>
+        <translation type="unfinished">小節:</translation>
+    </message>
+    <message>
+        <source>There are no notes to practise. Choose other voices, another hand or other bars.</source>
+        <translation type="unfinished">練習する音符がありません。ほかの声部、手、または小節を選んでください。</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">声部 %1</translation>
+    </message>
+    <message>
+        <source>Stop Practising</source>
+        <translation type="unfinished">練習をやめる</translation>
+    </message>
+    <message>
+        <source>Practise</source>
+        <translation type="unfinished">練習する</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, passes: %3</source>
+        <translation type="unfinished">正: %1、誤: %2、回数: %3</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticePicture</name>
+    <message>
+        <source>Right and wrong keys (hatched) by bar</source>
+        <translation type="unfinished">小節ごとの正しい鍵と誤った鍵（斜線）</translation>
+    </message>
+    <message>
+        <source>early</source>
+        <translation type="unfinished">早い</translation>
+    </message>
+    <message>
+        <source>late</source>
+        <translation type="unfinished">遅い</translation>
+    </message>
+    <message>
+        <source>How early or late the keys were, in ms</source>
+        <translation type="unfinished">鍵の早さ・遅さ (ms)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeResults</name>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">無題</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message>
+        <source>The result of the practice was not kept: %1</source>
+        <translation type="unfinished">練習の結果を保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation type="unfinished">画像を保存</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">練習</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::PracticeWindow</name>
+    <message>
+        <source>Practice sessions</source>
+        <translation type="unfinished">練習の記録</translation>
+    </message>
+    <message>
+        <source>Result by bar and by time</source>
+        <translation type="unfinished">小節ごと・時間ごとの結果</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation type="unfinished">画像を保存(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Practice: %1</source>
+        <translation type="unfinished">練習: %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2 %</source>
+        <comment>a time, a speed in percent</comment>
+        <translation type="unfinished">%1（%2 %）</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
+        <translation type="unfinished">正しい鍵: %1（早い %2、遅い %3）、誤った鍵: %4。回数: %5、間違いなし: %6。</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms early.</source>
+        <translation type="unfinished">鍵は平均で %1 ms 早く弾かれました。</translation>
+    </message>
+    <message>
+        <source>On average the keys were %1 ms late.</source>
+        <translation type="unfinished">鍵は平均で %1 ms 遅く弾かれました。</translation>
     </message>
 </context>
 <context>
@@ -1722,10 +2029,192 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     </message>
 </context>
 <context>
+    <name>velmora::QuantiseDialog</name>
+    <message>
+        <source> %</source>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Move the &amp;ends of notes as well</source>
+        <translation type="unfinished">音符の終わりも合わせる(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Quantise</source>
+        <translation type="unfinished">クオンタイズ</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>1/%1 triplets</source>
+        <translation type="unfinished">1/%1 3連符</translation>
+    </message>
+    <message>
+        <source>Where the second of two units begins: 50 % is even, 67 % triplets</source>
+        <translation type="unfinished">2 つの単位の 2 つ目が始まる位置: 50 % は均等、67 % は 3 連符</translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves all %n note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>%n 個の音符すべてをグリッドに合わせます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Moves %n selected note(s) to the grid.</source>
+        <translation type="unfinished">
+            <numerusform>選択した %n 個の音符をグリッドに合わせます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Grid:</source>
+        <translation type="unfinished">グリッド(&amp;G):</translation>
+    </message>
+    <message>
+        <source>&amp;Strength:</source>
+        <translation type="unfinished">強さ(&amp;S):</translation>
+    </message>
+    <message>
+        <source>S&amp;wing:</source>
+        <translation type="unfinished">スウィング(&amp;W):</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RecordingActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">曲</translation>
+    </message>
+    <message>
+        <source>&amp;Metronome</source>
+        <translation type="unfinished">メトロノーム(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Click on the beats</source>
+        <translation type="unfinished">拍ごとにクリックを鳴らします</translation>
+    </message>
+    <message>
+        <source>P&amp;unch In</source>
+        <translation type="unfinished">パンチイン(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Record only in the selected time, and replace what the channel has there</source>
+        <translation type="unfinished">選択した時間だけを録音し、そのチャンネルの内容を置き換えます</translation>
+    </message>
+    <message>
+        <source>Metronome and Count-&amp;In</source>
+        <translation type="unfinished">メトロノームとカウントイン(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Takes</source>
+        <translation type="unfinished">テイク(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Metronome</source>
+        <translation type="unfinished">メトロノーム</translation>
+    </message>
+    <message>
+        <source>While Recording and Playing</source>
+        <translation type="unfinished">録音中と再生中</translation>
+    </message>
+    <message>
+        <source>Only While Recording</source>
+        <translation type="unfinished">録音中のみ</translation>
+    </message>
+    <message>
+        <source>Only While Playing</source>
+        <translation type="unfinished">再生中のみ</translation>
+    </message>
+    <message>
+        <source>Click Between the Beats</source>
+        <translation type="unfinished">拍の間でも鳴らす</translation>
+    </message>
+    <message>
+        <source>Count-In</source>
+        <translation type="unfinished">カウントイン</translation>
+    </message>
+    <message>
+        <source>No Count-In</source>
+        <translation type="unfinished">カウントインなし</translation>
+    </message>
+    <message>
+        <source>One Bar</source>
+        <translation type="unfinished">1 小節</translation>
+    </message>
+    <message>
+        <source>Two Bars</source>
+        <translation type="unfinished">2 小節</translation>
+    </message>
+    <message>
+        <source>Volume of the metronome</source>
+        <translation type="unfinished">メトロノームの音量</translation>
+    </message>
+    <message>
+        <source>&amp;Volume</source>
+        <translation type="unfinished">音量(&amp;V)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Take %1: %n note(s)</source>
+        <translation type="unfinished">
+            <numerusform>テイク %1: %n 音</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RollActions</name>
+    <message>
+        <source>View</source>
+        <translation type="unfinished">表示</translation>
+    </message>
+    <message>
+        <source>Lane</source>
+        <translation type="unfinished">レーン</translation>
+    </message>
+</context>
+<context>
     <name>velmora::SearchField</name>
     <message>
         <source>%1 (%2)</source>
         <translation type="unfinished">%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::SelectDialog</name>
+    <message>
+        <source>Select Notes</source>
+        <translation type="unfinished">音符の選択</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished">すべて</translation>
+    </message>
+    <message>
+        <source>&amp;Voice:</source>
+        <translation type="unfinished">声部(&amp;V):</translation>
+    </message>
+    <message>
+        <source>&amp;Keys:</source>
+        <translation type="unfinished">鍵(&amp;K):</translation>
+    </message>
+    <message>
+        <source>V&amp;elocities:</source>
+        <translation type="unfinished">ベロシティ(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Lowest key</source>
+        <translation type="unfinished">最低の鍵</translation>
+    </message>
+    <message>
+        <source>Highest key</source>
+        <translation type="unfinished">最高の鍵</translation>
+    </message>
+    <message>
+        <source>Softest velocity</source>
+        <translation type="unfinished">最小ベロシティ</translation>
+    </message>
+    <message>
+        <source>Loudest velocity</source>
+        <translation type="unfinished">最大ベロシティ</translation>
     </message>
 </context>
 <context>
@@ -1768,10 +2257,6 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Snap to &amp;Grid</source>
         <translation type="unfinished">グリッドに合わせる(&amp;G)</translation>
-    </message>
-    <message>
-        <source>Align notes and times with whole steps</source>
-        <translation type="unfinished">音符と時刻をステップの区切りに揃えます</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -1909,6 +2394,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Make Notes &amp;Shorter</source>
         <translation type="unfinished">音符を短くする(&amp;S)</translation>
     </message>
+    <message>
+        <source>Align notes and times with the lines of the grid</source>
+        <translation type="unfinished">音符と時間をグリッドの線に揃えます</translation>
+    </message>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">取り消し履歴</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequenceDocument</name>
@@ -1956,6 +2449,52 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Paste %n Note(s)</source>
         <translation type="unfinished">
             <numerusform>%n 個の音符の貼り付け</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose Take %1</source>
+        <translation type="unfinished">テイク %1 を選択</translation>
+    </message>
+    <message numerus="yes">
+        <source>Quantise %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>%n 個の音符のクオンタイズ</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Transpose %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>%n 個の音符の移調</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>%n 個の音符の複製</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Split %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>%n 個の音符の分割</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Join %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>%n 個の音符の結合</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Connect %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>%n 個の音符の接続</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Change Velocity of %n Note(s)</source>
+        <translation type="unfinished">
+            <numerusform>%n 個の音符のベロシティの変更</numerusform>
         </translation>
     </message>
 </context>
@@ -2113,6 +2652,10 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Waiting for %1; not %2</source>
         <translation type="unfinished">%1 を待っています (%2 ではありません)</translation>
+    </message>
+    <message>
+        <source>Counting in</source>
+        <translation type="unfinished">カウントイン中</translation>
     </message>
 </context>
 <context>
@@ -2439,6 +2982,22 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Write the piece down for a notation program, spelled as the tuning spells it</source>
         <translation type="unfinished">調律による音名のまま、記譜ソフト用に曲を書き出します</translation>
     </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">練習</translation>
+    </message>
+    <message>
+        <source>Practise the piece, a hand or a voice of it</source>
+        <translation type="unfinished">曲、片手、または一つの声部を練習する</translation>
+    </message>
+    <message>
+        <source>Show who plays the piece</source>
+        <translation type="unfinished">曲の声部を表示します</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">発音数</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>
@@ -2594,6 +3153,13 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
 To the sound card: %L1 ms. Lost periods: %L2.</source>
         <translation type="unfinished">
 サウンドカードまで: %L1 ms。失われたピリオド: %L2。</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StageView</name>
+    <message>
+        <source>%1 leaves the stage</source>
+        <translation type="unfinished">%1 でステージを終了</translation>
     </message>
 </context>
 <context>
@@ -2846,6 +3412,189 @@ Click to show all tunings</source>
     </message>
 </context>
 <context>
+    <name>velmora::TimeActions</name>
+    <message>
+        <source>Piece</source>
+        <translation type="unfinished">曲</translation>
+    </message>
+    <message>
+        <source>Ta&amp;p Tempo</source>
+        <translation type="unfinished">テンポをタップ(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Tap repeatedly to set the tempo of the piece at the position</source>
+        <translation type="unfinished">繰り返しタップして、その位置の曲のテンポを設定します</translation>
+    </message>
+    <message>
+        <source>Tempo &amp;and Signatures</source>
+        <translation type="unfinished">テンポと拍子(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Tap</source>
+        <translation type="unfinished">タップ</translation>
+    </message>
+    <message>
+        <source>Tap Tempo</source>
+        <translation type="unfinished">テンポをタップ</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeEntryDialog</name>
+    <message>
+        <source>Add &amp;Tempo…</source>
+        <translation type="unfinished">テンポを追加(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Add Time &amp;Signature…</source>
+        <translation type="unfinished">拍子記号を追加(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Key Signature…</source>
+        <translation type="unfinished">調号を追加(&amp;K)…</translation>
+    </message>
+    <message>
+        <source>Add &amp;Marker…</source>
+        <translation type="unfinished">マーカーを追加(&amp;M)…</translation>
+    </message>
+    <message>
+        <source>Add Tempo</source>
+        <translation type="unfinished">テンポを追加</translation>
+    </message>
+    <message>
+        <source>Add Time Signature</source>
+        <translation type="unfinished">拍子記号を追加</translation>
+    </message>
+    <message>
+        <source>Add Key Signature</source>
+        <translation type="unfinished">調号を追加</translation>
+    </message>
+    <message>
+        <source>Add Marker</source>
+        <translation type="unfinished">マーカーを追加</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">テンポを変更</translation>
+    </message>
+    <message>
+        <source>Change Time Signature</source>
+        <translation type="unfinished">拍子記号を変更</translation>
+    </message>
+    <message>
+        <source>Change Key Signature</source>
+        <translation type="unfinished">調号を変更</translation>
+    </message>
+    <message>
+        <source>Change Marker</source>
+        <translation type="unfinished">マーカーを変更</translation>
+    </message>
+    <message>
+        <source>Delete Tempo</source>
+        <translation type="unfinished">テンポを削除</translation>
+    </message>
+    <message>
+        <source>Delete Time Signature</source>
+        <translation type="unfinished">拍子記号を削除</translation>
+    </message>
+    <message>
+        <source>Delete Key Signature</source>
+        <translation type="unfinished">調号を削除</translation>
+    </message>
+    <message>
+        <source>Delete Marker</source>
+        <translation type="unfinished">マーカーを削除</translation>
+    </message>
+    <message>
+        <source>A♭ E♭ B♭ F C G D A E B F♯ C♯ G♯ D♯ A♯</source>
+        <comment>minor keys</comment>
+        <translation type="unfinished">変イ 変ホ 変ロ ヘ ハ ト ニ イ ホ ロ 嬰ヘ 嬰ハ 嬰ト 嬰ニ 嬰イ</translation>
+    </message>
+    <message>
+        <source>C♭ G♭ D♭ A♭ E♭ B♭ F C G D A E B F♯ C♯</source>
+        <comment>major keys</comment>
+        <translation type="unfinished">変ハ 変ト 変ニ 変イ 変ホ 変ロ ヘ ハ ト ニ イ ホ ロ 嬰ヘ 嬰ハ</translation>
+    </message>
+    <message>
+        <source>%1 minor</source>
+        <translation type="unfinished">%1 短三和音</translation>
+    </message>
+    <message>
+        <source>%1 major</source>
+        <translation type="unfinished">%1 長三和音</translation>
+    </message>
+    <message>
+        <source>Tempo</source>
+        <translation type="unfinished">テンポ</translation>
+    </message>
+    <message>
+        <source>Time Signature</source>
+        <translation type="unfinished">拍子記号</translation>
+    </message>
+    <message>
+        <source>Key Signature</source>
+        <translation type="unfinished">調号</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation type="unfinished">マーカー</translation>
+    </message>
+    <message>
+        <source> bpm</source>
+        <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo:</source>
+        <translation type="unfinished">テンポ(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Notes in a bar:</source>
+        <translation type="unfinished">1小節の音符の数(&amp;N):</translation>
+    </message>
+    <message>
+        <source>1/%1</source>
+        <translation type="unfinished">1/%1</translation>
+    </message>
+    <message>
+        <source>&amp;Value of a note:</source>
+        <translation type="unfinished">音符の長さ(&amp;V):</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation type="unfinished">調(&amp;K):</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation type="unfinished">文字(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Bar:</source>
+        <translation type="unfinished">小節(&amp;B):</translation>
+    </message>
+    <message>
+        <source>B&amp;eat:</source>
+        <translation type="unfinished">拍(&amp;E):</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::TimeLane</name>
+    <message>
+        <source>Tempo and signatures</source>
+        <translation type="unfinished">テンポと拍子</translation>
+    </message>
+    <message>
+        <source>Tempos, time signatures, key signatures and markers. Double-click to add or change one, drag it to move it, and press Delete to remove it.</source>
+        <translation type="unfinished">テンポ、拍子記号、調号、マーカー。ダブルクリックで追加または変更、ドラッグで移動、Deleteキーで削除します。</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation type="unfinished">変更(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">削除(&amp;D)</translation>
+    </message>
+</context>
+<context>
     <name>velmora::TimeRuler</name>
     <message>
         <source>Bars</source>
@@ -2875,20 +3624,12 @@ Click to show all tunings</source>
         <translation type="unfinished">再生</translation>
     </message>
     <message>
-        <source>The position in minutes and seconds at this tempo, and in steps</source>
-        <translation type="unfinished">このテンポでの位置 (分、秒) とステップ</translation>
-    </message>
-    <message>
         <source>Te&amp;mpo</source>
         <translation type="unfinished">テンポ(&amp;M)</translation>
     </message>
     <message>
         <source>Tempo</source>
         <translation type="unfinished">テンポ</translation>
-    </message>
-    <message>
-        <source>The tempo of playing and recording in beats per minute (Alt+M)</source>
-        <translation type="unfinished">再生と録音のテンポ (1 分あたりの拍数) (Alt+M)</translation>
     </message>
     <message>
         <source>&amp;Channel</source>
@@ -2909,6 +3650,47 @@ Click to show all tunings</source>
     <message>
         <source> bpm</source>
         <translation type="unfinished"> bpm</translation>
+    </message>
+    <message>
+        <source>Takes</source>
+        <translation type="unfinished">テイク</translation>
+    </message>
+    <message>
+        <source>Choose one of the takes that were recorded in the loop</source>
+        <translation type="unfinished">ループで録音したテイクを選びます</translation>
+    </message>
+    <message>
+        <source>Count-in: %1</source>
+        <translation type="unfinished">カウントイン: %1</translation>
+    </message>
+    <message>
+        <source>The position in minutes and seconds at this speed, and in bars and beats</source>
+        <translation type="unfinished">この速度での分と秒、および小節と拍による位置</translation>
+    </message>
+    <message>
+        <source>The tempo of the piece at the position in beats per minute (Alt+M)</source>
+        <translation type="unfinished">その位置の曲のテンポ(1分あたりの拍数)(Alt+M)</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>percent</comment>
+        <translation type="unfinished"> %</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished">速度</translation>
+    </message>
+    <message>
+        <source>How fast the piece is played, as a part of its tempo. It is not saved with the piece.</source>
+        <translation type="unfinished">曲を演奏する速さ(テンポに対する割合)。曲と一緒には保存されません。</translation>
+    </message>
+    <message>
+        <source>Change Tempo</source>
+        <translation type="unfinished">テンポを変更</translation>
+    </message>
+    <message>
+        <source>%1  ·  bar %2, beat %3</source>
+        <translation type="unfinished">%1  ·  %2小節 %3拍</translation>
     </message>
 </context>
 <context>
@@ -3210,6 +3992,145 @@ Click to show all tunings</source>
     </message>
 </context>
 <context>
+    <name>velmora::UndoHistory</name>
+    <message>
+        <source>Undo History</source>
+        <translation type="unfinished">取り消し履歴</translation>
+    </message>
+    <message>
+        <source>Edits of the piece</source>
+        <translation type="unfinished">曲の編集</translation>
+    </message>
+    <message>
+        <source>As opened</source>
+        <translation type="unfinished">開いた時の状態</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VelocityLane</name>
+    <message>
+        <source>Velocities</source>
+        <translation type="unfinished">ベロシティ</translation>
+    </message>
+    <message>
+        <source>Drag over the bars to change velocities. With Shift, they follow a straight line. If notes are selected, only they change.</source>
+        <translation type="unfinished">バーの上をドラッグしてベロシティを変えます。Shift を押すと直線になります。音符が選択されていれば、それだけが変わります。</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoiceRow</name>
+    <message>
+        <source>Record and draw on this voice; double-click to select its notes</source>
+        <translation type="unfinished">この声部に録音・記入します。ダブルクリックで音符を選択します</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <comment>mute</comment>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">ミュート</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <comment>solo</comment>
+        <translation type="unfinished">S</translation>
+    </message>
+    <message>
+        <source>Solo: only such voices sound</source>
+        <translation type="unfinished">ソロ：ソロの声部だけが鳴ります</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <comment>lock</comment>
+        <translation type="unfinished">L</translation>
+    </message>
+    <message>
+        <source>Lock: protect its notes from edits</source>
+        <translation type="unfinished">ロック：音符を編集から保護します</translation>
+    </message>
+    <message>
+        <source>Drum kit %1</source>
+        <translation type="unfinished">ドラムキット %1</translation>
+    </message>
+    <message>
+        <source>Program %1 of bank %2</source>
+        <translation type="unfinished">バンク %2 のプログラム %1</translation>
+    </message>
+    <message>
+        <source>Voice %1</source>
+        <translation type="unfinished">声部 %1</translation>
+    </message>
+    <message>
+        <source>Record and draw on %1</source>
+        <translation type="unfinished">%1 に録音・記入</translation>
+    </message>
+    <message>
+        <source>Name of voice %1</source>
+        <translation type="unfinished">声部 %1 の名前</translation>
+    </message>
+    <message>
+        <source>Program of %1</source>
+        <translation type="unfinished">%1 のプログラム</translation>
+    </message>
+    <message>
+        <source>Volume of %1</source>
+        <translation type="unfinished">%1 の音量</translation>
+    </message>
+    <message>
+        <source>Mute %1</source>
+        <translation type="unfinished">%1 をミュート</translation>
+    </message>
+    <message>
+        <source>Solo %1</source>
+        <translation type="unfinished">%1 をソロ</translation>
+    </message>
+    <message>
+        <source>Lock %1</source>
+        <translation type="unfinished">%1 をロック</translation>
+    </message>
+    <message>
+        <source>What the voice plays</source>
+        <translation type="unfinished">声部の音色</translation>
+    </message>
+    <message>
+        <source>This instrument plays every voice alike</source>
+        <translation type="unfinished">この楽器はすべての声部を同じ音色で鳴らします</translation>
+    </message>
+    <message>
+        <source>How loud the voice is, from 0 to 127</source>
+        <translation type="unfinished">声部の音量（0～127）</translation>
+    </message>
+    <message>
+        <source>Like the instrument</source>
+        <translation type="unfinished">楽器と同じ</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::VoicesPanel</name>
+    <message>
+        <source>Otherwise the instrument plays every voice alike</source>
+        <translation type="unfinished">オフのときは、すべての声部が同じ音色で鳴ります</translation>
+    </message>
+    <message>
+        <source>Rename Voice</source>
+        <translation type="unfinished">声部の名前を変更</translation>
+    </message>
+    <message>
+        <source>Change Program of Voice</source>
+        <translation type="unfinished">声部のプログラムを変更</translation>
+    </message>
+    <message>
+        <source>Change Volume of Voice</source>
+        <translation type="unfinished">声部の音量を変更</translation>
+    </message>
+    <message>
+        <source>Every voice has its own sound</source>
+        <translation type="unfinished">声部ごとに別の音色</translation>
+    </message>
+</context>
+<context>
     <name>velmora::Workspace</name>
     <message>
         <source>Velmora</source>
@@ -3256,10 +4177,6 @@ Click to show all tunings</source>
         <translation type="unfinished">すべて消音</translation>
     </message>
     <message>
-        <source>%1 leaves the stage</source>
-        <translation type="unfinished">%1 でステージを終了</translation>
-    </message>
-    <message>
         <source>Console</source>
         <translation type="unfinished">コンソール</translation>
     </message>
@@ -3270,6 +4187,14 @@ Click to show all tunings</source>
     <message>
         <source>Tuning Studio</source>
         <translation type="unfinished">調律スタジオ</translation>
+    </message>
+    <message>
+        <source>Practice</source>
+        <translation type="unfinished">練習</translation>
+    </message>
+    <message>
+        <source>Voices</source>
+        <translation type="unfinished">発音数</translation>
     </message>
 </context>
 <context>
@@ -3853,6 +4778,42 @@ Click to show all tunings</source>
     <message>
         <source>%1, line %2, column %3: %4</source>
         <translation type="unfinished">%1、%2 行 %3 桁: %4</translation>
+    </message>
+    <message>
+        <source>the XML is damaged: %1</source>
+        <translation type="unfinished">XML が壊れています: %1</translation>
+    </message>
+    <message>
+        <source>The file is damaged, and only a part of it could be read. To keep what may still be in it, save the piece under another name.</source>
+        <translation type="unfinished">ファイルが壊れており、一部しか読み込めませんでした。残りの内容を失わないように、曲を別の名前で保存してください。</translation>
+    </message>
+    <message>
+        <source>is not a MusicXML score</source>
+        <translation type="unfinished">MusicXML の楽譜ではありません</translation>
+    </message>
+    <message>
+        <source>is an archive, but not of a score</source>
+        <translation type="unfinished">楽譜のアーカイブではありません</translation>
+    </message>
+    <message>
+        <source>the score &quot;%1&quot; is missing from the archive</source>
+        <translation type="unfinished">楽譜「%1」がアーカイブにありません</translation>
+    </message>
+    <message>
+        <source>the score has no parts</source>
+        <translation type="unfinished">楽譜にパートがありません</translation>
+    </message>
+    <message>
+        <source>the score has too many parts</source>
+        <translation type="unfinished">楽譜のパートが多すぎます</translation>
+    </message>
+    <message>
+        <source>measure %1 is too long</source>
+        <translation type="unfinished">小節 %1 が長すぎます</translation>
+    </message>
+    <message>
+        <source>the music is too long</source>
+        <translation type="unfinished">曲が長すぎます</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,7 @@ _velmora()
     local word=$2 previous=$3 command=${COMP_WORDS[1]} options
     case $command in
         render) options="--help --output --tuning --mapping --root --a --program --bank --instrument --as-stops --plain --stop --rate --tail
-            --loop-start --loop-end --loops" ;;
+            --loop-start --loop-end --loops --tempo --voice" ;;
         live) options="--help --tuning --mapping --root --a --program --bank --instrument --as-stops --stop --plain --output --period" ;;
         info) options="--help --json --as-stops --plain --mapping --root --a" ;;
         doctor) options="--help --json" ;;
@@ -29,7 +29,7 @@ _velmora()
         *:--instrument) files='sf2|gig|organ_hauptwerk_xml|xml|organ|orgue' ;;
         render:-o | render:--output) files='wav|flac|ogg|opus|mp3|mid|musicxml|ly' ;;
         *:--output) COMPREPLY=($(compgen -W "jack pulseaudio alsa none" -- "$word")) ;;
-        *:--program | *:--bank | *:--stop | *:--rate | *:--tail | *:--loop-* | *:--loops | *:--period) ;;
+        *:--program | *:--bank | *:--stop | *:--rate | *:--tail | *:--loop-* | *:--loops | *:--tempo | *:--voice | *:--period) ;;
         *)
             if [[ $word == -* ]]; then
                 COMPREPLY=($(compgen -W "$options" -- "$word"))
@@ -37,7 +37,7 @@ _velmora()
                 ((COMP_CWORD > 1)) ||
                     COMPREPLY=($(compgen -W "render live info devices doctor" -- "$word"))
                 case $command in
-                    render) files='mid|midi|smf|kar' ;;
+                    render) files='mid|midi|smf|kar|musicxml|mxl' ;;
                     '' | info) files='*' ;;
                 esac
             fi

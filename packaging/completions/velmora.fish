@@ -34,6 +34,8 @@ complete -c velmora -n $render -l tail -x -d "Seconds to continue after the end"
 complete -c velmora -n $render -l loop-start -x -d "First step to play"
 complete -c velmora -n $render -l loop-end -x -d "End of the interval"
 complete -c velmora -n $render -l loops -x -d "How many times to play the interval"
+complete -c velmora -n $render -l tempo -x -d "Beats a minute at the beginning"
+complete -c velmora -n $render -l voice -x -d "Channel to render, from 1 to 16"
 
 complete -c velmora -n $live -l plain -d "Read files and MIDI devices plainly"
 complete -c velmora -n "__fish_seen_subcommand_from render info" -l plain -d "Read files plainly"

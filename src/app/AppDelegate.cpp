@@ -34,10 +34,13 @@ public:
 AppDelegate::AppDelegate()
     : engine_(kDefaultRate), queue_([this](const InputEvent& event) { handle(event); })
 {
+    engine_.add(metronome_);
+    player_.setMetronome(metronome_);
     connect(this, &AppDelegate::loadingFinished, this, &AppDelegate::takeSynthesizer,
             Qt::QueuedConnection);
     connect(&loader_, &InstrumentLoader::finished, this, &AppDelegate::instrumentsChanged);
     connect(&playing_, &PlayingOptions::changed, this, &AppDelegate::followOptions);
+    player_.tellVoices([this] { emit voicesUsed(); });
     followOptions();
 }
 
@@ -80,6 +83,7 @@ void AppDelegate::start(const OutputSettings& output)
 void AppDelegate::keepPlaying(const OutputSettings& output)
 {
     engine_.setVolume(preferredVolume());
+    metronome_.setVolume(static_cast<float>(getPrefInt("MetronomeVolume")) / 100.0F);
     const auto prepare = [this](double rate) {
         silenceAll(); // a note that was held when the sound was lost would go on
         engine_.setRate(rate);

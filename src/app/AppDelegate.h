@@ -65,6 +65,9 @@ public:
     /// The mixture of everything that sounds live.
     AudioEngine& engine() { return engine_; }
 
+    /// The clicks beside the pieces.
+    Metronome& metronome() { return metronome_; }
+
     /// The current instrument and temperament, and the keys that sound.
     Player& player() { return player_; }
 
@@ -206,6 +209,9 @@ signals:
     /// The thread that loads a bank has finished, successfully or not.
     void loadingFinished();
 
+    /// The channels of sequences play other programs from now on.
+    void voicesUsed();
+
     /// The program at a position of the current instrument's list was selected.
     void programSelected(int position);
 
@@ -244,6 +250,7 @@ private:
     bool loadsInBackground_ = false;
 
     AudioEngine engine_;
+    Metronome metronome_;
     std::vector<std::unique_ptr<InstrumentDocument>> instruments_;
     MIDIInstrument* midiPlayer_ = nullptr; ///< The first of the instruments.
     std::filesystem::path bank_;

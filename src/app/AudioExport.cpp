@@ -67,10 +67,10 @@ private:
 
 AudioExport::~AudioExport() = default;
 
-void AudioExport::start(SoundSettings sound, UnsavedSequence sequence, double tempo,
+void AudioExport::start(SoundSettings sound, UnsavedSequence sequence, double speed,
                         std::filesystem::path file)
 {
-    Job job{std::move(sound), std::move(sequence), tempo, std::move(file)};
+    Job job{std::move(sound), std::move(sequence), speed, std::move(file)};
     thread_ = std::jthread([this, job = std::move(job)](const std::stop_token& stop) mutable {
         run(stop, std::move(job));
     });
@@ -94,13 +94,15 @@ void AudioExport::run(const std::stop_token& stop, Job job)
 bool AudioExport::write(const std::stop_token& stop, Job job)
 {
     RenderOptions options;
-    options.tempo = job.tempo;
+    options.speed = job.speed;
     // Created first, because it fails at once if the file cannot be written.
     AudioFileWriter file(job.file, options.rate);
     Progress progress(*this, job.sound.correctsTuning, stop);
     OfflineSound sound(std::move(job.sound), options.rate, progress);
     SequenceRenderer renderer(sound.player(), sound.source(), job.sequence.reading);
     renderer.document().recover(job.sequence);
+    renderer.document().useVoices();
+    sound.correctTuning();
     const bool rendered = renderer.render(
         options,
         [&](const float* left, const float* right, std::size_t frames) {

@@ -17,9 +17,9 @@ class AudioExport : public QObject {
     Q_OBJECT
 
 public:
-    /// Starts the export. May be called once. `tempo` is in beats per minute, and the file's name
-    /// ends in .wav, .flac or .ogg.
-    void start(SoundSettings sound, UnsavedSequence sequence, double tempo,
+    /// Starts the export. May be called once. `speed` is 1 for the tempo as written, and the
+    /// file's name ends in .wav, .flac or .ogg.
+    void start(SoundSettings sound, UnsavedSequence sequence, double speed,
                std::filesystem::path file);
 
     /// Cancels a running export and waits for its thread.
@@ -41,7 +41,7 @@ private:
     struct Job {
         SoundSettings sound;
         UnsavedSequence sequence;
-        double tempo;
+        double speed;
         std::filesystem::path file;
     };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audio/MusicDevice.h"
 #include "midi/MidiReceiver.h"
 #include "midi/messages.h"
 #include "sound/keys.h"
@@ -13,8 +14,8 @@ namespace velmora {
 
 using KeySet = std::bitset<kKeys>;
 
-/// How many divisions of an organ can be played.
-constexpr std::size_t kDivisions = 16;
+/// How many divisions of an organ can be played, or parts of an ensemble.
+constexpr std::size_t kDivisions = kParts;
 
 /// The keys of each division. Those of an instrument without divisions are the first.
 using DivisionKeys = std::array<KeySet, kDivisions>;

@@ -80,7 +80,7 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
     engine_.add(*instrument.source());
     instrument.setProgram(settings.program);
     if (settings.correctsTuning)
-        correctTuning(instrument, bank);
+        bank_ = bank;
     if (auto* organ = dynamic_cast<OrganInstrument*>(&instrument); organ && settings.console)
         organ->console().setState(*settings.console);
     else
@@ -90,6 +90,11 @@ OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& 
     player_.setTemperament(*temperament_);
     player_.setInstrument(instrument);
     player_.setDivisions(instrument, settings.divisions);
+}
+
+void OfflineSound::correctTuning()
+{
+    velmora::correctTuning(*document_->instrument(), bank_);
 }
 
 } // namespace velmora

@@ -61,10 +61,15 @@ public:
 
     Player& player() { return player_; }
 
+    /// Brings into tune what the instrument and the voices play, if the settings want that. Call
+    /// this when the player knows the voices.
+    void correctTuning();
+
 private:
     std::unique_ptr<Temperament> temperament_;
     AudioEngine engine_;
     std::unique_ptr<InstrumentDocument> document_;
+    std::filesystem::path bank_; ///< To be corrected; empty if it shall not be.
     Player player_;
 };
 

@@ -31,6 +31,7 @@ void Player::setInstrument(Instrument& instrument)
     instrument_->bend(bend_);
     instrument_->setSoft(softPedals_ > 0);
     instrument_->setGlide(glide_);
+    useVoices();
     if (temperament_ != nullptr)
         instrument_->tune(*temperament_, 0, kLastKey);
 }
@@ -158,27 +159,16 @@ void Player::releaseAll(KeySource source)
     stopEverywhere(free, time);
 }
 
-void Player::play(int key, float velocity, int channel, double time)
+void Player::click(Click click, double time)
 {
-    const auto slot = static_cast<std::size_t>(key);
-    const auto part = static_cast<std::size_t>(channel);
-    const std::lock_guard lock(mutex_);
-    const std::uint8_t division = divisions_.ofChannels[part];
-    startedOn_[part][slot] = division;
-    holders_.press(division, slot, kSequencer);
-    start(division, key, velocity, time);
+    if (Metronome* metronome = metronome_)
+        metronome->click(click, time);
 }
 
-void Player::stop(int key, int channel, double time)
+void Player::cancelClicks()
 {
-    const auto slot = static_cast<std::size_t>(key);
-    const std::lock_guard lock(mutex_);
-    if (channel != kEveryChannel) {
-        release(startedOn_[static_cast<std::size_t>(channel)][slot], slot, kSequencer, time);
-        return;
-    }
-    for (std::size_t division = 0; division < kDivisions; ++division)
-        release(division, slot, kSequencer, time);
+    if (Metronome* metronome = metronome_)
+        metronome->cancelAfter(getTime());
 }
 
 void Player::isomorph(int n)
@@ -212,6 +202,8 @@ void Player::silence()
     if (temperament_ != nullptr)
         for (std::size_t key = 0; key < kKeys; ++key)
             temperament_->release(static_cast<unsigned char>(key));
+    playing_ = {};
+    unheard_ = {};
     for (auto& [instrument, keys] : instruments_) {
         instrument->silence();
         keys = {};
@@ -232,13 +224,21 @@ void Player::fade()
             instrument->fade(kFadeFactor);
 }
 
-void Player::start(std::size_t division, int key, float velocity, double time)
+/// Lets the temperament choose the pitch of a key. Returns false if nothing can sound.
+bool Player::follow(int key, float velocity, double time)
 {
     if (instrument_ == nullptr || temperament_ == nullptr || !temperament_->isMapped(key))
-        return;
+        return false;
     instrument_->setDue(time);
     temperament_->setTime(momentFor(time));
     temperament_->setup(*instrument_, static_cast<unsigned char>(key), velocity);
+    return true;
+}
+
+void Player::start(std::size_t division, int key, float velocity, double time)
+{
+    if (!follow(key, velocity, time))
+        return;
     instrument_->playOn(division, key, velocity);
     markCurrent(division, key);
 }
@@ -250,13 +250,19 @@ void Player::release(std::size_t division, std::size_t key, KeySource source, do
         stopEverywhere(division, key, time);
 }
 
+/// Tells the temperament that a key was released, if nobody holds it.
+void Player::letGo(std::size_t key, double time)
+{
+    if (temperament_ == nullptr || holders_.isHeld(key))
+        return;
+    temperament_->setTime(momentFor(time));
+    temperament_->release(static_cast<unsigned char>(key));
+}
+
 // See docs/decisions.md, 30.
 void Player::stopEverywhere(std::size_t division, std::size_t key, double time)
 {
-    if (temperament_ != nullptr && !holders_.isHeld(key)) {
-        temperament_->setTime(momentFor(time));
-        temperament_->release(static_cast<unsigned char>(key));
-    }
+    letGo(key, time);
     for (auto& [instrument, keys] : instruments_) {
         // Another division of the current instrument would be stopped by a key that it never had.
         const bool isOwn =

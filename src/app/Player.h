@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/KeyHolders.h"
+#include "audio/Metronome.h"
 #include "base/Clock.h"
 #include "base/fading.h"
 #include "midi/messages.h"
@@ -12,12 +13,18 @@
 
 #include <array>
 #include <atomic>
+#include <bitset>
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace velmora {
+
+/// Channels of a sequence, by their index.
+using ChannelSet = std::bitset<midi::kChannels>;
 
 /// Owns what sounds: which instrument and temperament are current, which instrument sounds each
 /// key, the keys of live input, and the lock that guards them all. Every function may be called on
@@ -44,6 +51,11 @@ public:
 
     /// The divisions of the current instrument that are played.
     Divisions divisions() const;
+
+    /// Chooses the channels of a sequence whose notes sound from now on; all do by default. The
+    /// temperament goes on following the notes of every channel, so that none sounds at another
+    /// pitch than it has among the others.
+    void setHeard(const ChannelSet& channels);
 
     /// Makes a temperament the current one and retunes the instrument, including sounding keys.
     void setTemperament(Temperament& temperament);
@@ -100,7 +112,21 @@ public:
 
     void play(int key, float velocity, int channel, double time) override;
     void stop(int key, int channel, double time) override;
+
+    /// Gives each channel that does not sound like the instrument itself a part of its own, if the
+    /// instrument has parts, and ends the notes of channels that are not audible any more.
+    void setVoices(const VoiceSounds& voices) override;
+
+    /// Calls a function whenever `setVoices` was called. It may call the player.
+    void tellVoices(std::function<void()> used) { voicesUsed_ = std::move(used); }
     LiveKeys& liveKeys() override { return liveKeys_; }
+
+    /// Lets a metronome click, which must outlive the player. Without one, sequences play without
+    /// clicks.
+    void setMetronome(Metronome& metronome) { metronome_ = &metronome; }
+
+    void click(Click click, double time) override;
+    void cancelClicks() override;
 
     /// Ends every sound of every instrument at once and releases every live key.
     void silence();
@@ -123,8 +149,13 @@ private:
     };
 
     // Called with the lock held:
+    bool follow(int key, float velocity, double time);
     void start(std::size_t division, int key, float velocity, double time);
     void release(std::size_t division, std::size_t key, KeySource source, double time);
+    void stopChannel(std::size_t channel, std::size_t key, double time);
+    void letGo(std::size_t key, double time);
+    void useVoices();
+    bool isAudible(std::size_t channel) const;
     void stopEverywhere(std::size_t division, std::size_t key, double time);
     void stopEverywhere(const DivisionKeys& keys, double time);
     void markCurrent(std::size_t division, int key);
@@ -136,9 +167,16 @@ private:
     std::vector<Sounding> instruments_; ///< All that have been current and were not removed.
     KeyHolders holders_;
     Divisions divisions_;
+    ChannelSet heard_ = ChannelSet().set();
+    VoiceSounds voices_{};
+    std::function<void()> voicesUsed_ = [] {};
+    ChannelSet hasPart_; ///< The channels that play a part of their own.
     /// The division on which each channel of a sequence last started each key.
     std::array<std::array<std::uint8_t, kKeys>, midi::kChannels> startedOn_{};
+    /// The keys of each channel that sound, and those that do not because the channel is silent.
+    std::array<KeySet, midi::kChannels> playing_, unheard_;
     LiveKeys liveKeys_;
+    std::atomic<Metronome*> metronome_{nullptr};
     std::atomic<double> inputDelay_{0.0};
     double bend_ = 0.0; ///< In cents.
     Glide glide_;

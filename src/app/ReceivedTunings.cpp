@@ -2,7 +2,6 @@
 
 #include "app/Tunings.h"
 #include "base/Log.h"
-#include "tuning/KeyTemperament.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,9 +14,9 @@ namespace {
 /// A device can send hundreds of changes a second, and each makes windows draw.
 constexpr int kPauseMilliseconds = 20;
 
-std::array<double, 128> hertzOf(const KeyPlaces& places)
+KeyPitches hertzOf(const KeyPlaces& places)
 {
-    std::array<double, 128> hertz{};
+    KeyPitches hertz{};
     std::ranges::transform(places, hertz.begin(),
                            [](double place) { return 440.0 * std::exp2((place - 69.0) / 12.0); });
     return hertz;
@@ -71,24 +70,26 @@ void ReceivedTunings::play()
     pause_.start();
     const std::string title = titleOf(*device);
     titles_[title] = *device;
-    tunings_.replace(std::make_unique<TuningDocument>(
-        title, "", makeTemperament(hertzOf(received_[*device].places))));
+    tunings_.replace(TuningDocument::makeReceived(title, hertzOf(received_[*device].places)));
     if (tunings_.name() != title)
         tunings_.select(title);
 }
 
-/// A tuning never takes the place of one that came from elsewhere.
+/// A tuning never takes the place of one that came from elsewhere, but it may take that of one that
+/// was received before the program was started.
 std::string ReceivedTunings::titleOf(std::size_t device) const
 {
     const std::string name = nameOf_(device);
     const std::string& own = received_.at(device).name;
     std::string title = own.empty() ? name : own;
-    const auto names = tunings_.names();
     const auto isTaken = [&](const std::string& wanted) {
         const auto played = titles_.find(wanted);
-        return played == titles_.end() ? std::ranges::find(names, wanted) != names.end() ||
-                                             TuningDocument::isBuiltin(wanted)
-                                       : played->second != device;
+        if (played != titles_.end())
+            return played->second != device;
+        return TuningDocument::isBuiltin(wanted) ||
+               std::ranges::any_of(tunings_.documents(), [&](const auto& document) {
+                   return document->name() == wanted && !document->received();
+               });
     };
     while (isTaken(title))
         title += " (" + name + ")";

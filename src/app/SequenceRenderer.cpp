@@ -28,8 +28,9 @@ bool SequenceRenderer::render(const RenderOptions& options, const AudioSink& sin
     const int times = options.loop ? options.loop->times : 1;
     if (options.loop)
         transport.selectInterval(begin, end);
-    transport.setTempo(options.tempo);
+    transport.setSpeed(options.speed);
     transport.setLoop(times > 1);
+    player_.setHeard(options.voices);
 
     int played = 0;
     transport.play();

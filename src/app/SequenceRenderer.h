@@ -21,8 +21,9 @@ struct RenderLoop {
 struct RenderOptions {
     double rate = 48000.0; ///< Frames per second, as the audio source renders them.
     double tailSeconds = 1.0;
-    double tempo = 120.0; ///< In beats per minute.
+    double speed = 1.0; ///< 1 for the tempo as written.
     std::optional<RenderLoop> loop;
+    ChannelSet voices = ChannelSet().set(); ///< The channels that sound.
 };
 
 /// Receives the rendered sound block by block.

@@ -19,6 +19,8 @@ constexpr int kSessionVersion = 1;
 constexpr int kLastProgram = 127;
 constexpr int kLastBank = 65535;
 constexpr int kLastPitchClass = 11;
+/// A MIDI device can send pitches from 8 to 13,290 Hz.
+constexpr double kLowestHertz = 1.0, kHighestHertz = 20000.0;
 /// No file holds more instruments.
 constexpr int kLastChoice = 65535;
 
@@ -168,6 +170,47 @@ Session::Instrument readInstrument(const JsonField& file, const std::filesystem:
     return instrument;
 }
 
+Json describe(const Session::Tuning& tuning, const std::filesystem::path& folder)
+{
+    Json file = Json::object();
+    if (tuning.path.empty())
+        file["name"] = tuning.name;
+    else
+        addPath(file, tuning.path, folder);
+    if (tuning.received)
+        file["hertz"] = *tuning.received;
+    if (!tuning.mapping.empty())
+        addPath(file["mapping"], tuning.mapping, folder);
+    return file;
+}
+
+KeyPitches readPitches(const JsonField& list)
+{
+    KeyPitches pitches{};
+    const auto elements = list.elements();
+    if (elements.size() != pitches.size())
+        list.refuse("a list of the pitches of 128 keys");
+    std::ranges::transform(elements, pitches.begin(), [](const JsonField& pitch) {
+        return pitch.number(kLowestHertz, kHighestHertz);
+    });
+    return pitches;
+}
+
+Session::Tuning readTuning(const JsonField& file, const std::filesystem::path& folder)
+{
+    Session::Tuning tuning;
+    const auto name = file.find("name");
+    if (name)
+        tuning.name = name->text();
+    else
+        tuning.path = readPath(file, folder);
+    if (const auto hertz = file.find("hertz"); hertz && name)
+        tuning.received = readPitches(*hertz);
+    if (const auto mapping = file.find("mapping"))
+        tuning.mapping = readPath(*mapping, folder);
+    return tuning;
+}
+
 void requireSession(const JsonField& file)
 {
     const auto version = file.value.is_object() ? file.find("velmoraSession") : std::nullopt;
@@ -189,12 +232,8 @@ std::string encodeSession(const Session& session, const std::filesystem::path& f
     file["currentInstrument"] = session.currentInstrument;
     file["program"] = session.program;
     file["tunings"] = Json::array();
-    for (const Session::Tuning& tuning : session.tunings) {
-        Json& entry = file["tunings"].emplace_back(Json::object());
-        addPath(entry, tuning.path, folder);
-        if (!tuning.mapping.empty())
-            addPath(entry["mapping"], tuning.mapping, folder);
-    }
+    for (const Session::Tuning& tuning : session.tunings)
+        file["tunings"].push_back(describe(tuning, folder));
     file["tuning"] = session.tuning;
     file["root"] = session.standing.root;
     if (session.standing.a)
@@ -225,12 +264,8 @@ Session decodeSession(std::string_view text, const std::filesystem::path& folder
     if (const auto program = file.find("program"))
         session.program = static_cast<std::uint8_t>(program->integer(0, kLastProgram));
     if (const auto tunings = file.find("tunings"))
-        for (const JsonField& tuning : tunings->records()) {
-            const auto mapping = tuning.find("mapping");
-            session.tunings.push_back({readPath(tuning, folder), mapping
-                                                                     ? readPath(*mapping, folder)
-                                                                     : std::filesystem::path()});
-        }
+        for (const JsonField& tuning : tunings->records())
+            session.tunings.push_back(readTuning(tuning, folder));
     if (const auto tuning = file.find("tuning"))
         session.tuning = tuning->text();
     if (const auto root = file.find("root"))

@@ -3,6 +3,7 @@
 #include "import/ImportOptions.h"
 #include "import/InstrumentFormat.h"
 #include "sound/ConsoleState.h"
+#include "tuning/KeyTemperament.h"
 #include "tuning/TransposedTemperament.h"
 
 #include <cstddef>
@@ -28,8 +29,10 @@ struct Session {
     };
 
     struct Tuning {
-        std::filesystem::path path;      ///< Absolute.
-        std::filesystem::path mapping{}; ///< Of the keyboard; absolute, or empty for none.
+        std::filesystem::path path;           ///< Absolute; empty for one that has no file.
+        std::filesystem::path mapping{};      ///< Of the keyboard; absolute, or empty for none.
+        std::string name{};                   ///< Only of one that has no file.
+        std::optional<KeyPitches> received{}; ///< The pitches that a MIDI device has sent.
     };
 
     struct Piece {
@@ -40,7 +43,7 @@ struct Session {
     std::vector<Instrument> instruments;
     std::size_t currentInstrument = 0; ///< Its position in that list.
     std::uint8_t program = 0;          ///< The General MIDI program.
-    std::vector<Tuning> tunings;       ///< The opened tuning files.
+    std::vector<Tuning> tunings;       ///< Those that a new program would not list as they are.
     std::string tuning;                ///< The name of the current tuning; may be empty.
     Transposition standing;            ///< The root and the pitch of the tunings.
     int transposition = 0;             ///< In semitones.

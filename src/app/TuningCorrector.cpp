@@ -2,14 +2,20 @@
 
 #include "app/AppDelegate.h"
 
+#include <algorithm>
+
 namespace velmora {
 
 TuningCorrector::TuningCorrector(AppDelegate& application) : application_(application)
 {
     connect(this, &TuningCorrector::measured, this, &TuningCorrector::take, Qt::QueuedConnection);
-    connect(&application, &AppDelegate::instrumentChanged, this, &TuningCorrector::update);
     connect(&application, &AppDelegate::programSelected, this, &TuningCorrector::update);
-    connect(&application, &AppDelegate::bankLoaded, this, &TuningCorrector::update);
+    connect(&application, &AppDelegate::voicesUsed, this, &TuningCorrector::update);
+    for (const auto signal : {&AppDelegate::instrumentChanged, &AppDelegate::bankLoaded})
+        connect(&application, signal, this, [this] {
+            done_.clear(); // what plays now may be another synthesizer
+            update();
+        });
     connect(&application.playing(), &PlayingOptions::changed, this, &TuningCorrector::update);
 }
 
@@ -18,39 +24,45 @@ TuningCorrector::~TuningCorrector()
     isCancelled_ = true; // the destructor of the future waits
 }
 
-std::optional<BankProgram> TuningCorrector::selected() const
+std::vector<PitchedProgram> TuningCorrector::played() const
 {
+    std::vector<PitchedProgram> programs;
     for (const auto& document : application_.instruments()) {
         if (!application_.isCurrent(*document))
             continue;
-        std::optional<BankProgram> program;
         application_.player().with([&](const Instrument& instrument, const Temperament&) {
-            program = pitchedProgram(instrument, document->isFromFile() ? document->path()
-                                                                        : application_.bank());
+            programs = pitchedPrograms(instrument, document->isFromFile() ? document->path()
+                                                                          : application_.bank());
         });
-        return program;
     }
-    return std::nullopt;
+    return programs;
 }
 
 void TuningCorrector::update()
 {
-    const auto wanted = selected();
-    if (!wanted)
-        return;
+    const auto programs = played();
+    const auto isIn = [](const auto& list, const PitchedProgram& program) {
+        return std::ranges::find(list, program) != list.end();
+    };
     if (!application_.playing().correctsTuning()) {
-        correct({});
+        for (const PitchedProgram& program : programs)
+            correct(program, {});
+        done_.clear();
         return;
     }
     if (measuring_.valid()) {
-        if (program_ != *wanted)
-            isCancelled_ = true; // `take` goes on with the other one
+        if (!isIn(programs, program_))
+            isCancelled_ = true; // `take` goes on with another one
         return;
     }
-    program_ = *wanted;
+    const auto next = std::ranges::find_if(
+        programs, [&](const PitchedProgram& program) { return !isIn(done_, program); });
+    if (next == programs.end())
+        return;
+    program_ = *next;
     isCancelled_ = false;
     measuring_ = std::async(std::launch::async, [this] {
-        auto corrections = correctionsFor(program_, [this] { return isCancelled_.load(); });
+        auto corrections = correctionsFor(program_.program, [this] { return isCancelled_.load(); });
         emit measured();
         return corrections;
     });
@@ -61,16 +73,19 @@ void TuningCorrector::take()
     if (!measuring_.valid())
         return;
     const auto corrections = measuring_.get();
-    if (isCancelled_ || selected() != program_)
-        update();
-    else if (corrections && application_.playing().correctsTuning())
-        correct(*corrections);
+    const auto programs = played();
+    if (!isCancelled_ && std::ranges::find(programs, program_) != programs.end()) {
+        done_.push_back(program_);
+        if (corrections && application_.playing().correctsTuning())
+            correct(program_, *corrections);
+    }
+    update();
 }
 
-void TuningCorrector::correct(const KeyCorrections& corrections)
+void TuningCorrector::correct(const PitchedProgram& program, const KeyCorrections& corrections)
 {
     application_.player().with([&](Instrument& instrument, const Temperament&) {
-        dynamic_cast<MIDIInstrument&>(instrument).setCorrections(instrument.program(), corrections);
+        dynamic_cast<MIDIInstrument&>(instrument).setCorrections(program.position, corrections);
     });
 }
 

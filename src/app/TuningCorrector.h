@@ -7,12 +7,13 @@
 #include <atomic>
 #include <future>
 #include <optional>
+#include <vector>
 
 namespace velmora {
 
-/// Brings the programs of SoundFonts into tune while they are played live. When a program is
-/// selected, it is measured in the background and corrected from the next note on. Main thread
-/// only.
+/// Brings the programs of SoundFonts into tune while they are played live. Each program that is
+/// selected, or that a voice of a piece plays, is measured in the background and corrected from the
+/// next note on. Main thread only.
 class TuningCorrector : public QObject {
     Q_OBJECT
 
@@ -21,7 +22,7 @@ public:
     explicit TuningCorrector(AppDelegate& application);
     ~TuningCorrector() override;
 
-    /// Looks which program is selected and whether it is to be corrected.
+    /// Looks which programs are played and whether they are to be corrected.
     void update();
 
 signals:
@@ -29,12 +30,13 @@ signals:
     void measured();
 
 private:
-    std::optional<BankProgram> selected() const;
+    std::vector<PitchedProgram> played() const;
     void take();
-    void correct(const KeyCorrections& corrections);
+    void correct(const PitchedProgram& program, const KeyCorrections& corrections);
 
     AppDelegate& application_;
-    BankProgram program_; ///< That of `measuring_`.
+    PitchedProgram program_;           ///< That of `measuring_`.
+    std::vector<PitchedProgram> done_; ///< Those that are played as well as they can be.
     std::atomic<bool> isCancelled_{false};
     std::future<std::optional<KeyCorrections>> measuring_;
 };

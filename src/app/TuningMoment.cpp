@@ -35,6 +35,7 @@ TuningMoment readMoment(Player& player)
             moment.places[tone] = temperament.place(tone);
         moment.centre = temperament.centre();
         moment.drift = temperament.drift();
+        moment.period = temperament.period();
         moment.repeatsEveryOctave = temperament.repeatsEveryOctave();
     });
     if (isTuned)

@@ -19,7 +19,8 @@ struct TuningMoment {
     SpelledClasses places{};           ///< Empty if the temperament does not spell.
     std::optional<double> centre;      ///< Of what has sounded, on the chain of fifths.
     double drift = 0.0;                ///< In cents.
-    bool repeatsEveryOctave = true;
+    double period = 1200.0;            ///< After which the notes repeat, in cents.
+    bool repeatsEveryOctave = true;    ///< With twelve notes in each octave.
     KeySet sounding;
 
     bool operator==(const TuningMoment&) const = default;

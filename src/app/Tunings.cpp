@@ -83,10 +83,7 @@ const TuningDocument* Tunings::current() const
 std::string Tunings::lastingName() const
 {
     const TuningDocument* document = current();
-    if (document == nullptr || !document->path().empty() || TuningDocument::isBuiltin(name_) ||
-        name_ == kEqual || name_ == kMeantone)
-        return name_;
-    return document->original();
+    return document == nullptr || document->original().empty() ? name_ : document->original();
 }
 
 std::vector<std::string> Tunings::names() const

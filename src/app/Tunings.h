@@ -63,8 +63,8 @@ public:
     /// The name of the current tuning.
     const std::string& name() const { return name_; }
 
-    /// The name by which the next start can find the current tuning: that of the original of an
-    /// edited copy, which only its own file would keep. Empty for a tuning that was received.
+    /// The name by which a session can find the current tuning: that of the original of an edited
+    /// copy, which only its own file would keep.
     std::string lastingName() const;
 
     /// The root and the pitch of the current tuning and of those that are selected later.

@@ -25,11 +25,43 @@ std::optional<std::size_t> findInstrument(const AppDelegate& application,
     return static_cast<std::size_t>(found - listed.begin());
 }
 
-/// Opens a tuning file unless it is listed. Returns a sentence if that fails.
+/// Returns the last listed tuning of a name; null if there is none.
+const TuningDocument* findTuning(const Tunings& tunings, const std::string& name)
+{
+    const auto& listed = tunings.documents();
+    const auto found = std::find_if(listed.rbegin(), listed.rend(),
+                                    [&](const auto& document) { return document->name() == name; });
+    return found == listed.rend() ? nullptr : found->get();
+}
+
+/// Opens a tuning that has no file: one that was received, or one that is built in and now gets a
+/// keyboard mapping. Returns a sentence if that fails.
+std::string openNamedTuning(const Session::Tuning& wanted, Tunings& tunings)
+{
+    const TuningDocument* listed = findTuning(tunings, wanted.name);
+    if (listed != nullptr && listed->mappingPath() == wanted.mapping)
+        return {};
+    std::unique_ptr<TuningDocument> made;
+    if (wanted.received)
+        made = TuningDocument::makeReceived(wanted.name, *wanted.received);
+    else if (listed == nullptr && TuningDocument::isBuiltin(wanted.name))
+        made = TuningDocument::makeBuiltin(wanted.name);
+    else if (listed == nullptr)
+        return "there is no tuning named \"" + wanted.name + "\"";
+    auto mapped = (made ? *made : *listed).withMapping(wanted.mapping);
+    std::string error = mapped->errorString();
+    tunings.replace(std::move(mapped));
+    return error;
+}
+
+/// Opens a tuning unless it is listed. Returns a sentence if that fails.
 std::string openTuning(const Session::Tuning& wanted, AppDelegate& application)
 {
+    Tunings& tunings = application.tunings();
     const auto& path = wanted.path;
-    for (const auto& listed : application.tunings().documents())
+    if (path.empty())
+        return openNamedTuning(wanted, tunings);
+    for (const auto& listed : tunings.documents())
         if (listed->path() == path)
             return {};
     const auto format = tuningFormatOf(path);
@@ -39,12 +71,12 @@ std::string openTuning(const Session::Tuning& wanted, AppDelegate& application)
     if (!document->read(path, *format, application.playing().reading()))
         return document->errorString();
     if (wanted.mapping.empty()) {
-        application.tunings().put(std::move(document));
+        tunings.put(std::move(document));
         return {};
     }
     auto mapped = document->withMapping(wanted.mapping);
     std::string error = mapped->errorString();
-    application.tunings().put(std::move(mapped));
+    tunings.put(std::move(mapped));
     return error;
 }
 
@@ -104,9 +136,14 @@ Session currentSession(AppDelegate& application)
         session.instruments.push_back(std::move(entry));
     }
     session.program = application.midiProgram();
-    for (const auto& document : application.tunings().documents())
-        if (!document->path().empty())
-            session.tunings.push_back({document->path(), document->mappingPath()});
+    for (const auto& document : application.tunings().documents()) {
+        const bool hasFile = !document->path().empty();
+        const bool isMapped = document->original().empty() && !document->mappingPath().empty();
+        if (hasFile || isMapped || document->received())
+            session.tunings.push_back({document->path(), document->mappingPath(),
+                                       hasFile ? std::string() : document->name(),
+                                       document->received()});
+    }
     session.tuning = application.tunings().lastingName();
     session.standing = application.tunings().transposition();
     session.transposition = application.playing().settings().transposition;

@@ -14,86 +14,67 @@
 #include <algorithm>
 #include <array>
 #include <map>
-#include <string_view>
 
 namespace velmora {
 
 namespace {
 
-/// What follows the type and the length of a meta event; empty if it is another one or cut short.
-std::string_view metaText(const FileEvent& event, std::uint8_t type)
-{
-    std::string_view data = event.data;
-    if (event.status != midi::kMetaEvent || data.empty() ||
-        static_cast<std::uint8_t>(data.front()) != type)
-        return {};
-    data.remove_prefix(1);
-    // The length takes as many bytes as have their highest bit set, and one more.
-    while (!data.empty() && static_cast<std::uint8_t>(data.front()) >= midi::kStatusBit)
-        data.remove_prefix(1);
-    return data.empty() ? data : data.substr(1);
-}
+/// The shortest unit of a time signature that can be written down.
+constexpr int kShortestUnit = 32;
 
-/// Adds the signatures and tempos of a file, and returns the names of its channels.
-std::map<unsigned, std::string> addFile(const MidiFileEvents& file, Piece& piece)
+/// Returns the names of the channels of a file, which are those of their first tracks.
+std::map<unsigned, std::string> channelNames(const MidiFileEvents& file)
 {
     std::map<unsigned, std::string> names;
     for (const FileTrack& track : file.tracks) {
         std::string name;
         for (const FileEvent& event : track.events) {
-            const double start = static_cast<double>(event.tick) / file.header.ticksPerBeat;
-            if (const auto text = metaText(event, midi::kTrackName); !text.empty())
+            if (const auto text = metaData(event, midi::kTrackName); !text.empty())
                 name = toUtf8(text);
-            if (const auto time = metaText(event, midi::kTimeSignature);
-                time.size() >= 2 && time[0] > 0 && time[1] >= 0 && time[1] <= 5)
-                piece.timeSignatures.push_back({start, time[0], 1 << time[1]});
-            if (const auto key = metaText(event, midi::kKeySignature); key.size() >= 2)
-                piece.keySignatures.push_back(
-                    {start, std::clamp<int>(static_cast<signed char>(key[0]), -7, 7), key[1] == 1});
-            if (const auto tempo = metaText(event, midi::kTempo); tempo.size() == 3) {
-                double microseconds = 0.0;
-                for (const char byte : tempo)
-                    microseconds = 256.0 * microseconds + static_cast<std::uint8_t>(byte);
-                if (microseconds > 0.0 && !file.header.hasFrames)
-                    piece.tempos.push_back({start, 60e6 / microseconds});
-            }
             if ((event.status & midi::kKindMask) == midi::kNoteOn)
                 names.try_emplace(event.status & midi::kChannelMask, name);
         }
     }
-    std::ranges::stable_sort(piece.timeSignatures, {}, &Piece::TimeSignature::start);
-    std::ranges::stable_sort(piece.keySignatures, {}, &Piece::KeySignature::start);
-    std::ranges::stable_sort(piece.tempos, {}, &Piece::Tempo::start);
     return names;
+}
+
+void addTime(const MusicalTime& time, Piece& piece)
+{
+    for (const auto& [step, count, unit] : time.timeSignatures())
+        if (unit <= kShortestUnit)
+            piece.timeSignatures.push_back({step / kStepsPerBeat, count, unit});
+    for (const auto& [step, sharps, isMinor] : time.keySignatures())
+        piece.keySignatures.push_back({step / kStepsPerBeat, sharps, isMinor});
+    for (const Tempo& tempo : time.tempos())
+        piece.tempos.push_back({tempo.step / kStepsPerBeat, tempo.beats()});
 }
 
 } // namespace
 
-Piece pieceOf(const SequenceDocument& document, const std::string& title, Temperament& temperament)
+Piece pieceOf(const SequenceDocument& document, const std::string& title, Temperament& temperament,
+              const ChannelSet& voices)
 {
     Piece piece;
     piece.title = title;
     std::map<unsigned, std::string> names;
-    TempoMap tempoMap;
-    if (const SourceFile* source = document.source()) {
-        const MidiFileEvents file = readMidiFileEvents(source->bytes());
-        tempoMap = file.tempoMap;
-        names = addFile(file, piece);
-    }
-
+    if (const SourceFile* source = document.source())
+        names = channelNames(readMidiFileEvents(source->bytes()));
+    const MusicalTime& time = document.transport().time();
+    addTime(time, piece);
     const auto& notes = document.sequence().notes();
     std::vector<TimedKey> keys;
     keys.reserve(notes.size());
     for (const Note& note : notes)
-        keys.push_back({note.start / kStepsPerFileSecond,
-                        (note.start + note.length) / kStepsPerFileSecond, note.key});
+        keys.push_back(
+            {time.secondsAt(note.start), time.secondsAt(note.start + note.length), note.key});
     const auto places = spellNotes(keys, temperament);
     std::map<unsigned, Piece::Part> parts;
     for (std::size_t i = 0; i < notes.size(); ++i) {
         const unsigned channel = notes[i].channel % midi::kChannels;
-        const double start = tempoMap.beatsForSeconds(keys[i].start);
-        parts[channel].notes.push_back({.start = start,
-                                        .length = tempoMap.beatsForSeconds(keys[i].end) - start,
+        if (!voices[channel])
+            continue;
+        parts[channel].notes.push_back({.start = notes[i].start / kStepsPerBeat,
+                                        .length = notes[i].length / kStepsPerBeat,
                                         .key = notes[i].key,
                                         .place = places[i],
                                         .velocity = notes[i].velocity});

@@ -10,6 +10,9 @@ namespace {
 /// What an instrument of stops is most like.
 constexpr int kChurchOrgan = 19;
 
+/// The beats a minute of the file at the speed as written.
+constexpr double kFileTempo = 120.0;
+
 /// Returns the program that a General MIDI device should play.
 Program currentProgram(AppDelegate& application)
 {
@@ -32,7 +35,7 @@ TunedMidi writeTunedMidi(AppDelegate& application,
     std::unique_ptr<Temperament> temperament;
     application.player().with(
         [&](const Instrument&, const Temperament& current) { temperament = current.fresh(); });
-    TunedMidiWriter writer(currentProgram(application), options.tempo, options.rate);
+    TunedMidiWriter writer(currentProgram(application), kFileTempo * options.speed, options.rate);
     Player player;
     player.setGlide(application.playing().glide());
     player.setTemperament(*temperament);

@@ -98,15 +98,17 @@ void writeCached(const KeyCorrections& corrections, const std::filesystem::path&
 
 } // namespace
 
-std::optional<BankProgram> pitchedProgram(const Instrument& instrument,
-                                          const std::filesystem::path& file)
+std::vector<PitchedProgram> pitchedPrograms(const Instrument& instrument,
+                                            const std::filesystem::path& file)
 {
-    if (file.empty() || dynamic_cast<const MIDIInstrument*>(&instrument) == nullptr)
-        return std::nullopt;
-    const Program& program = instrument.programs()[instrument.program()];
-    if (program.isPercussion)
-        return std::nullopt;
-    return BankProgram{file, program.bank, program.number};
+    const auto* player = dynamic_cast<const MIDIInstrument*>(&instrument);
+    std::vector<PitchedProgram> pitched;
+    if (file.empty() || player == nullptr)
+        return pitched;
+    for (const std::size_t position : player->playedPrograms())
+        if (const Program& program = instrument.programs()[position]; !program.isPercussion)
+            pitched.push_back({position, {file, program.bank, program.number}});
+    return pitched;
 }
 
 std::optional<KeyCorrections> correctionsFor(const BankProgram& program,
@@ -131,12 +133,9 @@ std::optional<KeyCorrections> correctionsFor(const BankProgram& program,
 
 void correctTuning(Instrument& instrument, const std::filesystem::path& file)
 {
-    const auto program = pitchedProgram(instrument, file);
-    if (!program)
-        return;
-    if (const auto corrections = correctionsFor(*program, [] { return false; }))
-        dynamic_cast<MIDIInstrument&>(instrument)
-            .setCorrections(instrument.program(), *corrections);
+    for (const auto& [position, program] : pitchedPrograms(instrument, file))
+        if (const auto corrections = correctionsFor(program, [] { return false; }))
+            dynamic_cast<MIDIInstrument&>(instrument).setCorrections(position, *corrections);
 }
 
 } // namespace velmora

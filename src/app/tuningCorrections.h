@@ -2,9 +2,11 @@
 
 #include "audio/MusicDevice.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace velmora {
 
@@ -20,10 +22,18 @@ struct BankProgram {
     bool operator==(const BankProgram&) const = default;
 };
 
-/// Returns the program that an instrument plays from a SoundFont, or nothing if it plays something
-/// else or percussion. `file` is its SoundFont.
-std::optional<BankProgram> pitchedProgram(const Instrument& instrument,
-                                          const std::filesystem::path& file);
+/// One of the programs of an instrument.
+struct PitchedProgram {
+    std::size_t position = 0; ///< In the instrument's list.
+    BankProgram program;
+
+    bool operator==(const PitchedProgram&) const = default;
+};
+
+/// Returns the programs that an instrument and its parts play from a SoundFont, without percussion;
+/// nothing if it plays something else. `file` is its SoundFont.
+std::vector<PitchedProgram> pitchedPrograms(const Instrument& instrument,
+                                            const std::filesystem::path& file);
 
 /// Returns what brings the keys of a program into tune, as `measureTuning` does. What has been
 /// measured once is kept in the user's cache folder, for banks with the same contents. Empty if it
@@ -31,8 +41,8 @@ std::optional<BankProgram> pitchedProgram(const Instrument& instrument,
 std::optional<KeyCorrections> correctionsFor(const BankProgram& program,
                                              const std::function<bool()>& isCancelled);
 
-/// Corrects the selected program of an instrument at once, for rendering without an output.
-/// `file` is its SoundFont.
+/// Corrects the programs that an instrument and its parts play at once, for rendering without an
+/// output. `file` is its SoundFont.
 void correctTuning(Instrument& instrument, const std::filesystem::path& file);
 
 } // namespace velmora

@@ -3,10 +3,14 @@
 #include "audio/Glide.h"
 
 #include <array>
+#include <cstddef>
 
 namespace velmora {
 
 class AudioSource;
+
+/// How many parts a device plays: one for live playing, and one for each voice of an ensemble.
+constexpr std::size_t kParts = 17;
 
 /// How many cents higher than its bank has it each key is played.
 using KeyCorrections = std::array<float, 128>;
@@ -23,6 +27,11 @@ public:
 
     /// Sets when the messages that follow are due, as `Instrument::setDue` does.
     virtual void setDue(double /*time*/) {}
+
+    /// Chooses the part, 0…kParts − 1, whose notes, programs, controllers and corrections follow.
+    /// Bends are
+    /// those of every part.
+    virtual void setPart(std::size_t /*part*/) {}
 
     /// Shifts every note by `cents`, in addition to the pitch bends of the channels.
     virtual void bend(double /*cents*/) {}

@@ -4,6 +4,9 @@
 
 namespace velmora {
 
+/// The bank of the drum kits, as SoundFonts number it.
+constexpr int kDrumKits = 128;
+
 /// One of the sounds of a bank. Where both numbers are known, musicians name them.
 struct Program {
     int bank = 0;

@@ -8,13 +8,6 @@
 
 namespace velmora {
 
-namespace {
-
-/// The bank of the drum kits, as SoundFonts number it.
-constexpr int kDrumKits = 128;
-
-} // namespace
-
 SoundFontBank::SoundFontBank(const std::filesystem::path& path)
     : path_(path), settings_(new_fluid_settings(), delete_fluid_settings),
       owner_(nullptr, delete_fluid_synth)

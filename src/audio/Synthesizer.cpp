@@ -79,30 +79,47 @@ void Synthesizer::midiEvent(int status, int data1, int data2)
     const int kind = status & midi::kKindMask;
     if (kind != midi::kPitchBend) {
         const auto key = static_cast<std::size_t>(data1);
-        const bool isCorrected = kind == midi::kNoteOn && key < corrections_.size();
-        send({due_, status, data1, data2, 0.0, isCorrected ? corrections_[key] : 0.0});
+        const bool isCorrected = kind == midi::kNoteOn && key < kKeys;
+        send({due_,
+              status,
+              data1,
+              data2,
+              0.0,
+              isCorrected ? corrections_.at(part_)[key] : 0.0,
+              0,
+              0,
+              {},
+              part_});
         return;
     }
     // Retuning sends the bends of all channels, and most of them are unchanged.
     const double cents = centsOf(data1, data2);
     if (sentBends_[channelOf(status)].exchange(cents) != cents)
-        send({due_, status, data1, data2, cents, 0.0, 0, 0, glide_});
+        send({due_, status, data1, data2, cents, 0.0, 0, 0, glide_, 0});
 }
 
 void Synthesizer::keyOn(int key, int velocity, int sounding, double cents)
 {
-    send({due_, kKeyOn, key, velocity, cents, corrections_.at(static_cast<std::size_t>(sounding)),
-          sounding});
+    send({due_,
+          kKeyOn,
+          key,
+          velocity,
+          cents,
+          corrections_.at(part_).at(static_cast<std::size_t>(sounding)),
+          sounding,
+          0,
+          {},
+          part_});
 }
 
 void Synthesizer::keyOff(int key)
 {
-    send({due_, kKeyOff, key, 0});
+    send({due_, kKeyOff, key, 0, 0.0, 0.0, 0, 0, {}, part_});
 }
 
 void Synthesizer::tuneKey(int key, double cents)
 {
-    send({due_, kTuneKey, key, 0, cents, 0.0, 0, 0, glide_});
+    send({due_, kTuneKey, key, 0, cents, 0.0, 0, 0, glide_, part_});
 }
 
 void Synthesizer::bend(double cents)
@@ -148,7 +165,7 @@ void Synthesizer::apply(const Event& event)
         return;
     switch (event.status & midi::kKindMask) {
     case midi::kNoteOff:
-        forLanes(*own, [&](SynthesizerLane& lane) { lane.noteOff(event.data1); });
+        forLanes(*own, [&](SynthesizerLane& lane) { lane.noteOff({event.part, event.data1}); });
         break;
     case midi::kNoteOn:
         noteOn(*own, event);
@@ -168,108 +185,47 @@ void Synthesizer::apply(const Event& event)
     }
 }
 
-void Synthesizer::applyToKeys(const Event& event)
-{
-    switch (event.status) {
-    case kKeyOn:
-        stopKey(event.data1);
-        if (event.data2 > 0)
-            startKey(event);
-        break;
-    case kKeyOff:
-        stopKey(event.data1);
-        break;
-    default:
-        retuneKey(event.data1, event.cents, event.glide);
-        break;
-    }
-}
-
 void Synthesizer::control(std::size_t own, const Event& event)
 {
     if ((event.status & midi::kKindMask) == midi::kProgramChange)
-        forLanes(own, [&](SynthesizerLane& lane) { lane.programChange(event.data1); });
+        forLanes(own, [&](SynthesizerLane& lane) { lane.programChange(event.part, event.data1); });
     else if (event.data1 == midi::kAllSoundOff)
         silence(own);
     else
-        forLanes(own, [&](SynthesizerLane& lane) { lane.controlChange(event.data1, event.data2); });
+        forLanes(own, [&](SynthesizerLane& lane) {
+            lane.controlChange(event.part, event.data1, event.data2);
+        });
 }
 
 void Synthesizer::noteOn(std::size_t own, const Event& event)
 {
+    const PartKey key{event.part, event.data1};
     // A key that is struck again is released first, as on a single lane.
-    forLanes(own, [&](SynthesizerLane& lane) { lane.noteOff(event.data1); });
+    forLanes(own, [&](SynthesizerLane& lane) { lane.noteOff(key); });
     if (event.data2 == 0 || static_cast<std::size_t>(event.data1) >= kKeys)
         return;
     if (own == kPercussionLane) {
-        lanes_[own]->noteOn(event.data1, event.data2, 0.0);
+        lanes_[own]->noteOn(key, event.data2, 0.0);
         return;
     }
     const auto idle = idleLaneFor(own);
     const std::size_t lane = idle.value_or(own);
-    noteStarted(event.data1, {lane, event.data1, bends_[own]}, idle.has_value());
-    lanes_[lane]->noteOn(event.data1, event.data2, event.correction);
+    if (lane != own)
+        lanes_[lane]->followPart(key.part, *lanes_[own]);
+    noteStarted(key, {lane, 0, event.data1, bends_[own]}, idle.has_value());
+    lanes_[lane]->noteOn(key, event.data2, event.correction);
 }
 
-void Synthesizer::startKey(const Event& event)
-{
-    const auto idle = idleLaneFor(kKeyLane);
-    const std::size_t lane =
-        idle ? *idle : nearestLane(event.sounding, event.cents + event.correction);
-    if (idle)
-        lanes_[lane]->setCents(laneCents_[lane] = event.cents, {});
-    // Beside other notes, it can only be raised by whole cents.
-    const double above = event.cents - laneCents_[lane];
-    noteStarted(event.data1, {lane, event.sounding, event.cents, std::round(above)},
-                idle.has_value());
-    lanes_[lane]->noteOn(event.sounding, event.data2, event.correction + above);
-}
-
-void Synthesizer::noteStarted(int key, const KeyNote& note, bool isFirst)
+void Synthesizer::noteStarted(PartKey key, const KeyNote& note, bool isFirst)
 {
     if (isFirst) {
-        for (KeyNote& other : notes_)
-            if (other.lane == note.lane)
-                other.lane.reset();
-        firstKeys_[*note.lane] = key;
+        ++turns_[note.lane];
+        firstKeys_[note.lane] = key;
     }
-    notes_.at(static_cast<std::size_t>(key)) = note;
-}
-
-void Synthesizer::stopKey(int key)
-{
-    const KeyNote& note = notes_.at(static_cast<std::size_t>(key));
-    if (note.lane)
-        lanes_[*note.lane]->noteOff(note.sounding);
-}
-
-void Synthesizer::retuneKey(int key, double cents, const Glide& glide)
-{
-    if (!glide.movesSounding)
-        return; // the next note brings its pitch with it
-    KeyNote& note = notes_.at(static_cast<std::size_t>(key));
-    note.cents = cents;
-    // Notes that die away have lanes as well.
-    for (std::size_t lane = 0; lane < lanes_.size(); ++lane) {
-        if (firstKeys_[lane] != key || lane == kPercussionLane || lanes_[lane]->isIdle())
-            continue;
-        laneCents_[lane] = cents;
-        lanes_[lane]->setCents(cents, glide);
-        for (KeyNote& other : notes_)
-            if (other.lane == lane)
-                raise(other);
-    }
-    if (note.lane)
-        raise(note);
-}
-
-/// Moves a note that shares a lane with others, to the nearest cent.
-void Synthesizer::raise(KeyNote& note)
-{
-    const double wanted = std::round(note.cents - laneCents_[*note.lane]);
-    if (wanted != note.raised)
-        lanes_[*note.lane]->raise(note.sounding, wanted - note.raised);
-    note.raised = wanted;
+    played_.set(key.part);
+    KeyNote& started = noteOf(key);
+    started = note;
+    started.turn = turns_[note.lane];
 }
 
 std::optional<std::size_t> Synthesizer::idleLaneFor(std::size_t own)
@@ -280,32 +236,11 @@ std::optional<std::size_t> Synthesizer::idleLaneFor(std::size_t own)
         if (!lanes_[i]->isIdle())
             continue;
         ownLanes_[i] = own;
-        lanes_[i]->follow(*lanes_[own]);
+        lanes_[i]->followPitch(*lanes_[own]);
         laneCents_[i] = laneCents_[own];
         return i;
     }
     return std::nullopt;
-}
-
-/// Returns the lane on which a note that is raised by whole cents comes nearest to its pitch. See
-/// docs/decisions.md, 187.
-std::size_t Synthesizer::nearestLane(int sounding, double cents) const
-{
-    std::size_t best = kKeyLane;
-    double least = 2.0; // more than any lane is off
-    for (std::size_t i = kKeyLane; i < lanes_.size(); ++i) {
-        if (ownLanes_[i] != kKeyLane)
-            continue;
-        const double above = cents - laneCents_[i] - lanes_[i]->correction();
-        // Another note of the same key could not be released by itself.
-        const double off =
-            std::abs(above - std::round(above)) + (lanes_[i]->isHeld(sounding) ? 1.0 : 0.0);
-        if (off < least) {
-            least = off;
-            best = i;
-        }
-    }
-    return best;
 }
 
 void Synthesizer::applyBends(std::size_t own, const Glide& glide)
@@ -368,7 +303,9 @@ void Synthesizer::setRate(double rate)
     rate = std::max(rate, SynthesizerLane::kLowestRate);
     for (auto& lane : lanes_) {
         auto next = std::make_unique<SynthesizerLane>(rate, *bank_);
-        next->follow(*lane);
+        next->followPitch(*lane);
+        for (std::size_t part = 0; part < kParts; ++part)
+            next->followPart(part, *lane);
         lane = std::move(next);
     }
 }

@@ -9,6 +9,8 @@
 
 #include <array>
 #include <atomic>
+#include <bitset>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -45,9 +47,13 @@ public:
     void keyOff(int key) override;
     void tuneKey(int key, double cents) override;
     void setDue(double time) override { due_ = time; }
+    void setPart(std::size_t part) override { part_ = static_cast<std::uint8_t>(part); }
     void bend(double cents) override;
     void setGlide(const Glide& glide) override { glide_ = glide; }
-    void setCorrections(const KeyCorrections& corrections) override { corrections_ = corrections; }
+    void setCorrections(const KeyCorrections& corrections) override
+    {
+        corrections_.at(part_) = corrections;
+    }
     AudioSource* source() override { return this; }
     std::size_t voices() const override { return voices_; }
 
@@ -67,6 +73,7 @@ private:
         int sounding = 0;        ///< The key of the bank that a key plays.
         std::size_t frame = 0;   ///< Its place in the block, once that is known.
         Glide glide{};           ///< Of a bend or a key that moves.
+        std::uint8_t part = 0;   ///< Of a note, a program or a controller.
     };
 
     // Kinds of events that are no messages.
@@ -75,8 +82,9 @@ private:
 
     /// The note that a key started last.
     struct KeyNote {
-        std::optional<std::size_t> lane; ///< Nothing once the lane plays something else.
-        int sounding = 0;                ///< The key of the bank.
+        std::size_t lane = 0;
+        unsigned turn = 0; ///< Of the lane; it plays something else if it is at another.
+        int sounding = 0;  ///< The key of the bank.
         double cents = 0.0;
         double raised = 0.0; ///< By so many whole cents above the lane.
     };
@@ -106,12 +114,17 @@ private:
     void noteOn(std::size_t own, const Event& event);
     void control(std::size_t own, const Event& event);
     void startKey(const Event& event);
-    void stopKey(int key);
-    void retuneKey(int key, double cents, const Glide& glide);
-    void raise(KeyNote& note);
+    void stopKey(PartKey key);
+    void retuneKey(PartKey key, double cents, const Glide& glide);
+    bool isOn(const KeyNote& note, std::size_t lane) const;
+    void raise(KeyNote& note, std::size_t part);
     std::optional<std::size_t> idleLaneFor(std::size_t own);
-    std::size_t nearestLane(int sounding, double cents) const;
-    void noteStarted(int key, const KeyNote& note, bool isFirst);
+    std::size_t nearestLane(PartKey sounding, double cents) const;
+    KeyNote& noteOf(PartKey key)
+    {
+        return notes_.at(key.part).at(static_cast<std::size_t>(key.key));
+    }
+    void noteStarted(PartKey key, const KeyNote& note, bool isFirst);
     void applyBends(std::size_t own, const Glide& glide);
     void applyWheel();
     void applyToKeys(const Event& event);
@@ -132,14 +145,18 @@ private:
     std::array<std::size_t, kLanes> ownLanes_{}; ///< Whose channel each lane plays.
     std::array<double, kOwnLanes> bends_{};      ///< Cents, of each channel.
     std::array<double, kLanes> laneCents_{};     ///< Of each lane, without the wheel.
-    std::array<int, kLanes> firstKeys_{};        ///< The key whose pitch each lane has.
-    std::array<KeyNote, kKeys> notes_{};         ///< Of each key.
-    double wheel_ = 0.0;                         ///< Cents, of all channels.
+    std::array<PartKey, kLanes> firstKeys_{};    ///< The key whose pitch each lane has.
+    /// How many times a note has started on each lane while it was idle, and one more.
+    std::array<unsigned, kLanes> turns_{};
+    std::array<std::array<KeyNote, kKeys>, kParts> notes_{}; ///< Of each key of each part.
+    std::bitset<kParts> played_;                             ///< The parts that have started notes.
+    double wheel_ = 0.0;                                     ///< Cents, of all channels.
     std::optional<Reverb> reverb_;
 
-    double due_ = 0.0;             ///< Of the next messages.
-    KeyCorrections corrections_{}; ///< Of the next notes.
-    Glide glide_;                  ///< Of the next bends.
+    double due_ = 0.0;                                 ///< Of the next messages.
+    std::uint8_t part_ = 0;                            ///< Of the next messages.
+    std::array<KeyCorrections, kParts> corrections_{}; ///< Of the next notes.
+    Glide glide_;                                      ///< Of the next bends.
     /// The last bend, in cents, of each channel and of the wheel.
     std::array<std::atomic<double>, kWheelOrder + 1> sentBends_{};
     LockFreeQueue<Event> queue_{kQueue};

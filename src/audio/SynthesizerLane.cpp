@@ -1,5 +1,6 @@
 #include "audio/SynthesizerLane.h"
 
+#include "audio/Program.h"
 #include "midi/messages.h"
 
 #include <spdlog/fmt/fmt.h>
@@ -14,7 +15,14 @@ namespace velmora {
 
 namespace {
 
-constexpr int kChannel = 0;
+/// The least number of FluidSynth's channels, which come in sixteens, with one for each part.
+constexpr int kFluidChannels = 32;
+static_assert(kParts <= kFluidChannels);
+
+int channelOf(std::size_t part)
+{
+    return static_cast<int>(part);
+}
 
 /// Enough for a chord of octaves with several layers. Beyond it FluidSynth gives up the notes that
 /// matter least, which keeps a storm of messages within the time of a period.
@@ -43,6 +51,7 @@ SynthesizerLane::SynthesizerLane(double rate, const SoundFontBank& bank)
             fmt::format("FluidSynth does not support a sample rate of {:g} Hz", rate));
     fluid_settings_setint(settings_.get(), "synth.polyphony", kQueuedVoices);
     fluid_settings_setint(settings_.get(), "synth.threadsafe-api", 0); // needs no locks
+    fluid_settings_setint(settings_.get(), "synth.midi-channels", kFluidChannels);
     fluid_settings_setnum(settings_.get(), "synth.gain", kGain);
     // Both modulate the pitch. The lanes share a reverberation without modulation instead.
     fluid_settings_setint(settings_.get(), "synth.chorus.active", 0);
@@ -54,9 +63,13 @@ SynthesizerLane::SynthesizerLane(double rate, const SoundFontBank& bank)
     // The first block allocates memory for the new polyphony.
     std::array<float, FractionalResampler::kBlock> ignored{};
     process(ignored.data(), ignored.data());
+    // Otherwise the tenth could play nothing but drums.
+    for (int channel = 0; channel < kFluidChannels; ++channel)
+        fluid_synth_set_channel_type(synth_.get(), channel, CHANNEL_TYPE_MELODIC);
     fluid_synth_add_sfont(synth_.get(), bank.handle());
-    programChange(0);
-    readControllers();
+    loadPreset(0);
+    for (std::size_t part = 0; part < kParts; ++part)
+        readControllers(part);
     applyCents();
 }
 
@@ -66,10 +79,11 @@ SynthesizerLane::~SynthesizerLane()
     fluid_synth_remove_sfont(synth_.get(), soundFont_.handle());
 }
 
-void SynthesizerLane::noteOn(int key, int velocity, double correction)
+void SynthesizerLane::noteOn(PartKey key, int velocity, double correction)
 {
-    const auto index = static_cast<std::size_t>(key);
-    if (index >= held_.size() || notesInBlock_ == kMostNotesInBlock)
+    const auto index = static_cast<std::size_t>(key.key);
+    Part& part = parts_[key.part];
+    if (index >= part.held.size() || notesInBlock_ == kMostNotesInBlock)
         return;
     ++notesInBlock_;
     const bool isFirst = isIdle();
@@ -78,11 +92,15 @@ void SynthesizerLane::noteOn(int key, int velocity, double correction)
         correction_ = correction;
         kept_ = 0.0;
         path_ = {};
+        sounding_.reset();
     }
-    fluid_synth_noteon(synth_.get(), kChannel, key, velocity);
+    sounding_.set(key.part);
+    loadPreset(key.part);
+    tunePart(key.part);
+    fluid_synth_noteon(synth_.get(), channelOf(key.part), key.key, velocity);
     if (!isFirst)
         raiseNewest(key, std::round(correction - correction_ + kept_));
-    held_.set(index);
+    part.held.set(index);
     silentBlocks_ = 0;
 }
 
@@ -97,91 +115,123 @@ void SynthesizerLane::setCents(double cents, const Glide& glide)
         path_.begin(std::exchange(kept_, 0.0), glide.seconds * rate_);
 }
 
-void SynthesizerLane::raiseNewest(int key, double cents)
+template <class Use> void SynthesizerLane::forVoices(PartKey key, const Use& use)
+{
+    std::array<fluid_voice_t*, kPolyphony + 1> voices{}; // ends with null
+    fluid_synth_get_voicelist(synth_.get(), voices.data(), kPolyphony, -1);
+    for (auto* const* voice = voices.begin(); *voice != nullptr; ++voice)
+        if (fluid_voice_get_key(*voice) == key.key &&
+            fluid_voice_get_channel(*voice) == channelOf(key.part))
+            use(*voice);
+}
+
+void SynthesizerLane::raiseNewest(PartKey key, double cents)
 {
     if (cents == 0.0)
         return;
-    std::array<fluid_voice_t*, kPolyphony + 1> voices{}; // ends with null
-    fluid_synth_get_voicelist(synth_.get(), voices.data(), kPolyphony, -1);
     unsigned newest = 0;
-    for (auto* const* voice = voices.begin(); *voice != nullptr; ++voice)
-        if (fluid_voice_get_key(*voice) == key)
-            newest = std::max(newest, fluid_voice_get_id(*voice));
-    for (auto* const* voice = voices.begin(); *voice != nullptr; ++voice) {
-        if (fluid_voice_get_key(*voice) != key || fluid_voice_get_id(*voice) != newest)
-            continue;
-        fluid_voice_gen_incr(*voice, GEN_FINETUNE, static_cast<float>(cents));
-        fluid_voice_update_param(*voice, GEN_FINETUNE);
-    }
+    forVoices(key,
+              [&](fluid_voice_t* voice) { newest = std::max(newest, fluid_voice_get_id(voice)); });
+    forVoices(key, [&](fluid_voice_t* voice) {
+        if (fluid_voice_get_id(voice) != newest)
+            return;
+        fluid_voice_gen_incr(voice, GEN_FINETUNE, static_cast<float>(cents));
+        fluid_voice_update_param(voice, GEN_FINETUNE);
+    });
 }
 
-void SynthesizerLane::raise(int key, double cents)
+void SynthesizerLane::raise(PartKey key, double cents)
 {
-    std::array<fluid_voice_t*, kPolyphony + 1> voices{}; // ends with null
-    fluid_synth_get_voicelist(synth_.get(), voices.data(), kPolyphony, -1);
-    for (auto* const* voice = voices.begin(); *voice != nullptr; ++voice) {
-        if (fluid_voice_get_key(*voice) != key)
-            continue;
-        fluid_voice_gen_incr(*voice, GEN_FINETUNE, static_cast<float>(cents));
-        fluid_voice_update_param(*voice, GEN_FINETUNE);
-    }
+    forVoices(key, [&](fluid_voice_t* voice) {
+        fluid_voice_gen_incr(voice, GEN_FINETUNE, static_cast<float>(cents));
+        fluid_voice_update_param(voice, GEN_FINETUNE);
+    });
 }
 
-void SynthesizerLane::noteOff(int key)
+void SynthesizerLane::noteOff(PartKey key)
 {
-    const auto index = static_cast<std::size_t>(key);
-    if (index >= held_.size() || !held_.test(index))
+    const auto index = static_cast<std::size_t>(key.key);
+    Part& part = parts_[key.part];
+    if (index >= part.held.size() || !part.held.test(index))
         return;
-    held_.reset(index);
-    fluid_synth_noteoff(synth_.get(), kChannel, key);
+    part.held.reset(index);
+    fluid_synth_noteoff(synth_.get(), channelOf(key.part), key.key);
 }
 
-void SynthesizerLane::controlChange(int number, int value)
+void SynthesizerLane::controlChange(std::size_t part, int number, int value)
 {
     if (number == midi::kBankSelect) {
-        selectedBank_ = value;
+        parts_[part].selectedBank = value;
         return;
     }
-    fluid_synth_cc(synth_.get(), kChannel, number, value);
-    readControllers();
+    fluid_synth_cc(synth_.get(), channelOf(part), number, value);
+    const auto index = static_cast<std::size_t>(number);
+    if (index < kControllers)
+        readController(part, index);
+    else
+        readControllers(part);
 }
 
-void SynthesizerLane::readControllers()
+void SynthesizerLane::readController(std::size_t part, std::size_t number)
+{
+    int value = 0;
+    fluid_synth_get_cc(synth_.get(), channelOf(part), static_cast<int>(number), &value);
+    parts_[part].controllers[number] = static_cast<std::int8_t>(value);
+}
+
+void SynthesizerLane::readControllers(std::size_t part)
 {
     for (std::size_t i = 0; i < kControllers; ++i)
-        fluid_synth_get_cc(synth_.get(), kChannel, static_cast<int>(i), &controllers_[i]);
+        readController(part, i);
 }
 
-void SynthesizerLane::programChange(int program)
+void SynthesizerLane::programChange(std::size_t part, int program)
 {
-    bank_ = selectedBank_;
-    program_ = program;
-    // A program change by itself never reaches the drum kits of a melodic channel.
-    if (fluid_synth_program_select(synth_.get(), kChannel, fluid_sfont_get_id(soundFont_.handle()),
-                                   bank_, program) != FLUID_OK)
-        fluid_synth_program_change(synth_.get(), kChannel, program);
+    parts_[part].preset = {parts_[part].selectedBank, program};
 }
 
-void SynthesizerLane::follow(const SynthesizerLane& other)
+// Only when a note starts: an ensemble selects more programs than it plays on one lane.
+void SynthesizerLane::loadPreset(std::size_t index)
+{
+    Part& part = parts_[index];
+    if (part.loaded == part.preset)
+        return;
+    part.loaded = part.preset;
+    const auto [bank, program] = part.preset;
+    const int channel = channelOf(index);
+    const int sfont = fluid_sfont_get_id(soundFont_.handle());
+    // A program change by itself never reaches the drum kits of a melodic channel.
+    if (fluid_synth_program_select(synth_.get(), channel, sfont, bank, program) != FLUID_OK &&
+        (bank != kDrumKits ||
+         fluid_synth_program_select(synth_.get(), channel, sfont, bank, 0) != FLUID_OK))
+        fluid_synth_program_change(synth_.get(), channel, program);
+}
+
+void SynthesizerLane::followPitch(const SynthesizerLane& other)
 {
     cents_ = other.cents_;
     wheel_ = other.wheel_;
-    if (bank_ != other.bank_ || program_ != other.program_) {
-        selectedBank_ = other.bank_;
-        programChange(other.program_);
-    }
-    selectedBank_ = other.selectedBank_;
+}
+
+void SynthesizerLane::followPart(std::size_t index, const SynthesizerLane& other)
+{
+    Part& part = parts_[index];
+    const Part& model = other.parts_[index];
+    part.preset = model.preset;
+    part.selectedBank = model.selectedBank;
     for (std::size_t i = 0; i < kControllers; ++i) {
-        if (controllers_[i] != other.controllers_[i])
-            fluid_synth_cc(synth_.get(), kChannel, static_cast<int>(i), other.controllers_[i]);
+        if (part.controllers[i] != model.controllers[i])
+            fluid_synth_cc(synth_.get(), channelOf(index), static_cast<int>(i),
+                           model.controllers[i]);
     }
-    controllers_ = other.controllers_;
+    part.controllers = model.controllers;
 }
 
 void SynthesizerLane::allSoundsOff()
 {
-    fluid_synth_all_sounds_off(synth_.get(), kChannel);
-    held_.reset();
+    fluid_synth_all_sounds_off(synth_.get(), -1); // on every channel
+    for (Part& part : parts_)
+        part.held.reset();
 }
 
 void SynthesizerLane::applyCents()
@@ -189,9 +239,19 @@ void SynthesizerLane::applyCents()
     const double wanted = wantedCents();
     const double whole = std::round(wanted);
     // Aim for the middle of a cent: see docs/decisions.md, 128.
-    fluid_synth_set_gen(synth_.get(), kChannel, GEN_FINETUNE, static_cast<float>(whole + 0.5));
+    fineTune_ = static_cast<float>(whole + 0.5);
+    for (std::size_t part = 0; part < kParts && sounding_.any(); ++part)
+        if (sounding_[part])
+            tunePart(part);
     resampler_.setStep(std::exp2((wanted - whole) / 1200.0) / divisor_);
     appliedCents_ = wanted;
+}
+
+void SynthesizerLane::tunePart(std::size_t index)
+{
+    Part& part = parts_[index];
+    if (std::exchange(part.fineTune, fineTune_) != fineTune_)
+        fluid_synth_set_gen(synth_.get(), channelOf(index), GEN_FINETUNE, fineTune_);
 }
 
 void SynthesizerLane::mix(float* left, float* right, std::size_t frames)

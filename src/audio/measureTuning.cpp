@@ -29,7 +29,7 @@ constexpr std::size_t kKeys = std::tuple_size_v<KeyCorrections>;
 std::span<const float> soundOf(std::size_t key, SynthesizerLane& lane, std::vector<float>& buffer)
 {
     buffer.assign(kSkipped + kMeasured, 0.0F);
-    lane.noteOn(static_cast<int>(key), kVelocity, 0.0);
+    lane.noteOn({0, static_cast<int>(key)}, kVelocity, 0.0);
     lane.mix(buffer.data(), buffer.data(), buffer.size());
     lane.allSoundsOff();
     std::array<float, 512> rest{}; // until it is idle
@@ -43,8 +43,8 @@ std::optional<KeyCorrections> measureTuning(const SoundFontBank& bank, int bankN
                                             const std::function<bool()>& isCancelled)
 {
     SynthesizerLane lane(kRate, bank);
-    lane.controlChange(midi::kBankSelect, bankNumber);
-    lane.programChange(program);
+    lane.controlChange(0, midi::kBankSelect, bankNumber);
+    lane.programChange(0, program);
     KeyCorrections corrections{};
     std::vector<float> buffer;
     std::vector<double> swings;

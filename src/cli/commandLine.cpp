@@ -38,6 +38,8 @@ struct Arguments {
     std::string root;
     RenderOptions options;
     RenderLoop loop{0.0, 0.0, 2};
+    std::vector<std::size_t> voices; ///< Counted from 1.
+    std::optional<double> tempo;     ///< In beats a minute.
     std::vector<std::string> files;
     std::string device; ///< "DRIVER" or "DRIVER:DEVICE" of the sound output.
     std::size_t period = 0;
@@ -153,8 +155,9 @@ void addSelection(CLI::App& command, Arguments& arguments)
 CLI::App* addRender(CLI::App& program, Arguments& arguments)
 {
     CLI::App* command = program.add_subcommand(
-        "render", "Render a MIDI file to a sound file, a MIDI file in a tuning, or a score");
-    command->add_option("sequence", arguments.sequence, "The MIDI file")->required();
+        "render", "Render a piece to a sound file, a MIDI file in a tuning, or a score");
+    command->add_option("sequence", arguments.sequence, "The MIDI file or MusicXML score")
+        ->required();
     command
         ->add_option("-o,--output", arguments.output,
                      "The .wav, .flac, .ogg, .opus or .mp3 file to write, a .mid file that General "
@@ -177,6 +180,19 @@ CLI::App* addRender(CLI::App& program, Arguments& arguments)
     start->needs(end)->check(range(0.0, kLastStep));
     end->needs(start)->check(range(0.0, kLastStep));
     times->needs(start)->capture_default_str()->check(CLI::Range(1, 10000));
+    command
+        ->add_option("--tempo", arguments.tempo,
+                     "Beats a minute at the beginning of the piece; its changes of tempo stay in "
+                     "proportion")
+        ->check(range(1.0, 1000.0));
+    command
+        ->add_option("--voice", arguments.voices,
+                     "Render only the notes of this MIDI channel, from 1 to 16, tuned as in the "
+                     "whole piece; may be repeated")
+        ->take_all()
+        ->allow_extra_args(false)
+        ->type_name("NUMBER")
+        ->check(CLI::Range(1, midi::kChannels));
     return command;
 }
 
@@ -228,6 +244,13 @@ void runRender(const CLI::App& command, Arguments& arguments)
             throw CLI::ValidationError("--loop-end", "must be greater than --loop-start");
         arguments.options.loop = arguments.loop;
     }
+    if (arguments.tempo)
+        arguments.options.speed =
+            *arguments.tempo / tempoOf(arguments.sequence, arguments.selection.plain);
+    if (!arguments.voices.empty())
+        arguments.options.voices.reset();
+    for (const std::size_t voice : arguments.voices)
+        arguments.options.voices.set(voice - 1);
     render(arguments.sequence, arguments.output, arguments.selection, arguments.options);
 }
 
@@ -247,7 +270,7 @@ int run(CLI::App& program, int argc, char** argv)
     program.set_version_flag("--version", "velmora " + version());
     program.require_subcommand(0, 1);
     program.add_option("files", arguments.files,
-                       "MIDI files, instruments, tunings and sessions to open");
+                       "MIDI files, scores, instruments, tunings and sessions to open");
     CLI::App* renderCommand = addRender(program, arguments);
     CLI::App* infoCommand = addJson(
         program.add_subcommand("info", "Describe tuning, instrument and MIDI files"), arguments);

@@ -21,6 +21,10 @@ public:
 void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
             const Selection& selection, const RenderOptions& options);
 
+/// Returns the beats a minute at the beginning of a sequence file. Throws std::runtime_error with a
+/// sentence if it cannot be read.
+double tempoOf(const std::filesystem::path& sequence, bool plain);
+
 /// Prints descriptions of tuning, instrument and sequence files, as text or as one JSON document
 /// per file. Instruments are read as the selection says. Prints a sentence on standard error for
 /// each file that cannot be read. Returns true if all could be read.

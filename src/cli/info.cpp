@@ -2,6 +2,7 @@
 #include "cli/commands.h"
 #include "cli/instrumentInfo.h"
 #include "sequencer/SequenceFile.h"
+#include "sequencer/scoreFile.h"
 #include "tuning/ScaleTemperament.h"
 #include "tuning/spelling.h"
 
@@ -183,7 +184,7 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
             throw std::runtime_error(mapped->errorString());
         return {describe(*mapped, selection.transposition), printTuning};
     }
-    if (sequenceFormatOf(path)) {
+    if (sequenceFormatOf(path) || isReadableScore(path)) {
         Player player;
         SequenceDocument document(player, selection.plain ? Reading::Plain : Reading::Musical);
         document.read(path);

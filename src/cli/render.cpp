@@ -15,17 +15,16 @@
 #include <spdlog/fmt/fmt.h>
 
 #include <cmath>
-
-#include <spdlog/fmt/fmt.h>
-
 #include <cstdio>
 
 namespace velmora {
 
 namespace {
 
-/// Prepares an application that plays the selection offline.
-void selectOffline(const Selection& selection, double rate, AppDelegate& application)
+/// Prepares an application that plays the selection offline. Returns the SoundFont that it plays,
+/// if it plays one.
+std::filesystem::path selectOffline(const Selection& selection, double rate,
+                                    AppDelegate& application)
 {
     if (selection.plain)
         application.playing().usePlainReading();
@@ -40,18 +39,52 @@ void selectOffline(const Selection& selection, double rate, AppDelegate& applica
     select(selection, application);
     if (const std::string warning = tuningWarning(application); !warning.empty())
         fmt::print(stderr, "velmora: {}\n", warning);
+    return bank;
+}
+
+/// Chooses what the voices of a piece play, and brings it into tune.
+void prepareVoices(const Selection& selection, const std::filesystem::path& bank,
+                   AppDelegate& application, SequenceDocument& document)
+{
+    Voices voices = document.voices();
+    voices.arePrograms = !selection.program && !selection.bank;
+    document.mixVoices(voices);
     if (application.playing().correctsTuning())
         application.player().with(
             [&](Instrument& instrument, Temperament&) { correctTuning(instrument, bank); });
 }
 
-void readPiece(const std::filesystem::path& path, SequenceDocument& document)
+/// Throws UsageError if the sequence has no notes on one of the chosen channels.
+void requireVoices(const SequenceDocument& document, const std::string& name,
+                   const ChannelSet& voices)
+{
+    ChannelSet present;
+    for (const Note& note : document.sequence().notes())
+        present.set(note.channel % midi::kChannels);
+    if (voices.all() || (voices & ~present).none())
+        return;
+    std::vector<std::size_t> numbers;
+    std::size_t missing = 0;
+    for (std::size_t channel = 0; channel < present.size(); ++channel) {
+        if (present[channel])
+            numbers.push_back(channel + 1);
+        else if (voices[channel] && missing == 0)
+            missing = channel + 1;
+    }
+    throw UsageError(
+        fmt::format("{} has no voice {}; it has {}", name, missing,
+                    numbers.empty() ? "none" : fmt::format("{}", fmt::join(numbers, ", "))));
+}
+
+void readPiece(const std::filesystem::path& path, const RenderOptions& options,
+               SequenceDocument& document)
 {
     document.read(path);
     if (!document.errorString().empty())
         throw std::runtime_error(document.errorString());
     if (!document.damage().empty())
         fmt::print(stderr, "velmora: {}\n", document.damage());
+    requireVoices(document, path.filename().string(), options.voices);
 }
 
 /// Renders to a MIDI file that reproduces the tuning.
@@ -61,7 +94,8 @@ void renderMidi(const std::filesystem::path& sequence, const std::filesystem::pa
     AppDelegate application;
     selectOffline(selection, options.rate, application);
     const TunedMidi midi = writeTunedMidi(
-        application, [&](SequenceDocument& document) { readPiece(sequence, document); }, options);
+        application, [&](SequenceDocument& document) { readPiece(sequence, options, document); },
+        options);
     writeFile(output, midi.bytes);
     if (midi.notes.wrong > 0)
         fmt::print(stderr,
@@ -72,18 +106,33 @@ void renderMidi(const std::filesystem::path& sequence, const std::filesystem::pa
 
 /// Writes the piece down, spelled as the tuning spells it.
 void renderScore(const std::filesystem::path& sequence, const std::filesystem::path& output,
-                 const Selection& selection)
+                 const Selection& selection, const RenderOptions& options)
 {
     AppDelegate application;
     application.tunings().addBuiltins();
     select(selection, application);
     SequenceDocument document(application.player());
-    readPiece(sequence, document);
-    writeScore(output,
-               pieceOf(document, toUtf8(sequence.stem().string()), *application.tunings().fresh()));
+    readPiece(sequence, options, document);
+    Piece piece = pieceOf(document, toUtf8(sequence.stem().string()),
+                          *application.tunings().fresh(), options.voices);
+    if (options.speed != 1.0 && (piece.tempos.empty() || piece.tempos.front().start > 0.0))
+        piece.tempos.insert(piece.tempos.begin(), Piece::Tempo{});
+    for (Piece::Tempo& tempo : piece.tempos)
+        tempo.quartersPerMinute *= options.speed;
+    writeScore(output, piece);
 }
 
 } // namespace
+
+double tempoOf(const std::filesystem::path& sequence, bool plain)
+{
+    Player player;
+    SequenceDocument document(player, plain ? Reading::Plain : Reading::Musical);
+    document.read(sequence);
+    if (!document.errorString().empty())
+        throw std::runtime_error(document.errorString());
+    return document.transport().time().tempoAt(0.0);
+}
 
 void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
             const Selection& selection, const RenderOptions& options)
@@ -94,15 +143,16 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
         return;
     }
     if (isScoreFile(output)) {
-        renderScore(sequence, output, selection);
+        renderScore(sequence, output, selection, options);
         return;
     }
     AudioFileWriter file(output, options.rate); // first, to fail early if it cannot be written
     AppDelegate application;
-    selectOffline(selection, options.rate, application);
+    const std::filesystem::path bank = selectOffline(selection, options.rate, application);
     SequenceRenderer renderer(application.player(), application.engine(),
                               application.playing().reading());
-    readPiece(sequence, renderer.document());
+    readPiece(sequence, options, renderer.document());
+    prepareVoices(selection, bank, application, renderer.document());
     ProgressLine progress("Rendering");
     const bool rendered = renderer.render(
         options,

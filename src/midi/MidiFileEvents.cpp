@@ -7,6 +7,7 @@
 
 #include <spdlog/fmt/fmt.h>
 
+#include <cmath>
 #include <utility>
 
 namespace velmora {
@@ -128,6 +129,38 @@ MidiFileEvents readMidiFileEvents(std::span<const std::byte> bytes)
     if (!result.header.hasFrames)
         result.tempoMap = TempoMap(std::move(tempoChanges));
     return result;
+}
+
+std::string_view metaData(const FileEvent& event, std::uint8_t type)
+{
+    std::string_view data = event.data;
+    if (event.status != midi::kMetaEvent || data.empty() ||
+        static_cast<std::uint8_t>(data.front()) != type)
+        return {};
+    data.remove_prefix(1);
+    // The length takes as many bytes as have their highest bit set, and one more.
+    while (!data.empty() && static_cast<std::uint8_t>(data.front()) >= midi::kStatusBit)
+        data.remove_prefix(1);
+    return data.empty() ? data : data.substr(1);
+}
+
+void countInBeats(MidiFileEvents& file)
+{
+    constexpr double kFineDivision = 9600.0, kMostTicksPerBeat = 0x7FFF;
+    const double ticks = file.header.ticksPerBeat;
+    const bool isWhole = ticks == std::round(ticks) && ticks <= kMostTicksPerBeat;
+    const double division = isWhole ? ticks : kFineDivision;
+    const auto convert = [&](std::uint64_t& tick) {
+        tick = static_cast<std::uint64_t>(std::round(static_cast<double>(tick) / ticks * division));
+    };
+    for (FileTrack& track : file.tracks) {
+        convert(track.end);
+        for (FileEvent& event : track.events)
+            convert(event.tick);
+    }
+    file.header.division = static_cast<std::uint16_t>(division);
+    file.header.ticksPerBeat = division;
+    file.header.hasFrames = false;
 }
 
 bool skipsNotes(const FileEvent& event)

@@ -53,6 +53,14 @@ MidiFileEvents readMidiFileEvents(std::span<const std::byte> bytes);
 /// of its channel and key, unless a `kSkipNotes` event precedes it.
 std::vector<FileNote> notesOf(const FileTrack& track);
 
+/// Returns what follows the type and the length of a meta event; empty if it has another type or is
+/// cut short.
+std::string_view metaData(const FileEvent& event, std::uint8_t type);
+
+/// Makes a file that counts SMPTE frames count the ticks of beats of half a second, so that tempo
+/// events have an effect. Times are rounded if a beat is no whole number of its ticks.
+void countInBeats(MidiFileEvents& file);
+
 /// Returns whether the event is a `kSkipNotes` event.
 bool skipsNotes(const FileEvent& event);
 

@@ -27,14 +27,34 @@ TempoMap::TempoMap(std::vector<TempoChange> changes)
     }
 }
 
-double TempoMap::secondsForBeats(double beats) const
+const TempoMap::Stretch& TempoMap::stretchAt(double beats) const
 {
     // The first tempo also applies to times before the start.
     const auto after =
         std::upper_bound(std::next(stretches_.begin()), stretches_.end(), beats,
                          [](double beat, const Stretch& s) { return beat < s.beats; });
-    const Stretch& stretch = *std::prev(after);
+    return *std::prev(after);
+}
+
+double TempoMap::secondsForBeats(double beats) const
+{
+    const Stretch& stretch = stretchAt(beats);
     return stretch.seconds + (beats - stretch.beats) * stretch.secondsPerBeat;
+}
+
+double TempoMap::secondsBetween(double from, double to) const
+{
+    const Stretch& stretch = stretchAt(from);
+    return &stretch == &stretchAt(to) ? (to - from) * stretch.secondsPerBeat
+                                      : secondsForBeats(to) - secondsForBeats(from);
+}
+
+double TempoMap::beatsAfter(double beats, double seconds) const
+{
+    const Stretch& stretch = stretchAt(beats);
+    const double after = beats + seconds / stretch.secondsPerBeat;
+    return &stretch == &stretchAt(after) ? after
+                                         : beatsForSeconds(secondsForBeats(beats) + seconds);
 }
 
 double TempoMap::beatsForSeconds(double seconds) const

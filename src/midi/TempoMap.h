@@ -27,12 +27,24 @@ public:
     /// The inverse of `secondsForBeats`.
     double beatsForSeconds(double seconds) const;
 
+    /// Returns the seconds between two positions in beats; negative if `to` is before `from`. More
+    /// exact than a difference of `secondsForBeats` where the tempo does not change.
+    double secondsBetween(double from, double to) const;
+
+    /// Returns the beat that comes `seconds` after another one, or before it if they are negative.
+    double beatsAfter(double beats, double seconds) const;
+
+    /// Returns the length of a beat at a position, in seconds.
+    double secondsPerBeatAt(double beats) const { return stretchAt(beats).secondsPerBeat; }
+
 private:
     struct Stretch {
         double beats;   ///< Start in beats.
         double seconds; ///< Start in seconds.
         double secondsPerBeat;
     };
+
+    const Stretch& stretchAt(double beats) const;
 
     std::vector<Stretch> stretches_; ///< In order of time; the first starts at 0.
 };

@@ -37,6 +37,10 @@ constexpr std::uint8_t kMetaEvent = 0xFF; ///< In a file; its type follows.
 // Types of meta events.
 constexpr std::uint8_t kText = 0x01;
 constexpr std::uint8_t kTrackName = 0x03;
+constexpr std::uint8_t kInstrumentName = 0x04;
+constexpr std::uint8_t kLyric = 0x05;         ///< A syllable of the sung text.
+constexpr std::uint8_t kChannelPrefix = 0x20; ///< Of the meta events that follow.
+constexpr std::uint8_t kMarker = 0x06;        ///< The name of a place in the piece.
 constexpr std::uint8_t kEndOfTrack = 0x2F;
 constexpr std::uint8_t kTempo = 0x51;         ///< Three bytes: microseconds in a quarter note.
 constexpr std::uint8_t kTimeSignature = 0x58; ///< The beats and the exponent of 2 of their value.

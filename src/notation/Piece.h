@@ -21,9 +21,18 @@ struct Piece {
         float velocity = 0.8F; ///< 0 to 1.
     };
 
+    /// A syllable of the sung text. A space follows the last one of a word.
+    struct Lyric {
+        double start = 0.0;
+        std::string text;
+    };
+
     struct Part {
         std::string name;
-        std::vector<Note> notes; ///< In any order.
+        std::vector<Note> notes;         ///< In any order.
+        std::optional<int> program = {}; ///< General MIDI, 0…127.
+        bool isPercussion = false;       ///< If so, keys stand for instruments.
+        std::vector<Lyric> lyrics = {};  ///< In order.
     };
 
     struct TimeSignature {

@@ -45,9 +45,9 @@ PrefRange prefRange(const std::string& key)
         return {0, 500};
     if (key == "CorrectionTime")
         return {1, 200};
-    if (key == "Drift")
+    if (key == "Drift" || key == "MetronomeUse" || key == "CountIn")
         return {0, 2};
-    if (key == "MasterVolume")
+    if (key == "MasterVolume" || key == "MetronomeVolume")
         return {0, 100};
     return {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()};
 }

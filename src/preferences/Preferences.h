@@ -14,7 +14,9 @@ namespace velmora {
 /// "BendRange", the transposition of MIDI devices and the range of their pitch wheels in semitones;
 /// "OutputRate" in hertz and "OutputPeriod" in frames, 0 for automatic; "MasterVolume" in percent;
 /// "GlideTime", in which sounding notes take over another pitch, and "CorrectionTime", in which the
-/// notes of a chord may correct each other's spelling, in milliseconds; "Drift", a `Drift`.
+/// notes of a chord may correct each other's spelling, in milliseconds; "Drift", a `Drift`;
+/// "MetronomeUse", a `MetronomeUse`, "MetronomeVolume" in percent, and "CountIn", the bars before a
+/// recording.
 int getPrefInt(const std::string& key);
 void setPrefInt(const std::string& key, int value);
 
@@ -28,11 +30,13 @@ struct PrefRange {
 PrefRange prefRange(const std::string& key);
 
 /// Returns a boolean preference: "KeyNames" shows the names of the C keys on the keyboard;
+/// "SoundNotes" sounds notes that are pressed or drawn in the piano roll;
 /// "CorrectTuning" corrects the tuning of SoundFonts themselves;
 /// "PlainReading" reads MIDI devices with `midiRead`, without the translator; "StartAsLastTime"
 /// opens at the start what was open at the end; "GlideSounding" lets sounding notes take over
 /// another pitch before they are struck again; "CorrectSpelling" lets the notes of a chord correct
-/// each other's spelling; "ReduceMotion" scrolls at once instead of gliding.
+/// each other's spelling; "ReduceMotion" scrolls at once instead of gliding; "Metronome" lets the
+/// metronome click, and "MetronomeDivisions" the parts of its beats as well.
 bool getPrefBool(const std::string& key);
 void setPrefBool(const std::string& key, bool value);
 

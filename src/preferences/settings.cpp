@@ -30,6 +30,7 @@ const QVariantMap& defaults()
         {"KeyRangeLo", 21},  // A0
         {"KeyRangeHi", 108}, // C8
         {"KeyNames", true},
+        {"SoundNotes", true},
         {"NoteNames", 0}, // by language
         {"Language", ""},
         {"Scheme", "Calm"},
@@ -51,6 +52,11 @@ const QVariantMap& defaults()
         {"CorrectSpelling", true},
         {"CorrectionTime", 40},
         {"Drift", 0}, // tied to A
+        {"Metronome", false},
+        {"MetronomeUse", 0}, // always
+        {"MetronomeDivisions", false},
+        {"MetronomeVolume", 70},
+        {"CountIn", 0},
     };
     return values;
 }

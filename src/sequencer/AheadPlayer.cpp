@@ -23,7 +23,9 @@ void requestRealtime()
 void perform(SequenceHost& host, const KeyAction& action)
 {
     const int key = static_cast<int>(action.key);
-    if (action.starts)
+    if (action.click)
+        host.click(*action.click, action.time);
+    else if (action.starts)
         host.play(key, action.velocity, action.channel, action.time);
     else
         host.stop(key, action.channel, action.time);

@@ -11,17 +11,18 @@
 
 namespace velmora {
 
-/// Starts or stops a key on the instrument at a planned time.
+/// Starts or stops a key on the instrument, or sounds a click, at a planned time.
 struct KeyAction {
-    bool starts;
-    std::uint32_t key;
-    int channel;
-    float velocity;
-    double time; ///< When it is due, in the seconds of `getTime`; 0 for at once.
-    double step; ///< The position at that time.
+    bool starts = false;
+    std::uint32_t key = 0;
+    int channel = 0;
+    float velocity = 0.0F;
+    double time = 0.0;            ///< When it is due, in the seconds of `getTime`; 0 for at once.
+    double step = 0.0;            ///< The position at that time.
+    std::optional<Click> click{}; ///< In place of the key.
 };
 
-/// Starts or stops the key for the time of the action. May be called on any thread.
+/// Does what an action says, for its time. May be called on any thread.
 void perform(SequenceHost& host, const KeyAction& action);
 
 /// Plays planned notes on a thread of its own. The main thread plans them, but would play them late

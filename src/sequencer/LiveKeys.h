@@ -15,13 +15,12 @@ constexpr int kWanted = 2;  ///< A sequence plays the key or waits for it.
 constexpr int kHeld = 4;    ///< Held, and already taken into account by the sequencer.
 
 /// The state of each key of live input, and what has happened to it. Any thread may read or write
-/// it: every entry is atomic. The times of a key are written before its state.
+/// it: every entry is atomic.
 class LiveKeys {
 public:
     /// Marks a key as pressed, with a velocity from 0 to 1, at `time` in the seconds of `getTime`.
     void press(std::size_t key, float velocity, double time)
     {
-        pressTimes_[key] = time;
         noteVelocities_[key] = velocity;
         noteStates_[key] = kPressed;
         events_.add({static_cast<std::uint8_t>(key), true, velocity, time});
@@ -31,7 +30,6 @@ public:
     /// See docs/decisions.md, 52.
     void release(std::size_t key, double time)
     {
-        releaseTimes_[key] = time;
         noteStates_[key] = 0;
         events_.add({static_cast<std::uint8_t>(key), false, 0.0F, time});
     }
@@ -57,18 +55,12 @@ public:
     /// The velocity, 0 to 1, of the key's last press.
     float velocity(std::size_t key) const { return noteVelocities_[key]; }
 
-    /// The time of the key's last press or release, in the seconds of `getTime`; 0 if there was
-    /// none.
-    double pressTime(std::size_t key) const { return pressTimes_[key]; }
-    double releaseTime(std::size_t key) const { return releaseTimes_[key]; }
-
     /// Every press and release, even if a key changed several times since the last look.
     const KeyEvents& events() const { return events_; }
 
 private:
     std::array<std::atomic<int>, kKeys> noteStates_{};
     std::array<std::atomic<float>, kKeys> noteVelocities_{};
-    std::array<std::atomic<double>, kKeys> pressTimes_{}, releaseTimes_{};
     KeyEvents events_;
 };
 

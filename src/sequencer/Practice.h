@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sequencer/KeyboardDocument.h"
+#include "sequencer/PracticeSession.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/Transport.h"
 
@@ -12,9 +13,9 @@ namespace velmora {
 /// position. Notes within a tenth of a step of the position belong to its chord. Main thread only.
 class Practice : public KeyboardDocument {
 public:
-    /// Both must outlive the object.
-    Practice(Transport& transport, const Sequence& sequence)
-        : transport_(transport), sequence_(sequence)
+    /// The arguments must outlive the object. A running session supplies the states of the keys.
+    Practice(Transport& transport, const Sequence& sequence, const PracticeSession& session)
+        : transport_(transport), sequence_(sequence), session_(session)
     {
     }
 
@@ -39,11 +40,15 @@ public:
 
     /// Shows the keys after live input, and advances if the transport is stopped.
     void midiInput() override;
-    int stateOfNote(unsigned key) const override { return transport_.playback().states[key]; }
+    int stateOfNote(unsigned key) const override
+    {
+        return session_.isRunning() ? session_.stateOfNote(key) : transport_.playback().states[key];
+    }
 
 private:
     Transport& transport_;
     const Sequence& sequence_;
+    const PracticeSession& session_;
     std::optional<double> done_; ///< The position of the last chord, once it was struck.
 };
 

@@ -27,12 +27,12 @@ void Recorder::record()
 {
     if (transport_.mode() == Transport::Mode::Recording) {
         transport_.tick(); // takes the keys since the last tick
-        transport_.endRecording();
-        // See docs/decisions.md, 102.
-        sequence_.sort();
-        transport_.playback().sequenceChanged();
-        emit ended();
+        if (transport_.mode() == Transport::Mode::Recording)
+            finish();
+    } else if (transport_.mode() == Transport::Mode::Stopped && runs()) {
+        startRunning();
     } else if (transport_.mode() == Transport::Mode::Stopped) {
+        running_.reset();
         limit_ = runStart_ = transport_.position();
         heldKeys_.reset();
         openNotes_ = {};
@@ -43,6 +43,55 @@ void Recorder::record()
         transport_.startRecording();
         stoodSince_ = transport_.lastTick();
     }
+}
+
+void Recorder::finish()
+{
+    if (running_)
+        running_->end();
+    transport_.endRecording();
+    // See docs/decisions.md, 102.
+    sequence_.sort();
+    transport_.playback().sequenceChanged();
+    emit ended();
+}
+
+bool Recorder::runs() const
+{
+    const MetronomeSettings& metronome = transport_.metronome();
+    const bool isInterval = !transport_.interval().isEmpty() && (punches_ || transport_.loops());
+    return transport_.reading() == Reading::Musical &&
+           (isInterval || metronome.whileRecording || metronome.countIn > 0);
+}
+
+void Recorder::startRunning()
+{
+    const Interval& interval = transport_.interval();
+    const bool punches = punches_ && !interval.isEmpty();
+    const double position = transport_.position();
+    if ((punches && position >= interval.end) ||
+        (transport_.loops() && !interval.isEmpty() && !interval.contains(position)))
+        transport_.scrollTo(interval.start);
+    transport_.startRunningRecording();
+    running_.emplace(transport_, sequence_, TakeOptions{channel_, snapToGrid_, punches});
+}
+
+void Recorder::setPunches(bool punches)
+{
+    punches_ = punches;
+    emit optionsChanged();
+}
+
+const std::vector<std::vector<Note>>& Recorder::takes() const
+{
+    static const std::vector<std::vector<Note>> kNone;
+    return running_ ? running_->passes() : kNone;
+}
+
+void Recorder::forgetTakes()
+{
+    if (transport_.mode() != Transport::Mode::Recording)
+        running_.reset();
 }
 
 void Recorder::waitAt(double step)
@@ -59,15 +108,41 @@ void Recorder::setChannel(unsigned char channel)
     emit optionsChanged();
 }
 
+void Recorder::setVelocity(float velocity)
+{
+    if (transport_.reading() == Reading::Musical)
+        velocity_ = velocity;
+}
+
 void Recorder::setSnapToGrid(bool snap)
 {
     snapToGrid_ = snap;
     emit optionsChanged();
 }
 
+double Recorder::snapped(double step) const
+{
+    if (!snapToGrid_)
+        return step;
+    return transport_.reading() == Reading::Plain ? std::floor(step)
+                                                  : transport_.time().gridAt(step, grid_);
+}
+
+double Recorder::snappedUp(double step) const
+{
+    if (!snapToGrid_)
+        return step;
+    if (transport_.reading() == Reading::Plain)
+        return std::ceil(step);
+    const double line = transport_.time().gridAt(step, grid_);
+    return line < step ? transport_.time().gridAfter(step, grid_) : line;
+}
+
 std::vector<NoteState> Recorder::endTake()
 {
     std::vector<NoteState> before;
+    if (running_)
+        before = running_->changes();
     for (const auto& [id, lengthBefore] : std::exchange(taken_, {})) {
         const Note* const note = sequence_.find(id);
         if (note == nullptr)
@@ -83,6 +158,11 @@ std::vector<NoteState> Recorder::endTake()
 
 void Recorder::take(double from, double until)
 {
+    if (running_) {
+        if (!running_->take())
+            finish();
+        return;
+    }
     const double before = transport_.position();
     collectEvents();
     auto event = events_.begin();
@@ -152,7 +232,7 @@ void Recorder::run(double from, double until)
     double seconds = until - from;
     // See docs/decisions.md, 101.
     if (heldKeys_.none()) {
-        const double room = std::max(limit_ - position, 0.0) / transport_.stepsPerSecond();
+        const double room = transport_.pace().secondsBetween(position, std::max(limit_, position));
         seconds = snapToGrid_ ? 0.0 : std::min(seconds, room);
     }
     transport_.advance(seconds);
@@ -167,7 +247,7 @@ void Recorder::run(double from, double until)
 double Recorder::positionBefore(double delay) const
 {
     const double position = transport_.position();
-    return std::max(position - delay * transport_.stepsPerSecond(), std::min(runStart_, position));
+    return std::max(transport_.pace().stepAfter(position, -delay), std::min(runStart_, position));
 }
 
 void Recorder::press(const KeyEvent& event, double time)
@@ -197,6 +277,7 @@ void Recorder::release(std::size_t key, double delay)
 
 void Recorder::begin(std::size_t key, float velocity, double position)
 {
+    setVelocity(velocity);
     Note note{.start = position,
               .length = 1.0,
               .oldLength = 1.0,
@@ -205,11 +286,17 @@ void Recorder::begin(std::size_t key, float velocity, double position)
               .key = static_cast<std::uint32_t>(key),
               .oldStart = position,
               .oldKey = static_cast<std::uint32_t>(key)};
-    if (snapToGrid_)
-        note.start = std::floor(note.start);
+    note.start = snapped(note.start);
     transport_.playback().sequenceChanged();
     openNotes_[key] = sequence_.addNote(note).id;
     taken_.emplace(openNotes_[key], std::nullopt);
+}
+
+double Recorder::snappedLength(double start, double end) const
+{
+    if (transport_.reading() == Reading::Plain)
+        return std::floor(end - start);
+    return std::max(snapped(end), transport_.time().gridAfter(start, grid_)) - start;
 }
 
 void Recorder::lengthen(std::size_t key, double position)
@@ -217,9 +304,11 @@ void Recorder::lengthen(std::size_t key, double position)
     Note* const note = sequence_.find(openNotes_[key]);
     if (note == nullptr || position < note->start) // edited during the take
         return;
-    const double shortest = transport_.stepsPerSecond() * kTick.count(); // can be seen and heard
+    // Shorter notes could be neither seen nor heard.
+    const double shortest = transport_.pace().stepsPerSecondAt(note->start) * kTick.count();
     const double exact = position - note->start;
-    const double length = snapToGrid_ ? std::floor(exact) : std::max(exact, shortest);
+    const double length =
+        snapToGrid_ ? snappedLength(note->start, position) : std::max(exact, shortest);
     if (length == note->length)
         return;
     taken_.emplace(note->id, note->length);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sequencer/KeyEvents.h"
+#include "sequencer/RunningTake.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/Transport.h"
 #include "sound/keys.h"
@@ -25,7 +26,9 @@ public:
     /// Both must outlive the recorder.
     Recorder(Transport& transport, Sequence& sequence);
 
-    /// Starts or ends a recording. Does nothing while playing.
+    /// Starts or ends a recording. Does nothing while playing. It waits for the keys, unless the
+    /// musical reading has a reason to let time run: the metronome clicks, a loop is recorded again
+    /// and again, or the selected interval is replaced.
     void record();
 
     /// Moves the position. A recording waits there for the next key.
@@ -35,15 +38,44 @@ public:
     unsigned char channel() const { return channel_; }
     void setChannel(unsigned char channel);
 
-    /// True if notes that are recorded, drawn or moved snap to whole steps.
+    /// The velocity of notes that are drawn, above 0: that of the last note that was recorded,
+    /// drawn or made louder. In the plain reading it is always 1.
+    float velocity() const { return velocity_; }
+    void setVelocity(float velocity);
+
+    /// True if notes that are recorded, drawn or moved snap to the grid, which is one of whole
+    /// steps in the plain reading.
     bool snapToGrid() const { return snapToGrid_; }
     void setSnapToGrid(bool snap);
 
+    /// Sets the grid of the musical reading.
+    void setGrid(Grid grid) { grid_ = grid; }
+
+    /// Returns the last line of the grid at or before a step, or the first one at or after it; the
+    /// step itself if nothing snaps.
+    double snapped(double step) const;
+    double snappedUp(double step) const;
+
+    /// True if a recording replaces the notes of its channel in the selected interval, and ends
+    /// with it.
+    bool punches() const { return punches_; }
+    void setPunches(bool punches);
+
     /// True if notes were recorded since the last call of `endTake`.
-    bool hasTake() const { return !taken_.empty(); }
+    bool hasTake() const { return !taken_.empty() || (running_ && !running_->isEmpty()); }
 
     /// True if a note was recorded or lengthened since the last call of `endTake`.
-    bool isTaken(std::uint64_t id) const { return taken_.contains(id); }
+    bool isTaken(std::uint64_t id) const
+    {
+        return taken_.contains(id) || (running_ && running_->contains(id));
+    }
+
+    /// The takes of the last recording in a loop, each with its notes; fewer than two if there is
+    /// nothing to choose from.
+    const std::vector<std::vector<Note>>& takes() const;
+
+    /// Forgets those takes, unless more are being recorded.
+    void forgetTakes();
 
     /// Ends the current take, but not the recording. Returns the notes of the take as they were
     /// before it.
@@ -53,10 +85,13 @@ signals:
     /// The recording has ended, and the notes are sorted.
     void ended();
 
-    /// The channel or snapping has changed.
+    /// The channel, snapping or replacing has changed.
     void optionsChanged();
 
 private:
+    bool runs() const;
+    void startRunning();
+    void finish();
     void take(double from, double until);
     void collectEvents();
     void takeHeldKeys();
@@ -74,11 +109,16 @@ private:
     double positionBefore(double delay) const;
     void begin(std::size_t key, float velocity, double position);
     void lengthen(std::size_t key, double position);
+    double snappedLength(double start, double end) const;
 
     Transport& transport_;
     Sequence& sequence_;
     unsigned char channel_ = 0;
+    float velocity_ = 1.0F;
     bool snapToGrid_ = false;
+    Grid grid_ = Grid::ThirtySeconds;
+    bool punches_ = false;
+    std::optional<RunningTake> running_; ///< The last recording, if time ran through it.
     double limit_ = 0.0;    ///< The step at which the position stops while no key is held.
     double runStart_ = 0.0; ///< The step from which the position has moved without a stop.
     std::optional<double> stoodSince_; ///< Since when the position waits; nothing if it moves.

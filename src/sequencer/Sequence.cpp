@@ -1,5 +1,6 @@
 #include "sequencer/Sequence.h"
 
+#include "midi/messages.h"
 #include "sound/keys.h"
 
 #include <algorithm>
@@ -36,6 +37,11 @@ std::vector<NoteState> absent(const std::vector<Note>& notes)
     return states;
 }
 
+int channelOf(const Note& note)
+{
+    return static_cast<int>(note.channel % midi::kChannels);
+}
+
 std::uint32_t wholeKey(double key)
 {
     return static_cast<std::uint32_t>(std::clamp(key, 0.0, static_cast<double>(kLastKey)));
@@ -43,8 +49,14 @@ std::uint32_t wholeKey(double key)
 
 Note* Sequence::find(std::uint64_t id)
 {
-    const auto entry = index_.find(id);
-    return entry == index_.end() ? nullptr : &notes_[entry->second];
+    const std::size_t position = positionOf(id);
+    return position == kNowhere ? nullptr : &notes_[position];
+}
+
+const Note* Sequence::find(std::uint64_t id) const
+{
+    const std::size_t position = positionOf(id);
+    return position == kNowhere ? nullptr : &notes_[position];
 }
 
 Note& Sequence::addNote(const Note& note)
@@ -55,21 +67,31 @@ Note& Sequence::addNote(const Note& note)
         stored.selected = false;
     else
         stored.id = ++lastId_;
-    // A new identity is the highest, so the hint makes this constant time.
-    index_.insert_or_assign(index_.end(), stored.id, notes_.size() - 1);
+    setPosition(stored.id, notes_.size() - 1);
     return stored;
+}
+
+std::size_t Sequence::positionOf(std::uint64_t id) const
+{
+    return id < positions_.size() ? positions_[id] : kNowhere;
+}
+
+void Sequence::setPosition(std::uint64_t id, std::size_t position)
+{
+    if (id >= positions_.size())
+        positions_.resize(id + 1, kNowhere);
+    positions_[id] = position;
 }
 
 void Sequence::erase(std::uint64_t id)
 {
-    const auto entry = index_.find(id);
-    if (entry == index_.end())
+    const std::size_t position = positionOf(id);
+    if (position == kNowhere)
         return;
-    const std::uint64_t position = entry->second;
-    index_.erase(entry);
-    for (auto& [other, otherPosition] : index_)
-        otherPosition -= otherPosition > position ? 1 : 0;
     notes_.erase(std::next(notes_.begin(), static_cast<std::ptrdiff_t>(position)));
+    positions_[id] = kNowhere;
+    for (std::size_t i = position; i < notes_.size(); ++i)
+        positions_[notes_[i].id] = i;
 }
 
 void Sequence::erase()
@@ -107,8 +129,16 @@ bool Sequence::select(unsigned char channel)
 void Sequence::select(Note& note)
 {
     // See docs/decisions.md, 106.
-    if (!std::exchange(note.selected, true))
+    if (!isLocked(note) && !std::exchange(note.selected, true))
         selection_.push_back(note.id);
+}
+
+void Sequence::lock(const std::bitset<kVoices>& channels)
+{
+    locked_ = channels;
+    for (Note& note : notes_)
+        if (note.selected && isLocked(note))
+            deselect(note);
 }
 
 void Sequence::deselect()
@@ -130,8 +160,8 @@ std::vector<Note> Sequence::getSelection() const
     std::vector<Note> copies;
     copies.reserve(selection_.size());
     for (const std::uint64_t id : selection_)
-        if (const auto entry = index_.find(id); entry != index_.end())
-            copies.push_back(notes_[entry->second]);
+        if (const std::size_t position = positionOf(id); position != kNowhere)
+            copies.push_back(notes_[position]);
     return copies;
 }
 
@@ -148,9 +178,10 @@ void Sequence::move(double keys, double steps, bool snap)
 
 void Sequence::swap(std::vector<NoteState>& states)
 {
-    std::vector<Note> added;
+    std::vector<NoteState*> added;
     std::vector<std::uint64_t> removed;
-    for (auto& [id, note] : states) {
+    for (NoteState& state : states) {
+        auto& [id, note] = state;
         Note* const stored = find(id);
         if (stored != nullptr && note) {
             note->active = stored->active;
@@ -161,13 +192,14 @@ void Sequence::swap(std::vector<NoteState>& states)
             note = *stored;
             removed.push_back(id);
         } else if (note) {
-            note->active = note->playing = false;
-            added.push_back(*note);
-            note.reset();
+            added.push_back(&state);
         }
     }
-    for (const Note& note : added)
-        addNote(note);
+    for (NoteState* const state : added) {
+        Note& note = addNote(*state->note);
+        note.active = note.playing = note.selected = false;
+        *state = {note.id, std::nullopt};
+    }
     if (!added.empty() || !removed.empty())
         deselect();
     eraseAll(std::move(removed));
@@ -193,15 +225,9 @@ void Sequence::sort()
         // See docs/decisions.md, 104.
         std::sort(notes_.begin(), notes_.end(), startsBefore);
 
-    // Inserting the identities in their own order is much faster than searching for each.
-    std::vector<std::pair<std::uint64_t, std::uint64_t>> positions;
-    positions.reserve(notes_.size());
-    for (const Note& note : notes_)
-        positions.emplace_back(note.id, positions.size());
-    std::sort(positions.begin(), positions.end());
-    index_.clear();
-    for (const auto& [id, position] : positions)
-        index_.insert_or_assign(index_.end(), id, position);
+    std::ranges::fill(positions_, kNowhere);
+    for (std::size_t i = 0; i < notes_.size(); ++i)
+        positions_[notes_[i].id] = i;
 }
 
 template <class Change> void Sequence::forSelected(Change change)

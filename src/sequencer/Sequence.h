@@ -1,8 +1,9 @@
 #pragma once
 
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
-#include <map>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -31,7 +32,8 @@ struct Note {
     std::uint32_t origin = 0;
 };
 
-/// A note as it is in another state of its sequence; empty if it does not exist there.
+/// A note as it is in another state of its sequence; empty if it does not exist there. Identity 0
+/// stands for a note that has not been added yet.
 struct NoteState {
     std::uint64_t id;
     std::optional<Note> note;
@@ -42,6 +44,9 @@ std::vector<NoteState> present(const std::vector<Note>& notes);
 
 /// Returns states in which the notes do not exist.
 std::vector<NoteState> absent(const std::vector<Note>& notes);
+
+/// Returns the channel of a note as a file has it, 0 to 15.
+int channelOf(const Note& note);
 
 /// Returns the key that contains a position across the roll, limited to 0…127.
 std::uint32_t wholeKey(double key);
@@ -58,6 +63,7 @@ public:
     /// Returns the stored note or null. The pointer is valid until notes are added, erased or
     /// sorted.
     Note* find(std::uint64_t id);
+    const Note* find(std::uint64_t id) const;
 
     /// The identities of the selected notes in the order in which they were selected.
     const std::vector<std::uint64_t>& selection() const { return selection_; }
@@ -81,7 +87,12 @@ public:
     /// Selects only the notes of a channel. Returns true if there are any.
     bool select(unsigned char channel);
 
-    /// Adds a stored note to the selection, unless it is selected already.
+    /// Protects the notes of channels: they are not selected any more, and cannot be.
+    static constexpr std::size_t kVoices = 16;
+    void lock(const std::bitset<kVoices>& channels);
+    bool isLocked(const Note& note) const { return locked_[note.channel % kVoices]; }
+
+    /// Adds a stored note to the selection, unless it is selected already or locked.
     void select(Note& note);
 
     void deselect();
@@ -97,8 +108,9 @@ public:
     void move(double keys, double steps, bool snap);
 
     /// Puts notes into the given states and stores their previous ones in `states`, so that a
-    /// second call undoes the first. Then sorts. Notes that exist before and after keep their
-    /// flags. If any note is added or removed, nothing is selected afterwards.
+    /// second call undoes the first. A note with identity 0 is added and receives a new one. Then
+    /// sorts. Notes that exist before and after keep their flags. If any note is added or removed,
+    /// nothing is selected afterwards.
     void swap(std::vector<NoteState>& states);
 
     /// Puts the selected notes on a channel.
@@ -113,11 +125,16 @@ public:
 private:
     template <class Change> void forSelected(Change change);
     void eraseAll(std::vector<std::uint64_t> ids);
+    std::size_t positionOf(std::uint64_t id) const;
+    void setPosition(std::uint64_t id, std::size_t position);
+
+    static constexpr auto kNowhere = std::numeric_limits<std::size_t>::max();
 
     std::uint64_t lastId_ = 0;
     std::vector<std::uint64_t> selection_;
-    std::map<std::uint64_t, std::uint64_t> index_; ///< From identities to indices into `notes_`.
+    std::vector<std::size_t> positions_; ///< Indices into `notes_` by identity, or `kNowhere`.
     std::vector<Note> notes_;
+    std::bitset<kVoices> locked_; ///< By their channels.
 };
 
 } // namespace velmora

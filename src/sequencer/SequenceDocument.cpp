@@ -8,7 +8,9 @@
 #include "preferences/Preferences.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SourceFile.h"
+#include "sequencer/SwapCommand.h"
 #include "sequencer/UnsavedSequence.h"
+#include "sequencer/scoreFile.h"
 
 #include <algorithm>
 #include <new>
@@ -16,6 +18,20 @@
 #include <utility>
 
 namespace velmora {
+
+namespace {
+
+/// Turns the times of a note into those that the plain reading gives it in a file.
+void layOutInSeconds(Note& note, const MusicalTime& time)
+{
+    const double start = time.secondsAt(note.start);
+    note.length = (time.secondsAt(note.start + note.length) - start) * kStepsPerFileSecond;
+    note.start = start * kStepsPerFileSecond;
+    note.oldStart = note.start;
+    note.oldLength = note.length;
+}
+
+} // namespace
 
 /// One entry of the undo history. It holds the other state of the notes of an edit: the earlier one
 /// after the edit or a redo, the later one after an undo.
@@ -44,18 +60,24 @@ private:
 SequenceDocument::SequenceDocument(SequenceHost& host, Reading reading,
                                    std::function<double()> clock)
     : transport_(host, sequence_, reading, std::move(clock)), recorder_(transport_, sequence_),
-      practice_(transport_, sequence_)
+      practiceSession_(transport_, sequence_), practice_(transport_, sequence_, practiceSession_)
 {
     connect(&recorder_, &Recorder::ended, this, [this] {
         registerTake();
         emit changed();
     });
+    connect(this, &SequenceDocument::changed, &practiceSession_, &PracticeSession::seek);
     // In the plain reading the keyboard keeps its colours.
     if (reading == Reading::Musical)
         connect(&transport_, &Transport::modeChanged, this, [this] {
             if (transport_.mode() == Transport::Mode::Stopped)
                 practice_.showKeys();
         });
+    connect(&transport_, &Transport::modeChanged, this, [this] {
+        if (transport_.mode() != Transport::Mode::Stopped)
+            useVoices();
+    });
+    forgetFile();
     // See docs/decisions.md, 126.
     host.liveKeys().clear();
 }
@@ -65,14 +87,12 @@ void SequenceDocument::read(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
     errorString_.clear();
-    damage_.clear();
-    path_.clear();
     transport_.stop();
     undoStack_.clear();
     recorder_.endTake();
-    isImported_ = false;
-    source_.reset();
+    recorder_.forgetTakes();
     const Edit edit(*this, {});
+    forgetFile();
     *edit = {};
     try {
         Sequence sequence;
@@ -81,11 +101,14 @@ void SequenceDocument::read(const std::filesystem::path& path)
         else
             readMusically(path, sequence);
         *edit = std::move(sequence);
-        path_ = path;
+        if (!isReadableScore(path))
+            path_ = path;
     } catch (const FormatError& error) {
         errorString_ = error.inFile(name);
     } catch (const std::bad_alloc&) {
         errorString_ = name + ": too large to be read into memory";
+    } catch (const std::length_error& error) {
+        errorString_ = name + ": " + error.what();
     }
     if (!errorString_.empty())
         logger("sequencer").info("{}", errorString_);
@@ -93,16 +116,28 @@ void SequenceDocument::read(const std::filesystem::path& path)
     emit transport_.frame();
 }
 
+void SequenceDocument::forgetFile()
+{
+    path_.clear();
+    damage_.clear();
+    isImported_ = false;
+    source_ = reading() == Reading::Musical ? std::make_shared<SourceFile>() : nullptr;
+    transport_.setTime({});
+    takeVoices(source_ ? source_->voices() : Voices());
+}
+
 void SequenceDocument::readPlainly(const std::filesystem::path& path, Sequence& sequence)
 {
-    isImported_ = readSequence(readStandardMidiFile(readFile(path)), getPrefInt("KeyRangeLo"),
+    isImported_ = readSequence(readStandardMidiFile(midiBytesOf(path)), getPrefInt("KeyRangeLo"),
                                getPrefInt("KeyRangeHi"), sequence)
                       .isImported;
 }
 
 void SequenceDocument::readMusically(const std::filesystem::path& path, Sequence& sequence)
 {
-    source_ = std::make_shared<SourceFile>(readFile(path), sequence);
+    source_ = std::make_shared<SourceFile>(midiBytesOf(path), sequence);
+    transport_.setTime(source_->time());
+    takeVoices(source_->voices());
     if (const auto& damage = source_->damage()) {
         damage_ = damage->inFile(path.filename().string());
         logger("sequencer").info("{}", damage_);
@@ -116,14 +151,17 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
     errorString_.clear();
     if (operation != SaveOperation::SaveAs && isImported_) {
         // See docs/decisions.md, 87.
-        errorString_ = "The source file contains unprocessed MIDI information which cannot be "
-                       "overwriten (multichannel, meta events,…). Use the 'Save As…' option "
-                       "instead.";
+        errorString_ = reading() == Reading::Plain
+                           ? "The source file contains unprocessed MIDI information which cannot "
+                             "be overwriten (multichannel, meta events,…). Use the 'Save As…' "
+                             "option instead."
+                           : "The file is damaged, and only a part of it could be read. To keep "
+                             "what may still be in it, save the piece under another name.";
         return false;
     }
     try {
         writeFile(path, source_ && format == SequenceFormat::MidiFile
-                            ? source_->write(sequence_)
+                            ? source_->write(sequence_, time(), voices_)
                             : writeSequence(sequence_, format));
     } catch (const std::length_error& error) {
         errorString_ = toUtf8(path.filename().string()) + " cannot be written: " + error.what();
@@ -144,6 +182,7 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
         damage_.clear();
     }
     registerTake();
+    recorder_.forgetTakes();
     undoStack_.setClean();
     return true;
 }
@@ -153,6 +192,7 @@ UnsavedSequence SequenceDocument::snapshot() const
     const auto now = std::chrono::system_clock::now();
     return {path_,       std::chrono::floor<std::chrono::milliseconds>(now),
             isImported_, sequence_.notes(),
+            time(),      voices_,
             reading(),   source_};
 }
 
@@ -162,17 +202,26 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
     const Edit edit(*this, {});
     *edit = {};
     edit->reserve(unsaved.notes.size());
+    const bool isPlain = reading() == Reading::Plain;
     for (Note note : unsaved.notes) {
+        if (isPlain && unsaved.source)
+            layOutInSeconds(note, unsaved.musicalTime);
         note.id = 0;
         note.active = note.playing = note.selected = false;
         edit->addNote(note);
     }
+    forgetFile();
     path_ = unsaved.path;
-    isImported_ = unsaved.isImported;
-    source_ = unsaved.source;
-    damage_.clear();
+    isImported_ = unsaved.isImported || (isPlain && unsaved.source);
+    if (!isPlain && unsaved.source)
+        source_ = unsaved.source;
+    if (!isPlain) {
+        transport_.setTime(unsaved.musicalTime);
+        takeVoices(unsaved.voices);
+    }
     errorString_.clear();
     recorder_.endTake();
+    recorder_.forgetTakes();
     undoStack_.clear();
     undoStack_.resetClean();
     updateExtent();
@@ -223,8 +272,8 @@ void SequenceDocument::swap(std::vector<NoteState>& notes)
 
         // A restored note can lie beyond the end.
         double extent = transport_.extent();
-        for (const std::uint64_t id : ids)
-            if (const Note* note = edit->find(id))
+        for (const NoteState& state : notes)
+            if (const Note* note = edit->find(state.id))
                 extent = std::max(extent, extentOf(*note));
         transport_.setExtent(extent);
     }
@@ -232,11 +281,30 @@ void SequenceDocument::swap(std::vector<NoteState>& notes)
     emit transport_.frame();
 }
 
-void SequenceDocument::perform(std::vector<NoteState> notes, const QString& text)
+void SequenceDocument::setTime(MusicalTime time, const QString& text)
+{
+    if (time == this->time())
+        return;
+    registerTake();
+    undoStack_.push(new SwapCommand(text, [this, time = std::move(time)]() mutable {
+        MusicalTime before = this->time();
+        transport_.setTime(std::exchange(time, std::move(before)));
+        emit changed();
+    }));
+}
+
+std::vector<std::uint64_t> SequenceDocument::perform(std::vector<NoteState> notes,
+                                                     const QString& text)
 {
     registerTake();
     swap(notes);
+    std::vector<std::uint64_t> ids;
+    ids.reserve(notes.size());
+    for (const NoteState& state : notes)
+        if (sequence_.find(state.id) != nullptr)
+            ids.push_back(state.id);
     registerDone(std::move(notes), text);
+    return ids;
 }
 
 void SequenceDocument::registerDone(std::vector<NoteState> before, const QString& text)
@@ -254,6 +322,30 @@ void SequenceDocument::registerTake()
     registerDone(std::move(before),
                  editText(QT_TRANSLATE_N_NOOP("velmora::SequenceDocument", "Record %n Note(s)"),
                           static_cast<std::size_t>(added)));
+}
+
+// See docs/decisions.md, 191.
+void SequenceDocument::chooseTake(std::size_t take)
+{
+    const auto& takes = recorder_.takes();
+    std::vector<NoteState> states;
+    for (std::size_t i = 0; i < takes.size(); ++i)
+        for (const Note& note : takes[i])
+            if (const bool exists = sequence_.find(note.id) != nullptr; exists != (i == take))
+                states.push_back({note.id, exists ? std::nullopt : std::optional(note)});
+    if (!states.empty())
+        perform(std::move(states), tr("Choose Take %1").arg(take + 1));
+}
+
+std::optional<std::size_t> SequenceDocument::chosenTake() const
+{
+    const auto& takes = recorder_.takes();
+    for (std::size_t i = 0; i < takes.size(); ++i)
+        if (std::ranges::any_of(takes[i], [this](const Note& note) {
+                return std::as_const(sequence_).find(note.id) != nullptr;
+            }))
+            return i;
+    return std::nullopt;
 }
 
 QString SequenceDocument::editText(const char* text, std::size_t notes)

@@ -2,11 +2,13 @@
 
 #include "base/Clock.h"
 #include "sequencer/Practice.h"
+#include "sequencer/PracticeSession.h"
 #include "sequencer/Recorder.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceFile.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/Transport.h"
+#include "sequencer/Voices.h"
 
 #include <QObject>
 #include <QUndoStack>
@@ -14,6 +16,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -40,15 +43,25 @@ public:
 
     const Sequence& sequence() const { return sequence_; }
 
+    /// The tempos, signatures and markers of the piece.
+    const MusicalTime& time() const { return transport_.time(); }
+
+    /// Replaces them, as an edit that can be undone. `text` names it in the menu. Does nothing if
+    /// they are the same.
+    void setTime(MusicalTime time, const QString& text);
+
     Transport& transport() { return transport_; }
     const Transport& transport() const { return transport_; }
     Recorder& recorder() { return recorder_; }
     const Recorder& recorder() const { return recorder_; }
     Practice& practice() { return practice_; }
     const Practice& practice() const { return practice_; }
+    PracticeSession& practiceSession() { return practiceSession_; }
+    const PracticeSession& practiceSession() const { return practiceSession_; }
 
-    /// Reads a Standard MIDI File. If the file cannot be read, the sequence is empty and
-    /// `errorString` says why. Clears the undo history.
+    /// Reads a Standard MIDI File, or a score in MusicXML, which has no file of its own afterwards.
+    /// If the file cannot be read, the sequence is empty and `errorString` says why. Clears the
+    /// undo history.
     ///
     /// The musical reading keeps everything that the file says, and reads a damaged file as far as
     /// it can be read; `damage` then says what is wrong. The plain reading keeps the notes on the
@@ -74,8 +87,23 @@ public:
     /// True if the file that was read held more than the document keeps.
     bool isImported() const { return isImported_; }
 
-    /// The file from which the document was opened; null if nothing but notes is kept of it.
+    /// The file from which the document was opened, or an empty one; null in the plain reading,
+    /// which keeps nothing but notes.
     const SourceFile* source() const { return source_.get(); }
+
+    /// The voices of the piece, by their channels.
+    const Voices& voices() const { return voices_; }
+
+    /// Changes names and sounds of voices, as an edit that can be undone. `text` names it in the
+    /// menu.
+    void setVoices(const Voices& voices, const QString& text);
+
+    /// Changes what is never saved: which voices are muted, solo or locked, and whether they play
+    /// programs of their own.
+    void mixVoices(const Voices& voices);
+
+    /// Lets the channels of the host sound as the voices of this document, as playing does.
+    void useVoices();
 
     /// The current state of the document, to be kept in case of a crash.
     UnsavedSequence snapshot() const;
@@ -97,8 +125,8 @@ public:
     static QString editText(const char* text, std::size_t notes);
 
     /// Puts notes into the given states, as an edit that can be undone. `text` names it in the
-    /// menu.
-    void perform(std::vector<NoteState> notes, const QString& text);
+    /// menu. Returns the identities of those of the notes that exist afterwards.
+    std::vector<std::uint64_t> perform(std::vector<NoteState> notes, const QString& text);
 
     /// Adds an edit that has already been made to the undo history. `before` holds its notes as
     /// they were.
@@ -107,17 +135,29 @@ public:
     /// Adds what has been recorded since the last call to the undo history.
     void registerTake();
 
+    /// Puts one of the recorder's takes into the sequence in place of the one that is there, as an
+    /// edit that can be undone.
+    void chooseTake(std::size_t take);
+
+    /// Which of the recorder's takes is in the sequence; nothing if none is.
+    std::optional<std::size_t> chosenTake() const;
+
     QUndoStack& undoStack() { return undoStack_; }
 
     /// True if there are edits or recorded notes that are not saved.
     bool isModified() const { return !undoStack_.isClean() || recorder_.hasTake(); }
 
 signals:
-    /// Notes or the selection have changed.
+    /// Notes, the selection or the time of the piece have changed.
     void changed();
+
+    /// Something about a voice has changed.
+    void voicesChanged();
 
 private:
     class SwapNotes;
+
+    void takeVoices(const Voices& voices);
 
     /// Read a file into an empty sequence, or throw FormatError.
     void readPlainly(const std::filesystem::path& path, Sequence& sequence);
@@ -127,15 +167,20 @@ private:
     /// in the undo history.
     void swap(std::vector<NoteState>& notes);
 
+    /// Forgets the file, its time and its damage.
+    void forgetFile();
+
     Sequence sequence_;
     Transport transport_;
     Recorder recorder_;
+    PracticeSession practiceSession_;
     Practice practice_;
     QUndoStack undoStack_;
+    Voices voices_;
     std::filesystem::path path_;
     std::string errorString_, damage_;
     bool isImported_ = false;
-    std::shared_ptr<const SourceFile> source_; ///< Null if nothing but notes is kept of the file.
+    std::shared_ptr<const SourceFile> source_; ///< Null in the plain reading.
     int edits_ = 0;                            ///< Number of edits in progress; they can be nested.
 };
 

@@ -51,7 +51,7 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
         edit->update();
         for (std::size_t i = edit->notes().size(); i-- > 0;) {
             const RollHit place = rollHit(edit->notes()[i], point, keyHeight);
-            if (place == RollHit::Nothing)
+            if (place == RollHit::Nothing || edit->isLocked(edit->notes()[i]))
                 continue;
             hit(*edit, edit->at(i), place, modifiers);
             if (!modifiers.testFlag(Qt::ShiftModifier) || modifiers.testFlag(Qt::ControlModifier))
@@ -64,6 +64,10 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
     }
     if (hitNote_)
         return;
+    if (modifiers.testFlag(Qt::AltModifier)) {
+        beginBand(point);
+        return;
+    }
 
     const double step = snapped(point.step);
     double start =
@@ -80,12 +84,15 @@ void SequenceEditor::hit(Sequence& sequence, Note& note, RollHit place,
                          Qt::KeyboardModifiers modifiers)
 {
     hitNote_ = true;
+    grabbedStart_ = note.start;
     if (place == RollHit::NoteEnd)
         newNote_ = note.id;
     // Recording and undoing change notes without committing them.
     note.oldStart = note.start;
     note.oldKey = note.key;
     note.oldLength = note.length;
+    if (!modifiers.testFlag(Qt::ControlModifier))
+        sound(note);
 
     if (modifiers.testFlag(Qt::ControlModifier)) {
         if (!note.selected)
@@ -110,7 +117,7 @@ void SequenceEditor::rightMouseDown(RollPoint point)
     Note note{.start = snapped(point.step),
               .length = 1.0,
               .oldLength = 1.0,
-              .velocity = 1.0F,
+              .velocity = recorder_.velocity(),
               .channel = recorder_.channel(),
               .key = wholeKey(point.key)};
     note.oldStart = note.start;
@@ -120,30 +127,49 @@ void SequenceEditor::rightMouseDown(RollPoint point)
     Note& stored = edit->addNote(note);
     edit->select(stored);
     newNote_ = stored.id;
+    sound(stored);
 }
 
 void SequenceEditor::mouseDragged(RollPoint point)
 {
-    const bool snap = recorder_.snapToGrid();
-    if (newNote_ != 0) {
+    if (band_) {
+        band_->second = point;
+    } else if (newNote_ != 0) {
         const auto edit = document_.edit({&newNote_, 1});
         if (Note* note = edit->find(newNote_)) {
-            const double end = snap ? std::ceil(point.step) : point.step;
-            note->length = std::max(end - note->start, 0.0);
+            note->length = std::max(recorder_.snappedUp(point.step) - note->start, 0.0);
         }
     } else if (!hitNote_) {
         transport_.selectInterval(transport_.interval().start, snapped(point.step));
     } else {
-        const double steps =
-            snap ? std::floor(point.step) - std::floor(click_.step) : point.step - click_.step;
-        move(point.key - click_.key, steps, snap);
+        dragNotes(point);
+        if (const Note* note = sounding_ ? document_.sequence().find(sounding_->id) : nullptr;
+            note != nullptr && note->key != sounding_->key)
+            sound(*note);
     }
+}
+
+void SequenceEditor::dragNotes(RollPoint point)
+{
+    const double keys = point.key - click_.key, steps = point.step - click_.step;
+    if (document_.reading() == Reading::Musical) {
+        // The note under the mouse snaps, and the others keep their distance from it.
+        move(keys, recorder_.snapped(grabbedStart_ + steps) - grabbedStart_, false);
+        return;
+    }
+    const bool snap = recorder_.snapToGrid();
+    move(keys, snap ? std::floor(point.step) - std::floor(click_.step) : steps, snap);
 }
 
 void SequenceEditor::mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers)
 {
-    if (newNote_ != 0)
+    silence();
+    if (band_)
+        finishBand(modifiers);
+    else if (newNote_ != 0)
         finishLength();
+    else if (hitNote_ && (modifiers & (Qt::ControlModifier | Qt::AltModifier)) != 0)
+        finishCopy();
     else if (hitNote_)
         finishMove();
     else if (modifiers.testFlag(Qt::ShiftModifier))
@@ -167,6 +193,7 @@ void SequenceEditor::finishLength()
     const bool isLong = note->length >= kShortestLength;
     if (isNewNote_ && isLong) {
         note->oldLength = note->length;
+        recorder_.setVelocity(note->velocity);
         document_.registerDone(absent({*note}), SequenceDocument::tr("Draw Note"));
     } else if (isNewNote_) {
         edit->deselect(*note);
@@ -226,9 +253,14 @@ void SequenceEditor::selectInterval(double one, double other)
     transport_.selectInterval(snapped(std::min(one, other)), snapped(std::max(one, other)));
 }
 
+void SequenceEditor::setGrid(Grid grid)
+{
+    recorder_.setGrid(grid);
+}
+
 double SequenceEditor::snapped(double step) const
 {
-    return std::max(recorder_.snapToGrid() ? std::floor(step) : step, 0.0);
+    return std::max(recorder_.snapped(step), 0.0);
 }
 
 } // namespace velmora

@@ -5,13 +5,18 @@
 #include <QKeyEvent>
 
 #include <cstdint>
+#include <functional>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace velmora {
 
 class Recorder;
+enum class Grid : std::uint8_t;
 class SequenceDocument;
 class Transport;
+struct Quantisation;
 
 /// A point in the piano roll.
 struct RollPoint {
@@ -35,15 +40,36 @@ public:
     /// The document must outlive it.
     explicit SequenceEditor(SequenceDocument& document);
 
+    /// Ends a note that sounds because it is pressed.
+    ~SequenceEditor() { silence(); }
+
+    SequenceEditor(const SequenceEditor&) = delete;
+    SequenceEditor& operator=(const SequenceEditor&) = delete;
+
+    SequenceDocument& document() const { return document_; }
+
     /// Selects the note under the mouse. A drag then resizes it if the press hit its end, and
-    /// otherwise moves the selection. If there is no note, moves the position and begins an
-    /// interval; with Shift, extends the interval. With Command, draws a note.
+    /// otherwise moves the selection; if it ends with Command or Alt, the selection is copied there
+    /// instead. If there is no note, moves the position and begins an interval; with Shift, extends
+    /// the interval; with Alt, begins a rubber band. With Command, draws a note. The note that is
+    /// pressed or drawn sounds until the release if the preference "SoundNotes" is set, but not in
+    /// the plain reading.
     void mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers);
 
     /// Draws a new note.
     void rightMouseDown(RollPoint point);
 
-    /// Continue and end the gesture of either button.
+    /// Begins a rubber band. At the release it selects the notes that it touches, and with Shift
+    /// keeps those that were selected.
+    void beginBand(RollPoint point);
+
+    /// The corners of the rubber band, in the order in which they were set; nothing without one.
+    const std::optional<std::pair<RollPoint, RollPoint>>& band() const { return band_; }
+
+    /// True while a drag moves notes.
+    bool isMoving() const { return hitNote_ && newNote_ == 0; }
+
+    /// Continue and end the gesture of any button.
     void mouseDragged(RollPoint point);
     void mouseUp(RollPoint point, Qt::KeyboardModifiers modifiers);
 
@@ -57,6 +83,9 @@ public:
 
     /// Selects the interval between two steps in either order.
     void selectInterval(double one, double other);
+
+    /// Sets the grid to which notes and times snap if snapping is on.
+    void setGrid(Grid grid);
 
     void selectAll();
     void deleteSelection();
@@ -73,6 +102,45 @@ public:
     /// Lengthens the selected notes, except those that would have no length any more.
     void resizeSelection(int steps);
 
+    /// Selects the notes for which `isWanted` returns true, besides those that are selected already
+    /// or instead of them.
+    void select(const std::function<bool(const Note&)>& isWanted, Qt::KeyboardModifiers modifiers);
+
+    /// Returns the selected notes, or all of them if none is selected.
+    std::vector<Note> chosen() const;
+
+    /// Moves the chosen notes to a grid.
+    void quantise(const Quantisation& quantisation);
+
+    /// Moves the selected notes by semitones, all of them or none.
+    void transpose(int semitones);
+
+    /// Moves the selected notes by steps, past the grid.
+    void nudge(double steps);
+
+    /// Repeats the selected notes after themselves: after the selected interval if they begin in
+    /// it, and otherwise on the next beat.
+    void duplicate();
+
+    /// Divides the chosen notes that sound at the play position.
+    void divide();
+
+    /// Join the selected notes of each key, or let each of them last until the next.
+    void join();
+    void connect();
+
+    /// Makes the selected notes louder, or softer if `difference` is negative. The loudest
+    /// velocity is 1.
+    void changeVelocity(double difference);
+
+    /// Makes the note at a point louder or softer, and with it every selected note if it is one of
+    /// them.
+    void changeVelocityAt(RollPoint point, double difference);
+
+    /// Gives notes the velocity that a function returns for each.
+    void setVelocity(const std::vector<Note>& notes,
+                     const std::function<double(const Note&)>& velocity);
+
     /// Returns the selected notes in order of their start.
     std::vector<Note> copy() const;
     std::vector<Note> cut();
@@ -83,24 +151,37 @@ public:
 private:
     void hit(Sequence& sequence, Note& note, RollHit place, Qt::KeyboardModifiers modifiers);
     void move(double keys, double steps, bool snap);
+    void dragNotes(RollPoint point);
     void beginChange();
     void endChange();
     void finishLength();
     void finishMove();
+    void finishCopy();
+    void finishBand(Qt::KeyboardModifiers modifiers);
     void selectUpTo(double end);
+    void sound(const Note& note);
+    void silence();
     double snapped(double step) const;
 
     bool takeNamedKey(int key, bool command);
     void setChannel(unsigned char channel, bool ofSelection);
     std::vector<Note> remove(const char* text);
+    std::vector<std::uint64_t> change(std::vector<NoteState> changes, const char* text);
+    void copyBy(int semitones, double steps);
+
+    /// Selects the notes with these identities. Those that do not exist are left out.
+    void selectOnly(const std::vector<std::uint64_t>& ids);
 
     SequenceDocument& document_;
     Transport& transport_;
     Recorder& recorder_;
     RollPoint click_{};         ///< The point of the last press.
+    double grabbedStart_ = 0.0; ///< The start of the note that it hit.
     bool hitNote_ = false;      ///< True if the last press hit or created a note.
     bool isNewNote_ = false;    ///< True if the drag draws a new note.
     std::uint64_t newNote_ = 0; ///< The note that is being resized or drawn; 0 if none is.
+    std::optional<std::pair<RollPoint, RollPoint>> band_;
+    std::optional<Note> sounding_; ///< The note that sounds because it is pressed.
 };
 
 } // namespace velmora

@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "midi/IMelody.h"
 #include "midi/StandardMidiFileWriter.h"
+#include "sequencer/SequenceTime.h"
 
 #include <algorithm>
 #include <array>
@@ -16,8 +17,7 @@ namespace {
 
 constexpr float kFullVelocity = 127.0F;
 
-/// Written files have 120 beats a minute.
-constexpr double kBeatsPerStep = 2.0 / kStepsPerFileSecond;
+constexpr double kBeatsPerStep = 1.0 / kStepsPerBeat;
 
 std::optional<Note> keptNote(const StandardMidiFile& file, const MidiEvent& event, int keyRangeLo,
                              int keyRangeHi)

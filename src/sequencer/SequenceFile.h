@@ -21,7 +21,7 @@ std::optional<SequenceFormat> sequenceFormatOf(const std::filesystem::path& path
 /// Returns the format's type name: "MIDI File" or "iMelody".
 std::string typeName(SequenceFormat format);
 
-/// A step is a sixteenth of a second of the file.
+/// In the plain reading a step is a sixteenth of a second of the file that is read.
 constexpr double kStepsPerFileSecond = 16.0;
 
 /// The distance from the end of the last note to the end of a sequence, in steps.

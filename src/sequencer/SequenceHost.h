@@ -1,8 +1,25 @@
 #pragma once
 
+#include "audio/Click.h"
+#include "midi/messages.h"
+#include "sound/PartSound.h"
+
+#include <array>
+
 namespace velmora {
 
 class LiveKeys;
+
+/// How a channel of a sequence sounds.
+struct VoiceSound {
+    PartSound part;
+    bool isAudible = true; ///< If false, its notes only lead the temperament.
+
+    bool operator==(const VoiceSound&) const = default;
+};
+
+/// Those of the channels 0…15.
+using VoiceSounds = std::array<VoiceSound, midi::kChannels>;
 
 /// In place of a channel, to stop a key on all of them.
 constexpr int kEveryChannel = -1;
@@ -22,6 +39,16 @@ public:
     /// Stops a key that was started with `play` for a channel or `kEveryChannel`, on every
     /// instrument that still sounds it. If the user holds it as well, it sounds on.
     virtual void stop(int key, int channel, double time) = 0;
+
+    /// Sounds a click of the metronome, if there is one. `time` is as for `play`; a click that is
+    /// still to come sounds by itself.
+    virtual void click(Click /*click*/, double /*time*/) {}
+
+    /// Drops the clicks that are still to come.
+    virtual void cancelClicks() {}
+
+    /// Chooses how the channels sound from now on, also what already sounds on them if possible.
+    virtual void setVoices(const VoiceSounds& /*voices*/) {}
 
     /// The keys of live input.
     virtual LiveKeys& liveKeys() = 0;

@@ -59,7 +59,10 @@ bool SequenceEditor::takeNamedKey(int key, bool command)
         deleteSelection();
         return true;
     case Qt::Key_Escape:
-        document_.edit()->deselect();
+        if (transport_.beatsToCount() > 0)
+            recorder_.record(); // ends it
+        else
+            document_.edit()->deselect();
         return true;
     case Qt::Key_Down:
         transport_.stop();

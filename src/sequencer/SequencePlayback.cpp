@@ -1,6 +1,5 @@
 #include "sequencer/SequencePlayback.h"
 
-#include "midi/messages.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceTime.h"
 
@@ -24,12 +23,6 @@ constexpr double kBehindPosition = 1e-6;
 /// How far the step of an action in a loop is past its note, so that the note is not played again.
 constexpr double kPastAction = 1e-9;
 
-/// The channel of a note as a file has it, which has four bits.
-int channelOf(const Note& note)
-{
-    return static_cast<int>(note.channel % midi::kChannels);
-}
-
 // See docs/decisions.md, 96.
 bool startsBetween(const Note& note, double from, double to)
 {
@@ -48,7 +41,7 @@ bool endsBetween(const Note& note, double from, double to)
 
 std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double to)
 {
-    const bool sounds = !isPlanned_ && !soundedTo_;
+    const bool isHeard = !isPlanned_ && !soundedTo_;
     if (soundedTo_) {
         actions_.clear();
         collect(std::max(*soundedTo_ - ahead_, passStart_), to, 0.0);
@@ -56,6 +49,9 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
             perform(host_, action);
         actions_.clear();
     }
+    for (const Beat& beat : beatsBetween(from, to))
+        if (isHeard)
+            host_.click(beat.click, 0.0);
     std::optional<std::uint32_t> lastKey;
     bool silenced = false;
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
@@ -65,7 +61,7 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
             note.playing = note.active = true;
             states[note.key] = kWanted;
             lastKey = note.key;
-            if (sounds)
+            if (isHeard && isPlayed(note))
                 perform(host_, {true, note.key, channelOf(note), note.velocity, 0.0, 0.0});
         }
         if (endsBetween(note, from, to)) {
@@ -73,7 +69,7 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
             states[note.key] = 0;
             note.playing = note.active = false;
             silenced = true;
-            if (sounds)
+            if (isHeard && isPlayed(note))
                 stopOnInstrument(note.key, channelOf(note));
         }
     }
@@ -84,14 +80,30 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
 
 void SequencePlayback::collect(double from, double to, double time)
 {
+    for (const Beat& beat : beatsBetween(from, to))
+        actions_.push_back({.time = time, .step = to, .click = beat.click});
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
         const Note& note = sequence_.at(noteIndex);
+        if (!isPlayed(note))
+            continue;
         if (startsBetween(note, from, to))
             // See docs/decisions.md, 90.
             actions_.push_back({true, note.key, channelOf(note), note.velocity, time, to});
         if (endsBetween(note, from, to))
             actions_.push_back({false, note.key, channelOf(note), 0.0F, time, to});
     }
+}
+
+void SequencePlayback::setClicks(const MusicalTime* time, bool divides)
+{
+    clicksOn_ = time;
+    divides_ = divides;
+}
+
+std::vector<Beat> SequencePlayback::beatsBetween(double from, double to) const
+{
+    return clicksOn_ == nullptr ? std::vector<Beat>()
+                                : velmora::beatsBetween(*clicksOn_, from, to, divides_);
 }
 
 void SequencePlayback::playAhead(AheadPlayer* player)
@@ -101,7 +113,8 @@ void SequencePlayback::playAhead(AheadPlayer* player)
     player_ = player;
 }
 
-void SequencePlayback::planAhead(double step, double time, double stepsPerSecond, double end)
+void SequencePlayback::planAhead(double step, double time, const Pace& pace, double end,
+                                 std::optional<double> hold)
 {
     if (player_ == nullptr || isPlanned_)
         return;
@@ -110,9 +123,10 @@ void SequencePlayback::planAhead(double step, double time, double stepsPerSecond
     replanTime_ = time + kTick.count() * kTicksPlanned / 2;
     actions_.clear();
     for (int tick = 0; tick < kTicksPlanned; ++tick) {
-        const double from = step + stepsPerSecond * kTick.count() * tick;
-        const double to = step + stepsPerSecond * kTick.count() * (tick + 1);
-        if (to > end) {
+        const double from = pace.stepAfter(step, kTick.count() * tick);
+        const double after = pace.stepAfter(step, kTick.count() * (tick + 1));
+        const double to = hold ? std::min(after, *hold) : after;
+        if (to > end || from >= to) {
             replanTime_ = std::numeric_limits<double>::infinity();
             break;
         }
@@ -122,7 +136,7 @@ void SequencePlayback::planAhead(double step, double time, double stepsPerSecond
 }
 
 // See docs/decisions.md, 188.
-void SequencePlayback::planLoop(double step, double time, double stepsPerSecond, double start,
+void SequencePlayback::planLoop(double step, double time, const Pace& pace, double start,
                                 double end)
 {
     if (player_ == nullptr || isPlanned_)
@@ -131,34 +145,36 @@ void SequencePlayback::planLoop(double step, double time, double stepsPerSecond,
     planStart_ = step;
     replanTime_ = time + kTick.count() * kTicksPlanned / 2;
     actions_.clear();
-    const double last = step + stepsPerSecond * kTick.count() * kTicksPlanned;
+    const double last = time + kTick.count() * kTicksPlanned;
     double ahead = 0.0; // of the loop's steps
-    for (double from = step; from + ahead < last;) {
-        const double to = std::min(end, last - ahead);
-        planPass(from, to, time - (step - ahead) / stepsPerSecond, stepsPerSecond, ahead);
-        if (to < end)
+    for (double from = step; time < last; from = start) {
+        const double turn = time + pace.secondsBetween(from, end);
+        if (turn > last) {
+            planPass(from, std::min(end, pace.stepAfter(from, last - time)), time, pace, ahead);
             break;
-        const double turn = end + ahead;
+        }
+        planPass(from, end, time, pace, ahead);
         for (const std::uint32_t key : index().keys())
-            actions_.push_back({false, key, kEveryChannel, 0.0F,
-                                time + (turn - step) / stepsPerSecond + kBehindPosition,
-                                turn + kPastAction});
+            actions_.push_back({false, key, kEveryChannel, 0.0F, turn + kBehindPosition,
+                                end + ahead + kPastAction});
         ahead += end - start;
-        from = start;
+        time = turn;
     }
     player_->plan(actions_);
 }
 
-/// Adds the notes between two steps, each at its own time. Step 0 is at `time`.
-void SequencePlayback::planPass(double from, double to, double time, double stepsPerSecond,
-                                double ahead)
+void SequencePlayback::planPass(double from, double to, double time, const Pace& pace, double ahead)
 {
     const auto begin = static_cast<std::ptrdiff_t>(actions_.size());
     const auto add = [&](const Note& note, bool starts, double step) {
         actions_.push_back({starts, note.key, channelOf(note), starts ? note.velocity : 0.0F,
-                            time + step / stepsPerSecond + kBehindPosition,
+                            time + pace.secondsBetween(from, step) + kBehindPosition,
                             step + ahead + kPastAction});
     };
+    for (const Beat& beat : beatsBetween(from, to))
+        actions_.push_back({.time = time + pace.secondsBetween(from, beat.step) + kBehindPosition,
+                            .step = beat.step + ahead + kPastAction,
+                            .click = beat.click});
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
         const Note& note = sequence_.notes()[noteIndex];
         if (startsBetween(note, from, to))

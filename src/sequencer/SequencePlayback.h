@@ -1,6 +1,9 @@
 #pragma once
 
 #include "sequencer/AheadPlayer.h"
+#include "sequencer/Metre.h"
+#include "sequencer/Pace.h"
+#include "sequencer/PracticePart.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/SequenceIndex.h"
@@ -24,21 +27,30 @@ public:
     /// Call this after every change of notes.
     void sequenceChanged() { index_.reset(); }
 
+    /// Flags the notes of a part, but does not sound them, because the user plays them; nothing
+    /// sounds every note again. Call this while nothing is planned.
+    void leaveOut(std::optional<PracticePart> part) { leftOut_ = part; }
+
     /// Starts and ends the notes whose start or end lies between two steps. Returns the key of the
     /// last note that started.
     std::optional<std::uint32_t> playBetween(double from, double to);
+
+    /// Plays the clicks of a metronome with the notes from now on, on the beats of a piece; null
+    /// plays none. Call this while nothing is planned.
+    void setClicks(const MusicalTime* time, bool divides);
 
     /// Plays the notes through `player` from now on, on its own thread and the clock of `getTime`;
     /// null plays them in `playBetween` again. The player must outlive its use here.
     void playAhead(AheadPlayer* player);
 
     /// Plans the notes of the next quarter of a second from `step` at `time`, tick by tick, up to
-    /// `end`. Until the plan is cancelled, `playBetween` only flags notes. Does nothing without a
-    /// player, or if there is a plan.
-    void planAhead(double step, double time, double stepsPerSecond, double end);
+    /// `end`, and exactly up to `hold`. Until the plan is cancelled, `playBetween` only flags
+    /// notes. Does nothing without a player, or if there is a plan.
+    void planAhead(double step, double time, const Pace& pace, double end,
+                   std::optional<double> hold = {});
 
     /// Does the same for a loop, at whose end the notes are planned from its start again.
-    void planLoop(double step, double time, double stepsPerSecond, double start, double end);
+    void planLoop(double step, double time, const Pace& pace, double start, double end);
 
     /// Flags the notes at the end of a loop as silent, and silences them unless the plan has done
     /// so. `playBetween` goes on at the start.
@@ -76,10 +88,15 @@ public:
 private:
     void stopOnInstrument(std::uint32_t key, int channel);
     void collect(double from, double to, double time);
-    void planPass(double from, double to, double time, double stepsPerSecond, double ahead);
+    std::vector<Beat> beatsBetween(double from, double to) const;
+
+    /// Adds the notes and clicks between two steps, each at its own time. `from` is at `time`.
+    void planPass(double from, double to, double time, const Pace& pace, double ahead);
+
     void clearMarks();
     SequenceIndex& index();
     bool isMarked(std::uint32_t noteIndex) const;
+    bool isPlayed(const Note& note) const { return !leftOut_ || !leftOut_->contains(note); }
     void mark(std::uint32_t noteIndex);
     void forgetUnmarked();
 
@@ -89,6 +106,10 @@ private:
     /// Indices of all notes that play or are active, and possibly of others.
     std::vector<std::uint32_t> marked_;
 
+    const MusicalTime* clicksOn_ = nullptr; ///< The piece of the metronome; null for none.
+    bool divides_ = false;                  ///< The metronome clicks between the beats.
+
+    std::optional<PracticePart> leftOut_;
     AheadPlayer* player_ = nullptr;
     bool isPlanned_ = false;
     double planStart_ = 0.0;          ///< In steps.

@@ -1,26 +1,37 @@
 #include "sequencer/SourceFile.h"
 
+#include "midi/MidiTrack.h"
+#include "midi/StandardMidiFileWriter.h"
 #include "midi/messages.h"
 #include "sequencer/Sequence.h"
-#include "sequencer/SequenceFile.h"
 #include "sequencer/SourceFileWriter.h"
+#include "sequencer/editTime.h"
+#include "sequencer/editVoices.h"
 
 #include <cstdint>
 #include <utility>
 
 namespace velmora {
 
+SourceFile::SourceFile()
+{
+    const std::string bytes = MidiTrack().finish(static_cast<std::uint16_t>(kTicksPerBeat));
+    const auto view = std::as_bytes(std::span(bytes));
+    bytes_.assign(view.begin(), view.end());
+}
+
 SourceFile::SourceFile(std::vector<std::byte> bytes, Sequence& sequence) : bytes_(std::move(bytes))
 {
     const MidiFileEvents file = readMidiFileEvents(bytes_);
     damage_ = file.damage;
+    time_ = musicalTimeOf(file);
+    voices_ = voicesOf(file);
     std::uint32_t origin = 0;
     for (const FileTrack& track : file.tracks) {
         const std::vector<FileNote> notes = notesOf(track);
         sequence.reserve(sequence.notes().size() + notes.size());
         const auto stepAt = [&](std::uint64_t tick) {
-            const double beats = static_cast<double>(tick) / file.header.ticksPerBeat;
-            return file.tempoMap.secondsForBeats(beats) * kStepsPerFileSecond;
+            return static_cast<double>(tick) / file.header.ticksPerBeat * kStepsPerBeat;
         };
         for (const FileNote& fileNote : notes) {
             ++origin;
@@ -41,9 +52,14 @@ SourceFile::SourceFile(std::vector<std::byte> bytes, Sequence& sequence) : bytes
     sequence.sort();
 }
 
-std::string SourceFile::write(const Sequence& sequence) const
+std::string SourceFile::write(const Sequence& sequence, const MusicalTime& time,
+                              const Voices& voices) const
 {
-    return SourceFileWriter(readMidiFileEvents(bytes_), sequence).write();
+    MidiFileEvents file = readMidiFileEvents(bytes_);
+    FileEdits edits;
+    editTime(file, time, edits);
+    editVoices(file, voices, edits);
+    return SourceFileWriter(std::move(file), sequence, edits).write();
 }
 
 } // namespace velmora

@@ -7,6 +7,7 @@
 #include "midi/messages.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceFile.h"
+#include "sequencer/SequenceTime.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,8 +19,9 @@ namespace velmora {
 namespace {
 
 /// The orders of the events of a tick: edited notes end before the file's events and start after
-/// them, so that a note that touches another one does not overlap it.
-constexpr int kEnds = 0, kOfFile = 1, kStarts = 2;
+/// them, so that a note that touches another one does not overlap it. Added events come before the
+/// file's notes, to which they apply.
+constexpr int kEnds = 0, kAdded = 1, kOfFile = 2, kStarts = 3;
 
 /// The greatest division of a beat and of a frame that a file can have.
 constexpr unsigned kMostTicksPerBeat = 0x7FFF, kMostTicksPerFrame = 0xFF;
@@ -45,8 +47,10 @@ std::uint64_t endOf(const FileNote& note, const FileTrack& track)
     return note.off == FileNote::kTrackEnd ? track.end : track.events[note.off].tick;
 }
 
-SourceFileWriter::SourceFileWriter(MidiFileEvents file, const Sequence& sequence)
-    : file_(std::move(file)), fates_(file_.tracks.size()), added_(file_.tracks.size())
+SourceFileWriter::SourceFileWriter(MidiFileEvents file, const Sequence& sequence,
+                                   const FileEdits& edits)
+    : file_(std::move(file)), edits_(edits), fates_(file_.tracks.size()),
+      added_(file_.tracks.size())
 {
     for (const FileTrack& track : file_.tracks)
         notes_.push_back(notesOf(track));
@@ -89,13 +93,15 @@ void SourceFileWriter::divideTicks(const std::vector<const Note*>& edited)
     const auto isOnATick = [this](double step) {
         const double tick = tickAt(step);
         if (!(tick <= kLastBeat * file_.header.ticksPerBeat))
-            throw std::length_error("a note is later than a file can hold");
+            throw std::length_error("a note or a change is later than a file can hold");
         return std::abs(tick - std::round(tick)) < kNearEnough;
     };
     bool isExact = true;
     for (const Note* note : edited)
         for (const double step : {note->start, note->start + note->length})
             isExact = isOnATick(step) && isExact;
+    for (const FileEdits::Added& event : edits_.added())
+        isExact = isOnATick(event.step) && isExact;
     if (isExact)
         return;
     std::uint16_t& division = file_.header.division;
@@ -108,8 +114,7 @@ void SourceFileWriter::divideTicks(const std::vector<const Note*>& edited)
 
 double SourceFileWriter::tickAt(double step) const
 {
-    const double seconds = std::max(step, 0.0) / kStepsPerFileSecond;
-    return file_.tempoMap.beatsForSeconds(seconds) * file_.header.ticksPerBeat *
+    return std::max(step, 0.0) / kStepsPerBeat * file_.header.ticksPerBeat *
            static_cast<double>(factor_);
 }
 
@@ -156,7 +161,8 @@ std::string SourceFileWriter::writeTrack(std::size_t index) const
     std::vector<Event> events;
     events.reserve(file_.tracks[index].events.size());
     const std::uint64_t end =
-        std::max(addEditedNotes(index, events), file_.tracks[index].end * factor_);
+        std::max({addEditedNotes(index, events), addOtherEvents(index, events),
+                  file_.tracks[index].end * factor_});
     addFileEvents(index, end, events);
     std::stable_sort(events.begin(), events.end(), [](const Event& a, const Event& b) {
         return std::pair(a.tick, a.order) < std::pair(b.tick, b.order);
@@ -198,6 +204,20 @@ void SourceFileWriter::addNote(const Note& note, char releaseVelocity, std::uint
     events.push_back({std::max(end, begin + 1), kEnds, id, off, {key, releaseVelocity}, {}});
 }
 
+/// Returns the tick of the last one.
+std::uint64_t SourceFileWriter::addOtherEvents(std::size_t index, std::vector<Event>& events) const
+{
+    std::uint64_t last = 0;
+    for (const FileEdits::Added& event : edits_.added()) {
+        if (event.track != index)
+            continue;
+        const auto tick = static_cast<std::uint64_t>(std::round(tickAt(event.step)));
+        events.push_back({tick, kAdded, 0, event.status, {}, event.data});
+        last = std::max(last, tick);
+    }
+    return last;
+}
+
 void SourceFileWriter::addFileEvents(std::size_t index, std::uint64_t end,
                                      std::vector<Event>& events) const
 {
@@ -216,7 +236,7 @@ void SourceFileWriter::addFileEvents(std::size_t index, std::uint64_t end,
     }
     for (std::size_t i = 0; i < track.events.size(); ++i) {
         const FileEvent& event = track.events[i];
-        if (isGone[i] || skipsNotes(event))
+        if (isGone[i] || skipsNotes(event) || (!isNoteEvent(event) && edits_.drops(event)))
             continue;
         Event& added = events.emplace_back(
             Event{event.tick * factor_, kOfFile, noteOf[i], event.status, {}, event.data});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "midi/MidiFileEvents.h"
+#include "sequencer/FileEdits.h"
 
 #include <array>
 #include <cstddef>
@@ -18,8 +19,8 @@ struct Note;
 /// Puts the notes of a sequence into the events of the file that they come from.
 class SourceFileWriter {
 public:
-    /// The sequence must outlive the writer.
-    SourceFileWriter(MidiFileEvents file, const Sequence& sequence);
+    /// The sequence and the edits must outlive the writer.
+    SourceFileWriter(MidiFileEvents file, const Sequence& sequence, const FileEdits& edits);
 
     /// Returns the bytes of the file. Throws std::length_error if a note is later than a file can
     /// hold.
@@ -49,6 +50,7 @@ private:
     bool isUnchanged(const Note& note, const FileTrack& track, const FileNote& fileNote) const;
 
     std::string writeTrack(std::size_t index) const;
+    std::uint64_t addOtherEvents(std::size_t index, std::vector<Event>& events) const;
     void addFileEvents(std::size_t index, std::uint64_t end, std::vector<Event>& events) const;
     std::uint64_t addEditedNotes(std::size_t index, std::vector<Event>& events) const;
     void addNote(const Note& note, char releaseVelocity, std::uint32_t id,
@@ -56,6 +58,7 @@ private:
     static std::string bytesOf(const std::vector<Event>& events, std::uint64_t end);
 
     MidiFileEvents file_;
+    const FileEdits& edits_;
     std::vector<std::vector<FileNote>> notes_;    ///< Of each track.
     std::vector<std::vector<Fate>> fates_;        ///< Of each of them.
     std::vector<std::vector<const Note*>> added_; ///< The new notes of each track.

@@ -1,6 +1,8 @@
 #include "sequencer/Transport.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace velmora {
@@ -42,15 +44,69 @@ void Transport::startRecording()
     emit frame();
 }
 
+void Transport::startRunningRecording()
+{
+    lastTick_ = clock_();
+    turns_ = 0;
+    countIn_.clear();
+    if (metronome_.countIn > 0)
+        countIn();
+    runs_ = true;
+    setMode(Mode::Recording);
+    emit frame();
+}
+
+void Transport::countIn()
+{
+    const double stepsPerSecond = pace().stepsPerSecondAt(position_);
+    const CountIn bars = countInTo(time_, position_, metronome_.countIn, metronome_.divides);
+    for (const Beat& beat : bars.beats) {
+        const double time = lastTick_ + beat.step / stepsPerSecond;
+        host_.click(beat.click, time);
+        if (beat.click != Click::Division)
+            countIn_.push_back(time);
+    }
+    lastTick_ += bars.length / stepsPerSecond;
+}
+
+int Transport::beatsToCount() const
+{
+    const double now = clock_();
+    if (!runs_ || now >= lastTick_)
+        return 0;
+    const auto later = std::ranges::count_if(countIn_, [now](double beat) { return beat > now; });
+    return static_cast<int>(later) + 1; // with the one that sounds
+}
+
 void Transport::endRecording()
 {
+    if (std::exchange(runs_, false)) {
+        stop();
+        host_.cancelClicks();
+    }
     setMode(Mode::Stopped);
     emit frame();
+}
+
+void Transport::setMetronome(const MetronomeSettings& settings)
+{
+    settle();
+    metronome_ = reading_ == Reading::Musical ? settings : MetronomeSettings{};
+    takeMetronome();
+    emit optionsChanged();
+}
+
+void Transport::takeMetronome()
+{
+    const bool clicks =
+        mode_ == Mode::Recording ? metronome_.whileRecording : metronome_.whilePlaying;
+    playback_.setClicks(clicks ? &time_ : nullptr, metronome_.divides);
 }
 
 void Transport::setMode(Mode mode)
 {
     mode_ = mode;
+    takeMetronome();
     emit modeChanged();
 }
 
@@ -60,52 +116,77 @@ void Transport::tick()
     // sounded.
     if (playback_.isPlanShort(clock_()))
         playback_.cancelPlan();
-    const double now = clock_();
-    if (mode_ == Mode::Playing)
+    double now = clock_();
+    if (runs_ && now < lastTick_) { // it still counts
+        if (ticks_++ % kTicksPerFrame == 0)
+            emit frame();
+        return;
+    }
+    if (mode_ == Mode::Playing) {
+        emit playing(now);              // may stop it
+        now = std::max(now, lastTick_); // it may have settled since
+    }
+    if (mode_ == Mode::Playing || runs_)
         playUntil(now);
+    const double before = std::exchange(lastTick_, now);
     if (mode_ == Mode::Recording)
-        emit recording(lastTick_, now);
-    lastTick_ = now;
+        emit recording(before, now);
     // The timer stops after the tick that ends playing, so that tick must show the result.
     if (ticks_++ % kTicksPerFrame == 0 || mode_ == Mode::Stopped)
         emit frame();
 }
 
+Pace Transport::pace() const
+{
+    return reading_ == Reading::Plain ? Pace(kPlainStepsPerSecond * speed_) : Pace(time_, speed_);
+}
+
 double Transport::positionAt(double time) const
 {
-    return position_ + stepsPerSecond() * (time - lastTick_);
+    return pace().stepAfter(position_, time - lastTick_);
 }
 
 double Transport::endOfPlaying() const
 {
+    if (mode_ == Mode::Recording) // it does not end with the notes
+        return loop_ && !interval_.isEmpty() ? interval_.end
+                                             : std::numeric_limits<double>::infinity();
     return interval_.isEmpty() ? extent_ : std::min(interval_.end, extent_);
 }
 
 std::optional<Interval> Transport::endlessLoop() const
 {
     const Interval loop{interval_.isEmpty() ? 0.0 : interval_.start, endOfPlaying()};
-    const bool isLong = loop.end - loop.start > stepsPerSecond() * kTick.count();
+    const bool isLong = pace().secondsBetween(loop.start, loop.end) > kTick.count();
     // In the plain reading every pass is longer by the rest of a tick.
-    return loop_ && reading_ == Reading::Musical && isLong && position_ <= loop.end
+    return loop_ && reading_ == Reading::Musical && !hold_ && isLong && std::isfinite(loop.end) &&
+                   position_ <= loop.end
                ? std::optional(loop)
                : std::nullopt;
 }
 
-double Transport::playPasses(double next)
+double Transport::playPasses(double seconds)
 {
     const auto loop = endlessLoop();
-    while (loop && next > loop->end) {
+    if (!loop) {
+        const double next = pace().stepAfter(position_, seconds);
+        return hold_ ? std::min(next, std::max(*hold_, position_)) : next;
+    }
+    double rest = pace().secondsBetween(position_, loop->end);
+    while (seconds > rest) {
         playback_.playBetween(position_, loop->end);
         playback_.wrap(loop->start, loop->end);
         position_ = loop->start;
-        next -= loop->end - loop->start;
+        seconds -= rest;
+        rest = pace().secondsBetween(loop->start, loop->end);
+        ++turns_;
     }
-    return next;
+    return std::min(pace().stepAfter(position_, seconds), loop->end);
 }
 
 void Transport::playUntil(double now)
 {
-    double next = playPasses(positionAt(now));
+    double next = playPasses(now - lastTick_);
     if (next <= endOfPlaying()) {
         if (const auto lastKey = playback_.playBetween(position_, next))
             // See docs/decisions.md, 91.
@@ -119,25 +200,28 @@ void Transport::playUntil(double now)
             play();
     }
     playback_.finishPlan();
-    if (mode_ != Mode::Playing)
+    if (mode_ == Mode::Stopped)
         return;
     if (const auto loop = endlessLoop())
-        playback_.planLoop(next, now, stepsPerSecond(), loop->start, loop->end);
+        playback_.planLoop(next, now, pace(), loop->start, loop->end);
     else
-        playback_.planAhead(next, now, stepsPerSecond(), endOfPlaying());
+        playback_.planAhead(next, now, pace(), endOfPlaying(), hold_);
 }
 
 void Transport::settle()
 {
-    if (!playback_.cancelPlan())
-        return;
-    const double now = clock_();
-    const double later = playPasses(positionAt(now));
+    if (playback_.cancelPlan())
+        playOn(clock_());
+}
+
+void Transport::playOn(double until)
+{
+    const double later = playPasses(until - lastTick_);
     const double next = std::max(position_, std::min(later, endOfPlaying()));
     playback_.playBetween(position_, next);
     playback_.finishPlan();
     position_ = next;
-    lastTick_ = now;
+    lastTick_ = until;
 }
 
 void Transport::stop()
@@ -160,9 +244,19 @@ void Transport::scrollTo(double step)
         revealPosition();
 }
 
+void Transport::setHold(std::optional<double> step, double time)
+{
+    settle();
+    if (time > lastTick_)
+        playOn(time);
+    else if (hold_ && position_ >= *hold_)
+        lastTick_ = time;
+    hold_ = step;
+}
+
 void Transport::advance(double seconds)
 {
-    position_ += stepsPerSecond() * seconds;
+    position_ = pace().stepAfter(position_, seconds);
 }
 
 void Transport::revealPosition()
@@ -183,10 +277,17 @@ void Transport::setExtent(double extent)
         emit extentChanged();
 }
 
-void Transport::setTempo(double tempo)
+void Transport::setTime(MusicalTime time)
 {
     settle();
-    tempo_ = tempo;
+    time_ = std::move(time);
+    emit optionsChanged();
+}
+
+void Transport::setSpeed(double speed)
+{
+    settle();
+    speed_ = speed;
     emit optionsChanged();
 }
 

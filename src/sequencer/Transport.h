@@ -2,6 +2,8 @@
 
 #include "base/Clock.h"
 #include "base/Reading.h"
+#include "sequencer/MusicalTime.h"
+#include "sequencer/Pace.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/SequencePlayback.h"
@@ -11,6 +13,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace velmora {
 
@@ -45,13 +48,29 @@ public:
 
     /// Starts emitting `recording` on every tick. The transport must be stopped.
     void startRecording();
+
+    /// Does the same, but moves the position and plays the sequence along, in a loop if it loops
+    /// and an interval is selected. Before that the metronome counts the bars that lead to the
+    /// position.
+    void startRunningRecording();
     void endRecording();
 
     /// Advances by the time since the last tick. Call this 1024 times a second unless stopped.
     void tick();
 
-    /// The time of the last tick, in seconds.
+    /// The time of the last tick, in seconds. While the metronome counts in, it is still to come.
     double lastTick() const { return lastTick_; }
+
+    /// How many beats the metronome still has to count before the recording; 0 if it does not
+    /// count.
+    int beatsToCount() const;
+
+    /// How often the loop has turned since the recording began.
+    int turns() const { return turns_; }
+
+    /// When the metronome clicks. It never does in the plain reading.
+    const MetronomeSettings& metronome() const { return metronome_; }
+    void setMetronome(const MetronomeSettings& settings);
 
     /// Silences every note that sounds, but keeps the mode.
     void stop();
@@ -65,8 +84,13 @@ public:
     /// Moves the position. The view follows unless an interval is selected.
     void scrollTo(double step);
 
-    /// Moves the position by seconds at the current tempo, without a signal.
+    /// Moves the position by seconds at the current pace, without a signal.
     void advance(double seconds);
+
+    /// Makes playing wait at a step until the hold is moved; nothing lets it go on. If the position
+    /// stands at the old hold, it has gone on since `time`, in seconds, which must not be later
+    /// than now. While there is a hold, loops are not planned ahead.
+    void setHold(std::optional<double> step, double time);
 
     /// Asks the view to show the position.
     void revealPosition();
@@ -84,12 +108,20 @@ public:
     double extent() const { return extent_; }
     void setExtent(double extent);
 
-    /// Beats a minute, above 0.
-    double tempo() const { return tempo_; }
-    void setTempo(double tempo);
+    /// The tempos and bars of the piece.
+    const MusicalTime& time() const { return time_; }
+    void setTime(MusicalTime time);
 
-    /// The steps of a second at the tempo.
-    double stepsPerSecond() const { return velmora::stepsPerSecond(tempo_, reading_); }
+    /// How fast the piece is played: 1 as it is written, 2 twice as fast.
+    double speed() const { return speed_; }
+    void setSpeed(double speed);
+
+    /// How the position moves. Valid until the time of the piece changes.
+    Pace pace() const;
+
+    /// Returns where the position is at a time in seconds, before or after the last tick, if
+    /// nothing ends, stops or repeats it.
+    double positionAt(double time) const;
 
     /// True if playing starts over at the end: from the start of the selected interval, or of the
     /// sequence if nothing is selected.
@@ -105,6 +137,9 @@ public:
 
 signals:
     void modeChanged();
+
+    /// A tick of playing, with its time in seconds. The position is still that of the last tick.
+    void playing(double until);
 
     /// A tick of a recording, with the times of the last tick and of this one in seconds.
     void recording(double from, double until);
@@ -122,21 +157,25 @@ signals:
 
     void extentChanged();
 
-    /// The tempo or looping has changed.
+    /// The speed, looping, the metronome or the time of the piece has changed.
     void optionsChanged();
 
 private:
-    double positionAt(double time) const;
     double endOfPlaying() const;
 
     /// The part that is played again and again without a gap; nothing if there is none.
     std::optional<Interval> endlessLoop() const;
 
-    /// Plays the passes of a loop that end before a position. Returns where it lies in the next.
-    double playPasses(double next);
+    /// Plays the passes of a loop that end within `seconds`. Returns the position after them.
+    double playPasses(double seconds);
 
     void playUntil(double now);
+
+    /// Plays up to a time that is not later than now, but not beyond the end, and plans nothing.
+    void playOn(double until);
     void setMode(Mode mode);
+    void takeMetronome();
+    void countIn();
 
     const Reading reading_;
     SequenceHost& host_;
@@ -145,12 +184,18 @@ private:
     Mode mode_ = Mode::Stopped;
     double position_ = 0.0;
     double lastTick_; ///< In seconds.
-    double tempo_ = 120.0;
+    double speed_ = 1.0;
+    MusicalTime time_;
+    std::optional<double> hold_;
     double extent_ = 0.0;
     Interval interval_;
     bool loop_ = false;
     int cursor_ = 0;
     unsigned ticks_ = 0;
+    MetronomeSettings metronome_;
+    bool runs_ = false;           ///< True if the position moves by itself while recording.
+    std::vector<double> countIn_; ///< The times of the beats that are counted, in seconds.
+    int turns_ = 0;
 };
 
 } // namespace velmora

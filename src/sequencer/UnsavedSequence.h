@@ -1,7 +1,9 @@
 #pragma once
 
 #include "base/Reading.h"
+#include "sequencer/MusicalTime.h"
 #include "sequencer/Sequence.h"
+#include "sequencer/Voices.h"
 
 #include <chrono>
 #include <cstddef>
@@ -25,6 +27,9 @@ struct UnsavedSequence {
     /// identities and flags are not.
     std::vector<Note> notes;
 
+    MusicalTime musicalTime = {}; ///< The tempos and bars of the piece.
+    Voices voices = newVoices();  ///< Who plays the channels of the piece.
+
     Reading reading = Reading::Musical; ///< Not kept on disk: the program that recovers chooses.
 
     /// What the notes come from, by their `origin`; null if there is nothing else to keep.
@@ -32,13 +37,15 @@ struct UnsavedSequence {
 };
 
 /// Returns the bytes of a recovery file, big-endian: "VREC", the version, path, time, isImported,
-/// the bytes of the source file, the number of notes, and for each note its start, length,
+/// the bytes of the source file, the tempos, time signatures, key signatures and markers, each with
+/// their number first, the voices, the number of notes, and for each note its start, length,
 /// oldStart, oldLength and velocity as doubles and its channel, key, oldKey and origin as 32-bit
 /// numbers.
 std::string encodeUnsaved(const UnsavedSequence& sequence);
 
 /// Decodes a recovery file, with its notes corrected by `makeValid`. Throws FormatError with the
-/// byte offset if this is not a recovery file of this version or it contains an invalid note.
+/// byte offset if this is not a recovery file of this version or the one before, in which a step
+/// was a sixteenth of a second of the source file, or it contains an invalid note.
 UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes);
 
 } // namespace velmora

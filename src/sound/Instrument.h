@@ -2,6 +2,7 @@
 
 #include "audio/Glide.h"
 #include "audio/Program.h"
+#include "sound/PartSound.h"
 #include "tuning/Tunable.h"
 
 #include <cstddef>
@@ -45,6 +46,10 @@ public:
     /// Like `play` and `stop`, for a division, numbered from 0.
     virtual void playOn(std::size_t /*division*/, int key, float velocity) { play(key, velocity); }
     virtual void stopOn(std::size_t /*division*/, int key) { stop(key); }
+
+    /// Lets a part, 1…kParts − 1, sound as it shall; `playOn` and `stopOn` then play it as if it
+    /// were a division. Returns false if the instrument cannot play several sounds at a time.
+    virtual bool setPart(std::size_t /*part*/, const PartSound& /*sound*/) { return false; }
 
     /// Sets when the operations that follow are due, in the seconds of `getTime`; 0 for at once.
     virtual void setDue(double /*time*/) {}

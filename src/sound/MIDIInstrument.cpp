@@ -77,12 +77,17 @@ std::unique_ptr<MusicDevice> MIDIInstrument::exchangeDevice(std::unique_ptr<Musi
 {
     device_.swap(device);
     corrections_.assign(programs_.size(), {});
+    device_->setPart(0);
     bank_ = programs_[program_].bank;
     send(midi::kControlChange, midi::kBankSelect, bank_);
     MIDIInstrument::setProgram(program_);
     device_->bend(bend_);
     device_->setGlide(glide_);
-    started_.fill({});
+    for (std::size_t part = 1; part < kParts; ++part)
+        if (parts_[part])
+            sendPart(part);
+    started_ = {};
+    played_.reset();
     return device;
 }
 
@@ -109,21 +114,23 @@ std::size_t MIDIInstrument::numStops() const
     return 1;
 }
 
-void MIDIInstrument::play(int key, float velocity)
+void MIDIInstrument::playOn(std::size_t part, int key, float velocity)
 {
     // See docs/decisions.md, 40.
     int value = static_cast<int>(velocity * 127.0F * volume_);
     // The pedal never silences a note.
     if (isSoft_ && value > 0)
         value = std::max(1, static_cast<int>(kSoftness * static_cast<float>(value)));
-    Started& started = started_[static_cast<std::size_t>(key)];
-    const auto path = programs_[program_].isPercussion ? Started::Path::Drum
-                      : playsByKey_                    ? Started::Path::Key
-                                                       : Started::Path::Channel;
+    Started& started = started_[part][static_cast<std::size_t>(key)];
+    const auto path = isPercussion(part) ? Started::Path::Drum
+                      : playsByKey_      ? Started::Path::Key
+                                         : Started::Path::Channel;
     // The device would not know that this is the same key.
     if (started.mayMove && (started.path == Started::Path::Key) != (path == Started::Path::Key))
-        stop(key);
+        stopOn(part, key);
     started = {path, true, static_cast<std::uint8_t>(key), kNotMoved};
+    played_.set(part);
+    device_->setPart(part);
     if (path != Started::Path::Key) {
         const bool isDrum = path == Started::Path::Drum;
         device_->midiEvent(midi::kNoteOn | (isDrum ? kPercussionChannel : channelOf(key)), key,
@@ -137,9 +144,10 @@ void MIDIInstrument::play(int key, float velocity)
     device_->keyOn(key, value, sounding, started.cents);
 }
 
-void MIDIInstrument::stop(int key)
+void MIDIInstrument::stopOn(std::size_t part, int key)
 {
-    const auto path = started_[static_cast<std::size_t>(key)].path;
+    const auto path = started_[part][static_cast<std::size_t>(key)].path;
+    device_->setPart(part);
     if (path == Started::Path::Key)
         device_->keyOff(key);
     else
@@ -162,9 +170,12 @@ void MIDIInstrument::setGlide(const Glide& glide)
 
 void MIDIInstrument::silence()
 {
+    device_->setPart(0);
     send(midi::kControlChange, midi::kAllSoundOff, 0);
-    for (Started& started : started_)
-        started.mayMove = false;
+    for (std::size_t part = 0; part < kParts; ++part)
+        for (std::size_t key = 0; played_[part] && key < started_[part].size(); ++key)
+            started_[part][key].mayMove = false;
+    played_.reset();
 }
 
 void MIDIInstrument::tune(const Temperament& temperament, int /*lo*/, int /*hi*/)
@@ -241,15 +252,21 @@ void MIDIInstrument::bendChannelsToPlaces()
 /// Moves the keys that sound: those that were started one by one, or all of them.
 void MIDIInstrument::moveKeys(bool all)
 {
-    for (int key = 0; key < static_cast<int>(started_.size()); ++key) {
-        Started& started = started_[static_cast<std::size_t>(key)];
-        const bool isKey = started.path == Started::Path::Key;
-        if (!started.mayMove || started.path == Started::Path::Drum || (!isKey && !all))
+    for (std::size_t part = 0; part < kParts; ++part) {
+        if (!played_[part])
             continue;
-        const double cents = centsAbove(started.sounding, places_[static_cast<std::size_t>(key)]);
-        if (cents != started.cents)
-            device_->tuneKey(key, cents);
-        started.cents = cents;
+        device_->setPart(part);
+        for (int key = 0; key < static_cast<int>(started_[part].size()); ++key) {
+            Started& started = started_[part][static_cast<std::size_t>(key)];
+            const bool isKey = started.path == Started::Path::Key;
+            if (!started.mayMove || started.path == Started::Path::Drum || (!isKey && !all))
+                continue;
+            const double cents =
+                centsAbove(started.sounding, places_[static_cast<std::size_t>(key)]);
+            if (cents != started.cents)
+                device_->tuneKey(key, cents);
+            started.cents = cents;
+        }
     }
 }
 
@@ -259,18 +276,15 @@ void MIDIInstrument::setProgram(std::size_t position)
         return;
     program_ = position;
     const Program& program = programs_[position];
+    device_->setPart(0);
     if (bank_ != program.bank)
         send(midi::kControlChange, midi::kBankSelect, program.bank);
     bank_ = program.bank;
     send(midi::kProgramChange, program.number, 0);
     device_->setCorrections(corrections_[position]);
-}
-
-void MIDIInstrument::setCorrections(std::size_t program, const KeyCorrections& corrections)
-{
-    corrections_.at(program) = corrections;
-    if (program == program_)
-        device_->setCorrections(corrections);
+    for (std::size_t part = 1; part < kParts; ++part)
+        if (parts_[part])
+            setPart(part, parts_[part]->sound);
 }
 
 // The bank that is played comes first, then the lowest.

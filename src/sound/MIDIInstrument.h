@@ -5,8 +5,10 @@
 #include "sound/Instrument.h"
 
 #include <array>
+#include <bitset>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace velmora {
@@ -18,6 +20,9 @@ namespace velmora {
 /// a temperament that does not repeat every octave, or lies far from equal temperament, is played
 /// key by key: each key sounds the key of equal temperament that is nearest to its pitch, and the
 /// device makes up the rest.
+///
+/// Parts play programs of their own in the same temperament, up to a whole ensemble; part 0 is the
+/// instrument's own.
 class MIDIInstrument : public Instrument {
 public:
     /// Plays the General MIDI programs and selects the start-up program on the device.
@@ -30,8 +35,11 @@ public:
     float getVolume(std::size_t stop) const override;
     void setVolume(std::size_t stop, float volume) override;
     std::size_t numStops() const override;
-    void play(int key, float velocity) override;
-    void stop(int key) override;
+    void play(int key, float velocity) override { playOn(0, key, velocity); }
+    void stop(int key) override { stopOn(0, key); }
+    void playOn(std::size_t part, int key, float velocity) override;
+    void stopOn(std::size_t part, int key) override;
+    bool setPart(std::size_t part, const PartSound& sound) override;
     void silence() override;
     void tune(const Temperament& temperament, int lo, int hi) override;
     void setInstrument(std::uint8_t program) override;
@@ -53,6 +61,9 @@ public:
     /// that is none.
     double worstError(const Temperament& temperament) const;
 
+    /// The positions of the programs that the instrument and its parts play, each of them once.
+    std::vector<std::size_t> playedPrograms() const;
+
     /// Corrects a program, given by its position, until the device is replaced.
     void setCorrections(std::size_t program, const KeyCorrections& corrections);
 
@@ -63,6 +74,22 @@ public:
 private:
     MIDIInstrument(std::unique_ptr<MusicDevice> device, std::vector<Program> programs,
                    std::size_t first, bool isGeneralMidi);
+
+    /// What is selected on the device for a part.
+    struct Selected {
+        int bank = 0;
+        int number = 0;
+        bool isPercussion = false;
+        std::optional<std::size_t> program; ///< Its position, if it is one of the programs.
+
+        bool operator==(const Selected&) const = default;
+    };
+
+    /// A part besides the first one.
+    struct Part {
+        PartSound sound;
+        Selected selected;
+    };
 
     /// How a key was started last.
     struct Started {
@@ -82,6 +109,10 @@ private:
     /// Sends a message on all channels.
     void send(int kind, int data1, int data2);
 
+    Selected selectedFor(const std::optional<PartSound::Preset>& preset) const;
+    void sendPart(std::size_t part);
+    bool isPercussion(std::size_t part) const;
+
     std::unique_ptr<MusicDevice> device_;
     std::vector<Program> programs_;
     std::vector<KeyCorrections> corrections_; ///< Of each program.
@@ -90,7 +121,9 @@ private:
     int bank_ = 0; ///< The one that is selected on the device.
     Reading reading_;
     bool playsByKey_ = false;
-    std::array<Started, 128> started_{};
+    std::array<std::optional<Part>, kParts> parts_; ///< The first one is always empty.
+    std::array<std::array<Started, 128>, kParts> started_{};
+    std::bitset<kParts> played_;       ///< The parts that were played since everything was silent.
     std::array<double, 128> places_{}; ///< Of the keys, in cents above key 0 of equal temperament.
     float volume_ = 1.0F;
     double bend_ = 0.0; ///< In cents.

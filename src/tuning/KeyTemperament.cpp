@@ -13,7 +13,7 @@ constexpr std::size_t kMiddleC = 60;
 constexpr double kSamePitch = 0.01;
 
 /// Gives a temperament the twelve notes from middle C.
-void appendOctave(Temperament& temperament, const std::array<double, 128>& hertz)
+void appendOctave(Temperament& temperament, const KeyPitches& hertz)
 {
     for (std::size_t key = kMiddleC; key < kMiddleC + kNotesOfOctave; ++key)
         temperament.append(std::make_unique<Ratio>(hertz[key], hertz[kMiddleC]));
@@ -22,7 +22,7 @@ void appendOctave(Temperament& temperament, const std::array<double, 128>& hertz
 
 } // namespace
 
-KeyTemperament::KeyTemperament(const std::array<double, 128>& hertz) : hertz_(hertz)
+KeyTemperament::KeyTemperament(const KeyPitches& hertz) : hertz_(hertz)
 {
     appendOctave(*this, hertz); // for those that ask by pitch class
 }
@@ -40,7 +40,7 @@ double KeyTemperament::pitchAt(int key) const
     return 2.0 * hertz_.at(static_cast<std::size_t>(key));
 }
 
-std::unique_ptr<Temperament> makeTemperament(const std::array<double, 128>& hertz)
+std::unique_ptr<Temperament> makeTemperament(const KeyPitches& hertz)
 {
     for (std::size_t key = kNotesOfOctave; key < hertz.size(); ++key)
         if (1200.0 * std::abs(std::log2(hertz[key] / hertz[key - kNotesOfOctave]) - 1.0) >

@@ -18,6 +18,7 @@ public:
 
     std::unique_ptr<Temperament> fresh() const override;
     bool repeatsEveryOctave() const override { return repeatsEveryOctave_; }
+    double period() const override { return scale_.period(); }
     double pitchAt(int key) const override;
     bool isMapped(int key) const override;
 

@@ -73,7 +73,7 @@ double SpellingFollower::centreWithout(unsigned pitchClass) const
     sum.add(settings_.anchorWeight, settings_.anchor);
     for (unsigned i = 0; i < kSpelledClasses; ++i)
         if (i != pitchClass)
-            sum.add(classes_[i].held, classes_[i].place);
+            sum.add(settings_.held * classes_[i].held, classes_[i].place);
     return sum.places / sum.notes;
 }
 

@@ -14,11 +14,14 @@ class SpellingFollower {
 public:
     struct Settings {
         /// The influence of a released note falls to 1/e in so many seconds.
-        double memory = 0.8;
+        double memory = 1.2;
 
-        /// Where the centre lies in silence, and how many notes that counts as.
-        double anchor = 2.75;
-        double anchorWeight = 1.25;
+        /// How many released notes a held one counts as.
+        double held = 4.0;
+
+        /// Where the centre lies in silence, and how many released notes that counts as.
+        double anchor = 3.0;
+        double anchorWeight = 2.0;
 
         /// For so many seconds the notes that follow may still change the spelling of a note, so
         /// that the last note of a chord can mend its first; 0 for never.
@@ -53,7 +56,7 @@ private:
         double struck = 0.0;
     };
 
-    /// A number of notes and the sum of their places.
+    /// A number of released notes and the sum of their places.
     struct Weight {
         double notes = 0.0;
         double places = 0.0;

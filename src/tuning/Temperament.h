@@ -33,6 +33,9 @@ public:
     /// describe them.
     virtual bool repeatsEveryOctave() const { return true; }
 
+    /// The distance in cents after which the notes repeat; an octave if they never do.
+    virtual double period() const { return 1200.0; }
+
     /// Returns the current tuning of a MIDI key's pitch class, relative to the root.
     virtual const Tuning& getTuning(unsigned long key) const;
 

@@ -36,6 +36,7 @@ public:
 
     std::unique_ptr<Temperament> fresh() const override;
     bool repeatsEveryOctave() const override { return inner_->repeatsEveryOctave(); }
+    double period() const override { return inner_->period(); }
     const Tuning& getTuning(unsigned long key) const override;
     double pitchAt(int key) const override;
     bool isMapped(int key) const override { return inner_->isMapped(key - transposition_.root); }

@@ -6,7 +6,6 @@
 #include "base/Text.h"
 #include "tuning/DynamicTemperament.h"
 #include "tuning/ExtendedScaleFile.h"
-#include "tuning/KeyTemperament.h"
 #include "tuning/KeyTuningFile.h"
 #include "tuning/MappingFile.h"
 #include "tuning/PureTemperament.h"
@@ -88,6 +87,15 @@ std::unique_ptr<TuningDocument> TuningDocument::makeEdited(const TuningDocument&
     return document;
 }
 
+std::unique_ptr<TuningDocument> TuningDocument::makeReceived(std::string name,
+                                                             const KeyPitches& hertz)
+{
+    auto document =
+        std::make_unique<TuningDocument>(std::move(name), std::string(), makeTemperament(hertz));
+    document->received_ = hertz;
+    return document;
+}
+
 std::vector<std::string> TuningDocument::adaptiveNames()
 {
     return {"Dynamic", "Following Meantone", "Pure"};
@@ -164,6 +172,7 @@ std::unique_ptr<TuningDocument> TuningDocument::withMapping(const std::filesyste
     copy->original_ = original_;
     copy->path_ = path_;
     copy->warning_ = warning_;
+    copy->received_ = received_;
     if (file.empty())
         return copy;
     const std::string fileName = toUtf8(file.filename().string());

@@ -2,11 +2,12 @@
 
 #include "base/Reading.h"
 #include "tuning/AdaptiveSettings.h"
-#include "tuning/Temperament.h"
+#include "tuning/KeyTemperament.h"
 #include "tuning/TuningFile.h"
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,9 @@ public:
     /// Creates a changed copy of a tuning. Throws FormatError if a key would have no finite pitch.
     static std::unique_ptr<TuningDocument> makeEdited(const TuningDocument& original,
                                                       const TuningShape& shape, std::string name);
+
+    /// Creates a tuning that a MIDI device has sent. Takes the frequency of each key as it sounds.
+    static std::unique_ptr<TuningDocument> makeReceived(std::string name, const KeyPitches& hertz);
 
     /// The names of the adaptive tunings that `makeBuiltin` can create.
     static std::vector<std::string> adaptiveNames();
@@ -73,6 +77,10 @@ public:
     /// every other tuning.
     const std::string& original() const { return original_; }
 
+    /// The frequency of each key, before any mapping, of a tuning that a MIDI device has sent;
+    /// empty for every other tuning.
+    const std::optional<KeyPitches>& received() const { return received_; }
+
     /// The file of the last successful `read`; empty for a built-in tuning.
     const std::filesystem::path& path() const { return path_; }
 
@@ -83,6 +91,7 @@ private:
     std::string name_, description_, original_, warning_;
     std::filesystem::path path_, mappingPath_;
     std::unique_ptr<const Temperament> temperament_;
+    std::optional<KeyPitches> received_;
     std::unique_ptr<const Temperament> unmapped_; ///< What was there before a mapping, if any.
     std::string errorString_;
 };

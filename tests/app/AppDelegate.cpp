@@ -49,7 +49,10 @@ TEST_F(AppDelegateTest, TunesAndPlaysKeysInTheSelectedTuning)
     EXPECT_EQ(keys.state(60), kPressed) << "even without an instrument";
     app_.keyOff(60);
     EXPECT_EQ(keys.state(60), 0);
-    EXPECT_TRUE(began <= keys.pressTime(60) && keys.pressTime(60) <= keys.releaseTime(60));
+    std::uint64_t place = 0;
+    const auto pressed = keys.events().read(place), released = keys.events().read(place);
+    ASSERT_TRUE(pressed && released);
+    EXPECT_TRUE(began <= pressed->time && pressed->time <= released->time);
     app_.setInstrument(instrument_, "Recorder");
     app_.keyOn(127, 2.0F);
     app_.keyOff(127);

@@ -35,7 +35,7 @@ protected:
     }
 
     /// Runs an export and returns "written", or "not: " and the reason.
-    std::string exported(const std::string& name, double tempo = 120.0, bool cancel = false)
+    std::string exported(const std::string& name, double speed = 1.0, bool cancel = false)
     {
         std::string outcome;
         QEventLoop loop;
@@ -49,7 +49,7 @@ protected:
             outcome = isWritten ? "written" : "not: " + why.toStdString();
             loop.quit();
         });
-        job.start(currentSettings(app_), sequence_, tempo, folder_.path() / name);
+        job.start(currentSettings(app_), sequence_, speed, folder_.path() / name);
         loop.exec();
         return outcome;
     }
@@ -83,7 +83,7 @@ TEST_F(AudioExportTest, SoundsLikeLivePlayingAndDoesNotDisturbIt)
     const double hertz = Temperament::Meantone().getPitch(52);
     app_.makeMIDIPlayer(std::make_unique<Synthesizer>(48000.0, generalMidiBanks()));
     app_.setMIDIProgram(kSteadyProgram);
-    EXPECT_EQ(exported("player.wav", 240.0), "written");
+    EXPECT_EQ(exported("player.wav", 2.0), "written");
     EXPECT_NEAR(centsOff(soundOf("player.wav"), hertz / 2.0), 0.0, 3.0)
         << "the bank's own deviation; equal temperament is off by 14";
     EXPECT_NEAR(seconds_, 92.0 / 32.0 + 1.0, 0.01) << "60 steps and 32, at 32 a second";
@@ -110,7 +110,7 @@ TEST_F(AudioExportTest, SoundsLikeLivePlayingAndDoesNotDisturbIt)
 TEST_F(AudioExportTest, LeavesOnlyCompleteFiles)
 {
     folder_.write("out.wav", "precious");
-    EXPECT_EQ(exported("out.wav", 120.0, true), "not: ");
+    EXPECT_EQ(exported("out.wav", 1.0, true), "not: ");
     EXPECT_EQ(readTextFile(folder_.path() / "out.wav"), "precious");
     EXPECT_THAT(exported("out.aiff"),
                 testing::HasSubstr("must end in .wav, .flac, .ogg, .opus or .mp3"));

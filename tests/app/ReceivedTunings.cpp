@@ -59,7 +59,6 @@ TEST_F(ReceivedTuningsTest, ArePlayedUnderTheirNames)
     EXPECT_EQ(tunings.name(), "Bright thirds");
     EXPECT_NEAR(centsFromEqual(64), 7.0, 0.01);
     EXPECT_NEAR(centsFromEqual(76), 0.0, 0.01) << "only that key";
-    EXPECT_EQ(tunings.lastingName(), "") << "no file has it";
 
     places_[64] = 64.5;
     const std::size_t listed = tunings.documents().size();
@@ -75,6 +74,15 @@ TEST_F(ReceivedTuningsTest, ArePlayedUnderTheirNames)
     app_.midiDevices().receivedExclusive(4, writeBulkDump("Keys", places_));
     send({});
     EXPECT_EQ(tunings.name(), "Keys (Pads)") << "another device";
+}
+
+TEST_F(ReceivedTuningsTest, TakeThePlaceOfThoseOfAnEarlierSession)
+{
+    app_.tunings().put(TuningDocument::makeReceived("Keys", {}));
+    const std::size_t listed = app_.tunings().documents().size();
+    send({writeBulkDump("", places_)});
+    EXPECT_EQ(app_.tunings().name(), "Keys");
+    EXPECT_EQ(app_.tunings().documents().size(), listed);
 }
 
 TEST_F(ReceivedTuningsTest, OfAFloodTheLastIsPlayed)

@@ -13,6 +13,7 @@ namespace velmora {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 
 namespace {
 
@@ -132,6 +133,8 @@ TEST(Session, SaysWhatIsWrongWithAFile)
         {R"("tunings": [{"path": "a.scl"}])", R"("tunings[0].path" is not an absolute path)"},
         {R"("tunings": [{"path": "/a\u0000b"}])", R"("tunings[0].path" is not the name of a file)"},
         {R"("tunings": [{}])", R"("tunings[0]" has no "path")"},
+        {R"("tunings": [{"name": "a", "hertz": [440]}])",
+         R"("tunings[0].hertz" is not a list of the pitches of 128 keys)"},
         {R"("tuning": 1)", R"("tuning" is not a text in quotation marks)"},
         {R"("root": 12)", R"("root" is not a whole number from 0 to 11)"},
         {R"("a": 500)", R"("a" is not a number from 380.0 to 480.0)"},
@@ -187,6 +190,42 @@ TEST(Session, OpensTheInstrumentsAndTuningsAgain)
     session.tunings.pop_back();
     EXPECT_EQ(encodeSession(current, "/"), encodeSession(session, "/"));
     program.playing().setTransposition(0);
+}
+
+TEST(Session, KeepsTuningsThatHaveNoFile)
+{
+    const OrganFolder folder;
+    const auto mapping = folder.write("a.kbm", "0\n0\n127\n60\n69\n430.\n12\n");
+    KeyPitches hertz{};
+    for (std::size_t key = 0; key < hertz.size(); ++key)
+        hertz[key] = 8.0 + 0.1 * static_cast<double>(key * key);
+    SessionProgram before;
+    ASSERT_EQ(before.tunings().setMapping(mapping), "");
+    before.tunings().select("Vallotti");
+    ASSERT_EQ(before.tunings().setMapping(mapping), "");
+    before.tunings().put(TuningDocument::makeReceived("Synth", hertz));
+    before.tunings().select("Synth");
+    const std::string text = encodeSession(currentSession(before), "/");
+
+    SessionProgram after;
+    const auto pitch = [&](const char* tuning, int key) {
+        EXPECT_TRUE(after.tunings().select(tuning));
+        return after.tunings().untransposed()->pitchAt(key) / 2;
+    };
+    for (const char* time : {"the first time", "and again"}) {
+        EXPECT_THAT(openSession(decodeSession(text, "/"), after), IsEmpty());
+        EXPECT_EQ(after.tunings().name(), "Synth");
+        EXPECT_EQ(encodeSession(currentSession(after), "/"), text) << time;
+    }
+    EXPECT_NEAR(pitch("Synth", 127), hertz[127], 1e-9);
+    EXPECT_NEAR(pitch("Equal", 69), 430.0, 1e-9);
+    EXPECT_NEAR(pitch("Vallotti", 69), 430.0, 1e-9);
+
+    Session wrong;
+    wrong.tunings = {{{}, {}, "Nowhere"}, {{}, mapping, "Pure"}};
+    EXPECT_THAT(openSession(wrong, after),
+                ElementsAre("there is no tuning named \"Nowhere\"",
+                            "a.kbm: a keyboard mapping needs a scale, and this tuning has none"));
 }
 
 } // namespace velmora

@@ -3,6 +3,8 @@
 #include "app/Player.h"
 #include "support/RecordingInstrument.h"
 #include "tuning/FollowingMeantone.h"
+#include "tuning/ScaleTemperament.h"
+#include "tuning/TransposedTemperament.h"
 
 #include <gtest/gtest.h>
 
@@ -50,6 +52,16 @@ TEST_F(TuningMomentTest, MeasuresWhatSounds)
     moment_ = readMoment(player_);
     EXPECT_TRUE(soundingIntervals(moment_).empty());
     EXPECT_EQ(soundingPurities(moment_)[60], Purity::None) << "a single note is neither";
+}
+
+TEST_F(TuningMomentTest, TellsWhenAScaleOfAnySizeRepeats)
+{
+    Scale tritave;
+    tritave.pitches = {Cent(700.0), Ratio(3.0, 1.0)};
+    TransposedTemperament onD(std::make_unique<ScaleTemperament>(tritave),
+                              {.root = 2, .a = std::nullopt});
+    play(onD, {});
+    EXPECT_NEAR(moment_.period, 1901.955, 1e-3);
 }
 
 TEST_F(TuningMomentTest, RatesKeysByTheirWorstInterval)

@@ -217,6 +217,8 @@ TEST_F(CommandLine, ReportsErrorsInOneSentence)
         {{"--instrument", "test.organ", "--program", "3"}, 2, "the instrument has no programs"},
         {{"--instrument", "test.organ", "--stop", "2=1"}, 2, "numbered from 0 to 1"},
         {{"--loop-start", "4", "--loop-end", "4"}, 2, "--loop-end"},
+        {{"--voice", "17"}, 2, "--voice"},
+        {{"--voice", "1", "--voice", "3"}, 2, "song.mid has no voice 3; it has 1"},
         {{"--loop-start", "4", "--loop-end", "inf"}, 2, "--loop-end"},
         {{"--rate", "nan"}, 2, "--rate"},
         {{"--tail", "nan"}, 2, "--tail"},
@@ -287,6 +289,32 @@ TEST_F(CommandLine, RendersAnInstrumentInTune)
         const double wanted = 3.0 * pitch; // the second stop's twelfth
         EXPECT_NEAR(cents(measuredHertz(left, 48000.0, wanted), wanted), 0.0, 0.25);
     }
+}
+
+TEST_F(CommandLine, RendersAVoiceAsItSoundsAmongTheOthers)
+{
+    folder_.write("trio.mid",
+                  midi::file(midi::on(0, 53) + midi::on(0, 60) + midi::on(0, 56, 127, 4) +
+                             midi::off(288, 53) + midi::off(0, 60) + midi::off(0, 56, 4)));
+    folder_.write("solo.mid", midi::file(midi::on(0, 56, 127, 4) + midi::off(288, 56, 4)));
+    const auto sound = [this](const char* piece, const char* tuning, const QStringList& options) {
+        const Result result = run(QStringList{"render", piece, "-o", "out.wav", "--instrument",
+                                              "test.organ", "--plain", "--tuning", tuning} +
+                                  options);
+        EXPECT_EQ(result.code, 0) << result.error;
+        const Pcm heard = decodeAudio(content("out.wav"));
+        std::vector<float> left;
+        for (std::size_t i = 4800; i < 52800; ++i)
+            left.push_back(heard.floats.at(2 * i));
+        return left;
+    };
+    EXPECT_EQ(sound("trio.mid", "Equal", {"--voice", "5"}), sound("solo.mid", "Equal", {}));
+    const auto third = [&](const char* piece, const QStringList& options) {
+        const auto heard = sound(piece, "Following Meantone", options);
+        return measuredHertz(heard, 48000.0, kRoot * std::exp2(8.0 / 12.0)) / kRoot;
+    };
+    EXPECT_NEAR(third("trio.mid", {"--voice", "5"}), 8.0 / 5.0, 1e-4) << "A♭ between F and C";
+    EXPECT_NEAR(third("solo.mid", {}), 25.0 / 16.0, 1e-4) << "G♯";
 }
 
 TEST_F(CommandLine, DescribesScalesOfAnySizeOnTheirKeys)

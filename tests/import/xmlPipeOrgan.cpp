@@ -164,7 +164,8 @@ TEST_F(XmlPipeOrganTest, UnderstandsAllOfXml)
             return error.inFile("anne.xml");
         }
     };
-    EXPECT_THAT(errorOf(inRoot("<a>\n</b>")), HasSubstr("anne.xml, line 3: the XML is damaged"));
+    EXPECT_THAT(errorOf(inRoot("<a>\n</b>")),
+                HasSubstr("anne.xml, line 3, column 3: the XML is damaged"));
     EXPECT_THAT(errorOf("<organ/>"), HasSubstr("is not an organ definition"));
     const auto licence = body.find("<LICENCE/>");
     EXPECT_THAT(errorOf(inRoot(std::string(body).replace(licence, 10, "<h>7</h>"))),

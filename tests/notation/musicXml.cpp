@@ -38,10 +38,11 @@ std::vector<Piece::Note> randomNotes(std::mt19937& random)
 auto tuplesOf(const Piece& piece)
 {
     std::vector<std::tuple<long, long, unsigned, int>> notes;
-    for (const Piece::Note& note : piece.parts.front().notes)
-        notes.emplace_back(std::lround(note.start * 12),
-                           std::lround(note.start * 12 + note.length * 12), note.key,
-                           note.place.value_or(99));
+    for (const Piece::Part& part : piece.parts)
+        for (const Piece::Note& note : part.notes)
+            notes.emplace_back(std::lround(note.start * 12),
+                               std::lround(note.start * 12 + note.length * 12), note.key,
+                               note.place.value_or(99));
     std::ranges::sort(notes);
     return notes;
 }
@@ -68,7 +69,7 @@ TEST(MusicXml, GivesBackWhatWasWritten)
         piece.tempos = {{0.0, 72.5}, {7.5, 96.0}};
         const Piece copy = readMusicXml(writeMusicXml(makeScore(piece)));
         EXPECT_EQ(copy.title, piece.title);
-        EXPECT_EQ(copy.parts.front().name, piece.parts.front().name);
+        EXPECT_THAT(copy.parts.front().name, testing::StartsWith(piece.parts.front().name));
         EXPECT_EQ(copy.timeSignatures, piece.timeSignatures);
         EXPECT_EQ(copy.keySignatures, piece.keySignatures);
         EXPECT_EQ(copy.tempos, piece.tempos);

@@ -1,253 +1,199 @@
 #include "notation/readMusicXml.h"
 
 #include "base/FormatError.h"
-#include "base/Numbers.h"
-#include "base/parseXml.h"
-#include "notation/WrittenPitch.h"
 
-#include <algorithm>
-#include <cmath>
-#include <map>
-#include <string_view>
-#include <utility>
+#include <archive.h>
+#include <archive_entry.h>
+#include <gmock/gmock.h>
+
+#include <array>
+#include <string>
+#include <vector>
 
 namespace velmora {
 
+using testing::ElementsAre;
+
 namespace {
 
-/// Positions beyond this are damage: weeks of music.
-constexpr double kLongestPiece = 1e6;
-
-/// The velocity of a "dynamics" of 100, which is forte.
-constexpr double kForte = 90.0 / 127.0;
-
-/// Returns the number in an element, or nothing if there is none.
-std::optional<double> numberIn(pugi::xml_node element)
+/// A note of so many divisions, of which a quarter note has four.
+std::string note(const std::string& step, int divisions, const std::string& more = {})
 {
-    const auto number = leadingNumber(element.text().get());
-    return number && std::isfinite(*number) ? number : std::nullopt;
+    return "<note>" + more + "<pitch><step>" + step +
+           "</step><octave>4</octave></pitch><duration>" + std::to_string(divisions) +
+           "</duration></note>";
 }
 
-int integerIn(pugi::xml_node element, int otherwise = 0)
+std::string measure(const std::string& content)
 {
-    return leadingInteger(element.text().get()).value_or(otherwise);
+    return "<measure>" + content + "</measure>";
 }
 
-std::optional<WrittenPitch> pitchIn(pugi::xml_node element)
+std::string score(const std::string& measures, const std::string& instrument = {})
 {
-    const std::string_view step = element.child("step").text().get();
-    const int octave = integerIn(element.child("octave"), -1);
-    if (step.size() != 1 || step.front() < 'A' || step.front() > 'G' || octave < 0 || octave > 10)
-        return std::nullopt;
-    // Quarter tones are rounded: a key has no pitch between two others.
-    const double alteration = std::clamp(numberIn(element.child("alter")).value_or(0.0), -3.0, 3.0);
-    return WrittenPitch{step.front(), static_cast<int>(std::lround(alteration)), octave};
+    return "<?xml version=\"1.0\"?>\n<score-partwise><part-list><score-part id=\"P1\">"
+           "<part-name>Flute</part-name>" +
+           instrument + "</score-part></part-list><part id=\"P1\">" + measures +
+           "</part></score-partwise>";
 }
 
-/// Reads the measures of a part one after the other.
-class PartReader {
-public:
-    PartReader(Piece& piece, Piece::Part& part) : piece_(piece), part_(part) {}
+const std::string kDivisions = "<attributes><divisions>4</divisions></attributes>";
 
-    void readMeasure(pugi::xml_node measure)
-    {
-        barStart_ += longest_ / divisions_;
-        position_ = longest_ = chordStart_ = 0.0;
-        for (const pugi::xml_node element : measure) {
-            const std::string_view name = element.name();
-            if (name == "attributes")
-                readAttributes(element);
-            else if (name == "note")
-                readNote(element);
-            else if (name == "backup")
-                position_ = std::max(position_ - durationOf(element), 0.0);
-            else if (name == "forward")
-                advance(durationOf(element));
-            else if (name == "direction")
-                readSound(element.child("sound"), numberIn(element.child("offset")).value_or(0.0));
-            else if (name == "sound")
-                readSound(element, 0.0);
-        }
-    }
-
-private:
-    double durationOf(pugi::xml_node element) const
-    {
-        return std::max(numberIn(element.child("duration")).value_or(0.0), 0.0);
-    }
-
-    /// Returns the quarter notes from the beginning of the piece to a position in the bar.
-    double quarters(double position) const { return barStart_ + position / divisions_; }
-
-    void advance(double duration)
-    {
-        position_ += duration;
-        if (quarters(position_) > kLongestPiece)
-            throw FormatError("the music is too long");
-        longest_ = std::max(longest_, position_);
-    }
-
-    void setDivisions(double divisions)
-    {
-        for (double* position : {&position_, &longest_, &chordStart_})
-            *position *= divisions / divisions_;
-        divisions_ = divisions;
-    }
-
-    void readAttributes(pugi::xml_node attributes)
-    {
-        if (const auto divisions = numberIn(attributes.child("divisions")); divisions > 0.0)
-            setDivisions(*divisions);
-        if (const auto fifths = numberIn(attributes.child("key").child("fifths")))
-            piece_.keySignatures.push_back(
-                {quarters(position_), static_cast<int>(std::clamp(*fifths, -7.0, 7.0)),
-                 std::string_view(attributes.child("key").child("mode").text().get()) == "minor"});
-        if (const pugi::xml_node time = attributes.child("time"))
-            readTime(time);
-        if (const pugi::xml_node transpose = attributes.child("transpose")) {
-            const int chromatic = std::clamp(integerIn(transpose.child("chromatic")), -36, 36);
-            const int diatonic = std::clamp(integerIn(transpose.child("diatonic")), -21, 21);
-            const int octaves = std::clamp(integerIn(transpose.child("octave-change")), -4, 4);
-            transposedKeys_ = chromatic + 12 * octaves;
-            transposedPlaces_ = transpose.child("diatonic") ? 7 * chromatic - 12 * diatonic : 0;
-        }
-    }
-
-    void readTime(pugi::xml_node time)
-    {
-        int beats = 0;
-        // A compound signature such as "3+2" is that of a bar of five.
-        for (std::string_view text = time.child("beats").text().get(); !text.empty();) {
-            beats += leadingInteger(std::string(text)).value_or(0);
-            const auto plus = text.find('+');
-            text.remove_prefix(plus == std::string_view::npos ? text.size() : plus + 1);
-        }
-        const int unit = integerIn(time.child("beat-type"));
-        if (beats >= 1 && beats <= 64 && unit >= 1 && unit <= 32 && (unit & (unit - 1)) == 0)
-            piece_.timeSignatures.push_back({quarters(position_), beats, unit});
-    }
-
-    void readSound(pugi::xml_node sound, double offset)
-    {
-        const double tempo = sound.attribute("tempo").as_double();
-        if (tempo >= 1.0 && tempo <= 10000.0)
-            piece_.tempos.push_back({std::max(quarters(position_ + offset), 0.0), tempo});
-        if (const double dynamics = sound.attribute("dynamics").as_double(); dynamics > 0.0)
-            velocity_ = static_cast<float>(std::min(dynamics / 100.0 * kForte, 1.0));
-    }
-
-    void readNote(pugi::xml_node note)
-    {
-        if (note.child("grace") || note.child("cue"))
-            return;
-        const double length = durationOf(note);
-        const double start = note.child("chord") ? chordStart_ : position_;
-        if (!note.child("chord")) {
-            chordStart_ = position_;
-            advance(length);
-        }
-        const auto pitch = pitchIn(note.child("pitch"));
-        if (!pitch || length <= 0.0)
-            return;
-        const int key = pitch->key() + transposedKeys_;
-        if (key < 0 || key > 127)
-            return;
-        bool startsTie = false, stopsTie = false;
-        for (const pugi::xml_node tie : note.children("tie")) {
-            const std::string_view type = tie.attribute("type").value();
-            startsTie = startsTie || type == "start";
-            stopsTie = stopsTie || type == "stop";
-        }
-        addNote({.start = quarters(start),
-                 .length = length / divisions_,
-                 .key = static_cast<unsigned>(key),
-                 .place = pitch->place() + transposedPlaces_,
-                 .velocity = velocity_},
-                startsTie, stopsTie);
-    }
-
-    void addNote(const Piece::Note& note, bool startsTie, bool stopsTie)
-    {
-        std::size_t index = part_.notes.size();
-        if (const auto tied = stopsTie ? tiedTo(note) : tied_.end(); tied != tied_.end()) {
-            index = *tied;
-            tied_.erase(tied);
-            Piece::Note& earlier = part_.notes[index];
-            earlier.length = note.start + note.length - earlier.start;
-        } else {
-            part_.notes.push_back(note);
-        }
-        if (startsTie)
-            tied_.push_back(index);
-    }
-
-    /// Finds the note that a tie leads on from. Voices are read one after the other, so that other
-    /// notes of the same key may have begun to be tied meanwhile.
-    std::vector<std::size_t>::iterator tiedTo(const Piece::Note& note)
-    {
-        constexpr double kNear = 1e-6;
-        return std::ranges::find_if(tied_, [&](std::size_t index) {
-            const Piece::Note& earlier = part_.notes[index];
-            return earlier.key == note.key &&
-                   std::abs(earlier.start + earlier.length - note.start) < kNear;
-        });
-    }
-
-    Piece& piece_;
-    Piece::Part& part_;
-    double divisions_ = 1.0; ///< Of a quarter note; the unit of the positions in the bar.
-    double barStart_ = 0.0;  ///< In quarter notes.
-    double position_ = 0.0, longest_ = 0.0, chordStart_ = 0.0;
-    int transposedKeys_ = 0, transposedPlaces_ = 0;
-    float velocity_ = 0.8F;
-    std::vector<std::size_t> tied_; ///< The notes that a tie leads on from.
-};
-
-/// Returns the measures of each part in order, by the part's identity.
-std::map<std::string, std::vector<pugi::xml_node>> measuresOf(pugi::xml_node root)
+/// Names the keys of a piece's first part from C4 on, with their starts in quarter notes.
+std::string playedBy(const Piece& piece)
 {
-    std::map<std::string, std::vector<pugi::xml_node>> measures;
-    const bool isTimewise = std::string_view(root.name()) == "score-timewise";
-    for (const pugi::xml_node outer : root.children(isTimewise ? "measure" : "part"))
-        for (const pugi::xml_node inner : outer.children(isTimewise ? "part" : "measure"))
-            measures[(isTimewise ? inner : outer).attribute("id").value()].push_back(inner);
-    return measures;
+    std::string played;
+    for (const Piece::Note& each : piece.parts.at(0).notes)
+        played += "C-D-EF-G-A-B"[each.key - 60];
+    return played;
 }
 
-/// Puts what the parts say about the whole piece in order, each once.
-template <class Mark> void tidy(std::vector<Mark>& marks)
+std::string errorOf(const std::string& bytes)
 {
-    std::ranges::stable_sort(marks, {}, &Mark::start);
-    marks.erase(std::unique(marks.begin(), marks.end()), marks.end());
+    try {
+        readMusicXml(bytes);
+        return {};
+    } catch (const FormatError& error) {
+        return error.inFile("a.musicxml");
+    }
+}
+
+/// Returns a zip archive of files that are given by name and content.
+std::string zip(const std::vector<std::pair<const char*, std::string>>& files)
+{
+    std::string bytes(1 << 16, '\0');
+    std::size_t used = 0;
+    archive* writer = archive_write_new();
+    archive_write_set_format_zip(writer);
+    archive_write_open_memory(writer, bytes.data(), bytes.size(), &used);
+    for (const auto& [name, content] : files) {
+        archive_entry* entry = archive_entry_new();
+        archive_entry_set_pathname(entry, name);
+        archive_entry_set_filetype(entry, AE_IFREG);
+        archive_entry_set_size(entry, static_cast<la_int64_t>(content.size()));
+        archive_write_header(writer, entry);
+        archive_write_data(writer, content.data(), content.size());
+        archive_entry_free(entry);
+    }
+    archive_write_free(writer);
+    return bytes.substr(0, used);
 }
 
 } // namespace
 
-Piece readMusicXml(std::string_view text)
+TEST(ReadMusicXml, PlaysRepetitionsAndReturns)
 {
-    const pugi::xml_document document = parseXml(text);
-    const pugi::xml_node root = document.document_element();
-    const std::string_view kind = root.name();
-    if (kind != "score-partwise" && kind != "score-timewise")
-        throw FormatError("is not a MusicXML score");
-    Piece piece;
-    piece.title = root.child("work").child("work-title").text().get();
-    if (piece.title.empty())
-        piece.title = root.child("movement-title").text().get();
-    const auto measures = measuresOf(root);
-    for (const pugi::xml_node listed : root.child("part-list").children("score-part")) {
-        const auto found = measures.find(listed.attribute("id").value());
-        if (found == measures.end())
-            continue;
-        piece.parts.push_back({listed.child("part-name").text().get(), {}});
-        PartReader reader(piece, piece.parts.back());
-        for (const pugi::xml_node measure : found->second)
-            reader.readMeasure(measure);
+    const std::string forward = R"(<barline><repeat direction="forward"/></barline>)";
+    const std::string backward = R"(<barline><repeat direction="backward"/></barline>)";
+    const auto ending = [](const std::string& number, const std::string& type) {
+        return "<barline><ending number=\"" + number + "\" type=\"" + type + "\"/></barline>";
+    };
+    const auto sound = [](const std::string& what) { return "<sound " + what + "/>"; };
+    const std::string c = note("C", 4), d = note("D", 4), e = note("E", 4), f = note("F", 4),
+                      g = note("G", 4);
+    const struct {
+        std::vector<std::string> measures;
+        const char* played;
+    } rows[] = {
+        {{c, d + backward, e}, "CDCDE"},
+        {{c, forward + d + backward, e}, "CDDE"},
+        {{c, forward + d + R"(<barline><repeat direction="backward" times="3"/></barline>)", e},
+         "CDDDE"},
+        {{c, ending("1", "start") + d + ending("1", "stop") + backward,
+          ending("2", "start") + e + ending("2", "discontinue"), f, g + backward},
+         "CDCEFGFG"},
+        {{c, ending("1, 2", "start") + d + ending("1, 2", "stop") + backward,
+          ending("3", "start") + e + ending("3", "stop"), f},
+         "CDCDCEF"},
+        {{c, ending("1", "start") + d + ending("1", "stop") + backward,
+          ending("2", "start") + e + ending("2", "stop") + backward, f},
+         "CDCEF"},
+        {{c, d + backward + sound("fine=\"yes\""), e + sound("dacapo=\"yes\"")}, "CDCDECD"},
+        {{c, sound("segno=\"s\"") + d, sound("tocoda=\"c\"") + e, f + sound("dalsegno=\"s\""),
+          sound("coda=\"c\"") + g},
+         "CDEFDEG"},
+    };
+    for (const auto& [measures, played] : rows) {
+        std::string written = measure(kDivisions + measures[0]);
+        for (std::size_t i = 1; i < measures.size(); ++i)
+            written += measure(measures[i]);
+        EXPECT_EQ(playedBy(readMusicXml(score(written))), played);
     }
-    tidy(piece.timeSignatures);
-    tidy(piece.keySignatures);
-    tidy(piece.tempos);
-    return piece;
+}
+
+TEST(ReadMusicXml, ReturnsToTheTempoAndTheVerseOfARepetition)
+{
+    const std::string verses = R"(<lyric number="1"><syllabic>begin</syllabic><text>A</text></lyric>
+        <lyric number="2"><text>B</text></lyric>)";
+    const Piece piece = readMusicXml(score(
+        measure(kDivisions + R"(<sound tempo="90"/>)" + note("C", 16)) +
+        measure(R"(<barline><repeat direction="forward"/></barline>)" + note("D", 16, verses)) +
+        measure(R"(<sound tempo="50"/>)" + note("E", 16) +
+                R"(<barline><repeat direction="backward"/></barline>)")));
+    EXPECT_THAT(piece.tempos, ElementsAre(Piece::Tempo{0.0, 90.0}, Piece::Tempo{8.0, 50.0},
+                                          Piece::Tempo{12.0, 90.0}, Piece::Tempo{16.0, 50.0}));
+    const auto& lyrics = piece.parts.at(0).lyrics;
+    ASSERT_EQ(lyrics.size(), 2);
+    EXPECT_EQ(lyrics[0].text + '|' + lyrics[1].text, "A|B ") << "a space ends a word";
+    EXPECT_EQ(lyrics[1].start, 12.0);
+}
+
+TEST(ReadMusicXml, ReadsWhatNotesSay)
+{
+    const std::string grace =
+        "<note><grace/><pitch><step>B</step><octave>4</octave></pitch></note>";
+    const std::string tie = R"(<tie type="start"/>)", tied = R"(<tie type="stop"/>)";
+    const Piece piece = readMusicXml(
+        score(measure("<attributes><divisions>4</divisions><key><fifths>1</fifths></key>"
+                      "<time><beats>4</beats><beat-type>4</beat-type></time><transpose><diatonic>-1"
+                      "</diatonic><chromatic>-2</chromatic></transpose></attributes>" +
+                      note("D", 4, "<cue/>") + note("D", 4, tie)) +
+                  measure(note("D", 4, tied) + grace +
+                          "<direction><direction-type><dynamics><ff/></dynamics>"
+                          "</direction-type></direction>" +
+                          note("E", 2) + note("G", 2, "<chord/>") +
+                          "<backup><duration>2</duration></backup>" + note("A", 10)),
+              R"(<midi-instrument id="I"><midi-program>74</midi-program></midi-instrument>)"));
+    const auto& part = piece.parts.at(0);
+    const auto is = [](unsigned key, double start, double length) {
+        return testing::AllOf(testing::Field(&Piece::Note::key, key),
+                              testing::Field(&Piece::Note::start, start),
+                              testing::Field(&Piece::Note::length, length));
+    };
+    EXPECT_THAT(part.notes, ElementsAre(is(60, 0, 2), is(69, 1.875, 0.125), is(62, 2, 0.5),
+                                        is(65, 2, 0.5), is(67, 2, 2.5)))
+        << "a whole tone below what is written";
+    EXPECT_EQ(part.notes[0].place, 0);
+    EXPECT_LT(part.notes[0].velocity, 0.7F);
+    EXPECT_GT(part.notes[2].velocity, 0.8F);
+    EXPECT_EQ(part.program, 73);
+    EXPECT_EQ(piece.keySignatures.at(0).fifths, -1);
+    EXPECT_THAT(piece.timeSignatures,
+                ElementsAre(Piece::TimeSignature{0.0, 1, 4}, Piece::TimeSignature{1.0, 4, 4}))
+        << "a pick-up";
+}
+
+TEST(ReadMusicXml, ReadsCompressedScoresAndSaysWhatIsWrong)
+{
+    const std::string container = R"(<container><rootfiles><rootfile full-path="in/a.xml"/>
+        </rootfiles></container>)";
+    const std::string plain = score(measure(kDivisions + note("G", 4)));
+    EXPECT_EQ(
+        playedBy(readMusicXml(zip({{"META-INF/container.xml", container}, {"in/a.xml", plain}}))),
+        "G");
+    const std::pair<std::string, const char*> rows[] = {
+        {zip({{"META-INF/container.xml", container}}),
+         "a.musicxml: the score \"in/a.xml\" is missing from the archive"},
+        {zip({{"a.txt", "x"}}), "a.musicxml: is an archive, but not of a score"},
+        {"PK\x03\x04 rubbish", "a.musicxml: is a damaged archive"},
+        {"<score-partwise>\n  <part></prt>", "a.musicxml, line 2, column 11: the XML is damaged"},
+        {"<container/>", "a.musicxml: is not a MusicXML score"},
+        {"<score-partwise/>", "a.musicxml: the score has no parts"},
+        {score("<measure number=\"7\">" + note("C", 2000000000) + "</measure>"),
+         "a.musicxml: measure 7 is too long"},
+    };
+    for (const auto& [bytes, error] : rows)
+        EXPECT_THAT(errorOf(bytes), testing::StartsWith(error));
 }
 
 } // namespace velmora

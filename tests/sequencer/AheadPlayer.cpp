@@ -35,6 +35,13 @@ protected:
         }
     }
 
+    void click(Click /*click*/, double time) override
+    {
+        const std::lock_guard lock(lock_);
+        clicks_.push_back(time);
+    }
+
+    std::vector<double> clicks_;
     SequenceDocument live_{*this, Reading::Plain, getTime};
     SequenceClock clock_{live_.transport()};
 };
@@ -46,7 +53,7 @@ TEST_F(AheadPlayerTest, SoundsEachNoteOnceAndOnTime)
     live_.transport().play();
     const double started = getTime();
     runFor(std::chrono::milliseconds(1000));
-    live_.transport().setTempo(240.0); // cancels the plan for the slower tempo
+    live_.transport().setSpeed(2.0); // cancels the plan for the slower tempo
     runFor(std::chrono::milliseconds(600));
     const Calls calls = std::exchange(calls_, {});
     onPlay_ = nullptr;
@@ -66,6 +73,32 @@ TEST_F(AheadPlayerTest, SoundsEachNoteOnceAndOnTime)
     QObject::connect(&live_.transport(), &Transport::frame, [&] { ++frames; });
     runFor(std::chrono::milliseconds(100));
     EXPECT_EQ(frames, 0) << "the clock has stopped";
+}
+
+TEST_F(AheadPlayerTest, ClicksAtTheTimesOfTheNotes)
+{
+    SequenceDocument piece(*this, Reading::Musical, getTime);
+    for (const Note& note : document_.sequence().notes())
+        piece.edit()->addNote(note);
+    piece.updateExtent();
+    std::vector<double> notes;
+    onPlay_ = [&] { notes.push_back(playTime_); };
+    piece.transport().setMetronome({.whilePlaying = true, .divides = true});
+    for (const bool loops : {false, true}) {
+        SCOPED_TRACE(loops);
+        notes.clear();
+        clicks_.clear();
+        piece.transport().setLoop(loops);
+        piece.transport().selectInterval(0.0, loops ? 8.0 : 0.0);
+        piece.transport().setPosition(0.0);
+        const SequenceClock clock(piece.transport());
+        piece.transport().play();
+        runFor(std::chrono::milliseconds(1200));
+        piece.transport().play();
+        ASSERT_GE(clicks_.size(), 4U);
+        for (std::size_t i = 0; i < clicks_.size() && 4 * i < notes.size(); ++i)
+            EXPECT_NEAR(clicks_[i], notes[4 * i], 1e-5) << i;
+    }
 }
 
 TEST_F(AheadPlayerTest, EndsEverySoundingNoteWhenStoppedOrEdited)
@@ -103,7 +136,11 @@ TEST_F(AheadPlayerTest, LoopsWithoutAGapWhileTheMainThreadIsBusy)
     musical.edit()->addNote({.start = 2.0, .length = 9.0, .velocity = 1.0F, .key = 64});
     musical.edit()->sort();
     musical.updateExtent();
-    musical.transport().selectInterval(0.0, 4.0); // a quarter of a second
+    MusicalTime time;
+    time.setTempos({Tempo::ofBeats(2.0, 240.0)});
+    musical.setTime(time, {});
+    musical.transport().selectInterval(0.0, 4.0);
+    constexpr double kPass = 2.0 / 16.0 + 2.0 / 32.0; // in seconds
     musical.transport().setLoop(true);
     std::vector<double> times;
     onPlay_ = [&] {
@@ -115,8 +152,8 @@ TEST_F(AheadPlayerTest, LoopsWithoutAGapWhileTheMainThreadIsBusy)
     musical.transport().play();
     onPlay_ = nullptr;
     ASSERT_GE(times.size(), 5U);
-    const double passes = std::round((times.back() - times.front()) * 4.0);
-    EXPECT_NEAR(times.back() - times.front(), passes / 4.0, 0.0005);
+    const double passes = std::round((times.back() - times.front()) / kPass);
+    EXPECT_NEAR(times.back() - times.front(), passes * kPass, 0.0005);
     Calls pass; // a note that lasts beyond the end of the loop ends with it
     for (const std::string& call : calls_)
         if (call.ends_with("64") || call.starts_with("play"))

@@ -1,13 +1,9 @@
-#include "sequencer/SequenceEditor.h"
-
 #include "sequencer/NoteClipboard.h"
+#include "sequencer/SequenceEditorTest.h"
 #include "support/Log.h"
-#include "support/SequenceTest.h"
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <random>
 #include <string>
 
 namespace velmora {
@@ -23,54 +19,6 @@ namespace {
 constexpr auto kNone = Qt::NoModifier;
 constexpr auto kShift = Qt::ShiftModifier;
 constexpr auto kCommand = Qt::ControlModifier;
-
-class SequenceEditorTest : public SequenceTest {
-protected:
-    using Notes = std::map<std::uint64_t, std::tuple<unsigned, double, double, unsigned>>;
-
-    /// The key, start, length and channel of each note by its identity.
-    Notes notes()
-    {
-        Notes result;
-        for (const Note& note : document_.sequence().notes()) {
-            result[note.id] = {note.key, note.start, note.length, note.channel};
-            EXPECT_EQ(document_.edit()->find(note.id), &note);
-            EXPECT_EQ(std::ranges::count(selection(), note.id), note.selected ? 1 : 0);
-        }
-        EXPECT_EQ(document_.sequence().getSelection().size(), selection().size());
-        EXPECT_EQ(result.size(), document_.sequence().notes().size()) << "identities are unique";
-        return result;
-    }
-
-    const std::vector<std::uint64_t>& selection() const { return document_.sequence().selection(); }
-
-    void drag(RollPoint from, RollPoint to, Qt::KeyboardModifiers modifiers = kNone)
-    {
-        editor_.mouseDown(from, modifiers);
-        if (from.key != to.key || from.step != to.step)
-            editor_.mouseDragged(to);
-        editor_.mouseUp(to, modifiers);
-    }
-    void click(RollPoint at, Qt::KeyboardModifiers modifiers = kNone) { drag(at, at, modifiers); }
-
-    void rightDrag(RollPoint from, double to)
-    {
-        editor_.rightMouseDown(from);
-        if (from.step != to)
-            editor_.mouseDragged({from.key, to});
-        editor_.mouseUp({from.key, to}, kNone);
-    }
-
-    void type(int key, Qt::KeyboardModifiers modifiers = kNone, unsigned scanCode = 0)
-    {
-        editor_.keyDown({QEvent::KeyPress, key, modifiers, scanCode, 0, 0});
-    }
-
-    QString undoText() { return document_.undoStack().undoText(); }
-    void undo() { document_.undoStack().undo(); }
-
-    SequenceEditor editor_{document_};
-};
 
 } // namespace
 
@@ -232,9 +180,9 @@ TEST_F(SequenceEditorTest, ChoosesAndCorrectsNotesByCommands)
         return selection();
     };
     transport_.setPosition(2.0);
-    for (const std::uint64_t id : {2, 1, 3, 3})
+    for (const std::uint64_t id : {2U, 1U, 3U, 3U})
         EXPECT_THAT(select(Forward), ElementsAre(id));
-    for (const std::uint64_t id : {1, 2, 2})
+    for (const std::uint64_t id : {1U, 2U, 2U})
         EXPECT_THAT(select(Backward), ElementsAre(id));
 
     const Notes before = notes();
@@ -325,57 +273,6 @@ TEST_F(SequenceEditorTest, AnnouncesAnEditOnce)
     editor_.selectAll();
     EXPECT_EQ(times(pasteInAnEdit), 1);
     EXPECT_EQ(seen, 83.0) << "announced when the whole edit is done";
-}
-
-TEST_F(SequenceEditorTest, UndoesAndRedoesEveryEdit)
-{
-    std::mt19937 random(3);
-    const auto any = [&](unsigned count) { return static_cast<int>(random() % count); };
-    const auto step = [&] { return any(80) * 0.25; };
-    const auto place = [&] { return RollPoint{122.0 + any(6), step() - 1.0}; };
-    QUndoStack& stack = document_.undoStack();
-    std::map<int, Notes> states{{0, {}}}; // by the number of edits done
-    for (int i = 0; i < 1500; ++i) {
-        const int before = stack.index(), what = any(8);
-        recorder_.setSnapToGrid(any(4) == 0);
-        if (what == 0) {
-            rightDrag(place(), step());
-        } else if (what <= 2) {
-            drag(place(), place(), any(3) == 0 ? kShift : kNone);
-        } else if (what == 3) {
-            type(any(9) == 0 ? Qt::Key_Delete : Qt::Key_1 + any(4), any(2) == 0 ? kCommand : kNone);
-        } else if (what == 4) {
-            editor_.paste(editor_.copy());
-        } else if (what == 5) { // a recording with a gesture in the middle
-            transport_.setPosition(step());
-            recorder_.record();
-            liveKeys_.press(122 + unsigned(any(6)), 1.0F, now_);
-            tick(step() * 0.1);
-            drag(place(), place());
-            tick(step() * 0.1);
-            recorder_.record();
-            liveKeys_.clear();
-        } else {
-            stack.setIndex(any(2) == 0 ? before - 1 : before + 1);
-        }
-        const int index = stack.index();
-        if (what <= 5 && index != before) { // after several edits only the last state is known
-            states.erase(states.upper_bound(before), states.end());
-            states[index] = notes();
-        }
-        ASSERT_TRUE(!states.contains(index) || notes() == states[index]) << i;
-        const auto& sorted = document_.sequence().notes();
-        ASSERT_TRUE(std::ranges::is_sorted(sorted, {}, &Note::start)) << i;
-        ASSERT_TRUE(sorted.empty() || sorted.front().start >= 0.0) << i;
-        for (const Note& note : sorted)
-            ASSERT_LE(extentOf(note), transport_.extent()) << i;
-    }
-    for (const bool undone : {true, false}) {
-        for (int index = 0; index <= stack.count(); ++index) {
-            stack.setIndex(undone ? stack.count() - index : index);
-            ASSERT_TRUE(!states.contains(stack.index()) || notes() == states[stack.index()]);
-        }
-    }
 }
 
 } // namespace velmora

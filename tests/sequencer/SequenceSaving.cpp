@@ -172,7 +172,8 @@ TEST_F(MusicalSaving, ChangesOnlyWhatWasEdited)
     const std::string original = fileOf(on(0, 60, 70, 2), "");
     open(original);
     ASSERT_EQ(musical_.sequence().notes().size(), 2U) << "one has no length";
-    EXPECT_EQ(musical_.sequence().notes()[0].length, 0.6 * 16) << "at its place";
+    EXPECT_EQ(musical_.sequence().notes()[0].length, 8.0)
+        << "an eighth of a quarter note is a step";
     EXPECT_FALSE(musical_.isImported());
     EXPECT_EQ(saved(), original);
 
@@ -180,12 +181,12 @@ TEST_F(MusicalSaving, ChangesOnlyWhatWasEdited)
     EXPECT_EQ(saved(), fileOf(on(0, 60, 127, 2), ""));
     musical_.undoStack().setIndex(0);
     musical_.edit()->addNote(
-        {.start = 3 * 9.6 - 0.3 * 9.6, .length = 2.4, .velocity = 1.0F, .channel = 2, .key = 70});
+        {.start = 19.0, .length = 2.0, .velocity = 1.0F, .channel = 2, .key = 70});
     const std::string more = saved();
     EXPECT_NE(more, original);
     musical_.read(folder_ / "b.mid");
     ASSERT_EQ(musical_.sequence().notes().size(), 3U);
-    EXPECT_NEAR(musical_.sequence().notes()[1].length, 9.0, 1e-6) << "not up to the new end";
+    EXPECT_NEAR(musical_.sequence().notes()[1].length, 8.0, 1e-6) << "not up to the new end";
     musical_.edit()->addNote({.start = 1.2345, .length = 2.4, .velocity = 1.0F, .key = 71});
     const std::string finer = saved();
     EXPECT_EQ(finer.substr(12, 2), number(96 * 43, 2)) << "a take needs finer ticks";
@@ -193,7 +194,51 @@ TEST_F(MusicalSaving, ChangesOnlyWhatWasEdited)
     const auto& notes = musical_.sequence().notes();
     ASSERT_EQ(notes.size(), 4U);
     EXPECT_NEAR(notes[1].start, 1.2345, 0.002);
-    EXPECT_EQ(notes[0].length, 0.6 * 16) << "the same music";
+    EXPECT_EQ(notes[0].length, 8.0) << "the same music";
+}
+
+TEST_F(MusicalSaving, WritesTheTempoAndTheSignaturesThatWereEdited)
+{
+    using namespace midi;
+    const std::string keySignature = bytes({0, 0xFF, 0x59, 2, 0xFE, 1});
+    const auto fileOf = [&](const std::string& time) {
+        return header(1, 2) + track(on(0, 48) + off(96, 48)) +
+               track(keySignature + time + on(0, 60) + off(96, 60));
+    };
+    open(fileOf(tempo(0, 600'000) + tempo(0, 500'000) + bytes({0, 0xFF, 0x58, 4, 3, 2, 12, 8})));
+    MusicalTime time = musical_.time();
+    time.changeTempoAt(0.0, 96.0);
+    musical_.setTime(time, {});
+    EXPECT_EQ(saved(), header(1, 2) + track(on(0, 48) + off(96, 48)) +
+                           track(tempo(0, 625'000) + keySignature +
+                                 bytes({0, 0xFF, 0x58, 4, 3, 2, 12, 8}) + on(0, 60) + off(96, 60)))
+        << "and nothing else; of the two tempos the later one was in force";
+
+    time.setTempos({Tempo::ofBeats(0.0, 90.0), Tempo::ofBeats(1.0 / 3.0, 70.0)});
+    time.setTimeSignatures({{0.0, 3, 4}, {24.0, 12, 16}, {1e5, 5, 8}});
+    time.setKeySignatures({{8.0, -7, false}});
+    time.setMarkers({{8.0, "B"}, {8.0, "A"}, {8.0, std::string(300, 'x')}});
+    const auto notesAndTime = [](const SequenceDocument& document) {
+        std::vector<double> starts;
+        for (const Note& note : document.sequence().notes())
+            starts.push_back(std::round(note.start * 100));
+        return std::pair(starts, document.time());
+    };
+    const std::string counted = track(tempo(0, 1) + on(80, 60) + off(40, 60));
+    for (const std::string& original :
+         {fileOf(""), header(0, 1, 0xE728) + counted, header(0, 1, 0xE328) + counted}) {
+        open(original);
+        const auto before = notesAndTime(musical_).first;
+        musical_.setTime(time, {});
+        saved();
+        musical_.read(folder_ / "b.mid");
+        EXPECT_EQ(notesAndTime(musical_).first, before);
+        EXPECT_EQ(musical_.time().timeSignatures(), time.timeSignatures());
+        EXPECT_EQ(musical_.time().keySignatures(), time.keySignatures());
+        EXPECT_EQ(musical_.time().markers(), time.markers());
+        ASSERT_EQ(musical_.time().tempos().size(), 2U) << "the file's own have no effect in frames";
+        EXPECT_NEAR(musical_.time().secondsAt(400.0), time.secondsAt(400.0), 1e-3);
+    }
 }
 
 TEST_F(MusicalSaving, ReadsADamagedFileAsFarAsItGoes)
@@ -207,6 +252,7 @@ TEST_F(MusicalSaving, ReadsADamagedFileAsFarAsItGoes)
         EXPECT_THAT(musical_.damage(), testing::StartsWith("a.mid, byte "));
         EXPECT_EQ(musical_.sequence().notes().size(), notes) << "keys beyond the keyboard as well";
         EXPECT_FALSE(musical_.save(path_, SequenceFormat::MidiFile, kSave)) << "keeps what is left";
+        EXPECT_THAT(musical_.errorString(), testing::EndsWith("under another name."));
     }
     open(whole);
     EXPECT_EQ(musical_.damage(), "");
@@ -235,6 +281,20 @@ TEST_F(MusicalSaving, RecoversTheFileWithTheNotes)
     recovered.recover(decodeUnsaved(std::as_bytes(std::span(kept))));
     EXPECT_TRUE(recovered.save(folder_ / "c.mid", SequenceFormat::MidiFile, kSaveAs));
     EXPECT_EQ(readTextFile(folder_ / "c.mid"), original);
+
+    UnsavedSequence inSeconds = musical_.snapshot();
+    inSeconds.notes.at(0).length = 0.4 * 16;
+    std::string old = encodeUnsaved(inSeconds); // with one tempo, and three empty lists
+    constexpr std::size_t kNote = 56, kCount = 8, kTime = 28, kVoices = 1 + 16 * 18;
+    old.erase(old.size() - kNote - kCount - kVoices - kTime, kTime + kVoices)
+        .replace(4, 4, midi::number(2, 4));
+    recovered.recover(decodeUnsaved(std::as_bytes(std::span(old))));
+    EXPECT_DOUBLE_EQ(recovered.sequence().notes().at(0).length, 8.0) << "of the version before";
+
+    SequenceDocument plain(*this, Reading::Plain);
+    plain.recover(musical_.snapshot());
+    EXPECT_DOUBLE_EQ(plain.sequence().notes().at(0).length, 0.4 * 16);
+    EXPECT_TRUE(plain.isImported());
 }
 
 TEST_F(SequenceSaving, KeepsTheOldFileIfItCannotBeWritten)

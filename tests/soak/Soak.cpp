@@ -211,7 +211,7 @@ private:
         const std::array<std::function<void()>, 12> commands{
             [&] { document.transport().setLoop(chance(2)); },
             [&] { document.recorder().setSnapToGrid(chance(2)); },
-            [&] { document.transport().setTempo(static_cast<double>(40 + pick(400))); },
+            [&] { document.transport().setSpeed(static_cast<double>(40 + pick(400)) / 120.0); },
             [&] {
                 document.transport().selectInterval(place, place + static_cast<double>(pick(16)));
             },

@@ -28,9 +28,9 @@ ScaleTemperament equalDivision(int count, double period, double moved = 0.0)
     return ScaleTemperament(scale, mapping);
 }
 
-class KeyPitches : public testing::Test {
+class KeyPitchesTest : public testing::Test {
 protected:
-    KeyPitches()
+    KeyPitchesTest()
     {
         instrument_.setReading(Reading::Musical);
         instrument_.setInstrument(kSteadyProgram);
@@ -83,7 +83,7 @@ protected:
 
 } // namespace
 
-TEST_F(KeyPitches, SoundWhereTheTemperamentHasThem)
+TEST_F(KeyPitchesTest, SoundWhereTheTemperamentHasThem)
 {
     const double kTritave = 1200.0 * std::log2(3.0);
     std::vector<std::unique_ptr<Temperament>> temperaments;
@@ -115,7 +115,7 @@ TEST_F(KeyPitches, SoundWhereTheTemperamentHasThem)
     }
 }
 
-TEST_F(KeyPitches, MoveWithTheTemperamentThoughTheyWereStartedOnAChannel)
+TEST_F(KeyPitchesTest, MoveWithTheTemperamentThoughTheyWereStartedOnAChannel)
 {
     const auto nineteen = equalDivision(19, 1200.0);
     for (const int key : {61, 73}) { // of one channel
@@ -137,7 +137,7 @@ TEST_F(KeyPitches, MoveWithTheTemperamentThoughTheyWereStartedOnAChannel)
     }
 }
 
-TEST_F(KeyPitches, AreAtMostHalfACentOffWhenAllLanesSound)
+TEST_F(KeyPitchesTest, AreAtMostHalfACentOffWhenAllLanesSound)
 {
     constexpr int kFirst = 30, kCount = 60;
     const auto scale = equalDivision(31, 1200.0);

@@ -75,6 +75,17 @@ TEST_F(FollowingMeantoneTest, SpellsThirdsPurelyInDistantKeys)
     EXPECT_EQ(calls.back(), "tune 0 127");
 }
 
+TEST_F(FollowingMeantoneTest, HeldNotesCountForMoreThanThoseBefore)
+{
+    FollowingMeantone following(uncorrected());
+    for (const double time : {0.0, 0.2}) {
+        press(following, {63, 67, 70}, time); // E♭ major
+        release(following, {63, 67, 70}, time + 0.2);
+    }
+    press(following, {64, 71, 68}, 0.4); // E major: G♯, not A♭
+    EXPECT_NEAR(interval(following, 64, 68), 386.3, 0.1);
+}
+
 TEST_F(FollowingMeantoneTest, TheLastNoteOfAChordCanMendItsFirst)
 {
     FollowingMeantone patient;

@@ -42,8 +42,9 @@ QString groupOf(const Program& program)
     return ProgramList::tr("Bank %1").arg(program.bank);
 }
 
-/// Returns the name of a program behind its number, which counts from 1 as on keyboards.
-QString textOf(const Program& program)
+} // namespace
+
+QString programText(const Program& program)
 {
     if (program.name.empty())
         return QCoreApplication::translate(
@@ -51,8 +52,6 @@ QString textOf(const Program& program)
             kMIDIInstrumentNames.at(static_cast<std::size_t>(program.number)));
     return QString("%1 %2").arg(program.number + 1).arg(QString::fromStdString(program.name));
 }
-
-} // namespace
 
 ProgramList::ProgramList() : GroupedList(tr("Find a program"), tr("Program"))
 {
@@ -63,7 +62,7 @@ void ProgramList::showPrograms(std::span<const Program> programs)
 {
     std::vector<Entry> entries;
     for (const Program& program : programs)
-        entries.push_back({groupOf(program), textOf(program), {}});
+        entries.push_back({groupOf(program), programText(program), {}});
     showEntries(std::move(entries));
 }
 

@@ -4,7 +4,6 @@
 #include "desktop/widgets/AccessibleList.h"
 #include "desktop/widgets/noteNames.h"
 #include "sequencer/SequenceDocument.h"
-#include "sequencer/SequenceTime.h"
 
 #include <QLocale>
 
@@ -25,12 +24,11 @@ public:
     {
         const Note& note = noteAt(index);
         const QLocale locale;
-        const double bar = std::floor(note.start / kStepsPerBar);
-        const double beat = (note.start - bar * kStepsPerBar) / kStepsPerBeat;
+        const Bar bar = view_.document()->time().barAt(note.start);
         return SequenceView::tr("%1, bar %2, beat %3, length in beats %4, channel %5")
-            .arg(noteText(note.key), locale.toString(bar + 1, 'f', 0),
-                 locale.toString(beat + 1, 'g', 3),
-                 locale.toString(note.length / kStepsPerBeat, 'g', 3),
+            .arg(noteText(note.key), locale.toString(bar.number),
+                 locale.toString(bar.beatAt(note.start), 'g', 3),
+                 locale.toString(note.length / bar.signature.beatLength(), 'g', 3),
                  locale.toString(note.channel + 1));
     }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace velmora {
 
@@ -55,7 +56,7 @@ void RollPicture::draw(const RollGeometry& geometry, const RollColors& colors, d
     if (colors.scheme == Scheme::Classic)
         addFadingNotes(geometry, colors, document, index);
     blendedEnd_ = vertices_.size();
-    addGrid(geometry, colors, line);
+    addGrid(geometry, colors, line, document);
     if (colors.scheme == Scheme::Calm)
         addBlocks(geometry, colors, document, index);
     addPosition(geometry, colors, line, document);
@@ -147,7 +148,8 @@ void RollPicture::addPosition(const RollGeometry& geometry, const RollColors& co
 }
 
 // Lines are narrow quads, so that they cover the same pixels with every driver.
-void RollPicture::addGrid(const RollGeometry& geometry, const RollColors& colors, double line)
+void RollPicture::addGrid(const RollGeometry& geometry, const RollColors& colors, double line,
+                          const SequenceDocument& document)
 {
     const auto addColumns = [&](RollShade color, int first, int keys) {
         for (int key = first; key <= geometry.endKey(); key += keys) {
@@ -156,6 +158,29 @@ void RollPicture::addGrid(const RollGeometry& geometry, const RollColors& colors
         }
     };
     addColumns(colors.columnLine, geometry.firstKey(), 1);
+    if (colors.scheme == Scheme::Calm && document.reading() == Reading::Musical)
+        addTime(geometry, colors, line, document.time());
+    else
+        addSteps(geometry, colors, line);
+    if (colors.octaveLine != colors.columnLine)
+        addColumns(colors.octaveLine, (geometry.firstKey() + 11) / 12 * 12, 12);
+}
+
+void RollPicture::addTime(const RollGeometry& geometry, const RollColors& colors, double line,
+                          const MusicalTime& time)
+{
+    for (const auto& [step, kind] : time.gridLines(geometry.firstStep(), geometry.endStep(),
+                                                   visibleGrid(geometry.keyHeight))) {
+        const double bottom = std::round(geometry.yOf(step));
+        const RollShade& color = kind == GridLine::Kind::Bar    ? colors.barLine
+                                 : kind == GridLine::Kind::Beat ? colors.beatLine
+                                                                : colors.stepLine;
+        add({0.0, geometry.width, bottom, bottom + line}, color);
+    }
+}
+
+void RollPicture::addSteps(const RollGeometry& geometry, const RollColors& colors, double line)
+{
     const int stride = geometry.keyHeight < kMinGridStep ? kStepsPerBeat : 1;
     for (int step = geometry.firstStep() / stride * stride; step < geometry.endStep();
          step += stride) {
@@ -165,8 +190,6 @@ void RollPicture::addGrid(const RollGeometry& geometry, const RollColors& colors
                                                               ? colors.beatLine
                                                               : colors.stepLine);
     }
-    if (colors.octaveLine != colors.columnLine)
-        addColumns(colors.octaveLine, (geometry.firstKey() + 11) / 12 * 12, 12);
 }
 
 void RollPicture::add(const RollQuad& quad, RollShade bottom, RollShade top)

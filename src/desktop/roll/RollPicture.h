@@ -9,6 +9,7 @@
 
 namespace velmora {
 
+class MusicalTime;
 class SequenceDocument;
 
 /// One corner of a quad, in the layout of an OpenGL vertex array.
@@ -37,7 +38,11 @@ public:
 private:
     void add(const RollQuad& quad, RollShade color) { add(quad, color, color); }
     void add(const RollQuad& quad, RollShade bottom, RollShade top);
-    void addGrid(const RollGeometry& geometry, const RollColors& colors, double line);
+    void addGrid(const RollGeometry& geometry, const RollColors& colors, double line,
+                 const SequenceDocument& document);
+    void addSteps(const RollGeometry& geometry, const RollColors& colors, double line);
+    void addTime(const RollGeometry& geometry, const RollColors& colors, double line,
+                 const MusicalTime& time);
     void addFadingNotes(const RollGeometry& geometry, const RollColors& colors,
                         const SequenceDocument& document, const RollIndex& index);
     void addBlocks(const RollGeometry& geometry, const RollColors& colors,

@@ -1,8 +1,12 @@
 #include "desktop/roll/SequenceActions.h"
 
+#include "desktop/roll/EditingActions.h"
+#include "desktop/roll/RollActions.h"
 #include "desktop/roll/SequenceScrollView.h"
+#include "desktop/roll/UndoHistory.h"
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/icons.h"
+#include "desktop/widgets/windowPlace.h"
 #include "midi/messages.h"
 #include "sequencer/NoteClipboard.h"
 #include "sequencer/SequenceDocument.h"
@@ -38,11 +42,15 @@ SequenceActions::SequenceActions(Commands& commands)
           commands.add("piece.loop", tr("Piece"),
                        {tr("&Loop"), tr("Repeat the selected time, or the whole sequence"), "loop"},
                        {Qt::CTRL | Qt::Key_L})),
-      snap(commands.add("piece.snap", tr("Piece"),
-                        {tr("Snap to &Grid"), tr("Align notes and times with whole steps"), "snap"},
-                        {Qt::CTRL | Qt::Key_G})),
-      commands_(commands), undo_(pictured(undoStacks_.createUndoAction(this, tr("&Undo")), "undo")),
+      snap(commands.add(
+          "piece.snap", tr("Piece"),
+          {tr("Snap to &Grid"), tr("Align notes and times with the lines of the grid"), "snap"},
+          {Qt::CTRL | Qt::Key_G})),
+      commands_(commands), recording_(commands), time_(commands),
+      undo_(pictured(undoStacks_.createUndoAction(this, tr("&Undo")), "undo")),
       redo_(pictured(undoStacks_.createRedoAction(this, tr("&Redo")), "redo")),
+      history_(
+          add("edit.history", nullptr, tr("Undo History"), {Qt::CTRL | Qt::SHIFT | Qt::Key_H})),
       cut_(add("edit.cut", "cut", tr("Cu&t"), QKeySequence::keyBindings(QKeySequence::Cut))),
       copy_(add("edit.copy", "copy", tr("&Copy"), QKeySequence::keyBindings(QKeySequence::Copy))),
       paste_(
@@ -61,6 +69,8 @@ SequenceActions::SequenceActions(Commands& commands)
       previous_(addKey("piece.previous", tr("Pre&vious Notes"), {Qt::Key_Down}, Qt::Key_Down)),
       next_(addKey("piece.next", tr("&Next Notes"), {Qt::Key_Up}, Qt::Key_Up)),
       corrections_(std::make_unique<QMenu>(tr("&Selected Notes"))),
+      editing_(std::make_unique<EditingActions>(commands, *corrections_)),
+      roll_(std::make_unique<RollActions>(commands)),
       channelMenu_(std::make_unique<QMenu>(tr("&Channel"))), channels_(new QActionGroup(this))
 {
     commands_.add("edit.undo", tr("Edit"), *undo_, {QKeySequence(QKeySequence::Undo)});
@@ -96,6 +106,8 @@ void SequenceActions::setTarget(const Target& target)
         undoStacks_.removeStack(&target_.document->undoStack());
     }
     target_ = target;
+    editing_->setTarget(target.document, target.editor);
+    roll_->setRoll(target.roll);
     if (target_.document != nullptr)
         connectTarget();
     const bool isAny = target_.document != nullptr;
@@ -105,6 +117,8 @@ void SequenceActions::setTarget(const Target& target)
     for (QAction* action : zooms_)
         action->setEnabled(isAny);
     channelMenu_->setEnabled(isAny);
+    recording_.setDocument(target_.document);
+    time_.setDocument(target_.document, target_.roll);
     showMode();
     showOptions();
     showSelection();
@@ -118,6 +132,7 @@ void SequenceActions::connectTarget()
     undoStacks_.setActiveStack(&document.undoStack());
     connect(&document, &SequenceDocument::changed, this, &SequenceActions::showSelection);
     connect(&document.transport(), &Transport::modeChanged, this, &SequenceActions::showMode);
+    connect(&document.transport(), &Transport::frame, this, &SequenceActions::showDeselect);
     connect(&document.transport(), &Transport::optionsChanged, this, &SequenceActions::showOptions);
     connect(&document.recorder(), &Recorder::optionsChanged, this, &SequenceActions::showOptions);
 }
@@ -197,6 +212,7 @@ void SequenceActions::connectCommands()
     connect(cut_, &QAction::triggered, this, [this] { copyNotes(target_.editor->cut()); });
     connect(copy_, &QAction::triggered, this, [this] { copyNotes(target_.editor->copy()); });
     connect(paste_, &QAction::triggered, this, &SequenceActions::pasteNotes);
+    connect(history_, &QAction::triggered, this, &SequenceActions::showHistory);
     connect(selectAll_, &QAction::triggered, this, [this] { target_.editor->selectAll(); });
     using enum SequenceEditor::Direction;
     connect(nextNote_, &QAction::triggered, this,
@@ -220,12 +236,13 @@ void SequenceActions::connectCommands()
 
 void SequenceActions::addEditing(QMenu& edit) const
 {
-    edit.addActions({undo_, redo_});
+    edit.addActions({undo_, redo_, history_});
     edit.addSeparator();
     edit.addActions({cut_, copy_, paste_, delete_});
     edit.addSeparator();
     edit.addActions({selectAll_, deselect_, nextNote_, previousNote_});
     edit.addMenu(corrections_.get());
+    editing_->addTo(edit);
 }
 
 void SequenceActions::addTransport(QMenu& sequence) const
@@ -235,6 +252,8 @@ void SequenceActions::addTransport(QMenu& sequence) const
     sequence.addActions({start_, end_, previous_, next_});
     sequence.addSeparator();
     sequence.addActions({loop, snap});
+    recording_.addTo(sequence);
+    time_.addTo(sequence);
     sequence.addMenu(channelMenu_.get());
 }
 
@@ -242,6 +261,7 @@ void SequenceActions::addZoom(QMenu& view) const
 {
     for (QAction* action : zooms_)
         view.addAction(action);
+    roll_->addTo(view);
 }
 
 void SequenceActions::showMode()
@@ -278,10 +298,18 @@ void SequenceActions::showSelection()
 {
     const bool isAny =
         target_.document != nullptr && !target_.document->sequence().selection().empty();
-    for (QAction* action : {cut_, copy_, delete_, deselect_})
+    for (QAction* action : {cut_, copy_, delete_})
         action->setEnabled(isAny);
+    showDeselect();
     for (QAction* action : corrections_->actions())
         action->setEnabled(isAny);
+}
+
+void SequenceActions::showDeselect()
+{
+    const SequenceDocument* document = target_.document;
+    deselect_->setEnabled(document != nullptr && (!document->sequence().selection().empty() ||
+                                                  document->transport().beatsToCount() > 0));
 }
 
 void SequenceActions::showClipboard()
@@ -291,6 +319,13 @@ void SequenceActions::showClipboard()
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     paste_->setEnabled(target_.document != nullptr && data != nullptr &&
                        data->hasFormat(kNotesMimeType));
+}
+
+void SequenceActions::showHistory()
+{
+    if (historyWindow_ == nullptr)
+        historyWindow_ = std::make_unique<UndoHistory>(undoStacks_);
+    present(*historyWindow_);
 }
 
 void SequenceActions::copyNotes(const std::vector<Note>& notes)

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "desktop/roll/RecordingActions.h"
+#include "desktop/roll/TimeActions.h"
+
 #include <QObject>
 #include <QUndoGroup>
 
@@ -14,9 +17,12 @@ class QMenu;
 namespace velmora {
 
 class Commands;
+class EditingActions;
+class RollActions;
 class SequenceDocument;
 class SequenceEditor;
 class SequenceScrollView;
+class UndoHistory;
 struct Note;
 
 /// The commands that act on the current piece.
@@ -39,6 +45,9 @@ public:
     void setTarget(const Target& target);
 
     QAction *const record, *const play, *const loop, *const snap;
+
+    RecordingActions& recording() { return recording_; }
+    const TimeActions& time() const { return time_; }
 
     void addEditing(QMenu& edit) const;
     void addTransport(QMenu& sequence) const;
@@ -67,19 +76,26 @@ private:
     void showMode();
     void showOptions();
     void showSelection();
+    void showDeselect(); ///< It also ends a count-in.
     void showClipboard();
+    void showHistory();
     void copyNotes(const std::vector<Note>& notes);
     void pasteNotes();
 
     Commands& commands_;
+    RecordingActions recording_;
+    TimeActions time_;
     Target target_;
     QUndoGroup undoStacks_;
-    QAction *const undo_, *const redo_, *const cut_, *const copy_, *const paste_;
+    std::unique_ptr<UndoHistory> historyWindow_; ///< Null until it was wanted.
+    QAction *const undo_, *const redo_, *const history_, *const cut_, *const copy_, *const paste_;
     QAction *const delete_, *const selectAll_, *const deselect_;
     QAction *const nextNote_, *const previousNote_;
     QAction *const start_, *const end_, *const previous_, *const next_;
     std::vector<QAction*> zooms_;
     const std::unique_ptr<QMenu> corrections_; ///< What can be done to the selected notes.
+    const std::unique_ptr<EditingActions> editing_;
+    const std::unique_ptr<RollActions> roll_;
     const std::unique_ptr<QMenu> channelMenu_;
     QActionGroup* const channels_;
 };

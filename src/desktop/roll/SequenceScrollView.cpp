@@ -1,11 +1,15 @@
 #include "desktop/roll/SequenceScrollView.h"
 
 #include "desktop/roll/KeyRuler.h"
+#include "desktop/roll/Lanes.h"
+#include "desktop/roll/OutlyingNotes.h"
 #include "desktop/roll/SequenceView.h"
 #include "desktop/roll/TimeRuler.h"
 #include "desktop/widgets/motion.h"
 #include "desktop/widgets/scheme.h"
 #include "preferences/Preferences.h"
+#include "sequencer/SequenceDocument.h"
+#include "sequencer/SequenceEditor.h"
 
 #include <QGridLayout>
 #include <QScrollBar>
@@ -45,7 +49,8 @@ int rescaled(int value, double anchor, int before, int after)
 
 SequenceScrollView::SequenceScrollView(QWidget* parent)
     : QWidget(parent), view_(new SequenceView), ruler_(new KeyRuler),
-      timeRuler_(new TimeRuler(*view_)), horizontal_(new QScrollBar(Qt::Horizontal)),
+      timeRuler_(new TimeRuler(*view_)), lanes_(new Lanes(*view_)),
+      outlyingNotes_(new OutlyingNotes(*view_)), horizontal_(new QScrollBar(Qt::Horizontal)),
       vertical_(new QScrollBar(Qt::Vertical)), keyWidth_(getPrefInt("KeyWidth")),
       keyHeight_(getPrefInt("KeyHeight"))
 {
@@ -54,7 +59,8 @@ SequenceScrollView::SequenceScrollView(QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(timeRuler_, 0, 0);
     layout->addWidget(view_, 0, 1);
-    layout->addWidget(vertical_, 0, 2);
+    layout->addWidget(lanes_, 0, 2);
+    layout->addWidget(vertical_, 0, 3);
     layout->addWidget(ruler_, 1, 1);
     layout->addWidget(horizontal_, 2, 1);
     layout->setColumnStretch(1, 1);
@@ -77,7 +83,10 @@ SequenceScrollView::SequenceScrollView(QWidget* parent)
     connect(view_, &SequenceView::documentChanged, this, [this] {
         ruler_->setDocument(view_->document());
         timeRuler_->setDocument(view_->document(), view_->editor());
+        lanes_->setEditor(view_->editor());
+        setGrid();
     });
+    connect(outlyingNotes_, &OutlyingNotes::chosen, this, &SequenceScrollView::reveal);
     connect(view_, &SequenceView::draggedBeyondEdge, this, [this](QPoint pixels) {
         scrollTo(location() + pixels);
         emit scrolledByUser();
@@ -100,8 +109,17 @@ void SequenceScrollView::updateSize(double steps)
         scrollTo(place);
     timeRuler_->setVisible(preferredScheme() == Scheme::Calm);
     timeRuler_->update();
+    lanes_->update();
     view_->redraw();
     ruler_->update();
+    outlyingNotes_->update();
+    setGrid();
+}
+
+void SequenceScrollView::setGrid()
+{
+    if (SequenceEditor* editor = view_->editor())
+        editor->setGrid(visibleGrid(keyHeight_));
 }
 
 void SequenceScrollView::fitBars()
@@ -121,6 +139,7 @@ void SequenceScrollView::follow()
     view_->scrollTo(location());
     ruler_->scrollTo(location().x());
     timeRuler_->update();
+    lanes_->update();
 }
 
 void SequenceScrollView::scrollTo(QPoint point)
@@ -156,6 +175,13 @@ void SequenceScrollView::setBars(QPoint point)
 void SequenceScrollView::scrollVertically(double y)
 {
     scrollTo({destination().x(), barValue(y)});
+}
+
+void SequenceScrollView::reveal(const Note& note)
+{
+    glideTo({barValue((note.key + 0.5) * keyWidth_ - view_->width() / 2.0),
+             barValue(note.start * keyHeight_ - view_->height() / 2.0)});
+    emit scrolledByUser();
 }
 
 QPoint SequenceScrollView::location() const
@@ -195,6 +221,14 @@ void SequenceScrollView::wheelEvent(QWheelEvent* event)
         const int notches = wheelRemainder_.y() / kNotch;
         wheelRemainder_.ry() %= kNotch;
         zoomAround(event->position(), notches, event->modifiers().testFlag(Qt::ShiftModifier));
+        return;
+    }
+    if (event->modifiers().testFlag(Qt::AltModifier)) {
+        const QPoint turned = wheelRemainder_; // with Alt, Qt turns the wheel sideways
+        const int notches = (turned.x() + turned.y()) / kNotch;
+        wheelRemainder_ = QPoint(0, (turned.x() + turned.y()) % kNotch);
+        if (notches != 0)
+            view_->changeVelocityAt(view_->mapFrom(this, event->position()), notches);
         return;
     }
     QPoint pixels = event->pixelDelta();

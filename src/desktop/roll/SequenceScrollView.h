@@ -10,8 +10,11 @@ class QScrollBar;
 namespace velmora {
 
 class KeyRuler;
+class Lanes;
+class OutlyingNotes;
 class SequenceView;
 class TimeRuler;
+struct Note;
 
 /// The piano roll with its scroll bars, a ruler of key names and, in the calm scheme, one of bars.
 /// Points of the roll are in pixels from its lower left corner; step 0 is at the bottom.
@@ -22,6 +25,7 @@ public:
     explicit SequenceScrollView(QWidget* parent = nullptr);
 
     SequenceView& view() { return *view_; }
+    Lanes& lanes() { return *lanes_; }
 
     /// Fits the roll to a sequence of `steps` steps and to the preferences. If the scale changes,
     /// the middle of the view stays in place.
@@ -55,6 +59,9 @@ private:
     bool event(QEvent* event) override;
     bool scrollByKey(int key);
 
+    /// Scrolls until a note begins in the middle of the view.
+    void reveal(const Note& note);
+
     /// Scrolls as `scrollTo` does, but gliding if the user likes motion.
     void glideTo(QPoint point);
 
@@ -64,11 +71,16 @@ private:
     void zoomAround(QPointF place, int notches, bool keys);
     void zoom(const char* preference, int notches);
     void fitBars();
+
+    /// Makes notes snap to the lines that are shown.
+    void setGrid();
     void follow();
 
     SequenceView* view_;
     KeyRuler* ruler_;
     TimeRuler* timeRuler_;
+    Lanes* lanes_;
+    OutlyingNotes* outlyingNotes_;
     QScrollBar *horizontal_, *vertical_;
     double steps_ = 0.0;
 

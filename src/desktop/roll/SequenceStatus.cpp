@@ -66,10 +66,11 @@ void SequenceStatus::showMode()
 {
     switch (document_.transport().mode()) {
     case Transport::Mode::Playing:
-        mode_->setText(tr("Playing"));
+        mode_->setText(document_.practiceSession().isRunning() ? keysText() : tr("Playing"));
         break;
     case Transport::Mode::Recording:
-        mode_->setText(tr("Recording"));
+        mode_->setText(document_.transport().beatsToCount() > 0 ? tr("Counting in")
+                                                                : tr("Recording"));
         showNotes(); // while recording, only `frame` announces new notes
         break;
     case Transport::Mode::Stopped:
@@ -82,6 +83,11 @@ QString SequenceStatus::practiceText() const
 {
     if (document_.practice().isDone())
         return tr("Done: all notes played");
+    return keysText();
+}
+
+QString SequenceStatus::keysText() const
+{
     QStringList missing, wrong;
     bool isAnyWanted = false;
     for (unsigned key = 0; key < kKeys; ++key) {

@@ -21,6 +21,7 @@ private:
     void showNotes();
     void showMode();
     QString practiceText() const;
+    QString keysText() const;
 
     const SequenceDocument& document_;
     QLabel *mode_, *selection_, *interval_, *notes_;

@@ -32,6 +32,9 @@ constexpr int kMaxName = 13;
 constexpr unsigned kWidestKey = 61;
 constexpr double kNameMargin = 4.0;
 
+/// How much louder a note becomes with a notch of the wheel.
+constexpr double kVelocityNotch = 4.0 / 127.0;
+
 } // namespace
 
 SequenceView::SequenceView(QWidget* parent) : QOpenGLWidget(parent)
@@ -126,6 +129,23 @@ void SequenceView::paintGL()
     glDisableClientState(GL_VERTEX_ARRAY);
     if (colors.scheme == Scheme::Calm && getPrefBool("KeyNames"))
         drawNames(colors);
+    if (editor_ != nullptr && editor_->band())
+        drawBand(colors);
+}
+
+void SequenceView::drawBand(const RollColors& colors)
+{
+    const RollGeometry geometry = rollGeometry();
+    const auto [one, other] = *editor_->band();
+    const auto [lowest, highest] = std::minmax({std::floor(one.key), std::floor(other.key)});
+    const auto [from, to] = std::minmax({one.step, other.step});
+    const QRectF area(QPointF(geometry.xOf(lowest), height() - geometry.yOf(to)),
+                      QPointF(geometry.xOf(highest + 1), height() - geometry.yOf(from)));
+    const auto [red, green, blue, opacity] = colors.interval;
+    QPainter painter(this);
+    painter.fillRect(area, QColor(red, green, blue, opacity));
+    painter.setPen(QColor(red, green, blue));
+    painter.drawRect(area);
 }
 
 void SequenceView::drawNames(const RollColors& colors)
@@ -199,6 +219,8 @@ void SequenceView::mousePressEvent(QMouseEvent* event)
         editor_->mouseDown(rollPoint(event->position()), event->modifiers());
     else if (event->button() == Qt::RightButton)
         editor_->rightMouseDown(rollPoint(event->position()));
+    else if (event->button() == Qt::MiddleButton)
+        editor_->beginBand(rollPoint(event->position()));
     else
         return;
     button_ = event->button();
@@ -211,12 +233,16 @@ void SequenceView::mouseMoveEvent(QMouseEvent* event)
         updateCursor(event->modifiers());
         return;
     }
-    drag(event->position());
+    drag(event->position(), event->modifiers());
 }
 
-void SequenceView::drag(const QPointF& point)
+void SequenceView::drag(const QPointF& point, Qt::KeyboardModifiers modifiers)
 {
     dragPosition_ = point;
+    dragModifiers_ = modifiers;
+    if (editor_->isMoving())
+        setCursor((modifiers & (Qt::ControlModifier | Qt::AltModifier)) != 0 ? Qt::DragCopyCursor
+                                                                             : Qt::SizeAllCursor);
     if (QRectF(rect()).contains(point))
         autoScrollTimer_.stop();
     else if (!autoScrollTimer_.isActive())
@@ -231,7 +257,13 @@ void SequenceView::autoScroll()
     const double y = dragPosition_.y() - std::clamp(dragPosition_.y(), 0.0, height() - 1.0);
     emit draggedBeyondEdge(QPoint(static_cast<int>(std::round(x * kAutoScrollFraction)),
                                   static_cast<int>(std::round(-y * kAutoScrollFraction))));
-    drag(dragPosition_);
+    drag(dragPosition_, dragModifiers_);
+}
+
+void SequenceView::changeVelocityAt(const QPointF& place, int notches)
+{
+    if (editor_ != nullptr && button_ == Qt::NoButton)
+        editor_->changeVelocityAt(rollPoint(place), notches * kVelocityNotch);
 }
 
 void SequenceView::mouseReleaseEvent(QMouseEvent* event)

@@ -32,6 +32,10 @@ public:
     /// Schedules a repaint after the notes may have changed.
     void redraw();
 
+    /// Makes the note at a place of the view louder, or softer if `notches` is negative, and with
+    /// it every selected note if it is one of them.
+    void changeVelocityAt(const QPointF& place, int notches);
+
     /// Forwards a key that was pressed or released here or in another window. Ignores presses
     /// during a drag, because they could change what is being dragged.
     void handleKey(const QKeyEvent& event);
@@ -56,11 +60,12 @@ protected:
 private:
     void updateIndex();
     void drawNames(const RollColors& colors);
+    void drawBand(const RollColors& colors);
     RollPoint rollPoint(const QPointF& point) const;
     RollHit hitAt(const QPointF& point);
 
     /// Continues the current drag, and scrolls the roll while the mouse is beyond the edge.
-    void drag(const QPointF& point);
+    void drag(const QPointF& point, Qt::KeyboardModifiers modifiers);
     void autoScroll();
 
     /// Shows by the shape of the cursor what a press would do.
@@ -71,6 +76,7 @@ private:
     QPoint offset_;
     Qt::MouseButton button_ = Qt::NoButton; ///< The button of the current gesture.
     QPointF dragPosition_;
+    Qt::KeyboardModifiers dragModifiers_;
     QTimer autoScrollTimer_;
     RollIndex index_;
     bool isIndexed_ = false; ///< True if the index is up to date.

@@ -1,17 +1,19 @@
 #include "desktop/roll/TimeRuler.h"
 
+#include "base/Text.h"
 #include "desktop/roll/SequenceView.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
-#include "sequencer/SequenceTime.h"
 
 #include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace velmora {
 
@@ -21,6 +23,7 @@ namespace {
 constexpr double kReach = 6.0;
 
 constexpr double kBeatTick = 6.0;
+constexpr double kFlag = 9.0; // of a marker
 constexpr double kIntervalEdge = 3.0;
 constexpr int kLoopOpacity = 130, kPlainOpacity = 60; // of 255
 
@@ -79,6 +82,21 @@ TimeRuler::Handle TimeRuler::handleAt(double y) const
     return !interval.isEmpty() && isNear(interval.end) ? Handle::End : Handle::None;
 }
 
+bool TimeRuler::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || document_ == nullptr)
+        return QWidget::event(event);
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    for (const Marker& marker : document_->time().markers()) {
+        const double distance = yOf(marker.step) - help.pos().y();
+        if (distance >= 0.0 && distance <= kFlag) {
+            QToolTip::showText(help.globalPos(), QString::fromStdString(toUtf8(marker.text)), this);
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
 void TimeRuler::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
@@ -94,16 +112,27 @@ void TimeRuler::paintBars(QPainter& painter) const
 {
     const RollGeometry geometry = view_.rollGeometry();
     painter.setPen(palette().color(QPalette::WindowText));
-    for (int beat = geometry.firstStep() / kStepsPerBeat; beat * kStepsPerBeat < geometry.endStep();
-         ++beat) {
-        const double y = std::floor(yOf(beat * kStepsPerBeat)) - 0.5;
-        const bool isBar = beat * kStepsPerBeat % kStepsPerBar == 0;
+    const MusicalTime& time = document_->time();
+    const double textHeight = fontMetrics().height();
+    double textTop = std::numeric_limits<double>::infinity(); // of the last number, from below
+    for (const auto& [step, kind] :
+         time.gridLines(geometry.firstStep(), geometry.endStep(),
+                        std::min(visibleGrid(geometry.keyHeight), Grid::Beats))) {
+        const double y = std::floor(yOf(step)) - 0.5;
+        const bool isBar = kind == GridLine::Kind::Bar;
         painter.drawLine(QPointF(isBar ? 0 : width() - kBeatTick, y), QPointF(width(), y));
-        if (isBar)
-            painter.drawText(
-                QRectF(4, y - fontMetrics().height() - 1, width(), fontMetrics().height()),
-                Qt::AlignLeft | Qt::AlignBottom,
-                locale().toString(beat * kStepsPerBeat / kStepsPerBar + 1));
+        if (!isBar || y > textTop)
+            continue;
+        textTop = y - textHeight;
+        painter.drawText(QRectF(4, textTop - 1, width(), textHeight),
+                         Qt::AlignLeft | Qt::AlignBottom,
+                         locale().toString(time.barAt(step).number));
+    }
+    for (const Marker& marker : time.markers()) {
+        const double y = yOf(marker.step);
+        const std::array flag{QPointF(0, y), QPointF(0, y - kFlag), QPointF(kFlag, y - kFlag / 2)};
+        painter.setBrush(palette().color(QPalette::Active, QPalette::Highlight));
+        painter.drawPolygon(flag.data(), static_cast<int>(flag.size()));
     }
 }
 

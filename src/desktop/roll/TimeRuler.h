@@ -26,6 +26,7 @@ public:
 private:
     enum class Handle { None, Position, Start, End };
 
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

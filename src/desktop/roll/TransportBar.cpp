@@ -1,5 +1,6 @@
 #include "desktop/roll/TransportBar.h"
 
+#include "app/AppDelegate.h"
 #include "desktop/roll/SequenceActions.h"
 #include "desktop/widgets/LearnMenu.h"
 #include "desktop/widgets/nameParts.h"
@@ -8,7 +9,9 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
+#include <QMenu>
 #include <QSpinBox>
 #include <QToolButton>
 
@@ -20,14 +23,17 @@ namespace velmora {
 
 namespace {
 
-constexpr int kMinTempo = 20;
-constexpr int kMaxTempo = 400;
-constexpr int kFirstTempo = 120; // that of a new piece
+constexpr double kMinTempo = 4.0; // the slowest that a file can say is 3.6
+constexpr double kMaxTempo = 999.0;
+constexpr double kPlainTempo = 120.0; // in the plain reading, that of a piece as written
+constexpr int kMinPercent = 10;
+constexpr int kMaxPercent = 400;
 
 /// Returns the time of the position in minutes, seconds and tenths, such as "1:05.3".
 QString timeText(const Transport& transport)
 {
-    const double seconds = std::max(0.0, transport.position() / transport.stepsPerSecond());
+    const double seconds =
+        std::max(0.0, transport.pace().secondsBetween(0.0, transport.position()));
     const auto tenths = static_cast<qlonglong>(seconds * 10);
     return QString("%1:%2.%3")
         .arg(tenths / 600)
@@ -38,8 +44,8 @@ QString timeText(const Transport& transport)
 } // namespace
 
 TransportBar::TransportBar(SequenceActions& actions, AppDelegate& application)
-    : application_(application), tempo_(new QSpinBox), channel_(new QComboBox),
-      position_(new QLabel)
+    : application_(application), tempo_(new QDoubleSpinBox), speed_(new QSpinBox),
+      channel_(new QComboBox), position_(new QLabel)
 {
     setObjectName("transport");
     setWindowTitle(tr("Transport"));
@@ -51,11 +57,15 @@ TransportBar::TransportBar(SequenceActions& actions, AppDelegate& application)
     addSeparator();
     addAction(actions.loop);
     addAction(actions.snap);
+    addRecording(actions.recording());
     addSeparator();
     addTempo();
+    addAction(actions.time().tap);
+    addSpeed();
     addChannel();
     addSeparator();
-    position_->setToolTip(tr("The position in minutes and seconds at this tempo, and in steps"));
+    position_->setToolTip(
+        tr("The position in minutes and seconds at this speed, and in bars and beats"));
     position_->setMargin(6);
     addWidget(position_);
     setDocument(nullptr);
@@ -68,7 +78,7 @@ void TransportBar::setDocument(SequenceDocument* document)
         document_->recorder().disconnect(this);
     }
     document_ = document;
-    for (QWidget* field : std::initializer_list<QWidget*>{tempo_, channel_, position_})
+    for (QWidget* field : std::initializer_list<QWidget*>{tempo_, speed_, channel_, position_})
         field->setEnabled(document_ != nullptr);
     if (document_ == nullptr) {
         position_->clear();
@@ -94,6 +104,25 @@ void TransportBar::addButton(QAction& action, const QString& otherTitle, const L
     new LearnMenu(*button, application_, {learnable, {{LearnedAction::Kind::Stop}, tr("Stop")}});
 }
 
+void TransportBar::addRecording(RecordingActions& recording)
+{
+    addAction(recording.metronome);
+    auto* metronome = qobject_cast<QToolButton*>(widgetForAction(recording.metronome));
+    metronome->setMenu(&recording.metronomeMenu());
+    metronome->setPopupMode(QToolButton::MenuButtonPopup);
+    connect(&recording, &RecordingActions::volumeChanged, this,
+            [this](float volume) { application_.metronome().setVolume(volume); });
+    addAction(recording.punch);
+    auto* takes = new QToolButton;
+    takes->setText(tr("Takes"));
+    takes->setToolTip(tr("Choose one of the takes that were recorded in the loop"));
+    takes->setMenu(&recording.takesMenu());
+    takes->setPopupMode(QToolButton::InstantPopup);
+    QAction* place = addWidget(takes);
+    place->setVisible(recording.takesMenu().isEnabled());
+    connect(&recording, &RecordingActions::takesChanged, place, &QAction::setVisible);
+}
+
 void TransportBar::addTempo()
 {
     auto* label = new QLabel(tr("Te&mpo"));
@@ -101,20 +130,53 @@ void TransportBar::addTempo()
     label->setBuddy(tempo_);
     addWidget(label);
     tempo_->setRange(kMinTempo, kMaxTempo);
-    tempo_->setValue(kFirstTempo);
+    tempo_->setDecimals(1);
+    tempo_->setValue(kPlainTempo);
     tempo_->setSuffix(tr(" bpm"));
     tempo_->setKeyboardTracking(false);
     tempo_->setAccessibleName(tr("Tempo"));
-    tempo_->setToolTip(tr("The tempo of playing and recording in beats per minute (Alt+M)"));
-    connect(tempo_, &QSpinBox::valueChanged, this, [this](int tempo) {
-        if (document_ != nullptr) // what was typed is reported when the last piece closes, too
-            document_->transport().setTempo(tempo);
-    });
-    connect(tempo_, &QSpinBox::editingFinished, this, [this] {
+    tempo_->setToolTip(tr("The tempo of the piece at the position in beats per minute (Alt+M)"));
+    connect(tempo_, &QDoubleSpinBox::valueChanged, this, &TransportBar::changeTempo);
+    connect(tempo_, &QDoubleSpinBox::editingFinished, this, [this] {
         if (tempo_->hasFocus()) // otherwise the user has already moved the focus
             emit done();
     });
     addWidget(tempo_);
+}
+
+void TransportBar::addSpeed()
+{
+    speed_->setRange(kMinPercent, kMaxPercent);
+    speed_->setValue(100);
+    speed_->setSuffix(tr(" %", "percent"));
+    speed_->setSingleStep(5);
+    speed_->setKeyboardTracking(false);
+    speed_->setAccessibleName(tr("Speed"));
+    speed_->setToolTip(tr(
+        "How fast the piece is played, as a part of its tempo. It is not saved with the piece."));
+    connect(speed_, &QSpinBox::valueChanged, this, [this](int percent) {
+        if (document_ != nullptr) // what was typed is reported when the last piece closes, too
+            document_->transport().setSpeed(percent / 100.0);
+    });
+    connect(speed_, &QSpinBox::editingFinished, this, [this] {
+        if (speed_->hasFocus())
+            emit done();
+    });
+    speedField_ = addWidget(speed_);
+}
+
+void TransportBar::changeTempo(double beats)
+{
+    if (document_ == nullptr) // what was typed is reported when the last piece closes, too
+        return;
+    Transport& transport = document_->transport();
+    if (document_->reading() == Reading::Plain) {
+        transport.setSpeed(beats / kPlainTempo);
+        return;
+    }
+    MusicalTime time = document_->time();
+    time.changeTempoAt(transport.position(), beats);
+    document_->setTime(std::move(time), tr("Change Tempo"));
 }
 
 void TransportBar::addChannel()
@@ -138,23 +200,47 @@ void TransportBar::addChannel()
 
 void TransportBar::showOptions()
 {
-    if (const auto tempo = static_cast<int>(std::lround(document_->transport().tempo()));
-        tempo != tempo_->value()) {
-        const QSignalBlocker blocker(tempo_);
-        tempo_->setValue(tempo);
-    }
+    const QSignalBlocker blocker(speed_);
+    speed_->setValue(static_cast<int>(std::lround(document_->transport().speed() * 100.0)));
+    speedField_->setVisible(document_->reading() == Reading::Musical);
     const int channel = document_->recorder().channel();
     channel_->setCurrentIndex(channel < midi::kChannels ? channel : -1);
     showPosition();
 }
 
-void TransportBar::showPosition()
+void TransportBar::showTempo()
 {
     const Transport& transport = document_->transport();
+    const double tempo = document_->reading() == Reading::Plain
+                             ? kPlainTempo * transport.speed()
+                             : transport.time().tempoAt(transport.position());
+    const QSignalBlocker blocker(tempo_);
+    if (tempo_->value() != std::round(tempo * 10.0) / 10.0)
+        tempo_->setValue(tempo);
+}
+
+void TransportBar::showPosition()
+{
+    showTempo();
+    const Transport& transport = document_->transport();
+    if (const int beats = transport.beatsToCount(); beats > 0) {
+        position_->setText(tr("Count-in: %1").arg(beats));
+        return;
+    }
     // While the position moves, decimals would change too fast to be read.
-    const int decimals = transport.mode() == Transport::Mode::Stopped ? 1 : 0;
+    const bool moves = transport.mode() != Transport::Mode::Stopped;
+    if (document_->reading() == Reading::Plain) {
+        position_->setText(tr("%1  ·  step %2")
+                               .arg(timeText(transport))
+                               .arg(transport.position(), 0, 'f', moves ? 0 : 1));
+        return;
+    }
+    const Bar bar = document_->time().barAt(transport.position());
+    const double beat = std::floor(bar.beatAt(transport.position()) * 100.0) / 100.0;
     position_->setText(
-        tr("%1  ·  step %2").arg(timeText(transport)).arg(transport.position(), 0, 'f', decimals));
+        tr("%1  ·  bar %2, beat %3")
+            .arg(timeText(transport), locale().toString(bar.number),
+                 moves ? locale().toString(static_cast<int>(beat)) : locale().toString(beat)));
 }
 
 } // namespace velmora

@@ -4,16 +4,18 @@
 
 class QComboBox;
 class QLabel;
+class QDoubleSpinBox;
 class QSpinBox;
 
 namespace velmora {
 
 class AppDelegate;
+class RecordingActions;
 class SequenceActions;
 class SequenceDocument;
 struct Learnable;
 
-/// The toolbar of the current piece: record, play, loop, grid, tempo, channel and position.
+/// The toolbar of the current piece: record, play, loop, grid, tempo, speed, channel and position.
 class TransportBar : public QToolBar {
     Q_OBJECT
 
@@ -31,14 +33,20 @@ signals:
 
 private:
     void addButton(QAction& action, const QString& otherTitle, const Learnable& learnable);
+    void addRecording(RecordingActions& recording);
     void addTempo();
+    void addSpeed();
+    void changeTempo(double beats);
     void addChannel();
     void showOptions();
+    void showTempo();
     void showPosition();
 
     AppDelegate& application_;
     SequenceDocument* document_ = nullptr;
-    QSpinBox* tempo_;
+    QDoubleSpinBox* tempo_;
+    QSpinBox* speed_;
+    QAction* speedField_ = nullptr; ///< Hidden in the plain reading.
     QComboBox* channel_;
     QLabel* position_;
 };

@@ -19,6 +19,7 @@
 #include "preferences/Preferences.h"
 #include "preferences/settings.h"
 #include "sequencer/SequenceFile.h"
+#include "sequencer/scoreFile.h"
 
 #include <QApplication>
 #include <QDir>
@@ -253,10 +254,10 @@ void Desktop::openFile(const QString& path)
         tuningFiles_.open(path, *tuning);
     else if (isMappingFile(file))
         finishOpening(path, application_.tunings().setMapping(file));
+    else if (sequenceFormatOf(file) || isReadableScore(file))
+        finishOpening(path, pages_.open(path));
     else if (instrument)
         openInstrument(path, *instrument);
-    else if (sequenceFormatOf(file))
-        finishOpening(path, pages_.open(path));
     else if (lowerCase(file.extension().string()) == kSessionExtension)
         openSession(path);
     else

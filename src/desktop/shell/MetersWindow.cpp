@@ -46,6 +46,7 @@ void MetersWindow::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     meters_.emplace(application_);
     update();
+    resize(size().expandedTo(sizeHint())); // before the window manager looks for its place
     timer_.start();
 }
 

@@ -127,7 +127,7 @@ std::string SequencePages::open(const QString& path)
             return {};
         }
     }
-    SequencePage& page = makePage({});
+    SequencePage& page = makePage(textOf(pathOf(path).stem())); // a score keeps no file
     page.document().read(pathOf(path));
     std::string error = page.document().errorString();
     if (error.empty() && (page.document().damage().empty() || askToOpenDamaged(page.document())))

@@ -120,10 +120,17 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
       console(commands.add("view.console", viewGroup(),
                            {tr("&Console"), tr("Show the stops of the organ"), "instrument"},
                            {Qt::CTRL | Qt::SHIFT | Qt::Key_C})),
+      practice(commands.add(
+          "view.practice", viewGroup(),
+          {tr("Practice"), tr("Practise the piece, a hand or a voice of it"), "metronome"},
+          {Qt::CTRL | Qt::SHIFT | Qt::Key_E})),
       tuningStudio(commands.add(
           "view.tuningStudio", viewGroup(),
           {tr("Shape the Tuning"), tr("Show the circle of fifths, and shape the tuning"), "tuning"},
           {Qt::CTRL | Qt::SHIFT | Qt::Key_T})),
+      voices(commands.add("view.voices", viewGroup(),
+                          {tr("Voices"), tr("Show who plays the piece"), "instrument"},
+                          {Qt::CTRL | Qt::SHIFT | Qt::Key_V})),
       playLayout(commands.add("view.play", viewGroup(),
                               {tr("&Play"), tr("Arrange the window for playing"), nullptr},
                               {Qt::ALT | Qt::Key_1})),
@@ -167,8 +174,8 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
     auto* layouts = new QActionGroup(this);
     for (QAction* action : {playLayout, editLayout, stageLayout})
         layouts->addAction(action);
-    for (QAction* action : {keyboard, instrument, tuning, console, tuningStudio, playLayout,
-                            editLayout, stageLayout, ownWindow, noteNames})
+    for (QAction* action : {keyboard, instrument, tuning, console, practice, tuningStudio, voices,
+                            playLayout, editLayout, stageLayout, ownWindow, noteNames})
         action->setCheckable(true);
     for (QAction* action : {save, saveAs, exportAudio, exportMidi, exportScore, close, ownWindow})
         action->setEnabled(false); // until there is a piece
@@ -210,8 +217,8 @@ void ShellActions::addSound(QMenuBar& bar) const
 
 void ShellActions::addPanels(QMenu& view) const
 {
-    view.addActions(
-        {keyboard, instrument, tuning, tuningStudio, console, nextPanel, previousPanel});
+    view.addActions({keyboard, instrument, tuning, tuningStudio, practice, voices, console,
+                     nextPanel, previousPanel});
     view.addSeparator();
     view.addActions({playLayout, editLayout, stageLayout, resetLayout});
     view.addSeparator();

@@ -37,7 +37,9 @@ public:
     QAction *const transposeUp, *const transposeDown; ///< By a semitone.
     QAction *const keyboard, *const instrument, *const tuning,
                                                     *const console; ///< Show or hide the panels.
+    QAction* const practice;     ///< Shows or hides the panel in which a piece is practised.
     QAction* const tuningStudio; ///< Shows or hides the panel in which a tuning is shaped.
+    QAction* const voices;       ///< Shows or hides the voices of the piece.
     QAction *const playLayout, *const editLayout, *const stageLayout, *const resetLayout;
     QAction *const nextPanel, *const previousPanel; ///< Move the keyboard focus.
     QAction* const ownWindow; ///< Checked while the current piece has a window of its own.

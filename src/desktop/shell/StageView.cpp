@@ -5,6 +5,7 @@
 #include "desktop/tuning/tuningText.h"
 #include "desktop/widgets/messages.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -30,13 +31,17 @@ QLabel* addLine(QVBoxLayout& column, double size)
 
 } // namespace
 
-StageView::StageView(AppDelegate& application) : application_(application)
+StageView::StageView(AppDelegate& application, const QAction& leave)
+    : application_(application), leave_(leave)
 {
     auto* column = new QVBoxLayout(this);
     column->addStretch();
     instrument_ = addLine(*column, kInstrumentType);
     tuning_ = addLine(*column, kTuningType);
     column->addStretch();
+    hint_ = addLine(*column, 1.0);
+    connect(&leave_, &QAction::changed, this, &StageView::showHint);
+    showHint();
     connect(&application_, &AppDelegate::instrumentChanged, this, &StageView::showSound);
     connect(&application_.tunings(), &Tunings::changed, this, &StageView::showSound);
     connect(&application_, &AppDelegate::programSelected, this, &StageView::showSound);
@@ -47,6 +52,13 @@ void StageView::showSound()
     instrument_->setText(translatedTitle(application_.soundName()));
     const Tunings& tunings = application_.tunings();
     tuning_->setText(standingTitle(tuningText(application_, tunings.name()).title, tunings));
+}
+
+void StageView::showHint()
+{
+    const QKeySequence key = leave_.shortcut();
+    hint_->setText(tr("%1 leaves the stage").arg(key.toString(QKeySequence::NativeText)));
+    hint_->setVisible(!key.isEmpty());
 }
 
 } // namespace velmora

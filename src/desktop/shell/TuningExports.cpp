@@ -79,7 +79,7 @@ void TuningExports::exportMidi()
         return;
     save(path, [&](const std::filesystem::path& file) {
         RenderOptions options;
-        options.tempo = page->document().transport().tempo();
+        options.speed = page->document().transport().speed();
         const TunedMidi midi = writeTunedMidi(
             application_,
             [&](SequenceDocument& copy) { copy.recover(page->document().snapshot()); }, options);

@@ -6,8 +6,12 @@
 #include "desktop/console/DivisionChooser.h"
 #include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/keyboard/KeyboardView.h"
+#include "desktop/practice/FallingNotes.h"
+#include "desktop/practice/PracticePanel.h"
 #include "desktop/roll/SequenceActions.h"
 #include "desktop/roll/TransportBar.h"
+#include "desktop/roll/VoicesPanel.h"
+#include "desktop/shell/PracticeResults.h"
 #include "desktop/shell/ShellActions.h"
 #include "desktop/shell/StageView.h"
 #include "desktop/shell/StartPage.h"
@@ -17,6 +21,7 @@
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/HelpButton.h"
 #include "desktop/widgets/LearnMenu.h"
+#include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/windowPlace.h"
 #include "preferences/settings.h"
 
@@ -24,9 +29,9 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QTabWidget>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -37,7 +42,7 @@ namespace velmora {
 namespace {
 
 /// Counts up when stored arrangements would no longer fit.
-constexpr int kLayoutVersion = 3;
+constexpr int kLayoutVersion = 5;
 constexpr const char* kLayoutKey = "layout";
 
 /// The first sizes of the panels in pixels.
@@ -46,10 +51,9 @@ constexpr int kConsoleHeight = 330;
 constexpr int kKeyboardHeight = 150, kEditKeyboardHeight = 100, kStageKeyboardHeight = 300;
 constexpr QSize kFirstSize(1240, 760);
 
-/// How much larger the type is on stage.
+/// How much larger the type is on stage, and how many steps lead there.
 constexpr double kStageType = 1.5;
-
-constexpr int kHintMilliseconds = 4000;
+constexpr int kTypeTrials = 5;
 
 std::string layoutKey(Workspace::Layout layout)
 {
@@ -65,6 +69,8 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
       keyboard_(new KeyboardView(application, application.player().liveKeys())),
       instrument_(new InstrumentPanel(application)), tuning_(new TuningPanel(application)),
       studio_(new TuningStudio(application)), console_(new ConsolePanel(application, console)),
+      voices_(new VoicesPanel(application)), practice_(new PracticePanel),
+      practiceResults_(new PracticeResults(*this)), fallingNotes_(new FallingNotes(*keyboard_)),
       status_(new StatusLine(application)), transport_(new TransportBar(actions, application)),
       startPage_(new StartPage), tabs_(new QTabWidget), centre_(new QStackedWidget)
 {
@@ -81,22 +87,28 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     tabs_->setMovable(true);
     centre_->addWidget(startPage_);
     centre_->addWidget(tabs_);
-    centre_->addWidget(new StageView(application));
+    centre_->addWidget(new StageView(application, *shell.stageLayout));
     setCentralWidget(centre_);
     setStatusBar(status_);
     auto* keyboardPanel = new QWidget;
     auto* keyboardColumn = new QVBoxLayout(keyboardPanel);
     keyboardColumn->setContentsMargins({});
     keyboardColumn->addWidget(new DivisionChooser(application));
+    keyboardColumn->addWidget(fallingNotes_, 1);
     keyboardColumn->addWidget(keyboard_, 1);
+    fallingNotes_->hide();
     keyboardDock_ = addPanel("keyboard", tr("Keyboard"), keyboardPanel, *shell.keyboard);
     instrumentDock_ = addPanel("instrument", tr("Instrument"), instrument_, *shell.instrument);
     tuningDock_ = addPanel("tuning", tr("Tuning"), tuning_, *shell.tuning);
     studioDock_ = addPanel("tuningStudio", tr("Tuning Studio"), studio_, *shell.tuningStudio);
+    practiceDock_ = addPanel("practice", tr("Practice"), newScrollArea(practice_), *shell.practice);
     consoleDock_ = addPanel("console", tr("Console"), console_, *shell.console);
+    voicesDock_ = addPanel("voices", tr("Voices"), voices_, *shell.voices);
     addHelpButton(*keyboardDock_, "playing");
     addHelpButton(*consoleDock_, "the-console");
     addHelpButton(*studioDock_, "the-tuning-studio");
+    addHelpButton(*practiceDock_, "practising");
+    addHelpButton(*voicesDock_, "voices");
     makeMenus(actions, console);
     makeTransport();
     for (const Commands::Command& command : commands.all())
@@ -175,6 +187,9 @@ void Workspace::connectCommands()
     connect(tuning_, &TuningPanel::shapeRequested, this, [this] { showPanel(*studioDock_); });
     connect(studio_, &TuningStudio::keysRated, keyboard_, &KeyboardView::setPurities);
     connect(console_, &ConsolePanel::neededChanged, this, &Workspace::showConsole);
+    connect(practice_, &PracticePanel::finished, this,
+            [this] { practiceResults_->add(*document_); });
+    connect(practice_, &PracticePanel::fallingNotesToggled, fallingNotes_, &QWidget::setVisible);
     connect(shell_.nextPanel, &QAction::triggered, this, [this] { movePanelFocus(1); });
     connect(shell_.previousPanel, &QAction::triggered, this, [this] { movePanelFocus(-1); });
 }
@@ -182,6 +197,10 @@ void Workspace::connectCommands()
 void Workspace::setDocument(SequenceDocument* document)
 {
     transport_->setDocument(document);
+    fallingNotes_->setDocument(document);
+    practice_->setDocument(document);
+    document_ = document;
+    voices_->setDocument(document);
 }
 
 void Workspace::setLayout(Layout layout)
@@ -189,21 +208,8 @@ void Workspace::setLayout(Layout layout)
     if (layout == layout_)
         return;
     saveLayout();
-    const bool wasStage = layout_ == Layout::Stage;
     layout_ = layout;
     restoreLayout();
-    if (wasStage)
-        status_->clearMessage();
-    else if (layout == Layout::Stage) // later, as the larger type shows what a message hides
-        QTimer::singleShot(0, this, &Workspace::showStageHint);
-}
-
-void Workspace::showStageHint()
-{
-    const QKeySequence key = shell_.stageLayout->shortcut();
-    if (layout_ == Layout::Stage && !key.isEmpty()) // there is no menu that says so
-        status_->showMessage(tr("%1 leaves the stage").arg(key.toString(QKeySequence::NativeText)),
-                             kHintMilliseconds);
 }
 
 std::string Workspace::arrangement() const
@@ -240,21 +246,26 @@ void Workspace::restoreLayout()
 
 void Workspace::arrange()
 {
-    for (QDockWidget* dock :
-         {keyboardDock_, instrumentDock_, tuningDock_, studioDock_, consoleDock_}) {
+    for (QDockWidget* dock : {keyboardDock_, instrumentDock_, tuningDock_, studioDock_,
+                              practiceDock_, consoleDock_, voicesDock_}) {
         dock->setFloating(false);
         removeDockWidget(dock);
     }
     addDockWidget(Qt::LeftDockWidgetArea, instrumentDock_);
     addDockWidget(Qt::RightDockWidgetArea, tuningDock_);
     addDockWidget(Qt::RightDockWidgetArea, studioDock_);
+    addDockWidget(Qt::LeftDockWidgetArea, voicesDock_);
     tabifyDockWidget(tuningDock_, studioDock_);
+    addDockWidget(Qt::RightDockWidgetArea, practiceDock_);
+    tabifyDockWidget(studioDock_, practiceDock_);
     addDockWidget(Qt::BottomDockWidgetArea, keyboardDock_);
     addDockWidget(Qt::TopDockWidgetArea, consoleDock_);
     keyboardDock_->show();
     instrumentDock_->setVisible(layout_ != Layout::Edit);
     tuningDock_->setVisible(layout_ != Layout::Edit);
     studioDock_->hide();
+    practiceDock_->hide();
+    voicesDock_->setVisible(layout_ == Layout::Edit);
     showConsole();
     constexpr std::array kHeights = {kKeyboardHeight, kEditKeyboardHeight, kStageKeyboardHeight};
     const double type = layout_ == Layout::Stage ? kStageType : 1.0;
@@ -269,13 +280,30 @@ void Workspace::showStage(bool isStage)
 {
     menuBar()->setVisible(!isStage);
     transport_->setVisible(!isStage);
+    setFont(QApplication::font(this));
+    showCentre();
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // the type becomes smaller
+    // A window that is larger than the screen cannot fill it.
+    QWidget::layout()->setSizeConstraint(isStage ? QLayout::SetNoConstraint
+                                                 : QLayout::SetDefaultConstraint);
+    if (isStage)
+        enlargeType();
     if (isStage != isFullScreen())
         setWindowState(windowState() ^ Qt::WindowFullScreen);
-    QFont type = QApplication::font(this);
-    if (isStage)
-        type.setPointSizeF(type.pointSizeF() * kStageType);
-    setFont(type);
-    showCentre();
+}
+
+void Workspace::enlargeType()
+{
+    const QSize room = screen()->size();
+    QFont type = font();
+    const double normal = type.pointSizeF();
+    for (int trial = kTypeTrials; trial >= 0; --trial) {
+        type.setPointSizeF(normal * (1.0 + (kStageType - 1.0) * trial / kTypeTrials));
+        setFont(type);
+        QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // so that the size is known
+        if (minimumSizeHint().boundedTo(room) == minimumSizeHint())
+            return;
+    }
 }
 
 void Workspace::showConsole()
@@ -310,8 +338,8 @@ void Workspace::movePanelFocus(int direction)
     std::vector<QWidget*> stops;
     if (QWidget* centre = centre_->currentWidget(); centre->isVisible())
         stops.push_back(centre);
-    for (QDockWidget* dock :
-         {instrumentDock_, consoleDock_, keyboardDock_, tuningDock_, studioDock_})
+    for (QDockWidget* dock : {instrumentDock_, voicesDock_, consoleDock_, keyboardDock_,
+                              tuningDock_, studioDock_, practiceDock_})
         if (dock->isVisible())
             stops.push_back(dock);
     const auto here = std::ranges::find_if(

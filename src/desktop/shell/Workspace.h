@@ -15,8 +15,11 @@ class AppDelegate;
 class Commands;
 class ConsoleActions;
 class ConsolePanel;
+class FallingNotes;
 class InstrumentPanel;
 class KeyboardView;
+class PracticePanel;
+class PracticeResults;
 class SequenceActions;
 class SequenceDocument;
 class ShellActions;
@@ -25,6 +28,7 @@ class StatusLine;
 class TransportBar;
 class TuningPanel;
 class TuningStudio;
+class VoicesPanel;
 
 /// The main window: the open pieces as tabs, around them the panels, which can be moved, floated
 /// and hidden, and the transport, the menus and the status line. It has three layouts, each of
@@ -81,7 +85,9 @@ private:
     /// Arranges the panels as they are at first.
     void arrange();
     void showStage(bool isStage);
-    void showStageHint();
+
+    /// Makes the type as large as the screen has room for, up to that of the stage.
+    void enlargeType();
     void showCentre();
     void showConsole();
     void showPanel(QDockWidget& dock);
@@ -95,12 +101,18 @@ private:
     TuningPanel* tuning_;
     TuningStudio* studio_;
     ConsolePanel* console_;
+    VoicesPanel* voices_;
+    PracticePanel* practice_;
+    PracticeResults* practiceResults_;
+    FallingNotes* fallingNotes_;
+    SequenceDocument* document_ = nullptr;
     StatusLine* status_;
     TransportBar* transport_;
     StartPage* startPage_;
     QTabWidget* tabs_;
     QStackedWidget* centre_; ///< The start page, the tabs, or what is shown on stage.
-    QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_, *studioDock_, *consoleDock_;
+    QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_, *studioDock_, *consoleDock_,
+        *practiceDock_, *voicesDock_;
     bool wasShown_ = false;
 };
 

@@ -15,7 +15,7 @@ namespace {
 constexpr const char* kFolderKey = "openFolder";
 constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ *.orgue";
 constexpr const char* kTunings = "*.scl *.ascl *.kbm *.tun *.mtx";
-constexpr const char* kSequences = "*.mid *.midi *.smf *.kar";
+constexpr const char* kSequences = "*.mid *.midi *.smf *.kar *.musicxml *.mxl";
 constexpr const char* kSessions = "*.velmora";
 
 struct Opening {

@@ -42,7 +42,7 @@ public:
     void start(const SequenceDocument& document, AppDelegate& application)
     {
         export_.start(currentSettings(application), document.snapshot(),
-                      document.transport().tempo(), pathOf(path_));
+                      document.transport().speed(), pathOf(path_));
     }
 
 private:

@@ -10,9 +10,11 @@ namespace {
 
 constexpr JustInterval kFifth{3, 2}, kMajorThird{5, 4}, kOctave{2, 1};
 constexpr unsigned kMiddleKey = 60;
+constexpr double kPrecision = 1.0; ///< In cents.
 
 /// The rings as parts of the greatest radius.
-constexpr double kNoteRing = 0.74, kFifthRing = 0.92, kThirdRing = 0.46;
+constexpr double kNoteRing = 0.74, kFifthRing = 0.92;
+constexpr double kThirdsAcross = 0.45, kThirdsUp = 0.5; // their labels are wider than high
 constexpr double kLargestNote = 20.0;
 
 double centsBetween(double low, double high)
@@ -40,12 +42,13 @@ Circle::Circle(const TuningMoment& moment, int octave) : isOfFifths(moment.repea
         }
         return;
     }
-    // The scale may have any period; an octave of it shows how its degrees lie.
+    // A scale that goes down has its period below the first note.
+    const double period = moment.period > kPrecision ? moment.period : kOctave.cents();
     for (unsigned key = kMiddleKey; key < kKeys && hertz[kMiddleKey] > 0.0; ++key) {
         if (hertz[key] <= 0.0)
             continue;
         const double cents = centsBetween(hertz[kMiddleKey], hertz[key]);
-        if (key > kMiddleKey && cents > kOctave.cents() - 1.0)
+        if (key > kMiddleKey && cents > period - kPrecision)
             break;
         const double raised = std::exp2(octave - 4);
         CircleNote note{key, std::to_string(key - kMiddleKey), cents, moment.sounding[key], {}, {}};
@@ -65,12 +68,14 @@ CircleGeometry::CircleGeometry(QSizeF view, std::size_t notes)
 
 QPointF CircleGeometry::fifth(std::size_t position) const
 {
-    return at(static_cast<double>(position) + 0.5, ring_ / kNoteRing * kFifthRing);
+    const double radius = ring_ / kNoteRing * kFifthRing;
+    return at(static_cast<double>(position) + 0.5, radius, radius);
 }
 
 QPointF CircleGeometry::third(std::size_t position) const
 {
-    return at(static_cast<double>(position), ring_ / kNoteRing * kThirdRing);
+    const double greatest = ring_ / kNoteRing;
+    return at(static_cast<double>(position), kThirdsAcross * greatest, kThirdsUp * greatest);
 }
 
 std::optional<std::size_t> CircleGeometry::noteAt(QPointF point) const
@@ -89,10 +94,10 @@ double CircleGeometry::distance(QPointF point) const
     return std::hypot(away.x(), away.y());
 }
 
-QPointF CircleGeometry::at(double position, double radius) const
+QPointF CircleGeometry::at(double position, double across, double up) const
 {
     const double angle = 2 * std::numbers::pi * position / static_cast<double>(notes_);
-    return centre_ + QPointF(std::sin(angle), -std::cos(angle)) * radius;
+    return centre_ + QPointF(std::sin(angle) * across, -std::cos(angle) * up);
 }
 
 } // namespace velmora

@@ -46,7 +46,10 @@ public:
 
     /// The middle of a note's disc, of the label of the interval to the next note, and of the label
     /// of its third. Positions run clockwise from the top.
-    QPointF note(std::size_t position) const { return at(static_cast<double>(position), ring_); }
+    QPointF note(std::size_t position) const
+    {
+        return at(static_cast<double>(position), ring_, ring_);
+    }
     QPointF fifth(std::size_t position) const;
     QPointF third(std::size_t position) const;
 
@@ -57,7 +60,8 @@ public:
     double distance(QPointF point) const;
 
 private:
-    QPointF at(double position, double radius) const;
+    /// The place of a position on an ellipse with these radii.
+    QPointF at(double position, double across, double up) const;
 
     std::size_t notes_;
     QPointF centre_;

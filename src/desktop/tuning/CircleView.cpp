@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace velmora {
 
 namespace {
@@ -62,8 +64,9 @@ void CircleView::paintLabel(QPainter& painter, QPointF middle, const HeardInterv
                              ? centsText(heard.distance)
                              : QLocale().toString(heard.beatsPerSecond, 'f', 1);
     const double mark = metrics.height() * 0.5;
-    const QRectF field =
-        around(middle, metrics.horizontalAdvance(text) + mark + 10, metrics.height());
+    QRectF field = around(middle, metrics.horizontalAdvance(text) + mark + 10, metrics.height());
+    // In a narrow view there is less room beside the circle.
+    field.moveLeft(std::clamp(field.left(), 0.0, std::max(0.0, width() - field.width())));
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
     painter.drawRoundedRect(field, 4, 4);

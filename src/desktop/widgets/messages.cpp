@@ -172,6 +172,18 @@ constexpr const char* kMessages[] = {
     QT_TRANSLATE_NOOP("velmora::messages", "this package is not in the folder of the organ"),
     QT_TRANSLATE_NOOP("velmora::messages", "is not a zip archive, or is damaged"),
     QT_TRANSLATE_NOOP("velmora::messages", "is a damaged archive"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the XML is damaged: %1"),
+    // Pieces
+    QT_TRANSLATE_NOOP("velmora::messages",
+                      "The file is damaged, and only a part of it could be read. To keep what may "
+                      "still be in it, save the piece under another name."),
+    QT_TRANSLATE_NOOP("velmora::messages", "is not a MusicXML score"),
+    QT_TRANSLATE_NOOP("velmora::messages", "is an archive, but not of a score"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the score \"%1\" is missing from the archive"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the score has no parts"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the score has too many parts"),
+    QT_TRANSLATE_NOOP("velmora::messages", "measure %1 is too long"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the music is too long"),
     QT_TRANSLATE_NOOP("velmora::messages",
                       "is encrypted; only archives without a password can be opened"),
     QT_TRANSLATE_NOOP("velmora::messages",

@@ -5,6 +5,7 @@
 #include "sequencer/SequenceEditor.h"
 #include "support/SequenceTest.h"
 
+#include <QPushButton>
 #include <QtTest>
 #include <gmock/gmock.h>
 
@@ -351,6 +352,34 @@ TEST_F(SequenceViewTest, ScrollsAndZoomsWithTheWheelAroundTheMouse)
     EXPECT_EQ(scrollView.location().y(), 0);
     scrollView.scrollVertically(1e9);
     EXPECT_EQ(scrollView.location().y(), 1000 - view.height());
+}
+
+TEST_F(SequenceViewTest, LeadsToNotesThatTheKeyboardDoesNotShow)
+{
+    const auto texts = [this] {
+        QStringList shown;
+        for (const auto* text : view.findChildren<QPushButton*>())
+            if (text->isVisible())
+                shown += text->text().replace("(s)", "s"); // translated or not
+        return shown;
+    };
+    put(108, 2, 1);
+    put(21, 2, 1);
+    EXPECT_THAT(texts(), IsEmpty()) << "the keyboard goes from A0 to C8";
+    put(20, 700, 1);
+    put(19, 800, 1);
+    put(109, 900, 1);
+    put(110, 500, 1);
+    EXPECT_THAT(texts(), ElementsAre("2 notes below A0", "2 notes above C8"));
+    auto* above = view.findChildren<QPushButton*>().back();
+    above->click();
+    const RollGeometry shown = view.rollGeometry();
+    EXPECT_TRUE(shown.firstKey() <= 110 && 110 < shown.endKey());
+    EXPECT_TRUE(shown.bottomStep() < 500 && 500 < shown.topStep()) << "the earlier one";
+    setPrefInt("KeyRangeHi", 110);
+    scrollView.updateSize(1000);
+    EXPECT_THAT(texts(), ElementsAre("2 notes below A0"));
+    resetPref("KeyRangeHi");
 }
 
 } // namespace velmora

@@ -156,7 +156,7 @@ TEST_F(MidiLearnTest, ButtonsLearnKeys)
     press(38);
     EXPECT_EQ(transport.mode(), Transport::Mode::Stopped);
     const LiveKeys& keys = desktop.application().player().liveKeys();
-    EXPECT_EQ(keys.pressTime(36), 0.0) << "no key sounded";
+    EXPECT_EQ(keys.events().end(), 0) << "no key sounded";
     send({0x90, 60, 127});
     EXPECT_NE(keys.state(60), 0);
     press(37);

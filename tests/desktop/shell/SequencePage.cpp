@@ -6,8 +6,8 @@
 #include "preferences/Preferences.h"
 #include "preferences/settings.h"
 
+#include <QDoubleSpinBox>
 #include <QSlider>
-#include <QSpinBox>
 
 namespace velmora {
 
@@ -41,12 +41,12 @@ TEST_F(SequencePageTest, ControlsTheTransportByKeysAndToolbar)
     EXPECT_EQ(document.transport().mode(), Transport::Mode::Stopped);
     EXPECT_TRUE(play.isEnabled());
 
-    auto& tempo = *desktop.workspace().findChild<TransportBar*>()->findChild<QSpinBox*>();
+    auto& tempo = *desktop.workspace().findChild<TransportBar*>()->findChild<QDoubleSpinBox*>();
     tempo.setFocus();
     tempo.selectAll();
     QTest::keyClicks(&tempo, "90");
     QTest::keyClick(&tempo, Qt::Key_Return);
-    EXPECT_EQ(document.transport().tempo(), 90);
+    EXPECT_NEAR(document.time().tempoAt(0.0), 90.0, 1e-4);
     EXPECT_EQ(document.transport().mode(), Transport::Mode::Stopped) << "the field keeps its keys";
     EXPECT_EQ(QApplication::focusWidget(), &view(window)) << "the roll has the focus again";
     tempo.setFocus();

@@ -121,7 +121,7 @@ TEST_F(SequenceSaverTest, SavesAndExportsUnderTheChosenNames)
 
     window.document().edit()->select();
     window.document().edit()->erase();
-    window.document().transport().setTempo(400);
+    window.document().transport().setSpeed(3.0);
     draw(window);
     naming(folder.filePath("tune.ogg"), [&] { action("Export Audio…").trigger(); });
     EXPECT_TRUE(QTest::qWaitFor(

@@ -46,9 +46,12 @@ TEST(Tooltips, SayTheShortcut)
 TEST(Tooltips, NumbersHaveAUnit)
 {
     const Desktop desktop;
-    for (const QSpinBox* box : all<QSpinBox>())
-        EXPECT_TRUE(qobject_cast<const NoteSpinBox*>(box) != nullptr || !box->suffix().isEmpty())
+    for (const QSpinBox* box : all<QSpinBox>()) {
+        const bool countsNothing = qobject_cast<const NoteSpinBox*>(box) != nullptr ||
+                                   box->accessibleName().endsWith(" bar");
+        EXPECT_TRUE(countsNothing || !box->suffix().isEmpty())
             << box->accessibleName().toStdString() << box->objectName().toStdString();
+    }
 }
 
 } // namespace velmora

@@ -44,7 +44,7 @@ TEST(Circle, RunsByFifthsAndEndsInTheWolf)
                 1e-9);
 }
 
-TEST(Circle, ShowsTheDegreesOfOtherScalesAsFarAsTheOctave)
+TEST(Circle, ShowsTheDegreesOfOtherScalesAsFarAsTheyRepeat)
 {
     TuningMoment moment;
     moment.repeatsEveryOctave = false;
@@ -56,6 +56,11 @@ TEST(Circle, ShowsTheDegreesOfOtherScalesAsFarAsTheOctave)
     EXPECT_EQ(circle.notes[2].name, "3");
     EXPECT_NEAR(circle.notes[5].cents, 6 * 1200.0 / 19, 1e-9);
     EXPECT_NEAR(circle.notes[5].fifth.distance, -7.366, 1e-3) << "the major third";
+
+    moment.period = 30 * 1200.0 / 19;
+    EXPECT_EQ(Circle(moment, 4).notes.size(), 29U) << "the period is wider than the octave";
+    moment.period = -1200.0;
+    EXPECT_EQ(Circle(moment, 4).notes.size(), 18U) << "a scale that goes down";
 }
 
 TEST(CircleGeometry, FindsTheNoteUnderThePointer)

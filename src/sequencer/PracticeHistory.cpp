@@ -1,0 +1,100 @@
+#include "sequencer/PracticeHistory.h"
+
+#include "base/File.h"
+#include "base/FormatError.h"
+#include "base/Text.h"
+#include "platform/writeFile.h"
+
+#include <QCryptographicHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+QJsonObject toJson(const PracticeEntry& entry)
+{
+    const PracticeSummary& summary = entry.summary;
+    QJsonArray delays, bars;
+    for (const int count : summary.delays)
+        delays.append(count);
+    for (const PracticeBar& bar : summary.bars)
+        bars.append(QJsonObject{{"number", bar.number},
+                                {"right", bar.right},
+                                {"wrong", bar.wrong},
+                                {"meanDelay", bar.meanDelay}});
+    return {{"time", entry.time.toUTC().toString(Qt::ISODate)},
+            {"right", summary.right},
+            {"wrong", summary.wrong},
+            {"early", summary.early},
+            {"late", summary.late},
+            {"passes", summary.passes},
+            {"cleanPasses", summary.cleanPasses},
+            {"speed", summary.speed},
+            {"meanDelay", summary.meanDelay},
+            {"delays", delays},
+            {"bars", bars}};
+}
+
+PracticeEntry practiceEntryOf(const QJsonObject& json)
+{
+    PracticeSummary summary{.right = json["right"].toInt(),
+                            .wrong = json["wrong"].toInt(),
+                            .early = json["early"].toInt(),
+                            .late = json["late"].toInt(),
+                            .passes = json["passes"].toInt(),
+                            .cleanPasses = json["cleanPasses"].toInt(),
+                            .speed = json["speed"].toDouble(),
+                            .meanDelay = json["meanDelay"].toDouble()};
+    const QJsonArray delays = json["delays"].toArray();
+    for (std::size_t i = 0; i < summary.delays.size(); ++i)
+        summary.delays[i] = delays.at(static_cast<qsizetype>(i)).toInt();
+    for (const QJsonValue bar : json["bars"].toArray())
+        summary.bars.push_back({bar["number"].toInt(), bar["right"].toInt(), bar["wrong"].toInt(),
+                                bar["meanDelay"].toDouble()});
+    return {QDateTime::fromString(json["time"].toString(), Qt::ISODate), std::move(summary)};
+}
+
+} // namespace
+
+PracticeHistory::PracticeHistory(const std::filesystem::path& folder,
+                                 const std::filesystem::path& piece)
+    : piece_(std::filesystem::absolute(piece).lexically_normal())
+{
+    const std::string& name = piece_.native();
+    const QByteArray hash = QCryptographicHash::hash(
+        QByteArray(name.data(), static_cast<qsizetype>(name.size())), QCryptographicHash::Sha1);
+    file_ = folder / (hash.toHex().toStdString() + ".json");
+    std::string text;
+    try {
+        text = readTextFile(file_);
+    } catch (const FormatError&) {
+        return; // it was not practised before
+    }
+    const auto json = QJsonDocument::fromJson(QByteArray::fromStdString(text)).object();
+    for (const QJsonValue value : json["sessions"].toArray()) {
+        PracticeEntry entry = practiceEntryOf(value.toObject());
+        if (entry.time.isValid())
+            entries_.push_back(std::move(entry));
+    }
+}
+
+void PracticeHistory::add(PracticeEntry entry)
+{
+    entries_.push_back(std::move(entry));
+    if (entries_.size() > kMaxEntries)
+        entries_.erase(entries_.begin());
+    QJsonArray sessions;
+    for (const PracticeEntry& kept : entries_)
+        sessions.append(toJson(kept));
+    const QJsonObject json{{"piece", QString::fromStdString(toUtf8(piece_.string()))},
+                           {"sessions", sessions}};
+    std::filesystem::create_directories(file_.parent_path());
+    writeFile(file_, QJsonDocument(json).toJson().toStdString());
+}
+
+} // namespace velmora

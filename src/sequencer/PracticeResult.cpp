@@ -1,0 +1,56 @@
+#include "sequencer/PracticeResult.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace velmora {
+
+namespace {
+
+std::size_t delayClass(double delay)
+{
+    constexpr auto kMiddleClass = PracticeSummary::kDelayClasses / 2;
+    constexpr auto kMiddle = static_cast<double>(kMiddleClass);
+    const double place = std::round(delay / PracticeSummary::kDelayClass) + kMiddle;
+    return static_cast<std::size_t>(std::clamp(place, 0.0, 2 * kMiddle));
+}
+
+} // namespace
+
+PracticeSummary summarize(const PracticeResult& result, const MusicalTime& time)
+{
+    PracticeSummary summary{.wrong = static_cast<int>(result.wrong.size()),
+                            .passes = result.passes,
+                            .cleanPasses = result.cleanPasses,
+                            .speed = result.speed};
+    std::map<int, PracticeBar> bars;
+    const auto barAt = [&](double step) -> PracticeBar& {
+        const int number = time.barAt(step).number;
+        PracticeBar& bar = bars[number];
+        bar.number = number;
+        return bar;
+    };
+    double delays = 0.0;
+    for (const PracticeStroke& stroke : result.strokes) {
+        ++summary.right;
+        summary.early += stroke.delay < -PracticeSummary::kOnTime ? 1 : 0;
+        summary.late += stroke.delay > PracticeSummary::kOnTime ? 1 : 0;
+        ++summary.delays[delayClass(stroke.delay)];
+        delays += stroke.delay;
+        PracticeBar& bar = barAt(stroke.step);
+        ++bar.right;
+        bar.meanDelay += stroke.delay;
+    }
+    if (summary.right > 0)
+        summary.meanDelay = delays / summary.right;
+    for (const WrongStroke& wrong : result.wrong)
+        ++barAt(wrong.step).wrong;
+    for (auto& [number, bar] : bars) {
+        bar.meanDelay /= std::max(bar.right, 1);
+        summary.bars.push_back(bar);
+    }
+    return summary;
+}
+
+} // namespace velmora

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace velmora {
+
+class FileEdits;
+class MusicalTime;
+struct MidiFileEvents;
+
+/// Adds to `edits` what gives a file the tempos, signatures and markers of `time`. Events of the
+/// file that say the same stay. A file that counts SMPTE frames counts beats if it gets a tempo.
+void editTime(MidiFileEvents& file, const MusicalTime& time, FileEdits& edits);
+
+} // namespace velmora
