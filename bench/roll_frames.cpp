@@ -85,7 +85,7 @@ int main(int argc, char** argv)
     sendMouse(view, QEvent::MouseButtonRelease, place, Qt::NoButton);
     auto& scrollView = *window->findChild<SequenceScrollView*>();
     measure("scrolling", view, [&](std::size_t frame) {
-        scrollView.scrollVertically(8.0 * static_cast<double>(1 + frame % 5000));
+        scrollView.scrollTo({scrollView.location().x(), 8 * static_cast<int>(1 + frame % 5000)});
     });
     window->settle();
 }

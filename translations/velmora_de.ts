@@ -189,6 +189,10 @@
         <source>There is not enough memory to load the instrument a second time.</source>
         <translation type="unfinished">Der Speicher reicht nicht aus, um das Instrument ein zweites Mal zu laden.</translation>
     </message>
+    <message>
+        <source>Rendering voice %1 of %2</source>
+        <translation type="unfinished">Stimme %1 von %2 wird gerechnet</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CircleTab</name>
@@ -376,16 +380,28 @@ Ziehen Sie einen Ton nach außen, um ihn zu erhöhen, und nach innen, um ihn zu 
 <context>
     <name>velmora::CommandPalette</name>
     <message>
-        <source>Find a command</source>
-        <translation type="unfinished">Befehl suchen</translation>
-    </message>
-    <message>
         <source>Commands</source>
         <translation type="unfinished">Befehle</translation>
     </message>
     <message>
         <source>%1 – %2</source>
         <translation type="unfinished">%1 – %2</translation>
+    </message>
+    <message>
+        <source>Find a command or a tuning</source>
+        <translation type="unfinished">Befehl oder Stimmung suchen</translation>
+    </message>
+    <message>
+        <source>Nothing has all these words.</source>
+        <translation type="unfinished">Nichts enthält all diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Stimmung</translation>
+    </message>
+    <message>
+        <source>Tuning – %1</source>
+        <translation type="unfinished">Stimmung – %1</translation>
     </message>
 </context>
 <context>
@@ -505,6 +521,25 @@ Ziehen Sie einen Ton nach außen, um ihn zu erhöhen, und nach innen, um ihn zu 
     <message>
         <source>How far the swell of %1 is open</source>
         <translation type="unfinished">Wie weit der Schweller von %1 offen ist</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ControllerLane</name>
+    <message>
+        <source>Click to draw how %1 moves, and drag what is there. A click with the right button deletes it. What is shown belongs to the chosen channel.</source>
+        <translation type="unfinished">Klicken zeichnet den Verlauf von „%1“, Ziehen verschiebt, was da ist. Ein Klick mit der rechten Taste löscht es. Gezeigt wird der gewählte Kanal.</translation>
+    </message>
+    <message>
+        <source>Delete Controller</source>
+        <translation type="unfinished">Controllerwert löschen</translation>
+    </message>
+    <message>
+        <source>Move Controller</source>
+        <translation type="unfinished">Controllerwert verschieben</translation>
+    </message>
+    <message>
+        <source>Draw Controller</source>
+        <translation type="unfinished">Controllerwert zeichnen</translation>
     </message>
 </context>
 <context>
@@ -715,6 +750,14 @@ Ein Klick zieht es oder stößt es ab</translation>
         <source>Sound notes that are pressed or drawn</source>
         <translation type="unfinished">Noten erklingen lassen, die angeklickt oder gezeichnet werden</translation>
     </message>
+    <message>
+        <source>Drag Selects Notes</source>
+        <translation type="unfinished">Ziehen wählt Noten aus</translation>
+    </message>
+    <message>
+        <source>Let a drag across an empty place select notes instead of a time</source>
+        <translation type="unfinished">Lässt Ziehen über eine leere Stelle Noten statt einer Zeit auswählen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ExportProgress</name>
@@ -795,6 +838,49 @@ Ein Klick zieht es oder stößt es ab</translation>
     <message>
         <source>The fifth %1 differs from a pure one by %2 cents.</source>
         <translation type="unfinished">Die Quinte %1 weicht um %2 Cent von einer reinen ab.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FitDialog</name>
+    <message>
+        <source>The notes with the bars and beats that were found</source>
+        <translation type="unfinished">Die Noten mit den gefundenen Takten und Schlägen</translation>
+    </message>
+    <message>
+        <source>Fit to Grid</source>
+        <translation type="unfinished">Ans Raster anpassen</translation>
+    </message>
+    <message>
+        <source>These bars and beats were found. Correct them if they are not yours; the piece is moved to them only then.</source>
+        <translation type="unfinished">Diese Takte und Schläge wurden gefunden. Berichtigen Sie sie, wenn es nicht Ihre sind; erst dann wird das Stück danach ausgerichtet.</translation>
+    </message>
+    <message>
+        <source>&amp;Half as Fast</source>
+        <translation type="unfinished">&amp;Halb so schnell</translation>
+    </message>
+    <message>
+        <source>&amp;Twice as Fast</source>
+        <translation type="unfinished">&amp;Doppelt so schnell</translation>
+    </message>
+    <message>
+        <source>Tempo:</source>
+        <translation type="unfinished">Tempo:</translation>
+    </message>
+    <message>
+        <source>&amp;Beats in a bar:</source>
+        <translation type="unfinished">&amp;Schläge im Takt:</translation>
+    </message>
+    <message>
+        <source>&amp;First bar begins at beat:</source>
+        <translation type="unfinished">&amp;Erster Takt beginnt mit Schlag:</translation>
+    </message>
+    <message>
+        <source>%1 beats per minute</source>
+        <translation type="unfinished">%1 Schläge pro Minute</translation>
+    </message>
+    <message>
+        <source>There are too few notes to find a tempo in.</source>
+        <translation type="unfinished">Es sind zu wenige Noten, um darin ein Tempo zu finden.</translation>
     </message>
 </context>
 <context>
@@ -1205,12 +1291,28 @@ Ein anderes Instrument wählen, öffnen oder entladen</translation>
         <translation type="unfinished">&amp;Keine Spur</translation>
     </message>
     <message>
-        <source>&amp;Velocities</source>
+        <source>&amp;Velocity</source>
         <translation type="unfinished">&amp;Anschlagstärken</translation>
     </message>
     <message>
         <source>&amp;Tempo and Signatures</source>
         <translation type="unfinished">&amp;Tempo und Vorzeichnung</translation>
+    </message>
+    <message>
+        <source>Sustain Pedal</source>
+        <translation type="unfinished">Haltepedal</translation>
+    </message>
+    <message>
+        <source>Pitch Wheel</source>
+        <translation type="unfinished">Tonhöhenrad</translation>
+    </message>
+    <message>
+        <source>Modulation</source>
+        <translation type="unfinished">Modulation</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation type="unfinished">Ausdruck</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1404,13 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Level</source>
         <translation type="unfinished">Pegel</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LyricsPanel</name>
+    <message>
+        <source>Lyrics</source>
+        <translation type="unfinished">Gesangstext</translation>
     </message>
 </context>
 <context>
@@ -1716,16 +1825,20 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">Üben</translation>
     </message>
     <message>
-        <source>Right: %1, wrong: %2, passes: %3</source>
-        <translation type="unfinished">Richtig: %1, falsch: %2, Durchgänge: %3</translation>
+        <source>Wait for missing keys</source>
+        <translation type="unfinished">Auf fehlende Tasten warten</translation>
+    </message>
+    <message>
+        <source>If it does not wait, the piece goes on, and what you leave out is missed</source>
+        <translation type="unfinished">Ohne Warten geht das Stück weiter, und was Sie auslassen, zählt als verpasst</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, missed: %3, passes: %4</source>
+        <translation type="unfinished">Richtig: %1, falsch: %2, verpasst: %3, Durchgänge: %4</translation>
     </message>
 </context>
 <context>
     <name>velmora::PracticePicture</name>
-    <message>
-        <source>Right and wrong keys (hatched) by bar</source>
-        <translation type="unfinished">Richtige und falsche (schraffierte) Tasten je Takt</translation>
-    </message>
     <message>
         <source>early</source>
         <translation type="unfinished">früh</translation>
@@ -1737,6 +1850,10 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>How early or late the keys were, in ms</source>
         <translation type="unfinished">Wie früh oder spät die Tasten waren, in ms</translation>
+    </message>
+    <message>
+        <source>Right, wrong (hatched) and missed (empty) keys by bar</source>
+        <translation type="unfinished">Richtige, falsche (schraffierte) und verpasste (leere) Tasten je Takt</translation>
     </message>
 </context>
 <context>
@@ -1774,7 +1891,7 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     </message>
     <message>
         <source>Save &amp;Picture…</source>
-        <translation type="unfinished">&amp;Bild speichern …</translation>
+        <translation type="unfinished">&amp;Bild speichern…</translation>
     </message>
     <message>
         <source>Practice: %1</source>
@@ -1786,16 +1903,16 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">%1 mit %2 %</translation>
     </message>
     <message>
-        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
-        <translation type="unfinished">Richtige Tasten: %1 (%2 früh, %3 spät), falsche Tasten: %4. Durchgänge: %5, ohne Fehler: %6.</translation>
-    </message>
-    <message>
         <source>On average the keys were %1 ms early.</source>
         <translation type="unfinished">Im Mittel waren die Tasten %1 ms zu früh.</translation>
     </message>
     <message>
         <source>On average the keys were %1 ms late.</source>
         <translation type="unfinished">Im Mittel waren die Tasten %1 ms zu spät.</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, without a mistake: %7.</source>
+        <translation type="unfinished">Richtige Tasten: %1 (%2 früh, %3 spät), falsche Tasten: %4, verpasste Tasten: %5. Durchgänge: %6, ohne Fehler: %7.</translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2285,30 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
             <numerusform>Aufnahme %1: %n Noten</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Fit to Grid…</source>
+        <translation type="unfinished">Ans Raster anpassen…</translation>
+    </message>
+    <message>
+        <source>Find the tempo and the bars of a free recording, and move it to them</source>
+        <translation type="unfinished">Tempo und Takte einer freien Aufnahme finden und sie danach ausrichten</translation>
+    </message>
+    <message>
+        <source>Thin Controllers…</source>
+        <translation type="unfinished">Controller ausdünnen…</translation>
+    </message>
+    <message>
+        <source>Leave out moves of controllers that nobody hears</source>
+        <translation type="unfinished">Bewegungen von Controllern weglassen, die niemand hört</translation>
+    </message>
+    <message>
+        <source>Thin Controllers</source>
+        <translation type="unfinished">Controller ausdünnen</translation>
+    </message>
+    <message>
+        <source>Leave out changes of at most this many of 127:</source>
+        <translation type="unfinished">Änderungen bis zu so vielen von 127 weglassen:</translation>
+    </message>
 </context>
 <context>
     <name>velmora::RollActions</name>
@@ -2178,6 +2319,53 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Lane</source>
         <translation type="unfinished">Spur</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom In</source>
+        <translation type="unfinished">Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom O&amp;ut</source>
+        <translation type="unfinished">Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Wider Keys</source>
+        <translation type="unfinished">B&amp;reitere Tasten</translation>
+    </message>
+    <message>
+        <source>N&amp;arrower Keys</source>
+        <translation type="unfinished">S&amp;chmalere Tasten</translation>
+    </message>
+    <message>
+        <source>Zoom to Selection</source>
+        <translation type="unfinished">Auf Auswahl zoomen</translation>
+    </message>
+    <message>
+        <source>Zoom to All Notes</source>
+        <translation type="unfinished">Auf alle Noten zoomen</translation>
+    </message>
+    <message>
+        <source>Time Runs Across</source>
+        <translation type="unfinished">Zeit läuft nach rechts</translation>
+    </message>
+    <message>
+        <source>Let time run from left to right instead of upwards</source>
+        <translation type="unfinished">Lässt die Zeit von links nach rechts statt nach oben laufen</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RollPaper</name>
+    <message>
+        <source>The piece is too long for this. Please take more bars for each line.</source>
+        <translation type="unfinished">Das Stück ist dafür zu lang. Bitte nehmen Sie mehr Takte für jede Zeile.</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The piece is too long for one picture. Please take more bars for each line, or write PDF.</source>
+        <translation type="unfinished">Das Stück ist zu lang für ein einziges Bild. Bitte nehmen Sie mehr Takte für jede Zeile, oder schreiben Sie PDF.</translation>
     </message>
 </context>
 <context>
@@ -2360,26 +2548,6 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">Bearbeiten</translation>
     </message>
     <message>
-        <source>&amp;Zoom In</source>
-        <translation type="unfinished">Ver&amp;größern</translation>
-    </message>
-    <message>
-        <source>Zoom O&amp;ut</source>
-        <translation type="unfinished">Ver&amp;kleinern</translation>
-    </message>
-    <message>
-        <source>&amp;Wider Keys</source>
-        <translation type="unfinished">B&amp;reitere Tasten</translation>
-    </message>
-    <message>
-        <source>N&amp;arrower Keys</source>
-        <translation type="unfinished">S&amp;chmalere Tasten</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation type="unfinished">Ansicht</translation>
-    </message>
-    <message>
         <source>Move Notes &amp;Up a Semitone</source>
         <translation type="unfinished">Noten einen Halbton &amp;höher</translation>
     </message>
@@ -2520,6 +2688,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
             <numerusform>Ändern der Anschlagstärke von %n Noten</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished">Aufnehmen</translation>
+    </message>
+    <message>
+        <source>Record Controllers</source>
+        <translation type="unfinished">Controller aufnehmen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequencePages</name>
@@ -2572,6 +2748,10 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
             <numerusform>%n Note konnte gelesen werden.</numerusform>
             <numerusform>%n Noten konnten gelesen werden.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>“%1” has stopped, because the voices of “%2” sound otherwise.</source>
+        <translation type="unfinished">„%1“ hat angehalten, weil die Stimmen von „%2“ anders klingen.</translation>
     </message>
 </context>
 <context>
@@ -2683,6 +2863,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Counting in</source>
         <translation type="unfinished">Es wird eingezählt</translation>
+    </message>
+    <message>
+        <source>Bar %1, beat %2 to bar %3, beat %4</source>
+        <translation type="unfinished">Takt %1, Schlag %2 bis Takt %3, Schlag %4</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation type="unfinished">Als Nächstes: %1</translation>
     </message>
 </context>
 <context>
@@ -3024,6 +3212,22 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Voices</source>
         <translation type="unfinished">Stimmen</translation>
+    </message>
+    <message>
+        <source>Export Voices…</source>
+        <translation type="unfinished">Stimmen exportieren…</translation>
+    </message>
+    <message>
+        <source>Write a sound file of each voice of the piece</source>
+        <translation type="unfinished">Von jeder Stimme des Stücks eine Klangdatei schreiben</translation>
+    </message>
+    <message>
+        <source>Export Roll…</source>
+        <translation type="unfinished">Pianorolle exportieren…</translation>
+    </message>
+    <message>
+        <source>Write the piano roll of the piece for paper, as PDF or PNG</source>
+        <translation type="unfinished">Die Pianorolle des Stücks für Papier schreiben, als PDF oder PNG</translation>
     </message>
 </context>
 <context>
@@ -3429,6 +3633,56 @@ Ein Klick zeigt alle Stimmungen</translation>
     </message>
 </context>
 <context>
+    <name>velmora::StemsDialog</name>
+    <message>
+        <source>Export Voices</source>
+        <translation type="unfinished">Stimmen exportieren</translation>
+    </message>
+    <message>
+        <source>Every voice that sounds is written to a sound file of its own. Muted voices are left out. Played together, the files sound like the piece.</source>
+        <translation type="unfinished">Jede Stimme, die klingt, wird in eine eigene Klangdatei geschrieben. Stumme Stimmen werden ausgelassen. Zusammen gespielt klingen die Dateien wie das Stück.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation type="unfinished">&amp;Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation type="unfinished">&amp;Exportieren</translation>
+    </message>
+    <message>
+        <source>F&amp;older:</source>
+        <translation type="unfinished">&amp;Ordner:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation type="unfinished">&amp;Format:</translation>
+    </message>
+    <message>
+        <source>Files:</source>
+        <translation type="unfinished">Dateien:</translation>
+    </message>
+    <message>
+        <source>No voice of the piece sounds.</source>
+        <translation type="unfinished">Keine Stimme des Stücks klingt.</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) already exist. Do you want to replace them?</source>
+        <translation type="unfinished">
+            <numerusform>%n Datei existiert bereits. Möchten Sie sie ersetzen?</numerusform>
+            <numerusform>%n Dateien existieren bereits. Möchten Sie sie ersetzen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The folder %1 does not exist and cannot be created.</source>
+        <translation type="unfinished">Der Ordner %1 existiert nicht und kann nicht angelegt werden.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::StopRow</name>
     <message>
         <source>%1: turn on or off (Space)</source>
@@ -3470,19 +3724,19 @@ Ein Klick zeigt alle Stimmungen</translation>
     <name>velmora::TimeEntryDialog</name>
     <message>
         <source>Add &amp;Tempo…</source>
-        <translation type="unfinished">&amp;Tempo hinzufügen …</translation>
+        <translation type="unfinished">&amp;Tempo hinzufügen…</translation>
     </message>
     <message>
         <source>Add Time &amp;Signature…</source>
-        <translation type="unfinished">T&amp;aktart hinzufügen …</translation>
+        <translation type="unfinished">T&amp;aktart hinzufügen…</translation>
     </message>
     <message>
         <source>Add &amp;Key Signature…</source>
-        <translation type="unfinished">T&amp;onart hinzufügen …</translation>
+        <translation type="unfinished">T&amp;onart hinzufügen…</translation>
     </message>
     <message>
         <source>Add &amp;Marker…</source>
-        <translation type="unfinished">&amp;Marke hinzufügen …</translation>
+        <translation type="unfinished">&amp;Marke hinzufügen…</translation>
     </message>
     <message>
         <source>Add Tempo</source>
@@ -3615,7 +3869,7 @@ Ein Klick zeigt alle Stimmungen</translation>
     </message>
     <message>
         <source>&amp;Change…</source>
-        <translation type="unfinished">Ä&amp;ndern …</translation>
+        <translation type="unfinished">Ä&amp;ndern…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -3856,6 +4110,14 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>Export Score</source>
         <translation type="unfinished">Partitur exportieren</translation>
+    </message>
+    <message>
+        <source>Export Roll</source>
+        <translation type="unfinished">Pianorolle exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Bars in a line:</source>
+        <translation type="unfinished">&amp;Takte in einer Zeile:</translation>
     </message>
 </context>
 <context>
@@ -4134,6 +4396,22 @@ Ein Klick zeigt alle Stimmungen</translation>
     <message>
         <source>Like the instrument</source>
         <translation type="unfinished">Wie das Instrument</translation>
+    </message>
+    <message>
+        <source>Select &amp;Notes</source>
+        <translation type="unfinished">&amp;Noten auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Mute</source>
+        <translation type="unfinished">&amp;Stumm</translation>
+    </message>
+    <message>
+        <source>&amp;Solo</source>
+        <translation type="unfinished">S&amp;olo</translation>
+    </message>
+    <message>
+        <source>&amp;Lock</source>
+        <translation type="unfinished">S&amp;perren</translation>
     </message>
 </context>
 <context>

@@ -228,6 +228,16 @@
     </message>
 </context>
 <context>
+    <name>velmora::StemsDialog</name>
+    <message numerus="yes">
+        <source>%n file(s) already exist. Do you want to replace them?</source>
+        <translation>
+            <numerusform>%n file already exists. Do you want to replace it?</numerusform>
+            <numerusform>%n files already exist. Do you want to replace them?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>velmora::TuningExports</name>
     <message numerus="yes">
         <source>A MIDI file has only 15 channels for notes of different pitch, so %n note(s) are up to %1 cents out of tune.</source>

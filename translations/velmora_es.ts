@@ -189,6 +189,10 @@
         <source>There is not enough memory to load the instrument a second time.</source>
         <translation type="unfinished">No hay memoria suficiente para cargar el instrumento por segunda vez.</translation>
     </message>
+    <message>
+        <source>Rendering voice %1 of %2</source>
+        <translation type="unfinished">Generando la voz %1 de %2</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CircleTab</name>
@@ -376,16 +380,28 @@ Arrastre una nota hacia fuera para subirla y hacia dentro para bajarla.</transla
 <context>
     <name>velmora::CommandPalette</name>
     <message>
-        <source>Find a command</source>
-        <translation type="unfinished">Buscar una orden</translation>
-    </message>
-    <message>
         <source>Commands</source>
         <translation type="unfinished">Órdenes</translation>
     </message>
     <message>
         <source>%1 – %2</source>
         <translation type="unfinished">%1 – %2</translation>
+    </message>
+    <message>
+        <source>Find a command or a tuning</source>
+        <translation type="unfinished">Buscar una orden o una afinación</translation>
+    </message>
+    <message>
+        <source>Nothing has all these words.</source>
+        <translation type="unfinished">Nada contiene todas estas palabras.</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Afinación</translation>
+    </message>
+    <message>
+        <source>Tuning – %1</source>
+        <translation type="unfinished">Afinación – %1</translation>
     </message>
 </context>
 <context>
@@ -505,6 +521,25 @@ Arrastre una nota hacia fuera para subirla y hacia dentro para bajarla.</transla
     <message>
         <source>How far the swell of %1 is open</source>
         <translation type="unfinished">Cuánto está abierta la expresión de %1</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ControllerLane</name>
+    <message>
+        <source>Click to draw how %1 moves, and drag what is there. A click with the right button deletes it. What is shown belongs to the chosen channel.</source>
+        <translation type="unfinished">Haga clic para dibujar el movimiento de «%1» y arrastre lo que hay. Un clic con el botón derecho lo borra. Se muestra el canal elegido.</translation>
+    </message>
+    <message>
+        <source>Delete Controller</source>
+        <translation type="unfinished">Borrar el controlador</translation>
+    </message>
+    <message>
+        <source>Move Controller</source>
+        <translation type="unfinished">Mover el controlador</translation>
+    </message>
+    <message>
+        <source>Draw Controller</source>
+        <translation type="unfinished">Dibujar el controlador</translation>
     </message>
 </context>
 <context>
@@ -715,6 +750,14 @@ Un clic lo saca o lo cierra</translation>
         <source>Sound notes that are pressed or drawn</source>
         <translation type="unfinished">Hacer sonar las notas que se pulsan o dibujan</translation>
     </message>
+    <message>
+        <source>Drag Selects Notes</source>
+        <translation type="unfinished">Arrastrar selecciona notas</translation>
+    </message>
+    <message>
+        <source>Let a drag across an empty place select notes instead of a time</source>
+        <translation type="unfinished">Hace que arrastrar por un lugar vacío seleccione notas y no un tiempo</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ExportProgress</name>
@@ -795,6 +838,49 @@ Un clic lo saca o lo cierra</translation>
     <message>
         <source>The fifth %1 differs from a pure one by %2 cents.</source>
         <translation type="unfinished">La quinta %1 difiere de una pura en %2 cents.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FitDialog</name>
+    <message>
+        <source>The notes with the bars and beats that were found</source>
+        <translation type="unfinished">Las notas con los compases y tiempos encontrados</translation>
+    </message>
+    <message>
+        <source>Fit to Grid</source>
+        <translation type="unfinished">Ajustar a la cuadrícula</translation>
+    </message>
+    <message>
+        <source>These bars and beats were found. Correct them if they are not yours; the piece is moved to them only then.</source>
+        <translation type="unfinished">Se han encontrado estos compases y tiempos. Corríjalos si no son los suyos; solo entonces se ajusta la pieza.</translation>
+    </message>
+    <message>
+        <source>&amp;Half as Fast</source>
+        <translation type="unfinished">A la &amp;mitad</translation>
+    </message>
+    <message>
+        <source>&amp;Twice as Fast</source>
+        <translation type="unfinished">Al d&amp;oble</translation>
+    </message>
+    <message>
+        <source>Tempo:</source>
+        <translation type="unfinished">Tempo:</translation>
+    </message>
+    <message>
+        <source>&amp;Beats in a bar:</source>
+        <translation type="unfinished">&amp;Tiempos por compás:</translation>
+    </message>
+    <message>
+        <source>&amp;First bar begins at beat:</source>
+        <translation type="unfinished">El &amp;primer compás empieza en el tiempo:</translation>
+    </message>
+    <message>
+        <source>%1 beats per minute</source>
+        <translation type="unfinished">%1 pulsaciones por minuto</translation>
+    </message>
+    <message>
+        <source>There are too few notes to find a tempo in.</source>
+        <translation type="unfinished">Hay muy pocas notas para encontrar un tempo.</translation>
     </message>
 </context>
 <context>
@@ -1205,12 +1291,28 @@ Elegir otro instrumento, abrir uno o retirarlo</translation>
         <translation type="unfinished">&amp;Ningún carril</translation>
     </message>
     <message>
-        <source>&amp;Velocities</source>
+        <source>&amp;Velocity</source>
         <translation type="unfinished">&amp;Velocidades</translation>
     </message>
     <message>
         <source>&amp;Tempo and Signatures</source>
         <translation type="unfinished">&amp;Tempo y compases</translation>
+    </message>
+    <message>
+        <source>Sustain Pedal</source>
+        <translation type="unfinished">Pedal de resonancia</translation>
+    </message>
+    <message>
+        <source>Pitch Wheel</source>
+        <translation type="unfinished">Rueda de afinación</translation>
+    </message>
+    <message>
+        <source>Modulation</source>
+        <translation type="unfinished">Modulación</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation type="unfinished">Expresión</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1404,13 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Level</source>
         <translation type="unfinished">Nivel</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LyricsPanel</name>
+    <message>
+        <source>Lyrics</source>
+        <translation type="unfinished">Letra</translation>
     </message>
 </context>
 <context>
@@ -1716,16 +1825,20 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <translation type="unfinished">Practicar</translation>
     </message>
     <message>
-        <source>Right: %1, wrong: %2, passes: %3</source>
-        <translation type="unfinished">Correctas: %1, incorrectas: %2, pasadas: %3</translation>
+        <source>Wait for missing keys</source>
+        <translation type="unfinished">Esperar las teclas que faltan</translation>
+    </message>
+    <message>
+        <source>If it does not wait, the piece goes on, and what you leave out is missed</source>
+        <translation type="unfinished">Si no espera, la pieza continúa y lo que usted omite cuenta como perdido</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, missed: %3, passes: %4</source>
+        <translation type="unfinished">Correctas: %1, incorrectas: %2, perdidas: %3, pasadas: %4</translation>
     </message>
 </context>
 <context>
     <name>velmora::PracticePicture</name>
-    <message>
-        <source>Right and wrong keys (hatched) by bar</source>
-        <translation type="unfinished">Teclas correctas e incorrectas (rayadas) por compás</translation>
-    </message>
     <message>
         <source>early</source>
         <translation type="unfinished">pronto</translation>
@@ -1737,6 +1850,10 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>How early or late the keys were, in ms</source>
         <translation type="unfinished">Cuánto se adelantaron o atrasaron las teclas, en ms</translation>
+    </message>
+    <message>
+        <source>Right, wrong (hatched) and missed (empty) keys by bar</source>
+        <translation type="unfinished">Teclas correctas, incorrectas (rayadas) y perdidas (vacías) por compás</translation>
     </message>
 </context>
 <context>
@@ -1786,16 +1903,16 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <translation type="unfinished">%1 al %2 %</translation>
     </message>
     <message>
-        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
-        <translation type="unfinished">Teclas correctas: %1 (%2 adelantadas, %3 atrasadas), incorrectas: %4. Pasadas: %5, sin errores: %6.</translation>
-    </message>
-    <message>
         <source>On average the keys were %1 ms early.</source>
         <translation type="unfinished">De media, las teclas se adelantaron %1 ms.</translation>
     </message>
     <message>
         <source>On average the keys were %1 ms late.</source>
         <translation type="unfinished">De media, las teclas se atrasaron %1 ms.</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, without a mistake: %7.</source>
+        <translation type="unfinished">Teclas correctas: %1 (%2 adelantadas, %3 atrasadas), incorrectas: %4, perdidas: %5. Pasadas: %6, sin errores: %7.</translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2285,30 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
             <numerusform>Toma %1: %n notas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Fit to Grid…</source>
+        <translation type="unfinished">Ajustar a la cuadrícula…</translation>
+    </message>
+    <message>
+        <source>Find the tempo and the bars of a free recording, and move it to them</source>
+        <translation type="unfinished">Encuentra el tempo y los compases de una grabación libre y la ajusta a ellos</translation>
+    </message>
+    <message>
+        <source>Thin Controllers…</source>
+        <translation type="unfinished">Aligerar los controladores…</translation>
+    </message>
+    <message>
+        <source>Leave out moves of controllers that nobody hears</source>
+        <translation type="unfinished">Omite los movimientos de controladores que nadie oye</translation>
+    </message>
+    <message>
+        <source>Thin Controllers</source>
+        <translation type="unfinished">Aligerar los controladores</translation>
+    </message>
+    <message>
+        <source>Leave out changes of at most this many of 127:</source>
+        <translation type="unfinished">Omitir cambios de hasta tantos de 127:</translation>
+    </message>
 </context>
 <context>
     <name>velmora::RollActions</name>
@@ -2178,6 +2319,53 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Lane</source>
         <translation type="unfinished">Carril</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom In</source>
+        <translation type="unfinished">&amp;Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom O&amp;ut</source>
+        <translation type="unfinished">&amp;Reducir</translation>
+    </message>
+    <message>
+        <source>&amp;Wider Keys</source>
+        <translation type="unfinished">Teclas más anc&amp;has</translation>
+    </message>
+    <message>
+        <source>N&amp;arrower Keys</source>
+        <translation type="unfinished">Tec&amp;las más estrechas</translation>
+    </message>
+    <message>
+        <source>Zoom to Selection</source>
+        <translation type="unfinished">Ajustar a la selección</translation>
+    </message>
+    <message>
+        <source>Zoom to All Notes</source>
+        <translation type="unfinished">Ajustar a todas las notas</translation>
+    </message>
+    <message>
+        <source>Time Runs Across</source>
+        <translation type="unfinished">El tiempo avanza hacia la derecha</translation>
+    </message>
+    <message>
+        <source>Let time run from left to right instead of upwards</source>
+        <translation type="unfinished">Hace que el tiempo avance de izquierda a derecha y no hacia arriba</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RollPaper</name>
+    <message>
+        <source>The piece is too long for this. Please take more bars for each line.</source>
+        <translation type="unfinished">La pieza es demasiado larga para esto. Elija más compases por línea.</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The piece is too long for one picture. Please take more bars for each line, or write PDF.</source>
+        <translation type="unfinished">La pieza es demasiado larga para una sola imagen. Elija más compases por línea o escriba PDF.</translation>
     </message>
 </context>
 <context>
@@ -2360,26 +2548,6 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <translation type="unfinished">Editar</translation>
     </message>
     <message>
-        <source>&amp;Zoom In</source>
-        <translation type="unfinished">&amp;Ampliar</translation>
-    </message>
-    <message>
-        <source>Zoom O&amp;ut</source>
-        <translation type="unfinished">&amp;Reducir</translation>
-    </message>
-    <message>
-        <source>&amp;Wider Keys</source>
-        <translation type="unfinished">Teclas más anc&amp;has</translation>
-    </message>
-    <message>
-        <source>N&amp;arrower Keys</source>
-        <translation type="unfinished">Tec&amp;las más estrechas</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation type="unfinished">Ver</translation>
-    </message>
-    <message>
         <source>Move Notes &amp;Up a Semitone</source>
         <translation type="unfinished">&amp;Subir las notas un semitono</translation>
     </message>
@@ -2520,6 +2688,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
             <numerusform>Cambiar la velocidad de %n notas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished">Grabar</translation>
+    </message>
+    <message>
+        <source>Record Controllers</source>
+        <translation type="unfinished">Grabar controladores</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequencePages</name>
@@ -2572,6 +2748,10 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
             <numerusform>Se ha podido leer %n nota.</numerusform>
             <numerusform>Se han podido leer %n notas.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>“%1” has stopped, because the voices of “%2” sound otherwise.</source>
+        <translation type="unfinished">«%1» se ha detenido, porque las voces de «%2» suenan de otro modo.</translation>
     </message>
 </context>
 <context>
@@ -2683,6 +2863,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Counting in</source>
         <translation type="unfinished">Contando los compases de entrada</translation>
+    </message>
+    <message>
+        <source>Bar %1, beat %2 to bar %3, beat %4</source>
+        <translation type="unfinished">Del compás %1, pulso %2 al compás %3, pulso %4</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation type="unfinished">A continuación: %1</translation>
     </message>
 </context>
 <context>
@@ -3024,6 +3212,22 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Voices</source>
         <translation type="unfinished">Voces</translation>
+    </message>
+    <message>
+        <source>Export Voices…</source>
+        <translation type="unfinished">Exportar voces…</translation>
+    </message>
+    <message>
+        <source>Write a sound file of each voice of the piece</source>
+        <translation type="unfinished">Escribir un archivo de sonido de cada voz de la pieza</translation>
+    </message>
+    <message>
+        <source>Export Roll…</source>
+        <translation type="unfinished">Exportar el rollo…</translation>
+    </message>
+    <message>
+        <source>Write the piano roll of the piece for paper, as PDF or PNG</source>
+        <translation type="unfinished">Escribir el rollo de pianola de la pieza para papel, como PDF o PNG</translation>
     </message>
 </context>
 <context>
@@ -3426,6 +3630,56 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>Leave out the stops that are not loaded yet</source>
         <translation type="unfinished">Omitir los registros que aún no se han cargado</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StemsDialog</name>
+    <message>
+        <source>Export Voices</source>
+        <translation type="unfinished">Exportar voces</translation>
+    </message>
+    <message>
+        <source>Every voice that sounds is written to a sound file of its own. Muted voices are left out. Played together, the files sound like the piece.</source>
+        <translation type="unfinished">Cada voz que suena se escribe en su propio archivo de sonido. Las voces silenciadas se omiten. Reproducidos juntos, los archivos suenan como la pieza.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation type="unfinished">E&amp;xaminar…</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation type="unfinished">&amp;Exportar</translation>
+    </message>
+    <message>
+        <source>F&amp;older:</source>
+        <translation type="unfinished">&amp;Carpeta:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation type="unfinished">&amp;Formato:</translation>
+    </message>
+    <message>
+        <source>Files:</source>
+        <translation type="unfinished">Archivos:</translation>
+    </message>
+    <message>
+        <source>No voice of the piece sounds.</source>
+        <translation type="unfinished">Ninguna voz de la pieza suena.</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) already exist. Do you want to replace them?</source>
+        <translation type="unfinished">
+            <numerusform>%n archivo ya existe. ¿Desea reemplazarlo?</numerusform>
+            <numerusform>%n archivos ya existen. ¿Desea reemplazarlos?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The folder %1 does not exist and cannot be created.</source>
+        <translation type="unfinished">La carpeta %1 no existe y no se puede crear.</translation>
     </message>
 </context>
 <context>
@@ -3857,6 +4111,14 @@ Haga clic para ver todas las afinaciones</translation>
         <source>Export Score</source>
         <translation type="unfinished">Exportar la partitura</translation>
     </message>
+    <message>
+        <source>Export Roll</source>
+        <translation type="unfinished">Exportar el rollo</translation>
+    </message>
+    <message>
+        <source>&amp;Bars in a line:</source>
+        <translation type="unfinished">&amp;Compases por línea:</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningPanel</name>
@@ -4134,6 +4396,22 @@ Haga clic para ver todas las afinaciones</translation>
     <message>
         <source>Like the instrument</source>
         <translation type="unfinished">Como el instrumento</translation>
+    </message>
+    <message>
+        <source>Select &amp;Notes</source>
+        <translation type="unfinished">Seleccionar las &amp;notas</translation>
+    </message>
+    <message>
+        <source>&amp;Mute</source>
+        <translation type="unfinished">&amp;Silenciar</translation>
+    </message>
+    <message>
+        <source>&amp;Solo</source>
+        <translation type="unfinished">S&amp;olo</translation>
+    </message>
+    <message>
+        <source>&amp;Lock</source>
+        <translation type="unfinished">&amp;Bloquear</translation>
     </message>
 </context>
 <context>

@@ -189,6 +189,10 @@
         <source>There is not enough memory to load the instrument a second time.</source>
         <translation type="unfinished">Il n’y a pas assez de mémoire pour charger l’instrument une seconde fois.</translation>
     </message>
+    <message>
+        <source>Rendering voice %1 of %2</source>
+        <translation type="unfinished">Rendu de la voix %1 sur %2</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CircleTab</name>
@@ -376,16 +380,28 @@ Tirez une note vers l’extérieur pour la hausser, vers l’intérieur pour la 
 <context>
     <name>velmora::CommandPalette</name>
     <message>
-        <source>Find a command</source>
-        <translation type="unfinished">Rechercher une commande</translation>
-    </message>
-    <message>
         <source>Commands</source>
         <translation type="unfinished">Commandes</translation>
     </message>
     <message>
         <source>%1 – %2</source>
         <translation type="unfinished">%1 – %2</translation>
+    </message>
+    <message>
+        <source>Find a command or a tuning</source>
+        <translation type="unfinished">Rechercher une commande ou un tempérament</translation>
+    </message>
+    <message>
+        <source>Nothing has all these words.</source>
+        <translation type="unfinished">Rien ne contient tous ces mots.</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Tempérament</translation>
+    </message>
+    <message>
+        <source>Tuning – %1</source>
+        <translation type="unfinished">Tempérament – %1</translation>
     </message>
 </context>
 <context>
@@ -505,6 +521,25 @@ Tirez une note vers l’extérieur pour la hausser, vers l’intérieur pour la 
     <message>
         <source>How far the swell of %1 is open</source>
         <translation type="unfinished">Ouverture de la boîte expressive : %1</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ControllerLane</name>
+    <message>
+        <source>Click to draw how %1 moves, and drag what is there. A click with the right button deletes it. What is shown belongs to the chosen channel.</source>
+        <translation type="unfinished">Cliquez pour dessiner le mouvement de « %1 » et faites glisser ce qui est là. Un clic droit l’efface. Le canal choisi est affiché.</translation>
+    </message>
+    <message>
+        <source>Delete Controller</source>
+        <translation type="unfinished">Supprimer le contrôleur</translation>
+    </message>
+    <message>
+        <source>Move Controller</source>
+        <translation type="unfinished">Déplacer le contrôleur</translation>
+    </message>
+    <message>
+        <source>Draw Controller</source>
+        <translation type="unfinished">Dessiner le contrôleur</translation>
     </message>
 </context>
 <context>
@@ -715,6 +750,14 @@ Un clic le tire ou le repousse</translation>
         <source>Sound notes that are pressed or drawn</source>
         <translation type="unfinished">Faire sonner les notes cliquées ou dessinées</translation>
     </message>
+    <message>
+        <source>Drag Selects Notes</source>
+        <translation type="unfinished">Glisser sélectionne des notes</translation>
+    </message>
+    <message>
+        <source>Let a drag across an empty place select notes instead of a time</source>
+        <translation type="unfinished">Fait que glisser sur un endroit vide sélectionne des notes et non un temps</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ExportProgress</name>
@@ -795,6 +838,49 @@ Un clic le tire ou le repousse</translation>
     <message>
         <source>The fifth %1 differs from a pure one by %2 cents.</source>
         <translation type="unfinished">La quinte %1 s’écarte de %2 cents d’une quinte pure.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FitDialog</name>
+    <message>
+        <source>The notes with the bars and beats that were found</source>
+        <translation type="unfinished">Les notes avec les mesures et les temps trouvés</translation>
+    </message>
+    <message>
+        <source>Fit to Grid</source>
+        <translation type="unfinished">Ajuster à la grille</translation>
+    </message>
+    <message>
+        <source>These bars and beats were found. Correct them if they are not yours; the piece is moved to them only then.</source>
+        <translation type="unfinished">Ces mesures et ces temps ont été trouvés. Corrigez-les si ce ne sont pas les vôtres ; le morceau n’y est ajusté qu’ensuite.</translation>
+    </message>
+    <message>
+        <source>&amp;Half as Fast</source>
+        <translation type="unfinished">&amp;Deux fois moins vite</translation>
+    </message>
+    <message>
+        <source>&amp;Twice as Fast</source>
+        <translation type="unfinished">Deux fois plus &amp;vite</translation>
+    </message>
+    <message>
+        <source>Tempo:</source>
+        <translation type="unfinished">Tempo :</translation>
+    </message>
+    <message>
+        <source>&amp;Beats in a bar:</source>
+        <translation type="unfinished">&amp;Temps par mesure :</translation>
+    </message>
+    <message>
+        <source>&amp;First bar begins at beat:</source>
+        <translation type="unfinished">La &amp;première mesure commence au temps :</translation>
+    </message>
+    <message>
+        <source>%1 beats per minute</source>
+        <translation type="unfinished">%1 battements par minute</translation>
+    </message>
+    <message>
+        <source>There are too few notes to find a tempo in.</source>
+        <translation type="unfinished">Il y a trop peu de notes pour y trouver un tempo.</translation>
     </message>
 </context>
 <context>
@@ -1205,12 +1291,28 @@ Choisir un autre instrument, en ouvrir ou en décharger un</translation>
         <translation type="unfinished">&amp;Aucune piste</translation>
     </message>
     <message>
-        <source>&amp;Velocities</source>
+        <source>&amp;Velocity</source>
         <translation type="unfinished">&amp;Vélocités</translation>
     </message>
     <message>
         <source>&amp;Tempo and Signatures</source>
         <translation type="unfinished">&amp;Tempo et mesures</translation>
+    </message>
+    <message>
+        <source>Sustain Pedal</source>
+        <translation type="unfinished">Pédale forte</translation>
+    </message>
+    <message>
+        <source>Pitch Wheel</source>
+        <translation type="unfinished">Molette de hauteur</translation>
+    </message>
+    <message>
+        <source>Modulation</source>
+        <translation type="unfinished">Modulation</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation type="unfinished">Expression</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1404,13 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Level</source>
         <translation type="unfinished">Niveau</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LyricsPanel</name>
+    <message>
+        <source>Lyrics</source>
+        <translation type="unfinished">Paroles</translation>
     </message>
 </context>
 <context>
@@ -1716,16 +1825,20 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <translation type="unfinished">S’exercer</translation>
     </message>
     <message>
-        <source>Right: %1, wrong: %2, passes: %3</source>
-        <translation type="unfinished">Justes : %1, fausses : %2, passages : %3</translation>
+        <source>Wait for missing keys</source>
+        <translation type="unfinished">Attendre les touches manquantes</translation>
+    </message>
+    <message>
+        <source>If it does not wait, the piece goes on, and what you leave out is missed</source>
+        <translation type="unfinished">Sans attente, le morceau continue et ce que vous omettez compte comme manqué</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, missed: %3, passes: %4</source>
+        <translation type="unfinished">Justes : %1, fausses : %2, manquées : %3, passages : %4</translation>
     </message>
 </context>
 <context>
     <name>velmora::PracticePicture</name>
-    <message>
-        <source>Right and wrong keys (hatched) by bar</source>
-        <translation type="unfinished">Touches justes et fausses (hachurées) par mesure</translation>
-    </message>
     <message>
         <source>early</source>
         <translation type="unfinished">en avance</translation>
@@ -1737,6 +1850,10 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>How early or late the keys were, in ms</source>
         <translation type="unfinished">Avance ou retard des touches, en ms</translation>
+    </message>
+    <message>
+        <source>Right, wrong (hatched) and missed (empty) keys by bar</source>
+        <translation type="unfinished">Touches justes, fausses (hachurées) et manquées (vides) par mesure</translation>
     </message>
 </context>
 <context>
@@ -1786,16 +1903,16 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <translation type="unfinished">%1 à %2 %</translation>
     </message>
     <message>
-        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
-        <translation type="unfinished">Touches justes : %1 (%2 en avance, %3 en retard), fausses : %4. Passages : %5, sans faute : %6.</translation>
-    </message>
-    <message>
         <source>On average the keys were %1 ms early.</source>
         <translation type="unfinished">En moyenne, les touches étaient en avance de %1 ms.</translation>
     </message>
     <message>
         <source>On average the keys were %1 ms late.</source>
         <translation type="unfinished">En moyenne, les touches étaient en retard de %1 ms.</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, without a mistake: %7.</source>
+        <translation type="unfinished">Touches justes : %1 (%2 en avance, %3 en retard), fausses : %4, manquées : %5. Passages : %6, sans faute : %7.</translation>
     </message>
 </context>
 <context>
@@ -2042,7 +2159,7 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     </message>
     <message>
         <source>Move the &amp;ends of notes as well</source>
-        <translation type="unfinished">Déplacer aussi les &amp;fins des notes</translation>
+        <translation type="unfinished">Déplacer aussi les f&amp;ins des notes</translation>
     </message>
     <message>
         <source>Quantise</source>
@@ -2168,6 +2285,30 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
             <numerusform>Prise %1 : %n notes</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Fit to Grid…</source>
+        <translation type="unfinished">Ajuster à la grille…</translation>
+    </message>
+    <message>
+        <source>Find the tempo and the bars of a free recording, and move it to them</source>
+        <translation type="unfinished">Trouve le tempo et les mesures d’un enregistrement libre et l’y ajuste</translation>
+    </message>
+    <message>
+        <source>Thin Controllers…</source>
+        <translation type="unfinished">Alléger les contrôleurs…</translation>
+    </message>
+    <message>
+        <source>Leave out moves of controllers that nobody hears</source>
+        <translation type="unfinished">Omet les mouvements de contrôleurs que personne n’entend</translation>
+    </message>
+    <message>
+        <source>Thin Controllers</source>
+        <translation type="unfinished">Alléger les contrôleurs</translation>
+    </message>
+    <message>
+        <source>Leave out changes of at most this many of 127:</source>
+        <translation type="unfinished">Omettre les changements d’au plus tant sur 127 :</translation>
+    </message>
 </context>
 <context>
     <name>velmora::RollActions</name>
@@ -2178,6 +2319,53 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Lane</source>
         <translation type="unfinished">Piste</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom In</source>
+        <translation type="unfinished">&amp;Zoom avant</translation>
+    </message>
+    <message>
+        <source>Zoom O&amp;ut</source>
+        <translation type="unfinished">Zoom a&amp;rrière</translation>
+    </message>
+    <message>
+        <source>&amp;Wider Keys</source>
+        <translation type="unfinished">Touches plus &amp;larges</translation>
+    </message>
+    <message>
+        <source>N&amp;arrower Keys</source>
+        <translation type="unfinished">Touches plus étr&amp;oites</translation>
+    </message>
+    <message>
+        <source>Zoom to Selection</source>
+        <translation type="unfinished">Zoomer sur la sélection</translation>
+    </message>
+    <message>
+        <source>Zoom to All Notes</source>
+        <translation type="unfinished">Zoomer sur toutes les notes</translation>
+    </message>
+    <message>
+        <source>Time Runs Across</source>
+        <translation type="unfinished">Le temps va vers la droite</translation>
+    </message>
+    <message>
+        <source>Let time run from left to right instead of upwards</source>
+        <translation type="unfinished">Fait aller le temps de gauche à droite et non vers le haut</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RollPaper</name>
+    <message>
+        <source>The piece is too long for this. Please take more bars for each line.</source>
+        <translation type="unfinished">La pièce est trop longue pour cela. Veuillez mettre plus de mesures par ligne.</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The piece is too long for one picture. Please take more bars for each line, or write PDF.</source>
+        <translation type="unfinished">La pièce est trop longue pour une seule image. Veuillez mettre plus de mesures par ligne, ou écrire un PDF.</translation>
     </message>
 </context>
 <context>
@@ -2360,26 +2548,6 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <translation type="unfinished">Édition</translation>
     </message>
     <message>
-        <source>&amp;Zoom In</source>
-        <translation type="unfinished">&amp;Zoom avant</translation>
-    </message>
-    <message>
-        <source>Zoom O&amp;ut</source>
-        <translation type="unfinished">Zoom a&amp;rrière</translation>
-    </message>
-    <message>
-        <source>&amp;Wider Keys</source>
-        <translation type="unfinished">Touches plus &amp;larges</translation>
-    </message>
-    <message>
-        <source>N&amp;arrower Keys</source>
-        <translation type="unfinished">Touches plus étr&amp;oites</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation type="unfinished">Affichage</translation>
-    </message>
-    <message>
         <source>Move Notes &amp;Up a Semitone</source>
         <translation type="unfinished">&amp;Monter les notes d’un demi-ton</translation>
     </message>
@@ -2520,6 +2688,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
             <numerusform>Changer la vélocité de %n notes</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished">Enregistrer</translation>
+    </message>
+    <message>
+        <source>Record Controllers</source>
+        <translation type="unfinished">Enregistrer les contrôleurs</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequencePages</name>
@@ -2572,6 +2748,10 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
             <numerusform>%n note a pu être lue.</numerusform>
             <numerusform>%n notes ont pu être lues.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>“%1” has stopped, because the voices of “%2” sound otherwise.</source>
+        <translation type="unfinished">« %1 » s’est arrêté, car les voix de « %2 » sonnent autrement.</translation>
     </message>
 </context>
 <context>
@@ -2683,6 +2863,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Counting in</source>
         <translation type="unfinished">Décompte en cours</translation>
+    </message>
+    <message>
+        <source>Bar %1, beat %2 to bar %3, beat %4</source>
+        <translation type="unfinished">De la mesure %1, temps %2 à la mesure %3, temps %4</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation type="unfinished">Ensuite : %1</translation>
     </message>
 </context>
 <context>
@@ -3024,6 +3212,22 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Voices</source>
         <translation type="unfinished">Voix</translation>
+    </message>
+    <message>
+        <source>Export Voices…</source>
+        <translation type="unfinished">Exporter les voix…</translation>
+    </message>
+    <message>
+        <source>Write a sound file of each voice of the piece</source>
+        <translation type="unfinished">Écrire un fichier son de chaque voix de la pièce</translation>
+    </message>
+    <message>
+        <source>Export Roll…</source>
+        <translation type="unfinished">Exporter le rouleau…</translation>
+    </message>
+    <message>
+        <source>Write the piano roll of the piece for paper, as PDF or PNG</source>
+        <translation type="unfinished">Écrire le piano roll de la pièce pour le papier, en PDF ou PNG</translation>
     </message>
 </context>
 <context>
@@ -3426,6 +3630,56 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>Leave out the stops that are not loaded yet</source>
         <translation type="unfinished">Omettre les jeux qui ne sont pas encore chargés</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StemsDialog</name>
+    <message>
+        <source>Export Voices</source>
+        <translation type="unfinished">Exporter les voix</translation>
+    </message>
+    <message>
+        <source>Every voice that sounds is written to a sound file of its own. Muted voices are left out. Played together, the files sound like the piece.</source>
+        <translation type="unfinished">Chaque voix qui sonne est écrite dans son propre fichier son. Les voix muettes sont omises. Joués ensemble, les fichiers sonnent comme la pièce.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation type="unfinished">&amp;Parcourir…</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation type="unfinished">&amp;Exporter</translation>
+    </message>
+    <message>
+        <source>F&amp;older:</source>
+        <translation type="unfinished">&amp;Dossier :</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation type="unfinished">&amp;Format :</translation>
+    </message>
+    <message>
+        <source>Files:</source>
+        <translation type="unfinished">Fichiers :</translation>
+    </message>
+    <message>
+        <source>No voice of the piece sounds.</source>
+        <translation type="unfinished">Aucune voix de la pièce ne sonne.</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) already exist. Do you want to replace them?</source>
+        <translation type="unfinished">
+            <numerusform>%n fichier existe déjà. Voulez-vous le remplacer ?</numerusform>
+            <numerusform>%n fichiers existent déjà. Voulez-vous les remplacer ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The folder %1 does not exist and cannot be created.</source>
+        <translation type="unfinished">Le dossier %1 n’existe pas et ne peut pas être créé.</translation>
     </message>
 </context>
 <context>
@@ -3857,6 +4111,14 @@ Cliquez pour afficher tous les tempéraments</translation>
         <source>Export Score</source>
         <translation type="unfinished">Exporter la partition</translation>
     </message>
+    <message>
+        <source>Export Roll</source>
+        <translation type="unfinished">Exporter le rouleau</translation>
+    </message>
+    <message>
+        <source>&amp;Bars in a line:</source>
+        <translation type="unfinished">&amp;Mesures par ligne :</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningPanel</name>
@@ -4134,6 +4396,22 @@ Cliquez pour afficher tous les tempéraments</translation>
     <message>
         <source>Like the instrument</source>
         <translation type="unfinished">Comme l’instrument</translation>
+    </message>
+    <message>
+        <source>Select &amp;Notes</source>
+        <translation type="unfinished">Sélectionner les &amp;notes</translation>
+    </message>
+    <message>
+        <source>&amp;Mute</source>
+        <translation type="unfinished">&amp;Muet</translation>
+    </message>
+    <message>
+        <source>&amp;Solo</source>
+        <translation type="unfinished">&amp;Solo</translation>
+    </message>
+    <message>
+        <source>&amp;Lock</source>
+        <translation type="unfinished">&amp;Verrouiller</translation>
     </message>
 </context>
 <context>

@@ -189,6 +189,10 @@
         <source>There is not enough memory to load the instrument a second time.</source>
         <translation type="unfinished">Non c’è abbastanza memoria per caricare lo strumento una seconda volta.</translation>
     </message>
+    <message>
+        <source>Rendering voice %1 of %2</source>
+        <translation type="unfinished">Rendering della voce %1 di %2</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CircleTab</name>
@@ -376,16 +380,28 @@ Trascinate una nota verso l’esterno per alzarla e verso l’interno per abbass
 <context>
     <name>velmora::CommandPalette</name>
     <message>
-        <source>Find a command</source>
-        <translation type="unfinished">Trova un comando</translation>
-    </message>
-    <message>
         <source>Commands</source>
         <translation type="unfinished">Comandi</translation>
     </message>
     <message>
         <source>%1 – %2</source>
         <translation type="unfinished">%1 – %2</translation>
+    </message>
+    <message>
+        <source>Find a command or a tuning</source>
+        <translation type="unfinished">Cerca un comando o un temperamento</translation>
+    </message>
+    <message>
+        <source>Nothing has all these words.</source>
+        <translation type="unfinished">Nulla contiene tutte queste parole.</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">Temperamento</translation>
+    </message>
+    <message>
+        <source>Tuning – %1</source>
+        <translation type="unfinished">Temperamento – %1</translation>
     </message>
 </context>
 <context>
@@ -505,6 +521,25 @@ Trascinate una nota verso l’esterno per alzarla e verso l’interno per abbass
     <message>
         <source>How far the swell of %1 is open</source>
         <translation type="unfinished">Quanto è aperta la cassa espressiva di %1</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ControllerLane</name>
+    <message>
+        <source>Click to draw how %1 moves, and drag what is there. A click with the right button deletes it. What is shown belongs to the chosen channel.</source>
+        <translation type="unfinished">Fare clic per disegnare il movimento di «%1» e trascinare ciò che c’è. Un clic destro lo elimina. È mostrato il canale scelto.</translation>
+    </message>
+    <message>
+        <source>Delete Controller</source>
+        <translation type="unfinished">Eliminare il controller</translation>
+    </message>
+    <message>
+        <source>Move Controller</source>
+        <translation type="unfinished">Spostare il controller</translation>
+    </message>
+    <message>
+        <source>Draw Controller</source>
+        <translation type="unfinished">Disegnare il controller</translation>
     </message>
 </context>
 <context>
@@ -715,6 +750,14 @@ Un clic lo tira o lo respinge</translation>
         <source>Sound notes that are pressed or drawn</source>
         <translation type="unfinished">Fa suonare le note premute o disegnate</translation>
     </message>
+    <message>
+        <source>Drag Selects Notes</source>
+        <translation type="unfinished">Trascinare seleziona note</translation>
+    </message>
+    <message>
+        <source>Let a drag across an empty place select notes instead of a time</source>
+        <translation type="unfinished">Trascinando su un punto vuoto si selezionano note e non un tempo</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ExportProgress</name>
@@ -795,6 +838,49 @@ Un clic lo tira o lo respinge</translation>
     <message>
         <source>The fifth %1 differs from a pure one by %2 cents.</source>
         <translation type="unfinished">La quinta %1 differisce da una pura di %2 cent.</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FitDialog</name>
+    <message>
+        <source>The notes with the bars and beats that were found</source>
+        <translation type="unfinished">Le note con le battute e i tempi trovati</translation>
+    </message>
+    <message>
+        <source>Fit to Grid</source>
+        <translation type="unfinished">Adattare alla griglia</translation>
+    </message>
+    <message>
+        <source>These bars and beats were found. Correct them if they are not yours; the piece is moved to them only then.</source>
+        <translation type="unfinished">Sono state trovate queste battute e questi tempi. Correggerli se non sono i propri; solo allora il brano viene adattato.</translation>
+    </message>
+    <message>
+        <source>&amp;Half as Fast</source>
+        <translation type="unfinished">&amp;Metà velocità</translation>
+    </message>
+    <message>
+        <source>&amp;Twice as Fast</source>
+        <translation type="unfinished">&amp;Doppia velocità</translation>
+    </message>
+    <message>
+        <source>Tempo:</source>
+        <translation type="unfinished">Tempo:</translation>
+    </message>
+    <message>
+        <source>&amp;Beats in a bar:</source>
+        <translation type="unfinished">&amp;Tempi per battuta:</translation>
+    </message>
+    <message>
+        <source>&amp;First bar begins at beat:</source>
+        <translation type="unfinished">La &amp;prima battuta inizia al tempo:</translation>
+    </message>
+    <message>
+        <source>%1 beats per minute</source>
+        <translation type="unfinished">%1 battiti al minuto</translation>
+    </message>
+    <message>
+        <source>There are too few notes to find a tempo in.</source>
+        <translation type="unfinished">Le note sono troppo poche per trovarvi un tempo.</translation>
     </message>
 </context>
 <context>
@@ -1205,12 +1291,28 @@ Scegli un altro strumento, aprine uno o rimuovilo dalla memoria</translation>
         <translation type="unfinished">&amp;Nessuna corsia</translation>
     </message>
     <message>
-        <source>&amp;Velocities</source>
+        <source>&amp;Velocity</source>
         <translation type="unfinished">&amp;Velocity</translation>
     </message>
     <message>
         <source>&amp;Tempo and Signatures</source>
         <translation type="unfinished">&amp;Tempo e misure</translation>
+    </message>
+    <message>
+        <source>Sustain Pedal</source>
+        <translation type="unfinished">Pedale di risonanza</translation>
+    </message>
+    <message>
+        <source>Pitch Wheel</source>
+        <translation type="unfinished">Rotella del pitch</translation>
+    </message>
+    <message>
+        <source>Modulation</source>
+        <translation type="unfinished">Modulazione</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation type="unfinished">Espressione</translation>
     </message>
 </context>
 <context>
@@ -1302,6 +1404,13 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Level</source>
         <translation type="unfinished">Livello</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LyricsPanel</name>
+    <message>
+        <source>Lyrics</source>
+        <translation type="unfinished">Testo cantato</translation>
     </message>
 </context>
 <context>
@@ -1716,16 +1825,20 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <translation type="unfinished">Esercitati</translation>
     </message>
     <message>
-        <source>Right: %1, wrong: %2, passes: %3</source>
-        <translation type="unfinished">Giuste: %1, sbagliate: %2, passaggi: %3</translation>
+        <source>Wait for missing keys</source>
+        <translation type="unfinished">Attendi i tasti mancanti</translation>
+    </message>
+    <message>
+        <source>If it does not wait, the piece goes on, and what you leave out is missed</source>
+        <translation type="unfinished">Senza attesa il brano prosegue e ciò che si omette conta come mancato</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, missed: %3, passes: %4</source>
+        <translation type="unfinished">Giuste: %1, sbagliate: %2, mancate: %3, passaggi: %4</translation>
     </message>
 </context>
 <context>
     <name>velmora::PracticePicture</name>
-    <message>
-        <source>Right and wrong keys (hatched) by bar</source>
-        <translation type="unfinished">Tasti giusti e sbagliati (tratteggiati) per battuta</translation>
-    </message>
     <message>
         <source>early</source>
         <translation type="unfinished">in anticipo</translation>
@@ -1737,6 +1850,10 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>How early or late the keys were, in ms</source>
         <translation type="unfinished">Anticipo o ritardo dei tasti, in ms</translation>
+    </message>
+    <message>
+        <source>Right, wrong (hatched) and missed (empty) keys by bar</source>
+        <translation type="unfinished">Tasti giusti, sbagliati (tratteggiati) e mancati (vuoti) per battuta</translation>
     </message>
 </context>
 <context>
@@ -1786,16 +1903,16 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <translation type="unfinished">%1 al %2 %</translation>
     </message>
     <message>
-        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
-        <translation type="unfinished">Tasti giusti: %1 (%2 in anticipo, %3 in ritardo), sbagliati: %4. Passaggi: %5, senza errori: %6.</translation>
-    </message>
-    <message>
         <source>On average the keys were %1 ms early.</source>
         <translation type="unfinished">In media i tasti erano in anticipo di %1 ms.</translation>
     </message>
     <message>
         <source>On average the keys were %1 ms late.</source>
         <translation type="unfinished">In media i tasti erano in ritardo di %1 ms.</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, without a mistake: %7.</source>
+        <translation type="unfinished">Tasti giusti: %1 (%2 in anticipo, %3 in ritardo), sbagliati: %4, mancati: %5. Passaggi: %6, senza errori: %7.</translation>
     </message>
 </context>
 <context>
@@ -2168,6 +2285,30 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
             <numerusform>Ripresa %1: %n note</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Fit to Grid…</source>
+        <translation type="unfinished">Adattare alla griglia…</translation>
+    </message>
+    <message>
+        <source>Find the tempo and the bars of a free recording, and move it to them</source>
+        <translation type="unfinished">Trova il tempo e le battute di una registrazione libera e la adatta a esse</translation>
+    </message>
+    <message>
+        <source>Thin Controllers…</source>
+        <translation type="unfinished">Sfoltire i controller…</translation>
+    </message>
+    <message>
+        <source>Leave out moves of controllers that nobody hears</source>
+        <translation type="unfinished">Omette i movimenti di controller che nessuno sente</translation>
+    </message>
+    <message>
+        <source>Thin Controllers</source>
+        <translation type="unfinished">Sfoltire i controller</translation>
+    </message>
+    <message>
+        <source>Leave out changes of at most this many of 127:</source>
+        <translation type="unfinished">Omettere le variazioni fino a tanti di 127:</translation>
+    </message>
 </context>
 <context>
     <name>velmora::RollActions</name>
@@ -2178,6 +2319,53 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Lane</source>
         <translation type="unfinished">Corsia</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom In</source>
+        <translation type="unfinished">In&amp;grandisci</translation>
+    </message>
+    <message>
+        <source>Zoom O&amp;ut</source>
+        <translation type="unfinished">&amp;Rimpicciolisci</translation>
+    </message>
+    <message>
+        <source>&amp;Wider Keys</source>
+        <translation type="unfinished">Tasti più &amp;larghi</translation>
+    </message>
+    <message>
+        <source>N&amp;arrower Keys</source>
+        <translation type="unfinished">Tasti p&amp;iù stretti</translation>
+    </message>
+    <message>
+        <source>Zoom to Selection</source>
+        <translation type="unfinished">Adatta alla selezione</translation>
+    </message>
+    <message>
+        <source>Zoom to All Notes</source>
+        <translation type="unfinished">Adatta a tutte le note</translation>
+    </message>
+    <message>
+        <source>Time Runs Across</source>
+        <translation type="unfinished">Il tempo scorre verso destra</translation>
+    </message>
+    <message>
+        <source>Let time run from left to right instead of upwards</source>
+        <translation type="unfinished">Fa scorrere il tempo da sinistra a destra e non verso l’alto</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RollPaper</name>
+    <message>
+        <source>The piece is too long for this. Please take more bars for each line.</source>
+        <translation type="unfinished">Il brano è troppo lungo per questo. Scegli più battute per riga.</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The piece is too long for one picture. Please take more bars for each line, or write PDF.</source>
+        <translation type="unfinished">Il brano è troppo lungo per una sola immagine. Scegli più battute per riga o scrivi un PDF.</translation>
     </message>
 </context>
 <context>
@@ -2360,26 +2548,6 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <translation type="unfinished">Modifica</translation>
     </message>
     <message>
-        <source>&amp;Zoom In</source>
-        <translation type="unfinished">In&amp;grandisci</translation>
-    </message>
-    <message>
-        <source>Zoom O&amp;ut</source>
-        <translation type="unfinished">&amp;Rimpicciolisci</translation>
-    </message>
-    <message>
-        <source>&amp;Wider Keys</source>
-        <translation type="unfinished">Tasti più &amp;larghi</translation>
-    </message>
-    <message>
-        <source>N&amp;arrower Keys</source>
-        <translation type="unfinished">Tasti p&amp;iù stretti</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation type="unfinished">Visualizza</translation>
-    </message>
-    <message>
         <source>Move Notes &amp;Up a Semitone</source>
         <translation type="unfinished">&amp;Alza le note di un semitono</translation>
     </message>
@@ -2520,6 +2688,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
             <numerusform>Cambia la velocity di %n note</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished">Registra</translation>
+    </message>
+    <message>
+        <source>Record Controllers</source>
+        <translation type="unfinished">Registrare i controller</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequencePages</name>
@@ -2572,6 +2748,10 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
             <numerusform>È stato possibile leggere %n nota.</numerusform>
             <numerusform>È stato possibile leggere %n note.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>“%1” has stopped, because the voices of “%2” sound otherwise.</source>
+        <translation type="unfinished">«%1» si è fermato, perché le voci di «%2» suonano diversamente.</translation>
     </message>
 </context>
 <context>
@@ -2683,6 +2863,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Counting in</source>
         <translation type="unfinished">Battute d’attacco in corso</translation>
+    </message>
+    <message>
+        <source>Bar %1, beat %2 to bar %3, beat %4</source>
+        <translation type="unfinished">Da battuta %1, movimento %2 a battuta %3, movimento %4</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation type="unfinished">Prossimo: %1</translation>
     </message>
 </context>
 <context>
@@ -3024,6 +3212,22 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Voices</source>
         <translation type="unfinished">Voci</translation>
+    </message>
+    <message>
+        <source>Export Voices…</source>
+        <translation type="unfinished">Esporta voci…</translation>
+    </message>
+    <message>
+        <source>Write a sound file of each voice of the piece</source>
+        <translation type="unfinished">Scrivi un file audio di ogni voce del brano</translation>
+    </message>
+    <message>
+        <source>Export Roll…</source>
+        <translation type="unfinished">Esporta il rullo…</translation>
+    </message>
+    <message>
+        <source>Write the piano roll of the piece for paper, as PDF or PNG</source>
+        <translation type="unfinished">Scrivi il piano roll del brano per la carta, come PDF o PNG</translation>
     </message>
 </context>
 <context>
@@ -3429,6 +3633,56 @@ Fai clic per mostrare tutti i temperamenti</translation>
     </message>
 </context>
 <context>
+    <name>velmora::StemsDialog</name>
+    <message>
+        <source>Export Voices</source>
+        <translation type="unfinished">Esporta voci</translation>
+    </message>
+    <message>
+        <source>Every voice that sounds is written to a sound file of its own. Muted voices are left out. Played together, the files sound like the piece.</source>
+        <translation type="unfinished">Ogni voce che suona viene scritta in un file audio proprio. Le voci silenziate vengono tralasciate. Riprodotti insieme, i file suonano come il brano.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation type="unfinished">S&amp;foglia…</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation type="unfinished">&amp;Esporta</translation>
+    </message>
+    <message>
+        <source>F&amp;older:</source>
+        <translation type="unfinished">&amp;Cartella:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation type="unfinished">Fo&amp;rmato:</translation>
+    </message>
+    <message>
+        <source>Files:</source>
+        <translation type="unfinished">File:</translation>
+    </message>
+    <message>
+        <source>No voice of the piece sounds.</source>
+        <translation type="unfinished">Nessuna voce del brano suona.</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) already exist. Do you want to replace them?</source>
+        <translation type="unfinished">
+            <numerusform>%n file esiste già. Vuoi sostituirlo?</numerusform>
+            <numerusform>%n file esistono già. Vuoi sostituirli?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The folder %1 does not exist and cannot be created.</source>
+        <translation type="unfinished">La cartella %1 non esiste e non può essere creata.</translation>
+    </message>
+</context>
+<context>
     <name>velmora::StopRow</name>
     <message>
         <source>%1: turn on or off (Space)</source>
@@ -3600,7 +3854,7 @@ Fai clic per mostrare tutti i temperamenti</translation>
     </message>
     <message>
         <source>B&amp;eat:</source>
-        <translation type="unfinished">Mo&amp;vimento:</translation>
+        <translation type="unfinished">Movi&amp;mento:</translation>
     </message>
 </context>
 <context>
@@ -3856,6 +4110,14 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>Export Score</source>
         <translation type="unfinished">Esporta la partitura</translation>
+    </message>
+    <message>
+        <source>Export Roll</source>
+        <translation type="unfinished">Esporta il rullo</translation>
+    </message>
+    <message>
+        <source>&amp;Bars in a line:</source>
+        <translation type="unfinished">&amp;Battute per riga:</translation>
     </message>
 </context>
 <context>
@@ -4134,6 +4396,22 @@ Fai clic per mostrare tutti i temperamenti</translation>
     <message>
         <source>Like the instrument</source>
         <translation type="unfinished">Come lo strumento</translation>
+    </message>
+    <message>
+        <source>Select &amp;Notes</source>
+        <translation type="unfinished">Seleziona le &amp;note</translation>
+    </message>
+    <message>
+        <source>&amp;Mute</source>
+        <translation type="unfinished">&amp;Muto</translation>
+    </message>
+    <message>
+        <source>&amp;Solo</source>
+        <translation type="unfinished">&amp;Solo</translation>
+    </message>
+    <message>
+        <source>&amp;Lock</source>
+        <translation type="unfinished">&amp;Blocca</translation>
     </message>
 </context>
 <context>

@@ -187,6 +187,10 @@
         <source>There is not enough memory to load the instrument a second time.</source>
         <translation type="unfinished">楽器をもう一つ読み込むためのメモリーが足りません。</translation>
     </message>
+    <message>
+        <source>Rendering voice %1 of %2</source>
+        <translation type="unfinished">声部を書き出し中 (%1/%2)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::CircleTab</name>
@@ -374,16 +378,28 @@ Drag a note outwards to raise it, and inwards to lower it.</source>
 <context>
     <name>velmora::CommandPalette</name>
     <message>
-        <source>Find a command</source>
-        <translation type="unfinished">コマンドを検索</translation>
-    </message>
-    <message>
         <source>Commands</source>
         <translation type="unfinished">コマンド</translation>
     </message>
     <message>
         <source>%1 – %2</source>
         <translation type="unfinished">%1 – %2</translation>
+    </message>
+    <message>
+        <source>Find a command or a tuning</source>
+        <translation type="unfinished">コマンドまたは調律を検索</translation>
+    </message>
+    <message>
+        <source>Nothing has all these words.</source>
+        <translation type="unfinished">これらの語をすべて含むものはありません。</translation>
+    </message>
+    <message>
+        <source>Tuning</source>
+        <translation type="unfinished">調律</translation>
+    </message>
+    <message>
+        <source>Tuning – %1</source>
+        <translation type="unfinished">調律 – %1</translation>
     </message>
 </context>
 <context>
@@ -503,6 +519,25 @@ Drag a note outwards to raise it, and inwards to lower it.</source>
     <message>
         <source>How far the swell of %1 is open</source>
         <translation type="unfinished">%1 のスウェルの開き具合</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::ControllerLane</name>
+    <message>
+        <source>Click to draw how %1 moves, and drag what is there. A click with the right button deletes it. What is shown belongs to the chosen channel.</source>
+        <translation type="unfinished">クリックで「%1」の動きを描き、ドラッグで動かします。右クリックで削除します。選んだチャンネルの動きが表示されます。</translation>
+    </message>
+    <message>
+        <source>Delete Controller</source>
+        <translation type="unfinished">コントローラーを削除</translation>
+    </message>
+    <message>
+        <source>Move Controller</source>
+        <translation type="unfinished">コントローラーを移動</translation>
+    </message>
+    <message>
+        <source>Draw Controller</source>
+        <translation type="unfinished">コントローラーを描画</translation>
     </message>
 </context>
 <context>
@@ -713,6 +748,14 @@ A click draws it or pushes it in</source>
         <source>Sound notes that are pressed or drawn</source>
         <translation type="unfinished">クリックまたは描画した音符を鳴らします</translation>
     </message>
+    <message>
+        <source>Drag Selects Notes</source>
+        <translation type="unfinished">ドラッグで音符を選択</translation>
+    </message>
+    <message>
+        <source>Let a drag across an empty place select notes instead of a time</source>
+        <translation type="unfinished">空いた場所をドラッグすると、時間ではなく音符を選択します</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ExportProgress</name>
@@ -793,6 +836,49 @@ A click draws it or pushes it in</source>
     <message>
         <source>The fifth %1 differs from a pure one by %2 cents.</source>
         <translation type="unfinished">5度 %1 は純正と %2 セント異なります。</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::FitDialog</name>
+    <message>
+        <source>The notes with the bars and beats that were found</source>
+        <translation type="unfinished">見つかった小節と拍を重ねた音符</translation>
+    </message>
+    <message>
+        <source>Fit to Grid</source>
+        <translation type="unfinished">グリッドに合わせる</translation>
+    </message>
+    <message>
+        <source>These bars and beats were found. Correct them if they are not yours; the piece is moved to them only then.</source>
+        <translation type="unfinished">見つかった小節と拍です。違う場合は直してください。曲はその後で合わせられます。</translation>
+    </message>
+    <message>
+        <source>&amp;Half as Fast</source>
+        <translation type="unfinished">半分の速さ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Twice as Fast</source>
+        <translation type="unfinished">2 倍の速さ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Tempo:</source>
+        <translation type="unfinished">テンポ:</translation>
+    </message>
+    <message>
+        <source>&amp;Beats in a bar:</source>
+        <translation type="unfinished">1 小節の拍数(&amp;B):</translation>
+    </message>
+    <message>
+        <source>&amp;First bar begins at beat:</source>
+        <translation type="unfinished">最初の小節が始まる拍(&amp;F):</translation>
+    </message>
+    <message>
+        <source>%1 beats per minute</source>
+        <translation type="unfinished">毎分 %1 拍</translation>
+    </message>
+    <message>
+        <source>There are too few notes to find a tempo in.</source>
+        <translation type="unfinished">音符が少なすぎてテンポを見つけられません。</translation>
     </message>
 </context>
 <context>
@@ -1201,12 +1287,28 @@ Choose another instrument, open or unload one</source>
         <translation type="unfinished">レーンなし(&amp;N)</translation>
     </message>
     <message>
-        <source>&amp;Velocities</source>
+        <source>&amp;Velocity</source>
         <translation type="unfinished">ベロシティ(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Tempo and Signatures</source>
         <translation type="unfinished">テンポと拍子(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Sustain Pedal</source>
+        <translation type="unfinished">サステインペダル</translation>
+    </message>
+    <message>
+        <source>Pitch Wheel</source>
+        <translation type="unfinished">ピッチホイール</translation>
+    </message>
+    <message>
+        <source>Modulation</source>
+        <translation type="unfinished">モジュレーション</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation type="unfinished">エクスプレッション</translation>
     </message>
 </context>
 <context>
@@ -1298,6 +1400,13 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Level</source>
         <translation type="unfinished">レベル</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::LyricsPanel</name>
+    <message>
+        <source>Lyrics</source>
+        <translation type="unfinished">歌詞</translation>
     </message>
 </context>
 <context>
@@ -1710,16 +1819,20 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <translation type="unfinished">練習する</translation>
     </message>
     <message>
-        <source>Right: %1, wrong: %2, passes: %3</source>
-        <translation type="unfinished">正: %1、誤: %2、回数: %3</translation>
+        <source>Wait for missing keys</source>
+        <translation type="unfinished">足りない鍵を待つ</translation>
+    </message>
+    <message>
+        <source>If it does not wait, the piece goes on, and what you leave out is missed</source>
+        <translation type="unfinished">待たない場合は曲が進み、弾かなかった音は「抜け」になります</translation>
+    </message>
+    <message>
+        <source>Right: %1, wrong: %2, missed: %3, passes: %4</source>
+        <translation type="unfinished">正: %1、誤: %2、抜け: %3、回数: %4</translation>
     </message>
 </context>
 <context>
     <name>velmora::PracticePicture</name>
-    <message>
-        <source>Right and wrong keys (hatched) by bar</source>
-        <translation type="unfinished">小節ごとの正しい鍵と誤った鍵（斜線）</translation>
-    </message>
     <message>
         <source>early</source>
         <translation type="unfinished">早い</translation>
@@ -1731,6 +1844,10 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>How early or late the keys were, in ms</source>
         <translation type="unfinished">鍵の早さ・遅さ (ms)</translation>
+    </message>
+    <message>
+        <source>Right, wrong (hatched) and missed (empty) keys by bar</source>
+        <translation type="unfinished">小節ごとの正しい鍵、誤った鍵（斜線）、抜けた鍵（枠）</translation>
     </message>
 </context>
 <context>
@@ -1780,16 +1897,16 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <translation type="unfinished">%1（%2 %）</translation>
     </message>
     <message>
-        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.</source>
-        <translation type="unfinished">正しい鍵: %1（早い %2、遅い %3）、誤った鍵: %4。回数: %5、間違いなし: %6。</translation>
-    </message>
-    <message>
         <source>On average the keys were %1 ms early.</source>
         <translation type="unfinished">鍵は平均で %1 ms 早く弾かれました。</translation>
     </message>
     <message>
         <source>On average the keys were %1 ms late.</source>
         <translation type="unfinished">鍵は平均で %1 ms 遅く弾かれました。</translation>
+    </message>
+    <message>
+        <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, without a mistake: %7.</source>
+        <translation type="unfinished">正しい鍵: %1（早い %2、遅い %3）、誤った鍵: %4、抜けた鍵: %5。回数: %6、間違いなし: %7。</translation>
     </message>
 </context>
 <context>
@@ -2159,6 +2276,30 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
             <numerusform>テイク %1: %n 音</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Fit to Grid…</source>
+        <translation type="unfinished">グリッドに合わせる…</translation>
+    </message>
+    <message>
+        <source>Find the tempo and the bars of a free recording, and move it to them</source>
+        <translation type="unfinished">自由な録音のテンポと小節を見つけ、それに合わせます</translation>
+    </message>
+    <message>
+        <source>Thin Controllers…</source>
+        <translation type="unfinished">コントローラーを間引く…</translation>
+    </message>
+    <message>
+        <source>Leave out moves of controllers that nobody hears</source>
+        <translation type="unfinished">聞こえないコントローラーの動きを省きます</translation>
+    </message>
+    <message>
+        <source>Thin Controllers</source>
+        <translation type="unfinished">コントローラーを間引く</translation>
+    </message>
+    <message>
+        <source>Leave out changes of at most this many of 127:</source>
+        <translation type="unfinished">127 段階のうち、この値以下の変化を省く:</translation>
+    </message>
 </context>
 <context>
     <name>velmora::RollActions</name>
@@ -2169,6 +2310,53 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Lane</source>
         <translation type="unfinished">レーン</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom In</source>
+        <translation type="unfinished">拡大(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Zoom O&amp;ut</source>
+        <translation type="unfinished">縮小(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Wider Keys</source>
+        <translation type="unfinished">鍵を広く(&amp;W)</translation>
+    </message>
+    <message>
+        <source>N&amp;arrower Keys</source>
+        <translation type="unfinished">鍵を狭く(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Zoom to Selection</source>
+        <translation type="unfinished">選択範囲に合わせる</translation>
+    </message>
+    <message>
+        <source>Zoom to All Notes</source>
+        <translation type="unfinished">すべての音符に合わせる</translation>
+    </message>
+    <message>
+        <source>Time Runs Across</source>
+        <translation type="unfinished">時間を右へ進める</translation>
+    </message>
+    <message>
+        <source>Let time run from left to right instead of upwards</source>
+        <translation type="unfinished">時間を上ではなく左から右へ進めます</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::RollPaper</name>
+    <message>
+        <source>The piece is too long for this. Please take more bars for each line.</source>
+        <translation type="unfinished">曲が長すぎます。1 行の小節数を増やしてください。</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation type="unfinished">%1 / %2</translation>
+    </message>
+    <message>
+        <source>The piece is too long for one picture. Please take more bars for each line, or write PDF.</source>
+        <translation type="unfinished">曲が長すぎて 1 枚の画像になりません。1 行の小節数を増やすか、PDF で書き出してください。</translation>
     </message>
 </context>
 <context>
@@ -2351,26 +2539,6 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <translation type="unfinished">編集</translation>
     </message>
     <message>
-        <source>&amp;Zoom In</source>
-        <translation type="unfinished">拡大(&amp;Z)</translation>
-    </message>
-    <message>
-        <source>Zoom O&amp;ut</source>
-        <translation type="unfinished">縮小(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Wider Keys</source>
-        <translation type="unfinished">鍵を広く(&amp;W)</translation>
-    </message>
-    <message>
-        <source>N&amp;arrower Keys</source>
-        <translation type="unfinished">鍵を狭く(&amp;A)</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation type="unfinished">表示</translation>
-    </message>
-    <message>
         <source>Move Notes &amp;Up a Semitone</source>
         <translation type="unfinished">音符を半音上げる(&amp;U)</translation>
     </message>
@@ -2497,6 +2665,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
             <numerusform>%n 個の音符のベロシティの変更</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished">録音</translation>
+    </message>
+    <message>
+        <source>Record Controllers</source>
+        <translation type="unfinished">コントローラーを録音</translation>
+    </message>
 </context>
 <context>
     <name>velmora::SequencePages</name>
@@ -2547,6 +2723,10 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <translation type="unfinished">
             <numerusform>%n 個の音符を読み込めました。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>“%1” has stopped, because the voices of “%2” sound otherwise.</source>
+        <translation type="unfinished">「%2」の声部は音色が異なるため、「%1」を停止しました。</translation>
     </message>
 </context>
 <context>
@@ -2656,6 +2836,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Counting in</source>
         <translation type="unfinished">カウントイン中</translation>
+    </message>
+    <message>
+        <source>Bar %1, beat %2 to bar %3, beat %4</source>
+        <translation type="unfinished">%1小節 %2拍〜%3小節 %4拍</translation>
+    </message>
+    <message>
+        <source>Next: %1</source>
+        <translation type="unfinished">次: %1</translation>
     </message>
 </context>
 <context>
@@ -2997,6 +3185,22 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Voices</source>
         <translation type="unfinished">発音数</translation>
+    </message>
+    <message>
+        <source>Export Voices…</source>
+        <translation type="unfinished">声部を書き出し…</translation>
+    </message>
+    <message>
+        <source>Write a sound file of each voice of the piece</source>
+        <translation type="unfinished">曲の声部ごとにサウンドファイルを書き出します</translation>
+    </message>
+    <message>
+        <source>Export Roll…</source>
+        <translation type="unfinished">ピアノロールを書き出し…</translation>
+    </message>
+    <message>
+        <source>Write the piano roll of the piece for paper, as PDF or PNG</source>
+        <translation type="unfinished">曲のピアノロールを印刷用に PDF または PNG で書き出します</translation>
     </message>
 </context>
 <context>
@@ -3398,6 +3602,55 @@ Click to show all tunings</source>
     <message>
         <source>Leave out the stops that are not loaded yet</source>
         <translation type="unfinished">まだ読み込まれていないストップを除外します</translation>
+    </message>
+</context>
+<context>
+    <name>velmora::StemsDialog</name>
+    <message>
+        <source>Export Voices</source>
+        <translation type="unfinished">声部の書き出し</translation>
+    </message>
+    <message>
+        <source>Every voice that sounds is written to a sound file of its own. Muted voices are left out. Played together, the files sound like the piece.</source>
+        <translation type="unfinished">鳴る声部をそれぞれ別のサウンドファイルに書き出します。ミュートした声部は除きます。すべて同時に再生すると元の曲になります。</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation type="unfinished">参照(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation type="unfinished">書き出し(&amp;E)</translation>
+    </message>
+    <message>
+        <source>F&amp;older:</source>
+        <translation type="unfinished">フォルダー(&amp;O):</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation type="unfinished">形式(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Files:</source>
+        <translation type="unfinished">ファイル:</translation>
+    </message>
+    <message>
+        <source>No voice of the piece sounds.</source>
+        <translation type="unfinished">鳴る声部がありません。</translation>
+    </message>
+    <message>
+        <source>Velmora</source>
+        <translation type="unfinished">Velmora</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) already exist. Do you want to replace them?</source>
+        <translation type="unfinished">
+            <numerusform>%n 個のファイルが既に存在します。置き換えますか?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The folder %1 does not exist and cannot be created.</source>
+        <translation type="unfinished">フォルダー %1 は存在せず、作成できません。</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +4081,14 @@ Click to show all tunings</source>
         <source>Export Score</source>
         <translation type="unfinished">楽譜を書き出す</translation>
     </message>
+    <message>
+        <source>Export Roll</source>
+        <translation type="unfinished">ピアノロールの書き出し</translation>
+    </message>
+    <message>
+        <source>&amp;Bars in a line:</source>
+        <translation type="unfinished">1 行の小節数(&amp;B):</translation>
+    </message>
 </context>
 <context>
     <name>velmora::TuningPanel</name>
@@ -4105,6 +4366,22 @@ Click to show all tunings</source>
     <message>
         <source>Like the instrument</source>
         <translation type="unfinished">楽器と同じ</translation>
+    </message>
+    <message>
+        <source>Select &amp;Notes</source>
+        <translation type="unfinished">音符を選択(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Mute</source>
+        <translation type="unfinished">ミュート(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Solo</source>
+        <translation type="unfinished">ソロ(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Lock</source>
+        <translation type="unfinished">ロック(&amp;L)</translation>
     </message>
 </context>
 <context>

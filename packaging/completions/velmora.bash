@@ -5,7 +5,7 @@ _velmora()
     local word=$2 previous=$3 command=${COMP_WORDS[1]} options
     case $command in
         render) options="--help --output --tuning --mapping --root --a --program --bank --instrument --as-stops --plain --stop --rate --tail
-            --loop-start --loop-end --loops --tempo --voice" ;;
+            --loop-start --loop-end --loops --tempo --voice --stems" ;;
         live) options="--help --tuning --mapping --root --a --program --bank --instrument --as-stops --stop --plain --output --period" ;;
         info) options="--help --json --as-stops --plain --mapping --root --a" ;;
         doctor) options="--help --json" ;;
@@ -23,6 +23,7 @@ _velmora()
             COMPREPLY=($(compgen -W "Equal meantone Dynamic" -- "$word"))
             files='scl|ascl|tun|mtx'
             ;;
+        *:--stems) COMPREPLY=($(compgen -d -- "$word")) ;;
         *:--mapping) files='kbm' ;;
         *:--root) COMPREPLY=($(compgen -W "C C# D Eb E F F# G G# A Bb B" -- "$word")) ;;
         *:--a) COMPREPLY=($(compgen -W "392 415 430 440 442 466" -- "$word")) ;;

@@ -29,6 +29,7 @@ complete -c velmora -n $playing -l instrument -r -d "Sampled instrument"
 complete -c velmora -n $playing -l stop -x -d "Gain of a stop, as in 0=0.8"
 
 complete -c velmora -n $render -s o -l output -r -d "File to write"
+complete -c velmora -n $render -l stems -x -a "(__fish_complete_directories)" -d "Folder for a file of each voice"
 complete -c velmora -n $render -l rate -x -d "Frames per second"
 complete -c velmora -n $render -l tail -x -d "Seconds to continue after the end"
 complete -c velmora -n $render -l loop-start -x -d "First step to play"

@@ -1,8 +1,5 @@
 #include "app/AudioExport.h"
 
-#include "app/SequenceRenderer.h"
-#include "audio/AudioFileWriter.h"
-
 #include <sys/resource.h>
 
 #include <algorithm>
@@ -20,12 +17,17 @@ constexpr int kNiceness = 10;
 /// Reports progress once per percent.
 class Progress : public InstrumentHost {
 public:
-    Progress(AudioExport& audioExport, bool correctsTuning, std::stop_token stop)
-        : export_(audioExport), correctsTuning_(correctsTuning), stop_(std::move(stop))
+    Progress(AudioExport& audioExport, bool correctsTuning, std::size_t files, std::stop_token stop)
+        : export_(audioExport), correctsTuning_(correctsTuning), files_(files),
+          stop_(std::move(stop))
     {
     }
 
-    void startProgress(long steps) override { steps_ = std::max(steps, 1L); }
+    void startProgress(long steps) override
+    {
+        steps_ = std::max(steps, 1L);
+        done_ = 0;
+    }
 
     void updateProgress(unsigned steps, const std::string& /*text*/) override
     {
@@ -38,9 +40,11 @@ public:
     bool correctsTuning() const override { return correctsTuning_; }
 
     /// Returns false if the export was cancelled.
-    bool rendered(double done)
+    bool rendered(std::size_t file, double done)
     {
-        tell(AudioExport::tr("Rendering"), done);
+        tell(files_ == 1 ? AudioExport::tr("Rendering")
+                         : AudioExport::tr("Rendering voice %1 of %2").arg(file + 1).arg(files_),
+             done);
         return !isCancelled();
     }
 
@@ -57,6 +61,7 @@ private:
 
     AudioExport& export_;
     const bool correctsTuning_;
+    const std::size_t files_;
     std::stop_token stop_;
     long steps_ = 1, done_ = 0;
     QString what_;
@@ -68,21 +73,20 @@ private:
 AudioExport::~AudioExport() = default;
 
 void AudioExport::start(SoundSettings sound, UnsavedSequence sequence, double speed,
-                        std::filesystem::path file)
+                        std::vector<SoundTarget> targets)
 {
-    Job job{std::move(sound), std::move(sequence), speed, std::move(file)};
-    thread_ = std::jthread([this, job = std::move(job)](const std::stop_token& stop) mutable {
-        run(stop, std::move(job));
-    });
+    Job job{std::move(sound), std::move(sequence), speed, std::move(targets)};
+    thread_ =
+        std::jthread([this, job = std::move(job)](const std::stop_token& stop) { run(stop, job); });
 }
 
-void AudioExport::run(const std::stop_token& stop, Job job)
+void AudioExport::run(const std::stop_token& stop, const Job& job)
 {
     setpriority(PRIO_PROCESS, 0, kNiceness); // applies to this thread and the threads it starts
     bool isWritten = false;
     QString error;
     try {
-        isWritten = write(stop, std::move(job));
+        isWritten = write(stop, job);
     } catch (const std::bad_alloc&) {
         error = tr("There is not enough memory to load the instrument a second time.");
     } catch (const std::exception& failure) {
@@ -91,27 +95,14 @@ void AudioExport::run(const std::stop_token& stop, Job job)
     emit finished(isWritten, stop.stop_requested() ? QString() : error);
 }
 
-bool AudioExport::write(const std::stop_token& stop, Job job)
+bool AudioExport::write(const std::stop_token& stop, const Job& job)
 {
     RenderOptions options;
     options.speed = job.speed;
-    // Created first, because it fails at once if the file cannot be written.
-    AudioFileWriter file(job.file, options.rate);
-    Progress progress(*this, job.sound.correctsTuning, stop);
-    OfflineSound sound(std::move(job.sound), options.rate, progress);
-    SequenceRenderer renderer(sound.player(), sound.source(), job.sequence.reading);
-    renderer.document().recover(job.sequence);
-    renderer.document().useVoices();
-    sound.correctTuning();
-    const bool rendered = renderer.render(
-        options,
-        [&](const float* left, const float* right, std::size_t frames) {
-            file.write(left, right, frames);
-        },
-        [&](double done) { return progress.rendered(done); });
-    if (rendered)
-        file.commit();
-    return rendered;
+    Progress progress(*this, job.sound.correctsTuning, job.targets.size(), stop);
+    return renderFiles(
+        job.targets, job.sound, job.sequence, options, progress,
+        [&](std::size_t file, double done) { return progress.rendered(file, done); });
 }
 
 } // namespace velmora

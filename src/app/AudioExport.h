@@ -1,26 +1,24 @@
 #pragma once
 
-#include "app/OfflineSound.h"
-#include "sequencer/UnsavedSequence.h"
+#include "app/renderFiles.h"
 
 #include <QObject>
 #include <QString>
 
-#include <filesystem>
 #include <thread>
+#include <vector>
 
 namespace velmora {
 
-/// Renders a sequence to a sound file on a thread of its own, without disturbing live playing. An
-/// existing file is replaced only once the new one is complete.
+/// Renders a sequence to sound files on a thread of its own, without disturbing live playing.
+/// Existing files are replaced only once all the new ones are complete.
 class AudioExport : public QObject {
     Q_OBJECT
 
 public:
-    /// Starts the export. May be called once. `speed` is 1 for the tempo as written, and the
-    /// file's name ends in .wav, .flac or .ogg.
+    /// Starts the export. May be called once. `speed` is 1 for the tempo as written.
     void start(SoundSettings sound, UnsavedSequence sequence, double speed,
-               std::filesystem::path file);
+               std::vector<SoundTarget> targets);
 
     /// Cancels a running export and waits for its thread.
     ~AudioExport() override;
@@ -29,12 +27,12 @@ public:
     void cancel() { thread_.request_stop(); }
 
 signals:
-    /// Reports progress from 0 to 1, first of loading the instrument and then of rendering; `what`
-    /// names the stage. Emitted on the export's thread, like `finished`.
+    /// Reports progress from 0 to 1, first of loading the instrument and then of rendering, again
+    /// for each file; `what` names the stage. Emitted on the export's thread, like `finished`.
     void progressed(const QString& what, double done);
 
-    /// The last signal. If the file was not written, `error` says why in one sentence; it is empty
-    /// after `cancel`.
+    /// The last signal. If the files were not written, `error` says why in one sentence; it is
+    /// empty after `cancel`.
     void finished(bool isWritten, const QString& error);
 
 private:
@@ -42,13 +40,13 @@ private:
         SoundSettings sound;
         UnsavedSequence sequence;
         double speed;
-        std::filesystem::path file;
+        std::vector<SoundTarget> targets;
     };
 
-    void run(const std::stop_token& stop, Job job);
+    void run(const std::stop_token& stop, const Job& job);
 
     /// Returns false if it was cancelled.
-    bool write(const std::stop_token& stop, Job job);
+    bool write(const std::stop_token& stop, const Job& job);
 
     std::jthread thread_;
 };

@@ -17,6 +17,10 @@ using KeySet = std::bitset<kKeys>;
 /// How many divisions of an organ can be played, or parts of an ensemble.
 constexpr std::size_t kDivisions = kParts;
 
+/// The part that live keys play if they sound like a voice; it follows those of the channels.
+constexpr std::size_t kLivePart = midi::kChannels + 1;
+static_assert(kLivePart < kDivisions);
+
 /// The keys of each division. Those of an instrument without divisions are the first.
 using DivisionKeys = std::array<KeySet, kDivisions>;
 

@@ -74,6 +74,11 @@ void LiveDevice::bend(double cents)
     application_.player().bend(cents, time_);
 }
 
+void LiveDevice::controlled(int number, int value)
+{
+    application_.player().liveKeys().control(number, value, time_);
+}
+
 void LiveDevice::silence()
 {
     application_.silenceAll();

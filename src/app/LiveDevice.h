@@ -36,6 +36,7 @@ private:
     void setSostenuto(bool isDown, int channel) override;
     void setSoft(bool isDown) override;
     void bend(double cents) override;
+    void controlled(int number, int value) override;
     void silence() override;
     void setProgram(std::uint8_t program) override;
     bool moveConsole(std::uint8_t controller, float value, int channel) override;

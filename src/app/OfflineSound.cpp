@@ -62,8 +62,8 @@ std::unique_ptr<Synthesizer> makeOfflineSynthesizer(double rate,
     return synthesizer;
 }
 
-OfflineSound::OfflineSound(SoundSettings settings, double rate, InstrumentHost& host)
-    : temperament_(std::move(settings.temperament)), engine_(rate)
+OfflineSound::OfflineSound(const SoundSettings& settings, double rate, InstrumentHost& host)
+    : temperament_(settings.temperament->fresh()), engine_(rate)
 {
     std::filesystem::path bank = settings.instrument;
     if (bank.empty()) {

@@ -54,7 +54,7 @@ class OfflineSound {
 public:
     /// Loads the instrument. Throws std::runtime_error if that fails: with a sentence, or with an
     /// empty message if the host cancels the import.
-    OfflineSound(SoundSettings settings, double rate, InstrumentHost& host);
+    OfflineSound(const SoundSettings& settings, double rate, InstrumentHost& host);
 
     /// The source of the player's sound.
     AudioSource& source() { return engine_; }

@@ -79,7 +79,7 @@ void Player::keyOn(int key, float velocity, KeySource source, double time)
     velocity = std::clamp(velocity, 0.0F, 1.0F);
     const std::lock_guard lock(mutex_);
     inputDelay_ = std::max(inputDelay_.load(), getTime() - time);
-    const std::size_t division = divisions_.ofSources[source];
+    const std::size_t division = hasLivePart_ ? kLivePart : divisions_.ofSources[source];
     holders_.press(division, static_cast<std::size_t>(key), source);
     liveKeys_.press(static_cast<std::size_t>(key), velocity, time);
     start(division, key, velocity, time);
@@ -199,6 +199,7 @@ void Player::silence()
     const std::lock_guard lock(mutex_);
     liveKeys_.clear();
     holders_.clear();
+    pedals_ = {};
     if (temperament_ != nullptr)
         for (std::size_t key = 0; key < kKeys; ++key)
             temperament_->release(static_cast<unsigned char>(key));

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "app/ChannelPedals.h"
 #include "app/KeyHolders.h"
 #include "audio/Metronome.h"
 #include "base/Clock.h"
 #include "base/fading.h"
 #include "midi/messages.h"
 #include "platform/PriorityMutex.h"
+#include "sequencer/Controllers.h"
 #include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceHost.h"
 #include "sound/Instrument.h"
@@ -18,6 +20,7 @@
 #include <functional>
 #include <mutex>
 #include <optional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -117,7 +120,14 @@ public:
     /// instrument has parts, and ends the notes of channels that are not audible any more.
     void setVoices(const VoiceSounds& voices) override;
 
-    /// Calls a function whenever `setVoices` was called. It may call the player.
+    void setProgram(int channel, const std::optional<PartSound::Preset>& preset,
+                    double time) override;
+    void expectPrograms(std::span<const PartSound::Preset> presets) override;
+
+    /// Keys that are held stay on what they play.
+    void setLiveSound(const PartSound& sound) override;
+
+    /// Calls a function whenever `setVoices` or `setLiveSound` was called. It may call the player.
     void tellVoices(std::function<void()> used) { voicesUsed_ = std::move(used); }
     LiveKeys& liveKeys() override { return liveKeys_; }
 
@@ -125,6 +135,8 @@ public:
     /// clicks.
     void setMetronome(Metronome& metronome) { metronome_ = &metronome; }
 
+    /// Moves the pedals and the other controllers of the channels of sequences.
+    void control(int number, int value, int channel, double time) override;
     void click(Click click, double time) override;
     void cancelClicks() override;
 
@@ -142,6 +154,8 @@ public:
     void fade();
 
 private:
+    void controlPart(std::size_t channel, int number, int value, double time);
+
     /// An instrument and the keys that were started and not yet stopped on it.
     struct Sounding {
         Instrument* instrument;
@@ -155,6 +169,8 @@ private:
     void stopChannel(std::size_t channel, std::size_t key, double time);
     void letGo(std::size_t key, double time);
     void useVoices();
+    void useVoice(std::size_t channel);
+    void useLiveSound();
     bool isAudible(std::size_t channel) const;
     void stopEverywhere(std::size_t division, std::size_t key, double time);
     void stopEverywhere(const DivisionKeys& keys, double time);
@@ -169,6 +185,9 @@ private:
     Divisions divisions_;
     ChannelSet heard_ = ChannelSet().set();
     VoiceSounds voices_{};
+    std::vector<PartSound::Preset> expectedPrograms_;
+    PartSound liveSound_;
+    bool hasLivePart_ = false; ///< Live keys play a part of their own.
     std::function<void()> voicesUsed_ = [] {};
     ChannelSet hasPart_; ///< The channels that play a part of their own.
     /// The division on which each channel of a sequence last started each key.
@@ -176,6 +195,10 @@ private:
     /// The keys of each channel that sound, and those that do not because the channel is silent.
     std::array<KeySet, midi::kChannels> playing_, unheard_;
     LiveKeys liveKeys_;
+    ChannelPedals pedals_;
+    std::bitset<midi::kChannels> softChannels_; ///< Those whose soft pedal is down.
+    /// The controllers of the instrument itself that each channel has moved.
+    std::array<std::bitset<kControllerNumbers>, midi::kChannels> movedOwn_;
     std::atomic<Metronome*> metronome_{nullptr};
     std::atomic<double> inputDelay_{0.0};
     double bend_ = 0.0; ///< In cents.

@@ -33,10 +33,51 @@ void Player::useVoices()
 {
     if (instrument_ == nullptr)
         return;
-    // The first part is the instrument's own.
+    instrument_->expectPresets(expectedPrograms_);
     for (std::size_t channel = 0; channel < midi::kChannels; ++channel)
-        hasPart_[channel] = !voices_[channel].part.isPlain() &&
-                            instrument_->setPart(channel + 1, voices_[channel].part);
+        useVoice(channel);
+    useLiveSound();
+}
+
+void Player::useVoice(std::size_t channel)
+{
+    // The first part is the instrument's own.
+    hasPart_[channel] = !voices_[channel].part.isPlain() &&
+                        instrument_->setPart(channel + 1, voices_[channel].part);
+}
+
+void Player::setLiveSound(const PartSound& sound)
+{
+    {
+        const std::lock_guard lock(mutex_);
+        liveSound_ = sound;
+        if (instrument_ != nullptr)
+            useLiveSound();
+    }
+    voicesUsed_();
+}
+
+void Player::useLiveSound()
+{
+    hasLivePart_ = !liveSound_.isPlain() && instrument_->setPart(kLivePart, liveSound_);
+}
+
+void Player::setProgram(int channel, const std::optional<PartSound::Preset>& preset, double time)
+{
+    const auto voice = static_cast<std::size_t>(channel);
+    const std::lock_guard lock(mutex_);
+    voices_[voice].part.preset = preset;
+    if (instrument_ == nullptr)
+        return;
+    instrument_->setDue(time);
+    useVoice(voice);
+}
+
+void Player::expectPrograms(std::span<const PartSound::Preset> presets)
+{
+    std::vector<PartSound::Preset> expected(presets.begin(), presets.end());
+    const std::lock_guard lock(mutex_);
+    expectedPrograms_.swap(expected); // the old ones are freed without the lock
 }
 
 void Player::play(int key, float velocity, int channel, double time)
@@ -56,6 +97,7 @@ void Player::play(int key, float velocity, int channel, double time)
         release(startedOn_[voice][slot], slot, kSequencer, time);
     startedOn_[voice][slot] = division;
     playing_[voice].set(slot);
+    pedals_.press(voice, slot);
     holders_.press(division, slot, kSequencer);
     start(division, key, velocity, time);
 }
@@ -65,9 +107,12 @@ void Player::stop(int key, int channel, double time)
     const auto slot = static_cast<std::size_t>(key);
     const std::lock_guard lock(mutex_);
     if (channel != kEveryChannel) {
-        stopChannel(static_cast<std::size_t>(channel), slot, time);
+        const auto voice = static_cast<std::size_t>(channel);
+        if (unheard_[voice][slot] || pedals_.release(voice, slot))
+            stopChannel(voice, slot, time);
         return;
     }
+    pedals_.forget(slot);
     for (std::size_t voice = 0; voice < midi::kChannels; ++voice) {
         playing_[voice].reset(slot);
         unheard_[voice].reset(slot);

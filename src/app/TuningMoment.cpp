@@ -1,7 +1,6 @@
 #include "app/TuningMoment.h"
 
 #include "app/Player.h"
-#include "tuning/keyName.h"
 #include "tuning/spelling.h"
 
 #include <algorithm>
@@ -80,7 +79,7 @@ std::array<std::string, 12> toneNames(const TuningMoment& moment, const std::opt
     std::array<std::string, 12> names;
     for (unsigned tone = 0; tone < names.size(); ++tone) {
         const auto place = moment.places[tone] ? moment.places[tone] : spelled[tone];
-        names[tone] = place ? placeName(*place) : keyName(tone);
+        names[tone] = place ? placeName(*place) : rootName(static_cast<int>(tone));
     }
     return names;
 }

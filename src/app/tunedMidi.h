@@ -16,10 +16,11 @@ struct TunedMidi {
     TunedMidiWriter::Notes notes;
 };
 
-/// Plays a sequence in the current tuning, as `SequenceRenderer` does, into a MIDI file for the
-/// current program, or a church organ if the instrument has no programs. `fill` fills the document
-/// with the sequence. Of the options, the speed and the loop count. Throws what `fill`
-/// throws, and std::length_error if there are too many notes.
+/// Plays a sequence in the current tuning, as `SequenceRenderer` does, into a MIDI file with its
+/// tempos and the programs of its voices. Those without one get the current program, or a church
+/// organ if the instrument has no programs. `fill` fills the document with the sequence. Of the
+/// options, the speed, the loop and the voices count. Throws what `fill` throws, and
+/// std::length_error if there are too many notes.
 TunedMidi writeTunedMidi(AppDelegate& application,
                          const std::function<void(SequenceDocument&)>& fill, RenderOptions options);
 

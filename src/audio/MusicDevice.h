@@ -9,8 +9,9 @@ namespace velmora {
 
 class AudioSource;
 
-/// How many parts a device plays: one for live playing, and one for each voice of an ensemble.
-constexpr std::size_t kParts = 17;
+/// How many parts a device plays: the instrument itself, the voices of an ensemble, and one for
+/// playing along.
+constexpr std::size_t kParts = 18;
 
 /// How many cents higher than its bank has it each key is played.
 using KeyCorrections = std::array<float, 128>;
@@ -32,6 +33,9 @@ public:
     /// Bends are
     /// those of every part.
     virtual void setPart(std::size_t /*part*/) {}
+
+    /// Moves a controller of the part, or its `midi::kPitchWheel` or `midi::kPressure`.
+    virtual void controlPart(int /*number*/, int /*value*/) {}
 
     /// Shifts every note by `cents`, in addition to the pitch bends of the channels.
     virtual void bend(double /*cents*/) {}

@@ -53,6 +53,8 @@ std::size_t Synthesizer::orderOf(const Event& event)
 {
     if (event.status == kWheel)
         return kWheelOrder;
+    if (event.status == kControlPart)
+        return kControlOrder;
     if (event.status <= kTuneKey)
         return kWheelOrder + 1 + static_cast<std::size_t>(event.data1);
     return channelOf(event.status);
@@ -128,6 +130,11 @@ void Synthesizer::bend(double cents)
     send({due_, kWheel, 0, 0, cents});
 }
 
+void Synthesizer::controlPart(int number, int value)
+{
+    send({due_, kControlPart, number, value, 0.0, 0.0, 0, 0, {}, part_});
+}
+
 void Synthesizer::send(const Event& event)
 {
     if (!queue_.push(event))
@@ -152,6 +159,11 @@ void Synthesizer::apply(const Event& event)
     if (event.status == kWheel) {
         wheel_ = event.cents;
         applyWheel();
+        return;
+    }
+    if (event.status == kControlPart) {
+        for (const auto& lane : lanes_)
+            lane->control(event.part, event.data1, event.data2);
         return;
     }
     if (lanes_.empty())

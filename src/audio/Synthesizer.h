@@ -48,6 +48,7 @@ public:
     void tuneKey(int key, double cents) override;
     void setDue(double time) override { due_ = time; }
     void setPart(std::size_t part) override { part_ = static_cast<std::uint8_t>(part); }
+    void controlPart(int number, int value) override;
     void bend(double cents) override;
     void setGlide(const Glide& glide) override { glide_ = glide; }
     void setCorrections(const KeyCorrections& corrections) override
@@ -79,6 +80,7 @@ private:
     // Kinds of events that are no messages.
     static constexpr int kWheel = 0; ///< Bends all channels.
     static constexpr int kKeyOn = 1, kKeyOff = 2, kTuneKey = 3;
+    static constexpr int kControlPart = 4;
 
     /// The note that a key started last.
     struct KeyNote {
@@ -93,9 +95,10 @@ private:
 
     static constexpr std::size_t kKeys = 128;
 
-    /// The channels, the wheel and the keys.
+    /// The channels, the wheel, the keys and the controllers of parts.
     static constexpr std::size_t kWheelOrder = 16;
-    static constexpr std::size_t kOrders = kWheelOrder + 1 + kKeys;
+    static constexpr std::size_t kControlOrder = kWheelOrder + 1 + kKeys;
+    static constexpr std::size_t kOrders = kControlOrder + 1;
 
     /// A busy block has dozens of messages; the rest is for a renderer that has stalled.
     static constexpr std::size_t kQueue = 1 << 14;

@@ -172,6 +172,20 @@ void SynthesizerLane::controlChange(std::size_t part, int number, int value)
         readControllers(part);
 }
 
+void SynthesizerLane::control(std::size_t index, int number, int value)
+{
+    Part& part = parts_[index];
+    if (number == midi::kPitchWheel) {
+        part.wheel = value;
+        fluid_synth_pitch_bend(synth_.get(), channelOf(index), value);
+    } else if (number == midi::kPressure) {
+        part.pressure = value;
+        fluid_synth_channel_pressure(synth_.get(), channelOf(index), value);
+    } else {
+        controlChange(index, number, value);
+    }
+}
+
 void SynthesizerLane::readController(std::size_t part, std::size_t number)
 {
     int value = 0;
@@ -225,6 +239,10 @@ void SynthesizerLane::followPart(std::size_t index, const SynthesizerLane& other
                            model.controllers[i]);
     }
     part.controllers = model.controllers;
+    if (part.wheel != model.wheel)
+        control(index, midi::kPitchWheel, model.wheel);
+    if (part.pressure != model.pressure)
+        control(index, midi::kPressure, model.pressure);
 }
 
 void SynthesizerLane::allSoundsOff()

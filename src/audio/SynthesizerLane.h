@@ -4,6 +4,7 @@
 #include "audio/Glide.h"
 #include "audio/MusicDevice.h"
 #include "audio/SoundFontBank.h"
+#include "midi/messages.h"
 
 #include <fluidsynth.h>
 
@@ -65,6 +66,9 @@ public:
 
     void controlChange(std::size_t part, int number, int value);
 
+    /// Moves a controller of a part, or its `midi::kPitchWheel` or `midi::kPressure`.
+    void control(std::size_t part, int number, int value);
+
     /// Selects a program of the bank that was selected last, or the one that is nearest to it, for
     /// the notes of a part that follow.
     void programChange(std::size_t part, int program);
@@ -110,6 +114,7 @@ private:
     struct Part {
         std::bitset<128> held; ///< The keys whose notes have not been released.
         std::array<std::int8_t, kControllers> controllers{};
+        int wheel = midi::kWheelCentre, pressure = 0;
         int selectedBank = 0;     ///< For the next program.
         Preset preset;            ///< Of the notes that follow.
         Preset loaded = {-1, -1}; ///< What the synthesizer has for the part.

@@ -32,7 +32,7 @@ constexpr double kLastStep = 1e7; ///< About a week of music.
 
 /// The values of the command line's arguments.
 struct Arguments {
-    std::string sequence, output, instrument, mapping;
+    std::string sequence, output, stems, instrument, mapping;
     Selection selection;
     std::vector<std::string> stops;
     std::string root;
@@ -158,11 +158,15 @@ CLI::App* addRender(CLI::App& program, Arguments& arguments)
         "render", "Render a piece to a sound file, a MIDI file in a tuning, or a score");
     command->add_option("sequence", arguments.sequence, "The MIDI file or MusicXML score")
         ->required();
+    command->add_option(
+        "-o,--output", arguments.output,
+        "The .wav, .flac, .ogg, .opus or .mp3 file to write, a .mid file that General MIDI devices "
+        "play in the tuning, or a .musicxml or .ly score");
     command
-        ->add_option("-o,--output", arguments.output,
-                     "The .wav, .flac, .ogg, .opus or .mp3 file to write, a .mid file that General "
-                     "MIDI devices play in the tuning, or a .musicxml or .ly score")
-        ->required();
+        ->add_option("--stems", arguments.stems,
+                     "The folder for a sound file of each voice, in the format of the output, or "
+                     "else WAV")
+        ->type_name("FOLDER");
     addSelection(*command, arguments);
     addReading(*command, arguments);
     command->add_option("--rate", arguments.options.rate, "Frames per second")
@@ -239,6 +243,8 @@ OutputSettings chosenOutput(const Arguments& arguments)
 
 void runRender(const CLI::App& command, Arguments& arguments)
 {
+    if (arguments.output.empty() && arguments.stems.empty())
+        throw CLI::RequiredError("--output or --stems");
     if (command.count("--loop-end") > 0) {
         if (!(arguments.loop.start < arguments.loop.end))
             throw CLI::ValidationError("--loop-end", "must be greater than --loop-start");
@@ -251,7 +257,11 @@ void runRender(const CLI::App& command, Arguments& arguments)
         arguments.options.voices.reset();
     for (const std::size_t voice : arguments.voices)
         arguments.options.voices.set(voice - 1);
-    render(arguments.sequence, arguments.output, arguments.selection, arguments.options);
+    if (arguments.stems.empty())
+        render(arguments.sequence, arguments.output, arguments.selection, arguments.options);
+    else
+        renderStems(arguments.sequence, arguments.stems, arguments.output, arguments.selection,
+                    arguments.options);
 }
 
 int runWindows(int argc, char** argv, const Arguments& arguments)

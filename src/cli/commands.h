@@ -21,6 +21,13 @@ public:
 void render(const std::filesystem::path& sequence, const std::filesystem::path& output,
             const Selection& selection, const RenderOptions& options);
 
+/// Renders each voice of a sequence file to a sound file of its own in `folder`, which is created
+/// if it does not exist, and all of them together to `output` unless that is empty. The files of
+/// the voices have the format of `output`, or else WAV. Throws like `render`.
+void renderStems(const std::filesystem::path& sequence, const std::filesystem::path& folder,
+                 const std::filesystem::path& output, const Selection& selection,
+                 const RenderOptions& options);
+
 /// Returns the beats a minute at the beginning of a sequence file. Throws std::runtime_error with a
 /// sentence if it cannot be read.
 double tempoOf(const std::filesystem::path& sequence, bool plain);

@@ -2,6 +2,7 @@
 
 #include "app/OfflineSound.h"
 #include "app/generalMidiBanks.h"
+#include "app/renderFiles.h"
 #include "app/scorePiece.h"
 #include "app/tunedMidi.h"
 #include "app/tuningCorrections.h"
@@ -122,6 +123,38 @@ void renderScore(const std::filesystem::path& sequence, const std::filesystem::p
     writeScore(output, piece);
 }
 
+/// Loads instruments without showing it.
+class QuietHost : public InstrumentHost {
+public:
+    explicit QuietHost(bool correctsTuning) : correctsTuning_(correctsTuning) {}
+
+    void startProgress(long /*steps*/) override {}
+    void updateProgress(unsigned /*steps*/, const std::string& /*text*/) override {}
+    bool isCancelled() const override { return Interruption::requested(); }
+    bool correctsTuning() const override { return correctsTuning_; }
+
+private:
+    const bool correctsTuning_;
+};
+
+/// The sound that a selection chooses and a piece that it shall play.
+struct PreparedPiece {
+    SoundSettings sound;
+    UnsavedSequence sequence;
+};
+
+/// Prepares a piece, and leaves no instrument loaded.
+PreparedPiece preparePiece(const std::filesystem::path& path, const Selection& selection,
+                           const RenderOptions& options)
+{
+    AppDelegate application;
+    const std::filesystem::path bank = selectOffline(selection, options.rate, application);
+    SequenceDocument document(application.player(), application.playing().reading());
+    readPiece(path, options, document);
+    prepareVoices(selection, bank, application, document);
+    return {currentSettings(application), document.snapshot()};
+}
+
 } // namespace
 
 double tempoOf(const std::filesystem::path& sequence, bool plain)
@@ -166,6 +199,37 @@ void render(const std::filesystem::path& sequence, const std::filesystem::path& 
     if (!rendered)
         throw std::runtime_error("interrupted: " + output.string() + " was not written");
     file.commit();
+}
+
+void renderStems(const std::filesystem::path& sequence, const std::filesystem::path& folder,
+                 const std::filesystem::path& output, const Selection& selection,
+                 const RenderOptions& options)
+{
+    const Interruption interruption;
+    const PreparedPiece piece = preparePiece(sequence, selection, options);
+    auto targets = stemsOf(piece.sequence, folder, sequence.stem().string(),
+                           output.empty() ? ".wav" : output.extension().string());
+    std::erase_if(targets,
+                  [&](const SoundTarget& stem) { return (stem.voices & options.voices).none(); });
+    if (targets.empty())
+        throw std::runtime_error(sequence.string() + ": no notes, so no voices to render");
+    if (!output.empty())
+        targets.push_back({output});
+    const bool isNew = std::filesystem::create_directories(folder);
+    QuietHost host(piece.sound.correctsTuning);
+    ProgressLine line("Rendering");
+    const auto progress = [&](std::size_t file, double done) {
+        line.show((static_cast<double>(file) + done) / static_cast<double>(targets.size()));
+        return !Interruption::requested();
+    };
+    try {
+        if (!renderFiles(targets, piece.sound, piece.sequence, options, host, progress))
+            throw std::runtime_error("interrupted: nothing was written");
+    } catch (...) {
+        if (isNew)
+            std::filesystem::remove(folder);
+        throw;
+    }
 }
 
 } // namespace velmora

@@ -24,8 +24,9 @@ struct FileEvent {
 
 /// A track, without its end-of-track mark.
 struct FileTrack {
-    std::vector<FileEvent> events; ///< In order of time.
-    std::uint64_t end = 0;         ///< The tick of the end-of-track mark.
+    std::vector<FileEvent> events;         ///< In order of time.
+    std::uint64_t end = 0;                 ///< The tick of the end-of-track mark.
+    std::optional<std::uint8_t> channel{}; ///< For which the track was added to the file.
 };
 
 /// A note that starts with one event of a track and ends with another.

@@ -9,8 +9,6 @@ namespace velmora {
 
 namespace {
 
-constexpr int kWheelCentre = 8192;
-
 /// The values of a controller from which on a pedal is down and a button pressed.
 constexpr std::uint8_t kFirstHigh = 64;
 
@@ -67,11 +65,15 @@ void MidiTranslator::read(MidiPacket message)
     case midi::kProgramChange:
         input_.setProgram(data[0]);
         break;
-    case midi::kPitchBend:
-        bend(100.0 * (settings_.bendRange * (data[0] + 128 * data[1] - kWheelCentre)) /
-             kWheelCentre);
+    case midi::kChannelPressure:
+        input_.controlled(midi::kPressure, data[0]);
         break;
-    default: // pressure
+    case midi::kPitchBend:
+        input_.controlled(midi::kPitchWheel, data[0] + 128 * data[1]);
+        bend(100.0 * (settings_.bendRange * (data[0] + 128 * data[1] - midi::kWheelCentre)) /
+             midi::kWheelCentre);
+        break;
+    default: // the pressure of a key
         break;
     }
 }
@@ -139,8 +141,16 @@ void MidiTranslator::readController(int channel, std::uint8_t number, std::uint8
         const bool wasHigh = high[number];
         high[number] = isHigh;
         useLearned(action, value, isHigh && !wasHigh);
-    } else if (isPedal(number)) {
-        setPedal(channel, number, isHigh);
+    } else {
+        input_.controlled(number, value);
+        moveController(channel, number, value);
+    }
+}
+
+void MidiTranslator::moveController(int channel, std::uint8_t number, std::uint8_t value)
+{
+    if (isPedal(number)) {
+        setPedal(channel, number, value >= kFirstHigh);
     } else if (const auto slider = sliderOf(number)) {
         const float volume = static_cast<float>(value) / 127.0F;
         if (!input_.moveConsole(number, volume, channel))

@@ -41,6 +41,7 @@ private:
     void readNote(int channel, std::uint8_t key, std::uint8_t velocity);
     void release(int channel, std::uint8_t key);
     void readController(int channel, std::uint8_t number, std::uint8_t value);
+    void moveController(int channel, std::uint8_t number, std::uint8_t value);
     void readMode(int channel, std::uint8_t number);
     void releaseAll(int channel);
     void setPedal(int channel, std::uint8_t number, bool isDown);

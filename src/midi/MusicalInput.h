@@ -30,6 +30,10 @@ public:
     /// The pitch wheel was moved; all keys sound that much higher.
     virtual void bend(double cents) = 0;
 
+    /// A controller that has learned nothing was moved to a value from 0 to 127, whatever else it
+    /// does. The pitch wheel is number 128 with values up to 16383, the pressure of a channel 129.
+    virtual void controlled(int /*number*/, int /*value*/) {}
+
     /// Every sound must end at once.
     virtual void silence() = 0;
 

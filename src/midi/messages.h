@@ -47,8 +47,14 @@ constexpr std::uint8_t kTimeSignature = 0x58; ///< The beats and the exponent of
 constexpr std::uint8_t kKeySignature = 0x59;  ///< Sharps, negative for flats; 1 for minor.
 constexpr std::uint8_t kSequencerSpecific = 0x7F;
 
+/// Stand for the pitch wheel and for the pressure of a channel in place of the number of a
+/// controller.
+constexpr int kPitchWheel = 128, kPressure = 129;
+constexpr int kWheelCentre = 8192;
+
 // Controllers.
 constexpr std::uint8_t kBankSelect = 0;
+constexpr std::uint8_t kModulation = 1;
 constexpr std::uint8_t kChannelVolume = 7;
 constexpr std::uint8_t kExpression = 11;
 constexpr std::uint8_t kVibratoRate = 76;

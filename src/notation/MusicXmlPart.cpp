@@ -146,9 +146,14 @@ double MusicXmlPartReader::durationOf(pugi::xml_node element) const
 void MusicXmlPartReader::advance(double duration)
 {
     position_ += duration;
-    if (!(quarters(position_) <= kLongestMeasure))
-        throw FormatError("measure " + number_ + " is too long");
+    requireInMeasure(position_);
     longest_ = std::max(longest_, position_);
+}
+
+void MusicXmlPartReader::requireInMeasure(double position) const
+{
+    if (!(quarters(position) <= kLongestMeasure))
+        throw FormatError("measure " + number_ + " is too long");
 }
 
 void MusicXmlPartReader::setDivisions(double divisions)
@@ -274,6 +279,7 @@ void MusicXmlPartReader::readNote(pugi::xml_node note)
     const bool isInChord = static_cast<bool>(note.child("chord"));
     const double length = durationOf(note);
     const double start = isInChord ? chordStart_ : position_;
+    requireInMeasure(start + length);
     if (!isInChord && !isGrace) {
         placeGraceNotes(quarters(position_));
         chordStart_ = position_;

@@ -47,6 +47,10 @@ private:
     double quarters(double position) const { return position / divisions_; }
     double durationOf(pugi::xml_node element) const;
     void advance(double duration);
+
+    /// Throws FormatError if a position is too late for any measure.
+    void requireInMeasure(double position) const;
+
     void setDivisions(double divisions);
     void readAttributes(pugi::xml_node attributes);
     void readTime(pugi::xml_node time);

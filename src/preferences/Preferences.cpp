@@ -45,7 +45,13 @@ PrefRange prefRange(const std::string& key)
         return {0, 500};
     if (key == "CorrectionTime")
         return {1, 200};
-    if (key == "Drift" || key == "MetronomeUse" || key == "CountIn")
+    if (key == "PracticeSplit")
+        return {0, 127};
+    if (key == "PracticeFaster")
+        return {0, 20};
+    if (key == "PracticeTolerance")
+        return {50, 1000};
+    if (key == "Drift" || key == "MetronomeUse" || key == "CountIn" || key == "PracticeHand")
         return {0, 2};
     if (key == "MasterVolume" || key == "MetronomeVolume")
         return {0, 100};

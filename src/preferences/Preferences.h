@@ -16,7 +16,9 @@ namespace velmora {
 /// "GlideTime", in which sounding notes take over another pitch, and "CorrectionTime", in which the
 /// notes of a chord may correct each other's spelling, in milliseconds; "Drift", a `Drift`;
 /// "MetronomeUse", a `MetronomeUse`, "MetronomeVolume" in percent, and "CountIn", the bars before a
-/// recording.
+/// recording; "PracticeHand", the row of the hand that is practised, "PracticeSplit", the lowest
+/// key of the right hand, "PracticeFaster", what a pass adds to the speed in percent, and
+/// "PracticeTolerance" in milliseconds.
 int getPrefInt(const std::string& key);
 void setPrefInt(const std::string& key, int value);
 
@@ -30,13 +32,17 @@ struct PrefRange {
 PrefRange prefRange(const std::string& key);
 
 /// Returns a boolean preference: "KeyNames" shows the names of the C keys on the keyboard;
-/// "SoundNotes" sounds notes that are pressed or drawn in the piano roll;
+/// "SoundNotes" sounds notes that are pressed or drawn in the piano roll, "DragSelects" lets a drag
+/// across an empty place of it select notes instead of a time, and "TimeRunsAcross" lets its time run
+/// from left to right instead of upwards;
 /// "CorrectTuning" corrects the tuning of SoundFonts themselves;
 /// "PlainReading" reads MIDI devices with `midiRead`, without the translator; "StartAsLastTime"
 /// opens at the start what was open at the end; "GlideSounding" lets sounding notes take over
 /// another pitch before they are struck again; "CorrectSpelling" lets the notes of a chord correct
 /// each other's spelling; "ReduceMotion" scrolls at once instead of gliding; "Metronome" lets the
-/// metronome click, and "MetronomeDivisions" the parts of its beats as well.
+/// metronome click, and "MetronomeDivisions" the parts of its beats as well; "PracticeWaits" waits
+/// for missing keys, "PracticeSlowsDown" slows down after mistakes, and "FallingNotes" shows the
+/// notes above the keyboard.
 bool getPrefBool(const std::string& key);
 void setPrefBool(const std::string& key, bool value);
 

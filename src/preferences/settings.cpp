@@ -31,6 +31,8 @@ const QVariantMap& defaults()
         {"KeyRangeHi", 108}, // C8
         {"KeyNames", true},
         {"SoundNotes", true},
+        {"DragSelects", false},
+        {"TimeRunsAcross", false},
         {"NoteNames", 0}, // by language
         {"Language", ""},
         {"Scheme", "Calm"},
@@ -57,6 +59,13 @@ const QVariantMap& defaults()
         {"MetronomeDivisions", false},
         {"MetronomeVolume", 70},
         {"CountIn", 0},
+        {"PracticeHand", 0},   // both
+        {"PracticeSplit", 60}, // C4
+        {"PracticeFaster", 5},
+        {"PracticeTolerance", 200},
+        {"PracticeSlowsDown", false},
+        {"PracticeWaits", true},
+        {"FallingNotes", false},
     };
     return values;
 }

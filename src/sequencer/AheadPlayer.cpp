@@ -25,6 +25,10 @@ void perform(SequenceHost& host, const KeyAction& action)
     const int key = static_cast<int>(action.key);
     if (action.click)
         host.click(*action.click, action.time);
+    else if (const auto& change = action.program)
+        host.setProgram(change->channel, change->preset, action.time);
+    else if (const auto& event = action.controller)
+        host.control(event->number, event->value, event->channel, action.time);
     else if (action.starts)
         host.play(key, action.velocity, action.channel, action.time);
     else

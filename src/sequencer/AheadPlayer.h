@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sequencer/Controllers.h"
+#include "sequencer/ProgramChanges.h"
 #include "sequencer/SequenceHost.h"
 
 #include <condition_variable>
@@ -11,7 +13,8 @@
 
 namespace velmora {
 
-/// Starts or stops a key on the instrument, or sounds a click, at a planned time.
+/// Starts or stops a key on the instrument, sounds a click, changes a program or moves a
+/// controller, at a planned time.
 struct KeyAction {
     bool starts = false;
     std::uint32_t key = 0;
@@ -20,6 +23,8 @@ struct KeyAction {
     double time = 0.0;            ///< When it is due, in the seconds of `getTime`; 0 for at once.
     double step = 0.0;            ///< The position at that time.
     std::optional<Click> click{}; ///< In place of the key.
+    std::optional<ProgramChange> program{};      ///< In place of the key.
+    std::optional<ControllerEvent> controller{}; ///< In place of the key.
 };
 
 /// Does what an action says, for its time. May be called on any thread.

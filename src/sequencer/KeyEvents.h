@@ -1,6 +1,9 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <atomic>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -16,23 +19,29 @@ struct KeyEvent {
     double time;    ///< In the seconds of `getTime`.
 };
 
-/// The latest events of the live keys in the order of their arrival. Any thread may add events and
+/// A pedal or another controller of live input that was moved.
+struct ControlEvent {
+    std::uint16_t number; ///< As in `ControllerEvent`.
+    std::uint16_t value;
+    double time; ///< In the seconds of `getTime`.
+};
+
+/// The latest events of live input in the order of their arrival. Any thread may add events and
 /// read them, without waiting; every reader has its own place. A reader that falls behind by more
 /// than `kCapacity` events loses the oldest ones.
-class KeyEvents {
+template <class Event> class LiveEvents {
 public:
-    /// Far more than a player strikes while the main thread hangs.
+    /// Far more than a player causes while the main thread hangs.
     static constexpr std::size_t kCapacity = 8192;
 
-    void add(const KeyEvent& event)
+    void add(const Event& event)
     {
         const std::uint64_t place = end_++;
         Slot& slot = slots_[place % kCapacity];
         slot.number = 0; // whoever reads the slot now starts over
-        slot.key = event.key;
-        slot.isPress = event.isPress;
-        slot.velocity = event.velocity;
-        slot.time = event.time;
+        const auto words = std::bit_cast<Words>(event);
+        for (std::size_t i = 0; i < words.size(); ++i)
+            slot.words[i] = words[i];
         slot.number = place + 1;
     }
 
@@ -40,31 +49,45 @@ public:
     std::uint64_t end() const { return end_; }
 
     /// Returns the event at a place and moves the place on; nothing if there is none yet.
-    std::optional<KeyEvent> read(std::uint64_t& place) const
+    std::optional<Event> read(std::uint64_t& place) const
     {
         if (const std::uint64_t end = end_; end > place + kCapacity)
             place = end - kCapacity;
         const Slot& slot = slots_[place % kCapacity];
         if (slot.number != place + 1)
             return std::nullopt;
-        const KeyEvent event{slot.key, slot.isPress, slot.velocity, slot.time};
+        Words words{};
+        for (std::size_t i = 0; i < words.size(); ++i)
+            words[i] = slot.words[i];
         if (slot.number != place + 1) // replaced in the meantime
             return read(place);
         ++place;
-        return event;
+        return std::bit_cast<Event>(words);
     }
 
 private:
+    using Words = std::array<std::uint64_t, sizeof(Event) / sizeof(std::uint64_t)>;
+
     struct Slot {
         std::atomic<std::uint64_t> number; ///< The event's place and 1; 0 while it is written.
-        std::atomic<std::uint8_t> key;
-        std::atomic<bool> isPress;
-        std::atomic<float> velocity;
-        std::atomic<double> time;
+        std::array<std::atomic<std::uint64_t>, std::tuple_size_v<Words>> words;
     };
 
     std::vector<Slot> slots_ = std::vector<Slot>(kCapacity);
     std::atomic<std::uint64_t> end_ = 0;
 };
+
+/// Adds the events from `place` on to those that are still to be taken, in order of time.
+template <class Event>
+void collect(const LiveEvents<Event>& from, std::uint64_t& place, std::vector<Event>& events)
+{
+    while (const auto event = from.read(place))
+        events.push_back(*event);
+    // Each device has a thread of its own, and those of JACK announce what is about to happen.
+    std::ranges::stable_sort(events, {}, &Event::time);
+}
+
+using KeyEvents = LiveEvents<KeyEvent>;
+using ControlEvents = LiveEvents<ControlEvent>;
 
 } // namespace velmora

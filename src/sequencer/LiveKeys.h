@@ -58,10 +58,21 @@ public:
     /// Every press and release, even if a key changed several times since the last look.
     const KeyEvents& events() const { return events_; }
 
+    /// Notes that a controller was moved at `time`, in the seconds of `getTime`.
+    void control(int number, int value, double time)
+    {
+        controls_.add(
+            {static_cast<std::uint16_t>(number), static_cast<std::uint16_t>(value), time});
+    }
+
+    /// Every move of a controller.
+    const ControlEvents& controls() const { return controls_; }
+
 private:
     std::array<std::atomic<int>, kKeys> noteStates_{};
     std::array<std::atomic<float>, kKeys> noteVelocities_{};
     KeyEvents events_;
+    ControlEvents controls_;
 };
 
 } // namespace velmora

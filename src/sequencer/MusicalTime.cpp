@@ -132,7 +132,7 @@ void MusicalTime::setTimeSignatures(std::vector<TimeSignature> signatures)
             stretches_.pop_back();
         stretches_.push_back({signature, next});
     }
-    // See docs/decisions.md, 189.
+    // See docs/decisions.md, 194.
     if (stretches_.size() < 2 || stretches_[1].firstBar != 2 ||
         !(stretches_[1].signature.step < stretches_[1].signature.barLength() - kBarRounding))
         return;

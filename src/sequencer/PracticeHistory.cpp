@@ -4,6 +4,7 @@
 #include "base/FormatError.h"
 #include "base/Text.h"
 #include "platform/writeFile.h"
+#include "preferences/settings.h"
 
 #include <QCryptographicHash>
 #include <QJsonArray>
@@ -26,10 +27,12 @@ QJsonObject toJson(const PracticeEntry& entry)
         bars.append(QJsonObject{{"number", bar.number},
                                 {"right", bar.right},
                                 {"wrong", bar.wrong},
+                                {"missed", bar.missed},
                                 {"meanDelay", bar.meanDelay}});
     return {{"time", entry.time.toUTC().toString(Qt::ISODate)},
             {"right", summary.right},
             {"wrong", summary.wrong},
+            {"missed", summary.missed},
             {"early", summary.early},
             {"late", summary.late},
             {"passes", summary.passes},
@@ -44,6 +47,7 @@ PracticeEntry practiceEntryOf(const QJsonObject& json)
 {
     PracticeSummary summary{.right = json["right"].toInt(),
                             .wrong = json["wrong"].toInt(),
+                            .missed = json["missed"].toInt(),
                             .early = json["early"].toInt(),
                             .late = json["late"].toInt(),
                             .passes = json["passes"].toInt(),
@@ -55,11 +59,16 @@ PracticeEntry practiceEntryOf(const QJsonObject& json)
         summary.delays[i] = delays.at(static_cast<qsizetype>(i)).toInt();
     for (const QJsonValue bar : json["bars"].toArray())
         summary.bars.push_back({bar["number"].toInt(), bar["right"].toInt(), bar["wrong"].toInt(),
-                                bar["meanDelay"].toDouble()});
+                                bar["missed"].toInt(), bar["meanDelay"].toDouble()});
     return {QDateTime::fromString(json["time"].toString(), Qt::ISODate), std::move(summary)};
 }
 
 } // namespace
+
+std::filesystem::path practiceFolder()
+{
+    return settingsFolder() / "practice";
+}
 
 PracticeHistory::PracticeHistory(const std::filesystem::path& folder,
                                  const std::filesystem::path& piece)
@@ -81,6 +90,9 @@ PracticeHistory::PracticeHistory(const std::filesystem::path& folder,
         if (entry.time.isValid())
             entries_.push_back(std::move(entry));
     }
+    if (const QJsonObject choice = json["choice"].toObject(); !choice.isEmpty())
+        choice_ = {static_cast<unsigned>(choice["voices"].toInt()), choice["firstBar"].toInt(),
+                   choice["lastBar"].toInt()};
 }
 
 void PracticeHistory::add(PracticeEntry entry)
@@ -88,11 +100,26 @@ void PracticeHistory::add(PracticeEntry entry)
     entries_.push_back(std::move(entry));
     if (entries_.size() > kMaxEntries)
         entries_.erase(entries_.begin());
+    write();
+}
+
+void PracticeHistory::choose(const PracticeChoice& choice)
+{
+    choice_ = choice;
+    write();
+}
+
+void PracticeHistory::write() const
+{
     QJsonArray sessions;
     for (const PracticeEntry& kept : entries_)
         sessions.append(toJson(kept));
-    const QJsonObject json{{"piece", QString::fromStdString(toUtf8(piece_.string()))},
-                           {"sessions", sessions}};
+    QJsonObject json{{"piece", QString::fromStdString(toUtf8(piece_.string()))},
+                     {"sessions", sessions}};
+    if (choice_)
+        json["choice"] = QJsonObject{{"voices", static_cast<int>(choice_->voices.to_ulong())},
+                                     {"firstBar", choice_->firstBar},
+                                     {"lastBar", choice_->lastBar}};
     std::filesystem::create_directories(file_.parent_path());
     writeFile(file_, QJsonDocument(json).toJson().toStdString());
 }

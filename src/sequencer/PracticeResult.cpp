@@ -21,6 +21,7 @@ std::size_t delayClass(double delay)
 PracticeSummary summarize(const PracticeResult& result, const MusicalTime& time)
 {
     PracticeSummary summary{.wrong = static_cast<int>(result.wrong.size()),
+                            .missed = static_cast<int>(result.missed.size()),
                             .passes = result.passes,
                             .cleanPasses = result.cleanPasses,
                             .speed = result.speed};
@@ -44,8 +45,10 @@ PracticeSummary summarize(const PracticeResult& result, const MusicalTime& time)
     }
     if (summary.right > 0)
         summary.meanDelay = delays / summary.right;
-    for (const WrongStroke& wrong : result.wrong)
+    for (const PracticeMistake& wrong : result.wrong)
         ++barAt(wrong.step).wrong;
+    for (const PracticeMistake& missed : result.missed)
+        ++barAt(missed.step).missed;
     for (auto& [number, bar] : bars) {
         bar.meanDelay /= std::max(bar.right, 1);
         summary.bars.push_back(bar);

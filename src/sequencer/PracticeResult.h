@@ -16,16 +16,17 @@ struct PracticeStroke {
     double delay; ///< By how many seconds it was late; negative if it was early.
 };
 
-/// A key that the piece did not want.
-struct WrongStroke {
-    double step; ///< Where the piece was.
+/// A key that the piece did not want, or one that it wanted in vain.
+struct PracticeMistake {
+    double step; ///< Where the piece was when the key was struck, or where the note stands.
     std::uint32_t key;
 };
 
 /// What the user has played in a practice session.
 struct PracticeResult {
     std::vector<PracticeStroke> strokes;
-    std::vector<WrongStroke> wrong;
+    std::vector<PracticeMistake> wrong;
+    std::vector<PracticeMistake> missed; ///< Only if the piece did not wait.
     int passes = 0;
     int cleanPasses = 0; ///< Without a mistake.
     double speed = 1.0;  ///< At the end, as `Transport::speed`.
@@ -36,6 +37,7 @@ struct PracticeBar {
     int number = 0; ///< As in `Bar`.
     int right = 0;
     int wrong = 0;
+    int missed = 0;
     double meanDelay = 0.0; ///< In seconds; negative if the bar was played early on average.
 
     bool operator==(const PracticeBar&) const = default;
@@ -53,6 +55,7 @@ struct PracticeSummary {
 
     int right = 0; ///< All right keys, the early and the late ones too.
     int wrong = 0;
+    int missed = 0;
     int early = 0;
     int late = 0;
     int passes = 0;

@@ -80,6 +80,12 @@ void PracticeSession::end()
 {
     if (!std::exchange(isRunning_, false))
         return;
+    // The stretch may end before the time for its last chord is over.
+    const bool isLast = chord_ + 1 == chords_.size() && !isNextPass_;
+    if (!options_.waits && isLast && dueTime_ <= followedTo_) {
+        countMissed();
+        ++chord_;
+    }
     if (chord_ == chords_.size())
         countPass();
     transport_.setHold(std::nullopt, transport_.lastTick());
@@ -113,8 +119,9 @@ void PracticeSession::seek()
     isNextPass_ = false;
     lastPosition_ = transport_.position();
     beginPass();
+    isUntimed_ = chord_ < chords_.size() &&
+                 dueTimeOf(chord_, isNextPass_) - transport_.lastTick() < options_.tolerance;
     waitForChord(transport_.lastTick());
-    isUntimed_ = dueTime_ - transport_.lastTick() < options_.tolerance;
 }
 
 void PracticeSession::beginPass()
@@ -133,15 +140,31 @@ void PracticeSession::waitForChord(double time)
         transport_.setHold(kNowhere, time);
         return;
     }
-    const double step = chords_[chord_].step;
-    transport_.setHold(isNextPass_ ? kNowhere : step, time);
+    const bool holds = (options_.waits || isUntimed_) && !isNextPass_;
+    transport_.setHold(holds ? chords_[chord_].step : kNowhere, time);
+    dueTime_ = dueTimeOf(chord_, isNextPass_);
+}
+
+double PracticeSession::dueTimeOf(std::size_t chord, bool isInNextPass) const
+{
     const Pace pace = transport_.pace();
     const double position = transport_.position();
+    const double step = chords_[chord].step;
+    if (!isInNextPass)
+        return transport_.lastTick() + pace.secondsBetween(position, step);
     const Interval stretch = this->stretch();
-    dueTime_ = transport_.lastTick() +
-               (isNextPass_ ? pace.secondsBetween(position, std::max(position, stretch.end)) +
-                                  pace.secondsBetween(stretch.start, step)
-                            : pace.secondsBetween(position, step));
+    return transport_.lastTick() + pace.secondsBetween(position, std::max(position, stretch.end)) +
+           pace.secondsBetween(stretch.start, step);
+}
+
+double PracticeSession::endOfChord() const
+{
+    const double latest = dueTime_ + options_.tolerance;
+    const bool isLast = chord_ + 1 == chords_.size();
+    if (isLast && (isNextPass_ || !transport_.loops()))
+        return latest;
+    const double next = isLast ? dueTimeOf(0, true) : dueTimeOf(chord_ + 1, isNextPass_);
+    return std::min(latest, (dueTime_ + next) / 2);
 }
 
 void PracticeSession::follow(double until)
@@ -155,20 +178,51 @@ void PracticeSession::follow(double until)
     const auto later = std::ranges::find_if(
         events_, [until](const KeyEvent& event) { return event.time > until; });
     for (auto event = events_.begin(); event != later; ++event) {
+        passChords(event->time);
         if (event->isPress)
             strike(*event, until);
         else
             wrongKeys_.reset(event->key);
     }
     events_.erase(events_.begin(), later);
+    passChords(until);
+    followedTo_ = until;
     const double position = transport_.position();
-    if (std::exchange(lastPosition_, position) > position) { // the loop has begun again
-        isNextPass_ = false;
-        changeSpeed(countPass());
-        waitForChord(transport_.lastTick());
-    } else if (chord_ == chords_.size() && position >= stretch().end) {
+    if (std::exchange(lastPosition_, position) > position)
+        turn();
+    else if (chord_ == chords_.size() && position >= stretch().end)
         stop();
+}
+
+void PracticeSession::turn()
+{
+    while (!isNextPass_ && chord_ < chords_.size()) {
+        countMissed();
+        nextChord(transport_.lastTick());
     }
+    if (!isNextPass_) // the loop was switched on after the last chord
+        beginPass();
+    isNextPass_ = false;
+    changeSpeed(countPass());
+    waitForChord(transport_.lastTick());
+}
+
+void PracticeSession::passChords(double time)
+{
+    while (!options_.waits && !isUntimed_ && chord_ < chords_.size() && time > dueTime_ &&
+           time > endOfChord()) {
+        countMissed();
+        nextChord(transport_.lastTick());
+    }
+}
+
+void PracticeSession::countMissed()
+{
+    const Chord& chord = chords_[chord_];
+    for (std::uint32_t key = 0; key < kKeys; ++key)
+        if (chord.missing[key])
+            result_.missed.push_back({chord.step, key});
+    ++mistakes_;
 }
 
 void PracticeSession::strike(const KeyEvent& event, double until)
@@ -188,12 +242,16 @@ void PracticeSession::strike(const KeyEvent& event, double until)
         ++mistakes_;
     if (chord.missing.any())
         return;
-    const double complete = std::min(std::max(event.time, dueTime_), until);
+    nextChord(std::min(std::max(event.time, dueTime_), until));
+}
+
+void PracticeSession::nextChord(double time)
+{
     isUntimed_ = false;
     ++chord_;
     if (chord_ == chords_.size())
         beginPass();
-    waitForChord(complete);
+    waitForChord(time);
 }
 
 bool PracticeSession::countPass()

@@ -38,6 +38,8 @@ void Recorder::record()
         openNotes_ = {};
         events_.clear();
         place_ = transport_.host().liveKeys().events().end();
+        controls_.clear();
+        controlPlace_ = transport_.host().liveKeys().controls().end();
         if (transport_.reading() == Reading::Plain)
             takeHeldKeys();
         transport_.startRecording();
@@ -49,6 +51,8 @@ void Recorder::finish()
 {
     if (running_)
         running_->end();
+    else
+        letGo(moved_, transport_.position());
     transport_.endRecording();
     // See docs/decisions.md, 102.
     sequence_.sort();
@@ -73,7 +77,9 @@ void Recorder::startRunning()
         (transport_.loops() && !interval.isEmpty() && !interval.contains(position)))
         transport_.scrollTo(interval.start);
     transport_.startRunningRecording();
-    running_.emplace(transport_, sequence_, TakeOptions{channel_, snapToGrid_, punches});
+    running_.emplace(
+        transport_, sequence_,
+        TakeOptions{channel_, snapToGrid_ ? std::optional(grid_) : std::nullopt, punches});
 }
 
 void Recorder::setPunches(bool punches)
@@ -82,9 +88,9 @@ void Recorder::setPunches(bool punches)
     emit optionsChanged();
 }
 
-const std::vector<std::vector<Note>>& Recorder::takes() const
+const std::vector<Take>& Recorder::takes() const
 {
-    static const std::vector<std::vector<Note>> kNone;
+    static const std::vector<Take> kNone;
     return running_ ? running_->passes() : kNone;
 }
 
@@ -164,7 +170,7 @@ void Recorder::take(double from, double until)
         return;
     }
     const double before = transport_.position();
-    collectEvents();
+    collect(transport_.host().liveKeys().events(), place_, events_);
     auto event = events_.begin();
     for (; event != events_.end() && event->time <= until; ++event) {
         const double time = std::max(from, event->time);
@@ -178,6 +184,7 @@ void Recorder::take(double from, double until)
     events_.erase(events_.begin(), event);
     run(from, until);
     releaseSilencedKeys();
+    takeControllers(until);
     for (std::size_t key = 0; key < kKeys; ++key)
         if (openNotes_[key] != 0)
             lengthen(key, transport_.position());
@@ -187,13 +194,21 @@ void Recorder::take(double from, double until)
         std::max(transport_.extent(), transport_.position() + kRoomBehindLastNote));
 }
 
-void Recorder::collectEvents()
+void Recorder::takeControllers(double until)
 {
-    const KeyEvents& events = transport_.host().liveKeys().events();
-    while (const auto event = events.read(place_))
-        events_.push_back(*event);
-    // Each device has a thread of its own, and those of JACK announce what is about to happen.
-    std::ranges::stable_sort(events_, {}, &KeyEvent::time);
+    if (transport_.reading() == Reading::Plain)
+        return;
+    collect(transport_.host().liveKeys().controls(), controlPlace_, controls_);
+    auto event = controls_.begin();
+    for (; event != controls_.end() && event->time <= until; ++event)
+        moved_.push_back({positionBefore(until - event->time), channel_,
+                          static_cast<std::uint8_t>(event->number), event->value});
+    controls_.erase(controls_.begin(), event);
+}
+
+Controllers Recorder::endControllers()
+{
+    return running_ ? running_->controllers() : std::exchange(moved_, {});
 }
 
 // See docs/decisions.md, 100.

@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace velmora {
@@ -62,7 +63,10 @@ public:
     void setPunches(bool punches);
 
     /// True if notes were recorded since the last call of `endTake`.
-    bool hasTake() const { return !taken_.empty() || (running_ && !running_->isEmpty()); }
+    bool hasTake() const
+    {
+        return !taken_.empty() || !moved_.empty() || (running_ && !running_->isEmpty());
+    }
 
     /// True if a note was recorded or lengthened since the last call of `endTake`.
     bool isTaken(std::uint64_t id) const
@@ -70,12 +74,15 @@ public:
         return taken_.contains(id) || (running_ && running_->contains(id));
     }
 
-    /// The takes of the last recording in a loop, each with its notes; fewer than two if there is
-    /// nothing to choose from.
-    const std::vector<std::vector<Note>>& takes() const;
+    /// The takes of the last recording in a loop; fewer than two if there is nothing to choose
+    /// from.
+    const std::vector<Take>& takes() const;
 
     /// Forgets those takes, unless more are being recorded.
     void forgetTakes();
+
+    /// Returns the controllers that were moved since the last call, if the reading is musical.
+    Controllers endControllers();
 
     /// Ends the current take, but not the recording. Returns the notes of the take as they were
     /// before it.
@@ -93,7 +100,7 @@ private:
     void startRunning();
     void finish();
     void take(double from, double until);
-    void collectEvents();
+    void takeControllers(double until);
     void takeHeldKeys();
     void releaseSilencedKeys();
 
@@ -125,7 +132,10 @@ private:
 
     std::uint64_t place_ = 0;      ///< Of the next key event.
     std::vector<KeyEvent> events_; ///< Those that are not due yet, in order of time.
-    std::bitset<kKeys> heldKeys_;  ///< The keys that are down.
+    std::uint64_t controlPlace_ = 0;
+    std::vector<ControlEvent> controls_;
+    Controllers moved_;
+    std::bitset<kKeys> heldKeys_;                  ///< The keys that are down.
     std::array<std::uint64_t, kKeys> openNotes_{}; ///< The note that each key lengthens, or 0.
 
     /// The length before the take of each note that it has changed; empty for a new note.

@@ -23,7 +23,8 @@ RunningTake::RunningTake(Transport& transport, Sequence& sequence, const TakeOpt
     : transport_(transport), sequence_(sequence), options_(options),
       interval_(transport.interval()), loops_(transport.loops() && !interval_.isEmpty()),
       start_(options.punches ? interval_.start : transport.position()),
-      place_(transport.host().liveKeys().events().end())
+      place_(transport.host().liveKeys().events().end()),
+      controlPlace_(transport.host().liveKeys().controls().end())
 {
     if (options_.punches)
         removeReplaced();
@@ -32,38 +33,44 @@ RunningTake::RunningTake(Transport& transport, Sequence& sequence, const TakeOpt
 // See docs/decisions.md, 190.
 void RunningTake::removeReplaced()
 {
-    std::vector<std::uint64_t> removed;
+    std::vector<NoteState> states;
     for (const Note& note : sequence_.notes()) {
         if (note.channel != options_.channel || note.start + note.length <= interval_.start ||
             note.start >= interval_.end)
             continue;
         before_.emplace(note.id, note);
         replaced_.push_back(note);
-        if (note.start >= interval_.start) {
-            removed.push_back(note.id);
-        } else {
-            Note& cut = *sequence_.find(note.id);
-            cut.length = cut.oldLength = interval_.start - cut.start;
+        NoteState& state = states.emplace_back(NoteState{note.id, std::nullopt});
+        if (note.start < interval_.start) {
+            state.note = note;
+            state.note->length = state.note->oldLength = interval_.start - note.start;
         }
     }
-    std::vector<NoteState> states;
-    states.reserve(removed.size());
-    for (const std::uint64_t id : removed)
-        states.push_back({id, std::nullopt});
+    swap(states);
+}
+
+void RunningTake::swap(std::vector<NoteState>& states)
+{
+    std::vector<std::uint64_t> ids;
+    ids.reserve(states.size());
+    for (const NoteState& state : states)
+        ids.push_back(state.id);
+    transport_.prepareChange(ids);
     sequence_.swap(states);
-    transport_.playback().sequenceChanged();
 }
 
 bool RunningTake::take()
 {
-    const KeyEvents& events = transport_.host().liveKeys().events();
-    while (const auto event = events.read(place_))
-        events_.push_back(*event);
-    std::ranges::stable_sort(events_, {}, &KeyEvent::time);
+    const LiveKeys& keys = transport_.host().liveKeys();
+    collect(keys.events(), place_, events_);
+    collect(keys.controls(), controlPlace_, controls_);
     auto event = events_.begin();
-    for (; event != events_.end() && event->time <= transport_.lastTick(); ++event)
+    for (; event != events_.end() && event->time <= transport_.lastTick(); ++event) {
+        takeControls(event->time);
         takeEvent(*event);
+    }
     events_.erase(events_.begin(), event);
+    takeControls(transport_.lastTick());
     while (pass_ < transport_.turns())
         finishPass();
     const double position = transport_.position();
@@ -73,11 +80,11 @@ bool RunningTake::take()
     return loops_ || !options_.punches || position < interval_.end;
 }
 
-void RunningTake::takeEvent(const KeyEvent& event)
+RunningTake::Moment RunningTake::momentOf(double time) const
 {
     const Pace pace = transport_.pace();
     double step = transport_.position();
-    double seconds = transport_.lastTick() - event.time; // before that step
+    double seconds = transport_.lastTick() - time; // before that step
     int pass = transport_.turns();
     for (; loops_ && pass > pass_; --pass) {
         const double sinceTurn = pace.secondsBetween(interval_.start, step);
@@ -86,15 +93,45 @@ void RunningTake::takeEvent(const KeyEvent& event)
         seconds -= sinceTurn;
         step = interval_.end;
     }
-    step = pace.stepAfter(step, -seconds);
-    while (pass_ < pass)
+    return {pace.stepAfter(step, -seconds), pass};
+}
+
+void RunningTake::takeEvent(const KeyEvent& event)
+{
+    const Moment moment = momentOf(event.time);
+    while (pass_ < moment.pass)
         finishPass();
     if (event.isPress) {
-        press(event, step);
+        press(event, moment.step);
     } else {
-        lengthen(event.key, step);
+        lengthen(event.key, moment.step);
         openNotes_[event.key] = 0;
     }
+}
+
+void RunningTake::takeControls(double until)
+{
+    auto control = controls_.begin();
+    for (; control != controls_.end() && control->time <= until; ++control)
+        takeControl(*control);
+    controls_.erase(controls_.begin(), control);
+}
+
+void RunningTake::takeControl(const ControlEvent& event)
+{
+    const Moment moment = momentOf(event.time);
+    while (pass_ < moment.pass)
+        finishPass();
+    if ((options_.punches || loops_) && moment.step >= interval_.end)
+        return;
+    // A pedal that goes down while the metronome counts is down from the first step on.
+    const double step = std::max(moment.step, firstStep());
+    std::erase_if(controllers_, [&](const ControllerEvent& other) {
+        return other.number == event.number && other.step == step;
+    });
+    controllers_.push_back(
+        {step, options_.channel, static_cast<std::uint8_t>(event.number), event.value});
+    hasMoved_ = true;
 }
 
 void RunningTake::press(const KeyEvent& event, double step)
@@ -102,12 +139,12 @@ void RunningTake::press(const KeyEvent& event, double step)
     transport_.host().liveKeys().take(event.key);
     lengthen(event.key, step); // pressed again from elsewhere
     openNotes_[event.key] = 0;
-    const double early = kEarly * transport_.pace().stepsPerSecondAt(start_);
+    const double early = kEarly * transport_.pace().stepsPerSecondAt(firstStep());
     const bool isPast = (options_.punches || loops_) && step >= interval_.end;
-    if (step < start_ - early || isPast)
+    if (step < firstStep() - early || isPast)
         return;
-    const double exact = std::max(step, start_);
-    const double start = options_.snapToGrid ? std::floor(exact) : exact;
+    const double exact = std::max(step, firstStep());
+    const double start = options_.grid ? transport_.time().gridAt(exact, *options_.grid) : exact;
     const Note note{.start = start,
                     .length = kShortest,
                     .oldLength = kShortest,
@@ -128,8 +165,11 @@ void RunningTake::lengthen(std::size_t key, double step)
     if (note == nullptr) // or it was deleted
         return;
     const bool ends = options_.punches || loops_;
-    const double exact = (ends ? std::min(step, interval_.end) : step) - note->start;
-    const double length = std::max(options_.snapToGrid ? std::ceil(exact) : exact, kShortest);
+    double end = ends ? std::min(step, interval_.end) : step;
+    if (const auto& grid = options_.grid)
+        end = std::max(transport_.time().gridAt(end, *grid),
+                       transport_.time().gridAfter(note->start, *grid));
+    const double length = std::max(end - note->start, kShortest);
     before_.emplace(note->id, *note); // an edit may have ended the changes before
     note->length = note->oldLength = length;
 }
@@ -146,22 +186,24 @@ void RunningTake::finishPass()
 {
     ++pass_;
     endNotes(interval_.end);
-    std::vector<Note> notes;
+    letGo(controllers_, interval_.end);
+    Take take{{}, std::exchange(controllers_, {})};
+    hasMoved_ = false;
     for (const std::uint64_t id : std::exchange(recorded_, {}))
         if (const Note* note = sequence_.find(id))
-            notes.push_back(*note);
-    if (notes.empty())
+            take.notes.push_back(*note);
+    if (take.notes.empty() && take.controllers.empty())
         return;
-    std::vector<NoteState> states = absent(notes);
-    sequence_.swap(states);
-    transport_.playback().sequenceChanged();
-    passes_.push_back(std::move(notes));
+    std::vector<NoteState> states = absent(take.notes);
+    swap(states);
+    passes_.push_back(std::move(take));
 }
 
 void RunningTake::end()
 {
     const double position = transport_.position();
     endNotes(position);
+    letGo(controllers_, position);
     std::vector<NoteState> back;
     if (!loops_)
         for (const Note& note : replaced_)
@@ -172,16 +214,23 @@ void RunningTake::end()
             const Note* const now = sequence_.find(state.id);
             before_.emplace(state.id, now == nullptr ? std::nullopt : std::optional(*now));
         }
-    if (!recorded_.empty()) {
-        std::vector<Note>& notes = passes_.emplace_back();
+    if (!recorded_.empty() || !controllers_.empty()) {
+        Take& take = passes_.emplace_back(Take{{}, controllers_});
         for (const std::uint64_t id : recorded_)
             if (const Note* note = sequence_.find(id))
-                notes.push_back(*note);
+                take.notes.push_back(*note);
     } else if (!passes_.empty()) { // nothing was played in the last pass
-        for (const Note& note : passes_.back())
+        for (const Note& note : passes_.back().notes)
             back.push_back({note.id, note});
+        controllers_ = passes_.back().controllers;
+        hasMoved_ = !controllers_.empty();
     }
-    sequence_.swap(back);
+    swap(back);
+}
+
+Controllers RunningTake::controllers()
+{
+    return std::exchange(hasMoved_, false) ? controllers_ : Controllers();
 }
 
 std::vector<NoteState> RunningTake::changes()

@@ -67,6 +67,11 @@ SequenceDocument::SequenceDocument(SequenceHost& host, Reading reading,
         emit changed();
     });
     connect(this, &SequenceDocument::changed, &practiceSession_, &PracticeSession::seek);
+    transport_.playback().setControllers(controllers_);
+    connect(&transport_, &Transport::modeChanged, this, [this] {
+        if (transport_.mode() == Transport::Mode::Recording)
+            controllersBeforeTakes_ = controllers_;
+    });
     // In the plain reading the keyboard keeps its colours.
     if (reading == Reading::Musical)
         connect(&transport_, &Transport::modeChanged, this, [this] {
@@ -77,6 +82,8 @@ SequenceDocument::SequenceDocument(SequenceHost& host, Reading reading,
         if (transport_.mode() != Transport::Mode::Stopped)
             useVoices();
     });
+    connect(&recorder_, &Recorder::optionsChanged, this, &SequenceDocument::useLiveSound);
+    connect(this, &SequenceDocument::voicesChanged, this, &SequenceDocument::useLiveSound);
     forgetFile();
     // See docs/decisions.md, 126.
     host.liveKeys().clear();
@@ -124,6 +131,7 @@ void SequenceDocument::forgetFile()
     source_ = reading() == Reading::Musical ? std::make_shared<SourceFile>() : nullptr;
     transport_.setTime({});
     takeVoices(source_ ? source_->voices() : Voices());
+    controllers_.clear();
 }
 
 void SequenceDocument::readPlainly(const std::filesystem::path& path, Sequence& sequence)
@@ -138,6 +146,7 @@ void SequenceDocument::readMusically(const std::filesystem::path& path, Sequence
     source_ = std::make_shared<SourceFile>(midiBytesOf(path), sequence);
     transport_.setTime(source_->time());
     takeVoices(source_->voices());
+    controllers_ = source_->controllers();
     if (const auto& damage = source_->damage()) {
         damage_ = damage->inFile(path.filename().string());
         logger("sequencer").info("{}", damage_);
@@ -161,7 +170,7 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
     }
     try {
         writeFile(path, source_ && format == SequenceFormat::MidiFile
-                            ? source_->write(sequence_, time(), voices_)
+                            ? source_->write(sequence_, time(), voices_, controllers_)
                             : writeSequence(sequence_, format));
     } catch (const std::length_error& error) {
         errorString_ = toUtf8(path.filename().string()) + " cannot be written: " + error.what();
@@ -190,10 +199,11 @@ bool SequenceDocument::save(const std::filesystem::path& path, SequenceFormat fo
 UnsavedSequence SequenceDocument::snapshot() const
 {
     const auto now = std::chrono::system_clock::now();
-    return {path_,       std::chrono::floor<std::chrono::milliseconds>(now),
-            isImported_, sequence_.notes(),
-            time(),      voices_,
-            reading(),   source_};
+    return {path_,        std::chrono::floor<std::chrono::milliseconds>(now),
+            isImported_,  sequence_.notes(),
+            time(),       voices_,
+            controllers_, reading(),
+            source_};
 }
 
 void SequenceDocument::recover(const UnsavedSequence& unsaved)
@@ -218,6 +228,7 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
     if (!isPlain) {
         transport_.setTime(unsaved.musicalTime);
         takeVoices(unsaved.voices);
+        controllers_ = unsaved.controllers;
     }
     errorString_.clear();
     recorder_.endTake();
@@ -230,12 +241,7 @@ void SequenceDocument::recover(const UnsavedSequence& unsaved)
 SequenceDocument::Edit::Edit(SequenceDocument& document, std::span<const std::uint64_t> notes)
     : document_(document)
 {
-    SequencePlayback& playback = document.transport_.playback();
-    document.transport_.settle();
-    for (const std::uint64_t id : notes)
-        if (Note* note = document.sequence_.find(id); note != nullptr && note->playing)
-            playback.silence(*note);
-    playback.sequenceChanged();
+    document.transport_.prepareChange(notes);
     ++document.edits_;
 }
 
@@ -293,6 +299,24 @@ void SequenceDocument::setTime(MusicalTime time, const QString& text)
     }));
 }
 
+void SequenceDocument::setControllers(Controllers controllers, const QString& text)
+{
+    if (controllers == controllers_)
+        return;
+    registerTake();
+    pushControllers(std::move(controllers), text);
+}
+
+void SequenceDocument::pushControllers(Controllers controllers, const QString& text)
+{
+    undoStack_.push(new SwapCommand(text, [this, controllers = std::move(controllers)]() mutable {
+        transport_.settle();
+        controllers_.swap(controllers);
+        transport_.controllersChanged();
+        emit changed();
+    }));
+}
+
 std::vector<std::uint64_t> SequenceDocument::perform(std::vector<NoteState> notes,
                                                      const QString& text)
 {
@@ -310,42 +334,6 @@ std::vector<std::uint64_t> SequenceDocument::perform(std::vector<NoteState> note
 void SequenceDocument::registerDone(std::vector<NoteState> before, const QString& text)
 {
     undoStack_.push(new SwapNotes(*this, std::move(before), text));
-}
-
-void SequenceDocument::registerTake()
-{
-    std::vector<NoteState> before = recorder_.endTake();
-    if (before.empty())
-        return;
-    const auto added = std::count_if(before.begin(), before.end(),
-                                     [](const NoteState& state) { return !state.note; });
-    registerDone(std::move(before),
-                 editText(QT_TRANSLATE_N_NOOP("velmora::SequenceDocument", "Record %n Note(s)"),
-                          static_cast<std::size_t>(added)));
-}
-
-// See docs/decisions.md, 191.
-void SequenceDocument::chooseTake(std::size_t take)
-{
-    const auto& takes = recorder_.takes();
-    std::vector<NoteState> states;
-    for (std::size_t i = 0; i < takes.size(); ++i)
-        for (const Note& note : takes[i])
-            if (const bool exists = sequence_.find(note.id) != nullptr; exists != (i == take))
-                states.push_back({note.id, exists ? std::nullopt : std::optional(note)});
-    if (!states.empty())
-        perform(std::move(states), tr("Choose Take %1").arg(take + 1));
-}
-
-std::optional<std::size_t> SequenceDocument::chosenTake() const
-{
-    const auto& takes = recorder_.takes();
-    for (std::size_t i = 0; i < takes.size(); ++i)
-        if (std::ranges::any_of(takes[i], [this](const Note& note) {
-                return std::as_const(sequence_).find(note.id) != nullptr;
-            }))
-            return i;
-    return std::nullopt;
 }
 
 QString SequenceDocument::editText(const char* text, std::size_t notes)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Clock.h"
+#include "sequencer/Controllers.h"
 #include "sequencer/Practice.h"
 #include "sequencer/PracticeSession.h"
 #include "sequencer/Recorder.h"
@@ -105,6 +106,10 @@ public:
     /// Lets the channels of the host sound as the voices of this document, as playing does.
     void useVoices();
 
+    /// Lets live keys sound as the voice that is recorded, from now on, or as the instrument
+    /// itself.
+    void setLive(bool isLive);
+
     /// The current state of the document, to be kept in case of a crash.
     UnsavedSequence snapshot() const;
 
@@ -124,6 +129,12 @@ public:
     /// form that has to be translated.
     static QString editText(const char* text, std::size_t notes);
 
+    /// The pedals, the wheel and the other controllers of the piece; none in the plain reading.
+    const Controllers& controllers() const { return controllers_; }
+
+    /// Changes them as an edit that can be undone. `text` names it in the menu.
+    void setControllers(Controllers controllers, const QString& text);
+
     /// Puts notes into the given states, as an edit that can be undone. `text` names it in the
     /// menu. Returns the identities of those of the notes that exist afterwards.
     std::vector<std::uint64_t> perform(std::vector<NoteState> notes, const QString& text);
@@ -137,7 +148,7 @@ public:
 
     /// Puts one of the recorder's takes into the sequence in place of the one that is there, as an
     /// edit that can be undone.
-    void chooseTake(std::size_t take);
+    void chooseTake(std::size_t chosen);
 
     /// Which of the recorder's takes is in the sequence; nothing if none is.
     std::optional<std::size_t> chosenTake() const;
@@ -154,10 +165,18 @@ signals:
     /// Something about a voice has changed.
     void voicesChanged();
 
+    /// The channels of the host sound as the voices of this document, not as those of another one.
+    void voicesUsed();
+
 private:
     class SwapNotes;
 
     void takeVoices(const Voices& voices);
+
+    void useLiveSound();
+
+    /// The programs of the voices: how each that changes begins, and what it changes to.
+    ProgramChanges programs() const;
 
     /// Read a file into an empty sequence, or throw FormatError.
     void readPlainly(const std::filesystem::path& path, Sequence& sequence);
@@ -170,7 +189,15 @@ private:
     /// Forgets the file, its time and its damage.
     void forgetFile();
 
+    /// The controllers as they would be if none of the recorder's takes had been recorded.
+    Controllers controllersWithoutTakes() const;
+
+    void pushControllers(Controllers controllers, const QString& text);
+    void registerNotes(std::vector<NoteState> before);
+
     Sequence sequence_;
+    Controllers controllers_;
+    Controllers controllersBeforeTakes_; ///< Those before the present or last recording.
     Transport transport_;
     Recorder recorder_;
     PracticeSession practiceSession_;
@@ -180,6 +207,7 @@ private:
     std::filesystem::path path_;
     std::string errorString_, damage_;
     bool isImported_ = false;
+    bool isLive_ = false;                      ///< Live keys sound as the voice that is recorded.
     std::shared_ptr<const SourceFile> source_; ///< Null in the plain reading.
     int edits_ = 0;                            ///< Number of edits in progress; they can be nested.
 };

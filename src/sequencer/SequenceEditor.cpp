@@ -25,7 +25,8 @@ bool hasMoved(const Note& note)
 } // namespace
 
 SequenceEditor::SequenceEditor(SequenceDocument& document)
-    : document_(document), transport_(document.transport()), recorder_(document.recorder())
+    : document_(document), transport_(document.transport()), recorder_(document.recorder()),
+      stepHeight_(getPrefInt("KeyHeight"))
 {
 }
 
@@ -45,12 +46,11 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
     hitNote_ = isNewNote_ = false;
     newNote_ = 0;
 
-    const int keyHeight = getPrefInt("KeyHeight");
     {
         const auto edit = document_.edit();
         edit->update();
         for (std::size_t i = edit->notes().size(); i-- > 0;) {
-            const RollHit place = rollHit(edit->notes()[i], point, keyHeight);
+            const RollHit place = rollHit(edit->notes()[i], point, stepHeight_);
             if (place == RollHit::Nothing || edit->isLocked(edit->notes()[i]))
                 continue;
             hit(*edit, edit->at(i), place, modifiers);
@@ -70,6 +70,12 @@ void SequenceEditor::mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers)
     }
 
     const double step = snapped(point.step);
+    if (getPrefBool("DragSelects")) {
+        if (!modifiers.testFlag(Qt::ShiftModifier))
+            recorder_.waitAt(step);
+        beginBand(point);
+        return;
+    }
     double start =
         transport_.interval().isEmpty() ? transport_.position() : transport_.interval().start;
     if (!modifiers.testFlag(Qt::ShiftModifier)) {
@@ -253,9 +259,10 @@ void SequenceEditor::selectInterval(double one, double other)
     transport_.selectInterval(snapped(std::min(one, other)), snapped(std::max(one, other)));
 }
 
-void SequenceEditor::setGrid(Grid grid)
+void SequenceEditor::setStepHeight(int pixels)
 {
-    recorder_.setGrid(grid);
+    stepHeight_ = pixels;
+    recorder_.setGrid(visibleGrid(pixels));
 }
 
 double SequenceEditor::snapped(double step) const

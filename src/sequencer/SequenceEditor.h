@@ -51,7 +51,8 @@ public:
     /// Selects the note under the mouse. A drag then resizes it if the press hit its end, and
     /// otherwise moves the selection; if it ends with Command or Alt, the selection is copied there
     /// instead. If there is no note, moves the position and begins an interval; with Shift, extends
-    /// the interval; with Alt, begins a rubber band. With Command, draws a note. The note that is
+    /// the interval; with Alt, begins a rubber band. If the preference "DragSelects" is set, it
+    /// moves the position and begins a rubber band. With Command, draws a note. The note that is
     /// pressed or drawn sounds until the release if the preference "SoundNotes" is set, but not in
     /// the plain reading.
     void mouseDown(RollPoint point, Qt::KeyboardModifiers modifiers);
@@ -84,8 +85,9 @@ public:
     /// Selects the interval between two steps in either order.
     void selectInterval(double one, double other);
 
-    /// Sets the grid to which notes and times snap if snapping is on.
-    void setGrid(Grid grid);
+    /// Sets the height of a step in pixels. It decides where the end of a note is grabbed, and to
+    /// which lines of the grid notes and times snap if snapping is on.
+    void setStepHeight(int pixels);
 
     void selectAll();
     void deleteSelection();
@@ -96,10 +98,12 @@ public:
     void selectNeighbour(Direction direction);
 
     /// Moves the selected notes by semitones and steps. If one of them reaches the edge of the
-    /// roll, all of them stop there. With the grid switched on, they move to whole steps.
+    /// roll, all of them stop there. With the grid switched on, the first of them moves to the next
+    /// line instead, and in the plain reading all of them move to whole steps.
     void moveSelection(int semitones, int steps);
 
-    /// Lengthens the selected notes, except those that would have no length any more.
+    /// Lengthens the selected notes, except those that would have no length any more. With the grid
+    /// switched on, each of them ends at the next line instead, but not in the plain reading.
     void resizeSelection(int steps);
 
     /// Selects the notes for which `isWanted` returns true, besides those that are selected already
@@ -151,6 +155,10 @@ public:
 private:
     void hit(Sequence& sequence, Note& note, RollHit place, Qt::KeyboardModifiers modifiers);
     void move(double keys, double steps, bool snap);
+
+    /// Returns how far a time moves by `steps`: to the next line if notes snap.
+    double onGrid(double time, int steps) const;
+
     void dragNotes(RollPoint point);
     void beginChange();
     void endChange();
@@ -180,6 +188,7 @@ private:
     bool hitNote_ = false;      ///< True if the last press hit or created a note.
     bool isNewNote_ = false;    ///< True if the drag draws a new note.
     std::uint64_t newNote_ = 0; ///< The note that is being resized or drawn; 0 if none is.
+    int stepHeight_;            ///< In pixels.
     std::optional<std::pair<RollPoint, RollPoint>> band_;
     std::optional<Note> sounding_; ///< The note that sounds because it is pressed.
 };

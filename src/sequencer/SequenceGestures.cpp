@@ -59,9 +59,10 @@ void SequenceEditor::finishBand(Qt::KeyboardModifiers modifiers)
 
 void SequenceEditor::changeVelocityAt(RollPoint point, double difference)
 {
-    const auto& notes = document_.sequence().notes();
+    const Sequence& sequence = document_.sequence();
+    const auto& notes = sequence.notes();
     const auto note = std::find_if(notes.rbegin(), notes.rend(), [&](const Note& each) {
-        return rollHit(each, point, 1) != RollHit::Nothing;
+        return rollHit(each, point, 1) != RollHit::Nothing && !sequence.isLocked(each);
     });
     if (note == notes.rend())
         return;
@@ -75,6 +76,7 @@ void SequenceEditor::sound(const Note& note)
     if (document_.reading() == Reading::Plain || !getPrefBool("SoundNotes"))
         return;
     sounding_ = note;
+    document_.useVoices();
     transport_.host().play(static_cast<int>(note.key), note.velocity, channelOf(note), 0.0);
 }
 

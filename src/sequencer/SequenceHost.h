@@ -5,6 +5,8 @@
 #include "sound/PartSound.h"
 
 #include <array>
+#include <optional>
+#include <span>
 
 namespace velmora {
 
@@ -40,6 +42,9 @@ public:
     /// instrument that still sounds it. If the user holds it as well, it sounds on.
     virtual void stop(int key, int channel, double time) = 0;
 
+    /// Moves a controller of a channel, 0…15, as a `ControllerEvent` says. `time` is as for `play`.
+    virtual void control(int /*number*/, int /*value*/, int /*channel*/, double /*time*/) {}
+
     /// Sounds a click of the metronome, if there is one. `time` is as for `play`; a click that is
     /// still to come sounds by itself.
     virtual void click(Click /*click*/, double /*time*/) {}
@@ -49,6 +54,20 @@ public:
 
     /// Chooses how the channels sound from now on, also what already sounds on them if possible.
     virtual void setVoices(const VoiceSounds& /*voices*/) {}
+
+    /// Changes the program of a channel, 0…15, from a time on, which is as for `play`; empty for
+    /// that of the instrument.
+    virtual void setProgram(int /*channel*/, const std::optional<PartSound::Preset>& /*preset*/,
+                            double /*time*/)
+    {
+    }
+
+    /// Announces the programs to which channels will change, before the call of `setVoices`.
+    virtual void expectPrograms(std::span<const PartSound::Preset> /*presets*/) {}
+
+    /// Chooses how live keys sound. Where that is the plain sound, they play the divisions of the
+    /// instrument.
+    virtual void setLiveSound(const PartSound& /*sound*/) {}
 
     /// The keys of live input.
     virtual LiveKeys& liveKeys() = 0;

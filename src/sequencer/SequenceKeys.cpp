@@ -100,7 +100,7 @@ void SequenceEditor::setChannel(unsigned char channel, bool ofSelection)
     if (notes.empty())
         return;
     document_.registerTake();
-    document_.edit()->setChannel(channel);
+    document_.edit(document_.sequence().selection())->setChannel(channel);
     document_.registerDone(
         present(notes), SequenceDocument::editText(QT_TRANSLATE_N_NOOP("velmora::SequenceDocument",
                                                                        "Set Channel of %n Note(s)"),

@@ -49,9 +49,13 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
             perform(host_, action);
         actions_.clear();
     }
-    for (const Beat& beat : beatsBetween(from, to))
-        if (isHeard)
+    if (isHeard) {
+        for (const Beat& beat : beatsBetween(from, to))
             host_.click(beat.click, 0.0);
+        for (const ProgramChange& change : programsBetween(from, to))
+            host_.setProgram(change.channel, change.preset, 0.0);
+        moveControllers(controllersBetween(from, to));
+    }
     std::optional<std::uint32_t> lastKey;
     bool silenced = false;
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
@@ -82,6 +86,13 @@ void SequencePlayback::collect(double from, double to, double time)
 {
     for (const Beat& beat : beatsBetween(from, to))
         actions_.push_back({.time = time, .step = to, .click = beat.click});
+    for (const ProgramChange& change : programsBetween(from, to))
+        actions_.push_back({.time = time, .step = to, .program = change});
+    for (const ControllerEvent& event : controllersBetween(from, to)) {
+        // `stop` may have let them go while the sequence plays on.
+        moved_.at(event.channel).set(event.number);
+        actions_.push_back({.time = time, .step = to, .controller = event});
+    }
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
         const Note& note = sequence_.at(noteIndex);
         if (!isPlayed(note))
@@ -146,6 +157,8 @@ void SequencePlayback::planLoop(double step, double time, const Pace& pace, doub
     replanTime_ = time + kTick.count() * kTicksPlanned / 2;
     actions_.clear();
     const double last = time + kTick.count() * kTicksPlanned;
+    const Controllers values =
+        controllers_ == nullptr ? Controllers() : valuesBeforePass(*controllers_, start, end);
     double ahead = 0.0; // of the loop's steps
     for (double from = step; time < last; from = start) {
         const double turn = time + pace.secondsBetween(from, end);
@@ -157,6 +170,14 @@ void SequencePlayback::planLoop(double step, double time, const Pace& pace, doub
         for (const std::uint32_t key : index().keys())
             actions_.push_back({false, key, kEveryChannel, 0.0F, turn + kBehindPosition,
                                 end + ahead + kPastAction});
+        for (const ProgramChange& change : programsAt(programs_, start))
+            actions_.push_back({.time = turn + kBehindPosition,
+                                .step = end + ahead + kPastAction,
+                                .program = change});
+        for (const ControllerEvent& event : values)
+            actions_.push_back({.time = turn + kBehindPosition,
+                                .step = end + ahead + kPastAction,
+                                .controller = event});
         ahead += end - start;
         time = turn;
     }
@@ -175,6 +196,16 @@ void SequencePlayback::planPass(double from, double to, double time, const Pace&
         actions_.push_back({.time = time + pace.secondsBetween(from, beat.step) + kBehindPosition,
                             .step = beat.step + ahead + kPastAction,
                             .click = beat.click});
+    for (const ProgramChange& change : programsBetween(from, to))
+        actions_.push_back({.time = time + pace.secondsBetween(from, change.step) + kBehindPosition,
+                            .step = change.step + ahead + kPastAction,
+                            .program = change});
+    for (const ControllerEvent& event : controllersBetween(from, to)) {
+        moved_.at(event.channel).set(event.number);
+        actions_.push_back({.time = time + pace.secondsBetween(from, event.step) + kBehindPosition,
+                            .step = event.step + ahead + kPastAction,
+                            .controller = event});
+    }
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
         const Note& note = sequence_.notes()[noteIndex];
         if (startsBetween(note, from, to))
@@ -193,6 +224,10 @@ void SequencePlayback::wrap(double start, double end)
         states[key] = 0;
         if (sounds)
             stopOnInstrument(key, kEveryChannel);
+    }
+    if (sounds) {
+        usePrograms(start);
+        startControllers(start);
     }
     clearMarks();
     ahead_ += end - start;
@@ -216,11 +251,14 @@ bool SequencePlayback::cancelPlan()
     return true;
 }
 
-void SequencePlayback::silence(Note& note)
+void SequencePlayback::silence(std::uint64_t id)
 {
-    states[note.key] = 0;
-    note.playing = note.active = false;
-    stopOnInstrument(note.key, channelOf(note));
+    Note* const note = sequence_.find(id);
+    if (note == nullptr || !note->playing)
+        return;
+    states[note->key] = 0;
+    note->playing = note->active = false;
+    stopOnInstrument(note->key, channelOf(*note));
 }
 
 // See docs/decisions.md, 98.
@@ -244,6 +282,7 @@ void SequencePlayback::clearMarks()
 
 void SequencePlayback::stop()
 {
+    letControllersGo();
     for (std::size_t i = 0; i < sequence_.notes().size(); ++i) {
         Note& note = sequence_.at(i);
         if (note.playing)

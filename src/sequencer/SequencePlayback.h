@@ -1,18 +1,23 @@
 #pragma once
 
+#include "midi/messages.h"
 #include "sequencer/AheadPlayer.h"
 #include "sequencer/Metre.h"
 #include "sequencer/Pace.h"
 #include "sequencer/PracticePart.h"
+#include "sequencer/ProgramChanges.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceHost.h"
 #include "sequencer/SequenceIndex.h"
 #include "sound/keys.h"
 
 #include <array>
+#include <bitset>
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace velmora {
@@ -38,6 +43,20 @@ public:
     /// Plays the clicks of a metronome with the notes from now on, on the beats of a piece; null
     /// plays none. Call this while nothing is planned.
     void setClicks(const MusicalTime* time, bool divides);
+
+    /// Changes programs with the notes from now on. Call this while nothing is planned.
+    void setPrograms(ProgramChanges changes) { programs_ = std::move(changes); }
+    const ProgramChanges& programs() const { return programs_; }
+
+    /// Gives the channels that change their program the one that they have at a step.
+    void usePrograms(double step);
+    /// Moves controllers with the notes from now on, which must outlive their use here. Call this
+    /// while nothing is planned.
+    void setControllers(const Controllers& controllers) { controllers_ = &controllers; }
+
+    /// Moves the controllers to where they are at a step, and lets those go that the sequence no
+    /// longer moves. `stop` lets all of them go.
+    void startControllers(double step);
 
     /// Plays the notes through `player` from now on, on its own thread and the clock of `getTime`;
     /// null plays them in `playBetween` again. The player must outlive its use here.
@@ -66,7 +85,8 @@ public:
     /// position afterwards: it flags what has sounded already and sounds the rest.
     bool cancelPlan();
 
-    void silence(Note& note);
+    /// Silences a note, if it exists and sounds.
+    void silence(std::uint64_t id);
 
     /// Stops the keys of all notes, even of those that do not sound.
     void silenceAll();
@@ -88,6 +108,10 @@ public:
 private:
     void stopOnInstrument(std::uint32_t key, int channel);
     void collect(double from, double to, double time);
+    std::span<const ProgramChange> programsBetween(double from, double to) const;
+    std::span<const ControllerEvent> controllersBetween(double from, double to) const;
+    void moveControllers(std::span<const ControllerEvent> events);
+    void letControllersGo();
     std::vector<Beat> beatsBetween(double from, double to) const;
 
     /// Adds the notes and clicks between two steps, each at its own time. `from` is at `time`.
@@ -106,9 +130,12 @@ private:
     /// Indices of all notes that play or are active, and possibly of others.
     std::vector<std::uint32_t> marked_;
 
+    const Controllers* controllers_ = nullptr;
+    std::array<std::bitset<kControllerNumbers>, midi::kChannels> moved_{}; ///< And not yet let go.
     const MusicalTime* clicksOn_ = nullptr; ///< The piece of the metronome; null for none.
     bool divides_ = false;                  ///< The metronome clicks between the beats.
 
+    ProgramChanges programs_;
     std::optional<PracticePart> leftOut_;
     AheadPlayer* player_ = nullptr;
     bool isPlanned_ = false;

@@ -59,9 +59,21 @@ void SequenceEditor::moveSelection(int semitones, int steps)
     if (notes.empty())
         return;
     beginChange();
-    move(semitones, steps, recorder_.snapToGrid() && steps != 0);
+    if (document_.reading() == Reading::Plain)
+        move(semitones, steps, recorder_.snapToGrid() && steps != 0);
+    else
+        move(semitones, onGrid(notes.front().start, steps), false);
     finishMove();
     endChange();
+}
+
+double SequenceEditor::onGrid(double time, int steps) const
+{
+    constexpr double kBeside = 1e-3; // of a line on which the note begins already
+    if (!recorder_.snapToGrid() || steps == 0)
+        return steps;
+    return (steps > 0 ? recorder_.snappedUp(time + kBeside) : recorder_.snapped(time - kBeside)) -
+           time;
 }
 
 void SequenceEditor::move(double keys, double steps, bool snap)
@@ -85,9 +97,12 @@ void SequenceEditor::resizeSelection(int steps)
     const std::vector<Note> before = copy();
     {
         const auto edit = document_.edit(document_.sequence().selection());
-        for (const Note& old : before)
-            if (const double length = old.length + steps; length > 0)
+        const bool isPlain = document_.reading() == Reading::Plain;
+        for (const Note& old : before) {
+            const double change = isPlain ? steps : onGrid(old.start + old.length, steps);
+            if (const double length = old.length + change; length > 0)
                 edit->find(old.id)->length = length;
+        }
         edit->update();
     }
     if (!std::ranges::equal(before, copy(), {}, &Note::length, &Note::length))

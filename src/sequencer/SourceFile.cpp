@@ -8,10 +8,35 @@
 #include "sequencer/editTime.h"
 #include "sequencer/editVoices.h"
 
+#include <bitset>
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 
 namespace velmora {
+
+namespace {
+
+/// Adds a track for each voice that the file does not have, if the file may have several. The names
+/// of tracks are those of their voices, unless two of them share one.
+void addTracks(MidiFileEvents& file, const Sequence& sequence)
+{
+    if (file.header.format != 1)
+        return;
+    std::bitset<midi::kChannels> before, now;
+    for (const FileTrack& track : file.tracks)
+        for (const FileEvent& event : track.events)
+            if ((event.status & midi::kKindMask) == midi::kNoteOn)
+                before.set(event.status & midi::kChannelMask);
+    for (const Note& note : sequence.notes())
+        now.set(note.channel % midi::kChannels);
+    constexpr std::size_t kMostTracks = 0xFFFF;
+    for (std::uint8_t channel = 0; channel < midi::kChannels; ++channel)
+        if (now[channel] && !before[channel] && file.tracks.size() < kMostTracks)
+            file.tracks.emplace_back().channel = channel;
+}
+
+} // namespace
 
 SourceFile::SourceFile()
 {
@@ -26,6 +51,8 @@ SourceFile::SourceFile(std::vector<std::byte> bytes, Sequence& sequence) : bytes
     damage_ = file.damage;
     time_ = musicalTimeOf(file);
     voices_ = voicesOf(file);
+    programChanges_ = programChangesOf(file);
+    controllers_ = controllersOf(file);
     std::uint32_t origin = 0;
     for (const FileTrack& track : file.tracks) {
         const std::vector<FileNote> notes = notesOf(track);
@@ -53,12 +80,14 @@ SourceFile::SourceFile(std::vector<std::byte> bytes, Sequence& sequence) : bytes
 }
 
 std::string SourceFile::write(const Sequence& sequence, const MusicalTime& time,
-                              const Voices& voices) const
+                              const Voices& voices, const Controllers& controllers) const
 {
     MidiFileEvents file = readMidiFileEvents(bytes_);
+    addTracks(file, sequence);
     FileEdits edits;
     editTime(file, time, edits);
     editVoices(file, voices, edits);
+    editControllers(file, controllers, edits);
     return SourceFileWriter(std::move(file), sequence, edits).write();
 }
 

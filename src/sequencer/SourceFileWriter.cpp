@@ -62,10 +62,17 @@ void SourceFileWriter::findFates(const Sequence& sequence)
     std::size_t count = 0;
     for (const auto& notes : notes_)
         count += notes.size();
+    // A note that was given to another voice moves to the track of that one.
+    std::vector<std::uint8_t> channels(1);
+    channels.reserve(count + 1);
+    for (std::size_t track = 0; track < notes_.size(); ++track)
+        for (const FileNote& note : notes_[track])
+            channels.push_back(file_.tracks[track].events[note.on].status & midi::kChannelMask);
     std::vector<const Note*> byOrigin(count + 1);
     std::vector<const Note*> added, edited;
     for (const Note& note : sequence.notes()) {
-        if (note.origin > 0 && note.origin <= count && byOrigin[note.origin] == nullptr)
+        if (note.origin > 0 && note.origin <= count && byOrigin[note.origin] == nullptr &&
+            note.channel % midi::kChannels == channels[note.origin])
             byOrigin[note.origin] = &note;
         else
             added.push_back(&note);
@@ -136,6 +143,8 @@ std::size_t SourceFileWriter::trackFor(const Note& note) const
     std::optional<std::size_t> withNotes;
     for (std::size_t track = 0; track < notes_.size(); ++track) {
         const auto& events = file_.tracks[track].events;
+        if (file_.tracks[track].channel == note.channel % midi::kChannels)
+            return track;
         if (std::any_of(notes_[track].begin(), notes_[track].end(), [&](const FileNote& other) {
                 return (events[other.on].status & midi::kChannelMask) ==
                        note.channel % midi::kChannels;

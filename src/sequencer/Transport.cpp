@@ -9,7 +9,9 @@ namespace velmora {
 
 namespace {
 
-constexpr unsigned kTicksPerFrame = 16;
+/// The least time between two frames in seconds. It lies between 15 and 16 ticks, so that every
+/// sixteenth tick shows one, although ticks jitter.
+constexpr double kFrame = 15.5 * kTick.count();
 
 /// The height of the position above the bottom edge of the view, in steps.
 constexpr double kRoomBelowPosition = 8.0;
@@ -33,6 +35,8 @@ void Transport::play()
         setMode(Mode::Playing);
         if (!interval_.isEmpty() && !interval_.contains(position_))
             scrollTo(interval_.start);
+        playback_.usePrograms(position_);
+        playback_.startControllers(position_);
     }
     emit frame();
 }
@@ -53,6 +57,8 @@ void Transport::startRunningRecording()
         countIn();
     runs_ = true;
     setMode(Mode::Recording);
+    playback_.usePrograms(position_);
+    playback_.startControllers(position_);
     emit frame();
 }
 
@@ -118,8 +124,7 @@ void Transport::tick()
         playback_.cancelPlan();
     double now = clock_();
     if (runs_ && now < lastTick_) { // it still counts
-        if (ticks_++ % kTicksPerFrame == 0)
-            emit frame();
+        showFrame(now);
         return;
     }
     if (mode_ == Mode::Playing) {
@@ -132,8 +137,19 @@ void Transport::tick()
     if (mode_ == Mode::Recording)
         emit recording(before, now);
     // The timer stops after the tick that ends playing, so that tick must show the result.
-    if (ticks_++ % kTicksPerFrame == 0 || mode_ == Mode::Stopped)
+    if (mode_ == Mode::Stopped)
         emit frame();
+    else
+        showFrame(now);
+}
+
+// Late ticks are merged, so counting them would show fewer frames on a busy machine.
+void Transport::showFrame(double now)
+{
+    if (now < nextFrame_)
+        return;
+    nextFrame_ = now + kFrame;
+    emit frame();
 }
 
 Pace Transport::pace() const
@@ -196,6 +212,7 @@ void Transport::playUntil(double now)
         playback_.silenceAll();
         next = interval_.isEmpty() ? 0.0 : interval_.start;
         scrollTo(next);
+        playback_.usePrograms(next);
         if (!loop_)
             play();
     }
@@ -212,6 +229,20 @@ void Transport::settle()
 {
     if (playback_.cancelPlan())
         playOn(clock_());
+}
+
+void Transport::prepareChange(std::span<const std::uint64_t> notes)
+{
+    settle();
+    for (const std::uint64_t id : notes)
+        playback_.silence(id);
+    playback_.sequenceChanged();
+}
+
+void Transport::controllersChanged()
+{
+    if (mode_ == Mode::Playing || runs_)
+        playback_.startControllers(position_);
 }
 
 void Transport::playOn(double until)
@@ -234,6 +265,9 @@ void Transport::setPosition(double step)
 {
     settle();
     position_ = step;
+    if (mode_ != Mode::Stopped)
+        playback_.usePrograms(step);
+    controllersChanged();
     emit moved();
 }
 
@@ -282,6 +316,12 @@ void Transport::setTime(MusicalTime time)
     settle();
     time_ = std::move(time);
     emit optionsChanged();
+}
+
+void Transport::setPrograms(ProgramChanges changes)
+{
+    settle();
+    playback_.setPrograms(std::move(changes));
 }
 
 void Transport::setSpeed(double speed)

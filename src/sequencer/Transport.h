@@ -11,8 +11,10 @@
 
 #include <QObject>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace velmora {
@@ -112,6 +114,9 @@ public:
     const MusicalTime& time() const { return time_; }
     void setTime(MusicalTime time);
 
+    /// Changes programs while the sequence plays.
+    void setPrograms(ProgramChanges changes);
+
     /// How fast the piece is played: 1 as it is written, 2 twice as fast.
     double speed() const { return speed_; }
     void setSpeed(double speed);
@@ -132,6 +137,14 @@ public:
     /// this before changing anything that the plan depends on.
     void settle();
 
+    /// Call this before notes of the sequence change. Settles, and silences those of `notes` that
+    /// sound, because a note that moves or disappears while it sounds might never end.
+    void prepareChange(std::span<const std::uint64_t> notes);
+
+    /// Call this after controllers of the sequence have changed. Moves them to where they are now,
+    /// if they are played.
+    void controllersChanged();
+
     SequencePlayback& playback() { return playback_; }
     SequenceHost& host() const { return host_; }
 
@@ -147,8 +160,8 @@ signals:
     /// The position was moved by anything but a tick, or the selected interval has changed.
     void moved();
 
-    /// The keyboard and the position must be redrawn: on every 16th tick, and whenever they change
-    /// while stopped.
+    /// The keyboard and the position must be redrawn: on every 16th tick, or on every tick if they
+    /// are late, and whenever they change while stopped.
     void frame();
 
     /// A step should appear at the bottom edge of the roll, or as near to it as possible. It may be
@@ -173,6 +186,7 @@ private:
 
     /// Plays up to a time that is not later than now, but not beyond the end, and plans nothing.
     void playOn(double until);
+    void showFrame(double now);
     void setMode(Mode mode);
     void takeMetronome();
     void countIn();
@@ -191,7 +205,7 @@ private:
     Interval interval_;
     bool loop_ = false;
     int cursor_ = 0;
-    unsigned ticks_ = 0;
+    double nextFrame_ = 0.0; ///< In seconds.
     MetronomeSettings metronome_;
     bool runs_ = false;           ///< True if the position moves by itself while recording.
     std::vector<double> countIn_; ///< The times of the beats that are counted, in seconds.

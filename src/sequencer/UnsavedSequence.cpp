@@ -2,6 +2,7 @@
 
 #include "audio/Program.h"
 #include "base/FormatError.h"
+#include "midi/messages.h"
 #include "sequencer/SourceFile.h"
 #include "sequencer/makeValid.h"
 
@@ -107,6 +108,20 @@ template <class Entry, class Rest> std::vector<Entry> readList(Reader& reader, R
     return entries;
 }
 
+Controllers readControllers(Reader& reader)
+{
+    auto controllers = readList<ControllerEvent>(reader, [&](double step) {
+        const auto channel = reader.read<quint8>(), number = reader.read<quint8>();
+        const auto value = reader.read<quint16>();
+        reader.require(channel < midi::kChannels && number <= kPressure &&
+                           value <= largestValue(number),
+                       "a controller is invalid");
+        return ControllerEvent{step, channel, number, value};
+    });
+    std::ranges::stable_sort(controllers, {}, &ControllerEvent::step);
+    return controllers;
+}
+
 MusicalTime readTime(Reader& reader)
 {
     MusicalTime time;
@@ -193,6 +208,9 @@ std::string encodeUnsaved(const UnsavedSequence& sequence)
            << (sequence.source ? bytesOf(*sequence.source) : QByteArray());
     writeTime(stream, sequence.musicalTime);
     writeVoices(stream, sequence.voices);
+    stream << static_cast<quint32>(sequence.controllers.size());
+    for (const ControllerEvent& event : sequence.controllers)
+        stream << event.step << event.channel << event.number << event.value;
     stream << static_cast<quint64>(sequence.notes.size());
     for (const Note& note : sequence.notes)
         stream << note.start << note.length << note.oldStart << note.oldLength
@@ -219,10 +237,12 @@ UnsavedSequence decodeUnsaved(std::span<const std::byte> bytes)
             std::vector(sourceBytes.begin(), sourceBytes.end()), notes);
         sequence.musicalTime = sequence.source->time();
         sequence.voices = sequence.source->voices();
+        sequence.controllers = sequence.source->controllers();
     }
     if (version == kVersion) {
         sequence.musicalTime = readTime(reader);
         sequence.voices = readVoices(reader);
+        sequence.controllers = readControllers(reader);
     }
 
     const auto count = reader.read<quint64>();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Reading.h"
+#include "sequencer/Controllers.h"
 #include "sequencer/MusicalTime.h"
 #include "sequencer/Sequence.h"
 #include "sequencer/Voices.h"
@@ -29,6 +30,7 @@ struct UnsavedSequence {
 
     MusicalTime musicalTime = {}; ///< The tempos and bars of the piece.
     Voices voices = newVoices();  ///< Who plays the channels of the piece.
+    Controllers controllers = {};
 
     Reading reading = Reading::Musical; ///< Not kept on disk: the program that recovers chooses.
 
@@ -38,9 +40,9 @@ struct UnsavedSequence {
 
 /// Returns the bytes of a recovery file, big-endian: "VREC", the version, path, time, isImported,
 /// the bytes of the source file, the tempos, time signatures, key signatures and markers, each with
-/// their number first, the voices, the number of notes, and for each note its start, length,
-/// oldStart, oldLength and velocity as doubles and its channel, key, oldKey and origin as 32-bit
-/// numbers.
+/// their number first, the voices, the number of controllers and for each its step as a double, its
+/// channel, number and value, the number of notes, and for each note its start, length, oldStart,
+/// oldLength and velocity as doubles and its channel, key, oldKey and origin as 32-bit numbers.
 std::string encodeUnsaved(const UnsavedSequence& sequence);
 
 /// Decodes a recovery file, with its notes corrected by `makeValid`. Throws FormatError with the

@@ -83,6 +83,11 @@ void findNames(const MidiFileEvents& file, std::size_t track, ByChannel& voices)
 std::array<VoiceEvents, midi::kChannels> voiceEventsOf(const MidiFileEvents& file)
 {
     ByChannel voices;
+    for (std::size_t track = 0; track < file.tracks.size(); ++track)
+        if (const auto channel = file.tracks[track].channel) {
+            voices.at(*channel).track = track;
+            voices.at(*channel).hasOwnTrack = true;
+        }
     findBeginnings(file, voices);
     findControllers(file, voices);
     for (std::size_t track = 0; track < file.tracks.size(); ++track)

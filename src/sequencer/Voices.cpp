@@ -1,8 +1,8 @@
 #include "sequencer/Voices.h"
 
-#include "audio/Program.h"
 #include "base/Text.h"
 #include "midi/MidiFileEvents.h"
+#include "sequencer/ProgramChanges.h"
 #include "sequencer/VoiceEvents.h"
 
 #include <algorithm>
@@ -12,8 +12,6 @@
 namespace velmora {
 
 namespace {
-
-constexpr std::size_t kDrumChannel = 9;
 
 std::string nameIn(const FileEvent& event)
 {
@@ -44,7 +42,7 @@ VoiceSounds Voices::sounds() const
 Voices newVoices()
 {
     Voices voices;
-    voices[kDrumChannel].sound.preset = {.bank = kDrumKits, .number = 0, .isPercussion = true};
+    voices[kDrumChannel].sound.preset = presetOn(kDrumChannel, 0, 0);
     return voices;
 }
 
@@ -55,16 +53,11 @@ Voices voicesOf(const MidiFileEvents& file)
     for (std::size_t channel = 0; channel < voices.size(); ++channel) {
         const VoiceEvents& found = events[channel];
         Voice& voice = voices[channel];
-        const bool isPercussion = channel == kDrumChannel;
         if (found.program != nullptr)
-            voice.sound.preset = {.bank = isPercussion ? kDrumKits
-                                          : found.bank != nullptr
-                                              ? static_cast<std::uint8_t>(found.bank->data[1])
-                                              : 0,
-                                  .number = static_cast<std::uint8_t>(found.program->data[0]),
-                                  .isPercussion = isPercussion};
+            voice.sound.preset = presetOn(channel, found.bank != nullptr ? found.bank->data[1] : 0,
+                                          found.program->data[0]);
         if (found.volume != nullptr)
-            voice.sound.volume = found.volume->data[1];
+            voice.sound.volume = static_cast<std::uint8_t>(found.volume->data[1]);
         if (found.name != nullptr)
             voice.name = nameIn(*found.name);
     }

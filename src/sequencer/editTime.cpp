@@ -20,18 +20,6 @@ std::string dataOf(const Tempo& tempo)
     return data;
 }
 
-std::string dataOf(const TimeSignature& signature)
-{
-    // A click of the metronome is so many of the 24 clocks of a quarter note, which has 8 notes of
-    // 1/32.
-    const double clocks = signature.beatLength() / kStepsPerBeat * 24.0;
-    const int exponent = std::countr_zero(static_cast<unsigned>(signature.unit));
-    std::string data;
-    for (const int byte : {signature.count, exponent, static_cast<int>(clocks), 8})
-        data += static_cast<char>(byte);
-    return data;
-}
-
 std::string dataOf(const KeySignature& signature)
 {
     return {static_cast<char>(signature.sharps), static_cast<char>(signature.isMinor ? 1 : 0)};
@@ -81,6 +69,18 @@ void editList(const MidiFileEvents& file, std::uint8_t type, std::vector<Entry> 
 }
 
 } // namespace
+
+std::string dataOf(const TimeSignature& signature)
+{
+    // A click of the metronome is so many of the 24 clocks of a quarter note, which has 8 notes of
+    // 1/32.
+    const double clocks = signature.beatLength() / kStepsPerBeat * 24.0;
+    const int exponent = std::countr_zero(static_cast<unsigned>(signature.unit));
+    std::string data;
+    for (const int byte : {signature.count, exponent, static_cast<int>(clocks), 8})
+        data += static_cast<char>(byte);
+    return data;
+}
 
 void editTime(MidiFileEvents& file, const MusicalTime& time, FileEdits& edits)
 {

@@ -43,10 +43,12 @@ std::size_t channelOfClass(std::size_t pitchClass)
 
 } // namespace
 
-BendChannels::Voice BendChannels::start(double place, std::optional<std::size_t> pitchClass)
+BendChannels::Voice BendChannels::start(double place, std::optional<std::size_t> pitchClass,
+                                        std::size_t sound)
 {
-    const std::size_t number = pitchClass ? channelOfClass(*pitchClass) : findChannel(place);
+    const std::size_t number = pitchClass ? channelOfClass(*pitchClass) : findChannel(place, sound);
     Channel& channel = channels_[number];
+    channel.sound = sound;
     // A bend that fits stays as it is, because earlier notes may still die away.
     int key = keyAt(place - semitonesOf(channel.bend));
     if (!isSounding(number)) {
@@ -60,7 +62,7 @@ BendChannels::Voice BendChannels::start(double place, std::optional<std::size_t>
     return {number, key, 100.0 * (key + semitonesOf(channel.bend) - place)};
 }
 
-std::size_t BendChannels::findChannel(double place) const
+std::size_t BendChannels::findChannel(double place, std::size_t sound) const
 {
     std::size_t best = 0;
     double least = HUGE_VAL;
@@ -69,9 +71,10 @@ std::size_t BendChannels::findChannel(double place) const
         const double rest = place - semitonesOf(channel.bend);
         const int key = keyAt(rest);
         const bool isFree = !channel.keys[static_cast<std::size_t>(key)];
+        const bool hasSound = channel.sound == sound;
         // In order: the same bend, the longest silence, the nearest bend.
-        double cost = 1e12 + std::abs(rest - key) + (isFree ? 0.0 : 1.0);
-        if (channel.bend == bendFor(place - key) && isFree)
+        double cost = 1e12 + std::abs(rest - key) + (isFree ? 0.0 : 1.0) + (hasSound ? 0.0 : 2.0);
+        if (channel.bend == bendFor(place - key) && isFree && hasSound)
             cost = -1.0;
         else if (channel.keys.none())
             cost = static_cast<double>(channel.released);

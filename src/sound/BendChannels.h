@@ -28,10 +28,11 @@ public:
         double cents = 0.0; ///< How far from its place it sounds.
     };
 
-    /// Places a note that starts. Notes of one pitch class share a channel, if there is one.
-    /// Without, the note takes a channel with the same bend, or the one that has been silent for
-    /// the longest time, or, if all sound, the one with the nearest bend.
-    Voice start(double place, std::optional<std::size_t> pitchClass);
+    /// Places a note that starts, of one of several sounds. Notes of one pitch class share a
+    /// channel, if there is one. Without, the note takes a channel with the same sound and bend, or
+    /// the one that has been silent for the longest time, or, if all sound, the one with the
+    /// nearest bend, if possible with the same sound.
+    Voice start(double place, std::optional<std::size_t> pitchClass, std::size_t sound = 0);
 
     /// Ends a note.
     void end(const Voice& voice);
@@ -51,10 +52,11 @@ private:
     struct Channel {
         std::bitset<128> keys; ///< Those that sound.
         int bend = kCentre;
+        std::size_t sound = 0;      ///< That of its last note.
         std::uint64_t released = 0; ///< When its last key was released; 0 if it never sounded.
     };
 
-    std::size_t findChannel(double place) const;
+    std::size_t findChannel(double place, std::size_t sound) const;
 
     std::array<Channel, kChannels> channels_;
     std::uint64_t releases_ = 0; ///< Their number.

@@ -51,6 +51,13 @@ public:
     /// were a division. Returns false if the instrument cannot play several sounds at a time.
     virtual bool setPart(std::size_t /*part*/, const PartSound& /*sound*/) { return false; }
 
+    /// Announces presets that parts will be given later.
+    virtual void expectPresets(std::span<const PartSound::Preset> /*presets*/) {}
+
+    /// Moves a controller of a part, or its `midi::kPitchWheel` or `midi::kPressure`, if the
+    /// instrument can play several sounds at a time.
+    virtual void controlPart(std::size_t /*part*/, int /*number*/, int /*value*/) {}
+
     /// Sets when the operations that follow are due, in the seconds of `getTime`; 0 for at once.
     virtual void setDue(double /*time*/) {}
 

@@ -156,6 +156,12 @@ void MIDIInstrument::stopOn(std::size_t part, int key)
                            key, 0);
 }
 
+void MIDIInstrument::controlPart(std::size_t part, int number, int value)
+{
+    device_->setPart(part);
+    device_->controlPart(number, value);
+}
+
 void MIDIInstrument::bend(double cents)
 {
     bend_ = cents;
@@ -284,7 +290,7 @@ void MIDIInstrument::setProgram(std::size_t position)
     device_->setCorrections(corrections_[position]);
     for (std::size_t part = 1; part < kParts; ++part)
         if (parts_[part])
-            setPart(part, parts_[part]->sound);
+            MIDIInstrument::setPart(part, parts_[part]->sound); // also called in the constructor
 }
 
 // The bank that is played comes first, then the lowest.

@@ -40,6 +40,8 @@ public:
     void playOn(std::size_t part, int key, float velocity) override;
     void stopOn(std::size_t part, int key) override;
     bool setPart(std::size_t part, const PartSound& sound) override;
+    void expectPresets(std::span<const PartSound::Preset> presets) override;
+    void controlPart(std::size_t part, int number, int value) override;
     void silence() override;
     void tune(const Temperament& temperament, int lo, int hi) override;
     void setInstrument(std::uint8_t program) override;
@@ -61,7 +63,8 @@ public:
     /// that is none.
     double worstError(const Temperament& temperament) const;
 
-    /// The positions of the programs that the instrument and its parts play, each of them once.
+    /// The positions of the programs that the instrument and its parts play or will play, each of
+    /// them once.
     std::vector<std::size_t> playedPrograms() const;
 
     /// Corrects a program, given by its position, until the device is replaced.
@@ -122,6 +125,7 @@ private:
     Reading reading_;
     bool playsByKey_ = false;
     std::array<std::optional<Part>, kParts> parts_; ///< The first one is always empty.
+    std::vector<PartSound::Preset> expected_;       ///< What parts will play.
     std::array<std::array<Started, 128>, kParts> started_{};
     std::bitset<kParts> played_;       ///< The parts that were played since everything was silent.
     std::array<double, 128> places_{}; ///< Of the keys, in cents above key 0 of equal temperament.

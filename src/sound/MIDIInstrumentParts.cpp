@@ -50,6 +50,11 @@ bool MIDIInstrument::setPart(std::size_t part, const PartSound& sound)
     return true;
 }
 
+void MIDIInstrument::expectPresets(std::span<const PartSound::Preset> presets)
+{
+    expected_.assign(presets.begin(), presets.end());
+}
+
 void MIDIInstrument::sendPart(std::size_t part)
 {
     const auto& [sound, selected] = *parts_[part];
@@ -68,10 +73,15 @@ bool MIDIInstrument::isPercussion(std::size_t part) const
 std::vector<std::size_t> MIDIInstrument::playedPrograms() const
 {
     std::vector<std::size_t> positions{program_};
+    const auto add = [&](const Selected& selected) {
+        if (selected.program && std::ranges::find(positions, *selected.program) == positions.end())
+            positions.push_back(*selected.program);
+    };
     for (const auto& part : parts_)
-        if (part && part->selected.program &&
-            std::ranges::find(positions, *part->selected.program) == positions.end())
-            positions.push_back(*part->selected.program);
+        if (part)
+            add(part->selected);
+    for (const PartSound::Preset& preset : expected_)
+        add(selectedFor(preset));
     return positions;
 }
 

@@ -27,25 +27,63 @@ std::uint32_t microsecondsOfBeat(double tempo)
 
 } // namespace
 
-TunedMidiWriter::TunedMidiWriter(const Program& program, double tempo, double rate)
-    : program_(program), ticksPerFrame_(kDivision * 1e6 / microsecondsOfBeat(tempo) / rate)
+TunedMidiWriter::Beats TunedMidiWriter::steadyBeats(double perMinute)
 {
-    const std::uint32_t beat = microsecondsOfBeat(tempo);
-    std::string data;
-    for (const unsigned shift : {16U, 8U, 0U})
-        data += static_cast<char>(beat >> shift & 0xFF);
-    track_.addMetaEvent(0, midi::kTempo, data);
+    const double microseconds = microsecondsOfBeat(perMinute);
+    return {.at = [=](double seconds) { return seconds * 1e6 / microseconds; },
+            .tempos = {{.beat = 0.0, .perMinute = perMinute}},
+            .signatures = {}};
+}
+
+TunedMidiWriter::TunedMidiWriter(const Program& program, double rate)
+    : rate_(rate), own_{.preset = {.bank = program.bank,
+                                   .number = static_cast<std::uint8_t>(program.number),
+                                   .isPercussion = program.isPercussion}}
+{
+    parts_.fill(own_);
     writtenBends_.fill(BendChannels::kCentre);
+}
+
+void TunedMidiWriter::setBeats(Beats beats)
+{
+    beats_ = std::move(beats);
     setUp();
+}
+
+void TunedMidiWriter::writeBeatsUntil(std::uint64_t tick)
+{
+    const auto tickAt = [](double beat) {
+        return static_cast<std::uint64_t>(std::llround(beat * kDivision));
+    };
+    const auto isDue = [&](const auto& list, std::size_t written) {
+        return written < list.size() && tickAt(list[written].beat) <= tick;
+    };
+    while (isDue(beats_.tempos, tempos_) || isDue(beats_.signatures, signatures_)) {
+        const bool isTempo = isDue(beats_.tempos, tempos_) &&
+                             !(isDue(beats_.signatures, signatures_) &&
+                               beats_.signatures[signatures_].beat < beats_.tempos[tempos_].beat);
+        if (!isTempo) {
+            const Beats::Signature& signature = beats_.signatures[signatures_++];
+            track_.addMetaEvent(tickAt(signature.beat), midi::kTimeSignature, signature.data);
+            continue;
+        }
+        const Beats::Tempo& tempo = beats_.tempos[tempos_++];
+        std::string data;
+        for (const unsigned shift : {16U, 8U, 0U})
+            data += static_cast<char>(microsecondsOfBeat(tempo.perMinute) >> shift & 0xFF);
+        track_.addMetaEvent(tickAt(tempo.beat), midi::kTempo, data);
+    }
 }
 
 /// A device that is switched on may have other programs and ranges.
 void TunedMidiWriter::setUp()
 {
+    const PartSound::Preset& own = own_.preset;
     for (std::size_t channel = 0; channel < BendChannels::kChannels; ++channel) {
-        if (program_.isPercussion != (channel == BendChannels::kPercussion))
+        if (own.isPercussion != (channel == BendChannels::kPercussion))
             continue;
-        send(midi::kProgramChange, channel, program_.number, 0);
+        send(midi::kProgramChange, channel, own.number, 0);
+        writtenSounds_[channel].preset = own;
         send(midi::kControlChange, channel, kParameterHigh, kBendRange);
         send(midi::kControlChange, channel, kParameterLow, kBendRange);
         send(midi::kControlChange, channel, kDataHigh, BendChannels::kRange);
@@ -65,11 +103,13 @@ void TunedMidiWriter::render(float* left, float* right, std::size_t frames, doub
 
 std::uint64_t TunedMidiWriter::tick() const
 {
-    return static_cast<std::uint64_t>(std::llround(static_cast<double>(frames_) * ticksPerFrame_));
+    return static_cast<std::uint64_t>(
+        std::llround(beats_.at(static_cast<double>(frames_) / rate_) * kDivision));
 }
 
 void TunedMidiWriter::send(int kind, std::size_t channel, int data1, int data2)
 {
+    writeBeatsUntil(tick());
     const int status = kind | static_cast<int>(channel);
     if (kind == midi::kProgramChange)
         track_.addMessage(tick(), {status, data1});
@@ -93,8 +133,6 @@ void TunedMidiWriter::tune(const Temperament& temperament, int lo, int hi)
         places_[slot] = 69.0 + 12.0 * std::log2(temperament.getPitch(slot) / 880.0);
         mapped_.set(slot, temperament.isMapped(key));
     }
-    if (program_.isPercussion)
-        return;
     // What dies away moves as well.
     for (std::size_t channel = 0; channel < struck_.size(); ++channel) {
         const auto& struck = struck_[channel];
@@ -105,16 +143,41 @@ void TunedMidiWriter::tune(const Temperament& temperament, int lo, int hi)
     }
 }
 
-void TunedMidiWriter::play(int key, float velocity)
+bool TunedMidiWriter::setPart(std::size_t part, const PartSound& sound)
+{
+    parts_.at(part) = {.preset = sound.preset.value_or(own_.preset), .volume = sound.volume};
+    return true;
+}
+
+void TunedMidiWriter::writeSound(std::size_t channel, const Sound& sound)
+{
+    const Sound before = std::exchange(writtenSounds_[channel], sound);
+    if (before.preset.bank != sound.preset.bank && !sound.preset.isPercussion)
+        send(midi::kControlChange, channel, midi::kBankSelect, sound.preset.bank);
+    if (before.preset != sound.preset)
+        send(midi::kProgramChange, channel, sound.preset.number, 0);
+    if (before.volume != sound.volume)
+        send(midi::kControlChange, channel, midi::kChannelVolume, sound.volume);
+}
+
+void TunedMidiWriter::playOn(std::size_t part, int key, float velocity)
 {
     const auto slot = static_cast<std::size_t>(key);
-    stop(key);
+    stopOn(part, key);
     if (!mapped_[slot])
         return;
     const int value = std::clamp(static_cast<int>(std::lround(velocity * 127.0F)), 1, 127);
+    const Sound& sound = parts_.at(part);
     BendChannels::Voice voice{BendChannels::kPercussion, key, 0.0};
-    if (!program_.isPercussion) {
-        voice = channels_.start(places_[slot], isOctave_ ? std::optional(slot % 12) : std::nullopt);
+    if (!sound.preset.isPercussion) {
+        const auto found = std::ranges::find(sounds_, sound);
+        const auto number = static_cast<std::size_t>(found - sounds_.begin());
+        if (found == sounds_.end())
+            sounds_.push_back(sound);
+        // Several sounds cannot share the twelve channels of the pitch classes.
+        const bool isShared = isOctave_ && sounds_.size() == 1;
+        voice = channels_.start(places_[slot], isShared ? std::optional(slot % 12) : std::nullopt,
+                                number);
         writeBend(voice.channel);
         struck_[voice.channel] = Struck{key, voice.key};
     }
@@ -123,29 +186,32 @@ void TunedMidiWriter::play(int key, float velocity)
         ++notes_.wrong;
         notes_.worstCents = std::max(notes_.worstCents, error);
     }
-    voices_[slot] = voice;
+    writeSound(voice.channel, sound);
+    voices_[part][slot] = voice;
     send(midi::kNoteOn, voice.channel, voice.key, value);
 }
 
-void TunedMidiWriter::stop(int key)
+void TunedMidiWriter::stopOn(std::size_t part, int key)
 {
-    const auto voice = std::exchange(voices_[static_cast<std::size_t>(key)], std::nullopt);
+    const auto voice = std::exchange(voices_[part][static_cast<std::size_t>(key)], std::nullopt);
     if (!voice)
         return;
     send(midi::kNoteOff, voice->channel, voice->key, 0);
-    if (!program_.isPercussion)
+    if (voice->channel != BendChannels::kPercussion)
         channels_.end(*voice);
 }
 
 void TunedMidiWriter::silence()
 {
-    for (int key = 0; key <= kLastKey; ++key)
-        stop(key);
+    for (std::size_t part = 0; part < kParts; ++part)
+        for (int key = 0; key <= kLastKey; ++key)
+            stopOn(part, key);
 }
 
 std::string TunedMidiWriter::finish()
 {
     silence();
+    writeBeatsUntil(tick());
     return track_.finish(kDivision);
 }
 

@@ -16,7 +16,7 @@ public:
         /// The influence of a released note falls to 1/e in so many seconds.
         double memory = 1.2;
 
-        /// How many released notes a held one counts as.
+        /// How many released notes a held one counts as. See docs/decisions.md, 195.
         double held = 4.0;
 
         /// Where the centre lies in silence, and how many released notes that counts as.

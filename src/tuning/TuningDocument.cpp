@@ -18,30 +18,9 @@
 #include <algorithm>
 #include <cmath>
 #include <new>
-#include <optional>
-#include <typeinfo>
 #include <utility>
 
 namespace velmora {
-
-namespace {
-
-/// Returns the notes of a temperament, if they always stay the same and there is a scale of them.
-std::optional<Scale> scaleOf(const Temperament& temperament)
-{
-    constexpr int kFirst = 60, kNotes = 12;
-    if (const auto* mapped = dynamic_cast<const ScaleTemperament*>(&temperament))
-        return mapped->scale();
-    if (typeid(temperament) != typeid(Temperament))
-        return std::nullopt;
-    Scale scale;
-    for (int i = 1; i <= kNotes; ++i)
-        scale.pitches.emplace_back(Cent(
-            1200.0 * std::log2(temperament.pitchAt(kFirst + i) / temperament.pitchAt(kFirst))));
-    return scale;
-}
-
-} // namespace
 
 TuningDocument::TuningDocument() : temperament_(std::make_unique<Temperament>()) {}
 
@@ -177,11 +156,11 @@ std::unique_ptr<TuningDocument> TuningDocument::withMapping(const std::filesyste
         return copy;
     const std::string fileName = toUtf8(file.filename().string());
     try {
-        const auto scale = scaleOf(unmapped);
-        if (!scale)
+        const auto shape = shapeOf(unmapped);
+        if (!shape)
             throw FormatError("a keyboard mapping needs a scale, and this tuning has none");
         copy->temperament_ =
-            std::make_unique<ScaleTemperament>(*scale, readMapping(readFile(file)));
+            std::make_unique<ScaleTemperament>(shape->scale, readMapping(readFile(file)));
         copy->unmapped_ = unmapped.fresh();
         copy->mappingPath_ = file;
     } catch (const FormatError& error) {

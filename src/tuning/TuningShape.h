@@ -11,7 +11,7 @@ namespace velmora {
 
 class Temperament;
 
-/// What can be changed of a temperament: its scale and on which keys and pitch it stands.
+/// A scale, and the keys and the pitch on which it stands.
 struct TuningShape {
     Scale scale;
     KeyMapping mapping;

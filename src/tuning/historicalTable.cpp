@@ -120,8 +120,6 @@ constexpr HistoricalTemperament kTemperaments[] = {
      Ratios{{{16, 15}, {10, 9}, {6, 5}, {5, 4}, {4, 3}, {64, 45}, {3, 2}, {8, 5}, {5, 3}, {9, 5}, {15, 8}}}},
     {"Just intonation", "Euler", "1739, Leonhard Euler, Tentamen novae theoriae musicae",
      Ratios{{{25, 24}, {9, 8}, {75, 64}, {5, 4}, {4, 3}, {45, 32}, {3, 2}, {25, 16}, {5, 3}, {225, 128}, {15, 8}}}},
-    {"Just intonation", "Kirnberger’s Monochord", "1766, Johann Philipp Kirnberger, after Friedrich Wilhelm Marpurg",
-     Ratios{{{256, 243}, {9, 8}, {32, 27}, {5, 4}, {4, 3}, {45, 32}, {3, 2}, {128, 81}, {5, 3}, {16, 9}, {15, 8}}}},
     {"Just intonation", "La Monte Young", "1964, La Monte Young, The Well-Tuned Piano; 1/1 on C",
      Ratios{{{567, 512}, {9, 8}, {147, 128}, {21, 16}, {1323, 1024}, {189, 128}, {3, 2}, {49, 32}, {7, 4}, {441, 256}, {63, 32}}}},
     {"Just intonation", "Harmonics 16 to 30", "1977, Ben Johnston, Suite for Microtonal Piano",

@@ -28,9 +28,9 @@ double centsBetween(const Temperament& temperament, int from, int to)
     return 1200.0 * std::log2(temperament.pitchAt(to) / temperament.pitchAt(from));
 }
 
-SoundingScale octaveFromC(const Temperament& temperament)
+TuningShape octaveFromC(const Temperament& temperament)
 {
-    SoundingScale sounding;
+    TuningShape sounding;
     for (int note = 1; note < kNotesFromC; ++note)
         sounding.scale.pitches.emplace_back(
             Cent(centsBetween(temperament, kReferenceC, kReferenceC + note)));
@@ -42,7 +42,7 @@ SoundingScale octaveFromC(const Temperament& temperament)
 
 /// Returns the scale of a temperament as it was defined, moved to its root and pitch; nothing if it
 /// was not defined by a scale, or if its mapping does not reach all keys there.
-std::optional<SoundingScale> definedScale(const Temperament& temperament)
+std::optional<TuningShape> definedScale(const Temperament& temperament)
 {
     const auto* transposed = dynamic_cast<const TransposedTemperament*>(&temperament);
     const int root = transposed == nullptr ? 0 : transposed->transposition().root;
@@ -50,7 +50,7 @@ std::optional<SoundingScale> definedScale(const Temperament& temperament)
         transposed == nullptr ? &temperament : &transposed->inner());
     if (defined == nullptr)
         return std::nullopt;
-    SoundingScale sounding{defined->scale(), defined->mapping()};
+    TuningShape sounding{defined->scale(), defined->mapping()};
     KeyMapping& mapping = sounding.mapping;
     for (int* key : {&mapping.middleKey, &mapping.referenceKey})
         *key += root;
@@ -68,9 +68,9 @@ std::optional<SoundingScale> definedScale(const Temperament& temperament)
     return sounding;
 }
 
-SoundingScale noteForEachKey(const Temperament& temperament)
+TuningShape noteForEachKey(const Temperament& temperament)
 {
-    SoundingScale sounding;
+    TuningShape sounding;
     std::optional<int> first;
     int degree = 0;
     for (int key = 0; key < kKeysOfMidi; ++key) {
@@ -97,7 +97,7 @@ SoundingScale noteForEachKey(const Temperament& temperament)
 
 } // namespace
 
-SoundingScale soundingScale(const Temperament& temperament, const std::string& description)
+TuningShape soundingScale(const Temperament& temperament, const std::string& description)
 {
     auto sounding = definedScale(temperament);
     if (!sounding)

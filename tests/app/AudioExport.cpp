@@ -37,6 +37,12 @@ protected:
     /// Runs an export and returns "written", or "not: " and the reason.
     std::string exported(const std::string& name, double speed = 1.0, bool cancel = false)
     {
+        return exported({{folder_.path() / name}}, speed, cancel);
+    }
+
+    std::string exported(const std::vector<SoundTarget>& targets, double speed = 1.0,
+                         bool cancel = false)
+    {
         std::string outcome;
         QEventLoop loop;
         AudioExport job;
@@ -49,7 +55,7 @@ protected:
             outcome = isWritten ? "written" : "not: " + why.toStdString();
             loop.quit();
         });
-        job.start(currentSettings(app_), sequence_, speed, folder_.path() / name);
+        job.start(currentSettings(app_), sequence_, speed, targets);
         loop.exec();
         return outcome;
     }
@@ -105,6 +111,47 @@ TEST_F(AudioExportTest, SoundsLikeLivePlayingAndDoesNotDisturbIt)
     for (int i = 0; i < 40; ++i)
         app_.player().fade();
     EXPECT_TRUE(app_.unloadInstrument(0)) << "the released key has died away";
+}
+
+TEST_F(AudioExportTest, VoicesTogetherSoundLikeThePiece)
+{
+    app_.makeMIDIPlayer(std::make_unique<Synthesizer>(48000.0, generalMidiBanks()));
+    app_.tunings().select("Pure");
+    sequence_.notes.clear();
+    for (const auto& [channel, key] : {std::pair{0U, 60U}, {1U, 64U}, {2U, 67U}, {5U, 70U}})
+        sequence_.notes.push_back({.start = 4.0 * channel,
+                                   .length = 24.0,
+                                   .velocity = 0.4F,
+                                   .channel = channel,
+                                   .key = key});
+    sequence_.voices[0].name = "Viola/1";
+    sequence_.voices[0].sound.preset = {.number = 41};
+    sequence_.voices[1].name = "Horn";
+    sequence_.voices[1].sound.preset = {.number = 60};
+    sequence_.voices[5].name = "horn";
+    sequence_.voices[2].name = "Muted";
+    sequence_.voices[2].isMuted = true;
+    sequence_.voices[7].name = "Empty";
+    const auto stems = stemsOf(sequence_, folder_.path(), "Trio", ".wav");
+    std::vector<std::string> names;
+    for (const SoundTarget& stem : stems)
+        names.push_back(stem.file.filename());
+    EXPECT_THAT(names, testing::ElementsAre("Trio - Viola_1.wav", "Trio - Horn 2.wav",
+                                            "Trio - horn 6.wav"));
+
+    EXPECT_EQ(exported(stems, 1.0, true), "not: ");
+    EXPECT_FALSE(std::filesystem::exists(stems[0].file)) << "all of them or none";
+    EXPECT_EQ(exported(stems), "written");
+    EXPECT_EQ(exported("whole.wav"), "written");
+    std::vector<float> sum = decodeAudio(readFile(folder_.path() / "whole.wav")).floats;
+    const float loudest = peak(sum);
+    for (const std::string& name : names) {
+        const auto part = decodeAudio(readFile(folder_.path() / name)).floats;
+        ASSERT_EQ(part.size(), sum.size());
+        EXPECT_GT(peak(part), loudest / 20.0F) << name;
+        std::ranges::transform(sum, part, sum.begin(), std::minus());
+    }
+    EXPECT_LT(peak(sum), 1e-3F);
 }
 
 TEST_F(AudioExportTest, LeavesOnlyCompleteFiles)

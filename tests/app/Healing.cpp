@@ -44,10 +44,17 @@ private:
     std::thread thread_;
 };
 
+/// Listens anew every second, because the program may lose its ports once more beside a server that
+/// has just started.
 bool isHeard()
 {
-    JackListener listener;
-    return waitUntil([&] { return peak(listener.listen(1024)) > 0.01F; });
+    return waitUntil([] {
+        JackListener listener;
+        for (int i = 0; i < 48; ++i)
+            if (peak(listener.listen(1000)) > 0.01F)
+                return true;
+        return false;
+    });
 }
 
 } // namespace

@@ -198,6 +198,40 @@ TEST_F(PlayerTest, AKeySoundsUntilItsLastHolderReleasesIt)
     EXPECT_EQ(calls_, (Calls{"stop 60", "play 61 0.50", "stop 61"})) << "its pedals are up";
 }
 
+TEST_F(PlayerTest, PedalsOfASequenceHoldTheKeysOfTheirChannel)
+{
+    constexpr int kDown = 127, kUp = 0;
+    const auto strike = [&](int key, int channel) {
+        player_.play(key, 0.5F, channel, 0.0);
+        player_.stop(key, channel, 0.0);
+    };
+    player_.setInstrument(other_);
+    calls_.clear();
+    player_.control(midi::kSustain, kDown, 1, 0.0);
+    strike(60, 1);
+    strike(60, 1);
+    strike(61, 2);
+    player_.play(62, 0.5F, 1, 0.0);
+    player_.control(midi::kSustain, kUp, 1, 0.0);
+    EXPECT_EQ(calls_, (Calls{"play 60 0.50", "play 60 0.50", "play 61 0.50", "stop 61",
+                             "play 62 0.50", "stop 60"}))
+        << "key 62 is still played";
+
+    calls_.clear();
+    player_.control(midi::kSostenuto, kDown, 1, 0.0);
+    player_.stop(62, 1, 0.0);
+    strike(63, 1);
+    player_.control(midi::kSostenuto, kUp, 1, 0.0);
+    EXPECT_EQ(calls_, (Calls{"play 63 0.50", "stop 63", "stop 62"}));
+
+    calls_.clear();
+    player_.control(midi::kSustain, kDown, 1, 0.0);
+    strike(60, 1);
+    player_.stop(60, kEveryChannel, 0.0);
+    player_.control(midi::kSustain, kUp, 1, 0.0);
+    EXPECT_EQ(calls_, (Calls{"play 60 0.50", "stop 60"})) << "as at the end of playing";
+}
+
 TEST_F(PlayerTest, TheTemperamentKnowsWhichKeysSound)
 {
     FollowingMeantone following;

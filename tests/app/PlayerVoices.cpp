@@ -5,6 +5,7 @@
 #include "sequencer/Voices.h"
 #include "sound/MIDIInstrument.h"
 #include "support/Bank.h"
+#include "support/Pitch.h"
 #include "support/Stereo.h"
 #include "tuning/ScaleTemperament.h"
 
@@ -138,6 +139,56 @@ TEST(PlayerVoices, EndWhenTheyAreMutedAndGoOnWithoutThem)
     EXPECT_EQ(peak(ensemble.next()), 0.0F);
 }
 
+TEST(PlayerVoices, AreBentAndFadedByTheirOwnControllers)
+{
+    constexpr Part kBentVoice{1, kSteadyProgram, 69}, kFadedVoice{2, kSteadyProgram, 69};
+    constexpr int kSemitoneUp = midi::kWheelCentre + 4096;
+    const Temperament meantone = Temperament::Meantone();
+    const auto pitch = [](std::span<const float> sound, double near) {
+        return measuredHertz(sound.last(kEnsembleRate), kEnsembleRate, near);
+    };
+    Ensemble ensemble(meantone);
+    for (const Part& part : {kBentVoice, kFadedVoice})
+        ensemble.voices[static_cast<std::size_t>(part.channel)].sound.preset = {.number =
+                                                                                    part.program};
+    ensemble.player.setVoices(ensemble.voices.sounds());
+    ensemble.play(kFadedVoice);
+    const auto straight = ensemble.next(1.5);
+    const double reference = pitch(straight, 437.0);
+    ensemble.player.control(midi::kExpression, 0, kFadedVoice.channel, 0.0);
+    ensemble.player.control(midi::kPitchWheel, kSemitoneUp, kBentVoice.channel, 0.0);
+    ensemble.play(kBentVoice);
+    const auto bent = ensemble.next(1.5);
+    EXPECT_NEAR(cents(pitch(bent, 463.0), reference), 100.0, 1.0);
+    EXPECT_NEAR(peak(bent), peak(straight), 0.1F * peak(straight)) << "only one is heard";
+    ensemble.stop(kBentVoice);
+    ensemble.next(4.0);
+    EXPECT_LT(peak(ensemble.next()), 0.001F);
+    ensemble.player.control(midi::kExpression, 127, kFadedVoice.channel, 0.0);
+    ensemble.next();
+    EXPECT_NEAR(cents(pitch(ensemble.next(1.0), 437.0), reference), 0.0, 1.0) << "never bent";
+}
+
+TEST(PlayerVoices, MoveTheInstrumentWithoutAProgramOfTheirOwn)
+{
+    constexpr Part kPlain{1, 0, 64};
+    const Temperament meantone = Temperament::Meantone();
+    Ensemble ensemble(meantone);
+    ensemble.instrument->setInstrument(kSteadyProgram);
+    ensemble.player.setVoices(ensemble.voices.sounds());
+    ensemble.play(kPlain);
+    const float loud = peak(ensemble.next());
+    ensemble.player.control(midi::kExpression, 0, kPlain.channel, 0.0);
+    ensemble.next();
+    EXPECT_LT(peak(ensemble.next()), 0.001F * loud);
+
+    ensemble.voices[1].sound.preset = {.number = 79};
+    ensemble.player.setVoices(ensemble.voices.sounds());
+    ensemble.player.control(midi::kExpression, 50, kPlain.channel, 0.0);
+    ensemble.next();
+    EXPECT_GT(peak(ensemble.next()), 0.5F * loud) << "the instrument is free again";
+}
+
 TEST(PlayerVoices, EndAKeyThatTheyStrikeAgainWithAnotherSound)
 {
     const Temperament meantone = Temperament::Meantone();
@@ -147,6 +198,50 @@ TEST(PlayerVoices, EndAKeyThatTheyStrikeAgainWithAnotherSound)
     ensemble.usePrograms();
     ensemble.play(part);
     ensemble.stop(part);
+    ensemble.stop(part);
+    EXPECT_TRUE(ensemble.player.soundingKeys().none());
+}
+
+TEST(PlayerVoices, ChangeTheirProgramBetweenTwoNotes)
+{
+    const Temperament meantone = Temperament::Meantone();
+    Ensemble ensemble(meantone);
+    ensemble.usePrograms();
+    const Part& first = kFive[1];
+    Part second = first;
+    second.program = kFive[4].program;
+    const PartSound::Preset later{.number = second.program};
+    ensemble.player.expectPrograms({&later, 1});
+    ensemble.player.setVoices(ensemble.voices.sounds());
+    EXPECT_THAT(ensemble.instrument->playedPrograms(), testing::Contains(second.program))
+        << "it has to be in tune by then";
+    ensemble.player.setProgram(second.channel, later, 0.0);
+    ensemble.play(second);
+    EXPECT_THAT(ensemble.next(), sounds(alone(second, meantone)));
+    ensemble.player.setProgram(second.channel, std::nullopt, 0.0);
+    ensemble.stop(second);
+    ensemble.next(4.0);
+    EXPECT_EQ(peak(ensemble.next()), 0.0F) << "it ends what the other program began";
+}
+
+TEST(PlayerVoices, SoundAlikeWhenTheyArePlayedLive)
+{
+    const Temperament meantone = Temperament::Meantone();
+    Ensemble ensemble(meantone);
+    ensemble.usePrograms();
+    const Part& part = kFive[2];
+    ensemble.player.setLiveSound({PartSound::Preset{.number = part.program}});
+    ensemble.player.keyOn(part.key, 0.6F, kLetters);
+    ensemble.play(part);
+    ensemble.player.setLiveSound({});
+    auto both = alone(part, meantone);
+    for (float& sample : both)
+        sample *= 2.0F;
+    EXPECT_THAT(ensemble.next(), sounds(both));
+    ensemble.player.keyOff(part.key, kLetters);
+    ensemble.next(4.0);
+    EXPECT_THAT(peak(ensemble.next()), testing::FloatNear(peak(both) / 2.0F, 0.1F * peak(both)))
+        << "the voice goes on";
     ensemble.stop(part);
     EXPECT_TRUE(ensemble.player.soundingKeys().none());
 }

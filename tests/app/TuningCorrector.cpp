@@ -100,7 +100,7 @@ public:
     bool comesIntoTune()
     {
         const double start = getTime();
-        while (worst() > 0.3 && getTime() - start < 10.0)
+        while (worst() > 0.3 && getTime() - start < 60.0)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
         return worst() <= 0.3;
     }

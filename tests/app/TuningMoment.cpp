@@ -86,6 +86,7 @@ TEST_F(TuningMomentTest, SpellsAsTheTemperamentThenAsTheChordThenAsTheKeys)
     play(tempered, {56, 60, 63});
     const auto chord = soundingChord(moment_);
     EXPECT_EQ(toneNames(moment_)[8], "G#");
+    EXPECT_EQ(toneNames(moment_)[3], "Eb") << "as players of meantone call it";
     EXPECT_EQ(toneNames(moment_, chord)[8], "Ab");
     player_.silence();
 

@@ -110,6 +110,32 @@ TEST_F(CommandLine, RendersTheSameBytesForTheSameSelectionOnly)
     }
 }
 
+TEST_F(CommandLine, RendersTheVoicesApart)
+{
+    folder_.write("duet.mid", midi::file(midi::on(0, 52) + midi::on(0, 60, 100, 3) +
+                                         midi::off(288, 52) + midi::off(0, 60, 3)));
+    const auto inParts = [&] {
+        std::set<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_.path() / "parts"))
+            names.insert(entry.path().filename());
+        return names;
+    };
+    EXPECT_EQ(run({"render", "duet.mid"}).code, 2) << "neither --output nor --stems";
+    EXPECT_EQ(run({"render", "duet.mid", "--stems", "parts", "-o", "out.mid"}).code, 1);
+    EXPECT_EQ(run({"render", "broken.mid", "--stems", "parts"}).code, 1);
+    EXPECT_FALSE(std::filesystem::exists(folder_.path() / "parts"));
+
+    EXPECT_EQ(run({"render", "duet.mid", "--stems", "parts"}).error, "");
+    EXPECT_EQ(inParts(), (std::set<std::string>{"duet - 1.wav", "duet - 4.wav"}));
+    EXPECT_NE(content("parts/duet - 1.wav"), content("parts/duet - 4.wav"));
+    EXPECT_EQ(
+        run({"render", "duet.mid", "--stems", "parts", "-o", "mix.flac", "--voice", "4"}).error,
+        "");
+    EXPECT_TRUE(inParts().contains("duet - 4.flac"));
+    EXPECT_FALSE(inParts().contains("duet - 1.flac")) << "only voice 4 was chosen";
+    EXPECT_TRUE(std::filesystem::exists(folder_.path() / "mix.flac"));
+}
+
 TEST_F(CommandLine, RendersToAMidiFileInTheTuning)
 {
     const Result result = render("out.mid", {"--tuning", "meantone", "--program", "19"});

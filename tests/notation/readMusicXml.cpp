@@ -191,6 +191,9 @@ TEST(ReadMusicXml, ReadsCompressedScoresAndSaysWhatIsWrong)
         {"<score-partwise/>", "a.musicxml: the score has no parts"},
         {score("<measure number=\"7\">" + note("C", 2000000000) + "</measure>"),
          "a.musicxml: measure 7 is too long"},
+        {score("<measure number=\"8\">" + note("C", 4) + note("E", 2000000000, "<chord/>") +
+               "</measure>"),
+         "a.musicxml: measure 8 is too long"},
     };
     for (const auto& [bytes, error] : rows)
         EXPECT_THAT(errorOf(bytes), testing::StartsWith(error));

@@ -1,5 +1,6 @@
 #include "sequencer/AheadPlayer.h"
 
+#include "sequencer/LiveKeys.h"
 #include "sequencer/SequenceClock.h"
 #include "sequencer/SequenceEditor.h"
 #include "support/SequenceTest.h"
@@ -126,6 +127,41 @@ TEST_F(AheadPlayerTest, EndsEverySoundingNoteWhenStoppedOrEdited)
         QCoreApplication::processEvents();
     }
     EXPECT_GT(heard, 10) << "rounds with sound, even on a busy machine";
+}
+
+TEST_F(AheadPlayerTest, WaitsForAChordOfThePractice)
+{
+    SequenceDocument piece(*this, Reading::Musical, getTime);
+    const SequenceClock clock(piece.transport());
+    piece.edit()->addNote({.length = 1.0, .velocity = 1.0F, .key = 48});
+    piece.edit()->addNote({.start = 4.0, .length = 1.0, .velocity = 1.0F, .channel = 1, .key = 72});
+    for (unsigned i = 0; i < 5; ++i) // the first one stands with the chord
+        piece.edit()->addNote(
+            {.start = 4.0 + 4.0 * i, .length = 1.0, .velocity = 1.0F, .key = 49 + i});
+    piece.edit()->sort();
+    piece.updateExtent();
+    std::vector<std::pair<int, double>> played;
+    onPlay_ = [&] { played.emplace_back(playKey_, playTime_); };
+    PracticeOptions options;
+    options.part.channels = 0b10;
+    ASSERT_TRUE(piece.practiceSession().start(options));
+    runFor(std::chrono::milliseconds(700));
+    ASSERT_EQ(played.size(), 1U) << "nothing of the plan sounds while it waits";
+    EXPECT_EQ(played[0].first, 48);
+
+    const double answered = getTime();
+    liveKeys_.press(72, 0.5F, answered);
+    runFor(std::chrono::milliseconds(1300));
+    piece.practiceSession().stop();
+    onPlay_ = nullptr;
+    ASSERT_EQ(played.size(), 6U) << "each note once";
+    int planned = 0;
+    for (const auto& [key, time] : played)
+        if (key > 49 && time > 0.0) { // the main thread may have been too busy to plan it
+            EXPECT_NEAR(time - answered, (key - 49) * 0.25, 0.002) << key;
+            ++planned;
+        }
+    EXPECT_GT(planned, 0);
 }
 
 TEST_F(AheadPlayerTest, LoopsWithoutAGapWhileTheMainThreadIsBusy)

@@ -207,7 +207,7 @@ TEST_F(MusicalTimeTest, SnapsToTheGridThatIsShown)
             steps.push_back(note.start);
         return steps;
     };
-    editor.setGrid(Grid::Beats);
+    editor.document().recorder().setGrid(Grid::Beats);
     editor.rightMouseDown({60.5, 23.0});
     editor.mouseDragged({60.5, 25.0});
     editor.mouseUp({60.5, 25.0}, {});
@@ -219,7 +219,7 @@ TEST_F(MusicalTimeTest, SnapsToTheGridThatIsShown)
                               .key = 64,
                               .oldStart = 40.5,
                               .oldKey = 64});
-    editor.setGrid(Grid::SixtyFourths);
+    editor.document().recorder().setGrid(Grid::SixtyFourths);
     editor.mouseDown({64.5, 41.0}, {});
     editor.mouseUp({64.5, 41.0}, {});
     editor.mouseDown({60.5, 13.0}, Qt::ShiftModifier);

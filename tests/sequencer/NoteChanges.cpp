@@ -184,6 +184,50 @@ TEST_F(NoteChangesTest, DragsCopyNotesAndARubberBandSelectsThem)
     EXPECT_EQ(document_.undoStack().count(), 1);
     undo();
     EXPECT_THAT(notes(), ElementsAre("60@1+4", "64@2+4", "70@8+4"));
+
+    setPrefBool("DragSelects", true);
+    drag({72.0, 9.0}, {64.0, 5.0}, {}, {});
+    EXPECT_THAT(selection, ElementsAre(2, 3));
+    EXPECT_EQ(transport_.position(), 9.0) << "where the mouse was pressed";
+    EXPECT_TRUE(transport_.interval().isEmpty());
+    drag({59.0, 6.0}, {60.0, 4.0}, Qt::ShiftModifier, Qt::ShiftModifier);
+    EXPECT_THAT(selection, ElementsAre(2, 3, 1)) << "besides the others";
+    EXPECT_EQ(transport_.position(), 9.0);
+    drag({70.0, 8.0}, {71.0, 8.0}, {}, {});
+    EXPECT_EQ(notes().back(), "71@8+4") << "notes are dragged as ever";
+    resetPref("DragSelects");
+}
+
+TEST_F(NoteChangesTest, ArrowsMoveTheFirstNoteFromLineToLine)
+{
+    SequenceDocument musical{*this, Reading::Musical, [this] { return now_; }};
+    SequenceEditor editor(musical);
+    editor.document().recorder().setGrid(Grid::Beats);
+    editor.paste({noteAt(9.0, 1.0), noteAt(12.0, 1.0, 64)});
+    musical.recorder().setSnapToGrid(true);
+    const auto moved = [&](int steps) {
+        editor.moveSelection(0, steps);
+        return placesOf(musical.sequence().notes());
+    };
+    EXPECT_THAT(moved(1), ElementsAre("60@8+1", "64@11+1"));
+    EXPECT_THAT(moved(1), ElementsAre("60@16+1", "64@19+1"));
+    EXPECT_THAT(moved(-1), ElementsAre("60@8+1", "64@11+1"));
+    EXPECT_THAT(moved(-1), ElementsAre("60@0+1", "64@3+1"));
+    EXPECT_THAT(moved(-1), ElementsAre("60@0+1", "64@3+1"));
+    musical.recorder().setSnapToGrid(false);
+    EXPECT_THAT(moved(1), ElementsAre("60@1+1", "64@4+1"));
+    EXPECT_THAT(moved(0), ElementsAre("60@1+1", "64@4+1"));
+
+    const auto resized = [&](int steps) {
+        editor.resizeSelection(steps);
+        return placesOf(musical.sequence().notes());
+    };
+    EXPECT_THAT(resized(1), ElementsAre("60@1+2", "64@4+2"));
+    musical.recorder().setSnapToGrid(true);
+    EXPECT_THAT(resized(1), ElementsAre("60@1+7", "64@4+4")) << "to the end of the beat";
+    EXPECT_THAT(resized(-1), ElementsAre("60@1+7", "64@4+4")) << "no note has no length";
+    EXPECT_THAT(resized(1), ElementsAre("60@1+15", "64@4+12"));
+    EXPECT_THAT(resized(-1), ElementsAre("60@1+7", "64@4+4"));
 }
 
 TEST_F(NoteChangesTest, PressedNotesSoundAndTheirVelocityIsDrawnNext)

@@ -152,6 +152,63 @@ TEST_F(PracticeSessionTest, BeginsWithTheFirstKey)
     EXPECT_EQ(session_.result().cleanPasses, 1);
 }
 
+TEST_F(PracticeSessionTest, GoesOnWithoutTheKeysThatAreMissed)
+{
+    using Place = std::pair<unsigned, double>;
+    for (const auto& [key, step] :
+         {Place{72, 0.0}, {72, 8.0}, {76, 8.0}, {72, 16.0}, {72, 18.0}, {79, 18.0}, {72, 28.0}})
+        addNote(key, step, 1);
+    piece_.transport().selectInterval(0.0, 30.0);
+    PracticeOptions options = ofMelody();
+    options.waits = false;
+    start(options);
+    pass(1.0);
+    EXPECT_EQ(position(), 0.0) << "it begins with the first key";
+    strike(72);
+    pass(0.45);
+    strike(72);
+    pass(0.5);
+    EXPECT_EQ(session_.result().missed.size(), 1U) << "76 at 8; there is still time for 72 at 16";
+    pass(0.12);
+    strike(79);
+    EXPECT_THAT(delays(),
+                ElementsAre(0.0, testing::DoubleNear(-50.0, 2.0), testing::DoubleNear(-53.0, 2.0)))
+        << "nearer to the chord at 18";
+    pass(1.0);
+    EXPECT_FALSE(session_.isRunning()) << "the interval has ended";
+    std::vector<double> missed;
+    for (const PracticeMistake& mistake : session_.result().missed)
+        missed.push_back(mistake.step);
+    EXPECT_THAT(missed, ElementsAre(8.0, 16.0, 18.0, 28.0)) << "the last one was just due";
+    EXPECT_TRUE(session_.result().wrong.empty());
+    EXPECT_EQ(session_.result().passes, 1);
+    EXPECT_EQ(session_.result().cleanPasses, 0);
+}
+
+TEST_F(PracticeSessionTest, MissesKeysInEveryPassOfALoop)
+{
+    addNote(72, 4.0, 1);
+    addNote(74, 15.0, 1);
+    piece_.transport().selectInterval(0.0, 16.0);
+    piece_.transport().setLoop(true);
+    PracticeOptions options = ofMelody();
+    options.waits = false;
+    start(options);
+    pass(1.1);
+    EXPECT_EQ(session_.result().missed.size(), 2U) << "the loop ends before the time for 74 does";
+    pass(0.2);
+    strike(72);
+    pass(0.65);
+    strike(74);
+    pass(0.2);
+    EXPECT_EQ(session_.result().strokes.size(), 2U);
+    EXPECT_EQ(session_.result().missed.size(), 2U);
+    EXPECT_EQ(session_.result().passes, 2);
+    EXPECT_EQ(session_.result().cleanPasses, 1);
+    session_.stop();
+    EXPECT_EQ(session_.result().missed.size(), 2U) << "nobody has missed what was still to come";
+}
+
 TEST_F(PracticeSessionTest, ChangesTheSpeedAfterEveryPass)
 {
     addNote(72, 4.0, 1);

@@ -90,7 +90,9 @@ TEST_F(RandomEditsTest, UndoAndRedoEveryEdit)
             states.erase(states.upper_bound(before), states.end());
             states[index] = notes();
         }
-        ASSERT_TRUE(!states.contains(index) || notes() == states[index]) << i;
+        const Notes now = notes();
+        ASSERT_FALSE(HasFailure()) << i << ": the marks of the selection differ";
+        ASSERT_TRUE(!states.contains(index) || now == states[index]) << i;
         const auto& sorted = document_.sequence().notes();
         ASSERT_TRUE(std::ranges::is_sorted(sorted, {}, &Note::start)) << i;
         ASSERT_TRUE(sorted.empty() || sorted.front().start >= 0.0) << i;

@@ -69,6 +69,15 @@ protected:
         return result;
     }
 
+    /// The step, rounded to hundredths, and the value of each controller.
+    std::vector<std::pair<double, int>> moves() const
+    {
+        std::vector<std::pair<double, int>> result;
+        for (const ControllerEvent& event : piece_.controllers())
+            result.emplace_back(std::round(event.step * 100.0) / 100.0, event.value);
+        return result;
+    }
+
     SequenceDocument piece_{*this, Reading::Musical, [this] { return now_; }};
     Transport& run_ = piece_.transport();
     double begun_ = 0.0;
@@ -206,6 +215,94 @@ TEST_F(RunningTakeTest, KeepsATakeOfEachPassToChooseFrom)
     EXPECT_EQ(piece_.chosenTake(), std::nullopt);
     piece_.undoStack().redo();
     EXPECT_EQ(piece_.chosenTake(), 2U);
+}
+
+TEST_F(RunningTakeTest, RecordsTheWholeLoopAfterItBeganInTheMiddle)
+{
+    run_.selectInterval(16.0, 32.0); // a second
+    run_.setLoop(true);
+    run_.setPosition(24.0);
+    start({});
+    strike(60, 0.75); // in the second pass, at a quarter of the loop
+    runTo(1.0);
+    piece_.recorder().record();
+    EXPECT_THAT(notes(), ElementsAre(FieldsAre(60, 20.0, 4.0)));
+}
+
+TEST_F(RunningTakeTest, KeepsThePedalsOfEachPassOfALateMainThread)
+{
+    constexpr std::uint8_t kSustainPedal = 64;
+    run_.selectInterval(16.0, 32.0); // a second
+    run_.setLoop(true);
+    run_.setPosition(16.0);
+    start({.countIn = 1}); // of two seconds
+    liveKeys_.control(kSustainPedal, 100, begun_ + 1.0);
+    strike(60, 2.25);
+    liveKeys_.control(kSustainPedal, 0, begun_ + 2.75);
+    liveKeys_.control(kSustainPedal, 90, begun_ + 3.5);
+    strike(61, 3.75);
+    runTo(4.9, 0.7);
+    piece_.recorder().record();
+    EXPECT_THAT(moves(), ElementsAre(FieldsAre(24.0, 90), FieldsAre(32.0, 0)))
+        << "it is let go at the end of the loop";
+    EXPECT_THAT(notes(), ElementsAre(FieldsAre(61, 28.0, 4.0)));
+
+    piece_.chooseTake(0);
+    EXPECT_THAT(moves(), ElementsAre(FieldsAre(16.0, 100), FieldsAre(28.0, 0)))
+        << "it was down before the first step";
+    piece_.undoStack().undo();
+    EXPECT_THAT(piece_.controllers(), SizeIs(2));
+    EXPECT_EQ(piece_.chosenTake(), 1U);
+    piece_.undoStack().undo();
+    EXPECT_THAT(piece_.controllers(), SizeIs(0));
+    EXPECT_THAT(notes(), SizeIs(0));
+}
+
+TEST_F(RunningTakeTest, BringsBackThePedalsThatATakeReplaced)
+{
+    const Controllers before{{17.0, 2, midi::kSustain, 90},
+                             {22.0, 2, midi::kSustain, 0},
+                             {29.0, 2, midi::kSustain, 80},
+                             {31.0, 2, midi::kSustain, 0}};
+    piece_.setControllers(before, "");
+    run_.selectInterval(16.0, 32.0); // a second
+    run_.setLoop(true);
+    run_.setPosition(16.0);
+    start({});
+    liveKeys_.control(midi::kSustain, 100, begun_ + 0.25);
+    liveKeys_.control(midi::kSustain, 0, begun_ + 0.5);
+    runTo(0.6);
+    piece_.registerTake(); // as an edit during the recording does
+    liveKeys_.control(midi::kSustain, 110, begun_ + 1.75);
+    liveKeys_.control(midi::kSustain, 0, begun_ + 1.9);
+    runTo(1.95);
+    piece_.recorder().record();
+    const auto second = ElementsAre(FieldsAre(17.0, 90), FieldsAre(22.0, 0), FieldsAre(28.0, 110),
+                                    FieldsAre(30.4, 0), FieldsAre(31.0, 0));
+    EXPECT_THAT(moves(), second);
+    piece_.chooseTake(0);
+    EXPECT_THAT(moves(), ElementsAre(FieldsAre(17.0, 90), FieldsAre(20.0, 100), FieldsAre(24.0, 0),
+                                     FieldsAre(29.0, 80), FieldsAre(31.0, 0)));
+    piece_.chooseTake(1);
+    EXPECT_THAT(moves(), second);
+    while (piece_.undoStack().canUndo() && piece_.controllers() != before)
+        piece_.undoStack().undo();
+    EXPECT_EQ(piece_.controllers(), before);
+}
+
+TEST_F(RunningTakeTest, SilencesTheNotesOfAPassBeforeItRemovesThem)
+{
+    run_.selectInterval(0.0, 16.0); // a second
+    run_.setLoop(true);
+    start({});
+    strike(60, 0.0);
+    runTo(0.5);
+    add(50, 8.5, 1.0, 3); // an edit, so that playing knows the new note
+    runTo(1.5);           // past the turn, at which the note begins again
+    const auto ofTake = [](const std::string& call) { return call.find("60") != call.npos; };
+    std::erase_if(calls_, std::not_fn(ofTake));
+    ASSERT_FALSE(calls_.empty());
+    EXPECT_EQ(calls_.back(), "stop 60");
 }
 
 } // namespace velmora

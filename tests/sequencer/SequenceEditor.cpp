@@ -165,6 +165,7 @@ TEST_F(SequenceEditorTest, SilencesNotesThatAreEdited)
     EXPECT_EQ(edited([&] { drag({60.0, 2.0}, {60.0, 2.5}); }), once);
     EXPECT_EQ(edited([&] { undo(); }), once);
     editor_.selectAll();
+    EXPECT_EQ(edited([&] { type(Qt::Key_3, kCommand); }), once);
     EXPECT_EQ(edited([&] { editor_.cut(); }), once);
 }
 

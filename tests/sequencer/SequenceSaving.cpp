@@ -284,10 +284,10 @@ TEST_F(MusicalSaving, RecoversTheFileWithTheNotes)
 
     UnsavedSequence inSeconds = musical_.snapshot();
     inSeconds.notes.at(0).length = 0.4 * 16;
-    std::string old = encodeUnsaved(inSeconds); // with one tempo, and three empty lists
+    std::string old = encodeUnsaved(inSeconds); // with one tempo, and four empty lists
     constexpr std::size_t kNote = 56, kCount = 8, kTime = 28, kVoices = 1 + 16 * 18;
-    old.erase(old.size() - kNote - kCount - kVoices - kTime, kTime + kVoices)
-        .replace(4, 4, midi::number(2, 4));
+    constexpr std::size_t kLater = kTime + kVoices + 4; // what the version before did not have
+    old.erase(old.size() - kNote - kCount - kLater, kLater).replace(4, 4, midi::number(2, 4));
     recovered.recover(decodeUnsaved(std::as_bytes(std::span(old))));
     EXPECT_DOUBLE_EQ(recovered.sequence().notes().at(0).length, 8.0) << "of the version before";
 

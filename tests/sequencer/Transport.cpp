@@ -181,6 +181,22 @@ TEST_F(TransportTest, ShowsTheKeysAndNotesAtThePosition)
     EXPECT_EQ(musical.practice().stateOfNote(60), kWanted) << "at the beginning again";
 }
 
+TEST_F(TransportTest, ShowsAFrameOnEverySixteenthTickOrOnEachLateOne)
+{
+    addTwoNotes();
+    transport_.play();
+    int frames = 0;
+    QObject::connect(&transport_, &Transport::frame, [&] { ++frames; });
+    const auto framesOf = [&](int ticks, double steps) {
+        frames = 0;
+        for (int i = 0; i < ticks; ++i)
+            tick(steps);
+        return frames;
+    };
+    EXPECT_EQ(framesOf(160, 15.0 / 1024.0), 10);
+    EXPECT_EQ(framesOf(10, 1.0), 10);
+}
+
 TEST_F(TransportTest, PlaysTheSelectedInterval)
 {
     addTwoNotes();

@@ -10,6 +10,7 @@
 #include "app/AudioExport.h"
 #include "base/Log.h"
 #include "sequencer/SequenceFile.h"
+#include "sequencer/fitToGrid.h"
 #include "sound/keys.h"
 #include "support/Bank.h"
 #include "support/OrganFolder.h"
@@ -208,7 +209,7 @@ private:
         SequenceDocument& document = open.document;
         QUndoStack& stack = document.undoStack();
         const double place = static_cast<double>(pick(64));
-        const std::array<std::function<void()>, 12> commands{
+        const std::array<std::function<void()>, 16> commands{
             [&] { document.transport().setLoop(chance(2)); },
             [&] { document.recorder().setSnapToGrid(chance(2)); },
             [&] { document.transport().setSpeed(static_cast<double>(40 + pick(400)) / 120.0); },
@@ -216,6 +217,10 @@ private:
                 document.transport().selectInterval(place, place + static_cast<double>(pick(16)));
             },
             [&] { document.recorder().waitAt(place); },
+            [&] { document.recorder().setPunches(chance(2)); },
+            [&] { document.chooseTake(pick(3)); },
+            [&] { movePedal(document, place); },
+            [&] { fit(document); },
             [&] { stack.setIndex(stack.index() - static_cast<int>(pick(12))); },
             [&] { stack.setIndex(stack.index() + static_cast<int>(pick(12))); },
             [&] { clipboard_ = chance(2) ? open.editor.copy() : open.editor.cut(); },
@@ -224,6 +229,28 @@ private:
             [&] { chance(4) ? saveAndRead(open) : document.transport().play(); },
             [&] { chance(8) ? exportAudio(open) : document.recorder().record(); }};
         commands[pick(commands.size())]();
+    }
+
+    /// Holds a pedal for a while, or leaves out moves of controllers.
+    void movePedal(SequenceDocument& document, double place)
+    {
+        constexpr std::array<std::uint8_t, 4> kNumbers = {midi::kSustain, midi::kSostenuto,
+                                                          midi::kSoft, midi::kExpression};
+        const auto channel = static_cast<std::uint8_t>(pick(midi::kChannels));
+        const std::uint8_t number = kNumbers[pick(kNumbers.size())];
+        const double end = place + static_cast<double>(pick(16));
+        const Controllers& controllers = document.controllers();
+        document.setControllers(chance(3)
+                                    ? thinned(controllers, static_cast<int>(pick(32)))
+                                    : withRecorded(controllers, {{place, channel, number, 127},
+                                                                 {end, channel, number, 0}}),
+                                {});
+    }
+
+    void fit(SequenceDocument& document)
+    {
+        if (const auto beats = findBeats(document.sequence().notes(), document.time()))
+            fitToGrid(document, *beats, {});
     }
 
     /// Releases the on-screen key that is held and presses another; -1 presses none.
@@ -258,7 +285,7 @@ private:
         connect(&job, &AudioExport::finished, this,
                 [&](bool /*isWritten*/, const QString& error) { reason = error.toStdString(); });
         job.start(currentSettings(app_), open.document.snapshot(), 240.0,
-                  folder_.path() / "export.wav");
+                  {{folder_.path() / "export.wav"}});
         for (std::size_t left = chance(2) ? 100 : SIZE_MAX; !reason; --left) {
             if (left == 0)
                 job.cancel();

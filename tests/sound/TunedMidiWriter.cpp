@@ -90,7 +90,8 @@ double errorAt(std::span<const float> sound, double seconds, const Temperament& 
 /// Returns the errors of the keys from `first` to `last`, which sound one after the other.
 std::vector<double> errorsOf(const Temperament& temperament, int first, int last)
 {
-    TunedMidiWriter writer(kSines, 97.0, kFileRate);
+    TunedMidiWriter writer(kSines, kFileRate);
+    writer.setBeats(TunedMidiWriter::steadyBeats(97.0));
     writer.tune(temperament, 0, kLastKey);
     for (int key = first; key <= last; ++key) {
         writer.play(key, 0.7F);
@@ -126,7 +127,8 @@ TEST(TunedMidiWriter, WritesFilesThatSoundInTheTemperament)
 
 TEST(TunedMidiWriter, BendsWhatSoundsWhenAnAdaptiveTemperamentMovesIt)
 {
-    TunedMidiWriter writer(kSines, 120.0, kFileRate);
+    TunedMidiWriter writer(kSines, kFileRate);
+    writer.setBeats(TunedMidiWriter::steadyBeats(120.0));
     FollowingMeantone temperament;
     writer.tune(temperament, 0, kLastKey);
     const auto strike = [&](int key, double time) {
@@ -149,7 +151,8 @@ TEST(TunedMidiWriter, BendsWhatSoundsWhenAnAdaptiveTemperamentMovesIt)
 TEST(TunedMidiWriter, TellsWhichNotesFindNoChannel)
 {
     const ScaleTemperament many = equalSteps(53);
-    TunedMidiWriter writer(kSines, 120.0, kFileRate);
+    TunedMidiWriter writer(kSines, kFileRate);
+    writer.setBeats(TunedMidiWriter::steadyBeats(120.0));
     writer.tune(many, 0, kLastKey);
     for (int key = 50; key < 65; ++key)
         writer.play(key, 0.5F);

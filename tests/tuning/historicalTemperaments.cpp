@@ -3,14 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <iterator>
 #include <set>
-#include <string>
+#include <string_view>
+#include <vector>
 
 namespace velmora {
 
 namespace {
 
-/// The cents of C♯ to B, as published tables give them.
+/// The cents of C♯ to B as published tables give them, or worked out from the words of the source.
 struct Published {
     const char* name;
     double cents[11];
@@ -47,6 +49,45 @@ constexpr Published kPublished[] = {
     {"Barnes", {94.135, 196.090, 298.045, 392.180, 501.955, 592.180, 698.045, 796.090, 894.135, 1000.0, 1094.135}},
     {"Euler", {70.672, 203.910, 274.582, 386.314, 498.045, 590.224, 701.955, 772.627, 884.359, 976.537, 1088.269}},
     {"31 Equal Steps, Twelve Keys", {77.419, 193.548, 309.677, 387.097, 503.226, 580.645, 696.774, 774.194, 890.323, 1006.452, 1083.871}},
+    {"Pythagorean", {113.685, 203.910, 294.135, 407.820, 498.045, 611.730, 701.955, 815.640, 905.865, 996.090, 1109.775}},
+    {"Arnaut de Zwolle", {90.225, 203.910, 294.135, 407.820, 498.045, 588.270, 701.955, 792.180, 905.865, 996.090, 1109.775}},
+    {"Erlangen Monochord", {90.225, 201.956, 294.135, 386.314, 498.045, 588.270, 701.955, 792.180, 903.911, 996.090, 1088.269}},
+    {"Two-Sevenths-Comma Meantone", {70.672, 191.621, 312.569, 383.241, 504.190, 574.862, 695.810, 766.483, 887.431, 1008.379, 1079.052}},
+    {"Five-Eighteenths-Comma Meantone", {71.867, 191.962, 312.057, 383.924, 504.019, 575.886, 695.981, 767.848, 887.943, 1008.038, 1079.905}},
+    {"Two-Ninths-Comma Meantone", {80.231, 194.352, 308.473, 388.703, 502.824, 583.055, 697.176, 777.407, 891.527, 1005.648, 1085.879}},
+    {"Three-Fourteenths-Comma Meantone", {81.426, 194.693, 307.960, 389.386, 502.653, 584.079, 697.347, 778.772, 892.040, 1005.307, 1086.733}},
+    {"Sixth-Comma Meantone", {88.594, 196.741, 304.888, 393.482, 501.629, 590.224, 698.371, 786.965, 895.112, 1003.259, 1091.853}},
+    {"Seventh-Comma Meantone", {92.179, 197.765, 303.352, 395.531, 501.117, 593.296, 698.883, 791.061, 896.648, 1002.235, 1094.413}},
+    {"Eighth-Comma Meantone", {94.867, 198.533, 302.2, 397.067, 500.733, 595.6, 699.267, 794.134, 897.8, 1001.467, 1096.334}},
+    {"Ninth-Comma Meantone", {96.958, 199.131, 301.304, 398.262, 500.435, 597.392, 699.565, 796.523, 898.696, 1000.869, 1097.827}},
+    {"Tenth-Comma Meantone", {98.631, 199.609, 300.587, 399.217, 500.196, 598.826, 699.804, 798.435, 899.413, 1000.391, 1099.022}},
+    {"Eleventh-Comma Meantone", {99.999, 200.0, 300.0, 400.0, 500.0, 599.999, 700.0, 799.999, 900.0, 1000.0, 1099.999}},
+    {"Silbermann", {86.315, 196.090, 305.865, 392.180, 501.955, 588.270, 698.045, 784.360, 894.135, 1003.910, 1090.225}},
+    {"Mercadier", {93.971, 196.741, 296.089, 393.482, 499.999, 593.808, 698.371, 794.134, 895.112, 998.044, 1093.645}},
+    {"Rousseau’s Monochord", {70.672, 203.910, 315.641, 386.314, 498.045, 568.717, 701.955, 813.686, 884.359, 1017.596, 1088.269}},
+    {"Malcolm’s Monochord", {111.731, 203.910, 315.641, 386.314, 498.045, 590.224, 701.955, 813.686, 884.359, 996.090, 1088.269}},
+    {"Young I", {93.890, 195.845, 297.8, 391.690, 499.878, 591.935, 697.923, 795.845, 893.768, 999.755, 1091.813}},
+    {"Werckmeister V", {96.090, 203.910, 300.0, 396.090, 503.910, 600.0, 701.955, 792.180, 900.0, 1001.955, 1098.045}},
+    {"Werckmeister VI", {90.661, 186.334, 298.065, 395.169, 498.045, 594.923, 697.544, 792.616, 893.214, 1000.020, 1097.124}},
+    {"Kirnberger I", {90.225, 203.910, 294.135, 386.314, 498.045, 590.224, 701.955, 792.180, 884.359, 996.090, 1088.269}},
+    {"Lehman", {98.045, 196.090, 298.045, 392.180, 501.955, 596.090, 698.045, 798.045, 894.135, 998.045, 1094.135}},
+    {"Ramos de Pareja", {92.179, 182.404, 294.135, 386.314, 498.045, 590.224, 701.955, 792.180, 884.359, 996.090, 1088.269}},
+    {"Fogliano", {70.672, 203.910, 315.641, 386.314, 498.045, 568.717, 701.955, 772.627, 884.359, 1017.596, 1088.269}},
+    {"Ganassi", {88.801, 182.404, 281.358, 386.314, 498.045, 597.0, 701.955, 790.756, 884.359, 983.313, 1088.269}},
+    {"Mersenne, Spinet", {111.731, 182.404, 315.641, 386.314, 498.045, 609.776, 701.955, 813.686, 884.359, 996.090, 1088.269}},
+    {"Mersenne, Lute", {111.731, 182.404, 315.641, 386.314, 498.045, 609.776, 701.955, 813.686, 884.359, 1017.596, 1088.269}},
+    {"La Monte Young", {176.646, 203.910, 239.607, 470.781, 443.517, 674.691, 701.955, 737.652, 968.826, 941.562, 1172.736}},
+    {"Harmonics 16 to 30", {104.955, 203.910, 297.513, 386.314, 470.781, 551.318, 701.955, 840.528, 905.865, 968.826, 1088.269}},
+    {"17 Equal Steps, Twelve Keys", {141.176, 211.765, 282.353, 423.529, 494.118, 635.294, 705.882, 847.059, 917.647, 988.235, 1129.412}},
+    {"19 Equal Steps, Twelve Keys", {63.158, 189.474, 315.789, 378.947, 505.263, 568.421, 694.737, 757.895, 884.211, 1010.526, 1073.684}},
+    {"22 Equal Steps, Twelve Keys", {163.636, 218.182, 272.727, 436.364, 490.909, 654.545, 709.091, 872.727, 927.273, 981.818, 1145.455}},
+    {"41 Equal Steps, Twelve Keys", {117.073, 204.878, 292.683, 409.756, 497.561, 614.634, 702.439, 819.512, 907.317, 995.122, 1112.195}},
+    {"43 Equal Steps, Twelve Keys", {83.721, 195.349, 306.977, 390.698, 502.326, 586.047, 697.674, 781.395, 893.023, 1004.651, 1088.372}},
+    {"50 Equal Steps, Twelve Keys", {72.0, 192.0, 312.0, 384.0, 504.0, 576.0, 696.0, 768.0, 888.0, 1008.0, 1080.0}},
+    {"53 Equal Steps, Twelve Keys", {113.208, 203.774, 294.340, 407.547, 498.113, 611.321, 701.887, 815.094, 905.660, 996.226, 1109.434}},
+    {"55 Equal Steps, Twelve Keys", {87.273, 196.364, 305.455, 392.727, 501.818, 589.091, 698.182, 785.455, 894.545, 1003.636, 1090.909}},
+    {"Shi’er Lü", {113.685, 203.910, 317.595, 407.820, 521.505, 611.730, 701.955, 815.640, 905.865, 1019.550, 1109.775}},
+    {"Hindustani", {111.731, 203.910, 315.641, 386.314, 498.045, 590.224, 701.955, 813.686, 905.865, 1017.596, 1088.269}},
     {"Zhu Zaiyu", {100, 200, 300, 400, 500, 600, 700, 800, 900, 1000, 1100}},
 };
 // clang-format on
@@ -55,6 +96,7 @@ constexpr Published kPublished[] = {
 
 TEST(HistoricalTemperaments, AgreeWithPublishedTables)
 {
+    EXPECT_EQ(std::size(kPublished), historicalTemperaments().size());
     for (const Published& published : kPublished) {
         const auto* found = findHistoricalTemperament(published.name);
         ASSERT_NE(found, nullptr) << published.name;
@@ -68,13 +110,19 @@ TEST(HistoricalTemperaments, AgreeWithPublishedTables)
 TEST(HistoricalTemperaments, HaveAscendingPitchesAndNamesOfTheirOwn)
 {
     std::set<std::string_view> names;
+    std::set<std::vector<long>> pitches;
     for (const HistoricalTemperament& each : historicalTemperaments()) {
         EXPECT_TRUE(names.insert(each.name).second) << each.name;
+        const Temperament temperament = each.make();
+        std::vector<long> hundredths;
+        for (unsigned long key = 0; key < 12; ++key)
+            hundredths.push_back(std::lround(100.0 * temperament.getTuning(key).cent()));
+        // An eleventh of the comma gives equal temperament within a thousandth of a cent.
+        EXPECT_TRUE(pitches.insert(hundredths).second || each.name == "Zhu Zaiyu") << each.name;
         EXPECT_FALSE(each.group.empty() || each.source.empty()) << each.name;
         // La Monte Young's fifth key lies below his fourth.
         if (each.name == "La Monte Young")
             continue;
-        const Temperament temperament = each.make();
         for (unsigned long key = 1; key < 12; ++key)
             EXPECT_GT(temperament.getPitch(key), temperament.getPitch(key - 1)) << each.name;
         EXPECT_GT(temperament.getPitch(12), temperament.getPitch(11)) << each.name;

@@ -22,7 +22,7 @@ public:
 };
 
 /// Returns what the files of a sounding scale are read as.
-ScaleTemperament written(const SoundingScale& sounding)
+ScaleTemperament written(const TuningShape& sounding)
 {
     const std::string scale = writeScale(sounding.scale);
     const std::string mapping = writeMapping(sounding.mapping, sounding.scale.pitches.size());
@@ -66,7 +66,7 @@ TEST(SoundingScale, FilesGiveEachKeyThePitchThatItHas)
                 {"keys", keys, 128},         {"scale", scale, 13}, {"gaps", sparse, 13},
                 {"gaps on D", sparseOnD, 13}};
     for (const auto& row : rows) {
-        const SoundingScale sounding = soundingScale(row.temperament, row.name);
+        const TuningShape sounding = soundingScale(row.temperament, row.name);
         EXPECT_EQ(sounding.scale.pitches.size(), row.notes) << row.name;
         EXPECT_EQ(sounding.scale.description, row.name);
         const ScaleTemperament read = written(sounding);

@@ -19,6 +19,7 @@ namespace {
 constexpr int kFallingHeight = 140;
 constexpr double kLeastHeight = 3.0; ///< Of a note, in pixels.
 constexpr double kCornerRadius = 3.0;
+constexpr double kEdgeWidth = 5.0; ///< Of a note whose key the keyboard does not have.
 
 /// The steps that are in sight from a position: two bars.
 double stepsInSight(const MusicalTime& time, double position)
@@ -91,18 +92,21 @@ void FallingNotes::paintNotes(QPainter& painter, double position, double steps)
     for (const KeyQuad& quad : keys.geometry.keys(1.0F))
         places[static_cast<std::size_t>(quad.key)] =
             QRectF(keys.origin + quad.left, 0.0, quad.right - quad.left, 0.0);
-    const RollColors colors(palette());
-    const PracticeSession& session = document_->practiceSession();
+    const QRectF below(keys.origin + keys.geometry.left(), 0.0, kEdgeWidth, 0.0);
+    const QRectF above(keys.origin + keys.geometry.right() - kEdgeWidth, 0.0, kEdgeWidth, 0.0);
+    RollColors colors(palette());
+    if (const PracticeSession& session = document_->practiceSession(); session.isRunning())
+        colors.practised = session.part();
     const auto yOf = [&](double step) { return height() * (1.0 - (step - position) / steps); };
     painter.setPen(Qt::NoPen);
     index_.visit(document_->sequence().notes(), position, position + steps, [&](const Note& note) {
-        QRectF place = places[note.key];
-        if (place.width() <= 0.0) // the keyboard does not have the key
-            return;
+        const int key = static_cast<int>(note.key);
+        const bool isBelow = key<keys.geometry.lo, isAbove = key> keys.geometry.hi;
+        QRectF place = isBelow ? below : isAbove ? above : places[note.key];
         place.setTop(yOf(note.start + note.length));
         place.setBottom(std::max(yOf(note.start), place.top() + kLeastHeight));
-        const bool isLeftToOthers = session.isRunning() && !session.part().contains(note);
-        painter.setBrush(isLeftToOthers ? palette().color(QPalette::Mid) : colors.of(note));
+        const auto [red, green, blue, opacity] = colors.leftOut;
+        painter.setBrush(isBelow || isAbove ? QColor(red, green, blue) : colors.of(note));
         painter.drawRoundedRect(place, kCornerRadius, kCornerRadius);
     });
 }

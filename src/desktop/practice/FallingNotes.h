@@ -10,7 +10,8 @@ class KeyboardView;
 class SequenceDocument;
 
 /// Shows the notes of the coming two bars above the on-screen keyboard. They fall onto the keys
-/// that they need. While the user practises, the notes that need not be played are grey.
+/// that they need; those whose keys the keyboard does not have fall at its edges, in grey. While
+/// the user practises, the notes that need not be played are grey.
 class FallingNotes : public QWidget {
 public:
     /// Lies above `keyboard`, which must outlive it.

@@ -1,8 +1,10 @@
 #include "desktop/practice/PracticePanel.h"
 
+#include "base/Log.h"
 #include "desktop/widgets/NoteSpinBox.h"
 #include "desktop/widgets/scrolling.h"
 #include "preferences/Preferences.h"
+#include "sequencer/PracticeHistory.h"
 #include "sequencer/SequenceDocument.h"
 
 #include <QCheckBox>
@@ -18,6 +20,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace velmora {
 
@@ -25,7 +30,6 @@ namespace {
 
 enum Hand { Both, Right, Left };
 
-constexpr int kMiddle = 60;
 constexpr int kLastBar = 9999;
 constexpr int kVoiceRows = 4; ///< The height of the list.
 
@@ -58,6 +62,7 @@ PracticePanel::PracticePanel()
       speed_(newSpinBox(10, 400, 100, tr(" %", "percent"))),
       faster_(newSpinBox(0, 20, 5, tr(" %", "percent"))),
       slowsDown_(new QCheckBox(tr("Slow down after mistakes"))),
+      waits_(new QCheckBox(tr("Wait for missing keys"))),
       tolerance_(newSpinBox(50, 1000, 200, tr(" ms"))), repeats_(new QCheckBox(tr("Repeat bars"))),
       firstBar_(newSpinBox(1, kLastBar, 1, {})), lastBar_(newSpinBox(1, kLastBar, 4, {})),
       fallingNotes_(new QCheckBox(tr("Show falling notes"))), start_(new QPushButton),
@@ -65,6 +70,7 @@ PracticePanel::PracticePanel()
 {
     makeFields();
     connectFields();
+    keepSettings();
     setDocument(nullptr);
 }
 
@@ -72,7 +78,6 @@ void PracticePanel::makeFields()
 {
     hands_->addItems({tr("Both hands"), tr("Right hand"), tr("Left hand")});
     leaveWheelToScrolling(*hands_);
-    split_->setValue(kMiddle);
     split_->setToolTip(tr("The lowest key of the right hand"));
     leaveWheelToScrolling(*split_);
     list_->setAccessibleName(tr("Voices"));
@@ -80,6 +85,8 @@ void PracticePanel::makeFields()
     list_->setToolTip(tr("The voices that you play; the others play along"));
     faster_->setToolTip(tr("What a pass without a mistake adds to the speed"));
     tolerance_->setToolTip(tr("How early a key may be, and how long a chord may be rolled"));
+    waits_->setToolTip(
+        tr("If it does not wait, the piece goes on, and what you leave out is missed"));
     state_->setWordWrap(true);
     auto* bars = new QHBoxLayout;
     bars->addWidget(firstBar_);
@@ -97,6 +104,7 @@ void PracticePanel::makeFields()
     form->addRow(tr("Speed:"), speed_);
     form->addRow(tr("Faster by:"), faster_);
     form->addRow(slowsDown_);
+    form->addRow(waits_);
     form->addRow(tr("Tolerance:"), tolerance_);
     form->addRow(repeats_);
     form->addRow(tr("Bars:"), bars);
@@ -109,7 +117,6 @@ void PracticePanel::connectFields()
 {
     connect(hands_, &QComboBox::currentIndexChanged, this,
             [this](int hand) { split_->setEnabled(hand != Both); });
-    split_->setEnabled(false);
     connect(speed_, &QSpinBox::valueChanged, this, [this](int percent) {
         if (document_ != nullptr)
             document_->transport().setSpeed(percent / 100.0);
@@ -119,6 +126,30 @@ void PracticePanel::connectFields()
         connect(box, &QSpinBox::valueChanged, this, &PracticePanel::repeatBars);
     connect(fallingNotes_, &QCheckBox::toggled, this, &PracticePanel::fallingNotesToggled);
     connect(start_, &QPushButton::clicked, this, &PracticePanel::toggle);
+}
+
+void PracticePanel::keepSettings()
+{
+    using Box = std::pair<QSpinBox*, const char*>;
+    for (const auto& [box, key] : {Box{split_, "PracticeSplit"},
+                                   {faster_, "PracticeFaster"},
+                                   {tolerance_, "PracticeTolerance"}}) {
+        const std::string name = key;
+        box->setValue(getPrefInt(name));
+        connect(box, &QSpinBox::valueChanged, [name](int value) { setPrefInt(name, value); });
+    }
+    using Check = std::pair<QCheckBox*, const char*>;
+    for (const auto& [check, key] : {Check{slowsDown_, "PracticeSlowsDown"},
+                                     {waits_, "PracticeWaits"},
+                                     {fallingNotes_, "FallingNotes"}}) {
+        const std::string name = key;
+        check->setChecked(getPrefBool(name));
+        connect(check, &QCheckBox::toggled, [name](bool isOn) { setPrefBool(name, isOn); });
+    }
+    hands_->setCurrentIndex(getPrefInt("PracticeHand"));
+    split_->setEnabled(hands_->currentIndex() != Both);
+    connect(hands_, &QComboBox::currentIndexChanged,
+            [](int hand) { setPrefInt("PracticeHand", hand); });
 }
 
 void PracticePanel::setDocument(SequenceDocument* document)
@@ -133,6 +164,7 @@ void PracticePanel::setDocument(SequenceDocument* document)
     setEnabled(document_ != nullptr && document_->reading() == Reading::Musical);
     if (document_ != nullptr) {
         connect(document_, &SequenceDocument::changed, this, &PracticePanel::showVoices);
+        connect(document_, &SequenceDocument::voicesChanged, this, &PracticePanel::showVoices);
         const Transport& transport = document_->transport();
         connect(&transport, &Transport::optionsChanged, this, &PracticePanel::showState);
         connect(&transport, &Transport::frame, this, &PracticePanel::showState);
@@ -148,12 +180,42 @@ void PracticePanel::setDocument(SequenceDocument* document)
         repeats_->setChecked(false);
     }
     showVoices();
+    recallChoice();
     showState();
+}
+
+void PracticePanel::recallChoice()
+{
+    if (document_ == nullptr || document_->path().empty())
+        return;
+    const PracticeHistory history(practiceFolder(), document_->path());
+    if (!history.choice())
+        return;
+    firstBar_->setValue(history.choice()->firstBar);
+    lastBar_->setValue(history.choice()->lastBar);
+    for (int row = 0; row < list_->count(); ++row) {
+        QListWidgetItem& voice = *list_->item(row);
+        const bool isChosen = history.choice()->voices[voice.data(Qt::UserRole).toUInt()];
+        voice.setCheckState(isChosen ? Qt::Checked : Qt::Unchecked);
+    }
+}
+
+void PracticePanel::keepChoice()
+{
+    if (document_->path().empty())
+        return;
+    try {
+        PracticeHistory(practiceFolder(), document_->path())
+            .choose({options().part.channels, firstBar_->value(), lastBar_->value()});
+    } catch (const std::runtime_error& error) {
+        logger("practice").warn("the choice for the next time was not kept: {}", error.what());
+    }
 }
 
 PracticeOptions PracticePanel::options() const
 {
     PracticeOptions options{.part = {},
+                            .waits = waits_->isChecked(),
                             .tolerance = tolerance_->value() / 1000.0,
                             .speedStep = faster_->value() / 100.0,
                             .slowsDown = slowsDown_->isChecked()};
@@ -181,11 +243,13 @@ void PracticePanel::toggle()
         return;
     }
     repeatBars();
-    if (session.start(options()))
+    if (session.start(options())) {
+        keepChoice();
         showState();
-    else
-        state_->setText(tr("There are no notes to practise. Choose other voices, another hand or "
-                           "other bars."));
+        return;
+    }
+    state_->setText(tr("There are no notes to practise. Choose other voices, another hand or "
+                       "other bars."));
 }
 
 void PracticePanel::repeatBars()
@@ -210,16 +274,21 @@ void PracticePanel::showVoices()
     if (document_ != nullptr)
         for (const Note& note : document_->sequence().notes())
             voices.set(note.channel % voices.size());
-    if (voices == voices_)
-        return;
+    if (voices != voices_)
+        list_->clear();
     voices_ = voices;
-    list_->clear();
+    int row = 0;
     for (std::size_t channel = 0; channel < voices.size(); ++channel) {
         if (!voices[channel])
             continue;
-        auto* item = new QListWidgetItem(tr("Voice %1").arg(channel + 1), list_);
-        item->setData(Qt::UserRole, static_cast<uint>(channel));
-        item->setCheckState(Qt::Checked);
+        if (row == list_->count()) {
+            auto* item = new QListWidgetItem(list_);
+            item->setData(Qt::UserRole, static_cast<uint>(channel));
+            item->setCheckState(Qt::Checked);
+        }
+        const std::string& name = document_->voices()[channel].name;
+        list_->item(row++)->setText(name.empty() ? tr("Voice %1").arg(channel + 1)
+                                                 : QString::fromStdString(name));
     }
 }
 
@@ -234,10 +303,11 @@ void PracticePanel::showState()
         speed_->setValue(static_cast<int>(std::lround(document_->transport().speed() * 100)));
     }
     const PracticeResult& result = document_->practiceSession().result();
-    if (isRunning || !result.strokes.empty())
-        state_->setText(tr("Right: %1, wrong: %2, passes: %3")
+    if (isRunning || !result.strokes.empty() || !result.missed.empty())
+        state_->setText(tr("Right: %1, wrong: %2, missed: %3, passes: %4")
                             .arg(QLocale().toString(static_cast<int>(result.strokes.size())),
                                  QLocale().toString(static_cast<int>(result.wrong.size())),
+                                 QLocale().toString(static_cast<int>(result.missed.size())),
                                  QLocale().toString(result.passes)));
 }
 

@@ -41,8 +41,15 @@ signals:
 private:
     void makeFields();
     void connectFields();
+
+    /// Shows the settings of the last time, and keeps those that change.
+    void keepSettings();
     void toggle();
     void showVoices();
+
+    /// Shows and keeps the voices and the bars of the piece.
+    void recallChoice();
+    void keepChoice();
     void showState();
     void repeatBars();
 
@@ -52,7 +59,7 @@ private:
     NoteSpinBox* split_;
     QListWidget* list_;
     QSpinBox *speed_, *faster_;
-    QCheckBox* slowsDown_;
+    QCheckBox *slowsDown_, *waits_;
     QSpinBox* tolerance_;
     QCheckBox* repeats_;
     QSpinBox *firstBar_, *lastBar_;

@@ -36,10 +36,17 @@ public:
     /// Paints a part of a column, from one count up to another one.
     void paintColumn(std::size_t column, int from, int to, const QBrush& brush)
     {
-        const double gap = std::min(width_ / 8, 2.0);
-        painter_.fillRect(QRectF(leftOf(column) + gap, place_.bottom() - unit_ * to,
-                                 width_ - 2 * gap, unit_ * (to - from)),
-                          brush);
+        painter_.fillRect(partOfColumn(column, from, to), brush);
+    }
+
+    /// Frames a part of a column.
+    void paintFrame(std::size_t column, int from, int to)
+    {
+        if (from == to)
+            return;
+        painter_.setPen(palette_.color(QPalette::Text));
+        painter_.setBrush(Qt::NoBrush);
+        painter_.drawRect(partOfColumn(column, from, to).adjusted(0.5, 0.5, -0.5, -0.5));
     }
 
     /// Paints a text below a column, with the left edge or the middle at the column's.
@@ -65,6 +72,13 @@ private:
         return place_.left() + width_ * static_cast<double>(column);
     }
 
+    QRectF partOfColumn(std::size_t column, int from, int to) const
+    {
+        const double gap = std::min(width_ / 8, 2.0);
+        return {leftOf(column) + gap, place_.bottom() - unit_ * to, width_ - 2 * gap,
+                unit_ * (to - from)};
+    }
+
     QPainter& painter_;
     const QPalette& palette_;
     double line_;
@@ -82,7 +96,7 @@ void paintBars(QPainter& painter, const QRectF& place, const PracticeSummary& su
 {
     int highest = 0;
     for (const PracticeBar& bar : summary.bars)
-        highest = std::max(highest, bar.right + bar.wrong);
+        highest = std::max(highest, bar.right + bar.wrong + bar.missed);
     Diagram diagram(painter, place, palette, summary.bars.size(), highest);
     const QColor right = schemeColor("KeyColorCorrect", palette).toQColor();
     const QColor wrong = schemeColor("KeyColorWrong", palette).toQColor();
@@ -90,12 +104,14 @@ void paintBars(QPainter& painter, const QRectF& place, const PracticeSummary& su
     for (std::size_t i = 0; i < summary.bars.size(); ++i) {
         const PracticeBar& bar = summary.bars[i];
         diagram.paintColumn(i, 0, bar.right, right);
-        diagram.paintColumn(i, bar.right, bar.right + bar.wrong, QBrush(wrong, Qt::BDiagPattern));
+        const int struck = bar.right + bar.wrong;
+        diagram.paintColumn(i, bar.right, struck, QBrush(wrong, Qt::BDiagPattern));
+        diagram.paintFrame(i, struck, struck + bar.missed);
         if (i % stride == 0)
             diagram.paintLabel(i, QLocale().toString(bar.number));
     }
-    diagram.paintTitle(pictureText(
-        QT_TRANSLATE_NOOP("velmora::PracticePicture", "Right and wrong keys (hatched) by bar")));
+    diagram.paintTitle(pictureText(QT_TRANSLATE_NOOP(
+        "velmora::PracticePicture", "Right, wrong (hatched) and missed (empty) keys by bar")));
 }
 
 void paintDelays(QPainter& painter, const QRectF& place, const PracticeSummary& summary,

@@ -9,8 +9,8 @@ namespace velmora {
 
 struct PracticeSummary;
 
-/// Paints the right and the wrong keys of every bar, and below them how many keys were how early or
-/// late.
+/// Paints the right, the wrong and the missed keys of every bar, and below them how many keys were
+/// how early or late.
 void paintPractice(QPainter& painter, QSizeF size, const PracticeSummary& summary,
                    const QPalette& palette);
 

@@ -111,10 +111,12 @@ void PracticeWindow::showEntry(int row)
     const PracticeSummary& summary = entries_.at(static_cast<std::size_t>(row)).summary;
     const QLocale locale;
     const QString counts =
-        tr("Right keys: %1 (%2 early, %3 late), wrong keys: %4. Passes: %5, without a mistake: %6.")
+        tr("Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, "
+           "without a mistake: %7.")
             .arg(locale.toString(summary.right), locale.toString(summary.early),
                  locale.toString(summary.late), locale.toString(summary.wrong),
-                 locale.toString(summary.passes), locale.toString(summary.cleanPasses));
+                 locale.toString(summary.missed), locale.toString(summary.passes),
+                 locale.toString(summary.cleanPasses));
     const auto delay = static_cast<int>(std::lround(summary.meanDelay * 1000));
     const QString average = delay < 0 ? tr("On average the keys were %1 ms early.")
                                       : tr("On average the keys were %1 ms late.");

@@ -44,8 +44,15 @@ EditingActions::EditingActions(Commands& commands, QMenu& selected)
       connect_(add("edit.legato", tr("Connect Notes (Legato)"), Qt::CTRL | Qt::SHIFT | Qt::Key_L,
                    [](SequenceEditor& editor) { editor.connect(); })),
       sound_(commands.add("edit.soundNotes", tr("Edit"),
-                          {tr("Hear Notes"), tr("Sound notes that are pressed or drawn")}))
+                          {tr("Hear Notes"), tr("Sound notes that are pressed or drawn")})),
+      dragSelects_(
+          commands.add("edit.dragSelects", tr("Edit"),
+                       {tr("Drag Selects Notes"),
+                        tr("Let a drag across an empty place select notes instead of a time")}))
 {
+    dragSelects_->setCheckable(true);
+    dragSelects_->setChecked(getPrefBool("DragSelects"));
+    connect(dragSelects_, &QAction::toggled, this, [](bool on) { setPrefBool("DragSelects", on); });
     sound_->setCheckable(true);
     sound_->setChecked(getPrefBool("SoundNotes"));
     connect(sound_, &QAction::toggled, this, [](bool on) { setPrefBool("SoundNotes", on); });
@@ -105,7 +112,7 @@ void EditingActions::addTo(QMenu& edit) const
     edit.addSeparator();
     edit.addActions({quantise_, divide_, join_, connect_});
     edit.addSeparator();
-    edit.addAction(sound_);
+    edit.addActions({dragSelects_, sound_});
 }
 
 void EditingActions::showTarget()

@@ -43,7 +43,7 @@ private:
     SequenceEditor* editor_ = nullptr;
     Quantisation quantisation_; ///< As chosen last.
     QAction *const select_, *const duplicate_, *const quantise_, *const divide_;
-    QAction *const join_, *const connect_, *const sound_;
+    QAction *const join_, *const connect_, *const sound_, *const dragSelects_;
 };
 
 } // namespace velmora

@@ -1,25 +1,24 @@
 #include "desktop/roll/Lane.h"
 
-#include "desktop/roll/SequenceView.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
 
-#include <algorithm>
+#include <QPainter>
 
 namespace velmora {
 
 namespace {
 
-/// The width of a lane in heights of its letters.
-constexpr int kLaneWidth = 7;
+/// The thickness of a lane in heights of its letters.
+constexpr int kLaneThickness = 7;
 
 } // namespace
 
-Lane::Lane(const SequenceView& view, const QString& title, const QString& tip) : view_(view)
+Lane::Lane(const SequenceView& view, const QString& title, const QString& tip)
+    : TimeStrip(view, Side::Below)
 {
     setAccessibleName(title);
     setToolTip(tip);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 }
 
 void Lane::setEditor(SequenceEditor* editor)
@@ -38,24 +37,23 @@ void Lane::setEditor(SequenceEditor* editor)
     update();
 }
 
-QSize Lane::sizeHint() const
+int Lane::preferredThickness() const
 {
-    return {fontMetrics().height() * kLaneWidth, 0};
+    return fontMetrics().height() * kLaneThickness;
+}
+
+void Lane::paintGround(QPainter& painter) const
+{
+    painter.fillRect(rect(), palette().color(QPalette::Base));
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawLine(QPointF(0.5, 0.5),
+                     isAcross() ? QPointF(width(), 0.5) : QPointF(0.5, height()));
+    painter.setWorldTransform(turn());
 }
 
 SequenceDocument& Lane::document() const
 {
     return editor_->document();
-}
-
-double Lane::yOf(double step) const
-{
-    return height() - view_.rollGeometry().yOf(step);
-}
-
-double Lane::stepAt(double y) const
-{
-    return std::max(0.0, view_.rollGeometry().pointAt(0, y).step);
 }
 
 } // namespace velmora

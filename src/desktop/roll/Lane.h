@@ -1,16 +1,15 @@
 #pragma once
 
-#include <QWidget>
+#include "desktop/roll/TimeStrip.h"
 
 namespace velmora {
 
 class SequenceDocument;
 class SequenceEditor;
-class SequenceView;
 
-/// A strip beside the piano roll that shows or edits one thing along the time of a piece. It is as
-/// high as the view of the roll, and its time is the view's.
-class Lane : public QWidget {
+/// A strip along the piano roll that shows or edits one thing along the time of a piece. While time
+/// runs across, it is below the roll.
+class Lane : public TimeStrip {
     Q_OBJECT
 
 public:
@@ -22,21 +21,18 @@ public:
     /// The lane is repainted whenever the piece changes or its position is moved.
     virtual void setEditor(SequenceEditor* editor);
 
-    QSize sizeHint() const override;
-
 protected:
-    const SequenceView& view() const { return view_; }
+    int preferredThickness() const override;
+
+    /// Paints the ground and its edge at the roll, and lets the painter paint as if the lane stood.
+    void paintGround(QPainter& painter) const;
+
     SequenceEditor* editor() const { return editor_; }
 
     /// The piece; there must be an editor.
     SequenceDocument& document() const;
 
-    /// The distance of a step from the upper edge, and the step, at least 0, at such a distance.
-    double yOf(double step) const;
-    double stepAt(double y) const;
-
 private:
-    const SequenceView& view_;
     SequenceEditor* editor_ = nullptr;
 };
 

@@ -1,7 +1,9 @@
 #include "desktop/roll/Lanes.h"
 
+#include "desktop/roll/ControllerLane.h"
 #include "desktop/roll/TimeLane.h"
 #include "desktop/roll/VelocityLane.h"
+#include "midi/messages.h"
 #include "preferences/settings.h"
 
 #include <QCoreApplication>
@@ -23,9 +25,17 @@ QString laneText(LaneKind kind)
     case LaneKind::None:
         return Lanes::tr("&No Lane");
     case LaneKind::Velocities:
-        return Lanes::tr("&Velocities");
+        return Lanes::tr("&Velocity");
     case LaneKind::Time:
         return Lanes::tr("&Tempo and Signatures");
+    case LaneKind::Pedal:
+        return Lanes::tr("Sustain Pedal");
+    case LaneKind::Wheel:
+        return Lanes::tr("Pitch Wheel");
+    case LaneKind::Modulation:
+        return Lanes::tr("Modulation");
+    case LaneKind::Expression:
+        return Lanes::tr("Expression");
     }
     return {};
 }
@@ -39,6 +49,14 @@ const char* laneName(LaneKind kind)
         return "view.velocities";
     case LaneKind::Time:
         return "view.time";
+    case LaneKind::Pedal:
+        return "view.pedal";
+    case LaneKind::Wheel:
+        return "view.wheel";
+    case LaneKind::Modulation:
+        return "view.modulation";
+    case LaneKind::Expression:
+        return "view.expression";
     }
     return "";
 }
@@ -57,6 +75,13 @@ void setPreferredLane(LaneKind kind)
 Lanes::Lanes(const SequenceView& view)
     : lanes_{{LaneKind::Velocities, new VelocityLane(view)}, {LaneKind::Time, new TimeLane(view)}}
 {
+    const auto addController = [&](LaneKind kind, int number) {
+        lanes_[kind] = new ControllerLane(view, number, laneText(kind));
+    };
+    addController(LaneKind::Pedal, midi::kSustain);
+    addController(LaneKind::Wheel, kPitchWheel);
+    addController(LaneKind::Modulation, midi::kModulation);
+    addController(LaneKind::Expression, midi::kExpression);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     for (const auto& [kind, lane] : lanes_)

@@ -12,10 +12,12 @@ class SequenceEditor;
 class SequenceView;
 
 /// What can be shown beside the piano roll.
-enum class LaneKind : int { None, Velocities, Time };
+enum class LaneKind : int { None, Velocities, Time, Pedal, Wheel, Modulation, Expression };
 
 /// The kinds in the order of the menu.
-inline constexpr std::array kLaneKinds{LaneKind::None, LaneKind::Velocities, LaneKind::Time};
+inline constexpr std::array kLaneKinds{
+    LaneKind::None,  LaneKind::Velocities, LaneKind::Time,      LaneKind::Pedal,
+    LaneKind::Wheel, LaneKind::Modulation, LaneKind::Expression};
 
 /// The title of a lane in the menu, with a mnemonic.
 QString laneText(LaneKind kind);

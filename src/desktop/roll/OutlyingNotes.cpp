@@ -26,6 +26,7 @@ OutlyingNotes::OutlyingNotes(SequenceView& view)
             connect(view_.document(), &SequenceDocument::changed, this, &OutlyingNotes::update);
         update();
     });
+    connect(&view, &SequenceView::turned, this, &OutlyingNotes::place);
     view.installEventFilter(this);
     update();
 }
@@ -71,11 +72,13 @@ void OutlyingNotes::update()
 
 void OutlyingNotes::place()
 {
+    const bool isAcross = view_.rollGeometry().isAcross;
     for (const Side& side : {below_, above_}) {
         side.text->adjustSize();
         const int right = view_.width() - side.text->width() - kEdge;
-        side.text->move(side.text == above_.text ? right : kEdge,
-                        view_.height() - side.text->height() - kEdge);
+        const int bottom = view_.height() - side.text->height() - kEdge;
+        const bool isAbove = side.text == above_.text;
+        side.text->move(isAbove && !isAcross ? right : kEdge, isAbove && isAcross ? kEdge : bottom);
     }
 }
 

@@ -1,12 +1,15 @@
 #include "desktop/roll/RecordingActions.h"
 
+#include "desktop/roll/FitDialog.h"
 #include "desktop/widgets/Commands.h"
 #include "preferences/Preferences.h"
 #include "sequencer/SequenceDocument.h"
 
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QSlider>
@@ -24,6 +27,13 @@ RecordingActions::RecordingActions(Commands& commands)
                              "there"),
                           "punch"},
                          {Qt::CTRL | Qt::SHIFT | Qt::Key_R})),
+      fit(commands.add(
+          "piece.fit", tr("Piece"),
+          {tr("Fit to Grid…"),
+           tr("Find the tempo and the bars of a free recording, and move it to them")})),
+      thin(commands.add(
+          "piece.thin", tr("Piece"),
+          {tr("Thin Controllers…"), tr("Leave out moves of controllers that nobody hears")})),
       metronomeMenu_(std::make_unique<QMenu>(tr("Metronome and Count-&In"))),
       takesMenu_(std::make_unique<QMenu>(tr("&Takes")))
 {
@@ -37,6 +47,9 @@ RecordingActions::RecordingActions(Commands& commands)
     });
     connect(punch, &QAction::triggered, this,
             [this](bool on) { document_->recorder().setPunches(on); });
+    connect(fit, &QAction::triggered, this,
+            [this] { askToFit(*document_, QApplication::activeWindow()); });
+    connect(thin, &QAction::triggered, this, &RecordingActions::thinControllers);
     setDocument(nullptr);
 }
 
@@ -115,6 +128,18 @@ void RecordingActions::setDocument(SequenceDocument* document)
     showTakes();
 }
 
+void RecordingActions::thinControllers()
+{
+    constexpr int kUsual = 2, kMost = 32;
+    bool isWanted = false;
+    const int tolerance = QInputDialog::getInt(QApplication::activeWindow(), tr("Thin Controllers"),
+                                               tr("Leave out changes of at most this many of 127:"),
+                                               kUsual, 0, kMost, 1, &isWanted);
+    if (isWanted)
+        document_->setControllers(thinned(document_->controllers(), tolerance),
+                                  tr("Thin Controllers"));
+}
+
 void RecordingActions::takeSettings()
 {
     if (document_ == nullptr)
@@ -139,13 +164,16 @@ void RecordingActions::showTakes()
     const bool areAny = document_ != nullptr && document_->recorder().takes().size() > 1;
     takesMenu_->setEnabled(areAny);
     emit takesChanged(areAny);
+    const bool isMusical = document_ != nullptr && document_->reading() == Reading::Musical;
+    fit->setEnabled(isMusical && !document_->sequence().notes().empty());
+    thin->setEnabled(isMusical && !document_->controllers().empty());
     if (!areAny)
         return;
     const auto& takes = document_->recorder().takes();
     const auto chosen = document_->chosenTake();
     for (std::size_t i = 0; i < takes.size(); ++i) {
         QAction* action = takesMenu_->addAction(
-            tr("Take %1: %n note(s)", nullptr, static_cast<int>(takes[i].size())).arg(i + 1));
+            tr("Take %1: %n note(s)", nullptr, static_cast<int>(takes[i].notes.size())).arg(i + 1));
         action->setCheckable(true);
         action->setChecked(i == chosen);
         // The choice shows the menu anew, which must not happen while it is open.
@@ -161,6 +189,7 @@ void RecordingActions::addTo(QMenu& piece) const
     piece.addMenu(metronomeMenu_.get());
     piece.addAction(punch);
     piece.addMenu(takesMenu_.get());
+    piece.addActions({fit, thin});
 }
 
 } // namespace velmora

@@ -29,6 +29,7 @@ public:
     void setDocument(SequenceDocument* document);
 
     QAction *const metronome, *const punch;
+    QAction *const fit, *const thin; ///< For the whole piece.
 
     /// How the metronome clicks, and the bars that are counted before a recording.
     QMenu& metronomeMenu() const { return *metronomeMenu_; }
@@ -50,6 +51,7 @@ private:
     void addChoice(const char* preference, const QStringList& titles);
     void addVolume();
     void takeSettings();
+    void thinControllers();
     void showOptions();
     void showTakes();
 

@@ -40,10 +40,8 @@ public:
 
     QRect itemRect(int index) const override
     {
-        const RollQuad quad = view_.rollGeometry().note(noteAt(index));
-        const QRectF rect(quad.left, view_.height() - quad.top, quad.right - quad.left,
-                          quad.top - quad.bottom);
-        return rect.toRect();
+        const RollGeometry geometry = view_.rollGeometry();
+        return geometry.inView(geometry.note(noteAt(index))).toRect();
     }
 
     QAccessible::State itemState(int index) const override

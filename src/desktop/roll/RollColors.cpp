@@ -66,6 +66,7 @@ constexpr float kStepLine = 0.06F;
 constexpr float kBeatLine = 0.16F;
 constexpr float kBarLine = 0.40F;
 constexpr float kOnset = 0.35F;
+constexpr float kLeftOut = 0.58F;
 
 constexpr float kClassicIntervalOpacity = 0.5F;
 constexpr float kIntervalOpacity = 0.25F;
@@ -79,8 +80,10 @@ constexpr QRgb kRecordedOnDark = 0xff7a70;
 
 } // namespace
 
-RollColors::RollColors(const QPalette& palette)
-    : scheme(preferredScheme()), whiteColumn(gray(255)), blackColumn(gray(179)), // 70 %
+RollColors::RollColors(const QPalette& palette) : RollColors(palette, preferredScheme()) {}
+
+RollColors::RollColors(const QPalette& palette, Scheme which)
+    : scheme(which), whiteColumn(gray(255)), blackColumn(gray(179)),             // 70 %
       middleC{255, 255, 179, 255}, columnLine(gray(77)), octaveLine(columnLine), // 30 %
       stepLine(gray(204)), beatLine(gray(153)), barLine(beatLine),               // 80 % and 60 %
       selected(shade(palette.color(QPalette::Active, QPalette::Highlight))),
@@ -95,6 +98,7 @@ RollColors::RollColors(const QPalette& palette)
     if (scheme == Scheme::Classic || isPrefSet("NoteColor"))
         note_ = shade(note, note.alpha);
     recorded = playing;
+    leftOut = mixed(whiteColumn, gray(0), kLeftOut);
     if (scheme == Scheme::Calm)
         setCalm(palette);
 }
@@ -114,6 +118,7 @@ void RollColors::setCalm(const QPalette& palette)
     barLine = mixed(whiteColumn, text_, kBarLine);
     interval = shade(Color(palette.color(QPalette::Active, QPalette::Highlight)), kIntervalOpacity);
     outline = text_;
+    leftOut = mixed(whiteColumn, text_, kLeftOut);
     recorded = shade(QColor(dark ? kRecordedOnDark : kRecordedOnLight));
     for (std::size_t channel = 0; channel < kChannels; ++channel) {
         const RollShade loud = shade(QColor((dark ? kDarkChannels : kLightChannels)[channel]));
@@ -126,6 +131,8 @@ void RollColors::setCalm(const QPalette& palette)
 
 RollShade RollColors::atRest(const Note& note) const
 {
+    if (practised && !practised->contains(note))
+        return leftOut;
     if (note_)
         return *note_;
     const float level = std::clamp(note.velocity, 0.0F, 1.0F) * (kVelocities - 1) + 0.5F;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/widgets/scheme.h"
+#include "sequencer/PracticePart.h"
 
 #include <array>
 #include <cstddef>
@@ -9,8 +10,6 @@
 
 namespace velmora {
 
-struct Note;
-
 /// Red, green, blue and opacity.
 using RollShade = std::array<std::uint8_t, 4>;
 
@@ -18,6 +17,9 @@ using RollShade = std::array<std::uint8_t, 4>;
 /// scheme every note differs from the columns behind it by at least 3 : 1.
 struct RollColors {
     explicit RollColors(const QPalette& palette);
+
+    /// The colours of a scheme that need not be the preferred one.
+    RollColors(const QPalette& palette, Scheme which);
 
     Scheme scheme;
     RollShade whiteColumn; ///< Also the background.
@@ -30,6 +32,10 @@ struct RollColors {
     RollShade outline;  ///< Of selected notes.
     RollShade recorded; ///< Notes of the running take.
     RollShade playing;
+    RollShade leftOut; ///< Notes that the user need not or cannot play.
+
+    /// What the user practises, if anything. Other notes have the colour `leftOut`.
+    std::optional<PracticePart> practised{};
 
     /// The colour of a note that is at rest: its channel's, paler if it is soft, or the user's.
     RollShade atRest(const Note& note) const;

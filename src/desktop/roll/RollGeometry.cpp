@@ -1,5 +1,7 @@
 #include "desktop/roll/RollGeometry.h"
 
+#include "preferences/Preferences.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -22,6 +24,11 @@ constexpr double kNoteGap = 1.0;
 constexpr double kLowestNote = 2.0;
 
 } // namespace
+
+RollScale preferredScale()
+{
+    return {getPrefInt("KeyWidth"), getPrefInt("KeyHeight")};
+}
 
 int RollGeometry::firstKey() const
 {
@@ -65,11 +72,26 @@ RollQuad RollGeometry::block(const Note& note) const
             std::max(top, bottom + kLowestNote)};
 }
 
+QRectF RollGeometry::inView(const RollQuad& quad) const
+{
+    if (isAcross)
+        return {QPointF(quad.bottom, width - quad.right), QPointF(quad.top, width - quad.left)};
+    return {QPointF(quad.left, height - quad.top), QPointF(quad.right, height - quad.bottom)};
+}
+
 RollPoint RollGeometry::pointAt(double mouseX, double mouseY) const
 {
     // A mouse position stands for the lower left corner of its pixel.
-    const double key = std::trunc((mouseX + x) / keyWidth);
-    return {std::clamp(key, 0.0, kKeys - 1.0), (height - 1.0 - mouseY + y) / keyHeight};
+    const double right = isAcross ? width - 1.0 - mouseY : mouseX;
+    const double up = isAcross ? mouseX : height - 1.0 - mouseY;
+    const double key = std::trunc((right + x) / keyWidth);
+    return {std::clamp(key, 0.0, kKeys - 1.0), (up + y) / keyHeight};
+}
+
+QPoint RollGeometry::towards(QPoint direction) const
+{
+    const QPoint upright(direction.x(), -direction.y());
+    return isAcross ? upright.transposed() : upright;
 }
 
 } // namespace velmora

@@ -3,9 +3,11 @@
 #include "sequencer/Sequence.h"
 #include "sequencer/SequenceEditor.h"
 
+#include <QRectF>
+
 namespace velmora {
 
-/// A rectangle in the piano roll, in pixels; y grows upwards.
+/// A rectangle in the piano roll, in pixels; x grows along the keys, y along the time.
 struct RollQuad {
     double left;
     double right;
@@ -13,8 +15,21 @@ struct RollQuad {
     double top;
 };
 
-/// The visible part of a piano roll. Keys run from left to right, time runs upwards. Lengths are in
-/// pixels; coordinates for drawing start at the lower left corner of the view.
+/// The size of what a piano roll shows, in pixels.
+struct RollScale {
+    int keyWidth;  ///< Of a key, as in the preference "KeyWidth".
+    int keyHeight; ///< Of a step, as in the preference "KeyHeight".
+
+    bool operator==(const RollScale&) const = default;
+};
+
+/// Returns the scale in the preferences, which new rolls have.
+RollScale preferredScale();
+
+/// The visible part of a piano roll. Lengths are in pixels, and coordinates for drawing start at
+/// the lower left corner of the view: x runs along the keys from left to right, y runs upwards
+/// along the time. If time runs across, the view shows all of it mirrored at the diagonal through
+/// this corner, and only `inView`, `pointAt` and `towards` know.
 struct RollGeometry {
     /// The width of a key and the height of a step.
     int keyWidth;
@@ -24,9 +39,11 @@ struct RollGeometry {
     double x;
     double y;
 
-    /// The size of the view.
+    /// The size of the view along the keys and along the time.
     double width;
     double height;
+
+    bool isAcross = false; ///< True if time runs from left to right and keys upwards.
 
     static constexpr int kKeys = 128;
 
@@ -59,9 +76,15 @@ struct RollGeometry {
     /// The rectangle of a note that fills its column and leaves a gap to the next note of its key.
     RollQuad block(const Note& note) const;
 
+    /// Where the view shows a rectangle, relative to its upper left corner.
+    QRectF inView(const RollQuad& quad) const;
+
     /// The key, 0…127, and the step at a mouse position, which is relative to the upper left
     /// corner of the view.
     RollPoint pointAt(double mouseX, double mouseY) const;
+
+    /// The way along the keys and along the time that leads in a direction of the screen.
+    QPoint towards(QPoint direction) const;
 
     bool operator==(const RollGeometry&) const = default;
 };

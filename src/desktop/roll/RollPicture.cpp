@@ -46,9 +46,7 @@ void RollPicture::draw(const RollGeometry& geometry, const RollColors& colors, d
                        const SequenceDocument& document, const RollIndex& index)
 {
     vertices_.clear();
-    for (int key = geometry.firstKey(); key < geometry.endKey(); ++key)
-        if (const RollShade color = columnShade(key, colors); color != colors.whiteColumn)
-            add(geometry.column(key), color);
+    addColumns(geometry, colors);
     blendedBegin_ = vertices_.size();
     if (const Interval& interval = document.transport().interval(); !interval.isEmpty())
         add({0.0, geometry.width, geometry.yOf(interval.start), geometry.yOf(interval.end)},
@@ -56,10 +54,32 @@ void RollPicture::draw(const RollGeometry& geometry, const RollColors& colors, d
     if (colors.scheme == Scheme::Classic)
         addFadingNotes(geometry, colors, document, index);
     blendedEnd_ = vertices_.size();
-    addGrid(geometry, colors, line, document);
+    const bool hasBars = colors.scheme == Scheme::Calm && document.reading() == Reading::Musical;
+    addGrid(geometry, colors, line, hasBars ? &document.time() : nullptr);
     if (colors.scheme == Scheme::Calm)
         addBlocks(geometry, colors, document, index);
     addPosition(geometry, colors, line, document);
+}
+
+void RollPicture::drawAtRest(const RollGeometry& geometry, const RollColors& colors, double line,
+                             const std::vector<Note>& notes, const MusicalTime& time,
+                             const RollIndex& index)
+{
+    vertices_.clear();
+    addColumns(geometry, colors);
+    blendedBegin_ = blendedEnd_ = vertices_.size();
+    addGrid(geometry, colors, line, &time);
+    index.visit(notes, geometry.bottomStep(), geometry.topStep(), [&](const Note& note) {
+        const RollShade color = colors.atRest(note);
+        addBlock(geometry.block(note), colors.onset(color), color);
+    });
+}
+
+void RollPicture::addColumns(const RollGeometry& geometry, const RollColors& colors)
+{
+    for (int key = geometry.firstKey(); key < geometry.endKey(); ++key)
+        if (const RollShade color = columnShade(key, colors); color != colors.whiteColumn)
+            add(geometry.column(key), color);
 }
 
 void RollPicture::addFadingNotes(const RollGeometry& geometry, const RollColors& colors,
@@ -149,21 +169,21 @@ void RollPicture::addPosition(const RollGeometry& geometry, const RollColors& co
 
 // Lines are narrow quads, so that they cover the same pixels with every driver.
 void RollPicture::addGrid(const RollGeometry& geometry, const RollColors& colors, double line,
-                          const SequenceDocument& document)
+                          const MusicalTime* time)
 {
-    const auto addColumns = [&](RollShade color, int first, int keys) {
+    const auto addColumnLines = [&](RollShade color, int first, int keys) {
         for (int key = first; key <= geometry.endKey(); key += keys) {
             const double left = geometry.xOf(key);
             add({left, left + line, 0.0, geometry.height}, color);
         }
     };
-    addColumns(colors.columnLine, geometry.firstKey(), 1);
-    if (colors.scheme == Scheme::Calm && document.reading() == Reading::Musical)
-        addTime(geometry, colors, line, document.time());
+    addColumnLines(colors.columnLine, geometry.firstKey(), 1);
+    if (time != nullptr)
+        addTime(geometry, colors, line, *time);
     else
         addSteps(geometry, colors, line);
     if (colors.octaveLine != colors.columnLine)
-        addColumns(colors.octaveLine, (geometry.firstKey() + 11) / 12 * 12, 12);
+        addColumnLines(colors.octaveLine, (geometry.firstKey() + 11) / 12 * 12, 12);
 }
 
 void RollPicture::addTime(const RollGeometry& geometry, const RollColors& colors, double line,

@@ -29,6 +29,12 @@ public:
     void draw(const RollGeometry& geometry, const RollColors& colors, double line,
               const SequenceDocument& document, const RollIndex& index);
 
+    /// Replaces the picture with notes that are at rest, over bars and beats. Every quad has one
+    /// colour; nothing is blended. `index` must be up to date with the notes.
+    void drawAtRest(const RollGeometry& geometry, const RollColors& colors, double line,
+                    const std::vector<Note>& notes, const MusicalTime& time,
+                    const RollIndex& index);
+
     const std::vector<RollVertex>& vertices() const { return vertices_; }
 
     /// The vertices to be blended, from the first to one past the last.
@@ -38,8 +44,11 @@ public:
 private:
     void add(const RollQuad& quad, RollShade color) { add(quad, color, color); }
     void add(const RollQuad& quad, RollShade bottom, RollShade top);
+    void addColumns(const RollGeometry& geometry, const RollColors& colors);
+
+    /// Adds the lines of bars and beats, or of equal steps if `time` is null.
     void addGrid(const RollGeometry& geometry, const RollColors& colors, double line,
-                 const SequenceDocument& document);
+                 const MusicalTime* time);
     void addSteps(const RollGeometry& geometry, const RollColors& colors, double line);
     void addTime(const RollGeometry& geometry, const RollColors& colors, double line,
                  const MusicalTime& time);

@@ -70,7 +70,6 @@ SequenceActions::SequenceActions(Commands& commands)
       next_(addKey("piece.next", tr("&Next Notes"), {Qt::Key_Up}, Qt::Key_Up)),
       corrections_(std::make_unique<QMenu>(tr("&Selected Notes"))),
       editing_(std::make_unique<EditingActions>(commands, *corrections_)),
-      roll_(std::make_unique<RollActions>(commands)),
       channelMenu_(std::make_unique<QMenu>(tr("&Channel"))), channels_(new QActionGroup(this))
 {
     commands_.add("edit.undo", tr("Edit"), *undo_, {QKeySequence(QKeySequence::Undo)});
@@ -80,16 +79,9 @@ SequenceActions::SequenceActions(Commands& commands)
         action->setCheckable(true);
     for (QAction* action : {record, play}) // a key that is held down must not stop it again
         action->setAutoRepeat(false);
-    using View = SequenceScrollView;
-    addZoom("view.zoomIn", "zoom-in", tr("&Zoom In"),
-            QKeySequence::keyBindings(QKeySequence::ZoomIn), &View::zoomSteps, 1);
-    addZoom("view.zoomOut", "zoom-out", tr("Zoom O&ut"),
-            QKeySequence::keyBindings(QKeySequence::ZoomOut), &View::zoomSteps, -1);
-    addZoom("view.widerKeys", "zoom-in", tr("&Wider Keys"), {Qt::CTRL | Qt::ALT | Qt::Key_Plus},
-            &View::zoomKeys, 1);
-    addZoom("view.narrowerKeys", "zoom-out", tr("N&arrower Keys"),
-            {Qt::CTRL | Qt::ALT | Qt::Key_Minus}, &View::zoomKeys, -1);
     makeCorrections();
+    roll_ = std::make_unique<RollActions>(commands);
+    connect(roll_.get(), &RollActions::turned, this, &SequenceActions::rollTurned);
     makeChannels();
     connectCommands();
     setTarget({});
@@ -113,8 +105,6 @@ void SequenceActions::setTarget(const Target& target)
     const bool isAny = target_.document != nullptr;
     for (QAction* action :
          {play, loop, snap, selectAll_, nextNote_, previousNote_, start_, end_, previous_, next_})
-        action->setEnabled(isAny);
-    for (QAction* action : zooms_)
         action->setEnabled(isAny);
     channelMenu_->setEnabled(isAny);
     recording_.setDocument(target_.document);
@@ -154,18 +144,6 @@ QAction* SequenceActions::addKey(const char* id, const QString& text,
             target_.editor->keyDown(QKeyEvent(QEvent::KeyPress, key, modifiers));
     });
     return action;
-}
-
-void SequenceActions::addZoom(const char* id, const char* icon, const QString& text,
-                              const QList<QKeySequence>& shortcuts,
-                              void (SequenceScrollView::*zoom)(int), int notches)
-{
-    QAction* action = commands_.add(id, tr("View"), {text, {}, icon}, shortcuts);
-    zooms_.push_back(action);
-    connect(action, &QAction::triggered, this, [this, zoom, notches] {
-        if (target_.roll != nullptr)
-            (target_.roll->*zoom)(notches);
-    });
 }
 
 void SequenceActions::addCorrection(const char* id, const QString& text,
@@ -259,8 +237,6 @@ void SequenceActions::addTransport(QMenu& sequence) const
 
 void SequenceActions::addZoom(QMenu& view) const
 {
-    for (QAction* action : zooms_)
-        view.addAction(action);
     roll_->addTo(view);
 }
 

@@ -57,6 +57,9 @@ signals:
     /// The user wants to record, and there is no piece.
     void pieceWanted();
 
+    /// Time runs in another direction in all rolls.
+    void rollTurned();
+
 private:
     QAction* add(const char* id, const char* icon, const QString& text,
                  const QList<QKeySequence>& shortcuts);
@@ -64,9 +67,6 @@ private:
     /// Adds a command that has the same effect as a key in the piano roll.
     QAction* addKey(const char* id, const QString& text, const QList<QKeySequence>& shortcuts,
                     int key, Qt::KeyboardModifiers modifiers = {});
-    void addZoom(const char* id, const char* icon, const QString& text,
-                 const QList<QKeySequence>& shortcuts, void (SequenceScrollView::*zoom)(int),
-                 int notches);
     void addCorrection(const char* id, const QString& text, const QKeySequence& shortcut,
                        std::function<void(SequenceEditor&)> correct);
     void makeCorrections();
@@ -92,10 +92,9 @@ private:
     QAction *const delete_, *const selectAll_, *const deselect_;
     QAction *const nextNote_, *const previousNote_;
     QAction *const start_, *const end_, *const previous_, *const next_;
-    std::vector<QAction*> zooms_;
     const std::unique_ptr<QMenu> corrections_; ///< What can be done to the selected notes.
     const std::unique_ptr<EditingActions> editing_;
-    const std::unique_ptr<RollActions> roll_;
+    std::unique_ptr<RollActions> roll_; ///< Made after the commands that it turns.
     const std::unique_ptr<QMenu> channelMenu_;
     QActionGroup* const channels_;
 };

@@ -17,6 +17,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <vector>
 
 namespace velmora {
 
@@ -28,49 +30,25 @@ constexpr int kPixelsPerNotch = 64;
 
 constexpr int kGlideMilliseconds = 120;
 
-/// A notch changes the scale by an eighth, but at least by one pixel.
-constexpr int kZoomDivisor = 8;
-
-/// The largest value of a scroll bar in pixels. The height of a roll may not fit into an int.
-constexpr double kMaxBarValue = 1e9;
-
-int barValue(double pixels)
-{
-    return static_cast<int>(std::lround(std::clamp(pixels, 0.0, kMaxBarValue)));
-}
-
-/// The value of a scroll bar after a change of scale that keeps `anchor` in place.
-int rescaled(int value, double anchor, int before, int after)
-{
-    return barValue((value + anchor) * after / before - anchor);
-}
-
 } // namespace
 
 SequenceScrollView::SequenceScrollView(QWidget* parent)
     : QWidget(parent), view_(new SequenceView), ruler_(new KeyRuler),
       timeRuler_(new TimeRuler(*view_)), lanes_(new Lanes(*view_)),
-      outlyingNotes_(new OutlyingNotes(*view_)), horizontal_(new QScrollBar(Qt::Horizontal)),
-      vertical_(new QScrollBar(Qt::Vertical)), keyWidth_(getPrefInt("KeyWidth")),
-      keyHeight_(getPrefInt("KeyHeight"))
+      outlyingNotes_(new OutlyingNotes(*view_)), keyBar_(new QScrollBar), timeBar_(new QScrollBar)
 {
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
-    layout->addWidget(timeRuler_, 0, 0);
-    layout->addWidget(view_, 0, 1);
-    layout->addWidget(lanes_, 0, 2);
-    layout->addWidget(vertical_, 0, 3);
-    layout->addWidget(ruler_, 1, 1);
-    layout->addWidget(horizontal_, 2, 1);
     layout->setColumnStretch(1, 1);
+    view_->setTimeAcross(getPrefBool("TimeRunsAcross"));
+    arrange();
     timeRuler_->setVisible(preferredScheme() == Scheme::Calm);
     setFocusProxy(view_);
 
-    vertical_->setInvertedAppearance(true); // time runs upwards
-    horizontal_->setAccessibleName(tr("Keys shown"));
-    vertical_->setAccessibleName(tr("Time shown"));
-    for (QScrollBar* bar : {horizontal_, vertical_}) {
+    keyBar_->setAccessibleName(tr("Keys shown"));
+    timeBar_->setAccessibleName(tr("Time shown"));
+    for (QScrollBar* bar : {keyBar_, timeBar_}) {
         connect(bar, &QScrollBar::valueChanged, this, &SequenceScrollView::follow);
         connect(bar, &QScrollBar::actionTriggered, this, &SequenceScrollView::scrolledByUser);
         bar->installEventFilter(this);
@@ -84,7 +62,7 @@ SequenceScrollView::SequenceScrollView(QWidget* parent)
         ruler_->setDocument(view_->document());
         timeRuler_->setDocument(view_->document(), view_->editor());
         lanes_->setEditor(view_->editor());
-        setGrid();
+        tellEditor();
     });
     connect(outlyingNotes_, &OutlyingNotes::chosen, this, &SequenceScrollView::reveal);
     connect(view_, &SequenceView::draggedBeyondEdge, this, [this](QPoint pixels) {
@@ -93,51 +71,90 @@ SequenceScrollView::SequenceScrollView(QWidget* parent)
     });
 }
 
+void SequenceScrollView::arrange()
+{
+    struct Place {
+        QWidget* widget;
+        int row, column; ///< While time runs upwards.
+        int rowAcross, columnAcross;
+    };
+    const bool isAcross = view_->rollGeometry().isAcross;
+    auto* grid = static_cast<QGridLayout*>(layout());
+    for (const Place& place : {Place{timeRuler_, 0, 0, 0, 1},
+                               {view_, 0, 1, 1, 1},
+                               {lanes_, 0, 2, 2, 1},
+                               {timeBar_, 0, 3, 3, 1},
+                               {ruler_, 1, 1, 1, 0},
+                               {keyBar_, 2, 1, 1, 2}}) {
+        grid->removeWidget(place.widget);
+        if (isAcross)
+            grid->addWidget(place.widget, place.rowAcross, place.columnAcross);
+        else
+            grid->addWidget(place.widget, place.row, place.column);
+    }
+    grid->setRowStretch(0, isAcross ? 0 : 1);
+    grid->setRowStretch(1, isAcross ? 1 : 0);
+    keyBar_->setOrientation(isAcross ? Qt::Vertical : Qt::Horizontal);
+    timeBar_->setOrientation(isAcross ? Qt::Horizontal : Qt::Vertical);
+    for (QScrollBar* bar : {keyBar_, timeBar_}) // keys and time run upwards
+        bar->setInvertedAppearance(bar->orientation() == Qt::Vertical);
+}
+
+void SequenceScrollView::setTimeAcross(bool isAcross)
+{
+    if (isAcross == view_->rollGeometry().isAcross)
+        return;
+    const QPointF shown = location() + middle();
+    view_->setTimeAcross(isAcross);
+    arrange();
+    layout()->activate(); // gives the view its new size
+    fitBars();
+    scrollTo((shown - middle()).toPoint());
+}
+
+QPointF SequenceScrollView::middle() const
+{
+    const RollGeometry geometry = view_->rollGeometry();
+    return {geometry.width / 2.0, geometry.height / 2.0};
+}
+
 void SequenceScrollView::updateSize(double steps)
 {
     steps_ = steps;
-    const int keyWidth = getPrefInt("KeyWidth");
-    const int keyHeight = getPrefInt("KeyHeight");
-    const QPointF anchor = anchor_.value_or(QPointF(view_->width() / 2.0, view_->height() / 2.0));
-    const QPoint place(rescaled(horizontal_->value(), anchor.x(), keyWidth_, keyWidth),
-                       rescaled(vertical_->value(), anchor.y(), keyHeight_, keyHeight));
-    const bool isScaled = keyWidth != keyWidth_ || keyHeight != keyHeight_;
-    keyWidth_ = keyWidth;
-    keyHeight_ = keyHeight;
+    setTimeAcross(getPrefBool("TimeRunsAcross"));
+    if (preferred_ != preferredScale())
+        setScale(preferred_ = preferredScale());
     fitBars();
-    if (isScaled)
-        scrollTo(place);
     timeRuler_->setVisible(preferredScheme() == Scheme::Calm);
     timeRuler_->update();
     lanes_->update();
     view_->redraw();
     ruler_->update();
     outlyingNotes_->update();
-    setGrid();
 }
 
-void SequenceScrollView::setGrid()
+void SequenceScrollView::tellEditor()
 {
     if (SequenceEditor* editor = view_->editor())
-        editor->setGrid(visibleGrid(keyHeight_));
+        editor->setStepHeight(scale_.keyHeight);
 }
 
 void SequenceScrollView::fitBars()
 {
     const RollGeometry geometry = view_->rollGeometry();
-    horizontal_->setRange(0, barValue(geometry.rollWidth() - geometry.width));
-    vertical_->setRange(0, barValue(std::ceil(geometry.rollHeight(steps_)) - geometry.height));
-    horizontal_->setPageStep(view_->width());
-    vertical_->setPageStep(view_->height());
-    horizontal_->setSingleStep(keyWidth_);
-    vertical_->setSingleStep(keyHeight_);
+    keyBar_->setRange(0, barValue(geometry.rollWidth() - geometry.width));
+    timeBar_->setRange(0, barValue(std::ceil(geometry.rollHeight(steps_)) - geometry.height));
+    keyBar_->setPageStep(static_cast<int>(geometry.width));
+    timeBar_->setPageStep(static_cast<int>(geometry.height));
+    keyBar_->setSingleStep(scale_.keyWidth);
+    timeBar_->setSingleStep(scale_.keyHeight);
     follow();
 }
 
 void SequenceScrollView::follow()
 {
     view_->scrollTo(location());
-    ruler_->scrollTo(location().x());
+    ruler_->show(view_->rollGeometry());
     timeRuler_->update();
     lanes_->update();
 }
@@ -156,8 +173,8 @@ void SequenceScrollView::glideTo(QPoint point)
     }
     glide_.stop();
     glide_.setStartValue(location());
-    glide_.setEndValue(QPoint(std::clamp(point.x(), 0, horizontal_->maximum()),
-                              std::clamp(point.y(), 0, vertical_->maximum())));
+    glide_.setEndValue(QPoint(std::clamp(point.x(), 0, keyBar_->maximum()),
+                              std::clamp(point.y(), 0, timeBar_->maximum())));
     glide_.start();
 }
 
@@ -168,47 +185,30 @@ QPoint SequenceScrollView::destination() const
 
 void SequenceScrollView::setBars(QPoint point)
 {
-    horizontal_->setValue(point.x());
-    vertical_->setValue(point.y());
+    keyBar_->setValue(point.x());
+    timeBar_->setValue(point.y());
 }
 
-void SequenceScrollView::scrollVertically(double y)
+void SequenceScrollView::scrollToStep(double step)
 {
-    scrollTo({destination().x(), barValue(y)});
+    scrollTo({destination().x(), barValue(step * scale_.keyHeight)});
+}
+
+void SequenceScrollView::scrollToKey(double key)
+{
+    scrollTo({barValue((key + 0.5) * scale_.keyWidth - middle().x()), 0});
 }
 
 void SequenceScrollView::reveal(const Note& note)
 {
-    glideTo({barValue((note.key + 0.5) * keyWidth_ - view_->width() / 2.0),
-             barValue(note.start * keyHeight_ - view_->height() / 2.0)});
+    glideTo({barValue((note.key + 0.5) * scale_.keyWidth - middle().x()),
+             barValue(note.start * scale_.keyHeight - middle().y())});
     emit scrolledByUser();
 }
 
 QPoint SequenceScrollView::location() const
 {
-    return {horizontal_->value(), vertical_->value()};
-}
-
-void SequenceScrollView::zoomSteps(int notches)
-{
-    zoom("KeyHeight", notches);
-}
-
-void SequenceScrollView::zoomKeys(int notches)
-{
-    zoom("KeyWidth", notches);
-}
-
-void SequenceScrollView::zoom(const char* preference, int notches)
-{
-    const int value = getPrefInt(preference);
-    const PrefRange range = prefRange(preference);
-    const int zoomedValue = std::clamp(value + notches * std::max(1, value / kZoomDivisor),
-                                       range.least, range.greatest);
-    if (zoomedValue == value)
-        return;
-    setPrefInt(preference, zoomedValue);
-    emit zoomed();
+    return {keyBar_->value(), timeBar_->value()};
 }
 
 void SequenceScrollView::wheelEvent(QWheelEvent* event)
@@ -238,39 +238,12 @@ void SequenceScrollView::wheelEvent(QWheelEvent* event)
     wheelRemainder_ = {};
     if (event->modifiers().testFlag(Qt::ShiftModifier))
         pixels = pixels.transposed();
-    const QPoint place = destination() + QPoint(-pixels.x(), pixels.y());
+    const QPoint place = destination() + view_->rollGeometry().towards(-pixels);
     if (isTouchpad)
         scrollTo(place);
     else
         glideTo(place);
     emit scrolledByUser();
-}
-
-void SequenceScrollView::zoomAround(QPointF place, int notches, bool keys)
-{
-    const QPoint inView = view_->mapFrom(this, place.toPoint());
-    anchor_ = QPointF(inView.x(), view_->height() - inView.y());
-    if (keys)
-        zoomKeys(notches);
-    else
-        zoomSteps(notches);
-    anchor_.reset();
-}
-
-bool SequenceScrollView::event(QEvent* event)
-{
-    if (event->type() != QEvent::NativeGesture)
-        return QWidget::event(event);
-    const auto* gesture = static_cast<QNativeGestureEvent*>(event);
-    if (gesture->gestureType() == Qt::BeginNativeGesture)
-        pinch_ = 0.0;
-    if (gesture->gestureType() != Qt::ZoomNativeGesture)
-        return QWidget::event(event);
-    pinch_ += gesture->value() * kZoomDivisor;
-    const int notches = static_cast<int>(pinch_);
-    pinch_ -= notches;
-    zoomAround(gesture->position(), notches, false);
-    return true;
 }
 
 bool SequenceScrollView::scrollByKey(int key)
@@ -280,12 +253,16 @@ bool SequenceScrollView::scrollByKey(int key)
         QScrollBar* bar;
         QAbstractSlider::SliderAction action;
     };
-    for (const Scroll& scroll : {Scroll{Qt::Key_Left, horizontal_, QScrollBar::SliderSingleStepSub},
-                                 {Qt::Key_Right, horizontal_, QScrollBar::SliderSingleStepAdd},
-                                 {Qt::Key_PageDown, vertical_, QScrollBar::SliderPageStepSub},
-                                 {Qt::Key_PageUp, vertical_, QScrollBar::SliderPageStepAdd},
-                                 {Qt::Key_Home, vertical_, QScrollBar::SliderToMinimum},
-                                 {Qt::Key_End, vertical_, QScrollBar::SliderToMaximum}}) {
+    // The other arrows move the position along the time.
+    const bool isAcross = view_->rollGeometry().isAcross;
+    const Qt::Key down = isAcross ? Qt::Key_Down : Qt::Key_Left;
+    const Qt::Key up = isAcross ? Qt::Key_Up : Qt::Key_Right;
+    for (const Scroll& scroll : {Scroll{down, keyBar_, QScrollBar::SliderSingleStepSub},
+                                 {up, keyBar_, QScrollBar::SliderSingleStepAdd},
+                                 {Qt::Key_PageDown, timeBar_, QScrollBar::SliderPageStepSub},
+                                 {Qt::Key_PageUp, timeBar_, QScrollBar::SliderPageStepAdd},
+                                 {Qt::Key_Home, timeBar_, QScrollBar::SliderToMinimum},
+                                 {Qt::Key_End, timeBar_, QScrollBar::SliderToMaximum}}) {
         if (scroll.key == key) {
             const QPoint before = location();
             setBars(destination());
@@ -307,8 +284,15 @@ void SequenceScrollView::resizeEvent(QResizeEvent* event)
 
 bool SequenceScrollView::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == view_ && event->type() == QEvent::Resize)
+    if (watched == view_ && event->type() == QEvent::Resize) {
+        const auto* resized = static_cast<QResizeEvent*>(event);
+        const auto keys = [&](QSize size) {
+            return view_->rollGeometry().isAcross ? size.height() : size.width();
+        };
+        const int middle = keyBar_->value() + std::max(0, keys(resized->oldSize())) / 2;
         fitBars();
+        keyBar_->setValue(middle - keys(resized->size()) / 2);
+    }
     // Over a scroll bar the wheel does the same as over the roll.
     if (watched != view_ && event->type() == QEvent::Wheel) {
         event->ignore();

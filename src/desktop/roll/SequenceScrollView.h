@@ -1,9 +1,12 @@
 #pragma once
 
+#include "desktop/roll/RollGeometry.h"
+
 #include <QVariantAnimation>
 #include <QWidget>
 
 #include <optional>
+#include <vector>
 
 class QScrollBar;
 
@@ -14,10 +17,10 @@ class Lanes;
 class OutlyingNotes;
 class SequenceView;
 class TimeRuler;
-struct Note;
 
 /// The piano roll with its scroll bars, a ruler of key names and, in the calm scheme, one of bars.
-/// Points of the roll are in pixels from its lower left corner; step 0 is at the bottom.
+/// Points of the roll are in pixels, x along the keys and y along the time, from its lower left
+/// corner, where the lowest key and step 0 are.
 class SequenceScrollView : public QWidget {
     Q_OBJECT
 
@@ -27,26 +30,35 @@ public:
     SequenceView& view() { return *view_; }
     Lanes& lanes() { return *lanes_; }
 
-    /// Fits the roll to a sequence of `steps` steps and to the preferences. If the scale changes,
-    /// the middle of the view stays in place.
+    /// Fits the roll to a sequence of `steps` steps and to the preferences. A new scale there
+    /// replaces the zoom, and time runs in the direction chosen there; the middle of the view stays
+    /// in place.
     void updateSize(double steps);
+
+    const RollScale& scale() const { return scale_; }
 
     /// Scrolls until a point is at the lower left corner, within the bounds of the roll.
     void scrollTo(QPoint point);
-    void scrollVertically(double y);
+
+    /// Scrolls until a step is at the edge from which time runs.
+    void scrollToStep(double step);
+
+    /// Scrolls to the start, and until a key is in the middle.
+    void scrollToKey(double key);
 
     /// The point at the lower left corner.
     QPoint location() const;
 
-    /// Makes the steps taller or the keys wider, as if the wheel had turned by this many notches;
+    /// Makes the steps longer or the keys wider, as if the wheel had turned by this many notches;
     /// negative notches do the opposite.
     void zoomSteps(int notches);
     void zoomKeys(int notches);
 
-signals:
-    /// The scale in the preferences has changed; every view that shows keys must be updated.
-    void zoomed();
+    /// Show the whole piece, or the selected notes if there are any, as large as possible.
+    void zoomToAll();
+    void zoomToSelection();
 
+signals:
     /// The user has scrolled the roll. Scrolling by the program is not reported.
     void scrolledByUser();
 
@@ -69,11 +81,21 @@ private:
     QPoint destination() const;
     void setBars(QPoint point);
     void zoomAround(QPointF place, int notches, bool keys);
-    void zoom(const char* preference, int notches);
+    void zoom(int RollScale::*size, int notches);
+    void setScale(RollScale scale);
+    void showNotes(const std::vector<Note>& notes);
     void fitBars();
 
-    /// Makes notes snap to the lines that are shown.
-    void setGrid();
+    /// Puts everything in its place around the view, for the direction in which time runs.
+    void arrange();
+    void setTimeAcross(bool isAcross);
+    QPointF middle() const;
+
+    /// Returns a length in pixels as the value of a scroll bar, within what fits into one.
+    static int barValue(double pixels);
+
+    /// Lets the editor know the scale.
+    void tellEditor();
     void follow();
 
     SequenceView* view_;
@@ -81,14 +103,16 @@ private:
     TimeRuler* timeRuler_;
     Lanes* lanes_;
     OutlyingNotes* outlyingNotes_;
-    QScrollBar *horizontal_, *vertical_;
+    QScrollBar *keyBar_, *timeBar_;
     double steps_ = 0.0;
 
     /// The scale to which the values of the scroll bars refer.
-    int keyWidth_, keyHeight_;
+    RollScale scale_ = preferredScale();
 
-    /// The point that stays in place during a zoom, in pixels from the lower left corner of the
-    /// view; the middle of the view if it is empty.
+    RollScale preferred_ = scale_; ///< The scale that was last seen in the preferences.
+
+    /// The point that stays in place during a zoom, in pixels along the keys and the time from the
+    /// lower left corner of the view; the middle of the view if it is empty.
     std::optional<QPointF> anchor_;
 
     QVariantAnimation glide_;

@@ -29,14 +29,17 @@ SequenceStatus::SequenceStatus(const SequenceDocument& document)
       notes_(new QLabel)
 {
     mode_->setToolTip(tr("Practice: play the notes at the position to move on to the next ones"));
-    // A long chord must not widen the window.
+    // Long texts must not widen the window.
     mode_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    interval_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    interval_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(kMargin, 2, kMargin, 2);
     layout->setSpacing(2 * kMargin);
     layout->addWidget(mode_, 1);
-    for (QLabel* label : {selection_, interval_, notes_})
-        layout->addWidget(label);
+    layout->addWidget(selection_);
+    layout->addWidget(interval_, 1);
+    layout->addWidget(notes_);
     const Transport& transport = document_.transport();
     connect(&document_, &SequenceDocument::changed, this, &SequenceStatus::showNotes);
     connect(&transport, &Transport::moved, this, &SequenceStatus::showNotes);
@@ -54,12 +57,26 @@ void SequenceStatus::showNotes()
     const auto selected = static_cast<int>(
         std::count_if(notes.begin(), notes.end(), [](const Note& note) { return note.selected; }));
     selection_->setText(selected == 0 ? QString() : tr("%n note(s) selected", nullptr, selected));
-    const Interval& interval = document_.transport().interval();
-    interval_->setText(
-        interval.isEmpty()
-            ? QString()
-            : tr("Steps %1 to %2").arg(stepText(interval.start), stepText(interval.end)));
+    interval_->setText(intervalText());
+    interval_->setHidden(interval_->text().isEmpty()); // the room is that of the mode then
     notes_->setText(tr("%n note(s) in all", nullptr, static_cast<int>(notes.size())));
+}
+
+QString SequenceStatus::intervalText() const
+{
+    const Interval& interval = document_.transport().interval();
+    if (interval.isEmpty())
+        return {};
+    if (document_.reading() == Reading::Plain)
+        return tr("Steps %1 to %2").arg(stepText(interval.start), stepText(interval.end));
+    const Bar first = document_.time().barAt(interval.start);
+    const Bar last = document_.time().barAt(interval.end);
+    const auto beatText = [this](const Bar& bar, double step) {
+        return locale().toString(std::round(bar.beatAt(step) * 100.0) / 100.0);
+    };
+    return tr("Bar %1, beat %2 to bar %3, beat %4")
+        .arg(locale().toString(first.number), beatText(first, interval.start),
+             locale().toString(last.number), beatText(last, interval.end));
 }
 
 void SequenceStatus::showMode()
@@ -102,6 +119,9 @@ QString SequenceStatus::keysText() const
         return {};
     if (missing.isEmpty())
         return wrong.isEmpty() ? QString() : tr("Release %1").arg(wrong.join(' '));
+    const PracticeSession& session = document_.practiceSession();
+    if (session.isRunning() && !session.waits())
+        return tr("Next: %1").arg(missing.join(' '));
     if (wrong.isEmpty())
         return tr("Waiting for %1").arg(missing.join(' '));
     return tr("Waiting for %1; not %2").arg(missing.join(' '), wrong.join(' '));

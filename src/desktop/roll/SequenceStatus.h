@@ -20,6 +20,7 @@ public:
 private:
     void showNotes();
     void showMode();
+    QString intervalText() const;
     QString practiceText() const;
     QString keysText() const;
 

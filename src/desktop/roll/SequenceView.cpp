@@ -13,6 +13,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -31,6 +32,10 @@ constexpr int kMinName = 9;
 constexpr int kMaxName = 13;
 constexpr unsigned kWidestKey = 61;
 constexpr double kNameMargin = 4.0;
+
+/// Exchanges x and y.
+constexpr std::array kMirror{0.0, 1.0, 0.0, 0.0, 1.0, 0.0, 0.0, 0.0,
+                             0.0, 0.0, 1.0, 0.0, 0.0, 0.0, 0.0, 1.0};
 
 /// How much louder a note becomes with a notch of the wheel.
 constexpr double kVelocityNotch = 4.0 / 127.0;
@@ -52,6 +57,7 @@ void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor*
     if (document_ != nullptr) {
         disconnect(document_, nullptr, this, nullptr);
         disconnect(&document_->transport(), nullptr, this, nullptr);
+        disconnect(&document_->practiceSession(), nullptr, this, nullptr);
     }
     document_ = document;
     editor_ = editor;
@@ -62,9 +68,26 @@ void SequenceView::setDocument(const SequenceDocument* document, SequenceEditor*
         connect(document_, &SequenceDocument::changed, this, [this] { announceNotes(*this); });
         connect(&document_->transport(), &Transport::moved, this,
                 qOverload<>(&SequenceView::update));
+        for (const auto change : {&PracticeSession::started, &PracticeSession::ended})
+            connect(&document_->practiceSession(), change, this,
+                    qOverload<>(&SequenceView::update));
     }
     emit documentChanged();
     redraw();
+}
+
+void SequenceView::setScale(RollScale scale)
+{
+    scale_ = scale;
+    redraw();
+}
+
+void SequenceView::setTimeAcross(bool isAcross)
+{
+    if (std::exchange(isAcross_, isAcross) == isAcross)
+        return;
+    emit turned();
+    update();
 }
 
 void SequenceView::scrollTo(QPoint point)
@@ -75,9 +98,13 @@ void SequenceView::scrollTo(QPoint point)
 
 RollGeometry SequenceView::rollGeometry() const
 {
-    return {getPrefInt("KeyWidth"),           getPrefInt("KeyHeight"),
-            static_cast<double>(offset_.x()), static_cast<double>(offset_.y()),
-            static_cast<double>(width()),     static_cast<double>(height())};
+    return {scale_.keyWidth,
+            scale_.keyHeight,
+            static_cast<double>(offset_.x()),
+            static_cast<double>(offset_.y()),
+            static_cast<double>(isAcross_ ? height() : width()),
+            static_cast<double>(isAcross_ ? width() : height()),
+            isAcross_};
 }
 
 void SequenceView::redraw()
@@ -95,15 +122,19 @@ void SequenceView::updateIndex()
 
 void SequenceView::paintGL()
 {
-    const RollColors colors(palette());
+    RollColors colors(palette());
     const auto [red, green, blue, opacity] = colors.whiteColumn;
     const auto part = [](int value) { return static_cast<float>(value) / 255.0F; };
     glClearColor(part(red), part(green), part(blue), 1);
     glClear(GL_COLOR_BUFFER_BIT);
     if (document_ == nullptr)
         return;
+    if (const PracticeSession& session = document_->practiceSession(); session.isRunning())
+        colors.practised = session.part();
 
     setPixelCoordinates(*this, 0);
+    if (isAcross_)
+        glMultMatrixd(kMirror.data());
     glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
 
     updateIndex();
@@ -139,8 +170,8 @@ void SequenceView::drawBand(const RollColors& colors)
     const auto [one, other] = *editor_->band();
     const auto [lowest, highest] = std::minmax({std::floor(one.key), std::floor(other.key)});
     const auto [from, to] = std::minmax({one.step, other.step});
-    const QRectF area(QPointF(geometry.xOf(lowest), height() - geometry.yOf(to)),
-                      QPointF(geometry.xOf(highest + 1), height() - geometry.yOf(from)));
+    const QRectF area = geometry.inView(
+        {geometry.xOf(lowest), geometry.xOf(highest + 1), geometry.yOf(from), geometry.yOf(to)});
     const auto [red, green, blue, opacity] = colors.interval;
     QPainter painter(this);
     painter.fillRect(area, QColor(red, green, blue, opacity));
@@ -152,24 +183,33 @@ void SequenceView::drawNames(const RollColors& colors)
 {
     const RollGeometry geometry = rollGeometry();
     QFont small = font();
-    small.setPixelSize(std::clamp(geometry.keyWidth / 3, kMinName, kMaxName));
+    small.setPixelSize(
+        std::clamp(isAcross_ ? geometry.keyWidth - 4 : geometry.keyWidth / 3, kMinName, kMaxName));
     const QFontMetricsF metrics(small);
-    if (metrics.horizontalAdvance(noteText(kWidestKey)) > geometry.keyWidth - 4)
+    const double least =
+        isAcross_ ? small.pixelSize() : metrics.horizontalAdvance(noteText(kWidestKey));
+    if (least > geometry.keyWidth - 4)
         return;
     QPainter painter(this);
     painter.setFont(small);
     index_.visit(document_->sequence().notes(), geometry.bottomStep(), geometry.topStep(),
                  [&](const Note& note) {
-                     const RollQuad block = geometry.block(note);
-                     const double room = block.top - std::max(block.bottom, 0.0);
-                     if (room < metrics.height() + 2 * kNameMargin)
+                     const QString name = noteText(note.key);
+                     const QRectF place = nameIn(
+                         geometry.block(note), {metrics.horizontalAdvance(name), metrics.height()});
+                     if (place.isEmpty())
                          return;
                      painter.setPen(inkOn(colors.of(note)));
-                     const double bottom = height() - std::max(block.bottom, 0.0) - kNameMargin;
-                     painter.drawText(QRectF(block.left, bottom - metrics.height(),
-                                             block.right - block.left, metrics.height()),
-                                      Qt::AlignCenter, noteText(note.key));
+                     painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, name);
                  });
+}
+
+QRectF SequenceView::nameIn(const RollQuad& block, QSizeF name) const
+{
+    RollQuad place = block;
+    place.bottom = std::max(block.bottom, 0.0) + kNameMargin; // in sight, and near the onset
+    place.top = place.bottom + (isAcross_ ? name.width() : name.height());
+    return place.top > block.top - kNameMargin ? QRectF() : rollGeometry().inView(place);
 }
 
 RollPoint SequenceView::rollPoint(const QPointF& point) const
@@ -181,10 +221,9 @@ RollHit SequenceView::hitAt(const QPointF& point)
 {
     updateIndex();
     const RollPoint place = rollPoint(point);
-    const int keyHeight = getPrefInt("KeyHeight");
     RollHit hit = RollHit::Nothing;
     index_.visit(document_->sequence().notes(), place.step, place.step, [&](const Note& note) {
-        if (const RollHit here = rollHit(note, place, keyHeight); here != RollHit::Nothing)
+        if (const RollHit here = rollHit(note, place, scale_.keyHeight); here != RollHit::Nothing)
             hit = here; // the last one is on top
     });
     return hit;
@@ -203,7 +242,7 @@ void SequenceView::updateCursor(Qt::KeyboardModifiers modifiers)
         setCursor(Qt::SizeAllCursor);
         break;
     case RollHit::NoteEnd:
-        setCursor(Qt::SizeVerCursor);
+        setCursor(isAcross_ ? Qt::SizeHorCursor : Qt::SizeVerCursor);
         break;
     case RollHit::Nothing:
         unsetCursor();
@@ -255,8 +294,9 @@ void SequenceView::autoScroll()
 {
     const double x = dragPosition_.x() - std::clamp(dragPosition_.x(), 0.0, width() - 1.0);
     const double y = dragPosition_.y() - std::clamp(dragPosition_.y(), 0.0, height() - 1.0);
-    emit draggedBeyondEdge(QPoint(static_cast<int>(std::round(x * kAutoScrollFraction)),
-                                  static_cast<int>(std::round(-y * kAutoScrollFraction))));
+    emit draggedBeyondEdge(
+        rollGeometry().towards(QPoint(static_cast<int>(std::round(x * kAutoScrollFraction)),
+                                      static_cast<int>(std::round(y * kAutoScrollFraction)))));
     drag(dragPosition_, dragModifiers_);
 }
 

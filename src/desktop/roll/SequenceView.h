@@ -23,10 +23,16 @@ public:
     const SequenceDocument* document() const { return document_; }
     SequenceEditor* editor() const { return editor_; }
 
-    /// Moves a point of the roll, in pixels, to the lower left corner of the view.
+    void setScale(RollScale scale);
+
+    /// Lets time run from left to right and keys upwards, or the other way round.
+    void setTimeAcross(bool isAcross);
+
+    /// Moves a point of the roll, in pixels along the keys and the time, to the lower left corner
+    /// of the view.
     void scrollTo(QPoint point);
 
-    /// The visible part, at the scale of the preferences.
+    /// The visible part.
     RollGeometry rollGeometry() const;
 
     /// Schedules a repaint after the notes may have changed.
@@ -44,8 +50,11 @@ signals:
     /// Another document is shown.
     void documentChanged();
 
+    /// Time has begun to run in another direction.
+    void turned();
+
     /// The mouse is being dragged beyond the edge of the view; the roll should scroll by `pixels`
-    /// to the right and up.
+    /// along the keys and the time.
     void draggedBeyondEdge(QPoint pixels);
 
 protected:
@@ -60,6 +69,10 @@ protected:
 private:
     void updateIndex();
     void drawNames(const RollColors& colors);
+
+    /// The place of a note's name, of this size, in its block; empty if there is no room for it.
+    QRectF nameIn(const RollQuad& block, QSizeF name) const;
+
     void drawBand(const RollColors& colors);
     RollPoint rollPoint(const QPointF& point) const;
     RollHit hitAt(const QPointF& point);
@@ -73,6 +86,8 @@ private:
 
     const SequenceDocument* document_ = nullptr;
     SequenceEditor* editor_ = nullptr;
+    RollScale scale_ = preferredScale();
+    bool isAcross_ = false; ///< True if time runs from left to right.
     QPoint offset_;
     Qt::MouseButton button_ = Qt::NoButton; ///< The button of the current gesture.
     QPointF dragPosition_;

@@ -19,8 +19,8 @@ namespace velmora {
 
 namespace {
 
-/// The width of the lane in heights of its letters.
-constexpr int kTimeLaneWidth = 11;
+/// The thickness of the lane in heights of its letters, beside the roll and below it.
+constexpr int kStandingThickness = 11, kLyingThickness = 5;
 
 constexpr double kTextMargin = 3.0;
 
@@ -47,21 +47,25 @@ bool TimeLane::isEditable() const
     return editor() != nullptr && document().reading() == Reading::Musical;
 }
 
-QSize TimeLane::sizeHint() const
+int TimeLane::preferredThickness() const
 {
-    return {fontMetrics().height() * kTimeLaneWidth, 0};
+    return fontMetrics().height() * (isAcross() ? kLyingThickness : kStandingThickness);
 }
 
 QRectF TimeLane::columnOf(std::size_t kind) const
 {
-    const double columnWidth = static_cast<double>(width()) / kEntryKinds;
-    return {columnWidth * static_cast<double>(kind), 0.0, columnWidth,
-            static_cast<double>(height())};
+    const double size = static_cast<double>(thickness()) / kEntryKinds;
+    const double place = size * static_cast<double>(kind);
+    return isAcross() ? QRectF(0.0, place, width(), size) : QRectF(place, 0.0, size, height());
 }
 
 QRectF TimeLane::rectOf(const TimeEntry& entry) const
 {
     const QRectF column = columnOf(entry.index());
+    if (isAcross()) // yOf counts against the time
+        return {length() - yOf(stepOf(entry)), column.top() + 1,
+                fontMetrics().horizontalAdvance(entryText(entry)) + 3 * kTextMargin,
+                column.height() - 1};
     const double textHeight = fontMetrics().height();
     return {column.left() + 1, yOf(stepOf(entry)) - textHeight, column.width() - 1, textHeight};
 }
@@ -79,9 +83,10 @@ void TimeLane::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Base));
     painter.setPen(palette().color(QPalette::Mid));
-    for (std::size_t kind = 0; kind < kEntryKinds; ++kind)
-        painter.drawLine(QPointF(columnOf(kind).left() + 0.5, 0.0),
-                         QPointF(columnOf(kind).left() + 0.5, height()));
+    for (std::size_t kind = 0; kind < kEntryKinds; ++kind) {
+        const QRectF column = columnOf(kind).translated(0.5, 0.5);
+        painter.drawLine(column.topLeft(), isAcross() ? column.topRight() : column.bottomLeft());
+    }
     if (!isEditable())
         return;
     for (const TimeEntry& entry : entriesOf(document().time())) {
@@ -92,7 +97,7 @@ void TimeLane::paintEvent(QPaintEvent* /*event*/)
         if (isSelected)
             painter.fillRect(place, palette().color(QPalette::Highlight));
         painter.setPen(palette().color(QPalette::Text));
-        painter.drawLine(place.bottomLeft(), place.bottomRight());
+        painter.drawLine(place.bottomLeft(), isAcross() ? place.topLeft() : place.bottomRight());
         if (isSelected)
             painter.setPen(palette().color(QPalette::HighlightedText));
         const QRectF inner = place.adjusted(kTextMargin, 0, -kTextMargin, 0);
@@ -124,7 +129,8 @@ void TimeLane::mouseMoveEvent(QMouseEvent* event)
         (!draggedTo_ && way.manhattanLength() < QApplication::startDragDistance()))
         return;
     const int keyHeight = view().rollGeometry().keyHeight;
-    const double step = std::max(0.0, stepOf(*selected_) - way.y() / keyHeight);
+    const double steps = (isAcross() ? way.x() : -way.y()) / keyHeight;
+    const double step = std::max(0.0, stepOf(*selected_) + steps);
     draggedTo_ = document().time().gridAt(step, visibleGrid(keyHeight));
     update();
 }
@@ -146,7 +152,8 @@ void TimeLane::mouseDoubleClickEvent(QMouseEvent* event)
         select(changeTimeEntry(document(), *entry, this));
         return;
     }
-    const double step = document().time().gridAt(stepAt(event->position().y()), Grid::Beats);
+    const double step =
+        document().time().gridAt(stepAt(standing(event->position()).y()), Grid::Beats);
     for (std::size_t kind = 0; kind < kEntryKinds; ++kind)
         if (columnOf(kind).contains(event->position()))
             addTimeEntry(document(), kind, step, this);
@@ -154,8 +161,9 @@ void TimeLane::mouseDoubleClickEvent(QMouseEvent* event)
 
 bool TimeLane::event(QEvent* event)
 {
-    constexpr std::array kLaneKeys{Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Return,
-                                   Qt::Key_Enter, Qt::Key_Delete, Qt::Key_Backspace};
+    constexpr std::array kLaneKeys{Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Left,
+                                   Qt::Key_Right,  Qt::Key_Return,   Qt::Key_Enter,
+                                   Qt::Key_Delete, Qt::Key_Backspace};
     // These keys are also shortcuts of commands, which act on the notes.
     if (event->type() == QEvent::ShortcutOverride && isEditable()) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
@@ -176,9 +184,11 @@ void TimeLane::keyPressEvent(QKeyEvent* event)
     }
     switch (event->key()) {
     case Qt::Key_Up:
+    case Qt::Key_Right:
         selectNeighbour(true);
         break;
     case Qt::Key_Down:
+    case Qt::Key_Left:
         selectNeighbour(false);
         break;
     case Qt::Key_Return:
@@ -237,7 +247,8 @@ void TimeLane::contextMenuEvent(QContextMenuEvent* event)
         menu.addAction(tr("&Delete"), this, &TimeLane::removeSelected);
         menu.addSeparator();
     }
-    const double step = isMouse ? stepAt(event->pos().y()) : document().transport().position();
+    const double step =
+        isMouse ? stepAt(standing(event->pos()).y()) : document().transport().position();
     addTo(menu, document().time().gridAt(step, Grid::Beats));
     menu.exec(event->globalPos());
 }

@@ -22,9 +22,8 @@ public:
 
     void setEditor(SequenceEditor* editor) override;
 
-    QSize sizeHint() const override;
-
 private:
+    int preferredThickness() const override;
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -35,6 +34,7 @@ private:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
     bool isEditable() const;
+    /// Where the view shows an entry, and all entries of a kind.
     QRectF rectOf(const TimeEntry& entry) const;
     QRectF columnOf(std::size_t kind) const;
     std::optional<TimeEntry> entryAt(QPointF point) const;

@@ -22,21 +22,22 @@ namespace {
 /// A handle can be grabbed this many pixels beside it.
 constexpr double kReach = 6.0;
 
+constexpr int kArrow = 12;
 constexpr double kBeatTick = 6.0;
 constexpr double kFlag = 9.0; // of a marker
 constexpr double kIntervalEdge = 3.0;
+constexpr double kGap = 4.0;                          // beside a number
 constexpr int kLoopOpacity = 130, kPlainOpacity = 60; // of 255
 
 } // namespace
 
-TimeRuler::TimeRuler(const SequenceView& view, QWidget* parent) : QWidget(parent), view_(view)
+TimeRuler::TimeRuler(const SequenceView& view) : TimeStrip(view, Side::Above)
 {
     setAccessibleName(tr("Bars"));
     setToolTip(
         tr("Drag the arrow to move the play position. Drag over the ruler to select the time "
            "that is looped."));
     setMouseTracking(true);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 }
 
 void TimeRuler::setDocument(const SequenceDocument* document, SequenceEditor* editor)
@@ -55,19 +56,10 @@ void TimeRuler::setDocument(const SequenceDocument* document, SequenceEditor* ed
     update();
 }
 
-QSize TimeRuler::sizeHint() const
+int TimeRuler::preferredThickness() const
 {
-    return {fontMetrics().horizontalAdvance("0000") + 12, 0};
-}
-
-double TimeRuler::yOf(double step) const
-{
-    return height() - view_.rollGeometry().yOf(step);
-}
-
-double TimeRuler::stepAt(double y) const
-{
-    return std::max(0.0, view_.rollGeometry().pointAt(0, y).step);
+    const int text = isAcross() ? fontMetrics().height() : fontMetrics().horizontalAdvance("0000");
+    return text + kArrow;
 }
 
 TimeRuler::Handle TimeRuler::handleAt(double y) const
@@ -88,7 +80,7 @@ bool TimeRuler::event(QEvent* event)
         return QWidget::event(event);
     const auto& help = static_cast<const QHelpEvent&>(*event);
     for (const Marker& marker : document_->time().markers()) {
-        const double distance = yOf(marker.step) - help.pos().y();
+        const double distance = yOf(marker.step) - standing(help.pos()).y();
         if (distance >= 0.0 && distance <= kFlag) {
             QToolTip::showText(help.globalPos(), QString::fromStdString(toUtf8(marker.text)), this);
             return true;
@@ -104,29 +96,25 @@ void TimeRuler::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(rect(), palette().color(QPalette::Window));
     if (document_ == nullptr)
         return;
+    painter.setWorldTransform(turn());
     paintBars(painter);
     paintHandles(painter);
 }
 
 void TimeRuler::paintBars(QPainter& painter) const
 {
-    const RollGeometry geometry = view_.rollGeometry();
+    const RollGeometry geometry = view().rollGeometry();
     painter.setPen(palette().color(QPalette::WindowText));
     const MusicalTime& time = document_->time();
-    const double textHeight = fontMetrics().height();
-    double textTop = std::numeric_limits<double>::infinity(); // of the last number, from below
+    double textEnd = std::numeric_limits<double>::infinity(); // of the last number, from below
     for (const auto& [step, kind] :
          time.gridLines(geometry.firstStep(), geometry.endStep(),
                         std::min(visibleGrid(geometry.keyHeight), Grid::Beats))) {
         const double y = std::floor(yOf(step)) - 0.5;
         const bool isBar = kind == GridLine::Kind::Bar;
-        painter.drawLine(QPointF(isBar ? 0 : width() - kBeatTick, y), QPointF(width(), y));
-        if (!isBar || y > textTop)
-            continue;
-        textTop = y - textHeight;
-        painter.drawText(QRectF(4, textTop - 1, width(), textHeight),
-                         Qt::AlignLeft | Qt::AlignBottom,
-                         locale().toString(time.barAt(step).number));
+        painter.drawLine(QPointF(isBar ? 0 : thickness() - kBeatTick, y), QPointF(thickness(), y));
+        if (isBar && y <= textEnd)
+            textEnd = paintNumber(painter, time.barAt(step).number, y);
     }
     for (const Marker& marker : time.markers()) {
         const double y = yOf(marker.step);
@@ -134,6 +122,24 @@ void TimeRuler::paintBars(QPainter& painter) const
         painter.setBrush(palette().color(QPalette::Active, QPalette::Highlight));
         painter.drawPolygon(flag.data(), static_cast<int>(flag.size()));
     }
+}
+
+double TimeRuler::paintNumber(QPainter& painter, int number, double y) const
+{
+    const QString text = locale().toString(number);
+    const double textWidth = fontMetrics().horizontalAdvance(text);
+    const double textHeight = fontMetrics().height();
+    if (!isAcross()) {
+        painter.drawText(QRectF(kGap, y - textHeight - 1, width(), textHeight),
+                         Qt::AlignLeft | Qt::AlignBottom, text);
+        return y - textHeight;
+    }
+    painter.setWorldMatrixEnabled(false); // letters stay upright
+    painter.drawText(
+        QRectF(turn().map(QPointF(0, y)) + QPointF(kGap, 0), QSizeF(textWidth + kGap, textHeight)),
+        Qt::AlignLeft | Qt::AlignTop, text);
+    painter.setWorldMatrixEnabled(true);
+    return y - textWidth - 2 * kGap;
 }
 
 void TimeRuler::paintHandles(QPainter& painter) const
@@ -144,16 +150,16 @@ void TimeRuler::paintHandles(QPainter& painter) const
         QColor band = color;
         band.setAlpha(transport.loops() ? kLoopOpacity : kPlainOpacity);
         const double top = yOf(interval.end), bottom = yOf(interval.start);
-        painter.fillRect(QRectF(0, top, width(), bottom - top), band);
+        painter.fillRect(QRectF(0, top, thickness(), bottom - top), band);
         for (const double edge : {top, bottom - kIntervalEdge})
-            painter.fillRect(QRectF(0, edge, width(), kIntervalEdge), color);
+            painter.fillRect(QRectF(0, edge, thickness(), kIntervalEdge), color);
     }
     // At an edge of the view the arrow stays in sight.
     double y = yOf(transport.position());
-    if (y > -kReach && y < height() + kReach)
-        y = std::clamp(y, kReach, std::max(kReach, height() - kReach));
-    const std::array arrow{QPointF(width() - 12, y - kReach), QPointF(width() - 1, y),
-                           QPointF(width() - 12, y + kReach)};
+    if (y > -kReach && y < length() + kReach)
+        y = std::clamp(y, kReach, std::max(kReach, length() - kReach));
+    const std::array arrow{QPointF(thickness() - kArrow, y - kReach), QPointF(thickness() - 1, y),
+                           QPointF(thickness() - kArrow, y + kReach)};
     painter.setPen(palette().color(QPalette::WindowText));
     painter.setBrush(color);
     painter.drawPolygon(arrow.data(), static_cast<int>(arrow.size()));
@@ -164,11 +170,12 @@ void TimeRuler::mousePressEvent(QMouseEvent* event)
     if (editor_ == nullptr || event->button() != Qt::LeftButton)
         return;
     const Interval interval = document_->transport().interval();
-    dragged_ = handleAt(event->position().y());
+    const double y = standing(event->position()).y();
+    dragged_ = handleAt(y);
     fixed_ = dragged_ == Handle::Start ? interval.end : interval.start;
     if (dragged_ != Handle::None)
         return;
-    fixed_ = stepAt(event->position().y());
+    fixed_ = stepAt(y);
     editor_->movePosition(fixed_);
     editor_->selectInterval(fixed_, fixed_);
     dragged_ = Handle::End;
@@ -178,9 +185,11 @@ void TimeRuler::mouseMoveEvent(QMouseEvent* event)
 {
     if (editor_ == nullptr)
         return;
-    const double y = event->position().y();
+    const double y = standing(event->position()).y();
     if (dragged_ == Handle::None)
-        setCursor(handleAt(y) == Handle::None ? Qt::ArrowCursor : Qt::SizeVerCursor);
+        setCursor(handleAt(y) == Handle::None ? Qt::ArrowCursor
+                  : isAcross()                ? Qt::SizeHorCursor
+                                              : Qt::SizeVerCursor);
     else if (dragged_ == Handle::Position)
         editor_->movePosition(stepAt(y));
     else

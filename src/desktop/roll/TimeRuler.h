@@ -1,31 +1,29 @@
 #pragma once
 
-#include <QWidget>
+#include "desktop/roll/TimeStrip.h"
 
 namespace velmora {
 
 class SequenceDocument;
 class SequenceEditor;
-class SequenceView;
 
-/// A ruler beside the piano roll with the numbers of the bars. The play position and the ends of
-/// the selected interval are handles that can be dragged; a press elsewhere moves the position, and
-/// a drag from there selects an interval.
-class TimeRuler : public QWidget {
+/// A ruler along the piano roll with the numbers of the bars, above the roll while time runs
+/// across. The play position and the ends of the selected interval are handles that can be dragged;
+/// a press elsewhere moves the position, and a drag from there selects an interval.
+class TimeRuler : public TimeStrip {
     Q_OBJECT
 
 public:
-    /// The ruler must be as high as the view, which must outlive it.
-    explicit TimeRuler(const SequenceView& view, QWidget* parent = nullptr);
+    /// The ruler must be as long as the view, which must outlive it.
+    explicit TimeRuler(const SequenceView& view);
 
     /// Sets the document to show and the editor for it, as `SequenceView::setDocument` does.
     void setDocument(const SequenceDocument* document, SequenceEditor* editor);
 
-    QSize sizeHint() const override;
-
 private:
     enum class Handle { None, Position, Start, End };
 
+    int preferredThickness() const override;
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -35,12 +33,11 @@ private:
     void paintBars(QPainter& painter) const;
     void paintHandles(QPainter& painter) const;
 
-    /// The distance of a step from the upper edge, and the step at such a distance.
-    double yOf(double step) const;
-    double stepAt(double y) const;
+    /// Writes the number of a bar after its line, and returns the y at which the text ends.
+    double paintNumber(QPainter& painter, int number, double y) const;
+
     Handle handleAt(double y) const;
 
-    const SequenceView& view_;
     const SequenceDocument* document_ = nullptr;
     SequenceEditor* editor_ = nullptr;
     Handle dragged_ = Handle::None;

@@ -1,7 +1,6 @@
 #include "desktop/roll/VelocityLane.h"
 
 #include "desktop/roll/RollColors.h"
-#include "desktop/roll/SequenceView.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
 
@@ -44,12 +43,12 @@ void VelocityLane::setEditor(SequenceEditor* editor)
 
 double VelocityLane::xOf(double velocity) const
 {
-    return kVelocityMargin + velocity * (width() - 2 * kVelocityMargin);
+    return kVelocityMargin + velocity * (thickness() - 2 * kVelocityMargin);
 }
 
 double VelocityLane::velocityAt(double x) const
 {
-    return std::clamp((x - kVelocityMargin) / (width() - 2 * kVelocityMargin), 0.0, 1.0);
+    return std::clamp((x - kVelocityMargin) / (thickness() - 2 * kVelocityMargin), 0.0, 1.0);
 }
 
 template <class Use> void VelocityLane::visit(double from, double to, Use use) const
@@ -63,9 +62,7 @@ template <class Use> void VelocityLane::visit(double from, double to, Use use) c
 void VelocityLane::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), palette().color(QPalette::Base));
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawLine(QPointF(0.5, 0.0), QPointF(0.5, height()));
+    paintGround(painter);
     if (editor() == nullptr)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
@@ -79,7 +76,7 @@ void VelocityLane::paintEvent(QPaintEvent* /*event*/)
         painter.setBrush(colors.of(note));
         painter.drawEllipse(QPointF(x, y), kKnob / 2, kKnob / 2);
     };
-    const double from = stepAt(height() + kKnob), to = stepAt(-kKnob);
+    const double from = stepAt(length() + kKnob), to = stepAt(-kKnob);
     for (const bool selected : {false, true}) // the selected ones on top
         visit(from, to, [&](const Note& note) {
             if (note.selected == selected)
@@ -92,7 +89,7 @@ void VelocityLane::mousePressEvent(QMouseEvent* event)
     if (editor() == nullptr || event->button() != Qt::LeftButton)
         return;
     isDrawing_ = true;
-    press_ = last_ = event->position();
+    press_ = last_ = standing(event->position());
     drawLine(press_, press_);
 }
 
@@ -100,13 +97,14 @@ void VelocityLane::mouseMoveEvent(QMouseEvent* event)
 {
     if (!isDrawing_)
         return;
+    const QPointF place = standing(event->position());
     if (event->modifiers().testFlag(Qt::ShiftModifier)) {
         drawn_.clear();
-        drawLine(press_, event->position());
+        drawLine(press_, place);
     } else {
-        drawLine(last_, event->position());
+        drawLine(last_, place);
     }
-    last_ = event->position();
+    last_ = place;
 }
 
 void VelocityLane::mouseReleaseEvent(QMouseEvent* event)
@@ -124,10 +122,11 @@ void VelocityLane::mouseReleaseEvent(QMouseEvent* event)
 
 void VelocityLane::drawLine(QPointF from, QPointF to)
 {
-    const bool isAnySelected = !document().sequence().selection().empty();
+    const Sequence& sequence = document().sequence();
+    const bool isAnySelected = !sequence.selection().empty();
     const double low = std::max(from.y(), to.y()), high = std::min(from.y(), to.y());
     visit(stepAt(low + kBarReach), stepAt(high - kBarReach), [&](const Note& note) {
-        if (isAnySelected && !note.selected)
+        if ((isAnySelected && !note.selected) || sequence.isLocked(note))
             return;
         const double part =
             low == high ? 1.0

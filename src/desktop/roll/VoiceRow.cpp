@@ -4,12 +4,14 @@
 #include "desktop/roll/RollColors.h"
 #include "sequencer/Sequence.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QCompleter>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -57,7 +59,10 @@ VoiceRow::VoiceRow(std::size_t channel, QGridLayout& grid)
       name_(new QLineEdit), program_(new QComboBox), volume_(new QSpinBox),
       mute_(makeSwitch(tr("M", "mute"), tr("Mute"))),
       solo_(makeSwitch(tr("S", "solo"), tr("Solo: only such voices sound"))),
-      lock_(makeSwitch(tr("L", "lock"), tr("Lock: protect its notes from edits")))
+      lock_(makeSwitch(tr("L", "lock"), tr("Lock: protect its notes from edits"))),
+      menu_(new QMenu(number_)), notes_(menu_->addAction(tr("Select &Notes"))),
+      muting_(menu_->addAction(tr("&Mute"))), soloing_(menu_->addAction(tr("&Solo"))),
+      locking_(menu_->addAction(tr("&Lock")))
 {
     number_->setIcon(swatch(channel));
     number_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -79,6 +84,7 @@ VoiceRow::VoiceRow(std::size_t channel, QGridLayout& grid)
     grid.addWidget(program_, row + 1, 0, 1, 2);
     grid.addWidget(volume_, row + 1, 2, 1, 3);
 
+    makeMenu();
     nameControls(tr("Voice %1").arg(channel + 1));
     connect(number_, &QToolButton::clicked, this, &VoiceRow::chosen);
     connect(name_, &QLineEdit::editingFinished, this, [this] { emit renamed(name_->text()); });
@@ -90,6 +96,21 @@ VoiceRow::VoiceRow(std::size_t channel, QGridLayout& grid)
     connect(mute_, &QToolButton::toggled, this, &VoiceRow::muted);
     connect(solo_, &QToolButton::toggled, this, &VoiceRow::soloed);
     connect(lock_, &QToolButton::toggled, this, &VoiceRow::locked);
+}
+
+void VoiceRow::makeMenu()
+{
+    for (QToolButton* button : {number_, mute_, solo_, lock_}) {
+        button->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(button, &QWidget::customContextMenuRequested, menu_,
+                [this, button](QPoint place) { menu_->popup(button->mapToGlobal(place)); });
+    }
+    for (QAction* action : {muting_, soloing_, locking_})
+        action->setCheckable(true);
+    connect(notes_, &QAction::triggered, this, &VoiceRow::notesWanted);
+    connect(muting_, &QAction::triggered, this, &VoiceRow::muted);
+    connect(soloing_, &QAction::triggered, this, &VoiceRow::soloed);
+    connect(locking_, &QAction::triggered, this, &VoiceRow::locked);
 }
 
 void VoiceRow::showVoice(const Voice& voice, bool isChosen)
@@ -105,6 +126,9 @@ void VoiceRow::showVoice(const Voice& voice, bool isChosen)
     mute_->setChecked(voice.isMuted);
     solo_->setChecked(voice.isSolo);
     lock_->setChecked(voice.isLocked);
+    muting_->setChecked(voice.isMuted);
+    soloing_->setChecked(voice.isSolo);
+    locking_->setChecked(voice.isLocked);
     auto place = std::ranges::find(presets_, voice.sound.preset);
     if (place == presets_.end() && !presets_.empty()) {
         // A kit or a variation that the list of General MIDI does not have.
@@ -117,6 +141,10 @@ void VoiceRow::showVoice(const Voice& voice, bool isChosen)
         place = std::prev(presets_.end());
     }
     program_->setCurrentIndex(static_cast<int>(place - presets_.begin()));
+    // A text that is too long shows its beginning.
+    for (QLineEdit* field : {name_, program_->lineEdit()})
+        if (!field->hasFocus())
+            field->home(false);
     nameControls(name.isEmpty() ? tr("Voice %1").arg(channel_ + 1) : name);
 }
 

@@ -9,16 +9,18 @@
 #include <span>
 #include <vector>
 
+class QAction;
 class QComboBox;
 class QGridLayout;
 class QLineEdit;
+class QMenu;
 class QSpinBox;
 class QToolButton;
 
 namespace velmora {
 
 /// The controls of one voice, in two rows of a grid that owns them, so that they fit into a narrow
-/// panel.
+/// panel. The buttons have a context menu, because the space bar plays after a click.
 class VoiceRow : public QObject {
     Q_OBJECT
 
@@ -48,6 +50,7 @@ signals:
     void locked(bool isLocked);
 
 private:
+    void makeMenu();
     bool eventFilter(QObject* watched, QEvent* event) override;
     void nameControls(const QString& voice);
 
@@ -57,6 +60,8 @@ private:
     QComboBox* program_;
     QSpinBox* volume_;
     QToolButton *mute_, *solo_, *lock_;
+    QMenu* menu_; ///< The context menu.
+    QAction *notes_, *muting_, *soloing_, *locking_;
     std::vector<std::optional<PartSound::Preset>> presets_; ///< By their places in the list.
 };
 

@@ -6,16 +6,16 @@
 
 #include <QAction>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QListWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace velmora {
 
 namespace {
-
-constexpr int kCommandRole = Qt::UserRole;
 
 /// The size of the palette in letters of average width and in lines, and the least distance from
 /// the edges of the window, in pixels.
@@ -25,7 +25,8 @@ constexpr int kLetters = 60, kLines = 22, kDistance = 20;
 
 CommandPalette::CommandPalette(const Commands& commands, QWidget* parent)
     : QFrame(parent, Qt::Popup), commands_(commands),
-      search_(new SearchField(tr("Find a command"))), list_(new QListWidget)
+      search_(new SearchField(tr("Find a command or a tuning"))), list_(new QListWidget),
+      nothing_(new QLabel(tr("Nothing has all these words.")))
 {
     setFrameShape(StyledPanel);
     setAccessibleName(tr("Commands"));
@@ -36,6 +37,7 @@ CommandPalette::CommandPalette(const Commands& commands, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(search_);
     layout->addWidget(list_);
+    layout->addWidget(nothing_, 1, Qt::AlignHCenter | Qt::AlignTop);
     connect(search_, &QLineEdit::textChanged, this, &CommandPalette::filter);
     connect(search_, &QLineEdit::returnPressed, this, &CommandPalette::perform);
     connect(list_, &QListWidget::itemClicked, this, &CommandPalette::perform);
@@ -56,24 +58,36 @@ void CommandPalette::open()
 void CommandPalette::fill()
 {
     list_->clear();
+    performed_.clear();
     for (const auto& [action, group, defaults] : commands_.all()) {
         const QString shortcut = action->shortcut().toString(QKeySequence::NativeText);
         auto* item = new QListWidgetItem(
             action->iconText() + '\n' +
                 (shortcut.isEmpty() ? group : tr("%1 – %2").arg(group, shortcut)),
             list_);
-        item->setData(kCommandRole, QVariant::fromValue(action));
+        performed_.emplace_back([action = action] { action->trigger(); });
         if (!action->isEnabled())
             item->setFlags(Qt::NoItemFlags);
     }
+    if (choices_)
+        for (Choice& choice : choices_()) {
+            list_->addItem(choice.text);
+            performed_.push_back(std::move(choice.choose));
+        }
     search_->clear();
     filter();
 }
 
 void CommandPalette::filter()
 {
-    for (int row = 0; row < list_->count(); ++row)
-        list_->item(row)->setHidden(!search_->finds(list_->item(row)->text()));
+    bool isAnyFound = false;
+    for (int row = 0; row < list_->count(); ++row) {
+        const bool isFound = search_->finds(list_->item(row)->text());
+        list_->item(row)->setHidden(!isFound);
+        isAnyFound = isAnyFound || isFound;
+    }
+    list_->setVisible(isAnyFound);
+    nothing_->setVisible(!isAnyFound);
     list_->setCurrentRow(-1);
     moveBy(1);
 }
@@ -109,7 +123,7 @@ void CommandPalette::perform()
     if (item == nullptr || (item->flags() & Qt::ItemIsEnabled) == 0)
         return;
     close(); // so that the command finds the focus where it was
-    item->data(kCommandRole).value<QAction*>()->trigger();
+    performed_.at(static_cast<std::size_t>(list_->row(item)))();
 }
 
 } // namespace velmora

@@ -10,6 +10,7 @@
 #include "desktop/shell/aboutBox.h"
 #include "desktop/shell/askForFiles.h"
 #include "desktop/shell/bankNotice.h"
+#include "desktop/shell/tuningChoices.h"
 #include "desktop/tuning/TuningPanel.h"
 #include "desktop/tuning/TuningStudio.h"
 #include "desktop/widgets/HelpButton.h"
@@ -31,8 +32,7 @@ namespace velmora {
 
 namespace {
 
-constexpr int kReportMilliseconds = 15000;
-constexpr int kShortMilliseconds = 3000;
+constexpr int kReportMilliseconds = 15000, kShortMilliseconds = 3000;
 constexpr const char* kSessionExtension = ".velmora";
 
 } // namespace
@@ -126,6 +126,7 @@ void Desktop::connectWindows()
     for (QWidget* window : std::initializer_list<QWidget*>{&workspace_, &instrumentsWindow_,
                                                            &preferencesWindow_, &metersWindow_})
         guideWindow_.serve(*window);
+    palette_.offer([this] { return tuningChoices(application_); });
     connect(shell_.commandPalette, &QAction::triggered, &palette_, &CommandPalette::open);
     connect(shell_.about, &QAction::triggered, this, [this] { showAbout(workspace_); });
     const InstrumentPanel& panel = workspace_.instrumentPanel();
@@ -184,12 +185,13 @@ void Desktop::connectPieces()
             [this] { pages_.current()->saver().saveAs(); });
     connect(shell_.exportAudio, &QAction::triggered, this,
             [this] { pages_.current()->exportAudio(); });
+    connect(shell_.exportStems, &QAction::triggered, this,
+            [this] { pages_.current()->exportStems(); });
     connect(shell_.close, &QAction::triggered, this, [this] { pages_.close(*pages_.current()); });
     connect(shell_.ownWindow, &QAction::triggered, this,
             [this](bool own) { pages_.setOwnWindow(*pages_.current(), own); });
     connect(&pages_, &SequencePages::opened, this,
             [this](SequencePage& page) { fileDrop_.watch(page); });
-    connect(&pages_, &SequencePages::zoomed, this, &Desktop::updateAllViews);
     connect(&pages_, &SequencePages::currentChanged, this, &Desktop::showPiece);
     connect(&pages_, &SequencePages::closingAll, &session_, &SessionKeeper::finish);
     connect(&pages_, &SequencePages::unprotected, this, [this](const QString& why) {
@@ -221,8 +223,8 @@ void Desktop::showPiece()
     workspace_.setDocument(piece == nullptr ? nullptr : &piece->document());
     workspace_.setWindowTitle(piece == nullptr ? tr("Velmora") : piece->windowTitle());
     workspace_.setWindowModified(piece != nullptr && piece->isWindowModified());
-    for (QAction* action :
-         {shell_.save, shell_.saveAs, shell_.exportAudio, shell_.close, shell_.ownWindow})
+    for (QAction* action : {shell_.save, shell_.saveAs, shell_.exportAudio, shell_.exportStems,
+                            shell_.close, shell_.ownWindow})
         action->setEnabled(piece != nullptr);
     shell_.ownWindow->setChecked(piece != nullptr && piece->isWindow());
 }

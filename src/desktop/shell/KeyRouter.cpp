@@ -5,6 +5,7 @@
 #include "desktop/roll/SequenceView.h"
 #include "desktop/shell/SequencePage.h"
 #include "desktop/shell/SequencePages.h"
+#include "preferences/Preferences.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -54,12 +55,19 @@ bool isConfirming(int key)
     return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
+/// Returns whether the key is an arrow that moves the position of a piece.
+bool isAlongTime(int key)
+{
+    return getPrefBool("TimeRunsAcross") ? key == Qt::Key_Left || key == Qt::Key_Right
+                                         : key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
 /// Returns whether the key belongs to a command by default. If the user has given the command
 /// another shortcut, the key does nothing.
 bool isOfCommand(int key)
 {
     return isConfirming(key) || key == Qt::Key_Delete || key == Qt::Key_Backspace ||
-           key == Qt::Key_Escape || key == Qt::Key_Up || key == Qt::Key_Down;
+           key == Qt::Key_Escape || isAlongTime(key);
 }
 
 } // namespace
@@ -98,8 +106,12 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn) {
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        isFocusedByKeyboard_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                               reason == Qt::ShortcutFocusReason;
+        // A window or a menu that closes returns the focus to where it was.
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+            reason != Qt::MenuBarFocusReason)
+            isFocusedByKeyboard_ = reason == Qt::TabFocusReason ||
+                                   reason == Qt::BacktabFocusReason ||
+                                   reason == Qt::ShortcutFocusReason;
         return false;
     }
     const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
@@ -122,7 +134,8 @@ bool KeyRouter::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::ShortcutOverride) {
         if (isKept)
             event->accept(); // the widget gets the key, and no command does
-        return isKept;
+        // The open list of a combo box already chooses when it is asked.
+        return isKept && QApplication::activePopupWidget() == nullptr;
     }
     if (!isKept && event->type() == QEvent::KeyPress && keyboard_.keyDown(key))
         return true;

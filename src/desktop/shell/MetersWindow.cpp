@@ -47,6 +47,7 @@ void MetersWindow::showEvent(QShowEvent* event)
     meters_.emplace(application_);
     update();
     resize(size().expandedTo(sizeHint())); // before the window manager looks for its place
+    update();                              // at the width that it has now
     timer_.start();
 }
 
@@ -67,7 +68,10 @@ void MetersWindow::update()
         QLabel* text = newLabel();
         text->setWordWrap(true);
         text->setMinimumWidth(kTextLetters * fontMetrics().averageCharWidth());
-        lines_->addRow(newLabel(), text);
+        QLabel* name = newLabel();
+        lines_->addRow(name, text);
+        for (QLabel* label : {name, text})
+            label->show(); // at once, so that the window gets its size
     }
     const auto show = [&](int row, QFormLayout::ItemRole role, const QString& text) {
         auto* label = static_cast<QLabel*>(lines_->itemAt(row, role)->widget());
@@ -78,6 +82,7 @@ void MetersWindow::update()
         show(row, QFormLayout::LabelRole, tr("%1:").arg(translatedTitle(title)));
         show(row, QFormLayout::FieldRole, translated(text));
     }
+    setMinimumHeight(layout()->totalHeightForWidth(width())); // for the lines that are wrapped
 }
 
 } // namespace velmora

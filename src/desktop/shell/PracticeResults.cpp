@@ -5,7 +5,6 @@
 #include "desktop/widgets/messages.h"
 #include "platform/pathNames.h"
 #include "platform/writeFile.h"
-#include "preferences/settings.h"
 #include "sequencer/SequenceDocument.h"
 
 #include <QBuffer>
@@ -17,7 +16,7 @@
 
 namespace velmora {
 
-PracticeResults::PracticeResults(QWidget& window) : parent_(window) {}
+PracticeResults::PracticeResults(QWidget& window) : QObject(&window), parent_(window) {}
 
 void PracticeResults::add(const SequenceDocument& document)
 {
@@ -27,7 +26,7 @@ void PracticeResults::add(const SequenceDocument& document)
     std::vector<PracticeEntry> entries{entry};
     QString error;
     if (!path.empty()) {
-        PracticeHistory history(settingsFolder() / "practice", path);
+        PracticeHistory history(practiceFolder(), path);
         try {
             history.add(entry);
         } catch (const std::runtime_error& reason) {

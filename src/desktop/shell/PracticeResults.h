@@ -20,7 +20,7 @@ class PracticeResults : public QObject {
     Q_OBJECT
 
 public:
-    /// `window` is the parent of the window with the results, and must outlive the object.
+    /// `window` owns the object, and is the parent of the window with the results.
     explicit PracticeResults(QWidget& window);
 
     /// Adds the result of the last session, and shows it once the program is idle. A piece without

@@ -1,19 +1,18 @@
 #include "desktop/shell/SequencePage.h"
 
 #include "app/AppDelegate.h"
+#include "desktop/roll/LyricsPanel.h"
 #include "desktop/roll/SequenceScrollView.h"
 #include "desktop/roll/SequenceStatus.h"
 #include "desktop/roll/SequenceView.h"
 #include "desktop/roll/TransportBar.h"
 #include "desktop/shell/exportAudio.h"
-#include "preferences/Preferences.h"
 
 #include <QApplication>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace velmora {
@@ -29,7 +28,8 @@ SequencePage::SequencePage(AppDelegate& application, ShellActions& actions, cons
                            RecoveryFile recovery)
     : application_(application), document_(application.player(), application.playing().reading()),
       editor_(document_), clock_(document_.transport()), keeper_(document_, std::move(recovery)),
-      saver_(*this, document_, actions, name), scrollView_(new SequenceScrollView)
+      saver_(*this, document_, actions, name), scrollView_(new SequenceScrollView),
+      lyrics_(new LyricsPanel(document_))
 {
     makeView();
     connect(&document_, &SequenceDocument::changed, this, &SequencePage::showTitle);
@@ -65,10 +65,10 @@ void SequencePage::makeView()
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(scrollView_, 1);
+    layout->addWidget(lyrics_);
     layout->addWidget(new SequenceStatus(document_));
     scrollView_->view().setDocument(&document_, &editor_);
     setFocusProxy(scrollView_);
-    connect(scrollView_, &SequenceScrollView::zoomed, this, &SequencePage::zoomed);
     connect(scrollView_, &SequenceScrollView::scrolledByUser, this,
             [this] { isScrolledAway_ = document_.transport().mode() != Transport::Mode::Stopped; });
     connect(&document_.transport(), &Transport::scrolled, this, &SequencePage::scrollTo);
@@ -82,6 +82,7 @@ void SequencePage::makeView()
 void SequencePage::showDocument()
 {
     document_.practice().midiInput(); // finds the first notes to practise
+    lyrics_->readLyrics();
     updateRollSize();
     showTitle();
 }
@@ -126,10 +127,16 @@ void SequencePage::exportAudio()
                          [this](const QString& text) { emit message(text); });
 }
 
+void SequencePage::exportStems()
+{
+    velmora::exportStems(*this, document_, saver_.displayName(), application_,
+                         [this](const QString& text) { emit message(text); });
+}
+
 void SequencePage::scrollTo(double step)
 {
     if (!isScrolledAway_)
-        scrollView_->scrollVertically(step * getPrefInt("KeyHeight"));
+        scrollView_->scrollToStep(step);
 }
 
 void SequencePage::showTitle()
@@ -159,8 +166,7 @@ void SequencePage::scrollToNotes()
     const auto& notes = document_.sequence().notes();
     const auto [lowest, highest] = std::ranges::minmax_element(notes, {}, &Note::key);
     const double middle = notes.empty() ? kEmptyMiddle : (lowest->key + highest->key) / 2.0;
-    const auto left = std::lround((middle + 0.5) * getPrefInt("KeyWidth") - width() / 2.0);
-    scrollView_->scrollTo({static_cast<int>(left), 0});
+    scrollView_->scrollToKey(middle);
     if (document_.transport().position() > 0.0) // it was open before
         document_.transport().revealPosition();
 }

@@ -16,6 +16,7 @@ class QKeyEvent;
 namespace velmora {
 
 class AppDelegate;
+class LyricsPanel;
 class SequenceScrollView;
 class ShellActions;
 class TransportBar;
@@ -61,15 +62,15 @@ public:
     /// Writes a sound file that the user chooses.
     void exportAudio();
 
+    /// Writes a sound file of each voice.
+    void exportStems();
+
     /// Says that unsaved changes need not be kept: the user was asked.
     void settle() { isSettled_ = true; }
 
 signals:
     /// The name of the piece has changed, or whether it is modified (`isWindowModified`).
     void titleChanged();
-
-    /// The scale in the preferences has changed; every view that shows keys must be updated.
-    void zoomed();
 
     /// A sentence for the status line.
     void message(const QString& text);
@@ -95,6 +96,7 @@ private:
     RecoveryKeeper keeper_;
     SequenceSaver saver_;
     SequenceScrollView* scrollView_;
+    LyricsPanel* lyrics_;
     std::unique_ptr<TransportBar> transport_; ///< Null unless the page is a window.
     bool isScrolledAway_ = false; ///< True if the user has scrolled away from the moving position.
     bool wasShown_ = false;

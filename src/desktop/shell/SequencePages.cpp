@@ -50,6 +50,7 @@ SequencePages::SequencePages(AppDelegate& application, ShellActions& shell,
             [this] { setCurrent(static_cast<SequencePage*>(tabs_.currentWidget())); });
     connect(&tabs_, &QTabWidget::tabCloseRequested, this,
             [this](int index) { close(*static_cast<SequencePage*>(tabs_.widget(index))); });
+    connect(&actions_, &SequenceActions::rollTurned, this, &SequencePages::updateRollSizes);
     connect(
         qApp, &QGuiApplication::commitDataRequest, this,
         [this](QSessionManager& manager) { answerLogout(manager); }, Qt::DirectConnection);
@@ -79,12 +80,13 @@ SequencePage& SequencePages::makePage(const QString& name, RecoveryFile recovery
     pages_.push_back(page);
     page->installEventFilter(this);
     connect(page, &SequencePage::titleChanged, this, [this, page] { showTitle(*page); });
-    connect(page, &SequencePage::zoomed, this, &SequencePages::zoomed);
     connect(page, &SequencePage::message, this, &SequencePages::message);
     connect(page, &SequencePage::unprotected, this, [this](const QString& why) {
         if (!std::exchange(wasUnprotected_, true))
             emit unprotected(why);
     });
+    connect(&page->document(), &SequenceDocument::voicesUsed, this,
+            [this, page] { stopOthers(*page); });
     connect(&page->document().transport(), &Transport::frame, page, [this, page] {
         keyboard_.refresh();
         if (current_ == page)
@@ -238,6 +240,25 @@ void SequencePages::stopPlaying()
     }
 }
 
+// See docs/decisions.md, 196.
+void SequencePages::stopOthers(SequencePage& page)
+{
+    const auto changesPrograms = [](SequencePage& one) {
+        return !one.document().transport().playback().programs().empty();
+    };
+    const VoiceSounds sounds = page.document().voices().sounds();
+    for (SequencePage* other : pages_) {
+        Transport& transport = other->document().transport();
+        const bool isAlike = other->document().voices().sounds() == sounds &&
+                             !changesPrograms(*other) && !changesPrograms(page);
+        if (other == &page || isAlike || transport.mode() != Transport::Mode::Playing)
+            continue;
+        transport.play(); // stops it
+        emit message(tr("“%1” has stopped, because the voices of “%2” sound otherwise.")
+                         .arg(other->saver().displayName(), page.saver().displayName()));
+    }
+}
+
 void SequencePages::showTitle(SequencePage& page)
 {
     if (const int index = tabs_.indexOf(&page); index >= 0) {
@@ -253,7 +274,11 @@ void SequencePages::setCurrent(SequencePage* page)
 {
     if (page == current_)
         return;
+    if (current_ != nullptr)
+        current_->document().setLive(false);
     current_ = page;
+    if (page != nullptr)
+        page->document().setLive(true);
     actions_.setTarget(page == nullptr ? SequenceActions::Target{} : page->target());
     keyboard_.setDocument(page == nullptr ? nullptr : &page->document().practice());
     emit currentChanged();

@@ -90,9 +90,6 @@ signals:
     /// Another piece, or none, is the current one; or its title has changed.
     void currentChanged();
 
-    /// The scale in the preferences has changed; every view that shows keys must be updated.
-    void zoomed();
-
     /// The user has agreed to close all pages, which are still open.
     void closingAll();
 
@@ -109,6 +106,10 @@ private:
     void show(SequencePage& page);
     void showTitle(SequencePage& page);
     void setCurrent(SequencePage* page);
+
+    /// Stops the pieces that can no longer play, because the voices of a page sound in place of
+    /// theirs.
+    void stopOthers(SequencePage& page);
     void remove(SequencePage& page);
     QString unusedName();
     bool eventFilter(QObject* watched, QEvent* event) override;

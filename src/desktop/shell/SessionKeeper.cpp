@@ -74,7 +74,8 @@ QString SessionKeeper::open(const std::filesystem::path& file, Arrangement arran
             continue;
         }
         Transport& transport = pages_.current()->document().transport();
-        transport.scrollTo(std::min(piece.position, transport.extent()));
+        transport.setPosition(std::min(piece.position, transport.extent()));
+        transport.revealPosition();
         if (&piece == &session.pieces[session.currentPiece])
             current = pages_.current();
     }

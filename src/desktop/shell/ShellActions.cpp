@@ -77,6 +77,9 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
           commands.add("file.export", fileGroup(),
                        {tr("&Export Audio…"), tr("Write a sound file of the piece"), "export"},
                        {Qt::CTRL | Qt::Key_E})),
+      exportStems(commands.add(
+          "file.exportStems", fileGroup(),
+          {tr("Export Voices…"), tr("Write a sound file of each voice of the piece")})),
       exportMidi(commands.add(
           "file.exportMidi", fileGroup(),
           {tr("Export &MIDI in This Tuning…"),
@@ -85,6 +88,9 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
           "file.exportScore", fileGroup(),
           {tr("E&xport Score…"), tr("Write the piece down for a notation program, spelled as the "
                                     "tuning spells it")})),
+      exportRoll(commands.add(
+          "file.exportRoll", fileGroup(),
+          {tr("Export Roll…"), tr("Write the piano roll of the piece for paper, as PDF or PNG")})),
       exportScale(commands.add("file.exportScale", fileGroup(),
                                {tr("Export &Tuning…"),
                                 tr("Write what each key sounds like now as a scale and a keyboard "
@@ -177,7 +183,8 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
     for (QAction* action : {keyboard, instrument, tuning, console, practice, tuningStudio, voices,
                             playLayout, editLayout, stageLayout, ownWindow, noteNames})
         action->setCheckable(true);
-    for (QAction* action : {save, saveAs, exportAudio, exportMidi, exportScore, close, ownWindow})
+    for (QAction* action : {save, saveAs, exportAudio, exportStems, exportMidi, exportScore,
+                            exportRoll, close, ownWindow})
         action->setEnabled(false); // until there is a piece
 
     InstrumentLoader& loader = application_.loader();
@@ -202,7 +209,8 @@ void ShellActions::addFile(QMenu& file) const
     file.addActions({newSequence, open});
     file.addMenu(recent_.get());
     file.addSeparator();
-    file.addActions({save, saveAs, exportAudio, exportMidi, exportScore, exportScale});
+    file.addActions(
+        {save, saveAs, exportAudio, exportStems, exportMidi, exportScore, exportRoll, exportScale});
     file.addSeparator();
     file.addActions({openSession, saveSession});
     file.addSeparator();

@@ -30,7 +30,9 @@ public:
     QAction *const newSequence,
         *const open, *const openSession, *const saveSession, *const save, *const saveAs,
                                                                               *const exportAudio;
-    QAction *const exportMidi, *const exportScore, *const exportScale, *const sendTuning;
+    QAction *const exportStems, *const exportMidi, *const exportScore, *const exportRoll,
+                                                                           *const exportScale,
+                                                                               *const sendTuning;
     QAction *const close, *const preferences, *const quit;
     QAction* const silence;                           ///< Stops every sound at once.
     QAction* const stopLoading;                       ///< Leaves out what is not loaded yet.

@@ -6,22 +6,29 @@
 #include "desktop/widgets/messages.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace velmora {
 
 namespace {
 
-/// The size of the type relative to that of the program.
-constexpr double kInstrumentType = 4.0, kTuningType = 2.5;
+/// The sizes of the type relative to that of the program, and the factor to smaller ones.
+constexpr double kInstrumentType = 4.0, kTuningType = 2.5, kSmallestType = 1.0;
+constexpr double kSmaller = 0.8;
 
-QLabel* addLine(QVBoxLayout& column, double size)
+void setType(QLabel& line, double size)
+{
+    QFont type = QApplication::font();
+    type.setPointSizeF(type.pointSizeF() * size);
+    line.setFont(type);
+}
+
+QLabel* addLine(QVBoxLayout& column)
 {
     auto* line = new QLabel;
-    QFont type = line->font();
-    type.setPointSizeF(type.pointSizeF() * size);
-    line->setFont(type);
     line->setAlignment(Qt::AlignCenter);
     line->setWordWrap(true);
     line->setTextFormat(Qt::PlainText);
@@ -31,15 +38,31 @@ QLabel* addLine(QVBoxLayout& column, double size)
 
 } // namespace
 
+void enlargeType(QWidget& window)
+{
+    constexpr int kTrials = 5;
+    const QSize room = window.screen()->size();
+    QFont type = window.font();
+    const double normal = type.pointSizeF();
+    for (int trial = kTrials; trial >= 0; --trial) {
+        type.setPointSizeF(normal * (1.0 + (kStageType - 1.0) * trial / kTrials));
+        window.setFont(type);
+        QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // so that the size is known
+        if (window.minimumSizeHint().boundedTo(room) == window.minimumSizeHint())
+            return;
+    }
+}
+
 StageView::StageView(AppDelegate& application, const QAction& leave)
     : application_(application), leave_(leave)
 {
     auto* column = new QVBoxLayout(this);
     column->addStretch();
-    instrument_ = addLine(*column, kInstrumentType);
-    tuning_ = addLine(*column, kTuningType);
+    instrument_ = addLine(*column);
+    tuning_ = addLine(*column);
     column->addStretch();
-    hint_ = addLine(*column, 1.0);
+    hint_ = addLine(*column);
+    setType(*hint_, 1.0);
     connect(&leave_, &QAction::changed, this, &StageView::showHint);
     showHint();
     connect(&application_, &AppDelegate::instrumentChanged, this, &StageView::showSound);
@@ -52,6 +75,23 @@ void StageView::showSound()
     instrument_->setText(translatedTitle(application_.soundName()));
     const Tunings& tunings = application_.tunings();
     tuning_->setText(standingTitle(tuningText(application_, tunings.name()).title, tunings));
+    fitType();
+}
+
+void StageView::fitType()
+{
+    for (double size = 1.0; size * kInstrumentType >= kSmallestType; size *= kSmaller) {
+        setType(*instrument_, size * kInstrumentType);
+        setType(*tuning_, size * kTuningType);
+        if (layout()->totalHeightForWidth(width()) <= height())
+            return;
+    }
+}
+
+void StageView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    fitType();
 }
 
 void StageView::showHint()

@@ -9,6 +9,12 @@ namespace velmora {
 
 class AppDelegate;
 
+/// How much larger type is on stage.
+constexpr double kStageType = 1.5;
+
+/// Makes the type of a window as large as on stage, or as large as its screen has room for.
+void enlargeType(QWidget& window);
+
 /// Shows the current instrument and tuning in type that can be read from a distance, and how to
 /// leave the stage, because there is no menu that says so.
 class StageView : public QWidget {
@@ -18,9 +24,16 @@ public:
     /// `leave` is the command that leaves the stage. The arguments must outlive the view.
     StageView(AppDelegate& application, const QAction& leave);
 
+    /// The type adapts to any size.
+    QSize minimumSizeHint() const override { return {0, 0}; }
+
 private:
     void showSound();
     void showHint();
+
+    /// Makes the type as large as the view has room for.
+    void fitType();
+    void resizeEvent(QResizeEvent* event) override;
 
     AppDelegate& application_;
     const QAction& leave_;

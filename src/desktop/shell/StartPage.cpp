@@ -25,8 +25,8 @@ constexpr int kMargin = 20;
 /// A card is at least as wide as this many letters.
 constexpr int kCardLetters = 26;
 
-/// Below a console, fewer lines of text than this are left for the page.
-constexpr int kLowLines = 14;
+/// Below a console, or in large type, there is room for fewer lines of text than this.
+constexpr int kLowLines = 18;
 
 constexpr const char* kExplanation = "explanation"; ///< What a low page leaves out.
 

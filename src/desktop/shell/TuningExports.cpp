@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/scorePiece.h"
 #include "app/tunedMidi.h"
+#include "desktop/roll/writeRoll.h"
 #include "desktop/shell/SendTuningDialog.h"
 #include "desktop/shell/SequencePage.h"
 #include "desktop/shell/SequencePages.h"
@@ -16,6 +17,9 @@
 #include "tuning/soundingScale.h"
 
 #include <QAction>
+#include <QDir>
+#include <QFileInfo>
+#include <QInputDialog>
 #include <QMessageBox>
 
 #include <cmath>
@@ -25,11 +29,30 @@ namespace velmora {
 
 namespace {
 
+constexpr int kBarsInALine = 4, kMostBars = 32; // of a roll on paper
+
 /// Turns the name of a tuning into one for a file.
 QString fileName(const std::string& tuning)
 {
     QString name = QString::fromStdString(tuning).replace('/', '-');
     return name.endsWith(".scl", Qt::CaseInsensitive) ? name.chopped(4) : name;
+}
+
+/// Returns the name of a piece without the extension of its file.
+QString titleOf(SequencePage& page)
+{
+    const std::filesystem::path& path = page.document().path();
+    return path.empty() ? page.saver().displayName() : displayName(path.stem());
+}
+
+/// Returns the path of a file in the folder of the piece, or else, if nothing can be written there,
+/// the name of the file.
+QString besidePiece(SequencePage& page, const QString& name)
+{
+    const std::filesystem::path folder = page.document().path().parent_path();
+    return !folder.empty() && QFileInfo(textOf(folder)).isWritable()
+               ? QDir(textOf(folder)).filePath(name)
+               : name;
 }
 
 } // namespace
@@ -41,10 +64,11 @@ TuningExports::TuningExports(AppDelegate& application, ShellActions& actions, Se
 {
     connect(actions.exportMidi, &QAction::triggered, this, &TuningExports::exportMidi);
     connect(actions.exportScore, &QAction::triggered, this, &TuningExports::exportScore);
+    connect(actions.exportRoll, &QAction::triggered, this, &TuningExports::exportRoll);
     connect(actions.exportScale, &QAction::triggered, this, &TuningExports::exportScale);
     connect(actions.sendTuning, &QAction::triggered, this, &TuningExports::showSendDialog);
     connect(&pages, &SequencePages::currentChanged, this, [this, &actions] {
-        for (QAction* action : {actions.exportMidi, actions.exportScore})
+        for (QAction* action : {actions.exportMidi, actions.exportScore, actions.exportRoll})
             action->setEnabled(pages_.current() != nullptr);
     });
     connect(&sender_, &TuningSender::failed, this,
@@ -67,13 +91,13 @@ void TuningExports::save(const QString& path,
 void TuningExports::exportMidi()
 {
     SequencePage* page = pages_.current();
-    const QString name = page->saver().displayName();
     const QString path = askWhereToSave(
         window_, {.title = tr("Export MIDI in This Tuning"),
                   .kinds = {{tr("MIDI File"), {"mid"}}},
-                  .proposal = tr("%1 in %2", "a piece in a tuning")
-                                  .arg(name, fileName(application_.tunings().name())) +
-                              ".mid",
+                  .proposal = besidePiece(
+                      *page, tr("%1 in %2", "a piece in a tuning")
+                                     .arg(titleOf(*page), fileName(application_.tunings().name())) +
+                                 ".mid"),
                   .folderKey = "exportFolder"});
     if (path.isEmpty())
         return;
@@ -97,18 +121,37 @@ void TuningExports::exportMidi()
 void TuningExports::exportScore()
 {
     SequencePage* page = pages_.current();
-    const QString name = page->saver().displayName();
+    const QString title = titleOf(*page);
     const QString path =
         askWhereToSave(window_, {.title = tr("Export Score"),
                                  .kinds = {{"MusicXML", {"musicxml"}}, {"LilyPond", {"ly"}}},
-                                 .proposal = name + ".musicxml",
+                                 .proposal = besidePiece(*page, title + ".musicxml"),
                                  .folderKey = "exportFolder"});
     if (path.isEmpty())
         return;
     save(path, [&](const std::filesystem::path& file) {
         writeScore(file,
-                   pieceOf(page->document(), name.toStdString(), *application_.tunings().fresh()));
+                   pieceOf(page->document(), title.toStdString(), *application_.tunings().fresh()));
     });
+}
+
+void TuningExports::exportRoll()
+{
+    SequencePage* page = pages_.current();
+    const QString title = titleOf(*page);
+    bool isChosen = false;
+    const int bars = QInputDialog::getInt(&window_, tr("Export Roll"), tr("&Bars in a line:"),
+                                          kBarsInALine, 1, kMostBars, 1, &isChosen);
+    if (!isChosen)
+        return;
+    const QString path = askWhereToSave(window_, {.title = tr("Export Roll"),
+                                                  .kinds = {{"PDF", {"pdf"}}, {"PNG", {"png"}}},
+                                                  .proposal = besidePiece(*page, title + ".pdf"),
+                                                  .folderKey = "exportFolder"});
+    if (!path.isEmpty())
+        save(path, [&](const std::filesystem::path& file) {
+            writeRoll(file, page->document(), title, bars);
+        });
 }
 
 void TuningExports::exportScale()
@@ -121,7 +164,7 @@ void TuningExports::exportScale()
     if (path.isEmpty())
         return;
     save(path, [&](const std::filesystem::path& file) {
-        SoundingScale sounding;
+        TuningShape sounding;
         application_.player().with([&](const Instrument&, const Temperament& temperament) {
             sounding = soundingScale(temperament, name);
         });

@@ -18,8 +18,8 @@ class AppDelegate;
 class SequencePages;
 class ShellActions;
 
-/// The commands that take the current tuning elsewhere: into a MIDI file, a score or a scale, and
-/// to a MIDI device.
+/// The commands that take the current piece or the current tuning elsewhere: into a MIDI file, a
+/// score, a picture or a scale, and to a MIDI device.
 class TuningExports : public QObject {
     Q_OBJECT
 
@@ -35,6 +35,7 @@ signals:
 private:
     void exportMidi();
     void exportScore();
+    void exportRoll();
     void exportScale();
     void showSendDialog();
 

@@ -23,6 +23,7 @@
 #include "desktop/widgets/LearnMenu.h"
 #include "desktop/widgets/scrolling.h"
 #include "desktop/widgets/windowPlace.h"
+#include "preferences/Preferences.h"
 #include "preferences/settings.h"
 
 #include <QApplication>
@@ -46,19 +47,28 @@ constexpr int kLayoutVersion = 5;
 constexpr const char* kLayoutKey = "layout";
 
 /// The first sizes of the panels in pixels.
-constexpr int kInstrumentWidth = 280, kTuningWidth = 250;
-constexpr int kConsoleHeight = 330;
+constexpr int kInstrumentWidth = 280, kTuningWidth = 250, kConsoleHeight = 330;
 constexpr int kKeyboardHeight = 150, kEditKeyboardHeight = 100, kStageKeyboardHeight = 300;
 constexpr QSize kFirstSize(1240, 760);
 
-/// How much larger the type is on stage, and how many steps lead there.
-constexpr double kStageType = 1.5;
-constexpr int kTypeTrials = 5;
+/// With less room than this many letters between the panels, they share one side.
+constexpr int kCentreLetters = 60;
+
+/// A window of this height has no room for a console above a piece.
+constexpr int kLowWindow = 900;
 
 std::string layoutKey(Workspace::Layout layout)
 {
     constexpr std::array kNames = {"play", "edit", "stage"};
     return std::string("layouts/") + kNames.at(static_cast<std::size_t>(layout));
+}
+
+/// Brings a panel before those that share its place. `raise` alone does nothing for the panel that
+/// was raised last, even if the user has clicked the tab of another since.
+void bringForward(QDockWidget& dock)
+{
+    dock.lower();
+    dock.raise();
 }
 
 } // namespace
@@ -96,7 +106,7 @@ Workspace::Workspace(AppDelegate& application, Commands& commands, ShellActions&
     keyboardColumn->addWidget(new DivisionChooser(application));
     keyboardColumn->addWidget(fallingNotes_, 1);
     keyboardColumn->addWidget(keyboard_, 1);
-    fallingNotes_->hide();
+    fallingNotes_->setVisible(getPrefBool("FallingNotes"));
     keyboardDock_ = addPanel("keyboard", tr("Keyboard"), keyboardPanel, *shell.keyboard);
     instrumentDock_ = addPanel("instrument", tr("Instrument"), instrument_, *shell.instrument);
     tuningDock_ = addPanel("tuning", tr("Tuning"), tuning_, *shell.tuning);
@@ -128,8 +138,11 @@ QDockWidget* Workspace::addPanel(const char* name, const QString& title, QWidget
     auto* dock = new QDockWidget(title, this);
     dock->setObjectName(name);
     dock->setWidget(panel);
-    connect(&toggle, &QAction::triggered, this, [this, dock](bool on) {
-        if (on)
+    connect(&toggle, &QAction::triggered, this, [this, dock, &toggle](bool on) {
+        // A panel that another one covers comes to the front.
+        const bool isCovered = dock->isVisible() && dock->visibleRegion().isEmpty();
+        toggle.setChecked(on || isCovered);
+        if (on || isCovered)
             showPanel(*dock);
         else
             dock->hide();
@@ -235,11 +248,19 @@ void Workspace::saveLayout() const
 
 void Workspace::restoreLayout()
 {
+    const bool isStage = layout_ == Layout::Stage;
+    // The window must not grow meanwhile: one that is larger than the screen cannot fill it.
+    QWidget::layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    setMinimumSize(0, 0);
+    menuBar()->setVisible(!isStage);
+    transport_->setVisible(!isStage);
+    setFont(QApplication::font(this)); // the panels have room for the type that they had here
+    showCentre();
     const QByteArray state = preference(layoutKey(layout_)).toByteArray();
     if (state.isEmpty() || !restoreState(state, kLayoutVersion))
         arrange();
     showConsole();
-    showStage(layout_ == Layout::Stage);
+    showStage(isStage);
     const std::array actions = {shell_.playLayout, shell_.editLayout, shell_.stageLayout};
     actions.at(static_cast<std::size_t>(layout_))->setChecked(true);
 }
@@ -253,13 +274,21 @@ void Workspace::arrange()
     }
     addDockWidget(Qt::LeftDockWidgetArea, instrumentDock_);
     addDockWidget(Qt::RightDockWidgetArea, tuningDock_);
+    if (layout_ != Layout::Stage && isNarrow())
+        tabifyDockWidget(instrumentDock_, tuningDock_);
     addDockWidget(Qt::RightDockWidgetArea, studioDock_);
     addDockWidget(Qt::LeftDockWidgetArea, voicesDock_);
     tabifyDockWidget(tuningDock_, studioDock_);
     addDockWidget(Qt::RightDockWidgetArea, practiceDock_);
     tabifyDockWidget(studioDock_, practiceDock_);
     addDockWidget(Qt::BottomDockWidgetArea, keyboardDock_);
-    addDockWidget(Qt::TopDockWidgetArea, consoleDock_);
+    if (layout_ == Layout::Stage || height() > kLowWindow)
+        addDockWidget(Qt::TopDockWidgetArea, consoleDock_);
+    else if (isNarrow()) // otherwise the piece needs the room above the keyboard
+        tabifyDockWidget(tuningDock_, consoleDock_);
+    else
+        splitDockWidget(instrumentDock_, consoleDock_, Qt::Vertical);
+    isConsoleNew_ = true;
     keyboardDock_->show();
     instrumentDock_->setVisible(layout_ != Layout::Edit);
     tuningDock_->setVisible(layout_ != Layout::Edit);
@@ -273,43 +302,43 @@ void Workspace::arrange()
                 {static_cast<int>(kInstrumentWidth * type), static_cast<int>(kTuningWidth * type)},
                 Qt::Horizontal);
     resizeDocks({consoleDock_}, {static_cast<int>(kConsoleHeight * type)}, Qt::Vertical);
-    resizeDocks({keyboardDock_}, {kHeights.at(static_cast<std::size_t>(layout_))}, Qt::Vertical);
+    const int keyboardHeight = kHeights.at(static_cast<std::size_t>(layout_));
+    resizeDocks(
+        {keyboardDock_},
+        {layout_ == Layout::Stage ? keyboardHeight : std::min(keyboardHeight, height() / 5)},
+        Qt::Vertical);
+    bringForward(*instrumentDock_);
+}
+
+bool Workspace::isNarrow() const
+{
+    const int panels = std::max(kInstrumentWidth, instrumentDock_->minimumSizeHint().width()) +
+                       std::max(kTuningWidth, tuningDock_->minimumSizeHint().width());
+    return width() - panels < kCentreLetters * fontMetrics().averageCharWidth();
 }
 
 void Workspace::showStage(bool isStage)
 {
-    menuBar()->setVisible(!isStage);
-    transport_->setVisible(!isStage);
-    setFont(QApplication::font(this));
-    showCentre();
     QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // the type becomes smaller
-    // A window that is larger than the screen cannot fill it.
-    QWidget::layout()->setSizeConstraint(isStage ? QLayout::SetNoConstraint
-                                                 : QLayout::SetDefaultConstraint);
     if (isStage)
-        enlargeType();
+        enlargeType(*this);
+    else
+        QWidget::layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
+    QWidget::layout()->activate();
     if (isStage != isFullScreen())
         setWindowState(windowState() ^ Qt::WindowFullScreen);
-}
-
-void Workspace::enlargeType()
-{
-    const QSize room = screen()->size();
-    QFont type = font();
-    const double normal = type.pointSizeF();
-    for (int trial = kTypeTrials; trial >= 0; --trial) {
-        type.setPointSizeF(normal * (1.0 + (kStageType - 1.0) * trial / kTypeTrials));
-        setFont(type);
-        QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // so that the size is known
-        if (minimumSizeHint().boundedTo(room) == minimumSizeHint())
-            return;
-    }
 }
 
 void Workspace::showConsole()
 {
     shell_.console->setEnabled(console_->isNeeded());
     consoleDock_->setVisible(console_->isNeeded() && layout_ != Layout::Edit);
+    if (!consoleDock_->isVisibleTo(this) || !std::exchange(isConsoleNew_, false) ||
+        dockWidgetArea(consoleDock_) != Qt::LeftDockWidgetArea)
+        return;
+    // A panel gets a size only while it is visible.
+    resizeDocks({instrumentDock_, consoleDock_}, {1, 2}, Qt::Vertical);
+    bringForward(*consoleDock_);
 }
 
 void Workspace::showCentre()
@@ -320,7 +349,7 @@ void Workspace::showCentre()
 void Workspace::showPanel(QDockWidget& dock)
 {
     dock.show();
-    dock.raise();
+    bringForward(dock);
     QWidget* panel = dock.widget();
     for (QWidget* next = panel; panel->isAncestorOf(next) || next == panel;
          next = next->nextInFocusChain()) {

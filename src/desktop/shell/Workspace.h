@@ -84,10 +84,12 @@ private:
 
     /// Arranges the panels as they are at first.
     void arrange();
+
+    /// Returns whether panels on both sides would leave little room for the piece.
+    bool isNarrow() const;
     void showStage(bool isStage);
 
     /// Makes the type as large as the screen has room for, up to that of the stage.
-    void enlargeType();
     void showCentre();
     void showConsole();
     void showPanel(QDockWidget& dock);
@@ -114,6 +116,7 @@ private:
     QDockWidget *keyboardDock_, *instrumentDock_, *tuningDock_, *studioDock_, *consoleDock_,
         *practiceDock_, *voicesDock_;
     bool wasShown_ = false;
+    bool isConsoleNew_ = false; ///< The panels were arranged, and the console was not shown since.
 };
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #include "desktop/shell/exportAudio.h"
 
 #include "app/AudioExport.h"
+#include "desktop/shell/StemsDialog.h"
 #include "desktop/shell/askWhereToSave.h"
 #include "platform/pathNames.h"
 #include "sequencer/SequenceDocument.h"
@@ -25,11 +26,13 @@ class ExportProgress : public QProgressDialog {
     Q_DECLARE_TR_FUNCTIONS(velmora::ExportProgress)
 
 public:
-    ExportProgress(QWidget& page, const QString& path, std::function<void(const QString&)> tell)
+    /// `title` is that of the window, and `name` what is exported.
+    ExportProgress(QWidget& page, const QString& title, QString name,
+                   std::function<void(const QString&)> tell)
         : QProgressDialog(tr("Loading the instrument"), tr("Cancel"), 0, kProgressSteps, &page),
-          page_(page), path_(path), tell_(std::move(tell))
+          page_(page), name_(std::move(name)), tell_(std::move(tell))
     {
-        setWindowTitle(tr("Export Audio"));
+        setWindowTitle(title);
         setAutoClose(false);
         setAutoReset(false);
         setMinimumDuration(0);
@@ -39,10 +42,11 @@ public:
         connect(&export_, &AudioExport::finished, this, &ExportProgress::finish);
     }
 
-    void start(const SequenceDocument& document, AppDelegate& application)
+    void start(const SequenceDocument& document, AppDelegate& application,
+               std::vector<SoundTarget> targets)
     {
         export_.start(currentSettings(application), document.snapshot(),
-                      document.transport().speed(), pathOf(path_));
+                      document.transport().speed(), std::move(targets));
     }
 
 private:
@@ -50,7 +54,7 @@ private:
     {
         if (wasCanceled())
             return;
-        setLabelText(tr("%1: %2").arg(displayName(pathOf(path_)), what));
+        setLabelText(tr("%1: %2").arg(name_, what));
         setValue(static_cast<int>(done * kProgressSteps));
     }
 
@@ -58,16 +62,15 @@ private:
     {
         deleteLater();
         hide();
-        const QString name = displayName(pathOf(path_));
         if (isWritten)
-            tell_(tr("Exported %1").arg(name));
+            tell_(tr("Exported %1").arg(name_));
         else if (!error.isEmpty())
             QMessageBox::warning(&page_, tr("Velmora"),
-                                 tr("%1 was not exported. %2").arg(name, error));
+                                 tr("%1 was not exported. %2").arg(name_, error));
     }
 
     QWidget& page_;
-    QString path_;
+    QString name_;
     std::function<void(const QString&)> tell_;
     AudioExport export_;
 };
@@ -91,7 +94,20 @@ void exportAudio(QWidget& page, const SequenceDocument& document, const QString&
                                                .proposal = proposal,
                                                .folderKey = "exportFolder"});
     if (!path.isEmpty())
-        (new ExportProgress(page, path, tell))->start(document, application);
+        (new ExportProgress(page, ExportProgress::tr("Export Audio"), displayName(pathOf(path)),
+                            tell))
+            ->start(document, application, {{pathOf(path)}});
+}
+
+void exportStems(QWidget& page, const SequenceDocument& document, const QString& name,
+                 AppDelegate& application, const std::function<void(const QString&)>& tell)
+{
+    const QString piece =
+        document.path().empty() ? name : displayName(std::filesystem::path(document.path()).stem());
+    StemsDialog dialog(document.snapshot(), piece, &page);
+    if (dialog.exec() == QDialog::Accepted)
+        (new ExportProgress(page, dialog.windowTitle(), piece, tell))
+            ->start(document, application, dialog.targets());
 }
 
 bool isExportingAudio(const QWidget& page)

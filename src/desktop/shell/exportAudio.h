@@ -17,6 +17,11 @@ class SequenceDocument;
 void exportAudio(QWidget& page, const SequenceDocument& document, const QString& name,
                  AppDelegate& application, const std::function<void(const QString&)>& tell);
 
+/// Asks for a folder and renders each voice of a sequence to a sound file of its own there, in the
+/// same way.
+void exportStems(QWidget& page, const SequenceDocument& document, const QString& name,
+                 AppDelegate& application, const std::function<void(const QString&)>& tell);
+
 /// Returns whether an export from this page is running.
 bool isExportingAudio(const QWidget& page);
 

@@ -14,7 +14,11 @@ constexpr double kPrecision = 1.0; ///< In cents.
 
 /// The rings as parts of the greatest radius.
 constexpr double kNoteRing = 0.74, kFifthRing = 0.92;
-constexpr double kThirdsAcross = 0.45, kThirdsUp = 0.5; // their labels are wider than high
+constexpr double kThirdsUp = 0.5;
+
+/// The ring of the thirds is narrow at the sides, where their labels would reach the notes, and
+/// wide at the top and at the bottom, where they would reach each other.
+constexpr double kThirdsAcross = 0.465, kThirdsWidened = 0.06;
 constexpr double kLargestNote = 20.0;
 
 double centsBetween(double low, double high)
@@ -74,8 +78,9 @@ QPointF CircleGeometry::fifth(std::size_t position) const
 
 QPointF CircleGeometry::third(std::size_t position) const
 {
-    const double greatest = ring_ / kNoteRing;
-    return at(static_cast<double>(position), kThirdsAcross * greatest, kThirdsUp * greatest);
+    const double greatest = ring_ / kNoteRing, place = static_cast<double>(position);
+    const QPointF widened = at(3 * place, kThirdsWidened * greatest, 0.0) - centre_;
+    return at(place, kThirdsAcross * greatest, kThirdsUp * greatest) + widened;
 }
 
 std::optional<std::size_t> CircleGeometry::noteAt(QPointF point) const

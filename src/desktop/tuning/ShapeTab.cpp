@@ -5,7 +5,7 @@
 #include "desktop/widgets/noteNames.h"
 #include "desktop/widgets/scrolling.h"
 #include "tuning/TuningDocument.h"
-#include "tuning/keyName.h"
+#include "tuning/spelling.h"
 
 #include <QDoubleSpinBox>
 #include <QGridLayout>
@@ -86,7 +86,7 @@ void ShapeTab::makeTools()
 
 QString ShapeTab::nameOf(std::size_t degree) const
 {
-    return shaper_.notes() == 12 ? toneText(keyName(static_cast<unsigned>(degree)))
+    return shaper_.notes() == 12 ? toneText(rootName(static_cast<int>(degree)))
                                  : QString::number(degree);
 }
 

@@ -4,7 +4,6 @@
 #include "desktop/tuning/intervalText.h"
 #include "desktop/widgets/noteNames.h"
 #include "sound/keys.h"
-#include "tuning/keyName.h"
 #include "tuning/spelling.h"
 
 #include <QEvent>
@@ -96,7 +95,7 @@ void TuningStrip::read()
     Tones tones;
     for (unsigned tone = 0; tone < pitches.size(); ++tone) {
         const std::string name = spelling(cents(pitches[tone], base));
-        tones[tone] = {name.empty() ? keyName(tone) : name,
+        tones[tone] = {name.empty() ? rootName(static_cast<int>(tone)) : name,
                        cents(pitches[tone], equal.getPitch(kMiddleC + tone))};
     }
     if (tones == tones_)

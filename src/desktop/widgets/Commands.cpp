@@ -61,6 +61,23 @@ void Commands::setShortcut(QAction& action, const QKeySequence& shortcut)
     emit shortcutsChanged();
 }
 
+void Commands::setDefaults(QAction& action, const QList<QKeySequence>& shortcuts)
+{
+    const auto command = std::ranges::find(commands_, &action, &Command::action);
+    command->defaultShortcuts = shortcuts;
+    if (preference(shortcutsKey(action)).isValid())
+        return;
+    assign(action, shortcuts);
+    emit shortcutsChanged();
+}
+
+const Commands::Command& Commands::find(const char* id) const
+{
+    return *std::ranges::find_if(commands_, [&](const Command& command) {
+        return command.action->objectName() == QLatin1String(id);
+    });
+}
+
 void Commands::restoreDefaults()
 {
     for (const Command& command : commands_) {

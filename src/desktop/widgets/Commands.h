@@ -46,8 +46,15 @@ public:
     /// the choice.
     void setShortcut(QAction& action, const QKeySequence& shortcut);
 
+    /// Gives a command other default shortcuts, which it also takes unless the user has chosen
+    /// some.
+    void setDefaults(QAction& action, const QList<QKeySequence>& shortcuts);
+
     /// Gives every command its default shortcuts, and forgets the choices of the user.
     void restoreDefaults();
+
+    /// Returns the command with an identity, which must exist.
+    const Command& find(const char* id) const;
 
     /// Returns the first command other than `action` that has a shortcut; null if none has.
     QAction* userOf(const QKeySequence& shortcut, const QAction& action) const;

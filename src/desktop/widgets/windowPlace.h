@@ -11,7 +11,8 @@ namespace velmora {
 /// Returns the largest size for a window that opens for the first time: most of its screen.
 QSize roomFor(const QWidget& window);
 
-/// Restores the size and position that were last stored under `name`. From now on stores them when
+/// Restores the size and position that were last stored under `name`; without any, the window opens
+/// in the middle of the active one. From now on stores them when
 /// the window is hidden or the program ends, but not while the widget is a part of another window.
 /// Call it before the window is shown.
 void rememberPlace(QWidget& window, const std::string& name);

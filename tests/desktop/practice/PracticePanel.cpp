@@ -3,6 +3,7 @@
 #include "desktop/keyboard/KeyboardView.h"
 #include "desktop/practice/FallingNotes.h"
 #include "desktop/practice/PracticePicture.h"
+#include "desktop/roll/SequenceStatus.h"
 #include "midi/midiRead.h"
 #include "preferences/Preferences.h"
 #include "sequencer/PracticeResult.h"
@@ -17,6 +18,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QTemporaryDir>
 
 namespace velmora {
 
@@ -41,7 +43,14 @@ protected:
         panel_.setDocument(&piece_);
     }
 
-    ~PracticePanelTest() override { panel_.setDocument(nullptr); }
+    ~PracticePanelTest() override
+    {
+        panel_.setDocument(nullptr);
+        for (const char* key :
+             {"PracticeHand", "PracticeSplit", "PracticeFaster", "PracticeTolerance",
+              "PracticeSlowsDown", "PracticeWaits", "FallingNotes", "KeyRangeLo", "KeyRangeHi"})
+            resetPref(key);
+    }
 
     void put(unsigned key, double start, unsigned channel)
     {
@@ -72,7 +81,6 @@ TEST_F(PracticePanelTest, PractisesWhatIsChosen)
     panel_.findChild<QComboBox*>()->setCurrentIndex(1); // the right hand
     setPrefInt("KeyRangeHi", 90);
     const PracticePart part = panel_.options().part;
-    resetPref("KeyRangeHi");
     EXPECT_EQ(part.channels.to_ulong() & 3U, 2U) << "not the bass";
     EXPECT_EQ(part.lowestKey, 60U);
     EXPECT_EQ(part.highestKey, 90U) << "the keyboard ends there";
@@ -99,6 +107,81 @@ TEST_F(PracticePanelTest, PractisesWhatIsChosen)
     panel_.setDocument(nullptr);
     EXPECT_FALSE(piece_.practiceSession().isRunning()) << "another piece is shown";
     EXPECT_EQ(finished.size(), 1);
+}
+
+TEST_F(PracticePanelTest, RemembersHowThePlayerPractises)
+{
+    panel_.findChild<QComboBox*>()->setCurrentIndex(2);
+    for (QCheckBox* check : panel_.findChildren<QCheckBox*>())
+        check->toggle();
+    for (QSpinBox* number : panel_.findChildren<QSpinBox*>())
+        number->stepUp();
+    PracticePanel later;
+    const PracticeOptions before = panel_.options(), options = later.options();
+    EXPECT_EQ(options.part.highestKey, 60U) << "the left hand";
+    EXPECT_FALSE(options.waits);
+    EXPECT_TRUE(options.slowsDown);
+    EXPECT_DOUBLE_EQ(options.tolerance, 0.201);
+    EXPECT_DOUBLE_EQ(options.speedStep, 0.06);
+    EXPECT_EQ(before.part.highestKey, options.part.highestKey);
+    EXPECT_TRUE(later.findChildren<QCheckBox*>().back()->isChecked()) << "falling notes";
+}
+
+TEST_F(PracticePanelTest, RemembersTheVoicesAndBarsOfAPiece)
+{
+    const QTemporaryDir folder;
+    const auto path = [&](const char* name) { return folder.filePath(name).toStdString(); };
+    constexpr auto kMidi = SequenceFormat::MidiFile;
+    ASSERT_TRUE(piece_.save(path("other.mid"), kMidi, SequenceDocument::SaveOperation::SaveAs));
+    ASSERT_TRUE(piece_.save(path("piece.mid"), kMidi, SequenceDocument::SaveOperation::SaveAs));
+    auto& list = *panel_.findChild<QListWidget*>();
+    list.item(0)->setCheckState(Qt::Unchecked);
+    box<QSpinBox>("First bar").setValue(2);
+    box<QSpinBox>("Last bar").setValue(2);
+    button().click();
+    button().click();
+    SequenceDocument other(*this, Reading::Musical);
+    other.read(path("other.mid"));
+    panel_.setDocument(&other);
+    list.item(0)->setCheckState(Qt::Checked);
+    box<QSpinBox>("Last bar").setValue(3);
+    SequenceDocument again(*this, Reading::Musical);
+    again.read(path("piece.mid"));
+    panel_.setDocument(&again);
+    EXPECT_EQ(panel_.options().part.channels.to_ulong() & 3U, 2U);
+    EXPECT_EQ(box<QSpinBox>("Last bar").value(), 2);
+    panel_.setDocument(&piece_);
+}
+
+TEST_F(PracticePanelTest, NamesTheVoices)
+{
+    const auto& list = *panel_.findChild<QListWidget*>();
+    list.item(0)->setCheckState(Qt::Unchecked);
+    Voices voices = piece_.voices();
+    voices[1].name = "Flöte";
+    piece_.setVoices(voices, {});
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(list.item(0)->text(), "Voice 1");
+    EXPECT_EQ(list.item(0)->checkState(), Qt::Unchecked) << "stays as it was chosen";
+    EXPECT_EQ(list.item(1)->text(), "Flöte");
+}
+
+TEST_F(PracticePanelTest, SaysWhichKeysComeNext)
+{
+    const SequenceStatus status(piece_);
+    PracticeOptions options;
+    options.part.channels = 0b10;
+    const auto says = [&](const QString& text) {
+        EXPECT_TRUE(piece_.practiceSession().start(options));
+        now_ += 0.1;
+        piece_.transport().tick();
+        return std::ranges::any_of(status.findChildren<QLabel*>(),
+                                   [&](const QLabel* label) { return label->text() == text; });
+    };
+    EXPECT_TRUE(says("Waiting for C5"));
+    options.waits = false;
+    EXPECT_TRUE(says("Next: C5"));
+    piece_.practiceSession().stop();
 }
 
 TEST_F(PracticePanelTest, LetsNotesFallOntoTheirKeys)
@@ -130,14 +213,21 @@ TEST_F(PracticePanelTest, LetsNotesFallOntoTheirKeys)
     options.part.channels = 0b10;
     ASSERT_TRUE(piece_.practiceSession().start(options));
     EXPECT_EQ(colorAt(72, 200), melody);
-    EXPECT_NE(colorAt(48, 40), bass) << "grey, because nobody waits for it";
+    const QRgb others = colorAt(48, 40);
+    EXPECT_NE(others, bass) << "grey, because nobody waits for it";
     piece_.practiceSession().stop();
+    setPrefInt("KeyRangeHi", 70);
+    piece_.transport().setPosition(0.0);
+    const QImage image = notes.grab().toImage();
+    const KeyboardPicture fewer = keyboard.picture();
+    const int edge = static_cast<int>(fewer.origin + fewer.geometry.right()) - 3;
+    EXPECT_EQ(image.pixel(edge, 639 - 200), others) << "no key of the keyboard plays it";
     notes.setDocument(nullptr);
 }
 
 TEST(PracticePicture, ShowsBarsAndDelays)
 {
-    PracticeSummary summary{.bars = {{1, 4, 0, 0.0}, {2, 1, 3, 0.0}}};
+    PracticeSummary summary{.bars = {{1, 4, 0, 0, 0.0}, {2, 1, 3, 0, 0.0}}};
     summary.delays.front() = 1;
     const auto picture = [&] {
         QImage image(400, 400, QImage::Format_RGB32);
@@ -150,6 +240,9 @@ TEST(PracticePicture, ShowsBarsAndDelays)
     std::swap(summary.bars[1].right, summary.bars[1].wrong);
     EXPECT_NE(picture(), first) << "wrong keys look different";
     std::swap(summary.bars[1].right, summary.bars[1].wrong);
+    std::swap(summary.bars[0].right, summary.bars[0].missed);
+    EXPECT_NE(picture(), first) << "missed keys look different";
+    std::swap(summary.bars[0].right, summary.bars[0].missed);
     std::swap(summary.delays.front(), summary.delays.back());
     EXPECT_NE(picture(), first);
 }

@@ -91,6 +91,11 @@ TEST_F(LanesTest, VelocitiesAreDrawnOverBars)
     editor.select([](const Note& note) { return note.start == 6.0; }, Qt::NoModifier);
     drag({0.7, 2.0}, {0.7, 8.0}, Qt::ShiftModifier);
     EXPECT_THAT(velocities(), ElementsAre(10, 5, 7, 10)) << "only the selected note";
+    Voices voices = document_.voices();
+    voices[0].isLocked = true;
+    document_.mixVoices(voices);
+    drag({0.1, 2.0}, {0.1, 8.0}, Qt::ShiftModifier);
+    EXPECT_THAT(velocities(), ElementsAre(10, 5, 7, 10)) << "the voice is locked";
     scrollView.lanes().show(LaneKind::None);
     EXPECT_FALSE(scrollView.lanes().isVisible());
 }

@@ -63,7 +63,8 @@ TEST_F(RollColorsTest, NotesAndKeysStandOutInEveryTheme)
                                      {0x000000, 0xffffff}}) {
         const QPalette palette = theme(base, text);
         const RollColors colors(palette);
-        std::vector<RollShade> notes{colors.playing, colors.recorded, colors.outline};
+        std::vector<RollShade> notes{colors.playing, colors.recorded, colors.outline,
+                                     colors.leftOut};
         for (unsigned channel = 0; channel < 16; ++channel)
             for (const float velocity : {0.0F, 0.5F, 1.0F})
                 notes.push_back(colors.atRest({.velocity = velocity, .channel = channel}));
@@ -77,10 +78,24 @@ TEST_F(RollColorsTest, NotesAndKeysStandOutInEveryTheme)
         EXPECT_LT(strength(colors.stepLine), strength(colors.beatLine)) << base;
         EXPECT_LT(strength(colors.beatLine), strength(colors.barLine)) << base;
         EXPECT_LT(strength(colors.blackColumn), 1.2) << base;
+        EXPECT_LT(contrast(asColor(colors.whiteColumn), QColor(base)), 1.2)
+            << "as dark as the theme";
         for (const char* key : {"KeyColor", "KeyColorCorrect", "KeyColorSustain", "KeyColorWrong"})
             for (const QRgb face : {0xffffff, 0x2b2b31})
                 EXPECT_GE(contrast(schemeColor(key, palette).toQColor(), QColor(face)), 3.0) << key;
     }
+}
+
+TEST_F(RollColorsTest, NotesThatNeedNotBePractisedAreGray)
+{
+    add(60, 8.0, 4.0);
+    add(72, 8.0, 4.0);
+    RollColors colors(theme(0xffffff, 0));
+    EXPECT_EQ(count(drawn(colors), colors.leftOut), 0U);
+    colors.practised = PracticePart{.lowestKey = 48, .highestKey = 71};
+    EXPECT_GT(count(drawn(colors), colors.leftOut), 0U);
+    EXPECT_EQ(colors.of(document_.sequence().notes()[1]), asColor(colors.leftOut));
+    EXPECT_NE(colors.of(document_.sequence().notes()[0]), asColor(colors.leftOut));
 }
 
 TEST_F(RollColorsTest, ColorsFollowTheVoiceUnlessTheUserHasChosenOne)

@@ -9,12 +9,16 @@
 #include <QtTest>
 #include <gmock/gmock.h>
 
+#include <array>
 #include <cmath>
 
 namespace velmora {
 
+using testing::AllOf;
 using testing::ElementsAre;
+using testing::Ge;
 using testing::IsEmpty;
+using testing::Le;
 
 namespace {
 
@@ -174,7 +178,7 @@ TEST_F(SequenceViewTest, DrawsColumnsGridIntervalAndPosition)
     EXPECT_TRUE(isNear(at(21, 31), 0xbfbfff));
     EXPECT_EQ(at(21, 15), kWhite);
     EXPECT_EQ(at(21, 33), kWhite);
-    scrollView.scrollVertically(8);
+    scrollView.scrollToStep(1);
     EXPECT_EQ(at(21, 68), 0x0000ff) << "the picture scrolls as a whole";
 }
 
@@ -323,10 +327,7 @@ TEST_F(SequenceViewTest, ScrollsWithKeysToTheEndOfAVeryLongSequence)
 
 TEST_F(SequenceViewTest, ScrollsAndZoomsWithTheWheelAroundTheMouse)
 {
-    QSignalSpy zooms(&scrollView, &SequenceScrollView::zoomed);
     QSignalSpy scrolls(&scrollView, &SequenceScrollView::scrolledByUser);
-    QObject::connect(&scrollView, &SequenceScrollView::zoomed,
-                     [&] { scrollView.updateSize(1000); });
     const QPoint point(100, 150);
     const auto turn = [&](int y, Qt::KeyboardModifiers modifiers) {
         QWheelEvent event(point, scrollView.mapToGlobal(point), {}, {0, y}, Qt::NoButton, modifiers,
@@ -339,19 +340,53 @@ TEST_F(SequenceViewTest, ScrollsAndZoomsWithTheWheelAroundTheMouse)
 
     const RollPoint before = view.rollGeometry().pointAt(point.x(), point.y());
     turn(120, Qt::ControlModifier);
-    EXPECT_EQ(getPrefInt("KeyHeight"), 9);
+    EXPECT_EQ(scrollView.scale(), (RollScale{14, 9}));
     turn(240, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(getPrefInt("KeyWidth"), 16);
+    EXPECT_EQ(scrollView.scale(), (RollScale{16, 9}));
     const RollPoint after = view.rollGeometry().pointAt(point.x(), point.y());
     EXPECT_EQ(after.key, before.key);
     EXPECT_NEAR(after.step, before.step, 0.2);
-    EXPECT_EQ(zooms.count(), 2);
     turn(-12000, Qt::ControlModifier);
-    EXPECT_EQ(getPrefInt("KeyHeight"), prefRange("KeyHeight").least);
-    scrollView.scrollVertically(-50);
+    EXPECT_EQ(scrollView.scale().keyHeight, prefRange("KeyHeight").least);
+    scrollView.scrollToStep(-50);
     EXPECT_EQ(scrollView.location().y(), 0);
-    scrollView.scrollVertically(1e9);
+    scrollView.scrollToStep(1e9);
     EXPECT_EQ(scrollView.location().y(), 1000 - view.height());
+
+    EXPECT_EQ(SequenceScrollView().scale(), (RollScale{14, 8})) << "each roll has its own zoom";
+    setPrefInt("KeyWidth", 20);
+    scrollView.updateSize(1000);
+    EXPECT_EQ(scrollView.scale(), (RollScale{20, 8})) << "the preferences replace it";
+}
+
+TEST_F(SequenceViewTest, ZoomsToTheSelectionAndToAllNotes)
+{
+    const auto edges = [this] { // of the view, in keys and steps
+        const RollPoint low = view.rollGeometry().pointAt(0, view.height() - 1);
+        const RollPoint high = view.rollGeometry().pointAt(view.width(), 0);
+        return std::array{low.key, high.key, low.step, high.step};
+    };
+    put(20, 0, 40);
+    put(100, 960, 40);
+    put(60, 500, 4);
+    scrollView.zoomToAll();
+    const auto [lowest, highest, first, last] = edges();
+    EXPECT_THAT(lowest, AllOf(Le(20), Ge(0)));
+    EXPECT_THAT(highest, AllOf(Ge(101), Le(127)));
+    EXPECT_EQ(first, 0);
+    EXPECT_LT(last, 1000) << "a step has at least a pixel";
+
+    document_.edit()->select(document_.edit()->at(2));
+    scrollView.zoomToSelection();
+    const auto [left, right, bottom, top] = edges();
+    EXPECT_NEAR(left + right, 2 * 60.5, 2.0);
+    EXPECT_THAT(right - left, AllOf(Ge(24), Le(36)));
+    EXPECT_NEAR(bottom + top, 2 * 502, 3.0);
+    EXPECT_THAT(top - bottom, AllOf(Ge(32), Le(40)));
+
+    scrollView.resize(300, 400);
+    const auto narrow = edges();
+    EXPECT_NEAR(narrow[0] + narrow[1], left + right, 1.0) << "the middle key stays there";
 }
 
 TEST_F(SequenceViewTest, LeadsToNotesThatTheKeyboardDoesNotShow)

@@ -114,4 +114,24 @@ TEST_F(TimeLaneTest, AddsChangesMovesAndRemovesWhatItShows)
     EXPECT_EQ(time.tempos(), std::vector{Tempo::ofBeats(12.0, 90.0)});
 }
 
+TEST_F(TimeLaneTest, LiesBelowARollWhoseTimeRunsAcross)
+{
+    setPrefBool("TimeRunsAcross", true);
+    scrollView.updateSize(1000);
+    resetPref("TimeRunsAcross");
+    const MusicalTime& time = musical.time();
+    const int row = lane.height() / 8;
+    answer([](QDialog& dialog) { dialog.findChildren<QDoubleSpinBox*>().at(0)->setValue(90.0); },
+           [&] {
+               QTest::mouseDClick(&lane, Qt::LeftButton, {}, {17 * 8, row});
+           });
+    ASSERT_EQ(time.tempos(), std::vector{Tempo::ofBeats(16.0, 90.0)}) << "the first row";
+    QTest::mousePress(&lane, Qt::LeftButton, {}, {16 * 8 + 3, row});
+    const QPoint to(24 * 8 + 3, row);
+    QMouseEvent move(QEvent::MouseMove, to, lane.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&lane, &move);
+    QTest::mouseRelease(&lane, Qt::LeftButton, {}, to);
+    EXPECT_EQ(time.tempos(), std::vector{Tempo::ofBeats(24.0, 90.0)});
+}
+
 } // namespace velmora

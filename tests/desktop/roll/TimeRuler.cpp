@@ -28,8 +28,7 @@ protected:
     ~TimeRulerTest() override
     {
         scrollView.view().setDocument(nullptr, nullptr);
-        for (const char* key : {"ReduceMotion", "KeyHeight"})
-            resetPref(key);
+        resetPref("ReduceMotion");
     }
 
     QPoint at(double step) const { return {10, ruler.height() - 1 - static_cast<int>(step * 8)}; }
@@ -109,7 +108,7 @@ TEST_F(TimeRulerTest, GlidesUnlessMotionIsReduced)
                                   scrollView.mapToGlobal(QPointF(100, 100)), 0.0625, {});
         QApplication::sendEvent(&scrollView, &pinch);
     }
-    EXPECT_EQ(getPrefInt("KeyHeight"), 10);
+    EXPECT_EQ(scrollView.scale().keyHeight, 10);
 }
 
 } // namespace velmora

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QToolButton>
 #include <QtTest>
 #include <gtest/gtest.h>
@@ -52,6 +53,23 @@ TEST(VoicesPanel, ShowsAndChangesTheVoicesOfThePiece)
     EXPECT_EQ(document.recorder().channel(), 3);
     controlNamed<QToolButton>(panel, "Mute Viol")->click();
     EXPECT_TRUE(document.voices()[3].isMuted);
+
+    emit controlNamed<QToolButton>(panel, "Mute Viol")->customContextMenuRequested({});
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    menu->actions().front()->trigger();
+    EXPECT_EQ(document.sequence().selection().size(), 1U);
+    for (QAction* action : menu->actions())
+        action->trigger();
+    EXPECT_FALSE(document.voices()[3].isMuted);
+    EXPECT_TRUE(document.voices()[3].isSolo);
+    EXPECT_TRUE(document.voices()[3].isLocked);
+    for (QAction* action : menu->actions())
+        action->trigger();
+    EXPECT_TRUE(document.voices()[3].isMuted);
+    EXPECT_FALSE(document.voices()[3].isSolo || document.voices()[3].isLocked);
+
+    menu->close();
 
     auto* program = controlNamed<QComboBox>(panel, "Program of Viol");
     program->setCurrentIndex(42);

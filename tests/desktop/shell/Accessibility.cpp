@@ -1,7 +1,9 @@
 #include "desktop/keyboard/KeyboardView.h"
+#include "desktop/practice/PracticeWindow.h"
 #include "desktop/roll/SequenceView.h"
 #include "desktop/shell/Desktop.h"
 #include "desktop/shell/SequencePage.h"
+#include "desktop/widgets/Commands.h"
 #include "desktop/widgets/languages.h"
 #include "preferences/Preferences.h"
 #include "preferences/settings.h"
@@ -23,7 +25,11 @@
 #include <QtTest>
 #include <gmock/gmock.h>
 
+#include <functional>
 #include <map>
+#include <set>
+#include <string>
+#include <vector>
 
 namespace velmora {
 
@@ -135,6 +141,14 @@ std::vector<std::string> clashesIn(const QMenu& menu)
     return clashes(mnemonics);
 }
 
+void expectNames(QWidget& window)
+{
+    std::vector<std::string> nameless;
+    findNameless(QAccessible::queryAccessibleInterface(&window), {}, nameless);
+    EXPECT_THAT(nameless, IsEmpty());
+    EXPECT_THAT(clashesIn(window), IsEmpty()) << window.windowTitle().toStdString();
+}
+
 /// Shows the desktop in a language until it goes out of scope.
 class InLanguage {
 public:
@@ -149,6 +163,29 @@ private:
         installTranslators();
     }
 };
+
+/// Triggers a command, visits each window that it opens, and closes it.
+void visitWindowsOf(QAction& command, const std::function<void(QWidget&)>& visit)
+{
+    const QWidgetList before = QApplication::topLevelWidgets();
+    QTimer closing; // because a dialog keeps the command waiting
+    QObject::connect(&closing, &QTimer::timeout, [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr)
+            return;
+        visit(*dialog);
+        dialog->close();
+    });
+    closing.start(20);
+    command.trigger();
+    closing.stop();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible() || before.contains(window))
+            continue;
+        visit(*window);
+        window->close();
+    }
+}
 
 /// Presses a key where the focus is.
 void key(int key, Qt::KeyboardModifiers modifiers = {})
@@ -181,6 +218,35 @@ TEST(Accessibility, EveryControlHasANameAndAMnemonicOfItsOwn)
                 EXPECT_THAT(clashesIn(*menu), IsEmpty()) << menu->title().toStdString();
         }
         EXPECT_THAT(nameless, IsEmpty());
+    }
+}
+
+TEST(Accessibility, EveryControlOfTheDialogsOfCommandsHasAName)
+{
+    for (const QString& language : languages()) {
+        SCOPED_TRACE(language.toStdString());
+        const InLanguage translated(language);
+        Desktop desktop;
+        desktop.launch();
+        desktop.open({VELMORA_EXAMPLES "/wolf-fantasia.mid"});
+        QTest::keyClick(desktop.workspace().findChild<SequenceView*>(), Qt::Key_A,
+                        Qt::ControlModifier);
+        std::set<std::string> visited;
+        for (const Commands::Command& command : desktop.commands().all()) {
+            if (!command.action->text().endsWith(QStringLiteral("…")) ||
+                !command.action->isEnabled())
+                continue;
+            visitWindowsOf(*command.action, [&](QWidget& window) {
+                if (qobject_cast<QFileDialog*>(&window) != nullptr) // which is Qt's
+                    return;
+                visited.insert(command.action->text().toStdString());
+                expectNames(window);
+            });
+        }
+        PracticeWindow results(nullptr);
+        results.show("wolf-fantasia", {PracticeEntry{}});
+        expectNames(results);
+        EXPECT_GE(visited.size(), 10) << testing::PrintToString(visited);
     }
 }
 

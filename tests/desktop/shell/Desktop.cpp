@@ -21,6 +21,11 @@
 #include <QtTest>
 #include <gmock/gmock.h>
 
+#include <chrono>
+#include <memory>
+
+using namespace std::chrono_literals;
+
 namespace velmora {
 
 using testing::ElementsAre;
@@ -173,6 +178,22 @@ TEST_F(DesktopTest, KeysCloseSecondaryWindowsAndNoPiece)
         }
     }
     EXPECT_EQ(desktop.workspace().tabs().count(), 1);
+}
+
+TEST(Desktop, QuitsWithoutWaitingForASleepingThread)
+{
+    constexpr int kStarts = 10;
+    constexpr auto kAsManyNaps = 1s * kStarts; // a hundred times what quitting takes
+    std::chrono::nanoseconds quitting{};
+    for (int i = 0; i < kStarts; ++i) {
+        auto desktop = std::make_unique<Desktop>();
+        desktop->launch();
+        desktop->application().waitForBank();
+        const auto begin = std::chrono::steady_clock::now();
+        desktop.reset();
+        quitting += std::chrono::steady_clock::now() - begin;
+    }
+    EXPECT_LT(quitting, kAsManyNaps);
 }
 
 TEST(ProgressWindow, ClosesWithTheStepThatReachesTheMaximumExactly)

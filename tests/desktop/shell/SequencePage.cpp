@@ -1,5 +1,6 @@
 #include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/roll/SequenceScrollView.h"
+#include "desktop/roll/SequenceView.h"
 #include "desktop/roll/TransportBar.h"
 #include "desktop/shell/PiecesTest.h"
 #include "desktop/shell/StatusLine.h"
@@ -7,6 +8,7 @@
 #include "preferences/settings.h"
 
 #include <QDoubleSpinBox>
+#include <QSignalSpy>
 #include <QSlider>
 
 namespace velmora {
@@ -15,6 +17,30 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 using SequencePageTest = PiecesTest;
+
+TEST_F(SequencePageTest, ArrowsPointTheWayThatTimeRuns)
+{
+    SequencePage& window = open();
+    draw(window);
+    window.document().transport().setPosition(0.0);
+    auto& roll = *window.findChild<SequenceScrollView*>();
+    setPrefBool("ReduceMotion", true);
+    QAction& across = action("Time Runs Across");
+    across.trigger();
+    EXPECT_TRUE(roll.view().rollGeometry().isAcross);
+    roll.scrollTo({14 * 50, 0});
+    const int keys = roll.location().x();
+    QTest::keyClick(&view(window), Qt::Key_Down);
+    EXPECT_LT(roll.location().x(), keys);
+    EXPECT_EQ(window.document().transport().position(), 0.0);
+    QTest::keyClick(&view(window), Qt::Key_Right);
+    EXPECT_GT(window.document().transport().position(), 0.0);
+    across.trigger();
+    EXPECT_FALSE(roll.view().rollGeometry().isAcross);
+    resetPref("ReduceMotion");
+    resetPref("TimeRunsAcross");
+    answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
+}
 
 TEST_F(SequencePageTest, ControlsTheTransportByKeysAndToolbar)
 {
@@ -61,6 +87,32 @@ TEST_F(SequencePageTest, ControlsTheTransportByKeysAndToolbar)
     tempo.selectAll();
     QTest::keyClicks(&tempo, "77"); // which the field reports when it loses the focus
     answering({"Discard"}, [&] { EXPECT_TRUE(closes(window)); });
+}
+
+TEST_F(SequencePageTest, StopsWhenAnotherPieceTakesItsSounds)
+{
+    SequencePage& first = open();
+    draw(first);
+    SequencePage& second = open();
+    draw(second);
+    const auto modeOf = [](SequencePage& page) { return page.document().transport().mode(); };
+    first.document().transport().play();
+    second.document().transport().play();
+    EXPECT_EQ(modeOf(first), Transport::Mode::Playing) << "both sound like the instrument";
+    second.document().transport().play();
+    EXPECT_EQ(modeOf(first), Transport::Mode::Playing);
+    Voices voices = second.document().voices();
+    voices[0].sound.preset = {.number = 40};
+    QSignalSpy message(&desktop.pages(), &SequencePages::message);
+    second.document().mixVoices(voices);
+    EXPECT_EQ(modeOf(first), Transport::Mode::Stopped);
+    EXPECT_EQ(message.size(), 1);
+    first.document().transport().play();
+    second.document().transport().play();
+    EXPECT_EQ(modeOf(first), Transport::Mode::Stopped);
+    EXPECT_EQ(modeOf(second), Transport::Mode::Playing);
+    for (SequencePage* page : {&first, &second})
+        answering({"Discard"}, [&] { EXPECT_TRUE(closes(*page)); });
 }
 
 TEST_F(SequencePageTest, EditsFromMenusAndAcrossWindows)

@@ -1,6 +1,8 @@
 #include "desktop/shell/ShortcutsPane.h"
 
+#include "app/AppDelegate.h"
 #include "desktop/shell/CommandPalette.h"
+#include "desktop/shell/tuningChoices.h"
 #include "desktop/widgets/Commands.h"
 #include "desktop/widgets/SearchField.h"
 
@@ -17,6 +19,7 @@ namespace velmora {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::SizeIs;
 
 namespace {
 
@@ -113,6 +116,15 @@ TEST_F(ShortcutsTest, PaletteFindsCommandsAndPerformsThem)
     EXPECT_TRUE(palette.isVisible()) << "a disabled command does nothing";
     EXPECT_TRUE(played.isEmpty());
     EXPECT_EQ(looped.size(), 1);
+
+    AppDelegate application;
+    palette.offer([&] { return tuningChoices(application); });
+    type("bach kirnberger");
+    EXPECT_FALSE(list.isVisible()) << "nothing has both words";
+    type("werckmeister iii");
+    ASSERT_THAT(found(), SizeIs(1));
+    QTest::keyClick(palette.focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(application.tunings().name(), "Werckmeister III");
 }
 
 } // namespace velmora

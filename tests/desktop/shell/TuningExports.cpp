@@ -31,6 +31,11 @@ TEST_F(TuningExportsTest, WritePiecesAndScalesInTheCurrentTuning)
     tuned.read(folder.filePath("tuned.mid").toStdString());
     EXPECT_EQ(tuned.sequence().notes().size(), last->document().sequence().notes().size());
 
+    EXPECT_EQ(QFileInfo(proposal).fileName(), "wolf-fantasia in Quartercomma Meantone.mid");
+    naming(folder.filePath("Prelude No.1.mid"), [&] { EXPECT_TRUE(last->saver().saveAs()); });
+    naming(folder.filePath("x.ly"), [&] { action("Export Score…").trigger(); });
+    EXPECT_EQ(proposal, folder.filePath("Prelude No.1.musicxml"));
+
     naming(folder.filePath("mine"), [&] { action("Export Tuning…").trigger(); });
     const auto path = [&](const char* name) { return folder.filePath(name).toStdString(); };
     const ScaleTemperament scale(readScale(readFile(path("mine.scl"))),

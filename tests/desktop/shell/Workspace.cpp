@@ -2,20 +2,25 @@
 
 #include "desktop/instruments/InstrumentPanel.h"
 #include "desktop/keyboard/KeyboardView.h"
+#include "desktop/roll/TransportBar.h"
 #include "desktop/shell/Desktop.h"
 #include "desktop/shell/SequencePage.h"
 #include "desktop/shell/StageView.h"
 #include "desktop/shell/StatusLine.h"
+#include "desktop/widgets/windowPlace.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
@@ -72,6 +77,82 @@ TEST_F(WorkspaceTest, EachLayoutRemembersItsPanels)
     EXPECT_EQ(workspace.layout(), Workspace::Layout::Play);
 }
 
+TEST_F(WorkspaceTest, TheConsoleLeavesThePieceItsRoomInALowWindow)
+{
+    for (const auto& [height, area] :
+         {std::pair{760, Qt::LeftDockWidgetArea}, {1100, Qt::TopDockWidgetArea}}) {
+        workspace.resize(1240, height);
+        shell.resetLayout->trigger();
+        EXPECT_EQ(workspace.dockWidgetArea(&panel("console")), area) << height;
+    }
+}
+
+TEST_F(WorkspaceTest, OtherWindowsFirstOpenInItsMiddle)
+{
+    workspace.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&workspace));
+    QWidget other;
+    other.resize(300, 200);
+    rememberPlace(other, "other");
+    other.show();
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const QPoint distance = other.geometry().center() - workspace.geometry().center();
+        return distance.manhattanLength() < 5;
+    }));
+    other.move(10, 20);
+    other.hide();
+    QWidget again;
+    rememberPlace(again, "other");
+    again.show();
+    EXPECT_EQ(again.pos(), QPoint(10, 20));
+}
+
+TEST_F(WorkspaceTest, APanelBehindAnotherComesToTheFront)
+{
+    const auto isInFront = [&](const char* name) { return !panel(name).visibleRegion().isEmpty(); };
+    shell.tuningStudio->trigger();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isInFront("tuningStudio") && !isInFront("tuning"); }));
+    shell.tuning->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isInFront("tuning"); }));
+    EXPECT_TRUE(shell.tuning->isChecked());
+    shell.tuning->trigger();
+    EXPECT_FALSE(panel("tuning").isVisible()) << "in front it is closed";
+    EXPECT_FALSE(shell.tuning->isChecked());
+}
+
+TEST_F(WorkspaceTest, PanelsShareASideWhereLargeTypeLeavesLittleRoom)
+{
+    const auto roomForThePiece = [&] {
+        shell.resetLayout->trigger();
+        QApplication::processEvents();
+        return workspace.centralWidget()->width();
+    };
+    shell.playLayout->trigger();
+    QFont large = workspace.font();
+    large.setPointSizeF(17.0);
+    workspace.setFont(large);
+    workspace.resize(1152, 648);
+    EXPECT_GT(roomForThePiece(), workspace.width() / 2);
+    const auto isInFront = [&](const char* name) {
+        return QTest::qWaitFor([&] { return !panel(name).visibleRegion().isEmpty(); });
+    };
+    EXPECT_TRUE(isInFront("instrument"));
+    for (int time = 0; time < 2; ++time) {
+        for (auto* tabs : workspace.findChildren<QTabBar*>(Qt::FindDirectChildrenOnly))
+            tabs->setCurrentIndex(0);
+        EXPECT_TRUE(isInFront("instrument"));
+        shell.tuning->trigger();
+        EXPECT_TRUE(isInFront("tuning")) << "a panel behind another comes forward";
+        EXPECT_TRUE(shell.tuning->isChecked());
+    }
+    shell.tuning->trigger();
+    EXPECT_FALSE(panel("tuning").isVisible());
+
+    workspace.resize(1900, 900);
+    roomForThePiece();
+    EXPECT_TRUE(workspace.tabifiedDockWidgets(&panel("instrument")).isEmpty());
+}
+
 TEST_F(WorkspaceTest, TheStageFillsTheScreenAndShowsNoDialogs)
 {
     QTest::keyClick(&workspace, Qt::Key_F11);
@@ -115,6 +196,17 @@ TEST_F(WorkspaceTest, KeysReachThePieceWhateverWasClicked)
     menu.setFocus(Qt::TabFocusReason);
     EXPECT_FALSE(startsWith(menu)) << "the space bar opens the menu";
     menu.hidePopup();
+    QComboBox& channel = *workspace.findChild<TransportBar*>()->findChild<QComboBox*>();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        const int before = channel.currentIndex();
+        channel.setFocus(Qt::MouseFocusReason);
+        channel.showPopup();
+        QTest::keyClick(channel.view(), Qt::Key_Down);
+        QTest::keyClick(channel.view(), key);
+        EXPECT_EQ(channel.currentIndex(), before + 1);
+        EXPECT_EQ(transport.mode(), Transport::Mode::Stopped);
+        channel.hidePopup();
+    }
     auto& tempo = *workspace.findChild<QSpinBox*>();
     tempo.setFocus(Qt::MouseFocusReason);
     EXPECT_FALSE(startsWith(tempo)) << "a field keeps its keys";
@@ -137,6 +229,38 @@ TEST_F(WorkspaceTest, KeysReachThePieceWhateverWasClicked)
     desktop.preferencesWindow().close();
     for (SequencePage* page : desktop.pages().all())
         page->settle();
+}
+
+TEST_F(WorkspaceTest, EverySwitchOfAVoiceIsReachedAndTurnedByTheKeyboard)
+{
+    SequenceDocument& piece = desktop.pages().create().document();
+    for (unsigned channel = 0; channel < 2; ++channel)
+        piece.edit()->addNote({.length = 4.0, .velocity = 1.0F, .channel = channel, .key = 60});
+    if (!panel("voices").isVisible())
+        shell.voices->trigger();
+    QApplication::processEvents();
+    auto* switches = panel("voices").findChild<QCheckBox*>();
+    switches->setFocus(Qt::TabFocusReason);
+    std::set<QString> turned;
+    for (int stop = 0; stop < 40 && panel("voices").isAncestorOf(QApplication::focusWidget());
+         ++stop, QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab)) {
+        const auto* button = qobject_cast<QToolButton*>(QApplication::focusWidget());
+        if (button == nullptr || button->accessibleName().isEmpty())
+            continue;
+        // Another window comes and goes.
+        QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+        QApplication::sendEvent(QApplication::focusWidget(), &back);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        EXPECT_EQ(piece.transport().mode(), Transport::Mode::Stopped);
+        if (button->isChecked())
+            turned.insert(button->accessibleName());
+    }
+    for (const char* name : {"Record and draw on", "Mute", "Solo", "Lock"})
+        for (const char* voice : {"Voice 1", "Voice 2"})
+            EXPECT_TRUE(turned.contains(QString("%1 %2").arg(name, voice))) << name << voice;
+    EXPECT_TRUE(piece.voices()[0].isSolo && piece.voices()[1].isLocked);
+    EXPECT_EQ(piece.recorder().channel(), 1);
+    desktop.pages().current()->settle();
 }
 
 TEST_F(WorkspaceTest, RecordingWithoutAPieceBeginsOne)
