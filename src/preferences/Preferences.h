@@ -33,16 +33,16 @@ PrefRange prefRange(const std::string& key);
 
 /// Returns a boolean preference: "KeyNames" shows the names of the C keys on the keyboard;
 /// "SoundNotes" sounds notes that are pressed or drawn in the piano roll, "DragSelects" lets a drag
-/// across an empty place of it select notes instead of a time, and "TimeRunsAcross" lets its time run
-/// from left to right instead of upwards;
-/// "CorrectTuning" corrects the tuning of SoundFonts themselves;
-/// "PlainReading" reads MIDI devices with `midiRead`, without the translator; "StartAsLastTime"
-/// opens at the start what was open at the end; "GlideSounding" lets sounding notes take over
-/// another pitch before they are struck again; "CorrectSpelling" lets the notes of a chord correct
-/// each other's spelling; "ReduceMotion" scrolls at once instead of gliding; "Metronome" lets the
-/// metronome click, and "MetronomeDivisions" the parts of its beats as well; "PracticeWaits" waits
-/// for missing keys, "PracticeSlowsDown" slows down after mistakes, and "FallingNotes" shows the
-/// notes above the keyboard.
+/// across an empty place of it select notes instead of a time, and "TimeRunsAcross" lets its time
+/// run from left to right instead of upwards;
+/// "CorrectTuning" corrects the tuning of SoundFonts themselves; "PlainReading" reads MIDI devices
+/// with `midiRead`, without the translator; "StartAsLastTime" opens at the start what was open at
+/// the end; "GlideSounding" lets sounding notes take over another pitch before they are struck
+/// again; "CorrectSpelling" lets the notes of a chord correct each other's spelling; "ReduceMotion"
+/// scrolls at once instead of gliding; "Metronome" lets the metronome click, and
+/// "MetronomeDivisions" the parts of its beats as well; "PracticeWaits" waits for missing keys,
+/// "PracticeSlowsDown" slows down after mistakes, and "FallingNotes" shows the notes above the
+/// keyboard.
 bool getPrefBool(const std::string& key);
 void setPrefBool(const std::string& key, bool value);
 
