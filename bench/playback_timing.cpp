@@ -1,6 +1,6 @@
-// Measures the timing of a sequence that plays while its window and the keyboard repaint: a minute
-// of notes at irregular times, through the General MIDI synthesizer on a JACK server with the dummy
-// driver. Needs a display.
+// Measures the timing of a sequence that plays while its window and the keyboard repaint, through
+// the General MIDI synthesizer on a JACK server with the dummy driver: a minute of notes at
+// irregular times, and then a loop of one second while the main thread is busy. Needs a display.
 
 #include "app/generalMidiBanks.h"
 #include "audio/Synthesizer.h"
@@ -16,14 +16,18 @@
 #include <spdlog/fmt/fmt.h>
 
 #include <algorithm>
+#include <chrono>
 #include <random>
+#include <thread>
+#include <utility>
 
 using namespace velmora;
 
 namespace {
 
 constexpr std::size_t kNotes = 900;
-constexpr double kPlayedStepsPerSecond = 15.0;
+constexpr double kStepsPerSecond = 16.0; ///< At the tempo of a new piece.
+constexpr int kPasses = 20;
 constexpr double kMilliseconds = 1e3;
 
 /// Records when each note is played.
@@ -56,7 +60,19 @@ private:
     Instrument& instrument_;
 };
 
-/// Returns the steps at which the notes start, a fifteenth of a second apart on average.
+/// Prints errors in seconds as milliseconds.
+void print(const char* title, std::vector<double> errors)
+{
+    std::sort(errors.begin(), errors.end());
+    const auto at = [&](double part) {
+        return kMilliseconds *
+               errors[static_cast<std::size_t>(part * static_cast<double>(errors.size() - 1))];
+    };
+    fmt::print("{}, in milliseconds: minimum {:.3f}, median {:.3f}, p99 {:.3f}, maximum {:.3f}\n",
+               title, at(0.0), at(0.5), at(0.99), at(1.0));
+}
+
+/// Returns the steps at which the notes start, a sixteenth of a second apart on average.
 std::vector<double> fillAtRandom(SequenceDocument& document)
 {
     std::mt19937 random(1);
@@ -101,33 +117,51 @@ int main(int argc, char** argv)
     double started = 0.0;
     QObject::connect(window->findChild<QOpenGLWidget*>(), &QOpenGLWidget::frameSwapped, &qt,
                      [&] { ++frames; });
+    Transport& transport = document.transport();
     QObject::connect(
-        &document.transport(), &Transport::modeChanged, &qt,
+        &transport, &Transport::modeChanged, &qt,
         [&] {
-            if (document.transport().mode() == Transport::Mode::Stopped)
+            if (transport.mode() == Transport::Mode::Stopped)
                 QApplication::exit();
         },
         Qt::QueuedConnection);
-    QTimer::singleShot(1000, &qt, [&] {
+    const auto play = [&] {
         frames = 0;
         started = getTime();
-        document.transport().play();
-    });
+        transport.play();
+    };
+    QTimer::singleShot(1000, &qt, play);
     QApplication::exec();
     const double seconds = getTime() - started;
-
-    std::vector<double> errors;
+    std::vector<double> late;
     for (std::size_t i = 0; i < std::min(starts.size(), instrument.times.size()); ++i)
-        errors.push_back((instrument.times[i] - started - starts[i] / kPlayedStepsPerSecond) *
-                         kMilliseconds);
-    std::sort(errors.begin(), errors.end());
-    const auto at = [&](double part) {
-        return errors[static_cast<std::size_t>(part * static_cast<double>(errors.size() - 1))];
-    };
-    fmt::print("{} of {} notes in {:.0f} s, {:.1f} frames per second\n", errors.size(),
-               starts.size(), seconds, static_cast<double>(frames) / seconds);
-    fmt::print("milliseconds late: minimum {:.2f}, median {:.2f}, p99 {:.2f}, maximum {:.2f}\n",
-               at(0.0), at(0.5), at(0.99), at(1.0));
+        late.push_back(instrument.times[i] - started - starts[i] / kStepsPerSecond);
+    fmt::print("{} of {} notes in {:.0f} s, {:.1f} frames per second\n", late.size(), starts.size(),
+               seconds, static_cast<double>(frames) / seconds);
+    print("notes late", std::move(late));
+
+    {
+        const auto edit = document.edit();
+        edit->select();
+        edit->erase();
+        edit->addNote({.start = 0.0, .length = 4.0, .velocity = 0.5F, .key = 60});
+    }
+    instrument.times.clear();
+    transport.selectInterval(0.0, kStepsPerSecond);
+    transport.setPosition(0.0);
+    transport.setLoop(true);
+    QTimer busy;
+    QObject::connect(&busy, &QTimer::timeout, &qt,
+                     [] { std::this_thread::sleep_for(std::chrono::milliseconds(400)); });
+    busy.start(50);
+    play();
+    QTimer::singleShot(1000 * kPasses, &qt, [&] { transport.play(); });
+    QApplication::exec();
+    std::vector<double> longer;
+    for (std::size_t i = 1; i < instrument.times.size(); ++i)
+        longer.push_back(instrument.times[i] - instrument.times[i - 1] - 1.0);
+    fmt::print("{} passes of a loop of one second\n", longer.size());
+    print("passes longer", std::move(longer));
     output.reset();
     application.setInstrument(*application.instruments().front()->instrument(), "");
 }
