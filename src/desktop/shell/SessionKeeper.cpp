@@ -73,8 +73,10 @@ QString SessionKeeper::open(const std::filesystem::path& file, Arrangement arran
             errors += translated(error);
             continue;
         }
-        Transport& transport = pages_.current()->document().transport();
+        SequenceDocument& document = pages_.current()->document();
+        Transport& transport = document.transport();
         transport.setPosition(std::min(piece.position, transport.extent()));
+        document.practice().showKeys();
         transport.revealPosition();
         if (&piece == &session.pieces[session.currentPiece])
             current = pages_.current();

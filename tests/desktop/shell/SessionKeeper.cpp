@@ -72,7 +72,13 @@ TEST_F(SessionKeeperTest, StartsAsItEnded)
         });
         EXPECT_EQ(desktop.application().tunings().name(), "werckmeister-3.scl");
         ASSERT_EQ(desktop.pages().all().size(), 1U) << "the untitled one was not saved";
-        EXPECT_EQ(desktop.pages().current()->document().transport().position(), 20.0);
+        const SequenceDocument& document = desktop.pages().current()->document();
+        EXPECT_EQ(document.transport().position(), 20.0);
+        for (const Note& note : document.sequence().notes()) {
+            if (note.start == 0.0 || note.start == 20.0) {
+                EXPECT_EQ(document.practice().stateOfNote(note.key), note.start > 0 ? kWanted : 0);
+            }
+        }
     });
     setPreference("StartAsLastTime", false);
     run([&](Desktop& desktop) {
