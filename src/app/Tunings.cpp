@@ -28,10 +28,15 @@ void Tunings::addBuiltins()
 
 void Tunings::put(std::unique_ptr<TuningDocument> document)
 {
+    add(std::move(document));
+    emit listed();
+}
+
+void Tunings::add(std::unique_ptr<TuningDocument> document)
+{
     // See docs/decisions.md, 19.
     named_[document->name()] = document.get();
     documents_.push_back(std::move(document));
-    emit listed();
 }
 
 void Tunings::replace(std::unique_ptr<TuningDocument> document)
@@ -91,9 +96,14 @@ std::vector<std::string> Tunings::names() const
     std::vector<std::string> names;
     for (const auto& document : documents_)
         names.push_back(document->name());
-    for (std::string& name : TuningDocument::adaptiveNames())
+    const std::vector<std::string> adaptive = TuningDocument::adaptiveNames();
+    for (const std::string& name : adaptive)
         if (!named_.contains(name))
-            names.push_back(std::move(name));
+            names.push_back(name);
+    std::ranges::stable_sort(names, {}, [&](const std::string& name) {
+        const auto found = std::ranges::find(adaptive, name);
+        return found == adaptive.end() ? 0 : 1 + (found - adaptive.begin());
+    });
     return names;
 }
 
@@ -105,8 +115,9 @@ std::string Tunings::getDescription(const std::string& name) const
 
 bool Tunings::select(const std::string& name)
 {
-    if (!named_.contains(name) && TuningDocument::isBuiltin(name))
-        put(TuningDocument::makeBuiltin(name, adaptive_));
+    const bool isNew = !named_.contains(name) && TuningDocument::isBuiltin(name);
+    if (isNew)
+        add(TuningDocument::makeBuiltin(name, adaptive_));
     const auto found = named_.find(name);
     if (found != named_.end())
         play(*found->second);
@@ -117,6 +128,9 @@ bool Tunings::select(const std::string& name)
         logger("app").warn("there is no tuning named \"{}\"", name);
         return false;
     }
+    // The name may come from a list that is now filled again.
+    if (isNew)
+        emit listed();
     emit changed();
     return true;
 }

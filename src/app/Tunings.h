@@ -48,8 +48,8 @@ public:
     /// All listed tunings in the order in which they were added.
     const std::vector<std::unique_ptr<TuningDocument>>& documents() const { return documents_; }
 
-    /// The names of all listed tunings in the order in which they were added, and those of the
-    /// adaptive ones. A name that was added twice appears twice.
+    /// The names of all listed tunings in the order in which they were added, and then those of the
+    /// adaptive ones, used or not. A name that was added twice appears twice.
     std::vector<std::string> names() const;
 
     /// Returns what the tuning of that name says about itself; empty if it says nothing.
@@ -91,6 +91,7 @@ signals:
     void changed();
 
 private:
+    void add(std::unique_ptr<TuningDocument> document);
     void play(const TuningDocument& document);
 
     Player& player_;

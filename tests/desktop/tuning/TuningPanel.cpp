@@ -91,4 +91,24 @@ TEST(TuningPanel, KeepsTheOrderAndDuplicateNames)
     EXPECT_EQ(items(list).size(), 6U) << "it stays in its group";
 }
 
+TEST(TuningPanel, ChoosesAnAdaptiveTuningThatWasNeverUsed)
+{
+    Calls calls;
+    RecordingInstrument instrument(calls);
+    AppDelegate application;
+    application.tunings().addBuiltins();
+    application.setInstrument(instrument, "Recorder");
+    TuningPanel panel(application);
+    panel.show();
+    auto& list = *panel.findChild<QTreeWidget*>();
+    const std::vector<std::string> before = items(list);
+    QTreeWidgetItem* group = list.topLevelItem(0);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                      list.visualItemRect(group->child(3)).center());
+    QApplication::processEvents();
+    EXPECT_EQ(application.tunings().name(), "Following Meantone");
+    EXPECT_EQ(items(list), before);
+    EXPECT_EQ(list.topLevelItem(0)->indexOfChild(list.currentItem()), 3);
+}
+
 } // namespace velmora
