@@ -33,6 +33,7 @@ GroupedList::GroupedList(const QString& hint, const QString& name)
     layout->addWidget(search_);
     layout->addWidget(tree_, 1);
     connect(tree_, &QTreeWidget::currentItemChanged, this, &GroupedList::choose);
+    connect(tree_, &QTreeWidget::itemPressed, this, &GroupedList::leaveSearch);
     connect(search_, &QLineEdit::textChanged, this, &GroupedList::filter);
     connect(search_, &QLineEdit::returnPressed, this, &GroupedList::chooseFirstFound);
     connect(search_, &SearchField::left, this, [this] {
@@ -103,8 +104,16 @@ void GroupedList::chooseFirstFound()
 {
     const auto found =
         std::ranges::find_if(items_, [](const QTreeWidgetItem* item) { return !item->isHidden(); });
-    if (found != items_.end())
-        tree_->setCurrentItem(*found);
+    if (found == items_.end())
+        return;
+    tree_->setCurrentItem(*found);
+    leaveSearch();
+}
+
+void GroupedList::leaveSearch()
+{
+    if (search_->hasFocus())
+        tree_->setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace velmora

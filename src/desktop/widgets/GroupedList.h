@@ -49,6 +49,9 @@ private:
     /// Does nothing if the search finds no entry, so that the current one stays marked.
     void chooseFirstFound();
 
+    /// Lets the letters play again and the space bar start the piece once an entry is chosen.
+    void leaveSearch();
+
     SearchField* search_;
     QTreeWidget* tree_;
     std::vector<Entry> entries_;

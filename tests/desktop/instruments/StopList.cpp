@@ -157,9 +157,15 @@ TEST_F(StopListTest, OffersProgramsOrShowsTheMemoryUse)
     QTest::keyClick(&programs, Qt::Key_Down);
     EXPECT_EQ(application.midiProgram(), 3);
     auto* field = panel.findChild<SearchField*>();
+    field->setFocus();
     QTest::keyClicks(field, "church");
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(application.midiProgram(), 19);
+    EXPECT_FALSE(field->hasFocus()) << "the letters play again";
+    field->setFocus();
+    QTest::mouseClick(programs.viewport(), Qt::LeftButton, {},
+                      programs.visualItemRect(programs.currentItem()).center());
+    EXPECT_FALSE(field->hasFocus()) << "even if the program is the current one";
     application.receiveProgram(55);
     EXPECT_TRUE(QTest::qWaitFor([&] { return current() == "56 Orchestra Hit"; }));
 
