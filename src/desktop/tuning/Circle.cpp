@@ -20,6 +20,11 @@ constexpr double kThirdsUp = 0.5;
 /// wide at the top and at the bottom, where they would reach each other.
 constexpr double kThirdsAcross = 0.465, kThirdsWidened = 0.06;
 constexpr double kLargestNote = 20.0;
+constexpr double kLabelWidth = 0.29, kLabelHeight = 0.0925;
+
+/// Of the notes of a scale that has not twelve of them, and of their labels outside of these.
+constexpr double kDegreeRing = 0.58, kDegreesAcross = 0.855, kDegreesUp = 0.93;
+constexpr std::size_t kFifths = 12, kMostLabels = 24;
 
 double centsBetween(double low, double high)
 {
@@ -62,25 +67,40 @@ Circle::Circle(const TuningMoment& moment, int octave) : isOfFifths(moment.repea
 }
 
 CircleGeometry::CircleGeometry(QSizeF view, std::size_t notes)
-    : notes_(std::max<std::size_t>(notes, 1)), centre_(view.width() / 2, view.height() / 2)
+    : notes_(std::max<std::size_t>(notes, 1)), centre_(view.width() / 2, view.height() / 2),
+      greatest_(std::min(view.width(), view.height()) / 2),
+      ring_((notes_ == kFifths || !hasLabels() ? kNoteRing : kDegreeRing) * greatest_),
+      noteRadius_(std::min(
+          {kLargestNote, greatest_ / 8, std::numbers::pi * ring_ / static_cast<double>(notes_)}))
 {
-    const double greatest = std::min(view.width(), view.height()) / 2;
-    ring_ = kNoteRing * greatest;
-    noteRadius_ = std::min(
-        {kLargestNote, greatest / 8, std::numbers::pi * ring_ / static_cast<double>(notes_)});
 }
 
 QPointF CircleGeometry::fifth(std::size_t position) const
 {
-    const double radius = ring_ / kNoteRing * kFifthRing;
+    const double radius = kFifthRing * greatest_;
     return at(static_cast<double>(position) + 0.5, radius, radius);
 }
 
 QPointF CircleGeometry::third(std::size_t position) const
 {
-    const double greatest = ring_ / kNoteRing, place = static_cast<double>(position);
-    const QPointF widened = at(3 * place, kThirdsWidened * greatest, 0.0) - centre_;
-    return at(place, kThirdsAcross * greatest, kThirdsUp * greatest) + widened;
+    const auto place = static_cast<double>(position);
+    if (notes_ != kFifths)
+        return at(place, kDegreesAcross * greatest_, kDegreesUp * greatest_);
+    const QPointF widened = at(3 * place, kThirdsWidened * greatest_, 0.0) - centre_;
+    return at(place, kThirdsAcross * greatest_, kThirdsUp * greatest_) + widened;
+}
+
+bool CircleGeometry::hasLabels() const
+{
+    return notes_ <= kMostLabels;
+}
+
+QSizeF CircleGeometry::labelRoom() const
+{
+    const double angle = 2 * std::numbers::pi / static_cast<double>(notes_);
+    const double width =
+        notes_ > kFifths ? std::min(kLabelWidth, kDegreesAcross * std::sin(angle)) : kLabelWidth;
+    return {width * greatest_, kLabelHeight * greatest_};
 }
 
 std::optional<std::size_t> CircleGeometry::noteAt(QPointF point) const

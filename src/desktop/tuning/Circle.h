@@ -45,13 +45,20 @@ public:
     double noteRadius() const { return noteRadius_; }
 
     /// The middle of a note's disc, of the label of the interval to the next note, and of the label
-    /// of its third. Positions run clockwise from the top.
+    /// of its third, or of its only interval if there are more or fewer than twelve notes.
+    /// Positions run clockwise from the top.
     QPointF note(std::size_t position) const
     {
         return at(static_cast<double>(position), ring_, ring_);
     }
     QPointF fifth(std::size_t position) const;
     QPointF third(std::size_t position) const;
+
+    /// With too many notes there is no room for labels.
+    bool hasLabels() const;
+
+    /// How large the labels may be without covering each other.
+    QSizeF labelRoom() const;
 
     /// The position of the note whose disc covers a point; empty if there is none.
     std::optional<std::size_t> noteAt(QPointF point) const;
@@ -65,7 +72,7 @@ private:
 
     std::size_t notes_;
     QPointF centre_;
-    double ring_, noteRadius_;
+    double greatest_, ring_, noteRadius_;
 };
 
 } // namespace velmora

@@ -17,13 +17,18 @@ namespace {
 
 constexpr double kCentsPerPixel = 0.25;
 constexpr double kNumberScale = 0.9; ///< The size of the numbers relative to the names.
-
-/// With more notes than these, there is no room for their numbers.
-constexpr std::size_t kMostNumbers = 24;
+constexpr double kLeastScale = 0.5;  ///< How much smaller they may become in a small view.
+constexpr double kLabelMargins = 10.0;
 
 QRectF around(QPointF middle, double width, double height)
 {
     return {middle.x() - width / 2, middle.y() - height / 2, width, height};
+}
+
+/// How large the mark of a label is.
+double markSize(const QFontMetricsF& metrics)
+{
+    return metrics.height() * 0.5;
 }
 
 } // namespace
@@ -54,6 +59,20 @@ void CircleView::showNumbers(Numbers numbers)
     update();
 }
 
+QFont CircleView::numberFont() const
+{
+    QFont font = this->font();
+    font.setPointSizeF(font.pointSizeF() * kNumberScale);
+    const QFontMetricsF metrics(font);
+    const QSizeF room = geometry().labelRoom();
+    const double width = metrics.horizontalAdvance("+88.8") + markSize(metrics);
+    const double scale =
+        std::min((room.width() - kLabelMargins) / width, room.height() / metrics.height());
+    if (scale < 1)
+        font.setPointSizeF(font.pointSizeF() * std::max(scale, kLeastScale));
+    return font;
+}
+
 /// Paints the number of an interval on a field of the colour and with the mark of its purity.
 void CircleView::paintLabel(QPainter& painter, QPointF middle, const HeardInterval& heard) const
 {
@@ -63,8 +82,9 @@ void CircleView::paintLabel(QPainter& painter, QPointF middle, const HeardInterv
     const QString text = numbers_ == Numbers::Cents
                              ? centsText(heard.distance)
                              : QLocale().toString(heard.beatsPerSecond, 'f', 1);
-    const double mark = metrics.height() * 0.5;
-    QRectF field = around(middle, metrics.horizontalAdvance(text) + mark + 10, metrics.height());
+    const double mark = markSize(metrics);
+    QRectF field =
+        around(middle, metrics.horizontalAdvance(text) + mark + kLabelMargins, metrics.height());
     // In a narrow view there is less room beside the circle.
     field.moveLeft(std::clamp(field.left(), 0.0, std::max(0.0, width() - field.width())));
     painter.setPen(Qt::NoPen);
@@ -89,17 +109,15 @@ void CircleView::paintEvent(QPaintEvent* /*event*/)
     painter.setBrush(Qt::NoBrush);
     const double ring = places.distance(places.note(0));
     painter.drawEllipse(rect().toRectF().center(), ring, ring);
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * kNumberScale);
     if (circle_.isOfFifths)
         paintThirds(painter);
-    painter.setFont(small);
+    painter.setFont(numberFont());
     for (std::size_t i = 0; i < circle_.notes.size(); ++i) {
         const CircleNote& note = circle_.notes[i];
         if (circle_.isOfFifths) {
             paintLabel(painter, places.fifth(i), note.fifth);
             paintLabel(painter, places.third(i), note.third);
-        } else if (circle_.notes.size() <= kMostNumbers) {
+        } else if (places.hasLabels()) {
             paintLabel(painter, places.third(i), note.fifth);
         }
     }

@@ -25,7 +25,7 @@ public:
     const Circle& circle() const { return circle_; }
 
     QSize sizeHint() const override { return {360, 360}; }
-    QSize minimumSizeHint() const override { return {260, 260}; }
+    QSize minimumSizeHint() const override { return {346, 260}; }
 
 signals:
     /// The user has begun to drag the note of a pitch class, 0…11, and has dragged it so many cents
@@ -41,6 +41,9 @@ protected:
 
 private:
     CircleGeometry geometry() const { return {size(), circle_.notes.size()}; }
+
+    /// The font of the numbers, small enough that none covers another one.
+    QFont numberFont() const;
     void paintLabel(QPainter& painter, QPointF middle, const HeardInterval& heard) const;
     void paintThirds(QPainter& painter) const;
     void paintNote(QPainter& painter, std::size_t position) const;

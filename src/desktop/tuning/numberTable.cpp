@@ -19,7 +19,8 @@ QTableWidget* newNumberTable(const QStringList& headers, const QString& accessib
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     table->horizontalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    table->horizontalHeader()->setStretchLastSection(true);
+    // Stretching the last section instead leaves it too wide when the others grow.
+    table->horizontalHeader()->setSectionResizeMode(table->columnCount() - 1, QHeaderView::Stretch);
     return table;
 }
 

@@ -77,19 +77,22 @@ TEST(CircleGeometry, FindsTheNoteUnderThePointer)
     EXPECT_FALSE(places.noteAt({200, 150}));
 }
 
-TEST(CircleGeometry, KeepsTheNumbersOfTheThirdsApart)
+TEST(CircleGeometry, KeepsTheNumbersApart)
 {
-    constexpr double kWidth = 50.0, kHeight = 16.0; // of "+21.5" with its mark
-    const CircleGeometry places(QSizeF(346, 346), 12);
-    const auto label = [&](std::size_t position) {
-        const QPointF middle = places.third(position % 12);
-        return QRectF(middle.x() - kWidth / 2, middle.y() - kHeight / 2, kWidth, kHeight);
-    };
-    for (std::size_t i = 0; i < 12; ++i) {
-        EXPECT_FALSE(label(i).intersects(label(i + 1))) << "the third above note " << i;
-        for (const QPointF corner : {label(i).topLeft(), label(i).topRight(), label(i).bottomLeft(),
-                                     label(i).bottomRight()})
-            EXPECT_FALSE(places.noteAt(corner)) << "the third above note " << i;
+    for (const std::size_t notes : {5, 12, 13, 19, 24}) {
+        const CircleGeometry places(QSizeF(346, 346), notes);
+        const auto label = [&](std::size_t position) {
+            QRectF field(QPointF(), places.labelRoom());
+            field.moveCenter(places.third(position % notes));
+            return field;
+        };
+        EXPECT_GT(places.labelRoom().width(), 38.0) << "large enough to be read";
+        for (std::size_t i = 0; i < notes; ++i) {
+            EXPECT_FALSE(label(i).intersects(label(i + 1))) << i << " of " << notes;
+            for (const QPointF corner : {label(i).topLeft(), label(i).topRight(),
+                                         label(i).bottomLeft(), label(i).bottomRight()})
+                EXPECT_FALSE(places.noteAt(corner)) << i << " of " << notes;
+        }
     }
 }
 
