@@ -69,9 +69,8 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
                 perform(host_, {true, note.key, channelOf(note), note.velocity, 0.0, 0.0});
         }
         if (endsBetween(note, from, to)) {
-            // See docs/decisions.md, 97.
-            states[note.key] = 0;
             note.playing = note.active = false;
+            states[note.key] = stateAfter(note);
             silenced = true;
             if (isHeard && isPlayed(note))
                 stopOnInstrument(note.key, channelOf(note));
@@ -256,8 +255,8 @@ void SequencePlayback::silence(std::uint64_t id)
     Note* const note = sequence_.find(id);
     if (note == nullptr || !note->playing)
         return;
-    states[note->key] = 0;
     note->playing = note->active = false;
+    states[note->key] = stateAfter(*note);
     stopOnInstrument(note->key, channelOf(*note));
 }
 
@@ -350,6 +349,16 @@ void SequencePlayback::mark(std::uint32_t noteIndex)
 {
     if (!isMarked(noteIndex))
         marked_.push_back(noteIndex);
+}
+
+// See docs/decisions.md, 97.
+int SequencePlayback::stateAfter(const Note& ended) const
+{
+    const bool sounds = std::ranges::any_of(marked_, [&](std::uint32_t noteIndex) {
+        const Note& note = sequence_.at(noteIndex);
+        return note.playing && note.key == ended.key && channelOf(note) != channelOf(ended);
+    });
+    return sounds && reading_ == Reading::Musical ? kWanted : 0;
 }
 
 void SequencePlayback::forgetUnmarked()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Reading.h"
 #include "midi/messages.h"
 #include "sequencer/AheadPlayer.h"
 #include "sequencer/Metre.h"
@@ -27,7 +28,10 @@ namespace velmora {
 /// starts, sounds or ends in it, not on the length of the sequence.
 class SequencePlayback {
 public:
-    SequencePlayback(SequenceHost& host, Sequence& sequence) : host_(host), sequence_(sequence) {}
+    SequencePlayback(SequenceHost& host, Sequence& sequence, Reading reading = Reading::Musical)
+        : reading_(reading), host_(host), sequence_(sequence)
+    {
+    }
 
     /// Call this after every change of notes.
     void sequenceChanged() { index_.reset(); }
@@ -124,6 +128,10 @@ private:
     void mark(std::uint32_t noteIndex);
     void forgetUnmarked();
 
+    /// Returns the state of a key after a note on it has ended.
+    int stateAfter(const Note& ended) const;
+
+    const Reading reading_;
     SequenceHost& host_;
     Sequence& sequence_;
     std::optional<SequenceIndex> index_; ///< Empty until it is needed.

@@ -20,7 +20,7 @@ constexpr double kRoomBelowPosition = 8.0;
 
 Transport::Transport(SequenceHost& host, Sequence& sequence, Reading reading,
                      std::function<double()> clock)
-    : reading_(reading), host_(host), clock_(std::move(clock)), playback_(host, sequence),
+    : reading_(reading), host_(host), clock_(std::move(clock)), playback_(host, sequence, reading),
       lastTick_(clock_())
 {
 }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <random>
+#include <utility>
 
 namespace velmora {
 
@@ -210,6 +211,23 @@ TEST_F(TransportTest, PlaysTheSelectedInterval)
         EXPECT_EQ(transport_.mode(), kStopped);
         EXPECT_EQ(transport_.position(), 3.0);
     }
+}
+
+TEST_F(TransportTest, ShowsAKeyUntilItsLastVoiceEnds)
+{
+    SequenceDocument piece(*this, Reading::Musical, [this] { return now_; });
+    for (const auto& [channel, length] : {std::pair(3U, 8.0), std::pair(9U, 2.0)})
+        piece.edit()->addNote({.length = length, .velocity = 1.0F, .channel = channel, .key = 36});
+    piece.updateExtent();
+    piece.transport().play();
+    const auto stateAt = [&](double seconds) {
+        now_ = 1000.0 + seconds;
+        piece.transport().tick();
+        return piece.practice().stateOfNote(36);
+    };
+    EXPECT_EQ(stateAt(0.05), kWanted);
+    EXPECT_EQ(stateAt(0.3), kWanted) << "one of them has ended";
+    EXPECT_EQ(stateAt(0.6), 0);
 }
 
 TEST_F(TransportTest, HasTheSameResultAsVisitingAllNotes)
