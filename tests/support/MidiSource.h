@@ -30,12 +30,17 @@ private:
         jack_nframes_t frame;
     };
 
-    static int process(jack_nframes_t frames, void* self);
+    /// What the thread of the client uses.
+    struct Output {
+        std::mutex mutex;
+        std::vector<Message> messages; ///< Waiting to be sent.
+        std::vector<jack_port_t*> ports;
+    };
 
-    std::mutex mutex_;
-    std::vector<Message> messages_; ///< Waiting to be sent.
-    std::vector<jack_port_t*> ports_;
-    std::unique_ptr<JackClient> client_; ///< Last, because closing it stops the thread.
+    static int process(jack_nframes_t frames, void* output);
+
+    std::unique_ptr<JackClient> client_;
+    std::shared_ptr<Output> output_; ///< Kept by the client, whose thread may be slow to end.
 };
 
 } // namespace velmora
