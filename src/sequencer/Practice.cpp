@@ -85,7 +85,7 @@ void Practice::showKeys()
     for (std::size_t key = 0; key < kKeys; ++key)
         playback.states[key] = keys.state(key);
     // In the plain reading the marks of sounding notes are lost when a key is pressed.
-    if (transport_.mode() == Transport::Mode::Playing && transport_.reading() == Reading::Musical)
+    if (transport_.isRunning() && transport_.reading() == Reading::Musical)
         playback.markSounding(transport_.position(), kWanted);
     else
         playback.markAt(transport_.position(), kTolerance, kWanted);

@@ -131,7 +131,7 @@ void Transport::tick()
         emit playing(now);              // may stop it
         now = std::max(now, lastTick_); // it may have settled since
     }
-    if (mode_ == Mode::Playing || runs_)
+    if (isRunning())
         playUntil(now);
     const double before = std::exchange(lastTick_, now);
     if (mode_ == Mode::Recording)
@@ -241,7 +241,7 @@ void Transport::prepareChange(std::span<const std::uint64_t> notes)
 
 void Transport::controllersChanged()
 {
-    if (mode_ == Mode::Playing || runs_)
+    if (isRunning())
         playback_.startControllers(position_);
 }
 

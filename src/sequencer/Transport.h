@@ -44,6 +44,9 @@ public:
 
     Mode mode() const { return mode_; }
 
+    /// True if the position moves by itself: while playing, and in a recording that does not wait.
+    bool isRunning() const { return mode_ == Mode::Playing || runs_; }
+
     /// Starts playing, from the start of the selected interval if the position is outside it, or
     /// stops playing. Does nothing while recording.
     void play();

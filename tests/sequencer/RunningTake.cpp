@@ -138,6 +138,9 @@ TEST_F(RunningTakeTest, PlaysThePieceAlongButNotTheTake)
     start({.countIn = 1});
     calls_.clear();
     strike(60, 2.25);
+    runTo(2.4);
+    piece_.practice().midiInput();
+    EXPECT_EQ(piece_.practice().stateOfNote(48), kWanted) << "what it plays stays in sight";
     runTo(4.0);
     EXPECT_THAT(calls_, ElementsAre("play 48 1.00", "stop 48"));
     piece_.recorder().record();
