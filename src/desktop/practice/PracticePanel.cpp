@@ -181,6 +181,7 @@ void PracticePanel::setDocument(SequenceDocument* document)
     }
     showVoices();
     recallChoice();
+    repeatBars();
     showState();
 }
 
@@ -254,6 +255,8 @@ void PracticePanel::toggle()
 
 void PracticePanel::repeatBars()
 {
+    for (QSpinBox* box : {firstBar_, lastBar_})
+        box->setEnabled(repeats_->isChecked());
     if (document_ == nullptr)
         return;
     Transport& transport = document_->transport();
