@@ -4,11 +4,6 @@
 
 namespace velmora {
 
-/// Returns the name of a quarter-comma meantone pitch, given in cents above C: 41.06 is "Dbb" and
-/// -41.06 is "B#". It knows the chain of 15 fifths on either side of C, and returns an empty name
-/// for a pitch more than two cents away from all of them.
-std::string spelling(double cents);
-
 /// Returns the name of the note that lies `place` fifths above C, or below it if negative: "G" for
 /// 1 and "Bb" for −2. Places run from −22 to 22.
 std::string placeName(int place);

@@ -83,21 +83,17 @@ void TuningStrip::read()
 {
     if (readsUntilRest_ > 0 && --readsUntilRest_ == 0)
         timer_.setInterval(kRestingInterval);
-    std::array<double, 12> pitches{};
-    double base = 0.0;
+    Tones tones;
     const auto look = [&](const Instrument&, const Temperament& temperament) {
-        for (unsigned tone = 0; tone < pitches.size(); ++tone)
-            pitches[tone] = temperament.getPitch(kMiddleC + tone);
-        base = temperament.baseFrequency();
+        for (unsigned tone = 0; tone < tones.size(); ++tone) {
+            const unsigned key = kMiddleC + tone;
+            const auto place = temperament.place(key);
+            tones[tone] = {place ? placeName(*place) : rootName(static_cast<int>(tone)),
+                           cents(temperament.getPitch(key), equal.getPitch(key))};
+        }
     };
     if (!application_.player().with(look))
         return;
-    Tones tones;
-    for (unsigned tone = 0; tone < pitches.size(); ++tone) {
-        const std::string name = spelling(cents(pitches[tone], base));
-        tones[tone] = {name.empty() ? rootName(static_cast<int>(tone)) : name,
-                       cents(pitches[tone], equal.getPitch(kMiddleC + tone))};
-    }
     if (tones == tones_)
         return;
     readOften();

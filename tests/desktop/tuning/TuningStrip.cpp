@@ -29,6 +29,12 @@ TEST(TuningStrip, FollowsTheTuning)
     application.player().isomorph(3 * 3 + 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[3].name == "Fbb"; }));
     EXPECT_NEAR(strip.tones()[3].cents, 51.32, 0.01);
+
+    EXPECT_TRUE(application.tunings().select("Following Meantone"));
+    application.tunings().setTransposition({2, {}});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return strip.tones()[3].name == "D#"; }))
+        << "a third above B";
+    EXPECT_EQ(strip.tones()[0].name, "C") << "what the key is called, not what it is on C";
 }
 
 TEST(TuningStrip, FitsItsHeightToTheTypeAtTheSameWidth)
