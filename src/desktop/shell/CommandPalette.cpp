@@ -90,6 +90,14 @@ void CommandPalette::filter()
     nothing_->setVisible(!isAnyFound);
     list_->setCurrentRow(-1);
     moveBy(1);
+    for (int row = 0; row < list_->count(); ++row) {
+        const QListWidgetItem& item = *list_->item(row);
+        if (item.isHidden() || (item.flags() & Qt::ItemIsEnabled) == 0 ||
+            !search_->begins(item.text()))
+            continue;
+        list_->setCurrentRow(row);
+        return;
+    }
 }
 
 void CommandPalette::moveBy(int rows)

@@ -13,7 +13,7 @@ namespace {
 
 /// The longest text that is shown whole, and what is left of it in a narrow window, in letters of
 /// average width.
-constexpr int kMostLetters = 28, kLeastLetters = 6;
+constexpr int kMostLetters = 44, kLeastLetters = 6;
 
 } // namespace
 

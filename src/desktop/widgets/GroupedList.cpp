@@ -102,8 +102,12 @@ void GroupedList::filter()
 
 void GroupedList::chooseFirstFound()
 {
-    const auto found =
-        std::ranges::find_if(items_, [](const QTreeWidgetItem* item) { return !item->isHidden(); });
+    const auto isFound = [](const QTreeWidgetItem* item) { return !item->isHidden(); };
+    auto found = std::ranges::find_if(items_, [&](const QTreeWidgetItem* item) {
+        return isFound(item) && search_->begins(item->text(0));
+    });
+    if (found == items_.end())
+        found = std::ranges::find_if(items_, isFound);
     if (found == items_.end())
         return;
     tree_->setCurrentItem(*found);

@@ -46,7 +46,8 @@ private:
     void choose(const QTreeWidgetItem* item);
     void filter();
 
-    /// Does nothing if the search finds no entry, so that the current one stays marked.
+    /// Prefers an entry that begins with what is typed. Does nothing if the search finds no entry,
+    /// so that the current one stays marked.
     void chooseFirstFound();
 
     /// Lets the letters play again and the space bar start the piece once an entry is chosen.

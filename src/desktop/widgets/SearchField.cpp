@@ -27,6 +27,11 @@ bool SearchField::finds(const QString& text) const
         words, [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
+bool SearchField::begins(const QString& text) const
+{
+    return text.startsWith(this->text().trimmed(), Qt::CaseInsensitive);
+}
+
 void SearchField::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Down)

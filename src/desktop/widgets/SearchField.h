@@ -15,6 +15,9 @@ public:
     /// Returns whether each of the typed words occurs in a text, in any letter case.
     bool finds(const QString& text) const;
 
+    /// Returns whether a text begins with what is typed, in any letter case.
+    bool begins(const QString& text) const;
+
 signals:
     /// The user wants to go on to what was found, with the Down key.
     void left();

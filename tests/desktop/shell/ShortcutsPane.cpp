@@ -125,6 +125,10 @@ TEST_F(ShortcutsTest, PaletteFindsCommandsAndPerformsThem)
     ASSERT_THAT(found(), SizeIs(1));
     QTest::keyClick(palette.focusWidget(), Qt::Key_Return);
     EXPECT_EQ(application.tunings().name(), "Werckmeister III");
+    application.tunings().addBuiltins();
+    type("pure");
+    QTest::keyClick(palette.focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(application.tunings().name(), "Pure") << "not the first that says \"pure thirds\"";
 }
 
 } // namespace velmora

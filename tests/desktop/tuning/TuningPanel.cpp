@@ -109,6 +109,12 @@ TEST(TuningPanel, ChoosesAnAdaptiveTuningThatWasNeverUsed)
     EXPECT_EQ(application.tunings().name(), "Following Meantone");
     EXPECT_EQ(items(list), before);
     EXPECT_EQ(list.topLevelItem(0)->indexOfChild(list.currentItem()), 3);
+
+    auto& search = *panel.findChild<SearchField*>();
+    search.setText("pure");
+    emit search.returnPressed();
+    QApplication::processEvents();
+    EXPECT_EQ(application.tunings().name(), "Pure") << "not the first that says \"pure thirds\"";
 }
 
 } // namespace velmora
