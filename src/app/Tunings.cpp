@@ -24,6 +24,7 @@ void Tunings::addBuiltins()
     play(*equalTuning);
     put(std::move(equalTuning));
     put(TuningDocument::makeBuiltin(kMeantone));
+    emit changed();
 }
 
 void Tunings::put(std::unique_ptr<TuningDocument> document)

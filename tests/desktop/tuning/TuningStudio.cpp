@@ -93,6 +93,14 @@ TEST_F(TuningStudioTest, ShapesACopyThatIsHeardAtOnce)
     EXPECT_EQ(shaper.notes(), 0U);
 }
 
+TEST(TuningShaper, ShapesTheTuningOfTheStart)
+{
+    AppDelegate application;
+    const TuningShaper shaper(application.tunings()); // made with the window, before the tunings
+    application.tunings().addBuiltins();
+    EXPECT_EQ(shaper.notes(), 12U);
+}
+
 TEST_F(TuningStudioTest, SavesAScaleThatSoundsTheSame)
 {
     EXPECT_TRUE(tunings().select("Quartercomma Meantone"));
