@@ -12,7 +12,9 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <tuple>
 #include <utility>
+#include <vector>
 
 namespace velmora {
 
@@ -50,6 +52,11 @@ std::optional<ControllerEvent> controllerOf(const FileEvent& event, double step)
     return std::nullopt;
 }
 
+double stepOf(const FileEvent& event, double ticksPerBeat)
+{
+    return static_cast<double>(event.tick) / ticksPerBeat * kStepsPerBeat;
+}
+
 FileEdits::Added written(const ControllerEvent& event, std::size_t track)
 {
     const auto message = [&](int kind, const std::string& data) {
@@ -77,6 +84,36 @@ std::array<std::size_t, midi::kChannels> tracksOf(const MidiFileEvents& file)
                 tracks[event.status & midi::kChannelMask] = track;
     }
     return tracks;
+}
+
+/// Where an event stands: its time, channel and controller.
+using Place = std::tuple<double, int, int>;
+
+Place placeOf(const ControllerEvent& event)
+{
+    return {event.step, event.channel, event.number};
+}
+
+/// Returns the places, in order, at which two lists differ.
+std::vector<Place> differences(Controllers a, Controllers b)
+{
+    std::ranges::stable_sort(a, {}, placeOf);
+    std::ranges::stable_sort(b, {}, placeOf);
+    std::vector<Place> places;
+    for (auto i = a.begin(), j = b.begin(); i != a.end() || j != b.end();) {
+        const bool isInA = j == b.end() || (i != a.end() && placeOf(*i) < placeOf(*j));
+        const Place place = placeOf(isInA ? *i : *j);
+        const auto isElsewhere = [&](const ControllerEvent& event) {
+            return placeOf(event) != place;
+        };
+        const auto iEnd = std::find_if(i, a.end(), isElsewhere);
+        const auto jEnd = std::find_if(j, b.end(), isElsewhere);
+        if (!std::equal(i, iEnd, j, jEnd))
+            places.push_back(place);
+        i = iEnd;
+        j = jEnd;
+    }
+    return places;
 }
 
 /// From the first to the last move of each controller.
@@ -132,23 +169,31 @@ Controllers controllersOf(const MidiFileEvents& file)
 {
     Controllers controllers;
     for (const FileTrack& track : file.tracks)
-        for (const FileEvent& event : track.events) {
-            const double beats = static_cast<double>(event.tick) / file.header.ticksPerBeat;
-            if (const auto controller = controllerOf(event, beats * kStepsPerBeat))
+        for (const FileEvent& event : track.events)
+            if (const auto controller =
+                    controllerOf(event, stepOf(event, file.header.ticksPerBeat)))
                 controllers.push_back(*controller);
-        }
     std::ranges::stable_sort(controllers, {}, &ControllerEvent::step);
     return controllers;
 }
 
 void editControllers(const MidiFileEvents& file, const Controllers& controllers, FileEdits& edits)
 {
-    if (controllersOf(file) == controllers)
+    const Controllers before = controllersOf(file);
+    if (before == controllers)
         return;
-    edits.drop([](const FileEvent& event) { return controllerOf(event, 0.0).has_value(); });
+    const std::vector<Place> changed = differences(before, controllers);
+    const auto isChanged = [changed](const ControllerEvent& event) {
+        return std::ranges::binary_search(changed, placeOf(event));
+    };
+    edits.drop([isChanged, ticksPerBeat = file.header.ticksPerBeat](const FileEvent& event) {
+        const auto controller = controllerOf(event, stepOf(event, ticksPerBeat));
+        return controller && isChanged(*controller);
+    });
     const auto tracks = tracksOf(file);
     for (const ControllerEvent& event : controllers)
-        edits.add(written(event, tracks.at(event.channel)));
+        if (isChanged(event))
+            edits.add(written(event, tracks.at(event.channel)));
 }
 
 Controllers valuesBefore(const Controllers& controllers, double step)

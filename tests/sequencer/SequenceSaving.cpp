@@ -197,6 +197,25 @@ TEST_F(MusicalSaving, ChangesOnlyWhatWasEdited)
     EXPECT_EQ(notes[0].length, 8.0) << "the same music";
 }
 
+TEST_F(MusicalSaving, LeavesTheOtherControllersWhereTheyStand)
+{
+    using namespace midi;
+    const auto fileOf = [&](const std::string& moved, const std::string& rest) {
+        // The panorama comes behind the name, and the pedal is in a track of its own.
+        return header(1, 2) +
+               track(bytes({0, 0xFF, 3, 1, 'V', 0, 0xC2, 19, 0, 0xB2, 10, 64}) + on(0, 60, 70, 2) +
+                     moved) +
+               chunk("MTrk", bytes({0, 0xB2, 64, 127}) + rest);
+    };
+    open(fileOf(off(96, 60, 2), bytes({96, 0xB2, 64, 0, 0, 0xFF, 0x2F, 0})));
+    Controllers controllers = musical_.controllers();
+    ASSERT_EQ(controllers.size(), 3U);
+    controllers.back().value = 50;
+    musical_.setControllers(controllers, "Move");
+    EXPECT_EQ(saved(),
+              fileOf(bytes({96, 0xB2, 64, 50}) + off(0, 60, 2), bytes({96, 0xFF, 0x2F, 0})));
+}
+
 TEST_F(MusicalSaving, WritesTheTempoAndTheSignaturesThatWereEdited)
 {
     using namespace midi;
