@@ -18,11 +18,10 @@ namespace velmora {
 namespace {
 
 /// Adds a track for each voice that the file does not have, if the file may have several. The names
-/// of tracks are those of their voices, unless two of them share one.
+/// of tracks are those of their voices, unless two of them share one. A file of one track with one
+/// voice therefore becomes one of several.
 void addTracks(MidiFileEvents& file, const Sequence& sequence)
 {
-    if (file.header.format != 1)
-        return;
     std::bitset<midi::kChannels> before, now;
     for (const FileTrack& track : file.tracks)
         for (const FileEvent& event : track.events)
@@ -30,6 +29,10 @@ void addTracks(MidiFileEvents& file, const Sequence& sequence)
                 before.set(event.status & midi::kChannelMask);
     for (const Note& note : sequence.notes())
         now.set(note.channel % midi::kChannels);
+    if (file.header.format == 0 && before.count() == 1 && (now & before).any() && now.count() > 1)
+        file.header.format = 1;
+    if (file.header.format != 1)
+        return;
     constexpr std::size_t kMostTracks = 0xFFFF;
     for (std::uint8_t channel = 0; channel < midi::kChannels; ++channel)
         if (now[channel] && !before[channel] && file.tracks.size() < kMostTracks)

@@ -197,6 +197,34 @@ TEST_F(VoicesTest, KeepTheirNamesBesideANewOne)
     EXPECT_GT(saved.find(bytes({0xB5, midi::kSustain, 127})), saved.find("Horn")) << "on that";
 }
 
+TEST_F(VoicesTest, GetTracksOfTheirOwnInAFileThatHadOne)
+{
+    const auto headerAfter = [&](const auto& edit) {
+        std::ofstream(path_) << midi::file(named("Viol ") + midi::on(0, 60, 100, 2) +
+                                           midi::off(10, 60, 2));
+        SequenceDocument document(host_);
+        document.read(path_);
+        edit(document);
+        EXPECT_TRUE(
+            document.save(path_, SequenceFormat::MidiFile, SequenceDocument::SaveOperation::Save));
+        return readTextFile(path_).substr(8, 4);
+    };
+    EXPECT_EQ(headerAfter([](SequenceDocument& document) {
+                  document.edit()->addNote({.length = 4.0, .velocity = 1.0F, .channel = 5});
+                  Voices voices = document.voices();
+                  voices[5].name = "Horn";
+                  document.setVoices(voices, "");
+              }),
+              bytes({0, 1, 0, 2}));
+    SequenceDocument reopened(host_);
+    reopened.read(path_);
+    EXPECT_EQ(reopened.voices()[2].name, "Viol");
+    EXPECT_EQ(reopened.voices()[5].name, "Horn");
+    EXPECT_EQ(headerAfter([](SequenceDocument& document) { document.edit()->at(0).channel = 5; }),
+              bytes({0, 0, 0, 1}))
+        << "it still has one voice";
+}
+
 TEST_F(VoicesTest, AreMixedWithoutAnEditAndChangedWithOne)
 {
     SequenceDocument document(host_);
