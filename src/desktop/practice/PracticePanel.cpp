@@ -122,8 +122,11 @@ void PracticePanel::connectFields()
             document_->transport().setSpeed(percent / 100.0);
     });
     connect(repeats_, &QCheckBox::toggled, this, &PracticePanel::repeatBars);
-    for (QSpinBox* box : {firstBar_, lastBar_})
+    for (QSpinBox* box : {firstBar_, lastBar_}) {
         connect(box, &QSpinBox::valueChanged, this, &PracticePanel::repeatBars);
+        box->setEnabled(false);
+        connect(repeats_, &QCheckBox::toggled, box, &QSpinBox::setEnabled);
+    }
     connect(fallingNotes_, &QCheckBox::toggled, this, &PracticePanel::fallingNotesToggled);
     connect(start_, &QPushButton::clicked, this, &PracticePanel::toggle);
 }
@@ -154,12 +157,16 @@ void PracticePanel::keepSettings()
 
 void PracticePanel::setDocument(SequenceDocument* document)
 {
+    if (document_ != nullptr && document == document_)
+        return; // only its title or its state has changed
     if (document_ != nullptr) {
         document_->practiceSession().stop();
         for (QObject* source : std::initializer_list<QObject*>{document_, &document_->transport(),
                                                                &document_->practiceSession()})
             source->disconnect(this);
     }
+    document_ = nullptr; // the piece that was shown keeps its loop
+    repeats_->setChecked(false);
     document_ = document;
     setEnabled(document_ != nullptr && document_->reading() == Reading::Musical);
     if (document_ != nullptr) {
@@ -167,17 +174,18 @@ void PracticePanel::setDocument(SequenceDocument* document)
         connect(document_, &SequenceDocument::voicesChanged, this, &PracticePanel::showVoices);
         const Transport& transport = document_->transport();
         connect(&transport, &Transport::optionsChanged, this, &PracticePanel::showState);
-        connect(&transport, &Transport::frame, this, &PracticePanel::showState);
+        connect(&transport, &Transport::frame, this, [this] {
+            showState();
+            // Playing shows where it is by itself unless an interval is selected.
+            if (document_->practiceSession().isRunning())
+                document_->transport().revealPosition();
+        });
         connect(&document_->practiceSession(), &PracticeSession::ended, this, [this] {
             const PracticeResult& result = document_->practiceSession().result();
             showState();
             if (!result.strokes.empty() || !result.wrong.empty())
                 emit finished();
         });
-    }
-    {
-        const QSignalBlocker blocker(repeats_);
-        repeats_->setChecked(false);
     }
     showVoices();
     recallChoice();

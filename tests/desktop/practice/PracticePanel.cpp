@@ -20,6 +20,8 @@
 #include <QSpinBox>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 namespace velmora {
 
 namespace {
@@ -88,16 +90,26 @@ TEST_F(PracticePanelTest, PractisesWhatIsChosen)
     EXPECT_FALSE(box<QSpinBox>("First bar").isEnabled()) << "it practises the whole piece";
     box<QSpinBox>("First bar").setValue(2);
     box<QSpinBox>("Last bar").setValue(3);
-    for (QCheckBox* check : panel_.findChildren<QCheckBox*>())
-        if (check->text() == "Repeat bars")
-            check->setChecked(true);
+    const auto checks = panel_.findChildren<QCheckBox*>();
+    QCheckBox* repeats = *std::ranges::find(checks, "Repeat bars", &QCheckBox::text);
+    EXPECT_FALSE(box<QSpinBox>("First bar").isEnabled()) << "they are not used";
+    repeats->setChecked(true);
+    EXPECT_TRUE(box<QSpinBox>("First bar").isEnabled());
     EXPECT_EQ(piece_.transport().interval().start, 32.0);
     EXPECT_EQ(piece_.transport().interval().end, 96.0);
     EXPECT_TRUE(piece_.transport().loops());
 
     QSignalSpy finished(&panel_, &PracticePanel::finished);
+    QSignalSpy scrolled(&piece_.transport(), &Transport::scrolled);
     button().click();
     EXPECT_TRUE(piece_.practiceSession().isRunning());
+    now_ += 0.1;
+    piece_.transport().tick();
+    ASSERT_EQ(scrolled.size(), 1) << "the roll follows";
+    EXPECT_EQ(scrolled.front().front().toDouble(), piece_.transport().position() - 8.0);
+    panel_.setDocument(&piece_);
+    EXPECT_TRUE(piece_.practiceSession().isRunning()) << "the same piece is shown, but saved";
+    EXPECT_TRUE(repeats->isChecked());
     button().click();
     EXPECT_FALSE(piece_.practiceSession().isRunning());
     EXPECT_EQ(finished.size(), 0) << "no key was struck";
@@ -107,6 +119,8 @@ TEST_F(PracticePanelTest, PractisesWhatIsChosen)
     piece_.transport().tick();
     panel_.setDocument(nullptr);
     EXPECT_FALSE(piece_.practiceSession().isRunning()) << "another piece is shown";
+    EXPECT_FALSE(box<QSpinBox>("First bar").isEnabled());
+    EXPECT_TRUE(piece_.transport().loops());
     EXPECT_EQ(finished.size(), 1);
 }
 
