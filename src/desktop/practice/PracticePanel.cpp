@@ -189,7 +189,6 @@ void PracticePanel::setDocument(SequenceDocument* document)
     }
     showVoices();
     recallChoice();
-    repeatBars();
     showState();
 }
 
@@ -263,8 +262,6 @@ void PracticePanel::toggle()
 
 void PracticePanel::repeatBars()
 {
-    for (QSpinBox* box : {firstBar_, lastBar_})
-        box->setEnabled(repeats_->isChecked());
     if (document_ == nullptr)
         return;
     Transport& transport = document_->transport();
