@@ -52,7 +52,7 @@ std::optional<ControllerEvent> controllerOf(const FileEvent& event, double step)
     return std::nullopt;
 }
 
-double stepOf(const FileEvent& event, double ticksPerBeat)
+double stepOfEvent(const FileEvent& event, double ticksPerBeat)
 {
     return static_cast<double>(event.tick) / ticksPerBeat * kStepsPerBeat;
 }
@@ -171,7 +171,7 @@ Controllers controllersOf(const MidiFileEvents& file)
     for (const FileTrack& track : file.tracks)
         for (const FileEvent& event : track.events)
             if (const auto controller =
-                    controllerOf(event, stepOf(event, file.header.ticksPerBeat)))
+                    controllerOf(event, stepOfEvent(event, file.header.ticksPerBeat)))
                 controllers.push_back(*controller);
     std::ranges::stable_sort(controllers, {}, &ControllerEvent::step);
     return controllers;
@@ -187,7 +187,7 @@ void editControllers(const MidiFileEvents& file, const Controllers& controllers,
         return std::ranges::binary_search(changed, placeOf(event));
     };
     edits.drop([isChanged, ticksPerBeat = file.header.ticksPerBeat](const FileEvent& event) {
-        const auto controller = controllerOf(event, stepOf(event, ticksPerBeat));
+        const auto controller = controllerOf(event, stepOfEvent(event, ticksPerBeat));
         return controller && isChanged(*controller);
     });
     const auto tracks = tracksOf(file);
