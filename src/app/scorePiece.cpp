@@ -6,6 +6,7 @@
 #include "notation/lilyPond.h"
 #include "notation/musicXml.h"
 #include "platform/writeFile.h"
+#include "sequencer/ProgramChanges.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceTime.h"
 #include "sequencer/SourceFile.h"
@@ -80,7 +81,11 @@ Piece pieceOf(const SequenceDocument& document, const std::string& title, Temper
                                         .velocity = notes[i].velocity});
     }
     for (auto& [channel, part] : parts) {
-        part.name = names[channel];
+        const Voice& voice = document.voices()[channel];
+        part.name = voice.name.empty() ? names[channel] : voice.name;
+        part.isPercussion = channel == kDrumChannel;
+        if (voice.sound.preset)
+            part.program = voice.sound.preset->number;
         if (part.name.empty() && parts.size() > 1)
             part.name = std::to_string(channel + 1);
         piece.parts.push_back(std::move(part));

@@ -11,8 +11,8 @@ namespace velmora {
 class SequenceDocument;
 class Temperament;
 
-/// Returns a sequence as a piece to be written down: each channel is a part. Signatures, tempos and
-/// names are those of its file; without one, a beat has eight steps. A temperament in its initial
+/// Returns a sequence as a piece to be written down: each channel is a part. Signatures and
+/// tempos are those of its file; without one, a beat has eight steps. A temperament in its initial
 /// state may choose the spelling of the notes, which follows from all of them. Only the notes of
 /// `voices` are in the piece.
 Piece pieceOf(const SequenceDocument& document, const std::string& title, Temperament& temperament,

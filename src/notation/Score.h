@@ -45,6 +45,8 @@ struct Score {
         std::string name;
         std::vector<bool> isBass;             ///< For each staff, whether it has a bass clef.
         std::vector<std::vector<Voice>> bars; ///< The voices with notes, bar by bar.
+        std::optional<int> program = {};      ///< As in `Piece::Part`, and so is what follows.
+        bool isPercussion = false;
     };
 
     /// How many voices a staff has at most. A chord that finds none ends an earlier one.

@@ -242,8 +242,11 @@ Score makeScore(const Piece& piece)
         for (const Score::Bar& bar : score.bars)
             if (bar.start % (kScoreDivisions / 2) != 0)
                 part.grid.avoidTriplets(bar.start);
-    for (std::size_t i = 0; i < parts.size(); ++i)
+    for (std::size_t i = 0; i < parts.size(); ++i) {
         score.parts.push_back(writePart(piece.parts[i].name, parts[i], score.bars));
+        score.parts.back().program = piece.parts[i].program;
+        score.parts.back().isPercussion = piece.parts[i].isPercussion;
+    }
     return score;
 }
 

@@ -11,6 +11,9 @@ namespace velmora {
 
 namespace {
 
+/// The channel of percussion in General MIDI, counted from 1.
+constexpr int kPercussionChannel = 10;
+
 pugi::xml_node append(pugi::xml_node parent, const char* name)
 {
     return parent.append_child(name);
@@ -42,6 +45,22 @@ const char* typeOf(int value)
     default:
         return "32nd";
     }
+}
+
+void writeHeading(pugi::xml_node heading, const Score::Part& part, const std::string& instrumentId)
+{
+    append(heading, "part-name", part.name);
+    pugi::xml_node instrument = append(heading, "score-instrument");
+    instrument.append_attribute("id").set_value(instrumentId.c_str());
+    append(instrument, "instrument-name", part.name);
+    if (!part.program && !part.isPercussion)
+        return;
+    pugi::xml_node sound = append(heading, "midi-instrument");
+    sound.append_attribute("id").set_value(instrumentId.c_str());
+    if (part.isPercussion)
+        append(sound, "midi-channel", kPercussionChannel);
+    if (part.program)
+        append(sound, "midi-program", *part.program + 1);
 }
 
 void writeClef(pugi::xml_node attributes, std::size_t staff, bool isBass)
@@ -215,10 +234,7 @@ std::string writeMusicXml(const Score& score)
     for (std::size_t i = 0; i < score.parts.size(); ++i) {
         pugi::xml_node part = append(list, "score-part");
         part.append_attribute("id").set_value(partId(i).c_str());
-        append(part, "part-name", score.parts[i].name);
-        pugi::xml_node instrument = append(part, "score-instrument");
-        instrument.append_attribute("id").set_value((partId(i) + "-I1").c_str());
-        append(instrument, "instrument-name", score.parts[i].name);
+        writeHeading(part, score.parts[i], partId(i) + "-I1");
     }
     for (std::size_t i = 0; i < score.parts.size(); ++i) {
         pugi::xml_node part = append(root, "part");

@@ -2,6 +2,7 @@
 
 #include "app/Player.h"
 #include "notation/musicXml.h"
+#include "notation/readMusicXml.h"
 #include "sequencer/SequenceDocument.h"
 #include "support/MidiBytes.h"
 #include "tuning/FollowingMeantone.h"
@@ -73,6 +74,34 @@ TEST(ScorePiece, TakesBarsTempoAndSpellingFromTheFileAndTheTemperament)
     EXPECT_THAT(textOf("air.musicxml"), HasSubstr("<score-partwise"));
     EXPECT_THAT(textOf("air.LY"), HasSubstr("R1*3/4 |\n    <des' f'>2 r4 |"))
         << "spelled by the key signature";
+}
+
+TEST(ScorePiece, HasTheNamesAndSoundsOfTheVoices)
+{
+    const QTemporaryDir folder;
+    const std::filesystem::path path = folder.filePath("air.mid").toStdString();
+    std::ofstream(path, std::ios::binary)
+        << midi::file(midi::bytes({0, 0xFF, midi::kTrackName, 3, 'A', 'i', 'r', 0, 0xC0, 73}) +
+                      midi::on(0, 72) + midi::off(96, 72));
+    Player player;
+    SequenceDocument document(player);
+    document.read(path);
+    document.edit()->addNote({.length = 8.0, .velocity = 1.0F, .channel = 9, .key = 36});
+    Voices voices = document.voices();
+    voices[0].name = "Flute";
+    voices[9].name = "Drum";
+    document.setVoices(voices, "");
+
+    Temperament meantone = Temperament::Meantone();
+    const Piece copy = readMusicXml(writeMusicXml(makeScore(pieceOf(document, "Air", meantone))));
+    ASSERT_EQ(copy.parts.size(), 2U);
+    EXPECT_EQ(copy.parts[0].name, "Flute") << "not as in the file";
+    EXPECT_EQ(copy.parts[0].program, 73);
+    EXPECT_FALSE(copy.parts[0].isPercussion);
+    EXPECT_EQ(copy.parts[1].name, "Drum");
+    EXPECT_TRUE(copy.parts[1].isPercussion);
+    ASSERT_EQ(copy.parts[1].notes.size(), 1U);
+    EXPECT_EQ(copy.parts[1].notes.front().key, 36U);
 }
 
 } // namespace velmora

@@ -55,7 +55,7 @@ TEST(MusicXml, GivesBackWhatWasWritten)
     for (int run = 0; run < 50; ++run) {
         Piece piece;
         piece.title = "<Ricercar>";
-        piece.parts.push_back({"Organo & più", randomNotes(random)});
+        piece.parts.push_back({"Organo & più", randomNotes(random), 19});
         // Triplets against sixteenths in one quarter note have no common grid.
         auto& notes = piece.parts.front().notes;
         std::erase_if(notes, [&](const Piece::Note& note) {
@@ -70,6 +70,7 @@ TEST(MusicXml, GivesBackWhatWasWritten)
         const Piece copy = readMusicXml(writeMusicXml(makeScore(piece)));
         EXPECT_EQ(copy.title, piece.title);
         EXPECT_THAT(copy.parts.front().name, testing::StartsWith(piece.parts.front().name));
+        EXPECT_EQ(copy.parts.front().program, 19);
         EXPECT_EQ(copy.timeSignatures, piece.timeSignatures);
         EXPECT_EQ(copy.keySignatures, piece.keySignatures);
         EXPECT_EQ(copy.tempos, piece.tempos);
