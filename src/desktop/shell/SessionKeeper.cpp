@@ -77,6 +77,7 @@ QString SessionKeeper::open(const std::filesystem::path& file, Arrangement arran
         Transport& transport = document.transport();
         transport.setPosition(std::min(piece.position, transport.extent()));
         document.practice().showKeys();
+        emit transport.frame(); // the status names them
         transport.revealPosition();
         if (&piece == &session.pieces[session.currentPiece])
             current = pages_.current();

@@ -11,10 +11,13 @@
 #include "support/answering.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPushButton>
 #include <QTimer>
 #include <QtTest>
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 namespace velmora {
 
@@ -79,6 +82,8 @@ TEST_F(SessionKeeperTest, StartsAsItEnded)
                 EXPECT_EQ(document.practice().stateOfNote(note.key), note.start > 0 ? kWanted : 0);
             }
         }
+        const auto labels = desktop.pages().current()->findChildren<QLabel*>();
+        EXPECT_EQ(std::ranges::count(labels, "Waiting for A4", &QLabel::text), 1);
     });
     setPreference("StartAsLastTime", false);
     run([&](Desktop& desktop) {
