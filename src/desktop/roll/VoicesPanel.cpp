@@ -142,12 +142,13 @@ void VoicesPanel::showAll()
     }
     const QSignalBlocker block(ownSounds_);
     ownSounds_->setChecked(document_ == nullptr || document_->voices().arePrograms);
-    for (std::size_t channel = 0; channel < rows_.size(); ++channel) {
+    // Also the rows that are hidden: the keyboard focus leaves them one by one then, and a field
+    // that it leaves finishes its editing.
+    for (std::size_t channel = 0; document_ != nullptr && channel < rows_.size(); ++channel)
+        rows_[channel]->showVoice(document_->voices()[channel],
+                                  document_->recorder().channel() == channel);
+    for (std::size_t channel = 0; channel < rows_.size(); ++channel)
         rows_[channel]->setVisible(used[channel]);
-        if (used[channel])
-            rows_[channel]->showVoice(document_->voices()[channel],
-                                      document_->recorder().channel() == channel);
-    }
 }
 
 } // namespace velmora

@@ -80,4 +80,26 @@ TEST(VoicesPanel, ShowsAndChangesTheVoicesOfThePiece)
     EXPECT_TRUE(document.voices()[3].isMuted);
 }
 
+TEST(VoicesPanel, LeavesTheNextPieceAlone)
+{
+    AppDelegate application;
+    SequenceDocument first(application.player()), second(application.player());
+    Voices voices = first.voices();
+    for (const unsigned channel : {2U, 5U}) {
+        first.edit()->addNote({.length = 4.0, .velocity = 1.0F, .channel = channel, .key = 60});
+        voices[channel].name = "Viol";
+    }
+    first.setVoices(voices, "");
+    VoicesPanel panel(application);
+    panel.setDocument(&first);
+    panel.show();
+    QApplication::setActiveWindow(&panel);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+    controlNamed<QLineEdit>(panel, "Name of voice 3")->setFocus();
+    ASSERT_TRUE(controlNamed<QLineEdit>(panel, "Name of voice 3")->hasFocus());
+    panel.setDocument(&second);
+    EXPECT_EQ(second.voices(), newVoices());
+    EXPECT_FALSE(second.isModified());
+}
+
 } // namespace velmora
