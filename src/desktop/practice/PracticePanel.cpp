@@ -5,6 +5,7 @@
 #include "desktop/widgets/scrolling.h"
 #include "preferences/Preferences.h"
 #include "sequencer/PracticeHistory.h"
+#include "sequencer/ProgramChanges.h"
 #include "sequencer/SequenceDocument.h"
 
 #include <QCheckBox>
@@ -292,7 +293,8 @@ void PracticePanel::showVoices()
         if (row == list_->count()) {
             auto* item = new QListWidgetItem(list_);
             item->setData(Qt::UserRole, static_cast<uint>(channel));
-            item->setCheckState(Qt::Checked);
+            // Drums are not what a keyboard practises as a rule.
+            item->setCheckState(channel == kDrumChannel ? Qt::Unchecked : Qt::Checked);
         }
         const std::string& name = document_->voices()[channel].name;
         list_->item(row++)->setText(name.empty() ? tr("Voice %1").arg(channel + 1)

@@ -178,6 +178,10 @@ TEST_F(PracticePanelTest, NamesTheVoices)
     EXPECT_EQ(list.item(0)->text(), "Voice 1");
     EXPECT_EQ(list.item(0)->checkState(), Qt::Unchecked) << "stays as it was chosen";
     EXPECT_EQ(list.item(1)->text(), "Flöte");
+    put(36, 0.0, 9);
+    ASSERT_EQ(list.count(), 3);
+    EXPECT_EQ(list.item(1)->checkState(), Qt::Checked);
+    EXPECT_EQ(list.item(2)->checkState(), Qt::Unchecked) << "drums play along";
 }
 
 TEST_F(PracticePanelTest, SaysWhichKeysComeNext)
