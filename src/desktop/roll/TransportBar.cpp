@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "desktop/roll/SequenceActions.h"
 #include "desktop/widgets/LearnMenu.h"
+#include "desktop/widgets/finishTyping.h"
 #include "desktop/widgets/nameParts.h"
 #include "midi/messages.h"
 #include "sequencer/SequenceDocument.h"
@@ -73,6 +74,8 @@ TransportBar::TransportBar(SequenceActions& actions, AppDelegate& application)
 
 void TransportBar::setDocument(SequenceDocument* document)
 {
+    if (document != document_)
+        finishTyping(*this);
     if (document_ != nullptr) {
         document_->transport().disconnect(this);
         document_->recorder().disconnect(this);

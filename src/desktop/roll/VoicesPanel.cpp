@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "desktop/roll/VoiceRow.h"
+#include "desktop/widgets/finishTyping.h"
 #include "sequencer/SequenceDocument.h"
 
 #include <QCheckBox>
@@ -99,6 +100,8 @@ void VoicesPanel::change(std::size_t channel, const std::function<void(Voice&)>&
 
 void VoicesPanel::setDocument(SequenceDocument* document)
 {
+    if (document != document_)
+        finishTyping(*this);
     if (document_ != nullptr) {
         document_->disconnect(this);
         document_->recorder().disconnect(this);

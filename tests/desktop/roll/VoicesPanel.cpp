@@ -97,7 +97,10 @@ TEST(VoicesPanel, LeavesTheNextPieceAlone)
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
     controlNamed<QLineEdit>(panel, "Name of voice 3")->setFocus();
     ASSERT_TRUE(controlNamed<QLineEdit>(panel, "Name of voice 3")->hasFocus());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+    QTest::keyClicks(QApplication::focusWidget(), "a");
     panel.setDocument(&second);
+    EXPECT_EQ(first.voices()[2].name, "Viola") << "what was typed without Return";
     EXPECT_EQ(second.voices(), newVoices());
     EXPECT_FALSE(second.isModified());
 }
