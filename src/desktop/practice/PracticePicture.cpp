@@ -119,7 +119,7 @@ void paintDelays(QPainter& painter, const QRectF& place, const PracticeSummary& 
 {
     Diagram diagram(painter, place, palette, summary.delays.size(),
                     *std::ranges::max_element(summary.delays));
-    const QColor color = palette.color(QPalette::Highlight);
+    const QColor color = accentOn({palette.color(QPalette::Base)}, palette);
     for (std::size_t i = 0; i < summary.delays.size(); ++i)
         diagram.paintColumn(i, 0, summary.delays[i], color);
     diagram.paintLabel(0, pictureText(QT_TRANSLATE_NOOP("velmora::PracticePicture", "early")));

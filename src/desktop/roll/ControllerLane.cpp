@@ -1,5 +1,6 @@
 #include "desktop/roll/ControllerLane.h"
 
+#include "desktop/widgets/scheme.h"
 #include "sequencer/SequenceDocument.h"
 
 #include <QMouseEvent>
@@ -80,7 +81,7 @@ void ControllerLane::paintEvent(QPaintEvent* /*event*/)
     if (editor() == nullptr)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = palette().color(QPalette::Highlight);
+    const QColor color = accentOn({palette().color(QPalette::Base)}, palette());
     double x = xOf(restingValue(number_)), y = length();
     const auto line = [&](double to) {
         painter.setPen(QPen(color, 1.5));

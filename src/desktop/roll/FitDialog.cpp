@@ -1,5 +1,6 @@
 #include "desktop/roll/FitDialog.h"
 
+#include "desktop/widgets/scheme.h"
 #include "sequencer/SequenceDocument.h"
 
 #include <QDialogButtonBox>
@@ -52,6 +53,7 @@ protected:
     {
         QPainter painter(this);
         painter.fillRect(rect(), palette().color(QPalette::Base));
+        const QColor color = accentOn({palette().color(QPalette::Base)}, palette());
         const double row = (height() - 2.0 * kPictureMargin) / keys_;
         const MusicalTime& time = document_.time();
         for (const Note& note : document_.sequence().notes()) {
@@ -59,8 +61,7 @@ protected:
             const double end = xOf(time.secondsAt(note.start + note.length));
             const double y =
                 height() - kPictureMargin - row * (static_cast<int>(note.key) - lowest_ + 1);
-            painter.fillRect(QRectF(x, y, std::max(end - x, 2.0), std::max(row - 1.0, 2.0)),
-                             palette().color(QPalette::Highlight));
+            painter.fillRect(QRectF(x, y, std::max(end - x, 2.0), std::max(row - 1.0, 2.0)), color);
         }
         for (std::size_t i = 0; i < beats_.times.size(); ++i) {
             const int inBar = (static_cast<int>(i) - beats_.firstBar) % beats_.beatsPerBar;
@@ -106,6 +107,7 @@ FitDialog::FitDialog(SequenceDocument& document, const FoundBeats& beats, QWidge
     column->addLayout(form);
     column->addWidget(buttons);
     showBeats();
+    resize(sizeHint()); // on a low screen it would get less than the wrapped text takes
 }
 
 void FitDialog::addFields(QFormLayout& form)

@@ -21,6 +21,11 @@ RollShade shade(const QColor& color)
     return shade(Color(color));
 }
 
+QColor opaque(RollShade shade)
+{
+    return {shade[0], shade[1], shade[2]};
+}
+
 /// Returns a gray of level 0, black, to 255, white.
 constexpr RollShade gray(std::uint8_t level)
 {
@@ -118,6 +123,8 @@ void RollColors::setCalm(const QPalette& palette)
     barLine = mixed(whiteColumn, text_, kBarLine);
     interval = shade(Color(palette.color(QPalette::Active, QPalette::Highlight)), kIntervalOpacity);
     outline = text_;
+    selected =
+        shade(accentOn({opaque(whiteColumn), opaque(blackColumn), opaque(middleC)}, palette));
     leftOut = mixed(whiteColumn, text_, kLeftOut);
     recorded = shade(QColor(dark ? kRecordedOnDark : kRecordedOnLight));
     for (std::size_t channel = 0; channel < kChannels; ++channel) {
@@ -141,10 +148,7 @@ RollShade RollColors::atRest(const Note& note) const
 
 QColor RollColors::of(const Note& note) const
 {
-    const auto [red, green, blue, opacity] = note.selected ? selected
-                                             : note.active ? playing
-                                                           : atRest(note);
-    return {red, green, blue};
+    return opaque(note.selected ? selected : note.active ? playing : atRest(note));
 }
 
 RollShade RollColors::onset(RollShade note) const

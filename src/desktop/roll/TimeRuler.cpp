@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "desktop/roll/SequenceView.h"
+#include "desktop/widgets/scheme.h"
 #include "sequencer/SequenceDocument.h"
 #include "sequencer/SequenceEditor.h"
 
@@ -119,7 +120,7 @@ void TimeRuler::paintBars(QPainter& painter) const
     for (const Marker& marker : time.markers()) {
         const double y = yOf(marker.step);
         const std::array flag{QPointF(0, y), QPointF(0, y - kFlag), QPointF(kFlag, y - kFlag / 2)};
-        painter.setBrush(palette().color(QPalette::Active, QPalette::Highlight));
+        painter.setBrush(accentOn({palette().color(QPalette::Window)}, palette()));
         painter.drawPolygon(flag.data(), static_cast<int>(flag.size()));
     }
 }
@@ -145,7 +146,7 @@ double TimeRuler::paintNumber(QPainter& painter, int number, double y) const
 void TimeRuler::paintHandles(QPainter& painter) const
 {
     const Transport& transport = document_->transport();
-    const QColor color = palette().color(QPalette::Active, QPalette::Highlight);
+    const QColor color = accentOn({palette().color(QPalette::Window)}, palette());
     if (const Interval& interval = transport.interval(); !interval.isEmpty()) {
         QColor band = color;
         band.setAlpha(transport.loops() ? kLoopOpacity : kPlainOpacity);

@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "desktop/tuning/intervalText.h"
 #include "desktop/widgets/noteNames.h"
+#include "desktop/widgets/scheme.h"
 #include "sound/keys.h"
 #include "tuning/spelling.h"
 
@@ -180,7 +181,7 @@ void TuningStrip::paintTone(QPainter& painter, const Tone& tone, const QRectF& p
     const QPointF middle(left.x() + nameWidth() + kBarRoom / 2.0, place.center().y());
     const double deviation = std::clamp(tone.cents / kFullCents, -1.0, 1.0);
     const QRectF bar(middle.x() - 3, middle.y(), 6, -deviation * (place.height() / 2.0 - 2));
-    painter.fillRect(bar.normalized(), palette().color(QPalette::Highlight));
+    painter.fillRect(bar.normalized(), accentOn({palette().color(QPalette::Window)}, palette()));
     painter.drawLine(middle - QPointF(7, 0), middle + QPointF(7, 0));
 
     painter.setPen(palette().color(QPalette::WindowText));

@@ -65,6 +65,25 @@ double contrast(const QColor& one, const QColor& other)
     return (bright + 0.05) / (dark + 0.05);
 }
 
+QColor accentOn(std::initializer_list<QColor> backgrounds, const QPalette& palette)
+{
+    constexpr double kLeastContrast = 3.0;
+    constexpr int kShares = 10;
+    const QColor own = palette.color(QPalette::Active, QPalette::Highlight);
+    const QColor text = palette.color(QPalette::Active, QPalette::Text);
+    QColor color = own;
+    for (int share = 1; share <= kShares; ++share) {
+        if (std::ranges::all_of(backgrounds, [&](const QColor& background) {
+                return contrast(color, background) >= kLeastContrast;
+            }))
+            break;
+        const auto mixed = [&](int from, int to) { return from + (to - from) * share / kShares; };
+        color = QColor(mixed(own.red(), text.red()), mixed(own.green(), text.green()),
+                       mixed(own.blue(), text.blue()));
+    }
+    return color;
+}
+
 QColor inkOn(const QColor& background)
 {
     return contrast(background, Qt::black) > contrast(background, Qt::white) ? Qt::black

@@ -11,6 +11,9 @@ namespace velmora {
 
 namespace {
 
+/// As dark as that of many dark themes.
+constexpr QRgb kHighlight = 0x12608a;
+
 class RollColorsTest : public SequenceTest {
 protected:
     ~RollColorsTest() override
@@ -24,6 +27,7 @@ protected:
         QPalette palette;
         palette.setColor(QPalette::Base, QColor(base));
         palette.setColor(QPalette::Text, QColor(text));
+        palette.setColor(QPalette::Highlight, QColor(kHighlight));
         return palette;
     }
 
@@ -64,7 +68,7 @@ TEST_F(RollColorsTest, NotesAndKeysStandOutInEveryTheme)
         const QPalette palette = theme(base, text);
         const RollColors colors(palette);
         std::vector<RollShade> notes{colors.playing, colors.recorded, colors.outline,
-                                     colors.leftOut};
+                                     colors.leftOut, colors.selected};
         for (unsigned channel = 0; channel < 16; ++channel)
             for (const float velocity : {0.0F, 0.5F, 1.0F})
                 notes.push_back(colors.atRest({.velocity = velocity, .channel = channel}));
