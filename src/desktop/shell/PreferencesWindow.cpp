@@ -170,12 +170,15 @@ QWidget* PreferencesWindow::makeMidiPane(AppDelegate& application)
     connect(playing, &PlayingPane::changed, this, &PreferencesWindow::changed);
     connect(&application.playing(), &PlayingOptions::changed, playing, &PlayingPane::read);
 
+    auto* glide = new GlideBar(application.playing());
+    glide->setContentsMargins(playing->layout()->contentsMargins());
+
     auto* pane = new QWidget;
     auto* layout = new QVBoxLayout(pane);
     layout->setContentsMargins({});
     layout->addWidget(devices, 1);
     layout->addWidget(playing);
-    layout->addWidget(new GlideBar(application.playing()));
+    layout->addWidget(glide);
     return pane;
 }
 

@@ -59,9 +59,7 @@ ShortcutsPane::ShortcutsPane(Commands& commands)
       remove_(new QPushButton(tr("Remo&ve"))), problem_(new QLabel)
 {
     list_->setHeaderLabels({tr("Command"), tr("Shortcut")});
-    list_->header()->setSectionResizeMode(kCommandColumn, QHeaderView::Stretch);
-    list_->header()->setSectionResizeMode(kShortcutColumn, QHeaderView::ResizeToContents);
-    list_->header()->setStretchLastSection(false);
+    list_->header()->setSectionResizeMode(kCommandColumn, QHeaderView::ResizeToContents);
     list_->setRootIsDecorated(false);
     list_->setItemsExpandable(false);
     list_->setAccessibleName(tr("Commands"));

@@ -35,6 +35,17 @@ protected:
 
 } // namespace
 
+TEST_F(ShortcutsTest, StandBesideNamesThatCanBeRead)
+{
+    commands.add("test.many", "View", {"&Zoom to the Selection", {}},
+                 {Qt::Key_F2, Qt::CTRL | Qt::SHIFT | Qt::Key_F3, Qt::CTRL | Qt::ALT | Qt::Key_F4});
+    ShortcutsPane pane(commands);
+    pane.resize(250, 300);
+    pane.show();
+    const auto& list = *pane.findChild<QTreeWidget*>();
+    EXPECT_GT(list.columnWidth(0), list.fontMetrics().horizontalAdvance("Zoom to the Selection"));
+}
+
 TEST_F(ShortcutsTest, AreEditedWithoutConflicts)
 {
     ShortcutsPane pane(commands);
