@@ -4170,11 +4170,11 @@ Cliquez pour afficher tous les tempéraments</translation>
     </message>
     <message>
         <source>Find a tuning</source>
-        <translation type="unfinished">Chercher un accord</translation>
+        <translation type="unfinished">Chercher un tempérament</translation>
     </message>
     <message>
         <source>Tunings</source>
-        <translation type="unfinished">Accords</translation>
+        <translation type="unfinished">Tempéraments</translation>
     </message>
     <message>
         <source>Pythagorean</source>

@@ -14,6 +14,8 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace velmora {
 
 namespace {
@@ -242,12 +244,20 @@ void StartPage::arrangeCards()
     const bool isLow = viewport()->height() < kLowLines * fontMetrics().height();
     for (auto* explanation : widget()->findChildren<QWidget*>(kExplanation))
         explanation->setHidden(isLow);
-    for (QWidget* card : cards_)
-        static_cast<QBoxLayout*>(card->layout())
-            ->setDirection(isLow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     const int width = viewport()->width() - 2 * kMargin;
     const int cardWidth = fontMetrics().averageCharWidth() * kCardLetters;
     const int columns = width >= 4 * cardWidth ? 4 : width >= 2 * cardWidth ? 2 : 1;
+    const auto setDirection = [this](QBoxLayout::Direction direction) {
+        for (QWidget* card : cards_)
+            static_cast<QBoxLayout*>(card->layout())->setDirection(direction);
+    };
+    const int room = (width - (columns - 1) * cardGrid_->horizontalSpacing()) / columns;
+    const auto isTooWide = [&](QWidget* card) {
+        return card->layout()->minimumSize().width() > room;
+    };
+    setDirection(isLow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    if (isLow && std::ranges::any_of(cards_, isTooWide))
+        setDirection(QBoxLayout::TopToBottom);
     for (int i = 0; i < static_cast<int>(cards_.size()); ++i)
         cardGrid_->addWidget(cards_[i], i / columns, i % columns);
     for (int column = 0; column < 4; ++column)

@@ -95,4 +95,25 @@ TEST(StartPage, OpensExamplesAndTheRecentFilesThatExist)
     EXPECT_THAT(texts(page), Not(Contains("fish && chips.mid")));
 }
 
+TEST(StartPage, ShowsItsButtonsWholeInLittleRoom)
+{
+    StartPage page;
+    QFont font = page.font();
+    for (const int size : {9, 14}) {
+        font.setPointSize(size);
+        page.setFont(font);
+        for (const QSize room : {QSize(600, 500), QSize(210, 150)}) {
+            page.resize(room);
+            page.show();
+            ASSERT_TRUE(QTest::qWaitForWindowExposed(&page));
+            for (const auto* button : page.findChildren<QPushButton*>())
+                if (button->isVisible()) {
+                    const int right = button->mapTo(&page, button->rect().bottomRight()).x();
+                    EXPECT_LT(right, page.viewport()->width())
+                        << size << " pt: " << button->text().toStdString();
+                }
+        }
+    }
+}
+
 } // namespace velmora
