@@ -31,14 +31,15 @@ constexpr int kMinPercent = 10;
 constexpr int kMaxPercent = 400;
 
 /// Returns the time of the position in minutes, seconds and tenths, such as "1:05.3".
-QString timeText(const Transport& transport)
+QString timeText(const Transport& transport, const QLocale& locale)
 {
     const double seconds =
         std::max(0.0, transport.pace().secondsBetween(0.0, transport.position()));
     const auto tenths = static_cast<qlonglong>(seconds * 10);
-    return QString("%1:%2.%3")
+    return QString("%1:%2%3%4")
         .arg(tenths / 600)
         .arg(tenths / 10 % 60, 2, 10, QChar('0'))
+        .arg(locale.decimalPoint())
         .arg(tenths % 10);
 }
 
@@ -234,7 +235,7 @@ void TransportBar::showPosition()
     const bool moves = transport.mode() != Transport::Mode::Stopped;
     if (document_->reading() == Reading::Plain) {
         position_->setText(tr("%1  ·  step %2")
-                               .arg(timeText(transport))
+                               .arg(timeText(transport, locale()))
                                .arg(transport.position(), 0, 'f', moves ? 0 : 1));
         return;
     }
@@ -242,7 +243,7 @@ void TransportBar::showPosition()
     const double beat = std::floor(bar.beatAt(transport.position()) * 100.0) / 100.0;
     position_->setText(
         tr("%1  ·  bar %2, beat %3")
-            .arg(timeText(transport), locale().toString(bar.number),
+            .arg(timeText(transport, locale()), locale().toString(bar.number),
                  moves ? locale().toString(static_cast<int>(beat)) : locale().toString(beat)));
 }
 
