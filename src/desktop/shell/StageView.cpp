@@ -38,7 +38,7 @@ QLabel* addLine(QVBoxLayout& column)
 
 } // namespace
 
-void enlargeType(QWidget& window)
+bool enlargeType(QWidget& window)
 {
     constexpr int kTrials = 5;
     const QSize room = window.screen()->size();
@@ -49,8 +49,9 @@ void enlargeType(QWidget& window)
         window.setFont(type);
         QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // so that the size is known
         if (window.minimumSizeHint().boundedTo(room) == window.minimumSizeHint())
-            return;
+            return true;
     }
+    return false;
 }
 
 StageView::StageView(AppDelegate& application, const QAction& leave)
@@ -83,7 +84,8 @@ void StageView::fitType()
     for (double size = 1.0; size * kInstrumentType >= kSmallestType; size *= kSmaller) {
         setType(*instrument_, size * kInstrumentType);
         setType(*tuning_, size * kTuningType);
-        if (layout()->totalHeightForWidth(width()) <= height())
+        const bool hasWholeWords = layout()->totalMinimumSize().width() <= width();
+        if (hasWholeWords && layout()->totalHeightForWidth(width()) <= height())
             return;
     }
 }

@@ -13,7 +13,8 @@ class AppDelegate;
 constexpr double kStageType = 1.5;
 
 /// Makes the type of a window as large as on stage, or as large as its screen has room for.
-void enlargeType(QWidget& window);
+/// False if the screen has no room even for normal type.
+bool enlargeType(QWidget& window);
 
 /// Shows the current instrument and tuning in type that can be read from a distance, and how to
 /// leave the stage, because there is no menu that says so.

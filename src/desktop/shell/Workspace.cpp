@@ -223,6 +223,8 @@ void Workspace::setLayout(Layout layout)
     saveLayout();
     layout_ = layout;
     restoreLayout();
+    if (QWidget* page = tabs_->currentWidget())
+        page->setFocus(); // rather than what comes after a panel that is now hidden
 }
 
 std::string Workspace::arrangement() const
@@ -255,6 +257,7 @@ void Workspace::restoreLayout()
     menuBar()->setVisible(!isStage);
     transport_->setVisible(!isStage);
     setFont(QApplication::font(this)); // the panels have room for the type that they had here
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // and no more
     showCentre();
     const QByteArray state = preference(layoutKey(layout_)).toByteArray();
     if (state.isEmpty() || !restoreState(state, kLayoutVersion))
@@ -302,11 +305,9 @@ void Workspace::arrange()
                 {static_cast<int>(kInstrumentWidth * type), static_cast<int>(kTuningWidth * type)},
                 Qt::Horizontal);
     resizeDocks({consoleDock_}, {static_cast<int>(kConsoleHeight * type)}, Qt::Vertical);
-    const int keyboardHeight = kHeights.at(static_cast<std::size_t>(layout_));
-    resizeDocks(
-        {keyboardDock_},
-        {layout_ == Layout::Stage ? keyboardHeight : std::min(keyboardHeight, height() / 5)},
-        Qt::Vertical);
+    const int room = layout_ == Layout::Stage ? screen()->size().height() * 2 / 5 : height() / 5;
+    const int keyboardHeight = std::min(kHeights.at(static_cast<std::size_t>(layout_)), room);
+    resizeDocks({keyboardDock_}, {keyboardHeight}, Qt::Vertical);
     bringForward(*instrumentDock_);
 }
 
@@ -319,11 +320,13 @@ bool Workspace::isNarrow() const
 
 void Workspace::showStage(bool isStage)
 {
-    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // the type becomes smaller
-    if (isStage)
-        enlargeType(*this);
-    else
+    if (!isStage)
         QWidget::layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
+    else if (!enlargeType(*this)) {
+        arrange();
+        tabifyDockWidget(instrumentDock_, tuningDock_);
+        bringForward(*instrumentDock_);
+    }
     QWidget::layout()->activate();
     if (isStage != isFullScreen())
         setWindowState(windowState() ^ Qt::WindowFullScreen);

@@ -17,6 +17,7 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSpinBox>
@@ -177,6 +178,43 @@ TEST_F(WorkspaceTest, TheStageFillsTheScreenAndShowsNoDialogs)
     EXPECT_TRUE(workspace.menuBar()->isVisible());
 }
 
+TEST_F(WorkspaceTest, TheStageFitsOnTheScreenInLargeType)
+{
+    const QFont normal = QApplication::font();
+    const int tuningWidth = panel("tuning").width();
+    shell.stageLayout->trigger();
+    EXPECT_TRUE(workspace.tabifiedDockWidgets(&panel("instrument")).isEmpty());
+    shell.stageLayout->trigger();
+    QApplication::processEvents();
+    EXPECT_EQ(panel("tuning").width(), tuningWidth) << "as before";
+
+    QFont large = normal;
+    large.setPointSize(60);
+    QApplication::setFont(large);
+    shell.stageLayout->trigger();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return workspace.minimumSizeHint().width() <= workspace.screen()->size().width(); }));
+    EXPECT_TRUE(workspace.tabifiedDockWidgets(&panel("instrument")).contains(&panel("tuning")));
+    shell.stageLayout->trigger();
+    QApplication::setFont(normal);
+}
+
+TEST_F(WorkspaceTest, TheStageShowsWholeWords)
+{
+    QWidget window;
+    auto* stage = new StageView(desktop.application(), *shell.stageLayout);
+    stage->setParent(&window);
+    window.show();
+    desktop.application().tunings().addBuiltins();
+    desktop.application().tunings().select("Quartercomma Meantone");
+    for (const int width : {1200, 300, 150}) {
+        stage->resize(width, 1000);
+        for (const QLabel* line : stage->findChildren<QLabel*>())
+            for (const QString& word : line->text().split(' '))
+                EXPECT_LE(line->fontMetrics().horizontalAdvance(word), width) << word.toStdString();
+    }
+}
+
 TEST_F(WorkspaceTest, KeysReachThePieceWhateverWasClicked)
 {
     const Transport& transport = desktop.pages().create().document().transport();
@@ -229,6 +267,15 @@ TEST_F(WorkspaceTest, KeysReachThePieceWhateverWasClicked)
     desktop.preferencesWindow().close();
     for (SequencePage* page : desktop.pages().all())
         page->settle();
+}
+
+TEST_F(WorkspaceTest, ALayoutThatHidesTheFocusGivesItToThePiece)
+{
+    const SequencePage& page = desktop.pages().create();
+    panel("instrument").findChild<QLineEdit*>()->setFocus();
+    shell.editLayout->trigger();
+    EXPECT_TRUE(page.isAncestorOf(QApplication::focusWidget()));
+    desktop.pages().closeAll();
 }
 
 TEST_F(WorkspaceTest, EverySwitchOfAVoiceIsReachedAndTurnedByTheKeyboard)
