@@ -11,9 +11,6 @@ namespace velmora {
 
 namespace {
 
-/// The channel of percussion in General MIDI, counted from 1.
-constexpr int kPercussionChannel = 10;
-
 pugi::xml_node append(pugi::xml_node parent, const char* name)
 {
     return parent.append_child(name);
@@ -58,7 +55,7 @@ void writeHeading(pugi::xml_node heading, const Score::Part& part, const std::st
     pugi::xml_node sound = append(heading, "midi-instrument");
     sound.append_attribute("id").set_value(instrumentId.c_str());
     if (part.isPercussion)
-        append(sound, "midi-channel", kPercussionChannel);
+        append(sound, "midi-channel", kScorePercussion);
     if (part.program)
         append(sound, "midi-program", *part.program + 1);
 }

@@ -3,6 +3,7 @@
 #include "base/FormatError.h"
 #include "base/parseXml.h"
 #include "notation/MusicXmlPart.h"
+#include "notation/musicXml.h"
 #include "notation/unpackScore.h"
 
 #include <algorithm>
@@ -25,9 +26,6 @@ constexpr std::size_t kMostParts = 1000;
 
 /// The shortest unit of a time signature.
 constexpr int kShortestUnit = 32;
-
-/// The channel of percussion in General MIDI, counted from 1.
-constexpr int kPercussionChannel = 10;
 
 /// A part as it is written.
 struct WrittenPart {
@@ -60,7 +58,7 @@ WrittenPart readPart(pugi::xml_node listed, const std::vector<pugi::xml_node>& m
             part.heading.program = program;
         part.heading.isPercussion =
             part.heading.isPercussion ||
-            instrument.child("midi-channel").text().as_int() == kPercussionChannel;
+            instrument.child("midi-channel").text().as_int() == kScorePercussion;
     }
     MusicXmlPartReader reader(std::move(unpitched));
     for (const pugi::xml_node measure : measures)
