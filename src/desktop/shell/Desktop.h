@@ -9,6 +9,7 @@
 #include "desktop/roll/SequenceActions.h"
 #include "desktop/shell/CommandPalette.h"
 #include "desktop/shell/DialogCommands.h"
+#include "desktop/shell/DialogFitter.h"
 #include "desktop/shell/FileDrop.h"
 #include "desktop/shell/GuideWindow.h"
 #include "desktop/shell/InstrumentOpener.h"
@@ -108,6 +109,7 @@ private:
     ComputerKeyboard computerKeyboard_{application_};
     KeyRouter router_{workspace_, pages_, computerKeyboard_};
     DialogCommands dialogCommands_{*shell_.silence};
+    DialogFitter dialogFitter_;
     SessionKeeper session_{application_, workspace_, pages_};
     ExampleChord exampleChord_{application_};
     QString bankNotice_;  ///< The current notice about the General MIDI bank; may be empty.

@@ -1,6 +1,8 @@
 #include "desktop/shell/DialogCommands.h"
+#include "desktop/shell/DialogFitter.h"
 #include "desktop/shell/FileDrop.h"
 #include "desktop/shell/askWhereToSave.h"
+#include "desktop/widgets/windowPlace.h"
 #include "platform/pathNames.h"
 #include "preferences/Preferences.h"
 
@@ -11,6 +13,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QUrl>
@@ -66,6 +69,19 @@ TEST(Dialogs, OpenInTheUsersFoldersUntilOneIsChosen)
     EXPECT_EQ(folder(), home.path());
     resetPref("testFolder");
     qputenv("HOME", before);
+}
+
+TEST(Dialogs, StayOnTheScreen)
+{
+    const DialogFitter fitter;
+    QFileDialog files;
+    const QSize screen = files.screen()->size();
+    for (const QSize size : {screen * 2, QSize(500, 400)}) {
+        files.resize(size);
+        files.show();
+        EXPECT_EQ(files.size(), size.boundedTo(roomFor(files)));
+        files.hide();
+    }
 }
 
 TEST(Dialogs, LetACommandThrough)
