@@ -13,9 +13,8 @@ namespace velmora {
 
 namespace {
 
-/// The length of a plan in ticks: a second. At least half of it is left when the next plan is made,
-/// which is longer than the main thread should ever be busy.
-constexpr int kTicksPlanned = 1024;
+/// The length of a plan in ticks: a quarter of a second, which is longer than any painting takes.
+constexpr int kTicksPlanned = 256;
 
 /// The delay of planned notes in seconds. It ensures that the position is past everything that has
 /// sounded, whatever the rounding.
@@ -133,19 +132,10 @@ void SequencePlayback::planAhead(double step, double time, const Pace& pace, dou
     planStart_ = step;
     replanTime_ = time + kTick.count() * kTicksPlanned / 2;
     actions_.clear();
-    if (reading_ == Reading::Musical) {
-        const double after = pace.stepAfter(step, kTick.count() * kTicksPlanned);
-        const double to = std::min({after, end, hold.value_or(end)});
-        if (to < after)
-            replanTime_ = std::numeric_limits<double>::infinity();
-        if (step < to)
-            planPass(step, to, time, pace, 0.0);
-        player_->plan(actions_);
-        return;
-    }
     for (int tick = 0; tick < kTicksPlanned; ++tick) {
         const double from = pace.stepAfter(step, kTick.count() * tick);
-        const double to = pace.stepAfter(step, kTick.count() * (tick + 1));
+        const double after = pace.stepAfter(step, kTick.count() * (tick + 1));
+        const double to = hold ? std::min(after, *hold) : after;
         if (to > end || from >= to) {
             replanTime_ = std::numeric_limits<double>::infinity();
             break;

@@ -66,10 +66,9 @@ public:
     /// null plays them in `playBetween` again. The player must outlive its use here.
     void playAhead(AheadPlayer* player);
 
-    /// Plans the notes of the next second from `step` at `time`, up to `end` and `hold`: each at
-    /// its own time, or in the plain reading tick by tick and without a hold. Until the plan is
-    /// cancelled, `playBetween` only flags notes. Does nothing without a player, or if there is a
-    /// plan.
+    /// Plans the notes of the next quarter of a second from `step` at `time`, tick by tick, up to
+    /// `end`, and exactly up to `hold`. Until the plan is cancelled, `playBetween` only flags
+    /// notes. Does nothing without a player, or if there is a plan.
     void planAhead(double step, double time, const Pace& pace, double end,
                    std::optional<double> hold = {});
 
