@@ -30,20 +30,29 @@ constexpr double kStepsPerSecond = 16.0; ///< At the tempo of a new piece.
 constexpr int kPasses = 20;
 constexpr double kMilliseconds = 1e3;
 
-/// Records when each note is played.
+/// Records for when each note is meant, because its sound is placed by that, and how much later it
+/// is played.
 class TimedInstrument : public Instrument {
 public:
     explicit TimedInstrument(Instrument& instrument) : instrument_(instrument)
     {
         times.reserve(2 * kNotes);
+        delays.reserve(2 * kNotes);
     }
 
     void play(int key, float velocity) override
     {
-        times.push_back(getTime());
+        const double now = getTime();
+        times.push_back(due_ > 0.0 ? due_ : now);
+        delays.push_back(now - times.back());
         instrument_.play(key, velocity);
     }
     void stop(int key) override { instrument_.stop(key); }
+    void setDue(double time) override
+    {
+        due_ = time;
+        instrument_.setDue(time);
+    }
     void silence() override { instrument_.silence(); }
     float getVolume(std::size_t stop) const override { return instrument_.getVolume(stop); }
     std::size_t numStops() const override { return instrument_.numStops(); }
@@ -54,10 +63,11 @@ public:
     }
     void fade(double factor) override { instrument_.fade(factor); }
 
-    std::vector<double> times;
+    std::vector<double> times, delays;
 
 private:
     Instrument& instrument_;
+    double due_ = 0.0;
 };
 
 /// Prints errors in seconds as milliseconds.
@@ -139,6 +149,7 @@ int main(int argc, char** argv)
     fmt::print("{} of {} notes in {:.0f} s, {:.1f} frames per second\n", late.size(), starts.size(),
                seconds, static_cast<double>(frames) / seconds);
     print("notes late", std::move(late));
+    print("played after their time", instrument.delays);
 
     {
         const auto edit = document.edit();
@@ -152,8 +163,8 @@ int main(int argc, char** argv)
     transport.setLoop(true);
     QTimer busy;
     QObject::connect(&busy, &QTimer::timeout, &qt,
-                     [] { std::this_thread::sleep_for(std::chrono::milliseconds(400)); });
-    busy.start(50);
+                     [] { std::this_thread::sleep_for(std::chrono::milliseconds(100)); });
+    busy.start(20);
     play();
     QTimer::singleShot(1000 * kPasses, &qt, [&] { transport.play(); });
     QApplication::exec();
