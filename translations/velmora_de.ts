@@ -5122,6 +5122,10 @@ Ein Klick zeigt alle Stimmungen</translation>
         <source>the music is too long</source>
         <translation type="unfinished">die Musik ist zu lang</translation>
     </message>
+    <message>
+        <source>the MIDI output %1 is gone</source>
+        <translation type="unfinished">Der MIDI-Ausgang %1 ist nicht mehr da</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

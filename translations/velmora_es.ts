@@ -5122,6 +5122,10 @@ Haga clic para ver todas las afinaciones</translation>
         <source>the music is too long</source>
         <translation type="unfinished">la música es demasiado larga</translation>
     </message>
+    <message>
+        <source>the MIDI output %1 is gone</source>
+        <translation type="unfinished">la salida MIDI %1 ya no está disponible</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

@@ -5122,6 +5122,10 @@ Cliquez pour afficher tous les tempéraments</translation>
         <source>the music is too long</source>
         <translation type="unfinished">la musique est trop longue</translation>
     </message>
+    <message>
+        <source>the MIDI output %1 is gone</source>
+        <translation type="unfinished">la sortie MIDI %1 a disparu</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

@@ -5122,6 +5122,10 @@ Fai clic per mostrare tutti i temperamenti</translation>
         <source>the music is too long</source>
         <translation type="unfinished">la musica è troppo lunga</translation>
     </message>
+    <message>
+        <source>the MIDI output %1 is gone</source>
+        <translation type="unfinished">l’uscita MIDI %1 non è più disponibile</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

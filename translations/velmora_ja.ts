@@ -5092,6 +5092,10 @@ Click to show all tunings</source>
         <source>the music is too long</source>
         <translation type="unfinished">曲が長すぎます</translation>
     </message>
+    <message>
+        <source>the MIDI output %1 is gone</source>
+        <translation type="unfinished">MIDI出力%1がなくなりました</translation>
+    </message>
 </context>
 <context>
     <name>velmora::nameParts</name>

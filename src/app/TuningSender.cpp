@@ -6,6 +6,7 @@
 #include <array>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 namespace velmora {
 
@@ -31,24 +32,18 @@ std::array<double, 12> octaveOf(const KeyPlaces& places)
 TuningSender::TuningSender(Player& player, Tunings& tunings) : player_(player), tunings_(tunings)
 {
     timer_.setInterval(kInterval);
-    connect(&timer_, &QTimer::timeout, this, &TuningSender::sendChanges);
+    connect(&timer_, &QTimer::timeout, this, &TuningSender::check);
 }
 
 void TuningSender::send(const std::string& output)
 {
     if (this->output() != output) {
+        timer_.stop();
         output_.reset();
         output_ = std::make_unique<MidiOutput>(output);
+        timer_.start();
     }
     sendAll(read());
-}
-
-void TuningSender::setKeepsSending(bool keeps)
-{
-    if (keeps)
-        timer_.start();
-    else
-        timer_.stop();
 }
 
 TuningSender::Snapshot TuningSender::read() const
@@ -77,8 +72,6 @@ void TuningSender::sendAll(const Snapshot& snapshot)
 
 void TuningSender::sendChanges()
 {
-    if (!output_)
-        return;
     const Snapshot snapshot = read();
     std::vector<std::uint8_t> changed;
     for (std::size_t key = 0; key < snapshot.places.size(); ++key)
@@ -86,18 +79,31 @@ void TuningSender::sendChanges()
             changed.push_back(static_cast<std::uint8_t>(key));
     if (changed.empty())
         return;
-    try {
-        if (snapshot.isOctave || sent_.isOctave || changed.size() == snapshot.places.size()) {
-            sendAll(snapshot);
-        } else {
-            output_->send(writeKeyChanges(changed, snapshot.places));
-            sent_ = snapshot;
-        }
-    } catch (const std::runtime_error& error) {
-        output_.reset();
-        timer_.stop();
-        emit failed(error.what());
+    if (snapshot.isOctave || sent_.isOctave || changed.size() == snapshot.places.size()) {
+        sendAll(snapshot);
+    } else {
+        output_->send(writeKeyChanges(changed, snapshot.places));
+        sent_ = snapshot;
     }
+}
+
+void TuningSender::check()
+{
+    std::string error;
+    try {
+        if (output_->isLost())
+            error = "the MIDI output " + output() + " is gone";
+        else if (keepsSending_)
+            sendChanges();
+    } catch (const std::runtime_error& failure) {
+        error = failure.what();
+    }
+    if (error.empty())
+        return;
+    timer_.stop();
+    output_.reset();
+    if (std::exchange(keepsSending_, false))
+        emit failed(error);
 }
 
 } // namespace velmora

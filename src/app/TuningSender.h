@@ -29,8 +29,8 @@ public:
 
     /// True while everything that changes the tuning, another choice or the music itself, is sent
     /// to the connected output, at most 20 times a second.
-    bool keepsSending() const { return timer_.isActive(); }
-    void setKeepsSending(bool keeps);
+    bool keepsSending() const { return keepsSending_; }
+    void setKeepsSending(bool keeps) { keepsSending_ = keeps; }
 
     /// The connected output; empty if there is none.
     std::string output() const { return output_ ? output_->name() : std::string(); }
@@ -49,12 +49,14 @@ private:
     Snapshot read() const;
     void sendAll(const Snapshot& snapshot);
     void sendChanges();
+    void check();
 
     Player& player_;
     Tunings& tunings_;
     std::unique_ptr<MidiOutput> output_;
+    bool keepsSending_ = false;
     Snapshot sent_{};
-    QTimer timer_;
+    QTimer timer_; ///< Runs while there is an output.
 };
 
 } // namespace velmora

@@ -1,6 +1,6 @@
 #include "midi/MidiOutput.h"
 
-#include "platform/JackClient.h"
+#include "midi/JackOutput.h"
 
 #include <RtMidi.h>
 
@@ -12,34 +12,23 @@ namespace velmora {
 
 namespace {
 
-constexpr const char* kClient = "Velmora Tuning";
-
 /// The clients of the inputs: see docs/decisions.md, 48.
 constexpr const char* kInputs = "MidiClient1";
 
-/// Returns whether a service can be used. RtMidi prints an error otherwise.
-bool runs(RtMidi::Api service)
+/// Calls `use(midi, port)` for each port of the ALSA sequencer, until it returns true.
+template <class Use> void forAlsaPorts(const Use& use)
 {
-    return service == RtMidi::LINUX_ALSA ? std::filesystem::exists("/dev/snd/seq")
-                                         : JackClient::open(kClient) != nullptr;
-}
-
-/// Calls `use(midi, port)` for each port of the services that run, until it returns true.
-template <class Use> void forPorts(const Use& use)
-{
-    for (const RtMidi::Api service : {RtMidi::LINUX_ALSA, RtMidi::UNIX_JACK}) {
-        if (!runs(service))
-            continue;
-        try {
-            auto midi = std::make_unique<RtMidiOut>(service, kClient);
-            // Without a callback, RtMidi prints warnings.
-            midi->setErrorCallback([](RtMidiError::Type, const std::string&, void*) {}, nullptr);
-            for (unsigned port = 0, count = midi->getPortCount(); port < count; ++port)
-                if (use(midi, port))
-                    return;
-        } catch (const RtMidiError&) {
-            continue; // the service does not run
-        }
+    if (!std::filesystem::exists("/dev/snd/seq"))
+        return; // RtMidi would print an error
+    try {
+        auto midi = std::make_unique<RtMidiOut>(RtMidi::LINUX_ALSA, "Velmora Tuning");
+        // Without a callback, RtMidi prints warnings.
+        midi->setErrorCallback([](RtMidiError::Type, const std::string&, void*) {}, nullptr);
+        for (unsigned port = 0, count = midi->getPortCount(); port < count; ++port)
+            if (use(midi, port))
+                return;
+    } catch (const RtMidiError&) {
+        return; // the service does not run
     }
 }
 
@@ -47,12 +36,13 @@ template <class Use> void forPorts(const Use& use)
 
 std::vector<std::string> MidiOutput::names()
 {
-    std::vector<std::string> names;
-    forPorts([&](const std::unique_ptr<RtMidiOut>& midi, unsigned port) {
-        const std::string name = midi->getPortName(port);
-        if (!name.starts_with(kInputs) && !name.starts_with("Velmora"))
-            names.push_back(name);
+    std::vector<std::string> names = JackOutput::ports();
+    forAlsaPorts([&](const std::unique_ptr<RtMidiOut>& midi, unsigned port) {
+        names.push_back(midi->getPortName(port));
         return false;
+    });
+    std::erase_if(names, [](const std::string& name) {
+        return name.starts_with(kInputs) || name.starts_with("Velmora");
     });
     std::ranges::sort(names);
     return names;
@@ -60,25 +50,38 @@ std::vector<std::string> MidiOutput::names()
 
 MidiOutput::MidiOutput(const std::string& name) : name_(name)
 {
-    forPorts([&](std::unique_ptr<RtMidiOut>& midi, unsigned port) {
+    forAlsaPorts([&](std::unique_ptr<RtMidiOut>& midi, unsigned port) {
         if (midi->getPortName(port) != name)
             return false;
         midi->openPort(port, "Tuning");
         if (midi->isPortOpen())
-            port_ = std::move(midi);
+            alsa_ = std::move(midi);
         return true;
     });
-    if (!port_)
+    if (alsa_)
+        return;
+    try {
+        jack_ = std::make_unique<JackOutput>(name);
+    } catch (const std::runtime_error&) {
         throw std::runtime_error("the MIDI output " + name + " cannot be connected");
+    }
 }
 
 MidiOutput::~MidiOutput() = default;
 
+bool MidiOutput::isLost() const
+{
+    return jack_ && jack_->isLost();
+}
+
 void MidiOutput::send(MidiPacket message)
 {
     try {
-        port_->sendMessage(message.data(), message.size());
-    } catch (const RtMidiError&) {
+        if (alsa_)
+            alsa_->sendMessage(message.data(), message.size());
+        else
+            jack_->send(message);
+    } catch (const std::runtime_error&) {
         throw std::runtime_error("the MIDI output " + name_ + " takes no message");
     }
 }

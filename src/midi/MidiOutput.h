@@ -10,6 +10,8 @@ class RtMidiOut;
 
 namespace velmora {
 
+class JackOutput;
+
 /// A connection to a MIDI port of another program or device, to send to. Used on one thread.
 class MidiOutput {
 public:
@@ -25,13 +27,18 @@ public:
 
     const std::string& name() const { return name_; }
 
+    /// True once the JACK server is gone. Nothing can be sent then, and no other server can be
+    /// reached before this object is destroyed.
+    bool isLost() const;
+
     /// Sends one whole message. Throws std::runtime_error with a sentence if that fails; a port
     /// that has vanished may go unnoticed.
     void send(MidiPacket message);
 
 private:
     std::string name_;
-    std::unique_ptr<RtMidiOut> port_;
+    std::unique_ptr<RtMidiOut> alsa_; ///< One of these is null.
+    std::unique_ptr<JackOutput> jack_;
 };
 
 } // namespace velmora

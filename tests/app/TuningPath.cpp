@@ -3,14 +3,15 @@
 #include "app/AppDelegate.h"
 #include "app/TuningSender.h"
 #include "base/Clock.h"
+#include "platform/JackClient.h"
 #include "support/JackServer.h"
 #include "support/MidiSource.h"
 #include "support/RecordingInstrument.h"
 #include "tuning/KeyTemperament.h"
 
 #include <QCoreApplication>
-#include <RtMidi.h>
 #include <gmock/gmock.h>
+#include <jack/midiport.h>
 
 #include <cmath>
 #include <functional>
@@ -26,15 +27,10 @@ class Hardware {
 public:
     Hardware()
     {
-        midi_.ignoreTypes(false, true, true);
-        midi_.setCallback(
-            [](double, std::vector<unsigned char>* message, void* self) {
-                auto& hardware = *static_cast<Hardware*>(self);
-                const std::lock_guard lock(hardware.mutex_);
-                EXPECT_TRUE(readTuningMessage(*message, hardware.tuning_));
-            },
-            this);
-        midi_.openVirtualPort("in");
+        jack_client_t* jack = client_->get();
+        port_ = jack_port_register(jack, "in", JACK_DEFAULT_MIDI_TYPE, JackPortIsInput, 0);
+        jack_set_process_callback(jack, receive, this);
+        jack_activate(jack);
     }
 
     /// Returns by how many cents a key differs from equal temperament.
@@ -51,9 +47,23 @@ public:
     }
 
 private:
+    static int receive(jack_nframes_t frames, void* self)
+    {
+        auto& hardware = *static_cast<Hardware*>(self);
+        void* buffer = jack_port_get_buffer(hardware.port_, frames);
+        for (std::uint32_t i = 0; i < jack_midi_get_event_count(buffer); ++i) {
+            jack_midi_event_t event{};
+            jack_midi_event_get(&event, buffer, i);
+            const std::lock_guard lock(hardware.mutex_);
+            EXPECT_TRUE(readTuningMessage({event.buffer, event.size}, hardware.tuning_));
+        }
+        return 0;
+    }
+
     std::mutex mutex_;
     ReceivedTuning tuning_;
-    RtMidiIn midi_{RtMidi::UNIX_JACK, "Hardware"};
+    jack_port_t* port_ = nullptr;
+    std::unique_ptr<JackClient> client_ = JackClient::open("Hardware");
 };
 
 /// Runs the event loop until something holds, for ten seconds at most.
@@ -122,6 +132,36 @@ TEST(TuningPath, HardwareFollowsTheTuningAndCanSetIt)
     keyboard.send(0, writeBulkDump("From afar", places));
     EXPECT_TRUE(waitFor([&] { return app.tunings().name() == "From afar"; }));
     EXPECT_TRUE(waitFor([&] { return isNear(hardware.cents(60), 25.0); })) << "and out again";
+}
+
+TEST(TuningPath, EndsWithTheServerAndReachesTheNext)
+{
+    JackServer server;
+    auto hardware = std::make_unique<Hardware>();
+    Calls calls;
+    RecordingInstrument instrument(calls);
+    AppDelegate app;
+    app.tunings().addBuiltins();
+    app.setInstrument(instrument, "Recorder");
+    TuningSender sender(app.player(), app.tunings());
+    std::string error;
+    QObject::connect(&sender, &TuningSender::failed,
+                     [&](const std::string& failure) { error = failure; });
+    sender.send("Hardware:in");
+    sender.setKeepsSending(true);
+
+    server.crash();
+    EXPECT_TRUE(waitFor([&] { return !error.empty(); }));
+    EXPECT_EQ(error, "the MIDI output Hardware:in is gone");
+    EXPECT_EQ(sender.output(), "");
+
+    hardware.reset();
+    server.restart();
+    ASSERT_TRUE(waitFor([] { return JackClient::open("probe") != nullptr; }));
+    hardware = std::make_unique<Hardware>();
+    app.tunings().select("Quartercomma Meantone");
+    sender.send("Hardware:in");
+    EXPECT_TRUE(waitFor([&] { return isNear(hardware->cents(64), -13.686); }));
 }
 
 } // namespace velmora

@@ -218,6 +218,7 @@ constexpr const char* kMessages[] = {
     // Sending a tuning
     QT_TRANSLATE_NOOP("velmora::messages", "the MIDI output %1 cannot be connected"),
     QT_TRANSLATE_NOOP("velmora::messages", "the MIDI output %1 takes no message"),
+    QT_TRANSLATE_NOOP("velmora::messages", "the MIDI output %1 is gone"),
     // Places in files
     QT_TRANSLATE_NOOP("velmora::messages", "%1, line %2, column %3: %4"),
     QT_TRANSLATE_NOOP("velmora::messages", "%1, line %2: %3"),
