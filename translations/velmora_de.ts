@@ -1903,12 +1903,12 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <translation type="unfinished">%1 mit %2 %</translation>
     </message>
     <message>
-        <source>On average the keys were %1 ms early.</source>
-        <translation type="unfinished">Im Mittel waren die Tasten %1 ms zu früh.</translation>
+        <source>Typically, keys were %1 ms early.</source>
+        <translation type="unfinished">Meist waren die Tasten etwa %1 ms zu früh.</translation>
     </message>
     <message>
-        <source>On average the keys were %1 ms late.</source>
-        <translation type="unfinished">Im Mittel waren die Tasten %1 ms zu spät.</translation>
+        <source>Typically, keys were %1 ms late.</source>
+        <translation type="unfinished">Meist waren die Tasten etwa %1 ms zu spät.</translation>
     </message>
     <message>
         <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, without a mistake: %7.</source>

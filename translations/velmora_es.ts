@@ -1903,12 +1903,12 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <translation type="unfinished">%1 al %2 %</translation>
     </message>
     <message>
-        <source>On average the keys were %1 ms early.</source>
-        <translation type="unfinished">De media, las teclas se adelantaron %1 ms.</translation>
+        <source>Typically, keys were %1 ms early.</source>
+        <translation type="unfinished">Por lo general, las teclas se adelantaron %1 ms.</translation>
     </message>
     <message>
-        <source>On average the keys were %1 ms late.</source>
-        <translation type="unfinished">De media, las teclas se atrasaron %1 ms.</translation>
+        <source>Typically, keys were %1 ms late.</source>
+        <translation type="unfinished">Por lo general, las teclas se atrasaron %1 ms.</translation>
     </message>
     <message>
         <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, without a mistake: %7.</source>

@@ -1903,12 +1903,12 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <translation type="unfinished">%1 à %2 %</translation>
     </message>
     <message>
-        <source>On average the keys were %1 ms early.</source>
-        <translation type="unfinished">En moyenne, les touches étaient en avance de %1 ms.</translation>
+        <source>Typically, keys were %1 ms early.</source>
+        <translation type="unfinished">Le plus souvent, les touches étaient en avance de %1 ms.</translation>
     </message>
     <message>
-        <source>On average the keys were %1 ms late.</source>
-        <translation type="unfinished">En moyenne, les touches étaient en retard de %1 ms.</translation>
+        <source>Typically, keys were %1 ms late.</source>
+        <translation type="unfinished">Le plus souvent, les touches étaient en retard de %1 ms.</translation>
     </message>
     <message>
         <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, without a mistake: %7.</source>

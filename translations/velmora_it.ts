@@ -1903,12 +1903,12 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <translation type="unfinished">%1 al %2 %</translation>
     </message>
     <message>
-        <source>On average the keys were %1 ms early.</source>
-        <translation type="unfinished">In media i tasti erano in anticipo di %1 ms.</translation>
+        <source>Typically, keys were %1 ms early.</source>
+        <translation type="unfinished">Di solito i tasti erano in anticipo di %1 ms.</translation>
     </message>
     <message>
-        <source>On average the keys were %1 ms late.</source>
-        <translation type="unfinished">In media i tasti erano in ritardo di %1 ms.</translation>
+        <source>Typically, keys were %1 ms late.</source>
+        <translation type="unfinished">Di solito i tasti erano in ritardo di %1 ms.</translation>
     </message>
     <message>
         <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, without a mistake: %7.</source>

@@ -1897,12 +1897,12 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <translation type="unfinished">%1（%2 %）</translation>
     </message>
     <message>
-        <source>On average the keys were %1 ms early.</source>
-        <translation type="unfinished">鍵は平均で %1 ms 早く弾かれました。</translation>
+        <source>Typically, keys were %1 ms early.</source>
+        <translation type="unfinished">鍵はおおむね %1 ms 早く弾かれました。</translation>
     </message>
     <message>
-        <source>On average the keys were %1 ms late.</source>
-        <translation type="unfinished">鍵は平均で %1 ms 遅く弾かれました。</translation>
+        <source>Typically, keys were %1 ms late.</source>
+        <translation type="unfinished">鍵はおおむね %1 ms 遅く弾かれました。</translation>
     </message>
     <message>
         <source>Right keys: %1 (%2 early, %3 late), wrong keys: %4, missed keys: %5. Passes: %6, without a mistake: %7.</source>

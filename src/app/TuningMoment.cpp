@@ -1,9 +1,12 @@
 #include "app/TuningMoment.h"
 
 #include "app/Player.h"
+#include "sound/keys.h"
 #include "tuning/spelling.h"
+#include "tuning/usualPlaces.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmora {
 
@@ -76,11 +79,13 @@ std::array<Purity, kKeys> soundingPurities(const TuningMoment& moment)
 std::array<std::string, 12> toneNames(const TuningMoment& moment, const std::optional<Chord>& chord)
 {
     const SpelledClasses spelled = chord ? spell(*chord) : SpelledClasses{};
+    std::array<double, 12> cents{};
+    for (unsigned tone = 0; tone < cents.size(); ++tone)
+        cents[tone] = 1200.0 * std::log2(moment.hertz[kMiddleC + tone]);
+    const std::array<int, 12> usual = usualPlaces(cents);
     std::array<std::string, 12> names;
-    for (unsigned tone = 0; tone < names.size(); ++tone) {
-        const auto place = moment.places[tone] ? moment.places[tone] : spelled[tone];
-        names[tone] = place ? placeName(*place) : rootName(static_cast<int>(tone));
-    }
+    for (unsigned tone = 0; tone < names.size(); ++tone)
+        names[tone] = placeName(moment.places[tone].value_or(spelled[tone].value_or(usual[tone])));
     return names;
 }
 

@@ -48,7 +48,7 @@ std::optional<Chord> soundingChord(const TuningMoment& moment);
 std::array<Purity, kKeys> soundingPurities(const TuningMoment& moment);
 
 /// Returns the names of the pitch classes as `spelling` writes them: as the temperament spells
-/// them, or else as a chord does, or else as roots: the wolf of meantone is G#–Eb.
+/// them, or else as a chord does, or else as `usualPlaces` does.
 std::array<std::string, 12> toneNames(const TuningMoment& moment,
                                       const std::optional<Chord>& chord = std::nullopt);
 

@@ -196,7 +196,10 @@ std::pair<Json, void (*)(const Json&)> describeFile(const std::filesystem::path&
     }
     if (instrumentFormatOf(path))
         return {describeInstrument(path, selection), printInstrument};
-    throw std::runtime_error(path.filename().string() + ": unrecognised file type");
+    const std::string name = path.filename().string();
+    if (isMappingFile(path))
+        throw std::runtime_error(name + ": a keyboard mapping needs a scale; see --mapping");
+    throw std::runtime_error(name + ": unrecognised file type");
 }
 
 void printFile(const std::filesystem::path& path, const Selection& selection, bool json)

@@ -27,8 +27,7 @@ QJsonObject toJson(const PracticeEntry& entry)
         bars.append(QJsonObject{{"number", bar.number},
                                 {"right", bar.right},
                                 {"wrong", bar.wrong},
-                                {"missed", bar.missed},
-                                {"meanDelay", bar.meanDelay}});
+                                {"missed", bar.missed}});
     return {{"time", entry.time.toUTC().toString(Qt::ISODate)},
             {"right", summary.right},
             {"wrong", summary.wrong},
@@ -38,7 +37,7 @@ QJsonObject toJson(const PracticeEntry& entry)
             {"passes", summary.passes},
             {"cleanPasses", summary.cleanPasses},
             {"speed", summary.speed},
-            {"meanDelay", summary.meanDelay},
+            {"medianDelay", summary.medianDelay},
             {"delays", delays},
             {"bars", bars}};
 }
@@ -53,13 +52,13 @@ PracticeEntry practiceEntryOf(const QJsonObject& json)
                             .passes = json["passes"].toInt(),
                             .cleanPasses = json["cleanPasses"].toInt(),
                             .speed = json["speed"].toDouble(),
-                            .meanDelay = json["meanDelay"].toDouble()};
+                            .medianDelay = json["medianDelay"].toDouble()};
     const QJsonArray delays = json["delays"].toArray();
     for (std::size_t i = 0; i < summary.delays.size(); ++i)
         summary.delays[i] = delays.at(static_cast<qsizetype>(i)).toInt();
     for (const QJsonValue bar : json["bars"].toArray())
         summary.bars.push_back({bar["number"].toInt(), bar["right"].toInt(), bar["wrong"].toInt(),
-                                bar["missed"].toInt(), bar["meanDelay"].toDouble()});
+                                bar["missed"].toInt()});
     return {QDateTime::fromString(json["time"].toString(), Qt::ISODate), std::move(summary)};
 }
 

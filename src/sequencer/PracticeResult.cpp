@@ -16,6 +16,16 @@ std::size_t delayClass(double delay)
     return static_cast<std::size_t>(std::clamp(place, 0.0, 2 * kMiddle));
 }
 
+/// Returns 0 if there are none.
+double median(std::vector<double> values)
+{
+    if (values.empty())
+        return 0.0;
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::ranges::nth_element(values, middle);
+    return *middle;
+}
+
 } // namespace
 
 PracticeSummary summarize(const PracticeResult& result, const MusicalTime& time)
@@ -32,27 +42,22 @@ PracticeSummary summarize(const PracticeResult& result, const MusicalTime& time)
         bar.number = number;
         return bar;
     };
-    double delays = 0.0;
+    std::vector<double> delays;
     for (const PracticeStroke& stroke : result.strokes) {
         ++summary.right;
         summary.early += stroke.delay < -PracticeSummary::kOnTime ? 1 : 0;
         summary.late += stroke.delay > PracticeSummary::kOnTime ? 1 : 0;
         ++summary.delays[delayClass(stroke.delay)];
-        delays += stroke.delay;
-        PracticeBar& bar = barAt(stroke.step);
-        ++bar.right;
-        bar.meanDelay += stroke.delay;
+        delays.push_back(stroke.delay);
+        ++barAt(stroke.step).right;
     }
-    if (summary.right > 0)
-        summary.meanDelay = delays / summary.right;
+    summary.medianDelay = median(delays);
     for (const PracticeMistake& wrong : result.wrong)
         ++barAt(wrong.step).wrong;
     for (const PracticeMistake& missed : result.missed)
         ++barAt(missed.step).missed;
-    for (auto& [number, bar] : bars) {
-        bar.meanDelay /= std::max(bar.right, 1);
+    for (const auto& [number, bar] : bars)
         summary.bars.push_back(bar);
-    }
     return summary;
 }
 

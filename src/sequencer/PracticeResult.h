@@ -38,7 +38,6 @@ struct PracticeBar {
     int right = 0;
     int wrong = 0;
     int missed = 0;
-    double meanDelay = 0.0; ///< In seconds; negative if the bar was played early on average.
 
     bool operator==(const PracticeBar&) const = default;
 };
@@ -61,7 +60,7 @@ struct PracticeSummary {
     int passes = 0;
     int cleanPasses = 0;
     double speed = 1.0;
-    double meanDelay = 0.0;                  ///< In seconds.
+    double medianDelay = 0.0; ///< In seconds; a long pause before one key does not count more.
     std::array<int, kDelayClasses> delays{}; ///< How many right keys are in each class.
     std::vector<PracticeBar> bars{};         ///< Those with any key, in order.
 

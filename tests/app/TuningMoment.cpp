@@ -90,6 +90,13 @@ TEST_F(TuningMomentTest, SpellsAsTheTemperamentThenAsTheChordThenAsTheKeys)
     EXPECT_EQ(toneNames(moment_, chord)[8], "Ab");
     player_.silence();
 
+    TransposedTemperament onD(std::make_unique<Temperament>(Temperament::Meantone()),
+                              {.root = 2, .a = std::nullopt});
+    play(onD, {62, 66, 69});
+    EXPECT_EQ(toneNames(moment_)[3], "D#") << "the third of B";
+    EXPECT_EQ(toneNames(moment_)[10], "A#");
+    player_.silence();
+
     FollowingMeantone following;
     play(following, {65, 68, 72});
     EXPECT_EQ(toneNames(moment_)[8], "Ab") << "in F minor";

@@ -252,6 +252,7 @@ TEST_F(CommandLine, ReportsErrorsInOneSentence)
         {{"live", "--period", "0"}, 2, "--period"},
         {{"devices", "--output", "none"}, 2, "--output requires --watch"},
         {{"info", "song.txt"}, 1, "song.txt: unrecognised file type"},
+        {{"info", "map.kbm"}, 1, "map.kbm: a keyboard mapping needs a scale; see --mapping"},
         {{"info", "broken.mid", "--json"}, 1, "velmora: broken.mid, byte 4: "},
     };
     const auto before = files();

@@ -117,10 +117,10 @@ void PracticeWindow::showEntry(int row)
                  locale.toString(summary.late), locale.toString(summary.wrong),
                  locale.toString(summary.missed), locale.toString(summary.passes),
                  locale.toString(summary.cleanPasses));
-    const auto delay = static_cast<int>(std::lround(summary.meanDelay * 1000));
-    const QString average = delay < 0 ? tr("On average the keys were %1 ms early.")
-                                      : tr("On average the keys were %1 ms late.");
-    text_->setText(counts + '\n' + average.arg(locale.toString(std::abs(delay))));
+    const auto delay = static_cast<int>(std::lround(summary.medianDelay * 1000));
+    const QString typical = delay < 0 ? tr("Typically, keys were %1 ms early.")
+                                      : tr("Typically, keys were %1 ms late.");
+    text_->setText(counts + '\n' + typical.arg(locale.toString(std::abs(delay))));
     picture_->show(summary);
 }
 

@@ -6,6 +6,7 @@
 #include "desktop/widgets/scheme.h"
 #include "sound/keys.h"
 #include "tuning/spelling.h"
+#include "tuning/usualPlaces.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -86,12 +87,15 @@ void TuningStrip::read()
         timer_.setInterval(kRestingInterval);
     Tones tones;
     const auto look = [&](const Instrument&, const Temperament& temperament) {
+        std::array<double, 12> pitches{};
         for (unsigned tone = 0; tone < tones.size(); ++tone) {
             const unsigned key = kMiddleC + tone;
-            const auto place = temperament.place(key);
-            tones[tone] = {place ? placeName(*place) : rootName(static_cast<int>(tone)),
-                           cents(temperament.getPitch(key), equal.getPitch(key))};
+            tones[tone].cents = cents(temperament.getPitch(key), equal.getPitch(key));
+            pitches[tone] = 100.0 * tone + tones[tone].cents;
         }
+        const std::array<int, 12> usual = usualPlaces(pitches);
+        for (unsigned tone = 0; tone < tones.size(); ++tone)
+            tones[tone].name = placeName(temperament.place(kMiddleC + tone).value_or(usual[tone]));
     };
     if (!application_.player().with(look))
         return;

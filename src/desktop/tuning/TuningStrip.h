@@ -21,8 +21,7 @@ public:
     explicit TuningStrip(AppDelegate& application, QWidget* parent = nullptr);
 
     struct Tone {
-        /// The spelling of the pitch if it occurs in quarter-comma meantone; else the key's name.
-        std::string name;
+        std::string name;   ///< As the temperament spells it, or else as `usualPlaces` does.
         double cents = 0.0; ///< Above equal temperament.
         bool operator==(const Tone&) const = default;
     };

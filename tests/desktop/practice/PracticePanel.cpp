@@ -245,7 +245,7 @@ TEST_F(PracticePanelTest, LetsNotesFallOntoTheirKeys)
 
 TEST(PracticePicture, ShowsBarsAndDelays)
 {
-    PracticeSummary summary{.bars = {{1, 4, 0, 0, 0.0}, {2, 1, 3, 0, 0.0}}};
+    PracticeSummary summary{.bars = {{1, 4, 0, 0}, {2, 1, 3, 0}}};
     summary.delays.front() = 1;
     const auto picture = [&] {
         QImage image(400, 400, QImage::Format_RGB32);
