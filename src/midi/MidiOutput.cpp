@@ -1,6 +1,6 @@
 #include "midi/MidiOutput.h"
 
-#include "midi/JackOutput.h"
+#include "midi/JackMidiOutput.h"
 
 #include <RtMidi.h>
 
@@ -36,7 +36,7 @@ template <class Use> void forAlsaPorts(const Use& use)
 
 std::vector<std::string> MidiOutput::names()
 {
-    std::vector<std::string> names = JackOutput::ports();
+    std::vector<std::string> names = JackMidiOutput::ports();
     forAlsaPorts([&](const std::unique_ptr<RtMidiOut>& midi, unsigned port) {
         names.push_back(midi->getPortName(port));
         return false;
@@ -61,7 +61,7 @@ MidiOutput::MidiOutput(const std::string& name) : name_(name)
     if (alsa_)
         return;
     try {
-        jack_ = std::make_unique<JackOutput>(name);
+        jack_ = std::make_unique<JackMidiOutput>(name);
     } catch (const std::runtime_error&) {
         throw std::runtime_error("the MIDI output " + name + " cannot be connected");
     }

@@ -10,7 +10,7 @@ class RtMidiOut;
 
 namespace velmora {
 
-class JackOutput;
+class JackMidiOutput;
 
 /// A connection to a MIDI port of another program or device, to send to. Used on one thread.
 class MidiOutput {
@@ -38,7 +38,7 @@ public:
 private:
     std::string name_;
     std::unique_ptr<RtMidiOut> alsa_; ///< One of these is null.
-    std::unique_ptr<JackOutput> jack_;
+    std::unique_ptr<JackMidiOutput> jack_;
 };
 
 } // namespace velmora

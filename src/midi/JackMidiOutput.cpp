@@ -1,4 +1,4 @@
-#include "midi/JackOutput.h"
+#include "midi/JackMidiOutput.h"
 
 #include "base/LockFreeQueue.h"
 #include "midi/tuningMessages.h"
@@ -25,14 +25,14 @@ struct OutgoingMessage {
 } // namespace
 
 /// What the process callback works with.
-struct JackOutput::Waiting {
+struct JackMidiOutput::Waiting {
     static int write(jack_nframes_t frames, void* data);
 
     jack_port_t* port = nullptr;
     LockFreeQueue<OutgoingMessage> messages{64};
 };
 
-int JackOutput::Waiting::write(jack_nframes_t frames, void* data)
+int JackMidiOutput::Waiting::write(jack_nframes_t frames, void* data)
 {
     auto& [port, messages] = *static_cast<Waiting*>(data);
     const Uncancelled uncancelled;
@@ -48,7 +48,7 @@ int JackOutput::Waiting::write(jack_nframes_t frames, void* data)
     return 0;
 }
 
-std::vector<std::string> JackOutput::ports()
+std::vector<std::string> JackMidiOutput::ports()
 {
     const auto client = JackClient::open(kClient);
     if (!client)
@@ -61,7 +61,7 @@ std::vector<std::string> JackOutput::ports()
     return ports;
 }
 
-JackOutput::JackOutput(const std::string& port)
+JackMidiOutput::JackMidiOutput(const std::string& port)
     : waiting_(std::make_shared<Waiting>()), client_(JackClient::open(kClient))
 {
     if (!client_)
@@ -82,14 +82,14 @@ JackOutput::JackOutput(const std::string& port)
         throw std::runtime_error("JACK does not connect " + port);
 }
 
-JackOutput::~JackOutput() = default;
+JackMidiOutput::~JackMidiOutput() = default;
 
-bool JackOutput::isLost() const
+bool JackMidiOutput::isLost() const
 {
     return client_->isLost();
 }
 
-void JackOutput::send(MidiPacket message)
+void JackMidiOutput::send(MidiPacket message)
 {
     OutgoingMessage outgoing{};
     if (!isLost() && message.size() <= outgoing.bytes.size()) {

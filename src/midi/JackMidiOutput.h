@@ -12,16 +12,16 @@ class JackClient;
 
 /// A connection to a JACK port of another program or device, to send MIDI messages to. Used on one
 /// thread, which a server that hangs does not block.
-class JackOutput {
+class JackMidiOutput {
 public:
     /// Returns the names of the ports that receive MIDI messages; none without a server.
     static std::vector<std::string> ports();
 
     /// Connects the port of that name. Throws std::runtime_error if that fails.
-    explicit JackOutput(const std::string& port);
-    ~JackOutput();
-    JackOutput(const JackOutput&) = delete;
-    JackOutput& operator=(const JackOutput&) = delete;
+    explicit JackMidiOutput(const std::string& port);
+    ~JackMidiOutput();
+    JackMidiOutput(const JackMidiOutput&) = delete;
+    JackMidiOutput& operator=(const JackMidiOutput&) = delete;
 
     /// True once the server is gone. Destroy the object then, because no client can be opened
     /// before.
