@@ -43,6 +43,8 @@ std::optional<std::uint32_t> SequencePlayback::playBetween(double from, double t
 {
     const bool isHeard = !isPlanned_ && !soundedTo_;
     if (soundedTo_) {
+        if (*soundedTo_ - ahead_ < passStart_) // the plan has not come to the turn
+            turn(passStart_);
         actions_.clear();
         collect(std::max(*soundedTo_ - ahead_, passStart_), to, 0.0);
         for (const KeyAction& action : actions_)
@@ -207,6 +209,8 @@ void SequencePlayback::planPass(double from, double to, double time, const Pace&
     }
     for (const std::uint32_t noteIndex : index().startingOrEnding(from, to)) {
         const Note& note = sequence_.notes()[noteIndex];
+        if (!isPlayed(note))
+            continue;
         if (startsBetween(note, from, to))
             add(note, true, note.start);
         if (endsBetween(note, from, to))
@@ -218,19 +222,21 @@ void SequencePlayback::planPass(double from, double to, double time, const Pace&
 
 void SequencePlayback::wrap(double start, double end)
 {
-    const bool sounds = !isPlanned_ && !(soundedTo_ && *soundedTo_ - ahead_ > end);
-    for (const std::uint32_t key : index().keys()) {
+    for (const std::uint32_t key : index().keys())
         states[key] = 0;
-        if (sounds)
-            stopOnInstrument(key, kEveryChannel);
-    }
-    if (sounds) {
-        usePrograms(start);
-        startControllers(start);
-    }
+    if (!isPlanned_ && !soundedTo_)
+        turn(start);
     clearMarks();
     ahead_ += end - start;
     passStart_ = start;
+}
+
+void SequencePlayback::turn(double start)
+{
+    for (const std::uint32_t key : index().keys())
+        stopOnInstrument(key, kEveryChannel);
+    usePrograms(start);
+    startControllers(start);
 }
 
 void SequencePlayback::finishPlan()
@@ -255,6 +261,7 @@ void SequencePlayback::silence(std::uint64_t id)
     Note* const note = sequence_.find(id);
     if (note == nullptr || !note->playing)
         return;
+    index(); // knows which notes are marked
     note->playing = note->active = false;
     states[note->key] = stateAfter(*note);
     stopOnInstrument(note->key, channelOf(*note));

@@ -75,8 +75,8 @@ public:
     /// Does the same for a loop, at whose end the notes are planned from its start again.
     void planLoop(double step, double time, const Pace& pace, double start, double end);
 
-    /// Flags the notes at the end of a loop as silent, and silences them unless the plan has done
-    /// so. `playBetween` goes on at the start.
+    /// Flags the notes at the end of a loop as silent, and silences them unless a plan does so.
+    /// `playBetween` goes on at the start.
     void wrap(double start, double end);
 
     /// Call this after `playBetween` has followed a plan that was cancelled.
@@ -120,6 +120,9 @@ private:
 
     /// Adds the notes and clicks between two steps, each at its own time. `from` is at `time`.
     void planPass(double from, double to, double time, const Pace& pace, double ahead);
+
+    /// Silences everything at the end of a loop, and prepares the pass from its start.
+    void turn(double start);
 
     void clearMarks();
     SequenceIndex& index();

@@ -170,6 +170,7 @@ TEST_F(AheadPlayerTest, LoopsWithoutAGapWhileTheMainThreadIsBusy)
     const SequenceClock clock(musical.transport());
     musical.edit()->addNote({.length = 1.0, .velocity = 1.0F, .key = 60});
     musical.edit()->addNote({.start = 2.0, .length = 9.0, .velocity = 1.0F, .key = 64});
+    musical.edit()->addNote({.start = 2.0, .length = 1.0, .velocity = 1.0F, .key = 67});
     musical.edit()->sort();
     musical.updateExtent();
     MusicalTime time;
@@ -178,6 +179,7 @@ TEST_F(AheadPlayerTest, LoopsWithoutAGapWhileTheMainThreadIsBusy)
     musical.transport().selectInterval(0.0, 4.0);
     constexpr double kPass = 2.0 / 16.0 + 2.0 / 32.0; // in seconds
     musical.transport().setLoop(true);
+    musical.transport().playback().leaveOut(PracticePart{.lowestKey = 65}); // for the user
     std::vector<double> times;
     onPlay_ = [&] {
         if (playTime_ > 0.0 && playKey_ == 60)
@@ -196,6 +198,29 @@ TEST_F(AheadPlayerTest, LoopsWithoutAGapWhileTheMainThreadIsBusy)
             pass.push_back(call.substr(0, 7));
     EXPECT_EQ(Calls(pass.begin(), pass.begin() + 4),
               (Calls{"play 60", "play 64", "stop 64", "play 60"}));
+}
+
+TEST_F(AheadPlayerTest, EndsThePassOfALoopThatItIsTooLateFor)
+{
+    double now = getTime(); // runs ahead of the player's time
+    SequenceDocument musical(*this, Reading::Musical, [&] { return now; });
+    musical.edit()->addNote({.start = 6.5, .length = 0.5, .velocity = 1.0F, .key = 64});
+    musical.updateExtent();
+    AheadPlayer player(*this);
+    Transport& transport = musical.transport();
+    transport.playback().playAhead(&player);
+    transport.selectInterval(0.0, 8.0); // half a second
+    transport.setLoop(true);
+    transport.setPosition(6.5);
+    transport.play();
+    for (const double seconds : {0.001, 0.1}) {
+        now += seconds;
+        transport.tick();
+    }
+    EXPECT_LT(transport.position(), 1.0) << "in the next pass";
+    transport.stop();
+    EXPECT_EQ(calls_, (Calls{"play 64 1.00", "stop 64"}));
+    transport.playback().playAhead(nullptr);
 }
 
 } // namespace
