@@ -148,6 +148,8 @@ void Synthesizer::receive()
         silenceAfterOverflow();
     for (; queue_.front() != nullptr && !pending_.isFull(); queue_.pop()) {
         Event event = *queue_.front();
+        if (event.status == midi::kControlChange && event.data1 == midi::kAllSoundOff)
+            event.due = std::ranges::max(dues_); // it ends the keys as well
         double& due = dues_[orderOf(event)];
         due = event.due = std::max(due, event.due);
         pending_.add(event);

@@ -126,7 +126,7 @@ void MIDIInstrument::playOn(std::size_t part, int key, float velocity)
                       : playsByKey_      ? Started::Path::Key
                                          : Started::Path::Channel;
     // The device would not know that this is the same key.
-    if (started.mayMove && (started.path == Started::Path::Key) != (path == Started::Path::Key))
+    if (started.mayMove && started.path != path)
         stopOn(part, key);
     started = {path, true, static_cast<std::uint8_t>(key), kNotMoved};
     played_.set(part);

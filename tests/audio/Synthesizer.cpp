@@ -136,6 +136,14 @@ TEST(Synthesizer, PlaysInTheOrderInWhichMessagesAreDue)
     send(4000, 0x81, 61);
     rendered(synthesizer, 3 * kRate);
     EXPECT_EQ(nextPeak(synthesizer), 0.0F) << "a key is not released before it is struck";
+
+    synthesizer.setDue(kStart + 1.0);
+    synthesizer.keyOn(60, 100, 60, 0.0);
+    synthesizer.setDue(0.0);
+    for (int channel = 0; channel < midi::kChannels; ++channel)
+        synthesizer.midiEvent(midi::kControlChange | channel, midi::kAllSoundOff, 0);
+    rendered(synthesizer, 3 * kRate);
+    EXPECT_EQ(nextPeak(synthesizer), 0.0F) << "nor silenced";
 }
 
 TEST(Synthesizer, PlaysInTuneAtEveryRateAndBend)

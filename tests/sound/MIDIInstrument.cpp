@@ -43,6 +43,18 @@ TEST_F(MIDIInstrumentTest, StartsWithBankZeroAndProgramTwoOnEveryChannel)
     EXPECT_EQ(messages, expected);
 }
 
+TEST_F(MIDIInstrumentTest, ReleasesAKeyThatIsStruckAgainAsADrum)
+{
+    instrument.setPart(1, {});
+    instrument.playOn(1, 60, 1.0F);
+    instrument.setPart(1, {.preset = PartSound::Preset{.isPercussion = true}});
+    messages.clear();
+    instrument.playOn(1, 60, 1.0F);
+    instrument.stopOn(1, 60);
+    EXPECT_THAT(messages,
+                ElementsAre(Message{0x80, 60, 0}, Message{0x99, 60, 127}, Message{0x89, 60, 0}));
+}
+
 TEST_F(MIDIInstrumentTest, PlaysEachPitchClassOnAChannelOfItsOwnAndAvoidsPercussion)
 {
     for (int key = 0; key < 128; ++key) {
