@@ -17,6 +17,9 @@ constexpr double kEarly = 0.15;
 /// The shortest note, in steps, that can be seen and heard.
 constexpr double kShortest = 1.0 / 64.0;
 
+/// An end that is so many steps past the position is not just rounded.
+constexpr double kPast = 1e-6;
+
 } // namespace
 
 RunningTake::RunningTake(Transport& transport, Sequence& sequence, const TakeOptions& options)
@@ -170,6 +173,11 @@ void RunningTake::lengthen(std::size_t key, double step)
         end = std::max(transport_.time().gridAt(end, *grid),
                        transport_.time().gridAfter(note->start, *grid));
     const double length = std::max(end - note->start, kShortest);
+    if (length == note->length)
+        return;
+    // If the position was moved back, or with a grid, the end may be planned already.
+    if (note->start + std::max(length, note->length) > transport_.position() + kPast)
+        transport_.prepareChange({&openNotes_[key], 1});
     before_.emplace(note->id, *note); // an edit may have ended the changes before
     note->length = note->oldLength = length;
 }

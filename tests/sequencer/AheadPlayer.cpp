@@ -223,6 +223,33 @@ TEST_F(AheadPlayerTest, EndsThePassOfALoopThatItIsTooLateFor)
     transport.playback().playAhead(nullptr);
 }
 
+TEST_F(AheadPlayerTest, EndsANoteThatARecordingHasShortened)
+{
+    SequenceDocument musical(*this, Reading::Musical, getTime);
+    AheadPlayer player(*this);
+    Transport& transport = musical.transport();
+    transport.playback().playAhead(&player);
+    transport.setMetronome({.whileRecording = true});
+    transport.setSpeed(20.0); // the shortest note lies within a tick
+    const auto run = [&](double seconds) {
+        for (const double end = getTime() + seconds; getTime() < end;) {
+            transport.tick();
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    };
+    musical.recorder().record();
+    run(0.02);
+    liveKeys_.press(60, 0.5F, getTime());
+    run(0.1);
+    musical.edit()->select();
+    transport.setPosition(0.0); // the note is planned, but the key is still held
+    run(0.06);
+    transport.stop();
+    EXPECT_THAT(calls_, testing::Contains("play 60 0.50"));
+    EXPECT_EQ(calls_.back(), "stop 60");
+    transport.playback().playAhead(nullptr);
+}
+
 } // namespace
 
 } // namespace velmora
