@@ -879,8 +879,8 @@ Ein Klick zieht es oder stößt es ab</translation>
         <translation type="unfinished">%1 Schläge pro Minute</translation>
     </message>
     <message>
-        <source>There are too few notes to find a tempo in.</source>
-        <translation type="unfinished">Es sind zu wenige Noten, um darin ein Tempo zu finden.</translation>
+        <source>Velmora finds a tempo in eight notes or more, over four hours at most.</source>
+        <translation type="unfinished">Velmora findet ein Tempo in acht oder mehr Noten, die zusammen höchstens vier Stunden dauern.</translation>
     </message>
 </context>
 <context>

@@ -879,8 +879,8 @@ Un clic lo saca o lo cierra</translation>
         <translation type="unfinished">%1 pulsaciones por minuto</translation>
     </message>
     <message>
-        <source>There are too few notes to find a tempo in.</source>
-        <translation type="unfinished">Hay muy pocas notas para encontrar un tempo.</translation>
+        <source>Velmora finds a tempo in eight notes or more, over four hours at most.</source>
+        <translation type="unfinished">Velmora encuentra un tempo en ocho notas o más, a lo largo de cuatro horas como máximo.</translation>
     </message>
 </context>
 <context>

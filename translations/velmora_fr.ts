@@ -879,8 +879,8 @@ Un clic le tire ou le repousse</translation>
         <translation type="unfinished">%1 battements par minute</translation>
     </message>
     <message>
-        <source>There are too few notes to find a tempo in.</source>
-        <translation type="unfinished">Il y a trop peu de notes pour y trouver un tempo.</translation>
+        <source>Velmora finds a tempo in eight notes or more, over four hours at most.</source>
+        <translation type="unfinished">Velmora trouve un tempo dans huit notes ou plus, sur quatre heures au plus.</translation>
     </message>
 </context>
 <context>

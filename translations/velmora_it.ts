@@ -879,8 +879,8 @@ Un clic lo tira o lo respinge</translation>
         <translation type="unfinished">%1 battiti al minuto</translation>
     </message>
     <message>
-        <source>There are too few notes to find a tempo in.</source>
-        <translation type="unfinished">Le note sono troppo poche per trovarvi un tempo.</translation>
+        <source>Velmora finds a tempo in eight notes or more, over four hours at most.</source>
+        <translation type="unfinished">Velmora trova un tempo in otto note o più, nell’arco di quattro ore al massimo.</translation>
     </message>
 </context>
 <context>

@@ -877,8 +877,8 @@ A click draws it or pushes it in</source>
         <translation type="unfinished">毎分 %1 拍</translation>
     </message>
     <message>
-        <source>There are too few notes to find a tempo in.</source>
-        <translation type="unfinished">音符が少なすぎてテンポを見つけられません。</translation>
+        <source>Velmora finds a tempo in eight notes or more, over four hours at most.</source>
+        <translation type="unfinished">テンポを見つけるには、4時間以内に8つ以上の音符が必要です。</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,9 @@ constexpr double kOnsetFrame = 0.005, kBlur = 0.02;
 
 constexpr std::size_t kFewestOnsets = 8;
 
+/// What lasts longer, in seconds, is no take, and would take long.
+constexpr double kLongestTake = 4 * 3600.0;
+
 /// The beats that are looked for, in seconds, and the one that is preferred.
 constexpr double kShortestBeat = 0.25, kLongestBeat = 1.5, kUsualBeat = 0.5;
 /// How many octaves from that a beat is half as likely or less.
@@ -93,13 +96,16 @@ std::vector<std::size_t> trackBeats(const std::vector<double>& envelope, double 
                         static_cast<double>(envelope.size());
     const auto nearest = static_cast<std::size_t>(period / 2);
     const auto farthest = static_cast<std::size_t>(period * 2);
+    std::vector<double> penalties(farthest + 1); // of a beat that is so many frames long
+    for (std::size_t back = nearest; back <= farthest; ++back)
+        penalties[back] =
+            kEvenness * mean * std::pow(std::log(static_cast<double>(back) / period), 2.0);
     std::vector<double> score(envelope.size());
     std::vector<std::size_t> previous(envelope.size(), SIZE_MAX);
     for (std::size_t i = 0; i < envelope.size(); ++i) {
         double best = 0.0; // of a series that begins here
         for (std::size_t back = nearest; back <= std::min(farthest, i); ++back) {
-            const double uneven = std::log(static_cast<double>(back) / period);
-            const double before = score[i - back] - kEvenness * mean * uneven * uneven;
+            const double before = score[i - back] - penalties[back];
             if (before > best) {
                 best = before;
                 previous[i] = i - back;
@@ -160,16 +166,26 @@ std::optional<FoundBeats> findBeats(const std::vector<Note>& notes, const Musica
                                     std::optional<double> tempo)
 {
     const std::vector<Onset> onsets = onsetsOf(notes, time);
-    if (onsets.size() < kFewestOnsets || onsets.back().time - onsets.front().time < kLongestBeat)
+    if (onsets.size() < kFewestOnsets)
+        return std::nullopt;
+    const double start = onsets.front().time, length = onsets.back().time - start;
+    if (length < kLongestBeat || length > kLongestTake)
         return std::nullopt;
     const std::vector<double> envelope = envelopeOf(onsets);
-    const double period = tempo ? 60.0 / *tempo / kOnsetFrame : periodOf(envelope);
-    FoundBeats beats;
-    for (const std::size_t frame : trackBeats(envelope, period))
-        beats.times.push_back(onsets.front().time + static_cast<double>(frame) * kOnsetFrame);
+    double period = 0.0;
+    if (tempo)
+        period =
+            60.0 / std::clamp(*tempo, FoundBeats::kSlowest, FoundBeats::kFastest) / kOnsetFrame;
+    else
+        period = periodOf(envelope);
     const double beat = period * kOnsetFrame;
-    while (beats.times.front() > onsets.front().time + kNear)
-        beats.times.insert(beats.times.begin(), beats.times.front() - beat);
+    const std::vector<std::size_t> frames = trackBeats(envelope, period);
+    const double first = static_cast<double>(frames.front()) * kOnsetFrame;
+    FoundBeats beats;
+    for (auto before = static_cast<int>(std::ceil((first - kNear) / beat)); before > 0; --before)
+        beats.times.push_back(start + first - before * beat);
+    for (const std::size_t frame : frames)
+        beats.times.push_back(start + static_cast<double>(frame) * kOnsetFrame);
     while (beats.times.size() < 2 || beats.times.back() < onsets.back().time)
         beats.times.push_back(beats.times.back() + beat);
     findBars(onsets, beats);

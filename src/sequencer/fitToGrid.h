@@ -16,6 +16,9 @@ class SequenceDocument;
 
 /// The beats of something that was played freely.
 struct FoundBeats {
+    /// The tempos that can be asked for, in beats a minute.
+    static constexpr double kSlowest = 20.0, kFastest = 480.0;
+
     std::vector<double> times; ///< In seconds, at least two, in order; they enclose every note.
     int beatsPerBar = 4;
     int firstBar = 0; ///< The first beat that begins a bar, from 0 to `beatsPerBar` − 1.
@@ -25,7 +28,7 @@ struct FoundBeats {
 };
 
 /// Finds the beats of notes that were played without a metronome. `tempo` is their number a minute
-/// if it is known. Returns nothing if there are too few notes.
+/// if it is known. Returns nothing if there are fewer than eight notes or more than four hours.
 ///
 /// The tempo is the strongest period of the onsets near 120 beats a minute, and the beats are the
 /// most even series that falls on onsets (Daniel P. W. Ellis, "Beat Tracking by Dynamic

@@ -58,6 +58,12 @@ TEST(fitToGrid, FindsTheBeatsOfAFreeTake)
     EXPECT_NEAR(slow.value().tempo(), 60.0, 0.5) << "not the eighths, as the user says";
     EXPECT_EQ(slow->beatsPerBar, 3);
     EXPECT_FALSE(findBeats(play(97.0, 4, 0.0, 3, 0.0), {})) << "too few notes";
+    std::vector<Note> notes = play(97.0, 4, 0.0, 48, 0.0);
+    EXPECT_NEAR(findBeats(notes, {}, 1e9).value().tempo(), FoundBeats::kFastest, 20.0);
+    notes.back().start = 16.0 * 3600.0;
+    EXPECT_GT(findBeats(notes, {}).value().times.size(), 3000U) << "over a long silence";
+    notes.back().start = 16e9;
+    EXPECT_FALSE(findBeats(notes, {})) << "for years";
 }
 
 TEST(fitToGrid, MovesTheBeatsToTheGridAndKeepsTheSound)

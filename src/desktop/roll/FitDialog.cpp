@@ -85,7 +85,8 @@ private:
 
 FitDialog::FitDialog(SequenceDocument& document, const FoundBeats& beats, QWidget* parent)
     : QDialog(parent), document_(document), beats_(beats), picture_(new Picture(document, beats_)),
-      tempo_(new QLabel), count_(new QSpinBox), first_(new QSpinBox)
+      tempo_(new QLabel), half_(new QPushButton(tr("&Half as Fast"))),
+      twice_(new QPushButton(tr("&Twice as Fast"))), count_(new QSpinBox), first_(new QSpinBox)
 {
     setWindowTitle(tr("Fit to Grid"));
     auto* explanation = new QLabel(tr("These bars and beats were found. Correct them if they are "
@@ -113,13 +114,11 @@ FitDialog::FitDialog(SequenceDocument& document, const FoundBeats& beats, QWidge
 void FitDialog::addFields(QFormLayout& form)
 {
     auto* tempo = new QHBoxLayout;
-    auto* half = new QPushButton(tr("&Half as Fast"));
-    auto* twice = new QPushButton(tr("&Twice as Fast"));
-    connect(half, &QPushButton::clicked, this, [this] { scaleTempo(0.5); });
-    connect(twice, &QPushButton::clicked, this, [this] { scaleTempo(2.0); });
+    connect(half_, &QPushButton::clicked, this, [this] { scaleTempo(0.5); });
+    connect(twice_, &QPushButton::clicked, this, [this] { scaleTempo(2.0); });
     tempo->addWidget(tempo_, 1);
-    tempo->addWidget(half);
-    tempo->addWidget(twice);
+    tempo->addWidget(half_);
+    tempo->addWidget(twice_);
     form.addRow(tr("Tempo:"), tempo);
     count_->setRange(kFewestBeats, kMostBeats);
     count_->setValue(beats_.beatsPerBar);
@@ -153,6 +152,8 @@ void FitDialog::scaleTempo(double factor)
 void FitDialog::showBeats()
 {
     tempo_->setText(tr("%1 beats per minute").arg(QLocale().toString(beats_.tempo(), 'f', 1)));
+    half_->setEnabled(beats_.tempo() / 2 >= FoundBeats::kSlowest);
+    twice_->setEnabled(beats_.tempo() * 2 <= FoundBeats::kFastest);
     picture_->updateGeometry();
     picture_->update();
 }
@@ -167,8 +168,10 @@ void askToFit(SequenceDocument& document, QWidget* parent)
 {
     const auto beats = findBeats(document.sequence().notes(), document.time());
     if (!beats) {
-        QMessageBox::information(parent, FitDialog::tr("Fit to Grid"),
-                                 FitDialog::tr("There are too few notes to find a tempo in."));
+        QMessageBox::information(
+            parent, FitDialog::tr("Fit to Grid"),
+            FitDialog::tr(
+                "Velmora finds a tempo in eight notes or more, over four hours at most."));
         return;
     }
     FitDialog(document, *beats, parent).exec();

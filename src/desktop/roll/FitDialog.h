@@ -6,6 +6,7 @@
 
 class QFormLayout;
 class QLabel;
+class QPushButton;
 class QSpinBox;
 
 namespace velmora {
@@ -34,10 +35,11 @@ private:
     FoundBeats beats_;
     Picture* picture_;
     QLabel* tempo_;
+    QPushButton *half_, *twice_;
     QSpinBox *count_, *first_;
 };
 
-/// Finds the beats of a piece and shows the dialog, or says that there are too few notes.
+/// Finds the beats of a piece and shows the dialog, or says why there are none.
 void askToFit(SequenceDocument& document, QWidget* parent);
 
 } // namespace velmora
