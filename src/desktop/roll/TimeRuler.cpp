@@ -127,20 +127,26 @@ void TimeRuler::paintBars(QPainter& painter) const
 
 double TimeRuler::paintNumber(QPainter& painter, int number, double y) const
 {
+    // A marker at the bar has its flag there.
+    const auto isAtBar = [&](const Marker& marker) {
+        return std::abs(yOf(marker.step) - y) < kFlag;
+    };
+    const double gap =
+        kGap + (std::ranges::any_of(document_->time().markers(), isAtBar) ? kFlag : 0.0);
     const QString text = locale().toString(number);
     const double textWidth = fontMetrics().horizontalAdvance(text);
     const double textHeight = fontMetrics().height();
     if (!isAcross()) {
-        painter.drawText(QRectF(kGap, y - textHeight - 1, width(), textHeight),
+        painter.drawText(QRectF(gap, y - textHeight - 1, width(), textHeight),
                          Qt::AlignLeft | Qt::AlignBottom, text);
         return y - textHeight;
     }
     painter.setWorldMatrixEnabled(false); // letters stay upright
     painter.drawText(
-        QRectF(turn().map(QPointF(0, y)) + QPointF(kGap, 0), QSizeF(textWidth + kGap, textHeight)),
+        QRectF(turn().map(QPointF(0, y)) + QPointF(gap, 0), QSizeF(textWidth + kGap, textHeight)),
         Qt::AlignLeft | Qt::AlignTop, text);
     painter.setWorldMatrixEnabled(true);
-    return y - textWidth - 2 * kGap;
+    return y - textWidth - gap - kGap;
 }
 
 void TimeRuler::paintHandles(QPainter& painter) const
