@@ -36,6 +36,7 @@ void SequenceClock::adjust()
         playTimer_ = std::make_unique<IntervalTimer>(
             std::chrono::duration_cast<std::chrono::nanoseconds>(kTick),
             [this] { transport_.tick(); });
+        transport_.tick(); // the timer may have to wait until the windows are painted
     }
 }
 
