@@ -626,6 +626,14 @@ Ziehen Sie einen Ton nach außen, um ihn zu erhöhen, und nach innen, um ihn zu 
         <source>Scale</source>
         <translation type="unfinished">Skala</translation>
     </message>
+    <message>
+        <source>Open Instrument</source>
+        <translation type="unfinished">Instrument öffnen</translation>
+    </message>
+    <message>
+        <source>Instruments (%1);;All files (*)</source>
+        <translation type="unfinished">Instrumente (%1);;Alle Dateien (*)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DivisionChooser</name>
@@ -3228,6 +3236,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
     <message>
         <source>Write the piano roll of the piece for paper, as PDF or PNG</source>
         <translation type="unfinished">Die Pianorolle des Stücks für Papier schreiben, als PDF oder PNG</translation>
+    </message>
+    <message>
+        <source>&amp;Open Instrument…</source>
+        <translation type="unfinished">Instrument ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Open a SoundFont, a GigaSampler bank or an organ</source>
+        <translation type="unfinished">Einen SoundFont, eine GigaSampler-Bank oder eine Orgel öffnen</translation>
     </message>
 </context>
 <context>

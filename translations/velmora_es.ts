@@ -626,6 +626,14 @@ Arrastre una nota hacia fuera para subirla y hacia dentro para bajarla.</transla
         <source>Scale</source>
         <translation type="unfinished">Escala</translation>
     </message>
+    <message>
+        <source>Open Instrument</source>
+        <translation type="unfinished">Abrir instrumento</translation>
+    </message>
+    <message>
+        <source>Instruments (%1);;All files (*)</source>
+        <translation type="unfinished">Instrumentos (%1);;Todos los archivos (*)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DivisionChooser</name>
@@ -3228,6 +3236,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
     <message>
         <source>Write the piano roll of the piece for paper, as PDF or PNG</source>
         <translation type="unfinished">Escribir el rollo de pianola de la pieza para papel, como PDF o PNG</translation>
+    </message>
+    <message>
+        <source>&amp;Open Instrument…</source>
+        <translation type="unfinished">&amp;Abrir instrumento…</translation>
+    </message>
+    <message>
+        <source>Open a SoundFont, a GigaSampler bank or an organ</source>
+        <translation type="unfinished">Abrir un SoundFont, un banco GigaSampler o un órgano</translation>
     </message>
 </context>
 <context>

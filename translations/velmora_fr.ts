@@ -626,6 +626,14 @@ Tirez une note vers l’extérieur pour la hausser, vers l’intérieur pour la 
         <source>Scale</source>
         <translation type="unfinished">Gamme</translation>
     </message>
+    <message>
+        <source>Open Instrument</source>
+        <translation type="unfinished">Ouvrir un instrument</translation>
+    </message>
+    <message>
+        <source>Instruments (%1);;All files (*)</source>
+        <translation type="unfinished">Instruments (%1);;Tous les fichiers (*)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DivisionChooser</name>
@@ -3228,6 +3236,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
     <message>
         <source>Write the piano roll of the piece for paper, as PDF or PNG</source>
         <translation type="unfinished">Écrire le piano roll de la pièce pour le papier, en PDF ou PNG</translation>
+    </message>
+    <message>
+        <source>&amp;Open Instrument…</source>
+        <translation type="unfinished">&amp;Ouvrir un instrument…</translation>
+    </message>
+    <message>
+        <source>Open a SoundFont, a GigaSampler bank or an organ</source>
+        <translation type="unfinished">Ouvrir une SoundFont, une banque GigaSampler ou un orgue</translation>
     </message>
 </context>
 <context>

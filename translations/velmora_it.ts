@@ -626,6 +626,14 @@ Trascinate una nota verso l’esterno per alzarla e verso l’interno per abbass
         <source>Scale</source>
         <translation type="unfinished">Scala</translation>
     </message>
+    <message>
+        <source>Open Instrument</source>
+        <translation type="unfinished">Apri strumento</translation>
+    </message>
+    <message>
+        <source>Instruments (%1);;All files (*)</source>
+        <translation type="unfinished">Strumenti (%1);;Tutti i file (*)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DivisionChooser</name>
@@ -3228,6 +3236,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
     <message>
         <source>Write the piano roll of the piece for paper, as PDF or PNG</source>
         <translation type="unfinished">Scrivi il piano roll del brano per la carta, come PDF o PNG</translation>
+    </message>
+    <message>
+        <source>&amp;Open Instrument…</source>
+        <translation type="unfinished">&amp;Apri strumento…</translation>
+    </message>
+    <message>
+        <source>Open a SoundFont, a GigaSampler bank or an organ</source>
+        <translation type="unfinished">Apri un SoundFont, un banco GigaSampler o un organo</translation>
     </message>
 </context>
 <context>

@@ -624,6 +624,14 @@ Drag a note outwards to raise it, and inwards to lower it.</source>
         <source>Scale</source>
         <translation type="unfinished">音階</translation>
     </message>
+    <message>
+        <source>Open Instrument</source>
+        <translation type="unfinished">楽器を開く</translation>
+    </message>
+    <message>
+        <source>Instruments (%1);;All files (*)</source>
+        <translation type="unfinished">楽器 (%1);;すべてのファイル (*)</translation>
+    </message>
 </context>
 <context>
     <name>velmora::DivisionChooser</name>
@@ -3201,6 +3209,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
     <message>
         <source>Write the piano roll of the piece for paper, as PDF or PNG</source>
         <translation type="unfinished">曲のピアノロールを印刷用に PDF または PNG で書き出します</translation>
+    </message>
+    <message>
+        <source>&amp;Open Instrument…</source>
+        <translation type="unfinished">楽器を開く(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Open a SoundFont, a GigaSampler bank or an organ</source>
+        <translation type="unfinished">SoundFont、GigaSampler バンク、またはオルガンを開きます</translation>
     </message>
 </context>
 <context>

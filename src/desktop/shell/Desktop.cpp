@@ -80,7 +80,10 @@ void Desktop::launch(const OutputSettings& output)
 
 void Desktop::connectCommands()
 {
-    connect(shell_.open, &QAction::triggered, this, &Desktop::askForFiles);
+    connect(shell_.open, &QAction::triggered, this,
+            [this] { openChosen(askForFiles(QApplication::activeWindow())); });
+    connect(shell_.openInstrument, &QAction::triggered, this,
+            [this] { openChosen(askForInstruments(QApplication::activeWindow())); });
     connect(shell_.openSession, &QAction::triggered, this, [this] {
         if (const QString path = askForSession(QApplication::activeWindow()); !path.isEmpty())
             open({path});
@@ -130,7 +133,7 @@ void Desktop::connectWindows()
     connect(shell_.commandPalette, &QAction::triggered, &palette_, &CommandPalette::open);
     connect(shell_.about, &QAction::triggered, this, [this] { showAbout(workspace_); });
     const InstrumentPanel& panel = workspace_.instrumentPanel();
-    connect(&panel, &InstrumentPanel::openRequested, this, &Desktop::askForFiles);
+    connect(&panel, &InstrumentPanel::openRequested, shell_.openInstrument, &QAction::trigger);
     connect(&panel, &InstrumentPanel::instrumentChosen, this, &Desktop::selectInstrument);
     connect(&opener_, &InstrumentOpener::failed, this, &Desktop::showError);
     connect(&opener_, &InstrumentOpener::message, this, [this](const QString& text) {
@@ -146,7 +149,8 @@ void Desktop::connectWindows()
             [this] { preferencesWindow_.presentPane(PreferencesWindow::Pane::Sound); });
     connect(&status, &StatusLine::midiClicked, &preferencesWindow_,
             [this] { preferencesWindow_.presentPane(PreferencesWindow::Pane::Midi); });
-    connect(&instrumentsWindow_, &InstrumentsWindow::openRequested, this, &Desktop::askForFiles);
+    connect(&instrumentsWindow_, &InstrumentsWindow::openRequested, shell_.openInstrument,
+            &QAction::trigger);
     connect(&instrumentsWindow_, &InstrumentsWindow::instrumentChosen, this,
             &Desktop::selectInstrument);
     connect(&instrumentsWindow_, &InstrumentsWindow::refused, this, &Desktop::showError);
@@ -210,7 +214,7 @@ void Desktop::connectStartPage()
     StartPage& page = workspace_.startPage();
     connect(&page, &StartPage::chordRequested, &exampleChord_, &ExampleChord::play);
     connect(&page, &StartPage::tuningsRequested, &workspace_, &Workspace::showTuning);
-    connect(&page, &StartPage::instrumentRequested, this, &Desktop::askForFiles);
+    connect(&page, &StartPage::instrumentRequested, shell_.openInstrument, &QAction::trigger);
     connect(&page, &StartPage::recordingRequested, sequenceActions_.record, &QAction::trigger);
     connect(&page, &StartPage::fileChosen, this, [this](const QString& path) { open({path}); });
     connect(&page, &StartPage::guideRequested, shell_.guide, &QAction::trigger);
@@ -345,10 +349,9 @@ void Desktop::rereadInstrument(std::size_t position, const ImportOptions& option
     readAgain([&] { opener_.reopen(position, options); });
 }
 
-void Desktop::askForFiles()
+void Desktop::openChosen(const QStringList& paths)
 {
-    const QStringList paths = velmora::askForFiles(QApplication::activeWindow());
-    if (!paths.isEmpty())
+    if (!paths.isEmpty()) // the user has not cancelled
         open(paths);
 }
 

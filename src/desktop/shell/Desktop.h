@@ -81,7 +81,7 @@ private:
     void openSession(const QString& path);
     void saveSession();
     void selectInstrument(std::size_t position);
-    void askForFiles();
+    void openChosen(const QStringList& paths);
     void transpose(int semitones);
     void perform(LearnedAction::Kind action);
     void updateAllViews();

@@ -62,6 +62,10 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
       open(commands.add("file.open", fileGroup(),
                         {tr("&Open…"), tr("Open pieces, instruments and tunings"), "open"},
                         {QKeySequence(QKeySequence::Open)})),
+      openInstrument(
+          commands.add("file.openInstrument", fileGroup(),
+                       {tr("&Open Instrument…"),
+                        tr("Open a SoundFont, a GigaSampler bank or an organ"), "open"})),
       openSession(
           commands.add("file.openSession", fileGroup(),
                        {tr("Open Sess&ion…"),
@@ -300,7 +304,7 @@ void ShellActions::showInstruments()
         });
     }
     instruments_->addSeparator();
-    instruments_->addActions({instrument, instrumentsWindow});
+    instruments_->addActions({openInstrument, instrument, instrumentsWindow});
     instruments_->addSeparator();
     instruments_->addActions({transposeUp, transposeDown, silence, stopLoading});
 }

@@ -28,8 +28,9 @@ public:
     ~ShellActions() override;
 
     QAction *const newSequence,
-        *const open, *const openSession, *const saveSession, *const save, *const saveAs,
-                                                                              *const exportAudio;
+        *const open, *const openInstrument, *const openSession,
+                                                *const saveSession,
+                                                    *const save, *const saveAs, *const exportAudio;
     QAction *const exportStems, *const exportMidi, *const exportScore, *const exportRoll,
                                                                            *const exportScale,
                                                                                *const sendTuning;

@@ -1,6 +1,8 @@
 #include "desktop/shell/askForFiles.h"
 
+#include "app/generalMidiBanks.h"
 #include "desktop/shell/askWhereToSave.h"
+#include "platform/pathNames.h"
 #include "preferences/settings.h"
 
 #include <QCoreApplication>
@@ -13,6 +15,7 @@ namespace velmora {
 namespace {
 
 constexpr const char* kFolderKey = "openFolder";
+constexpr const char* kInstrumentFolderKey = "instrumentFolder";
 constexpr const char* kInstruments = "*.sf2 *.gig *.organ_hauptwerk_xml *.xml *.organ *.orgue";
 constexpr const char* kTunings = "*.scl *.ascl *.kbm *.tun *.mtx";
 constexpr const char* kSequences = "*.mid *.midi *.smf *.kar *.musicxml *.mxl";
@@ -22,10 +25,17 @@ struct Opening {
     Q_DECLARE_TR_FUNCTIONS(velmora::Desktop)
 };
 
-void rememberFolderOf(const QString& path)
+void rememberFolderOf(const QString& path, const std::string& key = kFolderKey)
 {
     if (!path.isEmpty())
-        setPreference(kFolderKey, QFileInfo(path).absolutePath());
+        setPreference(key, QFileInfo(path).absolutePath());
+}
+
+/// Returns the folder where packages install SoundFonts; empty if there is none.
+QString bankFolder()
+{
+    const auto banks = generalMidiBanks();
+    return banks.empty() ? QString() : textOf(banks.front().parent_path());
 }
 
 } // namespace
@@ -40,6 +50,16 @@ QStringList askForFiles(QWidget* parent)
             .arg(every, kInstruments, kTunings, kSequences, kSessions),
         nullptr, QFileDialog::HideNameFilterDetails); // they are too long to be read
     rememberFolderOf(paths.value(0));
+    return paths;
+}
+
+QStringList askForInstruments(QWidget* parent)
+{
+    QStringList paths = QFileDialog::getOpenFileNames(
+        parent, Opening::tr("Open Instrument"), dialogFolder(kInstrumentFolderKey, bankFolder()),
+        Opening::tr("Instruments (%1);;All files (*)").arg(kInstruments), nullptr,
+        QFileDialog::HideNameFilterDetails);
+    rememberFolderOf(paths.value(0), kInstrumentFolderKey);
     return paths;
 }
 

@@ -13,6 +13,10 @@ namespace velmora {
 /// Asks for files of every kind. Returns an empty list if the user cancels.
 QStringList askForFiles(QWidget* parent);
 
+/// Asks for files of instruments, at first where packages install them. Returns an empty list if
+/// the user cancels.
+QStringList askForInstruments(QWidget* parent);
+
 /// Asks for tuning files, and tells which file is highlighted meanwhile. Returns an empty list if
 /// the user cancels.
 QStringList askForTunings(QWidget* parent, const std::function<void(const QString&)>& highlighted);

@@ -52,9 +52,9 @@ bool mayReplace(QWidget& parent, const std::filesystem::path& path)
 
 } // namespace
 
-QString dialogFolder(const std::string& key)
+QString dialogFolder(const std::string& key, const QString& usual)
 {
-    QStringList folders{preference(key).toString()};
+    QStringList folders{preference(key).toString(), usual};
     for (const auto kind : {QStandardPaths::MusicLocation, QStandardPaths::DocumentsLocation})
         folders += QStandardPaths::writableLocation(kind);
     const auto folder = std::ranges::find_if(

@@ -16,8 +16,8 @@ struct FileKind {
 };
 
 /// Returns the folder in which a dialog opens: the one that was last chosen and stored under `key`,
-/// or else the user's folder for music, for documents, or the home folder.
-QString dialogFolder(const std::string& key);
+/// or else `usual`, the user's folder for music, for documents, or the home folder.
+QString dialogFolder(const std::string& key, const QString& usual = {});
 
 struct SaveQuestion {
     QString title;
