@@ -19,7 +19,7 @@ Piece pieceOf(const SequenceDocument& document, const std::string& title, Temper
               const ChannelSet& voices = ChannelSet().set());
 
 /// Writes a piece as a score: as LilyPond if the extension is .ly, otherwise as MusicXML. Throws
-/// std::system_error if that fails.
+/// std::system_error if that fails, and std::length_error if the piece is too long.
 void writeScore(const std::filesystem::path& path, const Piece& piece);
 
 /// True for the extensions of scores, in any letter case: .musicxml, .xml and .ly.

@@ -10,6 +10,8 @@ namespace velmora {
 /// A piece of music as it is exchanged with notation programs. Times are in quarter notes from the
 /// beginning of the piece.
 struct Piece {
+    static constexpr double kLongest = 1e6; ///< What is longer is no music.
+
     struct Note {
         double start = 0.0;
         double length = 0.0;

@@ -59,6 +59,7 @@ struct Score {
 
 /// Writes a piece down. Notes go to the nearest place on the grid of their part; a part of a wide
 /// range has a staff for each hand. Notes before the beginning or without an end are left out.
+/// Throws std::length_error if the piece is too long.
 Score makeScore(const Piece& piece);
 
 } // namespace velmora

@@ -13,7 +13,8 @@ constexpr int kShortestBar = kScoreDivisions / 8;
 
 int barPosition(double quarters)
 {
-    return kShortestBar * static_cast<int>(std::lround(quarters * kScoreDivisions / kShortestBar));
+    const double inPiece = std::min(quarters, Piece::kLongest); // signs may stand behind its end
+    return kShortestBar * static_cast<int>(std::lround(inPiece * kScoreDivisions / kShortestBar));
 }
 
 int lengthOf(const Piece::TimeSignature& signature)

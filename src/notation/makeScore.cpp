@@ -8,6 +8,7 @@
 #include <functional>
 #include <iterator>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -52,6 +53,8 @@ Played played(const Piece::Part& part)
     std::ranges::copy_if(part.notes, std::back_inserter(notes), canBeWritten);
     std::vector<double> starts, ends;
     for (const Piece::Note& note : notes) {
+        if (note.start + note.length > Piece::kLongest)
+            throw std::length_error("the music is too long");
         starts.push_back(note.start);
         ends.push_back(note.start + note.length);
     }

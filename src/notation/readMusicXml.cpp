@@ -17,9 +17,6 @@ namespace velmora {
 
 namespace {
 
-/// A piece that is longer, in quarter notes, is damaged.
-constexpr double kLongestPiece = 1e6;
-
 constexpr int kLastProgram = 127;
 
 constexpr std::size_t kMostParts = 1000;
@@ -251,7 +248,7 @@ public:
             for (PartPlayer& player : players)
                 player.play(played, start);
             start += measure.length;
-            if (start > kLongestPiece)
+            if (start > Piece::kLongest)
                 throw FormatError("the music is too long");
         }
         for (PartPlayer& player : players)

@@ -100,6 +100,7 @@ TEST(Score, GivesEachVoiceAndHandItsPlace)
                 for (const Score::Element& element : voice.elements)
                     notes += element.continuesTie ? 0 : element.pitches.size();
     EXPECT_EQ(notes, many.size()) << "more voices than a staff has";
+    EXPECT_THROW(makeScore(pieceOf({{2e6, 1.0, 60}})), std::length_error);
 }
 
 TEST(Score, CutsBarsWhereTheTimeSignatureChanges)
