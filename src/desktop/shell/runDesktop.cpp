@@ -3,6 +3,7 @@
 #include "base/Log.h"
 #include "desktop/shell/Desktop.h"
 #include "desktop/shell/SingleInstance.h"
+#include "desktop/widgets/FramingStyle.h"
 #include "desktop/widgets/graphics.h"
 #include "desktop/widgets/languages.h"
 #include "platform/SignalNotifier.h"
@@ -67,6 +68,7 @@ int runDesktop(int argc, char** argv, const std::vector<std::string>& files, boo
     QApplication::setDesktopFileName("velmora");
     QApplication::setWindowIcon(QIcon(":/velmora.svg"));
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(new FramingStyle); // the application owns it
     installTranslators();
 
     quitOnSignal.watch([] { QApplication::exit(); });
