@@ -3245,6 +3245,14 @@ Bewegen Sie an einem MIDI-Gerät einen Regler, oder drücken Sie einen Knopf ode
         <source>Open a SoundFont, a GigaSampler bank or an organ</source>
         <translation type="unfinished">Einen SoundFont, eine GigaSampler-Bank oder eine Orgel öffnen</translation>
     </message>
+    <message>
+        <source>&amp;Open Tuning…</source>
+        <translation type="unfinished">Stimmung ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Open scales and other tunings</source>
+        <translation type="unfinished">Skalen und andere Stimmungen öffnen</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>

@@ -3245,6 +3245,14 @@ Mueva un controlador, o pulse un botón o una tecla, en un dispositivo MIDI.</tr
         <source>Open a SoundFont, a GigaSampler bank or an organ</source>
         <translation type="unfinished">Abrir un SoundFont, un banco GigaSampler o un órgano</translation>
     </message>
+    <message>
+        <source>&amp;Open Tuning…</source>
+        <translation type="unfinished">&amp;Abrir afinación…</translation>
+    </message>
+    <message>
+        <source>Open scales and other tunings</source>
+        <translation type="unfinished">Abrir escalas y otras afinaciones</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>

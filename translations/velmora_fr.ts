@@ -3245,6 +3245,14 @@ Sur un appareil MIDI, actionnez un contrôleur ou appuyez sur un bouton ou une t
         <source>Open a SoundFont, a GigaSampler bank or an organ</source>
         <translation type="unfinished">Ouvrir une SoundFont, une banque GigaSampler ou un orgue</translation>
     </message>
+    <message>
+        <source>&amp;Open Tuning…</source>
+        <translation type="unfinished">&amp;Ouvrir un accord…</translation>
+    </message>
+    <message>
+        <source>Open scales and other tunings</source>
+        <translation type="unfinished">Ouvrir des gammes et d’autres accords</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>

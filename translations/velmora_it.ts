@@ -3245,6 +3245,14 @@ Su un dispositivo MIDI muovi un controller, oppure premi un pulsante o un tasto.
         <source>Open a SoundFont, a GigaSampler bank or an organ</source>
         <translation type="unfinished">Apri un SoundFont, un banco GigaSampler o un organo</translation>
     </message>
+    <message>
+        <source>&amp;Open Tuning…</source>
+        <translation type="unfinished">&amp;Apri accordatura…</translation>
+    </message>
+    <message>
+        <source>Open scales and other tunings</source>
+        <translation type="unfinished">Apri scale e altre accordature</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>

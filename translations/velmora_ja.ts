@@ -3218,6 +3218,14 @@ MIDI 機器のコントローラーを動かすか、ボタンまたは鍵を押
         <source>Open a SoundFont, a GigaSampler bank or an organ</source>
         <translation type="unfinished">SoundFont、GigaSampler バンク、またはオルガンを開きます</translation>
     </message>
+    <message>
+        <source>&amp;Open Tuning…</source>
+        <translation type="unfinished">調律を開く(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Open scales and other tunings</source>
+        <translation type="unfinished">音階などの調律を開きます</translation>
+    </message>
 </context>
 <context>
     <name>velmora::ShortcutsPane</name>

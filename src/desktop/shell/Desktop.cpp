@@ -158,8 +158,9 @@ void Desktop::connectWindows()
 
 void Desktop::connectTunings()
 {
-    connect(&workspace_.tuningPanel(), &TuningPanel::openRequested, &tuningFiles_,
-            &TuningFiles::ask);
+    connect(&workspace_.tuningPanel(), &TuningPanel::openRequested, shell_.openTuning,
+            &QAction::trigger);
+    connect(shell_.openTuning, &QAction::triggered, &tuningFiles_, &TuningFiles::ask);
     connect(&workspace_.tuningStudio(), &TuningStudio::saveRequested, &tuningFiles_,
             [this](const QString& description) {
                 tuningFiles_.save(workspace_.tuningStudio(), description);

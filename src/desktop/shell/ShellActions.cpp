@@ -66,6 +66,8 @@ ShellActions::ShellActions(AppDelegate& application, Commands& commands)
           commands.add("file.openInstrument", fileGroup(),
                        {tr("&Open Instrument…"),
                         tr("Open a SoundFont, a GigaSampler bank or an organ"), "open"})),
+      openTuning(commands.add("file.openTuning", fileGroup(),
+                              {tr("&Open Tuning…"), tr("Open scales and other tunings"), "open"})),
       openSession(
           commands.add("file.openSession", fileGroup(),
                        {tr("Open Sess&ion…"),
@@ -324,7 +326,7 @@ void ShellActions::showTunings()
     tunings_->addSeparator();
     transposition_->addTo(*tunings_);
     tunings_->addSeparator();
-    tunings_->addAction(sendTuning);
+    tunings_->addActions({openTuning, sendTuning});
 }
 
 } // namespace velmora

@@ -27,19 +27,16 @@ public:
     ShellActions(AppDelegate& application, Commands& commands);
     ~ShellActions() override;
 
-    QAction *const newSequence,
-        *const open, *const openInstrument, *const openSession,
-                                                *const saveSession,
-                                                    *const save, *const saveAs, *const exportAudio;
-    QAction *const exportStems, *const exportMidi, *const exportScore, *const exportRoll,
-                                                                           *const exportScale,
-                                                                               *const sendTuning;
+    QAction *const newSequence, *const open, *const openInstrument, *const openTuning;
+    QAction *const openSession, *const saveSession, *const save, *const saveAs, *const exportAudio;
+    QAction *const exportStems, *const exportMidi, *const exportScore, *const exportRoll;
+    QAction *const exportScale, *const sendTuning;
     QAction *const close, *const preferences, *const quit;
     QAction* const silence;                           ///< Stops every sound at once.
     QAction* const stopLoading;                       ///< Leaves out what is not loaded yet.
     QAction *const transposeUp, *const transposeDown; ///< By a semitone.
-    QAction *const keyboard, *const instrument, *const tuning,
-                                                    *const console; ///< Show or hide the panels.
+    /// Show or hide the panels.
+    QAction *const keyboard, *const instrument, *const tuning, *const console;
     QAction* const practice;     ///< Shows or hides the panel in which a piece is practised.
     QAction* const tuningStudio; ///< Shows or hides the panel in which a tuning is shaped.
     QAction* const voices;       ///< Shows or hides the voices of the piece.
