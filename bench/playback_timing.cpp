@@ -161,6 +161,7 @@ int main(int argc, char** argv)
     transport.selectInterval(0.0, kStepsPerSecond);
     transport.setPosition(0.0);
     transport.setLoop(true);
+    QApplication::processEvents(); // what the windows have to do for all that
     QTimer busy;
     QObject::connect(&busy, &QTimer::timeout, &qt,
                      [] { std::this_thread::sleep_for(std::chrono::milliseconds(100)); });

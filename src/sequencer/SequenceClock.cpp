@@ -33,10 +33,10 @@ void SequenceClock::adjust()
     } else if (!playTimer_) {
         player_ = std::make_unique<AheadPlayer>(transport_.host());
         transport_.playback().playAhead(player_.get());
+        transport_.tick(); // the timer may have to wait until the windows are painted
         playTimer_ = std::make_unique<IntervalTimer>(
             std::chrono::duration_cast<std::chrono::nanoseconds>(kTick),
             [this] { transport_.tick(); });
-        transport_.tick(); // the timer may have to wait until the windows are painted
     }
 }
 
