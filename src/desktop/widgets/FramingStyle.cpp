@@ -10,18 +10,18 @@ namespace {
 constexpr int kNearlyBlack = 24; ///< Of 255.
 constexpr double kRadius = 2.0;
 
-/// True if the control has no frame that can be seen. A control with the focus has a bright one.
+/// True if the control has no frame that can be seen.
 bool needsFrame(const QStyleOption& option)
 {
-    return qGray(option.palette.color(QPalette::Window).rgb()) < kNearlyBlack &&
-           (option.state & QStyle::State_HasFocus) == 0;
+    return qGray(option.palette.color(QPalette::Window).rgb()) < kNearlyBlack;
 }
 
 void drawFrame(QPainter& painter, const QStyleOption& option, const QRect& rect, double radius)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(option.palette.color(QPalette::WindowText));
+    const bool hasFocus = (option.state & QStyle::State_HasFocus) != 0;
+    painter.setPen(option.palette.color(hasFocus ? QPalette::Highlight : QPalette::WindowText));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
     painter.restore();
