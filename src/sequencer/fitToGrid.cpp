@@ -89,6 +89,12 @@ double periodOf(const std::vector<double>& envelope)
     return period;
 }
 
+/// Returns the beat, in frames, of a number of beats a minute.
+double periodAt(double tempo)
+{
+    return 60.0 / std::clamp(tempo, FoundBeats::kSlowest, FoundBeats::kFastest) / kOnsetFrame;
+}
+
 /// Returns the frames of the most even series of beats that falls on onsets.
 std::vector<std::size_t> trackBeats(const std::vector<double>& envelope, double period)
 {
@@ -172,12 +178,7 @@ std::optional<FoundBeats> findBeats(const std::vector<Note>& notes, const Musica
     if (length < kLongestBeat || length > kLongestTake)
         return std::nullopt;
     const std::vector<double> envelope = envelopeOf(onsets);
-    double period = 0.0;
-    if (tempo)
-        period =
-            60.0 / std::clamp(*tempo, FoundBeats::kSlowest, FoundBeats::kFastest) / kOnsetFrame;
-    else
-        period = periodOf(envelope);
+    const double period = tempo ? periodAt(*tempo) : periodOf(envelope);
     const double beat = period * kOnsetFrame;
     const std::vector<std::size_t> frames = trackBeats(envelope, period);
     const double first = static_cast<double>(frames.front()) * kOnsetFrame;

@@ -28,7 +28,8 @@ struct FoundBeats {
 };
 
 /// Finds the beats of notes that were played without a metronome. `tempo` is their number a minute
-/// if it is known. Returns nothing if there are fewer than eight notes or more than four hours.
+/// if it is known. Returns nothing if there are fewer than eight notes, or more than four hours
+/// of them.
 ///
 /// The tempo is the strongest period of the onsets near 120 beats a minute, and the beats are the
 /// most even series that falls on onsets (Daniel P. W. Ellis, "Beat Tracking by Dynamic

@@ -31,6 +31,17 @@ void rememberFolderOf(const QString& path, const std::string& key = kFolderKey)
         setPreference(key, QFileInfo(path).absolutePath());
 }
 
+/// Asks for several files in the folder that was last chosen under `key`, or else in `usual`.
+QStringList askIn(const std::string& key, const QString& usual, QWidget* parent,
+                  const QString& title, const QString& filters)
+{
+    QStringList paths = QFileDialog::getOpenFileNames(
+        parent, title, dialogFolder(key, usual), filters, nullptr,
+        QFileDialog::HideNameFilterDetails); // they are too long to be read
+    rememberFolderOf(paths.value(0), key);
+    return paths;
+}
+
 /// Returns the folder where packages install SoundFonts; empty if there is none.
 QString bankFolder()
 {
@@ -43,24 +54,16 @@ QString bankFolder()
 QStringList askForFiles(QWidget* parent)
 {
     const QString every = QStringList{kInstruments, kTunings, kSequences, kSessions}.join(' ');
-    QStringList paths = QFileDialog::getOpenFileNames(
-        parent, Opening::tr("Open"), dialogFolder(kFolderKey),
-        Opening::tr("All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences (%4);;"
-                    "Sessions (%5);;All files (*)")
-            .arg(every, kInstruments, kTunings, kSequences, kSessions),
-        nullptr, QFileDialog::HideNameFilterDetails); // they are too long to be read
-    rememberFolderOf(paths.value(0));
-    return paths;
+    return askIn(kFolderKey, {}, parent, Opening::tr("Open"),
+                 Opening::tr("All supported files (%1);;Instruments (%2);;Tunings (%3);;Sequences "
+                             "(%4);;Sessions (%5);;All files (*)")
+                     .arg(every, kInstruments, kTunings, kSequences, kSessions));
 }
 
 QStringList askForInstruments(QWidget* parent)
 {
-    QStringList paths = QFileDialog::getOpenFileNames(
-        parent, Opening::tr("Open Instrument"), dialogFolder(kInstrumentFolderKey, bankFolder()),
-        Opening::tr("Instruments (%1);;All files (*)").arg(kInstruments), nullptr,
-        QFileDialog::HideNameFilterDetails);
-    rememberFolderOf(paths.value(0), kInstrumentFolderKey);
-    return paths;
+    return askIn(kInstrumentFolderKey, bankFolder(), parent, Opening::tr("Open Instrument"),
+                 Opening::tr("Instruments (%1);;All files (*)").arg(kInstruments));
 }
 
 QStringList askForTunings(QWidget* parent, const std::function<void(const QString&)>& highlighted)
